@@ -1,0 +1,51 @@
+# The settings that every target of the project shares.
+
+function(batchcore_target_defaults target)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_URL_CAST_FROM_STRING
+        QT_STRICT_ITERATORS)
+
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- $<$<BOOL:${BATCHCORE_WARNINGS_AS_ERRORS}>:/WX>)
+        return()
+    endif()
+
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow=local -Wformat=2 -Wcast-align
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
+        -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
+        $<$<BOOL:${BATCHCORE_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(BATCHCORE_SANITIZERS)
+        list(JOIN BATCHCORE_SANITIZERS "," sanitizers)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=${sanitizers})
+    endif()
+endfunction()
+
+# An exported shared library of the product: versioned, installed and part of the CMake package.
+function(batchcore_shared_library target)
+    batchcore_target_defaults(${target})
+    add_library(Velkora::${target} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    install(TARGETS ${target} EXPORT batchcoreTargets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/batchcore)
+    if(UNIX AND NOT APPLE)
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    endif()
+endfunction()

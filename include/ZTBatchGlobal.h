@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#ifdef BATCHCORE_LIBRARY
+#define BATCHCORE_EXPORT Q_DECL_EXPORT
+#else
+#define BATCHCORE_EXPORT Q_DECL_IMPORT
+#endif

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#ifdef VELKORA_CORE_LIBRARY
+#define VELKORA_CORE_EXPORT Q_DECL_EXPORT
+#else
+#define VELKORA_CORE_EXPORT Q_DECL_IMPORT
+#endif

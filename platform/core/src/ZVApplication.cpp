@@ -1,0 +1,17 @@
+#include "ZVApplication.h"
+
+#include <atomic>
+
+namespace {
+std::atomic<int> texturePatternIndex{0};
+}
+
+int ZVApplication::GetTexturePatternIndex()
+{
+    return texturePatternIndex;
+}
+
+void ZVApplication::SetTexturePatternIndex(int index)
+{
+    texturePatternIndex = index;
+}

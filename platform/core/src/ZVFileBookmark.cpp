@@ -1,0 +1,23 @@
+#include "ZVFileBookmark.h"
+
+#include <QFileInfo>
+
+ZVFileBookmark::ZVFileBookmark(const QString& path)
+    : path(path)
+{
+}
+
+bool ZVFileBookmark::IsEmpty() const
+{
+    return path.isEmpty();
+}
+
+QString ZVFileBookmark::Path() const
+{
+    return path;
+}
+
+bool ZVFileBookmark::Exists() const
+{
+    return !path.isEmpty() && QFileInfo::exists(path);
+}

@@ -1,0 +1,14 @@
+#include "ZTStyleGroup.h"
+
+ZTStyleGroup::ZTStyleGroup(const QString& name, QObject* parent)
+    : QObject(parent)
+    , name(name)
+{
+}
+
+ZTStyleGroup::~ZTStyleGroup() = default;
+
+QString ZTStyleGroup::Name() const
+{
+    return name;
+}

@@ -1,0 +1,79 @@
+#include "DeathCase.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QMap>
+#include <QProcess>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
+namespace {
+
+/// The exit code by which the helper says that std::terminate was called; no runtime or sanitizer uses it.
+constexpr int terminatedExitCode = 83;
+constexpr int survivedExitCode = 84;
+constexpr int unknownCaseExitCode = 85;
+
+QMap<QString, DeathCase::Function>& Cases()
+{
+    static QMap<QString, DeathCase::Function> cases;
+    return cases;
+}
+
+void WriteLine(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    std::fflush(stderr);
+}
+
+[[noreturn]] void EndQuietly()
+{
+    std::_Exit(terminatedExitCode);
+}
+
+} // namespace
+
+DeathCase::DeathCase(const char* name, Function function)
+{
+    Cases().insert(QString::fromUtf8(name), function);
+}
+
+int RunDeathCases(int argc, char** argv)
+{
+#ifdef Q_OS_UNIX
+    const rlimit noCoreFile{0, 0};
+    setrlimit(RLIMIT_CORE, &noCoreFile);
+#endif
+    qInstallMessageHandler(WriteLine);
+    // The runtime's own handler would write a line of its own behind ours.
+    std::set_terminate(EndQuietly);
+
+    const QString name = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    const DeathCase::Function function = Cases().value(name);
+    if (!function) {
+        std::fprintf(stderr, "There is no case \"%s\".\n", qUtf8Printable(name));
+        return unknownCaseExitCode;
+    }
+    function();
+    return survivedExitCode;
+}
+
+DeathReport RunDeathCase(const QString& name)
+{
+    QProcess helper;
+    helper.setProcessChannelMode(QProcess::MergedChannels);
+    helper.start(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("deaths")), {name});
+    const bool finished = helper.waitForFinished(30000);
+
+    DeathReport report;
+    report.output = QString::fromLocal8Bit(helper.readAll());
+    report.lastLine = report.output.trimmed().section(QLatin1Char('\n'), -1).trimmed();
+    report.aborted = finished && helper.exitStatus() == QProcess::NormalExit && helper.exitCode() == terminatedExitCode;
+    return report;
+}
