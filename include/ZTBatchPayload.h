@@ -212,7 +212,7 @@ QByteArray Pack(const Payload& payload)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
-    std::apply([&stream](const auto&... fields) { (stream << ... << fields); }, Payload::Fields(payload));
+    std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Payload::Fields(payload));
     return bytes;
 }
 
@@ -223,7 +223,7 @@ Payload Unpack(const QByteArray& bytes, bool* isExact = nullptr)
 {
     Payload payload;
     QDataStream stream(bytes);
-    std::apply([&stream](auto&... fields) { (stream >> ... >> fields); }, Payload::Fields(payload));
+    std::apply([&stream](auto&... fields) { ((stream >> fields), ...); }, Payload::Fields(payload));
     if (isExact) {
         *isExact = stream.status() == QDataStream::Ok && stream.atEnd();
     }

@@ -185,8 +185,9 @@ void ZTPipeSession::Private::OnError(QLocalSocket::LocalSocketError error)
 
 void ZTPipeSession::Private::OnDisconnected()
 {
-    // Messages that had arrived before the peer went away are still the user's; a piece of one is nobody's.
-    if (socket->isReadable()) {
+    // Messages that had arrived before the peer went away are still the user's; a piece of one is nobody's. When it was
+    // this side that closed, the socket has nothing left to read.
+    if (socket->bytesAvailable() > 0) {
         DeliverMessages();
     }
     reader.Reset();
