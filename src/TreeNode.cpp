@@ -1,0 +1,137 @@
+#include "ZTBatchInputModel.h"
+
+#include "ZTDiagnostics_p.h"
+
+namespace {
+
+constexpr ZTDiagnostics diagnostics("include\\ZTBatchInputModel");
+
+/// How far from its remembered row a node is searched for before all its siblings are counted anew. A sibling moves by
+/// one with each insertion or removal before it, so that counting comes once per so many changes at most.
+constexpr int nearbyRows = 64;
+
+} // namespace
+
+template<typename T>
+TreeNode<T>::TreeNode() = default;
+
+template<typename T>
+TreeNode<T>::~TreeNode()
+{
+    // The list grows while it is worked off. A recursion would overflow on deep trees.
+    QList<TreeNode*> descendants;
+    descendants.swap(children);
+    for (int i = 0; i < descendants.size(); ++i) {
+        TreeNode* const node = descendants.at(i);
+        node->parent = nullptr;
+        if (!node->children.isEmpty()) {
+            descendants.append(node->children);
+            node->children.clear();
+        }
+        delete node;
+    }
+
+    if (parent != nullptr) {
+        const int row = parent->childRow(this);
+        if (row >= 0) {
+            parent->children.removeAt(row);
+        }
+    }
+}
+
+template<typename T>
+int TreeNode<T>::insertChild(TreeNode* child)
+{
+    if (child == nullptr) {
+        return -1;
+    }
+    if (child->parent != nullptr) {
+        const int row = child->parent->childRow(child);
+        if (row >= 0) {
+            child->parent->children.removeAt(row);
+        }
+    }
+    const int row = sortedRow(*child);
+    insertChildAt(row, child);
+    return row;
+}
+
+template<typename T>
+int TreeNode<T>::childRow(const TreeNode* child) const
+{
+    const int hint = child->rowHint;
+    const int count = children.size();
+    for (int distance = 0; distance <= nearbyRows; ++distance) {
+        for (const int row : {hint - distance, hint + distance}) {
+            if (row >= 0 && row < count && children.at(row) == child) {
+                children.at(row)->rowHint = row;
+                return row;
+            }
+        }
+    }
+
+    const int found = children.indexOf(const_cast<TreeNode*>(child));
+    if (found >= 0) {
+        for (int row = 0; row < count; ++row) {
+            if (children.at(row) != nullptr) {
+                children.at(row)->rowHint = row;
+            }
+        }
+    }
+    return found;
+}
+
+/// The row at which `child` is to be inserted.
+template<typename T>
+int TreeNode<T>::sortedRow(const TreeNode& child) const
+{
+    // Rows that insertRows() made, and records that a host changed in place, may break the order. Then the result
+    // depends on each step taken here, and it decides the order in saved jobs: the steps stay as they are.
+    const int count = children.size();
+    if (count == 0) {
+        return 0;
+    }
+    if (count == 1) {
+        return children.first()->data <= child.data ? 1 : 0;
+    }
+
+    int low = 0;
+    int high = count - 1;
+    while (low != high) {
+        const int middle = (low + high) / 2;
+        const TreeNode* const sibling = children.at(middle);
+        diagnostics.Assert(sibling != nullptr, 193);
+        if (sibling->data < child.data) {
+            low = middle + 1;
+        } else if (sibling->data == child.data) {
+            return rowBehindEqual(middle, child);
+        } else {
+            high = middle;
+        }
+    }
+    diagnostics.Assert(children.at(low) != nullptr, 193);
+    return children.at(low)->data <= child.data ? low + 1 : low;
+}
+
+template<typename T>
+int TreeNode<T>::rowBehindEqual(int row, const TreeNode& child) const
+{
+    while (row < children.size()) {
+        diagnostics.Assert(children.at(row) != nullptr, 188);
+        if (!(children.at(row)->data == child.data)) {
+            break;
+        }
+        ++row;
+    }
+    return row;
+}
+
+template<typename T>
+void TreeNode<T>::insertChildAt(int row, TreeNode* child)
+{
+    child->parent = this;
+    child->rowHint = row;
+    children.insert(row, child);
+}
+
+template class TreeNode<BatchNodeData>;
