@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ZTBatchManager.h"
+
+class QModelIndex;
+class ZTBatchInputModel;
+
+/// Refreshes entries of the host's input model. A module derives from it and registers an object with
+/// ZTBatchManager::RegisterInputUpdateHandler(); the view asks for it there.
+class BATCHCORE_EXPORT ZTBatchManager::ZTInputUpdateHandler : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ZTInputUpdateHandler(QObject* parent = nullptr);
+    ~ZTInputUpdateHandler() override;
+
+public Q_SLOTS:
+    /// Refreshes the entry `id` of `pModel`; `ignoreModificationTime` asks for it even when the file looks unchanged.
+    void Update(ZTBatchInputModel* pModel, const QModelIndex& id, bool ignoreModificationTime);
+
+protected:
+    virtual void DoUpdate(ZTBatchInputModel* pModel, const QModelIndex& id, bool ignoreModificationTime) = 0;
+
+private:
+    Q_DISABLE_COPY(ZTInputUpdateHandler)
+};

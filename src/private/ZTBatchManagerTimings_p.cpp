@@ -1,0 +1,7 @@
+#include "ZTBatchManagerTimings_p.h"
+
+ZTBatchManagerTimings& ZTBatchManagerTimings::InUse()
+{
+    static ZTBatchManagerTimings timings;
+    return timings;
+}

@@ -1,0 +1,511 @@
+#include "ZTBatchManager_p.h"
+
+#include "ZTBatchManagerTimings_p.h"
+#include "ZTBatchPayload.h"
+#include "ZTDiagnostics_p.h"
+#include "ZTPipeSession.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDir>
+#include <QPointer>
+#include <QSettings>
+
+namespace {
+
+constexpr ZTDiagnostics diagnostics("src\\private\\ZTBatchManager_p");
+
+const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
+const QString serverBaseName = QStringLiteral("VelkoraBatchProcessing");
+const QString policyFileName = QStringLiteral("BatchExceptionPolicy.ini");
+
+const QString inputPolicyKey = QStringLiteral("InputPolicy");
+const QString outputPolicyKey = QStringLiteral("OutputPolicy");
+const QString processingPolicyKey = QStringLiteral("ProcessingPolicy");
+const QString namingPolicyKey = QStringLiteral("NamingPolicy");
+const QString writeToFormatPolicyKey = QStringLiteral("WriteToFormatPolicy");
+
+/// Whether `process` has ended. True already while QProcess reports a crash, when its state still says "running":
+/// waiting for such a process would never return.
+bool HasEnded(const QProcess& process)
+{
+    return process.state() == QProcess::NotRunning || process.exitStatus() == QProcess::CrashExit;
+}
+
+/// Waits until `process` has ended and returns whether it has. Slots of the host may run, and delete it.
+bool WaitForEnd(QProcess& process, int msecs)
+{
+    const QPointer<QProcess> guard(&process);
+    if (HasEnded(process)) {
+        return true;
+    }
+    process.waitForFinished(msecs);
+    return !guard || HasEnded(process);
+}
+
+/// Connects to the server that listens, if there is one, and asks it to end. The message reaches it for sure only as
+/// long as the returned session lives; its destruction waits until the message is written.
+std::unique_ptr<ZTPipeSession> AskListenerToClose()
+{
+    auto session = std::make_unique<ZTPipeSession>(pipeName, nullptr);
+    if (session->WaitForConnected(ZTBatchManagerTimings::InUse().listenerConnectTimeout)) {
+        session->Send(ZTBatchMessage::Name(ZTBatchMessage::MsgCloseServer),
+                      ZTBatchPayload::Pack(ZTBatchPayload::ToServer<ZTBatchMessage::MsgCloseServer>{}));
+    }
+    return session;
+}
+
+} // namespace
+
+void ZTBatchManager::Private::CloseListener()
+{
+    // Not left to the event loop: a host that ends without one would take the message along.
+    AskListenerToClose();
+}
+
+ZTBatchManager::Private::Private(ZTBatchManager* manager)
+    : manager(manager)
+{
+}
+
+ZTBatchManager::Private::~Private() = default;
+
+void ZTBatchManager::Private::Initialize(const QString& newSettingsDir)
+{
+    diagnostics.Assert(manager);
+    settingsDir = newSettingsDir;
+}
+
+void ZTBatchManager::Private::CleanUp()
+{
+    diagnostics.Assert(manager);
+    SavePolicies();
+    if (serverProcess) {
+        DisconnectServerProcess();
+        if (HasEnded(*serverProcess)) {
+            // Its end is being reported this moment, and a slot of the host releases the manager.
+            ReleaseServerProcess();
+        }
+    }
+    if (pipe && pipe->IsConnected()) {
+        diagnostics.Log(QStringLiteral("Send close server message."));
+        Send(ZTBatchMessage::MsgCloseServer, ZTBatchPayload::ToServer<ZTBatchMessage::MsgCloseServer>{});
+    } else if (pipe && !pipe->WaitForConnected(ZTBatchManagerTimings::InUse().shutdownConnectTimeout)) {
+        diagnostics.Log(QStringLiteral("Client session is not connected."));
+        if (serverProcess) {
+            serverProcess->close();
+        }
+    }
+    // A pipe that connects only within that second gets no close message: the server is waited for below, then killed
+    // with the process object. Hosts and servers have always lived with that order of events.
+    if (serverProcess && !WaitForEnd(*serverProcess, ZTBatchManagerTimings::InUse().serverEndTimeout)) {
+        diagnostics.Log(QStringLiteral("Finish server process error."));
+    }
+}
+
+void ZTBatchManager::Private::Start()
+{
+    diagnostics.Assert(manager);
+    const QPointer<ZTBatchManager> guard(manager);
+    StartServerProcess();
+    // A process that fails inside the call has been reported and torn down; a pipe without a server would be watched
+    // in vain.
+    if (guard && serverProcess) {
+        ConnectPipe();
+    }
+}
+
+void ZTBatchManager::Private::StartServerProcess()
+{
+    diagnostics.Assert(manager);
+    if (serverProcess) {
+        diagnostics.Log(QStringLiteral("Batch process already started."));
+        return;
+    }
+    serverProcess = new QProcess(manager);
+    connect(serverProcess, SIGNAL(error(QProcess::ProcessError)), manager, SLOT(OnServerError(QProcess::ProcessError)));
+    connect(serverProcess, SIGNAL(finished(int)), manager, SLOT(OnServerFinished(int)));
+    serverProcess->start(QCoreApplication::applicationDirPath() + QDir::separator() + serverBaseName, {pipeName},
+                         QIODevice::ReadWrite);
+}
+
+void ZTBatchManager::Private::ConnectPipe()
+{
+    diagnostics.Assert(manager);
+    if (pipe) {
+        diagnostics.Log(QStringLiteral("Batch server already connected."));
+        return;
+    }
+    pipe = new ZTPipeSession(pipeName, manager);
+    connect(pipe, SIGNAL(IncomingMessage(QString, QByteArray)), manager, SLOT(OnIncomingMessage(QString, QByteArray)));
+    connect(pipe, SIGNAL(SessionConnected()), manager, SIGNAL(ConnectionEstablished()));
+    connect(pipe, SIGNAL(SessionDown()), manager, SLOT(OnPipeDown()));
+    RestartTimer(startupTimerId, ZTBatchManagerTimings::InUse().startupTimeout);
+    if (!pipe->IsConnected()) {
+        RestartTimer(reconnectTimerId, ZTBatchManagerTimings::InUse().reconnectInterval);
+    }
+}
+
+void ZTBatchManager::Private::Stop()
+{
+    diagnostics.Assert(manager);
+    EndServerProcess();
+}
+
+void ZTBatchManager::Private::EndServerProcess()
+{
+    diagnostics.Assert(manager);
+    if (serverProcess && serverProcess->processId() != 0 && !HasEnded(*serverProcess)) {
+        serverProcess->close();
+    } else {
+        diagnostics.Log(QStringLiteral("Batch process does not exist."));
+    }
+}
+
+void ZTBatchManager::Private::CloseServerProcess()
+{
+    diagnostics.Assert(manager);
+    diagnostics.Assert(serverProcess);
+    const QPointer<QProcess> process(serverProcess);
+    // Stays until the wait is over: its own thread writes the message meanwhile, and a server that answers on the
+    // connection does not find it closed.
+    const std::unique_ptr<ZTPipeSession> session = AskListenerToClose();
+    if (!WaitForEnd(*process, ZTBatchManagerTimings::InUse().serverEndTimeout) && process) {
+        process->kill();
+    }
+}
+
+void ZTBatchManager::Private::HandleTimer(int timerId)
+{
+    diagnostics.Assert(manager);
+    diagnostics.Assert(serverProcess);
+    if (timerId == reconnectTimerId) {
+        if (pipe->IsConnected()) {
+            StopTimer(reconnectTimerId);
+        } else {
+            pipe->Reconnect(pipeName);
+        }
+    } else if (timerId == startupTimerId) {
+        if (pipe->IsConnected()) {
+            StopTimer(startupTimerId);
+        } else {
+            EndServerProcess();
+        }
+    }
+}
+
+void ZTBatchManager::Private::HandlePipeDown()
+{
+    diagnostics.Assert(manager);
+    RestartTimer(reconnectTimerId, ZTBatchManagerTimings::InUse().reconnectInterval);
+}
+
+void ZTBatchManager::Private::HandleMessage(const QString& name, const QByteArray& data)
+{
+    diagnostics.Assert(manager);
+    const ZTBatchMessage::Message message = ZTBatchMessage::FromName(name);
+    if (message < ZTBatchMessage::MsgFinished || message > ZTBatchMessage::MsgWriteToFormatQuestion) {
+        return;
+    }
+    ZTBatchSession* session = sessions.Find(ZTBatchPayload::Unpack<ZTBatchPayload::Session>(data).sessionId);
+    if (!session) {
+        return;
+    }
+    switch (message) {
+    case ZTBatchMessage::MsgFinished:
+        session->SessionFinished();
+        break;
+    case ZTBatchMessage::MsgProgress: {
+        const auto progress = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgProgress>>(data);
+        session->SessionProgress(progress.value);
+        break;
+    }
+    case ZTBatchMessage::MsgFileInProgress: {
+        const auto file = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgFileInProgress>>(data);
+        session->SessionFileInProgress(file.inputFileName);
+        break;
+    }
+    case ZTBatchMessage::MsgFileProcessed: {
+        const auto files = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgFileProcessed>>(data);
+        session->SessionProgress(files.inputFileName, files.outputFileName);
+        break;
+    }
+    case ZTBatchMessage::MsgLog: {
+        const auto log = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgLog>>(data);
+        session->SessionLog(log.text);
+        break;
+    }
+    case ZTBatchMessage::MsgProgressRange: {
+        const auto range = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgProgressRange>>(data);
+        session->SessionProgressRange(range.minimum, range.maximum);
+        break;
+    }
+    case ZTBatchMessage::MsgPaused:
+        session->SessionPaused();
+        break;
+    case ZTBatchMessage::MsgResumed:
+        session->SessionResumed();
+        break;
+    case ZTBatchMessage::MsgCancelled:
+        session->SessionCancelled();
+        break;
+    case ZTBatchMessage::MsgError: {
+        const auto error = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgError>>(data);
+        session->SessionError(error.inputFileName, error.outputFileName, error.action, error.errorCode);
+        break;
+    }
+    case ZTBatchMessage::MsgInputQuestion:
+        session->SessionInputQuestion();
+        break;
+    case ZTBatchMessage::MsgOutputQuestion:
+        session->SessionOutputQuestion();
+        break;
+    case ZTBatchMessage::MsgProcessingQuestion:
+        session->SessionProcessingQuestion();
+        break;
+    case ZTBatchMessage::MsgNamingQuestion:
+        session->SessionNamingQuestion();
+        break;
+    case ZTBatchMessage::MsgWriteToFormatQuestion:
+        session->SessionWriteToFormatQuestion();
+        break;
+    default:
+        break;
+    }
+}
+
+ZTBatchManager::ZTBatchSession* ZTBatchManager::Private::CreateSession()
+{
+    diagnostics.Assert(manager);
+    if (!pipe || !pipe->IsConnected()) {
+        return nullptr;
+    }
+    const QString id = idContainer.CreateAndRegisterID();
+    SendSessionMessage(ZTBatchMessage::MsgCreateSession, id);
+    auto* session = new ZTBatchSession(id, manager);
+    sessions.Insert(id, session);
+    connect(session, SIGNAL(destroyed(QObject*)), manager, SLOT(OnBatchSessionDestroyed(QObject*)));
+    return session;
+}
+
+void ZTBatchManager::Private::HandleSessionDestroyed(const QObject* session)
+{
+    diagnostics.Assert(manager);
+    const QString id = sessions.IdOf(session);
+    if (id.isEmpty()) {
+        return;
+    }
+    if (!pipe) {
+        // The place stays taken for the manager's life, so that a host that lets the server go before its session
+        // finds out: it may not create another one.
+        sessions.KeepPlaceOnly(id);
+        return;
+    }
+    SendSessionMessage(ZTBatchMessage::MsgCloseSession, id);
+    sessions.Remove(id);
+    idContainer.UnregisterID(id);
+}
+
+void ZTBatchManager::Private::HandleServerError(QProcess::ProcessError error)
+{
+    diagnostics.Assert(manager);
+    if (error != QProcess::FailedToStart && error != QProcess::Crashed) {
+        diagnostics.Log(QStringLiteral("Batch server error: %1").arg(error));
+        return;
+    }
+    const QPointer<ZTBatchManager> guard(manager);
+    TellSessions(&ZTBatchSession::SessionAborted);
+    if (guard) {
+        TearDown();
+    }
+}
+
+void ZTBatchManager::Private::HandleServerFinished()
+{
+    diagnostics.Assert(manager);
+    // Any end of the server by itself counts as abnormal, whatever its exit code; the sessions are told of it as the
+    // end of their run, not as an abortion.
+    const QPointer<ZTBatchManager> guard(manager);
+    TellSessions(&ZTBatchSession::SessionFinished);
+    if (guard) {
+        TearDown();
+    }
+}
+
+void ZTBatchManager::Private::TellSessions(void (ZTBatchSession::*end)())
+{
+    diagnostics.Assert(manager);
+    const QString text = ZTBatchManager::tr("Abnormal process termination.");
+    const QVector<QPointer<ZTBatchSession>> all = sessions.All();
+    // A session that its host deletes meanwhile is null here, and so are all of them when the manager goes.
+    for (const QPointer<ZTBatchSession>& session : all) {
+        if (session) {
+            session->SessionLog(text);
+        }
+        if (session) {
+            (session->*end)();
+        }
+    }
+}
+
+void ZTBatchManager::Private::TearDown()
+{
+    diagnostics.Assert(manager);
+    if (pipe) {
+        StopTimer(reconnectTimerId);
+        StopTimer(startupTimerId);
+        disconnect(pipe, SIGNAL(IncomingMessage(QString, QByteArray)), manager,
+                   SLOT(OnIncomingMessage(QString, QByteArray)));
+        disconnect(pipe, SIGNAL(SessionConnected()), manager, SIGNAL(ConnectionEstablished()));
+        disconnect(pipe, SIGNAL(SessionDown()), manager, SLOT(OnPipeDown()));
+        pipe->deleteLater();
+        pipe = nullptr;
+    }
+    if (serverProcess) {
+        DisconnectServerProcess();
+        ReleaseServerProcess();
+    }
+    Q_EMIT manager->ConnectionFailed();
+}
+
+void ZTBatchManager::Private::DisconnectServerProcess()
+{
+    diagnostics.Assert(manager);
+    disconnect(serverProcess, SIGNAL(error(QProcess::ProcessError)), manager,
+               SLOT(OnServerError(QProcess::ProcessError)));
+    disconnect(serverProcess, SIGNAL(finished(int)), manager, SLOT(OnServerFinished(int)));
+}
+
+void ZTBatchManager::Private::ReleaseServerProcess()
+{
+    diagnostics.Assert(manager);
+    // It may be the one that is emitting right now, so it must outlive a manager that is released from there.
+    serverProcess->setParent(nullptr);
+    serverProcess->deleteLater();
+    serverProcess = nullptr;
+}
+
+void ZTBatchManager::Private::RestartTimer(int& timerId, int interval)
+{
+    StopTimer(timerId);
+    timerId = manager->startTimer(interval, Qt::CoarseTimer);
+}
+
+void ZTBatchManager::Private::StopTimer(int& timerId)
+{
+    diagnostics.Assert(manager);
+    if (timerId != -1) {
+        manager->killTimer(timerId);
+        timerId = -1;
+    }
+}
+
+template<typename Payload>
+void ZTBatchManager::Private::Send(ZTBatchMessage::Message message, const Payload& payload)
+{
+    diagnostics.Assert(manager);
+    // Without a pipe a message is lost as on a closed one.
+    if (pipe) {
+        pipe->Send(ZTBatchMessage::Name(message), ZTBatchPayload::Pack(payload));
+    }
+}
+
+void ZTBatchManager::Private::SendProcess(const QString& id, const QString& document)
+{
+    Send(ZTBatchMessage::MsgProcess,
+         ZTBatchPayload::ToServer<ZTBatchMessage::MsgProcess>{id, document, inputPolicy, outputPolicy, processingPolicy,
+                                                              namingPolicy, writeToFormatPolicy});
+}
+
+void ZTBatchManager::Private::SendSessionMessage(ZTBatchMessage::Message message, const QString& id)
+{
+    Send(message, ZTBatchPayload::Session{id});
+}
+
+void ZTBatchManager::Private::SendAnswer(ZTBatchMessage::Message question, const QString& id, int policy, bool flag)
+{
+    Send(question, ZTBatchPayload::Answer{id, policy, flag});
+}
+
+void ZTBatchManager::Private::LoadPolicies()
+{
+    diagnostics.Assert(manager);
+    // The fields hold the defaults so far. What is no number becomes 0.
+    const QSettings file(PolicyFilePath(), QSettings::IniFormat);
+    manager->SetInputPolicy(static_cast<InputPolicy>(file.value(inputPolicyKey, inputPolicy).toInt()));
+    manager->SetOutputPolicy(static_cast<OutputPolicy>(file.value(outputPolicyKey, outputPolicy).toInt()));
+    manager->SetProcessingPolicy(
+        static_cast<ProcessingPolicy>(file.value(processingPolicyKey, processingPolicy).toInt()));
+    manager->SetNamingPolicy(static_cast<NamingPolicy>(file.value(namingPolicyKey, namingPolicy).toInt()));
+    manager->SetWriteToFormatPolicy(
+        static_cast<WriteToFormatPolicy>(file.value(writeToFormatPolicyKey, writeToFormatPolicy).toInt()));
+}
+
+void ZTBatchManager::Private::SavePolicies() const
+{
+    diagnostics.Assert(manager);
+    QSettings file(PolicyFilePath(), QSettings::IniFormat);
+    file.setValue(inputPolicyKey, inputPolicy);
+    file.setValue(outputPolicyKey, outputPolicy);
+    file.setValue(processingPolicyKey, processingPolicy);
+    file.setValue(namingPolicyKey, namingPolicy);
+    file.setValue(writeToFormatPolicyKey, writeToFormatPolicy);
+}
+
+QString ZTBatchManager::Private::PolicyFilePath() const
+{
+    diagnostics.Assert(manager);
+    return settingsDir + QDir::separator() + policyFileName;
+}
+
+void ZTBatchManager::Private::RegisterAction(QAction* action, int order)
+{
+    if (inputActions.Contains(action)) {
+        return;
+    }
+    inputActions.Insert(order, action);
+    connect(action, SIGNAL(destroyed(QObject*)), manager, SLOT(OnInputActionDestroyed(QObject*)));
+    diagnostics.Assert(manager);
+    Q_EMIT manager->InputActionRegistered(action, order);
+}
+
+void ZTBatchManager::Private::UnregisterAction(QAction* action)
+{
+    diagnostics.Assert(manager);
+    if (!inputActions.Contains(action)) {
+        return;
+    }
+    disconnect(action, SIGNAL(destroyed(QObject*)), manager, SLOT(OnInputActionDestroyed(QObject*)));
+    inputActions.Remove(action);
+    Q_EMIT manager->InputActionUnregistered(action);
+}
+
+void ZTBatchManager::Private::HandleActionDestroyed(const QObject* action)
+{
+    diagnostics.Assert(manager);
+    diagnostics.Assert(inputActions.Remove(action));
+}
+
+QList<QAction*> ZTBatchManager::Private::Actions() const
+{
+    diagnostics.Assert(manager);
+    QList<QAction*> actions;
+    for (QObject* object : inputActions.Actions()) {
+        auto* action = qobject_cast<QAction*>(object);
+        diagnostics.Assert(action);
+        actions.append(action);
+    }
+    return actions;
+}
+
+void ZTBatchManager::Private::ReplaceHandler(QObject*& handler, QObject* newHandler, const char* destroyedSlot)
+{
+    diagnostics.Assert(manager);
+    if (handler) {
+        disconnect(handler, SIGNAL(destroyed(QObject*)), manager, destroyedSlot);
+    }
+    handler = newHandler;
+    if (handler) {
+        connect(handler, SIGNAL(destroyed(QObject*)), manager, destroyedSlot);
+    }
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ZTBatchSession.h"
+
+#include <QString>
+
+/// A session is its id; everything else is the manager's and the server's.
+class ZTBatchManager::ZTBatchSession::Private
+{
+public:
+    explicit Private(ZTBatchSession* session);
+
+    void SetId(const QString& newId);
+
+    ZTBatchSession* session;
+    QString id;
+};
