@@ -118,6 +118,9 @@ public:
 
     /// Adds `count` nodes with default records at `row`, which is moved into the range of rows. They are placed where
     /// the caller says, not where the order would have them, and they count as no files. Always true.
+    ///
+    /// A count of 0 or less adds nothing but is announced by both signals all the same; below 0 that makes persistent
+    /// indexes of the rows behind point to wrong ones.
     bool insertRows(int row, int count, const QModelIndex& parent = QModelIndex()) override;
 
     /// Does nothing, returns false: there is one column.

@@ -1,0 +1,115 @@
+#include "ZVBatchInputTableModel.h"
+
+#include "ZVBatchInputTableModel_p.h"
+
+#include <QPointer>
+
+ZVBatchInputTableModel::ZVBatchInputTableModel(ZTBatchInputModel* source, QObject* parent)
+    : QAbstractTableModel(parent)
+    , d(std::make_unique<Private>(source))
+{
+    // Made by pointer: rebuild() is no slot.
+    connect(source, &QAbstractItemModel::modelReset, this, &ZVBatchInputTableModel::rebuild);
+    connect(source, &ZTBatchInputModel::ModelUpdated, this, &ZVBatchInputTableModel::rebuild);
+}
+
+ZVBatchInputTableModel::~ZVBatchInputTableModel() = default;
+
+int ZVBatchInputTableModel::rowCount(const QModelIndex&) const
+{
+    return d->rows.size();
+}
+
+int ZVBatchInputTableModel::columnCount(const QModelIndex&) const
+{
+    return 3;
+}
+
+QVariant ZVBatchInputTableModel::data(const QModelIndex& index, int role) const
+{
+    // Only the first cell of a folder row answers, although all of them lead to the folder.
+    if (isFolderRow(index.row()) && index.column() != 0) {
+        return QVariant();
+    }
+    const QModelIndex sourceIndex = mapToSource(index);
+    return sourceIndex.isValid() ? d->source->data(sourceIndex, role) : QVariant();
+}
+
+ZTBatchInputModel* ZVBatchInputTableModel::sourceModel() const
+{
+    return d->source;
+}
+
+bool ZVBatchInputTableModel::isFolderRow(int row) const
+{
+    const Private::TableRow* const tableRow = d->RowAt(row);
+    return tableRow != nullptr && tableRow->kind == Private::FolderRow;
+}
+
+bool ZVBatchInputTableModel::HasFolder() const
+{
+    // If there are folders, the first of them is in the first row.
+    return isFolderRow(0);
+}
+
+bool ZVBatchInputTableModel::isFolderExpanded(const QModelIndex& folder) const
+{
+    return d->expandedFolders.contains(folder);
+}
+
+QModelIndex ZVBatchInputTableModel::mapToSource(const QModelIndex& index) const
+{
+    const Private::TableRow* const tableRow = index.isValid() ? d->RowAt(index.row()) : nullptr;
+    if (tableRow == nullptr) {
+        return QModelIndex();
+    }
+    if (tableRow->kind == Private::FolderRow) {
+        // Wherever the user clicks in the row, the folder is meant.
+        return tableRow->folderIndex;
+    }
+    return tableRow->fileIndexes.value(index.column());
+}
+
+QModelIndex ZVBatchInputTableModel::mapFromSource(const QModelIndex& sourceIndex) const
+{
+    Private::Cell cell;
+    if (!sourceIndex.isValid()) {
+        cell = d->FindCellOfInvalid(sourceIndex);
+    } else if (sourceIndex.model() == d->source) {
+        cell = d->FindCell(sourceIndex);
+    }
+    return index(cell.row, cell.column);
+}
+
+void ZVBatchInputTableModel::rebuild()
+{
+    const QPointer<ZVBatchInputTableModel> self(this);
+    beginResetModel();
+    d->BuildRows();
+    endResetModel();
+    if (self == nullptr || !d->selectionUpdatePending) {
+        return;
+    }
+    Q_EMIT UpdateSelectionModel();
+    if (self != nullptr) {
+        d->selectionUpdatePending = false;
+    }
+}
+
+void ZVBatchInputTableModel::toggleFolder(const QModelIndex& folder)
+{
+    if (!folder.isValid()) {
+        return;
+    }
+    const QPersistentModelIndex persistentFolder(folder);
+    if (!d->expandedFolders.remove(persistentFolder)) {
+        d->expandedFolders.insert(persistentFolder);
+    }
+    d->selectionUpdatePending = true;
+    rebuild();
+}
+
+void ZVBatchInputTableModel::UpdateSelection(bool pending)
+{
+    d->selectionUpdatePending = pending;
+}
