@@ -2,10 +2,11 @@
 
 #include "ZTDiagnostics_p.h"
 
-#include <QCoreApplication>
-#include <QDataStream>
 #include <QDeadlineTimer>
+#include <QTimer>
 #include <QTimerEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,6 +14,14 @@ constexpr ZTDiagnostics diagnostics("src\\private\\ZTPipeSession_p");
 
 constexpr int readInterval = 10;        // ms
 constexpr int lastWritesTimeout = 1000; // ms
+
+/// Messages with a payload up to `smallPayload` are put together into requests of about `writeSize`, and larger
+/// payloads are written in pieces of that size. Bytes.
+constexpr int smallPayload = 16 * 1024;
+constexpr int writeSize = 64 * 1024;
+
+/// How many events of one poll are handed to the owner at a time.
+constexpr std::size_t largestLot = 128;
 
 QString SocketErrorText(int error)
 {
@@ -25,7 +34,7 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, const QString& serverName)
     : owner(owner)
 {
     ConnectToOwner();
-    connect(this, SIGNAL(MessageSent()), owner, SIGNAL(MessageSent()), Qt::QueuedConnection);
+    connect(this, &Private::MessageSent, this, [this] { Tell({Event::Sent, {}, {}}); });
 
     socket = new QLocalSocket(this);
     connect(socket, SIGNAL(disconnected()), this, SLOT(OnDisconnected()));
@@ -73,14 +82,153 @@ ZTPipeSession::Private::~Private()
 void ZTPipeSession::Private::ConnectToOwner()
 {
     diagnostics.Assert(owner);
-    connect(this, SIGNAL(SessionDown()), owner, SIGNAL(SessionDown()), Qt::QueuedConnection);
-    connect(this, SIGNAL(SessionConnected()), owner, SIGNAL(SessionConnected()), Qt::QueuedConnection);
-    connect(this, SIGNAL(IncomingMessage(QString, QByteArray)), owner, SIGNAL(IncomingMessage(QString, QByteArray)),
-            Qt::QueuedConnection);
-    connect(owner, SIGNAL(WriteMessage(QString, QByteArray)), this, SLOT(Write(QString, QByteArray)),
-            Qt::QueuedConnection);
-    connect(owner, SIGNAL(ReconnectToServer(QString)), this, SLOT(Reconnect(QString)), Qt::QueuedConnection);
-    connect(owner, SIGNAL(RunUpdateReadTimer()), this, SLOT(OnRunTimer()), Qt::QueuedConnection);
+    // Both ways a queued connection would post one event for each message. The hand-over keeps their order and posts
+    // one event for as many as wait.
+    connect(this, &Private::SessionDown, this, [this] { Tell({Event::Down, {}, {}}); });
+    connect(this, &Private::SessionConnected, this, [this] { Tell({Event::Connected, {}, {}}); });
+    connect(this, &Private::IncomingMessage, this, [this](const QString& message, const QByteArray& data) {
+        Tell({Event::Incoming, message, data});
+    });
+    connect(
+        owner, &ZTPipeSession::WriteMessage, this,
+        [this](const QString& name, const QByteArray& data) { AskForWrite(name, data); }, Qt::DirectConnection);
+    connect(
+        owner, &ZTPipeSession::ReconnectToServer, this,
+        [this](const QString& serverName) {
+            Ask({Request::ReconnectToServer, 0, {}, {}, serverName});
+        },
+        Qt::DirectConnection);
+    connect(
+        owner, &ZTPipeSession::RunUpdateReadTimer, this,
+        [this] {
+            Ask({Request::RunTimer, 0, {}, {}, {}});
+        },
+        Qt::DirectConnection);
+}
+
+void ZTPipeSession::Private::AskForWrite(const QString& name, const QByteArray& data)
+{
+    // The frames are made on the thread that sends: so a small payload is let go where it was made, and the session's
+    // thread writes many messages at a time.
+    if (data.size() > smallPayload) {
+        Request request{Request::WriteMessages, 1, {}, data, {}};
+        AppendFrameFront(request.frames, name, data);
+        Ask(std::move(request));
+        return;
+    }
+    const bool hasToWake = requests.Put([&](std::vector<Request>& waiting) {
+        const bool hasRoom = !waiting.empty() && waiting.back().kind == Request::WriteMessages &&
+                             waiting.back().payload.isNull() && waiting.back().frames.size() < writeSize;
+        if (!hasRoom) {
+            waiting.push_back({Request::WriteMessages, 0, {}, {}, {}});
+            waiting.back().frames.reserve(writeSize + smallPayload);
+        }
+        Request& request = waiting.back();
+        AppendFrameFront(request.frames, name, data);
+        request.frames.append(data);
+        ++request.messageCount;
+    });
+    if (hasToWake) {
+        WakeWorker();
+    }
+}
+
+void ZTPipeSession::Private::Ask(Request request)
+{
+    if (requests.Put([&](std::vector<Request>& waiting) { waiting.push_back(std::move(request)); })) {
+        WakeWorker();
+    }
+}
+
+void ZTPipeSession::Private::WakeWorker()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { DoRequests(); }, Qt::QueuedConnection);
+}
+
+void ZTPipeSession::Private::DoRequests()
+{
+    if (!requests.TakeAll(doing)) {
+        return;
+    }
+    isGathering = true;
+    for (const Request& request : doing) {
+        switch (request.kind) {
+        case Request::WriteMessages:
+            WriteFrames(request);
+            break;
+        case Request::ReconnectToServer:
+            Reconnect(request.serverName);
+            break;
+        case Request::RunTimer:
+            OnRunTimer();
+            break;
+        }
+    }
+    doing.clear();
+    isGathering = false;
+    HandOverEvents();
+    // The event loop gets its turn between two lots, for the socket's sake.
+    WakeWorker();
+}
+
+void ZTPipeSession::Private::Tell(Event event)
+{
+    telling.push_back(std::move(event));
+    if (telling.size() >= largestLot || !isGathering) {
+        HandOverEvents();
+    }
+}
+
+void ZTPipeSession::Private::HandOverEvents()
+{
+    if (!telling.empty() && events.Put(telling)) {
+        WakeOwner();
+    }
+}
+
+void ZTPipeSession::Private::WakeOwner()
+{
+    QMetaObject::invokeMethod(
+        owner,
+        [self = QPointer<Private>(this)] {
+            if (self) {
+                self->EmitEvents();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void ZTPipeSession::Private::EmitEvents()
+{
+    if (!events.TakeAll(emitting) && emitting.empty()) {
+        return;
+    }
+    // For the events that come meanwhile, and for a slot with an event loop of its own, which gets the rest there.
+    WakeOwner();
+    // A slot may delete the session and with it this object.
+    const QPointer<Private> self(this);
+    while (self && emitted < emitting.size()) {
+        const Event event = std::move(emitting[emitted++]);
+        switch (event.kind) {
+        case Event::Down:
+            Q_EMIT owner->SessionDown();
+            break;
+        case Event::Connected:
+            Q_EMIT owner->SessionConnected();
+            break;
+        case Event::Incoming:
+            Q_EMIT owner->IncomingMessage(event.name, event.data);
+            break;
+        case Event::Sent:
+            Q_EMIT owner->MessageSent();
+            break;
+        }
+    }
+    if (self) {
+        emitting.clear();
+        emitted = 0;
+    }
 }
 
 bool ZTPipeSession::Private::IsConnected() const
@@ -129,7 +277,7 @@ void ZTPipeSession::Private::WriteRemainder()
 {
     // What was sent before the end still goes out: a session that is deleted right after its last message is the rule,
     // not the exception. The deadline is for a peer that has stopped reading.
-    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    DoRequests();
     const QDeadlineTimer deadline(lastWritesTimeout);
     while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
            socket->waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
@@ -146,17 +294,21 @@ void ZTPipeSession::Private::OnReadyRead()
         return;
     }
     DeliverMessages();
+    // While data flows the next poll follows as soon as the event loop has fetched more: what would pile up until the
+    // next tick is slower to read than to fetch.
+    QTimer::singleShot(0, this, SLOT(OnReadyRead()));
 }
 
 void ZTPipeSession::Private::DeliverMessages()
 {
+    isGathering = true;
     ZTFrameReader::Result result = reader.Read(*socket);
     while (result == ZTFrameReader::Result::Message) {
-        const QString name = reader.TakeName();
-        const QByteArray payload = reader.TakePayload();
-        Q_EMIT IncomingMessage(name, payload);
+        Q_EMIT IncomingMessage(reader.TakeName(), reader.TakePayload());
         result = reader.Read(*socket);
     }
+    isGathering = false;
+    HandOverEvents();
     if (result == ZTFrameReader::Result::Refused) {
         diagnostics.Log(reader.Refusal());
         socket->abort();
@@ -197,16 +349,32 @@ void ZTPipeSession::Private::OnDisconnected()
 
 void ZTPipeSession::Private::Write(const QString& name, const QByteArray& data)
 {
+    Request request{Request::WriteMessages, 1, {}, data, {}};
+    AppendFrameFront(request.frames, name, data);
+    WriteFrames(request);
+}
+
+void ZTPipeSession::Private::WriteFrames(const Request& request)
+{
     if (!socket) {
         return;
     }
     if (socket->state() != QLocalSocket::ConnectedState) {
-        diagnostics.Log(SocketErrorText(QLocalSocket::OperationError));
+        for (int message = 0; message < request.messageCount; ++message) {
+            diagnostics.Log(SocketErrorText(QLocalSocket::OperationError));
+        }
         return;
     }
-    QDataStream stream(socket);
-    stream << name << data;
-    Q_EMIT MessageSent();
+    // What the pipe takes at once needs no memory in the socket; the event loop sends the rest.
+    socket->write(request.frames);
+    socket->flush();
+    for (int begin = 0; begin < request.payload.size(); begin += writeSize) {
+        socket->write(request.payload.constData() + begin, std::min(writeSize, request.payload.size() - begin));
+        socket->flush();
+    }
+    for (int message = 0; message < request.messageCount; ++message) {
+        Q_EMIT MessageSent();
+    }
 }
 
 void ZTPipeSession::Private::Reconnect(const QString& serverName)

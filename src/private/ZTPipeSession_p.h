@@ -1,12 +1,14 @@
 #pragma once
 
-#include "ZTFrameReader_p.h"
+#include "ZTFrame_p.h"
+#include "ZTHandOver_p.h"
 #include "ZTPipeSession.h"
 
 #include <QLocalSocket>
 #include <QReadWriteLock>
 
 #include <atomic>
+#include <vector>
 
 /// The worker of a pipe session. It is made on the thread of its session, then lives with its socket and its timer on
 /// the session's own thread until that ends. Unless said otherwise a member is used there only.
@@ -55,13 +57,50 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    /// Something that the session's thread is to do. Small messages that follow each other share one request.
+    struct Request
+    {
+        enum Kind { WriteMessages, ReconnectToServer, RunTimer };
+
+        Kind kind = WriteMessages;
+        int messageCount = 0;
+        QByteArray frames;  ///< of the messages, whole or, when there is a payload, up to it
+        QByteArray payload; ///< of one large message, which is not copied into `frames`
+        QString serverName;
+    };
+
+    /// Something that the session tells its users.
+    struct Event
+    {
+        enum Kind { Down, Connected, Incoming, Sent };
+
+        Kind kind = Down;
+        QString name;
+        QByteArray data;
+    };
+
     void ConnectToOwner();
     void AnnounceEarlyConnection();
-    void WriteRemainder();
     void SetConnectionState(int state);
     void StopTimer();
     void RestartTimer();
     void DeliverMessages();
+    void WriteFrames(const Request& request);
+    void WriteRemainder();
+
+    /// On any thread: have something done on the session's thread, behind what was asked before.
+    void AskForWrite(const QString& name, const QByteArray& data);
+    void Ask(Request request);
+    void WakeWorker();
+    void DoRequests();
+
+    /// Has the owner emit `event` on its own thread, behind the earlier ones.
+    void Tell(Event event);
+    void HandOverEvents();
+    void WakeOwner();
+
+    /// On the thread of the owner.
+    void EmitEvents();
 
     ZTPipeSession* owner;
     mutable QReadWriteLock stateLock;
@@ -69,7 +108,19 @@ private:
     int timerId = -1;
     int connectionState = QLocalSocket::UnconnectedState;
     ZTFrameReader reader;
-
     /// Whether the constructor's attempt has succeeded and OnConnected() was not called for it yet.
     std::atomic<bool> hasEarlyConnection{false};
+
+    ZTHandOver<Request> requests;
+    ZTHandOver<Event> events;
+
+    std::vector<Request> doing;
+
+    /// Events that wait for the lot of them to be complete, while there is one.
+    std::vector<Event> telling;
+    bool isGathering = false;
+
+    /// Taken from `events`, of which the first ones are emitted already. On the thread of the owner.
+    std::vector<Event> emitting;
+    std::size_t emitted = 0;
 };

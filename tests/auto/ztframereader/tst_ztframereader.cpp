@@ -1,5 +1,6 @@
-#include "ZTFrameReader_p.h"
+#include "ZTFrame_p.h"
 
+#include <QtEndian>
 #include <QtTest>
 
 namespace {
@@ -53,7 +54,10 @@ private Q_SLOTS:
     void nothingToRead();
     void messages_data();
     void messages();
-    void stopsAtTheEndOfAMessage();
+    void oneMessageAtATime();
+    void namesOfNeighboursDoNotMix();
+    void payloadsAroundTheFetchSize_data();
+    void payloadsAroundTheFetchSize();
     void everyCut();
     void byteByByte();
     void idlePollsDoNotReadAgain();
@@ -66,6 +70,8 @@ private Q_SLOTS:
     void refusalLastsUntilReset();
     void resetForgetsThePiece();
     void takenMessagesAreLetGo();
+    void frameFronts_data();
+    void frameFronts();
 };
 
 void tst_ZTFrameReader::nothingToRead()
@@ -124,17 +130,93 @@ void tst_ZTFrameReader::messages()
     QCOMPARE(reader.Read(pipe), Result::Incomplete);
 }
 
-void tst_ZTFrameReader::stopsAtTheEndOfAMessage()
+void tst_ZTFrameReader::oneMessageAtATime()
 {
     Pipe pipe;
     pipe.Arrive(messageAb + message21);
     ZTFrameReader reader;
     QCOMPARE(reader.Read(pipe), Result::Message);
-    QCOMPARE(pipe.bytesAvailable(), qint64(message21.size()));
     QCOMPARE(reader.TakeName(), QStringLiteral("a"));
+    QCOMPARE(reader.TakePayload(), QByteArrayLiteral("bcd"));
     QCOMPARE(reader.Read(pipe), Result::Message);
     QCOMPARE(reader.TakeName(), QStringLiteral("21"));
+    QCOMPARE(reader.TakePayload(), QByteArrayLiteral(""));
     QCOMPARE(reader.Read(pipe), Result::Incomplete);
+}
+
+void tst_ZTFrameReader::namesOfNeighboursDoNotMix()
+{
+    const QByteArray names = QByteArray::fromHex("00000000"
+                                                 "ffffffff"
+                                                 "00000002"
+                                                 "0061"
+                                                 "ffffffff"
+                                                 "00000002"
+                                                 "0062"
+                                                 "ffffffff"
+                                                 "ffffffff"
+                                                 "ffffffff"
+                                                 "00000002"
+                                                 "0062"
+                                                 "ffffffff"
+                                                 "00000004"
+                                                 "00620062"
+                                                 "ffffffff"
+                                                 "00000000"
+                                                 "ffffffff");
+    Pipe pipe;
+    pipe.Arrive(names);
+    ZTFrameReader reader;
+    for (const QString& name : {QStringLiteral(""), QStringLiteral("a"), QStringLiteral("b"), QString(),
+                                QStringLiteral("b"), QStringLiteral("bb"), QStringLiteral("")}) {
+        QCOMPARE(reader.Read(pipe), Result::Message);
+        const QString read = reader.TakeName();
+        QCOMPARE(read, name);
+        QCOMPARE(read.isNull(), name.isNull());
+    }
+    QCOMPARE(reader.Read(pipe), Result::Incomplete);
+}
+
+void tst_ZTFrameReader::payloadsAroundTheFetchSize_data()
+{
+    QTest::addColumn<int>("size");
+    for (const int size : {65000, 65521, 65522, 65523, 65535, 65536, 65537, 131072, 131073, 1000000}) {
+        QTest::addRow("%d", size) << size;
+    }
+}
+
+void tst_ZTFrameReader::payloadsAroundTheFetchSize()
+{
+    QFETCH(int, size);
+
+    QByteArray payload(size, Qt::Uninitialized);
+    for (int i = 0; i < size; ++i) {
+        payload[i] = static_cast<char>(i * 7 + i / 256);
+    }
+    QByteArray count(4, Qt::Uninitialized);
+    qToBigEndian<quint32>(static_cast<quint32>(size), count.data());
+    const QByteArray frame = QByteArray::fromHex("00000002"
+                                                 "0061") +
+                             count + payload;
+    const QByteArray stream = frame + messageAb + frame;
+
+    for (const int piece : {stream.size(), 1000, 65536, 65535, 7}) {
+        Pipe pipe;
+        ZTFrameReader reader;
+        QVector<QByteArray> payloads;
+        for (int begin = 0; begin < stream.size(); begin += piece) {
+            pipe.Arrive(stream.mid(begin, piece));
+            while (reader.Read(pipe) == Result::Message) {
+                QCOMPARE(reader.TakeName(), QStringLiteral("a"));
+                payloads.append(reader.TakePayload());
+            }
+        }
+        QCOMPARE(payloads.size(), 3);
+        QVERIFY(payloads.at(0) == payload);
+        QCOMPARE(payloads.at(1), QByteArrayLiteral("bcd"));
+        QVERIFY(payloads.at(2) == payload);
+        QCOMPARE(pipe.bytesRead, qint64(stream.size()));
+    }
 }
 
 void tst_ZTFrameReader::everyCut()
@@ -271,7 +353,7 @@ void tst_ZTFrameReader::announcedSizeTakesNoMemory()
                 QByteArray(10, 'x'));
     ZTFrameReader reader;
     QCOMPARE(reader.Read(pipe), Result::Incomplete);
-    QVERIFY(reader.TakePayload().capacity() <= 64 * 1024);
+    QVERIFY(reader.TakePayload().capacity() <= 4 * 1024 * 1024);
 }
 
 void tst_ZTFrameReader::memoryGrowsWithTheBytesThatCame()
@@ -284,7 +366,9 @@ void tst_ZTFrameReader::memoryGrowsWithTheBytesThatCame()
         pipe.Arrive(QByteArray(100000, 'x'));
         QCOMPARE(reader.Read(pipe), Result::Incomplete);
     }
-    QVERIFY(reader.TakePayload().capacity() <= 2 * 6400000);
+    const QByteArray payload = reader.TakePayload();
+    QCOMPARE(payload.size(), 6400000);
+    QVERIFY(payload.capacity() <= 2 * payload.size());
 }
 
 void tst_ZTFrameReader::refusalLastsUntilReset()
@@ -294,7 +378,10 @@ void tst_ZTFrameReader::refusalLastsUntilReset()
     ZTFrameReader reader;
     QCOMPARE(reader.Read(pipe), Result::Refused);
     QCOMPARE(reader.Read(pipe), Result::Refused);
-    QCOMPARE(pipe.bytesAvailable(), qint64(messageAb.size()));
+    const int reads = pipe.reads;
+    pipe.Arrive(messageAb);
+    QCOMPARE(reader.Read(pipe), Result::Refused);
+    QCOMPARE(pipe.reads, reads);
 
     reader.Reset();
     QCOMPARE(reader.Read(pipe), Result::Message);
@@ -328,6 +415,22 @@ void tst_ZTFrameReader::takenMessagesAreLetGo()
     const QByteArray payload = reader.TakePayload();
     QVERIFY(payload.isDetached());
     QVERIFY(reader.TakePayload().isNull());
+}
+
+void tst_ZTFrameReader::frameFronts_data()
+{
+    messages_data();
+}
+
+void tst_ZTFrameReader::frameFronts()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    QFETCH(QByteArray, payload);
+
+    QByteArray frame = QByteArrayLiteral("before");
+    AppendFrameFront(frame, name, payload);
+    QCOMPARE(frame + payload, "before" + bytes);
 }
 
 QTEST_GUILESS_MAIN(tst_ZTFrameReader)

@@ -116,6 +116,8 @@ private Q_SLOTS:
     void manyMessages();
     void largeMessages();
     void largeMessagesBothWays();
+    void slotsMayRunAnEventLoop();
+    void requestsKeepTheirOrder();
     void signalsComeOnTheSessionsThread();
 
     void refusedFrames_data();
@@ -494,6 +496,63 @@ void tst_ZTPipeSession::largeMessagesBothWays()
                                                      "0062"
                                                      "00800000"));
     QVERIFY(link.peer.Do(QStringLiteral("check %1").arg(size)));
+}
+
+void tst_ZTPipeSession::slotsMayRunAnEventLoop()
+{
+    // As a host does that asks its user something: messages go on coming, each once and in order.
+    Link link;
+    QVERIFY(link.good);
+    QStringList seen;
+    connect(link.session.get(), &ZTPipeSession::IncomingMessage, [&](const QString&, const QByteArray& data) {
+        seen.append(QString::fromLatin1(data));
+        if (seen.size() == 3) {
+            QVERIFY(link.peer.Write(frameA));
+            QTRY_COMPARE(seen.size(), 101);
+        }
+    });
+    QByteArray stream;
+    QStringList expected;
+    for (int i = 0; i < 100; ++i) {
+        const QByteArray number = QByteArray::number(i).rightJustified(3, '0');
+        stream += QByteArray::fromHex("00000002"
+                                      "0061"
+                                      "00000003") +
+                  number;
+        expected.append(QString::fromLatin1(number));
+    }
+    expected.append(QStringLiteral("bcd"));
+    QVERIFY(link.peer.Write(stream));
+    QTRY_COMPARE(seen, expected);
+    QTRY_COMPARE(link.listener->events.size(), 101);
+}
+
+void tst_ZTPipeSession::requestsKeepTheirOrder()
+{
+    Link link;
+    QVERIFY(link.good);
+    PeerProcess other;
+    QVERIFY(other.Do(QStringLiteral("listen other")));
+    link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
+    link.session->Send(QStringLiteral("b"), QByteArray(100000, 'x'));
+    link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
+    QCOMPARE(link.peer.Read(frameA.size()), frameA);
+    QCOMPARE(link.peer.Read(10 + 100000), QByteArray::fromHex("00000002"
+                                                              "0062"
+                                                              "000186a0") +
+                                              QByteArray(100000, 'x'));
+    QCOMPARE(link.peer.Read(frameA.size()), frameA);
+
+    link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
+    link.session->Reconnect(QStringLiteral("other"));
+    link.session->Send(QStringLiteral("21"), QByteArrayLiteral(""));
+    QVERIFY(other.Do(QStringLiteral("accept")));
+    QCOMPARE(link.peer.Read(frameA.size()), frameA);
+    QCOMPARE(other.Read(frame21.size()), frame21);
+    QTRY_COMPARE(
+        link.listener->events,
+        (QStringList{QStringLiteral("sent"), QStringLiteral("sent"), QStringLiteral("sent"), QStringLiteral("sent"),
+                     QStringLiteral("down"), QStringLiteral("connected"), QStringLiteral("sent")}));
 }
 
 void tst_ZTPipeSession::signalsComeOnTheSessionsThread()

@@ -4,11 +4,16 @@
 #include <QIODevice>
 #include <QString>
 
-#include <array>
 #include <utility>
 
-/// Takes messages off a pipe, however their bytes arrive: what is there of a message is kept between calls, and a byte
-/// is looked at once. Memory is taken only for bytes that have come.
+/// Appends what a message's frame begins with: everything but the bytes of the payload.
+void AppendFrameFront(QByteArray& bytes, const QString& name, const QByteArray& payload);
+
+/// Takes messages off a pipe, however their bytes arrive. What is there of a message is kept between calls, and whether
+/// it is complete is seen from its two counts. Memory is taken only for bytes that have come.
+///
+/// Bytes are fetched from the device ahead of the message that needs them, so Read() is to be called until it is
+/// Incomplete or Refused.
 class ZTFrameReader
 {
 public:
@@ -22,7 +27,7 @@ public:
         Refused     ///< no frame that is allowed begins like this, Refusal() says why; nothing is read until Reset()
     };
 
-    /// Reads up to the end of the next message, at most.
+    /// Reads the next message as far as its bytes are there.
     Result Read(QIODevice& device);
 
     QString TakeName() { return std::exchange(name, QString()); }
@@ -33,20 +38,19 @@ public:
     void Reset();
 
 private:
-    enum class Stage { NameSize, Name, PayloadSize, Payload, Refused };
-
-    bool ReadSize(QIODevice& device, quint32& size);
-    bool ReadBytes(QIODevice& device, QByteArray& bytes, quint32 size);
-    void BeginName(quint32 size);
-    void BeginPayload(quint32 size);
+    bool Fetch(QIODevice& device);
+    Result ReadFetched();
+    Result ReadLargePayload(QIODevice& device);
     Result Refuse(const QString& reason);
+    void SetName(const char* bytes, quint32 size);
 
-    Stage stage = Stage::NameSize;
-    std::array<char, sizeof(quint32)> sizeBytes{};
-    int sizeBytesRead = 0;
-    quint32 expectedSize = 0;
-    QByteArray nameBytes;
+    QByteArray fetched; ///< of which the bytes before `fetchedBegin` have been read
+    int fetchedBegin = 0;
+    int largePayloadSize = -1; ///< of the message whose payload is read past `fetched`; -1 when none is
     QString name;
     QByteArray payload;
     QString refusal;
+
+    QByteArray lastNameBytes;
+    QString lastName;
 };

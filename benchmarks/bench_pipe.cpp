@@ -1,0 +1,360 @@
+// What a pipe session costs against a bare QLocalSocket with a QDataStream on each side, in the same run: messages and
+// megabytes per second, the time from a write to its signal, and the memory that one large message takes.
+//
+// The sending end is a child process. Each message begins with the time at which it was handed over, on the clock that
+// both processes share; a run lasts from the first of these to the arrival of the last message. A window of 32 MiB is
+// under way at most, so that the pipe is measured and not the memory for what waits; the receiver gives credit for half
+// a window at a time.
+
+#include "ZTPipeSession.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
+namespace {
+
+const QString messageName = QStringLiteral("7");
+const QString sessionKind = QStringLiteral("session");
+const QString bareKind = QStringLiteral("bare");
+constexpr int rounds = 5;
+constexpr int windowSize = 64 * 1024 * 1024;
+constexpr int latencyMessages = 500;
+constexpr int latencyInterval = 7; // ms: out of step with the 10 ms of the polling
+constexpr int largeSize = 256 * 1024 * 1024;
+
+/// On the system's monotonic clock, which every process sees alike.
+qint64 Nanoseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// A payload of its own for each message, as every user makes one.
+QByteArray Stamped(const QByteArray& pattern)
+{
+    QByteArray payload(pattern.constData(), pattern.size());
+    const qint64 now = Nanoseconds();
+    std::memcpy(payload.data(), &now, sizeof(now));
+    return payload;
+}
+
+qint64 Stamp(const QByteArray& payload)
+{
+    qint64 stamp = 0;
+    std::memcpy(&stamp, payload.constData(), sizeof(stamp));
+    return stamp;
+}
+
+QByteArray Pattern(int size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (int i = 0; i < size; ++i) {
+        bytes[i] = static_cast<char>((i * 31 + (i >> 8)) & 0xFF);
+    }
+    return bytes;
+}
+
+/// The most memory that this process has had in use so far, in bytes; 0 where the system does not tell.
+qint64 PeakMemory()
+{
+#ifdef Q_OS_LINUX
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return qint64(usage.ru_maxrss) * 1024;
+#else
+    return 0;
+#endif
+}
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.empty() ? 0 : values[values.size() / 2];
+}
+
+// The child process ---------------------------------------------------------------------------------------------------
+
+struct Task
+{
+    QString kind;
+    QString pipe;
+    int size = 0;
+    int count = 0;
+    int interval = 0; ///< ms between two messages; 0 for all at once
+};
+
+/// Half of the messages that may be under way.
+int HalfWindow(int size)
+{
+    return std::max(1, windowSize / std::max(size, 256) / 2);
+}
+
+/// Sends a task's messages: at their interval, or as fast as the receiver's credit allows.
+class Sender
+{
+public:
+    Sender(const Task& task, std::function<void(const QByteArray&)> send)
+        : task(task)
+        , send(std::move(send))
+        , pattern(Pattern(task.size))
+        , left(task.count)
+    {
+    }
+
+    void Start()
+    {
+        if (task.interval == 0) {
+            SendMore(2 * HalfWindow(task.size));
+            return;
+        }
+        QObject::connect(&timer, &QTimer::timeout, [this] {
+            SendMore(1);
+            if (left == 0) {
+                timer.stop();
+            }
+        });
+        timer.setTimerType(Qt::PreciseTimer);
+        timer.start(task.interval);
+    }
+
+    void SendMore(int count)
+    {
+        for (; left > 0 && count > 0; --left, --count) {
+            send(Stamped(pattern));
+        }
+    }
+
+    void TakeCredit()
+    {
+        if (task.interval == 0) {
+            SendMore(HalfWindow(task.size));
+        }
+    }
+
+private:
+    Task task;
+    std::function<void(const QByteArray&)> send;
+    QByteArray pattern;
+    int left;
+    QTimer timer;
+};
+
+/// Calls `take` for each message on a bare socket, in the way that Qt's manual shows.
+template<typename Take>
+void ReadBare(QLocalSocket& socket, const Take& take)
+{
+    QDataStream stream(&socket);
+    for (;;) {
+        QString name;
+        QByteArray payload;
+        stream.startTransaction();
+        stream >> name >> payload;
+        if (!stream.commitTransaction()) {
+            return;
+        }
+        take(payload);
+    }
+}
+
+void WriteBare(QLocalSocket& socket, const QByteArray& payload)
+{
+    QDataStream stream(&socket);
+    stream << messageName << payload;
+}
+
+int RunChild(const Task& task)
+{
+    if (task.kind == sessionKind) {
+        ZTPipeSession session(task.pipe, nullptr);
+        Sender sender(task, [&](const QByteArray& payload) { session.Send(messageName, payload); });
+        QObject::connect(&session, &ZTPipeSession::SessionDown, qApp, &QCoreApplication::quit);
+        QObject::connect(&session, &ZTPipeSession::IncomingMessage, qApp, [&] { sender.TakeCredit(); });
+        QObject::connect(&session, &ZTPipeSession::SessionConnected, qApp, [&] { sender.Start(); });
+        QCoreApplication::exec();
+    } else {
+        QLocalSocket socket;
+        Sender sender(task, [&](const QByteArray& payload) { WriteBare(socket, payload); });
+        QObject::connect(&socket, &QLocalSocket::disconnected, qApp, &QCoreApplication::quit);
+        QObject::connect(&socket, &QLocalSocket::readyRead, qApp,
+                         [&] { ReadBare(socket, [&](const QByteArray&) { sender.TakeCredit(); }); });
+        socket.connectToServer(task.pipe);
+        sender.Start();
+        QCoreApplication::exec();
+    }
+    std::printf("%lld\n", static_cast<long long>(PeakMemory()));
+    return 0;
+}
+
+// The receiving process -----------------------------------------------------------------------------------------------
+
+struct Run
+{
+    double seconds = 0;
+    std::vector<double> latencies; ///< ms
+    qint64 childPeak = 0;          ///< bytes
+    bool isIntact = true;
+};
+
+class Receiver
+{
+public:
+    Receiver(const Task& task, std::function<void()> giveCredit)
+        : task(task)
+        , giveCredit(std::move(giveCredit))
+        , expected(Pattern(task.size))
+    {
+    }
+
+    void Take(const QByteArray& payload)
+    {
+        const qint64 now = Nanoseconds();
+        const qint64 stamp = Stamp(payload);
+        first = received == 0 ? stamp : first;
+        run.latencies.push_back((now - stamp) / 1e6);
+        // Every byte of a large message is compared; of many small ones the size, which does not disturb the timing.
+        const std::size_t compared = task.count > 1 ? 0 : expected.size() - sizeof(stamp);
+        const bool isSame =
+            payload.size() == expected.size() &&
+            std::memcmp(payload.constData() + sizeof(stamp), expected.constData() + sizeof(stamp), compared) == 0;
+        run.isIntact = run.isIntact && isSame;
+        if (++received == task.count) {
+            run.seconds = (now - first) / 1e9;
+            QCoreApplication::quit();
+        } else if (received % HalfWindow(task.size) == 0) {
+            giveCredit();
+        }
+    }
+
+    Run run;
+
+private:
+    Task task;
+    std::function<void()> giveCredit;
+    QByteArray expected;
+    int received = 0;
+    qint64 first = 0;
+};
+
+Run Measure(Task task)
+{
+    static int runs = 0;
+    task.pipe = QStringLiteral("bench%1").arg(++runs);
+    QLocalServer server;
+    if (!server.listen(task.pipe)) {
+        qFatal("Cannot listen: %s", qPrintable(server.errorString()));
+    }
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(), {task.kind, task.pipe, QString::number(task.size),
+                                                          QString::number(task.count), QString::number(task.interval)});
+    if (!server.waitForNewConnection(10000)) {
+        qFatal("The sending process did not connect.");
+    }
+
+    QLocalSocket* socket = server.nextPendingConnection();
+    std::unique_ptr<ZTPipeSession> session;
+    Receiver receiver(task, [&] {
+        if (session) {
+            session->Send(messageName, QByteArrayLiteral("credit"));
+        } else {
+            WriteBare(*socket, QByteArrayLiteral("credit"));
+        }
+    });
+    const auto take = [&receiver](const QByteArray& payload) { receiver.Take(payload); };
+    if (task.kind == sessionKind) {
+        session = std::make_unique<ZTPipeSession>(socket, nullptr);
+        QObject::connect(session.get(), &ZTPipeSession::IncomingMessage, qApp,
+                         [&](const QString&, const QByteArray& payload) { take(payload); });
+    } else {
+        const auto read = [&] { ReadBare(*socket, take); };
+        QObject::connect(socket, &QLocalSocket::readyRead, qApp, read);
+        QTimer::singleShot(0, qApp, read);
+    }
+    QCoreApplication::exec();
+    if (session) {
+        session.reset();
+    } else {
+        delete socket;
+    }
+    child.waitForFinished();
+    receiver.run.childPeak = child.readAllStandardOutput().trimmed().toLongLong();
+    return receiver.run;
+}
+
+void Throughput(const char* title, int size, int count)
+{
+    std::vector<double> ratios;
+    std::vector<double> sessionRates;
+    std::vector<double> bareRates;
+    for (int round = 0; round < rounds; ++round) {
+        const Run bare = Measure({bareKind, {}, size, count, 0});
+        const Run session = Measure({sessionKind, {}, size, count, 0});
+        if (!bare.isIntact || !session.isIntact) {
+            qFatal("A message arrived broken.");
+        }
+        bareRates.push_back(count / bare.seconds);
+        sessionRates.push_back(count / session.seconds);
+        ratios.push_back(bare.seconds / session.seconds);
+    }
+    const double rate = Median(sessionRates);
+    const double bareRate = Median(bareRates);
+    std::printf("%-8s %7d messages   session %9.0f /s %8.1f MB/s   bare %9.0f /s %8.1f MB/s   ratio %.2f\n", title,
+                count, rate, rate * size / 1e6, bareRate, bareRate * size / 1e6, Median(ratios));
+}
+
+void Latency()
+{
+    const Run session = Measure({sessionKind, {}, 1024, latencyMessages, latencyInterval});
+    const Run bare = Measure({bareKind, {}, 1024, latencyMessages, latencyInterval});
+    std::printf("write to signal, %d messages of 1 KiB, one every %d ms: median %.2f ms (bare %.2f ms)\n",
+                latencyMessages, latencyInterval, Median(session.latencies), Median(bare.latencies));
+}
+
+void LargeMessage()
+{
+    const qint64 before = PeakMemory();
+    const Run run = Measure({sessionKind, {}, largeSize, 1, 0});
+    // What is not the pipe's: the sender has the pattern and the payload made of it, this process the pattern.
+    const double sender = double(run.childPeak) / largeSize - 2;
+    const double receiver = double(PeakMemory() - before) / largeSize - 1;
+    std::printf("one message of 256 MiB: %s, %.0f MB/s; extra memory in sizes of the message: sender %.2f, receiver "
+                "%.2f\n",
+                run.isIntact ? "intact" : "BROKEN", largeSize / run.seconds / 1e6, sender, receiver);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 6) {
+        return RunChild({arguments[1], arguments[2], arguments[3].toInt(), arguments[4].toInt(), arguments[5].toInt()});
+    }
+
+    const QTemporaryDir folder;
+    qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    LargeMessage();
+    Throughput("16 B", 16, 1000000);
+    Throughput("1 KiB", 1024, 500000);
+    Throughput("1 MiB", 1024 * 1024, 500);
+    Latency();
+    return 0;
+}
