@@ -18,8 +18,7 @@ class ZTBatchInputModel;
 /// toggleFolder(). Until then they keep to their nodes: a row follows a node whose place changes and is empty when the
 /// node is gone. What happens to a folder never takes its state away, whether it is expanded.
 ///
-/// Belongs to the thread of its source. Without its source, which it does not own, it can only be destroyed, or be
-/// rebuilt to an empty table.
+/// Belongs to the thread of its source, which it does not own: once that is destroyed, the cells are empty.
 class BATCHCORE_EXPORT ZVBatchInputTableModel : public QAbstractTableModel
 {
     Q_OBJECT

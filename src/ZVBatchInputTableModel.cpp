@@ -22,7 +22,7 @@ int ZVBatchInputTableModel::rowCount(const QModelIndex&) const
 
 int ZVBatchInputTableModel::columnCount(const QModelIndex&) const
 {
-    return 3;
+    return TableRow::maxFileCount;
 }
 
 QVariant ZVBatchInputTableModel::data(const QModelIndex& index, int role) const
@@ -42,8 +42,8 @@ ZTBatchInputModel* ZVBatchInputTableModel::sourceModel() const
 
 bool ZVBatchInputTableModel::isFolderRow(int row) const
 {
-    const Private::TableRow* const tableRow = d->RowAt(row);
-    return tableRow != nullptr && tableRow->kind == Private::FolderRow;
+    const TableRow* const tableRow = d->RowAt(row);
+    return tableRow != nullptr && tableRow->kind == TableRow::FolderRow;
 }
 
 bool ZVBatchInputTableModel::HasFolder() const
@@ -59,15 +59,15 @@ bool ZVBatchInputTableModel::isFolderExpanded(const QModelIndex& folder) const
 
 QModelIndex ZVBatchInputTableModel::mapToSource(const QModelIndex& index) const
 {
-    const Private::TableRow* const tableRow = index.isValid() ? d->RowAt(index.row()) : nullptr;
+    const TableRow* const tableRow = index.isValid() ? d->RowAt(index.row()) : nullptr;
     if (tableRow == nullptr) {
         return QModelIndex();
     }
-    if (tableRow->kind == Private::FolderRow) {
+    if (tableRow->kind == TableRow::FolderRow) {
         // Wherever the user clicks in the row, the folder is meant.
         return tableRow->folderIndex;
     }
-    return tableRow->fileIndexes.value(index.column());
+    return index.column() < tableRow->fileCount ? tableRow->fileIndexes[index.column()] : QPersistentModelIndex();
 }
 
 QModelIndex ZVBatchInputTableModel::mapFromSource(const QModelIndex& sourceIndex) const

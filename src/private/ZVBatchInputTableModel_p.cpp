@@ -1,10 +1,6 @@
 #include "ZVBatchInputTableModel_p.h"
 
-namespace {
-
-constexpr int filesPerRow = 3;
-
-} // namespace
+#include <algorithm>
 
 ZVBatchInputTableModel::Private::Private(ZTBatchInputModel* source)
     : source(source)
@@ -23,19 +19,17 @@ void ZVBatchInputTableModel::Private::BuildRows()
 
     // A stack of our own: a recursion would overflow on a deep tree.
     QVector<QModelIndex> folders;
-    PushFolders(folders, QModelIndex());
+    AddChildren(QModelIndex(), Folders, folders);
     while (!folders.isEmpty()) {
         const QModelIndex folder = folders.takeLast();
         AddFolderRow(folder);
-        if (expandedFolders.contains(rows.constLast().folderIndex)) {
-            AddFileRows(folder);
-        }
-        PushFolders(folders, folder);
+        const bool isExpanded = expandedFolders.contains(rows.constLast().folderIndex);
+        AddChildren(folder, isExpanded ? Folders | Files : Folders, folders);
     }
-    AddFileRows(QModelIndex());
+    AddChildren(QModelIndex(), Files, folders);
 }
 
-const ZVBatchInputTableModel::Private::TableRow* ZVBatchInputTableModel::Private::RowAt(int row) const
+const TableRow* ZVBatchInputTableModel::Private::RowAt(int row) const
 {
     return row >= 0 && row < rows.size() ? &rows.at(row) : nullptr;
 }
@@ -52,13 +46,14 @@ ZVBatchInputTableModel::Private::Cell ZVBatchInputTableModel::Private::FindCell(
 ZVBatchInputTableModel::Private::Cell
 ZVBatchInputTableModel::Private::FindCellOfInvalid(const QModelIndex& sourceIndex) const
 {
+    // A persistent index whose node is gone stands at no place by which it could be found.
     for (int row = 0; row < rows.size(); ++row) {
         const TableRow& tableRow = rows.at(row);
-        if (tableRow.kind == FolderRow && tableRow.folderIndex == sourceIndex) {
+        if (tableRow.kind == TableRow::FolderRow && tableRow.folderIndex == sourceIndex) {
             return {row, 0};
         }
-        for (int column = 0; column < tableRow.fileIndexes.size(); ++column) {
-            if (tableRow.fileIndexes.at(column) == sourceIndex) {
+        for (int column = 0; column < tableRow.fileCount; ++column) {
+            if (tableRow.fileIndexes[column] == sourceIndex) {
                 return {row, column};
             }
         }
@@ -69,54 +64,48 @@ ZVBatchInputTableModel::Private::FindCellOfInvalid(const QModelIndex& sourceInde
 void ZVBatchInputTableModel::Private::AddFolderRow(const QModelIndex& folder)
 {
     TableRow row;
-    row.kind = FolderRow;
+    row.kind = TableRow::FolderRow;
     row.folderIndex = folder;
     rows.append(row);
 }
 
-/// Adds rows for the files right in `folder`; those at the top level for an invalid index.
-void ZVBatchInputTableModel::Private::AddFileRows(const QModelIndex& folder)
+/// Adds rows for the files right in `parent`, and puts the folders there on the stack `folders`, the first on top.
+void ZVBatchInputTableModel::Private::AddChildren(const QModelIndex& parent, int kinds, QVector<QModelIndex>& folders)
 {
-    const int count = source->rowCount(folder);
-    int column = filesPerRow;
+    const int count = source->rowCount(parent);
+    const int foldersBefore = folders.size();
+    int column = TableRow::maxFileCount;
     for (int i = 0; i < count; ++i) {
-        const QModelIndex file = source->index(i, 0, folder);
-        if (source->getNodeData(file)->type == Folder) {
-            continue;
-        }
-        if (column == filesPerRow) {
-            TableRow row;
-            row.kind = FileRow;
-            row.fileIndexes.reserve(filesPerRow);
-            rows.append(row);
-            column = 0;
-        }
-        rows.last().fileIndexes.append(file);
-        ++column;
-    }
-}
-
-/// Puts the folders right in `parent` on the stack `folders`, the first on top.
-void ZVBatchInputTableModel::Private::PushFolders(QVector<QModelIndex>& folders, const QModelIndex& parent) const
-{
-    for (int i = source->rowCount(parent) - 1; i >= 0; --i) {
         const QModelIndex child = source->index(i, 0, parent);
         if (source->getNodeData(child)->type == Folder) {
-            folders.append(child);
+            if (kinds & Folders) {
+                folders.append(child);
+            }
+        } else if (kinds & Files) {
+            if (column == TableRow::maxFileCount) {
+                rows.append(TableRow());
+                rows.last().kind = TableRow::FileRow;
+                column = 0;
+            }
+            TableRow& row = rows.last();
+            row.fileIndexes[column++] = child;
+            row.fileCount = column;
         }
     }
+    std::reverse(folders.begin() + foldersBefore, folders.end());
 }
 
 void ZVBatchInputTableModel::Private::FillCells()
 {
+    cells.reserve(rows.size() * TableRow::maxFileCount);
     // From the end, so that the first of several cells with one index stays.
     for (int row = rows.size() - 1; row >= 0; --row) {
         const TableRow& tableRow = rows.at(row);
-        if (tableRow.kind == FolderRow) {
+        if (tableRow.kind == TableRow::FolderRow) {
             cells.insert(tableRow.folderIndex, {row, 0});
         }
-        for (int column = tableRow.fileIndexes.size() - 1; column >= 0; --column) {
-            cells.insert(tableRow.fileIndexes.at(column), {row, column});
+        for (int column = tableRow.fileCount - 1; column >= 0; --column) {
+            cells.insert(tableRow.fileIndexes[column], {row, column});
         }
     }
 }

@@ -9,18 +9,24 @@
 #include <QSet>
 #include <QVector>
 
+/// A row of the table as the last rebuild made it.
+struct TableRow
+{
+    enum Kind : int { FolderRow = 0, FileRow = 1 };
+    static constexpr int maxFileCount = 3;
+
+    int kind = FolderRow;
+    int fileCount = 0;
+    QPersistentModelIndex folderIndex; ///< invalid in a file row
+    /// In column order, the first `fileCount` of them. In place, as a list would cost as much again.
+    QPersistentModelIndex fileIndexes[maxFileCount];
+};
+
+Q_DECLARE_TYPEINFO(TableRow, Q_MOVABLE_TYPE);
+
 class ZVBatchInputTableModel::Private
 {
 public:
-    enum RowKind : int { FolderRow = 0, FileRow = 1 };
-
-    struct TableRow
-    {
-        int kind = FolderRow;
-        QPersistentModelIndex folderIndex;          ///< invalid in a file row
-        QVector<QPersistentModelIndex> fileIndexes; ///< in column order; empty in a folder row
-    };
-
     struct Cell
     {
         int row = -1;
@@ -46,9 +52,10 @@ public:
     bool selectionUpdatePending = false;
 
 private:
+    enum ChildKind { Folders = 1, Files = 2 };
+
     void AddFolderRow(const QModelIndex& folder);
-    void AddFileRows(const QModelIndex& folder);
-    void PushFolders(QVector<QModelIndex>& folders, const QModelIndex& parent) const;
+    void AddChildren(const QModelIndex& parent, int kinds, QVector<QModelIndex>& folders);
     void FillCells();
 
     /// Where each source index is shown, from the first search after a rebuild on. A persistent index is the same key

@@ -14,6 +14,7 @@ class tst_TreeNode : public QObject
 private Q_SLOTS:
     void beginsAlone();
     void addressIsThatOfTheData();
+    void isSmall();
     void insertChildKeepsTheOrder_data();
     void insertChildKeepsTheOrder();
     void insertChildGoesBehindEqualChildren();
@@ -58,6 +59,13 @@ void tst_TreeNode::addressIsThatOfTheData()
 {
     const std::unique_ptr<InputNode> node(NewFile(QStringLiteral("a")));
     QCOMPARE(static_cast<const void*>(&node->data), static_cast<const void*>(node.get()));
+}
+
+void tst_TreeNode::isSmall()
+{
+    // A million nodes are a job that people have. Each also takes a place in its parent's list and what the allocator
+    // adds.
+    QVERIFY2(sizeof(InputNode) <= 128, qPrintable(QString::number(sizeof(InputNode))));
 }
 
 void tst_TreeNode::insertChildKeepsTheOrder_data()

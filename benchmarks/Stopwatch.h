@@ -1,0 +1,82 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdio>
+#include <vector>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+/// Time since it was made.
+class Stopwatch
+{
+public:
+    double Nanoseconds() const
+    {
+        return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
+    }
+
+private:
+    std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
+};
+
+/// The median of what `measure` returns in `repeats` calls.
+template<typename Measure>
+double Median(int repeats, Measure measure)
+{
+    std::vector<double> values;
+    for (int i = 0; i < repeats; ++i) {
+        values.push_back(measure());
+    }
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// How often to measure a case of `items` items: often where one run is so short that chance decides.
+inline int RepeatsFor(int items)
+{
+    return std::clamp(1000000 / items, 1, 25);
+}
+
+/// Prints one case line by line as its sizes grow: the time per item, and its ratio to the first size.
+class Series
+{
+public:
+    /// The goal is a ratio that is not to be exceeded; 0 for none.
+    Series(const char* name, double goal)
+        : name(name)
+        , goal(goal)
+    {
+    }
+
+    void Add(int items, double nanosecondsPerItem)
+    {
+        if (first == 0) {
+            first = nanosecondsPerItem;
+        }
+        const double ratio = nanosecondsPerItem / first;
+        std::printf("%-48s %9d %12.1f ns  x %6.2f%s\n", name, items, nanosecondsPerItem, ratio,
+                    goal > 0 && ratio > goal ? "  above the goal" : "");
+        std::fflush(stdout);
+    }
+
+private:
+    const char* name;
+    double goal;
+    double first = 0;
+};
+
+/// The bytes that are allocated now; 0 where the platform does not tell.
+inline std::size_t AllocatedBytes()
+{
+#ifdef __GLIBC__
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+#else
+    return 0;
+#endif
+}
