@@ -21,7 +21,7 @@ function(batchcore_target_defaults target)
     endif()
 
     target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow=local -Wformat=2 -Wcast-align
+        -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wformat=2 -Wcast-align
         -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
         -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
         $<$<BOOL:${BATCHCORE_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -34,7 +34,7 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, const QString& serverName)
     : owner(owner)
 {
     ConnectToOwner();
-    connect(this, &Private::MessageSent, this, [this] { Tell({Event::Sent, {}, {}}); });
+    connect(this, &Private::MessageSent, this, [this] { Tell({Event::Kind::Sent, {}, {}}); });
 
     socket = new QLocalSocket(this);
     connect(socket, SIGNAL(disconnected()), this, SLOT(OnDisconnected()));
@@ -84,10 +84,10 @@ void ZTPipeSession::Private::ConnectToOwner()
     diagnostics.Assert(owner);
     // Both ways a queued connection would post one event for each message. The hand-over keeps their order and posts
     // one event for as many as wait.
-    connect(this, &Private::SessionDown, this, [this] { Tell({Event::Down, {}, {}}); });
-    connect(this, &Private::SessionConnected, this, [this] { Tell({Event::Connected, {}, {}}); });
+    connect(this, &Private::SessionDown, this, [this] { Tell({Event::Kind::Down, {}, {}}); });
+    connect(this, &Private::SessionConnected, this, [this] { Tell({Event::Kind::Connected, {}, {}}); });
     connect(this, &Private::IncomingMessage, this, [this](const QString& message, const QByteArray& data) {
-        Tell({Event::Incoming, message, data});
+        Tell({Event::Kind::Incoming, message, data});
     });
     connect(
         owner, &ZTPipeSession::WriteMessage, this,
@@ -95,13 +95,13 @@ void ZTPipeSession::Private::ConnectToOwner()
     connect(
         owner, &ZTPipeSession::ReconnectToServer, this,
         [this](const QString& serverName) {
-            Ask({Request::ReconnectToServer, 0, {}, {}, serverName});
+            Ask({Request::Kind::Reconnect, 0, {}, {}, serverName});
         },
         Qt::DirectConnection);
     connect(
         owner, &ZTPipeSession::RunUpdateReadTimer, this,
         [this] {
-            Ask({Request::RunTimer, 0, {}, {}, {}});
+            Ask({Request::Kind::RestartTimer, 0, {}, {}, {}});
         },
         Qt::DirectConnection);
 }
@@ -111,16 +111,16 @@ void ZTPipeSession::Private::AskForWrite(const QString& name, const QByteArray& 
     // The frames are made on the thread that sends: so a small payload is let go where it was made, and the session's
     // thread writes many messages at a time.
     if (data.size() > smallPayload) {
-        Request request{Request::WriteMessages, 1, {}, data, {}};
+        Request request{Request::Kind::Write, 1, {}, data, {}};
         AppendFrameFront(request.frames, name, data);
         Ask(std::move(request));
         return;
     }
     const bool hasToWake = requests.Put([&](std::vector<Request>& waiting) {
-        const bool hasRoom = !waiting.empty() && waiting.back().kind == Request::WriteMessages &&
+        const bool hasRoom = !waiting.empty() && waiting.back().kind == Request::Kind::Write &&
                              waiting.back().payload.isNull() && waiting.back().frames.size() < writeSize;
         if (!hasRoom) {
-            waiting.push_back({Request::WriteMessages, 0, {}, {}, {}});
+            waiting.push_back({Request::Kind::Write, 0, {}, {}, {}});
             waiting.back().frames.reserve(writeSize + smallPayload);
         }
         Request& request = waiting.back();
@@ -154,13 +154,13 @@ void ZTPipeSession::Private::DoRequests()
     isGathering = true;
     for (const Request& request : doing) {
         switch (request.kind) {
-        case Request::WriteMessages:
+        case Request::Kind::Write:
             WriteFrames(request);
             break;
-        case Request::ReconnectToServer:
+        case Request::Kind::Reconnect:
             Reconnect(request.serverName);
             break;
-        case Request::RunTimer:
+        case Request::Kind::RestartTimer:
             OnRunTimer();
             break;
         }
@@ -211,16 +211,16 @@ void ZTPipeSession::Private::EmitEvents()
     while (self && emitted < emitting.size()) {
         const Event event = std::move(emitting[emitted++]);
         switch (event.kind) {
-        case Event::Down:
+        case Event::Kind::Down:
             Q_EMIT owner->SessionDown();
             break;
-        case Event::Connected:
+        case Event::Kind::Connected:
             Q_EMIT owner->SessionConnected();
             break;
-        case Event::Incoming:
+        case Event::Kind::Incoming:
             Q_EMIT owner->IncomingMessage(event.name, event.data);
             break;
-        case Event::Sent:
+        case Event::Kind::Sent:
             Q_EMIT owner->MessageSent();
             break;
         }
@@ -349,7 +349,7 @@ void ZTPipeSession::Private::OnDisconnected()
 
 void ZTPipeSession::Private::Write(const QString& name, const QByteArray& data)
 {
-    Request request{Request::WriteMessages, 1, {}, data, {}};
+    Request request{Request::Kind::Write, 1, {}, data, {}};
     AppendFrameFront(request.frames, name, data);
     WriteFrames(request);
 }

@@ -60,9 +60,9 @@ private:
     /// Something that the session's thread is to do. Small messages that follow each other share one request.
     struct Request
     {
-        enum Kind { WriteMessages, ReconnectToServer, RunTimer };
+        enum class Kind { Write, Reconnect, RestartTimer };
 
-        Kind kind = WriteMessages;
+        Kind kind = Kind::Write;
         int messageCount = 0;
         QByteArray frames;  ///< of the messages, whole or, when there is a payload, up to it
         QByteArray payload; ///< of one large message, which is not copied into `frames`
@@ -72,9 +72,9 @@ private:
     /// Something that the session tells its users.
     struct Event
     {
-        enum Kind { Down, Connected, Incoming, Sent };
+        enum class Kind { Down, Connected, Incoming, Sent };
 
-        Kind kind = Down;
+        Kind kind = Kind::Down;
         QString name;
         QByteArray data;
     };
