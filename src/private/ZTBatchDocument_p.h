@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ZTBatchDocument.h"
+
+#include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
+#include "ZTStyle.h"
+
+#include <QPointer>
+
+/// The state of a ZTBatchDocument. The three objects are the document's children; the pointers notice when a host
+/// deletes one all the same.
+class ZTBatchDocument::Private
+{
+public:
+    explicit Private(ZTBatchDocument* owner);
+    ~Private();
+
+    ZTBatchDocument* owner;
+    QPointer<ZTBatchInputModel> inputModel;
+    QString documentName;
+    QString documentFileName;
+    QPointer<ZTStyle> style;
+    QString groupFilter;
+    QPointer<ZTBatchOutputSettings> outputSettings;
+    int modificationState = 0;
+
+private:
+    Q_DISABLE_COPY(Private)
+};

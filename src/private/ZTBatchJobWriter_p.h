@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ZTXmlWriter_p.h"
+
+class ZTBatchInputOutline;
+class ZTBatchOutputSettings;
+class ZTStyle;
+
+/// Writes the XML form of a job, section by section, in this order.
+class ZTBatchJobWriter
+{
+public:
+    explicit ZTBatchJobWriter(const QString& documentName);
+
+    void WriteInput(const ZTBatchInputOutline& outline);
+    void WriteStyle(const ZTStyle& style);
+    void WriteOutput(const ZTBatchOutputSettings& settings);
+
+    /// The text of the job. The writer is used up.
+    QString TakeText();
+
+private:
+    Q_DISABLE_COPY(ZTBatchJobWriter)
+
+    void WriteImageSize(const ZTBatchOutputSettings& settings);
+    void WriteImageFormat(const ZTBatchOutputSettings& settings);
+    void WriteNaming(const ZTBatchOutputSettings& settings);
+    void WriteTransformation(const ZTBatchOutputSettings& settings);
+    void WriteCrop(const ZTBatchOutputSettings& settings);
+
+    ZTXmlWriter xml;
+};

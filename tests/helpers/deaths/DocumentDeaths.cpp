@@ -1,0 +1,59 @@
+#include "DeathCase.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
+#include "ZTStyle.h"
+
+namespace {
+
+// The three objects are the document's; these hosts delete them all the same.
+
+const DeathCase serializeWithoutModel("document-serialize-without-model", [] {
+    const ZTBatchDocument document;
+    delete document.GetInputModel();
+    document.Serialize(nullptr);
+});
+
+const DeathCase serializeWithoutStyle("document-serialize-without-style", [] {
+    const ZTBatchDocument document;
+    delete document.GetStyle();
+    document.Serialize(nullptr);
+});
+
+const DeathCase serializeWithoutSettings("document-serialize-without-settings", [] {
+    const ZTBatchDocument document;
+    delete document.GetOutputSettings();
+    document.Serialize(nullptr);
+});
+
+const DeathCase setStyleWithoutStyle("document-set-style-without-style", [] {
+    ZTBatchDocument document;
+    delete document.GetStyle();
+    document.SetStyle(ZTStyle(QString(), QString(), nullptr, nullptr));
+});
+
+void Read(ZTBatchDocument& document)
+{
+    document.Deserialize(QStringLiteral("<!DOCTYPE batch><root/>"));
+}
+
+const DeathCase readWithoutModel("document-read-without-model", [] {
+    ZTBatchDocument document;
+    delete document.GetInputModel();
+    Read(document);
+});
+
+const DeathCase readWithoutStyle("document-read-without-style", [] {
+    ZTBatchDocument document;
+    delete document.GetStyle();
+    Read(document);
+});
+
+const DeathCase readWithoutSettings("document-read-without-settings", [] {
+    ZTBatchDocument document;
+    delete document.GetOutputSettings();
+    Read(document);
+});
+
+} // namespace
