@@ -18,7 +18,7 @@ constexpr int lastWritesTimeout = 1000; // ms
 /// Messages with a payload up to `smallPayload` are put together into requests of about `writeSize`, and larger
 /// payloads are written in pieces of that size. Bytes.
 constexpr int smallPayload = 16 * 1024;
-constexpr int writeSize = 64 * 1024;
+constexpr int writeSize = 256 * 1024;
 
 /// How many events of one poll are handed to the owner at a time.
 constexpr std::size_t largestLot = 128;
@@ -121,7 +121,6 @@ void ZTPipeSession::Private::AskForWrite(const QString& name, const QByteArray& 
                              waiting.back().payload.isNull() && waiting.back().frames.size() < writeSize;
         if (!hasRoom) {
             waiting.push_back({Request::Kind::Write, 0, {}, {}, {}});
-            waiting.back().frames.reserve(writeSize + smallPayload);
         }
         Request& request = waiting.back();
         AppendFrameFront(request.frames, name, data);
