@@ -1,0 +1,170 @@
+#include "ScriptedServer.h"
+
+#include "Wire.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocalSocket>
+#include <QThread>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdlib>
+
+namespace {
+
+/// Appends in one write, so that a reader finds lines whole.
+void Append(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered) ||
+        file.write(bytes) != bytes.size()) {
+        qFatal("Nothing can be written to %s", qUtf8Printable(path));
+    }
+}
+
+} // namespace
+
+ScriptedServer::ScriptedServer(const QString& basePath, const QString& pipeName)
+    : m_basePath(basePath)
+    , m_pipeName(pipeName)
+    , m_script(ServerScript::Load(basePath + QStringLiteral(".script")))
+{
+    connect(&m_server, &QLocalServer::newConnection, this, &ScriptedServer::OnConnection);
+}
+
+void ScriptedServer::Begin()
+{
+    Note(QStringLiteral("pid %1").arg(QCoreApplication::applicationPid()));
+    Note(QStringLiteral("arguments ") + QCoreApplication::arguments().mid(1).join(QLatin1Char('|')));
+    Trigger(QStringLiteral("start"));
+}
+
+void ScriptedServer::Trigger(const QString& trigger)
+{
+    m_pending += m_script.Actions(trigger);
+    DoPending();
+}
+
+void ScriptedServer::DoPending()
+{
+    while (!m_pending.isEmpty() && !m_isWaiting) {
+        Do(m_pending.takeFirst());
+    }
+}
+
+void ScriptedServer::Do(const QString& action)
+{
+    const QStringList words = action.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QString verb = words.value(0);
+    if (verb == QLatin1String("open")) {
+        Open();
+    } else if (verb == QLatin1String("close")) {
+        m_server.close();
+    } else if (verb == QLatin1String("wait")) {
+        m_isWaiting = true;
+        QTimer::singleShot(words.value(1).toInt(), this, [this] {
+            m_isWaiting = false;
+            DoPending();
+        });
+    } else if (verb == QLatin1String("send")) {
+        Write(Wire::Frame(words.value(1), Wire::Payload(words.mid(2), m_sessionId)));
+    } else if (verb == QLatin1String("cut")) {
+        Write(Wire::Frame(words.value(2), Wire::Payload(words.mid(3), m_sessionId)).left(words.value(1).toInt()));
+    } else if (verb == QLatin1String("raw")) {
+        Write(QByteArray::fromHex(words.value(1).toLatin1()));
+    } else if (verb == QLatin1String("flood")) {
+        Flood(words.value(1).toInt());
+    } else if (verb == QLatin1String("note")) {
+        Note(action);
+    } else if (verb == QLatin1String("disconnect")) {
+        m_latest->disconnectFromServer();
+    } else if (verb == QLatin1String("exit")) {
+        std::_Exit(words.value(1).toInt());
+    } else if (verb == QLatin1String("crash")) {
+        std::abort();
+    } else if (verb == QLatin1String("hang")) {
+        QThread::sleep(600);
+    } else {
+        qFatal("The script has an unknown action: %s", qUtf8Printable(action));
+    }
+}
+
+void ScriptedServer::Open()
+{
+    QLocalServer::removeServer(m_pipeName);
+    if (!m_server.listen(m_pipeName)) {
+        qFatal("The pipe cannot be opened: %s", qUtf8Printable(m_server.errorString()));
+    }
+    Note(QStringLiteral("open"));
+}
+
+void ScriptedServer::OnConnection()
+{
+    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+        int number = 1;
+        while (QFile::exists(m_basePath + QStringLiteral(".in.%1").arg(number))) {
+            ++number;
+        }
+        Append(m_basePath + QStringLiteral(".in.%1").arg(number), QByteArray());
+        Note(QStringLiteral("connect %1").arg(number));
+        m_latest = socket;
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket, number] { OnBytes(socket, number); });
+        connect(socket, &QLocalSocket::disconnected, this,
+                [this, number] { Note(QStringLiteral("disconnect %1").arg(number)); });
+        Trigger(QStringLiteral("connect"));
+        OnBytes(socket, number);
+    }
+}
+
+void ScriptedServer::OnBytes(QLocalSocket* socket, int number)
+{
+    const QByteArray bytes = socket->readAll();
+    if (bytes.isEmpty()) {
+        return;
+    }
+    Append(m_basePath + QStringLiteral(".in.%1").arg(number), bytes);
+    QByteArray& unparsed = m_unparsed[socket];
+    unparsed += bytes;
+    QString name;
+    QByteArray payload;
+    while (Wire::TakeFrame(unparsed, name, payload)) {
+        OnMessage(name, payload);
+    }
+}
+
+void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
+{
+    Note(QStringLiteral("message ") + name);
+    if (name == QLatin1String("0")) {
+        m_sessionId = Wire::FirstText(payload);
+    }
+    if (name == QLatin1String("21") && !m_script.Has(name)) {
+        m_server.close();
+        std::_Exit(0);
+    }
+    Trigger(name);
+}
+
+void ScriptedServer::Write(const QByteArray& bytes)
+{
+    m_latest->write(bytes);
+    m_latest->flush();
+}
+
+void ScriptedServer::Flood(int count)
+{
+    QByteArray burst;
+    for (int i = 0; i < count; ++i) {
+        burst += Wire::Frame(QStringLiteral("7"), Wire::Text(m_sessionId) + Wire::Int(i));
+    }
+    // The clock that the receiving process reads too.
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    Note(QStringLiteral("flood %1").arg(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
+    Write(burst);
+}
+
+void ScriptedServer::Note(const QString& event)
+{
+    Append(m_basePath + QStringLiteral(".events"), event.toUtf8() + '\n');
+}

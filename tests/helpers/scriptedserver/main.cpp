@@ -1,0 +1,21 @@
+#include "ProcessEnd.h"
+#include "ScriptedServer.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    EndWithParent();
+    AbortQuietly();
+    QCoreApplication application(argc, argv);
+
+    // Nobody waits that long; whoever forgets a server is not left with it.
+    QTimer::singleShot(300000, [] { std::_Exit(99); });
+
+    ScriptedServer server(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().value(1));
+    QTimer::singleShot(0, &server, &ScriptedServer::Begin);
+    return QCoreApplication::exec();
+}

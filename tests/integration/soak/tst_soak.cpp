@@ -1,0 +1,152 @@
+#include "ManagerRun.h"
+#include "OwnFolder.h"
+
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTimer>
+#include <QtTest>
+
+#include <cstdio>
+
+// Long lives: nothing piles up, and no moment for the server to die is a bad one.
+
+namespace {
+
+using Session = ZTBatchManager::ZTBatchSession;
+
+const QString opensAtOnce = QStringLiteral("start: open");
+
+/// The memory of this process in KiB; 0 where that cannot be told.
+qint64 ResidentMemory()
+{
+#ifdef Q_OS_LINUX
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:")) {
+                return line.mid(6).simplified().split(' ').first().toLongLong();
+            }
+        }
+    }
+#endif
+    return 0;
+}
+
+/// To the terminal, past the collection of the debug lines.
+void Say(const QString& text)
+{
+    std::printf("%s\n", qPrintable(text));
+    std::fflush(stdout);
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool memoryIsMeasured = false; // freed memory is kept back on purpose
+#else
+constexpr bool memoryIsMeasured = true;
+#endif
+
+} // namespace
+
+class tst_Soak : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thousandRuns();
+    void serverKilledAtAnyMoment();
+};
+
+void tst_Soak::thousandRuns()
+{
+    constexpr int warmUp = 200;
+    constexpr int runs = 1000;
+    constexpr qint64 allowedGrowth = 1024; // KiB: a KiB for each run at most
+
+    ManagerRun run(
+        {opensAtOnce,
+         QStringLiteral("5: send 11 id i:0 i:2; send 8 id s:a; send 7 id i:1; send 10 id s:line; send 16 id"),
+         QStringLiteral("16: send 9 id s:a s:b; send 7 id i:2; send 6 id")});
+    QVERIFY(run.Connect());
+    qint64 memoryBefore = 0;
+    for (int i = 0; i < warmUp + runs; ++i) {
+        if (i == warmUp) {
+            memoryBefore = ResidentMemory();
+        }
+        QVERIFY(run.Manager()->IsAllowToCreateSession());
+        const QPointer<Session> session = run.Manager()->CreateBatchSession();
+        QVERIFY(session);
+        run.log.lines.clear();
+        run.log.Watch(session);
+        bool isOver = false;
+        connect(session, &Session::InputQuestion, session,
+                [&session] { session->InputRespond(ZTBatchManager::InputSkip, true); });
+        connect(session, &Session::Finished, session, [&isOver] { isOver = true; });
+        QVERIFY(session->Process(QStringLiteral("<batch/>")));
+        while (!isOver) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QCOMPARE(run.log.lines.join(QLatin1Char(';')),
+                 QStringLiteral("range 0 2;file [a];progress 1;log [line];input question;processed [a] [b];"
+                                "progress 2;finished"));
+        delete session;
+    }
+    const qint64 growth = ResidentMemory() - memoryBefore;
+    Say(QStringLiteral("%1 runs, memory %2 KiB before them and %3 KiB more behind them")
+            .arg(runs)
+            .arg(memoryBefore)
+            .arg(growth));
+    QCOMPARE(run.log.Count(QStringLiteral("failed")), 0);
+    QVERIFY(Eventually([&] { return run.stage.Count(QStringLiteral("message 1")) == warmUp + runs; }));
+    QVERIFY2(!memoryIsMeasured || growth <= allowedGrowth, qPrintable(QString::number(growth)));
+    QCOMPARE(run.Manager()->children().size(), 2); // the process and the pipe
+}
+
+void tst_Soak::serverKilledAtAnyMoment()
+{
+    constexpr int starts = 200;
+    constexpr quint32 seed = 20240611;
+    Say(QStringLiteral("seed %1").arg(seed));
+    QRandomGenerator random(seed);
+
+    // From before the pipe is open until deep in a run.
+    ManagerRun run({QStringLiteral("start: wait 5; open"),
+                    QStringLiteral("5: send 11 id i:0 i:9; flood 3000; wait 5; flood 3000; send 6 id")});
+    run.timings.reconnectInterval = 10;
+    int sessions = 0;
+    connect(run.Manager(), &ZTBatchManager::ConnectionEstablished, this, [&] {
+        if (run.Manager()->IsAllowToCreateSession()) {
+            const QPointer<Session> session = run.Manager()->CreateBatchSession();
+            if (!session) {
+                return; // The server was gone before the host heard of it.
+            }
+            ++sessions;
+            session->Process(QStringLiteral("<batch/>"));
+            // The end of the server and the end of a run both end the session.
+            connect(session, &Session::Aborted, session, [session] { delete session; });
+            connect(session, &Session::Finished, session, [session] { delete session; });
+        }
+    });
+    for (int i = 0; i < starts; ++i) {
+        run.Manager()->Start();
+        QVERIFY(run.Manager()->IsStarted());
+        const QPointer<QProcess> process = run.Process();
+        QTimer::singleShot(static_cast<int>(random.bounded(120)), process, &QProcess::kill);
+        QVERIFY(Eventually([&] { return run.log.Count(QStringLiteral("failed")) == i + 1; }));
+        QVERIFY(!run.Manager()->IsStarted());
+        QVERIFY(run.Manager()->IsAllowToCreateSession());
+        QCoreApplication::processEvents();
+        QCOMPARE(run.log.Count(QStringLiteral("failed")), i + 1);
+    }
+    QCOMPARE(run.stage.LivingServers(), QList<qint64>());
+    QVERIFY(sessions > 0);
+    Say(QStringLiteral("%1 starts, %2 sessions").arg(starts).arg(sessions));
+
+    run.timings.reconnectInterval = 1000;
+    run.stage.Play({opensAtOnce});
+    QVERIFY(Eventually([&] { return run.Process() == nullptr; }));
+    run.Manager()->Start();
+    QVERIFY(Eventually([&] { return sessions > 0 && run.Manager()->CreateBatchSession(); }));
+}
+
+OWN_FOLDER_TEST_MAIN(tst_Soak)
+#include "tst_soak.moc"

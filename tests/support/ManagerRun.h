@@ -1,0 +1,54 @@
+#pragma once
+
+#include "DebugLines.h"
+#include "HostLog.h"
+#include "PrivateTempDir.h"
+#include "ServerStage.h"
+#include "ZTBatchManagerTimings_p.h"
+#include "ZTBatchSession.h"
+
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+
+class QProcess;
+
+/// Turns the event loop until `condition` holds, 20 seconds at most; returns whether it does.
+bool Eventually(const std::function<bool()>& condition);
+
+/// A host with a manager and a stage for its server: one for each test. Reconnects every 100 ms, so that a server is
+/// connected soon after it opened its pipe; the other waits are as long as they are for users. Its end releases the
+/// manager and puts the waits back.
+class ManagerRun
+{
+public:
+    using Session = ZTBatchManager::ZTBatchSession;
+
+    explicit ManagerRun(const QStringList& rules);
+    ~ManagerRun();
+
+    /// Starts the server and waits until it is connected.
+    bool Connect();
+
+    /// A session whose emissions go to the log; the server knows it when this returns. Null when that failed.
+    QPointer<Session> CreateSession();
+
+    /// The manager; null when it was released.
+    static ZTBatchManager* Manager() { return ZTBatchManager::Instance(); }
+    static QProcess* Process();
+
+    /// What the manager and its private part have written, in order.
+    QStringList DebugTexts() const;
+
+    QString SettingsDir() const { return folder.FilePath(QStringLiteral("settings")); }
+
+    PrivateTempDir folder;
+    ServerStage stage;
+    ZTBatchManagerTimings& timings = ZTBatchManagerTimings::InUse();
+    DebugLines debugLines;
+    HostLog log;
+
+private:
+    Q_DISABLE_COPY(ManagerRun)
+};

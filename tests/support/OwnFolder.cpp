@@ -1,0 +1,78 @@
+#include "OwnFolder.h"
+
+#include "ProcessEnd.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+constexpr char folderVariable[] = "BATCHCORE_TEST_OWN_FOLDER";
+constexpr int failure = 97;
+
+#ifdef Q_OS_WIN
+const QString suffix = QStringLiteral(".exe");
+#else
+const QString suffix;
+#endif
+
+/// A hard link where that is possible: the executable must find itself in the new place.
+bool Place(const QString& from, const QString& to)
+{
+    std::error_code error;
+    std::filesystem::create_hard_link(from.toStdString(), to.toStdString(), error);
+    return !error || QFile::copy(from, to);
+}
+
+int RunThere(const QString& executable, const QString& folder, const QStringList& arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(folderVariable), folder);
+    environment.insert(QStringLiteral("TMPDIR"), folder);
+
+    QProcess test;
+    test.setProcessEnvironment(environment);
+    test.setProcessChannelMode(QProcess::ForwardedChannels);
+    test.setInputChannelMode(QProcess::ForwardedInputChannel);
+    test.start(executable, arguments);
+    if (!test.waitForFinished(-1) || test.exitStatus() != QProcess::NormalExit) {
+        std::fprintf(stderr, "The test did not end by itself: %s\n", qUtf8Printable(test.errorString()));
+        return failure;
+    }
+    return test.exitCode();
+}
+
+int RunInNewFolder(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QTemporaryDir folder;
+    const QDir from(QCoreApplication::applicationDirPath());
+    const QDir to(folder.path());
+    const QString executable = to.filePath(QFileInfo(QCoreApplication::applicationFilePath()).fileName());
+    if (!folder.isValid() || !Place(QCoreApplication::applicationFilePath(), executable) ||
+        !Place(from.filePath(QStringLiteral("scriptedserver") + suffix),
+               to.filePath(QStringLiteral("VelkoraBatchProcessing") + suffix)) ||
+        !Place(from.filePath(QStringLiteral("deaths") + suffix), to.filePath(QStringLiteral("deaths") + suffix))) {
+        std::fprintf(stderr, "The test's folder could not be made.\n");
+        return failure;
+    }
+    return RunThere(executable, folder.path(), QCoreApplication::arguments().mid(1));
+}
+
+} // namespace
+
+int RunInOwnFolder(int argc, char** argv, int (*runTest)(int, char**))
+{
+    if (!qEnvironmentVariableIsSet(folderVariable)) {
+        return RunInNewFolder(argc, argv);
+    }
+    EndWithParent();
+    return runTest(argc, argv);
+}
