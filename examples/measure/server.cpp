@@ -7,8 +7,8 @@
 #include "ZTBatchPayload.h"
 #include "ZTPipeSession.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QImageReader>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -121,8 +121,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     Server server;
     const QString pipeName = QCoreApplication::arguments().value(1);
     if (pipeName.isEmpty() || !server.Listen(pipeName)) {
