@@ -4,39 +4,50 @@
 
 ZTBatchInputOutline::ZTBatchInputOutline(const ZTBatchInputModel& model, Filter filter)
 {
-    // The root, and behind it whatever is found below what stands in the list already.
+    struct FolderEntry
+    {
+        QModelIndex index;
+        int entry;
+    };
+    // The root, and behind it the folders that are found on the way.
     entries.append(Entry());
-    for (int i = 0; i < entries.size(); ++i) {
-        const Entry folder = entries.at(i);
-        entries[i].firstChild = entries.size();
-        if (folder.record == nullptr || folder.record->type == Folder) {
-            const int rows = model.rowCount(folder.index);
-            for (int row = 0; row < rows; ++row) {
-                const QModelIndex index = model.index(row, 0, folder.index);
-                const BatchNodeData* const record = model.getNodeData(index);
-                if (record != nullptr && (filter == Everything || IsWritten(record->fileName))) {
-                    entries.append({index, record, 0, 0});
-                }
+    QVector<FolderEntry> folders{{QModelIndex(), 0}};
+    for (int i = 0; i < folders.size(); ++i) {
+        const FolderEntry folder = folders.at(i);
+        const int firstChild = entries.size();
+        const int rows = model.rowCount(folder.index);
+        for (int row = 0; row < rows; ++row) {
+            const QModelIndex index = model.index(row, 0, folder.index);
+            const BatchNodeData* const record = model.getNodeData(index);
+            if (record == nullptr || (filter == ExistingOnce && !IsWritten(record->fileName))) {
+                continue;
             }
+            if (record->type == Folder) {
+                folders.append({index, entries.size()});
+            }
+            entries.append({record, 0, 0});
         }
-        entries[i].childrenEnd = entries.size();
+        entries[folder.entry].firstChild = firstChild;
+        entries[folder.entry].childrenEnd = entries.size();
     }
 }
 
 bool ZTBatchInputOutline::IsWritten(const QString& path)
 {
-    const bool exists = QFileInfo::exists(path);
-    if (!exists) {
+    if (!QFileInfo::exists(path)) {
         missingFiles.Add(path);
-    }
-    const bool isDuplicate = writtenPaths.contains(path);
-    if (isDuplicate) {
-        duplicateFiles.Add(path);
-    }
-    if (!exists || isDuplicate) {
+        // It may have gone away since it was met before.
+        if (writtenPaths.contains(path)) {
+            duplicateFiles.Add(path);
+        }
         return false;
     }
+    const int count = writtenPaths.size();
     writtenPaths.insert(path);
+    if (writtenPaths.size() == count) {
+        duplicateFiles.Add(path);
+        return false;
+    }
     return true;
 }
 

@@ -32,7 +32,6 @@ private:
 
     struct Entry
     {
-        QModelIndex index;
         const BatchNodeData* record = nullptr; ///< null for the root
         int firstChild = 0;
         int childrenEnd = 0;

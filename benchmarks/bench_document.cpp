@@ -1,0 +1,243 @@
+#include "Stopwatch.h"
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+
+#include <QDomDocument>
+#include <QFileInfo>
+#include <QString>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+using Node = TreeNode<BatchNodeData>;
+
+/// How the files of a job are spread: all in one folder, or some hundred to a folder, some folders to a folder.
+enum class Shape { OneFolder, Realistic };
+
+constexpr int filesPerFolder = 300;
+constexpr int foldersPerFolder = 20;
+
+/// One of a million paths of the same length that all lead to `folder`, so that the file system finds each of them.
+QString PathTo(const QString& folder, int number)
+{
+    constexpr int bits = 20;
+    QString path = folder;
+    for (int bit = 0; bit < bits; ++bit) {
+        path += (number >> bit) % 2 == 0 ? QLatin1String("/./") : QLatin1String("//.");
+    }
+    return path;
+}
+
+Node* NewNode(const QString& text, const QString& path, BatchNodeType type)
+{
+    auto* const node = new Node;
+    node->data.inputText = text;
+    node->data.inputInfo = QStringLiteral("6000 x 4000, 24 bit");
+    node->data.fileName = path;
+    node->data.lastModification = QStringLiteral("2024-05-01T12:00:00");
+    node->data.type = type;
+    node->data.enabled = true;
+    node->data.fileNodesCount = type == File ? 1 : 0;
+    return node;
+}
+
+/// A document with so many nodes.
+class Job
+{
+public:
+    Job(const QString& directory, Shape shape, int nodeCount)
+    {
+        ZTBatchInputModel* const model = document.GetInputModel();
+        Node* outer = nullptr;
+        Node* folder = nullptr;
+        int foldersBelowOuter = 0;
+        for (int i = 0; i < nodeCount; ++i) {
+            const QString number = QStringLiteral("%1").arg(i, 8, 10, QLatin1Char('0'));
+            const QString path = PathTo(directory, i);
+            if (shape == Shape::Realistic && (outer == nullptr || foldersBelowOuter == foldersPerFolder)) {
+                outer = NewNode(QLatin1String("month ") + number, path, Folder);
+                model->InsertBranch(outer, QModelIndex());
+                foldersBelowOuter = 0;
+                folder = nullptr;
+            } else if (folder == nullptr || (shape == Shape::Realistic && folder->children.size() == filesPerFolder)) {
+                folder = NewNode(QLatin1String("day ") + number, path, Folder);
+                model->InsertBranch(folder, model->indexFromNode(outer));
+                ++foldersBelowOuter;
+            } else {
+                model->InsertBranch(NewNode(QLatin1String("IMG_") + number, path, File), model->indexFromNode(folder));
+            }
+        }
+    }
+
+    ZTBatchDocument document;
+};
+
+/// What the document's own way is compared with: the DOM, given the same elements and attributes with no thought.
+class BareDom
+{
+public:
+    explicit BareDom(const ZTBatchDocument& document)
+    {
+        const QModelIndex first = document.GetInputModel()->index(0, 0);
+        root = static_cast<Node*>(first.internalPointer())->parent;
+    }
+
+    /// Builds the document and prints it.
+    double Write()
+    {
+        const Stopwatch stopwatch;
+        QDomDocument dom(QStringLiteral("batch"));
+        QDomElement element = dom.createElement(QStringLiteral("root"));
+        element.setAttribute(QStringLiteral("name"), QString());
+        dom.appendChild(element);
+        const QDomElement input = dom.createElement(QStringLiteral("input"));
+        element.appendChild(input);
+        QVector<std::pair<const Node*, QDomElement>> folders{{root, input}};
+        for (int i = 0; i < folders.size(); ++i) {
+            auto [folder, parent] = folders.at(i);
+            for (const Node* const node : folder->children) {
+                QDomElement child = dom.createElement(QStringLiteral("inputElement"));
+                child.setAttribute(QStringLiteral("inputText"), node->data.inputText);
+                child.setAttribute(QStringLiteral("inputInfo"), node->data.inputInfo);
+                child.setAttribute(QStringLiteral("fileName"), node->data.fileName);
+                child.setAttribute(QStringLiteral("type"), node->data.type);
+                child.setAttribute(QStringLiteral("lastModification"), node->data.lastModification);
+                parent.appendChild(child);
+                if (!node->children.isEmpty()) {
+                    folders.append({node, child});
+                }
+            }
+        }
+        const QString text = dom.toString(4);
+        const double time = stopwatch.Nanoseconds();
+        if (text.isEmpty()) {
+            std::abort();
+        }
+        return time;
+    }
+
+    static double Parse(const QString& text)
+    {
+        QDomDocument dom;
+        const Stopwatch stopwatch;
+        const bool isParsed = dom.setContent(text, false);
+        const double time = stopwatch.Nanoseconds();
+        if (!isParsed) {
+            std::abort();
+        }
+        return time;
+    }
+
+private:
+    const Node* root;
+};
+
+double Write(const ZTBatchDocument& document, QObject* sink)
+{
+    const Stopwatch stopwatch;
+    const QString text = document.Serialize(sink);
+    const double time = stopwatch.Nanoseconds();
+    if (text.isEmpty()) {
+        std::abort();
+    }
+    return time;
+}
+
+/// What the memory alone asks for: the text in a string of its own.
+double Copy(const QString& text)
+{
+    const Stopwatch stopwatch;
+    const QString copy(text.constData(), text.size());
+    const double time = stopwatch.Nanoseconds();
+    if (copy.isEmpty()) {
+        std::abort();
+    }
+    return time;
+}
+
+/// What the file system alone asks for.
+double AskTheDisk(const ZTBatchDocument& document)
+{
+    const ZTBatchInputModel* const model = document.GetInputModel();
+    int found = 0;
+    const Stopwatch stopwatch;
+    QVector<QModelIndex> folders{QModelIndex()};
+    for (int i = 0; i < folders.size(); ++i) {
+        const QModelIndex folder = folders.at(i);
+        const int rows = model->rowCount(folder);
+        for (int row = 0; row < rows; ++row) {
+            const QModelIndex index = model->index(row, 0, folder);
+            const BatchNodeData* const record = model->getNodeData(index);
+            found += QFileInfo::exists(record->fileName) ? 1 : 0;
+            if (record->type == Folder) {
+                folders.append(index);
+            }
+        }
+    }
+    const double time = stopwatch.Nanoseconds();
+    if (found == 0) {
+        std::abort();
+    }
+    return time;
+}
+
+double Read(const QString& text)
+{
+    ZTBatchDocument document;
+    const Stopwatch stopwatch;
+    const bool isRead = document.Deserialize(text);
+    const double time = stopwatch.Nanoseconds();
+    if (!isRead || document.GetInputModel()->GetFileNodesCount() == 0) {
+        std::abort();
+    }
+    return time;
+}
+
+} // namespace
+
+/// Argument: the greatest number of nodes (1000000). What the DOM needs to destroy its documents is not counted for it,
+/// but the document's own reading does it and is charged with it.
+int main(int argc, char** argv)
+{
+    const int most = argc > 1 ? std::atoi(argv[1]) : 1000000;
+    const QTemporaryDir directory;
+    QObject sink;
+
+    for (const Shape shape : {Shape::OneFolder, Shape::Realistic}) {
+        std::printf("%s\n", shape == Shape::OneFolder ? "One folder" : "Realistic tree");
+        Series write("Serialize without sink", 1.5);
+        Series copy("  of that, memory for the text", 0);
+        Series writeWithSink("Serialize with sink", 1.5);
+        Series disk("  of that, asking the disk", 0);
+        Series read("Deserialize", 1.5);
+        Series domWrite("bare DOM, build and print", 0);
+        Series domParse("bare DOM, parse", 0);
+        for (int count = 10000; count <= most; count *= 10) {
+            const int repeats = RepeatsFor(count) * 3;
+            const Job job(directory.path(), shape, count);
+            const QString text = job.document.Serialize(nullptr);
+            const double writeTime = Median(repeats, [&] { return Write(job.document, nullptr); });
+            const double sinkTime = Median(repeats, [&] { return Write(job.document, &sink); });
+            const double copyTime = Median(repeats, [&] { return Copy(text); });
+            const double diskTime = Median(repeats, [&] { return AskTheDisk(job.document); });
+            const double readTime = Median(repeats, [&] { return Read(text); });
+            const double domWriteTime = Median(repeats, [&] { return BareDom(job.document).Write(); });
+            const double domParseTime = Median(repeats, [&] { return BareDom::Parse(text); });
+            write.Add(count, writeTime / count);
+            copy.Add(count, copyTime / count);
+            writeWithSink.Add(count, sinkTime / count);
+            disk.Add(count, diskTime / count);
+            read.Add(count, readTime / count);
+            domWrite.Add(count, domWriteTime / count);
+            domParse.Add(count, domParseTime / count);
+            const double ratio = (writeTime + readTime) / (domWriteTime + domParseTime);
+            std::printf("writing and reading against the bare DOM: x %.2f (goal: at most 1.25)%s\n", ratio,
+                        ratio > 1.25 ? "  above the goal" : "");
+        }
+    }
+    return 0;
+}
