@@ -58,6 +58,7 @@ QString ZTBatchOutputSettings::GetOriginalFormat()
 
 QString ZTBatchOutputSettings::GetOriginalFormatName()
 {
+    //: Stands among the names of file formats: each picture keeps the format that it has.
     return tr("Original");
 }
 

@@ -1,0 +1,203 @@
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchMessage.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QDomDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTranslator>
+#include <QtTest>
+
+/// Tests of the catalogues that are shipped.
+class tst_Translations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sourcesAreFinished_data() { languages(); }
+    void sourcesAreFinished();
+    void sourcesMatchTheCode_data() { languages(); }
+    void sourcesMatchTheCode();
+    void everyTextIsTranslated_data() { languages(); }
+    void everyTextIsTranslated();
+    void libraryShowsTranslations_data();
+    void libraryShowsTranslations();
+
+private:
+    static void languages();
+};
+
+namespace {
+
+struct Message
+{
+    QString context;
+    QString source;
+    QString translation;
+    QString state;
+
+    QString Name() const { return context + QLatin1String(": ") + source; }
+};
+
+QVector<Message> Messages(const QString& file)
+{
+    QFile source(file);
+    QDomDocument document;
+    if (!source.open(QIODevice::ReadOnly) || !document.setContent(&source)) {
+        return {};
+    }
+    QVector<Message> messages;
+    for (QDomElement context = document.documentElement().firstChildElement(QStringLiteral("context"));
+         !context.isNull(); context = context.nextSiblingElement(QStringLiteral("context"))) {
+        const QString name = context.firstChildElement(QStringLiteral("name")).text();
+        for (QDomElement message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
+             message = message.nextSiblingElement(QStringLiteral("message"))) {
+            const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
+            messages.append({name, message.firstChildElement(QStringLiteral("source")).text(), translation.text(),
+                             translation.attribute(QStringLiteral("type"))});
+        }
+    }
+    return messages;
+}
+
+QString SourceFile(const QString& language)
+{
+    return QStringLiteral(CATALOGUE_SOURCES "/batchcore_%1.ts").arg(language);
+}
+
+QString CatalogueFile(const QString& language)
+{
+    return QStringLiteral(CATALOGUES "/batchcore_%1.qm").arg(language);
+}
+
+QStringList Names(const QVector<Message>& messages)
+{
+    QStringList names;
+    for (const Message& message : messages) {
+        names.append(message.Name());
+    }
+    names.sort();
+    return names;
+}
+
+} // namespace
+
+void tst_Translations::languages()
+{
+    QTest::addColumn<QString>("language");
+    for (const char* const language : {"de", "es", "fr", "ja"}) {
+        QTest::newRow(language) << QString::fromLatin1(language);
+    }
+}
+
+void tst_Translations::sourcesAreFinished()
+{
+    QFETCH(QString, language);
+
+    const QVector<Message> messages = Messages(SourceFile(language));
+    QVERIFY(messages.size() >= 19);
+    for (const Message& message : messages) {
+        QVERIFY2(message.state.isEmpty() && !message.translation.isEmpty(), qPrintable(message.Name()));
+        // A sentence stays one, an introduction to a list too.
+        QCOMPARE(QStringLiteral(".:\u3002\uFF1A").contains(message.translation.right(1)),
+                 QStringLiteral(".:").contains(message.source.right(1)));
+    }
+}
+
+/// What the tools find in the code now is what the catalogue has, no more and no less.
+void tst_Translations::sourcesMatchTheCode()
+{
+    QFETCH(QString, language);
+
+    const QTemporaryDir folder;
+    const QString fresh = folder.filePath(QStringLiteral("fresh_%1.ts").arg(language));
+    QProcess tool;
+    tool.setProcessChannelMode(QProcess::MergedChannels);
+    tool.start(QStringLiteral(LUPDATE),
+               {QStringLiteral("-locations"), QStringLiteral("none"), QStringLiteral(LIBRARY_SOURCES "/src"),
+                QStringLiteral(LIBRARY_SOURCES "/include"), QStringLiteral("-ts"), fresh});
+    QVERIFY(tool.waitForFinished());
+    QVERIFY2(tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0, tool.readAll().constData());
+    const QStringList names = Names(Messages(fresh));
+    QVERIFY(!names.isEmpty());
+    QCOMPARE(Names(Messages(SourceFile(language))), names);
+}
+
+void tst_Translations::everyTextIsTranslated()
+{
+    QFETCH(QString, language);
+
+    QTranslator translator;
+    QVERIFY(translator.load(CatalogueFile(language)));
+    const QVector<Message> messages = Messages(SourceFile(language));
+    for (const Message& message : messages) {
+        QCOMPARE(translator.translate(message.context.toUtf8().constData(), message.source.toUtf8().constData()),
+                 message.translation);
+    }
+}
+
+void tst_Translations::libraryShowsTranslations_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("original");
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("tooLarge");
+    QTest::addColumn<QString>("notFound");
+    QTest::addColumn<QString>("terminated");
+
+    QTest::newRow("de") << QStringLiteral("de") << QStringLiteral("Original") << QStringLiteral("Bild")
+                        << QStringLiteral("Das Bild ist zu gro\u00DF.")
+                        << QStringLiteral("Warnung! Einige Dateien wurden nicht gefunden und \u00FCbersprungen:")
+                        << QStringLiteral("Der Prozess wurde unerwartet beendet.");
+    QTest::newRow("es") << QStringLiteral("es") << QStringLiteral("Original") << QStringLiteral("Imagen")
+                        << QStringLiteral("La imagen es demasiado grande.")
+                        << QStringLiteral("\u00A1Advertencia! Algunos archivos no se han encontrado y se han omitido:")
+                        << QStringLiteral("El proceso ha terminado de forma an\u00F3mala.");
+    QTest::newRow("fr") << QStringLiteral("fr") << QStringLiteral("Original") << QStringLiteral("Image")
+                        << QStringLiteral("L\u2019image est trop grande.")
+                        << QStringLiteral("Attention\u202F! Certains fichiers sont introuvables et ont \u00E9t\u00E9 "
+                                          "ignor\u00E9s\u00A0:")
+                        << QStringLiteral("Le processus s\u2019est termin\u00E9 de fa\u00E7on anormale.");
+    QTest::newRow("ja") << QStringLiteral("ja") << QStringLiteral("\u5143\u306E\u5F62\u5F0F")
+                        << QStringLiteral("\u753B\u50CF")
+                        << QStringLiteral("\u753B\u50CF\u304C\u5927\u304D\u3059\u304E\u307E\u3059\u3002")
+                        << QStringLiteral("\u8B66\u544A\uFF1A\u4E00\u90E8\u306E\u30D5\u30A1\u30A4\u30EB\u304C\u898B"
+                                          "\u3064\u304B\u3089\u306A\u3044\u305F\u3081\u3001\u30B9\u30AD\u30C3\u30D7"
+                                          "\u3055\u308C\u307E\u3057\u305F\uFF1A")
+                        << QStringLiteral("\u30D7\u30ED\u30BB\u30B9\u304C\u7570\u5E38\u7D42\u4E86\u3057\u307E\u3057"
+                                          "\u305F\u3002");
+}
+
+void tst_Translations::libraryShowsTranslations()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, original);
+    QFETCH(QString, image);
+    QFETCH(QString, tooLarge);
+    QFETCH(QString, notFound);
+    QFETCH(QString, terminated);
+
+    QTranslator translator;
+    QVERIFY(translator.load(CatalogueFile(language)));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCOMPARE(ZTBatchOutputSettings::GetOriginalFormatName(), original);
+    QCOMPARE(ZTBatchOutputSettings::GetOriginalFormat(), QStringLiteral("Original"));
+    QCOMPARE(ZTBatchMessage::ErrorDescription(ZTBatchMessage::ImageTooLarge), tooLarge);
+    QCOMPARE(QCoreApplication::translate("ZTBatchManager", "Abnormal process termination."), terminated);
+
+    ZTBatchDocument document;
+    QCOMPARE(document.GetOutputSettings()->GetCustomTemplate(ZTBatchOutputSettings::PartMiddle), image);
+    auto* const node = new TreeNode<BatchNodeData>;
+    node->data.type = File;
+    node->data.fileName = QStringLiteral("/nowhere/a.jpg");
+    document.GetInputModel()->InsertBranch(node, QModelIndex());
+    QTextBrowser browser;
+    document.Serialize(&browser);
+    QCOMPARE(browser.document()->firstBlock().text(), notFound);
+}
+
+QTEST_MAIN(tst_Translations)
+#include "tst_translations.moc"
