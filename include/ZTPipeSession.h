@@ -28,8 +28,9 @@ class BATCHCORE_EXPORT ZTPipeSession : public QThread
 
 public:
     /// Connects to the pipe `serverName` and starts the session's thread. Returns at once: IsConnected() is false then,
-    /// and SessionConnected() comes when the calling thread is back in its event loop. When nobody listens, a debug
-    /// line "Socket error: ..." is written and the session waits for Reconnect().
+    /// and SessionConnected() comes when the calling thread is back in its event loop, before anything else that the
+    /// connection brings. When nobody listens, a debug line "Socket error: ..." is written and the session waits for
+    /// Reconnect().
     ZTPipeSession(const QString& serverName, QObject* parent);
 
     /// Takes over `socket`, which must belong to the calling thread and becomes the session's own, and starts the

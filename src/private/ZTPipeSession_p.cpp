@@ -7,6 +7,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -14,6 +15,7 @@ constexpr ZTDiagnostics diagnostics("src\\private\\ZTPipeSession_p");
 
 constexpr int readInterval = 10;        // ms
 constexpr int lastWritesTimeout = 1000; // ms
+constexpr int announceTimeout = 100;    // ms
 
 /// Messages with a payload up to `smallPayload` are put together into requests of about `writeSize`, and larger
 /// payloads are written in pieces of that size. Bytes.
@@ -41,7 +43,8 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, const QString& serverName)
     connect(socket, SIGNAL(error(QLocalSocket::LocalSocketError)), this, SLOT(OnError(QLocalSocket::LocalSocketError)));
 
     // An attempt that ends inside this call would run OnConnected() on this thread, before the session has its own and
-    // before its user can listen. So success here is announced only when the user's thread is back in its event loop.
+    // before its user can listen. So success here is announced only when the user's thread is back in its event loop,
+    // asks for something or has had its time.
     socket->connectToServer(serverName, QIODevice::ReadWrite);
     connect(socket, SIGNAL(connected()), this, SLOT(OnConnected()));
     if (socket->state() == QLocalSocket::ConnectedState) {
@@ -151,6 +154,7 @@ void ZTPipeSession::Private::DoRequests()
         return;
     }
     isGathering = true;
+    FinishEarlyConnection();
     for (const Request& request : doing) {
         switch (request.kind) {
         case Request::Kind::Write:
@@ -188,6 +192,9 @@ void ZTPipeSession::Private::HandOverEvents()
 
 void ZTPipeSession::Private::WakeOwner()
 {
+    if (!owner) {
+        return;
+    }
     QMetaObject::invokeMethod(
         owner,
         [self = QPointer<Private>(this)] {
@@ -252,8 +259,14 @@ bool ZTPipeSession::Private::WaitForConnected(int msecs)
 
 void ZTPipeSession::Private::AnnounceEarlyConnection()
 {
-    if (hasEarlyConnection.exchange(false)) {
-        QMetaObject::invokeMethod(this, "OnConnected", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { FinishEarlyConnection(); }, Qt::QueuedConnection);
+}
+
+void ZTPipeSession::Private::FinishEarlyConnection()
+{
+    if (std::exchange(hasEarlyConnection, false)) {
+        OnConnected();
     }
 }
 
@@ -262,12 +275,18 @@ void ZTPipeSession::Private::Begin()
     if (IsConnected()) {
         RestartTimer();
     }
+    if (hasEarlyConnection) {
+        QTimer::singleShot(announceTimeout, this, [this] { FinishEarlyConnection(); });
+    }
 }
 
 void ZTPipeSession::Private::Finish()
 {
     if (socket && socket->state() == QLocalSocket::ConnectedState) {
         WriteRemainder();
+    } else if (socket && socket->state() == QLocalSocket::ConnectingState) {
+        // The attempt runs on a timer of the socket, which has to end on its own thread.
+        socket->close();
     }
     StopTimer();
 }
@@ -336,6 +355,7 @@ void ZTPipeSession::Private::OnError(QLocalSocket::LocalSocketError error)
 
 void ZTPipeSession::Private::OnDisconnected()
 {
+    FinishEarlyConnection();
     // Messages that had arrived before the peer went away are still the user's; a piece of one is nobody's. When it was
     // this side that closed, the socket has nothing left to read.
     if (socket->bytesAvailable() > 0) {

@@ -7,12 +7,11 @@
 #include <QLocalSocket>
 #include <QReadWriteLock>
 
-#include <atomic>
 #include <vector>
 
 /// The worker of a pipe session. It is made on the thread of its session, then lives with its socket and its timer on
 /// the session's own thread until that ends. Unless said otherwise a member is used there only.
-class ZTPipeSession::Private : public QObject
+class Q_DECL_HIDDEN ZTPipeSession::Private : public QObject
 {
     Q_OBJECT
 
@@ -80,13 +79,20 @@ private:
     };
 
     void ConnectToOwner();
-    void AnnounceEarlyConnection();
+
+    /// Calls OnConnected() for a connection that the constructor made, unless that was done already; comes before
+    /// anything else that is done with the connection.
+    void FinishEarlyConnection();
+
     void SetConnectionState(int state);
     void StopTimer();
     void RestartTimer();
     void DeliverMessages();
     void WriteFrames(const Request& request);
     void WriteRemainder();
+
+    /// On any thread: have FinishEarlyConnection() called on the session's thread.
+    void AnnounceEarlyConnection();
 
     /// On any thread: have something done on the session's thread, behind what was asked before.
     void AskForWrite(const QString& name, const QByteArray& data);
@@ -102,14 +108,15 @@ private:
     /// On the thread of the owner.
     void EmitEvents();
 
-    ZTPipeSession* owner;
+    /// Null when the session was deleted on a foreign thread, which leaves the worker behind.
+    QPointer<ZTPipeSession> owner;
     mutable QReadWriteLock stateLock;
     QLocalSocket* socket = nullptr;
     int timerId = -1;
     int connectionState = QLocalSocket::UnconnectedState;
     ZTFrameReader reader;
     /// Whether the constructor's attempt has succeeded and OnConnected() was not called for it yet.
-    std::atomic<bool> hasEarlyConnection{false};
+    bool hasEarlyConnection = false;
 
     ZTHandOver<Request> requests;
     ZTHandOver<Event> events;

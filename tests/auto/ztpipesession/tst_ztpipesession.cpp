@@ -98,8 +98,12 @@ private Q_SLOTS:
 
     void byNameIsNotConnectedAtFirst();
     void connectedReachesALateReceiver();
+    void connectedComesBeforeWhatFollows_data();
+    void connectedComesBeforeWhatFollows();
+    void connectsWithoutAnEventLoop();
     void waitForConnected();
     void waitForConnectedNeedsNoEventLoop();
+    void attemptsThatTakeTheirTime();
     void failedAttemptIsRevivedByReconnect();
     void failedAttemptsAreLoggedOnly();
 
@@ -214,9 +218,7 @@ void tst_ZTPipeSession::byNameIsNotConnectedAtFirst()
     ZTPipeSession session(pipeName, nullptr);
     QVERIFY(session.isRunning());
     QVERIFY(!session.IsConnected());
-    // The connection is there, but nobody hears of it before this thread turns its event loop.
     QVERIFY(peer.Do(QStringLiteral("accept")));
-    QVERIFY(!session.IsConnected());
     QTRY_VERIFY(session.IsConnected());
     QCOMPARE(lines->All(), QStringList());
 }
@@ -236,6 +238,70 @@ void tst_ZTPipeSession::connectedReachesALateReceiver()
     QSignalSpy incoming(&session, SIGNAL(IncomingMessage(QString, QByteArray)));
     QTRY_COMPARE(incoming.count(), 1);
     QCOMPARE(connected.count(), 1);
+}
+
+void tst_ZTPipeSession::connectedComesBeforeWhatFollows_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QStringList>("events");
+
+    QTest::newRow("message sent") << QStringLiteral("send")
+                                  << QStringList{QStringLiteral("connected"), QStringLiteral("sent")};
+    QTest::newRow("message received") << QStringLiteral("read")
+                                      << QStringList{QStringLiteral("connected"), QStringLiteral("a=bcd")};
+    QTest::newRow("another connection") << QStringLiteral("reconnect")
+                                        << QStringList{QStringLiteral("connected"), QStringLiteral("down"),
+                                                       QStringLiteral("connected")};
+    QTest::newRow("end") << QStringLiteral("end")
+                         << QStringList{QStringLiteral("connected"), QStringLiteral("a=bcd"), QStringLiteral("down")};
+}
+
+void tst_ZTPipeSession::connectedComesBeforeWhatFollows()
+{
+    QFETCH(QString, what);
+    QFETCH(QStringList, events);
+    PeerProcess peer;
+    QVERIFY(peer.Do(QStringLiteral("listen ") + pipeName));
+    ZTPipeSession session(pipeName, nullptr);
+    const Listener listener(session);
+
+    // All of this happens while this thread is away from its event loop.
+    QVERIFY(peer.Do(QStringLiteral("accept")));
+    if (what == QLatin1String("send")) {
+        session.Send(QStringLiteral("21"), QByteArrayLiteral(""));
+        QCOMPARE(peer.Read(frame21.size()), frame21);
+    } else if (what == QLatin1String("read")) {
+        session.RunReadCycle();
+        QVERIFY(peer.Write(frameA));
+    } else if (what == QLatin1String("reconnect")) {
+        session.Reconnect(pipeName);
+        QVERIFY(peer.Do(QStringLiteral("accept")));
+    } else {
+        QVERIFY(peer.Write(frameA));
+        peer.Die();
+        const QDeadlineTimer deadline(10000);
+        while (lines->CountEndingWith(QStringLiteral("] Socket error: 1")) == 0 && !deadline.hasExpired()) {
+            QThread::yieldCurrentThread();
+        }
+    }
+    QTRY_COMPARE(listener.events, events);
+}
+
+void tst_ZTPipeSession::connectsWithoutAnEventLoop()
+{
+    PeerProcess peer;
+    QVERIFY(peer.Do(QStringLiteral("listen ") + pipeName));
+    ZTPipeSession session(pipeName, nullptr);
+    const Listener listener(session);
+    const QDeadlineTimer deadline(10000);
+    while (!session.IsConnected() && !deadline.hasExpired()) {
+        QThread::yieldCurrentThread();
+    }
+    QVERIFY(session.IsConnected());
+    // The event loop, when there is one after all, adds no second announcement.
+    QVERIFY(peer.Do(QStringLiteral("accept")));
+    QVERIFY(peer.Write(frameA));
+    QTRY_COMPARE(listener.events, (QStringList{QStringLiteral("connected"), QStringLiteral("a=bcd")}));
 }
 
 void tst_ZTPipeSession::waitForConnected()
@@ -268,6 +334,42 @@ void tst_ZTPipeSession::waitForConnectedNeedsNoEventLoop()
     QVERIFY(peer.Do(QStringLiteral("accept")));
     QVERIFY(peer.Write(frameA));
     QTRY_COMPARE(listener.events, (QStringList{QStringLiteral("connected"), QStringLiteral("a=bcd")}));
+}
+
+void tst_ZTPipeSession::attemptsThatTakeTheirTime()
+{
+    // A socket has to wait once nobody takes the connections of those before it.
+    QLocalServer server;
+    QVERIFY(server.listen(pipeName));
+    std::vector<std::unique_ptr<QLocalSocket>> queue;
+    do {
+        queue.push_back(std::make_unique<QLocalSocket>());
+        queue.back()->connectToServer(pipeName);
+    } while (queue.back()->state() == QLocalSocket::ConnectedState && queue.size() < 1000);
+    QCOMPARE(queue.back()->state(), QLocalSocket::ConnectingState);
+
+    ZTPipeSession session(pipeName, nullptr);
+    const Listener listener(session);
+    auto impatient = std::make_unique<ZTPipeSession>(pipeName, nullptr);
+    auto adopted = std::make_unique<ZTPipeSession>(queue.back().release(), nullptr);
+    queue.pop_back();
+    QVERIFY(!session.IsConnected());
+    QVERIFY(!adopted->IsConnected());
+    QVERIFY(!impatient->WaitForConnected(30));
+    // Both are at work on their threads when they are deleted, while this thread keeps the server from taking them.
+    impatient->Send(QStringLiteral("a"), QByteArray());
+    adopted->Send(QStringLiteral("a"), QByteArray());
+    const QDeadlineTimer deadline(10000);
+    while (lines->CountEndingWith(QStringLiteral("] Socket error: 19")) < 2 && !deadline.hasExpired()) {
+        QThread::yieldCurrentThread();
+    }
+    impatient.reset();
+    adopted.reset();
+    QCOMPARE(listener.events, QStringList());
+
+    // This thread's event loop lets the server take the rest.
+    QTRY_COMPARE(listener.events, QStringList{QStringLiteral("connected")});
+    QVERIFY(session.IsConnected());
 }
 
 void tst_ZTPipeSession::failedAttemptIsRevivedByReconnect()
@@ -1019,7 +1121,8 @@ void tst_ZTPipeSession::deletedWithTheirParent()
 
 void tst_ZTPipeSession::deletedOnAForeignThread()
 {
-    auto* socket = new QLocalSocket;
+    PeerProcess peer;
+    auto* socket = ConnectedSocket(peer);
     auto* session = new ZTPipeSession(socket, nullptr);
     QPointer<QObject> worker = socket->parent();
     const std::unique_ptr<QThread> foreign(QThread::create([session] { delete session; }));
@@ -1035,7 +1138,9 @@ void tst_ZTPipeSession::deletedOnAForeignThread()
                  .match(all.first())
                  .hasMatch(),
              qPrintable(all.first()));
+    // It has nobody left to tell that its connection ends.
     delete worker;
+    QVERIFY(peer.Do(QStringLiteral("closed")));
 }
 
 void tst_ZTPipeSession::messagesSentBeforeTheEndArrive()
