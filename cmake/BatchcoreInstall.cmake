@@ -1,5 +1,14 @@
 # The CMake package: find_package(batchcore) gives Velkora::batchcore and what it stands on.
 
+# It can name what it stands on when that is a part of it or comes from a package. A product that builds its own sibling
+# libraries in the same tree gets no package; it installs the whole in its own way.
+foreach(sibling IN ITEMS "${BATCHCORE_CORE_TARGET}" "${BATCHCORE_STYLECORE_TARGET}" "${BATCHCORE_UTILS_TARGET}")
+    get_target_property(is_imported "${sibling}" IMPORTED)
+    if(NOT is_imported AND NOT sibling MATCHES "^Velkora::(core|stylecore|utils)$")
+        return()
+    endif()
+endforeach()
+
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/batchcore")

@@ -10,7 +10,7 @@
 
 /// The state of a ZTBatchDocument. The three objects are the document's children; the pointers notice when a host
 /// deletes one all the same.
-class ZTBatchDocument::Private
+class Q_DECL_HIDDEN ZTBatchDocument::Private
 {
 public:
     explicit Private(ZTBatchDocument* owner);

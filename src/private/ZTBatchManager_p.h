@@ -15,7 +15,7 @@ class ZTPipeSession;
 ///
 /// Where a routine emits or ends the server, a slot of the host may have deleted the manager, and this with it, when
 /// it returns.
-class ZTBatchManager::Private
+class Q_DECL_HIDDEN ZTBatchManager::Private
 {
 public:
     /// Ends a server that listens on the pipe without waiting for it.

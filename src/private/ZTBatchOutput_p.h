@@ -7,7 +7,7 @@
 #include <QList>
 
 /// The state of a ZTBatchOutputSettings.
-class ZTBatchOutputSettings::Private
+class Q_DECL_HIDDEN ZTBatchOutputSettings::Private
 {
 public:
     struct NamingPartSettings

@@ -5,7 +5,7 @@
 #include <QString>
 
 /// A session is its id; everything else is the manager's and the server's.
-class ZTBatchManager::ZTBatchSession::Private
+class Q_DECL_HIDDEN ZTBatchManager::ZTBatchSession::Private
 {
 public:
     explicit Private(ZTBatchSession* session);

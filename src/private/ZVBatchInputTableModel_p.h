@@ -24,7 +24,7 @@ struct TableRow
 
 Q_DECLARE_TYPEINFO(TableRow, Q_MOVABLE_TYPE);
 
-class ZVBatchInputTableModel::Private
+class Q_DECL_HIDDEN ZVBatchInputTableModel::Private
 {
 public:
     struct Cell

@@ -7,6 +7,20 @@ function(run)
     endif()
 endfunction()
 
+# What is private is not for others to link against: it changes without notice.
+function(check_exports prefix)
+    file(GLOB_RECURSE library "${prefix}/*/libbatchcore.so")
+    if(NOT library)
+        return()
+    endif()
+    execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle ${library}
+        OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "[^\n]*(::Private|ZTFrameReader|ZTDiagnostics|ZTHandOver)[^\n]*" leaks "${symbols}")
+    if(leaks OR NOT symbols MATCHES "ZTPipeSession::Send")
+        message(FATAL_ERROR "Exported from ${library}: ${leaks}")
+    endif()
+endfunction()
+
 file(REMOVE_RECURSE "${WORK_DIR}")
 set(options
     -G "${GENERATOR}"
@@ -16,8 +30,12 @@ set(options
 if(WAY STREQUAL "package")
     run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed")
     list(APPEND options -D CMAKE_PREFIX_PATH=${WORK_DIR}/installed)
+    check_exports("${WORK_DIR}/installed")
 else()
     list(APPEND options -D BATCHCORE_SOURCE_DIR=${SOURCE_DIR} "-D BATCHCORE_SANITIZERS=${SANITIZERS}")
+endif()
+if(WAY STREQUAL "replacement")
+    list(APPEND options -D WITH_OWN_LIBRARIES=ON)
 endif()
 if(SANITIZERS)
     list(JOIN SANITIZERS "," sanitizers)

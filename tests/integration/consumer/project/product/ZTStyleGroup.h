@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QObject>
+
+class ZTStyleGroup : public QObject
+{
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+class ZVApplication
+{
+public:
+    static int GetTexturePatternIndex() { return 3; }
+};
