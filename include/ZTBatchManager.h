@@ -139,7 +139,7 @@ Q_SIGNALS:
     void InputActionRegistered(QAction*, int index);
     void InputActionUnregistered(QAction*);
 
-    /// The policy has got another value, the given one.
+    /// The policy has got another value, the given one. The last signal is known to hosts without "Policy" in its name.
     void InputPolicyChanged(InputPolicy);
     void OutputPolicyChanged(OutputPolicy);
     void ProcessingPolicyChanged(ProcessingPolicy);

@@ -79,6 +79,7 @@ private:
     ZTBatchSession(const QString& id, QObject* parent);
 
     // What the manager tells. Each emits one signal and does nothing behind it: a slot may have deleted the session.
+    // A finished file is progress too, hence the two SessionProgress(): the one with names emits FileProcessed().
     void SessionPaused();
     void SessionResumed();
     void SessionCancelled();

@@ -10,6 +10,7 @@
 #include <QString>
 
 class ZTPipeSession;
+class ZTServerProcess;
 
 /// The manager's server process, its pipe, its sessions, its policies and its registries.
 ///
@@ -59,7 +60,7 @@ public:
 
     ZTBatchManager* manager;
     ZTInputActionList inputActions;
-    QProcess* serverProcess = nullptr;
+    ZTServerProcess* serverProcess = nullptr;
     ZTPipeSession* pipe = nullptr;
     int startupTimerId = -1;
     int reconnectTimerId = -1;

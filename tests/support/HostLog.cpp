@@ -6,7 +6,10 @@ using Session = ZTBatchManager::ZTBatchSession;
 
 void HostLog::Watch(ZTBatchManager* manager)
 {
-    connect(manager, &ZTBatchManager::ConnectionEstablished, this, [this] { Note(QStringLiteral("established")); });
+    connect(manager, &ZTBatchManager::ConnectionEstablished, this, [this] {
+        ++connections;
+        Note(QStringLiteral("established"));
+    });
     connect(manager, &ZTBatchManager::ConnectionFailed, this, [this] { Note(QStringLiteral("failed")); });
 }
 

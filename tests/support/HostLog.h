@@ -17,6 +17,7 @@ public:
     int Count(const QString& line) const { return lines.count(line); }
 
     QStringList lines;
+    int connections = 0; ///< how often ConnectionEstablished() came
 
 private:
     void Note(const QString& line) { lines.append(line); }

@@ -1,5 +1,7 @@
 #include "ManagerRun.h"
 
+#include "ZTPipeSession.h"
+
 #include <QCoreApplication>
 #include <QProcess>
 #include <QTest>
@@ -12,8 +14,7 @@ bool Eventually(const std::function<bool()>& condition)
 ManagerRun::ManagerRun(const QStringList& rules)
 {
     stage.Play(rules);
-    // Not shorter: an attempt that comes while the one before it succeeds takes the new connection down again.
-    timings.reconnectInterval = 100;
+    timings.reconnectInterval = 3600000;
     ZTBatchManager::InitInstance(SettingsDir());
     log.Watch(Manager());
 }
@@ -28,9 +29,24 @@ ManagerRun::~ManagerRun()
 
 bool ManagerRun::Connect()
 {
-    const int established = log.Count(QStringLiteral("established"));
+    const int opened = stage.Count(QStringLiteral("open"));
+    const int connections = log.connections;
     Manager()->Start();
-    return Eventually([&] { return log.Count(QStringLiteral("established")) > established; });
+    return AwaitConnection(opened + 1, connections + 1);
+}
+
+bool ManagerRun::AwaitConnection(int opened, int connections)
+{
+    if (!Eventually([&] { return stage.Count(QStringLiteral("open")) >= opened; })) {
+        return false;
+    }
+    // The pipe to an earlier server may still wait for its deletion.
+    const QList<ZTPipeSession*> pipes = Manager()->findChildren<ZTPipeSession*>();
+    // A server may be faster than the first attempt.
+    if (!pipes.isEmpty() && !pipes.last()->WaitForConnected(0)) {
+        pipes.last()->Reconnect(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    }
+    return Eventually([&] { return log.connections >= connections; });
 }
 
 QPointer<ManagerRun::Session> ManagerRun::CreateSession()

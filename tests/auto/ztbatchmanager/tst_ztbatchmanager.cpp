@@ -1130,5 +1130,5 @@ void tst_ZTBatchManager::deaths()
     QVERIFY2(report.aborted, qPrintable(report.output));
 }
 
-QTEST_MAIN(tst_ZTBatchManager)
+QTEST_GUILESS_MAIN(tst_ZTBatchManager)
 #include "tst_ztbatchmanager.moc"

@@ -105,6 +105,8 @@ private Q_SLOTS:
     void killExistingInASessionsSignal();
     void eventLoopInASessionsSignal_data();
     void eventLoopInASessionsSignal();
+    void eventLoopInsideABlockingCall_data();
+    void eventLoopInsideABlockingCall();
     void otherSessionDeletedInTheWalk();
     void sessionCreatedInTheWalk();
     void nextRunFromFinished();
@@ -255,7 +257,7 @@ void tst_HostReactions::managerReplacedInASessionsSignal()
         run.Manager()->Start();
     });
     session->Process(QString());
-    QVERIFY(Eventually([&] { return run.log.Count(established) == 2; }));
+    QVERIFY(run.AwaitConnection(2, 2));
     QCOMPARE(run.log.Count(failed), 0);
     QVERIFY(run.CreateSession());
     QCOMPARE(run.stage.LivingServers().size(), 1);
@@ -389,6 +391,47 @@ void tst_HostReactions::eventLoopInASessionsSignal()
     }
 }
 
+void tst_HostReactions::eventLoopInsideABlockingCall_data()
+{
+    QTest::addColumn<bool>("isStop");
+    QTest::addColumn<bool>("releases");
+
+    QTest::newRow("Stop") << true << false;
+    QTest::newRow("Stop, then released") << true << true;
+    QTest::newRow("KillExistingBatchProcess") << false << false;
+    QTest::newRow("KillExistingBatchProcess, then released") << false << true;
+}
+
+void tst_HostReactions::eventLoopInsideABlockingCall()
+{
+    QFETCH(bool, isStop);
+    QFETCH(bool, releases);
+
+    // Before the application's own event loop runs, or after it, the first loop that turns deletes whatever was to be
+    // deleted later: the process must not be among that while its call is under way.
+    ManagerRun run({opensAtOnce});
+    QVERIFY(run.Connect());
+    const QPointer<QProcess> process = run.Process();
+    bool hasWaited = false;
+    connect(run.Manager(), &ZTBatchManager::ConnectionFailed, this, [&] {
+        if (releases) {
+            ZTBatchManager::ReleaseInstance();
+        }
+        QEventLoop loop;
+        QTimer::singleShot(50, &loop, &QEventLoop::quit);
+        loop.exec();
+        hasWaited = true;
+        QVERIFY(process);
+    });
+    if (isStop) {
+        run.Manager()->Stop();
+    } else {
+        ZTBatchManager::KillExistingBatchProcess(true);
+    }
+    QVERIFY(hasWaited);
+    QVERIFY(Eventually([&] { return !process; }));
+}
+
 void tst_HostReactions::otherSessionDeletedInTheWalk()
 {
     ManagerRun run({opensAtOnce, QStringLiteral("5: crash")});
@@ -458,8 +501,8 @@ void tst_HostReactions::managerReleasedInEstablished()
 {
     ManagerRun run({opensAtOnce});
     connect(run.Manager(), &ZTBatchManager::ConnectionEstablished, this, [] { ZTBatchManager::ReleaseInstance(); });
-    run.Manager()->Start();
-    QVERIFY(Eventually([&] { return !run.Manager(); }));
+    QVERIFY(run.Connect());
+    QVERIFY(!run.Manager());
     QCOMPARE(run.stage.LivingServers(), QList<qint64>());
     QVERIFY(run.DebugTexts().contains(QStringLiteral("Send close server message.")));
 }
@@ -557,8 +600,7 @@ void tst_HostReactions::stopInEstablished()
 {
     ManagerRun run({opensAtOnce});
     connect(run.Manager(), &ZTBatchManager::ConnectionEstablished, this, [&] { run.Manager()->Stop(); });
-    run.Manager()->Start();
-    QVERIFY(Eventually([&] { return run.log.Count(failed) > 0; }));
+    QVERIFY(run.Connect());
     QCOMPARE(run.log.lines, (QStringList{established, failed}));
 }
 
@@ -591,7 +633,7 @@ void tst_HostReactions::startFromConnectionFailedOfTheWatchdog()
         run.Manager()->Start();
     });
     run.Manager()->Start();
-    QVERIFY(Eventually([&] { return run.log.Count(established) > 0; }));
+    QVERIFY(run.AwaitConnection(1, 1));
     QCOMPARE(run.log.lines, (QStringList{failed, established}));
     QCOMPARE(run.DebugTexts(), QStringList());
 }
@@ -604,7 +646,7 @@ void tst_HostReactions::startFromConnectionFailedOfKillExisting()
     ZTBatchManager::KillExistingBatchProcess(true);
     // It is the old server that was to be killed, not the new one.
     QVERIFY(run.Manager()->IsStarted());
-    QVERIFY(Eventually([&] { return run.log.Count(established) == 2; }));
+    QVERIFY(run.AwaitConnection(2, 2));
     QCOMPARE(run.log.lines, (QStringList{established, failed, established}));
 }
 

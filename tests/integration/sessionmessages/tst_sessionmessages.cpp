@@ -66,7 +66,9 @@ private Q_SLOTS:
     void badFrame_data();
     void badFrame();
     void messageInPieces();
+    void longMessage();
     void flood();
+    void sessionDeletedInTheMiddleOfAFlood();
 
     void questionsAndAnswers_data();
     void questionsAndAnswers();
@@ -260,7 +262,7 @@ void tst_SessionMessages::nothingIsSentBeforeTheConnection()
     run.Manager()->Start();
     QCOMPARE(run.Manager()->CreateBatchSession(), nullptr);
     QVERIFY(run.Manager()->IsAllowToCreateSession());
-    QVERIFY(Eventually([&] { return run.log.Count(established) == 1; }));
+    QVERIFY(run.AwaitConnection(1, 1));
     const QPointer<Session> session = run.CreateSession();
     QVERIFY(session);
     QCOMPARE(run.stage.Received().toHex(' '), Frame(name0, run.stage.SessionId(), "").toHex(' '));
@@ -472,6 +474,7 @@ void tst_SessionMessages::badFrame()
     QVERIFY(run.Connect());
     const QPointer<Session> session = run.CreateSession();
     QVERIFY(session);
+    run.timings.reconnectInterval = 1000;
     session->Pause();
     QVERIFY(Eventually([&] { return run.log.Count(established) == 2; }));
     session->Resume();
@@ -493,6 +496,37 @@ void tst_SessionMessages::messageInPieces()
     QVERIFY(Eventually([&] { return run.log.lines.size() > 1; }));
     QCOMPARE(run.log.lines, (QStringList{established, QStringLiteral("progress 3")}));
     QCOMPARE(run.debugLines.All().size(), lines);
+}
+
+void tst_SessionMessages::longMessage()
+{
+    const QString text(2000000, QLatin1Char('x'));
+    ManagerRun run({opensAtOnce, QStringLiteral("5: send 10 id s:%1; send 6 id").arg(text)});
+    QVERIFY(run.Connect());
+    const QPointer<Session> session = run.CreateSession();
+    QVERIFY(session);
+    session->Process(QString());
+    QVERIFY(Eventually([&] { return run.log.Count(QStringLiteral("finished")) == 1; }));
+    QCOMPARE(run.log.lines.size(), 3);
+    QVERIFY(run.log.lines[1] == QStringLiteral("log [%1]").arg(text));
+}
+
+void tst_SessionMessages::sessionDeletedInTheMiddleOfAFlood()
+{
+    ManagerRun run({opensAtOnce, QStringLiteral("5: flood 20000")});
+    QVERIFY(run.Connect());
+    const QPointer<Session> session = run.CreateSession();
+    QVERIFY(session);
+    int progress = 0;
+    connect(session, &Session::Progress, this, [&] {
+        if (++progress == 100) {
+            delete session;
+        }
+    });
+    session->Process(QString());
+    QVERIFY(Eventually([&] { return run.stage.Count(QStringLiteral("message 1")) == 1; }));
+    QVERIFY(run.CreateSession());
+    QCOMPARE(progress, 100);
 }
 
 void tst_SessionMessages::flood()
@@ -601,6 +635,7 @@ void tst_SessionMessages::commandsOnALostConnection()
     QVERIFY(run.Connect());
     const QPointer<Session> session = run.CreateSession();
     QVERIFY(session);
+    run.timings.reconnectInterval = 100;
     session->Pause();
     QVERIFY(Eventually([&] { return run.debugLines.CountEndingWith(QStringLiteral("] Socket error: 2")) > 1; }));
     QVERIFY(session->Process(QStringLiteral("lost")));

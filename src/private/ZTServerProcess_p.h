@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QProcess>
+
+/// The server's process. QProcess reports a process's end from inside the calls that end or await it, and the host's
+/// slots may do anything then: these calls bear that.
+class ZTServerProcess : public QProcess
+{
+public:
+    explicit ZTServerProcess(QObject* parent);
+
+    /// Whether the process has ended, or never started. True already while a crash is being reported, when state()
+    /// still says "running": whoever waited for such a process would wait in vain.
+    bool HasEnded() const;
+
+    /// Kills the process and returns when it is gone.
+    void Close();
+
+    /// Returns whether the process has ended within `msecs` milliseconds.
+    bool WaitForEnd(int msecs);
+
+    /// Gives the object up: from now on it belongs to nobody and goes with a later turn of the event loop, but not
+    /// before the calls above have returned.
+    void Release();
+
+private:
+    class Call;
+
+    int callsUnderWay = 0;
+    bool isReleased = false;
+};
