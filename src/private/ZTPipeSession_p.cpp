@@ -2,6 +2,7 @@
 
 #include "ZTDiagnostics_p.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTimer>
 #include <QTimerEvent>
@@ -15,7 +16,7 @@ constexpr ZTDiagnostics diagnostics("src\\private\\ZTPipeSession_p");
 
 constexpr int readInterval = 10;        // ms
 constexpr int lastWritesTimeout = 1000; // ms
-constexpr int announceTimeout = 100;    // ms
+constexpr int announceTimeout = 250;    // ms
 
 /// Messages with a payload up to `smallPayload` are put together into requests of about `writeSize`, and larger
 /// payloads are written in pieces of that size. Bytes.
@@ -272,6 +273,9 @@ void ZTPipeSession::Private::FinishEarlyConnection()
 
 void ZTPipeSession::Private::Begin()
 {
+    // The timers of an attempt that is under way change threads by an event, which must not be lost when the session is
+    // deleted at once.
+    QCoreApplication::sendPostedEvents();
     if (IsConnected()) {
         RestartTimer();
     }

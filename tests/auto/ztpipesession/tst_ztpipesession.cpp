@@ -356,6 +356,7 @@ void tst_ZTPipeSession::attemptsThatTakeTheirTime()
     QVERIFY(!session.IsConnected());
     QVERIFY(!adopted->IsConnected());
     QVERIFY(!impatient->WaitForConnected(30));
+    delete new ZTPipeSession(pipeName, nullptr);
     // Both are at work on their threads when they are deleted, while this thread keeps the server from taking them.
     impatient->Send(QStringLiteral("a"), QByteArray());
     adopted->Send(QStringLiteral("a"), QByteArray());
