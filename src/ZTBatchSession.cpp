@@ -24,7 +24,11 @@ ZTBatchManager::ZTBatchSession::ZTBatchSession(const QString& id, QObject* paren
     d->SetId(id);
 }
 
-ZTBatchManager::ZTBatchSession::~ZTBatchSession() = default;
+ZTBatchManager::ZTBatchSession::~ZTBatchSession()
+{
+    // A slot of destroyed() may release the manager, which must not find a child that is being deleted already.
+    setParent(nullptr);
+}
 
 bool ZTBatchManager::ZTBatchSession::Process(const QString& document)
 {

@@ -124,6 +124,7 @@ private Q_SLOTS:
     void startFromConnectionFailedOfTheWatchdog();
     void startFromConnectionFailedOfKillExisting();
     void sessionDeletedInConnectionFailed();
+    void managerReleasedInASessionsDestruction();
     void sessionDeletesItselfAtRelease();
     void hostDeletesTheSessionWhenTheManagerGoes();
 };
@@ -661,6 +662,24 @@ void tst_HostReactions::sessionDeletedInConnectionFailed()
     QVERIFY(Eventually([&] { return run.log.Count(failed) > 0; }));
     QVERIFY(!session);
     QVERIFY(!run.Manager()->IsAllowToCreateSession());
+}
+
+void tst_HostReactions::managerReleasedInASessionsDestruction()
+{
+    ManagerRun run({opensAtOnce});
+    QVERIFY(run.Connect());
+    const QPointer<Session> session = run.CreateSession();
+    QVERIFY(session);
+    int gone = 0;
+    connect(session, &QObject::destroyed, this, [&] {
+        ++gone;
+        ZTBatchManager::ReleaseInstance();
+    });
+    delete session;
+    QCOMPARE(gone, 1);
+    QCOMPARE(ZTBatchManager::Instance(), nullptr);
+    QVERIFY(Eventually([&] { return run.stage.LivingServers().isEmpty(); }));
+    QVERIFY(run.stage.Events().contains(QStringLiteral("message 1")));
 }
 
 void tst_HostReactions::sessionDeletesItselfAtRelease()
