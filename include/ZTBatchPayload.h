@@ -210,7 +210,7 @@ using FromServer = decltype(Detail::RecordFromServer<message>());
 template<typename Payload>
 QByteArray Pack(const Payload& payload)
 {
-    QByteArray bytes;
+    QByteArray bytes(""); // Not null: on the pipe the two differ, and a payload without fields is an empty one.
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Payload::Fields(payload));
     return bytes;

@@ -92,6 +92,7 @@ private Q_SLOTS:
 void tst_ZTBatchPayload::empty()
 {
     QCOMPARE(ZTBatchPayload::Pack(ZTBatchPayload::Empty{}), QByteArray());
+    QVERIFY(!ZTBatchPayload::Pack(ZTBatchPayload::Empty{}).isNull());
     bool isExact = false;
     ZTBatchPayload::Unpack<ZTBatchPayload::Empty>(QByteArray(), &isExact);
     QVERIFY(isExact);

@@ -27,12 +27,12 @@ const QString finished = QStringLiteral("finished");
 const QString established = QStringLiteral("established");
 const QString failed = QStringLiteral("failed");
 
-/// Message 21 as it stands on the pipe: a payload without fields is a null array there.
+/// Message 21 as it stands on the pipe: a payload without fields is empty there, not null.
 QByteArray Frame21()
 {
     return QByteArray::fromHex("00000004"
                                "00320031"
-                               "FFFFFFFF");
+                               "00000000");
 }
 
 QList<QAbstractEventDispatcher::TimerInfo> TimersOf(QObject* object)
