@@ -10,10 +10,20 @@
 
 #include <QDomDocument>
 #include <QTextBrowser>
+#include <QTextDocument>
 
 namespace {
 
 constexpr ZTDiagnostics diagnostics("src\\ZTBatchDocument");
+
+/// A line that a text browser shows character by character: one that it would take for markup is made markup.
+QString LiteralLine(const QString& line)
+{
+    if (!Qt::mightBeRichText(line)) {
+        return line;
+    }
+    return QLatin1String("<span style=\"white-space:pre-wrap\">") + line.toHtmlEscaped() + QLatin1String("</span>");
+}
 
 /// Tells the user about `paths`, unless there are none.
 void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, const QStringList& paths)
@@ -27,7 +37,7 @@ void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, co
         if (sink == nullptr) {
             return;
         }
-        sink->append(QLatin1String("   ") + path);
+        sink->append(LiteralLine(QLatin1String("   ") + path));
     }
 }
 

@@ -48,6 +48,8 @@ private Q_SLOTS:
     void pathsAreComparedExactly();
     void warnings();
     void warningsAreOneAppendEach();
+    void pathsInWarningsAreNoMarkup_data();
+    void pathsInWarningsAreNoMarkup();
     void noWarningsNoText();
     void warningsAreTranslated();
     void sinkDeletedInTheMiddle();
@@ -538,6 +540,30 @@ void tst_DocumentWriting::warningsAreOneAppendEach()
     document.Serialize(&browser);
     QCOMPARE(browser.document()->blockCount(), 4);
     QCOMPARE(browser.document()->lastBlock().text(), QStringLiteral("   /nowhere/b"));
+}
+
+void tst_DocumentWriting::pathsInWarningsAreNoMarkup_data()
+{
+    QTest::addColumn<QString>("path");
+
+    QTest::newRow("element") << QStringLiteral("/nowhere/<b>bold</b>.jpg");
+    QTest::newRow("no end") << QStringLiteral("/nowhere/<i>.jpg");
+    QTest::newRow("picture") << QStringLiteral("/nowhere/<img src='a.png'>.jpg");
+    QTest::newRow("blanks and references") << QStringLiteral("/nowhere/<u>a  b</u> &amp; \"c\".jpg");
+    QTest::newRow("reference alone") << QStringLiteral("/nowhere/&lt;.jpg");
+}
+
+void tst_DocumentWriting::pathsInWarningsAreNoMarkup()
+{
+    QFETCH(QString, path);
+    ZTBatchDocument document;
+    AddInput(document, File, path);
+    AddInput(document, File, QStringLiteral("/nowhere/z"));
+    QTextBrowser browser;
+    document.Serialize(&browser);
+    QCOMPARE(browser.toPlainText(),
+             QStringLiteral("Warning! Some files are not found and skipped:\n   %1\n   /nowhere/z").arg(path));
+    QCOMPARE(browser.document()->blockCount(), 3);
 }
 
 void tst_DocumentWriting::noWarningsNoText()
