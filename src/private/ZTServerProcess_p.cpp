@@ -13,9 +13,8 @@ public:
 
     ~Call()
     {
-        if (--process.callsUnderWay == 0 && process.isReleased) {
-            process.deleteLater();
-        }
+        --process.callsUnderWay;
+        process.DeleteWhenIdle();
     }
 
 private:
@@ -27,6 +26,11 @@ private:
 ZTServerProcess::ZTServerProcess(QObject* parent)
     : QProcess(parent)
 {
+    connect(this, &QProcess::started, this, [this] { isEndAwaited = true; });
+    connect(this, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, [this] {
+        isEndAwaited = false;
+        DeleteWhenIdle();
+    });
 }
 
 bool ZTServerProcess::HasEnded() const
@@ -53,7 +57,12 @@ void ZTServerProcess::Release()
 {
     setParent(nullptr);
     isReleased = true;
-    if (callsUnderWay == 0) {
+    DeleteWhenIdle();
+}
+
+void ZTServerProcess::DeleteWhenIdle()
+{
+    if (isReleased && callsUnderWay == 0 && !isEndAwaited) {
         deleteLater();
     }
 }

@@ -20,12 +20,15 @@ public:
     bool WaitForEnd(int msecs);
 
     /// Gives the object up: from now on it belongs to nobody and goes with a later turn of the event loop, but not
-    /// before the calls above have returned.
+    /// before the calls above have returned and the end of a process that ran has been reported.
     void Release();
 
 private:
     class Call;
 
+    void DeleteWhenIdle();
+
     int callsUnderWay = 0;
+    bool isEndAwaited = false; ///< from the report of the start to the last report of the end
     bool isReleased = false;
 };

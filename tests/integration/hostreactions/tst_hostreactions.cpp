@@ -114,6 +114,8 @@ private Q_SLOTS:
     void managerReleasedInEstablished();
     void managerReleasedInConnectionFailed_data();
     void managerReleasedInConnectionFailed();
+    void deferredDeletesInConnectionFailed_data();
+    void deferredDeletesInConnectionFailed();
     void managerReleasedWhenTheServerCannotStart();
     void managerReleasedInStopsSignals();
     void managerReleasedInTheWatchdogsSignals_data();
@@ -529,6 +531,33 @@ void tst_HostReactions::managerReleasedInConnectionFailed()
     QVERIFY(Eventually([&] { return !run.Manager(); }));
     QVERIFY(!session);
     QCOMPARE(run.DebugTexts(), (QStringList{QStringLiteral("Destroy"), QStringLiteral("Destroyed")}));
+}
+
+void tst_HostReactions::deferredDeletesInConnectionFailed_data()
+{
+    managerReleasedInConnectionFailed_data();
+}
+
+void tst_HostReactions::deferredDeletesInConnectionFailed()
+{
+    QFETCH(QString, end);
+
+    // A host may hurry what was to be deleted later. The process is reporting its end all the while.
+    ManagerRun run({opensAtOnce, QStringLiteral("5: ") + end});
+    QVERIFY(run.Connect());
+    const QPointer<Session> session = run.CreateSession();
+    QVERIFY(session);
+    const QPointer<QProcess> process = ManagerRun::Process();
+    QVERIFY(process);
+    bool isReporting = false;
+    connect(run.Manager(), &ZTBatchManager::ConnectionFailed, this, [&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        isReporting = !process.isNull();
+    });
+    session->Process(QString());
+    QVERIFY(Eventually([&] { return run.log.Count(failed) == 1; }));
+    QVERIFY(isReporting);
+    QVERIFY(Eventually([&] { return process.isNull(); }));
 }
 
 void tst_HostReactions::managerReleasedWhenTheServerCannotStart()
