@@ -33,6 +33,12 @@ ZTServerProcess::ZTServerProcess(QObject* parent)
     });
 }
 
+ZTServerProcess::~ZTServerProcess()
+{
+    // The base class kills a process that still runs, and reports its end when this object is a mere QProcess.
+    disconnect(this, nullptr, this, nullptr);
+}
+
 bool ZTServerProcess::HasEnded() const
 {
     return state() == QProcess::NotRunning || exitStatus() == QProcess::CrashExit;

@@ -8,6 +8,7 @@ class ZTServerProcess : public QProcess
 {
 public:
     explicit ZTServerProcess(QObject* parent);
+    ~ZTServerProcess() override;
 
     /// Whether the process has ended, or never started. True already while a crash is being reported, when state()
     /// still says "running": whoever waited for such a process would wait in vain.
