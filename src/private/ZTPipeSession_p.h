@@ -48,6 +48,7 @@ public Q_SLOTS:
     void OnConnected();
     void OnError(QLocalSocket::LocalSocketError error);
     void OnDisconnected();
+    /// Writes one message now, ahead of requests that wait.
     void Write(const QString& name, const QByteArray& data);
     void Reconnect(const QString& serverName);
     void OnRunTimer();
@@ -115,12 +116,14 @@ private:
     int timerId = -1;
     int connectionState = QLocalSocket::UnconnectedState;
     ZTFrameReader reader;
+
     /// Whether the constructor's attempt has succeeded and OnConnected() was not called for it yet.
     bool hasEarlyConnection = false;
 
     ZTHandOver<Request> requests;
     ZTHandOver<Event> events;
 
+    /// Taken from `requests`, and kept for its memory.
     std::vector<Request> doing;
 
     /// Events that wait for the lot of them to be complete, while there is one.

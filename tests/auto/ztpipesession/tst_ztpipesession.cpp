@@ -109,6 +109,7 @@ private Q_SLOTS:
 
     void writtenFrames_data();
     void writtenFrames();
+    void workerWritesOneMessage();
     void sendIsOrderedAndCounted();
     void sendWhileNotConnectedIsDropped();
     void sendAfterTheEndIsDropped();
@@ -441,6 +442,17 @@ void tst_ZTPipeSession::writtenFrames()
     // Nothing stands between two messages.
     link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
     QCOMPARE(link.peer.Read(frameA.size()), frameA);
+}
+
+void tst_ZTPipeSession::workerWritesOneMessage()
+{
+    PeerProcess peer;
+    QLocalSocket* socket = ConnectedSocket(peer);
+    const ZTPipeSession session(socket, nullptr);
+    QMetaObject::invokeMethod(socket->parent(), "Write", Qt::QueuedConnection, Q_ARG(QString, QStringLiteral("a")),
+                              Q_ARG(QByteArray, QByteArrayLiteral("bcd")));
+    QCOMPARE(peer.Read(frameA.size()), frameA);
+    QCOMPARE(lines->All(), QStringList());
 }
 
 void tst_ZTPipeSession::sendIsOrderedAndCounted()
