@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ParameterSchema.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+/// The effects that a style can hold, as data. Everything here is safe on any thread.
+namespace BatchServer {
+
+struct EffectSchema
+{
+    QString id;          ///< as it stands in a job, such as "exposure"
+    QString description; ///< one line
+    QVector<ParameterSchema> parameters;
+};
+
+/// Every effect, in the order of the reference page.
+const QVector<EffectSchema>& Effects();
+
+/// The effect `id`; null when there is none.
+const EffectSchema* FindEffect(const QString& id);
+
+/// Checks the parameters `data` of `effect`, a UTF-8 JSON object or nothing. What the schema alone cannot say is checked
+/// too, such as levels whose black is not below their white.
+CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data);
+
+} // namespace BatchServer

@@ -1,0 +1,19 @@
+#include "Effects.h"
+
+#include "effects/AllEffects.h"
+
+#include <QHash>
+
+namespace BatchServer {
+
+Picture ApplyEffect(const QString& id, const QJsonObject& parameters, const Picture& picture)
+{
+    static const QHash<QString, EffectFunction> functions{
+        {QStringLiteral("exposure"), ApplyExposure},
+    };
+    const auto found = functions.constFind(id);
+    Q_ASSERT(found != functions.constEnd());
+    return (*found)(picture, parameters);
+}
+
+} // namespace BatchServer
