@@ -59,7 +59,7 @@ enum class ShadowMode : int { Drop = 0, ContactGlow = 1 };
 
 /// What the server did about the case that an error message reports: its field `action`.
 enum class Action : int {
-    ReportedOnly = 0,
+    ReportedOnly = 0, ///< nothing yet: the question about this file comes next
     FileSkipped = 1,
     RunStopped = 2,
     WrittenUnderAnotherName = 3,

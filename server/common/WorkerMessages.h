@@ -15,9 +15,16 @@
 
 /// What the supervisor and its workers tell each other, over the worker's standard input and output.
 ///
-/// A worker gets one Job, then tasks, and answers each task with one Report, in order. A supervisor may hand over the
-/// next task before the last is reported. The end of its input ends a worker.
+/// A worker says that it is ready with one Report of number workerIsReady, before it reads anything. Then it gets a Job
+/// and tasks, and answers each task with one Report, in order. A supervisor may hand over the next task before the last
+/// is reported. The end of its input ends a worker.
 namespace BatchServer {
+
+/// The number of the first report of a worker. A worker that ends before it could not start: no picture is to blame.
+constexpr qint32 workerIsReady = -1;
+
+/// The exit code of a worker that has no memory left to report that: the picture in work takes more than it may.
+constexpr int workerOutOfMemory = 10;
 
 /// What holds for every picture of a run. A later job replaces the one before.
 struct Job
@@ -49,14 +56,15 @@ enum class Case : qint32 { None, Input, Output, Processing, Naming, WriteToForma
 struct Report
 {
     qint32 number = 0;
-    Case failure = Case::None;                           ///< None: the task is done
-    qint32 errorCode = ZTBatchMessage::NoError;          ///< a ZTBatchMessage::Error
-    QString reason;                                      ///< for the log: what was wrong, and where
-    QStringList warnings;                                ///< for the log, of tasks that were done nonetheless
-    QString nearestFormat;                               ///< for WriteToFormat: a format that can hold the picture
-    QString inputFormat;                                 ///< of a probe: as FormatOfFile() names it
-    QDateTime captured;                                  ///< of a probe: EXIF original time, else the file's time
-    qint64 outputBytes = 0;                              ///< of a picture that was written
+    Case failure = Case::None;                  ///< None: the task is done
+    qint32 errorCode = ZTBatchMessage::NoError; ///< a ZTBatchMessage::Error
+    QString reason;                             ///< for the log: what was wrong, and where
+    QStringList warnings;                       ///< for the log, of tasks that were done nonetheless
+    QString nearestFormat;                      ///< for WriteToFormat, and of a probe: a format that can
+                                                ///< hold the picture, one of Formats()
+    QString inputFormat;                        ///< of a probe: as FormatOfFile() names it
+    QDateTime captured;                         ///< of a probe: EXIF original time, else the file's time
+    qint64 outputBytes = 0;                     ///< of a picture that was written
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;
