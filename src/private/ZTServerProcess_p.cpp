@@ -26,6 +26,10 @@ private:
 ZTServerProcess::ZTServerProcess(QObject* parent)
     : QProcess(parent)
 {
+    // Nobody reads what a server writes there, and QProcess would keep all of it.
+    setStandardOutputFile(nullDevice());
+    setProcessChannelMode(ForwardedErrorChannel);
+
     connect(this, &QProcess::started, this, [this] { isEndAwaited = true; });
     connect(this, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, [this] {
         isEndAwaited = false;

@@ -3,7 +3,8 @@
 #include <QProcess>
 
 /// The server's process. QProcess reports a process's end from inside the calls that end or await it, and the host's
-/// slots may do anything then: these calls bear that.
+/// slots may do anything then: these calls bear that. Its standard output goes nowhere, its standard error is the
+/// host's.
 class ZTServerProcess : public QProcess
 {
 public:

@@ -1,0 +1,74 @@
+#include "ZTServerProcess_p.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr int megabyte = 1 << 20;
+
+/// A server that talks: a megabyte on standard output, a line on standard error.
+int RunChatter()
+{
+    const std::string line(1023, 'x');
+    for (int i = 0; i < megabyte / 1024; ++i) {
+        std::fprintf(stdout, "%s\n", line.c_str());
+    }
+    std::fprintf(stderr, "a word from the server\n");
+    return 0;
+}
+
+/// A host with such a server.
+int RunHost(int& argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    ZTServerProcess server(nullptr);
+    server.start(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
+    return server.WaitForEnd(30'000) ? 0 : 1;
+}
+
+} // namespace
+
+class tst_ZTServerProcess : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void standardOutputIsNotKept()
+    {
+        ZTServerProcess server(nullptr);
+        server.start(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
+        QVERIFY(server.WaitForEnd(30'000));
+        QCOMPARE(server.exitCode(), 0);
+        QCOMPARE(server.readAllStandardOutput(), QByteArray());
+    }
+
+    void standardErrorIsTheHosts()
+    {
+        QProcess host;
+        host.start(QCoreApplication::applicationFilePath(), {QStringLiteral("host")});
+        QVERIFY(host.waitForFinished(30'000));
+        QCOMPARE(host.exitCode(), 0);
+        QCOMPARE(host.readAllStandardOutput(), QByteArray());
+        QCOMPARE(host.readAllStandardError().trimmed(), QByteArray("a word from the server"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    const std::string role = argc == 2 ? argv[1] : "";
+    if (role == "chatter") {
+        return RunChatter();
+    }
+    if (role == "host") {
+        return RunHost(argc, argv);
+    }
+    const QCoreApplication application(argc, argv);
+    tst_ZTServerProcess test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_ztserverprocess.moc"
