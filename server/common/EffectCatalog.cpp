@@ -9,8 +9,14 @@ const QVector<EffectSchema>& Effects()
     static const QVector<EffectSchema> effects{
         {QStringLiteral("exposure"),
          QStringLiteral("Brightens or darkens as a longer or shorter exposure would"),
-         {{QStringLiteral("stops"), ParameterType::Number, 0.0, QStringLiteral("how much; 1 doubles the light"), -10,
-           10, QStringLiteral("stops"), {}}}},
+         {{QStringLiteral("stops"),
+           ParameterType::Number,
+           0.0,
+           QStringLiteral("how much; 1 doubles the light"),
+           -10,
+           10,
+           QStringLiteral("stops"),
+           {}}}},
     };
     return effects;
 }
@@ -18,8 +24,8 @@ const QVector<EffectSchema>& Effects()
 const EffectSchema* FindEffect(const QString& id)
 {
     const QVector<EffectSchema>& effects = Effects();
-    const auto found = std::find_if(effects.begin(), effects.end(),
-                                    [&id](const EffectSchema& effect) { return effect.id == id; });
+    const auto found =
+        std::find_if(effects.begin(), effects.end(), [&id](const EffectSchema& effect) { return effect.id == id; });
     return found == effects.end() ? nullptr : &*found;
 }
 

@@ -22,8 +22,8 @@ const QVector<EffectSchema>& Effects();
 /// The effect `id`; null when there is none.
 const EffectSchema* FindEffect(const QString& id);
 
-/// Checks the parameters `data` of `effect`, a UTF-8 JSON object or nothing. What the schema alone cannot say is checked
-/// too, such as levels whose black is not below their white.
+/// Checks the parameters `data` of `effect`, a UTF-8 JSON object or nothing. What the schema alone cannot say is
+/// checked too, such as levels whose black is not below their white.
 CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data);
 
 } // namespace BatchServer

@@ -12,8 +12,8 @@ namespace BatchServer {
 
 struct FormatSchema
 {
-    QString name;                     ///< as it stands in a job, such as "JPEG"
-    QStringList extensions;           ///< lower case, without dot; results get the first
+    QString name;           ///< as it stands in a job, such as "JPEG"
+    QStringList extensions; ///< lower case, without dot; results get the first
     bool holdsTransparency = false;
     bool holdsCmyk = false;
     QVector<int> bitDepths;           ///< bits a channel, ascending
@@ -40,8 +40,8 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
 QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted);
 
 /// The format that a file has whose first bytes are `head`, such as "JPEG" or "RAW"; empty when they are those of no
-/// picture that the server reads. 64 bytes are enough. The bytes decide; only where they do not tell, as with camera RAW
-/// files that are TIFF files too, the extension does. Only formats that Formats() lists can be written.
+/// picture that the server reads. 64 bytes are enough. The bytes decide; only where they do not tell, as with camera
+/// RAW files that are TIFF files too, the extension does. Only formats that Formats() lists can be written.
 QString FormatOfFile(const QByteArray& head, const QString& extension);
 
 /// The extensions, lower case and without dot, of all files that the server reads.

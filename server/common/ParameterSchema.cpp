@@ -163,9 +163,9 @@ CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const 
         const auto found = given.constFind(parameter.name);
         if (found == given.constEnd()) {
             if (parameter.defaultValue.isNull()) {
-                return {{},
-                        QStringLiteral("\"%1\" is missing; it must be %2")
-                            .arg(parameter.name, AllowedValues(parameter))};
+                return {
+                    {},
+                    QStringLiteral("\"%1\" is missing; it must be %2").arg(parameter.name, AllowedValues(parameter))};
             }
             if (!parameter.defaultValue.isUndefined()) {
                 values.insert(parameter.name, parameter.defaultValue);

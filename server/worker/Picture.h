@@ -10,8 +10,8 @@
 /// metadata item "icc-profile-data" carries; without one they are sRGB. A stage keeps the metadata, the depth and the
 /// kind of the picture that it gets, and states where it does not.
 ///
-/// A stage builds a part of a libvips pipeline and returns at once; pixels flow when the result is encoded. Where it can
-/// work line by line it does, so that a large picture never stands in memory as a whole.
+/// A stage builds a part of a libvips pipeline and returns at once; pixels flow when the result is encoded. Where it
+/// can work line by line it does, so that a large picture never stands in memory as a whole.
 namespace BatchServer {
 
 using Picture = vips::VImage;
