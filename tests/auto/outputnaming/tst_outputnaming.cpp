@@ -1,0 +1,240 @@
+#include "OutputNaming.h"
+
+#include <QtTest>
+
+using namespace BatchServer;
+using Settings = ZTBatchOutputSettings;
+
+class tst_OutputNaming : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void templates_data();
+    void templates();
+    void separators_data();
+    void separators();
+    void captureTimes();
+    void cleanNames_data();
+    void cleanNames();
+    void lengthLimit_data();
+    void lengthLimit();
+    void keys_data();
+    void keys();
+};
+
+namespace {
+
+const QDateTime noon(QDate(2024, 2, 29), QTime(12, 5, 59));
+
+/// Only the middle, made from `kind`.
+OutputNaming Middle(Settings::NamingTemplate kind, const QString& text = {}, int start = 1, int digits = 1)
+{
+    Settings settings(nullptr);
+    settings.SetNamingTemplate(Settings::PartMiddle, kind);
+    settings.SetCustomTemplate(Settings::PartMiddle, text);
+    settings.SetStartNumber(Settings::PartMiddle, start);
+    settings.SetDigitsCount(Settings::PartMiddle, digits);
+    settings.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
+    return OutputNaming(settings);
+}
+
+} // namespace
+
+void tst_OutputNaming::templates_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("digits");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("stem");
+
+    const QString input = QStringLiteral("/in/a.b.jpg");
+    const auto row = [&](const char* name, int kind, const QString& inputPath, const QString& stem) {
+        QTest::newRow(name) << kind << QString() << 1 << 1 << inputPath << 0 << stem;
+    };
+    row("original name", Settings::TemplateOriginalName, input, QStringLiteral("a.b"));
+    row("original name without extension", Settings::TemplateOriginalName, QStringLiteral("/in/a"),
+        QStringLiteral("a"));
+    row("original name, dot in the folder", Settings::TemplateOriginalName, QStringLiteral("/i.n/a"),
+        QStringLiteral("a"));
+    row("only an extension", Settings::TemplateOriginalName, QStringLiteral("/in/.jpg"), QStringLiteral("_"));
+    row("date", Settings::TemplateCaptureDate, input, QStringLiteral("20240229"));
+    row("time", Settings::TemplateCaptureTime, input, QStringLiteral("120559"));
+    row("nothing falls back", Settings::TemplateNothing, input, QStringLiteral("a.b"));
+    row("empty text falls back", Settings::TemplateCustomText, input, QStringLiteral("a.b"));
+    QTest::newRow("text") << int(Settings::TemplateCustomText) << QStringLiteral("Sea") << 1 << 1 << input << 7
+                          << QStringLiteral("Sea");
+    QTest::newRow("number") << int(Settings::TemplateNumber) << QString() << 1 << 3 << input << 8
+                            << QStringLiteral("009");
+    QTest::newRow("long number") << int(Settings::TemplateNumber) << QString() << 98 << 2 << input << 2
+                                 << QStringLiteral("100");
+    QTest::newRow("largest number") << int(Settings::TemplateNumber) << QString() << std::numeric_limits<int>::max()
+                                    << 1 << input << 1 << QStringLiteral("2147483648");
+}
+
+void tst_OutputNaming::templates()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, text);
+    QFETCH(int, start);
+    QFETCH(int, digits);
+    QFETCH(QString, input);
+    QFETCH(int, position);
+    const OutputNaming naming = Middle(Settings::NamingTemplate(kind), text, start, digits);
+    QTEST(naming.Stem(input, position, noon), "stem");
+}
+
+void tst_OutputNaming::separators_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<QString>("middle");
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("stem");
+    const QString none;
+    const QString a = QStringLiteral("a");
+    const QString b = QStringLiteral("b");
+    const QString c = QStringLiteral("c");
+    QTest::newRow("all") << a << b << c << QStringLiteral("a-b+c");
+    QTest::newRow("no prefix") << none << b << c << QStringLiteral("b+c");
+    QTest::newRow("no suffix") << a << b << none << QStringLiteral("a-b");
+    QTest::newRow("no middle") << a << none << c << QStringLiteral("ac");
+    QTest::newRow("only the prefix") << a << none << none << a;
+    QTest::newRow("only the suffix") << none << none << c << c;
+    QTest::newRow("nothing") << none << none << none << QStringLiteral("photo");
+}
+
+void tst_OutputNaming::separators()
+{
+    QFETCH(QString, prefix);
+    QFETCH(QString, middle);
+    QFETCH(QString, suffix);
+    Settings settings(nullptr);
+    for (const auto part : {Settings::PartPrefix, Settings::PartMiddle, Settings::PartSuffix}) {
+        settings.SetNamingTemplate(part, Settings::TemplateCustomText);
+    }
+    settings.SetCustomTemplate(Settings::PartPrefix, prefix);
+    settings.SetCustomTemplate(Settings::PartMiddle, middle);
+    settings.SetCustomTemplate(Settings::PartSuffix, suffix);
+    settings.SetPrefixSeparator(QStringLiteral("-"));
+    settings.SetSuffixSeparator(QStringLiteral("+"));
+    QTEST(OutputNaming(settings).Stem(QStringLiteral("/in/photo.jpg"), 0, {}), "stem");
+}
+
+void tst_OutputNaming::captureTimes()
+{
+    QVERIFY(Middle(Settings::TemplateCaptureDate).NeedsCaptureTime());
+    QVERIFY(Middle(Settings::TemplateCaptureTime).NeedsCaptureTime());
+    QVERIFY(!Middle(Settings::TemplateNumber).NeedsCaptureTime());
+    QCOMPARE(Middle(Settings::TemplateCaptureDate).Stem(QStringLiteral("/in/a.jpg"), 0, {}),
+             QStringLiteral("00000000"));
+    QCOMPARE(Middle(Settings::TemplateCaptureTime).Stem(QStringLiteral("/in/a.jpg"), 0, {}), QStringLiteral("000000"));
+}
+
+void tst_OutputNaming::cleanNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("clean");
+    const auto row = [](const char* title, const QString& name, const QString& clean) {
+        QTest::newRow(title) << name << clean;
+    };
+    row("plain", QStringLiteral("Sea 1"), QStringLiteral("Sea 1"));
+    row("umlauts and emoji", QStringLiteral(u"K\u00FCste \U0001F30A"), QStringLiteral(u"K\u00FCste \U0001F30A"));
+    row("way out", QStringLiteral("../x"), QStringLiteral(".._x"));
+    row("way out on Windows", QStringLiteral("..\\x"), QStringLiteral(".._x"));
+    row("absolute", QStringLiteral("/etc/passwd"), QStringLiteral("_etc_passwd"));
+    row("drive", QStringLiteral("C:x"), QStringLiteral("C_x"));
+    row("this folder", QStringLiteral("."), QStringLiteral("_"));
+    row("folder above", QStringLiteral(".."), QStringLiteral("__"));
+    row("empty", QString(), QStringLiteral("_"));
+    row("leading dash", QStringLiteral("-rf"), QStringLiteral("-rf"));
+    row("leading dot", QStringLiteral(".hidden"), QStringLiteral(".hidden"));
+    row("all that is refused", QStringLiteral("a<>:\"/\\|?*b"), QStringLiteral("a_________b"));
+    row("line breaks", QStringLiteral(u"a\nb\rc\u2028d\u2029e\u0085f"), QStringLiteral("a_b_c_d_e_f"));
+    row("control characters", QStringLiteral(u"a\u0001\u001b\u007fb"), QStringLiteral("a___b"));
+    row("null character", QString(QStringLiteral("a") + QChar(0) + QStringLiteral("b")), QStringLiteral("a_b"));
+    row("trailing dots and spaces", QStringLiteral("a. ."), QStringLiteral("a___"));
+    row("only a space", QStringLiteral(" "), QStringLiteral("_"));
+    row("first half of a pair", QString(QStringLiteral("a") + QChar(0xD83C)), QStringLiteral("a_"));
+    row("second half of a pair", QString(QChar(0xDF0A) + QStringLiteral("a")), QStringLiteral("_a"));
+    row("halves in the wrong order", QString(QChar(0xDF0A)) + QChar(0xD83C), QStringLiteral("__"));
+    row("device", QStringLiteral("CON"), QStringLiteral("_"));
+    row("device in lower case", QStringLiteral("lpt1"), QStringLiteral("_"));
+    row("device with a dot", QStringLiteral("Nul.tar"), QStringLiteral("_.tar"));
+    row("device with a space", QStringLiteral("aux .a"), QStringLiteral("_.a"));
+    row("device with a superscript", QStringLiteral(u"COM\u00B9"), QStringLiteral("_"));
+    row("console", QStringLiteral("conin$"), QStringLiteral("_"));
+    row("no device", QStringLiteral("CONTENT"), QStringLiteral("CONTENT"));
+    row("no device either", QStringLiteral("COM0"), QStringLiteral("COM0"));
+}
+
+void tst_OutputNaming::cleanNames()
+{
+    QFETCH(QString, name);
+    QTEST(CleanName(name), "clean");
+}
+
+void tst_OutputNaming::lengthLimit_data()
+{
+    QTest::addColumn<QString>("stem");
+    QTest::addColumn<QString>("addition");
+    QTest::addColumn<QString>("name");
+    const QString limit(251, QLatin1Char('a'));
+    const QString ending = QStringLiteral(".jpg");
+    QTest::newRow("at the limit") << limit << QString() << limit + ending;
+    QTest::newRow("one more") << limit + QLatin1Char('a') << QString() << limit + ending;
+    QTest::newRow("addition stays") << limit << QStringLiteral(" (10)")
+                                    << QString(246, QLatin1Char('a')) + QStringLiteral(" (10)") + ending;
+    // Two bytes each: 125 of them are 250 bytes, half a character more would fit.
+    QTest::newRow("characters of two bytes")
+        << QString(200, QChar(0xFC)) << QString() << QString(125, QChar(0xFC)) + ending;
+    const QString wave = QStringLiteral(u"\U0001F30A");
+    QTest::newRow("surrogate pairs") << wave.repeated(100) << QString() << wave.repeated(62) + ending;
+    // A letter of one byte with an accent of two: the pair is one character for its reader.
+    const QString accented = QStringLiteral(u"e\u0301");
+    QTest::newRow("combining characters") << accented.repeated(100) << QString() << accented.repeated(83) + ending;
+    QTest::newRow("a dot at the cut") << QString(250, QLatin1Char('a')) + QStringLiteral(".aaaaaa") << QString()
+                                      << QString(250, QLatin1Char('a')) + QStringLiteral("_.jpg");
+}
+
+void tst_OutputNaming::lengthLimit()
+{
+    QFETCH(QString, stem);
+    QFETCH(QString, addition);
+    QTEST(FileName(stem, addition, QStringLiteral("jpg")), "name");
+    QVERIFY(FileName(stem, addition, QStringLiteral("jpg")).toUtf8().size() <= longestName);
+    QVERIFY(FolderName(stem + addition).toUtf8().size() <= longestName);
+}
+
+void tst_OutputNaming::keys_data()
+{
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("areSame");
+    QTest::newRow("equal") << QStringLiteral("a.jpg") << QStringLiteral("a.jpg") << true;
+    QTest::newRow("different") << QStringLiteral("a.jpg") << QStringLiteral("b.jpg") << false;
+    QTest::newRow("letter case") << QStringLiteral("A.JPG") << QStringLiteral("a.jpg") << true;
+    QTest::newRow("case beyond ASCII") << QStringLiteral(u"\u00C4.jpg") << QStringLiteral(u"\u00E4.jpg") << true;
+    QTest::newRow("composition") << QStringLiteral(u"\u00E4") << QStringLiteral(u"a\u0308") << true;
+    QTest::newRow("composition and case") << QStringLiteral(u"\u00C4") << QStringLiteral(u"a\u0308") << true;
+    QTest::newRow("full folding") << QStringLiteral(u"STRASSE") << QStringLiteral(u"stra\u00DFe") << true;
+    QTest::newRow("final sigma") << QStringLiteral(u"\u03A3") << QStringLiteral(u"\u03C2") << true;
+    QTest::newRow("kelvin sign") << QStringLiteral(u"\u212A") << QStringLiteral("k") << true;
+    QTest::newRow("letters beyond 16 bits") << QStringLiteral(u"\U00010400") << QStringLiteral(u"\U00010428") << true;
+    QTest::newRow("ligature") << QStringLiteral(u"\uFB01") << QStringLiteral("FI") << true;
+    QTest::newRow("capital sharp s") << QStringLiteral(u"\u1E9E") << QStringLiteral("ss") << true;
+    QTest::newRow("letter without dot counts") << QStringLiteral(u"\u0131") << QStringLiteral("i") << false;
+    QTest::newRow("accent counts") << QStringLiteral(u"\u00E9") << QStringLiteral("e") << false;
+}
+
+void tst_OutputNaming::keys()
+{
+    QFETCH(QString, one);
+    QFETCH(QString, other);
+    QTEST(NameKey(one) == NameKey(other), "areSame");
+}
+
+QTEST_APPLESS_MAIN(tst_OutputNaming)
+#include "tst_outputnaming.moc"
