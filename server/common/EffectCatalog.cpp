@@ -1,23 +1,16 @@
 #include "EffectCatalog.h"
 
+#include "effects/EffectChecks.h"
+#include "effects/EffectGroups.h"
+
 #include <algorithm>
 
 namespace BatchServer {
 
 const QVector<EffectSchema>& Effects()
 {
-    static const QVector<EffectSchema> effects{
-        {QStringLiteral("exposure"),
-         QStringLiteral("Brightens or darkens as a longer or shorter exposure would"),
-         {{QStringLiteral("stops"),
-           ParameterType::Number,
-           0.0,
-           QStringLiteral("how much; 1 doubles the light"),
-           -10,
-           10,
-           QStringLiteral("stops"),
-           {}}}},
-    };
+    static const QVector<EffectSchema> effects =
+        ToneEffects() + ColourEffects() + DetailEffects() + LookEffects() + GeometryEffects() + WatermarkEffects();
     return effects;
 }
 
@@ -31,7 +24,9 @@ const EffectSchema* FindEffect(const QString& id)
 
 CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data)
 {
-    return CheckParameters(effect.parameters, data);
+    const CheckedParameters checked = CheckParameters(effect.parameters, data);
+    const QString problem = checked.IsValid() ? EffectProblem(effect.id, checked.values) : QString();
+    return problem.isEmpty() ? checked : CheckedParameters{{}, problem};
 }
 
 } // namespace BatchServer

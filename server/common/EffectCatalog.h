@@ -23,7 +23,8 @@ const QVector<EffectSchema>& Effects();
 const EffectSchema* FindEffect(const QString& id);
 
 /// Checks the parameters `data` of `effect`, a UTF-8 JSON object or nothing. What the schema alone cannot say is
-/// checked too, such as levels whose black is not below their white.
+/// checked too, such as levels whose black is not below their white, and the files that it names are opened: a table of
+/// colours is read whole, a picture only as far as its first bytes.
 CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data);
 
 } // namespace BatchServer

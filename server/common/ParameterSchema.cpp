@@ -8,8 +8,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace BatchServer {
 
@@ -105,6 +107,100 @@ bool IsAllowed(const QJsonValue& value, const ParameterSchema& parameter)
     return false;
 }
 
+QJsonValue NumberFromText(const QString& text)
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    return isNumber ? QJsonValue(number) : QJsonValue(QJsonValue::Undefined);
+}
+
+QJsonValue TruthFromText(const QString& text)
+{
+    const QString word = text.trimmed().toLower();
+    const auto isOneOf = [&word](std::initializer_list<const char*> words) {
+        return std::any_of(words.begin(), words.end(), [&word](const char* it) { return word == QLatin1String(it); });
+    };
+    if (isOneOf({"true", "yes", "on", "1"})) {
+        return true;
+    }
+    return isOneOf({"false", "no", "off", "0"}) ? QJsonValue(false) : QJsonValue(QJsonValue::Undefined);
+}
+
+QJsonValue ChoiceFromText(const QString& text, const QStringList& choices)
+{
+    const QString word = text.trimmed();
+    const auto found = std::find_if(choices.begin(), choices.end(), [&word](const QString& choice) {
+        return choice.compare(word, Qt::CaseInsensitive) == 0;
+    });
+    return found == choices.end() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(*found);
+}
+
+QJsonValue ChoiceListFromText(const QString& text, const QStringList& choices)
+{
+    static const QRegularExpression separators(QStringLiteral("[+,]"));
+    QJsonArray list;
+    if (!text.trimmed().isEmpty() && text.trimmed().compare(QLatin1String("none"), Qt::CaseInsensitive) != 0) {
+        const QStringList words = text.split(separators);
+        for (const QString& word : words) {
+            list.append(ChoiceFromText(word, choices));
+        }
+    }
+    return list;
+}
+
+QJsonValue ColourFromText(const QString& text)
+{
+    const QString colour = text.trimmed();
+    return colour.startsWith(QLatin1Char('#')) ? colour : QLatin1Char('#') + colour;
+}
+
+QJsonValue FileFromText(const QString& text)
+{
+    return text.isEmpty() ? QJsonValue(QJsonValue::Undefined)
+                          : QJsonValue(QDir::cleanPath(QDir::current().absoluteFilePath(text)));
+}
+
+QJsonValue PointsFromText(const QString& text)
+{
+    static const QRegularExpression separators(QStringLiteral("[+;\\s]+"));
+    QJsonArray points;
+    const QStringList pairs = text.trimmed().split(separators);
+    for (const QString& pair : pairs) {
+        QJsonArray point;
+        const QStringList coordinates = pair.split(QLatin1Char(':'));
+        for (const QString& coordinate : coordinates) {
+            point.append(NumberFromText(coordinate));
+        }
+        points.append(point);
+    }
+    return points;
+}
+
+// Undefined, or a list with something in it that no schema allows, when the text has not the form of the type.
+QJsonValue ValueFromText(const ParameterSchema& parameter, const QString& text)
+{
+    switch (parameter.type) {
+    case ParameterType::Number:
+    case ParameterType::Integer:
+        return NumberFromText(text);
+    case ParameterType::Truth:
+        return TruthFromText(text);
+    case ParameterType::Choice:
+        return ChoiceFromText(text, parameter.choices);
+    case ParameterType::ChoiceList:
+        return ChoiceListFromText(text, parameter.choices);
+    case ParameterType::Colour:
+        return ColourFromText(text);
+    case ParameterType::Text:
+        return text;
+    case ParameterType::File:
+        return FileFromText(text);
+    case ParameterType::Points:
+        return PointsFromText(text);
+    }
+    return QJsonValue(QJsonValue::Undefined);
+}
+
 QString UnknownName(const QString& name, const QVector<ParameterSchema>& schema)
 {
     QStringList known;
@@ -186,6 +282,21 @@ CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const 
         }
     }
     return {values, {}};
+}
+
+ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString& text)
+{
+    const QJsonValue value = ValueFromText(parameter, text);
+    if (IsAllowed(value, parameter)) {
+        return {value, {}};
+    }
+    QString error = QStringLiteral("\"%1\" is %2; it must be %3")
+                        .arg(parameter.name, ValueText(QJsonValue(text)), AllowedValues(parameter));
+    const QString nearest = parameter.type == ParameterType::Choice ? NearestWord(text, parameter.choices) : QString();
+    if (!nearest.isEmpty()) {
+        error += QStringLiteral("; did you mean %1?").arg(nearest);
+    }
+    return {QJsonValue(QJsonValue::Undefined), error};
 }
 
 QString AllowedValues(const ParameterSchema& parameter)

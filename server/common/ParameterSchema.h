@@ -50,6 +50,21 @@ struct CheckedParameters
 CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const QByteArray& json);
 CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const QJsonObject& given);
 
+/// One value as a user wrote it, or the reason why it is refused.
+struct ParameterValue
+{
+    QJsonValue value; ///< undefined when refused
+    QString error;    ///< names the parameter, the text and what is allowed; empty when accepted
+
+    bool IsValid() const { return error.isEmpty(); }
+};
+
+/// The JSON value that `text`, written on a command line, stands for, checked against `parameter`. Numbers have a
+/// decimal point in every locale. Truth is "true", "yes", "on", "1" or their opposites, in any letter case, as choices
+/// are. A colour may come without its "#". A relative file counts from the current folder. A list joins its choices
+/// with "+" or ",", and "none" is the empty list. Points are written x:y and joined with "+", ";" or blanks.
+ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString& text);
+
 /// What `parameter` takes, in words, such as "a number from 0 to 100 (percent)".
 QString AllowedValues(const ParameterSchema& parameter);
 

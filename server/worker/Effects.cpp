@@ -12,7 +12,9 @@ Picture ApplyEffect(const QString& id, const QJsonObject& parameters, const Pict
         {QStringLiteral("exposure"), ApplyExposure},
     };
     const auto found = functions.constFind(id);
-    Q_ASSERT(found != functions.constEnd());
+    if (found == functions.constEnd()) {
+        throw EffectError("the effect " + id.toStdString() + " is not available");
+    }
     return (*found)(picture, parameters);
 }
 
