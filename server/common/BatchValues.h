@@ -75,7 +75,7 @@ struct Word
     const char* description; ///< one line for help texts and documents
 };
 
-constexpr std::array NamingTemplateWords{
+inline constexpr std::array NamingTemplateWords{
     Word{ZTBatchOutputSettings::TemplateOriginalName, "original", "the input's name without its extension"},
     Word{ZTBatchOutputSettings::TemplateNumber, "number", "a number that counts the job's files"},
     Word{ZTBatchOutputSettings::TemplateCaptureDate, "date", "the capture date, YYYYMMDD"},
@@ -84,27 +84,27 @@ constexpr std::array NamingTemplateWords{
     Word{ZTBatchOutputSettings::TemplateNothing, "nothing", "nothing"},
 };
 
-constexpr std::array FolderStructureWords{
+inline constexpr std::array FolderStructureWords{
     Word{ZTBatchOutputSettings::StructureFlat, "flat", "everything in the output folder"},
     Word{ZTBatchOutputSettings::StructureAsInput, "input", "folders as in the input"},
     Word{ZTBatchOutputSettings::StructureByCaptureDate, "date", "a folder for each capture date, YYYY/YYYY-MM-DD"},
 };
 
-constexpr std::array SizeRestrictionWords{
+inline constexpr std::array SizeRestrictionWords{
     Word{int(SizeRestriction::None), "none", "the size stays"},
     Word{int(SizeRestriction::Fit), "fit", "enlarge or reduce"},
     Word{int(SizeRestriction::ReduceOnly), "reduce", "only reduce"},
     Word{int(SizeRestriction::EnlargeOnly), "enlarge", "only enlarge"},
 };
 
-constexpr std::array SizeSideWords{
+inline constexpr std::array SizeSideWords{
     Word{int(SizeSide::Width), "width", "the width"},
     Word{int(SizeSide::Height), "height", "the height"},
     Word{int(SizeSide::LongSide), "long", "the long side"},
     Word{int(SizeSide::ShortSide), "short", "the short side"},
 };
 
-constexpr std::array SizeUnitWords{
+inline constexpr std::array SizeUnitWords{
     Word{int(SizeUnit::Pixels), "px", "pixels"},
     Word{int(SizeUnit::Percent), "percent", "percent of the picture"},
     Word{int(SizeUnit::Inches), "in", "inches at the resolution"},
@@ -112,7 +112,7 @@ constexpr std::array SizeUnitWords{
     Word{int(SizeUnit::Millimetres), "mm", "millimetres at the resolution"},
 };
 
-constexpr std::array CropTypeWords{
+inline constexpr std::array CropTypeWords{
     Word{int(CropType::None), "none", "no crop"},
     Word{int(CropType::Ratio), "ratio", "the largest frame of the ratio width : height"},
     Word{int(CropType::Trim), "trim", "cut off a border of one colour"},
@@ -121,14 +121,14 @@ constexpr std::array CropTypeWords{
     Word{int(CropType::Exact), "exact", "width x height pixels"},
 };
 
-constexpr std::array BackgroundTypeWords{
+inline constexpr std::array BackgroundTypeWords{
     Word{int(BackgroundType::None), "none", "transparent where the format allows it, else white"},
     Word{int(BackgroundType::Colour), "colour", "one colour"},
     Word{int(BackgroundType::Pattern), "pattern", "a built-in pattern"},
     Word{int(BackgroundType::Image), "image", "an image file, scaled to cover"},
 };
 
-constexpr std::array BlendingWords{
+inline constexpr std::array BlendingWords{
     Word{int(Blending::Normal), "normal", "the picture covers its background"},
     Word{int(Blending::Multiply), "multiply", "multiply"},
     Word{int(Blending::Screen), "screen", "screen"},
@@ -140,33 +140,33 @@ constexpr std::array BlendingWords{
     Word{int(Blending::Difference), "difference", "the difference of the two"},
 };
 
-constexpr std::array ShadowModeWords{
+inline constexpr std::array ShadowModeWords{
     Word{int(ShadowMode::Drop), "drop", "a drop shadow"},
     Word{int(ShadowMode::ContactGlow), "glow", "a glow around the picture, without offset"},
 };
 
 /// For the input, output and processing policies.
-constexpr std::array FilePolicyWords{
+inline constexpr std::array FilePolicyWords{
     Word{ZTBatchManager::InputSkip, "skip", "skip the file"},
     Word{ZTBatchManager::InputStop, "stop", "stop the run"},
     Word{ZTBatchManager::InputAsk, "ask", "ask"},
 };
 
-constexpr std::array NamingPolicyWords{
+inline constexpr std::array NamingPolicyWords{
     Word{ZTBatchManager::NamingSkip, "skip", "skip the file"},
     Word{ZTBatchManager::NamingOverwrite, "overwrite", "overwrite what is there"},
     Word{ZTBatchManager::NamingRename, "rename", "append \" (2)\", \" (3)\" and so on to the name"},
     Word{ZTBatchManager::NamingAsk, "ask", "ask"},
 };
 
-constexpr std::array WriteToFormatPolicyWords{
+inline constexpr std::array WriteToFormatPolicyWords{
     Word{ZTBatchManager::WriteToFormatSkip, "skip", "skip the file"},
     Word{ZTBatchManager::WriteToFormatStop, "stop", "stop the run"},
     Word{ZTBatchManager::WriteToFormatAsk, "ask", "ask"},
     Word{ZTBatchManager::WriteToFormatNearest, "nearest", "write the nearest format that can hold the picture"},
 };
 
-constexpr std::array ActionWords{
+inline constexpr std::array ActionWords{
     Word{int(Action::ReportedOnly), "reported", "reported only"},
     Word{int(Action::FileSkipped), "skipped", "the file was skipped"},
     Word{int(Action::RunStopped), "stopped", "the run was stopped"},

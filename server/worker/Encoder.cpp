@@ -1,0 +1,230 @@
+#include "Encoder.h"
+
+#include "PictureFailure.h"
+#include "PixelForms.h"
+#include "ResultTarget.h"
+
+#include <QColor>
+#include <QHash>
+
+#include <algorithm>
+#include <cmath>
+
+namespace BatchServer {
+
+namespace {
+
+using Options = vips::VOption;
+
+int Integer(const QJsonObject& options, const char* name)
+{
+    return options[QLatin1String(name)].toInt();
+}
+
+bool Truth(const QJsonObject& options, const char* name)
+{
+    return options[QLatin1String(name)].toBool();
+}
+
+QString Choice(const QJsonObject& options, const char* name)
+{
+    return options[QLatin1String(name)].toString();
+}
+
+bool KeepsColourFine(const QJsonObject& options)
+{
+    constexpr int fineFrom = 90;
+    const QString wanted = Choice(options, "chromaSubsampling");
+    return wanted == QLatin1String("4:4:4") ||
+           (wanted == QLatin1String("auto") && (Integer(options, "quality") >= fineFrom || Truth(options, "lossless")));
+}
+
+VipsForeignSubsample Subsampling(const QJsonObject& options)
+{
+    return KeepsColourFine(options) ? VIPS_FOREIGN_SUBSAMPLE_OFF : VIPS_FOREIGN_SUBSAMPLE_ON;
+}
+
+// The efforts of the options, 0 to 9, on the scale of an encoder.
+int Effort(const QJsonObject& options, int least, int most)
+{
+    return least + int(std::lround(Integer(options, "effort") * (most - least) / 9.0));
+}
+
+VipsForeignTiffCompression TiffCompression(const QJsonObject& options)
+{
+    static const QHash<QString, VipsForeignTiffCompression> compressions{
+        {QStringLiteral("none"), VIPS_FOREIGN_TIFF_COMPRESSION_NONE},
+        {QStringLiteral("lzw"), VIPS_FOREIGN_TIFF_COMPRESSION_LZW},
+        {QStringLiteral("deflate"), VIPS_FOREIGN_TIFF_COMPRESSION_DEFLATE},
+        {QStringLiteral("zstd"), VIPS_FOREIGN_TIFF_COMPRESSION_ZSTD},
+        {QStringLiteral("jpeg"), VIPS_FOREIGN_TIFF_COMPRESSION_JPEG},
+    };
+    return compressions.value(Choice(options, "compression"), VIPS_FOREIGN_TIFF_COMPRESSION_LZW);
+}
+
+void SetJpegOptions(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("Q", Integer(options, "quality"))
+        ->set("interlace", Truth(options, "progressive"))
+        ->set("subsample_mode", Subsampling(options));
+}
+
+void SetPngOptions(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("compression", Integer(options, "compressionLevel"))->set("interlace", Truth(options, "progressive"));
+}
+
+void SetTiffOptions(Options* set, const QJsonObject& options, const Picture& picture)
+{
+    constexpr guint64 largestClassic = guint64(3) << 30; // offsets of 32 bits, with room for what packing may add
+    set->set("compression", TiffCompression(options))
+        ->set("Q", Integer(options, "quality"))
+        ->set("bigtiff", VIPS_IMAGE_SIZEOF_IMAGE(picture.get_image()) > largestClassic);
+}
+
+void SetWebpOptions(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("Q", Integer(options, "quality"))
+        ->set("lossless", Truth(options, "lossless"))
+        ->set("effort", Effort(options, 0, 6));
+}
+
+void SetHeifOptions(Options* set, const QJsonObject& options, const Picture& picture)
+{
+    set->set("Q", Integer(options, "quality"))
+        ->set("lossless", Truth(options, "lossless"))
+        ->set("bitdepth", HasSixteenBits(picture) ? options[QLatin1String("bitDepth")].toInt(12) : 8)
+        ->set("subsample_mode", Subsampling(options))
+        ->set("compression", VIPS_FOREIGN_HEIF_COMPRESSION_HEVC);
+}
+
+void SetAvifOptions(Options* set, const QJsonObject& options, const Picture& picture)
+{
+    SetHeifOptions(set, options, picture);
+    set->set("compression", VIPS_FOREIGN_HEIF_COMPRESSION_AV1)->set("effort", Effort(options, 0, 9));
+}
+
+void SetJxlOptions(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("Q", Integer(options, "quality"))
+        ->set("lossless", Truth(options, "lossless"))
+        ->set("effort", Effort(options, 3, 9));
+}
+
+void SetJp2Options(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("Q", Integer(options, "quality"))
+        ->set("lossless", Truth(options, "lossless"))
+        ->set("subsample_mode", Subsampling(options));
+}
+
+void SetGifOptions(Options* set, const QJsonObject& options, const Picture&)
+{
+    set->set("effort", Effort(options, 1, 10));
+}
+
+struct Saver
+{
+    const char* operation;
+    void (*setOptions)(Options*, const QJsonObject&, const Picture&);
+};
+
+const Saver& SaverOf(const FormatSchema& format)
+{
+    static const QHash<QString, Saver> savers{
+        {QStringLiteral("JPEG"), {"jpegsave_target", SetJpegOptions}},
+        {QStringLiteral("PNG"), {"pngsave_target", SetPngOptions}},
+        {QStringLiteral("TIFF"), {"tiffsave_target", SetTiffOptions}},
+        {QStringLiteral("WebP"), {"webpsave_target", SetWebpOptions}},
+        {QStringLiteral("HEIF"), {"heifsave_target", SetHeifOptions}},
+        {QStringLiteral("AVIF"), {"heifsave_target", SetAvifOptions}},
+        {QStringLiteral("JPEG XL"), {"jxlsave_target", SetJxlOptions}},
+        {QStringLiteral("JPEG 2000"), {"jp2ksave_target", SetJp2Options}},
+        {QStringLiteral("GIF"), {"gifsave_target", SetGifOptions}},
+    };
+    const auto found = savers.constFind(format.name);
+    Q_ASSERT(found != savers.constEnd());
+    return *found;
+}
+
+// A library that is there may still lack the codec behind it; writing a few pixels tells.
+bool TryToWrite(const FormatSchema& format)
+{
+    try {
+        const QJsonObject options = OptionsFor(format, {});
+        const Picture black = Picture::black(16, 16, Picture::option()->set("bands", 3))
+                                  .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+        vips::VTarget target = vips::VTarget::new_to_memory();
+        Options* set = Picture::option()->set("in", black)->set("target", target);
+        SaverOf(format).setOptions(set, options, black);
+        Picture::call(SaverOf(format).operation, set);
+        return true;
+    } catch (const vips::VError&) {
+        vips_error_clear();
+        return false;
+    }
+}
+
+int DepthFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture)
+{
+    const bool isPackedAsJpeg = Choice(options, "compression") == QLatin1String("jpeg");
+    if (format.bitDepths.last() == 8 || isPackedAsJpeg) {
+        return 8;
+    }
+    const QJsonValue wanted = options[QLatin1String("bitDepth")];
+    const bool isDeep = wanted.isDouble() ? wanted.toInt() > 8 : HasSixteenBits(picture);
+    return isDeep ? 16 : 8;
+}
+
+} // namespace
+
+bool CanWrite(const FormatSchema& format)
+{
+    static QHash<QString, bool> known;
+    if (!known.contains(format.name)) {
+        known.insert(format.name, TryToWrite(format));
+    }
+    return known.value(format.name);
+}
+
+QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, const QSize& size)
+{
+    const auto holds = [&size](const QString& name) {
+        return std::max(size.width(), size.height()) <= FindFormat(name)->longestSide;
+    };
+    const QString tiff = QStringLiteral("TIFF");
+    if (sourceFormat == QLatin1String("RAW") || isDeep) {
+        return tiff;
+    }
+    const QString usual = hasAlpha ? QStringLiteral("PNG") : QStringLiteral("JPEG");
+    return holds(usual) ? usual : tiff;
+}
+
+Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture)
+{
+    Picture ready = picture;
+    if (!format.holdsTransparency) {
+        constexpr int opaqueColour = 7; // "#rrggbb"; what lies under everything has no use for an alpha
+        ready = Flattened(ready, QColor(Choice(options, "background").left(opaqueColour)));
+    }
+    return WithDepth(ready, DepthFor(format, options, ready));
+}
+
+void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, int descriptor)
+{
+    const Saver& saver = SaverOf(format);
+    const ResultTarget result(descriptor);
+    Options* set = Picture::option()->set("in", picture)->set("target", result.Target());
+    saver.setOptions(set, options, picture);
+    try {
+        Picture::call(saver.operation, set);
+    } catch (const vips::VError&) {
+        if (result.Problem() != 0) {
+            vips_error_clear();
+            throw OutputFailed(qt_error_string(result.Problem()));
+        }
+        throw;
+    }
+}
+
+} // namespace BatchServer

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "FormatCatalog.h"
+#include "Picture.h"
+
+#include <QJsonObject>
+#include <QSize>
+#include <QString>
+
+namespace BatchServer {
+
+/// Whether this installation can write `format`: the imaging library may lack an encoder.
+bool CanWrite(const FormatSchema& format);
+
+/// The format that surely holds a picture: TIFF for camera RAW (`sourceFormat` is "RAW"), for more than 8 bits a
+/// channel and for sides that the others do not hold; PNG with transparency; else JPEG.
+QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, const QSize& size);
+
+/// Brings `picture`, of the form that stages hand on or of CMYK, into one that `format` holds: depth and background by
+/// `options`, which are complete.
+Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture);
+
+/// Writes `picture`, which is ready for `format`, to the open file `descriptor` from its beginning. Throws
+/// PictureFailure of the case Output when the file cannot take it, and vips::VError for anything else, such as a source
+/// that proves damaged.
+void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, int descriptor);
+
+} // namespace BatchServer

@@ -1,0 +1,132 @@
+#include "PictureSource.h"
+
+#include "FormatCatalog.h"
+#include "Orientation.h"
+#include "PictureFailure.h"
+#include "VipsText.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace BatchServer {
+
+namespace {
+
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(const QString& file)
+        : value(open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+        if (value < 0) {
+            throw DamagedFile(qt_error_string(errno));
+        }
+        struct stat status;
+        const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
+        if (!isFile) {
+            close(value);
+            throw DamagedFile(QStringLiteral("it is no file"));
+        }
+    }
+    ~FileDescriptor() { close(value); }
+
+    int Value() const { return value; }
+
+private:
+    Q_DISABLE_COPY(FileDescriptor)
+
+    int value;
+};
+
+// The loader is named, never found by the library: it would look for options in the file's name, and try loaders that
+// are not meant for files of strangers.
+const char* LoaderOf(const QString& format)
+{
+    static const QHash<QString, const char*> loaders{
+        {QStringLiteral("JPEG"), "jpegload_source"},   {QStringLiteral("PNG"), "pngload_source"},
+        {QStringLiteral("TIFF"), "tiffload_source"},   {QStringLiteral("WebP"), "webpload_source"},
+        {QStringLiteral("HEIF"), "heifload_source"},   {QStringLiteral("AVIF"), "heifload_source"},
+        {QStringLiteral("JPEG XL"), "jxlload_source"}, {QStringLiteral("JPEG 2000"), "jp2kload_source"},
+        {QStringLiteral("GIF"), "gifload_source"},
+    };
+    return loaders.value(format, nullptr);
+}
+
+Picture Read(const QString& file, const QString& format, int shrink)
+{
+    const FileDescriptor descriptor(file);
+    vips::VOption* options = Picture::option()
+                                 ->set("source", vips::VSource::new_from_descriptor(descriptor.Value()))
+                                 ->set("access", VIPS_ACCESS_SEQUENTIAL)
+                                 ->set("fail_on", VIPS_FAIL_ON_ERROR);
+    if (shrink > 1 && format == QLatin1String("JPEG")) {
+        options->set("shrink", shrink);
+    } else if (shrink > 1 && format == QLatin1String("WebP")) {
+        options->set("scale", 1.0 / shrink);
+    }
+    Picture picture;
+    Picture::call(LoaderOf(format), options->set("out", &picture));
+    return picture;
+}
+
+} // namespace
+
+PictureSource::PictureSource(const QString& file, qint64 pixelLimit)
+    : file(file)
+{
+    Identify();
+    try {
+        header = Read(file, format, 1);
+    } catch (const vips::VError& problem) {
+        throw DamagedFile(TextOf(problem));
+    }
+    storedSize = QSize(header.width(), header.height());
+    orientation = OrientationOf(header);
+    const qint64 pixels = qint64(storedSize.width()) * storedSize.height();
+    if (pixels > pixelLimit) {
+        throw TooLarge(QStringLiteral("%1 x %2 pixels are more than the limit of %3 megapixels")
+                           .arg(storedSize.width())
+                           .arg(storedSize.height())
+                           .arg(pixelLimit / 1'000'000));
+    }
+}
+
+int PictureSource::PossibleShrink(double shrink) const
+{
+    if (format != QLatin1String("JPEG") && format != QLatin1String("WebP")) {
+        return 1;
+    }
+    int possible = 8;
+    while (possible > shrink) {
+        possible /= 2;
+    }
+    return std::max(1, possible);
+}
+
+Picture PictureSource::Load(int shrink) const
+{
+    return Read(file, format, shrink);
+}
+
+void PictureSource::Identify()
+{
+    const FileDescriptor descriptor(file);
+    QFile head;
+    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const QByteArray bytes = head.read(64);
+    if (bytes.isEmpty()) {
+        throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
+    }
+    format = FormatOfFile(bytes, QFileInfo(file).suffix());
+    if (!LoaderOf(format)) {
+        throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
+    }
+}
+
+} // namespace BatchServer

@@ -1,0 +1,42 @@
+#include "ResultTarget.h"
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace BatchServer {
+
+ResultTarget::ResultTarget(int descriptor)
+    : target(VIPS_TARGET(vips_target_custom_new()), vips::STEAL)
+    , descriptor(descriptor)
+{
+    VipsTarget* object = target.get_target();
+    const auto write = [](VipsTargetCustom*, const void* data, gint64 length, gpointer self) {
+        return static_cast<ResultTarget*>(self)->Write(static_cast<const char*>(data), length);
+    };
+    const auto read = [](VipsTargetCustom*, void* data, gint64 length, gpointer self) {
+        return gint64(::read(static_cast<ResultTarget*>(self)->descriptor, data, size_t(length)));
+    };
+    const auto seek = [](VipsTargetCustom*, gint64 offset, int whence, gpointer self) {
+        return gint64(lseek(static_cast<ResultTarget*>(self)->descriptor, offset, whence));
+    };
+    using WriteHandler = gint64 (*)(VipsTargetCustom*, const void*, gint64, gpointer);
+    using ReadHandler = gint64 (*)(VipsTargetCustom*, void*, gint64, gpointer);
+    using SeekHandler = gint64 (*)(VipsTargetCustom*, gint64, int, gpointer);
+    g_signal_connect(object, "write", G_CALLBACK(static_cast<WriteHandler>(write)), this);
+    g_signal_connect(object, "read", G_CALLBACK(static_cast<ReadHandler>(read)), this);
+    g_signal_connect(object, "seek", G_CALLBACK(static_cast<SeekHandler>(seek)), this);
+}
+
+gint64 ResultTarget::Write(const char* data, gint64 length)
+{
+    ssize_t written = 0;
+    do {
+        written = ::write(descriptor, data, size_t(length));
+    } while (written < 0 && errno == EINTR);
+    if (written < 0 && problem == 0) {
+        problem = errno;
+    }
+    return written;
+}
+
+} // namespace BatchServer

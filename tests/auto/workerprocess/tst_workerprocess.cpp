@@ -1,0 +1,262 @@
+#include "TestPictures.h"
+#include "WorkerProcess.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace BatchServer;
+
+/// The worker as its supervisor sees it: messages, reports, files.
+class WorkerProcessTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void endsWithItsInput();
+    void refusesWhatIsNoMessage();
+    void writesAPicture();
+    void reportsInOrder();
+    void reportsBadInput_data();
+    void reportsBadInput();
+    void leavesATakenNameAlone();
+    void replacesOnRequest();
+    void reportsAnUnusableFolder();
+    void probesFiles();
+    void scalesAPicture();
+
+private:
+    QString Path(const QString& name) const { return folder->filePath(name); }
+    QByteArray Bytes(const QString& name) const;
+    void WriteBytes(const QString& name, const QByteArray& bytes) const;
+    PictureTask Task(const QString& input, const QString& output) const;
+
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+void WorkerProcessTest::initTestCase()
+{
+    StartPictures();
+}
+
+void WorkerProcessTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+}
+
+QByteArray WorkerProcessTest::Bytes(const QString& name) const
+{
+    QFile file(Path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+}
+
+void WorkerProcessTest::WriteBytes(const QString& name, const QByteArray& bytes) const
+{
+    QFile file(Path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+PictureTask WorkerProcessTest::Task(const QString& input, const QString& output) const
+{
+    PictureTask task;
+    task.number = 7;
+    task.inputFile = Path(input);
+    task.outputFile = Path(output);
+    task.format = QStringLiteral("JPEG");
+    return task;
+}
+
+void WorkerProcessTest::endsWithItsInput()
+{
+    WorkerProcess worker;
+    QVERIFY(worker.IsReady());
+    QCOMPARE(worker.ExitCode(), 0);
+}
+
+void WorkerProcessTest::refusesWhatIsNoMessage()
+{
+    WorkerProcess worker;
+    worker.SendBytes(QByteArray("\0\0\0\1\x77", 5));
+    QCOMPARE(worker.NextReport().has_value(), false);
+    QCOMPARE(worker.ExitCode(), 1);
+    QVERIFY(worker.ErrorOutput().contains("no message"));
+}
+
+void WorkerProcessTest::writesAPicture()
+{
+    const Picture chart = Chart(64, 40);
+    WritePicture(chart, Path(QStringLiteral("in.png")));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("PNG")));
+    PictureTask task = Task(QStringLiteral("in.png"), QStringLiteral("out.png"));
+    task.format = QStringLiteral("PNG");
+    const Report report = worker.Do(task);
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.failure, Case::None);
+    QCOMPARE(report.number, task.number);
+    QCOMPARE(report.outputBytes, QFileInfo(task.outputFile).size());
+    QCOMPARE(LargestDifference(ReadPicture(task.outputFile), chart), 0.0);
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void WorkerProcessTest::reportsInOrder()
+{
+    WritePicture(Chart(300, 200), Path(QStringLiteral("in.jpg")));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    constexpr int count = 20;
+    for (int i = 0; i < count; ++i) {
+        // Every third file is missing: what fails is quicker than what is written.
+        const bool isMissing = i % 3 == 1;
+        PictureTask task =
+            Task(isMissing ? QStringLiteral("none.jpg") : QStringLiteral("in.jpg"), QStringLiteral("out%1.jpg").arg(i));
+        task.number = i;
+        worker.Send(task);
+    }
+    for (int i = 0; i < count; ++i) {
+        const std::optional<Report> report = worker.NextReport();
+        QVERIFY(report.has_value());
+        QCOMPARE(report->number, i);
+        QCOMPARE(report->failure, i % 3 == 1 ? Case::Input : Case::None);
+        QCOMPARE(QFile::exists(Path(QStringLiteral("out%1.jpg").arg(i))), i % 3 != 1);
+    }
+}
+
+void WorkerProcessTest::reportsBadInput_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<QString>("words");
+
+    const auto encoded = [](const char* suffix) {
+        const QTemporaryDir place;
+        const QString file = place.filePath(QStringLiteral("whole") + QLatin1String(suffix));
+        WritePicture(Chart(400, 300), file);
+        QFile whole(file);
+        return whole.open(QIODevice::ReadOnly) ? whole.readAll() : QByteArray();
+    };
+    const QByteArray jpeg = encoded(".jpg");
+    const QByteArray png = encoded(".png");
+    const int damaged = ZTBatchMessage::ReadFileError;
+    const int unknown = ZTBatchMessage::UnsupportedInputFormat;
+    QTest::newRow("zero bytes") << QByteArray("") << damaged << QStringLiteral("empty");
+    QTest::newRow("text") << QByteArray("no picture at all") << unknown << QStringLiteral("decoder");
+    QTest::newRow("half a JPEG") << jpeg.left(jpeg.size() / 2) << damaged << QString();
+    QTest::newRow("a JPEG without its last hundred bytes") << jpeg.chopped(100) << damaged << QString();
+    QTest::newRow("start of a JPEG") << jpeg.left(30) << damaged << QString();
+    QTest::newRow("half a PNG") << png.left(png.size() / 2) << damaged << QString();
+    QTest::newRow("start of a PNG") << png.left(20) << damaged << QString();
+    QTest::newRow("half a TIFF") << encoded(".tif").left(50'000) << damaged << QString();
+    QTest::newRow("half a WebP") << encoded(".webp").left(2'000) << damaged << QString();
+    QTest::newRow("half a GIF") << encoded(".gif").left(2'000) << damaged << QString();
+    QTest::newRow("half a JPEG XL") << encoded(".jxl").left(1'000) << damaged << QString();
+    QTest::newRow("half a JPEG 2000") << encoded(".jp2").left(2'000) << damaged << QString();
+    QTest::newRow("half an AVIF") << encoded(".avif").left(2'000) << damaged << QString();
+}
+
+void WorkerProcessTest::reportsBadInput()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const int, error);
+    QFETCH(const QString, words);
+
+    WriteBytes(QStringLiteral("in.jpg"), bytes);
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg")));
+    QCOMPARE(report.failure, Case::Input);
+    QCOMPARE(report.errorCode, error);
+    QVERIFY(!report.reason.isEmpty());
+    QVERIFY2(report.reason.contains(words), qUtf8Printable(report.reason));
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("in.jpg")));
+    QCOMPARE(worker.ExitCode(), 0);
+}
+
+void WorkerProcessTest::leavesATakenNameAlone()
+{
+    WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
+    WriteBytes(QStringLiteral("out.jpg"), "somebody's");
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg")));
+    QCOMPARE(report.failure, Case::Naming);
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::FileNameAlreadyExists));
+    QCOMPARE(Bytes(QStringLiteral("out.jpg")), QByteArray("somebody's"));
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void WorkerProcessTest::replacesOnRequest()
+{
+    // The source itself is the hardest case: it is read while its successor is written.
+    WritePicture(Chart(300, 200), Path(QStringLiteral("in.png")));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("PNG"), {}, [](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = 1;
+        size.size = 30;
+        output.SetImageSizeSettings(size);
+    }));
+    PictureTask task = Task(QStringLiteral("in.png"), QStringLiteral("in.png"));
+    task.format = QStringLiteral("PNG");
+    task.replaceExisting = true;
+    QCOMPARE(worker.Do(task).reason, QString());
+    QCOMPARE(ReadPicture(task.outputFile).width(), 30);
+    QCOMPARE(ReadPicture(task.outputFile).height(), 20);
+    QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void WorkerProcessTest::reportsAnUnusableFolder()
+{
+    WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("no such folder/out.jpg")));
+    QCOMPARE(report.failure, Case::Output);
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
+    QVERIFY(!report.reason.isEmpty());
+}
+
+void WorkerProcessTest::probesFiles()
+{
+    Picture picture = Chart(30, 20);
+    picture.set("exif-ifd2-DateTimeOriginal", "2019:07:06 05:04:03");
+    WritePicture(picture, Path(QStringLiteral("dated.jpg")));
+    WritePicture(Chart(30, 20), Path(QStringLiteral("plain.png")));
+    WorkerProcess worker;
+    const Report dated = worker.Do(ProbeTask{1, Path(QStringLiteral("dated.jpg"))});
+    QCOMPARE(dated.reason, QString());
+    QCOMPARE(dated.inputFormat, QStringLiteral("JPEG"));
+    QCOMPARE(dated.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
+    const Report plain = worker.Do(ProbeTask{2, Path(QStringLiteral("plain.png"))});
+    QCOMPARE(plain.inputFormat, QStringLiteral("PNG"));
+    QCOMPARE(plain.captured, QFileInfo(Path(QStringLiteral("plain.png"))).lastModified());
+    QCOMPARE(plain.nearestFormat, QStringLiteral("JPEG"));
+    QCOMPARE(worker.Do(ProbeTask{3, Path(QStringLiteral("none"))}).errorCode, qint32(ZTBatchMessage::ReadFileError));
+}
+
+void WorkerProcessTest::scalesAPicture()
+{
+    WritePicture(Chart(1200, 800, 64), Path(QStringLiteral("in.jpg")));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("PNG"), {}, [](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = 2;
+        size.size = 150;
+        output.SetImageSizeSettings(size);
+    }));
+    PictureTask task = Task(QStringLiteral("in.jpg"), QStringLiteral("out.png"));
+    task.format = QStringLiteral("PNG");
+    QCOMPARE(worker.Do(task).reason, QString());
+    const Picture result = ReadPicture(task.outputFile);
+    QCOMPARE(result.width(), 150);
+    QCOMPARE(result.height(), 100);
+    // The worker lets the decoder do a part of the reduction. Nobody must see that.
+    const double difference = MeanDifference(result, ReadPicture(Path(QStringLiteral("in.jpg"))).resize(0.125));
+    QVERIFY2(difference < 1.0, qPrintable(QString::number(difference)));
+}
+
+QTEST_GUILESS_MAIN(WorkerProcessTest)
+#include "tst_workerprocess.moc"

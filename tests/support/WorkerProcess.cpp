@@ -1,0 +1,89 @@
+#include "WorkerProcess.h"
+
+#include "ZTBatchDocument.h"
+
+using namespace BatchServer;
+
+namespace {
+
+constexpr int longestWait = 60'000;
+
+} // namespace
+
+WorkerProcess::WorkerProcess(const QProcessEnvironment& environment)
+{
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(WORKER_PATH), QStringList());
+    const std::optional<Report> first = NextReport();
+    isReady = first && first->number == workerIsReady;
+}
+
+WorkerProcess::~WorkerProcess()
+{
+    ExitCode();
+}
+
+void WorkerProcess::Send(const ToWorker& message)
+{
+    SendBytes(FrameToWorker(message));
+}
+
+void WorkerProcess::SendBytes(const QByteArray& bytes)
+{
+    process.write(bytes);
+    process.waitForBytesWritten(longestWait);
+}
+
+std::optional<Report> WorkerProcess::NextReport()
+{
+    for (;;) {
+        if (std::optional<Report> report = reader.NextFromWorker()) {
+            return report;
+        }
+        if (reader.IsBroken() || !process.waitForReadyRead(longestWait)) {
+            return std::nullopt;
+        }
+        reader.Append(process.readAllStandardOutput());
+    }
+}
+
+Report WorkerProcess::Do(const ToWorker& task)
+{
+    Send(task);
+    Report none;
+    none.number = workerIsReady;
+    none.reason = QStringLiteral("no report came");
+    return NextReport().value_or(none);
+}
+
+int WorkerProcess::ExitCode()
+{
+    if (process.state() != QProcess::NotRunning) {
+        process.closeWriteChannel();
+        if (!process.waitForFinished(longestWait)) {
+            process.kill();
+            process.waitForFinished(longestWait);
+            return -1;
+        }
+    }
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+Job JobOf(const std::function<void(ZTBatchDocument&)>& edit)
+{
+    ZTBatchDocument document;
+    edit(document);
+    Job job;
+    job.document = document.Serialize(nullptr);
+    return job;
+}
+
+Job JobOf(const QString& format, const QByteArray& options, const std::function<void(ZTBatchOutputSettings&)>& edit)
+{
+    return JobOf([&](ZTBatchDocument& document) {
+        document.GetOutputSettings()->SetFormat(format, options);
+        if (edit) {
+            edit(*document.GetOutputSettings());
+        }
+    });
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "WorkerMessages.h"
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <optional>
+
+class ZTBatchDocument;
+
+/// A real worker, with this test in the place of its supervisor.
+class WorkerProcess
+{
+public:
+    /// Starts the worker and takes its first report; IsReady() tells whether that came.
+    explicit WorkerProcess(const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+
+    /// Ends the worker, when it is still there.
+    ~WorkerProcess();
+
+    bool IsReady() const { return isReady; }
+
+    void Send(const BatchServer::ToWorker& message);
+    void SendBytes(const QByteArray& bytes);
+
+    /// The next report; nothing when none comes within a minute, or when the worker has ended without one.
+    std::optional<BatchServer::Report> NextReport();
+
+    /// Sends `task` and takes its report.
+    BatchServer::Report Do(const BatchServer::ToWorker& task);
+
+    /// Closes the worker's input and waits for its end. -1 for a worker that crashed or did not end.
+    int ExitCode();
+
+    QByteArray ErrorOutput() { return process.readAllStandardError(); }
+    qint64 ProcessId() const { return process.processId(); }
+
+private:
+    QProcess process;
+    BatchServer::FrameReader reader;
+    bool isReady = false;
+};
+
+/// A job whose document `edit` has filled.
+BatchServer::Job JobOf(const std::function<void(ZTBatchDocument&)>& edit);
+
+/// The same with output settings alone.
+BatchServer::Job JobOf(const QString& format, const QByteArray& options = {},
+                       const std::function<void(ZTBatchOutputSettings&)>& edit = {});
