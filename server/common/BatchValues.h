@@ -121,6 +121,19 @@ inline constexpr std::array CropTypeWords{
     Word{int(CropType::Exact), "exact", "width x height pixels"},
 };
 
+/// Of ZTBatchOutputSettings::Crop::alignment, which may hold any Qt alignment flags.
+inline constexpr std::array AlignmentWords{
+    Word{Qt::AlignCenter, "center", "in the middle"},
+    Word{int(Qt::AlignTop) | int(Qt::AlignHCenter), "top", "at the top"},
+    Word{int(Qt::AlignBottom) | int(Qt::AlignHCenter), "bottom", "at the bottom"},
+    Word{int(Qt::AlignVCenter) | int(Qt::AlignLeft), "left", "on the left"},
+    Word{int(Qt::AlignVCenter) | int(Qt::AlignRight), "right", "on the right"},
+    Word{int(Qt::AlignTop) | int(Qt::AlignLeft), "top-left", "at the top left"},
+    Word{int(Qt::AlignTop) | int(Qt::AlignRight), "top-right", "at the top right"},
+    Word{int(Qt::AlignBottom) | int(Qt::AlignLeft), "bottom-left", "at the bottom left"},
+    Word{int(Qt::AlignBottom) | int(Qt::AlignRight), "bottom-right", "at the bottom right"},
+};
+
 inline constexpr std::array BackgroundTypeWords{
     Word{int(BackgroundType::None), "none", "transparent where the format allows it, else white"},
     Word{int(BackgroundType::Colour), "colour", "one colour"},

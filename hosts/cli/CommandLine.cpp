@@ -1,0 +1,176 @@
+#include "CommandLine.h"
+
+#include "HelpTexts.h"
+#include "UsageError.h"
+#include "Words.h"
+
+#include <QCoreApplication>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <list>
+
+namespace BatchCli {
+
+namespace {
+
+std::string Bytes(const QString& text)
+{
+    return text.toStdString();
+}
+
+QString Text(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+/// What CLI11 writes into while it parses. A list, so that its references stay.
+struct Slot
+{
+    const OptionInfo* info = nullptr;
+    CLI::Option* option = nullptr;
+    std::vector<std::string> values;
+    bool isSet = false;
+};
+
+void AddOption(CLI::App& app, const OptionInfo& info, std::list<Slot>& slots)
+{
+    Slot& slot = slots.emplace_back();
+    slot.info = &info;
+    const std::string names =
+        Bytes(info.shortName.isEmpty() ? info.name : info.shortName + QLatin1Char(',') + info.name);
+    if (info.valueName.isEmpty()) {
+        slot.option = app.add_flag(names, slot.isSet, Bytes(info.help));
+    } else {
+        slot.option = app.add_option(names, slot.values, Bytes(info.help));
+        slot.option->type_name(Bytes(info.valueName));
+        slot.option->type_size(1);
+        slot.option->expected(1);
+        slot.option->allow_extra_args(false);
+        slot.option->multi_option_policy(info.isRepeatable ? CLI::MultiOptionPolicy::TakeAll
+                                                           : CLI::MultiOptionPolicy::Throw);
+    }
+    slot.option->group(Bytes(info.group));
+}
+
+QStringList OptionNames(const CommandInfo& command)
+{
+    QStringList names;
+    for (const OptionInfo& option : command.options) {
+        names.append(option.name);
+    }
+    return names;
+}
+
+QStringList CommandNames()
+{
+    QStringList names;
+    for (const CommandInfo& command : Commands()) {
+        names.append(command.name);
+    }
+    return names;
+}
+
+UsageError UnknownOption(const QString& text, const CommandInfo& command)
+{
+    const QString name = text.section(QLatin1Char('='), 0, 0);
+    const QString hint = NearestHint(name, OptionNames(command));
+    return {QStringLiteral("unknown option %1%2").arg(name, hint) +
+            (hint.isEmpty() ? QStringLiteral("; \"velkora-batch %1 --help\" lists the options").arg(command.name)
+                            : QString())};
+}
+
+void CheckFirstArgument(const QStringList& arguments)
+{
+    const QString first = arguments.value(0);
+    if (first.isEmpty()) {
+        throw UsageError{QStringLiteral("a command is needed: %1; \"velkora-batch --help\" tells more")
+                             .arg(CommandNames().join(QStringLiteral(", ")))};
+    }
+    if (first.startsWith(QLatin1Char('-'))) {
+        const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version")};
+        if (!known.contains(first)) {
+            throw UsageError{QStringLiteral("%1 stands before the command, where only %2 may stand%3")
+                                 .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
+        }
+    } else if (!CommandNames().contains(first)) {
+        throw UsageError{QStringLiteral("unknown command: %1").arg(NoSuchWord(first, CommandNames()).text)};
+    }
+}
+
+ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots,
+                        const std::vector<std::string>& inputs)
+{
+    ParsedArguments parsed;
+    parsed.command = command.name;
+    for (const std::string& input : inputs) {
+        parsed.inputs.append(Text(input));
+    }
+    for (const Slot& slot : slots) {
+        if (slot.option->count() == 0) {
+            continue;
+        }
+        QStringList values;
+        for (const std::string& value : slot.values) {
+            values.append(Text(value));
+        }
+        parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);
+    }
+    return parsed;
+}
+
+} // namespace
+
+ParsedArguments ParseArguments(const QStringList& arguments)
+{
+    CheckFirstArgument(arguments);
+    ParsedArguments parsed;
+    if (arguments.first() == QLatin1String("--version")) {
+        parsed.message = QStringLiteral("velkora-batch %1\n").arg(QCoreApplication::applicationVersion());
+        return parsed;
+    }
+    if (arguments.first().startsWith(QLatin1Char('-'))) {
+        parsed.message = ProgramHelp();
+        return parsed;
+    }
+    const CommandInfo& command = *std::find_if(Commands().begin(), Commands().end(), [&](const CommandInfo& known) {
+        return known.name == arguments.first();
+    });
+
+    CLI::App app;
+    app.set_help_flag();
+    app.allow_extras();
+    std::list<Slot> slots;
+    for (const OptionInfo& option : command.options) {
+        AddOption(app, option, slots);
+    }
+    std::vector<std::string> inputs;
+    if (!command.inputs.isEmpty()) {
+        app.add_option("inputs", inputs);
+    }
+    std::vector<std::string> reversed;
+    for (int i = arguments.size() - 1; i > 0; --i) {
+        reversed.push_back(Bytes(arguments.at(i)));
+    }
+    try {
+        app.parse(reversed);
+    } catch (const CLI::ParseError& error) {
+        throw UsageError{Text(error.what())};
+    }
+    for (const std::string& extra : app.remaining()) {
+        if (extra == "--") {
+            continue; // It only ends the options.
+        }
+        throw extra.size() > 1 && extra[0] == '-'
+            ? UnknownOption(Text(extra), command)
+            : UsageError{QStringLiteral("\"%1\" is not expected behind %2").arg(Text(extra), command.name)};
+    }
+    parsed = Collect(command, slots, inputs);
+    if (parsed.Has(QStringLiteral("--help"))) {
+        parsed.message = CommandHelp(command);
+    }
+    return parsed;
+}
+
+} // namespace BatchCli

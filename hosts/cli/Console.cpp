@@ -1,0 +1,106 @@
+#include "Console.h"
+
+#include <QVector>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace BatchCli {
+
+namespace {
+
+void Write(FILE* file, const QString& text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
+    std::fflush(file);
+}
+
+bool IsBetween(uint value, uint first, uint last)
+{
+    return value >= first && value <= last;
+}
+
+int WidthOf(uint character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_Enclosing:
+    case QChar::Other_Format:
+        return 0;
+    default:
+        break;
+    }
+    // East Asian scripts, their punctuation and full-width forms, and pictographs.
+    const bool isWide = IsBetween(character, 0x1100, 0x115F) || IsBetween(character, 0x2E80, 0xA4CF) ||
+                        IsBetween(character, 0xAC00, 0xD7A3) || IsBetween(character, 0xF900, 0xFAFF) ||
+                        IsBetween(character, 0xFE30, 0xFE6F) || IsBetween(character, 0xFF00, 0xFF60) ||
+                        IsBetween(character, 0xFFE0, 0xFFE6) || IsBetween(character, 0x1F300, 0x1FAFF) ||
+                        IsBetween(character, 0x20000, 0x3FFFD);
+    return isWide ? 2 : 1;
+}
+
+/// The longest part of `characters`, from the front or from the back, that has at most `columns` columns.
+QVector<uint> Fitting(const QVector<uint>& characters, int columns, bool fromBack)
+{
+    QVector<uint> fitting;
+    int width = 0;
+    for (int i = 0; i < characters.size(); ++i) {
+        const uint character = characters.at(fromBack ? characters.size() - 1 - i : i);
+        width += WidthOf(character);
+        if (width > columns) {
+            break;
+        }
+        fitting.insert(fromBack ? 0 : fitting.size(), character);
+    }
+    return fitting;
+}
+
+QString TextOf(const QVector<uint>& characters)
+{
+    return QString::fromUcs4(characters.constData(), characters.size());
+}
+
+} // namespace
+
+void WriteOut(const QString& text)
+{
+    Write(stdout, text);
+}
+
+void WriteError(const QString& text)
+{
+    Write(stderr, text);
+}
+
+int Terminal::WidthOf(const QString& text)
+{
+    int width = 0;
+    for (const uint character : text.toUcs4()) {
+        width += BatchCli::WidthOf(character);
+    }
+    return width;
+}
+
+QString Terminal::Shortened(const QString& text, int columns)
+{
+    QVector<uint> characters = text.toUcs4();
+    for (uint& character : characters) {
+        if (QChar::category(character) == QChar::Other_Control) {
+            character = '?';
+        }
+    }
+    const QString clean = TextOf(characters);
+    if (WidthOf(clean) <= columns) {
+        return clean;
+    }
+    constexpr int dots = 3;
+    if (columns <= dots) {
+        return QString(std::max(0, columns), QLatin1Char('.'));
+    }
+    const int front = (columns - dots) / 3;
+    return TextOf(Fitting(characters, front, false)) + QStringLiteral("...") +
+           TextOf(Fitting(characters, columns - dots - front, true));
+}
+
+} // namespace BatchCli

@@ -1,0 +1,77 @@
+#include "JobBuilder.h"
+
+#include "Console.h"
+#include "InputCollector.h"
+#include "JobFile.h"
+#include "JobOptions.h"
+#include "StatusLine.h"
+#include "UsageError.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QLocale>
+
+namespace BatchCli {
+
+namespace {
+
+void ApplyOptions(ZTBatchDocument& job, const ParsedArguments& arguments)
+{
+    for (const JobOption& option : JobOptions()) {
+        for (const QString& value : arguments.Values(option.info.name)) {
+            try {
+                option.apply(job, value);
+            } catch (const UsageError& error) {
+                throw UsageError{QStringLiteral("%1: %2").arg(option.info.name, error.text)};
+            }
+        }
+    }
+}
+
+InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job)
+{
+    InputFilter filter;
+    filter.only = arguments.Values(QStringLiteral("--include"));
+    filter.except = arguments.Values(QStringLiteral("--exclude"));
+    filter.subfolders = !arguments.Has(QStringLiteral("--no-subfolders"));
+    filter.hidden = arguments.Has(QStringLiteral("--hidden"));
+    filter.outputFolder = job.GetOutputSettings()->GetPath();
+    return filter;
+}
+
+} // namespace
+
+int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob, const QStringList& inputs)
+{
+    SetJobDefaults(job);
+    if (!savedJob.isEmpty()) {
+        LoadJob(job, savedJob);
+    }
+    if (arguments.Has(QStringLiteral("--no-inputs"))) {
+        job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
+    }
+    ApplyOptions(job, arguments);
+
+    InputCollector collector(job, FilterOf(arguments, job));
+    StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
+    collector.onProgress = [&line](int folders, int files, const QString& folder) {
+        line.Show([&] {
+            return QStringLiteral("Reading folders: %1 pictures in %2 folders, %3")
+                .arg(QLocale::c().toString(files), QLocale::c().toString(folders), folder);
+        });
+    };
+    collector.Add(inputs);
+    line.Clear();
+    for (const QString& problem : collector.Problems()) {
+        WriteError(QStringLiteral("velkora-batch: %1\n").arg(problem));
+    }
+    return collector.Problems().size();
+}
+
+QString TakeSavedJob(QStringList& inputs)
+{
+    return inputs.value(0).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) ? inputs.takeFirst() : QString();
+}
+
+} // namespace BatchCli

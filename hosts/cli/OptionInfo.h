@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/// Options and commands as data: arguments are parsed by them, and help texts, the manual page and the completions are
+/// written from them.
+namespace BatchCli {
+
+/// What a shell offers where a value is to be typed.
+enum class Completion { Nothing, Files, Folders, Words };
+
+struct OptionInfo
+{
+    QString name;      ///< with its hyphens, "--size"
+    QString valueName; ///< as help texts show it, "LENGTH"; empty for a switch
+    QString help;      ///< one or more sentences, without a full stop at the end
+    QString group;     ///< the heading in help texts
+    bool isRepeatable = false;
+    Completion completion = Completion::Nothing;
+    QStringList words = {}; ///< for Completion::Words
+    QString shortName = {}; ///< "-o"; empty for none
+};
+
+struct CommandInfo
+{
+    QString name;
+    QString inputs; ///< what stands behind it, "[JOB.xml] [INPUT...]"; empty for nothing
+    QString help;
+    QVector<OptionInfo> options;
+    Completion completion = Completion::Nothing; ///< of what stands behind it
+    QStringList words = {};
+};
+
+} // namespace BatchCli

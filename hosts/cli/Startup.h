@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringList>
+
+namespace BatchCli {
+
+/// Makes file names and texts UTF-8 for this process and its children, whatever the locale. Called before anything of
+/// Qt is.
+void PrepareProcess();
+
+/// The arguments without the program's name. Throws UsageError for one that cannot be represented.
+QStringList Arguments(int argc, char** argv);
+
+} // namespace BatchCli

@@ -1,0 +1,50 @@
+#include "StatusLine.h"
+
+#include "Console.h"
+
+namespace BatchCli {
+
+namespace {
+
+constexpr int interval = 100;
+
+const QString eraseLine = QStringLiteral("\r\033[K");
+
+} // namespace
+
+StatusLine::StatusLine(bool isWanted)
+    : isShown(isWanted && Terminal::IsErrorTerminal())
+{
+}
+
+StatusLine::~StatusLine()
+{
+    Clear();
+}
+
+void StatusLine::Show(const std::function<QString()>& make)
+{
+    if (isShown && (!sinceLast.isValid() || sinceLast.elapsed() >= interval)) {
+        ShowNow(make());
+    }
+}
+
+void StatusLine::ShowNow(const QString& text)
+{
+    if (isShown) {
+        // The last column stays free: some terminals break the line there.
+        WriteError(eraseLine + Terminal::Shortened(text, Terminal::Columns() - 1));
+        isVisible = true;
+        sinceLast.start();
+    }
+}
+
+void StatusLine::Clear()
+{
+    if (isVisible) {
+        WriteError(eraseLine);
+        isVisible = false;
+    }
+}
+
+} // namespace BatchCli

@@ -1,0 +1,303 @@
+#include "CommandLine.h"
+#include "JobOptions.h"
+#include "UsageError.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchOutputSettings.h"
+#include "ZTStyle.h"
+
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace BatchCli;
+
+namespace {
+
+const JobOption& Option(const QString& name)
+{
+    return *std::find_if(JobOptions().begin(), JobOptions().end(),
+                         [&name](const JobOption& option) { return option.info.name == name; });
+}
+
+/// What the user is told; empty when all is well.
+QString ErrorOf(ZTBatchDocument& job, const QString& option, const QString& value)
+{
+    try {
+        Option(option).apply(job, value);
+    } catch (const UsageError& error) {
+        return error.text;
+    }
+    return {};
+}
+
+/// A job without a single default, made by options alone.
+void Fill(ZTBatchDocument& job)
+{
+    const QVector<QPair<const char*, const char*>> values{{"--output", "/tmp/results"},
+                                                          {"--structure", "date"},
+                                                          {"--format", "jpg"},
+                                                          {"--format-option", "quality=91"},
+                                                          {"--format-option", "keep=exif+icc"},
+                                                          {"--prefix", "date"},
+                                                          {"--name", "text:a: b, c"},
+                                                          {"--suffix", "number:7:4"},
+                                                          {"--prefix-separator", "_"},
+                                                          {"--suffix-separator", " "},
+                                                          {"--size", "20.5cm"},
+                                                          {"--side", "short"},
+                                                          {"--resize", "fit"},
+                                                          {"--resolution", "240"},
+                                                          {"--crop", "fill:640x480"},
+                                                          {"--crop-position", "top-left"},
+                                                          {"--frame", "1,2,3,4"},
+                                                          {"--frame-size", "1000x900"},
+                                                          {"--frame-angle", "-15"},
+                                                          {"--frame-opacity", "0.25"},
+                                                          {"--frame-blending", "soft-light"},
+                                                          {"--background", "pattern:3:150"},
+                                                          {"--background-opacity", "0.5"},
+                                                          {"--shadow", "glow"},
+                                                          {"--shadow-colour", "#102030"},
+                                                          {"--shadow-opacity", "0.125"},
+                                                          {"--shadow-angle", "135"},
+                                                          {"--shadow-distance", "11"},
+                                                          {"--shadow-size", "12"},
+                                                          {"--effect", "exposure:stops=0.5"},
+                                                          {"--effect", "off:blur:sigma=2"},
+                                                          {"--effect", "exposure"}};
+    for (const auto& [option, value] : values) {
+        QCOMPARE(ErrorOf(job, QLatin1String(option), QLatin1String(value)), QString());
+    }
+}
+
+} // namespace
+
+class tst_CliOptions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ValuesReachTheJob();
+    void EveryValueCanBeReadBack();
+    void WrongValuesAreExplained_data();
+    void WrongValuesAreExplained();
+    void AnotherFormatDropsOptions();
+    void FrameIsAskedForByItsOptions();
+    void ArgumentsAreParsed();
+    void WrongArgumentsAreExplained_data();
+    void WrongArgumentsAreExplained();
+};
+
+void tst_CliOptions::ValuesReachTheJob()
+{
+    ZTBatchDocument job;
+    Fill(job);
+    const ZTBatchOutputSettings& output = *job.GetOutputSettings();
+    QCOMPARE(output.GetPath(), QStringLiteral("/tmp/results"));
+    QCOMPARE(int(output.GetFolderStructure()), 2);
+    QString format;
+    QByteArray options;
+    output.GetFormat(format, options);
+    QCOMPARE(format, QStringLiteral("JPEG"));
+    QCOMPARE(options, QByteArray(R"({"keep":["exif","icc"],"quality":91})"));
+    QCOMPARE(int(output.GetNamingTemplate(ZTBatchOutputSettings::PartPrefix)), 2);
+    QCOMPARE(output.GetCustomTemplate(ZTBatchOutputSettings::PartMiddle), QStringLiteral("a: b, c"));
+    QCOMPARE(output.GetStartNumber(ZTBatchOutputSettings::PartSuffix), 7);
+    QCOMPARE(output.GetDigitsCount(ZTBatchOutputSettings::PartSuffix), 4);
+    QCOMPARE(output.GetPrefixSeparator(), QStringLiteral("_"));
+    QCOMPARE(output.GetSuffixSeparator(), QStringLiteral(" "));
+
+    const ZTBatchOutputSettings::ImageSize size = output.GetImageSizeSettings();
+    QCOMPARE(size.size, 20.5);
+    QCOMPARE(size.unit, 3);
+    QCOMPARE(size.side, 3);
+    QCOMPARE(size.restriction, 1);
+    QCOMPARE(size.resolution, 240);
+
+    const ZTBatchOutputSettings::Crop crop = output.GetCropSettings();
+    QCOMPARE(crop.type, 4);
+    QCOMPARE(crop.size, QSize(640, 480));
+    QCOMPARE(crop.alignment, int(Qt::AlignTop | Qt::AlignLeft));
+
+    const ZTBatchOutputSettings::Transformation frame = output.GetTransformationSettings();
+    QVERIFY(frame.state);
+    QCOMPARE(frame.margins, QMargins(1, 2, 3, 4));
+    QVERIFY(frame.backgroundCustomOutput);
+    QCOMPARE(frame.backgroundCustomSize, QSize(1000, 900));
+    QCOMPARE(frame.angle, -15);
+    QCOMPARE(frame.opacity, 0.25);
+    QCOMPARE(frame.blending, 6);
+    QCOMPARE(frame.backgroundType, 2);
+    QCOMPARE(frame.backgroundPattern[0], 3);
+    QCOMPARE(frame.backgroundPattern[1], 150);
+    QCOMPARE(frame.backgroundOpacity, 0.5);
+    QVERIFY(frame.shadowEnabled);
+    QCOMPARE(frame.shadowMode, 1);
+    QCOMPARE(frame.shadowColor, QColor(0x10, 0x20, 0x30));
+    QCOMPARE(frame.shadowOpacity, 0.125);
+    QCOMPARE(frame.shadowAngle, 135);
+    QCOMPARE(frame.shadowDistance, 11);
+    QCOMPARE(frame.shadowSize, 12);
+
+    const ZTStyle& style = *job.GetStyle();
+    QCOMPARE(style.GetEffectCount(), 3);
+    QCOMPARE(style.EffectAt(0), QStringLiteral("exposure"));
+    QCOMPARE(style.DataAt(0), QByteArray(R"({"stops":0.5})"));
+    QVERIFY(style.IsEnabled(0));
+    QCOMPARE(style.EffectAt(1), QStringLiteral("blur"));
+    QVERIFY(!style.IsEnabled(1));
+    QVERIFY(style.DataAt(2).isEmpty());
+}
+
+// What is shown of a job makes the same job.
+void tst_CliOptions::EveryValueCanBeReadBack()
+{
+    ZTBatchDocument job;
+    Fill(job);
+    ZTBatchDocument copy;
+    for (const JobOption& option : JobOptions()) {
+        for (const QString& text : option.texts(job)) {
+            QCOMPARE(ErrorOf(copy, option.info.name, text), QString());
+        }
+    }
+    QCOMPARE(copy.Serialize(nullptr), job.Serialize(nullptr));
+}
+
+void tst_CliOptions::WrongValuesAreExplained_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("wanted");
+    const auto row = [](const char* option, const char* value, const char* wanted) {
+        QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(option), QLatin1String(value))))
+            << QString::fromLatin1(option) << QString::fromUtf8(value) << QString::fromLatin1(wanted);
+    };
+    row("--output", "", "a folder is needed");
+    row("--structure", "flta", "did you mean \"flat\"?");
+    row("--format", "JPGE", "did you mean \"JPEG\"?");
+    row("--format", "bmp", "is none of Original, JPEG");
+    row("--format-option", "quality", "KEY=VALUE");
+    row("--format-option", "qualty=3", "did you mean \"quality\"?");
+    row("--format-option", "quality=101", "from 1 to 100");
+    row("--icc", "/nowhere.icc", "/nowhere.icc cannot be read");
+    row("--icc", "/dev/null", "no ICC profile");
+    row("--name", "Holiday", "text:Holiday");
+    row("--name", "date:3", "takes nothing behind it");
+    row("--name", "number:x", "no whole number");
+    row("--name", "number:1:21", "from 1 to 20");
+    row("--size", "0", "no length above 0");
+    row("--size", "-5", "no length above 0");
+    row("--size", "5 miles", "no length above 0");
+    row("--size", "nan", "no length above 0");
+    row("--side", "longest", "is none of width, height, long, short; did you mean");
+    row("--resolution", "0", "from 1 to");
+    row("--crop", "ratio", "needs a size");
+    row("--crop", "trim:3x2", "takes no size");
+    row("--crop", "ratio:3", "WIDTHxHEIGHT");
+    row("--crop", "ratio:0x2", "WIDTHxHEIGHT");
+    row("--frame", "1,2", "LEFT,TOP,RIGHT,BOTTOM");
+    row("--frame", "-1", "LEFT,TOP,RIGHT,BOTTOM");
+    row("--frame-opacity", "1.5", "from 0 to 1");
+    row("--frame-opacity", "0,5", "from 0 to 1");
+    row("--background", "red", "is none of none, colour, pattern, image");
+    row("--background", "colour", "needs more");
+    row("--background", "colour:blakc", "did you mean \"black\"?");
+    row("--background", "pattern:8", "from 0 to 7");
+    row("--shadow", "dorp", "did you mean \"drop\"?");
+    row("--effect", "expsure", "did you mean \"exposure\"?");
+    row("--effect", "exposure:stop=1", "did you mean \"stops\"?");
+    row("--effect", "exposure:stops=many", "a number from -10 to 10");
+    row("--effect", "exposure:stops", "KEY=VALUE");
+    row("--effect", "exposure:{\"stops\":", "effect exposure: ");
+}
+
+void tst_CliOptions::WrongValuesAreExplained()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, value);
+    QFETCH(QString, wanted);
+    ZTBatchDocument job;
+    const QString before = job.Serialize(nullptr);
+    const QString error = ErrorOf(job, option, value);
+    QVERIFY2(error.contains(wanted), qPrintable(error));
+    QCOMPARE(job.Serialize(nullptr), before);
+}
+
+void tst_CliOptions::AnotherFormatDropsOptions()
+{
+    ZTBatchDocument job;
+    Option(QStringLiteral("--format")).apply(job, QStringLiteral("JPEG"));
+    Option(QStringLiteral("--format-option")).apply(job, QStringLiteral("quality=70"));
+    Option(QStringLiteral("--format")).apply(job, QStringLiteral("jpeg"));
+    QString format;
+    QByteArray options;
+    job.GetOutputSettings()->GetFormat(format, options);
+    QCOMPARE(options, QByteArray(R"({"quality":70})"));
+    Option(QStringLiteral("--format")).apply(job, QStringLiteral("PNG"));
+    job.GetOutputSettings()->GetFormat(format, options);
+    QCOMPARE(format, QStringLiteral("PNG"));
+    QVERIFY(options.isEmpty());
+}
+
+void tst_CliOptions::FrameIsAskedForByItsOptions()
+{
+    ZTBatchDocument job;
+    Option(QStringLiteral("--shadow")).apply(job, QStringLiteral("drop"));
+    QVERIFY(job.GetOutputSettings()->GetTransformationSettings().state);
+    Option(QStringLiteral("--frame")).apply(job, QStringLiteral("none"));
+    QVERIFY(!job.GetOutputSettings()->GetTransformationSettings().state);
+}
+
+void tst_CliOptions::ArgumentsAreParsed()
+{
+    const ParsedArguments parsed = ParseArguments(
+        {QStringLiteral("show"), QStringLiteral("a.jpg"), QStringLiteral("--frame-angle"), QStringLiteral("-5"),
+         QStringLiteral("--effect"), QStringLiteral("x"), QStringLiteral("b.jpg"), QStringLiteral("--effect=y"),
+         QStringLiteral("-oout"), QStringLiteral("-q"), QStringLiteral("--"), QStringLiteral("-c.jpg")});
+    QCOMPARE(parsed.command, QStringLiteral("show"));
+    QCOMPARE(parsed.inputs, QStringList({QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("-c.jpg")}));
+    QCOMPARE(parsed.Values(QStringLiteral("--effect")), QStringList({QStringLiteral("x"), QStringLiteral("y")}));
+    QCOMPARE(parsed.Value(QStringLiteral("--frame-angle")), QStringLiteral("-5"));
+    QCOMPARE(parsed.Value(QStringLiteral("--output")), QStringLiteral("out"));
+    QVERIFY(parsed.Has(QStringLiteral("--quiet")));
+    QVERIFY(!parsed.Has(QStringLiteral("--verbose")));
+    QVERIFY(
+        ParseArguments({QStringLiteral("show"), QStringLiteral("--help")}).message.contains(QStringLiteral("--crop")));
+}
+
+void tst_CliOptions::WrongArgumentsAreExplained_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("wanted");
+    const auto row = [](const char* arguments, const char* wanted) {
+        QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
+                                 << QString::fromLatin1(wanted);
+    };
+    row("", "a command is needed: create, show");
+    row("shwo", "did you mean \"show\"?");
+    row("--versoin", "did you mean \"--version\"?");
+    row("--output x show", "stands before the command");
+    row("show --ouput x", "unknown option --ouput; did you mean \"--output\"?");
+    row("show --ouput=x", "unknown option --ouput; did you mean \"--output\"?");
+    row("show --xyzzy", "--help");
+    row("show --size", "--size");
+    row("show --size 1 --size 2", "--size");
+    row("effects --output x", "unknown option --output");
+}
+
+void tst_CliOptions::WrongArgumentsAreExplained()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, wanted);
+    QString text;
+    try {
+        ParseArguments(arguments);
+    } catch (const UsageError& error) {
+        text = error.text;
+    }
+    QVERIFY2(text.contains(wanted), qPrintable(text));
+}
+
+QTEST_GUILESS_MAIN(tst_CliOptions)
+#include "tst_clioptions.moc"

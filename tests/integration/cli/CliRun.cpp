@@ -1,0 +1,20 @@
+#include "CliRun.h"
+
+#include <QProcess>
+
+CliRun CliRun::Of(const QStringList& arguments, const QString& folder, const QProcessEnvironment& environment)
+{
+    constexpr int limit = 120'000;
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(folder);
+    process.start(QStringLiteral(VELKORA_BATCH), arguments);
+    process.closeWriteChannel();
+    CliRun run;
+    if (process.waitForFinished(limit) && process.exitStatus() == QProcess::NormalExit) {
+        run.exitCode = process.exitCode();
+    }
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}

@@ -1,0 +1,258 @@
+#include "CliRun.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
+#include "ZTStyle.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+class tst_CliJobs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void VersionAndHelp();
+    void CreateWritesTheJob();
+    void SavedJobsAreOverridden();
+    void JobsGoToStandardOutput();
+    void ShowTellsEverything();
+    void FilesAreNotReplacedUnasked();
+    void NamesNeedNoLocale();
+    void Catalogues();
+    void WrongJobsAreExplained_data();
+    void WrongJobsAreExplained();
+    void ProblemsAreToldAndCounted();
+
+private:
+    QString Path(const QString& name) const { return root->filePath(name); }
+    void Write(const QString& name, const QByteArray& content = QByteArray()) const;
+    CliRun Run(const QStringList& arguments) const { return CliRun::Of(arguments, root->path()); }
+    bool Load(const QString& name, ZTBatchDocument& job) const;
+
+    std::unique_ptr<QTemporaryDir> root;
+};
+
+void tst_CliJobs::init()
+{
+    root = std::make_unique<QTemporaryDir>();
+    Write(QStringLiteral("photos/1.jpg"));
+    Write(QStringLiteral("photos/2.png"));
+}
+
+void tst_CliJobs::Write(const QString& name, const QByteArray& content) const
+{
+    QVERIFY(QDir().mkpath(QFileInfo(Path(name)).path()));
+    QFile file(Path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+bool tst_CliJobs::Load(const QString& name, ZTBatchDocument& job) const
+{
+    QFile file(Path(name));
+    return file.open(QIODevice::ReadOnly) && job.Deserialize(QString::fromUtf8(file.readAll()));
+}
+
+void tst_CliJobs::VersionAndHelp()
+{
+    const CliRun version = Run({QStringLiteral("--version")});
+    QCOMPARE(version.exitCode, 0);
+    QCOMPARE(version.out.split(' ').value(0), QByteArray("velkora-batch"));
+    for (const char* arguments : {"--help", "-h", "create --help", "show -h", "effects --help", "formats --help"}) {
+        const CliRun help = Run(QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+        QCOMPARE(help.exitCode, 0);
+        QVERIFY(help.out.contains("Usage: velkora-batch "));
+        QVERIFY(help.err.isEmpty());
+    }
+}
+
+void tst_CliJobs::CreateWritesTheJob()
+{
+    const CliRun run = Run({QStringLiteral("create"), QStringLiteral("job.xml"), QStringLiteral("photos"),
+                            QStringLiteral("--output"), QStringLiteral("results"), QStringLiteral("--effect"),
+                            QStringLiteral("blur:sigma=2"), QStringLiteral("--size"), QStringLiteral("50%")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.err, QByteArray("job.xml: a job of 2 pictures.\n"));
+    QVERIFY(run.out.isEmpty());
+    ZTBatchDocument job;
+    QVERIFY(Load(QStringLiteral("job.xml"), job));
+    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
+    QCOMPARE(job.GetOutputSettings()->GetPath(), Path(QStringLiteral("results")));
+    QCOMPARE(job.GetOutputSettings()->GetImageSizeSettings().unit, 1);
+    QCOMPARE(job.GetOutputSettings()->GetNamingTemplate(ZTBatchOutputSettings::PartMiddle),
+             ZTBatchOutputSettings::TemplateOriginalName);
+    QCOMPARE(job.GetStyle()->GetEffectCount(), 1);
+}
+
+void tst_CliJobs::SavedJobsAreOverridden()
+{
+    QCOMPARE(
+        Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos/1.jpg"), QStringLiteral("-ox"),
+             QStringLiteral("--effect"), QStringLiteral("blur"), QStringLiteral("--size"), QStringLiteral("100")})
+            .exitCode,
+        0);
+    QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("b.xml"), QStringLiteral("--from"), QStringLiteral("a.xml"),
+                  QStringLiteral("photos/2.png"), QStringLiteral("-oy"), QStringLiteral("--effect"),
+                  QStringLiteral("sepia")})
+                 .exitCode,
+             0);
+    ZTBatchDocument job;
+    QVERIFY(Load(QStringLiteral("b.xml"), job));
+    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
+    QCOMPARE(job.GetOutputSettings()->GetPath(), Path(QStringLiteral("y")));
+    QCOMPARE(job.GetOutputSettings()->GetImageSizeSettings().size, 100.0);
+    QCOMPARE(job.GetStyle()->GetEffectCount(), 2);
+    QCOMPARE(job.GetStyle()->EffectAt(1), QStringLiteral("sepia"));
+
+    QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("c.xml"), QStringLiteral("--from"), QStringLiteral("a.xml"),
+                  QStringLiteral("photos/2.png"), QStringLiteral("--no-inputs"), QStringLiteral("--no-effects")})
+                 .exitCode,
+             0);
+    QVERIFY(Load(QStringLiteral("c.xml"), job));
+    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 1);
+    QCOMPARE(job.GetStyle()->GetEffectCount(), 0);
+}
+
+void tst_CliJobs::JobsGoToStandardOutput()
+{
+    const CliRun run = Run({QStringLiteral("create"), QStringLiteral("-"), QStringLiteral("photos"),
+                            QStringLiteral("-o"), QStringLiteral("x")});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.err.isEmpty());
+    ZTBatchDocument job;
+    QVERIFY(job.Deserialize(QString::fromUtf8(run.out)));
+    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
+}
+
+void tst_CliJobs::ShowTellsEverything()
+{
+    QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"), QStringLiteral("-ox"),
+                  QStringLiteral("--effect"), QStringLiteral("blur:sigma=3"), QStringLiteral("--frame"),
+                  QStringLiteral("10"), QStringLiteral("--format"), QStringLiteral("webp")})
+                 .exitCode,
+             0);
+    const CliRun run = Run({QStringLiteral("show"), QStringLiteral("a.xml")});
+    QCOMPARE(run.exitCode, 0);
+    for (const char* part :
+         {"Inputs: 2 pictures", "photos/ (2)", "1.jpg", "2.png", "blur:sigma=3", "WebP", "frame                10"}) {
+        QVERIFY2(run.out.contains(part), part);
+    }
+}
+
+void tst_CliJobs::FilesAreNotReplacedUnasked()
+{
+    Write(QStringLiteral("a.xml"), "precious");
+    QStringList arguments{QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"),
+                          QStringLiteral("-ox")};
+    const CliRun refused = Run(arguments);
+    QCOMPARE(refused.exitCode, 2);
+    QVERIFY(refused.err.contains("a.xml exists; --force replaces it"));
+    QFile file(Path(QStringLiteral("a.xml")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("precious"));
+    arguments.append(QStringLiteral("--force"));
+    QCOMPARE(Run(arguments).exitCode, 0);
+    ZTBatchDocument job;
+    QVERIFY(Load(QStringLiteral("a.xml"), job));
+}
+
+void tst_CliJobs::NamesNeedNoLocale()
+{
+    const QString name = QString::fromUtf8("\xC3\xA9t\xC3\xA9 \xF0\x9F\x8C\xBB.jpg");
+    Write(QStringLiteral("photos/") + name);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    const CliRun run = CliRun::Of({QStringLiteral("show"), QStringLiteral("photos")}, root->path(), environment);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.out.contains(name.toUtf8()), run.out.constData());
+    QVERIFY2(run.err.isEmpty(), run.err.constData());
+}
+
+void tst_CliJobs::Catalogues()
+{
+    const CliRun effects = Run({QStringLiteral("effects")});
+    QCOMPARE(effects.exitCode, 0);
+    QVERIFY(effects.out.contains("\nwatermark-text\n"));
+    QVERIFY(effects.out.contains("a number from -10 to 10 (stops)"));
+    const CliRun blur = Run({QStringLiteral("effects"), QStringLiteral("blur"), QStringLiteral("--json")});
+    const QJsonArray array = QJsonDocument::fromJson(blur.out).array();
+    QCOMPARE(array.size(), 1);
+    QCOMPARE(array.first().toObject().value(QStringLiteral("name")).toString(), QStringLiteral("blur"));
+    QVERIFY(!array.first().toObject().value(QStringLiteral("parameters")).toArray().isEmpty());
+
+    const CliRun formats = Run({QStringLiteral("formats")});
+    QCOMPARE(formats.exitCode, 0);
+    QVERIFY(formats.out.contains("JPEG XL (.jxl)"));
+    const CliRun json = Run({QStringLiteral("formats"), QStringLiteral("--json")});
+    QVERIFY(QJsonDocument::fromJson(json.out).array().size() > 5);
+}
+
+void tst_CliJobs::WrongJobsAreExplained_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QByteArray>("job");
+    QTest::addColumn<QString>("wanted");
+    const QByteArray none;
+    const auto row = [](const char* name, const char* arguments, const QByteArray& job, const char* wanted) {
+        QTest::newRow(name) << QString::fromLatin1(arguments) << job << QString::fromLatin1(wanted);
+    };
+    row("no arguments", "", none, "a command is needed");
+    row("no file", "create", none, "JOB.xml INPUT...");
+    row("no job's name", "create photos -ox", none, "its name ends with .xml");
+    row("no inputs", "create a.xml -ox", none, "there is no picture");
+    row("empty folder", "create a.xml empty -ox", none, "there is no picture");
+    row("no output", "create a.xml photos", none, "--output DIR says it");
+    row("missing input", "create a.xml nothing.jpg -ox", none, "nothing.jpg does not exist");
+    row("missing job", "show nothing.xml", none, "nothing.xml cannot be read");
+    row("folder as job", "show folder.xml", none, "folder.xml cannot be read");
+    row("wrong option", "create a.xml photos --ouput x", none, "did you mean \"--output\"?");
+    row("wrong effect", "create a.xml photos -ox --effect blurr", none, "did you mean \"blur\"?");
+    row("cannot be written", "create nowhere/a.xml photos -ox", none, "nowhere/a.xml cannot be written");
+    row("not XML", "show job.xml", "<!DOCTYPE batch>\n<root><input></root>", "line 2, column");
+    row("other type", "show job.xml", "<!DOCTYPE other>\n<root/>", "<!DOCTYPE batch>");
+    row("not text", "show job.xml", "\xFF\xD8\xFF\xE0 JFIF", "it is not UTF-8 text");
+    row("empty", "show job.xml", none, "is no batch job");
+    row("entities", "show job.xml", "<!DOCTYPE batch [<!ENTITY a \"b\">]>\n<root/>", "declares what a job must not");
+    row("wrong value", "create b.xml --from job.xml",
+        "<!DOCTYPE batch><root><input><inputElement inputText=\"a\" fileName=\"/a.jpg\" type=\"1\"/></input><output>"
+        "<folder fileName=\"/x\"/><folderStructure type=\"9\"/></output></root>",
+        "9");
+    row("wrong effect in the job", "create b.xml --from job.xml",
+        "<!DOCTYPE batch><root><input><inputElement inputText=\"a\" fileName=\"/a.jpg\" type=\"1\"/></input><style>"
+        "<effect UID=\"blurr\" enabled=\"1\"/></style><output><folder fileName=\"/x\"/></output></root>",
+        "did you mean \"blur\"?");
+}
+
+void tst_CliJobs::WrongJobsAreExplained()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QByteArray, job);
+    QFETCH(QString, wanted);
+    Write(QStringLiteral("job.xml"), job);
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("empty")));
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("folder.xml")));
+    const CliRun run = Run(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(wanted), run.err.constData());
+    QVERIFY(run.err.startsWith("velkora-batch: "));
+    QVERIFY(run.out.isEmpty());
+    QVERIFY(!QFile::exists(Path(QStringLiteral("a.xml"))));
+}
+
+void tst_CliJobs::ProblemsAreToldAndCounted()
+{
+    QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), Path(QStringLiteral("photos/lost.jpg"))));
+    const CliRun run = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"),
+                            QStringLiteral("-ox"), QStringLiteral("-q")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.err.contains("photos/lost.jpg is a link that leads nowhere."));
+    QVERIFY(QFile::exists(Path(QStringLiteral("a.xml"))));
+}
+
+QTEST_GUILESS_MAIN(tst_CliJobs)
+#include "tst_clijobs.moc"
