@@ -79,6 +79,7 @@ void SetTiffOptions(Options* set, const QJsonObject& options, const Picture& pic
     constexpr guint64 largestClassic = guint64(3) << 30; // offsets of 32 bits, with room for what packing may add
     set->set("compression", TiffCompression(options))
         ->set("Q", Integer(options, "quality"))
+        ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)
         ->set("bigtiff", VIPS_IMAGE_SIZEOF_IMAGE(picture.get_image()) > largestClassic);
 }
 
@@ -210,10 +211,11 @@ Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const P
     return WithDepth(ready, DepthFor(format, options, ready));
 }
 
-void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, int descriptor)
+void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,
+            int descriptor)
 {
     const Saver& saver = SaverOf(format);
-    const ResultTarget result(descriptor);
+    const ResultTarget result(descriptor, before);
     Options* set = Picture::option()->set("in", picture)->set("target", result.Target());
     saver.setOptions(set, options, picture);
     try {

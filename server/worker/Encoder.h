@@ -3,6 +3,7 @@
 #include "FormatCatalog.h"
 #include "Picture.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QSize>
 #include <QString>
@@ -20,9 +21,10 @@ QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, c
 /// `options`, which are complete.
 Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture);
 
-/// Writes `picture`, which is ready for `format`, to the open file `descriptor` from its beginning. Throws
+/// Writes `before`, then `picture`, which is ready for `format`, to the open and empty file `descriptor`. Throws
 /// PictureFailure of the case Output when the file cannot take it, and vips::VError for anything else, such as a source
 /// that proves damaged.
-void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, int descriptor);
+void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,
+            int descriptor);
 
 } // namespace BatchServer

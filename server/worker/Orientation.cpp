@@ -45,6 +45,17 @@ QRect StoredRect(const QRect& upright, const QSize& uprightSize, int orientation
     }
 }
 
+QRect UprightRect(const QRect& stored, const QSize& storedSize, int orientation)
+{
+    // Each orientation is its own reverse, but for the two quarter turns, which are each other's.
+    constexpr int quarterTurn = 6;
+    constexpr int otherQuarterTurn = 8;
+    if (orientation == quarterTurn) {
+        return StoredRect(stored, storedSize, otherQuarterTurn);
+    }
+    return StoredRect(stored, storedSize, orientation == otherQuarterTurn ? quarterTurn : orientation);
+}
+
 Geometry StoredGeometry(const Geometry& upright, const QSize& uprightSize, int orientation)
 {
     return {StoredRect(upright.part, uprightSize, orientation), TurnedSize(upright.scaledSize, orientation),

@@ -21,6 +21,9 @@ QSize TurnedSize(const QSize& size, int orientation);
 /// Where `upright`, a rectangle in an upright picture of `uprightSize`, lies in the stored picture.
 QRect StoredRect(const QRect& upright, const QSize& uprightSize, int orientation);
 
+/// The reverse: where `stored`, a rectangle in a stored picture of `storedSize`, lies in the upright picture.
+QRect UprightRect(const QRect& stored, const QSize& storedSize, int orientation);
+
 /// `upright`, a geometry planned for an upright picture of `uprightSize`, as it applies to the stored picture.
 Geometry StoredGeometry(const Geometry& upright, const QSize& uprightSize, int orientation);
 

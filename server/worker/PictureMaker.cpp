@@ -1,68 +1,184 @@
 #include "PictureMaker.h"
 
 #include "BatchValues.h"
+#include "Colour.h"
+#include "ColourProfile.h"
 #include "Effects.h"
 #include "Encoder.h"
 #include "Framing.h"
+#include "Metadata.h"
+#include "MetadataCarrier.h"
 #include "Orientation.h"
 #include "PictureFailure.h"
 #include "PictureSource.h"
 #include "PixelForms.h"
+#include "PixelSearch.h"
 #include "Resampling.h"
 #include "VipsText.h"
-#include "WorkingForm.h"
 
+#include <QFile>
+#include <QJsonArray>
+
+#include <algorithm>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace BatchServer {
 
 namespace {
 
-// What is left for the resize filter, which is better than that of the loader: a factor of two hides the loader's.
-constexpr double roomForFilter = 2.0;
+/// The way of one picture through the stages.
+class PictureRun
+{
+public:
+    PictureRun(const JobSettings& job, const PictureTask& task, const FormatSchema& format)
+        : job(job)
+        , task(task)
+        , format(format)
+        , options(OptionsFor(format, job.formatOptions))
+        , source(task.inputFile, job.limits)
+    {
+        const QJsonArray kinds = options[QLatin1String("keep")].toArray();
+        for (const QJsonValue& kind : kinds) {
+            keep.append(kind.toString());
+        }
+    }
 
-Picture Sized(const PictureSource& source, const JobSettings& job)
+    MadePicture Make();
+
+private:
+    bool KeepsInks() const;
+    bool KeepsProfile() const { return keep.contains(QLatin1String("icc")) && HoldsProfile(format); }
+    Geometry PlannedGeometry(const QSize& upright);
+    Picture Sized();
+    Picture Processed(Picture picture) const;
+    Picture InOutputColours(const Picture& picture);
+    void CheckFormat(const Picture& picture) const;
+    void Write(const Picture& picture);
+    void KeepFileTime() const;
+    PictureFailure Explained(const vips::VError& problem);
+    bool IsSourceDamaged(QString& text);
+
+    const JobSettings& job;
+    const PictureTask& task;
+    const FormatSchema& format;
+    QJsonObject options;
+    QStringList keep;
+    PictureSource source;
+    QByteArray inks; ///< the profile of a source of inks
+    MadePicture made;
+};
+
+MadePicture PictureRun::Make()
+{
+    try {
+        const Picture ready = InOutputColours(Processed(Sized()));
+        CheckFormat(ready);
+        made.file = std::make_unique<TemporaryFile>(task.outputFile);
+        if (!made.file->Create()) {
+            throw OutputFailed(made.file->Error());
+        }
+        Write(ReadyFor(format, options, ready));
+    } catch (const vips::VError& problem) {
+        throw Explained(problem);
+    }
+    KeepFileTime();
+    struct stat status;
+    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
+    return std::move(made);
+}
+
+// Inks that nothing touches but crop and size stay what they are. To go by RGB would turn black into a mix of all four.
+bool PictureRun::KeepsInks() const
+{
+    return job.effects.isEmpty() && !job.framing.state && job.profile.isEmpty() && format.holdsCmyk && KeepsProfile();
+}
+
+Geometry PictureRun::PlannedGeometry(const QSize& upright)
+{
+    const int orientation = source.Orientation();
+    QRect found;
+    if (job.crop.type == int(BatchValues::CropType::Trim)) {
+        found = UprightRect(FrameWithoutBorder(source), source.StoredSize(), orientation);
+    } else if (job.crop.type == int(BatchValues::CropType::Interesting)) {
+        found = UprightRect(FrameOfInterest(source, TurnedSize(job.crop.size, orientation)), source.StoredSize(),
+                            orientation);
+    }
+    return PlanGeometry(upright, job.crop, job.imageSize, found);
+}
+
+// Pixels are turned upright last, when they are fewer: only then they have to stand in memory.
+Picture PictureRun::Sized()
 {
     const int orientation = source.Orientation();
     const QSize upright = TurnedSize(source.StoredSize(), orientation);
-    const Geometry geometry = PlanGeometry(upright, job.crop, job.imageSize);
-    const qint64 pixels = qint64(geometry.ResultSize().width()) * geometry.ResultSize().height();
-    if (pixels > job.limits.pixels) {
+    const Geometry geometry = PlannedGeometry(upright);
+    const QSize result = geometry.ResultSize();
+    if (qint64(result.width()) * result.height() > job.limits.pixels) {
         throw TooLarge(QStringLiteral("the result of %1 x %2 pixels would be above the limit of %3 megapixels")
-                           .arg(geometry.ResultSize().width())
-                           .arg(geometry.ResultSize().height())
+                           .arg(result.width())
+                           .arg(result.height())
                            .arg(job.limits.pixels / 1'000'000));
     }
     const double reduction = std::min(double(geometry.part.width()) / geometry.scaledSize.width(),
                                       double(geometry.part.height()) / geometry.scaledSize.height());
-    const Picture loaded = InWorkingForm(source.Load(source.PossibleShrink(reduction / roomForFilter)));
-    const Geometry stored = StoredGeometry(geometry, upright, orientation);
-    const Picture sized = Resampled(loaded, source.StoredSize(), stored);
-    return TurnedUpright(orientation > 2 ? WithRandomAccess(sized) : sized, orientation);
+    const Picture decoded = source.Load(source.PossibleShrink(reduction));
+    inks = source.IsCmyk() ? ProfileOf(decoded) : QByteArray();
+    const Picture loaded = InWorkingColours(decoded, KeepsInks(), made.warnings);
+    const Picture sized = Resampled(loaded, source.StoredSize(), StoredGeometry(geometry, upright, orientation));
+    const bool isReadInOrder = orientation <= 2;
+    const double perMillimetre = std::max(1, job.imageSize.resolution) / 25.4;
+    return TurnedUpright(isReadInOrder ? sized : WithRandomAccess(sized), orientation)
+        .copy(Picture::option()->set("xres", perMillimetre)->set("yres", perMillimetre));
 }
 
-Picture Processed(const Picture& sized, const JobSettings& job)
+Picture PictureRun::Processed(Picture picture) const
 {
-    Picture picture = sized;
     for (const JobEffect& effect : job.effects) {
+        const auto failed = [&effect](const QString& text) {
+            return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.id, text));
+        };
         try {
             picture = ApplyEffect(effect.id, effect.parameters, picture);
         } catch (const EffectError& problem) {
-            throw ProcessingFailed(
-                QStringLiteral("effect \"%1\": %2").arg(effect.id, QString::fromUtf8(problem.what())));
+            throw failed(QString::fromUtf8(problem.what()));
         } catch (const vips::VError& problem) {
-            throw ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.id, TextOf(problem)));
+            throw failed(TextOf(problem));
         }
     }
     return picture;
 }
 
-void CheckFormat(const FormatSchema& format, const PictureSource& source, const Picture& picture)
+Picture PictureRun::InOutputColours(const Picture& picture)
+{
+    if (!job.profile.isEmpty()) {
+        if (!HoldsProfile(format)) {
+            made.warnings.append(
+                QStringLiteral("%1 files hold no colour profile; the result is sRGB").arg(format.name));
+            return InPlainSrgb(picture, made.warnings);
+        }
+        return ConvertedTo(job.profile, picture, made.warnings);
+    }
+    if (source.IsCmyk() && !IsCmyk(picture)) {
+        if (format.holdsCmyk && KeepsProfile() && !picture.has_alpha()) {
+            return AsCmyk(inks, picture, made.warnings);
+        }
+        made.warnings.append(QStringLiteral("the result is sRGB instead of CMYK"));
+    }
+    return KeepsProfile() ? picture : InPlainSrgb(picture, made.warnings);
+}
+
+void PictureRun::CheckFormat(const Picture& picture) const
 {
     const QSize size(picture.width(), picture.height());
     const QString nearest = NearestFormat(source.Format(), HasSixteenBits(picture), picture.has_alpha(), size);
     if (!CanWrite(format)) {
         throw FormatCannotHold(QStringLiteral("this installation has no encoder for %1").arg(format.name), nearest);
+    }
+    if (IsCmyk(picture) && !format.holdsCmyk) {
+        throw FormatCannotHold(
+            QStringLiteral("%1 holds no CMYK, which the job's colour profile asks for").arg(format.name),
+            HasSixteenBits(picture) ? QStringLiteral("TIFF") : QStringLiteral("JPEG"));
     }
     if (std::max(size.width(), size.height()) > format.longestSide) {
         throw FormatCannotHold(QStringLiteral("%1 x %2 pixels: %3 holds at most %4 on a side")
@@ -74,10 +190,58 @@ void CheckFormat(const FormatSchema& format, const PictureSource& source, const 
     }
 }
 
-qint64 SizeOf(int descriptor)
+void PictureRun::Write(const Picture& picture)
+{
+    const QByteArray profile = ProfileOf(picture);
+    Metadata metadata = Metadata::Of(task.inputFile, source, made.warnings);
+    metadata.KeepOnly(keep);
+    metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
+                            profile.isEmpty() || IsSrgb(profile));
+    const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
+    Encode(carrier, format, options, BytesBefore(format, metadata), made.file->Descriptor());
+    CompleteFile(made.file->FileName(), format, metadata, profile, made.warnings);
+}
+
+void PictureRun::KeepFileTime() const
 {
     struct stat status;
-    return fstat(descriptor, &status) == 0 ? qint64(status.st_size) : 0;
+    if (options[QLatin1String("keepFileTime")].toBool() &&
+        stat(QFile::encodeName(task.inputFile).constData(), &status) == 0) {
+        const timespec times[2] = {status.st_atim, status.st_mtim};
+        futimens(made.file->Descriptor(), times);
+    }
+}
+
+// The library reports everything that goes wrong while pixels flow at the end of the pipeline. Reading the source once
+// more tells whether it was the beginning.
+PictureFailure PictureRun::Explained(const vips::VError& problem)
+{
+    QString text = TextOf(problem);
+    if (IsOutOfMemory(text)) {
+        return TooLarge(text);
+    }
+    if (IsSourceDamaged(text)) {
+        return IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+    }
+    const bool isProcessed = !job.effects.isEmpty() || job.framing.state;
+    if (isProcessed) {
+        return ProcessingFailed(text);
+    }
+    return FormatCannotHold(QStringLiteral("the encoder for %1 failed: %2").arg(format.name, text),
+                            NearestFormat(source.Format(), source.IsDeep(), source.HasAlpha(), source.StoredSize()));
+}
+
+bool PictureRun::IsSourceDamaged(QString& text)
+{
+    try {
+        source.Load().avg();
+        return false;
+    } catch (const vips::VError& problem) {
+        text = TextOf(problem);
+    } catch (const PictureFailure& problem) {
+        text = problem.reason;
+    }
+    return true;
 }
 
 } // namespace
@@ -88,23 +252,7 @@ MadePicture MakePicture(const JobSettings& job, const PictureTask& task)
     if (!format) {
         throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), QStringLiteral("JPEG"));
     }
-    const QJsonObject options = OptionsFor(*format, job.formatOptions);
-    const PictureSource source(task.inputFile, job.limits.pixels);
-    MadePicture made;
-    try {
-        const Picture picture = Processed(Sized(source, job), job);
-        CheckFormat(*format, source, picture);
-        made.file = std::make_unique<TemporaryFile>(task.outputFile);
-        if (!made.file->Create()) {
-            throw OutputFailed(made.file->Error());
-        }
-        Encode(ReadyFor(*format, options, picture), *format, options, made.file->Descriptor());
-    } catch (const vips::VError& problem) {
-        const QString text = TextOf(problem);
-        throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
-    }
-    made.bytes = SizeOf(made.file->Descriptor());
-    return made;
+    return PictureRun(job, task, *format).Make();
 }
 
 } // namespace BatchServer

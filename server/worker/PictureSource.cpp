@@ -1,8 +1,10 @@
 #include "PictureSource.h"
 
+#include "Colour.h"
 #include "FormatCatalog.h"
 #include "Orientation.h"
 #include "PictureFailure.h"
+#include "RawFile.h"
 #include "VipsText.h"
 
 #include <QFile>
@@ -58,6 +60,11 @@ const char* LoaderOf(const QString& format)
     return loaders.value(format, nullptr);
 }
 
+QString RawFormat()
+{
+    return QStringLiteral("RAW");
+}
+
 Picture Read(const QString& file, const QString& format, int shrink)
 {
     const FileDescriptor descriptor(file);
@@ -77,40 +84,73 @@ Picture Read(const QString& file, const QString& format, int shrink)
 
 } // namespace
 
-PictureSource::PictureSource(const QString& file, qint64 pixelLimit)
+PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
     : file(file)
+    , limits(limits)
 {
     Identify();
-    try {
-        header = Read(file, format, 1);
-    } catch (const vips::VError& problem) {
-        throw DamagedFile(TextOf(problem));
+    if (format == RawFormat()) {
+        OpenRaw();
     }
-    storedSize = QSize(header.width(), header.height());
-    orientation = OrientationOf(header);
+    if (!raw) {
+        OpenOther();
+    }
     const qint64 pixels = qint64(storedSize.width()) * storedSize.height();
-    if (pixels > pixelLimit) {
+    if (pixels > limits.pixels) {
         throw TooLarge(QStringLiteral("%1 x %2 pixels are more than the limit of %3 megapixels")
                            .arg(storedSize.width())
                            .arg(storedSize.height())
-                           .arg(pixelLimit / 1'000'000));
+                           .arg(limits.pixels / 1'000'000));
     }
 }
 
-int PictureSource::PossibleShrink(double shrink) const
+PictureSource::~PictureSource() = default;
+
+bool PictureSource::IsDeep() const
 {
+    return raw != nullptr || header.format() != VIPS_FORMAT_UCHAR;
+}
+
+bool PictureSource::HasAlpha() const
+{
+    return !raw && header.has_alpha();
+}
+
+bool PictureSource::IsCmyk() const
+{
+    return !raw && BatchServer::IsCmyk(header);
+}
+
+int PictureSource::PossibleShrink(double reduction) const
+{
+    if (raw) {
+        // A colour channel of the sensor has no more than a pixel of four anyway.
+        return reduction >= 2 ? 2 : 1;
+    }
     if (format != QLatin1String("JPEG") && format != QLatin1String("WebP")) {
         return 1;
     }
-    int possible = 8;
-    while (possible > shrink) {
-        possible /= 2;
+    // The filter that scales is better than that of the decoder. What it does to the last factor of two hides the
+    // other.
+    constexpr double leftForFilter = 2.0;
+    int shrink = 8;
+    while (shrink > 1 && shrink * leftForFilter > reduction) {
+        shrink /= 2;
     }
-    return std::max(1, possible);
+    return shrink;
 }
 
-Picture PictureSource::Load(int shrink) const
+Picture PictureSource::Load(int shrink)
 {
+    if (raw) {
+        // The decoder gives its memory back with the pixels.
+        RawFile decoder(file, limits.workerMemory);
+        return decoder.Develop(shrink > 1);
+    }
+    if (shrink == 1 && !isHeaderRead) {
+        isHeaderRead = true;
+        return header;
+    }
     return Read(file, format, shrink);
 }
 
@@ -124,9 +164,40 @@ void PictureSource::Identify()
         throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
     }
     format = FormatOfFile(bytes, QFileInfo(file).suffix());
-    if (!LoaderOf(format)) {
+    if (format.isEmpty()) {
         throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
     }
+}
+
+void PictureSource::OpenRaw()
+{
+    auto opened = std::make_unique<RawFile>(file, limits.workerMemory);
+    if (opened->IsKnown()) {
+        storedSize = opened->Size();
+        orientation = opened->Orientation();
+        raw = std::move(opened);
+        return;
+    }
+    // Some files with the extension of a camera are plain TIFF files.
+    const FileDescriptor descriptor(file);
+    QFile head;
+    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
+    format = FormatOfFile(head.read(64), {});
+    if (!LoaderOf(format)) {
+        throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));
+    }
+}
+
+void PictureSource::OpenOther()
+{
+    try {
+        header = Read(file, format, 1);
+    } catch (const vips::VError& problem) {
+        const QString text = TextOf(problem);
+        throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+    }
+    storedSize = QSize(header.width(), header.height());
+    orientation = OrientationOf(header);
 }
 
 } // namespace BatchServer

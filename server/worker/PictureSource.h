@@ -1,12 +1,17 @@
 #pragma once
 
 #include "Picture.h"
+#include "ServerLimits.h"
 
 #include <QByteArray>
 #include <QSize>
 #include <QString>
 
+#include <memory>
+
 namespace BatchServer {
+
+class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
 ///
@@ -15,8 +20,9 @@ namespace BatchServer {
 class PictureSource
 {
 public:
-    /// Opens `file` and reads its header. A picture of more than `pixelLimit` pixels is refused.
-    PictureSource(const QString& file, qint64 pixelLimit);
+    /// Opens `file` and reads its header. A picture of more pixels than `limits` allow is refused.
+    PictureSource(const QString& file, const ServerLimits& limits);
+    ~PictureSource();
 
     /// As FormatOfFile() names it; the bytes of the file decide, not its name.
     QString Format() const { return format; }
@@ -27,25 +33,40 @@ public:
     /// How the stored picture has to be turned to stand upright, 1 to 8.
     int Orientation() const { return orientation; }
 
-    /// The header as the library reads it, for its metadata; reading its pixels is not possible any more.
+    /// Whether a channel has more than 8 bits.
+    bool IsDeep() const;
+
+    bool HasAlpha() const;
+
+    /// Whether the pixels are inks.
+    bool IsCmyk() const;
+
+    /// The header as the library reads it, for its metadata; without any for camera RAW.
     const Picture& Header() const { return header; }
 
-    /// How much smaller than stored, 1, 2, 4 or 8 times in each direction, the picture can be loaded at little cost, at
-    /// most `shrink` times.
-    int PossibleShrink(double shrink) const;
+    /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost, without
+    /// anybody seeing that in a result which is `reduction` times smaller: 1, 2, 4 or 8.
+    int PossibleShrink(double reduction) const;
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
     /// sizes rounded as the format does it. Each call reads the file anew.
-    Picture Load(int shrink = 1) const;
+    Picture Load(int shrink = 1);
 
 private:
+    Q_DISABLE_COPY(PictureSource)
+
     void Identify();
+    void OpenRaw();
+    void OpenOther();
 
     QString file;
+    ServerLimits limits;
     QString format;
     QSize storedSize;
     int orientation = 1;
     Picture header;
+    bool isHeaderRead = false; ///< its pixels have been taken
+    std::unique_ptr<RawFile> raw;
 };
 
 } // namespace BatchServer

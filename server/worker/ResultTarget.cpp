@@ -5,9 +5,10 @@
 
 namespace BatchServer {
 
-ResultTarget::ResultTarget(int descriptor)
+ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
     : target(VIPS_TARGET(vips_target_custom_new()), vips::STEAL)
     , descriptor(descriptor)
+    , lengthBefore(before.size())
 {
     VipsTarget* object = target.get_target();
     const auto write = [](VipsTargetCustom*, const void* data, gint64 length, gpointer self) {
@@ -17,7 +18,7 @@ ResultTarget::ResultTarget(int descriptor)
         return gint64(::read(static_cast<ResultTarget*>(self)->descriptor, data, size_t(length)));
     };
     const auto seek = [](VipsTargetCustom*, gint64 offset, int whence, gpointer self) {
-        return gint64(lseek(static_cast<ResultTarget*>(self)->descriptor, offset, whence));
+        return static_cast<ResultTarget*>(self)->Seek(offset, whence);
     };
     using WriteHandler = gint64 (*)(VipsTargetCustom*, const void*, gint64, gpointer);
     using ReadHandler = gint64 (*)(VipsTargetCustom*, void*, gint64, gpointer);
@@ -25,6 +26,9 @@ ResultTarget::ResultTarget(int descriptor)
     g_signal_connect(object, "write", G_CALLBACK(static_cast<WriteHandler>(write)), this);
     g_signal_connect(object, "read", G_CALLBACK(static_cast<ReadHandler>(read)), this);
     g_signal_connect(object, "seek", G_CALLBACK(static_cast<SeekHandler>(seek)), this);
+    for (gint64 written = 0; written < lengthBefore && problem == 0;) {
+        written += Write(before.constData() + written, lengthBefore - written);
+    }
 }
 
 gint64 ResultTarget::Write(const char* data, gint64 length)
@@ -37,6 +41,13 @@ gint64 ResultTarget::Write(const char* data, gint64 length)
         problem = errno;
     }
     return written;
+}
+
+// The library counts from the first byte of its own.
+gint64 ResultTarget::Seek(gint64 offset, int whence)
+{
+    const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + lengthBefore : offset, whence);
+    return place < 0 ? place : place - lengthBefore;
 }
 
 } // namespace BatchServer

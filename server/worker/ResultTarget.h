@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+
 #include <vips/vips8>
 
 namespace BatchServer {
@@ -9,8 +11,9 @@ namespace BatchServer {
 class ResultTarget
 {
 public:
-    /// Writes to `descriptor`, which stays the caller's, from its present position.
-    explicit ResultTarget(int descriptor);
+    /// Writes to `descriptor`, which stays the caller's, from its beginning: first `before`, then what the library
+    /// writes.
+    ResultTarget(int descriptor, const QByteArray& before);
 
     vips::VTarget Target() const { return target; }
 
@@ -22,9 +25,11 @@ private:
     ResultTarget& operator=(const ResultTarget&) = delete;
 
     gint64 Write(const char* data, gint64 length);
+    gint64 Seek(gint64 offset, int whence);
 
     vips::VTarget target;
     int descriptor;
+    gint64 lengthBefore;
     int problem = 0;
 };
 

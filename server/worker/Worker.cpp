@@ -1,6 +1,8 @@
 #include "Worker.h"
 
+#include "Confinement.h"
 #include "FileProbe.h"
+#include "ImagingLibrary.h"
 #include "PictureFailure.h"
 #include "PictureMaker.h"
 
@@ -81,6 +83,7 @@ void Worker::Handle(const ToWorker& message)
 
 void Worker::Take(const Job& job)
 {
+    BoundResources(job.limits);
     settings.reset();
     jobProblem = Guarded([this, &job] {
         settings = ReadJob(job);
@@ -90,8 +93,8 @@ void Worker::Take(const Job& job)
 
 void Worker::Probe(const ProbeTask& task)
 {
-    const qint64 limit = settings ? settings->limits.pixels : ServerLimits().pixels;
-    Report report = Guarded([&task, limit] { return ProbeFile(task, limit); });
+    const ServerLimits limits = settings ? settings->limits : ServerLimits();
+    Report report = Guarded([&task, &limits] { return ProbeFile(task, limits); });
     report.number = task.number;
     reports.Send(report);
 }
@@ -99,12 +102,13 @@ void Worker::Probe(const ProbeTask& task)
 void Worker::Make(const PictureTask& task)
 {
     MadePicture made;
+    TakeLibraryWarnings(); // of a task before, which had no use for them
     Report report = Guarded([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
             made = MakePicture(*settings, task);
             done.outputBytes = made.bytes;
-            done.warnings = made.warnings;
+            done.warnings = made.warnings + TakeLibraryWarnings();
         }
         return done;
     });

@@ -1,9 +1,10 @@
+#include "Confinement.h"
+#include "ImagingLibrary.h"
 #include "ReportQueue.h"
 #include "Worker.h"
 
 #include <vips/vips8>
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -21,16 +22,6 @@ int TakeStandardOutput()
     return own;
 }
 
-void StartVips(const char* program)
-{
-    if (VIPS_INIT(program) != 0) {
-        std::fprintf(stderr, "VelkoraBatchWorker: the imaging library does not start: %s\n", vips_error_buffer());
-        std::exit(EXIT_FAILURE);
-    }
-    vips_concurrency_set(1);
-    vips_cache_set_max(0);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -40,10 +31,10 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing and takes no arguments.\n");
         return EXIT_FAILURE;
     }
-    // A file that grows beyond its limit, and a supervisor that is gone, are results of calls, no reasons to die.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
-    StartVips(argv[0]);
+    GiveUpRights();
+    if (!StartImagingLibrary(argv[0])) {
+        return EXIT_FAILURE;
+    }
     bool isUnderstood = false;
     {
         ReportQueue reports(output);
