@@ -1,0 +1,19 @@
+#include "BackgroundTask.h"
+
+#include <utility>
+
+BackgroundTask::BackgroundTask(std::function<void(const Cancelled&)> work)
+    : work(std::move(work))
+{
+}
+
+BackgroundTask::~BackgroundTask()
+{
+    Cancel();
+    wait();
+}
+
+void BackgroundTask::run()
+{
+    work([this] { return isCancelled.load(); });
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QProcess>
+
+/// A process that does not outlive this one: where the system can do that, it ends the one with the other.
+class ChildProcess : public QProcess
+{
+    Q_OBJECT
+
+public:
+    using QProcess::QProcess;
+
+protected:
+    void setupChildProcess() override;
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+class QLocalSocket;
+
+/// Whether the process at the other end of `socket`, a connection that was accepted, belongs to the user whose process
+/// this is. False when that cannot be found out.
+bool IsPeerOfThisUser(const QLocalSocket& socket);

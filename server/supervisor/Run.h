@@ -1,0 +1,143 @@
+#pragma once
+
+#include "BackgroundTask.h"
+#include "BatchValues.h"
+#include "HostLink.h"
+#include "Policies.h"
+#include "RunPlan.h"
+#include "WorkerPool.h"
+
+#include <QMap>
+#include <QObject>
+#include <QSet>
+
+#include <memory>
+#include <optional>
+
+/// One run: from the order to process a job to the message that it is over.
+///
+/// The order of things never depends on which worker is faster: names are settled for all files before the first is
+/// handed out, questions are asked in the document's order, and an answer for the rest of the run holds for all files
+/// that stand behind. A question keeps nobody from working: files whose way is clear go on being handed out, except
+/// when the question is about the output, which then fails for every file.
+class Run : public QObject
+{
+    Q_OBJECT
+
+public:
+    Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, WorkerPool& pool,
+        const BatchServer::ServerLimits& limits);
+    ~Run() override;
+
+    void Begin();
+
+    /// Hands one task to the pool, which has room; false when there is none now.
+    bool HandOut();
+
+    /// How many tasks may still be handed out.
+    int TasksLeft() const;
+
+    bool IsOver() const { return phase == Phase::Over; }
+
+    /// Commands of the host. What makes no sense now is answered with a line of the log.
+    void Pause();
+    void Resume();
+    void Cancel();
+    void Answer(ZTBatchMessage::Message question, int policy, bool isForTheRest);
+
+Q_SIGNALS:
+    /// There may be something to hand out.
+    void HasTasks();
+
+    /// The host has been told. Comes once.
+    void Over();
+
+private:
+    enum class Phase { Reading, Probing, Naming, Working, Cancelling, Over };
+
+    struct Preparation
+    {
+        BatchServer::Refusal refusal;
+        QString settings;
+        RunPlan plan;
+        int swept = 0;
+    };
+
+    struct OpenQuestion
+    {
+        int file = -1;
+        Trouble trouble;
+    };
+
+    void StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)());
+    void TakeJob();
+    void BeginNaming();
+    void BeginWork();
+
+    void Give(int file, const BatchServer::ToWorker& task);
+    bool GivePicture(int file);
+    bool MakeFolder(const QString& folder);
+    void Examine(int file);
+
+    void OnBegun(const Assignment& task);
+    void OnReported(const Assignment& task, const BatchServer::Report& report);
+    void OnLost(const Assignment& task, WorkerEnd reason, const QString& text);
+    void OnReturned(const Assignment& task);
+    void OnBroken(const QString& reason);
+    void OnDropped();
+
+    void Meet(int file, const Trouble& trouble);
+    bool NeedsOrder(int file, const Trouble& trouble) const;
+    void DecideWaiting();
+    void Ask(int file, const Trouble& trouble);
+    void Resolve(int file, const Trouble& trouble, Decision decision);
+    void ResolveName(int file, const Trouble& trouble, Decision decision);
+    void ResolveFormat(int file, const Trouble& trouble);
+    void ReportTrouble(int file, const Trouble& trouble, BatchValues::Action action, const QString& consequence);
+    void GiveUp(int file, const Trouble& trouble, BatchValues::Action action);
+    void FinishPicture(int file, const BatchServer::Report& report);
+    void FinishProbe();
+    void Settle(int file);
+    int FirstUnsettled();
+
+    void Stop(const QString& reason);
+    void Refuse(const BatchServer::Refusal& refusal);
+    void EndWhenDone();
+    void LogTotals(const QString& how) const;
+    void End();
+
+    const quint64 number;
+    const HostLink host;
+    WorkerPool& pool;
+    const BatchServer::ServerLimits limits;
+    Policies policies;
+    const BatchServer::Refusal policyRefusal;
+    QString document; ///< the job's text, until it is read
+
+    Phase phase = Phase::Reading;
+    bool isPaused = false;
+    bool isStopping = false;
+    std::shared_ptr<Preparation> preparation; ///< belongs to the background task while that runs
+    std::unique_ptr<BackgroundTask> background;
+
+    RunPlan plan;
+    QByteArray job; ///< framed, for workers
+    QVector<int> probes;
+    int nextProbe = 0;
+    int openProbes = 0;
+
+    int next = 0;     ///< the first file that was not looked at
+    QList<int> ready; ///< files to hand out before that
+    QList<Assignment> returned;
+    QSet<int> inWork;
+    QMap<int, Trouble> waiting; ///< for its turn to be decided
+    std::optional<OpenQuestion> question;
+    bool isDeciding = false;
+    std::vector<bool> settled;
+    int firstUnsettled = 0;
+    QSet<QString> madeFolders;
+
+    int written = 0;
+    int skipped = 0;
+    int failed = 0;
+};

@@ -1,0 +1,299 @@
+#include "Server.h"
+
+#include "HostLink.h"
+#include "JobCheck.h"
+
+#include <QCoreApplication>
+#include <QLocalSocket>
+
+#include <chrono>
+
+using namespace BatchServer;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How long a server waits for its first host, and for a host that comes back before it has begun a session.
+constexpr auto firstHostTime = 60s;
+constexpr auto nextHostTime = 5s;
+
+/// Runs that cannot be cancelled by then, because a file system does not answer, are left.
+constexpr auto endTime = 10s;
+
+} // namespace
+
+Server::Server(const QString& workerProgram, const ServerLimits& limits)
+    : limits(limits)
+    , pool(workerProgram, limits)
+{
+    connect(&listener, &Listener::Connected, this, &Server::Accept);
+    connect(&pool, &WorkerPool::RoomMade, this, &Server::ScheduleHandOut);
+    for (QTimer* timer : {&loneliness, &lastDeadline}) {
+        timer->setSingleShot(true);
+    }
+    connect(&loneliness, &QTimer::timeout, this, [this] {
+        qWarning("No host is connected: the server ends.");
+        End();
+    });
+    connect(&lastDeadline, &QTimer::timeout, this, &Server::Quit);
+}
+
+Server::~Server()
+{
+    qDeleteAll(runs);
+    qDeleteAll(pipes);
+}
+
+bool Server::Start(const QString& pipeName)
+{
+    if (!listener.Listen(pipeName)) {
+        return false;
+    }
+    pool.Start();
+    loneliness.start(firstHostTime);
+    return true;
+}
+
+void Server::End()
+{
+    if (isEnding) {
+        return;
+    }
+    isEnding = true;
+    listener.Close();
+    if (runs.isEmpty()) {
+        Quit();
+        return;
+    }
+    lastDeadline.start(endTime);
+    const QVector<Run*> all = runs;
+    for (Run* run : all) {
+        run->Cancel();
+    }
+}
+
+void Server::Accept(QLocalSocket* socket)
+{
+    loneliness.stop();
+    auto* const pipe = new ZTPipeSession(socket, nullptr);
+    pipes.append(pipe);
+    connect(pipe, &ZTPipeSession::IncomingMessage, this,
+            [this, pipe](const QString& name, const QByteArray& payload) { Handle(pipe, name, payload); });
+    connect(pipe, &ZTPipeSession::SessionDown, this, [this, pipe] { LosePipe(pipe); });
+    if (!pipe->IsConnected()) {
+        LosePipe(pipe); // It went away before anybody could hear of it.
+    }
+}
+
+void Server::Handle(ZTPipeSession* pipe, const QString& name, const QByteArray& payload)
+{
+    if (isEnding) {
+        return;
+    }
+    const ZTBatchMessage::Message message = ZTBatchMessage::FromName(name);
+    switch (message) {
+    case ZTBatchMessage::MsgCreateSession:
+    case ZTBatchMessage::MsgCloseSession:
+    case ZTBatchMessage::MsgPause:
+    case ZTBatchMessage::MsgResume:
+    case ZTBatchMessage::MsgCancel: {
+        bool isExact = false;
+        const auto session = ZTBatchPayload::Unpack<ZTBatchPayload::Session>(payload, &isExact);
+        if (isExact) {
+            Command(pipe, message, session.sessionId);
+        } else {
+            Refuse(pipe, message);
+        }
+        break;
+    }
+    case ZTBatchMessage::MsgProcess:
+        Process(pipe, payload);
+        break;
+    case ZTBatchMessage::MsgInputQuestion:
+    case ZTBatchMessage::MsgOutputQuestion:
+    case ZTBatchMessage::MsgProcessingQuestion:
+    case ZTBatchMessage::MsgNamingQuestion:
+    case ZTBatchMessage::MsgWriteToFormatQuestion:
+        Answer(pipe, message, payload);
+        break;
+    case ZTBatchMessage::MsgCloseServer:
+        End();
+        break;
+    default:
+        qWarning("A message was ignored: \"%s\" is none that a server gets.", qUtf8Printable(name.left(20)));
+        break;
+    }
+}
+
+void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const QString& id)
+{
+    if (message == ZTBatchMessage::MsgCreateSession) {
+        CreateSession(pipe, id);
+        return;
+    }
+    Session* const session = SessionOf(pipe, id, message);
+    if (!session) {
+        return;
+    }
+    if (message == ZTBatchMessage::MsgCloseSession) {
+        CloseSession(id);
+    } else if (!session->run) {
+        HostLink(pipe, id).Log(QStringLiteral("There is no run under way: the command is ignored."));
+    } else if (message == ZTBatchMessage::MsgPause) {
+        session->run->Pause();
+    } else if (message == ZTBatchMessage::MsgResume) {
+        session->run->Resume();
+    } else {
+        session->run->Cancel();
+    }
+}
+
+void Server::CreateSession(ZTPipeSession* pipe, const QString& id)
+{
+    if (sessions.contains(id)) {
+        qWarning("A session was not created: there is one with its id.");
+        return;
+    }
+    Session session;
+    session.pipe = pipe;
+    sessions.insert(id, session);
+}
+
+void Server::CloseSession(const QString& id)
+{
+    Run* const run = sessions.take(id).run;
+    if (run) {
+        run->Cancel();
+    }
+}
+
+void Server::Process(ZTPipeSession* pipe, const QByteArray& payload)
+{
+    bool isExact = false;
+    const auto order = ZTBatchPayload::Unpack<ZTBatchPayload::Process>(payload, &isExact);
+    if (!isExact) {
+        Refuse(pipe, ZTBatchMessage::MsgProcess);
+        return;
+    }
+    Session* const session = SessionOf(pipe, order.sessionId, ZTBatchMessage::MsgProcess);
+    if (!session) {
+        return;
+    }
+    const HostLink host(pipe, order.sessionId);
+    if (session->hadRun) {
+        host.Log(QStringLiteral("A session has one run: the second is ignored."));
+        return;
+    }
+    session->hadRun = true;
+    auto* const run = new Run(++lastRun, order, host, pool, limits);
+    session->run = run;
+    runs.append(run);
+    connect(run, &Run::HasTasks, this, &Server::ScheduleHandOut);
+    connect(run, &Run::Over, this, [this, run] { OnRunOver(run); });
+    run->Begin();
+}
+
+void Server::Answer(ZTPipeSession* pipe, ZTBatchMessage::Message message, const QByteArray& payload)
+{
+    bool isExact = false;
+    const auto answer = ZTBatchPayload::Unpack<ZTBatchPayload::Answer>(payload, &isExact);
+    if (!isExact) {
+        Refuse(pipe, message);
+        return;
+    }
+    const Session* const session = SessionOf(pipe, answer.sessionId, message);
+    if (!session) {
+        return;
+    }
+    if (session->run) {
+        session->run->Answer(message, answer.policy, answer.flag);
+    } else {
+        HostLink(pipe, answer.sessionId).Log(QStringLiteral("There is no run under way: the answer is ignored."));
+    }
+}
+
+/// The session `id` of the host behind `pipe`; null, with a line in the log, when it has none.
+Server::Session* Server::SessionOf(ZTPipeSession* pipe, const QString& id, ZTBatchMessage::Message message)
+{
+    const auto session = sessions.find(id);
+    if (session == sessions.end() || session->pipe != pipe) {
+        qWarning("Message %d was ignored: its session is unknown.", int(message));
+        return nullptr;
+    }
+    return &*session;
+}
+
+void Server::Refuse(ZTPipeSession* pipe, ZTBatchMessage::Message message)
+{
+    qWarning("A connection was ended: the payload of its message %d is malformed.", int(message));
+    LosePipe(pipe);
+}
+
+void Server::LosePipe(ZTPipeSession* pipe)
+{
+    if (!pipes.removeOne(pipe)) {
+        return;
+    }
+    pipe->disconnect(this);
+    pipe->deleteLater();
+    bool hadSession = false;
+    const QStringList ids = sessions.keys();
+    for (const QString& id : ids) {
+        if (sessions.value(id).pipe == pipe) {
+            hadSession = true;
+            CloseSession(id);
+        }
+    }
+    if (!pipes.isEmpty() || isEnding) {
+        return;
+    }
+    if (hadSession) {
+        End();
+    } else {
+        // A host may give an early connection up and come back at once.
+        loneliness.start(nextHostTime);
+    }
+}
+
+void Server::ScheduleHandOut()
+{
+    if (!isHandOutScheduled) {
+        isHandOutScheduled = true;
+        QMetaObject::invokeMethod(
+            this, [this] { HandOut(); }, Qt::QueuedConnection);
+    }
+}
+
+void Server::HandOut()
+{
+    isHandOutScheduled = false;
+    // Runs have their turns one after the other.
+    int idle = 0;
+    while (idle < runs.size()) {
+        Run* const run = runs.first();
+        const bool hasGiven = pool.HasRoom(run->TasksLeft()) && run->HandOut();
+        idle = hasGiven ? 0 : idle + 1;
+        if (!runs.isEmpty() && runs.first() == run) {
+            runs.append(runs.takeFirst());
+        }
+    }
+}
+
+void Server::OnRunOver(Run* run)
+{
+    runs.removeOne(run);
+    for (Session& session : sessions) {
+        if (session.run == run) {
+            session.run = nullptr;
+        }
+    }
+    run->deleteLater();
+    if (isEnding && runs.isEmpty()) {
+        Quit();
+    }
+}
+
+void Server::Quit()
+{
+    QCoreApplication::quit();
+}

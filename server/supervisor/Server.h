@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Listener.h"
+#include "Run.h"
+#include "ServerLimits.h"
+#include "WorkerPool.h"
+
+#include "ZTPipeSession.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+#include <memory>
+
+/// The batch server: takes what hosts say, starts and steers runs, and knows when to end.
+///
+/// It ends when a host asks for it, when the connection to the host of a session is lost, when nobody connects for a
+/// while, and when the system asks for it. Each time runs are cancelled first, with all that belongs to that.
+class Server : public QObject
+{
+    Q_OBJECT
+
+public:
+    Server(const QString& workerProgram, const BatchServer::ServerLimits& limits);
+    ~Server() override;
+
+    /// Opens the pipe and starts the workers. False when the pipe cannot be opened, see Error().
+    bool Start(const QString& pipeName);
+
+    QString Error() const { return listener.Error(); }
+
+    /// Cancels the runs and ends the application's event loop when that is done.
+    void End();
+
+private:
+    struct Session
+    {
+        ZTPipeSession* pipe = nullptr;
+        Run* run = nullptr; ///< null before the first order and after the run
+        bool hadRun = false;
+    };
+
+    void Accept(QLocalSocket* socket);
+    void Handle(ZTPipeSession* pipe, const QString& name, const QByteArray& payload);
+    void CreateSession(ZTPipeSession* pipe, const QString& id);
+    void CloseSession(const QString& id);
+    void Process(ZTPipeSession* pipe, const QByteArray& payload);
+    void Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const QString& id);
+    void Answer(ZTPipeSession* pipe, ZTBatchMessage::Message message, const QByteArray& payload);
+    Session* SessionOf(ZTPipeSession* pipe, const QString& id, ZTBatchMessage::Message message);
+    void LosePipe(ZTPipeSession* pipe);
+    void Refuse(ZTPipeSession* pipe, ZTBatchMessage::Message message);
+    void ScheduleHandOut();
+    void HandOut();
+    void OnRunOver(Run* run);
+    void Quit();
+
+    const BatchServer::ServerLimits limits;
+    Listener listener;
+    WorkerPool pool;
+    QVector<ZTPipeSession*> pipes;
+    QHash<QString, Session> sessions;
+    QVector<Run*> runs; ///< in the order of their turns
+    quint64 lastRun = 0;
+    bool isHandOutScheduled = false;
+    bool isEnding = false;
+    QTimer loneliness; ///< runs while no host is connected
+    QTimer lastDeadline;
+};

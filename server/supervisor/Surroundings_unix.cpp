@@ -1,0 +1,50 @@
+#include "Surroundings.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+#include <QTextCodec>
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// A handler may do no more than write to a pipe, whose other end the event loop reads.
+std::array<int, 2> requestPipe{-1, -1};
+
+void NoteRequest(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = ::write(requestPipe[1], &byte, 1);
+}
+
+} // namespace
+
+void Surroundings::Prepare()
+{
+    ::setsid(); // Fails for the leader of a group, which has been set apart already.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+void Surroundings::OnEndRequest(const std::function<void()>& end)
+{
+    if (::pipe(requestPipe.data()) != 0) {
+        return;
+    }
+    for (const int descriptor : requestPipe) {
+        ::fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+    }
+    auto* const notifier = new QSocketNotifier(requestPipe[0], QSocketNotifier::Read, QCoreApplication::instance());
+    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier, end] {
+        notifier->setEnabled(false);
+        end();
+    });
+    struct sigaction action = {};
+    action.sa_handler = NoteRequest;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(SIGTERM, &action, nullptr);
+    ::sigaction(SIGINT, &action, nullptr);
+}

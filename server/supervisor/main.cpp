@@ -1,0 +1,46 @@
+#include "JobReader.h"
+#include "Server.h"
+#include "ServerLimits.h"
+#include "Surroundings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cstdio>
+
+namespace {
+
+QString WorkerProgram()
+{
+#ifdef Q_OS_WIN
+    const QString name = QStringLiteral("VelkoraBatchWorker.exe");
+#else
+    const QString name = QStringLiteral("VelkoraBatchWorker");
+#endif
+    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Surroundings::Prepare();
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.size() != 1 || arguments[0].isEmpty()) {
+        std::fprintf(stderr, "Usage: VelkoraBatchProcessing PIPE\n"
+                             "PIPE is the name of the pipe on which the server listens for its host.\n");
+        return 2;
+    }
+    if (arguments[0] == QLatin1String(JobReader::argument)) {
+        return JobReader::RunProcess();
+    }
+    Server server(WorkerProgram(), BatchServer::ServerLimits::FromEnvironment());
+    if (!server.Start(arguments[0])) {
+        std::fprintf(stderr, "VelkoraBatchProcessing: the pipe \"%s\" cannot be opened: %s\n",
+                     qUtf8Printable(arguments[0]), qUtf8Printable(server.Error()));
+        return 1;
+    }
+    Surroundings::OnEndRequest([&server] { server.End(); });
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,202 @@
+// A worker that makes no pictures: it does what the first line of its input file says. Without such a line the result
+// is a file with the input's content.
+//
+//     crash | hang | stop | exit | outofmemory   end, or do not end, with half a temporary file in the folder
+//     eat                                        takes memory until it is ended
+//     garbage | alien | twice                    says what is no answer: no frame, another number, one answer too many
+//     wait PATH                                  goes on when there is a file PATH
+//     input CODE | output CODE | ...             reports a case with the error code
+//     format NAME                                cannot be written in any format but this one
+//
+// A file "start.script" beside the executable makes it end at once.
+
+#include "ProcessEnd.h"
+#include "TemporaryFile.h"
+#include "WorkerMessages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QThread>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+using namespace BatchServer;
+
+namespace {
+
+void Say(const QByteArray& bytes)
+{
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+Report Failure(Case kind, int code, const QString& nearest = {})
+{
+    Report report;
+    report.failure = kind;
+    report.errorCode = code;
+    report.reason = QStringLiteral("as the script says");
+    report.nearestFormat = nearest;
+    return report;
+}
+
+[[noreturn]] void SleepForEver()
+{
+    for (;;) {
+        QThread::sleep(1);
+    }
+}
+
+[[noreturn]] void EatMemory()
+{
+    constexpr std::size_t step = 8 << 20;
+    std::vector<std::vector<char>> eaten;
+    for (;;) {
+        eaten.emplace_back(step, 'x');
+        QThread::msleep(5);
+    }
+}
+
+Report WriteResult(const PictureTask& task, const QByteArray& content)
+{
+    TemporaryFile file(task.outputFile);
+    QFile bytes;
+    if (!file.Create() || !bytes.open(file.Descriptor(), QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        bytes.write(content) != content.size()) {
+        return Failure(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+    }
+    switch (file.Place(task.replaceExisting)) {
+    case TemporaryFile::Placement::NameTaken:
+        return Failure(Case::Naming, ZTBatchMessage::FileNameAlreadyExists);
+    case TemporaryFile::Placement::Failed:
+        return Failure(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+    case TemporaryFile::Placement::Done:
+        break;
+    }
+    Report report;
+    report.outputBytes = content.size();
+    return report;
+}
+
+/// The commands that keep the worker from an answer.
+void Misbehave(const QByteArray& command, const PictureTask& task)
+{
+    const QList<QByteArray> endings{"crash", "hang", "stop", "exit", "outofmemory", "eat"};
+    if (!endings.contains(command)) {
+        return;
+    }
+    TemporaryFile half(task.outputFile);
+    half.Create();
+    if (command == "crash") {
+        AbortQuietly();
+        std::abort();
+    } else if (command == "hang") {
+        SleepForEver();
+#ifdef Q_OS_UNIX
+    } else if (command == "stop") {
+        std::raise(SIGSTOP);
+#endif
+    } else if (command == "eat") {
+        EatMemory();
+    }
+    std::_Exit(command == "outofmemory" ? workerOutOfMemory : 3);
+}
+
+Report Make(const PictureTask& task)
+{
+    QFile input(task.inputFile);
+    if (!input.open(QIODevice::ReadOnly)) {
+        return Failure(Case::Input, ZTBatchMessage::ReadFileError);
+    }
+    const QByteArray content = input.readAll();
+    const QList<QByteArray> line = content.split('\n')[0].split(' ');
+    const QByteArray command = line[0];
+    const QByteArray argument = line.value(1);
+    Misbehave(command, task);
+    if (command == "garbage") {
+        Say(QByteArray(100, '\xFF'));
+    } else if (command == "alien") {
+        Report report;
+        report.number = task.number + 1;
+        Say(FrameFromWorker(report));
+    } else if (command == "wait") {
+        while (!QFile::exists(QString::fromUtf8(argument))) {
+            QThread::msleep(5);
+        }
+    } else if (command == "format" && task.format != QString::fromUtf8(argument)) {
+        return Failure(Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat, QString::fromUtf8(argument));
+    }
+    const QList<QByteArray> cases{"", "input", "output", "processing", "naming", "write"};
+    const int kind = cases.indexOf(command);
+    if (kind > 0) {
+        return Failure(Case(kind), argument.toInt());
+    }
+    return WriteResult(task, content);
+}
+
+Report Probe(const ProbeTask& task)
+{
+    Report report;
+    QFile input(task.inputFile);
+    if (!input.open(QIODevice::ReadOnly)) {
+        return Failure(Case::Input, ZTBatchMessage::ReadFileError);
+    }
+    const QByteArray command = input.readLine().trimmed();
+    if (command == "crashprobe") {
+        AbortQuietly();
+        std::abort();
+    }
+    report.inputFormat = QStringLiteral("PSD");
+    report.nearestFormat = QStringLiteral("PNG");
+    report.captured = QDateTime(QDate(2024, 5, 1), QTime(10, 20, 30));
+    return report;
+}
+
+void Handle(const ToWorker& message)
+{
+    if (const auto* task = std::get_if<PictureTask>(&message)) {
+        Report report = Make(*task);
+        report.number = task->number;
+        Say(FrameFromWorker(report));
+        QFile input(task->inputFile);
+        if (input.open(QIODevice::ReadOnly) && input.readLine().trimmed() == "twice") {
+            Say(FrameFromWorker(report));
+        }
+    } else if (const auto* probe = std::get_if<ProbeTask>(&message)) {
+        Report report = Probe(*probe);
+        report.number = probe->number;
+        Say(FrameFromWorker(report));
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (QFile::exists(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("start.script")))) {
+        std::fprintf(stderr, "told to end\n");
+        return 4;
+    }
+    Report ready;
+    ready.number = workerIsReady;
+    Say(FrameFromWorker(ready));
+
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return 1;
+    }
+    FrameReader reader;
+    char buffer[65536];
+    for (qint64 count = input.read(buffer, sizeof(buffer)); count > 0; count = input.read(buffer, sizeof(buffer))) {
+        reader.Append(QByteArray(buffer, int(count)));
+        for (auto message = reader.NextToWorker(); message; message = reader.NextToWorker()) {
+            Handle(*message);
+        }
+    }
+    return 0;
+}
