@@ -4,8 +4,8 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
-#include <functional>
 #include <stdexcept>
 
 namespace BatchServer {
@@ -17,11 +17,18 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// What an effect is made of: a function that takes a picture and the effect's checked, complete parameters.
-using EffectFunction = std::function<Picture(const Picture&, const QJsonObject&)>;
-
-/// Applies the effect `id` of the catalogue to `picture`. Throws EffectError, or vips::VError from the library. An id
-/// that the catalogue does not have is a programming error.
+/// Applies the effect `id` of the catalogue, with checked, complete parameters, to `picture`. Throws EffectError, or
+/// vips::VError from the library. An id that the catalogue does not have is an EffectError.
+///
+/// The pixels flow later, line by line from top to bottom, unless NeedsRandomAccess() says that the picture must be
+/// readable in any order: then some of them, or all, are read at once.
 Picture ApplyEffect(const QString& id, const QJsonObject& parameters, const Picture& picture);
+
+/// Whether the effect reads its picture more than once, or not from top to bottom. The caller sees to it beforehand, as
+/// with WithRandomAccess(), so that a file that cannot be read is not taken for a failure of the effect.
+bool NeedsRandomAccess(const QString& id, const QJsonObject& parameters);
+
+/// The ids of all effects that there are functions for, sorted.
+QStringList EffectFunctionNames();
 
 } // namespace BatchServer

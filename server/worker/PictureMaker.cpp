@@ -138,6 +138,9 @@ Picture PictureRun::Processed(Picture picture) const
         const auto failed = [&effect](const QString& text) {
             return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.id, text));
         };
+        if (NeedsRandomAccess(effect.id, effect.parameters)) {
+            picture = WithRandomAccess(picture);
+        }
         try {
             picture = ApplyEffect(effect.id, effect.parameters, picture);
         } catch (const EffectError& problem) {

@@ -189,7 +189,8 @@ CubeFile ReadCube(QIODevice& device, const QString& name)
     CubeReader reader;
     int number = 0;
     while (!device.atEnd()) {
-        QByteArray line = device.readLine(longestLine + 1);
+        // One byte more than is allowed, and one that the device keeps for itself.
+        QByteArray line = device.readLine(longestLine + 2);
         ++number;
         if (line.isEmpty()) {
             break;

@@ -1,0 +1,80 @@
+#include "AllEffects.h"
+#include "PixelFilter.h"
+
+#include <algorithm>
+#include <memory>
+#include <numeric>
+
+namespace BatchServer {
+
+namespace {
+
+/// The values, 0 to 1, that become black and white.
+struct Range
+{
+    double black = 0;
+    double white = 1;
+};
+
+std::vector<double> Counts(const Picture& channel, const Picture* opacity)
+{
+    const Picture histogram = opacity ? opacity->hist_find_indexed(channel) : channel.hist_find();
+    size_t size = 0;
+    const std::unique_ptr<void, decltype(&g_free)> values(histogram.cast(VIPS_FORMAT_DOUBLE).write_to_memory(&size),
+                                                          g_free);
+    const auto* const first = static_cast<const double*>(values.get());
+    return {first, first + size / sizeof(double)};
+}
+
+Range RangeOf(const std::vector<double>& counts, double clip, double largest)
+{
+    const double clipped = std::accumulate(counts.begin(), counts.end(), 0.0) * clip;
+    const auto firstAbove = [clipped](auto begin, auto end) {
+        double sum = 0.0;
+        return std::find_if(begin, end, [&sum, clipped](double count) { return (sum += count) > clipped; });
+    };
+    const auto black = firstAbove(counts.begin(), counts.end());
+    const auto white = firstAbove(counts.rbegin(), counts.rend());
+    if (black == counts.end()) {
+        return {};
+    }
+    return {double(std::distance(counts.begin(), black)) / largest,
+            double(std::distance(white, counts.rend()) - 1) / largest};
+}
+
+ValueFunction Spread(const Range& range)
+{
+    if (range.black >= range.white) {
+        return [](double value) { return value; };
+    }
+    return [range](double value) { return (value - range.black) / (range.white - range.black); };
+}
+
+} // namespace
+
+Picture ApplyAutoLevels(const Picture& picture, const QJsonObject& parameters)
+{
+    const double clip = parameters[QLatin1String("clip")].toDouble() / 100.0;
+    const bool isForEach = parameters[QLatin1String("channels")].toString() == QLatin1String("each");
+
+    // Whatever hides under no opacity at all is not seen, so it does not count.
+    Picture opacity;
+    if (picture.has_alpha()) {
+        opacity = (AlphaOf(picture) > 0.0) / 255.0;
+    }
+    std::vector<Range> ranges;
+    for (int band = 0; band < ColourBands(picture); ++band) {
+        const std::vector<double> counts = Counts(picture.extract_band(band), picture.has_alpha() ? &opacity : nullptr);
+        ranges.push_back(RangeOf(counts, clip, LargestValue(picture)));
+    }
+    if (isForEach && ranges.size() == 3) {
+        return MapValues(picture, {Spread(ranges[0]), Spread(ranges[1]), Spread(ranges[2])});
+    }
+    Range whole = ranges.front();
+    for (const Range& range : ranges) {
+        whole = {std::min(whole.black, range.black), std::max(whole.white, range.white)};
+    }
+    return MapValues(picture, Spread(whole));
+}
+
+} // namespace BatchServer

@@ -1,0 +1,14 @@
+#include "AllEffects.h"
+
+namespace BatchServer {
+
+Picture ApplyFlip(const Picture& picture, const QJsonObject& parameters)
+{
+    const QString direction = parameters[QLatin1String("direction")].toString();
+    if (direction == QLatin1String("both")) {
+        return picture.rot180();
+    }
+    return picture.flip(direction == QLatin1String("vertical") ? VIPS_DIRECTION_VERTICAL : VIPS_DIRECTION_HORIZONTAL);
+}
+
+} // namespace BatchServer

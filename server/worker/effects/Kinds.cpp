@@ -1,0 +1,108 @@
+#include "Kinds.h"
+
+#include "PixelFilter.h"
+
+#include <cmath>
+
+namespace BatchServer {
+
+namespace {
+
+bool HasProfile(const Picture& picture)
+{
+    return picture.get_typeof(VIPS_META_ICC_NAME) != 0;
+}
+
+Picture GreyAsRgb(const Picture& grey)
+{
+    const bool isDeep = HasSixteenBits(grey);
+    if (!HasProfile(grey)) {
+        const Picture repeated = Picture::bandjoin(std::vector<Picture>{grey, grey, grey});
+        return repeated.copy(
+            Picture::option()->set("interpretation", isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB));
+    }
+    return grey.icc_transform("srgb", Picture::option()
+                                          ->set("embedded", true)
+                                          ->set("intent", VIPS_INTENT_RELATIVE)
+                                          ->set("black_point_compensation", true)
+                                          ->set("depth", isDeep ? 16 : 8));
+}
+
+std::vector<double> InProfile(const Picture& picture, const QColor& colour)
+{
+    const std::vector<double> written{double(colour.red()), double(colour.green()), double(colour.blue())};
+    const Picture dot = Picture::black(1, 1, Picture::option()->set("bands", 3))
+                            .linear(std::vector<double>{1, 1, 1}, written)
+                            .cast(VIPS_FORMAT_UCHAR)
+                            .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+    const std::vector<double> converted = InProfileOf(picture, dot).getpoint(0, 0);
+    constexpr double visible = 2.0;
+    for (size_t band = 0; band < 3; ++band) {
+        if (std::abs(converted[band] - written[band]) > visible) {
+            return converted;
+        }
+    }
+    return written;
+}
+
+} // namespace
+
+Picture AsRgb(const Picture& picture)
+{
+    if (ColourBands(picture) == 3) {
+        return picture;
+    }
+    return picture.has_alpha() ? GreyAsRgb(WithoutAlpha(picture)).bandjoin(AlphaOf(picture)) : GreyAsRgb(picture);
+}
+
+Picture WithAlpha(const Picture& picture)
+{
+    return picture.has_alpha() ? picture : picture.bandjoin_const({LargestValue(picture)});
+}
+
+QColor ColourOf(const QString& text)
+{
+    // Qt puts alpha first, users put it last.
+    QColor colour(text.left(7));
+    if (text.size() > 7) {
+        colour.setAlpha(text.mid(7).toInt(nullptr, 16));
+    }
+    return colour;
+}
+
+Painted PaintedFor(const Picture& picture, const QColor& colour)
+{
+    const bool isGrey = colour.red() == colour.green() && colour.green() == colour.blue();
+    Painted painted{isGrey ? picture : AsRgb(picture), {}};
+    painted.ink = ColourBands(painted.picture) == 1 ? std::vector<double>{double(colour.red())}
+                                                    : InProfile(painted.picture, colour);
+    if (colour.alpha() < 255) {
+        painted.picture = WithAlpha(painted.picture);
+    }
+    if (painted.picture.has_alpha()) {
+        painted.ink.push_back(colour.alpha());
+    }
+    for (double& value : painted.ink) {
+        value = value / 255.0 * LargestValue(painted.picture);
+    }
+    return painted;
+}
+
+Picture InProfileOf(const Picture& picture, const Picture& pixels)
+{
+    if (!HasProfile(picture)) {
+        return pixels;
+    }
+    const Picture colours = pixels.has_alpha() ? WithoutAlpha(pixels) : pixels;
+    const Picture independent = colours.icc_import(
+        Picture::option()->set("input_profile", "srgb")->set("embedded", false)->set("pcs", VIPS_PCS_LAB));
+    const Picture labelled = independent.copy();
+    size_t size = 0;
+    const void* profile = picture.get_blob(VIPS_META_ICC_NAME, &size);
+    vips_image_set_blob_copy(labelled.get_image(), VIPS_META_ICC_NAME, profile, size);
+    const Picture converted = labelled.icc_export(
+        Picture::option()->set("intent", VIPS_INTENT_RELATIVE)->set("black_point_compensation", true)->set("depth", 8));
+    return pixels.has_alpha() ? converted.bandjoin(AlphaOf(pixels)) : converted;
+}
+
+} // namespace BatchServer

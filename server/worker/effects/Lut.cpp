@@ -1,0 +1,75 @@
+#include "AllEffects.h"
+
+#include "../Effects.h"
+#include "CubeColours.h"
+#include "Kinds.h"
+#include "PixelFilter.h"
+
+#include "effects/CubeFile.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QMutex>
+
+#include <memory>
+
+namespace BatchServer {
+
+namespace {
+
+using SharedTable = std::shared_ptr<const CubeTable>;
+
+// A run uses one table for all its pictures: the last one read is kept, as long as its file does not change.
+SharedTable TableAt(const QString& path)
+{
+    static QMutex mutex;
+    static QString lastPath;
+    static QDateTime lastTime;
+    static qint64 lastSize = 0;
+    static SharedTable last;
+
+    const QMutexLocker lock(&mutex);
+    const QFileInfo info(path);
+    if (!last || lastPath != path || lastTime != info.lastModified() || lastSize != info.size()) {
+        CubeFile file = ReadCubeFile(path);
+        if (!file.IsValid()) {
+            throw EffectError(file.error.toStdString());
+        }
+        last = std::make_shared<const CubeTable>(std::move(file.table));
+        lastPath = path;
+        lastTime = info.lastModified();
+        lastSize = info.size();
+    }
+    return last;
+}
+
+template<typename Interpolation>
+Picture MapByCube(const Picture& picture, const SharedTable& table, double strength, Interpolation interpolation)
+{
+    return MapColours(picture, [table, strength, interpolation](std::array<double, 3>& colour) {
+        const std::array<double, 3> mapped = interpolation(*table, colour);
+        for (size_t band = 0; band < 3; ++band) {
+            colour[band] += strength * (mapped[band] - colour[band]);
+        }
+    });
+}
+
+} // namespace
+
+Picture ApplyLut(const Picture& picture, const QJsonObject& parameters)
+{
+    const SharedTable table = TableAt(parameters[QLatin1String("file")].toString());
+    const double strength = parameters[QLatin1String("strength")].toDouble() / 100.0;
+    if (strength == 0.0) {
+        return picture;
+    }
+    const Picture rgb = AsRgb(picture);
+    if (table->dimensions == 1) {
+        return MapByCube(rgb, table, strength, CurvesAt);
+    }
+    const bool isTetrahedral = parameters[QLatin1String("interpolation")].toString() == QLatin1String("tetrahedral");
+    return isTetrahedral ? MapByCube(rgb, table, strength, TetrahedralAt)
+                         : MapByCube(rgb, table, strength, TrilinearAt);
+}
+
+} // namespace BatchServer

@@ -1,0 +1,14 @@
+#include "AllEffects.h"
+#include "PixelFilter.h"
+
+#include <cmath>
+
+namespace BatchServer {
+
+Picture ApplyPosterize(const Picture& picture, const QJsonObject& parameters)
+{
+    const double steps = parameters[QLatin1String("levels")].toInt() - 1;
+    return MapValues(picture, [steps](double value) { return std::floor(value * steps + 0.5) / steps; });
+}
+
+} // namespace BatchServer

@@ -1,0 +1,21 @@
+#include "AllEffects.h"
+#include "Luminance.h"
+#include "PixelFilter.h"
+
+namespace BatchServer {
+
+Picture ApplySaturation(const Picture& picture, const QJsonObject& parameters)
+{
+    const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;
+    if (amount == 0.0 || ColourBands(picture) == 1) {
+        return picture;
+    }
+    return MapColours(picture, [factor = 1.0 + amount](std::array<double, 3>& colour) {
+        const double luma = WeightedSum(colour);
+        for (double& value : colour) {
+            value = luma + factor * (value - luma);
+        }
+    });
+}
+
+} // namespace BatchServer

@@ -1,0 +1,25 @@
+#include "AllEffects.h"
+#include "Kinds.h"
+#include "PixelFilter.h"
+
+namespace BatchServer {
+
+// The matrix of sepia() in the W3C's Filter Effects Module Level 1.
+Picture ApplySepia(const Picture& picture, const QJsonObject& parameters)
+{
+    const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;
+    if (amount == 0.0) {
+        return picture;
+    }
+    return MapColours(AsRgb(picture), [amount](std::array<double, 3>& colour) {
+        const auto [red, green, blue] = colour;
+        const std::array<double, 3> toned{0.393 * red + 0.769 * green + 0.189 * blue,
+                                          0.349 * red + 0.686 * green + 0.168 * blue,
+                                          0.272 * red + 0.534 * green + 0.131 * blue};
+        for (size_t band = 0; band < 3; ++band) {
+            colour[band] += amount * (toned[band] - colour[band]);
+        }
+    });
+}
+
+} // namespace BatchServer

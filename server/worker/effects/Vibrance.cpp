@@ -1,0 +1,25 @@
+#include "AllEffects.h"
+#include "Luminance.h"
+#include "PixelFilter.h"
+
+#include <algorithm>
+
+namespace BatchServer {
+
+Picture ApplyVibrance(const Picture& picture, const QJsonObject& parameters)
+{
+    const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;
+    if (amount == 0.0 || ColourBands(picture) == 1) {
+        return picture;
+    }
+    return MapColours(picture, [amount](std::array<double, 3>& colour) {
+        const double luma = WeightedSum(colour);
+        const auto [least, most] = std::minmax_element(colour.begin(), colour.end());
+        const double factor = 1.0 + amount * (1.0 - (*most - *least));
+        for (double& value : colour) {
+            value = luma + factor * (value - luma);
+        }
+    });
+}
+
+} // namespace BatchServer

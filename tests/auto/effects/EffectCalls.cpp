@@ -1,0 +1,51 @@
+#include "EffectCalls.h"
+
+#include "EffectCatalog.h"
+#include "Effects.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <stdexcept>
+
+namespace EffectCalls {
+
+using namespace BatchServer;
+
+Picture Apply(const QString& id, const QByteArray& parameters, const Picture& picture)
+{
+    const EffectSchema* const schema = FindEffect(id);
+    if (!schema) {
+        throw std::runtime_error("no effect " + id.toStdString());
+    }
+    const CheckedParameters checked = CheckEffect(*schema, parameters);
+    if (!checked.IsValid()) {
+        throw std::runtime_error(checked.error.toStdString());
+    }
+    return ApplyEffect(id, checked.values, picture);
+}
+
+QString Refusal(const QString& id, const QByteArray& parameters)
+{
+    const EffectSchema* const schema = FindEffect(id);
+    return schema ? CheckEffect(*schema, parameters).error : QStringLiteral("no such effect");
+}
+
+QString Failure(const QString& id, const QByteArray& parameters, const Picture& picture)
+{
+    try {
+        ApplyEffect(id, QJsonDocument::fromJson(parameters).object(), picture);
+    } catch (const EffectError& error) {
+        return QString::fromUtf8(error.what());
+    }
+    return {};
+}
+
+QByteArray WithFile(const QString& path, const QByteArray& others)
+{
+    QJsonObject object = QJsonDocument::fromJson(others).object();
+    object.insert(QStringLiteral("file"), path);
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+} // namespace EffectCalls
