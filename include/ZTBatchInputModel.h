@@ -8,6 +8,7 @@
 #include <QList>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 
 /// What an input node is. Wherever the library reads a node's type, every value but Folder counts as a file.
@@ -61,6 +62,10 @@ public:
     /// children that are equal to it. A child of another node is taken out there first; no fileNodesCount is touched.
     /// Returns -1, and does nothing, for null.
     BATCHCORE_EXPORT int insertChild(TreeNode* child);
+
+    /// Nodes have memory of their own, where those that are made one after the other stand side by side.
+    BATCHCORE_EXPORT static void* operator new(std::size_t size);
+    BATCHCORE_EXPORT static void operator delete(void* memory, std::size_t size) noexcept;
 
     T data;                     ///< comes first: the address of a node is the address of its data
     TreeNode* parent = nullptr; ///< null for a root and for a node that belongs to nobody

@@ -1,6 +1,7 @@
 #include "ZTBatchInputModel.h"
 
 #include "ZTDiagnostics_p.h"
+#include "ZTSlabPool_p.h"
 
 namespace {
 
@@ -10,7 +11,51 @@ constexpr ZTDiagnostics diagnostics("include\\ZTBatchInputModel");
 /// moves by one with each insertion or removal before it, so that this comes once per so many changes at most.
 constexpr int nearbyRows = 64;
 
+#if defined(__SANITIZE_ADDRESS__)
+#define BATCHCORE_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define BATCHCORE_ADDRESS_SANITIZER
+#endif
+#endif
+
+/// A sanitizer must see each node alone, to find those that are used after their end.
+#ifdef BATCHCORE_ADDRESS_SANITIZER
+constexpr bool nodesShareSlabs = false;
+#else
+constexpr bool nodesShareSlabs = true;
+#endif
+
+/// Whether an object of `size` bytes comes from the pool. A host may derive from the node.
+constexpr bool IsPooled(std::size_t size)
+{
+    return nodesShareSlabs && size == sizeof(TreeNode<BatchNodeData>);
+}
+
+ZTSlabPool& NodePool()
+{
+    // Never destroyed: nodes that outlive everything else still find it.
+    static auto* const pool = new ZTSlabPool(sizeof(TreeNode<BatchNodeData>));
+    return *pool;
+}
+
 } // namespace
+
+template<typename T>
+void* TreeNode<T>::operator new(std::size_t size)
+{
+    return IsPooled(size) ? NodePool().Take() : ::operator new(size);
+}
+
+template<typename T>
+void TreeNode<T>::operator delete(void* memory, std::size_t size) noexcept
+{
+    if (IsPooled(size)) {
+        NodePool().GiveBack(memory);
+    } else {
+        ::operator delete(memory);
+    }
+}
 
 template<typename T>
 TreeNode<T>::TreeNode() = default;
