@@ -7,9 +7,12 @@
 #include <QAbstractItemModel>
 #include <QList>
 #include <QString>
+#include <QVector>
 
 #include <cstddef>
 #include <memory>
+
+class ZTBatchInputObserver;
 
 /// What an input node is. Wherever the library reads a node's type, every value but Folder counts as a file.
 enum BatchNodeType : int { Folder = 0, File = 1 };
@@ -162,11 +165,17 @@ Q_SIGNALS:
     /// InsertBranch() has put a folder at `index`; once for the branch, whatever folders are inside it.
     void FolderInserted(const QModelIndex& index);
 
+protected:
+    /// Hides the base's: what the library keeps in step with the rows must hear of a reset before modelReset() comes.
+    void endResetModel();
+
 private:
     Q_DISABLE_COPY(ZTBatchInputModel)
+    friend class ZVBatchInputRows;
 
     TreeNode<BatchNodeData>* nodeOf(const QModelIndex& index) const;
     TreeNode<BatchNodeData>* nodeOrRoot(const QModelIndex& index) const;
 
     const std::unique_ptr<TreeNode<BatchNodeData>> root;
+    QVector<ZTBatchInputObserver*> observers; ///< not owned; they sign off
 };

@@ -1,5 +1,6 @@
 #include "ZTBatchInputModel.h"
 
+#include "ZTBatchInputObserver_p.h"
 #include "ZTDiagnostics_p.h"
 
 #include <QDir>
@@ -187,6 +188,9 @@ bool ZTBatchInputModel::insertRows(int row, int count, const QModelIndex& parent
     for (int i = 0; i < count; ++i) {
         folder->children.at(position + i)->rowHint = position + i;
     }
+    for (ZTBatchInputObserver* const observer : qAsConst(observers)) {
+        observer->RowsInserted(*folder, position, count);
+    }
     endInsertRows();
     return true;
 }
@@ -210,6 +214,9 @@ bool ZTBatchInputModel::removeRows(int row, int count, const QModelIndex& parent
     beginRemoveRows(parent, first, ClampedToInt(first + removed - 1));
     // Only rows that exist can be destroyed, whatever was announced.
     const int end = static_cast<int>(qMin<qint64>(first + removed, folder->children.size()));
+    for (ZTBatchInputObserver* const observer : qAsConst(observers)) {
+        observer->RowsLeaving(*folder, first, end - first);
+    }
     SubtractFileNodes(folder, first, end);
     const QList<Node*> doomed = folder->children.mid(first, end - first);
     folder->children.erase(folder->children.begin() + first, folder->children.begin() + end);
@@ -245,6 +252,9 @@ QModelIndex ZTBatchInputModel::InsertBranch(TreeNode<BatchNodeData>* node, const
     beginInsertRows(parent, row, row);
     AddFileNodes(folder, node->data.fileNodesCount);
     const bool isFolder = node->data.type == Folder;
+    for (ZTBatchInputObserver* const observer : qAsConst(observers)) {
+        observer->RowsInserted(*folder, row, 1);
+    }
     endInsertRows();
 
     // A handler may have removed the folder or deleted the model.
@@ -286,6 +296,14 @@ void ZTBatchInputModel::setToolTip(const QModelIndex& index, const QString& text
     }
     record->toolTip = text;
     Q_EMIT dataChanged(index, index);
+}
+
+void ZTBatchInputModel::endResetModel()
+{
+    for (ZTBatchInputObserver* const observer : qAsConst(observers)) {
+        observer->ModelReset();
+    }
+    QAbstractItemModel::endResetModel();
 }
 
 TreeNode<BatchNodeData>* ZTBatchInputModel::nodeOf(const QModelIndex& index) const

@@ -17,12 +17,12 @@ ZVBatchInputTableModel::~ZVBatchInputTableModel() = default;
 
 int ZVBatchInputTableModel::rowCount(const QModelIndex&) const
 {
-    return d->rows.size();
+    return d->rows.Count();
 }
 
 int ZVBatchInputTableModel::columnCount(const QModelIndex&) const
 {
-    return TableRow::maxFileCount;
+    return ZVBatchInputRows::columnCount;
 }
 
 QVariant ZVBatchInputTableModel::data(const QModelIndex& index, int role) const
@@ -32,18 +32,17 @@ QVariant ZVBatchInputTableModel::data(const QModelIndex& index, int role) const
         return QVariant();
     }
     const QModelIndex sourceIndex = mapToSource(index);
-    return sourceIndex.isValid() ? d->source->data(sourceIndex, role) : QVariant();
+    return sourceIndex.isValid() ? d->rows.Source()->data(sourceIndex, role) : QVariant();
 }
 
 ZTBatchInputModel* ZVBatchInputTableModel::sourceModel() const
 {
-    return d->source;
+    return d->rows.Source();
 }
 
 bool ZVBatchInputTableModel::isFolderRow(int row) const
 {
-    const TableRow* const tableRow = d->RowAt(row);
-    return tableRow != nullptr && tableRow->kind == TableRow::FolderRow;
+    return d->rows.IsFolderRow(row);
 }
 
 bool ZVBatchInputTableModel::HasFolder() const
@@ -59,25 +58,14 @@ bool ZVBatchInputTableModel::isFolderExpanded(const QModelIndex& folder) const
 
 QModelIndex ZVBatchInputTableModel::mapToSource(const QModelIndex& index) const
 {
-    const TableRow* const tableRow = index.isValid() ? d->RowAt(index.row()) : nullptr;
-    if (tableRow == nullptr) {
-        return QModelIndex();
-    }
-    if (tableRow->kind == TableRow::FolderRow) {
-        // Wherever the user clicks in the row, the folder is meant.
-        return tableRow->folderIndex;
-    }
-    return index.column() < tableRow->fileCount ? tableRow->fileIndexes[index.column()] : QPersistentModelIndex();
+    // Wherever the user clicks in the row of a folder, the folder is meant.
+    return index.isValid() ? d->rows.IndexAt(index.row(), index.column()) : QModelIndex();
 }
 
 QModelIndex ZVBatchInputTableModel::mapFromSource(const QModelIndex& sourceIndex) const
 {
-    Private::Cell cell;
-    if (!sourceIndex.isValid()) {
-        cell = d->FindCellOfInvalid(sourceIndex);
-    } else if (sourceIndex.model() == d->source) {
-        cell = d->FindCell(sourceIndex);
-    }
+    // A cell whose node is gone has an invalid index, and those are all equal.
+    const ZVBatchInputRows::Cell cell = sourceIndex.isValid() ? d->rows.Find(sourceIndex) : d->rows.FindGone();
     return index(cell.row, cell.column);
 }
 
@@ -85,7 +73,7 @@ void ZVBatchInputTableModel::rebuild()
 {
     const QPointer<ZVBatchInputTableModel> self(this);
     beginResetModel();
-    d->BuildRows();
+    d->rows.Build(d->expandedFolders);
     endResetModel();
     if (self == nullptr || !d->selectionUpdatePending) {
         return;

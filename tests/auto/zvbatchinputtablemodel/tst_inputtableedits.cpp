@@ -127,7 +127,8 @@ private:
         const int count = source.rowCount(folder);
         if (count > 0) {
             const int first = Random(count);
-            source.removeRows(first, 1 + Random(qMin(3, count - first)), folder);
+            // Now and then more rows than there are.
+            source.removeRows(first, 1 + Random(qMin(3, count - first)) + (Random(8) == 0 ? 3 : 0), folder);
         }
     }
 

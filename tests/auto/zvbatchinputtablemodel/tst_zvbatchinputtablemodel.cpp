@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QDir>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -44,6 +45,11 @@ private Q_SLOTS:
     void mapFromSourceAfterChanges();
     void mapFromSourceOfInvalidIndex();
     void mapFromSourceOfForeignIndex();
+    void mapFromSourceOfDestroyedNode();
+    void manyNodesCostNoPersistentIndexes();
+    void resetIsKnownBeforeItIsTold();
+    void insertionsBelowZeroAreBorne();
+    void tablesComeAndGo();
 
     void updateSelection();
     void updateSelectionSignalComesAfterTheReset();
@@ -68,6 +74,8 @@ public:
     }
 
     int ReceiverCount(const char* signal) const { return receivers(signal); }
+
+    int PersistentIndexCount() const { return persistentIndexList().size(); }
 };
 
 /// Top level: folder "f" with folder "g" (file "g1") and the files "f1" to "f4"; folder "h" (file "h1"); files "t1",
@@ -602,6 +610,95 @@ void tst_ZVBatchInputTableModel::mapFromSourceOfForeignIndex()
     QVERIFY(!table.mapFromSource(other.index(0, 0)).isValid());
     QVERIFY(!table.mapFromSource(table.index(0, 0)).isValid());
     QVERIFY(!table.isFolderExpanded(other.index(0, 0)));
+}
+
+void tst_ZVBatchInputTableModel::mapFromSourceOfDestroyedNode()
+{
+    ZTBatchInputModel source;
+    Fill(source);
+    ZVBatchInputTableModel table(&source, nullptr);
+    table.toggleFolder(Find(source, QStringLiteral("f")));
+    const QModelIndexList old{Find(source, QStringLiteral("f")), Find(source, QStringLiteral("g")),
+                              Find(source, QStringLiteral("f1")), Find(source, QStringLiteral("t1"))};
+    source.removeRows(Find(source, QStringLiteral("t1")).row(), 1);
+    source.removeRows(Find(source, QStringLiteral("f")).row(), 1);
+    for (const QModelIndex& index : old) {
+        QVERIFY(!table.mapFromSource(index).isValid());
+    }
+    table.rebuild();
+    for (const QModelIndex& index : old) {
+        QVERIFY(!table.mapFromSource(index).isValid());
+    }
+}
+
+void tst_ZVBatchInputTableModel::manyNodesCostNoPersistentIndexes()
+{
+    // Qt asks all of them at every change of the source.
+    ResettableModel source;
+    Fill(source);
+    ZVBatchInputTableModel table(&source, nullptr);
+    table.toggleFolder(Find(source, QStringLiteral("f")));
+    table.toggleFolder(Find(source, QStringLiteral("h")));
+    QCOMPARE(table.mapFromSource(Find(source, QStringLiteral("f4"))), table.index(2, 0));
+    QCOMPARE(source.PersistentIndexCount(), 2);
+    table.toggleFolder(Find(source, QStringLiteral("h")));
+    QCOMPARE(source.PersistentIndexCount(), 1);
+}
+
+void tst_ZVBatchInputTableModel::resetIsKnownBeforeItIsTold()
+{
+    // Who listens to the source since before there was a table hears of the reset first.
+    ResettableModel source;
+    Fill(source);
+    QPointer<ZVBatchInputTableModel> table;
+    QStringList rows;
+    connect(&source, &QAbstractItemModel::modelReset, this, [&] { rows = Rows(*table); });
+    ZVBatchInputTableModel madeLater(&source, nullptr);
+    table = &madeLater;
+    table->toggleFolder(Find(source, QStringLiteral("f")));
+    source.Reset();
+    QCOMPARE(rows, Lines("/- - -|- - -|- - -|/- - -|/- - -|- - -"));
+    QCOMPARE(Rows(*table), Lines("/f - -|/g - -|/h - -|t1 t2 -"));
+}
+
+void tst_ZVBatchInputTableModel::insertionsBelowZeroAreBorne()
+{
+    // They are announced and change nothing, so that every cell behind shows the node of some rows before: also one of
+    // a folder, whose files stay what they are.
+    ZTBatchInputModel source;
+    Fill(source);
+    ZVBatchInputTableModel table(&source, nullptr);
+    table.toggleFolder(Find(source, QStringLiteral("h")));
+    QCOMPARE(Rows(table), Lines("/f - -|/g - -|/h - -|h1 - -|t1 t2 -"));
+    source.insertRows(1, -1);
+    QCOMPARE(Rows(table), Lines("/f - -|/g - -|/f - -|h1 - -|h t1 -"));
+    // Of two cells with one node the first answers.
+    QCOMPARE(table.mapFromSource(Find(source, QStringLiteral("f"))), table.index(0, 0));
+    QCOMPARE(table.mapFromSource(Find(source, QStringLiteral("h"))), table.index(4, 0));
+    QVERIFY(!table.mapFromSource(Find(source, QStringLiteral("t2"))).isValid());
+
+    // The files know their folder still.
+    source.removeRows(Find(source, QStringLiteral("h")).row(), 1);
+    QCOMPARE(Rows(table).at(3), QStringLiteral("- - -"));
+    source.removeRows(0, source.rowCount());
+    QCOMPARE(Rows(table), Lines("/- - -|/- - -|/- - -|- - -|- - -"));
+}
+
+void tst_ZVBatchInputTableModel::tablesComeAndGo()
+{
+    ZTBatchInputModel source;
+    Fill(source);
+    ZVBatchInputTableModel stays(&source, nullptr);
+    stays.rebuild();
+    {
+        ZVBatchInputTableModel goes(&source, nullptr);
+        goes.rebuild();
+        source.InsertBranch(NewFile(QStringLiteral("t0")), QModelIndex());
+        QCOMPARE(Rows(goes), Lines("/f - -|/g - -|/h - -|t1 t2 -"));
+    }
+    source.InsertBranch(NewFolder(QStringLiteral("a")), QModelIndex());
+    source.removeRows(Find(source, QStringLiteral("t1")).row(), 1);
+    QCOMPARE(Rows(stays), Lines("/f - -|/g - -|/h - -|- t2 -"));
 }
 
 void tst_ZVBatchInputTableModel::updateSelection()
