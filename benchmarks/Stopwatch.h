@@ -3,12 +3,21 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
+
+/// The time on the system's monotonic clock, which every process sees alike.
+inline std::int64_t Nanoseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
+}
 
 /// Time since it was made.
 class Stopwatch
@@ -23,6 +32,17 @@ private:
     std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
 };
 
+/// The greater of the two in the middle, if the number of values is even; 0 without values.
+inline double Median(std::vector<double> values)
+{
+    if (values.empty()) {
+        return 0;
+    }
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 /// The median of what `measure` returns in `repeats` calls.
 template<typename Measure>
 double Median(int repeats, Measure measure)
@@ -31,9 +51,7 @@ double Median(int repeats, Measure measure)
     for (int i = 0; i < repeats; ++i) {
         values.push_back(measure());
     }
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+    return Median(std::move(values));
 }
 
 /// How often to measure a case of `items` items: often where one run is so short that chance decides.

@@ -4,6 +4,7 @@
 
 #include "ManagerRun.h"
 #include "OwnFolder.h"
+#include "Stopwatch.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -11,7 +12,6 @@
 #include <QProcess>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <vector>
 
@@ -23,12 +23,6 @@ constexpr int rounds = 7;
 constexpr double goal = 200000; // messages per second
 
 const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
-
-qint64 Nanoseconds()
-{
-    using namespace std::chrono;
-    return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
-}
 
 /// Takes the values of the burst as they come.
 class Burst
@@ -122,12 +116,6 @@ double BareRate(int count)
     server.kill();
     server.waitForFinished();
     return burst.Rate(run.stage.Events());
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 void Measure(int count)

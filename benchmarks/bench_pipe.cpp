@@ -5,6 +5,7 @@
 // both processes share; a run lasts from the first of these to the arrival of the last message. All messages of a run
 // are handed over at once, as fast as the sender can.
 
+#include "Stopwatch.h"
 #include "ZTPipeSession.h"
 
 #include <QCoreApplication>
@@ -15,8 +16,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -36,13 +35,6 @@ constexpr int rounds = 5;
 constexpr int latencyMessages = 500;
 constexpr int latencyInterval = 7; // ms: out of step with the 10 ms of the polling
 constexpr int largeSize = 256 * 1024 * 1024;
-
-/// On the system's monotonic clock, which every process sees alike.
-qint64 Nanoseconds()
-{
-    using namespace std::chrono;
-    return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
-}
 
 /// A payload of its own for each message, as every user makes one.
 QByteArray Stamped(const QByteArray& pattern)
@@ -79,12 +71,6 @@ qint64 PeakMemory()
 #else
     return 0;
 #endif
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0 : values[values.size() / 2];
 }
 
 // The child process ---------------------------------------------------------------------------------------------------

@@ -79,6 +79,7 @@ private:
     friend class ZTBatchInputModel;
 
     int childRow(const TreeNode* child) const;
+    void refreshRowHints(int first, int last) const;
     int sortedRow(const TreeNode& child) const;
     int rowBehindEqual(int row, const TreeNode& child) const;
     void insertChildAt(int row, TreeNode* child);

@@ -1,15 +1,12 @@
 #include "ZTBatchInputModel.h"
 
 #include "ZTDiagnostics_p.h"
+#include "ZTPrefetch_p.h"
 #include "ZTSlabPool_p.h"
 
 namespace {
 
 constexpr ZTDiagnostics diagnostics("include\\ZTBatchInputModel");
-
-/// How far from its remembered row a node is searched for before its siblings are searched from the front. A sibling
-/// moves by one with each insertion or removal before it, so that this comes once per so many changes at most.
-constexpr int nearbyRows = 64;
 
 #if defined(__SANITIZE_ADDRESS__)
 #define BATCHCORE_ADDRESS_SANITIZER
@@ -30,6 +27,23 @@ constexpr bool nodesShareSlabs = true;
 constexpr bool IsPooled(std::size_t size)
 {
     return nodesShareSlabs && size == sizeof(TreeNode<BatchNodeData>);
+}
+
+/// The steps of a binary search wait for one piece of memory after the other, for a node and then for its text. This
+/// asks for those that the next step may compare, and for the nodes of the step after it, while one step is at work.
+template<typename Node>
+void PrefetchSearch(const QList<Node*>& children, int low, int middle, int high)
+{
+    for (const int next : {(low + middle) / 2, (middle + 1 + high) / 2}) {
+        if (Node* const node = children.at(next)) {
+            Prefetch(node->data.inputText.data_ptr());
+        }
+    }
+    const int left = (low + middle) / 2;
+    const int right = (middle + 1 + high) / 2;
+    for (const int next : {(low + left) / 2, (left + 1 + middle) / 2, (middle + 1 + right) / 2, (right + 1 + high) / 2}) {
+        Prefetch(children.at(next));
+    }
 }
 
 ZTSlabPool& NodePool()
@@ -104,29 +118,35 @@ int TreeNode<T>::insertChild(TreeNode* child)
 template<typename T>
 int TreeNode<T>::childRow(const TreeNode* child) const
 {
-    const int hint = child->rowHint;
     const int count = children.size();
-    for (int distance = 0; distance <= nearbyRows; ++distance) {
+    const int hint = qBound(0, child->rowHint, count - 1);
+    if (count > 0 && children.at(hint) == child) {
+        return hint;
+    }
+    const int farthest = qMax(hint, count - 1 - hint);
+    for (int distance = 1; distance <= farthest; ++distance) {
         for (const int row : {hint - distance, hint + distance}) {
             if (row >= 0 && row < count && children.at(row) == child) {
-                children.at(row)->rowHint = row;
+                // Its neighbours most likely moved as far. As many are put right as were passed, so that the work stays
+                // in proportion to the search, and a walk in any direction finds the next ones at once.
+                refreshRowHints(row - distance, row + distance);
                 return row;
             }
         }
     }
+    return -1;
+}
 
-    const int found = children.indexOf(const_cast<TreeNode*>(child));
-    if (found >= 0) {
-        // The others are remembered wrongly, too. As many are put right as were passed, and as many again: the work
-        // stays in proportion to the search, and a walk from either end needs no more than a few searches.
-        const int end = count - found > found + nearbyRows ? 2 * found + nearbyRows : count;
-        for (int row = 0; row < end; ++row) {
-            if (children.at(row) != nullptr) {
-                children.at(row)->rowHint = row;
-            }
+/// Notes where the children in the rows from `first` to `last` stand, as far as there are such rows.
+template<typename T>
+void TreeNode<T>::refreshRowHints(int first, int last) const
+{
+    const int end = qMin(last + 1, children.size());
+    for (int row = qMax(first, 0); row < end; ++row) {
+        if (children.at(row) != nullptr) {
+            children.at(row)->rowHint = row;
         }
     }
-    return found;
 }
 
 /// The row at which `child` is to be inserted.
@@ -147,6 +167,7 @@ int TreeNode<T>::sortedRow(const TreeNode& child) const
     int high = count - 1;
     while (low != high) {
         const int middle = (low + high) / 2;
+        PrefetchSearch(children, low, middle, high);
         const TreeNode* const sibling = children.at(middle);
         diagnostics.Assert(sibling != nullptr, 193);
         if (sibling->data < child.data) {
