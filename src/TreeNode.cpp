@@ -1,7 +1,6 @@
 #include "ZTBatchInputModel.h"
 
 #include "ZTDiagnostics_p.h"
-#include "ZTPrefetch_p.h"
 #include "ZTSlabPool_p.h"
 
 namespace {
@@ -27,23 +26,6 @@ constexpr bool nodesShareSlabs = true;
 constexpr bool IsPooled(std::size_t size)
 {
     return nodesShareSlabs && size == sizeof(TreeNode<BatchNodeData>);
-}
-
-/// The steps of a binary search wait for one piece of memory after the other, for a node and then for its text. This
-/// asks for those that the next step may compare, and for the nodes of the step after it, while one step is at work.
-template<typename Node>
-void PrefetchSearch(const QList<Node*>& children, int low, int middle, int high)
-{
-    for (const int next : {(low + middle) / 2, (middle + 1 + high) / 2}) {
-        if (Node* const node = children.at(next)) {
-            Prefetch(node->data.inputText.data_ptr());
-        }
-    }
-    const int left = (low + middle) / 2;
-    const int right = (middle + 1 + high) / 2;
-    for (const int next : {(low + left) / 2, (left + 1 + middle) / 2, (middle + 1 + right) / 2, (right + 1 + high) / 2}) {
-        Prefetch(children.at(next));
-    }
 }
 
 ZTSlabPool& NodePool()
@@ -167,7 +149,6 @@ int TreeNode<T>::sortedRow(const TreeNode& child) const
     int high = count - 1;
     while (low != high) {
         const int middle = (low + high) / 2;
-        PrefetchSearch(children, low, middle, high);
         const TreeNode* const sibling = children.at(middle);
         diagnostics.Assert(sibling != nullptr, 193);
         if (sibling->data < child.data) {

@@ -12,8 +12,8 @@ inline void Prefetch(const void* address)
 #endif
 }
 
-/// Calls `visit(row, object)` for each row of `list`, which must not change meanwhile. The objects, which stand anywhere
-/// in memory, are asked for some rows ahead, so that the memory works on several of them at once.
+/// Calls `visit(row, object)` for each row of `list`, which must not change meanwhile. The objects, which stand
+/// anywhere in memory, are asked for some rows ahead, so that the memory works on several of them at once.
 template<typename T, typename Visit>
 void ForEachPrefetched(const QList<T*>& list, Visit visit)
 {

@@ -12,8 +12,8 @@
 /// The rows of a table as Build() made them. Until the next time they keep to their nodes, as if each cell held a
 /// persistent index of the source: it follows a node whose place changes and is invalid when the node is gone.
 ///
-/// Persistent indexes themselves would do, but Qt asks each of them at every change of the source, a million of them for
-/// a million files.
+/// Persistent indexes themselves would do, but Qt asks each of them at every change of the source, a million of them
+/// for a million files.
 class ZVBatchInputRows final : private ZTBatchInputObserver
 {
 public:

@@ -7,9 +7,13 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 #include <memory>
+#include <numeric>
+#include <random>
+#include <vector>
 
 class tst_ZTBatchInputModel : public QObject
 {
@@ -52,6 +56,8 @@ private Q_SLOTS:
 
     void indexFromNode();
     void indexFromNodeAfterManyChanges();
+    void indexFromNodeAfterShift_data();
+    void indexFromNodeAfterShift();
     void getNodeDataGivesTheRecordItself();
     void heic_data();
     void heic();
@@ -725,6 +731,43 @@ void tst_ZTBatchInputModel::indexFromNode()
     QVERIFY(!model.indexFromNode(inside).isValid());
     inside->parent->children.append(inside);
     QCOMPARE(model.indexFromNode(inside).row(), 2);
+}
+
+void tst_ZTBatchInputModel::indexFromNodeAfterShift_data()
+{
+    QTest::addColumn<int>("shift");
+    QTest::addColumn<QString>("order");
+
+    for (const int shift : {1, 2, 63, 500, 999, -1, -250, -900}) {
+        for (const char* const order : {"forward", "backward", "shuffled"}) {
+            QTest::addRow("by %d, %s", shift, order) << shift << QString::fromLatin1(order);
+        }
+    }
+}
+
+void tst_ZTBatchInputModel::indexFromNodeAfterShift()
+{
+    QFETCH(int, shift);
+    QFETCH(QString, order);
+
+    ZTBatchInputModel model;
+    AppendFiles(model, 1000);
+    if (shift > 0) {
+        model.insertRows(0, shift);
+    } else {
+        model.removeRows(0, -shift);
+    }
+    std::vector<int> rows(static_cast<std::size_t>(model.rowCount()));
+    std::iota(rows.begin(), rows.end(), 0);
+    if (order == QLatin1String("backward")) {
+        std::reverse(rows.begin(), rows.end());
+    } else if (order == QLatin1String("shuffled")) {
+        std::shuffle(rows.begin(), rows.end(), std::mt19937(1));
+    }
+    for (const int row : rows) {
+        const QModelIndex index = model.index(row, 0);
+        QCOMPARE(model.indexFromNode(NodeOf(index)), index);
+    }
 }
 
 void tst_ZTBatchInputModel::indexFromNodeAfterManyChanges()

@@ -181,8 +181,8 @@ void tst_ZTSlabPool::randomUse()
         } else {
             std::swap(objects[random() % objects.size()], objects.back());
             const auto* const bytes = static_cast<const unsigned char*>(objects.back().slot);
-            const bool isIntact = std::all_of(bytes, bytes + objectSize,
-                                              [&](unsigned char byte) { return byte == objects.back().mark; });
+            const bool isIntact =
+                std::all_of(bytes, bytes + objectSize, [&](unsigned char byte) { return byte == objects.back().mark; });
             QVERIFY(isIntact);
             pool.GiveBack(objects.back().slot);
             objects.pop_back();
