@@ -52,6 +52,7 @@ private:
     Geometry PlannedGeometry(const QSize& upright);
     Picture Sized();
     Picture Processed(Picture picture) const;
+    Picture Framed(const Picture& picture);
     Picture InOutputColours(const Picture& picture);
     void CheckFormat(const Picture& picture) const;
     void Write(const Picture& picture);
@@ -72,7 +73,7 @@ private:
 MadePicture PictureRun::Make()
 {
     try {
-        const Picture ready = InOutputColours(Processed(Sized()));
+        const Picture ready = InOutputColours(Framed(Processed(Sized())));
         CheckFormat(ready);
         made.file = std::make_unique<TemporaryFile>(task.outputFile);
         if (!made.file->Create()) {
@@ -150,6 +151,18 @@ Picture PictureRun::Processed(Picture picture) const
         }
     }
     return picture;
+}
+
+Picture PictureRun::Framed(const Picture& picture)
+{
+    if (!job.framing.state) {
+        return picture;
+    }
+    try {
+        return FramePicture(picture, job.framing, job.limits, made.warnings);
+    } catch (const FramingError& problem) {
+        throw ProcessingFailed(QString::fromUtf8(problem.what()));
+    }
 }
 
 Picture PictureRun::InOutputColours(const Picture& picture)

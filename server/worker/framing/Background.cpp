@@ -1,0 +1,151 @@
+#include "Background.h"
+
+#include "Colour.h"
+#include "Framing.h"
+#include "GeneratedPicture.h"
+#include "Geometry.h"
+#include "Orientation.h"
+#include "Patterns.h"
+#include "PictureColours.h"
+#include "PictureFailure.h"
+#include "PictureSource.h"
+#include "PixelForms.h"
+#include "Resampling.h"
+#include "VipsText.h"
+
+#include "BatchValues.h"
+
+#include <cmath>
+#include <vector>
+
+namespace BatchServer {
+
+namespace {
+
+using BatchValues::BackgroundType;
+
+// One pixel as large as the frame.
+Picture Filled(const std::vector<double>& values, const QSize& size, const Picture& like)
+{
+    return (Picture::black(1, 1) + values)
+        .cast(like.format())
+        .copy(Picture::option()->set("interpretation", like.interpretation()))
+        .embed(0, 0, size.width(), size.height(), Picture::option()->set("extend", VIPS_EXTEND_COPY));
+}
+
+// How light a pixel of a tile is: the mean of several places in it.
+double PatternPixel(Pattern pattern, int x, int y, double side)
+{
+    constexpr int places = 4;
+    double sum = 0;
+    for (int place = 0; place < places * places; ++place) {
+        sum += PatternValue(pattern, (x + (place % places + 0.5) / places) / side,
+                            (y + (place / places + 0.5) / places) / side);
+    }
+    return sum / (places * places);
+}
+
+// One tile, or the part of it that a frame of `size` shows, in floats from 0 to 1.
+Picture PatternTile(Pattern pattern, int side, const QSize& size)
+{
+    const QSize shown = size.boundedTo(QSize(side, side));
+    const PictureShape shape{shown.width(), shown.height(), 1, VIPS_FORMAT_FLOAT, VIPS_INTERPRETATION_MULTIBAND};
+    return GeneratePicture(shape, {}, [pattern, side](VipsRegion* target, const std::vector<VipsRegion*>&) {
+        const VipsRect& area = target->valid;
+        for (int y = area.top; y < area.top + area.height; ++y) {
+            auto* line = PixelAt<float>(target, area.left, y);
+            for (int x = 0; x < area.width; ++x) {
+                line[x] = static_cast<float>(PatternPixel(pattern, area.left + x, y, side));
+            }
+        }
+    });
+}
+
+// Equal values of red, green and blue are neutral in every space that pictures come in, so nothing is converted.
+Picture PatternPicture(const ZTBatchOutputSettings::Transformation& framing, const QSize& size, const Picture& like)
+{
+    const int side = PatternTileSide(framing.backgroundPattern[1]);
+    const Picture tile = PatternTile(Pattern(framing.backgroundPattern[0]), side, size)
+                             .linear(FullValue(like), 0.5)
+                             .cast(like.format())
+                             .copy(Picture::option()->set("interpretation", like.interpretation()))
+                             .copy_memory();
+    const Picture grey = tile.replicate((size.width() + side - 1) / side, (size.height() + side - 1) / side)
+                             .crop(0, 0, size.width(), size.height());
+    return IsGrey(like) ? grey : Picture::bandjoin({grey, grey, grey});
+}
+
+Picture BackgroundColours(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
+                          const QSize& size, const Picture& like, QStringList& warnings)
+{
+    switch (BackgroundType(framing.backgroundType)) {
+    case BackgroundType::None:
+        break;
+    case BackgroundType::Colour:
+        return Filled(ColourInSpaceOf(like, framing.backgroundColor, warnings), size, like);
+    case BackgroundType::Pattern:
+        return PatternPicture(framing, size, like);
+    case BackgroundType::Image:
+        return InSpaceOf(like, *file, warnings);
+    }
+    return Filled(std::vector<double>(IsGrey(like) ? 1 : 3, 0.0), size, like);
+}
+
+Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits& limits, QStringList& warnings)
+{
+    PictureSource source(file, limits);
+    const int orientation = source.Orientation();
+    const QSize upright = TurnedSize(source.StoredSize(), orientation);
+    ZTBatchOutputSettings::Crop crop;
+    crop.type = int(BatchValues::CropType::Fill);
+    crop.size = size;
+    const Geometry geometry = PlanGeometry(upright, crop, ZTBatchOutputSettings::ImageSize());
+    const double reduction = double(upright.width()) / geometry.scaledSize.width();
+    const Picture loaded = InWorkingColours(source.Load(source.PossibleShrink(reduction)), false, warnings);
+    const Picture covering = Resampled(loaded, source.StoredSize(), StoredGeometry(geometry, upright, orientation));
+    return InPlainSrgb(TurnedUpright(WithRandomAccess(covering), orientation), warnings);
+}
+
+FramingError Unreadable(const QString& file, const QString& reason)
+{
+    const QString text = QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason);
+    return FramingError(text.toStdString());
+}
+
+} // namespace
+
+std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
+                                          const ServerLimits& limits, QStringList& warnings)
+{
+    if (framing.backgroundType != int(BackgroundType::Image)) {
+        return std::nullopt;
+    }
+    try {
+        return CoveringFile(framing.backgroundImage, size, limits, warnings).copy_memory();
+    } catch (const PictureFailure& failure) {
+        throw Unreadable(framing.backgroundImage, failure.reason);
+    } catch (const vips::VError& error) {
+        throw Unreadable(framing.backgroundImage, TextOf(error));
+    }
+}
+
+Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
+                       const QSize& size, const Picture& like, QStringList& warnings)
+{
+    const Picture background = BackgroundColours(framing, file, size, like, warnings);
+    const bool isNone = framing.backgroundType == int(BackgroundType::None);
+    const double opacity = isNone ? 0 : framing.backgroundOpacity;
+    if (background.has_alpha()) {
+        const Picture alpha = AlphaOf(background).linear(opacity, 0.5).cast(background.format());
+        return WithoutAlpha(background).bandjoin(alpha);
+    }
+    return background.bandjoin(std::round(opacity * FullValue(like)));
+}
+
+bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file)
+{
+    return framing.backgroundType != int(BackgroundType::None) && framing.backgroundOpacity >= 1 &&
+           !(file && file->has_alpha());
+}
+
+} // namespace BatchServer

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Picture.h"
+#include "ServerLimits.h"
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QSize>
+#include <QStringList>
+
+#include <optional>
+
+namespace BatchServer {
+
+/// The background file of `framing`, upright and scaled to cover a frame of `size`, the middle of it being cut out;
+/// sRGB or grey, held in memory. Nothing when the background is no file. Throws FramingError, with the file's name,
+/// when it cannot be read whole, or is beyond `limits`.
+std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
+                                          const ServerLimits& limits, QStringList& warnings);
+
+/// The background of a frame of `size`, its opacity applied: in the kind, depth and profile of `like`, with an alpha
+/// channel. `file` is what ReadBackgroundFile() gave.
+Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
+                       const QSize& size, const Picture& like, QStringList& warnings);
+
+/// Whether nothing can be seen through the background.
+bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file);
+
+} // namespace BatchServer

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Picture.h"
+
+#include <QPointF>
+#include <QSize>
+
+#include <array>
+
+namespace BatchServer {
+
+/// The area of the pixel whose upper left corner is (x, y) that lies within a rectangle, 0 to 1, exact for rectangles
+/// at any angle.
+class Coverage
+{
+public:
+    /// `corners` are those of a rectangle, in their order around it.
+    explicit Coverage(const std::array<QPointF, 4>& corners);
+
+    double OfPixel(int x, int y) const;
+
+    /// One band of floats, the coverage of each pixel of a frame of `size`.
+    Picture OfFrame(const QSize& size) const;
+
+private:
+    /// A line with the rectangle on its positive side.
+    struct Edge
+    {
+        double normalX;
+        double normalY;
+        double offset;
+
+        double Distance(double x, double y) const { return normalX * x + normalY * y + offset; }
+    };
+
+    double ClippedArea(int x, int y) const;
+
+    std::array<Edge, 4> edges;
+};
+
+} // namespace BatchServer

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QPointF>
+#include <QRect>
+#include <QSize>
+#include <QTransform>
+
+#include <array>
+
+namespace BatchServer {
+
+/// Where a picture stands in its frame. Coordinates are pixels from the frame's upper left corner; whole numbers are
+/// the borders between pixels.
+///
+/// The picture is first thought fitted into the frame: as large as it fits with its ratio kept, in the middle. In a
+/// frame of the picture's own size that is the picture itself. What the margins leave free of the frame is then told
+/// to ZTBatchOutputSettings::CalculateOutputTransformation() as margins of the fitted picture, and its result is the
+/// placement. In a frame of another ratio these margins can be negative, so that the picture may grow into the room
+/// beside the fitted one.
+///
+/// Margins that leave nothing free have no effect: the picture is laid fitted into the frame, and not turned.
+///
+/// A picture that is turned by a multiple of 90 degrees has whole pixels for its size and stands on whole pixels, so
+/// that its edges are sharp: sizes are rounded by CalculateOutputTransformation(), the upper left corner to the nearest
+/// pixel, halves towards the lower right. At any other angle the placement is exact.
+struct FramePlacement
+{
+    FramePlacement(const QSize& picture, const ZTBatchOutputSettings::Transformation& framing);
+
+    QSize frame;
+    bool hasRoom = true;            ///< whether the margins leave something free
+    QSize drawn;                    ///< the size that the picture is scaled to before it is turned
+    int quarterTurns = 0;           ///< clockwise, 0 to 3; -1 at other angles
+    QRect upright;                  ///< where the turned picture stands; invalid when quarterTurns is -1
+    QTransform toFrame;             ///< from the coordinates of the scaled picture to those of the frame
+    std::array<QPointF, 4> corners; ///< of the picture in the frame, clockwise from its own upper left one
+
+    /// Whether the picture hides every pixel of the frame.
+    bool CoversFrame() const { return upright.contains(QRect(QPoint(0, 0), frame)); }
+};
+
+} // namespace BatchServer
