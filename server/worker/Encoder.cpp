@@ -9,6 +9,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace BatchServer {
 
@@ -90,11 +93,17 @@ void SetWebpOptions(Options* set, const QJsonObject& options, const Picture&)
         ->set("effort", Effort(options, 0, 6));
 }
 
+int DeepHeifBits(const QJsonObject& options)
+{
+    constexpr int most = 12;
+    return options[QLatin1String("bitDepth")].toInt(most);
+}
+
 void SetHeifOptions(Options* set, const QJsonObject& options, const Picture& picture)
 {
     set->set("Q", Integer(options, "quality"))
         ->set("lossless", Truth(options, "lossless"))
-        ->set("bitdepth", HasSixteenBits(picture) ? options[QLatin1String("bitDepth")].toInt(12) : 8)
+        ->set("bitdepth", HasSixteenBits(picture) ? DeepHeifBits(options) : 8)
         ->set("subsample_mode", Subsampling(options))
         ->set("compression", VIPS_FOREIGN_HEIF_COMPRESSION_HEVC);
 }
@@ -148,16 +157,26 @@ const Saver& SaverOf(const FormatSchema& format)
     return *found;
 }
 
+int DepthFor(const FormatSchema& format, const QJsonObject& options, bool isDeepPicture)
+{
+    const bool isPackedAsJpeg = Choice(options, "compression") == QLatin1String("jpeg");
+    if (format.bitDepths.last() == 8 || isPackedAsJpeg) {
+        return 8;
+    }
+    const QJsonValue wanted = options[QLatin1String("bitDepth")];
+    const bool isDeep = wanted.isDouble() ? wanted.toInt() > 8 : isDeepPicture;
+    return isDeep ? 16 : 8;
+}
+
 // A library that is there may still lack the codec behind it; writing a few pixels tells.
-bool TryToWrite(const FormatSchema& format)
+bool TryToWrite(const FormatSchema& format, const QJsonObject& options, bool isDeep)
 {
     try {
-        const QJsonObject options = OptionsFor(format, {});
-        const Picture black = Picture::black(16, 16, Picture::option()->set("bands", 3))
+        const Picture black = Picture::black(64, 64, Picture::option()->set("bands", 3))
                                   .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
-        vips::VTarget target = vips::VTarget::new_to_memory();
-        Options* set = Picture::option()->set("in", black)->set("target", target);
-        SaverOf(format).setOptions(set, options, black);
+        const Picture ready = WithDepth(black, isDeep ? 16 : 8);
+        Options* set = Picture::option()->set("in", ready)->set("target", vips::VTarget::new_to_memory());
+        SaverOf(format).setOptions(set, options, ready);
         Picture::call(SaverOf(format).operation, set);
         return true;
     } catch (const vips::VError&) {
@@ -166,26 +185,35 @@ bool TryToWrite(const FormatSchema& format)
     }
 }
 
-int DepthFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture)
+// The same in a process of its own, for encoders that are known to fall over instead of failing.
+bool TryToWriteElsewhere(const FormatSchema& format, const QJsonObject& options, bool isDeep)
 {
-    const bool isPackedAsJpeg = Choice(options, "compression") == QLatin1String("jpeg");
-    if (format.bitDepths.last() == 8 || isPackedAsJpeg) {
-        return 8;
+    constexpr int longest = 20; // seconds
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(longest);
+        close(STDERR_FILENO);
+        _exit(TryToWrite(format, options, isDeep) ? EXIT_SUCCESS : EXIT_FAILURE);
     }
-    const QJsonValue wanted = options[QLatin1String("bitDepth")];
-    const bool isDeep = wanted.isDouble() ? wanted.toInt() > 8 : HasSixteenBits(picture);
-    return isDeep ? 16 : 8;
+    int status = 0;
+    const bool hasEnded = child > 0 && waitpid(child, &status, 0) == child;
+    return hasEnded && WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
 } // namespace
 
-bool CanWrite(const FormatSchema& format)
+bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDeep)
 {
-    static QHash<QString, bool> known;
-    if (!known.contains(format.name)) {
-        known.insert(format.name, TryToWrite(format));
+    const bool isHeif = SaverOf(format).operation == QByteArray("heifsave_target");
+    const bool isDeepHeif = isHeif && DepthFor(format, options, isDeep) > 8;
+    const int depth = isDeepHeif ? DeepHeifBits(options) : 8;
+    static QHash<QPair<QString, int>, bool> known;
+    const QPair<QString, int> key(format.name, depth);
+    if (!known.contains(key)) {
+        known.insert(key, isDeepHeif ? TryToWriteElsewhere(format, options, true)
+                                     : TryToWrite(format, OptionsFor(format, {}), false));
     }
-    return known.value(format.name);
+    return known.value(key);
 }
 
 QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, const QSize& size)
@@ -208,7 +236,7 @@ Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const P
         constexpr int opaqueColour = 7; // "#rrggbb"; what lies under everything has no use for an alpha
         ready = Flattened(ready, QColor(Choice(options, "background").left(opaqueColour)));
     }
-    return WithDepth(ready, DepthFor(format, options, ready));
+    return WithDepth(ready, DepthFor(format, options, HasSixteenBits(ready)));
 }
 
 void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,

@@ -10,8 +10,9 @@
 
 namespace BatchServer {
 
-/// Whether this installation can write `format`: the imaging library may lack an encoder.
-bool CanWrite(const FormatSchema& format);
+/// Whether this installation can write `format` with `options`, which are complete, for pictures of more than 8 bits a
+/// channel if `isDeep`: the imaging library may lack an encoder, and some versions of encoders fail at some depths.
+bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDeep);
 
 /// The format that surely holds a picture: TIFF for camera RAW (`sourceFormat` is "RAW"), for more than 8 bits a
 /// channel and for sides that the others do not hold; PNG with transparency; else JPEG.

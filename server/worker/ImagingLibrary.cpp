@@ -23,6 +23,9 @@ void NoteWarning(const char* message)
     constexpr int most = 5;
     const std::lock_guard<std::mutex> lock(warningsMutex);
     const QString text = QString::fromLocal8Bit(message);
+    if (text.contains(QLatin1String("ignoring nclx profile"))) {
+        return; // said of every file that has an ICC profile too, which is used
+    }
     if (warnings.size() < most && !warnings.contains(text)) {
         warnings.append(text);
     }

@@ -188,8 +188,9 @@ void PictureRun::CheckFormat(const Picture& picture) const
 {
     const QSize size(picture.width(), picture.height());
     const QString nearest = NearestFormat(source.Format(), HasSixteenBits(picture), picture.has_alpha(), size);
-    if (!CanWrite(format)) {
-        throw FormatCannotHold(QStringLiteral("this installation has no encoder for %1").arg(format.name), nearest);
+    if (!CanWrite(format, options, HasSixteenBits(picture))) {
+        throw FormatCannotHold(
+            QStringLiteral("this installation has no encoder for %1, or not for this depth").arg(format.name), nearest);
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(
