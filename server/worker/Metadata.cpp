@@ -15,6 +15,7 @@ struct Metadata::Private
     Exiv2::ExifData exif;
     Exiv2::IptcData iptc;
     Exiv2::XmpData xmp;
+    QByteArray profile;
 };
 
 namespace {
@@ -44,6 +45,25 @@ QByteArray Block(const Picture& header, const char* name)
     std::size_t size = 0;
     const void* bytes = header.get_blob(name, &size);
     return {static_cast<const char*>(bytes), int(size)};
+}
+
+// The library takes XMP in HEIF files for something else when it stands in a wrapper.
+QByteArray XmpBlock(const Picture& header)
+{
+    const QByteArray known = Block(header, VIPS_META_XMP_NAME);
+    if (!known.isEmpty()) {
+        return known;
+    }
+    const std::unique_ptr<gchar*, decltype(&g_strfreev)> fields(vips_image_get_fields(header.get_image()), g_strfreev);
+    for (gchar** field = fields.get(); *field; ++field) {
+        if (QByteArray(*field).startsWith("heif-mime")) {
+            const QByteArray block = Block(header, *field);
+            if (block.startsWith("<?xpacket")) {
+                return block;
+            }
+        }
+    }
+    return {};
 }
 
 bool IsAmong(int tag, std::initializer_list<std::pair<int, int>> ranges)
@@ -138,6 +158,10 @@ Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringL
             metadata.d->exif = image->exifData();
             metadata.d->iptc = image->iptcData();
             metadata.d->xmp = image->xmpData();
+            if (source.Format() == QLatin1String("JPEG 2000") && image->iccProfileDefined()) {
+                const Exiv2::DataBuf& profile = *image->iccProfile();
+                metadata.d->profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
+            }
             return metadata;
         }
         QByteArray exif = Block(source.Header(), VIPS_META_EXIF_NAME);
@@ -146,7 +170,7 @@ Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringL
         if (!exif.isEmpty()) {
             Exiv2::ExifParser::decode(metadata.d->exif, Data(exif), std::uint32_t(exif.size()));
         }
-        const QByteArray xmp = Block(source.Header(), VIPS_META_XMP_NAME);
+        const QByteArray xmp = XmpBlock(source.Header());
         if (!xmp.isEmpty()) {
             Exiv2::XmpParser::decode(metadata.d->xmp, xmp.toStdString());
         }
@@ -155,6 +179,11 @@ Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringL
             QStringLiteral("metadata cannot be read and are left out: %1").arg(QString::fromUtf8(problem.what())));
     }
     return metadata;
+}
+
+QByteArray Metadata::Profile() const
+{
+    return d->profile;
 }
 
 QDateTime Metadata::Captured() const
@@ -202,8 +231,8 @@ void Metadata::DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb)
     constexpr std::uint16_t srgb = 1;
     constexpr std::uint16_t otherColours = 0xffff;
     d->exif["Exif.Image.Orientation"] = std::uint16_t(1);
-    d->exif["Exif.Image.XResolution"] = Exiv2::Rational(dotsPerInch, 1);
-    d->exif["Exif.Image.YResolution"] = Exiv2::Rational(dotsPerInch, 1);
+    d->exif["Exif.Image.XResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
+    d->exif["Exif.Image.YResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
     d->exif["Exif.Image.ResolutionUnit"] = inches;
     d->exif["Exif.Photo.PixelXDimension"] = std::uint32_t(size.width());
     d->exif["Exif.Photo.PixelYDimension"] = std::uint32_t(size.height());
@@ -249,14 +278,15 @@ QByteArray Metadata::Iptc() const
     return {reinterpret_cast<const char*>(encoded.pData_), int(encoded.size_)};
 }
 
-QByteArray Metadata::Xmp() const
+QByteArray Metadata::Xmp(bool withWrapper) const
 {
     if (d->xmp.empty()) {
         return {};
     }
+    const std::uint16_t form =
+        Exiv2::XmpParser::useCompactFormat | (withWrapper ? 0 : Exiv2::XmpParser::omitPacketWrapper);
     std::string packet;
-    const bool isEncoded = Exiv2::XmpParser::encode(packet, d->xmp, Exiv2::XmpParser::useCompactFormat) == 0;
-    return isEncoded ? QByteArray::fromStdString(packet) : QByteArray();
+    return Exiv2::XmpParser::encode(packet, d->xmp, form) == 0 ? QByteArray::fromStdString(packet) : QByteArray();
 }
 
 void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const
@@ -275,9 +305,9 @@ void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray
     image->writeMetadata();
 }
 
-bool Metadata::HasExif() const
+bool Metadata::IsEmpty() const
 {
-    return !d->exif.empty();
+    return d->exif.empty() && d->iptc.empty() && d->xmp.empty();
 }
 
 } // namespace BatchServer

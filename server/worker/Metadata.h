@@ -12,7 +12,8 @@ namespace BatchServer {
 
 class PictureSource;
 
-/// What a picture says about itself: EXIF with GPS, IPTC, XMP. The colour profile is not among them.
+/// What a picture says about itself: EXIF with GPS, IPTC, XMP. The colour profile is a matter of
+/// the decoder, with one exception.
 class Metadata
 {
 public:
@@ -24,6 +25,9 @@ public:
 
     /// Those of `file`, whose header `source` has read. What cannot be read is left out, with a warning.
     static Metadata Of(const QString& file, const PictureSource& source, QStringList& warnings);
+
+    /// The ICC profile of a JPEG 2000 file, which the decoder of that format does not hand over; empty for all others.
+    QByteArray Profile() const;
 
     /// The EXIF original time, by the camera's clock; invalid when there is none.
     QDateTime Captured() const;
@@ -46,14 +50,15 @@ public:
     /// The records of IPTC; empty when there are none.
     QByteArray Iptc() const;
 
-    /// An XMP packet; empty when there is nothing to say.
-    QByteArray Xmp() const;
+    /// An XMP packet; empty when there is nothing to say. Without its wrapper it is shorter, and can no longer be
+    /// changed in place.
+    QByteArray Xmp(bool withWrapper = true) const;
 
     /// Writes them into the finished file `file`, for formats that the encoder writes without. Reads the whole file
     /// into memory. Throws std::exception.
     void WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const;
 
-    bool HasExif() const;
+    bool IsEmpty() const;
 
 private:
     struct Private;

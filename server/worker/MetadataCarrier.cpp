@@ -111,14 +111,15 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     }
     const Picture carrier = WithoutMetadata(picture);
     const QByteArray exif = metadata.Exif(IsJpeg(format) ? longestJpegBlock : 0);
-    const QByteArray xmp = metadata.Xmp();
+    const bool isHeif = format.name == QLatin1String("HEIF") || format.name == QLatin1String("AVIF");
+    const QByteArray xmp = metadata.Xmp(!isHeif); // readers do not expect the wrapper there
     const QByteArray iptc = metadata.Iptc();
     const bool hasAny = !exif.isEmpty() || !xmp.isEmpty() || !iptc.isEmpty();
     if (hasAny && !places.exif) {
         warnings.append(QStringLiteral("%1 files hold no metadata; they are left out").arg(format.name));
     }
-    if (!places.exif || IsJpegXl(format) || IsJpeg2000(format)) {
-        return carrier;
+    if (!places.exif || IsJpegXl(format) || IsJpeg2000(format) || IsTiff(format)) {
+        return carrier; // what these hold comes before or after encoding
     }
     const auto fits = [&](const QByteArray& block, const char* what) {
         if (!IsJpeg(format) || block.size() <= longestJpegBlock) {
@@ -129,14 +130,14 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
                             .arg(block.size()));
         return false;
     };
-    if (!IsTiff(format) && !exif.isEmpty() && fits(exif, "EXIF")) {
+    if (!exif.isEmpty() && fits(exif, "EXIF")) {
         SetBlock(carrier, VIPS_META_EXIF_NAME, QByteArray("Exif\0\0", 6) + exif);
     }
     if (fits(xmp, "XMP")) {
         SetBlock(carrier, VIPS_META_XMP_NAME, xmp);
     }
-    if (fits(iptc, "IPTC")) {
-        SetBlock(carrier, VIPS_META_IPTC_NAME, IsJpeg(format) ? IptcResource(iptc) : iptc);
+    if (places.iptc && fits(iptc, "IPTC")) {
+        SetBlock(carrier, VIPS_META_IPTC_NAME, IptcResource(iptc));
     }
     return carrier;
 }
@@ -166,9 +167,8 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
                   const QByteArray& profile, QStringList& warnings)
 {
     const bool needsProfile = IsJpeg2000(format) && !profile.isEmpty();
-    const bool needsBlocks =
-        (IsTiff(format) && metadata.HasExif()) ||
-        (IsJpeg2000(format) && (metadata.HasExif() || !metadata.Iptc().isEmpty() || !metadata.Xmp().isEmpty()));
+    const bool isCompleted = IsTiff(format) || IsJpeg2000(format);
+    const bool needsBlocks = isCompleted && !metadata.IsEmpty();
     if (!needsProfile && !needsBlocks) {
         return;
     }

@@ -38,6 +38,7 @@ public:
         , options(OptionsFor(format, job.formatOptions))
         , source(task.inputFile, job.limits)
     {
+        metadata = Metadata::Of(task.inputFile, source, made.warnings);
         const QJsonArray kinds = options[QLatin1String("keep")].toArray();
         for (const QJsonValue& kind : kinds) {
             keep.append(kind.toString());
@@ -66,6 +67,7 @@ private:
     QJsonObject options;
     QStringList keep;
     PictureSource source;
+    Metadata metadata;
     QByteArray inks; ///< the profile of a source of inks
     MadePicture made;
 };
@@ -123,7 +125,10 @@ Picture PictureRun::Sized()
     }
     const double reduction = std::min(double(geometry.part.width()) / geometry.scaledSize.width(),
                                       double(geometry.part.height()) / geometry.scaledSize.height());
-    const Picture decoded = source.Load(source.PossibleShrink(reduction));
+    Picture decoded = source.Load(source.PossibleShrink(reduction));
+    if (!metadata.Profile().isEmpty()) {
+        decoded = WithProfile(decoded, metadata.Profile());
+    }
     inks = source.IsCmyk() ? ProfileOf(decoded) : QByteArray();
     const Picture loaded = InWorkingColours(decoded, KeepsInks(), made.warnings);
     const Picture sized = Resampled(loaded, source.StoredSize(), StoredGeometry(geometry, upright, orientation));
@@ -210,7 +215,6 @@ void PictureRun::CheckFormat(const Picture& picture) const
 void PictureRun::Write(const Picture& picture)
 {
     const QByteArray profile = ProfileOf(picture);
-    Metadata metadata = Metadata::Of(task.inputFile, source, made.warnings);
     metadata.KeepOnly(keep);
     metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));

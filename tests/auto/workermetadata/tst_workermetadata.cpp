@@ -1,0 +1,349 @@
+#include "BatchValues.h"
+#include "FormatCatalog.h"
+#include "WorkerBench.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QTest>
+
+#include <exiv2/exiv2.hpp>
+
+using namespace BatchServer;
+
+namespace {
+
+QString Text(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+QString NameIn(const QString& format)
+{
+    return QStringLiteral("out.") + FindFormat(format)->extensions.first();
+}
+
+QByteArray Block(const Picture& picture, const char* name)
+{
+    if (picture.get_typeof(name) == 0) {
+        return {};
+    }
+    std::size_t size = 0;
+    const void* bytes = picture.get_blob(name, &size);
+    return {static_cast<const char*>(bytes), int(size)};
+}
+
+struct Found
+{
+    Exiv2::ExifData exif;
+    Exiv2::IptcData iptc;
+    Exiv2::XmpData xmp;
+    bool hasProfile = false;
+
+    QString Exif(const char* key) const
+    {
+        const auto found = exif.findKey(Exiv2::ExifKey(key));
+        return found == exif.end() ? QString() : QString::fromStdString(found->toString());
+    }
+    QString Iptc(const char* key) const
+    {
+        const auto found = iptc.findKey(Exiv2::IptcKey(key));
+        return found == iptc.end() ? QString() : QString::fromStdString(found->toString());
+    }
+    QString Xmp(const char* key) const
+    {
+        const auto found = xmp.findKey(Exiv2::XmpKey(key));
+        return found == xmp.end() ? QString() : QString::fromStdString(found->toString());
+    }
+};
+
+// A box of a JPEG XL file: its content, without the header.
+QByteArray BoxOf(const QByteArray& file, const char* type)
+{
+    const int place = file.indexOf(type);
+    if (place < 4) {
+        return {};
+    }
+    const auto* size = reinterpret_cast<const uchar*>(file.constData() + place - 4);
+    return file.mid(place + 4, int((size[0] << 24) | (size[1] << 16) | (size[2] << 8) | size[3]) - 8);
+}
+
+Found Read(const WorkerBench& bench, const QString& format)
+{
+    const QString file = bench.Path(NameIn(format));
+    // Not a copy: blocks of HEIF files live no longer than the picture that was read.
+    const Picture picture = Picture::new_from_file(file.toUtf8().constData());
+    Found found;
+    // The decoder of JPEG XL makes a profile up for files that are sRGB.
+    const QByteArray profile = Block(picture, VIPS_META_ICC_NAME);
+    QByteArray madeUp;
+    for (const char letter : QByteArray("RGB_D65_SRG")) {
+        madeUp.append('\0').append(letter);
+    }
+    found.hasProfile = !profile.isEmpty() && !profile.contains(madeUp);
+    const bool isRead = format != QLatin1String("HEIF") && format != QLatin1String("AVIF") &&
+                        format != QLatin1String("JPEG XL") && format != QLatin1String("GIF");
+    if (isRead) {
+        const auto image = Exiv2::ImageFactory::open(file.toStdString());
+        image->readMetadata();
+        found.exif = image->exifData();
+        found.iptc = image->iptcData();
+        found.xmp = image->xmpData();
+        found.hasProfile = found.hasProfile || image->iccProfileDefined();
+        return found;
+    }
+    QByteArray exif = Block(picture, VIPS_META_EXIF_NAME);
+    QByteArray xmp = Block(picture, VIPS_META_XMP_NAME);
+    if (format == QLatin1String("JPEG XL")) {
+        exif = BoxOf(bench.Bytes(NameIn(format)), "Exif").mid(4);
+        xmp = BoxOf(bench.Bytes(NameIn(format)), "xml ");
+    }
+    exif = exif.startsWith("Exif") ? exif.mid(6) : exif;
+    if (!exif.isEmpty()) {
+        Exiv2::ExifParser::decode(found.exif, reinterpret_cast<const Exiv2::byte*>(exif.constData()),
+                                  std::uint32_t(exif.size()));
+    }
+    if (!xmp.isEmpty()) {
+        Exiv2::XmpParser::decode(found.xmp, xmp.toStdString());
+    }
+    return found;
+}
+
+const QStringList& AllKinds()
+{
+    static const QStringList kinds{Text("exif"), Text("gps"), Text("iptc"), Text("xmp"), Text("icc")};
+    return kinds;
+}
+
+bool HoldsIptc(const QString& format)
+{
+    return format == QLatin1String("JPEG") || format == QLatin1String("TIFF") || format == QLatin1String("JPEG 2000");
+}
+
+} // namespace
+
+/// What results say about themselves.
+class WorkerMetadataTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void keepsEachKind_data();
+    void keepsEachKind();
+    void describesTheResult_data();
+    void describesTheResult();
+    void takesMetadataOutOfOtherFormats_data();
+    void takesMetadataOutOfOtherFormats();
+    void survivesBrokenMetadata();
+    void leavesOutWhatAJpegCannotHold();
+    void keepsTheFileTime_data();
+    void keepsTheFileTime();
+
+private:
+    void WriteSource(const QString& name) const;
+
+    std::unique_ptr<WorkerBench> bench;
+};
+
+void WorkerMetadataTest::initTestCase()
+{
+    StartPictures();
+    Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+    Exiv2::XmpParser::initialize();
+    bench = std::make_unique<WorkerBench>();
+}
+
+// A picture with metadata of every kind, turned by 90 degrees, with a profile that is not sRGB.
+void WorkerMetadataTest::WriteSource(const QString& name) const
+{
+    Picture picture = Chart(90, 60);
+    VipsBlob* profile = nullptr;
+    QCOMPARE(vips_profile_load("p3", &profile, nullptr), 0);
+    picture.set(VIPS_META_ICC_NAME, nullptr, VIPS_AREA(profile)->data, VIPS_AREA(profile)->length);
+    WritePicture(picture, bench->Path(name));
+    vips_area_unref(VIPS_AREA(profile));
+    const auto image = Exiv2::ImageFactory::open(bench->Path(name).toStdString());
+    image->readMetadata();
+    Exiv2::ExifData& exif = image->exifData();
+    exif["Exif.Image.Artist"] = "A. Photographer";
+    exif["Exif.Image.Orientation"] = std::uint16_t(6);
+    exif["Exif.Photo.DateTimeOriginal"] = "2019:07:06 05:04:03";
+    exif["Exif.Photo.PixelXDimension"] = std::uint32_t(9999);
+    exif["Exif.GPSInfo.GPSLatitudeRef"] = "N";
+    exif["Exif.GPSInfo.GPSLatitude"] = "48/1 30/1 0/1";
+    exif["Exif.Thumbnail.Compression"] = std::uint16_t(6);
+    image->iptcData()["Iptc.Application2.Caption"] = "A caption";
+    image->xmpData()["Xmp.dc.creator"] = "A. Photographer";
+    image->xmpData()["Xmp.tiff.Orientation"] = "6";
+    image->xmpData()["Xmp.exif.GPSLatitude"] = "48,30.0N";
+    image->writeMetadata();
+}
+
+void WorkerMetadataTest::keepsEachKind_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QStringList>("keep");
+    for (const FormatSchema& format : Formats()) {
+        QTest::addRow("%s, all", qPrintable(format.name)) << format.name << AllKinds();
+        QTest::addRow("%s, none", qPrintable(format.name)) << format.name << QStringList();
+        for (const QString& kind : AllKinds()) {
+            QTest::addRow("%s, only %s", qPrintable(format.name), qPrintable(kind)) << format.name << QStringList(kind);
+            QStringList others = AllKinds();
+            others.removeAll(kind);
+            QTest::addRow("%s, all but %s", qPrintable(format.name), qPrintable(kind)) << format.name << others;
+        }
+    }
+}
+
+void WorkerMetadataTest::keepsEachKind()
+{
+    QFETCH(const QString, format);
+    QFETCH(const QStringList, keep);
+
+    WriteSource(Text("in.jpg"));
+    const Report report =
+        bench->Make(Text("in.jpg"), NameIn(format), format, {{Text("keep"), QJsonArray::fromStringList(keep)}});
+    QCOMPARE(report.reason, QString());
+    const Found found = Read(*bench, format);
+    const bool holdsAny = format != QLatin1String("GIF");
+    const auto keeps = [&](const char* kind) { return holdsAny && keep.contains(QLatin1String(kind)); };
+    QCOMPARE(found.Exif("Exif.Image.Artist"), keeps("exif") ? Text("A. Photographer") : QString());
+    QCOMPARE(found.Exif("Exif.Photo.DateTimeOriginal"), keeps("exif") ? Text("2019:07:06 05:04:03") : QString());
+    QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), keeps("gps") ? Text("48/1 30/1 0/1") : QString());
+    QCOMPARE(found.Xmp("Xmp.dc.creator"), keeps("xmp") ? Text("A. Photographer") : QString());
+    QCOMPARE(found.Xmp("Xmp.exif.GPSLatitude"), keeps("xmp") && keeps("gps") ? Text("48,30.0N") : QString());
+    QCOMPARE(found.Iptc("Iptc.Application2.Caption"),
+             keeps("iptc") && HoldsIptc(format) ? Text("A caption") : QString());
+    const QString inXmp = found.Xmp("Xmp.dc.description");
+    QCOMPARE(inXmp, keeps("iptc") && !HoldsIptc(format) ? Text("lang=\"x-default\" A caption") : QString());
+    QCOMPARE(found.hasProfile, keeps("icc"));
+    const bool losesSomething = !holdsAny && keep != QStringList() && keep != QStringList(Text("icc"));
+    QCOMPARE(report.warnings.isEmpty(), !losesSomething);
+}
+
+void WorkerMetadataTest::describesTheResult_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const FormatSchema& format : Formats()) {
+        if (format.name != QLatin1String("GIF")) {
+            QTest::newRow(qPrintable(format.name)) << format.name;
+        }
+    }
+}
+
+void WorkerMetadataTest::describesTheResult()
+{
+    QFETCH(const QString, format);
+
+    WriteSource(Text("in.jpg"));
+    const auto edit = [](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = int(BatchValues::SizeRestriction::Fit);
+        size.side = int(BatchValues::SizeSide::Width);
+        size.size = 40;
+        size.resolution = 144;
+        output.SetImageSizeSettings(size);
+    };
+    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(format), format, {}, edit).reason, QString());
+    const Picture result = ReadPicture(bench->Path(NameIn(format)));
+    QCOMPARE(result.width(), 40);
+    QCOMPARE(result.height(), 60);
+    const Found found = Read(*bench, format);
+    QCOMPARE(found.Exif("Exif.Image.Orientation"), Text("1"));
+    QCOMPARE(found.Exif("Exif.Photo.PixelXDimension"), Text("40"));
+    QCOMPARE(found.Exif("Exif.Photo.PixelYDimension"), Text("60"));
+    QCOMPARE(found.Exif("Exif.Image.ResolutionUnit"), Text("2"));
+    const auto resolution = found.exif.findKey(Exiv2::ExifKey("Exif.Image.XResolution"));
+    QVERIFY(resolution != found.exif.end());
+    QVERIFY(std::abs(resolution->toFloat() - 144) < 0.1F);
+    QCOMPARE(found.Xmp("Xmp.tiff.Orientation"), QString());
+    QCOMPARE(found.Exif("Exif.Thumbnail.Compression"), QString());
+}
+
+void WorkerMetadataTest::takesMetadataOutOfOtherFormats_data()
+{
+    describesTheResult_data();
+}
+
+void WorkerMetadataTest::takesMetadataOutOfOtherFormats()
+{
+    QFETCH(const QString, format);
+
+    // Into the format, and out of it again.
+    WriteSource(Text("in.jpg"));
+    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(format), format).reason, QString());
+    const QString middle = Text("middle.") + QFileInfo(NameIn(format)).suffix();
+    QFile::remove(bench->Path(middle));
+    QVERIFY(QFile::rename(bench->Path(NameIn(format)), bench->Path(middle)));
+    QCOMPARE(bench->Make(middle, Text("out.jpg"), Text("JPEG")).reason, QString());
+    const Found found = Read(*bench, Text("JPEG"));
+    if (format == QLatin1String("JPEG XL")) {
+        QSKIP("the decoder hands over no metadata of JPEG XL files");
+    }
+    QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
+    QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
+    QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
+    QVERIFY(found.hasProfile);
+    const Report probe = bench->Worker().Do(ProbeTask{1, bench->Path(middle)});
+    QCOMPARE(probe.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
+}
+
+void WorkerMetadataTest::survivesBrokenMetadata()
+{
+    WriteSource(Text("in.jpg"));
+    QByteArray bytes = bench->Bytes(Text("in.jpg"));
+    const int exif = bytes.indexOf(QByteArray("Exif\0\0", 6));
+    QVERIFY(exif > 0);
+    for (int i = 0; i < 40; ++i) {
+        bytes[exif + 14 + i] = char(0xf0 + i * 7);
+    }
+    bench->WriteBytes(Text("in.jpg"), bytes);
+    QCOMPARE(bench->Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG")).reason, QString());
+    QCOMPARE(ReadPicture(bench->Path(Text("out.jpg"))).bands(), 3);
+}
+
+void WorkerMetadataTest::leavesOutWhatAJpegCannotHold()
+{
+    WritePicture(Chart(40, 30), bench->Path(Text("in.tif")));
+    {
+        const auto image = Exiv2::ImageFactory::open(bench->Path(Text("in.tif")).toStdString());
+        image->readMetadata();
+        image->xmpData()["Xmp.dc.title"] = std::string(100'000, 'x');
+        image->exifData()["Exif.Image.Artist"] = "A. Photographer";
+        image->writeMetadata();
+    }
+    const Report report = bench->Make(Text("in.tif"), Text("out.jpg"), Text("JPEG"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.warnings.size(), 1);
+    QVERIFY2(report.warnings.first().contains(Text("XMP")), qPrintable(report.warnings.first()));
+    QCOMPARE(Read(*bench, Text("JPEG")).Exif("Exif.Image.Artist"), Text("A. Photographer"));
+}
+
+void WorkerMetadataTest::keepsTheFileTime_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("kept") << Text("JPEG") << true;
+    QTest::newRow("kept in TIFF, which is completed after encoding") << Text("TIFF") << true;
+    QTest::newRow("not kept") << Text("JPEG") << false;
+}
+
+void WorkerMetadataTest::keepsTheFileTime()
+{
+    QFETCH(const QString, format);
+    QFETCH(const bool, isKept);
+
+    WriteSource(Text("in.jpg"));
+    const QDateTime before(QDate(2001, 2, 3), QTime(4, 5, 6));
+    {
+        QFile source(bench->Path(Text("in.jpg")));
+        QVERIFY(source.open(QIODevice::ReadWrite));
+        QVERIFY(source.setFileTime(before, QFileDevice::FileModificationTime));
+    }
+    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(format), format, {{Text("keepFileTime"), isKept}}).reason, QString());
+    QCOMPARE(QFileInfo(bench->Path(NameIn(format))).lastModified() == before, isKept);
+}
+
+QTEST_GUILESS_MAIN(WorkerMetadataTest)
+#include "tst_workermetadata.moc"
