@@ -12,8 +12,8 @@ constexpr double leastReducedSigma = 4.0;
 
 Picture DirectlyBlurred(const Picture& picture, double sigma)
 {
-    // exp(-4.5): the kernel ends at three sigma.
-    constexpr double leastWeight = 0.011109;
+    // A little less than exp(-4.5): the kernel ends at three sigma.
+    constexpr double leastWeight = 0.0111;
     return picture.gaussblur(sigma,
                              Picture::option()->set("min_ampl", leastWeight)->set("precision", VIPS_PRECISION_FLOAT));
 }

@@ -1,5 +1,7 @@
 #include "Kinds.h"
 
+#include "../Colour.h"
+#include "../ColourProfile.h"
 #include "PixelFilter.h"
 
 #include <cmath>
@@ -8,15 +10,10 @@ namespace BatchServer {
 
 namespace {
 
-bool HasProfile(const Picture& picture)
-{
-    return picture.get_typeof(VIPS_META_ICC_NAME) != 0;
-}
-
 Picture GreyAsRgb(const Picture& grey)
 {
     const bool isDeep = HasSixteenBits(grey);
-    if (!HasProfile(grey)) {
+    if (ProfileOf(grey).isEmpty()) {
         const Picture repeated = Picture::bandjoin(std::vector<Picture>{grey, grey, grey});
         return repeated.copy(
             Picture::option()->set("interpretation", isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB));
@@ -90,19 +87,13 @@ Painted PaintedFor(const Picture& picture, const QColor& colour)
 
 Picture InProfileOf(const Picture& picture, const Picture& pixels)
 {
-    if (!HasProfile(picture)) {
+    const QByteArray profile = ProfileOf(picture);
+    if (profile.isEmpty() || IsSrgb(profile)) {
         return pixels;
     }
-    const Picture colours = pixels.has_alpha() ? WithoutAlpha(pixels) : pixels;
-    const Picture independent = colours.icc_import(
-        Picture::option()->set("input_profile", "srgb")->set("embedded", false)->set("pcs", VIPS_PCS_LAB));
-    const Picture labelled = independent.copy();
-    size_t size = 0;
-    const void* profile = picture.get_blob(VIPS_META_ICC_NAME, &size);
-    vips_image_set_blob_copy(labelled.get_image(), VIPS_META_ICC_NAME, profile, size);
-    const Picture converted = labelled.icc_export(
-        Picture::option()->set("intent", VIPS_INTENT_RELATIVE)->set("black_point_compensation", true)->set("depth", 8));
-    return pixels.has_alpha() ? converted.bandjoin(AlphaOf(pixels)) : converted;
+    // A profile that cannot be used was reported when the picture was read.
+    QStringList warnings;
+    return ConvertedTo(profile, WithProfile(pixels, {}), warnings);
 }
 
 } // namespace BatchServer

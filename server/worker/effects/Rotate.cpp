@@ -49,7 +49,9 @@ public:
         const double down = y + 0.5 - m_canvasHeight / 2.0;
         const double across = m_width / 2.0 - std::abs(m_cosine * right + m_sine * down);
         const double along = m_height / 2.0 - std::abs(m_cosine * down - m_sine * right);
-        return std::clamp(across + 0.5, 0.0, 1.0) * std::clamp(along + 0.5, 0.0, 1.0);
+        // A pixel's own extent across a border that stands at this angle.
+        const double extent = std::abs(m_cosine) + std::abs(m_sine);
+        return std::clamp(across / extent + 0.5, 0.0, 1.0) * std::clamp(along / extent + 0.5, 0.0, 1.0);
     }
 
 private:
