@@ -7,10 +7,23 @@
 
 namespace BatchServer {
 
+namespace {
+
+QVector<EffectSchema> MakeEffects()
+{
+    QVector<EffectSchema> effects =
+        ToneEffects() + ColourEffects() + DetailEffects() + LookEffects() + GeometryEffects() + WatermarkEffects();
+    for (EffectSchema& effect : effects) {
+        effect.definition = DefinitionOf(effect.id);
+    }
+    return effects;
+}
+
+} // namespace
+
 const QVector<EffectSchema>& Effects()
 {
-    static const QVector<EffectSchema> effects =
-        ToneEffects() + ColourEffects() + DetailEffects() + LookEffects() + GeometryEffects() + WatermarkEffects();
+    static const QVector<EffectSchema> effects = MakeEffects();
     return effects;
 }
 

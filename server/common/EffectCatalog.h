@@ -14,6 +14,7 @@ struct EffectSchema
     QString id;          ///< as it stands in a job, such as "exposure"
     QString description; ///< one line
     QVector<ParameterSchema> parameters;
+    QString definition = {}; ///< what exactly it computes, with the source of formulas; for the reference page
 };
 
 /// Every effect, in the order of the reference page.

@@ -12,6 +12,9 @@ QVector<EffectSchema> LookEffects();
 QVector<EffectSchema> GeometryEffects();
 QVector<EffectSchema> WatermarkEffects();
 
+/// What exactly the effect `id` computes.
+QString DefinitionOf(const QString& id);
+
 /// A number from `minimum` to `maximum` in `unit`; "" for plain numbers.
 ParameterSchema NumberParameter(const char* name, double standard, double minimum, double maximum, const char* unit,
                                 const char* description);

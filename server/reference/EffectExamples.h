@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace BatchServer {
+
+/// The parameters, as JSON, with which the reference page shows the effect `id`. Those of effects that need a file hold
+/// a bare file name, "example.cube" or "example.png".
+QByteArray ExampleOf(const QString& id);
+
+} // namespace BatchServer

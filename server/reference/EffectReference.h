@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace BatchServer {
+
+/// The reference page of all effects, in Markdown, from the table of effects. It shows a picture for each,
+/// "effects/ID.jpg".
+QString EffectReferencePage();
+
+} // namespace BatchServer
