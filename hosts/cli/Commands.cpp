@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 #include "JobOptions.h"
+#include "PolicyOptions.h"
+#include "RunOptions.h"
 
 #include <EffectCatalog.h>
 #include <FormatCatalog.h>
@@ -84,11 +86,25 @@ QVector<CommandInfo> MakeCommands()
                             {Text("--force"), QString(), Text("replaces a file that exists"), Text("General")}} +
         ofJobs;
     return {
+        {Text("run"), Text("[JOB.xml] [INPUT...]"),
+         Text("processes a saved job, or files and folders, or both; options change what the job says. Ends with 0 "
+              "when all was written, 1 when something was skipped or failed, 2 for wrong arguments or a wrong job, 3 "
+              "when the server could not be started or was lost, 4 when the run was cancelled"),
+         InputOptions() + JobOptionInfos() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(),
+         Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          Text("writes a job of these files and folders and options to a file, or to standard output for \"-\""),
          ofCreate, Completion::Files},
         {Text("show"), Text("[JOB.xml] [INPUT...]"),
          Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
+         Completion::Files},
+        {Text("plan"), Text("[JOB.xml] [INPUT...]"),
+         Text("prints what would be written where: every input with its output, and in brackets what stands in the "
+              "way, with what the policy would do about it. Nothing is written. Ends with 1 when there are brackets"),
+         InputOptions() + JobOptionInfos() + PolicyOptionInfos() +
+             QVector<OptionInfo>{
+                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
+             GeneralOptions(),
          Completion::Files},
         {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
          Completion::Words, EffectIds()},

@@ -274,7 +274,7 @@ void tst_CliOptions::WrongArgumentsAreExplained_data()
         QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
                                  << QString::fromLatin1(wanted);
     };
-    row("", "a command is needed: create, show");
+    row("", "a command is needed: run, create, show");
     row("shwo", "did you mean \"show\"?");
     row("--versoin", "did you mean \"--version\"?");
     row("--output x show", "stands before the command");

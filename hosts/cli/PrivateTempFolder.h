@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+namespace BatchCli {
+
+/// A temporary folder for this process and its server alone. The pipe between them has a fixed name in the temporary
+/// folder: without this, two programs at a time would meet there.
+/// Removed at the end.
+class PrivateTempFolder
+{
+public:
+    PrivateTempFolder();
+    ~PrivateTempFolder();
+
+    void Remove() { folder.remove(); }
+
+private:
+    Q_DISABLE_COPY(PrivateTempFolder)
+
+    QTemporaryDir folder;
+};
+
+} // namespace BatchCli

@@ -1,0 +1,215 @@
+#include "CommandFunctions.h"
+#include "Console.h"
+#include "EventWriter.h"
+#include "InterruptWatcher.h"
+#include "JobBuilder.h"
+#include "PrivateTempFolder.h"
+#include "Questioner.h"
+#include "RunController.h"
+#include "RunDisplay.h"
+#include "RunOptions.h"
+#include "RunReport.h"
+#include "RunSummary.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchManager.h"
+#include "ZTBatchMessage.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <JobFiles.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace BatchCli {
+
+namespace {
+
+/// The manager for as long as a run takes.
+class ManagerInstance
+{
+public:
+    explicit ManagerInstance(const QString& settingsFolder) { ZTBatchManager::InitInstance(settingsFolder); }
+
+    ~ManagerInstance()
+    {
+        InterruptWatcher::EndAtNext(); // The server may take its time.
+        ZTBatchManager::ReleaseInstance();
+    }
+
+private:
+    Q_DISABLE_COPY(ManagerInstance)
+};
+
+RunInputs InputsOf(const ZTBatchDocument& job)
+{
+    RunInputs inputs;
+    for (const BatchServer::JobFile& file : BatchServer::FilesOfJob(*job.GetInputModel())) {
+        inputs.files.append(file.path);
+        inputs.bytes.append(QFileInfo(file.path).size());
+        inputs.allBytes += inputs.bytes.last();
+    }
+    return inputs;
+}
+
+PolicyValues PoliciesOfManager()
+{
+    const ZTBatchManager& manager = *ZTBatchManager::Instance();
+    return {manager.GetInputPolicy(), manager.GetOutputPolicy(), manager.GetProcessingPolicy(),
+            manager.GetNamingPolicy(), manager.GetWriteToFormatPolicy()};
+}
+
+/// Where nobody can be asked, asking becomes skipping, and that is said.
+void ReplaceQuestions(PolicyValues& policies, bool isQuiet)
+{
+    QStringList options;
+    for (int i = 0; i < policyCount; ++i) {
+        const auto kind = PolicyKind(i);
+        int& value = policies[std::size_t(i)];
+        if (value == AskingPolicy(kind)) {
+            value = safePolicy;
+            options.append(PolicyOption(kind));
+        }
+    }
+    if (!options.isEmpty() && !isQuiet) {
+        WriteError(QStringLiteral("velkora-batch: nobody can be asked without a terminal: files with trouble are "
+                                  "skipped (%1 decide otherwise).\n")
+                       .arg(options.join(QStringLiteral(", "))));
+    }
+}
+
+ExitCode CodeOf(const RunEnd& end)
+{
+    switch (end.jobErrorCode) {
+    case ZTBatchMessage::NoError:
+        break;
+    case ZTBatchMessage::NoAdjustmentManager:
+        return ExitCode::ServerLost;
+    default:
+        return ExitCode::Usage;
+    }
+    if (end.isServerLost) {
+        return ExitCode::ServerLost;
+    }
+    if (end.isCancelled) {
+        return ExitCode::Cancelled;
+    }
+    return end.written == end.files ? ExitCode::Done : ExitCode::Incomplete;
+}
+
+RunDisplay::Detail DetailOf(const ParsedArguments& arguments)
+{
+    return arguments.Has(QStringLiteral("--quiet"))     ? RunDisplay::Detail::Quiet
+           : arguments.Has(QStringLiteral("--verbose")) ? RunDisplay::Detail::Verbose
+                                                        : RunDisplay::Detail::Normal;
+}
+
+/// Runs `controller` to its end, with the user's questions and interrupts.
+RunEnd Execute(RunController& controller, RunDisplay& display)
+{
+    RunEnd result;
+    bool isOver = false;
+    QEventLoop loop;
+    Questioner questioner;
+    InterruptWatcher interrupts;
+    bool isInterrupted = false;
+    const auto stop = [&] {
+        display.Resume();
+        if (isInterrupted) {
+            controller.EndAtOnce();
+        } else {
+            isInterrupted = true;
+            controller.Cancel();
+        }
+    };
+    QObject::connect(&interrupts, &InterruptWatcher::Interrupted, &loop, stop);
+    QObject::connect(&controller, &RunController::Question, &loop,
+                     [&](PolicyKind kind, const QString& input, const QString&, const QString& reason) {
+                         display.Suspend();
+                         questioner.Ask(kind, input, reason);
+                     });
+    QObject::connect(&questioner, &Questioner::Answered, &loop, [&](const UserAnswer& answer) {
+        display.Resume();
+        if (answer.value) {
+            controller.Answer(*answer.value, answer.isForTheRest);
+        } else {
+            stop();
+        }
+    });
+    QObject::connect(&controller, &RunController::Ended, &loop, [&](const RunEnd& end) {
+        result = end;
+        isOver = true;
+        loop.quit();
+    });
+    controller.Start();
+    if (!isOver) {
+        loop.exec();
+    }
+    return result;
+}
+
+} // namespace
+
+ExitCode RunJob(const ParsedArguments& arguments)
+{
+    QStringList inputs = arguments.inputs;
+    const QString savedJob = TakeSavedJob(inputs);
+    PolicyValues given{};
+    ApplyPolicies(arguments, given); // What is wrong is said before folders are read.
+    ApplyServerLimits(arguments);
+    std::unique_ptr<RunReport> report;
+    if (arguments.Has(QStringLiteral("--report"))) {
+        report = std::make_unique<RunReport>(arguments.Value(QStringLiteral("--report")));
+    }
+    ZTBatchDocument job;
+    const int problems = BuildJob(job, arguments, savedJob, inputs);
+    CheckJob(job);
+
+    const RunDisplay::Detail detail = DetailOf(arguments);
+    const bool isQuiet = detail == RunDisplay::Detail::Quiet;
+    RunDisplay display(detail);
+    EventWriter events;
+    RunSummary summary;
+    QVector<RunObserver*> observers{&display};
+    if (arguments.Has(QStringLiteral("--json"))) {
+        observers.append(&events);
+    }
+    if (report) {
+        observers.append(report.get());
+    }
+    if (!isQuiet) {
+        observers.append(&summary);
+    }
+
+    const PrivateTempFolder temporary;
+    RunEnd end;
+    {
+        const ManagerInstance manager(SettingsFolder(arguments));
+        PolicyValues policies = PoliciesOfManager();
+        ApplyPolicies(arguments, policies);
+        if (!Terminal::IsInputTerminal() || !Terminal::IsErrorTerminal()) {
+            ReplaceQuestions(policies, isQuiet);
+        }
+        RunController controller(job.Serialize(nullptr), InputsOf(job), job.GetOutputSettings()->GetPath(), policies,
+                                 observers);
+        end = Execute(controller, display);
+    }
+    if (end.jobErrorCode != ZTBatchMessage::NoError) {
+        WriteError(QStringLiteral("velkora-batch: %1\n").arg(end.jobError));
+    }
+    if (end.isServerLost && end.written + end.skipped + end.failed == 0) {
+        WriteError(QStringLiteral("velkora-batch: no server works; VelkoraBatchProcessing belongs beside %1.\n")
+                       .arg(QCoreApplication::applicationFilePath()));
+    }
+    if (report && !report->Error().isEmpty()) {
+        WriteError(QStringLiteral("velkora-batch: %1\n").arg(report->Error()));
+        return std::max(CodeOf(end), ExitCode::Incomplete);
+    }
+    const ExitCode code = CodeOf(end);
+    return code == ExitCode::Done && problems > 0 ? ExitCode::Incomplete : code;
+}
+
+} // namespace BatchCli

@@ -1,0 +1,28 @@
+#include "TestPictures.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+
+void TestPictures::Write(const QString& path, int seed, int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, qRgb((x * 7 + seed * 31) % 256, (y * 5 + seed * 17) % 256, (x + y + seed) % 256));
+        }
+    }
+    if (!QDir().mkpath(QFileInfo(path).path()) || !image.save(path, "JPG", 90)) {
+        qFatal("The picture %s cannot be written.", qUtf8Printable(path));
+    }
+}
+
+void TestPictures::WriteDamaged(const QString& path)
+{
+    Write(path, 1, 200, 200);
+    QFile file(path);
+    if (!file.resize(file.size() / 2)) {
+        qFatal("The picture %s cannot be cut off.", qUtf8Printable(path));
+    }
+}

@@ -1,0 +1,350 @@
+#include "CliRun.h"
+#include "TestPictures.h"
+
+#include <QDir>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSettings>
+#include <QtTest>
+
+/// Whole runs of the real command with the real server, without a terminal.
+class tst_CliRun : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void PicturesAreWritten();
+    void SavedJobsAreRun();
+    void FailuresAreToldAndCounted();
+    void PoliciesAreWords_data();
+    void PoliciesAreWords();
+    void NobodyToAskIsSaid();
+    void SettingsHoldPolicies();
+    void QuietSaysProblemsOnly();
+    void EventsAreJson();
+    void ReportsListEveryInput();
+    void PlanTellsWhatRunDoes();
+    void PlanMarksTrouble();
+    void WrongOptionsEndBeforeAnything_data();
+    void WrongOptionsEndBeforeAnything();
+    void RunsSideBySide();
+    void NoServer();
+    void NothingIsLeftBehind();
+
+private:
+    QString Path(const QString& name) const { return root->filePath(name); }
+    QStringList Results() const { return QDir(Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden); }
+    CliRun Run(const QString& arguments) const
+    {
+        return CliRun::Of(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts), root->path(), environment);
+    }
+
+    std::unique_ptr<QTemporaryDir> root;
+    QProcessEnvironment environment;
+};
+
+void tst_CliRun::init()
+{
+    root = std::make_unique<QTemporaryDir>();
+    environment = QProcessEnvironment::systemEnvironment();
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("home")));
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
+    environment.insert(QStringLiteral("HOME"), Path(QStringLiteral("home")));
+    environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
+    environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
+    for (int i = 1; i <= 3; ++i) {
+        TestPictures::Write(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
+    }
+}
+
+void tst_CliRun::PicturesAreWritten()
+{
+    const CliRun run = Run(QStringLiteral("run photos -o out --size 32 --effect invert --suffix number --format png"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QVERIFY(run.out.isEmpty());
+    QCOMPARE(Results(),
+             QStringList({QStringLiteral("1001.png"), QStringLiteral("2002.png"), QStringLiteral("3003.png")}));
+    QCOMPARE(QImage(Path(QStringLiteral("out/1001.png"))).size(), QSize(32, 24));
+    QVERIFY2(run.err.contains("[3/3] "), run.err.constData());
+    QVERIFY2(run.err.contains("photos/2.jpg -> "), run.err.constData());
+    QVERIFY2(run.err.contains("Written             3"), run.err.constData());
+    QVERIFY2(!run.err.contains('\r') && !run.err.contains('\033'), run.err.constData());
+}
+
+void tst_CliRun::SavedJobsAreRun()
+{
+    QCOMPARE(Run(QStringLiteral("create job.xml photos -o other --size 32")).exitCode, 0);
+    const CliRun run = Run(QStringLiteral("run job.xml -o out --size 16"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QCOMPARE(Results().size(), 3);
+    QCOMPARE(QImage(Path(QStringLiteral("out/1.jpg"))).width(), 16);
+    QVERIFY(!QFile::exists(Path(QStringLiteral("other"))));
+}
+
+void tst_CliRun::FailuresAreToldAndCounted()
+{
+    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    const CliRun run = Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(Results(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("3.jpg")}));
+    QVERIFY2(run.err.contains("failed " + Path(QStringLiteral("photos/2.jpg")).toUtf8() + ": "), run.err.constData());
+    QVERIFY2(run.err.contains("Failed              1  Error reading file: 1"), run.err.constData());
+}
+
+void tst_CliRun::PoliciesAreWords_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("results");
+    QTest::addColumn<bool>("isReplaced");
+    const QStringList same{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")};
+    const QStringList renamed{QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
+                              QStringLiteral("3.jpg")};
+    QTest::newRow("skip") << QStringLiteral("skip") << 1 << same << false;
+    QTest::newRow("overwrite") << QStringLiteral("overwrite") << 0 << same << true;
+    QTest::newRow("rename") << QStringLiteral("Rename") << 0 << renamed << false;
+}
+
+void tst_CliRun::PoliciesAreWords()
+{
+    QFETCH(QString, word);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, results);
+    QFETCH(bool, isReplaced);
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
+    QFile old(Path(QStringLiteral("out/1.jpg")));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    QCOMPARE(old.write("old"), 3LL);
+    old.close();
+    const CliRun run = Run(QStringLiteral("run photos -o out --on-name-exists ") + word);
+    QVERIFY2(run.exitCode == exitCode, run.err.constData());
+    QCOMPARE(Results(), results);
+    QCOMPARE(QFileInfo(Path(QStringLiteral("out/1.jpg"))).size() != 3, isReplaced);
+}
+
+void tst_CliRun::NobodyToAskIsSaid()
+{
+    const CliRun run = Run(QStringLiteral("run photos -o out --on-input-error stop"));
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.err.contains("nobody can be asked"), run.err.constData());
+    QVERIFY2(run.err.contains("--on-name-exists"), run.err.constData());
+    QVERIFY2(!run.err.contains("--on-input-error"), run.err.constData());
+}
+
+void tst_CliRun::SettingsHoldPolicies()
+{
+    const QString file = Path(QStringLiteral("settings/BatchExceptionPolicy.ini"));
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("settings")));
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        settings.setValue(QStringLiteral("NamingPolicy"), 2);
+    }
+    QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q")).exitCode, 0);
+    QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q")).exitCode, 0);
+    QCOMPARE(Results(), QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg")}));
+    // An option holds for its run only.
+    QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q --on-name-exists skip")).exitCode, 1);
+    QCOMPARE(QSettings(file, QSettings::IniFormat).value(QStringLiteral("NamingPolicy")).toInt(), 2);
+    QVERIFY(QDir(Path(QStringLiteral("home"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+void tst_CliRun::QuietSaysProblemsOnly()
+{
+    const CliRun good = Run(QStringLiteral("run photos -o out -q"));
+    QCOMPARE(good.exitCode, 0);
+    QVERIFY2(good.err.isEmpty(), good.err.constData());
+    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    const CliRun bad = Run(QStringLiteral("run photos/2.jpg -o out2 -q"));
+    QCOMPARE(bad.exitCode, 1);
+    QCOMPARE(bad.err.count('\n'), 1);
+    QVERIFY2(bad.err.startsWith("failed "), bad.err.constData());
+}
+
+void tst_CliRun::EventsAreJson()
+{
+    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    const CliRun run = Run(QStringLiteral("run photos -o out --json"));
+    QCOMPARE(run.exitCode, 1);
+    QHash<QString, int> counts;
+    QVector<QJsonObject> events;
+    for (const QByteArray& line : run.out.trimmed().split('\n')) {
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+        QVERIFY2(error.error == QJsonParseError::NoError && document.isObject(), line.constData());
+        events.append(document.object());
+        ++counts[events.last().value(QStringLiteral("event")).toString()];
+    }
+    QCOMPARE(events.first().value(QStringLiteral("event")).toString(), QStringLiteral("start"));
+    QCOMPARE(events.first().value(QStringLiteral("version")).toInt(), 1);
+    QCOMPARE(events.first().value(QStringLiteral("files")).toInt(), 3);
+    QCOMPARE(counts.value(QStringLiteral("begin")), 3);
+    QCOMPARE(counts.value(QStringLiteral("written")), 2);
+    QCOMPARE(counts.value(QStringLiteral("failed")), 1);
+    const QJsonObject end = events.last();
+    QCOMPARE(end.value(QStringLiteral("event")).toString(), QStringLiteral("end"));
+    QCOMPARE(end.value(QStringLiteral("written")).toInt(), 2);
+    QCOMPARE(end.value(QStringLiteral("failed")).toInt(), 1);
+    QCOMPARE(end.value(QStringLiteral("notProcessed")).toInt(), 0);
+    for (const QJsonObject& event : qAsConst(events)) {
+        if (event.value(QStringLiteral("event")).toString() == QLatin1String("failed")) {
+            QCOMPARE(event.value(QStringLiteral("code")).toInt(), 2);
+            QCOMPARE(event.value(QStringLiteral("input")).toString(), Path(QStringLiteral("photos/2.jpg")));
+            QVERIFY(!event.value(QStringLiteral("reason")).toString().isEmpty());
+        }
+    }
+}
+
+void tst_CliRun::ReportsListEveryInput()
+{
+    const QString odd = QStringLiteral("photos/a \"quoted\", name.jpg");
+    TestPictures::Write(Path(odd));
+    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    QCOMPARE(Run(QStringLiteral("run photos -o out --report r.csv -q")).exitCode, 1);
+    QCOMPARE(Run(QStringLiteral("run photos -o out2 --report r.JSON -q")).exitCode, 1);
+
+    QFile csv(Path(QStringLiteral("r.csv")));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = csv.readAll().split('\n');
+    QCOMPARE(lines.size(), 6);
+    QCOMPARE(lines[0], QByteArray("input,output,result,code,reason\r"));
+    QVERIFY2(lines[1].endsWith("/out/1.jpg\",\"written\",0,\"\"\r"), lines[1].constData());
+    QVERIFY2(lines[2].contains(",\"failed\",2,\""), lines[2].constData());
+    QVERIFY2(lines[4].contains("/a \"\"quoted\"\", name.jpg\","), lines[4].constData());
+
+    QFile json(Path(QStringLiteral("r.JSON")));
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    const QJsonArray entries = QJsonDocument::fromJson(json.readAll()).array();
+    QCOMPARE(entries.size(), 4);
+    QCOMPARE(entries[1].toObject().value(QStringLiteral("result")).toString(), QStringLiteral("failed"));
+    QCOMPARE(entries[3].toObject().value(QStringLiteral("input")).toString(), Path(odd));
+}
+
+void tst_CliRun::PlanTellsWhatRunDoes()
+{
+    for (int i = 1; i <= 3; ++i) {
+        TestPictures::Write(Path(QStringLiteral("more/%1.jpg").arg(i)), 10 + i);
+    }
+    for (const char* options : {"--structure input", "--name date --suffix number:9:2", "--on-name-exists rename",
+                                "--structure date --name time --on-name-exists rename"}) {
+        QVERIFY(QDir(Path(QStringLiteral("out"))).removeRecursively());
+        const QString arguments = QStringLiteral(" photos more -o out --json -q ") + QLatin1String(options);
+        const CliRun plan = Run(QStringLiteral("plan") + arguments);
+        QVERIFY(!QFile::exists(Path(QStringLiteral("out"))));
+        QHash<QString, QString> planned;
+        for (const QByteArray& line : plan.out.trimmed().split('\n')) {
+            const QJsonObject pair = QJsonDocument::fromJson(line).object();
+            planned.insert(pair.value(QStringLiteral("input")).toString(),
+                           pair.value(QStringLiteral("output")).toString());
+        }
+        QCOMPARE(planned.size(), 6);
+        const CliRun run = Run(QStringLiteral("run") + arguments);
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        int written = 0;
+        for (const QByteArray& line : run.out.trimmed().split('\n')) {
+            const QJsonObject event = QJsonDocument::fromJson(line).object();
+            if (event.value(QStringLiteral("event")).toString() == QLatin1String("written")) {
+                ++written;
+                QCOMPARE(event.value(QStringLiteral("output")).toString(),
+                         planned.value(event.value(QStringLiteral("input")).toString()));
+                QVERIFY(QFile::exists(event.value(QStringLiteral("output")).toString()));
+            }
+        }
+        QCOMPARE(written, 6);
+    }
+}
+
+void tst_CliRun::PlanMarksTrouble()
+{
+    TestPictures::Write(Path(QStringLiteral("more/1.jpg")), 10);
+    TestPictures::Write(Path(QStringLiteral("out/3.jpg")), 10);
+    const CliRun plan = Run(QStringLiteral("plan photos more -o out --on-name-exists skip"));
+    QCOMPARE(plan.exitCode, 1);
+    QVERIFY2(plan.out.contains("[skip: " + Path(QStringLiteral("out/1.jpg")).toUtf8() + " is the result of "),
+             plan.out.constData());
+    QVERIFY2(plan.out.contains("[skip: " + Path(QStringLiteral("out/3.jpg")).toUtf8() + " exists already]"),
+             plan.out.constData());
+    QCOMPARE(plan.out.count('['), 2);
+    QVERIFY(plan.err.contains("Nothing was written."));
+    const CliRun source = Run(QStringLiteral("plan photos -o photos"));
+    QCOMPARE(source.out.count("is a source of this job]"), 3);
+}
+
+void tst_CliRun::WrongOptionsEndBeforeAnything_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("wanted");
+    const auto row = [](const char* arguments, const char* wanted) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(wanted);
+    };
+    row("run photos", "--output DIR says it");
+    row("run -o out", "there is no picture");
+    row("run nothing.xml -o out", "nothing.xml cannot be read");
+    row("run photos -o out --on-name-exists replace", "is none of skip, overwrite, rename, ask");
+    row("run photos -o out --on-input-error skpi", "did you mean \"skip\"?");
+    row("run photos -o out --workers 0", "--workers: \"0\" is no whole number from 1 to 256");
+    row("run photos -o out --workers many", "from 1 to 256");
+    row("run photos -o out --report r.txt", "must end with .csv or .json");
+    row("run photos -o out --report nowhere/r.csv", "nowhere/r.csv cannot be written");
+    row("run photos -o out --effect blurr", "did you mean \"blur\"?");
+    row("run photos -o out --resum", "unknown option --resum");
+    row("plan photos", "--output DIR says it");
+    row("plan photos -o out --workers 2", "unknown option --workers");
+}
+
+void tst_CliRun::WrongOptionsEndBeforeAnything()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, wanted);
+    const CliRun run = Run(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(wanted), run.err.constData());
+    QVERIFY(run.out.isEmpty());
+    QVERIFY(!QFile::exists(Path(QStringLiteral("out"))));
+}
+
+void tst_CliRun::RunsSideBySide()
+{
+    constexpr int count = 3;
+    std::array<QProcess, count> processes;
+    for (int i = 0; i < count; ++i) {
+        QProcess& process = processes[std::size_t(i)];
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(root->path());
+        process.start(QStringLiteral(VELKORA_BATCH), {QStringLiteral("run"), QStringLiteral("photos"),
+                                                      QStringLiteral("-o"), QStringLiteral("out%1").arg(i)});
+    }
+    for (int i = 0; i < count; ++i) {
+        QProcess& process = processes[std::size_t(i)];
+        QVERIFY(process.waitForFinished(120'000));
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(QDir(Path(QStringLiteral("out%1").arg(i))).entryList(QDir::Files).size(), 3);
+    }
+}
+
+void tst_CliRun::NoServer()
+{
+    const QString lonely = Path(QStringLiteral("lonely"));
+    QVERIFY(QFile::copy(QStringLiteral(VELKORA_BATCH), lonely));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(root->path());
+    process.start(lonely, {QStringLiteral("run"), QStringLiteral("photos"), QStringLiteral("-oout")});
+    QVERIFY(process.waitForFinished(120'000));
+    QCOMPARE(process.exitCode(), 3);
+    const QByteArray err = process.readAllStandardError();
+    QVERIFY2(err.contains("no server works; VelkoraBatchProcessing belongs beside "), err.constData());
+}
+
+void tst_CliRun::NothingIsLeftBehind()
+{
+    QCOMPARE(Run(QStringLiteral("run photos -o out")).exitCode, 0);
+    QVERIFY(QDir(Path(QStringLiteral("tmp"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    QCOMPARE(Results().size(), 3);
+}
+
+QTEST_GUILESS_MAIN(tst_CliRun)
+#include "tst_clirun.moc"

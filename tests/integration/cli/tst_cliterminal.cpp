@@ -1,0 +1,206 @@
+#include "PseudoTerminal.h"
+#include "TestPictures.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QtTest>
+
+/// Runs at a terminal, with a user who watches, answers and interrupts.
+class tst_CliTerminal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void ProgressIsOneLine();
+    void NarrowTerminal();
+    void NoColour();
+    void QuestionsAreAsked_data();
+    void QuestionsAreAsked();
+    void WrongAnswersAreAskedAgain();
+    void EndOfInputMeansSkipping();
+    void StopEndsTheRun();
+    void InterruptCancels();
+    void SecondInterruptEndsAtOnce();
+    void InterruptDuringQuestion();
+
+private:
+    QString Path(const QString& name) const { return root->filePath(name); }
+    QStringList Results() const { return QDir(Path(QStringLiteral("out"))).entryList(QDir::Files); }
+    QStringList Arguments(const QString& text) const
+    {
+        return text.split(QLatin1Char(' ')) << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
+    }
+    void WriteTaken() const
+    {
+        TestPictures::Write(Path(QStringLiteral("out/1.jpg")), 9);
+        TestPictures::Write(Path(QStringLiteral("out/2.jpg")), 9);
+    }
+    void WriteMany() const
+    {
+        for (int i = 0; i < 40; ++i) {
+            TestPictures::Write(Path(QStringLiteral("many/%1.jpg").arg(i)), i, 1500, 1000);
+        }
+    }
+
+    std::unique_ptr<QTemporaryDir> root;
+    const QString program = QStringLiteral(VELKORA_BATCH);
+    QString before;
+    QByteArray temporaryBefore;
+};
+
+void tst_CliTerminal::init()
+{
+    root = std::make_unique<QTemporaryDir>();
+    before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(root->path()));
+    temporaryBefore = QFile::encodeName(QDir::tempPath());
+    qputenv("TMPDIR", QFile::encodeName(root->path()));
+    qputenv("TERM", "xterm");
+    qunsetenv("NO_COLOR");
+    for (int i = 1; i <= 3; ++i) {
+        TestPictures::Write(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
+    }
+}
+
+void tst_CliTerminal::cleanup()
+{
+    QDir::setCurrent(before);
+    qputenv("TMPDIR", temporaryBefore);
+}
+
+void tst_CliTerminal::ProgressIsOneLine()
+{
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QCOMPARE(terminal.ExitCode(), 0);
+    const QByteArray screen = terminal.Output();
+    QVERIFY2(screen.contains("\r\033[K["), screen.constData());
+    QVERIFY2(screen.contains(".] 0/3") || screen.contains("#] ") || screen.contains("/3 "), screen.constData());
+    QVERIFY2(screen.contains("\033[32mWritten"), screen.constData());
+    QVERIFY2(!screen.contains("nobody can be asked"), screen.constData());
+    QCOMPARE(Results().size(), 3);
+}
+
+void tst_CliTerminal::NarrowTerminal()
+{
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")), 40);
+    QCOMPARE(terminal.ExitCode(), 0);
+    const QList<QByteArray> parts = terminal.Output().split('\r');
+    for (const QByteArray& part : parts) {
+        if (part.startsWith("\033[K")) {
+            const QByteArray line = part.mid(3).split('\n').first();
+            QVERIFY2(line.contains('\033') || line.size() < 40, part.constData());
+        }
+    }
+}
+
+void tst_CliTerminal::NoColour()
+{
+    qputenv("NO_COLOR", "1");
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QCOMPARE(terminal.ExitCode(), 0);
+    QVERIFY(terminal.Output().contains("Written"));
+    QVERIFY2(!terminal.Output().contains("\033[3"), terminal.Output().constData());
+}
+
+void tst_CliTerminal::QuestionsAreAsked_data()
+{
+    QTest::addColumn<QByteArray>("answers");
+    QTest::addColumn<int>("questions");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<int>("results");
+    QTest::newRow("this file") << QByteArray("rename\nskip\n") << 2 << 1 << 4;
+    QTest::newRow("first letters") << QByteArray("r\no\n") << 2 << 0 << 4;
+    QTest::newRow("all") << QByteArray("rename all\n") << 1 << 0 << 5;
+    QTest::newRow("all, short") << QByteArray("S a\n") << 1 << 1 << 3;
+}
+
+void tst_CliTerminal::QuestionsAreAsked()
+{
+    QFETCH(QByteArray, answers);
+    QFETCH(int, questions);
+    QFETCH(int, exitCode);
+    QFETCH(int, results);
+    WriteTaken();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    for (const QByteArray& answer : answers.trimmed().split('\n')) {
+        QVERIFY2(terminal.WaitFor("also for all that follow) "), terminal.Output().constData());
+        terminal.Type(answer + '\n');
+    }
+    QCOMPARE(terminal.ExitCode(), exitCode);
+    QCOMPARE(terminal.Output().count("also for all that follow) "), questions);
+    QCOMPARE(Results().size(), results);
+}
+
+void tst_CliTerminal::WrongAnswersAreAskedAgain()
+{
+    WriteTaken();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos/1.jpg -o out")));
+    for (const char* answer : {"what\n", "\n", "skip none\n", "rename\n"}) {
+        QVERIFY2(terminal.WaitFor("also for all that follow) "), terminal.Output().constData());
+        terminal.Type(answer);
+    }
+    QCOMPARE(terminal.ExitCode(), 0);
+    QVERIFY(Results().contains(QStringLiteral("1 (2).jpg")));
+}
+
+void tst_CliTerminal::EndOfInputMeansSkipping()
+{
+    WriteTaken();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    terminal.Type("\x04");
+    QCOMPARE(terminal.ExitCode(), 1);
+    QVERIFY(terminal.Output().contains("Nobody answers"));
+    QCOMPARE(Results().size(), 3);
+}
+
+void tst_CliTerminal::StopEndsTheRun()
+{
+    WriteTaken();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    terminal.Type("stop\n");
+    QCOMPARE(terminal.ExitCode(), 4);
+    QVERIFY(terminal.Output().contains("Cancelled."));
+}
+
+void tst_CliTerminal::InterruptCancels()
+{
+    WriteMany();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run many -o out --effect blur:sigma=5 --workers 1")));
+    QVERIFY2(terminal.WaitFor("/s  "), terminal.Output().constData());
+    terminal.Type("\x03");
+    QCOMPARE(terminal.ExitCode(), 4);
+    QVERIFY2(terminal.Output().contains("Cancelled."), terminal.Output().constData());
+    QVERIFY(terminal.Output().contains("Not processed"));
+    // What was written is whole, and nothing else is there.
+    QVERIFY(!Results().isEmpty());
+    for (const QString& result : Results()) {
+        QVERIFY(QImage(Path(QStringLiteral("out/") + result)).size() == QSize(1500, 1000));
+    }
+    QVERIFY(QDir(root->path()).entryList({QStringLiteral("velkora-batch-*")}).isEmpty());
+}
+
+void tst_CliTerminal::SecondInterruptEndsAtOnce()
+{
+    WriteMany();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run many -o out --effect blur:sigma=5 --workers 1")));
+    QVERIFY2(terminal.WaitFor("/s  "), terminal.Output().constData());
+    terminal.Type("\x03\x03");
+    QCOMPARE(terminal.ExitCode(), 4);
+}
+
+void tst_CliTerminal::InterruptDuringQuestion()
+{
+    WriteTaken();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    terminal.Type("\x03");
+    QCOMPARE(terminal.ExitCode(), 4);
+    QVERIFY(terminal.Output().contains("Cancelled."));
+}
+
+QTEST_GUILESS_MAIN(tst_CliTerminal)
+#include "tst_cliterminal.moc"
