@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include <random>
+
+/// The bytes of a picture, and the extension that belongs to them.
+struct PictureBytes
+{
+    QString extension;
+    QByteArray bytes;
+};
+
+/// Small pictures of every format that this installation can write: grey, RGB, with alpha, 16 bits, with a profile and
+/// EXIF, as far as the format takes them.
+QVector<PictureBytes> SmallPictures();
+
+/// `bytes` with one kind of damage, which `random` chooses: flipped bits, a cut, a header with extreme values, a piece
+/// that is missing, twice there or overwritten.
+QByteArray Mutated(const QByteArray& bytes, std::mt19937& random);
