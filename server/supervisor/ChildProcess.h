@@ -8,7 +8,7 @@ class ChildProcess : public QProcess
     Q_OBJECT
 
 public:
-    using QProcess::QProcess;
+    explicit ChildProcess(QObject* parent = nullptr);
 
 protected:
     void setupChildProcess() override;

@@ -3,10 +3,16 @@
 #include "PeerUser.h"
 
 #include <QLocalSocket>
+#include <QThread>
 
 namespace {
 
 constexpr int answerTime = 1000; // ms
+
+// A server that was killed answers until the processes that it was just starting have followed it, and one that ends
+// needs a moment to let its pipe go.
+constexpr int attempts = 20;
+constexpr int attemptInterval = 50; // ms
 
 bool IsAnswering(const QString& pipeName)
 {
@@ -26,9 +32,12 @@ Listener::Listener(QObject* parent)
 
 bool Listener::Listen(const QString& pipeName)
 {
-    if (IsAnswering(pipeName)) {
-        error = QStringLiteral("another server listens on it already");
-        return false;
+    for (int attempt = 1; IsAnswering(pipeName); ++attempt) {
+        if (attempt == attempts) {
+            error = QStringLiteral("another server listens on it already");
+            return false;
+        }
+        QThread::msleep(attemptInterval);
     }
     QLocalServer::removeServer(pipeName);
     if (!server.listen(pipeName)) {

@@ -14,8 +14,7 @@ using namespace std::chrono_literals;
 namespace {
 
 /// How long a server waits for its first host, and for a host that comes back before it has begun a session.
-constexpr auto firstHostTime = 60s;
-constexpr auto nextHostTime = 5s;
+constexpr auto hostTime = 30s;
 
 /// Runs that cannot be cancelled by then, because a file system does not answer, are left.
 constexpr auto endTime = 10s;
@@ -50,7 +49,7 @@ bool Server::Start(const QString& pipeName)
         return false;
     }
     pool.Start();
-    loneliness.start(firstHostTime);
+    loneliness.start(hostTime);
     return true;
 }
 
@@ -251,7 +250,7 @@ void Server::LosePipe(ZTPipeSession* pipe)
         End();
     } else {
         // A host may give an early connection up and come back at once.
-        loneliness.start(nextHostTime);
+        loneliness.start(hostTime);
     }
 }
 

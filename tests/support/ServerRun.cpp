@@ -8,8 +8,14 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/types.h>
+#endif
 
 namespace {
 
@@ -117,6 +123,25 @@ bool ServerRun::Connect()
         patience);
 }
 
+bool ServerRun::KillServer()
+{
+    QList<qint64> children;
+#ifdef Q_OS_UNIX
+    // It starts no further process while somebody counts them.
+    ::kill(pid_t(server.processId()), SIGSTOP);
+    children = WorkerIds();
+#endif
+    server.kill();
+    if (!server.waitForFinished(patience)) {
+        return false;
+    }
+#ifdef Q_OS_UNIX
+    return QTest::qWaitFor([&] { return std::all_of(children.begin(), children.end(), HasEnded); }, patience);
+#else
+    return true;
+#endif
+}
+
 QString ServerRun::Job(const QStringList& inputs, const std::function<void(ZTBatchDocument&)>& change) const
 {
     ZTBatchDocument job;
@@ -180,6 +205,22 @@ QString ServerRun::Report() const
     return lines.join(QLatin1Char('\n')) + QStringLiteral("\nserver says: ") + errors;
 }
 
+bool ServerRun::HasEnded(qint64 process)
+{
+#ifdef Q_OS_LINUX
+    // One that has ended keeps its number until its new parent asks for its end, which may take seconds.
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return true;
+    }
+    const QByteArray status = file.readAll();
+    return status.isEmpty() || status.mid(status.lastIndexOf(')') + 2, 1) == "Z";
+#else
+    Q_UNUSED(process)
+    return true;
+#endif
+}
+
 QList<qint64> ServerRun::WorkerIds() const
 {
     QList<qint64> ids;
@@ -195,6 +236,20 @@ QList<qint64> ServerRun::WorkerIds() const
     }
 #endif
     return ids;
+}
+
+qint64 ServerRun::PeakMemory() const
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(server.processId()));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:")) {
+            return line.simplified().split(' ').value(1).toLongLong() * 1024;
+        }
+    }
+    return 0;
 }
 
 QString ServerRun::Short(const QString& path) const

@@ -51,6 +51,12 @@ public:
     bool StartServer();
     bool Connect();
 
+    /// Kills the server, and returns when its workers have followed it.
+    bool KillServer();
+
+    /// The host goes, without a word.
+    void DropPipe() { pipe.reset(); }
+
     /// The text of a job for the files, with results in the folder "out" under their original names, as JPEG.
     QString Job(const QStringList& inputs, const std::function<void(ZTBatchDocument&)>& change = {}) const;
 
@@ -90,6 +96,12 @@ public:
 
     /// The process ids of the workers.
     QList<qint64> WorkerIds() const;
+
+    /// Whether a process has ended; always true where that is not to be had.
+    static bool HasEnded(qint64 process);
+
+    /// The most memory that the server ever had, in bytes; 0 where that is not to be had.
+    qint64 PeakMemory() const;
 
     QProcess& Server() { return server; }
     ZTPipeSession* Pipe() { return pipe.get(); }

@@ -1,0 +1,467 @@
+#include "ServerRun.h"
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QImage>
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <filesystem>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <unistd.h>
+#endif
+
+using Settings = ZTBatchOutputSettings;
+using Policies = ServerRun::Policies;
+
+/// What the server promises, and attempts to make it break its word.
+class tst_ServerPromises : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void brokenWorkersCostOnePicture_data();
+    void brokenWorkersCostOnePicture();
+    void idleWorkersAreReplaced();
+    void manyCrashes();
+
+    void resultsAreWholeOrAbsent_data();
+    void resultsAreWholeOrAbsent();
+    void fullDisk_data();
+    void fullDisk();
+    void foldersThatGoHalfWay_data();
+    void foldersThatGoHalfWay();
+    void foldersThatCannotBeMade();
+
+    void hostileNames();
+    void hostileTexts();
+    void namesThatAreNoText();
+    void memoryOfManyFiles();
+};
+
+namespace {
+
+QByteArray Photo()
+{
+    QImage picture(160, 120, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            picture.setPixel(x, y, qRgb(x, 2 * y, (x * y) % 256));
+        }
+    }
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "PNG");
+    return bytes;
+}
+
+QStringList Temporary(const QStringList& names)
+{
+    return names.filter(QRegularExpression(QStringLiteral("\\A\\.velkora-.*\\.tmp\\z")));
+}
+
+#ifdef Q_OS_LINUX
+bool Mount(const QStringList& arguments)
+{
+    return ::geteuid() == 0 && QProcess::execute(QStringLiteral("mount"), arguments) == 0;
+}
+
+/// A small file system in memory, as long as this object lives.
+class SmallDisk
+{
+public:
+    SmallDisk(const QString& path, const QString& size)
+        : path(path)
+        , isThere(QDir().mkpath(path) && Mount({QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                                QStringLiteral("size=") + size, QStringLiteral("none"), path}))
+    {
+    }
+    ~SmallDisk()
+    {
+        if (isThere) {
+            QProcess::execute(QStringLiteral("umount"), {QStringLiteral("--lazy"), path});
+        }
+    }
+    bool IsThere() const { return isThere; }
+    bool MakeReadOnly() const { return Mount({QStringLiteral("-o"), QStringLiteral("remount,ro"), path}); }
+
+private:
+    Q_DISABLE_COPY(SmallDisk)
+
+    QString path;
+    bool isThere;
+};
+#endif
+
+} // namespace
+
+void tst_ServerPromises::brokenWorkersCostOnePicture_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<int>("code");
+#ifdef Q_OS_UNIX
+    QTest::newRow("killed") << QByteArray("hang") << int(SIGKILL) << 9;
+    QTest::newRow("segmentation fault") << QByteArray("hang") << int(SIGSEGV) << 9;
+    QTest::newRow("stopped from outside") << QByteArray("hang") << int(SIGSTOP) << 9;
+    QTest::newRow("stops by itself") << QByteArray("stop") << 0 << 9;
+#endif
+    QTest::newRow("hangs") << QByteArray("hang") << 0 << 9;
+    QTest::newRow("takes all memory") << QByteArray("eat") << 0 << 10;
+}
+
+void tst_ServerPromises::brokenWorkersCostOnePicture()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, signal);
+    QFETCH(int, code);
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_PICTURE_SECONDS"),
+                    code == 10 || signal == SIGKILL ? QStringLiteral("60") : QStringLiteral("1"));
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKER_MIB"), QStringLiteral("128"));
+    QStringList inputs{run.Write(QStringLiteral("in/bad.jpg"), script)};
+    for (int i = 0; i < 5; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1.jpg").arg(i), "good"));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    if (signal != 0) {
+        QVERIFY2(run.WaitFor(QStringLiteral("file [in/bad.jpg]")), qPrintable(run.Report()));
+        // It has begun to write.
+        QVERIFY(QTest::qWaitFor([&] { return !Temporary(run.Names(QStringLiteral("out"))).isEmpty(); }, 30000));
+#ifdef Q_OS_UNIX
+        QCOMPARE(run.WorkerIds().size(), 1);
+        ::kill(pid_t(run.WorkerIds().first()), signal);
+#endif
+    }
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("error")),
+             QStringList{QStringLiteral("error [in/bad.jpg] [out/bad.jpg] 1 %1").arg(code)});
+    QCOMPARE(run.Names(QStringLiteral("out")),
+             (QStringList{QStringLiteral("0.jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
+                          QStringLiteral("3.jpg"), QStringLiteral("4.jpg")}));
+    QCOMPARE(run.Content(QStringLiteral("in/bad.jpg")), script);
+}
+
+void tst_ServerPromises::idleWorkersAreReplaced()
+{
+#ifdef Q_OS_LINUX
+    ServerRun run(ServerRun::Worker::StandIn);
+    QVERIFY(run.Start());
+    QVERIFY(QTest::qWaitFor([&] { return run.WorkerIds().size() == 2; }, 30000));
+    const QList<qint64> first = run.WorkerIds();
+    ::kill(pid_t(first[0]), SIGKILL);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            const QList<qint64> now = run.WorkerIds();
+            return now.size() == 2 && !now.contains(first[0]) && now.contains(first[1]);
+        },
+        30000));
+    run.Process(run.Job({run.Write(QStringLiteral("in/a.jpg"), "a")}));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("processed")), 1);
+#else
+    QSKIP("Written for Linux.");
+#endif
+}
+
+void tst_ServerPromises::manyCrashes()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    QStringList inputs;
+    for (int i = 0; i < 60; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1.jpg").arg(i), i % 2 == 0 ? "crash" : "good"));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("log Finished: 30 written, 0 skipped, 30 failed.")), 1);
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), 30);
+}
+
+void tst_ServerPromises::resultsAreWholeOrAbsent_data()
+{
+    QTest::addColumn<bool>("isReal");
+    QTest::addColumn<int>("moments");
+    QTest::newRow("stand-in") << false << 140;
+    QTest::newRow("pictures") << true << 60;
+}
+
+/// The supervisor is killed at random moments of a run; the next one finishes the work of the last.
+void tst_ServerPromises::resultsAreWholeOrAbsent()
+{
+    QFETCH(bool, isReal);
+    QFETCH(int, moments);
+    ServerRun run(isReal ? ServerRun::Worker::Real : ServerRun::Worker::StandIn);
+    const QByteArray content = isReal ? Photo() : QByteArray(300'000, 'x');
+    QStringList inputs;
+    for (int i = 0; i < 12; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1.png").arg(i), content));
+    }
+    QByteArray whole;
+    QRandomGenerator random(20240229);
+    int unfinished = 0;
+    int left = 0;
+    int longest = 0; // ms
+    for (int moment = -1; moment < moments; ++moment) {
+        QVERIFY(QDir(run.Path(QStringLiteral("out"))).removeRecursively() || moment == -1);
+        run.lines.clear();
+        QVERIFY(run.Start());
+        QElapsedTimer time;
+        time.start();
+        run.Process(run.Job(inputs));
+        if (moment == -1) {
+            QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+            longest = int(time.elapsed());
+            whole = run.Content(QStringLiteral("out/0.jpg"));
+            QVERIFY(!whole.isEmpty());
+        } else {
+            const int delay = random.bounded(longest + 1);
+            QTest::qWait(delay);
+        }
+        QVERIFY2(run.Server().state() == QProcess::Running, qPrintable(run.Report()));
+        QVERIFY(run.KillServer());
+        run.DropPipe();
+        unfinished += run.Count(QStringLiteral("finished")) == 0 ? 1 : 0;
+
+        for (const QString& name : run.Names(QStringLiteral("out"))) {
+            if (Temporary({name}).isEmpty()) {
+                QCOMPARE(run.Content(QStringLiteral("out/") + name), whole);
+            } else {
+                ++left;
+            }
+        }
+    }
+    // The moments were moments of work.
+    QVERIFY2(unfinished > moments / 4, qPrintable(QString::number(unfinished)));
+    qInfo("%d of %d runs were cut, which left %d temporary files", unfinished, moments, left);
+
+    QVERIFY(QDir().mkpath(run.Path(QStringLiteral("out"))));
+    run.Write(QStringLiteral("out/.velkora-0123456789abcdef.tmp"), "what a crash has left");
+    run.lines.clear();
+    QVERIFY(run.Start());
+    Policies policies;
+    policies.naming = ZTBatchManager::NamingOverwrite;
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), inputs.size());
+    QVERIFY(Temporary(run.Names(QStringLiteral("out"))).isEmpty());
+    QVERIFY2(run.Count(QStringLiteral("log Removed ")) == 1, qPrintable(run.Report()));
+    for (int i = 0; i < inputs.size(); ++i) {
+        QCOMPARE(run.Content(QStringLiteral("in/%1.png").arg(i)), content);
+    }
+}
+
+void tst_ServerPromises::fullDisk_data()
+{
+    QTest::addColumn<bool>("isReal");
+    QTest::newRow("stand-in") << false;
+    QTest::newRow("pictures") << true;
+}
+
+void tst_ServerPromises::fullDisk()
+{
+#ifdef Q_OS_LINUX
+    QFETCH(bool, isReal);
+    ServerRun run(isReal ? ServerRun::Worker::Real : ServerRun::Worker::StandIn);
+    const SmallDisk disk(run.Path(QStringLiteral("out")), QStringLiteral("256k"));
+    if (!disk.IsThere()) {
+        QSKIP("No file system can be mounted here.");
+    }
+    const QByteArray content = isReal ? Photo() : QByteArray(100'000, 'x');
+    // One picture has room, another has not: as a PNG the photo takes some tens of kilobytes.
+    run.Write(QStringLiteral("out/filler"), QByteArray(isReal ? 230'000 : 100'000, 'x'));
+    QStringList inputs;
+    for (int i = 0; i < 4; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1.png").arg(i), content));
+    }
+    QVERIFY(run.Start());
+    run.Process(
+        run.Job(inputs, [](ZTBatchDocument& job) { job.GetOutputSettings()->SetFormat(QStringLiteral("PNG"), {}); }));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    const QStringList errors = run.Lines(QStringLiteral("error"));
+    QVERIFY2(!errors.isEmpty(), qPrintable(run.Report()));
+    for (const QString& error : errors) {
+        QVERIFY2(error.endsWith(QStringLiteral(" 1 4")), qPrintable(error));
+    }
+    QCOMPARE(run.Count(QStringLiteral("processed")) + errors.size(), 4);
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), 1 + run.Count(QStringLiteral("processed")));
+    QVERIFY(Temporary(run.Names(QStringLiteral("out"))).isEmpty());
+#else
+    QSKIP("Written for Linux.");
+#endif
+}
+
+void tst_ServerPromises::foldersThatGoHalfWay_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("read-only") << QStringLiteral("read-only");
+    QTest::newRow("removed") << QStringLiteral("removed");
+    QTest::newRow("replaced by a file") << QStringLiteral("replaced");
+}
+
+void tst_ServerPromises::foldersThatGoHalfWay()
+{
+#ifdef Q_OS_LINUX
+    QFETCH(QString, how);
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    std::unique_ptr<SmallDisk> disk;
+    if (how == QLatin1String("read-only")) {
+        disk = std::make_unique<SmallDisk>(run.Path(QStringLiteral("out")), QStringLiteral("1m"));
+        if (!disk->IsThere()) {
+            QSKIP("No file system can be mounted here.");
+        }
+    }
+    const QString gate = run.Path(QStringLiteral("gate"));
+    const QStringList inputs{run.Write(QStringLiteral("in/before.jpg"), "good"),
+                             run.Write(QStringLiteral("in/during.jpg"), "wait " + gate.toUtf8()),
+                             run.Write(QStringLiteral("in/after.jpg"), "good")};
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitFor(QStringLiteral("file [in/during.jpg]")), qPrintable(run.Report()));
+    if (disk) {
+        QVERIFY(disk->MakeReadOnly());
+    } else {
+        QVERIFY(QDir().rename(run.Path(QStringLiteral("out")), run.Path(QStringLiteral("moved"))));
+        if (how == QLatin1String("replaced")) {
+            run.Write(QStringLiteral("out"), "a file");
+        }
+    }
+    run.Write(QStringLiteral("gate"), {});
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("error")),
+             (QStringList{QStringLiteral("error [in/during.jpg] [out/during.jpg] 1 4"),
+                          QStringLiteral("error [in/after.jpg] [out/after.jpg] 1 4")}));
+    QCOMPARE(run.Names(disk ? QStringLiteral("out") : QStringLiteral("moved")),
+             QStringList{QStringLiteral("before.jpg")});
+#else
+    QSKIP("Written for Linux.");
+#endif
+}
+
+void tst_ServerPromises::foldersThatCannotBeMade()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.Write(QStringLiteral("out"), "a file");
+    QVERIFY(run.Start());
+    run.Process(run.Job({run.Write(QStringLiteral("in/a.jpg"), "a")}));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("error")), QStringList{QStringLiteral("error [in/a.jpg] [out/a.jpg] 1 4")});
+    QCOMPARE(run.Content(QStringLiteral("out")), QByteArray("a file"));
+}
+
+void tst_ServerPromises::hostileNames()
+{
+#ifdef Q_OS_UNIX
+    ServerRun run(ServerRun::Worker::Real);
+    const QStringList stems{
+        QStringLiteral("-rf"),
+        QStringLiteral("two\nlines"),
+        QStringLiteral("CON"),
+        QStringLiteral("..\\..\\x"),
+        QStringLiteral("..."),
+        QStringLiteral("%s%n$(id)`id`;&|"),
+        QStringLiteral(u"\u202Egpj.exe"),
+        QStringLiteral(u"\U0001F30A"),
+        QStringLiteral("a[b]"), // Libraries read options behind a name.
+        QString(251, QLatin1Char('a')),
+    };
+    const QByteArray photo = Photo();
+    QStringList inputs;
+    for (const QString& stem : stems) {
+        inputs.append(run.Write(QStringLiteral("in/") + stem + QStringLiteral(".png"), photo));
+    }
+    QStringList before = run.Names(QStringLiteral("."));
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("processed")), stems.size());
+    const QStringList results{QStringLiteral("-rf.jpg"),
+                              QStringLiteral("two_lines.jpg"),
+                              QStringLiteral("_.jpg"),
+                              QStringLiteral(".._.._x.jpg"),
+                              QStringLiteral("___.jpg"),
+                              QStringLiteral("%s%n$(id)`id`;&_.jpg"),
+                              QString(251, QLatin1Char('a')) + QStringLiteral(".jpg")};
+    for (const QString& result : results) {
+        QVERIFY2(!run.Content(QStringLiteral("out/") + result).isNull(), qPrintable(result));
+    }
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), stems.size());
+    before.append(QStringLiteral("out"));
+    QStringList after = run.Names(QStringLiteral("."));
+    after.removeAll(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    before.sort();
+    after.sort();
+    QCOMPARE(after, before);
+#else
+    QSKIP("The file system refuses such names.");
+#endif
+}
+
+void tst_ServerPromises::hostileTexts()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    QVERIFY(run.Start());
+    run.Process(run.Job({run.Write(QStringLiteral("in/a.jpg"), "a")}, [](ZTBatchDocument& job) {
+        Settings& settings = *job.GetOutputSettings();
+        settings.SetNamingTemplate(Settings::PartMiddle, Settings::TemplateCustomText);
+        settings.SetCustomTemplate(Settings::PartMiddle, QStringLiteral("../../x"));
+        settings.SetPrefixSeparator(QStringLiteral("/../"));
+    }));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral(".._.._x.jpg")});
+}
+
+void tst_ServerPromises::namesThatAreNoText()
+{
+#ifdef Q_OS_LINUX
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.Write(QStringLiteral("out/good.txt"), {});
+    // No job can name this file, but it stands where the server looks.
+    const std::string odd = run.Path(QStringLiteral("out/")).toStdString() + "caf\xE9.jpg";
+    std::filesystem::copy_file(run.Path(QStringLiteral("out/good.txt")).toStdString(), odd);
+    const QStringList inputs{run.Path(QStringLiteral("in/caf")) + QChar(0xFFFD) + QStringLiteral(".jpg"),
+                             run.Write(QStringLiteral("in/good.jpg"), "good")};
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("log Finished: 1 written, 0 skipped, 1 failed.")) +
+                 run.Count(QStringLiteral("log Finished: 1 written, 1 skipped, 0 failed.")),
+             1);
+    QVERIFY(std::filesystem::remove(odd)); // Qt cannot.
+#else
+    QSKIP("Written for Linux.");
+#endif
+}
+
+void tst_ServerPromises::memoryOfManyFiles()
+{
+#ifdef Q_OS_LINUX
+    constexpr int count = 100'000;
+    ServerRun run(ServerRun::Worker::StandIn);
+    QStringList inputs;
+    for (int i = 0; i < count; ++i) {
+        inputs.append(QStringLiteral("/home/someone/Pictures/2024/Summer/IMG_%1.jpg").arg(i, 6, 10, QLatin1Char('0')));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(QTest::qWaitFor([&] { return run.Count(QStringLiteral("range")) > 0; }, 120000), qPrintable(run.Report()));
+    QVERIFY2(QTest::qWaitFor([&] { return run.Count(QStringLiteral("progress 20000")) > 0; }, 120000),
+             "no files are done");
+    const qint64 peak = run.PeakMemory();
+    qInfo("%d files: peak of %lld KiB", count, peak / 1024);
+    QVERIFY(peak > 0);
+    QVERIFY2(peak <= (qint64(60) << 20) + qint64(count) * 1024, qPrintable(QString::number(peak / 1024)));
+    run.Send<ZTBatchMessage::MsgCancel>();
+    QVERIFY(run.WaitFor(QStringLiteral("cancelled")));
+#else
+    QSKIP("Written for Linux.");
+#endif
+}
+
+QTEST_GUILESS_MAIN(tst_ServerPromises)
+#include "tst_serverpromises.moc"
