@@ -246,15 +246,19 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
     const ResultTarget result(descriptor, before);
     Options* set = Picture::option()->set("in", picture)->set("target", result.Target());
     saver.setOptions(set, options, picture);
-    try {
-        Picture::call(saver.operation, set);
-    } catch (const vips::VError&) {
+    const auto checkFile = [&result] {
         if (result.Problem() != 0) {
             vips_error_clear();
             throw OutputFailed(qt_error_string(result.Problem()));
         }
+    };
+    try {
+        Picture::call(saver.operation, set);
+    } catch (const vips::VError&) {
+        checkFile();
         throw;
     }
+    checkFile();
 }
 
 } // namespace BatchServer

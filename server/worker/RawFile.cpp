@@ -79,6 +79,7 @@ Picture RawFile::Develop(bool isHalf)
     params.gamm[1] = 12.92;
     params.output_bps = bitsOfResult;
     params.no_auto_bright = 1;
+    params.adjust_maximum_thr = 0;
     params.half_size = isHalf ? 1 : 0;
     params.user_flip = 0; // as stored: it is turned with the others, after scaling
     Check(raw->unpack());

@@ -26,21 +26,21 @@ ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
     g_signal_connect(object, "write", G_CALLBACK(static_cast<WriteHandler>(write)), this);
     g_signal_connect(object, "read", G_CALLBACK(static_cast<ReadHandler>(read)), this);
     g_signal_connect(object, "seek", G_CALLBACK(static_cast<SeekHandler>(seek)), this);
-    for (gint64 written = 0; written < lengthBefore && problem == 0;) {
-        written += Write(before.constData() + written, lengthBefore - written);
-    }
+    Write(before.constData(), lengthBefore);
 }
 
+// What cannot be written counts as written nonetheless: not every encoder survives a target that fails.
 gint64 ResultTarget::Write(const char* data, gint64 length)
 {
-    ssize_t written = 0;
-    do {
-        written = ::write(descriptor, data, size_t(length));
-    } while (written < 0 && errno == EINTR);
-    if (written < 0 && problem == 0) {
-        problem = errno;
+    for (gint64 done = 0; done < length && problem == 0;) {
+        const ssize_t written = ::write(descriptor, data + done, size_t(length - done));
+        if (written >= 0) {
+            done += written;
+        } else if (errno != EINTR) {
+            problem = errno;
+        }
     }
-    return written;
+    return length;
 }
 
 // The library counts from the first byte of its own.

@@ -7,7 +7,7 @@
 namespace BatchServer {
 
 /// An open file as target of the imaging library, which remembers why it could not be written: the library tells a full
-/// disk and a damaged source with the same exception.
+/// disk and a damaged source with the same exception. A failure does not stop the library; it has to be asked for.
 class ResultTarget
 {
 public:

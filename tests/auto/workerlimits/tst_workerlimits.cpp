@@ -1,0 +1,291 @@
+#include "BatchValues.h"
+#include "TemporaryFile.h"
+#include "WorkerBench.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTStyle.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace BatchServer;
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool isSanitized = true;
+#else
+constexpr bool isSanitized = false;
+#endif
+
+QString Text(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+// A line of the system's account of a process, such as "VmHWM".
+QByteArray StatusOf(qint64 process, const char* line)
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(process));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray& text : lines) {
+        if (text.startsWith(QByteArray(line) + ':')) {
+            return text.mid(int(qstrlen(line)) + 1).simplified();
+        }
+    }
+    return {};
+}
+
+rlimit LimitOf(qint64 process, __rlimit_resource resource)
+{
+    rlimit limit{};
+    prlimit(pid_t(process), resource, nullptr, &limit);
+    return limit;
+}
+
+// Photo-like noise, which no encoder packs small.
+Picture Noise(int width, int height)
+{
+    const Picture band = Picture::gaussnoise(width, height, Picture::option()->set("mean", 128.0)->set("sigma", 40.0))
+                             .cast(VIPS_FORMAT_UCHAR);
+    return band.bandjoin(band.invert())
+        .bandjoin(band)
+        .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB))
+        .copy_memory();
+}
+
+} // namespace
+
+/// What a worker may take, what it leaves behind, and what it gives up.
+class WorkerLimitsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void leavesNothingOnAFullDisk_data();
+    void leavesNothingOnAFullDisk();
+    void goesOnAfterAFullDisk();
+    void boundsItsMemory();
+    void staysSmall_data();
+    void staysSmall();
+    void givesUpRights();
+    void endsWithItsSupervisor();
+    void marksItsTemporaryFiles();
+    void sweepsStaleFilesOnly();
+    void tellsFailedEffectsFromDamagedFiles();
+};
+
+void WorkerLimitsTest::initTestCase()
+{
+    StartPictures();
+}
+
+void WorkerLimitsTest::leavesNothingOnAFullDisk_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const char* format : {"JPEG", "PNG", "TIFF", "WebP", "HEIF", "AVIF", "JPEG XL", "JPEG 2000", "GIF"}) {
+        QTest::newRow(format) << Text(format);
+    }
+}
+
+void WorkerLimitsTest::leavesNothingOnAFullDisk()
+{
+    QFETCH(const QString, format);
+
+    WorkerBench bench;
+    WritePicture(Noise(200, 150), bench.Path(Text("in.png")));
+    const rlimit small{2'000, 2'000};
+    QCOMPARE(prlimit(pid_t(bench.Worker().ProcessId()), RLIMIT_FSIZE, &small, nullptr), 0);
+    const Report report = bench.Make(Text("in.png"), Text("out"), format);
+    QVERIFY2(report.failure == Case::Output, qPrintable(report.reason));
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
+    QVERIFY(!report.reason.isEmpty());
+    QCOMPARE(bench.Names(), QStringList(Text("in.png")));
+}
+
+void WorkerLimitsTest::goesOnAfterAFullDisk()
+{
+    WorkerBench bench;
+    WritePicture(Noise(200, 150), bench.Path(Text("in.png")));
+    WritePicture(Picture::black(10, 10), bench.Path(Text("small.png")));
+    const rlimit small{2'000, 2'000};
+    QCOMPARE(prlimit(pid_t(bench.Worker().ProcessId()), RLIMIT_FSIZE, &small, nullptr), 0);
+    QCOMPARE(bench.Make(Text("in.png"), Text("out.png"), Text("PNG")).failure, Case::Output);
+    QCOMPARE(bench.Make(Text("small.png"), Text("out.png"), Text("PNG")).reason, QString());
+}
+
+void WorkerLimitsTest::boundsItsMemory()
+{
+    if (isSanitized) {
+        QSKIP("sanitizers reserve more address space than any limit");
+    }
+    WorkerBench bench;
+    // Turned by a quarter, so that it has to stand in memory as a whole.
+    Picture large = Picture::black(9000, 9000, Picture::option()->set("bands", 3))
+                        .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+    large.set(VIPS_META_ORIENTATION, 6);
+    WritePicture(large, bench.Path(Text("in.jpg")));
+    WritePicture(Chart(30, 20), bench.Path(Text("small.jpg")));
+    Job job = JobOf(Text("JPEG"));
+    job.limits.workerMemory = qint64(150) << 20;
+    const Report report = bench.Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG"), job);
+    const bool isReported = report.failure == Case::Input && report.errorCode == ZTBatchMessage::ImageTooLarge;
+    const bool isEnded = bench.Worker().ExitCode() == workerOutOfMemory;
+    QVERIFY2(isReported || isEnded, qPrintable(report.reason));
+    QVERIFY(!QFile::exists(bench.Path(Text("out.jpg"))));
+}
+
+void WorkerLimitsTest::staysSmall_data()
+{
+    QTest::addColumn<bool>("hasEffect");
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<bool>("isSmaller");
+    QTest::newRow("as it is") << false << 1 << false;
+    QTest::newRow("turned") << false << 6 << false;
+    QTest::newRow("smaller") << false << 1 << true;
+    QTest::newRow("with an effect") << true << 1 << false;
+    QTest::newRow("with an effect, smaller and turned") << true << 6 << true;
+}
+
+void WorkerLimitsTest::staysSmall()
+{
+    QFETCH(const bool, hasEffect);
+    QFETCH(const int, orientation);
+    QFETCH(const bool, isSmaller);
+    if (isSanitized) {
+        QSKIP("sanitizers take memory of their own");
+    }
+
+    WorkerBench bench;
+    Picture photo = Noise(1000, 1000).replicate(6, 4);
+    photo.set(VIPS_META_ORIENTATION, orientation);
+    WritePicture(photo, bench.Path(Text("in.jpg")));
+    const Job job = JobOf([hasEffect, isSmaller](ZTBatchDocument& document) {
+        document.GetOutputSettings()->SetFormat(Text("JPEG"), {});
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = isSmaller ? int(BatchValues::SizeRestriction::Fit) : 0;
+        size.size = 1600;
+        document.GetOutputSettings()->SetImageSizeSettings(size);
+        if (hasEffect) {
+            document.GetStyle()->AppendEffect(Text("sharpen"), "{}", true);
+        }
+    });
+    QCOMPARE(bench.Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG"), job).reason, QString());
+    constexpr int most = 160; // MiB
+    const int peak = StatusOf(bench.Worker().ProcessId(), "VmHWM").split(' ').first().toInt() / 1024;
+    qInfo("24 megapixels: %d MiB at the peak", peak);
+    QVERIFY2(peak > 0 && peak <= most, qPrintable(QStringLiteral("%1 MiB").arg(peak)));
+}
+
+void WorkerLimitsTest::givesUpRights()
+{
+    WorkerBench bench;
+    WritePicture(Chart(30, 20), bench.Path(Text("in.png")));
+    QCOMPARE(bench.Make(Text("in.png"), Text("out.png"), Text("PNG")).reason, QString());
+    const qint64 process = bench.Worker().ProcessId();
+    QCOMPARE(StatusOf(process, "NoNewPrivs"), QByteArray("1"));
+    QCOMPARE(StatusOf(process, "Seccomp"), QByteArray("2"));
+    QCOMPARE(qint64(LimitOf(process, RLIMIT_CORE).rlim_max), qint64(0));
+    const ServerLimits limits;
+    if (!isSanitized) {
+        QCOMPARE(qint64(LimitOf(process, RLIMIT_DATA).rlim_max), limits.workerMemory);
+    }
+    QVERIFY(LimitOf(process, RLIMIT_FSIZE).rlim_max != RLIM_INFINITY);
+}
+
+void WorkerLimitsTest::endsWithItsSupervisor()
+{
+    // A shell in the place of the supervisor starts a worker whose input never ends, and is killed.
+    QTemporaryDir folder;
+    QProcess shell;
+    const QString script = Text("mkfifo \"$0/input\"; exec 3<>\"$0/input\"; \"$1\" <\"$0/input\" >/dev/null & "
+                                "echo $!; wait");
+    shell.start(Text("bash"), {Text("-c"), script, folder.path(), Text(WORKER_PATH)});
+    QVERIFY(shell.waitForReadyRead(30'000));
+    const pid_t worker = shell.readLine().trimmed().toInt();
+    QVERIFY(worker > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(StatusOf(worker, "Seccomp") == "2", 30'000);
+    shell.kill();
+    QVERIFY(shell.waitForFinished(30'000));
+    QTRY_VERIFY_WITH_TIMEOUT(StatusOf(worker, "Name").isEmpty() || StatusOf(worker, "State").startsWith('Z'), 30'000);
+}
+
+void WorkerLimitsTest::marksItsTemporaryFiles()
+{
+    QTemporaryDir folder;
+    TemporaryFile file(folder.filePath(Text("result.jpg")));
+    QVERIFY(file.Create());
+    const QString name = QFileInfo(file.FileName()).fileName();
+    QVERIFY2(QRegularExpression(Text("^\\.velkora-[0-9a-f]{16}\\.tmp$")).match(name).hasMatch(), qPrintable(name));
+    QCOMPARE(QFileInfo(file.FileName()).path(), folder.path());
+    QCOMPARE(write(file.Descriptor(), "whole", 5), ssize_t(5));
+    QCOMPARE(TemporaryFile::Sweep(folder.path()), 0);
+    QCOMPARE(file.Place(false), TemporaryFile::Placement::Done);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(Text("result.jpg")));
+}
+
+void WorkerLimitsTest::sweepsStaleFilesOnly()
+{
+    QTemporaryDir folder;
+    const auto make = [&folder](const char* name) {
+        QFile file(folder.filePath(Text(name)));
+        return file.open(QIODevice::WriteOnly);
+    };
+    QVERIFY(make(".velkora-0123456789abcdef.tmp"));
+    QVERIFY(make(".velkora-0123456789abcde.tmp"));
+    QVERIFY(make(".velkora-0123456789abcdef.tmp.jpg"));
+    QVERIFY(make("velkora-0123456789abcdef.tmp"));
+    QVERIFY(make("photo.jpg"));
+    QVERIFY(QDir(folder.path()).mkdir(Text(".velkora-00000000000000aa.tmp")));
+    QVERIFY(QFile::link(folder.filePath(Text("photo.jpg")), folder.filePath(Text(".velkora-00000000000000bb.tmp"))));
+    TemporaryFile inWork(folder.filePath(Text("result.jpg")));
+    QVERIFY(inWork.Create());
+    QCOMPARE(TemporaryFile::Sweep(folder.path()), 1);
+    QVERIFY(!QFile::exists(folder.filePath(Text(".velkora-0123456789abcdef.tmp"))));
+    QVERIFY(QFile::exists(inWork.FileName()));
+    QVERIFY(QFile::exists(folder.filePath(Text("photo.jpg"))));
+    QCOMPARE(
+        QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System).size(), 7);
+    QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))), 0);
+}
+
+void WorkerLimitsTest::tellsFailedEffectsFromDamagedFiles()
+{
+    WorkerBench bench;
+    const auto jobWith = [](const QByteArray& effect, const QByteArray& parameters) {
+        return JobOf([&](ZTBatchDocument& document) {
+            document.GetOutputSettings()->SetFormat(Text("PNG"), {});
+            document.GetStyle()->AppendEffect(QString::fromUtf8(effect), parameters, true);
+        });
+    };
+    WritePicture(Noise(300, 200), bench.Path(Text("in.jpg")));
+    // A watermark whose file is no picture.
+    bench.WriteBytes(Text("mark.png"), "no picture");
+    const QByteArray mark = "{\"file\":\"" + bench.Path(Text("mark.png")).toUtf8() + "\"}";
+    const Report effect = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith("watermark-image", mark));
+    QVERIFY2(effect.failure == Case::Processing, qPrintable(effect.reason));
+    QCOMPARE(effect.errorCode, qint32(ZTBatchMessage::ApplyAdjustmentError));
+
+    // A damaged file stays a damaged file, with an effect that streams and with one that holds the picture.
+    bench.WriteBytes(Text("in.jpg"), bench.Bytes(Text("in.jpg")).left(9'000));
+    for (const char* id : {"exposure", "auto-levels", "rotate"}) {
+        const QByteArray parameters = qstrcmp(id, "rotate") == 0 ? "{\"angle\":30}" : "{}";
+        const Report damaged = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith(id, parameters));
+        QVERIFY2(damaged.failure == Case::Input, qPrintable(damaged.reason));
+        QCOMPARE(damaged.errorCode, qint32(ZTBatchMessage::ReadFileError));
+    }
+    QVERIFY(!QFile::exists(bench.Path(Text("out.png"))));
+}
+
+QTEST_GUILESS_MAIN(WorkerLimitsTest)
+#include "tst_workerlimits.moc"
