@@ -1,6 +1,8 @@
 #include "AllEffects.h"
 
+#include "../Colour.h"
 #include "../Effects.h"
+#include "../PixelForms.h"
 #include "../VipsText.h"
 #include "Kinds.h"
 #include "Mark.h"
@@ -18,13 +20,13 @@ namespace {
 Picture ImageAt(const QString& path, int width)
 {
     try {
-        const Picture image =
-            Picture::thumbnail_source(vips::VSource::new_from_file(QFile::encodeName(path).constData()), width,
-                                      Picture::option()
-                                          ->set("height", VIPS_MAX_COORD)
-                                          ->set("export_profile", "srgb")
-                                          ->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
-        return image.colourspace(VIPS_INTERPRETATION_sRGB).cast(VIPS_FORMAT_UCHAR).copy_memory();
+        const vips::VSource source = vips::VSource::new_from_file(QFile::encodeName(path).constData());
+        const Picture scaled = Picture::thumbnail_source(
+            source, width, Picture::option()->set("height", VIPS_MAX_COORD)->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
+        // What is odd about a logo's profile is of no interest in a report on a picture.
+        QStringList warnings;
+        const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
+        return AsRgb(WithDepth(plain, 8)).copy_memory();
     } catch (const vips::VError& problem) {
         throw EffectError(QStringLiteral("the file %1 cannot be read: %2").arg(path, TextOf(problem)).toStdString());
     }
