@@ -147,7 +147,7 @@ QVector<PictureBytes> SmallPictures()
 QByteArray Mutated(const QByteArray& bytes, std::mt19937& random)
 {
     using Mutation = std::function<QByteArray(QByteArray, std::mt19937&)>;
-    static const std::array<Mutation, 6> mutations{WithFlippedBits, Cut,            WithExtremeHeader,
-                                                   WithoutPiece,    WithPieceTwice, WithNoise};
+    static const std::array<Mutation, 6> mutations{WithFlippedBits, Cut,      WithExtremeHeader, WithoutPiece,
+                                                   WithPieceTwice,  WithNoise};
     return mutations[std::size_t(Below(int(mutations.size()), random))](bytes, random);
 }

@@ -34,8 +34,8 @@ QStringList WriteMutations(ServerRun& run, unsigned seed)
     QStringList files;
     for (int i = 0; i < pictureCount; ++i) {
         const PictureBytes& picture = pictures[i % pictures.size()];
-        files.append(run.Write(QStringLiteral("in/%1.%2").arg(i).arg(picture.extension),
-                               Mutated(picture.bytes, random)));
+        files.append(
+            run.Write(QStringLiteral("in/%1.%2").arg(i).arg(picture.extension), Mutated(picture.bytes, random)));
     }
     return files;
 }

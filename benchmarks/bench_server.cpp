@@ -1,0 +1,98 @@
+#include "ServerRun.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdio>
+
+/// One whole run of the server, from the order to its end, and the memory that it took at most. Prints
+/// "seconds S supervisor K worker K", memory in KiB.
+namespace {
+
+constexpr int patience = 3'600'000; // ms
+
+qint64 PeakMemory(qint64 process)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return -1;
+    }
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:")) {
+            return line.simplified().split(' ').at(1).toLongLong();
+        }
+    }
+    return -1;
+}
+
+void ToReducedJpeg(ZTBatchDocument& job, int side)
+{
+    ZTBatchOutputSettings& settings = *job.GetOutputSettings();
+    settings.SetFormat(QStringLiteral("JPEG"), R"({"quality": 85, "chromaSubsampling": "4:2:0"})");
+    if (side > 0) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = 2; // reduce only
+        size.side = 2;        // the long one
+        size.size = side;
+        settings.SetImageSizeSettings(size);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    const QCommandLineOption workers(QStringLiteral("workers"), QStringLiteral("How many."), QStringLiteral("count"),
+                                     QStringLiteral("2"));
+    const QCommandLineOption side(QStringLiteral("side"), QStringLiteral("Long side; 0 keeps the size."),
+                                  QStringLiteral("pixels"), QStringLiteral("1600"));
+    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("The folder for results."),
+                                    QStringLiteral("folder"));
+    parser.addOptions({workers, side, output});
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("The folder of pictures."));
+    parser.addHelpOption();
+    parser.process(application);
+    if (parser.positionalArguments().size() != 1) {
+        parser.showHelp(2);
+    }
+
+    QStringList pictures;
+    for (const QFileInfo& file : QDir(parser.positionalArguments().constFirst()).entryInfoList(QDir::Files)) {
+        pictures.append(file.absoluteFilePath());
+    }
+    ServerRun run(ServerRun::Worker::Real);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), parser.value(workers));
+    if (!run.Start()) {
+        std::fprintf(stderr, "The server does not start.\n");
+        return 1;
+    }
+    const QString job = run.Job(pictures, [&](ZTBatchDocument& document) {
+        ToReducedJpeg(document, parser.value(side).toInt());
+        if (parser.isSet(output)) {
+            document.GetOutputSettings()->SetPath(QDir(parser.value(output)).absolutePath());
+        }
+    });
+    QElapsedTimer clock;
+    clock.start();
+    run.Process(job);
+    const bool hasFinished =
+        QTest::qWaitFor([&run] { return run.Count(QStringLiteral("finished")) > 0; }, patience);
+    const double seconds = double(clock.nsecsElapsed()) / 1e9;
+    if (!hasFinished || run.Count(QStringLiteral("processed")) != pictures.size()) {
+        std::fprintf(stderr, "Not all pictures were written.\n%s\n", qPrintable(run.Report()));
+        return 1;
+    }
+    qint64 worker = 0;
+    for (const qint64 id : run.WorkerIds()) {
+        worker = std::max(worker, PeakMemory(id));
+    }
+    std::printf("seconds %.3f supervisor %lld worker %lld\n", seconds, PeakMemory(run.Server().processId()), worker);
+    return 0;
+}
