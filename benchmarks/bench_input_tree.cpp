@@ -3,6 +3,7 @@
 #include "ZVBatchInputTableModel.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QPersistentModelIndex>
 #include <QString>
 #include <QVector>
@@ -142,6 +143,28 @@ double MakeShuffledNodesOnly(Shape, int count)
     const double time = stopwatch.Nanoseconds();
     qDeleteAll(nodes);
     return time;
+}
+
+/// The list of one folder's children alone, with rows as a shuffled order gives them: what moving the siblings takes.
+double MoveShuffledSiblingsOnly(Shape, int count)
+{
+    std::mt19937 random(1);
+    QVector<int> rows;
+    for (int i = 0; i < count; ++i) {
+        rows.append(std::uniform_int_distribution<int>(0, i)(random));
+    }
+    QList<Node*> children;
+    const Stopwatch stopwatch;
+    for (const int row : qAsConst(rows)) {
+        // As the tree does it: the shorter side moves.
+        if (row < children.size() / 2) {
+            children.prepend(nullptr);
+            children.move(0, row);
+        } else {
+            children.insert(row, nullptr);
+        }
+    }
+    return stopwatch.Nanoseconds();
 }
 
 double RebuildFirst(Shape shape, int count)
@@ -319,6 +342,7 @@ constexpr Case cases[] = {
     {"insert sorted", InsertSorted, 1.5, 1.5},
     {"insert shuffled", InsertShuffled, 2.5, 1.5},
     {"  of that, making the nodes", MakeShuffledNodesOnly, 0, 0},
+    {"  of that in one folder, moving the siblings", MoveShuffledSiblingsOnly, 0, 0},
     {"visit the nodes", VisitNodes, 0, 0},
     {"persistent indexes alone", MakePersistentIndexes, 0, 0},
     {"rebuild, first", RebuildFirst, 1.5, 1.5},
