@@ -48,6 +48,7 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, const QString& serverName)
     // asks for something or has had its time.
     socket->connectToServer(serverName, QIODevice::ReadWrite);
     connect(socket, SIGNAL(connected()), this, SLOT(OnConnected()));
+    socketMove.Leave(*socket, lastWritesTimeout);
     if (socket->state() == QLocalSocket::ConnectedState) {
         hasEarlyConnection = true;
         QMetaObject::invokeMethod(
@@ -64,6 +65,7 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, QLocalSocket* adoptedSocke
         return;
     }
     socket->setParent(this);
+    socketMove.Leave(*socket, lastWritesTimeout);
     connectionState = socket->state();
     connect(socket, SIGNAL(disconnected()), this, SLOT(OnDisconnected()));
     connect(socket, SIGNAL(error(QLocalSocket::LocalSocketError)), this, SLOT(OnError(QLocalSocket::LocalSocketError)));
@@ -273,6 +275,9 @@ void ZTPipeSession::Private::FinishEarlyConnection()
 
 void ZTPipeSession::Private::Begin()
 {
+    if (socket) {
+        socketMove.Arrive(*socket);
+    }
     // The timers of an attempt that is under way change threads by an event, which must not be lost when the session is
     // deleted at once.
     QCoreApplication::sendPostedEvents();
@@ -291,6 +296,9 @@ void ZTPipeSession::Private::Finish()
     } else if (socket && socket->state() == QLocalSocket::ConnectingState) {
         // The attempt runs on a timer of the socket, which has to end on its own thread.
         socket->close();
+    }
+    if (socket) {
+        socketMove.Leave(*socket, 0);
     }
     StopTimer();
 }
@@ -402,10 +410,12 @@ void ZTPipeSession::Private::WriteFrames(const Request& request)
 
 void ZTPipeSession::Private::Reconnect(const QString& serverName)
 {
-    socket->close();
     // Data that the old peer has not taken keeps a closing socket open; the new connection must not wait for it.
-    if (socket->state() != QLocalSocket::UnconnectedState) {
+    socket->flush();
+    if (socket->bytesToWrite() > 0) {
         socket->abort();
+    } else {
+        socket->close();
     }
     reader.Reset();
     SetConnectionState(QLocalSocket::UnconnectedState);

@@ -3,6 +3,7 @@
 #include "ZTFrame_p.h"
 #include "ZTHandOver_p.h"
 #include "ZTPipeSession.h"
+#include "ZTSocketMove_p.h"
 
 #include <QLocalSocket>
 #include <QReadWriteLock>
@@ -113,6 +114,7 @@ private:
     QPointer<ZTPipeSession> owner;
     mutable QReadWriteLock stateLock;
     QLocalSocket* socket = nullptr;
+    ZTSocketMove socketMove;
     int timerId = -1;
     int connectionState = QLocalSocket::UnconnectedState;
     ZTFrameReader reader;

@@ -18,8 +18,17 @@
 
 namespace {
 
-const QString pipeName = QStringLiteral("pipe");
+// On Windows the temporary folder does not keep the pipes of tests apart, so their names do.
+const QString pipeName = QStringLiteral("pipe-%1").arg(QCoreApplication::applicationPid());
+const QString otherPipeName = QStringLiteral("other-%1").arg(QCoreApplication::applicationPid());
 const QString workerSource = QStringLiteral("src\\private\\ZTPipeSession_p");
+
+#ifdef Q_OS_WIN
+// There the end of a connection is no error.
+const QStringList linesOfALeavingPeer;
+#else
+const QStringList linesOfALeavingPeer{QStringLiteral("Socket error: 1")};
+#endif
 
 const QByteArray frameA = QByteArray::fromHex("00000002"
                                               "0061"
@@ -157,6 +166,7 @@ private Q_SLOTS:
     void deletedWhileMessagesWait();
     void deletedWithTheirParent();
     void deletedOnAForeignThread();
+    void messagesSentBeforeTheEndArrive_data();
     void messagesSentBeforeTheEndArrive();
 
     void assertions_data();
@@ -281,7 +291,7 @@ void tst_ZTPipeSession::connectedComesBeforeWhatFollows()
         QVERIFY(peer.Write(frameA));
         peer.Die();
         const QDeadlineTimer deadline(10000);
-        while (lines->CountEndingWith(QStringLiteral("] Socket error: 1")) == 0 && !deadline.hasExpired()) {
+        while (lines->TextsFrom(workerSource) != linesOfALeavingPeer && !deadline.hasExpired()) {
             QThread::yieldCurrentThread();
         }
     }
@@ -339,6 +349,9 @@ void tst_ZTPipeSession::waitForConnectedNeedsNoEventLoop()
 
 void tst_ZTPipeSession::attemptsThatTakeTheirTime()
 {
+#ifdef Q_OS_WIN
+    QSKIP("On Windows an attempt ends inside the call that makes it.");
+#endif
     // A socket has to wait once nobody takes the connections of those before it.
     QLocalServer server;
     QVERIFY(server.listen(pipeName));
@@ -647,7 +660,7 @@ void tst_ZTPipeSession::requestsKeepTheirOrder()
     Link link;
     QVERIFY(link.good);
     PeerProcess other;
-    QVERIFY(other.Do(QStringLiteral("listen other")));
+    QVERIFY(other.Do(QStringLiteral("listen ") + otherPipeName));
     link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
     link.session->Send(QStringLiteral("b"), QByteArray(100000, 'x'));
     link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
@@ -659,7 +672,7 @@ void tst_ZTPipeSession::requestsKeepTheirOrder()
     QCOMPARE(link.peer.Read(frameA.size()), frameA);
 
     link.session->Send(QStringLiteral("a"), QByteArrayLiteral("bcd"));
-    link.session->Reconnect(QStringLiteral("other"));
+    link.session->Reconnect(otherPipeName);
     link.session->Send(QStringLiteral("21"), QByteArrayLiteral(""));
     QVERIFY(other.Do(QStringLiteral("accept")));
     QCOMPARE(link.peer.Read(frameA.size()), frameA);
@@ -747,7 +760,7 @@ void tst_ZTPipeSession::downWhenThePeerCloses()
     QTRY_COMPARE(link.listener->events, QStringList{QStringLiteral("down")});
     QVERIFY(!link.session->IsConnected());
     QVERIFY(!link.session->WaitForConnected(0));
-    QCOMPARE(lines->TextsFrom(workerSource), QStringList{QStringLiteral("Socket error: 1")});
+    QCOMPARE(lines->TextsFrom(workerSource), linesOfALeavingPeer);
 }
 
 void tst_ZTPipeSession::downWhenThePeerDies()
@@ -814,8 +827,8 @@ void tst_ZTPipeSession::reconnectWhileConnected()
     Link link;
     QVERIFY(link.good);
     PeerProcess other;
-    QVERIFY(other.Do(QStringLiteral("listen other")));
-    link.session->Reconnect(QStringLiteral("other"));
+    QVERIFY(other.Do(QStringLiteral("listen ") + otherPipeName));
+    link.session->Reconnect(otherPipeName);
     QVERIFY(other.Do(QStringLiteral("accept")));
     QVERIFY(link.peer.Do(QStringLiteral("closed")));
     QVERIFY(other.Write(frameA));
@@ -844,8 +857,8 @@ void tst_ZTPipeSession::reconnectWithUnsentData()
     link.session->Send(QStringLiteral("b"), QByteArray(4 * 1024 * 1024, 'x'));
     QTRY_COMPARE(link.listener->events, QStringList{QStringLiteral("sent")});
     PeerProcess other;
-    QVERIFY(other.Do(QStringLiteral("listen other")));
-    link.session->Reconnect(QStringLiteral("other"));
+    QVERIFY(other.Do(QStringLiteral("listen ") + otherPipeName));
+    link.session->Reconnect(otherPipeName);
     QVERIFY(other.Do(QStringLiteral("accept")));
     QVERIFY(other.Write(frameA));
     QTRY_COMPARE(link.listener->events, (QStringList{QStringLiteral("sent"), QStringLiteral("down"),
@@ -1156,16 +1169,28 @@ void tst_ZTPipeSession::deletedOnAForeignThread()
     QVERIFY(peer.Do(QStringLiteral("closed")));
 }
 
+void tst_ZTPipeSession::messagesSentBeforeTheEndArrive_data()
+{
+    QTest::addColumn<bool>("isTakenBefore");
+    QTest::newRow("the peer reads meanwhile") << true;
+#ifndef Q_OS_WIN
+    // A pipe of Windows keeps nothing for a reader who comes when the writer has gone.
+    QTest::newRow("the peer reads afterwards") << false;
+#endif
+}
+
 void tst_ZTPipeSession::messagesSentBeforeTheEndArrive()
 {
+    QFETCH(bool, isTakenBefore);
     for (int round = 0; round < 20; ++round) {
         PeerProcess peer;
         QVERIFY(peer.Do(QStringLiteral("listen ") + pipeName));
         auto session = std::make_unique<ZTPipeSession>(pipeName, nullptr);
         QVERIFY(session->WaitForConnected(1000));
+        QVERIFY(!isTakenBefore || peer.Do(QStringLiteral("accept")));
         session->Send(QStringLiteral("21"), QByteArrayLiteral(""));
         session.reset();
-        QVERIFY(peer.Do(QStringLiteral("accept")));
+        QVERIFY(isTakenBefore || peer.Do(QStringLiteral("accept")));
         QCOMPARE(peer.Read(frame21.size()), frame21);
         QVERIFY(peer.Do(QStringLiteral("closed")));
     }
