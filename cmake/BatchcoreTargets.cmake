@@ -45,7 +45,10 @@ function(batchcore_shared_library target)
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/batchcore)
-    if(UNIX AND NOT APPLE)
+    if(WIN32)
+        # The same name from every compiler.
+        set_target_properties(${target} PROPERTIES PREFIX "")
+    elseif(UNIX AND NOT APPLE)
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
 endfunction()
