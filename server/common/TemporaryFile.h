@@ -7,9 +7,9 @@ namespace BatchServer {
 
 /// A hidden file in the folder of a result, which becomes the result when it is finished.
 ///
-/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". While it is being written it is locked (flock), so that a
-/// later run can tell it from one that a crash has left: the system releases the lock with the process. Belongs to one
-/// thread at a time.
+/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". While it is being written it is locked (flock; on Windows it
+/// is open for this process only), so that a later run can tell it from one that a crash has left: the system releases
+/// the lock with the process. Belongs to one thread at a time.
 class TemporaryFile
 {
 public:

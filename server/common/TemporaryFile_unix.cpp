@@ -1,10 +1,10 @@
 #include "TemporaryFile.h"
 
+#include "TemporaryName.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
-#include <QRegularExpression>
 
 #include <cerrno>
 #include <cstdio>
@@ -20,18 +20,6 @@ namespace {
 QString FolderOf(const QString& fileName)
 {
     return QFileInfo(fileName).path();
-}
-
-QString NewName(const QString& folder)
-{
-    const quint64 number = QRandomGenerator::system()->generate64();
-    return QStringLiteral("%1/.velkora-%2.tmp").arg(folder).arg(number, 16, 16, QLatin1Char('0'));
-}
-
-bool IsTemporaryName(const QString& name)
-{
-    static const QRegularExpression form(QStringLiteral("\\A\\.velkora-[0-9a-f]{16}\\.tmp\\z"));
-    return form.match(name).hasMatch();
 }
 
 bool IsStillThere(int descriptor)
@@ -90,7 +78,7 @@ bool TemporaryFile::Create()
     Q_ASSERT(descriptor < 0);
     // A sweep may hold, or remove, the file in the moment before it is locked. Then another one is made.
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const QString name = NewName(FolderOf(finalName));
+        const QString name = NewTemporaryName(FolderOf(finalName));
         const QByteArray path = QFile::encodeName(name);
         const int file = open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
         if (file < 0) {
