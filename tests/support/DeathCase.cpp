@@ -1,5 +1,7 @@
 #include "DeathCase.h"
 
+#include "ProcessEnd.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QMap>
@@ -8,10 +10,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#endif
 
 namespace {
 
@@ -46,10 +44,7 @@ DeathCase::DeathCase(const char* name, Function function)
 
 int RunDeathCases(int argc, char** argv)
 {
-#ifdef Q_OS_UNIX
-    const rlimit noCoreFile{0, 0};
-    setrlimit(RLIMIT_CORE, &noCoreFile);
-#endif
+    CrashQuietly();
     qInstallMessageHandler(WriteLine);
     // The runtime's own handler would write a line of its own behind ours.
     std::set_terminate(EndQuietly);

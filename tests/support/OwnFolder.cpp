@@ -23,12 +23,17 @@ const QString suffix = QStringLiteral(".exe");
 const QString suffix;
 #endif
 
-/// A hard link where that is possible: the executable must find itself in the new place.
+/// A hard link where that is possible: the executable must find itself in the new place. Windows would not remove a
+/// link to an executable that runs.
 bool Place(const QString& from, const QString& to)
 {
+#ifdef Q_OS_WIN
+    return QFile::copy(from, to);
+#else
     std::error_code error;
     std::filesystem::create_hard_link(from.toStdString(), to.toStdString(), error);
     return !error || QFile::copy(from, to);
+#endif
 }
 
 int RunThere(const QString& executable, const QString& folder, const QStringList& arguments)
@@ -36,6 +41,11 @@ int RunThere(const QString& executable, const QString& folder, const QStringList
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(folderVariable), folder);
     environment.insert(QStringLiteral("TMPDIR"), folder);
+#ifdef Q_OS_WIN
+    // The libraries are found beside the executable or on this path.
+    environment.insert(QStringLiteral("PATH"), QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) +
+                                                   QLatin1Char(';') + environment.value(QStringLiteral("PATH")));
+#endif
 
     QProcess test;
     test.setProcessEnvironment(environment);

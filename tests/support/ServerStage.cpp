@@ -1,15 +1,12 @@
 #include "ServerStage.h"
 
+#include "ProcessEnd.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
-
-#ifdef Q_OS_UNIX
-#include <cerrno>
-#include <csignal>
-#endif
 
 namespace {
 
@@ -27,16 +24,6 @@ QByteArray Content(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-bool IsAlive(qint64 pid)
-{
-#ifdef Q_OS_UNIX
-    return kill(static_cast<pid_t>(pid), 0) == 0 || errno != ESRCH;
-#else
-    Q_UNUSED(pid)
-    return false;
-#endif
-}
-
 } // namespace
 
 ServerStage::ServerStage()
@@ -47,11 +34,9 @@ ServerStage::ServerStage()
 
 ServerStage::~ServerStage()
 {
-#ifdef Q_OS_UNIX
     for (const qint64 pid : LivingServers()) {
-        kill(static_cast<pid_t>(pid), SIGKILL);
+        KillProcess(pid);
     }
-#endif
     ShowServer();
     RemoveRecords();
 }
@@ -119,7 +104,7 @@ QList<qint64> ServerStage::LivingServers() const
 {
     QList<qint64> living;
     for (const QString& event : Events()) {
-        if (event.startsWith(QLatin1String("pid ")) && IsAlive(event.mid(4).toLongLong())) {
+        if (event.startsWith(QLatin1String("pid ")) && IsProcessAlive(event.mid(4).toLongLong())) {
             living.append(event.mid(4).toLongLong());
         }
     }

@@ -111,6 +111,9 @@ void tst_Translations::sourcesAreFinished()
 void tst_Translations::sourcesMatchTheCode()
 {
     QFETCH(QString, language);
+    if (QStringLiteral(LUPDATE).isEmpty()) {
+        QSKIP("The tools run on the building machine, whose own tests compare the same files.");
+    }
 
     const QTemporaryDir folder;
     const QString fresh = folder.filePath(QStringLiteral("fresh_%1.ts").arg(language));

@@ -257,7 +257,11 @@ void tst_ZTBatchInputModel::dataByRole_data()
     QTest::addColumn<QString>("toolTip");
     QTest::addColumn<QVariant>("expected");
 
-    const QString path = QDir::toNativeSeparators(QStringLiteral("/in/sub/a.jpg"));
+#ifdef Q_OS_WIN
+    const QString path = QStringLiteral("\\in\\sub\\a.jpg");
+#else
+    const QString path = QStringLiteral("/in/sub/a.jpg");
+#endif
     const QString tip = QStringLiteral("tip");
     QTest::newRow("display") << int(Qt::DisplayRole) << tip << QVariant(path);
     QTest::newRow("tool tip") << int(Qt::ToolTipRole) << tip << QVariant(tip);

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void keepsItsPath();
     void copiesAreIndependent();
     void existsFollowsTheDisk();
+    void caseOfNames();
     void danglingLinkDoesNotExist();
     void texturePatternIndex();
 };
@@ -78,10 +79,24 @@ void tst_ZVFileBookmark::existsFollowsTheDisk()
     QVERIFY(!bookmark.Exists());
 }
 
+void tst_ZVFileBookmark::caseOfNames()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.jpg")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const ZVFileBookmark otherCase(folder.filePath(QStringLiteral("A.JPG")));
+#ifdef Q_OS_WIN
+    QVERIFY(otherCase.Exists());
+#else
+    QVERIFY(!otherCase.Exists());
+#endif
+}
+
 void tst_ZVFileBookmark::danglingLinkDoesNotExist()
 {
     const QTemporaryDir folder;
-    const QString link = folder.filePath(QStringLiteral("link"));
+    // The ending that makes a link of it on Windows.
+    const QString link = folder.filePath(QStringLiteral("link.lnk"));
     QVERIFY(QFile::link(folder.filePath(QStringLiteral("nowhere")), link));
     QVERIFY(!ZVFileBookmark(link).Exists());
 }

@@ -1,5 +1,6 @@
 #include "ScriptedServer.h"
 
+#include "ProcessEnd.h"
 #include "Wire.h"
 
 #include <QCoreApplication>
@@ -82,6 +83,8 @@ void ScriptedServer::Do(const QString& action)
     } else if (verb == QLatin1String("exit")) {
         std::_Exit(words.value(1).toInt());
     } else if (verb == QLatin1String("crash")) {
+        Crash();
+    } else if (verb == QLatin1String("abort")) {
         std::abort();
     } else if (verb == QLatin1String("hang")) {
         QThread::sleep(600);

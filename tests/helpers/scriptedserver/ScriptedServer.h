@@ -25,7 +25,7 @@ class QLocalSocket;
 ///     flood COUNT       progress messages 0 to COUNT - 1 in one burst; the event "flood NS" tells when it began
 ///     note TEXT         an event
 ///     disconnect        drops the latest connection
-///     exit CODE, crash, hang
+///     exit CODE, crash, abort, hang
 class ScriptedServer : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 int main(int argc, char** argv)
 {
     EndWithParent();
-    AbortQuietly();
+    CrashQuietly();
     QCoreApplication application(argc, argv);
 
     // Nobody waits that long; whoever forgets a server is not left with it.

@@ -92,8 +92,8 @@ void Misbehave(const QByteArray& command, const PictureTask& task)
     TemporaryFile half(task.outputFile);
     half.Create();
     if (command == "crash") {
-        AbortQuietly();
-        std::abort();
+        CrashQuietly();
+        Crash();
     } else if (command == "hang") {
         SleepForEver();
 #ifdef Q_OS_UNIX
@@ -147,8 +147,8 @@ Report Probe(const ProbeTask& task)
     }
     const QByteArray command = input.readLine().trimmed();
     if (command == "crashprobe") {
-        AbortQuietly();
-        std::abort();
+        CrashQuietly();
+        Crash();
     }
     report.inputFormat = QStringLiteral("PSD");
     report.nearestFormat = QStringLiteral("PNG");

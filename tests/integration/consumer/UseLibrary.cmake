@@ -7,17 +7,35 @@ function(run)
     endif()
 endfunction()
 
-# What is private is not for others to link against: it changes without notice.
+# What is private is not for others to link against: it changes without notice. Names are compared as they are in the
+# file: "7Private" is the class Private within another, "4Send" the method Send.
+set(private_names "7Private|ZTFrameReader|ZTDiagnostics|ZTHandOver|ZTSocketMove")
+
 function(check_exports prefix)
     file(GLOB_RECURSE library "${prefix}/*/libbatchcore.so")
     if(NOT library)
         return()
     endif()
-    execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle ${library}
+    execute_process(COMMAND "${NM}" --dynamic --defined-only ${library}
         OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-    string(REGEX MATCHALL "[^\n]*(::Private|ZTFrameReader|ZTDiagnostics|ZTHandOver)[^\n]*" leaks "${symbols}")
-    if(leaks OR NOT symbols MATCHES "ZTPipeSession::Send")
+    string(REGEX MATCHALL "[^\n]*(${private_names})[^\n]*" leaks "${symbols}")
+    if(leaks OR NOT symbols MATCHES "13ZTPipeSession4Send")
         message(FATAL_ERROR "Exported from ${library}: ${leaks}")
+    endif()
+endfunction()
+
+# A library of Windows exports what is marked and nothing else: each name is that of a public class.
+function(check_dll_exports library expected)
+    execute_process(COMMAND "${OBJDUMP}" -p "${library}" OUTPUT_VARIABLE description COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE ".*Name Pointer\\] Table\n" "" table "${description}")
+    string(REGEX REPLACE "\n\n.*" "" table "${table}")
+    string(REGEX MATCHALL "_Z[A-Za-z0-9_]+" symbols "${table}")
+    set(strangers "${symbols}")
+    list(FILTER strangers EXCLUDE REGEX "[0-9](BatchNodeData|TreeNode|Z[TV][A-Z])")
+    set(leaks "${symbols}")
+    list(FILTER leaks INCLUDE REGEX "(${private_names})")
+    if(strangers OR leaks OR NOT "${symbols}" MATCHES "${expected}")
+        message(FATAL_ERROR "Exported from ${library}: ${strangers} ${leaks} of ${symbols}")
     endif()
 endfunction()
 
@@ -25,12 +43,27 @@ file(REMOVE_RECURSE "${WORK_DIR}")
 set(options
     -G "${GENERATOR}"
     -D CMAKE_BUILD_TYPE=Debug
-    -D CMAKE_CXX_COMPILER=${CXX_COMPILER}
     -D CMAKE_CXX_COMPILER_LAUNCHER=${CXX_COMPILER_LAUNCHER})
+if(TOOLCHAIN_FILE)
+    list(APPEND options -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN_FILE} -D BATCHCORE_QT_MINGW=${QT_MINGW})
+    # Where its libraries are, in the form that Windows knows.
+    string(REPLACE "/" "\\" libraries "Z:${WORK_DIR}/installed/bin;Z:${WORK_DIR}/build/batchcore/bin")
+    set(ENV{WINEPATH} "${libraries}")
+else()
+    list(APPEND options -D CMAKE_CXX_COMPILER=${CXX_COMPILER})
+endif()
 if(WAY STREQUAL "package")
     run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed")
     list(APPEND options -D CMAKE_PREFIX_PATH=${WORK_DIR}/installed)
-    check_exports("${WORK_DIR}/installed")
+    if(TOOLCHAIN_FILE)
+        list(APPEND options -D batchcore_DIR=${WORK_DIR}/installed/lib/cmake/batchcore)
+        check_dll_exports("${WORK_DIR}/installed/bin/batchcore.dll" "13ZTPipeSession4Send")
+        check_dll_exports("${WORK_DIR}/installed/bin/velkoracore.dll" "14ZVFileBookmark")
+        check_dll_exports("${WORK_DIR}/installed/bin/velkorastylecore.dll" "7ZTStyle12AppendEffect")
+        check_dll_exports("${WORK_DIR}/installed/bin/velkorautils.dll" "13ZTIDContainer12UnregisterID")
+    else()
+        check_exports("${WORK_DIR}/installed")
+    endif()
 else()
     list(APPEND options -D BATCHCORE_SOURCE_DIR=${SOURCE_DIR} "-D BATCHCORE_SANITIZERS=${SANITIZERS}")
 endif()
@@ -44,5 +77,6 @@ endif()
 
 run(${CMAKE_COMMAND} -S "${SOURCE_DIR}/tests/integration/consumer/project" -B "${WORK_DIR}/build" ${options})
 run(${CMAKE_COMMAND} --build "${WORK_DIR}/build" --target consumer)
-find_program(consumer consumer PATHS "${WORK_DIR}/build" "${WORK_DIR}/build/bin" NO_DEFAULT_PATH REQUIRED)
-run("${consumer}")
+find_program(consumer NAMES consumer consumer.exe PATHS "${WORK_DIR}/build" "${WORK_DIR}/build/bin" NO_DEFAULT_PATH
+    REQUIRED)
+run(${EMULATOR} "${consumer}")
