@@ -11,6 +11,9 @@ namespace {
 // A job may carry a colour profile of some megabytes as hexadecimal text. Nothing else is large.
 constexpr quint32 maximumPayload = 256U << 20;
 
+// A report is a few lines. A worker that was taken over by a picture does not get the supervisor to fill its memory.
+constexpr quint32 maximumReport = 1U << 20;
+
 template<typename Record>
 auto Fields(Record& record)
 {
@@ -83,7 +86,7 @@ void FrameReader::Append(const QByteArray& bytes)
 
 std::optional<ToWorker> FrameReader::NextToWorker()
 {
-    const std::optional<QByteArray> payload = NextPayload();
+    const std::optional<QByteArray> payload = NextPayload(maximumPayload);
     if (!payload) {
         return std::nullopt;
     }
@@ -110,7 +113,7 @@ std::optional<ToWorker> FrameReader::NextToWorker()
 
 std::optional<Report> FrameReader::NextFromWorker()
 {
-    const std::optional<QByteArray> payload = NextPayload();
+    const std::optional<QByteArray> payload = NextPayload(maximumReport);
     if (!payload) {
         return std::nullopt;
     }
@@ -120,14 +123,14 @@ std::optional<Report> FrameReader::NextFromWorker()
     return report;
 }
 
-std::optional<QByteArray> FrameReader::NextPayload()
+std::optional<QByteArray> FrameReader::NextPayload(quint32 maximum)
 {
     constexpr int header = sizeof(quint32);
     if (isBroken || buffer.size() < header) {
         return std::nullopt;
     }
     const quint32 size = qFromBigEndian<quint32>(buffer.constData());
-    if (size > maximumPayload) {
+    if (size > maximum) {
         isBroken = true;
         return std::nullopt;
     }

@@ -88,7 +88,7 @@ public:
     bool IsBroken() const { return isBroken; }
 
 private:
-    std::optional<QByteArray> NextPayload();
+    std::optional<QByteArray> NextPayload(quint32 maximum);
 
     QByteArray buffer;
     bool isBroken = false;

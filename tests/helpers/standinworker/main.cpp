@@ -3,7 +3,7 @@
 //
 //     crash | hang | stop | exit | outofmemory   end, or do not end, with half a temporary file in the folder
 //     eat                                        takes memory until it is ended
-//     garbage | alien | twice                    says what is no answer: no frame, another number, one answer too many
+//     garbage | alien | flood                    says what is no answer: no frame, another number, one that never ends
 //     wait PATH                                  goes on when there is a file PATH
 //     input CODE | output CODE | ...             reports a case with the error code
 //     format NAME                                cannot be written in any format but this one
@@ -123,6 +123,11 @@ Report Make(const PictureTask& task)
         Report report;
         report.number = task.number + 1;
         Say(FrameFromWorker(report));
+    } else if (command == "flood") {
+        Say(QByteArray("\x0F\0\0\0", 4));
+        for (;;) {
+            Say(QByteArray(1 << 20, 'x'));
+        }
     } else if (command == "wait") {
         while (!QFile::exists(QString::fromUtf8(argument))) {
             QThread::msleep(5);
@@ -162,10 +167,6 @@ void Handle(const ToWorker& message)
         Report report = Make(*task);
         report.number = task->number;
         Say(FrameFromWorker(report));
-        QFile input(task->inputFile);
-        if (input.open(QIODevice::ReadOnly) && input.readLine().trimmed() == "twice") {
-            Say(FrameFromWorker(report));
-        }
     } else if (const auto* probe = std::get_if<ProbeTask>(&message)) {
         Report report = Probe(*probe);
         report.number = probe->number;

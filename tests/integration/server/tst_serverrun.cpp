@@ -45,6 +45,7 @@ private Q_SLOTS:
     void pauseWhileLookingAtPictures();
     void cancelled_data();
     void cancelled();
+    void samePicturesForAnyNumberOfWorkers();
     void sameResultsForAnyNumberOfWorkers();
     void twoRunsAtATime();
 };
@@ -178,6 +179,7 @@ void tst_ServerRun::cases_data()
     QTest::newRow("sudden end") << QByteArray("exit") << "1 9" << failed;
     QTest::newRow("out of memory") << QByteArray("outofmemory") << "1 10" << failed;
     QTest::newRow("garbage") << QByteArray("garbage") << "1 9" << failed;
+    QTest::newRow("answer without end") << QByteArray("flood") << "1 9" << failed;
     QTest::newRow("answer about another file") << QByteArray("alien") << "1 9" << failed;
     QTest::newRow("code that is none of the case's") << QByteArray("input 9") << "1 9" << failed;
     QTest::newRow("code that is none") << QByteArray("output 77") << "1 9" << failed;
@@ -197,6 +199,7 @@ void tst_ServerRun::cases()
     QCOMPARE(run.Lines(QStringLiteral("error")),
              QStringList{QStringLiteral("error [in/bad.jpg] [out/bad.jpg] ") + error});
     QCOMPARE(run.Lines(QStringLiteral("log Finished")), QStringList{QStringLiteral("log Finished: ") + totals});
+    QVERIFY2(run.PeakMemory() < (150 << 20), qPrintable(QString::number(run.PeakMemory() >> 20)));
     QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("good.jpg")});
 }
 
@@ -608,6 +611,41 @@ void tst_ServerRun::cancelled()
     run.Process(run.Job({run.Write(QStringLiteral("in/good.jpg"), "good")}));
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("good.jpg")});
+}
+
+void tst_ServerRun::samePicturesForAnyNumberOfWorkers()
+{
+    QMap<QString, QByteArray> results[2];
+    for (int i = 0; i < 2; ++i) {
+        ServerRun run(ServerRun::Worker::Real);
+        run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QString::number(i == 0 ? 1 : 4));
+        QStringList inputs;
+        for (int file = 0; file < 24; ++file) {
+            // Pictures of different sizes, so that workers overtake each other.
+            QImage picture(40 + 37 * (file % 5) * (file % 5), 60, QImage::Format_RGB32);
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    picture.setPixel(x, y, qRgb((x + file) % 256, y, (x * y) % 256));
+                }
+            }
+            inputs.append(run.Write(QStringLiteral("in/%1/%2.png").arg(file).arg(file % 4), {}));
+            QVERIFY(picture.save(inputs.last()));
+        }
+        Policies policies;
+        policies.naming = ZTBatchManager::NamingRename;
+        QVERIFY(run.Start());
+        run.Process(run.Job(inputs,
+                            [](ZTBatchDocument& job) {
+                                job.GetStyle()->AppendEffect(QStringLiteral("exposure"), "{\"stops\": 0.5}", true);
+                            }),
+                    policies);
+        QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+        for (const QString& name : run.Names(QStringLiteral("out"))) {
+            results[i].insert(name, run.Content(QStringLiteral("out/") + name));
+        }
+    }
+    QCOMPARE(results[0].size(), 24);
+    QCOMPARE(results[0], results[1]);
 }
 
 void tst_ServerRun::sameResultsForAnyNumberOfWorkers()
