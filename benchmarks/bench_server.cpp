@@ -82,8 +82,7 @@ int main(int argc, char** argv)
     QElapsedTimer clock;
     clock.start();
     run.Process(job);
-    const bool hasFinished =
-        QTest::qWaitFor([&run] { return run.Count(QStringLiteral("finished")) > 0; }, patience);
+    const bool hasFinished = QTest::qWaitFor([&run] { return run.Count(QStringLiteral("finished")) > 0; }, patience);
     const double seconds = double(clock.nsecsElapsed()) / 1e9;
     if (!hasFinished || run.Count(QStringLiteral("processed")) != pictures.size()) {
         std::fprintf(stderr, "Not all pictures were written.\n%s\n", qPrintable(run.Report()));
