@@ -23,6 +23,19 @@ void Write(const char* event, QJsonObject object)
     WriteOut(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n'));
 }
 
+QJsonObject ResultObject(const FileResult& result)
+{
+    QJsonObject object{{Key("input"), result.input}};
+    if (!result.output.isEmpty()) {
+        object.insert(Key("output"), result.output);
+    }
+    if (result.kind != FileResult::Kind::Written) {
+        object.insert(Key("code"), result.errorCode);
+        object.insert(Key("reason"), result.reason);
+    }
+    return object;
+}
+
 QString PolicyName(PolicyKind kind)
 {
     return PolicyOption(kind).mid(2);
@@ -38,6 +51,13 @@ void EventWriter::OnStart(const RunInputs& inputs, const QString& outputFolder)
                     {Key("output"), outputFolder}});
 }
 
+void EventWriter::OnEarlierResult(const FileResult& result)
+{
+    QJsonObject object = ResultObject(result);
+    object.insert(Key("earlier"), true);
+    Write(qPrintable(ResultWord(result.kind)), object);
+}
+
 void EventWriter::OnInWork(const QStringList&, const QString& begun)
 {
     Write("begin", {{Key("input"), begun}});
@@ -45,14 +65,9 @@ void EventWriter::OnInWork(const QStringList&, const QString& begun)
 
 void EventWriter::OnResult(const FileResult& result, int done, int files)
 {
-    QJsonObject object{{Key("input"), result.input}, {Key("done"), done}, {Key("files"), files}};
-    if (!result.output.isEmpty()) {
-        object.insert(Key("output"), result.output);
-    }
-    if (result.kind != FileResult::Kind::Written) {
-        object.insert(Key("code"), result.errorCode);
-        object.insert(Key("reason"), result.reason);
-    }
+    QJsonObject object = ResultObject(result);
+    object.insert(Key("done"), done);
+    object.insert(Key("files"), files);
     Write(qPrintable(ResultWord(result.kind)), object);
 }
 

@@ -11,6 +11,7 @@ class EventWriter : public RunObserver
 {
 public:
     void OnStart(const RunInputs& inputs, const QString& outputFolder) override;
+    void OnEarlierResult(const FileResult& result) override;
     void OnInWork(const QStringList& names, const QString& begun) override;
     void OnResult(const FileResult& result, int done, int files) override;
     void OnNote(const QString& input, const QString& output, const QString& what, const QString& text) override;

@@ -17,11 +17,9 @@ constexpr double bytesOfAnyFile = 64 * 1024;
 constexpr int narrowestBar = 10;
 constexpr int widestBar = 30;
 
-double Share(const Progress& progress)
+double Weight(int files, qint64 bytes)
 {
-    const double all = double(progress.allBytes) + bytesOfAnyFile * progress.files;
-    const double done = double(progress.bytesDone) + bytesOfAnyFile * progress.done;
-    return all > 0 ? std::min(1.0, done / all) : 1.0;
+    return double(bytes) + bytesOfAnyFile * files;
 }
 
 QString Bar(double share, int width)
@@ -35,11 +33,15 @@ QString Bar(double share, int width)
 
 QString ProgressText(const Progress& progress, int columns)
 {
-    const double share = Share(progress);
+    const double all = Weight(progress.files, progress.allBytes);
+    const double done = Weight(progress.done, progress.bytesDone);
+    const double doneNow = done - Weight(progress.earlierDone, progress.earlierBytes);
+    const double share = all > 0 ? std::min(1.0, done / all) : 1.0;
     QString counts = QStringLiteral(" %1/%2").arg(progress.done).arg(progress.files);
-    if (progress.done > 0 && progress.seconds > 0) {
-        counts += QStringLiteral("  %1/s").arg(progress.done / progress.seconds, 0, 'f', 1);
-        counts += QStringLiteral("  %1 left").arg(DurationText(progress.seconds * (1 - share) / share));
+    const int filesNow = progress.done - progress.earlierDone;
+    if (filesNow > 0 && progress.seconds > 0) {
+        counts += QStringLiteral("  %1/s").arg(filesNow / progress.seconds, 0, 'f', 1);
+        counts += QStringLiteral("  %1 left").arg(DurationText(progress.seconds * std::max(0.0, all - done) / doneNow));
     }
     const int room = columns - counts.size() - 2;
     QString line =

@@ -12,6 +12,8 @@ struct Progress
     int files = 0;
     qint64 bytesDone = 0;
     qint64 allBytes = 0;
+    int earlierDone = 0;     ///< of `done`: what an earlier part of the run has done
+    qint64 earlierBytes = 0; ///< of `bytesDone`: the same
     double seconds = 0;
     QStringList inWork; ///< paths
 };

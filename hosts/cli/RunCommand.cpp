@@ -3,6 +3,7 @@
 #include "EventWriter.h"
 #include "InterruptWatcher.h"
 #include "JobBuilder.h"
+#include "JournalFile.h"
 #include "PrivateTempFolder.h"
 #include "Questioner.h"
 #include "RunController.h"
@@ -10,6 +11,7 @@
 #include "RunOptions.h"
 #include "RunReport.h"
 #include "RunSummary.h"
+#include "UsageError.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
@@ -17,9 +19,11 @@
 #include "ZTBatchOutputSettings.h"
 
 #include <JobFiles.h>
+#include <RunJournal.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 
 #include <memory>
@@ -60,6 +64,51 @@ PolicyValues PoliciesOfManager()
     const ZTBatchManager& manager = *ZTBatchManager::Instance();
     return {manager.GetInputPolicy(), manager.GetOutputPolicy(), manager.GetProcessingPolicy(),
             manager.GetNamingPolicy(), manager.GetWriteToFormatPolicy()};
+}
+
+/// The journal of a run with what is to be written into it, or stands in it.
+struct Journal
+{
+    std::unique_ptr<JournalFile> file;
+    QString document;
+    PolicyValues policies{};
+
+    bool Begin(const PolicyValues& newPolicies)
+    {
+        policies = newPolicies;
+        return BatchServer::RunJournal().Create(file->Path(), document, policies);
+    }
+};
+
+Journal NewJournal(const ZTBatchDocument& job)
+{
+    CheckJob(job);
+    Journal journal;
+    journal.document = job.Serialize(nullptr);
+    journal.file = JournalFile::ForJob(job.GetOutputSettings()->GetPath(), journal.document);
+    if (journal.file->Exists()) {
+        WriteError(QStringLiteral("velkora-batch: this job was interrupted before; it starts anew, --resume would have "
+                                  "gone on.\n"));
+    }
+    return journal;
+}
+
+/// Makes `job` the one that was interrupted in its output folder.
+Journal ResumedJournal(ZTBatchDocument& job)
+{
+    const QString folder = job.GetOutputSettings()->GetPath();
+    if (folder.isEmpty()) {
+        throw UsageError{QStringLiteral("which run? --output DIR says where it was interrupted")};
+    }
+    Journal journal;
+    journal.file = JournalFile::Interrupted(folder, job.Serialize(nullptr));
+    const std::optional<BatchServer::JournalState> state = BatchServer::ReadJournal(journal.file->Path());
+    if (!state || !job.Deserialize(state->document)) {
+        throw UsageError{QStringLiteral("%1 is damaged; without it the run starts anew").arg(journal.file->Path())};
+    }
+    journal.document = state->document;
+    journal.policies = state->policies;
+    return journal;
 }
 
 /// Where nobody can be asked, asking becomes skipping, and that is said.
@@ -166,7 +215,8 @@ ExitCode RunJob(const ParsedArguments& arguments)
     }
     ZTBatchDocument job;
     const int problems = BuildJob(job, arguments, savedJob, inputs);
-    CheckJob(job);
+    const bool isResumed = arguments.Has(QStringLiteral("--resume"));
+    Journal journal = isResumed ? ResumedJournal(job) : NewJournal(job);
 
     const RunDisplay::Detail detail = DetailOf(arguments);
     const bool isQuiet = detail == RunDisplay::Detail::Quiet;
@@ -188,14 +238,23 @@ ExitCode RunJob(const ParsedArguments& arguments)
     RunEnd end;
     {
         const ManagerInstance manager(SettingsFolder(arguments));
-        PolicyValues policies = PoliciesOfManager();
+        PolicyValues policies = isResumed ? journal.policies : PoliciesOfManager();
         ApplyPolicies(arguments, policies);
         if (!Terminal::IsInputTerminal() || !Terminal::IsErrorTerminal()) {
             ReplaceQuestions(policies, isQuiet);
         }
-        RunController controller(job.Serialize(nullptr), InputsOf(job), job.GetOutputSettings()->GetPath(), policies,
-                                 observers);
+        const bool isWritten = journal.file->IsHeld() && (isResumed || journal.Begin(policies));
+        const QString journalPath = isWritten ? journal.file->Path() : QString();
+        qputenv(BatchServer::journalVariable, QFile::encodeName(journalPath));
+        RunController controller(journal.document, InputsOf(job), job.GetOutputSettings()->GetPath(), policies,
+                                 observers, journalPath);
         end = Execute(controller, display);
+    }
+    const bool isFinished = end.NotProcessed() == 0 || end.jobErrorCode != ZTBatchMessage::NoError;
+    if (isFinished) {
+        journal.file->Remove();
+    } else if (journal.file->Exists() && !isQuiet) {
+        WriteError(QStringLiteral("\"velkora-batch run --resume -o %1\" goes on from here.\n").arg(end.outputFolder));
     }
     if (end.jobErrorCode != ZTBatchMessage::NoError) {
         WriteError(QStringLiteral("velkora-batch: %1\n").arg(end.jobError));

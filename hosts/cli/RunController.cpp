@@ -4,6 +4,8 @@
 
 #include "ZTBatchMessage.h"
 
+#include <RunJournal.h>
+
 namespace BatchCli {
 
 namespace {
@@ -11,7 +13,7 @@ namespace {
 using Session = ZTBatchManager::ZTBatchSession;
 
 /// A server that dies more often than this has no use for another one.
-constexpr int mostLives = 1;
+constexpr int mostLives = 10;
 
 /// Nothing was wrong with a picture whose name is taken or whose format cannot be written.
 bool IsSkip(int errorCode)
@@ -35,17 +37,19 @@ QString ResultWord(FileResult::Kind kind)
 }
 
 RunController::RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
-                             const PolicyValues& policies, const QVector<RunObserver*>& observers)
+                             const PolicyValues& policies, const QVector<RunObserver*>& observers,
+                             const QString& journalPath)
     : document(document)
     , inputs(inputs)
     , policies(policies)
     , observers(observers)
     , manager(ZTBatchManager::Instance())
+    , journalPath(journalPath)
 {
     end.files = inputs.files.size();
     end.outputFolder = outputFolder;
-    for (const QString& file : inputs.files) {
-        ++open[file];
+    for (int i = 0; i < inputs.files.size(); ++i) {
+        open[inputs.files.at(i)].append(i);
     }
     sessionOver.setSingleShot(true);
     connect(&sessionOver, &QTimer::timeout, this, [this] { End(phase == Phase::Cancelling, false); });
@@ -61,6 +65,13 @@ void RunController::Start()
     time.start();
     for (RunObserver* const observer : observers) {
         observer->OnStart(inputs, end.outputFolder);
+    }
+    for (const auto& [index, result] : JournaledResults()) {
+        if (Count(result, index)) {
+            for (RunObserver* const observer : observers) {
+                observer->OnEarlierResult(result);
+            }
+        }
     }
     StartServer();
 }
@@ -249,14 +260,27 @@ void RunController::Answer(int value, bool isForTheRest)
 void RunController::Settle(const FileResult& result)
 {
     inWork.removeOne(result.input);
-    const auto waiting = open.find(result.input);
-    if (waiting == open.end()) {
-        return; // It has its result.
-    }
-    if (--*waiting == 0) {
-        open.erase(waiting);
+    if (!Count(result)) {
+        return;
     }
     ++settledInThisLife;
+    const int done = end.written + end.skipped + end.failed;
+    for (RunObserver* const observer : observers) {
+        observer->OnResult(result, done, end.files);
+    }
+}
+
+/// Counts the result of the input, the one at `index` if that is not negative. False when it has been counted.
+bool RunController::Count(const FileResult& result, int index)
+{
+    const auto waiting = open.find(result.input);
+    if (waiting == open.end() || (index >= 0 && !waiting->contains(index))) {
+        return false;
+    }
+    waiting->removeAt(index >= 0 ? waiting->indexOf(index) : 0);
+    if (waiting->isEmpty()) {
+        open.erase(waiting);
+    }
     switch (result.kind) {
     case FileResult::Kind::Written:
         ++end.written;
@@ -268,9 +292,36 @@ void RunController::Settle(const FileResult& result)
         ++end.failed;
         break;
     }
-    const int done = end.written + end.skipped + end.failed;
-    for (RunObserver* const observer : observers) {
-        observer->OnResult(result, done, end.files);
+    return true;
+}
+
+QVector<QPair<int, FileResult>> RunController::JournaledResults() const
+{
+    using Kind = BatchServer::JournalState::Result::Kind;
+    QVector<QPair<int, FileResult>> results;
+    const std::optional<BatchServer::JournalState> state = BatchServer::ReadJournal(journalPath);
+    for (int i = 0; state && i < inputs.files.size(); ++i) {
+        const auto found = state->results.constFind(i);
+        if (found != state->results.constEnd()) {
+            const FileResult::Kind kind = found->kind == Kind::Written   ? FileResult::Kind::Written
+                                          : found->kind == Kind::Skipped ? FileResult::Kind::Skipped
+                                                                         : FileResult::Kind::Failed;
+            results.append({i, {inputs.files.at(i), found->output, kind, found->errorCode, found->reason}});
+        }
+    }
+    return results;
+}
+
+/// Lets the next server know over which inputs the last one has died.
+void RunController::NoteLoss(const QStringList& lost) const
+{
+    QVector<int> indexes;
+    for (const QString& input : lost) {
+        indexes += open.value(input);
+    }
+    BatchServer::RunJournal journal;
+    if (!indexes.isEmpty() && journal.Open(journalPath)) {
+        journal.Lose(indexes);
     }
 }
 
@@ -290,13 +341,20 @@ void RunController::OnServerGone()
     }
     delete session;
     question.reset();
+    // What it noted last may not have reached us.
+    for (const auto& [index, result] : JournaledResults()) {
+        if (open.value(result.input).contains(index)) {
+            Settle(result);
+        }
+    }
     if (phase == Phase::Cancelling || open.isEmpty() || end.jobErrorCode != ZTBatchMessage::NoError) {
         End(phase == Phase::Cancelling, false);
         return;
     }
     const QStringList lost = inWork;
     inWork.clear();
-    const bool goesOn = lives < mostLives && (settledInThisLife > 0 || !lost.isEmpty());
+    NoteLoss(lost);
+    const bool goesOn = !journalPath.isEmpty() && lives < mostLives && (settledInThisLife > 0 || !lost.isEmpty());
     for (RunObserver* const observer : observers) {
         observer->OnServerLost(lost, goesOn);
     }

@@ -24,9 +24,11 @@ class RunController : public QObject
     Q_OBJECT
 
 public:
-    /// `document` is the text of the job, whose inputs are `inputs` and whose results go to `outputFolder`.
+    /// `document` is the text of the job, whose inputs are `inputs` and whose results go to `outputFolder`. What the
+    /// journal at `journalPath` holds already was done by an earlier part of the run. Without a journal, an empty path,
+    /// the run ends with its server.
     RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
-                  const PolicyValues& policies, const QVector<RunObserver*>& observers);
+                  const PolicyValues& policies, const QVector<RunObserver*>& observers, const QString& journalPath);
     ~RunController() override;
 
     void Start();
@@ -61,6 +63,9 @@ private:
     void OnSessionOver();
     void OnServerGone();
     void Settle(const FileResult& result);
+    bool Count(const FileResult& result, int index = -1);
+    QVector<QPair<int, FileResult>> JournaledResults() const;
+    void NoteLoss(const QStringList& lost) const;
     void End(bool isCancelled, bool isServerLost);
     QString TakeReason(const QString& input, int errorCode);
 
@@ -74,7 +79,8 @@ private:
     QElapsedTimer time;
     Phase phase = Phase::Idle;
     RunEnd end;
-    QHash<QString, int> open; ///< inputs without a result; how often each stands in the job
+    const QString journalPath;
+    QHash<QString, QVector<int>> open; ///< inputs without a result, and their places in the job
     QStringList inWork;
     QString lastLog;
     FileResult asked; ///< what the open question is about

@@ -45,6 +45,14 @@ void RunDisplay::OnStart(const RunInputs& inputs, const QString&)
     }
 }
 
+void RunDisplay::OnEarlierResult(const FileResult& result)
+{
+    ++progress.done;
+    ++progress.earlierDone;
+    progress.bytesDone += bytes.value(result.input);
+    progress.earlierBytes = progress.bytesDone;
+}
+
 void RunDisplay::OnInWork(const QStringList& names, const QString&)
 {
     progress.inWork = names;

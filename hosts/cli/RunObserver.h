@@ -56,6 +56,9 @@ public:
 
     virtual void OnStart(const RunInputs&, const QString& /*outputFolder*/) {}
 
+    /// An input was done by an earlier part of the run. Comes after OnStart() and before anything else.
+    virtual void OnEarlierResult(const FileResult&) {}
+
     /// The server works with the inputs `names` now.
     virtual void OnInWork(const QStringList& /*names*/, const QString& /*begun*/) {}
 

@@ -41,6 +41,10 @@ QVector<OptionInfo> RunOptionInfos()
         {QStringLiteral("--report"), QStringLiteral("FILE"),
          QStringLiteral("writes what became of every input, as CSV or JSON by the name's end"), run, false,
          Completion::Files},
+        {QStringLiteral("--resume"), QString(),
+         QStringLiteral("goes on with the run that was interrupted in the output folder, exactly as it would have gone "
+                        "on: with its job and its policies"),
+         run},
         {QStringLiteral("--json"), QString(),
          QStringLiteral("prints every event of the run as a JSON object on a line of its own to standard output"), run},
         {QStringLiteral("--settings"), QStringLiteral("DIR"),

@@ -14,6 +14,7 @@ public:
     explicit RunReport(const QString& path);
 
     void OnStart(const RunInputs& inputs, const QString& outputFolder) override;
+    void OnEarlierResult(const FileResult& result) override { OnResult(result, 0, 0); }
     void OnResult(const FileResult& result, int done, int files) override;
     void OnEnd(const RunEnd& end) override;
 

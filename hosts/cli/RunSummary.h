@@ -8,6 +8,7 @@ namespace BatchCli {
 class RunSummary : public RunObserver
 {
 public:
+    void OnEarlierResult(const FileResult& result) override { OnResult(result, 0, 0); }
     void OnResult(const FileResult& result, int done, int files) override;
     void OnEnd(const RunEnd& end) override;
 

@@ -76,7 +76,7 @@ QVector<int> OutputPlan::FilesToProbe() const
     const bool needsTimes = naming.NeedsCaptureTime() || structure == Settings::StructureByCaptureDate;
     QVector<int> files;
     for (int i = 0; i < entries.size(); ++i) {
-        if (needsTimes || (keepsFormats && entries[i].inputFormat.isEmpty())) {
+        if (!entries[i].isKept && (needsTimes || (keepsFormats && entries[i].inputFormat.isEmpty()))) {
             files.append(i);
         }
     }
@@ -93,6 +93,13 @@ void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& 
     }
 }
 
+void OutputPlan::Keep(int index, const QString& path)
+{
+    entries[index].isKept = true;
+    entries[index].name = path;
+    keptPaths.insert(path);
+}
+
 bool OutputPlan::MakeNames(const Cancelled& isCancelled)
 {
     takers.reserve(entries.size());
@@ -101,6 +108,10 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
             return false;
         }
         Entry& entry = entries[i];
+        if (entry.isKept) {
+            TakeKept(i);
+            continue;
+        }
         entry.folder = FolderOf(SubFolder(i));
         entry.stem = naming.Stem(entry.input, i, entry.captured);
         if (entry.format) {
@@ -203,6 +214,20 @@ void OutputPlan::SetName(int index, const QString& addition)
     entry.name = FileName(entry.stem, addition, entry.format->extensions.first());
 }
 
+void OutputPlan::TakeKept(int index)
+{
+    Entry& entry = entries[index];
+    const QFileInfo place(entry.name);
+    const QString subFolder = QDir(outputFolder).relativeFilePath(place.path());
+    entry.folder = FolderOf(subFolder == QLatin1String(".") ? QString() : subFolder);
+    entry.name = place.fileName();
+    entry.stem = WithoutExtension(entry.name);
+    const Place taken(folders[entry.folder].keyId, NameKey(entry.name));
+    if (!takers.contains(taken)) {
+        takers.insert(taken, index);
+    }
+}
+
 void OutputPlan::FindClash(int index)
 {
     Entry& entry = entries[index];
@@ -235,6 +260,9 @@ const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
         QDirIterator names(target.path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
         while (names.hasNext()) {
             names.next();
+            if (keptPaths.contains(target.path + QLatin1Char('/') + names.fileName())) {
+                continue;
+            }
             target.onDisk.insert(NameKey(names.fileName()), names.fileName());
         }
     }

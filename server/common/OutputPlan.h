@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QPair>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -61,6 +62,12 @@ public:
     /// What a probe has found out. An invalid time and an empty format change nothing.
     void TakeProbe(int index, const QDateTime& captured, const QString& inputFormat);
 
+    /// Settles the result of a file at `path`, where an earlier part of this run has put it. It is then not in its own
+    /// way, needs no probe, and keeps its name. To be called before MakeNames().
+    void Keep(int index, const QString& path);
+
+    bool IsKept(int index) const { return entries[index].isKept; }
+
     /// Gives every file whose format is known its name and finds out what has it already. False when it was given up.
     bool MakeNames(const Cancelled& isCancelled = {});
 
@@ -104,6 +111,7 @@ private:
         int folder = -1;
         int other = -1;
         Clash clash = Clash::None;
+        bool isKept = false; ///< `name` holds the path until MakeNames()
     };
 
     struct TargetFolder
@@ -119,6 +127,7 @@ private:
     QString SubFolder(int index) const;
     int FolderOf(const QString& subFolder);
     void SetName(int index, const QString& addition);
+    void TakeKept(int index);
     void FindClash(int index);
     bool IsTaken(int folder, const QString& key);
     const QHash<QString, QString>& OnDisk(int folder);
@@ -136,6 +145,7 @@ private:
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;
     QHash<Place, int> takers;        ///< which file has a name
+    QSet<QString> keptPaths;         ///< what stands there came from this run
     QHash<Place, int> nextAdditions; ///< the number behind a stem from which on names may be free
     bool areSourcesNoted = false;
     QHash<FileIdentity, int> sourceCounts; ///< how many inputs of the job are one file

@@ -7,6 +7,7 @@
 #include "ZTBatchDocument.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -21,7 +22,7 @@ constexpr int filesAtOnce = 256;
 } // namespace
 
 Run::Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, WorkerPool& pool,
-         const ServerLimits& limits)
+         const ServerLimits& limits, const QString& journalPath)
     : number(number)
     , host(host)
     , pool(pool)
@@ -29,6 +30,7 @@ Run::Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& h
     , policies(order)
     , policyRefusal(CheckPolicies(order))
     , document(order.document)
+    , journalPath(journalPath)
 {
     const auto ofThisRun = [this](const auto& slot) {
         return [this, slot](const Assignment& task, const auto&... more) {
@@ -59,8 +61,12 @@ void Run::Begin()
     }
     preparation = std::make_shared<Preparation>();
     StartInBackground(
-        [preparation = preparation,
+        [preparation = preparation, path = journalPath,
          text = std::exchange(document, {})](const BackgroundTask::Cancelled& isCancelled) mutable {
+            HoldJournal(path, *preparation);
+            if (preparation->earlier && preparation->earlier->document != text) {
+                preparation->earlier.reset();
+            }
             const JobReader::Job read = JobReader::Read(std::exchange(text, {}), isCancelled);
             preparation->refusal = read.refusal;
             if (isCancelled() || read.refusal.code != ZTBatchMessage::NoError) {
@@ -70,9 +76,45 @@ void Run::Begin()
             settings.Deserialize(read.settings);
             preparation->settings = read.settings;
             preparation->plan = RunPlan(OutputPlan(read.files, CheckSettings(settings).settings));
+            FindFinished(*preparation);
             preparation->plan.ReadInputs(isCancelled);
         },
         &Run::TakeJob);
+}
+
+/// Reads the journal. A server whose host was killed may be cleaning up yet: it has a while to end.
+void Run::HoldJournal(const QString& path, Preparation& preparation)
+{
+    if (path.isEmpty()) {
+        return;
+    }
+    constexpr int patience = 15'000;
+    preparation.hold = std::make_unique<QLockFile>(path + QLatin1String(journalHoldEnd));
+    preparation.hold->setStaleLockTime(0); // Only its holder's end makes it stale, not its age.
+    if (preparation.hold->tryLock(patience)) {
+        preparation.earlier = ReadJournal(path);
+    }
+}
+
+/// Takes what the journal says into the plan. A result that a worker was about to put where nothing was, and that is
+/// there now, was finished: results are whole or absent.
+void Run::FindFinished(Preparation& preparation)
+{
+    if (!preparation.earlier) {
+        return;
+    }
+    JournalState& earlier = *preparation.earlier;
+    for (auto it = earlier.begun.constBegin(); it != earlier.begun.constEnd(); ++it) {
+        if (it.key() < preparation.plan.Count() && QFileInfo::exists(it.value())) {
+            earlier.results.insert(it.key(), {JournalState::Result::Kind::Written, it.value(), 0, {}});
+            preparation.found.append(it.key());
+        }
+    }
+    for (auto it = earlier.results.constBegin(); it != earlier.results.constEnd(); ++it) {
+        if (it.key() < preparation.plan.Count() && it->kind == JournalState::Result::Kind::Written) {
+            preparation.plan.Keep(it.key(), it->output);
+        }
+    }
 }
 
 void Run::StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)())
@@ -101,6 +143,7 @@ void Run::TakeJob()
     settled.assign(std::size_t(plan.Count()), false);
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
     host.Log(QStringLiteral("The job has %1 files.").arg(plan.Count()));
+    TakeEarlier();
     probes = plan.Names().FilesToProbe();
     openProbes = probes.size();
     if (probes.isEmpty()) {
@@ -111,6 +154,41 @@ void Run::TakeJob()
     pool.Start();
     host.Log(QStringLiteral("Names and formats depend on the pictures; looking at %1 of them.").arg(probes.size()));
     Q_EMIT HasTasks();
+}
+
+void Run::TakeEarlier()
+{
+    if (!preparation->earlier || !journal.Open(journalPath)) {
+        return;
+    }
+    hold = std::move(preparation->hold);
+    const JournalState& earlier = *preparation->earlier;
+    losses = earlier.losses;
+    for (auto it = earlier.answers.begin(); it != earlier.answers.end(); ++it) {
+        const auto kind = Case(it.key() + int(Case::Input));
+        if (const std::optional<Decision> decision = Policies::Meaning(kind, *it)) {
+            policies.Set(kind, *decision);
+        }
+    }
+    for (auto it = earlier.results.constBegin(); it != earlier.results.constEnd(); ++it) {
+        if (it.key() < 0 || it.key() >= plan.Count()) {
+            continue;
+        }
+        settled[std::size_t(it.key())] = true;
+        ++(it->kind == JournalState::Result::Kind::Written   ? written
+           : it->kind == JournalState::Result::Kind::Skipped ? skipped
+                                                             : failed);
+    }
+    if (earlier.results.isEmpty()) {
+        return;
+    }
+    host.Log(QStringLiteral("An earlier part of this run has settled %1 files.").arg(earlier.results.size()));
+    for (const int file : qAsConst(preparation->found)) {
+        const JournalState::Result& result = earlier.results[file];
+        journal.Settle(file, result);
+        host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), result.output);
+    }
+    host.Tell<ZTBatchMessage::MsgProgress>(written + skipped + failed);
 }
 
 void Run::BeginNaming()
@@ -172,6 +250,7 @@ bool Run::HandOut()
                 return true;
             }
         } else if (next == plan.Count()) {
+            EndWhenDone(); // An earlier part of the run may have left nothing to do.
             return false;
         } else {
             Examine(next++);
@@ -207,6 +286,9 @@ bool Run::GivePicture(int file)
                     {}});
         return false;
     }
+    if (!plan.IsOverwriting(file)) {
+        journal.Begin(file, names.Output(file));
+    }
     Give(file,
          PictureTask{file, names.Input(file), names.Output(file), names.Format(file)->name, plan.IsOverwriting(file)});
     return true;
@@ -227,6 +309,17 @@ bool Run::MakeFolder(const QString& folder)
 /// Looks at a file before it is handed out.
 void Run::Examine(int file)
 {
+    if (settled[std::size_t(file)]) {
+        return; // By an earlier part of the run.
+    }
+    constexpr int patience = 2;
+    if (losses.value(file) >= patience) {
+        Meet(file, {Case::Processing,
+                    ZTBatchMessage::ApplyAdjustmentError,
+                    QStringLiteral("the server has died over it %1 times").arg(losses.value(file)),
+                    {}});
+        return;
+    }
     const Trouble trouble = plan.TroubleOf(file);
     if (trouble.kind == Case::None) {
         ready.append(file);
@@ -393,6 +486,7 @@ void Run::Answer(ZTBatchMessage::Message answered, int policy, bool isForTheRest
     question.reset();
     if (isForTheRest) {
         policies.Set(kind, *decision);
+        journal.Answer(int(kind) - int(Case::Input), policy);
         host.Log(QStringLiteral("The answer about %1 holds for the rest of the run.").arg(Policies::Name(kind)));
     }
     isDeciding = true; // The files behind have their turn when their names are settled.
@@ -472,6 +566,11 @@ void Run::GiveUp(int file, const Trouble& trouble, Action action)
     // Nothing was wrong with a picture whose name is taken or whose format cannot be written.
     const bool isFailure = isStop || (trouble.kind != Case::Naming && trouble.kind != Case::WriteToFormat);
     ++(isFailure ? failed : skipped);
+    if (!isStop) {
+        using Kind = JournalState::Result::Kind;
+        journal.Settle(
+            file, {isFailure ? Kind::Failed : Kind::Skipped, plan.Names().Output(file), trouble.code, trouble.reason});
+    }
     Settle(file);
 }
 
@@ -498,6 +597,7 @@ void Run::FinishPicture(int file, const Report& report)
         note(Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists,
              QStringLiteral("written as \"%1\" (naming policy)").arg(output));
     }
+    journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}});
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
     Settle(file);

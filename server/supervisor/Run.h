@@ -4,9 +4,11 @@
 #include "BatchValues.h"
 #include "HostLink.h"
 #include "Policies.h"
+#include "RunJournal.h"
 #include "RunPlan.h"
 #include "WorkerPool.h"
 
+#include <QLockFile>
 #include <QMap>
 #include <QObject>
 #include <QSet>
@@ -25,8 +27,10 @@ class Run : public QObject
     Q_OBJECT
 
 public:
+    /// The run is written down in the journal at `journalPath`, if that is one of the order's job, and taken up where
+    /// the journal ends.
     Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, WorkerPool& pool,
-        const BatchServer::ServerLimits& limits);
+        const BatchServer::ServerLimits& limits, const QString& journalPath);
     ~Run() override;
 
     void Begin();
@@ -60,6 +64,9 @@ private:
         BatchServer::Refusal refusal;
         QString settings;
         RunPlan plan;
+        std::unique_ptr<QLockFile> hold; ///< keeps other servers away from the journal
+        std::optional<BatchServer::JournalState> earlier;
+        QVector<int> found; ///< results that were finished, but not noted
         int swept = 0;
     };
 
@@ -70,7 +77,10 @@ private:
     };
 
     void StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)());
+    static void HoldJournal(const QString& path, Preparation& preparation);
+    static void FindFinished(Preparation& preparation);
     void TakeJob();
+    void TakeEarlier();
     void BeginNaming();
     void BeginWork();
 
@@ -136,6 +146,11 @@ private:
     std::vector<bool> settled;
     int firstUnsettled = 0;
     QSet<QString> madeFolders;
+
+    const QString journalPath;
+    std::unique_ptr<QLockFile> hold;
+    BatchServer::RunJournal journal;
+    QHash<int, int> losses; ///< files over which servers have died, and how often
 
     int written = 0;
     int skipped = 0;

@@ -41,7 +41,7 @@ void RunPlan::Settle(int first, const Policies& policies)
 
 void RunPlan::SettleFile(int file, const Policies& policies)
 {
-    if (failedProbes.contains(file)) {
+    if (failedProbes.contains(file) || plan.IsKept(file)) {
         return;
     }
     if (!plan.Format(file)) {

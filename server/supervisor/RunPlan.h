@@ -29,6 +29,9 @@ public:
 
     bool ReadInputs(const BatchServer::OutputPlan::Cancelled& isCancelled) { return plan.ReadInputs(isCancelled); }
 
+    /// See OutputPlan::Keep().
+    void Keep(int file, const QString& path) { plan.Keep(file, path); }
+
     /// What the probe of a file has found.
     void TakeProbe(int file, const BatchServer::Report& report);
 

@@ -184,7 +184,7 @@ void Server::Process(ZTPipeSession* pipe, const QByteArray& payload)
         return;
     }
     session->hadRun = true;
-    auto* const run = new Run(++lastRun, order, host, pool, limits);
+    auto* const run = new Run(++lastRun, order, host, pool, limits, qEnvironmentVariable(BatchServer::journalVariable));
     session->run = run;
     runs.append(run);
     connect(run, &Run::HasTasks, this, &Server::ScheduleHandOut);

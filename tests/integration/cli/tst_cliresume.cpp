@@ -1,0 +1,276 @@
+#include "CliRun.h"
+#include "TestPictures.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/types.h>
+
+namespace {
+
+using Files = QMap<QString, QByteArray>;
+
+/// Every file below `folder`, hidden ones too, by its path in it.
+Files FilesBelow(const QString& folder)
+{
+    Files files;
+    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (paths.hasNext()) {
+        QFile file(paths.next());
+        if (file.open(QIODevice::ReadOnly)) {
+            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
+        }
+    }
+    return files;
+}
+
+/// The processes that `pid` has started.
+QVector<qint64> ChildrenOf(qint64 pid)
+{
+    QFile file(QStringLiteral("/proc/%1/task/%1/children").arg(pid));
+    QVector<qint64> children;
+    if (file.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& child : file.readAll().split(' ')) {
+            if (child.trimmed().toLongLong() > 0) {
+                children.append(child.trimmed().toLongLong());
+            }
+        }
+    }
+    return children;
+}
+
+} // namespace
+
+/// Runs that are interrupted, and those that go on where they were.
+class tst_CliResume : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void KilledAtAnyMoment_data();
+    void KilledAtAnyMoment();
+    void KilledServer();
+    void ServerThatDiesOverAPicture();
+    void InterruptKeepsTheRun();
+    void NothingToResume();
+    void DamagedJournal();
+    void SameJobTwiceAtATime();
+
+private:
+    QString Path(const QString& name) const { return root->filePath(name); }
+    QStringList Arguments(const QString& text) const
+    {
+        return text.split(QLatin1Char(' '), Qt::SkipEmptyParts)
+               << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
+    }
+    CliRun Run(const QString& arguments) const { return CliRun::Of(Arguments(arguments), root->path(), environment); }
+    void Start(QProcess& process, const QString& arguments) const
+    {
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(root->path());
+        process.start(QStringLiteral(VELKORA_BATCH), Arguments(arguments));
+        QVERIFY(process.waitForStarted());
+    }
+    void MakeOutput() const
+    {
+        QVERIFY(QDir(Path(QStringLiteral("out"))).removeRecursively());
+        TestPictures::Write(Path(QStringLiteral("out/2.jpg")), 99);
+    }
+
+    std::unique_ptr<QTemporaryDir> root;
+    QProcessEnvironment environment;
+};
+
+void tst_CliResume::init()
+{
+    root = std::make_unique<QTemporaryDir>();
+    environment = QProcessEnvironment::systemEnvironment();
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
+    environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
+    // The names of the two folders meet in one output folder.
+    for (int i = 1; i <= 6; ++i) {
+        TestPictures::Write(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 500, 400);
+        TestPictures::Write(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, 500, 400);
+    }
+}
+
+void tst_CliResume::KilledAtAnyMoment_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<uint>("seed");
+    QTest::newRow("rename") << QStringLiteral("--on-name-exists rename") << 1U;
+    QTest::newRow("skip") << QStringLiteral("--on-name-exists skip") << 2U;
+    QTest::newRow("overwrite") << QStringLiteral("--on-name-exists overwrite") << 3U;
+    QTest::newRow("numbers and dates") << QStringLiteral("--structure date --name date --suffix number "
+                                                         "--on-name-exists rename")
+                                       << 4U;
+}
+
+// The union of what the two parts of a run write is what an undisturbed run writes, byte for byte.
+void tst_CliResume::KilledAtAnyMoment()
+{
+    QFETCH(QString, options);
+    QFETCH(uint, seed);
+    const QString arguments = QStringLiteral("run a b -o out --effect blur:sigma=4 -q ") + options;
+    MakeOutput();
+    QElapsedTimer time;
+    time.start();
+    Run(arguments);
+    const int duration = int(time.elapsed());
+    const Files undisturbed = FilesBelow(Path(QStringLiteral("out")));
+    QVERIFY(undisturbed.size() > 5);
+
+    QRandomGenerator random(seed);
+    constexpr int rounds = 25;
+    int resumed = 0;
+    for (int round = 0; round < rounds; ++round) {
+        MakeOutput();
+        QProcess process;
+        Start(process, arguments);
+        // The first second passes until the server is reached.
+        process.waitForFinished(std::min(800, duration / 2) + random.bounded(duration));
+        process.kill();
+        process.waitForFinished();
+        CliRun run = Run(QStringLiteral("run --resume -q -o out"));
+        if (run.exitCode == 2) {
+            // It was killed before it began, or was done.
+            QVERIFY2(run.err.contains("there is no interrupted run"), run.err.constData());
+            if (process.exitStatus() == QProcess::CrashExit) {
+                MakeOutput();
+                Run(arguments);
+            }
+        } else {
+            ++resumed;
+        }
+        const Files files = FilesBelow(Path(QStringLiteral("out")));
+        QCOMPARE(files.keys(), undisturbed.keys());
+        QVERIFY2(files == undisturbed, "A result differs from that of the undisturbed run.");
+    }
+    QVERIFY2(resumed > rounds / 4, qPrintable(QString::number(resumed)));
+}
+
+void tst_CliResume::KilledServer()
+{
+    const QString arguments =
+        QStringLiteral("run a b -o out --effect blur:sigma=4 --on-name-exists rename --workers 1");
+    MakeOutput();
+    QCOMPARE(Run(arguments).exitCode, 0);
+    const Files undisturbed = FilesBelow(Path(QStringLiteral("out")));
+    MakeOutput();
+    QProcess process;
+    Start(process, arguments + QStringLiteral(" --json"));
+    QByteArray out;
+    while (out.count("\"event\":\"written\"") < 3) {
+        QVERIFY2(process.waitForReadyRead(60'000), out.constData());
+        out += process.readAllStandardOutput();
+    }
+    const QVector<qint64> servers = ChildrenOf(process.processId());
+    QCOMPARE(servers.size(), 1);
+    QCOMPARE(kill(pid_t(servers.first()), SIGKILL), 0);
+    QVERIFY(process.waitForFinished(120'000));
+    out += process.readAllStandardOutput();
+    const QByteArray err = process.readAllStandardError();
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY2(err.contains("the server ended unexpectedly"), err.constData());
+    QVERIFY2(out.contains("\"event\":\"server-lost\"") && out.contains("\"goesOn\":true"), out.constData());
+    QCOMPARE(out.count("\"event\":\"written\""), 12);
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), undisturbed);
+}
+
+// Each server that works with one picture is killed: after the second the picture is left out.
+void tst_CliResume::ServerThatDiesOverAPicture()
+{
+    QProcess process;
+    Start(process, QStringLiteral("run a -o out --effect blur:sigma=20 --workers 1 --json"));
+    QByteArray out;
+    const QByteArray culprit = "\"event\":\"begin\",\"input\":\"" + Path(QStringLiteral("a/3.jpg")).toUtf8() + "\"";
+    for (int deaths = 0; deaths < 2; ++deaths) {
+        while (out.count(culprit) <= deaths) {
+            QVERIFY2(process.waitForReadyRead(60'000), out.constData());
+            out += process.readAllStandardOutput();
+        }
+        const QVector<qint64> servers = ChildrenOf(process.processId());
+        QCOMPARE(servers.size(), 1);
+        QCOMPARE(kill(pid_t(servers.first()), SIGKILL), 0);
+    }
+    QVERIFY(process.waitForFinished(120'000));
+    out += process.readAllStandardOutput();
+    QCOMPARE(out.count("\"event\":\"server-lost\""), 2);
+    // The picture may have been finished right before the kill.
+    if (process.exitCode() == 1) {
+        QVERIFY2(out.contains("the server has died over it 2 times"), out.constData());
+        QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 5);
+    } else {
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
+    }
+}
+
+void tst_CliResume::InterruptKeepsTheRun()
+{
+    QProcess process;
+    Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=4 --workers 1 --json"));
+    QByteArray out;
+    while (!out.contains("\"event\":\"written\"")) {
+        QVERIFY2(process.waitForReadyRead(60'000), out.constData());
+        out += process.readAllStandardOutput();
+    }
+    process.terminate();
+    QVERIFY(process.waitForFinished(60'000));
+    QCOMPARE(process.exitCode(), 4);
+    QVERIFY(process.readAllStandardError().contains("run --resume -o"));
+    const int written = FilesBelow(Path(QStringLiteral("out/a"))).size();
+    QVERIFY(written > 0);
+    const CliRun rest = Run(QStringLiteral("run --resume -o out"));
+    QVERIFY2(rest.exitCode == 0, rest.err.constData());
+    QVERIFY2(rest.err.contains("[12/12] "), rest.err.constData());
+    QVERIFY2(!rest.err.contains("[1/12] "), rest.err.constData());
+    QVERIFY2(rest.err.contains("Written            12"), rest.err.constData());
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
+}
+
+void tst_CliResume::NothingToResume()
+{
+    const CliRun none = Run(QStringLiteral("run --resume -o out"));
+    QCOMPARE(none.exitCode, 2);
+    QVERIFY2(none.err.contains("there is no interrupted run in "), none.err.constData());
+    const CliRun where = Run(QStringLiteral("run --resume"));
+    QCOMPARE(where.exitCode, 2);
+    QVERIFY2(where.err.contains("--output DIR"), where.err.constData());
+    QCOMPARE(Run(QStringLiteral("run a -o out -q")).exitCode, 0);
+    QCOMPARE(Run(QStringLiteral("run a --resume -o out")).exitCode, 2);
+}
+
+void tst_CliResume::DamagedJournal()
+{
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
+    QFile journal(Path(QStringLiteral("out/.velkora-batch-0123456789abcdef.journal")));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    QVERIFY(journal.write("{\"journal\":1,\"docu") > 0);
+    journal.close();
+    const CliRun run = Run(QStringLiteral("run --resume -o out"));
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.contains(".journal is damaged"), run.err.constData());
+}
+
+void tst_CliResume::SameJobTwiceAtATime()
+{
+    QProcess first;
+    Start(first, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+    QVERIFY(first.waitForReadyRead(60'000));
+    const CliRun second =
+        Run(QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+    QCOMPARE(second.exitCode, 2);
+    QVERIFY2(second.err.contains("the same job is being run"), second.err.constData());
+    QCOMPARE(Run(QStringLiteral("run --resume -o out")).exitCode, 2);
+    first.terminate();
+    QVERIFY(first.waitForFinished(60'000));
+}
+
+QTEST_GUILESS_MAIN(tst_CliResume)
+#include "tst_cliresume.moc"
