@@ -2,6 +2,9 @@
 
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 namespace BatchCli {
@@ -9,6 +12,9 @@ namespace BatchCli {
 void PrepareProcess()
 {
     SetConsoleOutputCP(CP_UTF8);
+    // Output is the same bytes on every system, for the programs that read it.
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
 }
 
 QStringList Arguments(int, char**)

@@ -32,7 +32,7 @@ void WriteLine(QtMsgType, const QMessageLogContext&, const QString& text)
 
 [[noreturn]] void EndQuietly()
 {
-    std::_Exit(terminatedExitCode);
+    EndAtOnce(terminatedExitCode);
 }
 
 } // namespace

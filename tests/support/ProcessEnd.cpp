@@ -68,6 +68,12 @@ void Crash()
     std::abort();
 }
 
+void EndAtOnce(int exitCode)
+{
+    TerminateProcess(GetCurrentProcess(), static_cast<UINT>(exitCode));
+    std::abort();
+}
+
 bool IsProcessAlive(qint64 pid)
 {
     const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(pid));
@@ -106,6 +112,11 @@ void CrashQuietly()
 void Crash()
 {
     std::abort();
+}
+
+void EndAtOnce(int exitCode)
+{
+    std::_Exit(exitCode);
 }
 
 bool IsProcessAlive(qint64 pid)

@@ -11,5 +11,8 @@ void CrashQuietly();
 /// Ends this process in a way that its parent sees as a crash.
 [[noreturn]] void Crash();
 
+/// Ends this process as it is: no library gets the chance to clean up, and to wait for a thread that is gone.
+[[noreturn]] void EndAtOnce(int exitCode);
+
 bool IsProcessAlive(qint64 pid);
 void KillProcess(qint64 pid);

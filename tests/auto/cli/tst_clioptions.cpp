@@ -94,7 +94,7 @@ void tst_CliOptions::ValuesReachTheJob()
     ZTBatchDocument job;
     Fill(job);
     const ZTBatchOutputSettings& output = *job.GetOutputSettings();
-    QCOMPARE(output.GetPath(), QStringLiteral("/tmp/results"));
+    QCOMPARE(output.GetPath(), QFileInfo(QStringLiteral("/tmp/results")).absoluteFilePath());
     QCOMPARE(int(output.GetFolderStructure()), 2);
     QString format;
     QByteArray options;

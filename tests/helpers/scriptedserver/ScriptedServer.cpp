@@ -81,7 +81,7 @@ void ScriptedServer::Do(const QString& action)
     } else if (verb == QLatin1String("disconnect")) {
         m_latest->disconnectFromServer();
     } else if (verb == QLatin1String("exit")) {
-        std::_Exit(words.value(1).toInt());
+        EndAtOnce(words.value(1).toInt());
     } else if (verb == QLatin1String("crash")) {
         Crash();
     } else if (verb == QLatin1String("abort")) {
@@ -144,7 +144,7 @@ void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
     }
     if (name == QLatin1String("21") && !m_script.Has(name)) {
         m_server.close();
-        std::_Exit(0);
+        EndAtOnce(0);
     }
     Trigger(name);
 }

@@ -155,6 +155,8 @@ void tst_CliJobs::FilesAreNotReplacedUnasked()
     QFile file(Path(QStringLiteral("a.xml")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("precious"));
+    // Windows replaces no file that is open.
+    file.close();
     arguments.append(QStringLiteral("--force"));
     QCOMPARE(Run(arguments).exitCode, 0);
     ZTBatchDocument job;
@@ -246,6 +248,9 @@ void tst_CliJobs::WrongJobsAreExplained()
 
 void tst_CliJobs::ProblemsAreToldAndCounted()
 {
+#ifdef Q_OS_WIN
+    QSKIP("A link that Qt makes there is an ordinary file unless its name ends with .lnk.");
+#endif
     QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), Path(QStringLiteral("photos/lost.jpg"))));
     const CliRun run = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"),
                             QStringLiteral("-ox"), QStringLiteral("-q")});
