@@ -22,13 +22,16 @@ Picture Scaled(const Picture& picture, const QSize& size)
     }
     const double horizontal = double(size.width()) / picture.width();
     const double vertical = double(size.height()) / picture.height();
-    if (!picture.has_alpha()) {
-        return picture.resize(horizontal, Picture::option()->set("vscale", vertical));
+    vips::VOption* const heightScale = Picture::option()->set("vscale", vertical);
+    const bool hasSixteenBits = picture.format() == VIPS_FORMAT_USHORT;
+    if (!picture.has_alpha() && !hasSixteenBits) {
+        return picture.resize(horizontal, heightScale);
     }
-    return picture.premultiply()
-        .resize(horizontal, Picture::option()->set("vscale", vertical))
-        .unpremultiply()
-        .rint()
+    // Whole numbers of 16 bits would be scaled with weights that do not add up to one: white would come out grey.
+    const Picture exact = hasSixteenBits ? picture.cast(VIPS_FORMAT_FLOAT) : picture;
+    const Picture scaled = picture.has_alpha() ? exact.premultiply().resize(horizontal, heightScale).unpremultiply()
+                                               : exact.resize(horizontal, heightScale);
+    return scaled.rint()
         .cast(picture.format())
         .copy(Picture::option()->set("interpretation", picture.interpretation()));
 }

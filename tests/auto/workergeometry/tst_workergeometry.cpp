@@ -61,6 +61,8 @@ private Q_SLOTS:
     void fillsTheFrame();
     void loadsSmallerUnseen_data();
     void loadsSmallerUnseen();
+    void keepsPlainValuesOfSixteenBits_data();
+    void keepsPlainValuesOfSixteenBits();
     void trimsBorders_data();
     void trimsBorders();
     void findsWhatDrawsTheEye();
@@ -269,6 +271,45 @@ void WorkerGeometryTest::loadsSmallerUnseen()
     // Colours of the smaller one are finer, for the formats store them at half size: some steps at the edges. Pictures
     // that are a pixel apart differ by more than 10.
     QVERIFY2(difference < 3.0, qPrintable(QString::number(difference)));
+}
+
+void WorkerGeometryTest::keepsPlainValuesOfSixteenBits_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("hasAlpha");
+    for (const int value : {1, 4711, 60003, 65535}) {
+        QTest::addRow("%d", value) << value << false;
+        QTest::addRow("%d, alpha", value) << value << true;
+    }
+}
+
+// A resize of a picture of one colour gives that colour.
+void WorkerGeometryTest::keepsPlainValuesOfSixteenBits()
+{
+    QFETCH(const int, value);
+    QFETCH(const bool, hasAlpha);
+
+    WorkerBench bench;
+    Picture plain = Picture::black(300, 200, Picture::option()->set("bands", 3)).linear(1, value);
+    if (hasAlpha) {
+        plain = plain.bandjoin(65535);
+    }
+    plain = plain.cast(VIPS_FORMAT_USHORT).copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_RGB16));
+    WritePicture(plain, bench.Path(Text("in.tif")));
+    const auto edit = [](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = int(BatchValues::SizeRestriction::Fit);
+        size.size = 123;
+        output.SetImageSizeSettings(size);
+    };
+    QCOMPARE(bench.Make(Text("in.tif"), Text("out.tif"), Text("TIFF"), {}, edit).reason, QString());
+    const Picture result = ReadPicture(bench.Path(Text("out.tif")));
+    QCOMPARE(QSize(result.width(), result.height()), QSize(123, 82));
+    QCOMPARE(result.format(), VIPS_FORMAT_USHORT);
+    for (int band = 0; band < 3; ++band) {
+        QCOMPARE(result.extract_band(band).min(), double(value));
+        QCOMPARE(result.extract_band(band).max(), double(value));
+    }
 }
 
 void WorkerGeometryTest::trimsBorders_data()
