@@ -14,6 +14,7 @@ class tst_TreeNode : public QObject
 private Q_SLOTS:
     void beginsAlone();
     void addressIsThatOfTheData();
+    void livesWhereItIsPut();
     void isSmall();
     void insertChildKeepsTheOrder_data();
     void insertChildKeepsTheOrder();
@@ -59,6 +60,14 @@ void tst_TreeNode::addressIsThatOfTheData()
 {
     const std::unique_ptr<InputNode> node(NewFile(QStringLiteral("a")));
     QCOMPARE(static_cast<const void*>(&node->data), static_cast<const void*>(node.get()));
+}
+
+void tst_TreeNode::livesWhereItIsPut()
+{
+    alignas(InputNode) char place[sizeof(InputNode)];
+    auto* node = new (place) InputNode;
+    QCOMPARE(static_cast<void*>(node), static_cast<void*>(place));
+    node->~InputNode();
 }
 
 void tst_TreeNode::isSmall()
