@@ -1,5 +1,7 @@
 #include "Resampling.h"
 
+#include "ColumnReduction.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -15,22 +17,29 @@ Picture Cut(const Picture& picture, const QRect& rect)
     return picture.crop(rect.x(), rect.y(), rect.width(), rect.height());
 }
 
+// Rows first: the library is quick with them, and fewer are left for the columns.
+Picture ScaledAsIs(const Picture& picture, const QSize& size)
+{
+    const double vertical = double(size.height()) / picture.height();
+    const bool hasFewerColumns = size.width() < picture.width();
+    const double horizontal = hasFewerColumns ? 1.0 : double(size.width()) / picture.width();
+    const Picture scaled = picture.resize(horizontal, Picture::option()->set("vscale", vertical));
+    return hasFewerColumns ? WithFewerColumns(scaled, size.width()) : scaled;
+}
+
 Picture Scaled(const Picture& picture, const QSize& size)
 {
     if (size == QSize(picture.width(), picture.height())) {
         return picture;
     }
-    const double horizontal = double(size.width()) / picture.width();
-    const double vertical = double(size.height()) / picture.height();
-    vips::VOption* const heightScale = Picture::option()->set("vscale", vertical);
     const bool hasSixteenBits = picture.format() == VIPS_FORMAT_USHORT;
     if (!picture.has_alpha() && !hasSixteenBits) {
-        return picture.resize(horizontal, heightScale);
+        return ScaledAsIs(picture, size);
     }
     // Whole numbers of 16 bits would be scaled with weights that do not add up to one: white would come out grey.
     const Picture exact = hasSixteenBits ? picture.cast(VIPS_FORMAT_FLOAT) : picture;
-    const Picture scaled = picture.has_alpha() ? exact.premultiply().resize(horizontal, heightScale).unpremultiply()
-                                               : exact.resize(horizontal, heightScale);
+    const Picture scaled =
+        picture.has_alpha() ? ScaledAsIs(exact.premultiply(), size).unpremultiply() : ScaledAsIs(exact, size);
     return scaled.rint()
         .cast(picture.format())
         .copy(Picture::option()->set("interpretation", picture.interpretation()));

@@ -1,0 +1,177 @@
+#include "ColumnReduction.h"
+#include "TestPictures.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+using namespace BatchServer;
+
+namespace {
+
+constexpr double pi = 3.14159265358979323846;
+
+double Weight(double distance)
+{
+    if (distance == 0.0) {
+        return 1.0;
+    }
+    return std::abs(distance) < 3.0
+               ? std::sin(pi * distance) / (pi * distance) * std::sin(pi * distance / 3.0) / (pi * distance / 3.0)
+               : 0.0;
+}
+
+double LargestOf(VipsBandFormat format)
+{
+    return format == VIPS_FORMAT_UCHAR ? 255.0 : (format == VIPS_FORMAT_USHORT ? 65535.0 : 1.0);
+}
+
+/// Lines of `width` pixels, value by value.
+using Values = std::vector<double>;
+
+Values Random(int width, int height, int bands, double largest)
+{
+    std::mt19937 random(std::mt19937::result_type(width * 31 + bands));
+    std::uniform_real_distribution<double> distribution(0.0, largest);
+    Values values(std::size_t(width * height * bands));
+    for (double& value : values) {
+        value = largest > 1.0 ? std::round(distribution(random)) : distribution(random);
+    }
+    return values;
+}
+
+Picture PictureOf(const Values& values, int width, int height, int bands, VipsBandFormat format)
+{
+    return Picture::new_from_memory(const_cast<double*>(values.data()), values.size() * sizeof(double), width, height,
+                                    bands, VIPS_FORMAT_DOUBLE)
+        .cast(format)
+        .copy_memory();
+}
+
+Values ValuesOf(const Picture& picture)
+{
+    std::size_t size = 0;
+    auto* const memory = static_cast<double*>(picture.cast(VIPS_FORMAT_DOUBLE).write_to_memory(&size));
+    Values values(memory, memory + size / sizeof(double));
+    g_free(memory);
+    return values;
+}
+
+// Straight from the definition, for every pixel anew.
+double ReducedValue(const Values& values, int width, int newWidth, int bands, int band, int x, int y)
+{
+    const double factor = double(width) / newWidth;
+    const double middle = (x + 0.5) * factor - 0.5;
+    double sum = 0.0;
+    double weights = 0.0;
+    for (int old = int(middle - 3.0 * factor) - 2; old <= int(middle + 3.0 * factor) + 2; ++old) {
+        const double weight = Weight((old - middle) / factor);
+        sum += weight * values[std::size_t((y * width + qBound(0, old, width - 1)) * bands + band)];
+        weights += weight;
+    }
+    return sum / weights;
+}
+
+} // namespace
+
+class ColumnReductionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { StartPictures(); }
+    void givesWeightedSums_data();
+    void givesWeightedSums();
+    void keepsPlainValues_data() { givesWeightedSums_data(); }
+    void keepsPlainValues();
+    void findsTheSameInPieces_data() { givesWeightedSums_data(); }
+    void findsTheSameInPieces();
+};
+
+void ColumnReductionTest::givesWeightedSums_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<int>("bands");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("newWidth");
+    const QVector<QPair<QString, int>> formats{{QStringLiteral("8 bits"), VIPS_FORMAT_UCHAR},
+                                               {QStringLiteral("16 bits"), VIPS_FORMAT_USHORT},
+                                               {QStringLiteral("float"), VIPS_FORMAT_FLOAT}};
+    const QVector<QPair<int, int>> widths{{160, 100}, {161, 160}, {100, 100}, {300, 7},
+                                          {1200, 10}, {97, 1},    {2, 1},     {1, 1}};
+    for (const auto& format : formats) {
+        for (int bands = 1; bands <= 6; ++bands) {
+            for (const auto& [width, newWidth] : widths) {
+                QTest::addRow("%s, %d bands, %d to %d", qPrintable(format.first), bands, width, newWidth)
+                    << format.second << bands << width << newWidth;
+            }
+        }
+    }
+}
+
+void ColumnReductionTest::givesWeightedSums()
+{
+    QFETCH(const int, format);
+    QFETCH(const int, bands);
+    QFETCH(const int, width);
+    QFETCH(const int, newWidth);
+    constexpr int height = 3;
+    const double largest = LargestOf(VipsBandFormat(format));
+    const Values old = Random(width, height, bands, largest);
+    const Picture reduced = WithFewerColumns(PictureOf(old, width, height, bands, VipsBandFormat(format)), newWidth);
+    QCOMPARE(reduced.width(), newWidth);
+    QCOMPARE(reduced.height(), height);
+    QCOMPARE(reduced.bands(), bands);
+    QCOMPARE(int(reduced.format()), format);
+
+    // Half a step is the rounding's, the rest that of the weights.
+    const double tolerance = largest > 1.0 ? 0.5 + largest * 1e-3 : 1e-5;
+    const Values found = ValuesOf(reduced);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < newWidth; ++x) {
+            for (int band = 0; band < bands; ++band) {
+                const double exact = ReducedValue(old, width, newWidth, bands, band, x, y);
+                const double expected = largest > 1.0 ? qBound(0.0, exact, largest) : exact;
+                const double value = found[std::size_t((y * newWidth + x) * bands + band)];
+                QVERIFY2(std::abs(value - expected) <= tolerance,
+                         qPrintable(QStringLiteral("column %1: %2 instead of %3").arg(x).arg(value).arg(expected)));
+            }
+        }
+    }
+}
+
+void ColumnReductionTest::keepsPlainValues()
+{
+    QFETCH(const int, format);
+    QFETCH(const int, bands);
+    QFETCH(const int, width);
+    QFETCH(const int, newWidth);
+    for (const double part : {0.0, 0.5, 1.0}) {
+        const double value = std::round(part * LargestOf(VipsBandFormat(format)));
+        const Picture plain =
+            PictureOf(Values(std::size_t(width * bands), value), width, 1, bands, VipsBandFormat(format));
+        for (const double found : ValuesOf(WithFewerColumns(plain, newWidth))) {
+            QVERIFY(std::abs(found - value) < 1e-5);
+        }
+    }
+}
+
+void ColumnReductionTest::findsTheSameInPieces()
+{
+    QFETCH(const int, format);
+    QFETCH(const int, bands);
+    QFETCH(const int, width);
+    QFETCH(const int, newWidth);
+    constexpr int height = 20;
+    const Values old = Random(width, height, bands, LargestOf(VipsBandFormat(format)));
+    const Picture reduced = WithFewerColumns(PictureOf(old, width, height, bands, VipsBandFormat(format)), newWidth);
+    const int left = newWidth / 3;
+    const int right = newWidth - newWidth / 4;
+    const Picture piece = reduced.crop(left, 5, right - left, 7);
+    QCOMPARE(ValuesOf(piece), ValuesOf(reduced.copy_memory().crop(left, 5, right - left, 7)));
+}
+
+QTEST_GUILESS_MAIN(ColumnReductionTest)
+#include "tst_columnreduction.moc"
