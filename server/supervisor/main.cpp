@@ -36,11 +36,12 @@ int main(int argc, char** argv)
         return JobReader::RunProcess();
     }
     Server server(WorkerProgram(), BatchServer::ServerLimits::FromEnvironment());
+    // Before anybody can connect: who does may ask for the end at once.
+    Surroundings::OnEndRequest([&server] { server.End(); });
     if (!server.Start(arguments[0])) {
         std::fprintf(stderr, "VelkoraBatchProcessing: the pipe \"%s\" cannot be opened: %s\n",
                      qUtf8Printable(arguments[0]), qUtf8Printable(server.Error()));
         return 1;
     }
-    Surroundings::OnEndRequest([&server] { server.End(); });
     return QCoreApplication::exec();
 }
