@@ -244,9 +244,9 @@ void WorkerGeometryTest::loadsSmallerUnseen_data()
 {
     QTest::addColumn<QString>("extension");
     QTest::addColumn<int>("type");
-    for (const char* extension : {".jpg", ".webp"}) {
+    for (const QString& extension : {Text(".jpg"), Text(".webp")}) {
         for (const CropType type : {CropType::None, CropType::Ratio, CropType::Exact, CropType::Fill}) {
-            QTest::addRow("%s, crop %d", extension, int(type)) << Text(extension) << int(type);
+            QTest::addRow("%s, crop %d", qPrintable(extension), int(type)) << extension << int(type);
         }
     }
 }

@@ -175,9 +175,9 @@ void WorkerPicturesTest::turnsPicturesUpright_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<int>("orientation");
-    for (const char* format : {"JPEG", "TIFF", "WebP", "PNG"}) {
+    for (const QString& format : {Text("JPEG"), Text("TIFF"), Text("WebP"), Text("PNG")}) {
         for (int orientation = 1; orientation <= 8; ++orientation) {
-            QTest::addRow("%s %d", format, orientation) << Text(format) << orientation;
+            QTest::addRow("%s %d", qPrintable(format), orientation) << format << orientation;
         }
     }
 }
