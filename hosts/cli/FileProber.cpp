@@ -75,7 +75,11 @@ private:
     void Read()
     {
         reader.Append(process.readAllStandardOutput());
-        while (const std::optional<Report> report = reader.NextFromWorker()) {
+        while (const std::optional<BatchServer::FromWorker> message = reader.NextFromWorker()) {
+            const Report* report = std::get_if<Report>(&*message);
+            if (!report) {
+                continue; // It has one task at a time, and begins with that.
+            }
             clock.stop();
             wasReady = true;
             if (report->number != BatchServer::workerIsReady) {

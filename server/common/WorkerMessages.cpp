@@ -3,6 +3,8 @@
 #include <QtEndian>
 
 #include <tuple>
+#include <type_traits>
+#include <utility>
 
 namespace BatchServer {
 
@@ -25,6 +27,8 @@ auto Fields(Record& record)
         return std::tie(record.number, record.inputFile);
     } else if constexpr (std::is_same_v<Plain, PictureTask>) {
         return std::tie(record.number, record.inputFile, record.outputFile, record.format, record.replaceExisting);
+    } else if constexpr (std::is_same_v<Plain, Beginning>) {
+        return std::tie(record.number);
     } else {
         return std::tie(record.number, record.failure, record.errorCode, record.reason, record.warnings,
                         record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
@@ -55,16 +59,9 @@ QByteArray Frame(const Writer& write)
     return bytes;
 }
 
-template<typename Message>
-std::optional<ToWorker> ReadToWorker(QDataStream& stream)
-{
-    const std::optional<Message> message = Read<Message>(stream);
-    return message ? std::optional<ToWorker>(*message) : std::nullopt;
-}
-
-} // namespace
-
-QByteArray FrameToWorker(const ToWorker& message)
+// The number of its kind, then the record.
+template<typename AnyMessage>
+QByteArray FrameOf(const AnyMessage& message)
 {
     return Frame([&message](QDataStream& stream) {
         stream << quint8(message.index());
@@ -72,9 +69,35 @@ QByteArray FrameToWorker(const ToWorker& message)
     });
 }
 
-QByteArray FrameFromWorker(const Report& report)
+template<typename AnyMessage, std::size_t kind>
+std::optional<AnyMessage> ReadKind(QDataStream& stream)
 {
-    return Frame([&report](QDataStream& stream) { Write(stream, report); });
+    std::optional<std::variant_alternative_t<kind, AnyMessage>> message =
+        Read<std::variant_alternative_t<kind, AnyMessage>>(stream);
+    return message ? std::optional<AnyMessage>(std::move(*message)) : std::nullopt;
+}
+
+template<typename AnyMessage, std::size_t... kinds>
+std::optional<AnyMessage> ReadAny(const QByteArray& payload, std::index_sequence<kinds...>)
+{
+    QDataStream stream(payload);
+    quint8 wanted = 0;
+    stream >> wanted;
+    std::optional<AnyMessage> message;
+    ((kinds == wanted ? void(message = ReadKind<AnyMessage, kinds>(stream)) : void()), ...);
+    return message;
+}
+
+} // namespace
+
+QByteArray FrameToWorker(const ToWorker& message)
+{
+    return FrameOf(message);
+}
+
+QByteArray FrameFromWorker(const FromWorker& message)
+{
+    return FrameOf(message);
 }
 
 void FrameReader::Append(const QByteArray& bytes)
@@ -84,43 +107,27 @@ void FrameReader::Append(const QByteArray& bytes)
     }
 }
 
-std::optional<ToWorker> FrameReader::NextToWorker()
+template<typename AnyMessage>
+std::optional<AnyMessage> FrameReader::Next(quint32 maximum)
 {
-    const std::optional<QByteArray> payload = NextPayload(maximumPayload);
+    const std::optional<QByteArray> payload = NextPayload(maximum);
     if (!payload) {
         return std::nullopt;
     }
-    QDataStream stream(*payload);
-    quint8 kind = 0;
-    stream >> kind;
-    std::optional<ToWorker> message;
-    switch (kind) {
-    case 0:
-        message = ReadToWorker<Job>(stream);
-        break;
-    case 1:
-        message = ReadToWorker<ProbeTask>(stream);
-        break;
-    case 2:
-        message = ReadToWorker<PictureTask>(stream);
-        break;
-    default:
-        break;
-    }
+    std::optional<AnyMessage> message =
+        ReadAny<AnyMessage>(*payload, std::make_index_sequence<std::variant_size_v<AnyMessage>>());
     isBroken = !message;
     return message;
 }
 
-std::optional<Report> FrameReader::NextFromWorker()
+std::optional<ToWorker> FrameReader::NextToWorker()
 {
-    const std::optional<QByteArray> payload = NextPayload(maximumReport);
-    if (!payload) {
-        return std::nullopt;
-    }
-    QDataStream stream(*payload);
-    std::optional<Report> report = Read<Report>(stream);
-    isBroken = !report;
-    return report;
+    return Next<ToWorker>(maximumPayload);
+}
+
+std::optional<FromWorker> FrameReader::NextFromWorker()
+{
+    return Next<FromWorker>(maximumReport);
 }
 
 std::optional<QByteArray> FrameReader::NextPayload(quint32 maximum)

@@ -16,8 +16,10 @@
 /// What the supervisor and its workers tell each other, over the worker's standard input and output.
 ///
 /// A worker says that it is ready with one Report of number workerIsReady, before it reads anything. Then it gets a Job
-/// and tasks, and answers each task with one Report, in order. A supervisor may hand over the next task before the last
-/// is reported. The end of its input ends a worker.
+/// and tasks, and answers each task with one Beginning and one Report. Each of the two comes in the tasks' order, but a
+/// worker may begin a task before the one before is reported: that one's result is on its way to the disk. So a worker
+/// that ends tells by its last Beginning over which task. A supervisor may hand over the next task before the last is
+/// reported. The end of its input ends a worker.
 namespace BatchServer {
 
 /// The number of the first report of a worker. A worker that ends before it could not start: no picture is to blame.
@@ -53,6 +55,12 @@ struct PictureTask
 /// Which policy decides about a case that a worker reports.
 enum class Case : qint32 { None, Input, Output, Processing, Naming, WriteToFormat };
 
+/// The worker turns to a task.
+struct Beginning
+{
+    qint32 number = 0;
+};
+
 struct Report
 {
     qint32 number = 0;
@@ -68,10 +76,11 @@ struct Report
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;
+using FromWorker = std::variant<Beginning, Report>;
 
 /// The frame of a message: its bytes behind their count, 32 bits, big-endian.
 QByteArray FrameToWorker(const ToWorker& message);
-QByteArray FrameFromWorker(const Report& report);
+QByteArray FrameFromWorker(const FromWorker& message);
 
 /// Takes messages out of whatever pieces of a stream arrive.
 class FrameReader
@@ -82,12 +91,14 @@ public:
 
     /// The next message; nothing as long as it is incomplete, and from then on when the stream is broken.
     std::optional<ToWorker> NextToWorker();
-    std::optional<Report> NextFromWorker();
+    std::optional<FromWorker> NextFromWorker();
 
     /// Whether the stream held what no message is: nothing more can be read from it.
     bool IsBroken() const { return isBroken; }
 
 private:
+    template<typename AnyMessage>
+    std::optional<AnyMessage> Next(quint32 maximum);
     std::optional<QByteArray> NextPayload(quint32 maximum);
 
     QByteArray buffer;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "FileIdentity.h"
 #include "WorkerMessages.h"
 
 #include <QByteArray>
+
+#include <optional>
 
 /// A task on its way to a worker.
 struct Assignment
@@ -11,4 +14,8 @@ struct Assignment
     int file = -1;              ///< the file's number in the plan of the run
     QByteArray job;             ///< the framed Job of the run; all its assignments share one
     BatchServer::ToWorker task; ///< a ProbeTask or PictureTask with the number `file`
+
+    /// What stood in the place of the result. Something else there means that the result is finished, told or not.
+    std::optional<BatchServer::FileIdentity> before;
+    bool isSecondTry = false; ///< a worker has ended already before it began the task
 };

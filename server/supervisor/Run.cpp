@@ -228,9 +228,7 @@ bool Run::HandOut()
         return false;
     }
     if (!returned.isEmpty()) {
-        const Assignment task = returned.takeFirst();
-        inWork.insert(task.file);
-        pool.Give(task);
+        Give(returned.takeFirst());
         return true;
     }
     if (phase == Phase::Probing) {
@@ -238,7 +236,7 @@ bool Run::HandOut()
             return false;
         }
         const int file = probes[nextProbe++];
-        Give(file, ProbeTask{file, plan.Names().Input(file)});
+        Give({number, file, job, ProbeTask{file, plan.Names().Input(file)}, {}, false});
         return true;
     }
     if (question && question->trouble.kind == Case::Output) {
@@ -269,10 +267,10 @@ int Run::TasksLeft() const
                                    : plan.Count() - next + ready.size() + returned.size();
 }
 
-void Run::Give(int file, const ToWorker& task)
+void Run::Give(const Assignment& task)
 {
-    inWork.insert(file);
-    pool.Give({number, file, job, task});
+    inWork.insert(task.file);
+    pool.Give(task);
 }
 
 bool Run::GivePicture(int file)
@@ -289,8 +287,9 @@ bool Run::GivePicture(int file)
     if (!plan.IsOverwriting(file)) {
         journal.Begin(file, names.Output(file));
     }
-    Give(file,
-         PictureTask{file, names.Input(file), names.Output(file), names.Format(file)->name, plan.IsOverwriting(file)});
+    const QString output = names.Output(file);
+    const PictureTask task{file, names.Input(file), output, names.Format(file)->name, plan.IsOverwriting(file)};
+    Give({number, file, job, task, IdentityOf(output), false});
     return true;
 }
 
@@ -361,19 +360,39 @@ void Run::OnLost(const Assignment& task, WorkerEnd reason, const QString& text)
         FinishProbe();
         return;
     }
-    TemporaryFile::Sweep(plan.Names().Folder(task.file));
-    Meet(task.file, trouble);
+    if (!TakeUnreported(task)) {
+        Meet(task.file, trouble);
+    }
 }
 
 void Run::OnReturned(const Assignment& task)
 {
     inWork.remove(task.file);
+    if (TakeUnreported(task)) {
+        return;
+    }
     if (isStopping) {
         EndWhenDone();
         return;
     }
     returned.append(task);
     Q_EMIT HasTasks();
+}
+
+/// Whether the worker had finished the result, and only its report is missing: results are whole or absent.
+bool Run::TakeUnreported(const Assignment& task)
+{
+    const auto* picture = std::get_if<PictureTask>(&task.task);
+    if (!picture) {
+        return false;
+    }
+    TemporaryFile::Sweep(plan.Names().Folder(task.file));
+    const std::optional<FileIdentity> now = IdentityOf(picture->outputFile);
+    if (!now || now == task.before) {
+        return false;
+    }
+    FinishPicture(task.file, Report());
+    return true;
 }
 
 void Run::OnBroken(const QString& reason)

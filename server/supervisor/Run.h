@@ -84,7 +84,7 @@ private:
     void BeginNaming();
     void BeginWork();
 
-    void Give(int file, const BatchServer::ToWorker& task);
+    void Give(const Assignment& task);
     bool GivePicture(int file);
     bool MakeFolder(const QString& folder);
     void Examine(int file);
@@ -93,6 +93,7 @@ private:
     void OnReported(const Assignment& task, const BatchServer::Report& report);
     void OnLost(const Assignment& task, WorkerEnd reason, const QString& text);
     void OnReturned(const Assignment& task);
+    bool TakeUnreported(const Assignment& task);
     void OnBroken(const QString& reason);
     void OnDropped();
 

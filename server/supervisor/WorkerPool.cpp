@@ -94,6 +94,7 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
     workers.removeOne(worker);
     worker->deleteLater();
     const QList<Assignment> tasks = worker->Tasks();
+    const int culprit = worker->Culprit();
     const QString text = worker->EndText();
     if (tasks.isEmpty()) {
         ++failures;
@@ -103,23 +104,31 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
     if (failures <= limits.workers + 1) {
         StartWorker();
     }
-    GiveBack(tasks, reason, text);
+    GiveBack(tasks, culprit, reason, text);
     FinishDrops();
     if (workers.isEmpty()) {
         Q_EMIT Broken(QStringLiteral("\"%1\" cannot be started: %2").arg(program, text));
     }
 }
 
-void WorkerPool::GiveBack(const QList<Assignment>& tasks, WorkerEnd reason, const QString& text)
+void WorkerPool::GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd reason, const QString& text)
 {
     for (int i = 0; i < tasks.size(); ++i) {
-        if (drops.contains(tasks[i].run)) {
+        Assignment task = tasks[i];
+        if (drops.contains(task.run)) {
             continue;
         }
-        if (i == 0 && reason != WorkerEnd::Dropped) {
-            Q_EMIT Lost(tasks[i], reason, text);
+        // One that ends between two tasks has suffered from something else, or from the next before it could say so.
+        const bool isNext = i == culprit + 1;
+        const bool isBlamed = i == culprit || (culprit < 0 && isNext && task.isSecondTry);
+        if (isBlamed && reason != WorkerEnd::Dropped) {
+            if (i > 0) {
+                Q_EMIT Begun(task); // It could not be said before the earlier ones are reported.
+            }
+            Q_EMIT Lost(task, reason, text);
         } else {
-            Q_EMIT Returned(tasks[i]);
+            task.isSecondTry = task.isSecondTry || (culprit < 0 && isNext && reason != WorkerEnd::Dropped);
+            Q_EMIT Returned(task);
         }
     }
 }

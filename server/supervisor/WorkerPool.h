@@ -42,7 +42,7 @@ Q_SIGNALS:
     /// The worker has ended over this task.
     void Lost(const Assignment& task, WorkerEnd reason, const QString& text);
 
-    /// The worker has ended before it came to this task.
+    /// The worker has ended, but over another task: it had not begun this one, or not yet reported it.
     void Returned(const Assignment& task);
 
     void Dropped(quint64 run);
@@ -53,7 +53,7 @@ Q_SIGNALS:
 private:
     void StartWorker();
     void Remove(WorkerProcess* worker, WorkerEnd reason);
-    void GiveBack(const QList<Assignment>& tasks, WorkerEnd reason, const QString& text);
+    void GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd reason, const QString& text);
     void WatchMemory();
     void FinishDrops();
     bool HasTaskOf(quint64 run) const;

@@ -13,6 +13,15 @@ constexpr auto startTime = 30s;
 constexpr int endTime = 3000;    // ms
 constexpr int keptErrors = 1000; // bytes
 
+// There is a worker for each core: threads of a library's own would only take turns. A library that uses OpenMP reads
+// this when it is loaded, before a worker could set it.
+QProcessEnvironment EnvironmentOfWorkers()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
+    return environment;
+}
+
 } // namespace
 
 WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent)
@@ -30,6 +39,7 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
         }
     });
     clock.start(startTime);
+    process.setProcessEnvironment(EnvironmentOfWorkers());
     process.start(program, QStringList());
 }
 
@@ -69,16 +79,26 @@ QString WorkerProcess::EndText() const
     return errors.isEmpty() ? exitText : QStringLiteral("%1; its last words: %2").arg(exitText, errors);
 }
 
+int WorkerProcess::Culprit() const
+{
+    // The time that passes is that of the first.
+    return end == WorkerEnd::Hung ? 0 : begun - 1;
+}
+
 void WorkerProcess::ReadReports()
 {
     reader.Append(process.readAllStandardOutput());
     const QPointer<WorkerProcess> self(this);
     while (self && !end) {
-        const std::optional<Report> report = reader.NextFromWorker();
-        if (!report) {
+        const std::optional<FromWorker> message = reader.NextFromWorker();
+        if (!message) {
             break;
         }
-        Take(*report);
+        if (const auto* beginning = std::get_if<Beginning>(&*message)) {
+            TakeBeginning(beginning->number);
+        } else {
+            Take(std::get<Report>(*message));
+        }
     }
     if (self && reader.IsBroken()) {
         End(WorkerEnd::Garbage);
@@ -97,11 +117,12 @@ void WorkerProcess::Take(const Report& report)
         Q_EMIT Ready();
         return;
     }
-    if (tasks.isEmpty() || tasks.first().file != report.number) {
+    if (begun == 0 || tasks.first().file != report.number) {
         End(WorkerEnd::Garbage);
         return;
     }
     const Assignment task = tasks.takeFirst();
+    --begun;
     if (tasks.isEmpty()) {
         clock.stop();
     } else {
@@ -113,6 +134,15 @@ void WorkerProcess::Take(const Report& report)
     if (self && !end && hasNext) {
         Q_EMIT Begun(tasks.first());
     }
+}
+
+void WorkerProcess::TakeBeginning(qint32 number)
+{
+    if (begun == tasks.size() || tasks[begun].file != number) {
+        End(WorkerEnd::Garbage);
+        return;
+    }
+    ++begun;
 }
 
 void WorkerProcess::NoteErrors()

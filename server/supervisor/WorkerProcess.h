@@ -32,8 +32,12 @@ public:
     bool IsReady() const { return isReady && !end; }
     qint64 ProcessId() const { return process.processId(); }
 
-    /// The tasks that are not reported yet; the first is in work. When the worker has ended: those that it leaves.
+    /// The tasks that are not reported yet. When the worker has ended: those that it leaves.
     const QList<Assignment>& Tasks() const { return tasks; }
+
+    /// Of an ended worker: which of its tasks it has ended over; -1 when it was between two. Earlier tasks wait to be
+    /// reported, their results may be finished; later ones were not begun.
+    int Culprit() const;
 
     /// Hands over a task. It is done when the earlier ones are.
     void Give(const Assignment& task);
@@ -57,6 +61,7 @@ Q_SIGNALS:
 private:
     void ReadReports();
     void Take(const BatchServer::Report& report);
+    void TakeBeginning(qint32 number);
     void NoteErrors();
     void Finish(int exitCode, QProcess::ExitStatus status);
     void FailToStart();
@@ -67,6 +72,7 @@ private:
     BatchServer::FrameReader reader;
     QByteArray currentJob;
     QList<Assignment> tasks;
+    int begun = 0; ///< so many of the tasks
     bool isReady = false;
     std::optional<WorkerEnd> end;
     QByteArray lastErrors;

@@ -1,5 +1,6 @@
 #include "Metadata.h"
 
+#include "JxlBoxes.h"
 #include "PictureSource.h"
 
 #include <QFile>
@@ -164,13 +165,15 @@ Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringL
             }
             return metadata;
         }
-        QByteArray exif = Block(source.Header(), VIPS_META_EXIF_NAME);
+        const bool isJxl = source.Format() == QLatin1String("JPEG XL");
+        const JxlMetadata boxes = isJxl ? ReadJxlMetadata(file) : JxlMetadata();
+        QByteArray exif = isJxl ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
         const QByteArray start("Exif\0\0", 6);
         exif = exif.startsWith(start) ? exif.mid(start.size()) : exif;
         if (!exif.isEmpty()) {
             Exiv2::ExifParser::decode(metadata.d->exif, Data(exif), std::uint32_t(exif.size()));
         }
-        const QByteArray xmp = XmpBlock(source.Header());
+        const QByteArray xmp = isJxl ? boxes.xmp : XmpBlock(source.Header());
         if (!xmp.isEmpty()) {
             Exiv2::XmpParser::decode(metadata.d->xmp, xmp.toStdString());
         }

@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t longestQueue = 2;
 
 // A supervisor that is gone needs no report; the end of the worker's input follows.
-void Write(int output, const QByteArray& bytes)
+void WriteAll(int output, const QByteArray& bytes)
 {
     const char* rest = bytes.constData();
     qint64 count = bytes.size();
@@ -63,6 +63,11 @@ ReportQueue::~ReportQueue()
     thread.join();
 }
 
+void ReportQueue::Begin(qint32 number)
+{
+    Write(Beginning{number});
+}
+
 void ReportQueue::Send(const Report& report)
 {
     Append({report, std::nullopt, false});
@@ -101,8 +106,15 @@ void ReportQueue::SendAll()
             Place(*item->made, item->replaceExisting, item->report);
             item->made.reset();
         }
-        Write(output, FrameFromWorker(item->report));
+        Write(item->report);
     }
+}
+
+void ReportQueue::Write(const FromWorker& message)
+{
+    const QByteArray bytes = FrameFromWorker(message);
+    const std::lock_guard<std::mutex> lock(outputMutex);
+    WriteAll(output, bytes);
 }
 
 } // namespace BatchServer

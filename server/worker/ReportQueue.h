@@ -23,6 +23,9 @@ public:
     /// Sends what still waits.
     ~ReportQueue();
 
+    /// Says at once, ahead of the reports that wait, that the worker turns to the task `number`.
+    void Begin(qint32 number);
+
     /// Sends `report` after those before it. Waits while two results are unfinished already: a slow disk slows the
     /// work down, instead of filling the memory.
     void Send(const Report& report);
@@ -43,8 +46,10 @@ private:
     void Append(Item item);
     std::optional<Item> Next();
     void SendAll();
+    void Write(const FromWorker& message);
 
     int output;
+    std::mutex outputMutex;
     std::mutex mutex;
     std::condition_variable changed;
     std::deque<Item> items;

@@ -94,6 +94,7 @@ void Worker::Take(const Job& job)
 void Worker::Probe(const ProbeTask& task)
 {
     const ServerLimits limits = settings ? settings->limits : ServerLimits();
+    reports.Begin(task.number);
     Report report = Guarded([&task, &limits] { return ProbeFile(task, limits); });
     report.number = task.number;
     reports.Send(report);
@@ -101,6 +102,7 @@ void Worker::Probe(const ProbeTask& task)
 
 void Worker::Make(const PictureTask& task)
 {
+    reports.Begin(task.number);
     MadePicture made;
     TakeLibraryWarnings(); // of a task before, which had no use for them
     Report report = Guarded([this, &task, &made] {

@@ -37,8 +37,12 @@ void WorkerProcess::SendBytes(const QByteArray& bytes)
 std::optional<Report> WorkerProcess::NextReport()
 {
     for (;;) {
-        if (std::optional<Report> report = reader.NextFromWorker()) {
-            return report;
+        if (const std::optional<FromWorker> message = reader.NextFromWorker()) {
+            if (const Report* report = std::get_if<Report>(&*message)) {
+                return *report;
+            }
+            begun.append(std::get<Beginning>(*message).number);
+            continue;
         }
         if (reader.IsBroken() || !process.waitForReadyRead(longestWait)) {
             return std::nullopt;

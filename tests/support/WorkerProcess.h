@@ -6,6 +6,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QVector>
 
 #include <functional>
 #include <optional>
@@ -36,12 +37,16 @@ public:
     /// Closes the worker's input and waits for its end. -1 for a worker that crashed or did not end.
     int ExitCode();
 
+    /// The numbers of the tasks that the worker has begun, as far as reports were taken.
+    const QVector<int>& Begun() const { return begun; }
+
     QByteArray ErrorOutput() { return process.readAllStandardError(); }
     qint64 ProcessId() const { return process.processId(); }
 
 private:
     QProcess process;
     BatchServer::FrameReader reader;
+    QVector<int> begun;
     bool isReady = false;
 };
 

@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QTest>
+#include <QtEndian>
 
+#include <brotli/encode.h>
 #include <exiv2/exiv2.hpp>
 
 using namespace BatchServer;
@@ -109,6 +111,23 @@ Found Read(const WorkerBench& bench, const QString& format)
     return found;
 }
 
+QByteArray BigEndian(quint64 number, int size)
+{
+    QByteArray bytes(8, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes.right(size);
+}
+
+QByteArray Packed(const QByteArray& content)
+{
+    QByteArray packed(int(BrotliEncoderMaxCompressedSize(std::size_t(content.size()))), '\0');
+    std::size_t size = std::size_t(packed.size());
+    BrotliEncoderCompress(BROTLI_DEFAULT_QUALITY, BROTLI_DEFAULT_WINDOW, BROTLI_DEFAULT_MODE,
+                          std::size_t(content.size()), reinterpret_cast<const std::uint8_t*>(content.constData()),
+                          &size, reinterpret_cast<std::uint8_t*>(packed.data()));
+    return packed.left(int(size));
+}
+
 const QStringList& AllKinds()
 {
     static const QStringList kinds{Text("exif"), Text("gps"), Text("iptc"), Text("xmp"), Text("icc")};
@@ -135,6 +154,9 @@ private Q_SLOTS:
     void describesTheResult();
     void takesMetadataOutOfOtherFormats_data();
     void takesMetadataOutOfOtherFormats();
+    void readsPackedBoxes();
+    void survivesBrokenBoxes_data();
+    void survivesBrokenBoxes();
     void survivesBrokenMetadata();
     void leavesOutWhatAJpegCannotHold();
     void keepsTheFileTime_data();
@@ -278,15 +300,66 @@ void WorkerMetadataTest::takesMetadataOutOfOtherFormats()
     QVERIFY(QFile::rename(bench->Path(NameIn(format)), bench->Path(middle)));
     QCOMPARE(bench->Make(middle, Text("out.jpg"), Text("JPEG")).reason, QString());
     const Found found = Read(*bench, Text("JPEG"));
-    if (format == QLatin1String("JPEG XL")) {
-        QSKIP("the decoder hands over no metadata of JPEG XL files");
-    }
     QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
     QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
     QVERIFY(found.hasProfile);
     const Report probe = bench->Worker().Do(ProbeTask{1, bench->Path(middle)});
     QCOMPARE(probe.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
+}
+
+/// As encoders write them that pack what they can.
+void WorkerMetadataTest::readsPackedBoxes()
+{
+    WriteSource(Text("in.jpg"));
+    QCOMPARE(bench->Make(Text("in.jpg"), Text("out.jxl"), Text("JPEG XL")).reason, QString());
+    QByteArray file = bench->Bytes(Text("out.jxl"));
+    for (const char* type : {"Exif", "xml "}) {
+        const QByteArray content = BoxOf(file, type);
+        QVERIFY(!content.isEmpty());
+        const QByteArray packed = type + Packed(content);
+        const QByteArray box = BigEndian(quint64(packed.size()) + 8, 4) + "brob" + packed;
+        file.replace(file.indexOf(type) - 4, content.size() + 8, box);
+    }
+    QVERIFY(!file.contains("A. Photographer"));
+    bench->WriteBytes(Text("packed.jxl"), file);
+    const Report report = bench->Make(Text("packed.jxl"), Text("out.jpg"), Text("JPEG"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.warnings, QStringList());
+    const Found found = Read(*bench, Text("JPEG"));
+    QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
+    QCOMPARE(found.Exif("Exif.Photo.DateTimeOriginal"), Text("2019:07:06 05:04:03"));
+    QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
+}
+
+void WorkerMetadataTest::survivesBrokenBoxes_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::newRow("EXIF that ends before it begins") << BigEndian(12, 4) + "Exif" + QByteArray(4, '\xFF');
+    QTest::newRow("EXIF of nothing") << BigEndian(8, 4) + "Exif";
+    QTest::newRow("EXIF of nonsense") << BigEndian(20, 4) + "Exif" + QByteArray(12, '\x7F');
+    QTest::newRow("XMP of nonsense") << BigEndian(20, 4) + "xml " + QByteArray(12, '<');
+    QTest::newRow("nonsense, packed") << BigEndian(20, 4) + "brob" + "Exif" + QByteArray(8, '\x55');
+    QTest::newRow("packed by far") << QByteArray("brob") + "xml " + Packed(QByteArray(200 << 20, ' '));
+}
+
+void WorkerMetadataTest::survivesBrokenBoxes()
+{
+    QFETCH(QByteArray, box);
+    if (box.startsWith("brob")) {
+        box.prepend(BigEndian(quint64(box.size()) + 4, 4));
+    }
+    WriteSource(Text("in.jpg"));
+    QCOMPARE(bench->Make(Text("in.jpg"), Text("out.jxl"), Text("JPEG XL"), {{Text("keep"), QJsonArray{Text("iptc")}}})
+                 .reason,
+             QString());
+    QByteArray file = bench->Bytes(Text("out.jxl"));
+    // Behind the first two boxes, which say what kind of file it is.
+    file.insert(12 + 20, box);
+    bench->WriteBytes(Text("broken.jxl"), file);
+    const Report report = bench->Make(Text("broken.jxl"), Text("broken.png"), Text("PNG"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(ReadPicture(bench->Path(Text("broken.png"))).height(), 90);
 }
 
 void WorkerMetadataTest::survivesBrokenMetadata()

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QTest>
 
+#include <numeric>
+
 using namespace BatchServer;
 
 /// The worker as its supervisor sees it: messages, reports, files.
@@ -123,6 +125,9 @@ void WorkerProcessTest::reportsInOrder()
         QCOMPARE(report->failure, i % 3 == 1 ? Case::Input : Case::None);
         QCOMPARE(QFile::exists(Path(QStringLiteral("out%1.jpg").arg(i))), i % 3 != 1);
     }
+    QVector<int> all(count);
+    std::iota(all.begin(), all.end(), 0);
+    QCOMPARE(worker.Begun(), all);
 }
 
 void WorkerProcessTest::reportsBadInput_data()

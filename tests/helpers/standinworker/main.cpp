@@ -4,11 +4,13 @@
 //     crash | hang | stop | exit | outofmemory   end, or do not end, with half a temporary file in the folder
 //     eat                                        takes memory until it is ended
 //     garbage | alien | flood                    says what is no answer: no frame, another number, one that never ends
+//     late garbage | late crash                  is no worker any more once it has answered
+//     held                                       tells that it is done only after it has begun the next
 //     wait PATH                                  goes on when there is a file PATH
 //     input CODE | output CODE | ...             reports a case with the error code
 //     format NAME                                cannot be written in any format but this one
 //
-// A file "start.script" beside the executable makes it end at once.
+// A file "start.script" beside the executable makes it end at once, a file "job.script" when it gets a job.
 
 #include "ProcessEnd.h"
 #include "TemporaryFile.h"
@@ -27,6 +29,11 @@
 using namespace BatchServer;
 
 namespace {
+
+bool IsTold(const char* script)
+{
+    return QFile::exists(QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(script)));
+}
 
 void Say(const QByteArray& bytes)
 {
@@ -119,6 +126,7 @@ Report Make(const PictureTask& task)
     Misbehave(command, task);
     if (command == "garbage") {
         Say(QByteArray(100, '\xFF'));
+        SleepForEver();
     } else if (command == "alien") {
         Report report;
         report.number = task.number + 1;
@@ -161,16 +169,46 @@ Report Probe(const ProbeTask& task)
     return report;
 }
 
+QByteArray FirstLine(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed() : QByteArray();
+}
+
 void Handle(const ToWorker& message)
 {
+    static QByteArray held;
+    QByteArray answer;
+    QByteArray command;
     if (const auto* task = std::get_if<PictureTask>(&message)) {
+        Say(FrameFromWorker(Beginning{task->number}));
         Report report = Make(*task);
         report.number = task->number;
-        Say(FrameFromWorker(report));
+        answer = FrameFromWorker(report);
+        command = FirstLine(task->inputFile);
     } else if (const auto* probe = std::get_if<ProbeTask>(&message)) {
+        Say(FrameFromWorker(Beginning{probe->number}));
         Report report = Probe(*probe);
         report.number = probe->number;
-        Say(FrameFromWorker(report));
+        answer = FrameFromWorker(report);
+    } else {
+        if (IsTold("job.script")) {
+            std::_Exit(4);
+        }
+        return;
+    }
+    if (command == "held") {
+        held += answer;
+        return;
+    }
+    Say(held + answer);
+    held.clear();
+    if (command == "late garbage") {
+        Say(QByteArray(100, '\xFF'));
+        SleepForEver();
+    } else if (command == "late crash") {
+        CrashQuietly();
+        Crash();
     }
 }
 
@@ -179,7 +217,7 @@ void Handle(const ToWorker& message)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    if (QFile::exists(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("start.script")))) {
+    if (IsTold("start.script")) {
         std::fprintf(stderr, "told to end\n");
         return 4;
     }

@@ -1,5 +1,7 @@
 #include "Mutations.h"
 
+#include "RawPicture.h"
+
 #include <vips/vips8>
 
 #include <algorithm>
@@ -140,6 +142,9 @@ QVector<PictureBytes> SmallPictures()
             AppendWritten(pictures, WithMetadata(Gradient(bands, VIPS_FORMAT_UCHAR)), format.suffix, format.extension);
         }
         AppendWritten(pictures, Gradient(3, VIPS_FORMAT_USHORT), format.suffix, format.extension);
+    }
+    for (const int orientation : {1, 6}) {
+        pictures.append({QStringLiteral("dng"), RawPicture::Dng(orientation)});
     }
     return pictures;
 }

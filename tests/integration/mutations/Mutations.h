@@ -14,7 +14,7 @@ struct PictureBytes
 };
 
 /// Small pictures of every format that this installation can write: grey, RGB, with alpha, 16 bits, with a profile and
-/// EXIF, as far as the format takes them.
+/// EXIF, as far as the format takes them; and camera RAW.
 QVector<PictureBytes> SmallPictures();
 
 /// `bytes` with one kind of damage, which `random` chooses: flipped bits, a cut, a header with extreme values, a piece

@@ -26,6 +26,12 @@ private Q_SLOTS:
     void brokenWorkersCostOnePicture();
     void idleWorkersAreReplaced();
     void manyCrashes();
+    void onlyThePictureInWorkIsBlamed_data();
+    void onlyThePictureInWorkIsBlamed();
+    void finishedResultsOfLostWorkersCount_data();
+    void finishedResultsOfLostWorkersCount();
+    void finishedResultsOutliveTheCancellingOfAnotherRun();
+    void jobsThatNoWorkerSurvives();
 
     void resultsAreWholeOrAbsent_data();
     void resultsAreWholeOrAbsent();
@@ -180,6 +186,111 @@ void tst_ServerPromises::manyCrashes()
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QCOMPARE(run.Count(QStringLiteral("log Finished: 30 written, 0 skipped, 30 failed.")), 1);
     QCOMPARE(run.Names(QStringLiteral("out")).size(), 30);
+}
+
+void tst_ServerPromises::onlyThePictureInWorkIsBlamed_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::newRow("garbage after the answer") << QByteArray("late garbage");
+    QTest::newRow("crash after the answer") << QByteArray("late crash");
+}
+
+void tst_ServerPromises::onlyThePictureInWorkIsBlamed()
+{
+    QFETCH(QByteArray, script);
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    QStringList inputs;
+    for (int i = 0; i < 20; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1.jpg").arg(i), i % 4 == 0 ? script : QByteArray("good")));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("error")), QStringList());
+    QCOMPARE(run.Count(QStringLiteral("processed")), inputs.size());
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), inputs.size());
+}
+
+void tst_ServerPromises::finishedResultsOfLostWorkersCount_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("naming");
+    const int rename = ZTBatchManager::NamingRename;
+    QTest::newRow("crash") << QByteArray("crash") << 9 << rename;
+    QTest::newRow("garbage") << QByteArray("garbage") << 9 << rename;
+    QTest::newRow("out of memory") << QByteArray("outofmemory") << 10 << rename;
+    QTest::newRow("crash, over an existing file") << QByteArray("crash") << 9 << int(ZTBatchManager::NamingOverwrite);
+}
+
+/// A worker has put a result in its place, and ends over the next picture before it could say so.
+void tst_ServerPromises::finishedResultsOfLostWorkersCount()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, code);
+    QFETCH(int, naming);
+    const bool isOver = naming == ZTBatchManager::NamingOverwrite;
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    const QStringList inputs{
+        run.Write(QStringLiteral("in/done.jpg"), "held"), run.Write(QStringLiteral("in/bad.jpg"), script),
+        run.Write(QStringLiteral("in/x.jpg"), "good"), run.Write(QStringLiteral("in/y.jpg"), "good")};
+    if (isOver) {
+        run.Write(QStringLiteral("out/done.jpg"), "old");
+    }
+    Policies policies;
+    policies.naming = naming;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QStringList errors{QStringLiteral("error [in/bad.jpg] [out/bad.jpg] 1 %1").arg(code)};
+    if (isOver) {
+        errors.prepend(QStringLiteral("error [in/done.jpg] [out/done.jpg] 4 11"));
+    }
+    QCOMPARE(run.Lines(QStringLiteral("error")), errors);
+    QCOMPARE(run.Count(QStringLiteral("processed [in/done.jpg] [out/done.jpg]")), 1);
+    QCOMPARE(run.Count(QStringLiteral("file [in/bad.jpg]")), 1);
+    QCOMPARE(run.Names(QStringLiteral("out")),
+             (QStringList{QStringLiteral("done.jpg"), QStringLiteral("x.jpg"), QStringLiteral("y.jpg")}));
+    QCOMPARE(run.Content(QStringLiteral("out/done.jpg")), QByteArray("held"));
+}
+
+void tst_ServerPromises::finishedResultsOutliveTheCancellingOfAnotherRun()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    QStringList others;
+    for (int i = 0; i < 4; ++i) {
+        others.append(run.Write(QStringLiteral("in/other%1.jpg").arg(i), "hang"));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job({run.Write(QStringLiteral("in/done.jpg"), "held")}));
+    QVERIFY2(QTest::qWaitFor([&] { return !run.Content(QStringLiteral("out/done.jpg")).isNull(); }, 30000),
+             qPrintable(run.Report()));
+    run.session = QStringLiteral("other");
+    run.Send<ZTBatchMessage::MsgCreateSession>();
+    run.Process(run.Job(others, [](ZTBatchDocument& job) {
+        job.GetOutputSettings()->SetPath(job.GetOutputSettings()->GetPath() + QStringLiteral("/other"));
+    }));
+    QVERIFY2(QTest::qWaitFor([&] { return !Temporary(run.Names(QStringLiteral("out/other"))).isEmpty(); }, 30000),
+             qPrintable(run.Report()));
+    run.Send<ZTBatchMessage::MsgCancel>();
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("error")), QStringList());
+    QCOMPARE(run.Count(QStringLiteral("log Finished: 1 written, 0 skipped, 0 failed.")), 1);
+    QVERIFY2(run.WaitFor(QStringLiteral("cancelled")), qPrintable(run.Report()));
+}
+
+void tst_ServerPromises::jobsThatNoWorkerSurvives()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.Write(QStringLiteral("job.script"), {});
+    const QStringList inputs{run.Write(QStringLiteral("in/a.jpg"), "a"), run.Write(QStringLiteral("in/b.jpg"), "b")};
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("log Finished: 0 written, 0 skipped, 2 failed.")), 1);
 }
 
 void tst_ServerPromises::resultsAreWholeOrAbsent_data()

@@ -1,3 +1,4 @@
+#include "RawPicture.h"
 #include "ServerRun.h"
 
 #include "ZTBatchInputModel.h"
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void samePicturesForAnyNumberOfWorkers();
     void sameResultsForAnyNumberOfWorkers();
     void twoRunsAtATime();
+    void workersHaveOneThreadForPictures();
 };
 
 namespace {
@@ -694,6 +696,32 @@ void tst_ServerRun::twoRunsAtATime()
     QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("quick.jpg")});
     run.Write(QStringLiteral("gate"), {});
     QVERIFY(QTest::qWaitFor([&] { return run.Count(QStringLiteral("finished")) == 2; }, 30000));
+}
+
+/// One worker for each core: a decoder that has threads of its own would slow the others down.
+void tst_ServerRun::workersHaveOneThreadForPictures()
+{
+#ifdef Q_OS_LINUX
+    ServerRun run(ServerRun::Worker::Real);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("1"));
+    run.SetVariable(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("4"));
+    const QString input = run.Write(QStringLiteral("in/a.dng"), RawPicture::Dng());
+    QVERIFY(run.Start());
+    run.Process(run.Job({input}));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("processed")), 1);
+    QCOMPARE(run.WorkerIds().size(), 1);
+    // Threads of the imaging library have names of their own; those of others have that of the program.
+    const QString tasks = QStringLiteral("/proc/%1/task").arg(run.WorkerIds().first());
+    int count = 0;
+    for (const QString& task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile name(QStringLiteral("%1/%2/comm").arg(tasks, task));
+        count += name.open(QIODevice::ReadOnly) && name.readLine().startsWith("VelkoraBatch") ? 1 : 0;
+    }
+    QCOMPARE(count, 2); // One makes pictures, one flushes them.
+#else
+    QSKIP("Written for Linux.");
+#endif
 }
 
 QTEST_GUILESS_MAIN(tst_ServerRun)
