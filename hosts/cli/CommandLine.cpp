@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "HelpTexts.h"
+#include "JobFile.h"
 #include "UsageError.h"
 #include "Words.h"
 
@@ -99,14 +100,53 @@ void CheckFirstArgument(const QStringList& arguments)
     }
 }
 
-ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots,
-                        const std::vector<std::string>& inputs)
+void CheckTexts(const QStringList& arguments)
+{
+    for (int i = 0; i < arguments.size(); ++i) {
+        if (!CanBeSaved(arguments.at(i))) {
+            throw UsageError{QStringLiteral("argument %1, \"%2\", has a character that no job can hold")
+                                 .arg(QString::number(i + 1), arguments.at(i))};
+        }
+    }
+}
+
+/// An empty name is a slip, such as a variable without value; it must not mean the current folder.
+void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
+{
+    if (parsed.inputs.contains(QString())) {
+        throw UsageError{QStringLiteral("the name behind %1 is empty").arg(command.name)};
+    }
+    for (const OptionInfo& option : command.options) {
+        const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
+        if (isName && parsed.Values(option.name).contains(QString())) {
+            throw UsageError{QStringLiteral("%1: the name is empty").arg(option.name)};
+        }
+    }
+}
+
+/// The inputs in what is no option of `command`. They are no positional option of CLI11 because that would take the
+/// name "[2024]" for a list.
+QStringList InputsAmong(const std::vector<std::string>& rest, const CommandInfo& command)
+{
+    QStringList inputs;
+    bool areOptionsOver = false;
+    for (const std::string& text : rest) {
+        if (!areOptionsOver && text == "--") {
+            areOptionsOver = true;
+        } else if (!areOptionsOver && text.size() > 1 && text[0] == '-') {
+            throw UnknownOption(Text(text), command);
+        } else {
+            inputs.append(Text(text));
+        }
+    }
+    return inputs;
+}
+
+ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots, const QStringList& inputs)
 {
     ParsedArguments parsed;
     parsed.command = command.name;
-    for (const std::string& input : inputs) {
-        parsed.inputs.append(Text(input));
-    }
+    parsed.inputs = inputs;
     for (const Slot& slot : slots) {
         if (slot.option->count() == 0) {
             continue;
@@ -124,6 +164,7 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
 
 ParsedArguments ParseArguments(const QStringList& arguments)
 {
+    CheckTexts(arguments);
     CheckFirstArgument(arguments);
     ParsedArguments parsed;
     if (arguments.first() == QLatin1String("--version")) {
@@ -145,10 +186,6 @@ ParsedArguments ParseArguments(const QStringList& arguments)
     for (const OptionInfo& option : command.options) {
         AddOption(app, option, slots);
     }
-    std::vector<std::string> inputs;
-    if (!command.inputs.isEmpty()) {
-        app.add_option("inputs", inputs);
-    }
     std::vector<std::string> reversed;
     for (int i = arguments.size() - 1; i > 0; --i) {
         reversed.push_back(Bytes(arguments.at(i)));
@@ -158,15 +195,8 @@ ParsedArguments ParseArguments(const QStringList& arguments)
     } catch (const CLI::ParseError& error) {
         throw UsageError{Text(error.what())};
     }
-    for (const std::string& extra : app.remaining()) {
-        if (extra == "--") {
-            continue; // It only ends the options.
-        }
-        throw extra.size() > 1 && extra[0] == '-'
-            ? UnknownOption(Text(extra), command)
-            : UsageError{QStringLiteral("\"%1\" is not expected behind %2").arg(Text(extra), command.name)};
-    }
-    parsed = Collect(command, slots, inputs);
+    parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
+    CheckNames(parsed, command);
     if (parsed.Has(QStringLiteral("--help"))) {
         parsed.message = CommandHelp(command);
     }

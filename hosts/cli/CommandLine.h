@@ -24,6 +24,9 @@ struct ParsedArguments
 /// Every command with its options.
 const QVector<CommandInfo>& Commands();
 
+/// The options that change what a job says, those about its inputs among them.
+QVector<OptionInfo> OptionsOfJobs();
+
 /// Throws UsageError.
 ParsedArguments ParseArguments(const QStringList& arguments);
 

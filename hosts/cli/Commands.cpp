@@ -77,7 +77,7 @@ QStringList FormatNames()
 
 QVector<CommandInfo> MakeCommands()
 {
-    const QVector<OptionInfo> ofJobs = InputOptions() + JobOptionInfos() + GeneralOptions();
+    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + GeneralOptions();
     const QVector<OptionInfo> ofLists =
         QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
     const QVector<OptionInfo> ofCreate =
@@ -90,8 +90,7 @@ QVector<CommandInfo> MakeCommands()
          Text("processes a saved job, or files and folders, or both; options change what the job says. Ends with 0 "
               "when all was written, 1 when something was skipped or failed, 2 for wrong arguments or a wrong job, 3 "
               "when the server could not be started or was lost, 4 when the run was cancelled"),
-         InputOptions() + JobOptionInfos() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(),
-         Completion::Files},
+         OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          Text("writes a job of these files and folders and options to a file, or to standard output for \"-\""),
          ofCreate, Completion::Files},
@@ -101,7 +100,7 @@ QVector<CommandInfo> MakeCommands()
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
          Text("prints what would be written where: every input with its output, and in brackets what stands in the "
               "way, with what the policy would do about it. Nothing is written. Ends with 1 when there are brackets"),
-         InputOptions() + JobOptionInfos() + PolicyOptionInfos() +
+         OptionsOfJobs() + PolicyOptionInfos() +
              QVector<OptionInfo>{
                  {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
              GeneralOptions(),
@@ -115,6 +114,11 @@ QVector<CommandInfo> MakeCommands()
 }
 
 } // namespace
+
+QVector<OptionInfo> OptionsOfJobs()
+{
+    return InputOptions() + JobOptionInfos();
+}
 
 const QVector<CommandInfo>& Commands()
 {

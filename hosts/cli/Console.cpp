@@ -3,18 +3,23 @@
 #include <QVector>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace BatchCli {
 
 namespace {
 
-void Write(FILE* file, const QString& text)
+/// False when it did not all go out; errno says why.
+bool Write(FILE* file, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
-    std::fflush(file);
+    const auto count = std::size_t(bytes.size());
+    return std::fwrite(bytes.constData(), 1, count, file) == count && std::fflush(file) == 0;
 }
+
+QString outputError;
 
 bool IsBetween(uint value, uint first, uint last)
 {
@@ -65,12 +70,39 @@ QString TextOf(const QVector<uint>& characters)
 
 void WriteOut(const QString& text)
 {
-    Write(stdout, text);
+    if (outputError.isEmpty() && !Write(stdout, text)) {
+        outputError = QString::fromLocal8Bit(std::strerror(errno));
+    }
+}
+
+QString OutputError()
+{
+    return outputError;
 }
 
 void WriteError(const QString& text)
 {
     Write(stderr, text);
+}
+
+void WriteErrorLine(const QString& text)
+{
+    WriteError(Visible(text) + QLatin1Char('\n'));
+}
+
+QString Visible(const QString& text)
+{
+    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
+    if (std::none_of(text.begin(), text.end(), isControl)) {
+        return text;
+    }
+    QString visible;
+    for (const QChar character : text) {
+        visible += isControl(character)
+                       ? QStringLiteral("\\x%1").arg(uint(character.unicode()), 2, 16, QLatin1Char('0'))
+                       : QString(character);
+    }
+    return visible;
 }
 
 int Terminal::WidthOf(const QString& text)

@@ -5,11 +5,20 @@
 /// Standard output and standard error, as UTF-8, and what the terminal can do. Each write goes out at once and whole.
 namespace BatchCli {
 
-/// Results: what was asked for.
+/// Results: what was asked for. Once it has failed, nothing more is written.
 void WriteOut(const QString& text);
 
-/// Everything else: problems, progress, questions.
+/// Why WriteOut() has failed; empty when it has not.
+QString OutputError();
+
+/// Everything else: problems, progress, questions. Nobody is told when it fails.
 void WriteError(const QString& text);
+
+/// WriteError() of one line, whatever names are in it.
+void WriteErrorLine(const QString& text);
+
+/// `text` with control characters as \xNN: a name with a line break stays in its line, and none commands the terminal.
+QString Visible(const QString& text);
 
 /// What only the platform knows about a terminal.
 namespace Terminal {

@@ -44,4 +44,7 @@ struct FolderContent
 
 FolderContent ReadFolder(const QString& path);
 
+/// The identity of the folder at `path`, through links; its number is 0 when there is none.
+FileIdentity IdentityOfFolder(const QString& path);
+
 } // namespace BatchCli

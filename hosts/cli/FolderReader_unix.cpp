@@ -90,4 +90,13 @@ FolderContent ReadFolder(const QString& path)
     return content;
 }
 
+FileIdentity IdentityOfFolder(const QString& path)
+{
+    struct stat state
+    {
+    };
+    return stat(QFile::encodeName(path).constData(), &state) == 0 && S_ISDIR(state.st_mode) ? IdentityOf(state)
+                                                                                            : FileIdentity();
+}
+
 } // namespace BatchCli

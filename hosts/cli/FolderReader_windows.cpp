@@ -48,4 +48,9 @@ FolderContent ReadFolder(const QString& path)
     return content;
 }
 
+FileIdentity IdentityOfFolder(const QString& path)
+{
+    return QFileInfo(path).isDir() ? IdentityOf(path) : FileIdentity();
+}
+
 } // namespace BatchCli

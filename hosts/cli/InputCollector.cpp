@@ -1,5 +1,6 @@
 #include "InputCollector.h"
 
+#include "JobFile.h"
 #include "NaturalNames.h"
 #include "UsageError.h"
 #include "ValueTexts.h"
@@ -81,6 +82,7 @@ int DepthOf(const TreeNode<BatchNodeData>* node)
 InputCollector::InputCollector(ZTBatchDocument& job, const InputFilter& filter)
     : job(job)
     , filter(filter)
+    , outputFolder(IdentityOfFolder(filter.outputFolder))
     , only(Expressions(filter.only))
     , except(Expressions(filter.except))
     , extensions(BatchServer::ReadableExtensions().begin(), BatchServer::ReadableExtensions().end())
@@ -209,10 +211,14 @@ void InputCollector::TakeEntry(const FolderEntry& entry, const QString& folderPa
     }
     if (!entry.hasName) {
         problems.append(QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
+    } else if (!CanBeSaved(entry.name)) {
+        problems.append(
+            QStringLiteral("%1 has a name with a character that no job can hold; rename it to use it.").arg(path));
     } else if (entry.leadsNowhere) {
         problems.append(QStringLiteral("%1 is a link that leads nowhere.").arg(path));
     } else if (isFolder) {
-        if (path != filter.outputFolder && !taken.contains(path)) {
+        const bool isOutput = outputFolder.number != 0 && entry.identity == outputFolder;
+        if (!isOutput && !taken.contains(path)) {
             folders.append(MakeNode(path, Folder).release());
         }
     } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {

@@ -59,6 +59,7 @@ private:
 
     ZTBatchDocument& job;
     const InputFilter filter;
+    const FileIdentity outputFolder;
     QVector<QRegularExpression> only;
     QVector<QRegularExpression> except;
     QSet<QString> extensions;

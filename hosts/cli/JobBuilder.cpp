@@ -64,7 +64,7 @@ int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QStri
     collector.Add(inputs);
     line.Clear();
     for (const QString& problem : collector.Problems()) {
-        WriteError(QStringLiteral("velkora-batch: %1\n").arg(problem));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(problem));
     }
     return collector.Problems().size();
 }

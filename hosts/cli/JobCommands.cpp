@@ -44,10 +44,9 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     SaveJob(job, path, arguments.Has(QStringLiteral("--force")));
     if (!arguments.Has(QStringLiteral("--quiet")) && path != QLatin1String("-")) {
         const int count = job.GetInputModel()->GetFileNodesCount();
-        WriteError(QStringLiteral("%1: a job of %2 %3.\n")
-                       .arg(path)
-                       .arg(count)
-                       .arg(count == 1 ? QStringLiteral("picture") : QStringLiteral("pictures")));
+        WriteErrorLine(QStringLiteral("%1: a job of %2 %3.")
+                           .arg(path, QString::number(count),
+                                count == 1 ? QStringLiteral("picture") : QStringLiteral("pictures")));
     }
     return problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }

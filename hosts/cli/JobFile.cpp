@@ -36,6 +36,23 @@ QString Reason(const QString& text)
 
 } // namespace
 
+bool CanBeSaved(const QString& text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            ++i;
+            continue;
+        }
+        const ushort unit = character.unicode();
+        const bool isSpace = unit == '\t' || unit == '\n' || unit == '\r';
+        if (character.isSurrogate() || unit >= 0xFFFE || (unit < 0x20 && !isSpace)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void LoadJob(ZTBatchDocument& job, const QString& path)
 {
     QFile file(path);
@@ -44,7 +61,8 @@ void LoadJob(ZTBatchDocument& job, const QString& path)
     }
     constexpr qint64 largestJob = 512 << 20;
     if (file.size() > largestJob) {
-        throw UsageError{QStringLiteral("the job %1 has more than %2 MiB").arg(path).arg(largestJob >> 20)};
+        throw UsageError{
+            QStringLiteral("the job %1 has more than %2 MiB").arg(path, QString::number(largestJob >> 20))};
     }
     QTextCodec::ConverterState state;
     const QByteArray bytes = file.readAll();

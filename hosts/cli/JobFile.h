@@ -4,13 +4,17 @@
 
 class ZTBatchDocument;
 
-/// Jobs as files. Everything here throws UsageError.
+/// Jobs as files.
 namespace BatchCli {
 
+/// Whether a job can hold `text`. XML has no way to write most control characters.
+bool CanBeSaved(const QString& text);
+
+/// Throws UsageError.
 void LoadJob(ZTBatchDocument& job, const QString& path);
 
 /// Writes `job` whole or not at all; to standard output when `path` is "-". A file that exists is replaced only when
-/// `replaceExisting` is true.
+/// `replaceExisting` is true. Throws UsageError.
 void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisting);
 
 } // namespace BatchCli

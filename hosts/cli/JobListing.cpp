@@ -1,5 +1,6 @@
 #include "JobListing.h"
 
+#include "Console.h"
 #include "JobOptions.h"
 
 #include "ZTBatchDocument.h"
@@ -43,7 +44,7 @@ QString InputListing(const ZTBatchInputModel& model)
     while (!rows.isEmpty()) {
         const Row row = rows.takeLast();
         const BatchNodeData& data = *model.getNodeData(row.index);
-        text += QString(2 * row.depth, QLatin1Char(' ')) + NameOf(data, row.depth == 1);
+        text += QString(2 * row.depth, QLatin1Char(' ')) + Visible(NameOf(data, row.depth == 1));
         if (data.type == Folder) {
             text += QStringLiteral("/ (%1)").arg(data.fileNodesCount);
             addRows(row.index, row.depth + 1);
@@ -65,7 +66,7 @@ QString JobListing(const ZTBatchDocument& job)
                 group = option.info.group;
                 text += QLatin1Char('\n') + group + QStringLiteral(":\n");
             }
-            text += QStringLiteral("  %1 %2\n").arg(option.info.name.mid(2), -20).arg(value);
+            text += QStringLiteral("  %1 %2\n").arg(option.info.name.mid(2), -20).arg(Visible(value));
         }
     }
     return text;

@@ -14,6 +14,7 @@ namespace {
 
 const QString nameStart = QStringLiteral(".velkora-batch-");
 const QString nameEnd = QStringLiteral(".journal");
+const QString lockEnd = QStringLiteral(".lock");
 
 QString PathOf(const QString& outputFolder, const QString& document)
 {
@@ -22,11 +23,25 @@ QString PathOf(const QString& outputFolder, const QString& document)
     return QDir(outputFolder).filePath(nameStart + QString::fromLatin1(hash.left(digits)) + nameEnd);
 }
 
+/// The names of the journals in `folder`; of their locks, when `end` is that of a lock.
+QStringList JournalsIn(const QDir& folder, const QString& end)
+{
+    QStringList names;
+    for (const QString& name :
+         folder.entryList({nameStart + QLatin1Char('*') + nameEnd + end}, QDir::Files | QDir::Hidden, QDir::Name)) {
+        const QString journal = name.chopped(end.size());
+        if (!end.isEmpty() || BatchServer::HasJournalBegun(folder.filePath(journal))) {
+            names.append(journal);
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 JournalFile::JournalFile(const QString& path)
     : path(path)
-    , lock(path + QStringLiteral(".lock"))
+    , lock(path + lockEnd)
 {
     lock.setStaleLockTime(0); // Only the holder's end makes it stale, not its age.
     isHeld = lock.tryLock();
@@ -44,16 +59,23 @@ std::unique_ptr<JournalFile> JournalFile::ForJob(const QString& outputFolder, co
     return journal;
 }
 
-std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolder, const QString& document)
+std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolder, const QString& document,
+                                                      bool isThisJob)
 {
     const QDir folder(outputFolder);
-    const QStringList names =
-        folder.entryList({nameStart + QLatin1Char('*') + nameEnd}, QDir::Files | QDir::Hidden, QDir::Name);
+    RemoveUnbegun(folder);
+    const QStringList names = JournalsIn(folder, QString());
     if (names.isEmpty()) {
         throw UsageError{QStringLiteral("there is no interrupted run in %1").arg(outputFolder)};
     }
     const QString ofJob = PathOf(outputFolder, document);
-    if (names.size() > 1 && !QFile::exists(ofJob)) {
+    const bool isOfJob = BatchServer::HasJournalBegun(ofJob);
+    if (isThisJob && !isOfJob) {
+        throw UsageError{QStringLiteral("what was interrupted in %1 is not this job: other inputs, options or files. "
+                                        "With --output alone it goes on as it was; without --resume this job is run")
+                             .arg(outputFolder)};
+    }
+    if (names.size() > 1 && !isOfJob) {
         throw UsageError{QStringLiteral("%1 runs were interrupted in %2, none of this job; give the inputs and options "
                                         "of the one to go on with")
                              .arg(names.size())
@@ -68,9 +90,20 @@ std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolde
     return journal;
 }
 
+/// What somebody has left who died before his run began.
+void JournalFile::RemoveUnbegun(const QDir& folder)
+{
+    for (const QString& name : JournalsIn(folder, lockEnd)) {
+        JournalFile journal(folder.filePath(name));
+        if (journal.isHeld && !journal.Exists()) { // Else its run is just beginning.
+            journal.Remove();
+        }
+    }
+}
+
 bool JournalFile::Exists() const
 {
-    return QFile::exists(path);
+    return BatchServer::HasJournalBegun(path);
 }
 
 void JournalFile::Remove()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QLockFile>
 #include <QString>
 
@@ -16,14 +17,18 @@ public:
     /// when it is written. IsHeld() is false when the folder cannot be made or written.
     static std::unique_ptr<JournalFile> ForJob(const QString& outputFolder, const QString& document);
 
-    /// The journal of the run that was interrupted in `outputFolder`; where there are several, that of the job
-    /// `document`. Throws UsageError when there is none, several but not that one, or when the run is still under way.
-    static std::unique_ptr<JournalFile> Interrupted(const QString& outputFolder, const QString& document);
+    /// The journal of the run that was interrupted in `outputFolder`; where there are several, or when `isThisJob`,
+    /// that of the job `document`. Throws UsageError when there is none, or not that one, or when the run is still
+    /// under way.
+    static std::unique_ptr<JournalFile> Interrupted(const QString& outputFolder, const QString& document,
+                                                    bool isThisJob);
 
     ~JournalFile();
 
     bool IsHeld() const { return isHeld; }
     QString Path() const { return path; }
+
+    /// Whether a run has begun with it.
     bool Exists() const;
 
     /// The run is finished.
@@ -31,6 +36,8 @@ public:
 
 private:
     explicit JournalFile(const QString& path);
+
+    static void RemoveUnbegun(const QDir& folder);
 
     QString path;
     QLockFile lock;

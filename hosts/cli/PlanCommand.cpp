@@ -88,10 +88,31 @@ public:
             }
             plan.ChangeFormat(index, NearestFormat(index));
         }
+        const QString folderReason = FolderTrouble(QFileInfo(plan.Output(index)).path());
+        if (!folderReason.isEmpty()) {
+            return {PolicyWord(PolicyKind::Output, Policy(PolicyKind::Output)), folderReason};
+        }
         return SettleName(index);
     }
 
 private:
+    /// Why nothing can be written into the folder, which may have to be made; empty when it looks possible.
+    QString FolderTrouble(const QString& folder)
+    {
+        const auto known = folderTroubles.constFind(folder);
+        if (known != folderTroubles.constEnd()) {
+            return *known;
+        }
+        QFileInfo there(folder);
+        while (!there.exists() && !there.isRoot()) {
+            there.setFile(there.path());
+        }
+        const QString trouble = !there.isDir()        ? QStringLiteral("%1 is no folder").arg(there.filePath())
+                                : !there.isWritable() ? QStringLiteral("%1 cannot be written").arg(there.filePath())
+                                                      : QString();
+        return *folderTroubles.insert(folder, trouble);
+    }
+
     int Policy(PolicyKind kind) const { return policies[std::size_t(kind)]; }
 
     void Probe(const ZTBatchDocument& job, StatusLine& line)
@@ -147,6 +168,7 @@ private:
     OutputPlan plan;
     QHash<int, QString> nearestFormats;
     QHash<int, QString> failures;
+    QHash<QString, QString> folderTroubles;
 };
 
 QString Line(const JobPlan& plan, int index, const Prospect& prospect)
@@ -159,7 +181,7 @@ QString Line(const JobPlan& plan, int index, const Prospect& prospect)
     if (!prospect.reason.isEmpty()) {
         line += QStringLiteral("  [%1: %2]").arg(prospect.result, prospect.reason);
     }
-    return line + QLatin1Char('\n');
+    return Visible(line) + QLatin1Char('\n');
 }
 
 QString JsonLine(const JobPlan& plan, int index, const Prospect& prospect)
@@ -199,10 +221,11 @@ ExitCode PlanJob(const ParsedArguments& arguments)
     }
     WriteOut(text);
     if (!isQuiet) {
-        WriteError(QStringLiteral("%1 files: %2 without trouble, %3 in brackets. Nothing was written.\n")
-                       .arg(plan.Count())
-                       .arg(clear)
-                       .arg(unclear));
+        WriteErrorLine(QStringLiteral("%1 %2: %3 without trouble, %4 in brackets. Nothing was written.")
+                           .arg(plan.Count())
+                           .arg(plan.Count() == 1 ? QStringLiteral("file") : QStringLiteral("files"))
+                           .arg(clear)
+                           .arg(unclear));
     }
     return problems == 0 && unclear == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }

@@ -5,6 +5,7 @@
 #include "Console.h"
 #include "UsageError.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace BatchCli {
@@ -49,6 +50,16 @@ const QHash<QString, Command>& CommandFunctions()
     return functions;
 }
 
+/// The exit code of a command that would end with `code` if all that it wrote had arrived.
+ExitCode WithOutput(ExitCode code)
+{
+    if (OutputError().isEmpty()) {
+        return code;
+    }
+    WriteErrorLine(QStringLiteral("velkora-batch: standard output cannot be written: %1.").arg(OutputError()));
+    return std::max(code, ExitCode::Incomplete);
+}
+
 } // namespace
 
 ExitCode RunProgram(const QStringList& arguments)
@@ -59,9 +70,9 @@ ExitCode RunProgram(const QStringList& arguments)
         isVerbose = parsed.Has(QStringLiteral("--verbose"));
         if (!parsed.message.isEmpty()) {
             WriteOut(parsed.message);
-            return ExitCode::Done;
+            return WithOutput(ExitCode::Done);
         }
-        return CommandFunctions().value(parsed.command)(parsed);
+        return WithOutput(CommandFunctions().value(parsed.command)(parsed));
     } catch (const UsageError& error) {
         return ReportUsageError(error.text);
     }
@@ -70,7 +81,7 @@ ExitCode RunProgram(const QStringList& arguments)
 ExitCode ReportUsageError(const QString& text)
 {
     const QString end = text.endsWith(QLatin1Char('?')) ? QString() : QStringLiteral(".");
-    WriteError(QStringLiteral("velkora-batch: %1%2\n").arg(text, end));
+    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, end));
     return ExitCode::Usage;
 }
 

@@ -50,7 +50,7 @@ Questioner::Questioner(QObject* parent)
 void Questioner::Ask(PolicyKind newKind, const QString& input, const QString& reason)
 {
     kind = newKind;
-    WriteError(QStringLiteral("%1: %2\n").arg(input, reason));
+    WriteErrorLine(QStringLiteral("%1: %2").arg(input, reason));
     Prompt();
 }
 

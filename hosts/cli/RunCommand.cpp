@@ -25,7 +25,9 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <memory>
 
 namespace BatchCli {
@@ -93,15 +95,25 @@ Journal NewJournal(const ZTBatchDocument& job)
     return journal;
 }
 
+/// Whether more of a job is given than where its results go.
+bool IsJobGiven(const ParsedArguments& arguments)
+{
+    const auto isGiven = [&arguments](const OptionInfo& option) {
+        return option.name != QLatin1String("--output") && arguments.Has(option.name);
+    };
+    const QVector<OptionInfo> ofJob = OptionsOfJobs();
+    return !arguments.inputs.isEmpty() || std::any_of(ofJob.begin(), ofJob.end(), isGiven);
+}
+
 /// Makes `job` the one that was interrupted in its output folder.
-Journal ResumedJournal(ZTBatchDocument& job)
+Journal ResumedJournal(ZTBatchDocument& job, bool isThisJob)
 {
     const QString folder = job.GetOutputSettings()->GetPath();
     if (folder.isEmpty()) {
         throw UsageError{QStringLiteral("which run? --output DIR says where it was interrupted")};
     }
     Journal journal;
-    journal.file = JournalFile::Interrupted(folder, job.Serialize(nullptr));
+    journal.file = JournalFile::Interrupted(folder, job.Serialize(nullptr), isThisJob);
     const std::optional<BatchServer::JournalState> state = BatchServer::ReadJournal(journal.file->Path());
     if (!state || !job.Deserialize(state->document)) {
         throw UsageError{QStringLiteral("%1 is damaged; without it the run starts anew").arg(journal.file->Path())};
@@ -128,6 +140,20 @@ void ReplaceQuestions(PolicyValues& policies, bool isQuiet)
                                   "skipped (%1 decide otherwise).\n")
                        .arg(options.join(QStringLiteral(", "))));
     }
+}
+
+/// As a shell reads it as one word.
+QString Quoted(QString path)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_./:~+@%-]+$"));
+    if (plain.match(path).hasMatch()) {
+        return path;
+    }
+#ifdef Q_OS_WIN
+    return QLatin1Char('"') + path + QLatin1Char('"');
+#else
+    return QLatin1Char('\'') + path.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
+#endif
 }
 
 ExitCode CodeOf(const RunEnd& end)
@@ -216,7 +242,7 @@ ExitCode RunJob(const ParsedArguments& arguments)
     ZTBatchDocument job;
     const int problems = BuildJob(job, arguments, savedJob, inputs);
     const bool isResumed = arguments.Has(QStringLiteral("--resume"));
-    Journal journal = isResumed ? ResumedJournal(job) : NewJournal(job);
+    Journal journal = isResumed ? ResumedJournal(job, IsJobGiven(arguments)) : NewJournal(job);
 
     const RunDisplay::Detail detail = DetailOf(arguments);
     const bool isQuiet = detail == RunDisplay::Detail::Quiet;
@@ -254,17 +280,18 @@ ExitCode RunJob(const ParsedArguments& arguments)
     if (isFinished) {
         journal.file->Remove();
     } else if (journal.file->Exists() && !isQuiet) {
-        WriteError(QStringLiteral("\"velkora-batch run --resume -o %1\" goes on from here.\n").arg(end.outputFolder));
+        WriteErrorLine(
+            QStringLiteral("This goes on from here: velkora-batch run --resume -o %1").arg(Quoted(end.outputFolder)));
     }
     if (end.jobErrorCode != ZTBatchMessage::NoError) {
-        WriteError(QStringLiteral("velkora-batch: %1\n").arg(end.jobError));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(end.jobError));
     }
     if (end.isServerLost && end.written + end.skipped + end.failed == 0) {
-        WriteError(QStringLiteral("velkora-batch: no server works; VelkoraBatchProcessing belongs beside %1.\n")
-                       .arg(QCoreApplication::applicationFilePath()));
+        WriteErrorLine(QStringLiteral("velkora-batch: no server works; VelkoraBatchProcessing belongs beside %1.")
+                           .arg(QCoreApplication::applicationFilePath()));
     }
     if (report && !report->Error().isEmpty()) {
-        WriteError(QStringLiteral("velkora-batch: %1\n").arg(report->Error()));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(report->Error()));
         return std::max(CodeOf(end), ExitCode::Incomplete);
     }
     const ExitCode code = CodeOf(end);

@@ -65,9 +65,9 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.bytesDone += bytes.value(result.input);
     progress.inWork.removeOne(result.input);
     if (result.kind != FileResult::Kind::Written) {
-        Write(QStringLiteral("%1 %2: %3\n").arg(ResultWord(result.kind), result.input, result.reason));
+        Write(QStringLiteral("%1 %2: %3").arg(ResultWord(result.kind), result.input, result.reason));
     } else if (!line.IsShown() && detail != Detail::Quiet) {
-        Write(QStringLiteral("[%1/%2] %3 -> %4\n").arg(done).arg(files).arg(result.input, result.output));
+        Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }
     Refresh();
 }
@@ -75,14 +75,14 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
 void RunDisplay::OnNote(const QString& input, const QString&, const QString& what, const QString& text)
 {
     if (detail != Detail::Quiet) {
-        Write(QStringLiteral("%1 %2: %3\n").arg(what, input, text));
+        Write(QStringLiteral("%1 %2: %3").arg(what, input, text));
     }
 }
 
 void RunDisplay::OnLog(const QString& text)
 {
     if (detail == Detail::Verbose) {
-        Write(QStringLiteral("log: %1\n").arg(text));
+        Write(QStringLiteral("log: %1").arg(text));
     }
 }
 
@@ -90,7 +90,7 @@ void RunDisplay::OnServerLost(const QStringList& inWork, bool goesOn)
 {
     const QString where =
         inWork.isEmpty() ? QString() : QStringLiteral(" while it worked on ") + inWork.join(QStringLiteral(", "));
-    Write(QStringLiteral("velkora-batch: the server ended unexpectedly%1%2.\n")
+    Write(QStringLiteral("velkora-batch: the server ended unexpectedly%1%2.")
               .arg(where, goesOn ? QStringLiteral("; a new one goes on") : QString()));
 }
 
@@ -98,7 +98,7 @@ void RunDisplay::OnCancelling()
 {
     isCancelling = true;
     if (detail != Detail::Quiet) {
-        Write(QStringLiteral("Cancelling; once more ends at once.\n"));
+        Write(QStringLiteral("Cancelling; once more ends at once."));
     }
     Refresh();
 }
@@ -124,7 +124,7 @@ void RunDisplay::Refresh()
 void RunDisplay::Write(const QString& text)
 {
     line.Clear();
-    WriteError(text);
+    WriteErrorLine(text);
 }
 
 } // namespace BatchCli

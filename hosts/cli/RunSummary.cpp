@@ -80,7 +80,7 @@ void RunSummary::Write(FileResult::Kind kind, int count) const
     int lines = 0;
     for (const FileResult& result : unwritten) {
         if (result.kind == kind && lines++ < mostLines) {
-            WriteError(QStringLiteral("    %1: %2\n").arg(result.input, result.reason));
+            WriteErrorLine(QStringLiteral("    %1: %2").arg(result.input, result.reason));
         }
     }
     if (lines > mostLines) {

@@ -127,6 +127,18 @@ QString ZshText(QString text)
     return text;
 }
 
+/// The names of an option, each with the sign that tells where its value stands.
+QString ZshNames(const OptionInfo& option)
+{
+    const bool isSwitch = option.valueName.isEmpty();
+    const QString name = isSwitch ? option.name : option.name + QLatin1Char('=');
+    if (option.shortName.isEmpty()) {
+        return option.isRepeatable ? Quoted(QLatin1Char('*') + name) : name;
+    }
+    const QString shortName = isSwitch ? option.shortName : option.shortName + QLatin1Char('+');
+    return QStringLiteral("'(%1 %2)'{%3,%4}").arg(option.shortName, option.name, shortName, name);
+}
+
 } // namespace
 
 QString ManualPage(const QString& frame)
@@ -142,7 +154,20 @@ QString BashCompletion()
     QString text = QStringLiteral("# Completion of velkora-batch for bash. Made from the program's own tables.\n"
                                   "_velkora_batch()\n{\n"
                                   "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]}\n"
+                                  "    COMPREPLY=()\n"
                                   "    local kind='' options='' words=()\n"
+                                  "    # \"--format=J\" and \"off:b\" come as three words.\n"
+                                  "    if [ \"$word\" = = ]; then\n"
+                                  "        word=''\n"
+                                  "    elif [ \"$before\" = = ]; then\n"
+                                  "        before=${COMP_WORDS[COMP_CWORD-2]}\n"
+                                  "    elif [ \"$word\" = : ]; then\n"
+                                  "        before=${COMP_WORDS[COMP_CWORD-2]} word=''\n"
+                                  "        [ \"${COMP_WORDS[COMP_CWORD-1]}\" = off ] || return\n"
+                                  "    elif [ \"$before\" = : ]; then\n"
+                                  "        before=${COMP_WORDS[COMP_CWORD-3]}\n"
+                                  "        [ \"${COMP_WORDS[COMP_CWORD-2]}\" = off ] || return\n"
+                                  "    fi\n"
                                   "    if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
                                   "        mapfile -t COMPREPLY < <(compgen -W '%1 --help --version' -- \"$word\")\n"
                                   "        return\n    fi\n"
@@ -167,7 +192,6 @@ QString BashCompletion()
                     .arg(command.name, names.join(QLatin1Char(' ')), values, BashWords(inputs));
     }
     return text + QStringLiteral("    esac\n"
-                                 "    COMPREPLY=()\n"
                                  "    if [[ $word == -* ]]; then\n"
                                  "        mapfile -t COMPREPLY < <(compgen -W \"$options\" -- \"$word\")\n"
                                  "    elif [ \"$kind\" = file ]; then\n"
@@ -195,15 +219,14 @@ QString ZshCompletion()
                                   "    case $command in\n")
                        .arg(CommandNames().join(QLatin1Char(' ')));
     for (const CommandInfo& command : Commands()) {
-        text += QStringLiteral("    %1)\n        _arguments -s").arg(command.name);
+        text += QStringLiteral("    %1)\n        _arguments -s -S").arg(command.name);
         for (const OptionInfo& option : command.options) {
             const QString help = QStringLiteral("[%1]").arg(ZshText(option.help));
             const QString value = option.valueName.isEmpty()
                                       ? QString()
                                       : QStringLiteral(":%1:%2").arg(ZshText(option.valueName),
                                                                      ZshAction(option.completion, option.words));
-            const QString star = option.isRepeatable ? QStringLiteral("*") : QString();
-            text += QStringLiteral(" \\\n            %1").arg(Quoted(star + option.name + help + value));
+            text += QStringLiteral(" \\\n            ") + ZshNames(option) + Quoted(help + value);
         }
         text += QStringLiteral(" \\\n            %1 ;;\n")
                     .arg(Quoted(QStringLiteral("*:input:") + ZshAction(command.completion, command.words)));

@@ -4,8 +4,8 @@
 
 namespace BatchCli {
 
-/// Makes file names and texts UTF-8 for this process and its children, whatever the locale. Called before anything of
-/// Qt is.
+/// Keeps files from taking the place of standard channels that are closed, and makes file names and texts UTF-8 for
+/// this process and its children, whatever the locale. Called before anything of Qt is.
 void PrepareProcess();
 
 /// The arguments without the program's name. Throws UsageError for one that cannot be represented.

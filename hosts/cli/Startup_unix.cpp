@@ -7,12 +7,30 @@
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 namespace BatchCli {
 
+namespace {
+
+/// Where standard input, output or error is closed, the next file that is opened would take its place, and get what is
+/// meant for it. They are opened the wrong way round, so that reading and writing fails as before.
+void FillStandardChannels()
+{
+    for (int channel = STDIN_FILENO; channel <= STDERR_FILENO; ++channel) {
+        if (fcntl(channel, F_GETFD) == -1) {
+            open("/dev/null", channel == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
+} // namespace
+
 void PrepareProcess()
 {
+    FillStandardChannels();
     // Qt opens files by the locale's encoding. In the C locale of scripts and containers every name with an accent
     // would be out of reach, for the server too.
     std::setlocale(LC_ALL, "");

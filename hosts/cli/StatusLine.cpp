@@ -13,7 +13,7 @@ const QString eraseLine = QStringLiteral("\r\033[K");
 } // namespace
 
 StatusLine::StatusLine(bool isWanted)
-    : isShown(isWanted && Terminal::IsErrorTerminal())
+    : isShown(isWanted && Terminal::IsErrorTerminal() && qEnvironmentVariable("TERM") != QLatin1String("dumb"))
 {
 }
 

@@ -60,7 +60,8 @@ int IntegerFromText(const QString& text, int minimum, int maximum)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum) {
-        throw UsageError{QStringLiteral("\"%1\" is no whole number from %2 to %3").arg(text).arg(minimum).arg(maximum)};
+        throw UsageError{QStringLiteral("\"%1\" is no whole number from %2 to %3")
+                             .arg(text, QString::number(minimum), QString::number(maximum))};
     }
     return number;
 }
@@ -79,8 +80,7 @@ QSize SizeFromText(const QString& text)
     if (sides.size() != 2 || !isWidth || !isHeight || size.isEmpty() || size.width() > largestSide ||
         size.height() > largestSide) {
         throw UsageError{QStringLiteral("\"%1\" is no WIDTHxHEIGHT of whole numbers from 1 to %2, such as 800x600")
-                             .arg(text)
-                             .arg(largestSide)};
+                             .arg(text, QString::number(largestSide))};
     }
     return size;
 }

@@ -48,17 +48,17 @@ void TakeLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
     for (const Kind kind : {Kind::Written, Kind::Skipped, Kind::Failed}) {
-        const QJsonValue index = line.value(Key(WordOf(kind)));
-        if (index.isDouble()) {
-            state.results.insert(index.toInt(),
+        const int index = line.value(Key(WordOf(kind))).toInt(-1);
+        if (index >= 0) {
+            state.results.insert(index,
                                  {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString()});
-            state.begun.remove(index.toInt());
-            state.losses.remove(index.toInt());
+            state.begun.remove(index);
+            state.losses.remove(index);
         }
     }
-    const QJsonValue begun = line.value(Key("begin"));
-    if (begun.isDouble() && !state.results.contains(begun.toInt())) {
-        state.begun.insert(begun.toInt(), output);
+    const int begun = line.value(Key("begin")).toInt(-1);
+    if (begun >= 0 && !state.results.contains(begun)) {
+        state.begun.insert(begun, output);
     }
     const QJsonValue answer = line.value(Key("answer"));
     if (answer.isDouble()) {
@@ -93,6 +93,12 @@ std::optional<JournalState> ReadJournal(const QString& path)
         }
     }
     return hasHeader ? std::optional(state) : std::nullopt;
+}
+
+bool HasJournalBegun(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readLine(longestLine).endsWith('\n');
 }
 
 bool RunJournal::Create(const QString& path, const QString& document, const std::array<int, 5>& policies)

@@ -48,6 +48,10 @@ struct JournalState
 /// off counts as not written.
 std::optional<JournalState> ReadJournal(const QString& path);
 
+/// Whether a run was begun with the journal at `path`: its first line is whole. Whoever died while writing that had
+/// begun nothing.
+bool HasJournalBegun(const QString& path);
+
 /// A journal that is written. Each line is handed to the system at once: it survives the process, not the machine.
 class RunJournal
 {

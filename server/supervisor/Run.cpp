@@ -111,8 +111,13 @@ void Run::FindFinished(Preparation& preparation)
         }
     }
     for (auto it = earlier.results.constBegin(); it != earlier.results.constEnd(); ++it) {
-        if (it.key() < preparation.plan.Count() && it->kind == JournalState::Result::Kind::Written) {
+        if (it.key() >= preparation.plan.Count()) {
+            continue;
+        }
+        if (it->kind == JournalState::Result::Kind::Written) {
             preparation.plan.Keep(it.key(), it->output);
+        } else {
+            preparation.plan.Leave(it.key(), it->output);
         }
     }
 }

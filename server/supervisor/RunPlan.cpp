@@ -41,7 +41,7 @@ void RunPlan::Settle(int first, const Policies& policies)
 
 void RunPlan::SettleFile(int file, const Policies& policies)
 {
-    if (failedProbes.contains(file) || plan.IsKept(file)) {
+    if (failedProbes.contains(file) || plan.IsKept(file) || HasItsLastName(file)) {
         return;
     }
     if (!plan.Format(file)) {
@@ -49,7 +49,7 @@ void RunPlan::SettleFile(int file, const Policies& policies)
             return;
         }
     }
-    if (plan.ClashOf(file) == OutputPlan::Clash::None || IsOverwriting(file)) {
+    if (plan.ClashOf(file) == OutputPlan::Clash::None || IsOverwriting(file) || HasItsLastName(file)) {
         return;
     }
     const Decision naming = policies.Of(Case::Naming);
@@ -57,6 +57,12 @@ void RunPlan::SettleFile(int file, const Policies& policies)
     if (naming == Decision::Rename || (naming == Decision::Overwrite && IsAnothersSource(file))) {
         Rename(file);
     }
+}
+
+bool RunPlan::HasItsLastName(int file) const
+{
+    const auto last = left.constFind(file);
+    return last != left.constEnd() && *last == plan.Output(file);
 }
 
 Trouble RunPlan::TroubleOf(int file) const

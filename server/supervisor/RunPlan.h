@@ -32,6 +32,10 @@ public:
     /// See OutputPlan::Keep().
     void Keep(int file, const QString& path) { plan.Keep(file, path); }
 
+    /// The file has come to its end without a result, under this name or, when it is empty, under none: no policy of
+    /// now gives it another one.
+    void Leave(int file, const QString& path) { left.insert(file, path); }
+
     /// What the probe of a file has found.
     void TakeProbe(int file, const BatchServer::Report& report);
 
@@ -76,9 +80,11 @@ private:
     };
 
     QString NearestFormat(int file) const;
+    bool HasItsLastName(int file) const;
 
     BatchServer::OutputPlan plan;
     std::vector<Marks> marks;
     QHash<int, QString> nearestFormats; ///< from probes
     QHash<int, Trouble> failedProbes;
+    QHash<int, QString> left; ///< files that an earlier part of the run has given up
 };

@@ -165,6 +165,16 @@ void tst_CliInputs::OutputFolderIsNoInput()
     collector.Add({root->path()});
     QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 1);
     QVERIFY(collector.Problems().isEmpty());
+#ifdef Q_OS_UNIX
+    // By whatever way it is reached.
+    QTemporaryDir elsewhere;
+    const QString link = elsewhere.filePath(QStringLiteral("link"));
+    QVERIFY(QFile::link(root->path(), link));
+    filter.outputFolder = link + QStringLiteral("/results");
+    ZTBatchDocument again;
+    InputCollector(again, filter).Add({root->path()});
+    QCOMPARE(again.GetInputModel()->GetFileNodesCount(), 1);
+#endif
 }
 
 void tst_CliInputs::MissingInputsAreRefused()
@@ -203,6 +213,8 @@ void tst_CliInputs::LinksAreFollowedOnce()
 void tst_CliInputs::OddEntriesAreReported()
 {
     Make(QStringLiteral("a.jpg"));
+    Make(QStringLiteral("line\nbreak.jpg"));
+    Make(QStringLiteral("bell\a.jpg"));
     QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), root->filePath(QStringLiteral("lost.jpg"))));
     const QByteArray folder = QFile::encodeName(root->path());
     FILE* const odd = std::fopen((folder + "/\xE9t\xE9.jpg").constData(), "w");
@@ -212,11 +224,14 @@ void tst_CliInputs::OddEntriesAreReported()
     ZTBatchDocument job;
     InputCollector collector(job, {});
     collector.Add({root->path()});
-    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 1);
-    QCOMPARE(collector.Problems().size(), 2);
+    QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("a.jpg"), QStringLiteral("line\nbreak.jpg")}));
+    QCOMPARE(collector.Problems().size(), 3);
     const QString problems = collector.Problems().join(QLatin1Char('\n'));
     QVERIFY2(problems.contains(QStringLiteral("lost.jpg is a link that leads nowhere")), qPrintable(problems));
     QVERIFY2(problems.contains(QStringLiteral("\\xe9t\\xe9.jpg has a name that is not valid UTF-8")),
+             qPrintable(problems));
+    std::remove((folder + "/\xE9t\xE9.jpg").constData()); // Qt could not.
+    QVERIFY2(problems.contains(QStringLiteral("bell\a.jpg has a name with a character that no job can hold")),
              qPrintable(problems));
 }
 

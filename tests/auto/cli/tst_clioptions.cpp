@@ -192,6 +192,8 @@ void tst_CliOptions::WrongValuesAreExplained_data()
     row("--size", "nan", "no length above 0");
     row("--side", "longest", "is none of width, height, long, short; did you mean");
     row("--resolution", "0", "from 1 to");
+    row("--resolution", "%1", "\"%1\" is no whole number from 1 to 100000");
+    row("--size", "inf", "no length above 0");
     row("--crop", "ratio", "needs a size");
     row("--crop", "trim:3x2", "takes no size");
     row("--crop", "ratio:3", "WIDTHxHEIGHT");
@@ -254,9 +256,12 @@ void tst_CliOptions::ArgumentsAreParsed()
     const ParsedArguments parsed = ParseArguments(
         {QStringLiteral("show"), QStringLiteral("a.jpg"), QStringLiteral("--frame-angle"), QStringLiteral("-5"),
          QStringLiteral("--effect"), QStringLiteral("x"), QStringLiteral("b.jpg"), QStringLiteral("--effect=y"),
-         QStringLiteral("-oout"), QStringLiteral("-q"), QStringLiteral("--"), QStringLiteral("-c.jpg")});
+         QStringLiteral("-oout"), QStringLiteral("-q"), QStringLiteral("[2024,05]"), QStringLiteral("++"),
+         QStringLiteral("-"), QStringLiteral("--"), QStringLiteral("-c.jpg"), QStringLiteral("--")});
     QCOMPARE(parsed.command, QStringLiteral("show"));
-    QCOMPARE(parsed.inputs, QStringList({QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("-c.jpg")}));
+    QCOMPARE(parsed.inputs,
+             QStringList({QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("[2024,05]"),
+                          QStringLiteral("++"), QStringLiteral("-"), QStringLiteral("-c.jpg"), QStringLiteral("--")}));
     QCOMPARE(parsed.Values(QStringLiteral("--effect")), QStringList({QStringLiteral("x"), QStringLiteral("y")}));
     QCOMPARE(parsed.Value(QStringLiteral("--frame-angle")), QStringLiteral("-5"));
     QCOMPARE(parsed.Value(QStringLiteral("--output")), QStringLiteral("out"));
@@ -284,6 +289,14 @@ void tst_CliOptions::WrongArgumentsAreExplained_data()
     row("show --size", "--size");
     row("show --size 1 --size 2", "--size");
     row("effects --output x", "unknown option --output");
+    row("show -5", "unknown option -5");
+    row("show a\x01z", "argument 2, \"a\x01z\", has a character that no job can hold");
+    row("show \xEF\xBF\xBF", "has a character that no job can hold");
+    QTest::newRow("empty input") << QStringList{QStringLiteral("show"), QString()}
+                                 << QStringLiteral("the name behind show is empty");
+    QTest::newRow("empty name of a file")
+        << QStringList{QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("--from"), QString()}
+        << QStringLiteral("--from: the name is empty");
 }
 
 void tst_CliOptions::WrongArgumentsAreExplained()

@@ -7,6 +7,8 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <sys/types.h>
 
@@ -68,6 +70,10 @@ private Q_SLOTS:
     void InterruptKeepsTheRun();
     void NothingToResume();
     void DamagedJournal();
+    void JournalThatWasNotBegun_data();
+    void JournalThatWasNotBegun();
+    void OtherJobsAreNotResumed();
+    void LinesThatMakeNoSense();
     void SameJobTwiceAtATime();
 
 private:
@@ -85,10 +91,10 @@ private:
         process.start(QStringLiteral(VELKORA_BATCH), Arguments(arguments));
         QVERIFY(process.waitForStarted());
     }
-    void MakeOutput() const
+    void MakeOutput(const QString& folder = QStringLiteral("out")) const
     {
-        QVERIFY(QDir(Path(QStringLiteral("out"))).removeRecursively());
-        TestPictures::Write(Path(QStringLiteral("out/2.jpg")), 99);
+        QVERIFY(QDir(Path(folder)).removeRecursively());
+        TestPictures::Write(Path(folder + QStringLiteral("/2.jpg")), 99);
     }
 
     std::unique_ptr<QTemporaryDir> root;
@@ -120,44 +126,72 @@ void tst_CliResume::KilledAtAnyMoment_data()
                                        << 4U;
 }
 
-// The union of what the two parts of a run write is what an undisturbed run writes, byte for byte.
+// The union of what the two parts of a run write is what an undisturbed run writes, byte for byte. Most of a run is
+// waiting, so some go on at a time, each in a folder of its own.
 void tst_CliResume::KilledAtAnyMoment()
 {
     QFETCH(QString, options);
     QFETCH(uint, seed);
-    const QString arguments = QStringLiteral("run a b -o out --effect blur:sigma=4 -q ") + options;
-    MakeOutput();
+    constexpr int lanes = 5;
+    const auto folder = [](int lane) { return QStringLiteral("out%1").arg(lane); };
+    const auto arguments = [&](int lane) {
+        return QStringLiteral("run a b --effect blur:sigma=4 -q %1 -o %2").arg(options, folder(lane));
+    };
+    std::array<QProcess, lanes> runs;
     QElapsedTimer time;
     time.start();
-    Run(arguments);
+    for (int lane = 0; lane < lanes; ++lane) {
+        MakeOutput(folder(lane));
+        Start(runs[std::size_t(lane)], arguments(lane));
+    }
+    Files undisturbed;
+    for (int lane = 0; lane < lanes; ++lane) {
+        QVERIFY(runs[std::size_t(lane)].waitForFinished(120'000));
+        const Files files = FilesBelow(Path(folder(lane)));
+        QVERIFY(files.size() > 5);
+        QVERIFY(undisturbed.isEmpty() || files == undisturbed);
+        undisturbed = files;
+    }
     const int duration = int(time.elapsed());
-    const Files undisturbed = FilesBelow(Path(QStringLiteral("out")));
-    QVERIFY(undisturbed.size() > 5);
 
     QRandomGenerator random(seed);
     int resumed = 0;
-    for (int round = 0; round < killsForEachRow; ++round) {
-        MakeOutput();
-        QProcess process;
-        Start(process, arguments);
-        // The first second passes until the server is reached.
-        process.waitForFinished(std::min(800, duration / 2) + random.bounded(duration));
-        process.kill();
-        process.waitForFinished();
-        CliRun run = Run(QStringLiteral("run --resume -q -o out"));
-        if (run.exitCode == 2) {
-            // It was killed before it began, or was done.
-            QVERIFY2(run.err.contains("there is no interrupted run"), run.err.constData());
-            if (process.exitStatus() == QProcess::CrashExit) {
-                MakeOutput();
-                Run(arguments);
-            }
-        } else {
-            ++resumed;
+    for (int kills = 0; kills < killsForEachRow; kills += lanes) {
+        std::array<int, lanes> moments{};
+        for (int& moment : moments) {
+            // The first second passes until the server is reached.
+            moment = std::min(800, duration / 2) + random.bounded(duration);
         }
-        const Files files = FilesBelow(Path(QStringLiteral("out")));
-        QCOMPARE(files.keys(), undisturbed.keys());
-        QVERIFY2(files == undisturbed, "A result differs from that of the undisturbed run.");
+        std::sort(moments.begin(), moments.end());
+        time.start();
+        for (int lane = 0; lane < lanes; ++lane) {
+            MakeOutput(folder(lane));
+            Start(runs[std::size_t(lane)], arguments(lane));
+        }
+        std::array<bool, lanes> wasKilled{};
+        for (int lane = 0; lane < lanes; ++lane) {
+            QProcess& run = runs[std::size_t(lane)];
+            run.waitForFinished(std::max(0, moments[std::size_t(lane)] - int(time.elapsed())));
+            run.kill();
+            run.waitForFinished();
+            wasKilled[std::size_t(lane)] = run.exitStatus() == QProcess::CrashExit;
+            Start(run, QStringLiteral("run --resume -q -o ") + folder(lane));
+        }
+        for (int lane = 0; lane < lanes; ++lane) {
+            QProcess& run = runs[std::size_t(lane)];
+            QVERIFY(run.waitForFinished(120'000));
+            const Files files = FilesBelow(Path(folder(lane)));
+            const QByteArray err = run.readAllStandardError();
+            const bool hadNothingToDo = run.exitCode() == 2;
+            QVERIFY2(!hadNothingToDo || err.contains("there is no interrupted run"), err.constData());
+            if (hadNothingToDo && wasKilled[std::size_t(lane)] && files.size() == 1) {
+                QCOMPARE(files.firstKey(), QStringLiteral("2.jpg")); // It had not begun.
+                continue;
+            }
+            resumed += hadNothingToDo ? 0 : 1;
+            QCOMPARE(files.keys(), undisturbed.keys());
+            QVERIFY2(files == undisturbed, "A result differs from that of the undisturbed run.");
+        }
     }
     QVERIFY2(resumed >= leastResumed, qPrintable(QString::number(resumed)));
 }
@@ -259,11 +293,78 @@ void tst_CliResume::DamagedJournal()
     QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
     QFile journal(Path(QStringLiteral("out/.velkora-batch-0123456789abcdef.journal")));
     QVERIFY(journal.open(QIODevice::WriteOnly));
-    QVERIFY(journal.write("{\"journal\":1,\"docu") > 0);
+    QVERIFY(journal.write("{\"journal\":1,\"docu\n") > 0);
     journal.close();
     const CliRun run = Run(QStringLiteral("run --resume -o out"));
     QCOMPARE(run.exitCode, 2);
     QVERIFY2(run.err.contains(".journal is damaged"), run.err.constData());
+}
+
+void tst_CliResume::JournalThatWasNotBegun_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut off") << QByteArray("{\"journal\":1,\"docu");
+}
+
+// Whoever died while writing the first line had begun nothing, and leaves nothing.
+void tst_CliResume::JournalThatWasNotBegun()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
+    const QByteArray lock = "999999999\nvelkora-batch\n" + QSysInfo::machineHostName().toUtf8() + "\n\n\n";
+    for (const char* end : {"journal", "journal.lock"}) {
+        QFile file(Path(QStringLiteral("out/.velkora-batch-0123456789abcdef.") + QLatin1String(end)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(end == QByteArray("journal") ? text : lock) >= 0, true);
+    }
+    const CliRun run = Run(QStringLiteral("run --resume -o out"));
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.contains("there is no interrupted run in "), run.err.constData());
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).keys(), QStringList());
+}
+
+void tst_CliResume::OtherJobsAreNotResumed()
+{
+    QProcess process;
+    Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+    QVERIFY(process.waitForReadyRead(60'000));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+    for (const char* other : {"a", "a b --structure input", "--size 10", "--no-inputs"}) {
+        const CliRun run = Run(QStringLiteral("run --resume -o out ") + QLatin1String(other));
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains(" is not this job: "), run.err.constData());
+    }
+    const CliRun same = Run(QStringLiteral("run a b --resume -o out --structure input --effect blur:sigma=20 -q"));
+    QVERIFY2(same.exitCode == 0, same.err.constData());
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
+}
+
+void tst_CliResume::LinesThatMakeNoSense()
+{
+    QProcess process;
+    Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+    QVERIFY(process.waitForReadyRead(60'000));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+    const QDir out(Path(QStringLiteral("out")));
+    const QStringList journals =
+        out.entryList({QStringLiteral(".velkora-batch-*.journal")}, QDir::Files | QDir::Hidden);
+    QCOMPARE(journals.size(), 1);
+    QFile journal(out.filePath(journals.first()));
+    QVERIFY(journal.open(QIODevice::Append));
+    for (const char* line : {"{\"written\":-1,\"output\":\"/x\"}", "{\"written\":1000000,\"output\":\"/x\"}",
+                             "{\"failed\":-7}", "{\"begin\":-2,\"output\":\"/\"}", "{\"begin\":99,\"output\":\"/\"}",
+                             "{\"answer\":77,\"value\":-3}", "{\"lost\":[-1,500]}", "[]", "no JSON", ""}) {
+        journal.write(line);
+        journal.write("\n");
+    }
+    journal.close();
+    const CliRun run = Run(QStringLiteral("run --resume -o out --json"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QVERIFY2(!run.err.contains("the server ended unexpectedly"), run.err.constData());
+    QCOMPARE(FilesBelow(out.path()).size(), 12);
 }
 
 void tst_CliResume::SameJobTwiceAtATime()

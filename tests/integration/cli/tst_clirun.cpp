@@ -34,18 +34,52 @@ private Q_SLOTS:
     void RunsSideBySide();
     void NoServer();
     void NothingIsLeftBehind();
+#ifdef Q_OS_UNIX
+    void NamesStayInTheirLine();
+    void LostOutputIsTold_data();
+    void LostOutputIsTold();
+    void ClosedChannelsHarmNoFile();
+    void ReadersMayLeave();
+    void PlanLooksAtTheFolder();
+#endif
 
 private:
-    QString Path(const QString& name) const { return root->filePath(name); }
-    QStringList Results() const { return QDir(Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden); }
+    QString Path(const QString& name) const
+    {
+        return root->filePath(name);
+    }
+    QStringList Results() const
+    {
+        return QDir(Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden);
+    }
     CliRun Run(const QString& arguments) const
     {
         return CliRun::Of(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts), root->path(), environment);
     }
+    /// `script` by a shell that has the program in $VELKORA.
+    CliRun Shell(const QString& script) const;
 
     std::unique_ptr<QTemporaryDir> root;
     QProcessEnvironment environment;
 };
+
+CliRun tst_CliRun::Shell(const QString& script) const
+{
+    QProcessEnvironment withProgram = environment;
+    withProgram.insert(QStringLiteral("VELKORA"), QStringLiteral(VELKORA_BATCH));
+    QProcess process;
+    process.setProcessEnvironment(withProgram);
+    process.setWorkingDirectory(root->path());
+    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), script});
+    process.closeWriteChannel();
+    CliRun run;
+    if (process.waitForFinished(120'000) && process.exitStatus() == QProcess::NormalExit) {
+        run.exitCode = process.exitCode();
+    }
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}
 
 void tst_CliRun::init()
 {
@@ -345,6 +379,101 @@ void tst_CliRun::NothingIsLeftBehind()
     QVERIFY(QDir(Path(QStringLiteral("tmp"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     QCOMPARE(Results().size(), 3);
 }
+
+#ifdef Q_OS_UNIX
+
+void tst_CliRun::NamesStayInTheirLine()
+{
+    TestPictures::Write(Path(QStringLiteral("odd/a\nb%1.jpg")));
+    TestPictures::Write(Path(QStringLiteral("odd/\x7F.jpg")));
+    TestPictures::WriteDamaged(Path(QStringLiteral("odd/\xC2\x9B.jpg")));
+    const CliRun plan = Run(QStringLiteral("plan odd -o out"));
+    QCOMPARE(plan.out.count('\n'), 3);
+    QVERIFY2(plan.out.contains("/odd/a\\x0ab%1.jpg -> "), plan.out.constData());
+    const CliRun show = Run(QStringLiteral("show odd -o out"));
+    QVERIFY2(show.out.contains("    a\\x0ab%1.jpg\n"), show.out.constData());
+    const CliRun run = Run(QStringLiteral("run odd -o out -q"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.err.count('\n'), 1);
+    QCOMPARE(Results().size(), 2);
+    const CliRun told = Run(QStringLiteral("run odd -o out2"));
+    QVERIFY2(told.err.contains("/odd/a\\x0ab%1.jpg -> "), told.err.constData());
+    QVERIFY2(told.err.contains("/odd/\\x7f.jpg -> "), told.err.constData());
+}
+
+void tst_CliRun::LostOutputIsTold_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("channel");
+    QTest::addColumn<QByteArray>("reason");
+    const auto row = [](const char* arguments) {
+        const QString text = QString::fromLatin1(arguments);
+        QTest::newRow(qPrintable(QStringLiteral("full: ") + text))
+            << text << QStringLiteral(">/dev/full") << QByteArray("No space left on device");
+        QTest::newRow(qPrintable(QStringLiteral("closed: ") + text))
+            << text << QStringLiteral(">&-") << QByteArray("Bad file descriptor");
+    };
+    row("--version");
+    row("run --help");
+    row("effects");
+    row("formats --json");
+    row("show photos");
+    row("plan photos -o x");
+    row("create - photos -o x");
+    row("run photos -o out --json");
+}
+
+void tst_CliRun::LostOutputIsTold()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, channel);
+    QFETCH(QByteArray, reason);
+    const CliRun run = Shell(QStringLiteral("\"$VELKORA\" %1 %2").arg(arguments, channel));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.err.contains("velkora-batch: standard output cannot be written: " + reason), run.err.constData());
+    // The pictures are made all the same.
+    QCOMPARE(Results().size(), arguments.startsWith(QLatin1String("run photos")) ? 3 : 0);
+}
+
+// What is meant for a channel that is closed must not get into a file that was opened in its place.
+void tst_CliRun::ClosedChannelsHarmNoFile()
+{
+    const CliRun run =
+        Shell(QStringLiteral("\"$VELKORA\" run photos -o out --verbose --json --report r.json <&- >&- 2>&-"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(Results().size(), 3);
+    QFile report(Path(QStringLiteral("r.json")));
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    QJsonParseError error;
+    QCOMPARE(QJsonDocument::fromJson(report.readAll(), &error).array().size(), 3);
+    QCOMPARE(error.error, QJsonParseError::NoError);
+}
+
+void tst_CliRun::ReadersMayLeave()
+{
+    const CliRun events =
+        Shell(QStringLiteral("{ \"$VELKORA\" run photos -o out --json; echo \"ends with $?\" >&2; } | head -n 1"));
+    QCOMPARE(events.out.count('\n'), 1);
+    QVERIFY2(events.err.contains("ends with 1"), events.err.constData());
+    QVERIFY2(events.err.contains("standard output cannot be written: Broken pipe"), events.err.constData());
+    QCOMPARE(Results().size(), 3);
+    // Progress that nobody watches is no trouble.
+    const CliRun lines = Shell(QStringLiteral(
+        "{ \"$VELKORA\" run photos -o out2; echo \"ends with $?\" >&3; } 3>&1 2>&1 >/dev/null | head -n 1"));
+    QVERIFY2(lines.out.contains("ends with 0") || lines.out.count('\n') == 1, lines.out.constData());
+    QCOMPARE(QDir(Path(QStringLiteral("out2"))).entryList(QDir::Files | QDir::Hidden).size(), 3);
+}
+
+void tst_CliRun::PlanLooksAtTheFolder()
+{
+    const CliRun file = Run(QStringLiteral("plan photos -o photos/1.jpg/below"));
+    QCOMPARE(file.exitCode, 1);
+    QVERIFY2(file.out.count("photos/1.jpg is no folder]") == 3, file.out.constData());
+    const CliRun good = Run(QStringLiteral("plan photos -o photos/below/further"));
+    QCOMPARE(good.exitCode, 0);
+}
+
+#endif
 
 QTEST_GUILESS_MAIN(tst_CliRun)
 #include "tst_clirun.moc"

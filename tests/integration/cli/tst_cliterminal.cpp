@@ -1,9 +1,13 @@
+#include "CliRun.h"
 #include "PseudoTerminal.h"
 #include "TestPictures.h"
 
 #include <QDir>
 #include <QRegularExpression>
 #include <QtTest>
+
+#include <csignal>
+#include <sys/types.h>
 
 /// Runs at a terminal, with a user who watches, answers and interrupts.
 class tst_CliTerminal : public QObject
@@ -24,6 +28,8 @@ private Q_SLOTS:
     void InterruptCancels();
     void SecondInterruptEndsAtOnce();
     void InterruptDuringQuestion();
+    void AnswersOutliveTheProgram();
+    void DumbTerminal();
 
 private:
     QString Path(const QString& name) const { return root->filePath(name); }
@@ -200,6 +206,39 @@ void tst_CliTerminal::InterruptDuringQuestion()
     terminal.Type("\x03");
     QCOMPARE(terminal.ExitCode(), 4);
     QVERIFY(terminal.Output().contains("Cancelled."));
+}
+
+// One file is skipped by its own answer, all others are renamed: a resumed run gives them the names of an undisturbed
+// one.
+void tst_CliTerminal::AnswersOutliveTheProgram()
+{
+    WriteTaken();
+    for (const char* folder : {"a", "b", "c"}) {
+        TestPictures::Write(Path(QLatin1String(folder) + QStringLiteral("/1.jpg")), folder[0], 3000, 2000);
+    }
+    {
+        PseudoTerminal terminal(
+            program, Arguments(QStringLiteral("run a b c -o out --effect blur:sigma=30 --workers 1 --verbose")));
+        QVERIFY(terminal.WaitFor("also for all that follow) "));
+        terminal.Type("skip\n");
+        QVERIFY(terminal.WaitFor("also for all that follow) "));
+        terminal.Type("rename all\n");
+        QVERIFY2(terminal.WaitFor("holds for the rest of the run"), terminal.Output().constData());
+        QCOMPARE(kill(pid_t(terminal.ProcessId()), SIGKILL), 0);
+    }
+    const CliRun rest = CliRun::Of(Arguments(QStringLiteral("run --resume -o out")), root->path());
+    QVERIFY2(rest.exitCode == 1, rest.err.constData());
+    QCOMPARE(Results(), QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1 (3).jpg"), QStringLiteral("1.jpg"),
+                                     QStringLiteral("2.jpg")}));
+}
+
+void tst_CliTerminal::DumbTerminal()
+{
+    qputenv("TERM", "dumb");
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    QCOMPARE(terminal.ExitCode(), 0);
+    QVERIFY2(!terminal.Output().contains('\033'), terminal.Output().constData());
+    QVERIFY2(terminal.Output().contains("[3/3] "), terminal.Output().constData());
 }
 
 QTEST_GUILESS_MAIN(tst_CliTerminal)

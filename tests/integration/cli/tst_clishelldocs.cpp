@@ -1,0 +1,353 @@
+#include "CliRun.h"
+#include "CommandLine.h"
+#include "PseudoTerminal.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QtTest>
+
+using namespace BatchCli;
+
+/// The manual page and the completions, as the shells and the readers of manual pages understand them.
+class tst_CliShellDocs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void BashCompletes_data();
+    void BashCompletes();
+    void BashKnowsEveryOption();
+    void BashAtTheTerminal();
+    void ZshKnowsEveryOption();
+    void ZshOffersEveryWord();
+    void FishKnowsEveryOption();
+    void ManualPageHasEveryOption();
+    void ManualPageIsSound_data();
+    void ManualPageIsSound();
+
+private:
+    QString Path(const char* name) const { return QStringLiteral(SHELL_DOCS "/") + QLatin1String(name); }
+    QStringList Output(const QString& program, const QStringList& arguments) const;
+    QStringList Bash(const QStringList& words) const;
+    QStringList Fish(const QString& line) const;
+    QStringList HelpOptions(const QString& command) const;
+
+    std::unique_ptr<QTemporaryDir> root;
+};
+
+namespace {
+
+QStringList Sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+QStringList CommandNames()
+{
+    QStringList names;
+    for (const CommandInfo& command : Commands()) {
+        names.append(command.name);
+    }
+    return names;
+}
+
+bool IsThere(const char* program)
+{
+    return !QStandardPaths::findExecutable(QLatin1String(program)).isEmpty();
+}
+
+} // namespace
+
+void tst_CliShellDocs::initTestCase()
+{
+    root = std::make_unique<QTemporaryDir>();
+    for (const char* folder : {"photos/below", "other place"}) {
+        QVERIFY(QDir(root->path()).mkpath(QLatin1String(folder)));
+    }
+    for (const char* name : {"job.xml", "photo.jpg"}) {
+        QFile file(root->filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+}
+
+/// The lines that a program writes; a program that says anything on standard error has failed.
+QStringList tst_CliShellDocs::Output(const QString& program, const QStringList& arguments) const
+{
+    QProcess process;
+    process.setWorkingDirectory(root->path());
+    process.start(program, arguments);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(60'000) || process.exitCode() != 0) {
+        return {QStringLiteral("%1 failed: ").arg(program) + QString::fromUtf8(process.readAllStandardError())};
+    }
+    const QByteArray error = process.readAllStandardError();
+    return error.isEmpty()
+               ? QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+               : QStringList{QString::fromUtf8(error)};
+}
+
+/// What the completion offers for the last of the words.
+QStringList tst_CliShellDocs::Bash(const QStringList& words) const
+{
+    const QString script = QStringLiteral("set -u; source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); "
+                                          "_velkora_batch; printf '%s\\n' \"${COMPREPLY[@]}\"");
+    return Output(QStringLiteral("bash"), QStringList{QStringLiteral("--norc"), QStringLiteral("-c"), script,
+                                                      Path("velkora-batch.bash"), QStringLiteral("velkora-batch")} +
+                                              words);
+}
+
+QStringList tst_CliShellDocs::Fish(const QString& line) const
+{
+    QStringList offered =
+        Output(QStringLiteral("fish"), {QStringLiteral("--no-config"), QStringLiteral("-c"),
+                                        QStringLiteral("source $argv[1]; complete -C $argv[2]"),
+                                        Path("velkora-batch.fish"), QStringLiteral("velkora-batch ") + line});
+    for (QString& candidate : offered) {
+        candidate = candidate.section(QLatin1Char('\t'), 0, 0);
+    }
+    return offered;
+}
+
+/// The long names of the options that the real help of a command lists.
+QStringList tst_CliShellDocs::HelpOptions(const QString& command) const
+{
+    static const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z], )?(--[a-z-]+)"),
+                                          QRegularExpression::MultilineOption);
+    QStringList options;
+    auto found =
+        entry.globalMatch(QString::fromUtf8(CliRun::Of({command, QStringLiteral("--help")}, root->path()).out));
+    while (found.hasNext()) {
+        options.append(found.next().captured(1));
+    }
+    return options;
+}
+
+void tst_CliShellDocs::BashCompletes_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QStringList>("offered");
+    const auto row = [](const char* words, const char* offered) {
+        QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '))
+                             << QString::fromLatin1(offered).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    };
+    row("", "run|create|show|plan|effects|formats|--help|--version");
+    row("s", "show");
+    row("--v", "--version");
+    row("run --on-in", "--on-input-error");
+    row("run --on-name-exists ", "skip|overwrite|rename|ask");
+    row("run --on-name-exists = re", "rename");
+    row("run --on-name-exists =", "skip|overwrite|rename|ask");
+    row("run --format JPEG", "JPEG|JPEG XL|JPEG 2000");
+    row("run --effect blu", "blur");
+    row("run --effect off : blu", "blur");
+    row("run --effect off :", "");
+    row("run --crop ratio :", "");
+    row("run --crop ratio : n", "");
+    row("run photo.jpg --size 100 p", "photos|photo.jpg");
+    row("run --output p", "photos");
+    row("run -o ", "photos|other place");
+    row("run --size p", "");
+    row("create --from j", "job.xml");
+    row("run --quiet p", "photos|photo.jpg");
+    row("effects se", "sepia");
+    row("formats W", "WebP");
+    row("nonsense --", "");
+}
+
+void tst_CliShellDocs::BashCompletes()
+{
+    QFETCH(QStringList, words);
+    QFETCH(QStringList, offered);
+    if (!IsThere("bash")) {
+        QSKIP("bash is not installed.");
+    }
+    if (words.contains(QStringLiteral("off")) && offered.isEmpty()) {
+        offered = Bash({QStringLiteral("effects"), QString()}); // Every effect.
+        QVERIFY(offered.size() > 20);
+    }
+    QCOMPARE(Sorted(Bash(words)), Sorted(offered));
+}
+
+void tst_CliShellDocs::BashKnowsEveryOption()
+{
+    if (!IsThere("bash")) {
+        QSKIP("bash is not installed.");
+    }
+    for (const CommandInfo& command : Commands()) {
+        const QStringList options = HelpOptions(command.name);
+        QVERIFY(options.size() > 1);
+        QCOMPARE(Sorted(Bash({command.name, QStringLiteral("--")})), Sorted(options));
+        for (const OptionInfo& option : command.options) {
+            if (option.completion == Completion::Words) {
+                QVERIFY(option.words.size() > 1);
+                QCOMPARE(Sorted(Bash({command.name, option.name, QString()})), Sorted(option.words));
+            }
+        }
+        if (command.completion == Completion::Words) {
+            QCOMPARE(Sorted(Bash({command.name, QString()})), Sorted(command.words));
+        }
+    }
+}
+
+// How a line is cut into words is readline's business.
+void tst_CliShellDocs::BashAtTheTerminal()
+{
+    if (!IsThere("bash")) {
+        QSKIP("bash is not installed.");
+    }
+    PseudoTerminal terminal(QStandardPaths::findExecutable(QStringLiteral("bash")),
+                            {QStringLiteral("--norc"), QStringLiteral("-i")}, 200);
+    terminal.Type("PS1='ready> '; bind 'set enable-bracketed-paste off'; source '" +
+                  QFile::encodeName(Path("velkora-batch.bash")) + "'; echo loaded-$((1+1))\n");
+    QVERIFY2(terminal.WaitFor("loaded-2\r\n"), terminal.Output().constData());
+    terminal.Type("echo velkora-batch; velkora-batch run --on-format=nea\t--struc\tflat --effect off:sep\t");
+    QVERIFY2(terminal.WaitFor("--on-format=nearest --structure flat"), terminal.Output().constData());
+    QVERIFY2(terminal.WaitFor("off:sepia "), terminal.Output().constData());
+}
+
+void tst_CliShellDocs::ZshKnowsEveryOption()
+{
+    if (!IsThere("zsh")) {
+        QSKIP("zsh is not installed.");
+    }
+    // With _arguments in its place, what the function hands over to it can be read.
+    const QString script = QStringLiteral("_arguments() { print -rl -- \"$@\" }; _files() { }; compadd() { }; "
+                                          "words=(velkora-batch $2 ''); CURRENT=3; source $1");
+    for (const CommandInfo& command : Commands()) {
+        const QStringList specs =
+            Output(QStringLiteral("zsh"), {QStringLiteral("-f"), QStringLiteral("-c"), script, QStringLiteral("zsh"),
+                                           Path("_velkora-batch"), command.name});
+        QStringList options;
+        static const QRegularExpression name(QStringLiteral("^(?:\\([^)]*\\)|\\*)?(--[a-z-]+)=?\\["));
+        for (const QString& spec : specs) {
+            const QRegularExpressionMatch match = name.match(spec);
+            if (match.hasMatch()) {
+                options.append(match.captured(1));
+            }
+        }
+        QCOMPARE(Sorted(options), Sorted(HelpOptions(command.name)));
+    }
+}
+
+void tst_CliShellDocs::ZshOffersEveryWord()
+{
+    if (!IsThere("zsh")) {
+        QSKIP("zsh is not installed.");
+    }
+    qputenv("TERM", "xterm");
+    PseudoTerminal terminal(QStandardPaths::findExecutable(QStringLiteral("zsh")),
+                            {QStringLiteral("-f"), QStringLiteral("-i")}, 200);
+    terminal.Type("unsetopt prompt_sp; cd '" + QFile::encodeName(root->path()) + "'; fpath=('" +
+                  QFile::encodeName(QStringLiteral(SHELL_DOCS)) +
+                  "' $fpath); autoload -U compinit; compinit -u -D; LISTMAX=10000; PS1='ready> '; echo "
+                  "loaded-$((1+1))\n");
+    QVERIFY2(terminal.WaitFor("loaded-2\r\n"), terminal.Output().constData());
+    // What is ambiguous is listed; control-U takes the line away.
+    const auto offers = [&terminal](const QString& line, QStringList words) {
+        words.replaceInStrings(QStringLiteral(" "), QStringLiteral("\\ "));
+        terminal.Type("\x15" + line.toUtf8() + '\t');
+        const int before = terminal.Output().size();
+        while (!words.isEmpty()) {
+            // In any order.
+            words.erase(std::remove_if(
+                            words.begin(), words.end(),
+                            [&](const QString& word) { return terminal.Output().mid(before).contains(word.toUtf8()); }),
+                        words.end());
+            if (!words.isEmpty() && !terminal.WaitFor(words.first().toUtf8())) {
+                return false;
+            }
+        }
+        return true;
+    };
+    QVERIFY2(offers(QStringLiteral("velkora-batch "), CommandNames()), terminal.Output().constData());
+    for (const CommandInfo& command : Commands()) {
+        for (const OptionInfo& option : command.options) {
+            if (option.completion == Completion::Words && command.name == QLatin1String("run")) {
+                const QString line = QStringLiteral("velkora-batch %1 %2 ").arg(command.name, option.name);
+                QVERIFY2(offers(line, option.words), terminal.Output().constData());
+            }
+        }
+    }
+    QVERIFY2(offers(QStringLiteral("velkora-batch effects "), Commands()[4].words), terminal.Output().constData());
+    QVERIFY2(offers(QStringLiteral("velkora-batch run --on-name-exists=re"), {QStringLiteral("exists=rename")}),
+             terminal.Output().constData());
+    QVERIFY2(offers(QStringLiteral("velkora-batch run -o oth"), {QStringLiteral("er place")}),
+             terminal.Output().constData());
+    QVERIFY2(offers(QStringLiteral("velkora-batch run photo"), {QStringLiteral("photos"), QStringLiteral("photo.jpg")}),
+             terminal.Output().constData());
+}
+
+void tst_CliShellDocs::FishKnowsEveryOption()
+{
+    if (!IsThere("fish")) {
+        QSKIP("fish is not installed.");
+    }
+    QCOMPARE(Sorted(Fish(QString())), Sorted(CommandNames()));
+    for (const CommandInfo& command : Commands()) {
+        QCOMPARE(Sorted(Fish(command.name + QStringLiteral(" --"))), Sorted(HelpOptions(command.name)));
+        if (command.completion == Completion::Words) {
+            QCOMPARE(Sorted(Fish(command.name + QLatin1Char(' '))), Sorted(command.words));
+        }
+    }
+    for (const OptionInfo& option : Commands().first().options) {
+        if (option.completion == Completion::Words) {
+            QCOMPARE(Sorted(Fish(QStringLiteral("run %1 ").arg(option.name))), Sorted(option.words));
+        }
+    }
+    QCOMPARE(Fish(QStringLiteral("run -o oth")), QStringList{QStringLiteral("other place/")});
+    QCOMPARE(Sorted(Fish(QStringLiteral("run pho"))),
+             QStringList({QStringLiteral("photo.jpg"), QStringLiteral("photos/")}));
+    QCOMPARE(Fish(QStringLiteral("run --on-name-exists=re")), QStringList{QStringLiteral("--on-name-exists=rename")});
+}
+
+void tst_CliShellDocs::ManualPageHasEveryOption()
+{
+    if (!IsThere("groff")) {
+        QSKIP("groff is not installed.");
+    }
+    const QString page = Output(QStringLiteral("groff"), {QStringLiteral("-man"), QStringLiteral("-Tascii"),
+                                                          QStringLiteral("-P-cbou"), Path("velkora-batch.1")})
+                             .join(QLatin1Char('\n'));
+    QVERIFY2(page.contains(QStringLiteral("EXIT STATUS")), qPrintable(page));
+    for (const CommandInfo& command : Commands()) {
+        QVERIFY2(page.contains(QStringLiteral("velkora-batch ") + command.name), qPrintable(command.name));
+        const QStringList options = HelpOptions(command.name);
+        QVERIFY(options.size() > 1);
+        for (const QString& option : options) {
+            const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z], )?%1(?: |$)").arg(option),
+                                           QRegularExpression::MultilineOption);
+            QVERIFY2(entry.match(page).hasMatch(), qPrintable(option));
+        }
+    }
+}
+
+void tst_CliShellDocs::ManualPageIsSound_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("groff") << QStringList{QStringLiteral("groff"), QStringLiteral("-man"), QStringLiteral("-ww"),
+                                          QStringLiteral("-z"), Path("velkora-batch.1")};
+    QTest::newRow("man") << QStringList{QStringLiteral("man"), QStringLiteral("--warnings"), QStringLiteral("-l"),
+                                        QStringLiteral("-E"),  QStringLiteral("UTF-8"),      QStringLiteral("-Z"),
+                                        QStringLiteral("-T"),  Path("velkora-batch.1")};
+}
+
+void tst_CliShellDocs::ManualPageIsSound()
+{
+    QFETCH(QStringList, command);
+    const QString program = command.takeFirst();
+    if (!IsThere(qPrintable(program))) {
+        QSKIP(qPrintable(program + QStringLiteral(" is not installed.")));
+    }
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(program, command);
+    QVERIFY(process.waitForFinished(60'000));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+QTEST_GUILESS_MAIN(tst_CliShellDocs)
+#include "tst_clishelldocs.moc"
