@@ -71,8 +71,8 @@ public:
     BATCHCORE_EXPORT static void operator delete(void* memory, std::size_t size) noexcept;
 
     /// A node in memory of the caller's, as containers make them.
-    BATCHCORE_EXPORT static void* operator new(std::size_t, void* place) noexcept { return place; }
-    BATCHCORE_EXPORT static void operator delete(void*, void*) noexcept {}
+    BATCHCORE_EXPORT static void* operator new(std::size_t size, void* place) noexcept;
+    BATCHCORE_EXPORT static void operator delete(void* memory, void* place) noexcept;
 
     T data;                     ///< comes first: the address of a node is the address of its data
     TreeNode* parent = nullptr; ///< null for a root and for a node that belongs to nobody

@@ -54,6 +54,17 @@ void TreeNode<T>::operator delete(void* memory, std::size_t size) noexcept
 }
 
 template<typename T>
+void* TreeNode<T>::operator new(std::size_t, void* place) noexcept
+{
+    return place;
+}
+
+template<typename T>
+void TreeNode<T>::operator delete(void*, void*) noexcept
+{
+}
+
+template<typename T>
 TreeNode<T>::TreeNode() = default;
 
 template<typename T>
