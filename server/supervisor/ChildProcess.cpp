@@ -5,6 +5,8 @@
 #include <pthread.h>
 #include <sys/prctl.h>
 #include <unistd.h>
+#elif defined(Q_OS_WIN)
+#include <qt_windows.h>
 #endif
 
 // Where there is no such thing, a worker finds out by the end of its input.
@@ -44,9 +46,30 @@ void ChildProcess::setupChildProcess()
 
 #else
 
+#ifdef Q_OS_WIN
+namespace {
+
+/// Puts this process into a job, in which all that it starts are too. The job ends with its only handle: with this
+/// process, however that goes.
+bool BeginJob()
+{
+    const HANDLE job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    return job && SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits)) &&
+           AssignProcessToJobObject(job, GetCurrentProcess());
+}
+
+} // namespace
+#endif
+
 ChildProcess::ChildProcess(QObject* parent)
     : QProcess(parent)
 {
+#ifdef Q_OS_WIN
+    static const bool hasJob = BeginJob();
+    Q_UNUSED(hasJob)
+#endif
 }
 
 void ChildProcess::setupChildProcess() {}

@@ -22,6 +22,15 @@ QProcessEnvironment EnvironmentOfWorkers()
     return environment;
 }
 
+QString CrashText(int exitCode)
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("ended by exception 0x%1").arg(uint(exitCode), 8, 16, QLatin1Char('0'));
+#else
+    return QStringLiteral("ended by signal %1").arg(exitCode);
+#endif
+}
+
 } // namespace
 
 WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent)
@@ -157,8 +166,8 @@ void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)
     ReadReports();
     NoteErrors();
     clock.stop();
-    exitText = status == QProcess::CrashExit ? QStringLiteral("ended by signal %1").arg(exitCode)
-                                             : QStringLiteral("ended with exit code %1").arg(exitCode);
+    exitText =
+        status == QProcess::CrashExit ? CrashText(exitCode) : QStringLiteral("ended with exit code %1").arg(exitCode);
     if (!end) {
         const bool isOutOfMemory = status == QProcess::NormalExit && exitCode == workerOutOfMemory;
         end = !isReady ? WorkerEnd::FailedToStart : isOutOfMemory ? WorkerEnd::OutOfMemory : WorkerEnd::Died;

@@ -1,5 +1,8 @@
 #include "ProcessEnd.h"
 
+#include <QFile>
+#include <QString>
+
 #include <cstdlib>
 
 #ifdef Q_OS_WIN
@@ -25,18 +28,26 @@ namespace {
 
 namespace {
 
+template<typename Take>
+void ForEachProcess(const Take& take)
+{
+    const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    PROCESSENTRY32W entry{};
+    entry.dwSize = sizeof(entry);
+    for (BOOL found = Process32FirstW(processes, &entry); found; found = Process32NextW(processes, &entry)) {
+        take(entry);
+    }
+    CloseHandle(processes);
+}
+
 DWORD ParentId()
 {
     DWORD parent = 0;
-    const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
-    PROCESSENTRY32 entry{};
-    entry.dwSize = sizeof(entry);
-    for (BOOL found = Process32First(processes, &entry); found; found = Process32Next(processes, &entry)) {
+    ForEachProcess([&parent](const PROCESSENTRY32W& entry) {
         if (entry.th32ProcessID == GetCurrentProcessId()) {
             parent = entry.th32ParentProcessID;
         }
-    }
-    CloseHandle(processes);
+    });
     return parent;
 }
 
@@ -91,6 +102,19 @@ void KillProcess(qint64 pid)
     CloseHandle(process);
 }
 
+QList<qint64> ChildrenOf(qint64 pid)
+{
+    QList<qint64> children;
+    ForEachProcess([&](const PROCESSENTRY32W& entry) {
+        // The system's own process behind the console of another is no child of that one's making.
+        const bool isConsole = QString::fromWCharArray(entry.szExeFile) == QLatin1String("conhost.exe");
+        if (qint64(entry.th32ParentProcessID) == pid && !isConsole) {
+            children.append(entry.th32ProcessID);
+        }
+    });
+    return children;
+}
+
 #else
 
 void EndWithParent()
@@ -121,12 +145,37 @@ void EndAtOnce(int exitCode)
 
 bool IsProcessAlive(qint64 pid)
 {
+#ifdef Q_OS_LINUX
+    // One that has ended keeps its number until its parent asks for its end, which a new parent may do seconds later.
+    QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
+    const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return !status.isEmpty() && status.mid(status.lastIndexOf(')') + 2, 1) != "Z";
+#else
     return kill(static_cast<pid_t>(pid), 0) == 0 || errno != ESRCH;
+#endif
 }
 
 void KillProcess(qint64 pid)
 {
     kill(static_cast<pid_t>(pid), SIGKILL);
+}
+
+QList<qint64> ChildrenOf(qint64 pid)
+{
+    QList<qint64> ids;
+#ifdef Q_OS_LINUX
+    QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(pid));
+    if (children.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& child : children.readAll().simplified().split(' ')) {
+            if (!child.isEmpty()) {
+                ids.append(child.toLongLong());
+            }
+        }
+    }
+#else
+    Q_UNUSED(pid)
+#endif
+    return ids;
 }
 
 #endif

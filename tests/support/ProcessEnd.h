@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 /// Makes the system end this process together with the one that started it, where the system can do that.
 void EndWithParent();
@@ -16,3 +16,6 @@ void CrashQuietly();
 
 bool IsProcessAlive(qint64 pid);
 void KillProcess(qint64 pid);
+
+/// The living processes that `pid` has started itself; none where that is not to be had.
+QList<qint64> ChildrenOf(qint64 pid);

@@ -1,5 +1,6 @@
 #include "ServerRun.h"
 
+#include "ProcessEnd.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 
@@ -12,7 +13,11 @@
 #include <filesystem>
 #include <system_error>
 
-#ifdef Q_OS_UNIX
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+// After it.
+#include <psapi.h>
+#else
 #include <csignal>
 #include <sys/types.h>
 #endif
@@ -31,9 +36,14 @@ const QString suffix;
 
 void Place(const QString& from, const QString& to)
 {
+#ifndef Q_OS_WIN // It would not remove a link to an executable that runs.
     std::error_code error;
     std::filesystem::create_hard_link(from.toStdString(), to.toStdString(), error);
-    if (error && !QFile::copy(from, to)) {
+    if (!error) {
+        return;
+    }
+#endif
+    if (!QFile::copy(from, to)) {
         qFatal("%s cannot be copied", qPrintable(from));
     }
 }
@@ -125,21 +135,14 @@ bool ServerRun::Connect()
 
 bool ServerRun::KillServer()
 {
-    QList<qint64> children;
 #ifdef Q_OS_UNIX
     // It starts no further process while somebody counts them.
     ::kill(pid_t(server.processId()), SIGSTOP);
-    children = WorkerIds();
 #endif
+    const QList<qint64> children = WorkerIds();
     server.kill();
-    if (!server.waitForFinished(patience)) {
-        return false;
-    }
-#ifdef Q_OS_UNIX
-    return QTest::qWaitFor([&] { return std::all_of(children.begin(), children.end(), HasEnded); }, patience);
-#else
-    return true;
-#endif
+    return server.waitForFinished(patience) &&
+           QTest::qWaitFor([&] { return std::all_of(children.begin(), children.end(), HasEnded); }, patience);
 }
 
 QString ServerRun::Job(const QStringList& inputs, const std::function<void(ZTBatchDocument&)>& change) const
@@ -207,39 +210,24 @@ QString ServerRun::Report() const
 
 bool ServerRun::HasEnded(qint64 process)
 {
-#ifdef Q_OS_LINUX
-    // One that has ended keeps its number until its new parent asks for its end, which may take seconds.
-    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return true;
-    }
-    const QByteArray status = file.readAll();
-    return status.isEmpty() || status.mid(status.lastIndexOf(')') + 2, 1) == "Z";
-#else
-    Q_UNUSED(process)
-    return true;
-#endif
+    return !IsProcessAlive(process);
 }
 
 QList<qint64> ServerRun::WorkerIds() const
 {
-    QList<qint64> ids;
-#ifdef Q_OS_LINUX
-    const QString id = QString::number(server.processId());
-    QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(id));
-    if (children.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& child : children.readAll().simplified().split(' ')) {
-            if (!child.isEmpty()) {
-                ids.append(child.toLongLong());
-            }
-        }
-    }
-#endif
-    return ids;
+    return server.state() == QProcess::NotRunning ? QList<qint64>() : ChildrenOf(server.processId());
 }
 
 qint64 ServerRun::PeakMemory() const
 {
+#ifdef Q_OS_WIN
+    const HANDLE process =
+        OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION | PROCESS_VM_READ, FALSE, DWORD(server.processId()));
+    PROCESS_MEMORY_COUNTERS counters = {};
+    const bool isKnown = process && GetProcessMemoryInfo(process, &counters, sizeof(counters));
+    CloseHandle(process);
+    return isKnown ? qint64(counters.PeakWorkingSetSize) : 0;
+#else
     QFile status(QStringLiteral("/proc/%1/status").arg(server.processId()));
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
@@ -250,6 +238,7 @@ qint64 ServerRun::PeakMemory() const
         }
     }
     return 0;
+#endif
 }
 
 QString ServerRun::Short(const QString& path) const

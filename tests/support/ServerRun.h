@@ -97,7 +97,7 @@ public:
     /// The process ids of the workers.
     QList<qint64> WorkerIds() const;
 
-    /// Whether a process has ended; always true where that is not to be had.
+    /// Whether a process has ended.
     static bool HasEnded(qint64 process);
 
     /// The most memory that the server ever had, in bytes; 0 where that is not to be had.

@@ -26,6 +26,14 @@
 #include <cstdlib>
 #include <vector>
 
+#ifdef Q_OS_WIN
+#include <fcntl.h>
+#include <io.h>
+#include <qt_windows.h>
+#else
+#include <unistd.h>
+#endif
+
 using namespace BatchServer;
 
 namespace {
@@ -56,6 +64,33 @@ Report Failure(Case kind, int code, const QString& nearest = {})
     for (;;) {
         QThread::sleep(1);
     }
+}
+
+/// Until somebody outside lets the process go on.
+void Stop()
+{
+#ifdef Q_OS_WIN
+    SuspendThread(GetCurrentThread());
+#else
+    std::raise(SIGSTOP);
+#endif
+}
+
+/// What is read and written are bytes, not lines of text.
+void PrepareStreams()
+{
+#ifdef Q_OS_WIN
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
+}
+
+/// What has come on standard input, as soon as something has; not more than 0 at its end. QFile would wait for as much
+/// as there is room on Windows.
+int ReadInput(char* buffer, unsigned size)
+{
+    constexpr int standardInput = 0;
+    return int(::read(standardInput, buffer, size));
 }
 
 [[noreturn]] void EatMemory()
@@ -103,10 +138,8 @@ void Misbehave(const QByteArray& command, const PictureTask& task)
         Crash();
     } else if (command == "hang") {
         SleepForEver();
-#ifdef Q_OS_UNIX
     } else if (command == "stop") {
-        std::raise(SIGSTOP);
-#endif
+        Stop();
     } else if (command == "eat") {
         EatMemory();
     }
@@ -217,6 +250,7 @@ void Handle(const ToWorker& message)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    PrepareStreams();
     if (IsTold("start.script")) {
         std::fprintf(stderr, "told to end\n");
         return 4;
@@ -225,14 +259,10 @@ int main(int argc, char** argv)
     ready.number = workerIsReady;
     Say(FrameFromWorker(ready));
 
-    QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return 1;
-    }
     FrameReader reader;
     char buffer[65536];
-    for (qint64 count = input.read(buffer, sizeof(buffer)); count > 0; count = input.read(buffer, sizeof(buffer))) {
-        reader.Append(QByteArray(buffer, int(count)));
+    for (int count = ReadInput(buffer, sizeof(buffer)); count > 0; count = ReadInput(buffer, sizeof(buffer))) {
+        reader.Append(QByteArray(buffer, count));
         for (auto message = reader.NextToWorker(); message; message = reader.NextToWorker()) {
             Handle(*message);
         }

@@ -1,4 +1,5 @@
 #include "CliRun.h"
+#include "ProcessEnd.h"
 #include "TestPictures.h"
 
 #include <QDir>
@@ -28,21 +29,6 @@ Files FilesBelow(const QString& folder)
         }
     }
     return files;
-}
-
-/// The processes that `pid` has started.
-QVector<qint64> ChildrenOf(qint64 pid)
-{
-    QFile file(QStringLiteral("/proc/%1/task/%1/children").arg(pid));
-    QVector<qint64> children;
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& child : file.readAll().split(' ')) {
-            if (child.trimmed().toLongLong() > 0) {
-                children.append(child.trimmed().toLongLong());
-            }
-        }
-    }
-    return children;
 }
 
 } // namespace
@@ -211,7 +197,7 @@ void tst_CliResume::KilledServer()
         QVERIFY2(process.waitForReadyRead(60'000), out.constData());
         out += process.readAllStandardOutput();
     }
-    const QVector<qint64> servers = ChildrenOf(process.processId());
+    const QList<qint64> servers = ChildrenOf(process.processId());
     QCOMPARE(servers.size(), 1);
     QCOMPARE(kill(pid_t(servers.first()), SIGKILL), 0);
     QVERIFY(process.waitForFinished(120'000));
@@ -236,7 +222,7 @@ void tst_CliResume::ServerThatDiesOverAPicture()
             QVERIFY2(process.waitForReadyRead(60'000), out.constData());
             out += process.readAllStandardOutput();
         }
-        const QVector<qint64> servers = ChildrenOf(process.processId());
+        const QList<qint64> servers = ChildrenOf(process.processId());
         QCOMPARE(servers.size(), 1);
         QCOMPARE(kill(pid_t(servers.first()), SIGKILL), 0);
     }

@@ -412,10 +412,12 @@ void tst_ServerProtocol::wrongArguments()
         QCOMPARE(server.exitCode(), 2);
         QVERIFY(server.readAllStandardError().startsWith("Usage: VelkoraBatchProcessing PIPE"));
     }
+#ifdef Q_OS_UNIX // Pipes have no folders elsewhere: every name will do.
     QProcess server;
     server.start(program, {run.Path(QStringLiteral("no such folder/pipe"))});
     QVERIFY(server.waitForFinished());
     QCOMPARE(server.exitCode(), 1);
+#endif
 }
 
 void tst_ServerProtocol::missingWorker_data()

@@ -97,6 +97,9 @@ void tst_ServerRun::messagesOfARun()
 
 void tst_ServerRun::realPictures()
 {
+    if (!HAS_REAL_WORKER) {
+        QSKIP("The picture worker is not built.");
+    }
     ServerRun run(ServerRun::Worker::Real);
     QImage picture(64, 48, QImage::Format_RGB32);
     picture.fill(Qt::darkGreen);
@@ -617,6 +620,9 @@ void tst_ServerRun::cancelled()
 
 void tst_ServerRun::samePicturesForAnyNumberOfWorkers()
 {
+    if (!HAS_REAL_WORKER) {
+        QSKIP("The picture worker is not built.");
+    }
     QMap<QString, QByteArray> results[2];
     for (int i = 0; i < 2; ++i) {
         ServerRun run(ServerRun::Worker::Real);
