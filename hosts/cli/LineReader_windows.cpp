@@ -2,11 +2,36 @@
 
 #include <QPointer>
 
-#include <iostream>
-#include <string>
+#include <array>
+#include <qt_windows.h>
 #include <thread>
 
 namespace BatchCli {
+
+namespace {
+
+enum class Outcome { Line, End, Interrupt };
+
+Outcome ReadLine(QString& line)
+{
+    std::array<wchar_t, 1024> text{};
+    DWORD count = 0;
+    SetLastError(ERROR_SUCCESS);
+    if (!ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), text.data(), DWORD(text.size()), &count, nullptr)) {
+        return Outcome::End;
+    }
+    if (count == 0) {
+        return GetLastError() == ERROR_OPERATION_ABORTED ? Outcome::Interrupt : Outcome::End;
+    }
+    constexpr wchar_t controlZ = 0x1A; // The end, as one types it there.
+    if (text[0] == controlZ) {
+        return Outcome::End;
+    }
+    line = QString::fromWCharArray(text.data(), int(count)).trimmed();
+    return Outcome::Line;
+}
+
+} // namespace
 
 class LineReader::Private
 {
@@ -24,11 +49,14 @@ void LineReader::Ask()
 {
     // A console cannot be watched. The thread ends with its line, or with the process.
     std::thread([reader = QPointer<LineReader>(this)] {
-        std::string line;
-        const bool isRead = bool(std::getline(std::cin, line));
-        QMetaObject::invokeMethod(reader.data(), [reader, isRead, line] {
-            if (reader && isRead) {
-                Q_EMIT reader->Line(QString::fromLocal8Bit(line.c_str()).trimmed());
+        QString line;
+        const Outcome outcome = ReadLine(line);
+        if (outcome == Outcome::Interrupt) {
+            return; // InterruptWatcher tells of it.
+        }
+        QMetaObject::invokeMethod(reader.data(), [reader, outcome, line] {
+            if (reader && outcome == Outcome::Line) {
+                Q_EMIT reader->Line(line);
             } else if (reader) {
                 Q_EMIT reader->Ended();
             }

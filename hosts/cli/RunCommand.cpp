@@ -25,6 +25,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocalSocket>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -121,6 +122,16 @@ Journal ResumedJournal(ZTBatchDocument& job, bool isThisJob)
     journal.document = state->document;
     journal.policies = state->policies;
     return journal;
+}
+
+/// The pipe lies in the run's own temporary folder, but on Windows there is one for the whole machine. A second server
+/// would not begin, and its host would speak with the first one's.
+bool IsPipeTaken()
+{
+    constexpr int answerTime = 1000;
+    QLocalSocket socket;
+    socket.connectToServer(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    return socket.waitForConnected(answerTime);
 }
 
 /// Where nobody can be asked, asking becomes skipping, and that is said.
@@ -261,6 +272,11 @@ ExitCode RunJob(const ParsedArguments& arguments)
     }
 
     const PrivateTempFolder temporary;
+    if (IsPipeTaken()) {
+        WriteError(QStringLiteral("velkora-batch: another batch server is at work, and the system has one pipe for it; "
+                                  "try again when that run is over.\n"));
+        return ExitCode::ServerLost;
+    }
     RunEnd end;
     {
         const ManagerInstance manager(SettingsFolder(arguments));

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
+#include <qt_windows.h>
 
 namespace BatchCli {
 

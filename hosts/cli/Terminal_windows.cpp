@@ -1,18 +1,52 @@
 #include "Console.h"
 
-#include <io.h>
-#include <windows.h>
+#include <qt_windows.h>
 
 namespace BatchCli {
 
+namespace {
+
+/// The console at standard error. For as long as this process lives it understands the sequences that terminals do;
+/// one that cannot learn them counts as none.
+class ErrorConsole
+{
+public:
+    ErrorConsole()
+        : console(GetStdHandle(STD_ERROR_HANDLE))
+    {
+        constexpr DWORD wanted = ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING;
+        isThere = GetConsoleMode(console, &before) && SetConsoleMode(console, before | wanted);
+    }
+
+    ~ErrorConsole()
+    {
+        if (isThere) {
+            SetConsoleMode(console, before);
+        }
+    }
+
+    bool IsThere() const { return isThere; }
+
+private:
+    Q_DISABLE_COPY(ErrorConsole)
+
+    const HANDLE console;
+    DWORD before = 0;
+    bool isThere = false;
+};
+
+} // namespace
+
 bool Terminal::IsInputTerminal()
 {
-    return _isatty(0) != 0;
+    DWORD mode = 0;
+    return GetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), &mode);
 }
 
 bool Terminal::IsErrorTerminal()
 {
-    return _isatty(2) != 0;
+    static const ErrorConsole console;
+    return console.IsThere();
 }
 
 int Terminal::Columns()

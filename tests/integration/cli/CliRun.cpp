@@ -2,13 +2,14 @@
 
 #include <QProcess>
 
-CliRun CliRun::Of(const QStringList& arguments, const QString& folder, const QProcessEnvironment& environment)
+CliRun CliRun::OfProgram(const QString& program, const QStringList& arguments, const QString& folder,
+                         const QProcessEnvironment& environment)
 {
     constexpr int limit = 120'000;
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
-    process.start(QStringLiteral(VELKORA_BATCH), arguments);
+    process.start(program, arguments);
     process.closeWriteChannel();
     CliRun run;
     if (process.waitForFinished(limit) && process.exitStatus() == QProcess::NormalExit) {
@@ -17,4 +18,9 @@ CliRun CliRun::Of(const QStringList& arguments, const QString& folder, const QPr
     run.out = process.readAllStandardOutput();
     run.err = process.readAllStandardError();
     return run;
+}
+
+CliRun CliRun::Of(const QStringList& arguments, const QString& folder, const QProcessEnvironment& environment)
+{
+    return OfProgram(QStringLiteral(VELKORA_BATCH), arguments, folder, environment);
 }

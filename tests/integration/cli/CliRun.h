@@ -14,6 +14,9 @@ struct CliRun
 
     QString Err() const { return QString::fromUtf8(err); }
 
+    static CliRun OfProgram(const QString& program, const QStringList& arguments, const QString& folder,
+                            const QProcessEnvironment& environment);
+
     static CliRun Of(const QStringList& arguments, const QString& folder = QString(),
                      const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
 };

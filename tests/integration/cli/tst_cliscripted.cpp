@@ -1,0 +1,208 @@
+#include "CliStage.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QUrl>
+#include <QtTest>
+
+/// The command against a server that says what the test wants, whatever there is to do.
+class tst_CliScripted : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void ResultsAreTold();
+    void QuietSaysProblemsOnly();
+    void EventsAreJson();
+    void ReportsListEveryInput();
+    void RefusedJobs();
+    void QuestionsWithoutATerminal();
+    void ServersThatEnd_data();
+    void ServersThatEnd();
+    void NoServer();
+    void SecondRunAtATime();
+
+private:
+    QString Field(const QString& name) const { return QStringLiteral("s:") + Encoded(stage->Path(name)); }
+    static QString Encoded(const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
+    void PlayThreeResults() const;
+
+    std::unique_ptr<CliStage> stage;
+};
+
+void tst_CliScripted::init()
+{
+    stage = std::make_unique<CliStage>(CliStage::Server::Scripted);
+    for (const char* name : {"photos/1.jpg", "photos/2.jpg", "photos/3.jpg"}) {
+        stage->Write(QString::fromLatin1(name), "a picture");
+    }
+}
+
+/// The first is written, the second cannot be read, the name of the third is taken.
+void tst_CliScripted::PlayThreeResults() const
+{
+    const QString first = Field(QStringLiteral("photos/1.jpg"));
+    const QString second = Field(QStringLiteral("photos/2.jpg"));
+    const QString third = Field(QStringLiteral("photos/3.jpg"));
+    const QString reason = QStringLiteral("s:") + Encoded(stage->Path(QStringLiteral("photos/2.jpg")) +
+                                                          QStringLiteral(": it ends early; skipped (input policy)"));
+    const QStringList actions{
+        QStringLiteral("send 11 id i:0 i:3"),
+        QStringLiteral("send 8 id ") + first,
+        QStringLiteral("send 9 id %1 %2").arg(first, Field(QStringLiteral("out/1.jpg"))),
+        QStringLiteral("send 7 id i:1"),
+        QStringLiteral("send 8 id ") + second,
+        QStringLiteral("send 10 id ") + reason,
+        QStringLiteral("send 15 id %1 %2 i:1 i:2").arg(second, Field(QStringLiteral("out/2.jpg"))),
+        QStringLiteral("send 7 id i:2"),
+        QStringLiteral("send 8 id ") + third,
+        QStringLiteral("send 15 id %1 %2 i:1 i:11").arg(third, Field(QStringLiteral("out/3.jpg"))),
+        QStringLiteral("send 7 id i:3"),
+        QStringLiteral("send 6 id"),
+    };
+    stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))});
+}
+
+void tst_CliScripted::ResultsAreTold()
+{
+    PlayThreeResults();
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QVERIFY(run.out.isEmpty());
+    const QString written =
+        QStringLiteral("[1/3] %1 -> %2\n")
+            .arg(stage->Path(QStringLiteral("photos/1.jpg")), stage->Path(QStringLiteral("out/1.jpg")));
+    QVERIFY2(run.Err().contains(written), run.err.constData());
+    QVERIFY2(run.err.contains("failed " + stage->Path(QStringLiteral("photos/2.jpg")).toUtf8() + ": it ends early\n"),
+             run.err.constData());
+    QVERIFY2(run.err.contains("skipped " + stage->Path(QStringLiteral("photos/3.jpg")).toUtf8() + ": "),
+             run.err.constData());
+    QVERIFY2(run.err.contains("Written             1  to ") && run.err.contains("Skipped             1  ") &&
+                 run.err.contains("Failed              1  "),
+             run.err.constData());
+    // Neither the moving line nor colours where nobody looks on.
+    QVERIFY2(!run.err.contains('\r') && !run.err.contains('\033'), run.err.constData());
+    // A run that is over leaves no journal.
+    QCOMPARE(stage->Names(QStringLiteral("out")), QStringList());
+}
+
+void tst_CliScripted::QuietSaysProblemsOnly()
+{
+    PlayThreeResults();
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out -q"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.err.startsWith("failed ") && run.err.count('\n') == 2, run.err.constData());
+}
+
+void tst_CliScripted::EventsAreJson()
+{
+    PlayThreeResults();
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --json -q"));
+    QCOMPARE(run.exitCode, 1);
+    QStringList names;
+    QJsonObject end;
+    for (const QByteArray& line : run.out.trimmed().split('\n')) {
+        end = QJsonDocument::fromJson(line).object();
+        if (end.value(QStringLiteral("event")) != QLatin1String("log")) {
+            names.append(end.value(QStringLiteral("event")).toString());
+        }
+    }
+    QCOMPARE(names.join(QLatin1Char(' ')), QStringLiteral("start begin written begin failed begin skipped end"));
+    QCOMPARE(end.value(QStringLiteral("written")).toInt(), 1);
+    QCOMPARE(end.value(QStringLiteral("failed")).toInt(), 1);
+    QCOMPARE(end.value(QStringLiteral("skipped")).toInt(), 1);
+    QCOMPARE(end.value(QStringLiteral("notProcessed")).toInt(), 0);
+}
+
+void tst_CliScripted::ReportsListEveryInput()
+{
+    PlayThreeResults();
+    QCOMPARE(stage->Run(QStringLiteral("run photos -o out -q --report r.csv")).exitCode, 1);
+    const QList<QByteArray> lines = stage->Content(QStringLiteral("r.csv")).split('\n');
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines[0], QByteArray("input,output,result,code,reason\r"));
+    QVERIFY2(lines[1].endsWith("/out/1.jpg\",\"written\",0,\"\"\r"), lines[1].constData());
+    QVERIFY2(lines[2].endsWith("/out/2.jpg\",\"failed\",2,\"it ends early\"\r"), lines[2].constData());
+    QVERIFY2(lines[3].contains("/out/3.jpg\",\"skipped\",11,\""), lines[3].constData());
+}
+
+void tst_CliScripted::RefusedJobs()
+{
+    const QString reason = Encoded(QStringLiteral("The job is refused: Effect 1 is unheard of"));
+    stage->Play({QStringLiteral("start: open"),
+                 QStringLiteral("5: send 10 id s:%1; send 15 id s: s: i:2 i:8; send 6 id").arg(reason)});
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.contains("velkora-batch: Effect 1 is unheard of\n"), run.err.constData());
+}
+
+void tst_CliScripted::QuestionsWithoutATerminal()
+{
+    PlayThreeResults();
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --on-input-error stop"));
+    QVERIFY2(run.err.contains("nobody can be asked"), run.err.constData());
+    QVERIFY2(run.err.contains("--on-name-exists") && !run.err.contains("--on-input-error"), run.err.constData());
+}
+
+void tst_CliScripted::ServersThatEnd_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::newRow("crash") << QStringLiteral("crash");
+    QTest::newRow("abort") << QStringLiteral("abort");
+    QTest::newRow("exit code") << QStringLiteral("exit 7");
+    QTest::newRow("exit code 0") << QStringLiteral("exit 0");
+}
+
+void tst_CliScripted::ServersThatEnd()
+{
+    QFETCH(QString, end);
+    stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + end});
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.err.contains("velkora-batch: the server ended unexpectedly.\n"), run.err.constData());
+    QVERIFY2(run.err.contains("Not processed       3\n"), run.err.constData());
+    // It can be taken up.
+    QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).size(), 1);
+}
+
+void tst_CliScripted::NoServer()
+{
+    stage = std::make_unique<CliStage>(CliStage::Server::Missing);
+    stage->Write(QStringLiteral("photos/1.jpg"), "a picture");
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.err.contains("no server works; VelkoraBatchProcessing belongs beside "), run.err.constData());
+}
+
+void tst_CliScripted::SecondRunAtATime()
+{
+    stage->Play(
+        {QStringLiteral("start: open"), QStringLiteral("5: send 8 id ") + Field(QStringLiteral("photos/1.jpg"))});
+    QProcess first;
+    first.setProcessEnvironment(stage->Environment());
+    first.setWorkingDirectory(stage->Folder());
+    first.start(stage->Program(), stage->Arguments(QStringLiteral("run photos -o out --json")));
+    QByteArray events;
+    while (!events.contains("\"begin\"")) {
+        QVERIFY2(first.waitForReadyRead(60'000), events.constData());
+        events += first.readAllStandardOutput();
+    }
+    PlayThreeResults();
+    const CliRun second = stage->Run(QStringLiteral("run photos -o elsewhere"));
+#ifdef Q_OS_WIN
+    QCOMPARE(second.exitCode, 3);
+    QVERIFY2(second.err.contains("another batch server is at work"), second.err.constData());
+#else
+    QVERIFY2(second.exitCode == 1, second.err.constData());
+    QVERIFY2(second.err.contains("[1/3] "), second.err.constData());
+#endif
+    QCOMPARE(first.state(), QProcess::Running);
+    first.kill();
+    QVERIFY(first.waitForFinished());
+}
+
+QTEST_GUILESS_MAIN(tst_CliScripted)
+#include "tst_cliscripted.moc"

@@ -1,0 +1,221 @@
+#include "CliStage.h"
+#include "ProcessEnd.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QtTest>
+
+/// Whole runs of the command with the real server, whose workers copy files instead of making pictures.
+class tst_CliStandIn : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void FilesAreWritten();
+    void SavedJobsAreRun();
+    void BrokenWorkersCostOneFile();
+    void NamesThatAreTaken_data();
+    void NamesThatAreTaken();
+    void PlanTellsWhatRunDoes_data();
+    void PlanTellsWhatRunDoes();
+    void PlanMarksTrouble();
+    void KilledRunsGoOn();
+    void KilledServersAreReplaced();
+
+private:
+    void Start(QProcess& process, const QString& arguments) const;
+    bool WaitForOutput(QProcess& process, const QByteArray& text, int count = 1);
+
+    std::unique_ptr<CliStage> stage;
+    QByteArray output;
+};
+
+void tst_CliStandIn::init()
+{
+    stage = std::make_unique<CliStage>(CliStage::Server::StandIn);
+    output.clear();
+    for (const char* name : {"1", "2", "3"}) {
+        stage->Write(QStringLiteral("photos/%1.jpg").arg(QLatin1String(name)), name);
+    }
+}
+
+void tst_CliStandIn::Start(QProcess& process, const QString& arguments) const
+{
+    process.setProcessEnvironment(stage->Environment());
+    process.setWorkingDirectory(stage->Folder());
+    process.start(stage->Program(), stage->Arguments(arguments));
+}
+
+bool tst_CliStandIn::WaitForOutput(QProcess& process, const QByteArray& text, int count)
+{
+    constexpr int patience = 60'000;
+    while (output.count(text) < count) {
+        if (!process.waitForReadyRead(patience)) {
+            return false;
+        }
+        output += process.readAllStandardOutput();
+    }
+    return true;
+}
+
+void tst_CliStandIn::FilesAreWritten()
+{
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --suffix number --format png"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")),
+             QStringList({QStringLiteral("1001.png"), QStringLiteral("2002.png"), QStringLiteral("3003.png")}));
+    QCOMPARE(stage->Content(QStringLiteral("out/2002.png")), QByteArray("2"));
+    QVERIFY2(run.err.contains("[3/3] ") && run.err.contains("Written             3"), run.err.constData());
+}
+
+void tst_CliStandIn::SavedJobsAreRun()
+{
+    QCOMPARE(stage->Run(QStringLiteral("create job.xml photos -o other --format png")).exitCode, 0);
+    const CliRun run = stage->Run(QStringLiteral("run job.xml -o out"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")).size(), 3);
+    QVERIFY(!QFileInfo::exists(stage->Path(QStringLiteral("other"))));
+}
+
+void tst_CliStandIn::BrokenWorkersCostOneFile()
+{
+    const QString bad = stage->Write(QStringLiteral("photos/2.jpg"), "crash");
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --format png"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.err.contains("failed " + bad.toUtf8() + ": "), run.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("3.png")}));
+}
+
+void tst_CliStandIn::NamesThatAreTaken_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("results");
+    QTest::addColumn<QByteArray>("content");
+    const QStringList same{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")};
+    const QStringList renamed{QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
+                              QStringLiteral("3.jpg")};
+    QTest::newRow("skip") << QStringLiteral("skip") << 1 << same << QByteArray("old");
+    QTest::newRow("overwrite") << QStringLiteral("overwrite") << 0 << same << QByteArray("1");
+    QTest::newRow("rename") << QStringLiteral("rename") << 0 << renamed << QByteArray("old");
+}
+
+void tst_CliStandIn::NamesThatAreTaken()
+{
+    QFETCH(QString, word);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, results);
+    QFETCH(QByteArray, content);
+    stage->Write(QStringLiteral("out/1.jpg"), "old");
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --format jpeg --on-name-exists ") + word);
+    QVERIFY2(run.exitCode == exitCode, run.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")), results);
+    QCOMPARE(stage->Content(QStringLiteral("out/1.jpg")), content);
+}
+
+void tst_CliStandIn::PlanTellsWhatRunDoes_data()
+{
+    QTest::addColumn<QString>("options");
+    for (const char* options : {"--structure input", "--name text:x --suffix number:9:2",
+                                "--structure date --name date --on-name-exists rename"}) {
+        QTest::newRow(options) << QString::fromLatin1(options);
+    }
+}
+
+void tst_CliStandIn::PlanTellsWhatRunDoes()
+{
+    QFETCH(QString, options);
+    const QString arguments = QStringLiteral(" photos -o out --format png --json -q ") + options;
+    const CliRun plan = stage->Run(QStringLiteral("plan") + arguments);
+    QVERIFY(!QFileInfo::exists(stage->Path(QStringLiteral("out"))));
+    QMap<QString, QString> planned;
+    for (const QByteArray& line : plan.out.trimmed().split('\n')) {
+        const QJsonObject pair = QJsonDocument::fromJson(line).object();
+        planned.insert(pair.value(QStringLiteral("input")).toString(), pair.value(QStringLiteral("output")).toString());
+    }
+    QVERIFY2(planned.size() == 3, plan.err.constData());
+    const CliRun run = stage->Run(QStringLiteral("run") + arguments);
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QMap<QString, QString> written;
+    for (const QByteArray& line : run.out.trimmed().split('\n')) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event.value(QStringLiteral("event")) == QLatin1String("written")) {
+            const QString result = event.value(QStringLiteral("output")).toString();
+            QVERIFY2(QFileInfo::exists(result), qPrintable(result));
+            written.insert(event.value(QStringLiteral("input")).toString(), result);
+        }
+    }
+    QCOMPARE(written, planned);
+}
+
+void tst_CliStandIn::PlanMarksTrouble()
+{
+    stage->Write(QStringLiteral("more/1.jpg"), "1");
+    stage->Write(QStringLiteral("out/3.jpg"), "3");
+    const CliRun plan = stage->Run(QStringLiteral("plan photos more -o out --format jpeg --on-name-exists skip"));
+    QCOMPARE(plan.exitCode, 1);
+    QVERIFY2(plan.out.contains("[skip: " + stage->Path(QStringLiteral("out/1.jpg")).toUtf8() + " is the result of "),
+             plan.out.constData());
+    QVERIFY2(plan.out.contains("[skip: " + stage->Path(QStringLiteral("out/3.jpg")).toUtf8() + " exists already]"),
+             plan.out.constData());
+    QCOMPARE(plan.out.count('['), 2);
+    const CliRun source = stage->Run(QStringLiteral("plan photos -o photos --format jpeg"));
+    QVERIFY2(source.out.count("is a source of this job]") == 3, source.out.constData());
+}
+
+void tst_CliStandIn::KilledRunsGoOn()
+{
+    const QString gate = stage->Path(QStringLiteral("gate"));
+    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
+    stage->Write(QStringLiteral("out/3.png"), "old");
+    QProcess process;
+    Start(process, QStringLiteral("run photos -o out --format png --on-name-exists rename --workers 1 --json"));
+    QVERIFY2(WaitForOutput(process, "\"written\""), output.constData());
+    QVERIFY2(WaitForOutput(process, "\"begin\"", 2), output.constData());
+    const QList<qint64> servers = ChildrenOf(process.processId());
+    process.kill();
+    QVERIFY(process.waitForFinished());
+    stage->Write(QStringLiteral("gate"), {});
+    // The server ends when its host has gone.
+    QCOMPARE(servers.size(), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(!IsProcessAlive(servers.first()), 60'000);
+    const CliRun rest = stage->Run(QStringLiteral("run --resume -o out"));
+    QVERIFY2(rest.exitCode == 0, rest.err.constData());
+    QVERIFY2(rest.err.contains("[3/3] ") && !rest.err.contains("[1/3] "), rest.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"),
+                                                               QStringLiteral("3 (2).png"), QStringLiteral("3.png")}));
+    QCOMPARE(stage->Content(QStringLiteral("out/3.png")), QByteArray("old"));
+}
+
+void tst_CliStandIn::KilledServersAreReplaced()
+{
+    const QString gate = stage->Path(QStringLiteral("gate"));
+    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
+    QProcess process;
+    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
+    QVERIFY2(WaitForOutput(process, "\"begin\"", 2), output.constData());
+    const QList<qint64> servers = ChildrenOf(process.processId());
+    QCOMPARE(servers.size(), 1);
+    const QList<qint64> workers = ChildrenOf(servers.first());
+    QCOMPARE(workers.size(), 1);
+    KillProcess(servers.first());
+    // A worker does not outlive its server.
+    QTRY_VERIFY_WITH_TIMEOUT(!IsProcessAlive(workers.first()), 60'000);
+    stage->Write(QStringLiteral("gate"), {});
+    QVERIFY(process.waitForFinished(120'000));
+    output += process.readAllStandardOutput();
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(process.exitCode() == 0, errors.constData());
+    QVERIFY2(errors.contains("the server ended unexpectedly while it worked on ") &&
+                 errors.contains("2.jpg; a new one goes on.\n"),
+             errors.constData());
+    QCOMPARE(output.count("\"written\""), 3 + 1); // The end counts them.
+    QCOMPARE(stage->Names(QStringLiteral("out")),
+             QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
+}
+
+QTEST_GUILESS_MAIN(tst_CliStandIn)
+#include "tst_clistandin.moc"
