@@ -273,6 +273,7 @@ MadePicture MakePicture(const JobSettings& job, const PictureTask& task)
     if (!format) {
         throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), QStringLiteral("JPEG"));
     }
+    BeginMemoryAccount();
     return PictureRun(job, task, *format).Make();
 }
 

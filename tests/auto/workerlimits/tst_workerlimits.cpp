@@ -14,6 +14,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+Q_DECLARE_METATYPE(ZTBatchOutputSettings::Transformation)
+
 using namespace BatchServer;
 
 namespace {
@@ -78,6 +80,7 @@ private Q_SLOTS:
     void boundsItsMemory();
     void staysSmall_data();
     void staysSmall();
+    void keepsNoNamedFilesForItself();
     void givesUpRights();
     void endsWithItsSupervisor();
     void marksItsTemporaryFiles();
@@ -147,21 +150,59 @@ void WorkerLimitsTest::boundsItsMemory()
 
 void WorkerLimitsTest::staysSmall_data()
 {
-    QTest::addColumn<bool>("hasEffect");
+    using Framing = ZTBatchOutputSettings::Transformation;
+    QTest::addColumn<QStringList>("effects"); // each with its parameters
     QTest::addColumn<int>("orientation");
-    QTest::addColumn<bool>("isSmaller");
-    QTest::newRow("as it is") << false << 1 << false;
-    QTest::newRow("turned") << false << 6 << false;
-    QTest::newRow("smaller") << false << 1 << true;
-    QTest::newRow("with an effect") << true << 1 << false;
-    QTest::newRow("with an effect, smaller and turned") << true << 6 << true;
+    QTest::addColumn<int>("longSide"); // 0: as it is
+    QTest::addColumn<Framing>("framing");
+    Framing none;
+    none.state = false;
+    const QStringList sharp{Text("sharpen {}")};
+    QTest::newRow("as it is") << QStringList() << 1 << 0 << none;
+    QTest::newRow("turned") << QStringList() << 6 << 0 << none;
+    QTest::newRow("smaller") << QStringList() << 1 << 1600 << none;
+    QTest::newRow("with an effect") << sharp << 1 << 0 << none;
+    QTest::newRow("with an effect, smaller and turned") << sharp << 6 << 1600 << none;
+
+    // These read the picture in another order than its file holds it, or twice.
+    QTest::newRow("mirrored upside down") << QStringList{Text("flip {\"direction\":\"vertical\"}")} << 1 << 0 << none;
+    QTest::newRow("turned by an angle") << QStringList{Text("rotate {\"angle\":7}")} << 1 << 0 << none;
+    QTest::newRow("clarity") << QStringList{Text("clarity {}")} << 1 << 0 << none;
+    QTest::newRow("blurred widely") << QStringList{Text("blur {\"sigma\":40}")} << 1 << 0 << none;
+    QTest::newRow("all of them") << QStringList{Text("auto-levels {}"), Text("clarity {}"),
+                                                Text("rotate {\"angle\":7}"), Text("sharpen {\"sigma\":15}"),
+                                                Text("flip {\"direction\":\"both\"}")}
+                                 << 6 << 0 << none;
+    QTest::newRow("every effect that streams")
+        << QStringList{Text("exposure {\"stops\":0.5}"), Text("white-balance {\"temperature\":20}"),
+                       Text("vibrance {\"amount\":30}"), Text("vignette {}"), Text("blur {}")}
+        << 1 << 0 << none;
+
+    Framing framed;
+    framed.state = true;
+    framed.margins = QMargins(100, 100, 100, 100);
+    framed.opacity = 1;
+    framed.shadowEnabled = true;
+    framed.shadowOpacity = 0.6;
+    framed.shadowColor = Qt::black;
+    framed.shadowAngle = 135;
+    framed.shadowDistance = 30;
+    framed.shadowSize = 20;
+    framed.backgroundType = int(BatchValues::BackgroundType::Colour);
+    framed.backgroundColor = Qt::white;
+    framed.backgroundOpacity = 1;
+    QTest::newRow("framed with a shadow") << QStringList() << 1 << 0 << framed;
+    framed.angle = 5;
+    QTest::newRow("framed askew with a shadow") << QStringList() << 1 << 0 << framed;
+    QTest::newRow("framed askew, after effects") << QStringList{Text("clarity {}")} << 6 << 0 << framed;
 }
 
 void WorkerLimitsTest::staysSmall()
 {
-    QFETCH(const bool, hasEffect);
+    QFETCH(const QStringList, effects);
     QFETCH(const int, orientation);
-    QFETCH(const bool, isSmaller);
+    QFETCH(const int, longSide);
+    QFETCH(const ZTBatchOutputSettings::Transformation, framing);
     if (isSanitized) {
         QSKIP("sanitizers take memory of their own");
     }
@@ -170,14 +211,17 @@ void WorkerLimitsTest::staysSmall()
     Picture photo = Noise(1000, 1000).replicate(6, 4);
     photo.set(VIPS_META_ORIENTATION, orientation);
     WritePicture(photo, bench.Path(Text("in.jpg")));
-    const Job job = JobOf([hasEffect, isSmaller](ZTBatchDocument& document) {
+    const Job job = JobOf([&](ZTBatchDocument& document) {
         document.GetOutputSettings()->SetFormat(Text("JPEG"), {});
+        document.GetOutputSettings()->SetTransformationSettings(framing);
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = isSmaller ? int(BatchValues::SizeRestriction::Fit) : 0;
-        size.size = 1600;
+        size.restriction = longSide > 0 ? int(BatchValues::SizeRestriction::Fit) : 0;
+        size.side = int(BatchValues::SizeSide::LongSide);
+        size.size = longSide;
         document.GetOutputSettings()->SetImageSizeSettings(size);
-        if (hasEffect) {
-            document.GetStyle()->AppendEffect(Text("sharpen"), "{}", true);
+        for (const QString& effect : effects) {
+            const QString id = effect.section(QLatin1Char(' '), 0, 0);
+            document.GetStyle()->AppendEffect(id, effect.mid(id.size()).toUtf8(), true);
         }
     });
     QCOMPARE(bench.Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG"), job).reason, QString());
@@ -185,6 +229,46 @@ void WorkerLimitsTest::staysSmall()
     const int peak = StatusOf(bench.Worker().ProcessId(), "VmHWM").split(' ').first().toInt() / 1024;
     qInfo("24 megapixels: %d MiB at the peak", peak);
     QVERIFY2(peak > 0 && peak <= most, qPrintable(QStringLiteral("%1 MiB").arg(peak)));
+}
+
+/// What does not fit into memory goes to disk; a worker that is killed meanwhile must not leave it there.
+void WorkerLimitsTest::keepsNoNamedFilesForItself()
+{
+    if (isSanitized) {
+        QSKIP("under sanitizers this takes minutes");
+    }
+    const QTemporaryDir folder;
+    const QTemporaryDir own;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(Text("TMPDIR"), own.path());
+    WorkerProcess worker(environment);
+    QVERIFY(worker.IsReady());
+    WritePicture(Noise(1000, 1000).replicate(6, 4), folder.filePath(Text("in.jpg")));
+    worker.Send(JobOf([](ZTBatchDocument& document) {
+        document.GetOutputSettings()->SetFormat(Text("JPEG"), {});
+        document.GetStyle()->AppendEffect(Text("rotate"), "{\"angle\":7}", true);
+        document.GetStyle()->AppendEffect(Text("flip"), "{\"direction\":\"vertical\"}", true);
+    }));
+    PictureTask task;
+    task.number = 1;
+    task.inputFile = folder.filePath(Text("in.jpg"));
+    task.outputFile = folder.filePath(Text("out.jpg"));
+    task.format = Text("JPEG");
+    worker.Send(task);
+    const QDir files(QStringLiteral("/proc/%1/fd").arg(worker.ProcessId()));
+    const QString deleted = own.path() + QLatin1Char('/');
+    const auto hasFile = [&] {
+        const QFileInfoList links = files.entryInfoList(QDir::AllEntries | QDir::System);
+        return std::any_of(links.begin(), links.end(),
+                           [&](const QFileInfo& link) { return link.symLinkTarget().startsWith(deleted); });
+    };
+    QVERIFY(QTest::qWaitFor(hasFile, 60'000));
+    do {
+        QCOMPARE(QDir(own.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    } while (hasFile());
+    const std::optional<Report> report = worker.NextReport();
+    QVERIFY(report.has_value());
+    QCOMPARE(report->reason, QString());
 }
 
 void WorkerLimitsTest::givesUpRights()
