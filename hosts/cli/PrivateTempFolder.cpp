@@ -27,7 +27,6 @@ QString Template()
 PrivateTempFolder::PrivateTempFolder()
     : folder(Template())
 {
-    // Without a folder of its own the server cannot be reached, and the run ends with that.
     if (folder.isValid()) {
         qputenv("TMPDIR", QFile::encodeName(folder.path()));
     }

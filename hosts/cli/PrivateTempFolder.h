@@ -13,6 +13,9 @@ public:
     PrivateTempFolder();
     ~PrivateTempFolder();
 
+    /// Why there is no such folder; empty when there is one. Without it the server cannot be reached.
+    QString Error() const { return folder.isValid() ? QString() : folder.errorString(); }
+
     void Remove() { folder.remove(); }
 
 private:

@@ -80,7 +80,8 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode ReportUsageError(const QString& text)
 {
-    const QString end = text.endsWith(QLatin1Char('?')) ? QString() : QStringLiteral(".");
+    const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
+    const QString end = isWhole ? QString() : QStringLiteral(".");
     WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, end));
     return ExitCode::Usage;
 }

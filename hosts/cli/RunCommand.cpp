@@ -134,6 +134,20 @@ bool IsPipeTaken()
     return socket.waitForConnected(answerTime);
 }
 
+/// Only the settings can hold a value without meaning.
+void CheckPolicies(const PolicyValues& policies, const QString& settingsFolder)
+{
+    for (int i = 0; i < policyCount; ++i) {
+        const auto kind = PolicyKind(i);
+        const QString word = PolicyWord(kind, policies[std::size_t(i)]);
+        if (!PolicyWords(kind).contains(word)) {
+            throw UsageError{QStringLiteral("%1/BatchExceptionPolicy.ini holds the value %2, which means nothing; %3 "
+                                            "decides in its place")
+                                 .arg(settingsFolder, word, PolicyOption(kind))};
+        }
+    }
+}
+
 /// Where nobody can be asked, asking becomes skipping, and that is said.
 void ReplaceQuestions(PolicyValues& policies, bool isQuiet)
 {
@@ -246,6 +260,7 @@ ExitCode RunJob(const ParsedArguments& arguments)
     PolicyValues given{};
     ApplyPolicies(arguments, given); // What is wrong is said before folders are read.
     ApplyServerLimits(arguments);
+    const QString settingsFolder = SettingsFolder(arguments);
     std::unique_ptr<RunReport> report;
     if (arguments.Has(QStringLiteral("--report"))) {
         report = std::make_unique<RunReport>(arguments.Value(QStringLiteral("--report")));
@@ -272,16 +287,23 @@ ExitCode RunJob(const ParsedArguments& arguments)
     }
 
     const PrivateTempFolder temporary;
+    if (!temporary.Error().isEmpty()) {
+        WriteErrorLine(QStringLiteral("velkora-batch: no temporary folder can be made: %1. TMPDIR names another place.")
+                           .arg(temporary.Error()));
+        return ExitCode::ServerLost;
+    }
     if (IsPipeTaken()) {
-        WriteError(QStringLiteral("velkora-batch: another batch server is at work, and the system has one pipe for it; "
-                                  "try again when that run is over.\n"));
+        WriteErrorLine(
+            QStringLiteral("velkora-batch: another batch server is at work, and the system has one pipe for it; "
+                           "try again when that run is over."));
         return ExitCode::ServerLost;
     }
     RunEnd end;
     {
-        const ManagerInstance manager(SettingsFolder(arguments));
+        const ManagerInstance manager(settingsFolder);
         PolicyValues policies = isResumed ? journal.policies : PoliciesOfManager();
         ApplyPolicies(arguments, policies);
+        CheckPolicies(policies, settingsFolder);
         if (!Terminal::IsInputTerminal() || !Terminal::IsErrorTerminal()) {
             ReplaceQuestions(policies, isQuiet);
         }

@@ -3,6 +3,7 @@
 #include "UsageError.h"
 #include "ValueTexts.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <array>
@@ -77,8 +78,14 @@ void ApplyServerLimits(const ParsedArguments& arguments)
 QString SettingsFolder(const ParsedArguments& arguments)
 {
     const QString option = QStringLiteral("--settings");
-    return arguments.Has(option) ? AbsolutePath(arguments.Value(option))
-                                 : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    if (!arguments.Has(option)) {
+        return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    }
+    const QString folder = AbsolutePath(arguments.Value(option));
+    if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) {
+        throw UsageError{QStringLiteral("%1: %2 is no folder").arg(option, folder)};
+    }
+    return folder;
 }
 
 } // namespace BatchCli

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void WrongOptionsEndBeforeAnything();
     void RunsSideBySide();
     void NoServer();
+    void NoTemporaryFolder();
+    void SettingsWithoutMeaning();
     void NothingIsLeftBehind();
 #ifdef Q_OS_UNIX
     void NamesStayInTheirLine();
@@ -325,6 +327,7 @@ void tst_CliRun::WrongOptionsEndBeforeAnything_data()
     row("run photos -o out --report nowhere/r.csv", "nowhere/r.csv cannot be written");
     row("run photos -o out --effect blurr", "did you mean \"blur\"?");
     row("run photos -o out --resum", "unknown option --resum");
+    row("run photos -o out --settings photos/1.jpg", "photos/1.jpg is no folder");
     row("plan photos", "--output DIR says it");
     row("plan photos -o out --workers 2", "unknown option --workers");
 }
@@ -371,6 +374,34 @@ void tst_CliRun::NoServer()
     QCOMPARE(process.exitCode(), 3);
     const QByteArray err = process.readAllStandardError();
     QVERIFY2(err.contains("no server works; VelkoraBatchProcessing belongs beside "), err.constData());
+}
+
+void tst_CliRun::NoTemporaryFolder()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Every user has a temporary folder there.");
+#endif
+    environment.insert(QStringLiteral("TMPDIR"), QStringLiteral("/proc"));
+    const CliRun run = Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.err.contains("no temporary folder can be made: "), run.err.constData());
+    QVERIFY2(run.err.contains("TMPDIR"), run.err.constData());
+    QVERIFY(Results().isEmpty());
+}
+
+void tst_CliRun::SettingsWithoutMeaning()
+{
+    QVERIFY(QDir(root->path()).mkdir(QStringLiteral("settings")));
+    QSettings settings(Path(QStringLiteral("settings/BatchExceptionPolicy.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("NamingPolicy"), 9);
+    settings.sync();
+    const CliRun wrong = Run(QStringLiteral("run photos -o out --settings settings"));
+    QCOMPARE(wrong.exitCode, 2);
+    QVERIFY2(wrong.err.contains("settings/BatchExceptionPolicy.ini holds the value 9"), wrong.err.constData());
+    QVERIFY2(wrong.err.contains("--on-name-exists"), wrong.err.constData());
+    QVERIFY(Results().isEmpty());
+    const CliRun right = Run(QStringLiteral("run photos -o out --settings settings --on-name-exists skip"));
+    QVERIFY2(right.exitCode == 0, right.err.constData());
 }
 
 void tst_CliRun::NothingIsLeftBehind()
@@ -457,6 +488,9 @@ void tst_CliRun::ReadersMayLeave()
     QVERIFY2(events.err.contains("ends with 1"), events.err.constData());
     QVERIFY2(events.err.contains("standard output cannot be written: Broken pipe"), events.err.constData());
     QCOMPARE(Results().size(), 3);
+    const CliRun none = Shell(QStringLiteral(
+        "{ exec 3>&1; \"$VELKORA\" run photos -o out1 --json >&3; echo \"ends with $?\" >&2; } | exec <&- sleep 0"));
+    QVERIFY2(none.err.contains("ends with 1"), none.err.constData());
     // Progress that nobody watches is no trouble.
     const CliRun lines = Shell(QStringLiteral(
         "{ \"$VELKORA\" run photos -o out2; echo \"ends with $?\" >&3; } 3>&1 2>&1 >/dev/null | head -n 1"));
