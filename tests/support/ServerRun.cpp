@@ -114,7 +114,11 @@ bool ServerRun::StartServer()
 {
     server.setProcessEnvironment(environment);
     server.start(Path(QStringLiteral("VelkoraBatchProcessing") + suffix), {pipeName});
-    return server.waitForStarted(patience);
+    if (!server.waitForStarted(patience)) {
+        qWarning("%s: %s", qPrintable(server.program()), qPrintable(server.errorString()));
+        return false;
+    }
+    return true;
 }
 
 bool ServerRun::Connect()

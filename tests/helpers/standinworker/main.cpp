@@ -164,6 +164,7 @@ Report Make(const PictureTask& task)
         Report report;
         report.number = task.number + 1;
         Say(FrameFromWorker(report));
+        SleepForEver();
     } else if (command == "flood") {
         Say(QByteArray("\x0F\0\0\0", 4));
         for (;;) {

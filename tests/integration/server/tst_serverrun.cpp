@@ -184,7 +184,9 @@ void tst_ServerRun::cases_data()
     QTest::newRow("sudden end") << QByteArray("exit") << "1 9" << failed;
     QTest::newRow("out of memory") << QByteArray("outofmemory") << "1 10" << failed;
     QTest::newRow("garbage") << QByteArray("garbage") << "1 9" << failed;
+#ifndef Q_OS_WIN // QProcess takes in whatever comes there before it lets anybody look at it.
     QTest::newRow("answer without end") << QByteArray("flood") << "1 9" << failed;
+#endif
     QTest::newRow("answer about another file") << QByteArray("alien") << "1 9" << failed;
     QTest::newRow("code that is none of the case's") << QByteArray("input 9") << "1 9" << failed;
     QTest::newRow("code that is none") << QByteArray("output 77") << "1 9" << failed;
