@@ -1,10 +1,12 @@
-// effect_reference PHOTO FOLDER: writes the reference page of the effects to FOLDER/effects.md, and a small picture of
-// each effect, made from PHOTO, to FOLDER/effects/.
+// effect_reference PHOTO FOLDER: writes the reference page of the effects to FOLDER/effects.md, a small picture of each
+// effect, made from PHOTO, to FOLDER/effects/, and the patterns of backgrounds to FOLDER/pictures/patterns.png.
 
+#include "BatchValues.h"
 #include "EffectCatalog.h"
 #include "EffectExamples.h"
 #include "EffectReference.h"
 #include "Effects.h"
+#include "framing/Background.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -55,6 +57,26 @@ void WriteJpeg(const Picture& picture, const QString& path)
                      Picture::option()->set("Q", 80)->set("strip", true)->set("optimize_coding", true));
 }
 
+/// All patterns at 100 percent, side by side: two tiles each way.
+void WritePatterns(const QString& path)
+{
+    constexpr int count = 8;
+    constexpr int gap = 8;
+    const QSize size(64, 64);
+    const Picture grey = Picture::black(size.width(), size.height())
+                             .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_B_W));
+    std::vector<Picture> squares;
+    for (int pattern = 0; pattern < count; ++pattern) {
+        ZTBatchOutputSettings::Transformation framing;
+        framing.backgroundType = int(BatchValues::BackgroundType::Pattern);
+        framing.backgroundPattern = {pattern, 100, 0};
+        QStringList warnings;
+        squares.push_back(MakeBackground(framing, std::nullopt, size, grey, warnings).extract_band(0));
+    }
+    Picture::arrayjoin(squares, Picture::option()->set("across", count)->set("shim", gap)->set("background", 255.0))
+        .pngsave(QFile::encodeName(path).constData(), Picture::option()->set("strip", true)->set("compression", 9));
+}
+
 QJsonObject ParametersOf(const EffectSchema& effect, const QDir& files)
 {
     QJsonObject example = QJsonDocument::fromJson(ExampleOf(effect.id)).object();
@@ -83,6 +105,8 @@ void MakeReference(const QString& photo, const QDir& folder)
         WriteJpeg(ApplyEffect(effect.id, ParametersOf(effect, files), original),
                   folder.filePath(QStringLiteral("effects/%1.jpg").arg(effect.id)));
     }
+    folder.mkpath(QStringLiteral("pictures"));
+    WritePatterns(folder.filePath(QStringLiteral("pictures/patterns.png")));
     Write(folder.filePath(QStringLiteral("effects.md")), EffectReferencePage().toUtf8());
 }
 
