@@ -1,88 +1,17 @@
 #include "ColumnReduction.h"
 
+#include "ByteColumns.h"
+#include "ColumnPlan.h"
+
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <vector>
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
 namespace BatchServer {
 
 namespace {
-
-double Lanczos(double x)
-{
-    constexpr double lobes = 3.0;
-    constexpr double pi = 3.14159265358979323846;
-    if (x == 0.0) {
-        return 1.0;
-    }
-    return std::abs(x) < lobes ? lobes * std::sin(pi * x) * std::sin(pi * x / lobes) / (pi * pi * x * x) : 0.0;
-}
-
-/// Which old columns make a new one: `taps` of them, from firsts[column] on. Their weights add up to one.
-struct ColumnPlan
-{
-    ColumnPlan(int oldWidth, int newWidth);
-
-    void AppendWeights(const std::vector<double>& exact);
-
-    int taps;
-    std::vector<int> firsts;
-    std::vector<float> weights; ///< `taps` for each new column
-
-    /// The same as whole numbers of 16 bits, two by two, the first of the two below; behind an odd number comes a 0.
-    static constexpr int wholeBits = 14;
-    int pairs;
-    std::vector<std::uint32_t> weightPairs; ///< `pairs` for each new column
-};
-
-ColumnPlan::ColumnPlan(int oldWidth, int newWidth)
-{
-    const double factor = double(oldWidth) / newWidth;
-    const double radius = 3.0 * factor;
-    const int reach = int(std::floor(2.0 * radius)) + 1;
-    taps = std::min(reach, oldWidth);
-    pairs = (taps + 1) / 2;
-    for (int column = 0; column < newWidth; ++column) {
-        const double middle = (column + 0.5) * factor - 0.5;
-        const int start = int(std::ceil(middle - radius));
-        firsts.push_back(std::clamp(start, 0, oldWidth - taps));
-        std::vector<double> exact(std::size_t(taps), 0.0);
-        double sum = 0.0;
-        for (int old = start; old < start + reach; ++old) {
-            const double weight = Lanczos((old - middle) / factor);
-            exact[std::size_t(std::clamp(old, 0, oldWidth - 1) - firsts.back())] += weight;
-            sum += weight;
-        }
-        for (double& weight : exact) {
-            weight /= sum;
-        }
-        AppendWeights(exact);
-    }
-}
-
-void ColumnPlan::AppendWeights(const std::vector<double>& exact)
-{
-    weights.insert(weights.end(), exact.begin(), exact.end());
-    // What rounding takes from one the next one gets: their sum stays, however small they are.
-    std::vector<int> whole(std::size_t(2 * pairs), 0);
-    double rest = 0.0;
-    for (std::size_t tap = 0; tap < exact.size(); ++tap) {
-        const double wanted = exact[tap] * (1 << wholeBits) + rest;
-        whole[tap] = int(std::lround(wanted));
-        rest = wanted - whole[tap];
-    }
-    for (std::size_t tap = 0; tap < whole.size(); tap += 2) {
-        weightPairs.push_back(std::uint32_t(std::uint16_t(whole[tap])) | std::uint32_t(whole[tap + 1]) << 16);
-    }
-}
 
 constexpr int bandsAtOnce = 4;
 
@@ -142,67 +71,6 @@ private:
     std::vector<Pixel> pixels;
 };
 
-#ifdef __SSE2__
-/// The same for 8 bits, where whole numbers do: the processor multiplies and adds up two pixels in one step.
-template<int count>
-class LineReduction<std::uint8_t, count>
-{
-public:
-    using Sample = std::uint8_t;
-
-    explicit LineReduction(int columns)
-        : neighbours(std::size_t(columns))
-    {
-    }
-
-    void Take(const Sample* from, int step)
-    {
-        const __m128i zero = _mm_setzero_si128();
-        __m128i pixel = Widened(from);
-        for (std::size_t column = 0; column + 1 < neighbours.size(); ++column) {
-            from += step;
-            const __m128i next = Widened(from);
-            neighbours[column].values = _mm_unpacklo_epi16(pixel, next);
-            pixel = next;
-        }
-        neighbours.back().values = _mm_unpacklo_epi16(pixel, zero);
-    }
-
-    void Give(const ColumnPlan& plan, int column, int first, Sample* to) const
-    {
-        const std::uint32_t* const weights = &plan.weightPairs[std::size_t(column) * std::size_t(plan.pairs)];
-        const Neighbours* const old = &neighbours[std::size_t(first)];
-        __m128i sum = _mm_set1_epi32(1 << (ColumnPlan::wholeBits - 1));
-        for (int pair = 0; pair < plan.pairs; ++pair) {
-            const __m128i weightPair = _mm_set1_epi32(int(weights[pair]));
-            sum = _mm_add_epi32(sum, _mm_madd_epi16(old[2 * pair].values, weightPair));
-        }
-        const __m128i zero = _mm_setzero_si128();
-        const __m128i rounded = _mm_srai_epi32(sum, ColumnPlan::wholeBits);
-        const int bytes = _mm_cvtsi128_si32(_mm_packus_epi16(_mm_packs_epi32(rounded, zero), zero));
-        std::memcpy(to, &bytes, count);
-    }
-
-private:
-    static __m128i Widened(const Sample* pixel)
-    {
-        unsigned bytes = 0;
-        for (int band = 0; band < count; ++band) {
-            bytes |= unsigned(pixel[band]) << (8 * band);
-        }
-        return _mm_unpacklo_epi8(_mm_cvtsi32_si128(int(bytes)), _mm_setzero_si128());
-    }
-
-    /// A pixel and the one to the right of it, band by band.
-    struct Neighbours
-    {
-        __m128i values;
-    };
-
-    std::vector<Neighbours> neighbours;
-};
-#endif
-
 /// Reduces some bands, from `band` on, of the area that `output` asks for.
 template<typename Line>
 void ReduceBands(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output, int band)
@@ -245,6 +113,19 @@ void Reduce(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
     }
 }
 
+void ReduceBytes(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
+{
+    const VipsRect& area = output->valid;
+    const int firstOld = plan.firsts[std::size_t(area.left)];
+    const int bottom = VIPS_RECT_BOTTOM(&area) - 1;
+    ByteColumns columns(plan, area.left, VIPS_RECT_RIGHT(&area), output->im->Bands);
+    for (int y = area.top; y <= bottom; y += 2) {
+        const int next = std::min(y + 1, bottom);
+        columns.Reduce({VIPS_REGION_ADDR(input, firstOld, y), VIPS_REGION_ADDR(input, firstOld, next)},
+                       {VIPS_REGION_ADDR(output, area.left, y), VIPS_REGION_ADDR(output, area.left, next)});
+    }
+}
+
 int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
 {
     const auto& plan = *static_cast<const ColumnPlan*>(client);
@@ -258,7 +139,7 @@ int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
     }
     switch (output->im->BandFmt) {
     case VIPS_FORMAT_UCHAR:
-        Reduce<std::uint8_t>(plan, input, output);
+        ReduceBytes(plan, input, output);
         break;
     case VIPS_FORMAT_USHORT:
         Reduce<std::uint16_t>(plan, input, output);

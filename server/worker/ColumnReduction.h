@@ -10,8 +10,8 @@ namespace BatchServer {
 /// within their range; the only other format is float.
 ///
 /// The library reduces columns value by value, which took nearly half of the time of a photo's way to a smaller one.
-/// Here sixteen rows go side by side through the processor's vector unit. Sums are added up in one order, so that every
-/// processor finds the same values.
+/// Here the bands of a pixel go side by side through the processor's vector unit, those of two rows where it is wide
+/// enough. Sums are added up in one order, so that every processor finds the same values.
 Picture WithFewerColumns(const Picture& picture, int width);
 
 } // namespace BatchServer

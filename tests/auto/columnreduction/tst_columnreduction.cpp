@@ -1,8 +1,12 @@
+#include "ByteColumns.h"
+#include "ColumnPlan.h"
 #include "ColumnReduction.h"
 #include "TestPictures.h"
 
 #include <QTest>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -88,6 +92,8 @@ private Q_SLOTS:
     void keepsPlainValues();
     void findsTheSameInPieces_data() { givesWeightedSums_data(); }
     void findsTheSameInPieces();
+    void everyUnitFindsTheSame_data();
+    void everyUnitFindsTheSame();
 };
 
 void ColumnReductionTest::givesWeightedSums_data()
@@ -171,6 +177,50 @@ void ColumnReductionTest::findsTheSameInPieces()
     const int right = newWidth - newWidth / 4;
     const Picture piece = reduced.crop(left, 5, right - left, 7);
     QCOMPARE(ValuesOf(piece), ValuesOf(reduced.copy_memory().crop(left, 5, right - left, 7)));
+}
+
+void ColumnReductionTest::everyUnitFindsTheSame_data()
+{
+    QTest::addColumn<int>("bands");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("newWidth");
+    for (int bands = 1; bands <= 9; ++bands) {
+        for (const auto& [width, newWidth] :
+             QVector<QPair<int, int>>{{160, 100}, {161, 160}, {640, 9}, {3, 2}, {1, 1}}) {
+            QTest::addRow("%d bands, %d to %d", bands, width, newWidth) << bands << width << newWidth;
+        }
+    }
+}
+
+void ColumnReductionTest::everyUnitFindsTheSame()
+{
+    if (!ByteColumns::HasVectorUnit()) {
+        QSKIP("This processor has one unit only.");
+    }
+    QFETCH(const int, bands);
+    QFETCH(const int, width);
+    QFETCH(const int, newWidth);
+    const ColumnPlan plan(width, newWidth);
+    // The lines end where their memory does: a step beyond is found by the address sanitizer.
+    std::array<std::vector<std::uint8_t>, 2> lines;
+    std::mt19937 random(std::mt19937::result_type(width * 31 + bands));
+    for (auto& line : lines) {
+        line.resize(std::size_t(width * bands));
+        std::generate(line.begin(), line.end(), [&random] { return std::uint8_t(random()); });
+    }
+    for (const int begin : {0, newWidth / 2}) {
+        const auto reduced = [&](ByteColumns::Unit unit) {
+            std::array<std::vector<std::uint8_t>, 2> result;
+            for (auto& line : result) {
+                line.resize(std::size_t((newWidth - begin) * bands));
+            }
+            const int skipped = plan.firsts[std::size_t(begin)] * bands;
+            ByteColumns(plan, begin, newWidth, bands, unit)
+                .Reduce({lines[0].data() + skipped, lines[1].data() + skipped}, {result[0].data(), result[1].data()});
+            return result;
+        };
+        QVERIFY(reduced(ByteColumns::Unit::Vector) == reduced(ByteColumns::Unit::Plain));
+    }
 }
 
 QTEST_GUILESS_MAIN(ColumnReductionTest)
