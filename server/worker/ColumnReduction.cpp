@@ -27,12 +27,10 @@ Sample SampleOf(float value)
 }
 
 /// Reduces a line of pixels, `count` bands of each.
-template<typename SampleType, int count>
+template<typename Sample, int count>
 class LineReduction
 {
 public:
-    using Sample = SampleType;
-
     explicit LineReduction(int columns)
         : pixels(std::size_t(columns))
     {
@@ -72,15 +70,14 @@ private:
 };
 
 /// Reduces some bands, from `band` on, of the area that `output` asks for.
-template<typename Line>
+template<typename Sample, int count>
 void ReduceBands(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output, int band)
 {
-    using Sample = typename Line::Sample;
     const VipsRect& area = output->valid;
     const int bands = output->im->Bands;
     const int firstOld = plan.firsts[std::size_t(area.left)];
     const int endOld = plan.firsts[std::size_t(VIPS_RECT_RIGHT(&area) - 1)] + plan.taps;
-    Line line(endOld - firstOld);
+    LineReduction<Sample, count> line(endOld - firstOld);
     for (int y = area.top; y < VIPS_RECT_BOTTOM(&area); ++y) {
         line.Take(reinterpret_cast<const Sample*>(VIPS_REGION_ADDR(input, firstOld, y)) + band, bands);
         auto* to = reinterpret_cast<Sample*>(VIPS_REGION_ADDR(output, area.left, y)) + band;
@@ -98,16 +95,16 @@ void Reduce(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
     for (int band = 0; band < bands; band += bandsAtOnce) {
         switch (std::min(bands - band, bandsAtOnce)) {
         case 1:
-            ReduceBands<LineReduction<Sample, 1>>(plan, input, output, band);
+            ReduceBands<Sample, 1>(plan, input, output, band);
             break;
         case 2:
-            ReduceBands<LineReduction<Sample, 2>>(plan, input, output, band);
+            ReduceBands<Sample, 2>(plan, input, output, band);
             break;
         case 3:
-            ReduceBands<LineReduction<Sample, 3>>(plan, input, output, band);
+            ReduceBands<Sample, 3>(plan, input, output, band);
             break;
         default:
-            ReduceBands<LineReduction<Sample, bandsAtOnce>>(plan, input, output, band);
+            ReduceBands<Sample, bandsAtOnce>(plan, input, output, band);
             break;
         }
     }
