@@ -83,9 +83,10 @@ std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolde
     }
     std::unique_ptr<JournalFile> journal(new JournalFile(names.size() > 1 ? ofJob : folder.filePath(names.first())));
     if (!journal->isHeld) {
-        throw UsageError{QStringLiteral("the run in %1 cannot be taken up: it is under way, or the folder cannot be "
-                                        "written")
-                             .arg(outputFolder)};
+        const bool isUnderWay = journal->lock.error() == QLockFile::LockFailedError;
+        throw UsageError{QStringLiteral("the run in %1 cannot be taken up: %2")
+                             .arg(outputFolder, isUnderWay ? QStringLiteral("it is under way")
+                                                           : QStringLiteral("the folder cannot be written"))};
     }
     return journal;
 }

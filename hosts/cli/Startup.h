@@ -5,7 +5,8 @@
 namespace BatchCli {
 
 /// Keeps files from taking the place of standard channels that are closed, and makes file names and texts UTF-8 for
-/// this process and its children, whatever the locale. Called before anything of Qt is.
+/// this process and its children, whatever the locale. Copies of this process that have not become another program yet
+/// end with it, where the system can do that (Linux). Called before anything of Qt is, on the main thread.
 void PrepareProcess();
 
 /// The arguments without the program's name. Throws UsageError for one that cannot be represented.

@@ -5,11 +5,17 @@
 #include <QFile>
 
 #include <clocale>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
 #include <unistd.h>
+
+#ifdef Q_OS_LINUX
+#include <pthread.h>
+#include <sys/prctl.h>
+#endif
 
 namespace BatchCli {
 
@@ -26,11 +32,39 @@ void FillStandardChannels()
     }
 }
 
+#ifdef Q_OS_LINUX
+
+pid_t ownId = 0;
+
+void EndWithThisProcess()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != ownId) {
+        _exit(1); // It has gone already.
+    }
+}
+
+/// QProcess starts a program from a copy of this process, which may wait for a word of this one first. If this one were
+/// killed meanwhile, the copy would wait for ever, and hold on to the lock of the run, which nobody could take up
+/// again. The server that it becomes sets itself free.
+void BindCopies()
+{
+    ownId = getpid();
+    pthread_atfork(nullptr, nullptr, EndWithThisProcess);
+}
+
+#else
+
+void BindCopies() {}
+
+#endif
+
 } // namespace
 
 void PrepareProcess()
 {
     FillStandardChannels();
+    BindCopies();
     // Qt opens files by the locale's encoding. In the C locale of scripts and containers every name with an accent
     // would be out of reach, for the server too.
     std::setlocale(LC_ALL, "");

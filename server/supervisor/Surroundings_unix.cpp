@@ -9,6 +9,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
+
 namespace {
 
 // A handler may do no more than write to a pipe, whose other end the event loop reads.
@@ -24,6 +28,11 @@ void NoteRequest(int)
 
 void Surroundings::Prepare()
 {
+#ifdef Q_OS_LINUX
+    // A host may have asked for it, until its server is there. The server sees to its end itself: when the connection
+    // is lost it takes away what is unfinished.
+    ::prctl(PR_SET_PDEATHSIG, 0);
+#endif
     ::setsid(); // Fails for the leader of a group, which has been set apart already.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     std::signal(SIGPIPE, SIG_IGN);

@@ -1,0 +1,49 @@
+#include "Startup.h"
+
+#include <QTest>
+
+#include <array>
+#include <csignal>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+/// Of the command line's preparations, those that no run of the command can show for certain.
+class tst_CliStartup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CopiesEndWithTheirProcess();
+};
+
+// The copy holds one end of a pipe. Nobody writes: the other end tells when the copy is gone.
+void tst_CliStartup::CopiesEndWithTheirProcess()
+{
+    std::array<int, 2> pipe{};
+    QCOMPARE(::pipe(pipe.data()), 0);
+    const pid_t process = fork();
+    if (process == 0) {
+        BatchCli::PrepareProcess();
+        if (fork() == 0) {
+            const char isThere = 0;
+            [[maybe_unused]] const ssize_t written = write(pipe[1], &isThere, 1);
+        }
+        for (;;) {
+            pause();
+        }
+    }
+    QVERIFY(process > 0);
+    close(pipe[1]);
+    char isThere = 1;
+    QCOMPARE(read(pipe[0], &isThere, 1), ssize_t(1));
+    QCOMPARE(kill(process, SIGKILL), 0);
+    QCOMPARE(waitpid(process, nullptr, 0), process);
+    pollfd end{pipe[0], POLLIN, 0};
+    constexpr int patience = 30'000; // ms
+    QCOMPARE(poll(&end, 1, patience), 1);
+    QCOMPARE(read(pipe[0], &isThere, 1), ssize_t(0));
+}
+
+QTEST_GUILESS_MAIN(tst_CliStartup)
+#include "tst_clistartup.moc"
