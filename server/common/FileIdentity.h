@@ -14,6 +14,9 @@ struct FileIdentity
     quint64 device = 0;
     quint64 file = 0;
 
+    /// The same as a text.
+    QString Text() const { return QStringLiteral("%1:%2").arg(device).arg(file); }
+
     bool operator==(const FileIdentity& other) const { return device == other.device && file == other.file; }
 };
 

@@ -58,7 +58,7 @@ void TakeLine(const QJsonObject& line, JournalState& state)
     }
     const int begun = line.value(Key("begin")).toInt(-1);
     if (begun >= 0 && !state.results.contains(begun)) {
-        state.begun.insert(begun, output);
+        state.begun.insert(begun, {output, line.value(Key("before")).toString()});
     }
     const QJsonValue answer = line.value(Key("answer"));
     if (answer.isDouble()) {
@@ -131,9 +131,13 @@ bool RunJournal::Open(const QString& path)
     return true;
 }
 
-void RunJournal::Begin(int index, const QString& output)
+void RunJournal::Begin(int index, const JournalState::Beginning& beginning)
 {
-    Write(QJsonDocument(QJsonObject{{Key("begin"), index}, {Key("output"), output}}).toJson(QJsonDocument::Compact));
+    QJsonObject line{{Key("begin"), index}, {Key("output"), beginning.output}};
+    if (!beginning.before.isEmpty()) {
+        line.insert(Key("before"), beginning.before);
+    }
+    Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Settle(int index, const JournalState::Result& result)

@@ -37,8 +37,15 @@ struct JournalState
 
     /// By a file's place in the document, counted from 0.
     QHash<int, Result> results;
-    QHash<int, QString> begun; ///< files without result: where a worker was about to put it, and nothing was before
-    QHash<int, int> losses;    ///< files without result: how often the server has died over them
+    /// A worker was about to make a result.
+    struct Beginning
+    {
+        QString output;
+        QString before; ///< FileIdentity::Text() of what stood there; empty for nothing
+    };
+
+    QHash<int, Beginning> begun; ///< files without result
+    QHash<int, int> losses;      ///< files without result: how often the server has died over them
 
     /// What answers have changed for the rest of the run: a policy's place in `policies`, its value.
     QMap<int, int> answers;
@@ -64,8 +71,8 @@ public:
 
     bool IsOpen() const { return file.isOpen(); }
 
-    /// A worker is about to make the result of `index`, at a path where no file is.
-    void Begin(int index, const QString& output);
+    /// A worker is about to make the result of `index`.
+    void Begin(int index, const JournalState::Beginning& beginning);
     void Settle(int index, const JournalState::Result& result);
     void Answer(int policy, int value);
 

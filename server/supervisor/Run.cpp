@@ -96,8 +96,8 @@ void Run::HoldJournal(const QString& path, Preparation& preparation)
     }
 }
 
-/// Takes what the journal says into the plan. A result that a worker was about to put where nothing was, and that is
-/// there now, was finished: results are whole or absent.
+/// Takes what the journal says into the plan. Where another file stands now than before a worker began, the result was
+/// finished: results are whole or absent.
 void Run::FindFinished(Preparation& preparation)
 {
     if (!preparation.earlier) {
@@ -105,8 +105,9 @@ void Run::FindFinished(Preparation& preparation)
     }
     JournalState& earlier = *preparation.earlier;
     for (auto it = earlier.begun.constBegin(); it != earlier.begun.constEnd(); ++it) {
-        if (it.key() < preparation.plan.Count() && QFileInfo::exists(it.value())) {
-            earlier.results.insert(it.key(), {JournalState::Result::Kind::Written, it.value(), 0, {}});
+        const std::optional<FileIdentity> identity = IdentityOf(it->output);
+        if (it.key() < preparation.plan.Count() && identity && identity->Text() != it->before) {
+            earlier.results.insert(it.key(), {JournalState::Result::Kind::Written, it->output, 0, {}});
             preparation.found.append(it.key());
         }
     }
@@ -289,12 +290,11 @@ bool Run::GivePicture(int file)
                     {}});
         return false;
     }
-    if (!plan.IsOverwriting(file)) {
-        journal.Begin(file, names.Output(file));
-    }
     const QString output = names.Output(file);
+    const std::optional<FileIdentity> before = IdentityOf(output);
+    journal.Begin(file, {output, before ? before->Text() : QString()});
     const PictureTask task{file, names.Input(file), output, names.Format(file)->name, plan.IsOverwriting(file)};
-    Give({number, file, job, task, IdentityOf(output), false});
+    Give({number, file, job, task, before, false});
     return true;
 }
 

@@ -3,6 +3,9 @@
 
 #include "ZTBatchOutputSettings.h"
 
+#include <FileIdentity.h>
+#include <RunJournal.h>
+
 #include <QImage>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -32,6 +35,8 @@ private Q_SLOTS:
     void finishedResultsOfLostWorkersCount_data();
     void finishedResultsOfLostWorkersCount();
     void finishedResultsOutliveTheCancellingOfAnotherRun();
+    void finishedResultsOfLostServersCount_data();
+    void finishedResultsOfLostServersCount();
     void jobsThatNoWorkerSurvives();
 
     void resultsAreWholeOrAbsent_data();
@@ -291,6 +296,57 @@ void tst_ServerPromises::finishedResultsOutliveTheCancellingOfAnotherRun()
     QCOMPARE(run.Lines(QStringLiteral("error")), QStringList());
     QCOMPARE(run.Count(QStringLiteral("log Finished: 1 written, 0 skipped, 0 failed.")), 1);
     QVERIFY2(run.WaitFor(QStringLiteral("cancelled")), qPrintable(run.Report()));
+}
+
+void tst_ServerPromises::finishedResultsOfLostServersCount_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<bool>("isOver");
+    QTest::newRow("new") << QStringLiteral("out") << false;
+    QTest::newRow("over another file") << QStringLiteral("out") << true;
+    QTest::newRow("over its source") << QStringLiteral("in") << true;
+}
+
+/// The server dies after a result has taken its place, and before that is written down. Who made it again from itself
+/// would apply its effects twice.
+void tst_ServerPromises::finishedResultsOfLostServersCount()
+{
+    QFETCH(QString, folder);
+    QFETCH(bool, isOver);
+    ServerRun run(ServerRun::Worker::StandIn);
+    const QString output = folder + QStringLiteral("/done.jpg");
+    const QString input = run.Write(QStringLiteral("in/done.jpg"), "held");
+    if (isOver) {
+        run.Write(output, "held");
+    }
+    const QString job =
+        run.Job({input}, [&](ZTBatchDocument& document) { document.GetOutputSettings()->SetPath(run.Path(folder)); });
+    Policies policies;
+    policies.naming = ZTBatchManager::NamingOverwrite;
+    const QString journalPath = run.Path(QStringLiteral("journal"));
+    run.SetVariable(QString::fromLatin1(BatchServer::journalVariable), journalPath);
+    QVERIFY(BatchServer::RunJournal().Create(
+        journalPath, job, {policies.input, policies.output, policies.processing, policies.naming, policies.format}));
+    const auto before = BatchServer::IdentityOf(run.Path(output));
+    QCOMPARE(before.has_value(), isOver);
+
+    QVERIFY(run.Start());
+    run.Process(job, policies);
+    const auto isPlaced = [&] {
+        const auto now = BatchServer::IdentityOf(run.Path(output));
+        return now && (!before || !(*now == *before));
+    };
+    QVERIFY2(QTest::qWaitFor(isPlaced, 30000), qPrintable(run.Report()));
+    QVERIFY(run.KillServer());
+    run.DropPipe();
+    QCOMPARE(run.Count(QStringLiteral("processed")), 0);
+
+    run.lines.clear();
+    QVERIFY(run.Start());
+    run.Process(job, policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Lines(QStringLiteral("file")), QStringList());
+    QCOMPARE(run.Count(QStringLiteral("processed [in/done.jpg] [%1]").arg(output)), 1);
 }
 
 void tst_ServerPromises::jobsThatNoWorkerSurvives()
