@@ -52,7 +52,6 @@ InterruptWatcher::InterruptWatcher(QObject* parent)
             Q_EMIT Interrupted();
         }
     });
-    std::signal(SIGPIPE, SIG_IGN); // Whoever reads the output may leave; the pictures are made all the same.
     struct sigaction action = {};
     action.sa_handler = &Handle;
     action.sa_flags = SA_RESTART;

@@ -11,6 +11,7 @@
 #include "RunOptions.h"
 #include "RunReport.h"
 #include "RunSummary.h"
+#include "Startup.h"
 #include "UsageError.h"
 
 #include "ZTBatchDocument.h"
@@ -255,6 +256,7 @@ RunEnd Execute(RunController& controller, RunDisplay& display)
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    OutliveReaders();
     QStringList inputs = arguments.inputs;
     const QString savedJob = TakeSavedJob(inputs);
     PolicyValues given{};
@@ -314,14 +316,19 @@ ExitCode RunJob(const ParsedArguments& arguments)
                                  observers, journalPath);
         end = Execute(controller, display);
     }
-    const bool isFinished = end.NotProcessed() == 0 || end.jobErrorCode != ZTBatchMessage::NoError;
+    const bool isWithoutWorkers = end.jobErrorCode == ZTBatchMessage::NoAdjustmentManager;
+    const bool isRefused = end.jobErrorCode != ZTBatchMessage::NoError && !isWithoutWorkers;
+    const bool isFinished = end.NotProcessed() == 0 || isRefused;
     if (isFinished) {
         journal.file->Remove();
     } else if (journal.file->Exists() && !isQuiet) {
         WriteErrorLine(
             QStringLiteral("This goes on from here: velkora-batch run --resume -o %1").arg(Quoted(end.outputFolder)));
     }
-    if (end.jobErrorCode != ZTBatchMessage::NoError) {
+    if (isWithoutWorkers) {
+        WriteErrorLine(QStringLiteral("velkora-batch: no worker works; VelkoraBatchWorker belongs beside %1.")
+                           .arg(QCoreApplication::applicationFilePath()));
+    } else if (isRefused) {
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(end.jobError));
     }
     if (end.isServerLost && end.written + end.skipped + end.failed == 0) {

@@ -9,6 +9,9 @@ namespace BatchCli {
 /// end with it, where the system can do that (Linux). Called before anything of Qt is, on the main thread.
 void PrepareProcess();
 
+/// From now on whoever reads the output may leave: that ends nothing, and what is written then is lost.
+void OutliveReaders();
+
 /// The arguments without the program's name. Throws UsageError for one that cannot be represented.
 QStringList Arguments(int argc, char** argv);
 

@@ -74,6 +74,11 @@ void PrepareProcess()
     }
 }
 
+void OutliveReaders()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
 QStringList Arguments(int argc, char** argv)
 {
     QStringList arguments;

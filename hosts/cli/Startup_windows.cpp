@@ -17,6 +17,8 @@ void PrepareProcess()
     _setmode(_fileno(stderr), _O_BINARY);
 }
 
+void OutliveReaders() {}
+
 QStringList Arguments(int, char**)
 {
     return QCoreApplication::arguments().mid(1);

@@ -269,6 +269,9 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
     if (depth.isDouble() && !schema->bitDepths.contains(depth.toInt())) {
         return {{}, DepthError(*schema, depth.toInt())};
     }
+    if (checked.values.value(Text("compression")) == Text("jpeg") && depth.isDouble() && depth.toInt() != 8) {
+        return {{}, QStringLiteral("\"bitDepth\" is %1; \"compression\" jpeg takes 8").arg(depth.toInt())};
+    }
     return checked;
 }
 

@@ -1,5 +1,7 @@
 #include "OutputPlan.h"
 
+#include "BatchValues.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -29,6 +31,24 @@ QString WithoutExtension(const QString& name)
     return name.left(name.lastIndexOf(QLatin1Char('.')));
 }
 
+/// The files that go into every result.
+QStringList SharedSources(const JobSettings& settings)
+{
+    QStringList files;
+    for (const JobEffect& effect : settings.effects) {
+        for (const ParameterSchema& parameter : effect.schema->parameters) {
+            if (parameter.type == ParameterType::File) {
+                files.append(effect.parameters.value(parameter.name).toString());
+            }
+        }
+    }
+    const Settings::Transformation& framing = settings.framing;
+    if (framing.state && framing.backgroundType == int(BatchValues::BackgroundType::Image)) {
+        files.append(framing.backgroundImage);
+    }
+    return files;
+}
+
 QString Numbered(int number)
 {
     return QStringLiteral(" (%1)").arg(number);
@@ -41,6 +61,7 @@ OutputPlan::OutputPlan(const QVector<JobFile>& files, const JobSettings& setting
     , structure(settings.folderStructure)
     , naming(settings.naming)
     , keepsFormats(settings.format == Settings::GetOriginalFormat())
+    , sharedSources(SharedSources(settings))
 {
     const FormatSchema* format = keepsFormats ? nullptr : FindFormat(settings.format);
     entries.reserve(files.size());
@@ -296,11 +317,17 @@ void OutputPlan::NoteSources()
         return;
     }
     areSourcesNoted = true;
-    for (const Entry& entry : qAsConst(entries)) {
-        const std::optional<FileIdentity> identity = IdentityOf(entry.input);
+    const auto note = [this](const QString& source) {
+        const std::optional<FileIdentity> identity = IdentityOf(source);
         if (identity) {
             ++sourceCounts[*identity];
         }
+    };
+    for (const Entry& entry : qAsConst(entries)) {
+        note(entry.input);
+    }
+    for (const QString& source : qAsConst(sharedSources)) {
+        note(source);
     }
 }
 

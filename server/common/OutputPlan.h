@@ -37,7 +37,7 @@ public:
     enum class Clash {
         None,
         Disk,   ///< a file or folder on the disk
-        Source, ///< a source of this job; it may be the file's own
+        Source, ///< a source of this job, a file that an effect or the framing reads too; it may be the file's own
         Result  ///< the result of another file, one that stands earlier in the document or got its name earlier
     };
 
@@ -147,8 +147,9 @@ private:
     QHash<Place, int> takers;        ///< which file has a name
     QSet<QString> keptPaths;         ///< what stands there came from this run
     QHash<Place, int> nextAdditions; ///< the number behind a stem from which on names may be free
+    QStringList sharedSources;
     bool areSourcesNoted = false;
-    QHash<FileIdentity, int> sourceCounts; ///< how many inputs of the job are one file
+    QHash<FileIdentity, int> sourceCounts; ///< how many inputs of the job, and shared sources, are one file
 };
 
 } // namespace BatchServer

@@ -121,11 +121,13 @@ void SetJxlOptions(Options* set, const QJsonObject& options, const Picture&)
         ->set("effort", Effort(options, 3, 9));
 }
 
-void SetJp2Options(Options* set, const QJsonObject& options, const Picture&)
+void SetJp2Options(Options* set, const QJsonObject& options, const Picture& picture)
 {
+    // The library ends the process over anything but three bands to be subsampled.
+    const bool isColourOnly = picture.bands() == 3;
     set->set("Q", Integer(options, "quality"))
         ->set("lossless", Truth(options, "lossless"))
-        ->set("subsample_mode", Subsampling(options));
+        ->set("subsample_mode", isColourOnly ? Subsampling(options) : VIPS_FOREIGN_SUBSAMPLE_OFF);
 }
 
 void SetGifOptions(Options* set, const QJsonObject& options, const Picture&)
@@ -185,19 +187,35 @@ bool TryToWrite(const FormatSchema& format, const QJsonObject& options, bool isD
     }
 }
 
-// The same in a process of its own, for encoders that are known to fall over instead of failing.
-bool TryToWriteElsewhere(const FormatSchema& format, const QJsonObject& options, bool isDeep)
+// The same for a deep picture in a process of its own, for encoders that are known to fall over instead of failing.
+bool TryToWriteElsewhere(const FormatSchema& format, const QJsonObject& options)
 {
     constexpr int longest = 20; // seconds
     const pid_t child = fork();
     if (child == 0) {
         alarm(longest);
         close(STDERR_FILENO);
-        _exit(TryToWrite(format, options, isDeep) ? EXIT_SUCCESS : EXIT_FAILURE);
+        _exit(TryToWrite(format, options, true) ? EXIT_SUCCESS : EXIT_FAILURE);
     }
     int status = 0;
     const bool hasEnded = child > 0 && waitpid(child, &status, 0) == child;
     return hasEnded && WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+/// By the name of a format and the bits of a channel.
+using KnownEncoders = QHash<QPair<QString, int>, bool>;
+
+// All at once, and before the first of them is used: their libraries keep threads, which a copy of the process lacks
+// and would wait for.
+void LearnDeepHeif(KnownEncoders& known)
+{
+    for (const QString& name : {QStringLiteral("HEIF"), QStringLiteral("AVIF")}) {
+        const FormatSchema& format = *FindFormat(name);
+        for (const int bits : {10, 12}) {
+            const QJsonObject options = OptionsFor(format, {{QStringLiteral("bitDepth"), bits}});
+            known.insert({name, bits}, TryToWriteElsewhere(format, options));
+        }
+    }
 }
 
 } // namespace
@@ -207,11 +225,13 @@ bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDee
     const bool isHeif = SaverOf(format).operation == QByteArray("heifsave_target");
     const bool isDeepHeif = isHeif && DepthFor(format, options, isDeep) > 8;
     const int depth = isDeepHeif ? DeepHeifBits(options) : 8;
-    static QHash<QPair<QString, int>, bool> known;
+    static KnownEncoders known;
     const QPair<QString, int> key(format.name, depth);
+    if (isHeif && !known.contains({format.name, DeepHeifBits({})})) {
+        LearnDeepHeif(known);
+    }
     if (!known.contains(key)) {
-        known.insert(key, isDeepHeif ? TryToWriteElsewhere(format, options, true)
-                                     : TryToWrite(format, OptionsFor(format, {}), false));
+        known.insert(key, TryToWrite(format, OptionsFor(format, {}), false));
     }
     return known.value(key);
 }

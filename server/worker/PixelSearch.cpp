@@ -5,13 +5,34 @@
 #include "PixelForms.h"
 #include "WorkingForm.h"
 
+#include <QPair>
+
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <vector>
 
 namespace BatchServer {
 
 namespace {
+
+/// The place of the first sum that is not 0, and how many there are up to the last; 0 when there is none.
+QPair<int, int> Extent(const Picture& sums)
+{
+    std::size_t size = 0;
+    void* const memory = sums.write_to_memory(&size);
+    const auto* const begin = static_cast<const std::uint32_t*>(memory);
+    const auto* const end = begin + size / sizeof(std::uint32_t);
+    const auto isContent = [](std::uint32_t sum) { return sum != 0; };
+    const auto* const first = std::find_if(begin, end, isContent);
+    const auto* last = end;
+    while (last != first && !isContent(last[-1])) {
+        --last;
+    }
+    const QPair<int, int> extent(int(first - begin), int(last - first));
+    g_free(memory);
+    return extent;
+}
 
 std::vector<double> CornerColour(PictureSource& source)
 {
@@ -34,15 +55,18 @@ QRect FrameWithoutBorder(PictureSource& source)
         if (isTransparent) {
             picture = AlphaOf(picture);
             corner = {0.0};
+        } else {
+            picture = picture.flatten(Picture::option()->set("background", corner));
         }
     }
     const double depth = HasSixteenBits(picture) ? 65535.0 / 255.0 : 1.0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    const int left = picture.find_trim(
-        &top, &width, &height, Picture::option()->set("background", corner)->set("threshold", smallDifference * depth));
-    const bool hasOneColour = width == 0 || height == 0;
+    // The library's own search takes thin lines and single pixels for noise.
+    const Picture content = ((picture - corner).abs() > smallDifference * depth).bandor();
+    Picture rows;
+    const Picture columns = content.project(&rows);
+    const auto [left, width] = Extent(columns);
+    const auto [top, height] = Extent(rows);
+    const bool hasOneColour = width == 0;
     return hasOneColour ? QRect(QPoint(0, 0), source.StoredSize()) : QRect(left, top, width, height);
 }
 

@@ -1,5 +1,6 @@
 #include "OutputPlan.h"
 
+#include "BatchValues.h"
 #include "InputNodes.h"
 #include "ZTBatchDocument.h"
 
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void clashes();
     void sourcesThroughLinks();
     void anothersSource();
+    void sharedSources();
     void renamedNamesAreFree();
     void changedFormatsAreCheckedAgain();
     void namesAtTheLimitAreRenamed();
@@ -369,6 +371,25 @@ void tst_OutputPlan::anothersSource()
     // The same file twice: each would take the other's source away.
     OutputPlan twice = Plan({own, own});
     QVERIFY(twice.IsAnothersSource(0));
+}
+
+void tst_OutputPlan::sharedSources()
+{
+    const QString mark = Write(QStringLiteral("out/a.png"));
+    const QString background = Write(QStringLiteral("out/b.png"));
+    const QStringList inputs{QStringLiteral("/in/a.jpg"), QStringLiteral("/in/b.jpg"), mark};
+    settings.effects = {{FindEffect(QStringLiteral("watermark-image")), {{QStringLiteral("file"), mark}}}};
+    settings.framing.backgroundType = int(BatchValues::BackgroundType::Image);
+    settings.framing.backgroundImage = background;
+    settings.framing.state = false; // So the background is none of its sources.
+    OutputPlan unframed = Plan(inputs);
+    QVERIFY(unframed.IsAnothersSource(0));
+    QVERIFY(!unframed.IsAnothersSource(1));
+    QVERIFY(unframed.IsAnothersSource(2)); // Its own, but others need it as it is.
+    settings.framing.state = true;
+    OutputPlan framed = Plan(inputs);
+    QVERIFY(framed.IsAnothersSource(1));
+    QCOMPARE(int(framed.ClashOf(1)), int(Clash::Source));
 }
 
 void tst_OutputPlan::renamedNamesAreFree()

@@ -128,6 +128,8 @@ void tst_FormatCatalog::checksOptions_data()
     row("PNG", "{\"compressionLevel\":10}", "\"compressionLevel\" is 10; it must be a whole number from 0 to 9");
     row("PNG", "{\"bitDepth\":12}", "\"bitDepth\" is 12; PNG takes 8, 16");
     row("TIFF", "{\"compression\":\"zstd\"}", "");
+    row("TIFF", "{\"compression\":\"jpeg\",\"bitDepth\":8}", "");
+    row("TIFF", "{\"compression\":\"jpeg\",\"bitDepth\":16}", "\"bitDepth\" is 16; \"compression\" jpeg takes 8");
     row("TIFF", "{\"compression\":\"rar\"}",
         "\"compression\" is \"rar\"; it must be one of none, lzw, deflate, zstd, jpeg");
     row("AVIF", "{\"bitDepth\":12,\"effort\":0,\"lossless\":true}", "");

@@ -100,6 +100,8 @@ private Q_SLOTS:
     void keepsDepth();
     void keepsGrey_data();
     void keepsGrey();
+    void takesEveryKind_data();
+    void takesEveryKind();
     void keepsTransparency_data();
     void keepsTransparency();
     void laysTransparencyOnTheBackground();
@@ -308,6 +310,34 @@ void WorkerPicturesTest::keepsGrey()
     const Picture result = ReadPicture(bench->Path(NameIn(format)));
     QCOMPARE(result.bands(), 1);
     QVERIFY(LargestDifference(result, grey) <= Tolerance(format));
+}
+
+void WorkerPicturesTest::takesEveryKind_data()
+{
+    QTest::addColumn<QString>("format");
+    for (const FormatSchema& format : Formats()) {
+        QTest::newRow(qPrintable(format.name)) << format.name;
+    }
+}
+
+// With its default options, and with what those leave out.
+void WorkerPicturesTest::takesEveryKind()
+{
+    QFETCH(const QString, format);
+
+    const Picture chart = Chart(64, 40);
+    const Picture grey = Grey(chart);
+    int number = 0;
+    for (const Picture& picture : {chart, grey, WithAlpha(chart), grey.bandjoin(128).cast(VIPS_FORMAT_UCHAR),
+                                   Deep(chart), Deep(chart).extract_band(0)}) {
+        const QString name = QStringLiteral("in%1.tif").arg(++number);
+        WritePicture(picture, bench->Path(name));
+        const QString reason = bench->Make(name, NameIn(format), format).reason;
+        QVERIFY2(reason.isEmpty(), qPrintable(QStringLiteral("picture %1: %2").arg(number).arg(reason)));
+        const Picture result = ReadPicture(bench->Path(NameIn(format)));
+        QCOMPARE(QSize(result.width(), result.height()), QSize(64, 40));
+        QVERIFY(QFile::remove(bench->Path(NameIn(format))));
+    }
 }
 
 void WorkerPicturesTest::keepsTransparency_data()
