@@ -153,6 +153,7 @@ Report Make(const PictureTask& task)
         return Failure(Case::Input, ZTBatchMessage::ReadFileError);
     }
     const QByteArray content = input.readAll();
+    input.close(); // The result may take its place, which Windows grants to closed files alone.
     const QList<QByteArray> line = content.split('\n')[0].split(' ');
     const QByteArray command = line[0];
     const QByteArray argument = line.value(1);

@@ -3,7 +3,6 @@
 
 #include "ZTBatchOutputSettings.h"
 
-#include <FileIdentity.h>
 #include <RunJournal.h>
 
 #include <QImage>
@@ -315,9 +314,11 @@ void tst_ServerPromises::finishedResultsOfLostServersCount()
     QFETCH(bool, isOver);
     ServerRun run(ServerRun::Worker::StandIn);
     const QString output = folder + QStringLiteral("/done.jpg");
+    const QDateTime longAgo(QDate(2001, 1, 1), QTime(0, 0));
     const QString input = run.Write(QStringLiteral("in/done.jpg"), "held");
     if (isOver) {
-        run.Write(output, "held");
+        QFile old(run.Write(output, "held"));
+        QVERIFY(old.open(QIODevice::ReadWrite) && old.setFileTime(longAgo, QFileDevice::FileModificationTime));
     }
     const QString job =
         run.Job({input}, [&](ZTBatchDocument& document) { document.GetOutputSettings()->SetPath(run.Path(folder)); });
@@ -327,15 +328,11 @@ void tst_ServerPromises::finishedResultsOfLostServersCount()
     run.SetVariable(QString::fromLatin1(BatchServer::journalVariable), journalPath);
     QVERIFY(BatchServer::RunJournal().Create(
         journalPath, job, {policies.input, policies.output, policies.processing, policies.naming, policies.format}));
-    const auto before = BatchServer::IdentityOf(run.Path(output));
-    QCOMPARE(before.has_value(), isOver);
 
     QVERIFY(run.Start());
     run.Process(job, policies);
-    const auto isPlaced = [&] {
-        const auto now = BatchServer::IdentityOf(run.Path(output));
-        return now && (!before || !(*now == *before));
-    };
+    // To look into the file would be in the worker's way on Windows.
+    const auto isPlaced = [&] { return QFileInfo(run.Path(output)).lastModified() > longAgo; };
     QVERIFY2(QTest::qWaitFor(isPlaced, 30000), qPrintable(run.Report()));
     QVERIFY(run.KillServer());
     run.DropPipe();
