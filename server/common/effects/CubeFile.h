@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-/// Tables of colours in .cube files, after the Cube LUT specification 1.0 of Adobe Systems. Everything here is safe on
+/// Tables of colours in .cube files, in version 1.0 of the Cube LUT format by Adobe Systems. Everything here is safe on
 /// any thread.
 namespace BatchServer {
 

@@ -63,7 +63,7 @@ QString DefinitionOf(const QString& id)
          "0 to 1 over the transition; distances are measured on ellipses of the shape of the "
          "picture, 100 percent at the corners."},
         {QStringLiteral("lut"),
-         "Tables after the Cube LUT specification 1.0, of 2 to 65536 entries in one or 2 to 129 "
+         "Tables in version 1.0 of the Cube LUT format, of 2 to 65536 entries in one or 2 to 129 "
          "along each of three dimensions; TITLE, DOMAIN_MIN, DOMAIN_MAX and comments are "
          "understood. Colours outside the domain count as the nearest inside. Values are mapped as "
          "they are stored in the picture."},
