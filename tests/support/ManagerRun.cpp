@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 #include <QTest>
+#include <QTextStream>
 
 bool Eventually(const std::function<bool()>& condition)
 {
@@ -38,6 +39,7 @@ bool ManagerRun::Connect()
 bool ManagerRun::AwaitConnection(int opened, int connections)
 {
     if (!Eventually([&] { return stage.Count(QStringLiteral("open")) >= opened; })) {
+        TellWhatHappened();
         return false;
     }
     // The pipe to an earlier server may still wait for its deletion.
@@ -46,7 +48,21 @@ bool ManagerRun::AwaitConnection(int opened, int connections)
     if (!pipes.isEmpty() && !pipes.last()->WaitForConnected(0)) {
         pipes.last()->Reconnect(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
     }
-    return Eventually([&] { return log.connections >= connections; });
+    if (!Eventually([&] { return log.connections >= connections; })) {
+        TellWhatHappened();
+        return false;
+    }
+    return true;
+}
+
+void ManagerRun::TellWhatHappened() const
+{
+    const auto list = [](const char* title, const QStringList& lines) {
+        QTextStream(stderr) << title << ":\n    " << lines.join(QLatin1String("\n    ")) << '\n';
+    };
+    list("The servers noted", stage.Events());
+    list("The host was told", log.lines);
+    list("The library wrote", debugLines.All());
 }
 
 QPointer<ManagerRun::Session> ManagerRun::CreateSession()

@@ -57,4 +57,7 @@ public:
 
 private:
     Q_DISABLE_COPY(ManagerRun)
+
+    /// For a test that fails: what servers, host and library have noted goes to the terminal.
+    void TellWhatHappened() const;
 };

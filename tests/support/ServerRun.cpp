@@ -1,6 +1,7 @@
 #include "ServerRun.h"
 
 #include "ProcessEnd.h"
+#include "ProgramFiles.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 
@@ -26,13 +27,9 @@ namespace {
 
 constexpr int patience = 30000; // ms
 
+const QString serverFile = ProgramFileName(QStringLiteral("VelkoraBatchProcessing"));
+const QString workerFile = ProgramFileName(QStringLiteral("VelkoraBatchWorker"));
 const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
-
-#ifdef Q_OS_WIN
-const QString suffix = QStringLiteral(".exe");
-#else
-const QString suffix;
-#endif
 
 void Place(const QString& from, const QString& to)
 {
@@ -48,20 +45,16 @@ void Place(const QString& from, const QString& to)
     }
 }
 
-QString Built(const QString& name)
-{
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name + suffix);
-}
-
 } // namespace
 
 ServerRun::ServerRun(Worker worker)
     : environment(QProcessEnvironment::systemEnvironment())
 {
-    Place(Built(QStringLiteral("VelkoraBatchProcessing")), Path(QStringLiteral("VelkoraBatchProcessing") + suffix));
+    Place(BuiltProgram(QStringLiteral("VelkoraBatchProcessing")), Path(serverFile));
     if (worker != Worker::Missing) {
-        Place(Built(worker == Worker::Real ? QStringLiteral("VelkoraBatchWorker") : QStringLiteral("standinworker")),
-              Path(QStringLiteral("VelkoraBatchWorker") + suffix));
+        Place(BuiltProgram(worker == Worker::Real ? QStringLiteral("VelkoraBatchWorker")
+                                                  : QStringLiteral("standinworker")),
+              Path(workerFile));
     }
     environment.insert(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("2"));
     connect(&server, &QProcess::readyReadStandardError, this,
@@ -113,7 +106,7 @@ bool ServerRun::Start()
 bool ServerRun::StartServer()
 {
     server.setProcessEnvironment(environment);
-    server.start(Path(QStringLiteral("VelkoraBatchProcessing") + suffix), {pipeName});
+    server.start(Path(serverFile), {pipeName});
     if (!server.waitForStarted(patience)) {
         qWarning("%s: %s", qPrintable(server.program()), qPrintable(server.errorString()));
         return false;

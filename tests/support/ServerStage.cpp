@@ -1,20 +1,14 @@
 #include "ServerStage.h"
 
 #include "ProcessEnd.h"
+#include "ProgramFiles.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 
 namespace {
-
-#ifdef Q_OS_WIN
-const QString suffix = QStringLiteral(".exe");
-#else
-const QString suffix;
-#endif
 
 const QString hidden = QStringLiteral(".hidden");
 
@@ -52,7 +46,7 @@ void ServerStage::Play(const QStringList& rules)
 
 QString ServerStage::ServerPath()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("VelkoraBatchProcessing") + suffix);
+    return BuiltProgram(QStringLiteral("VelkoraBatchProcessing"));
 }
 
 void ServerStage::HideServer()
