@@ -49,19 +49,28 @@ void AddOption(CLI::App& app, const OptionInfo& info, std::list<Slot>& slots)
         slot.option->type_size(1);
         slot.option->expected(1);
         slot.option->allow_extra_args(false);
-        slot.option->multi_option_policy(info.isRepeatable ? CLI::MultiOptionPolicy::TakeAll
-                                                           : CLI::MultiOptionPolicy::Throw);
+        slot.option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll); // Collect() counts.
     }
     slot.option->group(Bytes(info.group));
 }
 
-QStringList OptionNames(const CommandInfo& command)
+QString WithoutDashes(QString name)
+{
+    while (name.startsWith(QLatin1Char('-'))) {
+        name.remove(0, 1);
+    }
+    return name;
+}
+
+/// The option of `command` that was meant by `name`; empty when none is near. Dashes do not make names alike.
+QString NearestOption(const QString& name, const CommandInfo& command)
 {
     QStringList names;
     for (const OptionInfo& option : command.options) {
-        names.append(option.name);
+        names.append(WithoutDashes(option.name));
     }
-    return names;
+    const QString nearest = BatchServer::NearestWord(WithoutDashes(name), names);
+    return nearest.isEmpty() ? QString() : QStringLiteral("--") + nearest;
 }
 
 QStringList CommandNames()
@@ -76,10 +85,11 @@ QStringList CommandNames()
 UsageError UnknownOption(const QString& text, const CommandInfo& command)
 {
     const QString name = text.section(QLatin1Char('='), 0, 0);
-    const QString hint = NearestHint(name, OptionNames(command));
-    return {QStringLiteral("unknown option %1%2").arg(name, hint) +
-            (hint.isEmpty() ? QStringLiteral("; \"velkora-batch %1 --help\" lists the options").arg(command.name)
-                            : QString())};
+    const QString nearest = NearestOption(name, command);
+    return {
+        nearest.isEmpty()
+            ? QStringLiteral("unknown option %1; \"velkora-batch %2 --help\" lists the options").arg(name, command.name)
+            : QStringLiteral("unknown option %1; did you mean \"%2\"?").arg(name, nearest)};
 }
 
 void CheckFirstArgument(const QStringList& arguments)
@@ -154,6 +164,10 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
         QStringList values;
         for (const std::string& value : slot.values) {
             values.append(Text(value));
+        }
+        if (!slot.info->isRepeatable && values.size() > 1) {
+            throw UsageError{QStringLiteral("%1 is given %2 times and takes one value; leave \"%3\" or \"%4\" out")
+                                 .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
         }
         parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);
     }

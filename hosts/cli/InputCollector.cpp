@@ -117,7 +117,7 @@ void InputCollector::Add(const QStringList& paths)
             throw UsageError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
         }
         if (taken.contains(path)) {
-            problems.append(QStringLiteral("%1 is in the job already.").arg(path));
+            repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
         } else if (info.isDir()) {
             TakeFolder(path);
         } else {
@@ -236,9 +236,11 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
         foldersTaken.insert(identity, path);
         return true;
     }
-    const bool isCircle = path.startsWith(*known + QLatin1Char('/'));
-    problems.append(isCircle ? QStringLiteral("%1 leads in a circle, back to %2; it is not followed.").arg(path, *known)
-                             : QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
+    if (path.startsWith(*known + QLatin1Char('/'))) {
+        problems.append(QStringLiteral("%1 leads in a circle, back to %2; it is not followed.").arg(path, *known));
+    } else {
+        repetitions.append(QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
+    }
     return false;
 }
 

@@ -47,6 +47,9 @@ public:
     /// in circles or nowhere, names that cannot be represented.
     const QStringList& Problems() const { return problems; }
 
+    /// What was named or reached once more and is in the job once, one sentence each. Nothing is missing.
+    const QStringList& Repetitions() const { return repetitions; }
+
 private:
     using Node = TreeNode<BatchNodeData>;
 
@@ -66,6 +69,7 @@ private:
     QSet<QString> taken;                       ///< the paths in the job
     QHash<FileIdentity, QString> foldersTaken; ///< and their paths
     QStringList problems;
+    QStringList repetitions;
     int folderCount = 0;
     int fileCount = 0;
 };

@@ -63,8 +63,9 @@ int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QStri
     };
     collector.Add(inputs);
     line.Clear();
-    for (const QString& problem : collector.Problems()) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(problem));
+    const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
+    for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
     }
     return collector.Problems().size();
 }

@@ -12,11 +12,10 @@
 
 namespace BatchCli {
 
-void CheckJob(const ZTBatchDocument& job)
+namespace {
+
+void CheckOutput(const ZTBatchDocument& job)
 {
-    if (job.GetInputModel()->GetFileNodesCount() == 0) {
-        throw UsageError{QStringLiteral("there is no picture: name files, or folders with files that can be read")};
-    }
     if (job.GetOutputSettings()->GetPath().isEmpty()) {
         throw UsageError{QStringLiteral("where do results go? --output DIR says it")};
     }
@@ -24,6 +23,28 @@ void CheckJob(const ZTBatchDocument& job)
     if (!checked.IsAccepted()) {
         throw UsageError{checked.refusal.message};
     }
+}
+
+QString PicturesText(int count)
+{
+    switch (count) {
+    case 0:
+        return QStringLiteral("a job without pictures; run and plan take them behind its name");
+    case 1:
+        return QStringLiteral("a job of 1 picture");
+    default:
+        return QStringLiteral("a job of %1 pictures").arg(count);
+    }
+}
+
+} // namespace
+
+void CheckJob(const ZTBatchDocument& job)
+{
+    if (job.GetInputModel()->GetFileNodesCount() == 0) {
+        throw UsageError{QStringLiteral("there is no picture: name files, or folders with files that can be read")};
+    }
+    CheckOutput(job);
 }
 
 ExitCode CreateJob(const ParsedArguments& arguments)
@@ -40,13 +61,15 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     }
     ZTBatchDocument job;
     const int problems = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
-    CheckJob(job);
+    // A job may be made for pictures that come later, but not by a slip in the names of those that are given.
+    if (inputs.isEmpty()) {
+        CheckOutput(job);
+    } else {
+        CheckJob(job);
+    }
     SaveJob(job, path, arguments.Has(QStringLiteral("--force")));
     if (!arguments.Has(QStringLiteral("--quiet")) && path != QLatin1String("-")) {
-        const int count = job.GetInputModel()->GetFileNodesCount();
-        WriteErrorLine(QStringLiteral("%1: a job of %2 %3.")
-                           .arg(path, QString::number(count),
-                                count == 1 ? QStringLiteral("picture") : QStringLiteral("pictures")));
+        WriteErrorLine(QStringLiteral("%1: %2.").arg(path, PicturesText(job.GetInputModel()->GetFileNodesCount())));
     }
     return problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }

@@ -34,6 +34,14 @@ QString Reason(const QString& text)
                    : QStringLiteral("it does not begin with <!DOCTYPE batch>");
 }
 
+/// The name that the job carries; a document does not take it over from its text.
+QString NameOf(const QString& text)
+{
+    QXmlStreamReader reader(text);
+    reader.readNextStartElement();
+    return reader.attributes().value(QLatin1String("name")).toString();
+}
+
 } // namespace
 
 bool CanBeSaved(const QString& text)
@@ -73,6 +81,7 @@ void LoadJob(ZTBatchDocument& job, const QString& path)
     if (!job.Deserialize(text)) {
         throw UsageError{QStringLiteral("%1 is no batch job: %2").arg(path, Reason(text))};
     }
+    job.SetDocumentName(NameOf(text));
     job.SetFileName(path);
 }
 

@@ -332,8 +332,13 @@ ExitCode RunJob(const ParsedArguments& arguments)
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(end.jobError));
     }
     if (end.isServerLost && end.written + end.skipped + end.failed == 0) {
-        WriteErrorLine(QStringLiteral("velkora-batch: no server works; VelkoraBatchProcessing belongs beside %1.")
-                           .arg(QCoreApplication::applicationFilePath()));
+        WriteErrorLine(
+            RunController::IsServerThere()
+                ? QStringLiteral(
+                      "velkora-batch: the server ends before it has done anything; what it had to say stands "
+                      "above.")
+                : QStringLiteral("velkora-batch: no server works; VelkoraBatchProcessing belongs beside %1.")
+                      .arg(QCoreApplication::applicationFilePath()));
     }
     if (report && !report->Error().isEmpty()) {
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(report->Error()));

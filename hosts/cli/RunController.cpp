@@ -6,6 +6,9 @@
 
 #include <RunJournal.h>
 
+#include <QCoreApplication>
+#include <QStandardPaths>
+
 namespace BatchCli {
 
 namespace {
@@ -14,6 +17,9 @@ using Session = ZTBatchManager::ZTBatchSession;
 
 /// A server that dies more often than this has no use for another one.
 constexpr int mostLives = 10;
+
+/// Nor has one that dies so often in a row before it has begun with a picture.
+constexpr int mostIdleLives = 3;
 
 /// Nothing was wrong with a picture whose name is taken or whose format cannot be written.
 bool IsSkip(int errorCode)
@@ -312,6 +318,13 @@ QVector<QPair<int, FileResult>> RunController::JournaledResults() const
     return results;
 }
 
+bool RunController::IsServerThere()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("VelkoraBatchProcessing"),
+                                           {QCoreApplication::applicationDirPath()})
+                .isEmpty();
+}
+
 /// Lets the next server know over which inputs the last one has died.
 void RunController::NoteLoss(const QStringList& lost) const
 {
@@ -354,7 +367,8 @@ void RunController::OnServerGone()
     const QStringList lost = inWork;
     inWork.clear();
     NoteLoss(lost);
-    const bool goesOn = !journalPath.isEmpty() && lives < mostLives && (settledInThisLife > 0 || !lost.isEmpty());
+    idleLives = settledInThisLife > 0 || !lost.isEmpty() ? 0 : idleLives + 1;
+    const bool goesOn = !journalPath.isEmpty() && IsServerThere() && lives < mostLives && idleLives < mostIdleLives;
     for (RunObserver* const observer : observers) {
         observer->OnServerLost(lost, goesOn);
     }

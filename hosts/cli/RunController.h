@@ -42,6 +42,9 @@ public:
     /// The answer to the open question, a value of the policy's.
     void Answer(int value, bool isForTheRest);
 
+    /// Whether there is a server that can be started.
+    static bool IsServerThere();
+
 Q_SIGNALS:
     /// The server waits for Answer().
     void Question(PolicyKind kind, const QString& input, const QString& output, const QString& reason);
@@ -87,6 +90,7 @@ private:
     std::optional<PolicyKind> question;
     int lives = 0; ///< servers that were started
     int settledInThisLife = 0;
+    int idleLives = 0; ///< how many of the last ones ended before they had begun with a picture
 };
 
 } // namespace BatchCli

@@ -5,6 +5,7 @@
 
 #include "ZTBatchMessage.h"
 
+#include <QFileInfo>
 #include <QMap>
 
 namespace BatchCli {
@@ -35,7 +36,29 @@ QString DescriptionOf(int errorCode)
     return text.endsWith(QLatin1Char('.')) ? text.chopped(1) : text;
 }
 
+QString Listed(const QStringList& paths)
+{
+    constexpr int most = 3;
+    const QString first = paths.mid(0, most).join(QStringLiteral(", "));
+    return paths.size() > most ? first + QStringLiteral(", ...") : first;
+}
+
+/// How long a run took; ProgressText's times are of what is left, in whole seconds.
+QString TimeTaken(double seconds)
+{
+    constexpr double minute = 60;
+    return seconds < minute ? QStringLiteral("%1 s").arg(seconds, 0, 'f', 1) : DurationText(seconds);
+}
+
 } // namespace
+
+void RunSummary::OnEarlierResult(const FileResult& result)
+{
+    OnResult(result, 0, 0);
+    if (result.kind == FileResult::Kind::Written && !QFileInfo::exists(result.output)) {
+        gone.append(result.output);
+    }
+}
 
 void RunSummary::OnResult(const FileResult& result, int, int)
 {
@@ -52,8 +75,13 @@ void RunSummary::OnEnd(const RunEnd& end)
     const double rate = end.seconds > 0 ? end.written / end.seconds : 0;
     WriteError(Row(QStringLiteral("Written"), end.written,
                    QStringLiteral("  to %1, in %2 (%3 a second)")
-                       .arg(end.outputFolder, DurationText(end.seconds), QString::number(rate, 'f', 1)),
+                       .arg(end.outputFolder, TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
                    Colour::Green));
+    if (!gone.isEmpty()) {
+        WriteErrorLine(QStringLiteral("    %1 of them, written before the interruption, %2 not there any more: %3")
+                           .arg(QString::number(gone.size()),
+                                gone.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"), Listed(gone)));
+    }
     Write(FileResult::Kind::Skipped, end.skipped);
     Write(FileResult::Kind::Failed, end.failed);
     if (end.NotProcessed() > 0) {

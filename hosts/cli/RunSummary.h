@@ -8,7 +8,7 @@ namespace BatchCli {
 class RunSummary : public RunObserver
 {
 public:
-    void OnEarlierResult(const FileResult& result) override { OnResult(result, 0, 0); }
+    void OnEarlierResult(const FileResult& result) override;
     void OnResult(const FileResult& result, int done, int files) override;
     void OnEnd(const RunEnd& end) override;
 
@@ -16,6 +16,7 @@ private:
     void Write(FileResult::Kind kind, int count) const;
 
     QVector<FileResult> unwritten;
+    QStringList gone; ///< results of an earlier part of the run that somebody has taken away
 };
 
 } // namespace BatchCli

@@ -104,9 +104,9 @@ void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
     bool isNumber = false;
     imageSize.size = QLocale::c().toDouble(number.trimmed(), &isNumber);
     if (!isNumber || !(imageSize.size > 0) || imageSize.size > largestSide) {
-        throw UsageError{QStringLiteral("\"%1\" is no length above 0, such as 1600, 50%, 8in, 20cm or 200mm; \"none\" "
-                                        "keeps the size")
-                             .arg(text)};
+        throw UsageError{QStringLiteral("\"%1\" is no length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
+                                        "200mm; \"none\" keeps the size")
+                             .arg(text, QString::number(largestSide))};
     }
 }
 

@@ -187,6 +187,7 @@ void tst_CliOptions::WrongValuesAreExplained_data()
     row("--name", "number:x", "no whole number");
     row("--name", "number:1:21", "from 1 to 20");
     row("--size", "0", "no length above 0");
+    row("--size", "1000001", "no length above 0 and up to 1000000, such as");
     row("--size", "-5", "no length above 0");
     row("--size", "5 miles", "no length above 0");
     row("--size", "nan", "no length above 0");

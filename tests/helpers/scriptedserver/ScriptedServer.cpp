@@ -80,6 +80,10 @@ void ScriptedServer::Do(const QString& action)
         Note(action);
     } else if (verb == QLatin1String("disconnect")) {
         m_latest->disconnectFromServer();
+    } else if (verb == QLatin1String("next")) {
+        const QString script = m_basePath + QStringLiteral(".script");
+        QFile::remove(script);
+        QFile::rename(script + QStringLiteral(".next"), script);
     } else if (verb == QLatin1String("exit")) {
         EndAtOnce(words.value(1).toInt());
     } else if (verb == QLatin1String("crash")) {

@@ -25,6 +25,7 @@ class QLocalSocket;
 ///     flood COUNT       progress messages 0 to COUNT - 1 in one burst; the event "flood NS" tells when it began
 ///     note TEXT         an event
 ///     disconnect        drops the latest connection
+///     next              servers that start from now on play "<executable>.script.next"
 ///     exit CODE, crash, abort, hang
 class ScriptedServer : public QObject
 {

@@ -1,17 +1,13 @@
 #include "CliStage.h"
 
+#include "ProgramFiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
-
-#ifdef Q_OS_WIN
-const QString suffix = QStringLiteral(".exe");
-#else
-const QString suffix;
-#endif
 
 const QString serverName = QStringLiteral("VelkoraBatchProcessing");
 
@@ -43,7 +39,17 @@ QString CliStage::Program() const
 
 void CliStage::Play(const QStringList& rules) const
 {
-    QFile file(Executable(serverName) + QStringLiteral(".script"));
+    WriteScript(QStringLiteral(".script"), rules);
+}
+
+void CliStage::PlayNext(const QStringList& rules) const
+{
+    WriteScript(QStringLiteral(".script.next"), rules);
+}
+
+void CliStage::WriteScript(const QString& ending, const QStringList& rules) const
+{
+    QFile file(Executable(serverName) + ending);
     const QByteArray text = rules.join(QLatin1Char('\n')).toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
         qFatal("The script cannot be written: %s", qUtf8Printable(file.errorString()));
@@ -83,12 +89,12 @@ QStringList CliStage::Arguments(const QString& arguments) const
 
 QString CliStage::Executable(const QString& name) const
 {
-    return programs.filePath(name + suffix);
+    return programs.filePath(ProgramFileName(name));
 }
 
 void CliStage::Place(const QString& built, const QString& name) const
 {
-    const QString from = QDir(QCoreApplication::applicationDirPath()).filePath(built + suffix);
+    const QString from = BuiltProgram(built);
     if (!QFile::copy(from, Executable(name))) {
         qFatal("%s cannot be copied", qUtf8Printable(from));
     }

@@ -25,6 +25,9 @@ public:
     /// The rules of the scripted server, for servers that start from now on.
     void Play(const QStringList& rules) const;
 
+    /// The rules for servers that start after one has done the action "next".
+    void PlayNext(const QStringList& rules) const;
+
     /// The absolute path of `name` in the folder in which the program works.
     QString Path(const QString& name) const { return work.filePath(name); }
 
@@ -53,6 +56,7 @@ private:
     Q_DISABLE_COPY(CliStage)
 
     QString Executable(const QString& name) const;
+    void WriteScript(const QString& ending, const QStringList& rules) const;
     void Place(const QString& built, const QString& name) const;
 
     QTemporaryDir programs;

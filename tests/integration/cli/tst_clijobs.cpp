@@ -19,6 +19,10 @@ private Q_SLOTS:
     void VersionAndHelp();
     void CreateWritesTheJob();
     void SavedJobsAreOverridden();
+    void NamesOfJobsStay();
+    void JobsWithoutPictures();
+    void InputsNamedTwice_data();
+    void InputsNamedTwice();
     void JobsGoToStandardOutput();
     void ShowTellsEverything();
     void FilesAreNotReplacedUnasked();
@@ -118,6 +122,61 @@ void tst_CliJobs::SavedJobsAreOverridden()
     QCOMPARE(job.GetStyle()->GetEffectCount(), 0);
 }
 
+void tst_CliJobs::NamesOfJobsStay()
+{
+    QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"), QStringLiteral("-ox"),
+                  QStringLiteral("--job-name"), QStringLiteral("Holidays & \"more\"")})
+                 .exitCode,
+             0);
+    QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("b.xml"), QStringLiteral("--from"), QStringLiteral("a.xml")})
+                 .exitCode,
+             0);
+    const CliRun show = Run({QStringLiteral("show"), QStringLiteral("b.xml")});
+    QVERIFY2(show.out.contains("Holidays & \"more\"\n"), show.out.constData());
+    QFile saved(Path(QStringLiteral("b.xml")));
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QVERIFY(saved.readAll().contains("name=\"Holidays &amp; &quot;more&quot;\""));
+}
+
+void tst_CliJobs::JobsWithoutPictures()
+{
+    const CliRun create = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("-ox")});
+    QCOMPARE(create.exitCode, 0);
+    QCOMPARE(create.err, QByteArray("a.xml: a job without pictures; run and plan take them behind its name.\n"));
+    const CliRun later = Run({QStringLiteral("create"), QStringLiteral("b.xml"), QStringLiteral("--from"),
+                              QStringLiteral("a.xml"), QStringLiteral("photos/1.jpg")});
+    QCOMPARE(later.exitCode, 0);
+    QCOMPARE(later.err, QByteArray("b.xml: a job of 1 picture.\n"));
+}
+
+/// In whatever order they are named.
+void tst_CliJobs::InputsNamedTwice_data()
+{
+    QTest::addColumn<QString>("inputs");
+    QTest::addColumn<QByteArray>("told");
+    QTest::newRow("folder first") << QStringLiteral("photos photos/1.jpg") << QByteArray("photos/1.jpg");
+    QTest::newRow("file first") << QStringLiteral("photos/1.jpg photos") << QByteArray();
+    QTest::newRow("the same file") << QStringLiteral("photos/1.jpg photos/2.png photos/1.jpg")
+                                   << QByteArray("photos/1.jpg");
+}
+
+void tst_CliJobs::InputsNamedTwice()
+{
+    QFETCH(QString, inputs);
+    QFETCH(QByteArray, told);
+    const QStringList arguments =
+        QStringList{QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("-ox")} +
+        inputs.split(QLatin1Char(' '));
+    const CliRun run = Run(arguments);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.err.endsWith("a.xml: a job of 2 pictures.\n"), run.err.constData());
+    QCOMPARE(run.err.count("is in the job already."), told.isEmpty() ? 0 : 1);
+    QVERIFY(run.Err().contains(QString::fromUtf8(told)));
+    const CliRun quiet = Run(arguments + QStringList{QStringLiteral("-q"), QStringLiteral("--force")});
+    QCOMPARE(quiet.exitCode, 0);
+    QVERIFY2(quiet.err.isEmpty(), quiet.err.constData());
+}
+
 void tst_CliJobs::JobsGoToStandardOutput()
 {
     const CliRun run = Run({QStringLiteral("create"), QStringLiteral("-"), QStringLiteral("photos"),
@@ -206,12 +265,15 @@ void tst_CliJobs::WrongJobsAreExplained_data()
     row("no arguments", "", none, "a command is needed");
     row("no file", "create", none, "JOB.xml INPUT...");
     row("no job's name", "create photos -ox", none, "its name ends with .xml");
-    row("no inputs", "create a.xml -ox", none, "there is no picture");
     row("empty folder", "create a.xml empty -ox", none, "there is no picture");
     row("no output", "create a.xml photos", none, "--output DIR says it");
     row("missing input", "create a.xml nothing.jpg -ox", none, "nothing.jpg does not exist");
     row("missing job", "show nothing.xml", none, "nothing.xml cannot be read");
     row("folder as job", "show folder.xml", none, "folder.xml cannot be read");
+    row("name that an option has elsewhere", "show photos --json", none,
+        "unknown option --json; \"velkora-batch show --help\" lists the options");
+    row("option twice", "create a.xml photos -ox --format png --format jpeg", none,
+        "--format is given 2 times and takes one value; leave \"png\" or \"jpeg\" out");
     row("wrong option", "create a.xml photos --ouput x", none, "did you mean \"--output\"?");
     row("wrong effect", "create a.xml photos -ox --effect blurr", none, "did you mean \"blur\"?");
     row("cannot be written", "create nowhere/a.xml photos -ox", none, "nowhere/a.xml cannot be written");

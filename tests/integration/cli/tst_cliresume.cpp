@@ -256,12 +256,17 @@ void tst_CliResume::InterruptKeepsTheRun()
     QVERIFY(process.readAllStandardError().contains("run --resume -o"));
     const int written = FilesBelow(Path(QStringLiteral("out/a"))).size();
     QVERIFY(written > 0);
+    const QString taken = Path(QStringLiteral("out/a/1.jpg"));
+    QVERIFY(QFile::remove(taken));
     const CliRun rest = Run(QStringLiteral("run --resume -o out"));
     QVERIFY2(rest.exitCode == 0, rest.err.constData());
     QVERIFY2(rest.err.contains("[12/12] "), rest.err.constData());
     QVERIFY2(!rest.err.contains("[1/12] "), rest.err.constData());
     QVERIFY2(rest.err.contains("Written            12"), rest.err.constData());
-    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
+    QVERIFY2(rest.Err().contains(QStringLiteral("1 of them, written before the interruption, is not there any more: ") +
+                                 taken),
+             rest.err.constData());
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 11);
 }
 
 void tst_CliResume::NothingToResume()

@@ -21,13 +21,14 @@ private Q_SLOTS:
     void QuestionsWithoutATerminal();
     void ServersThatEnd_data();
     void ServersThatEnd();
+    void ServerThatEndsFirstThing();
     void NoServer();
     void SecondRunAtATime();
 
 private:
     QString Field(const QString& name) const { return QStringLiteral("s:") + Encoded(stage->Path(name)); }
     static QString Encoded(const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
-    void PlayThreeResults() const;
+    QStringList ThreeResults() const;
 
     std::unique_ptr<CliStage> stage;
 };
@@ -41,7 +42,7 @@ void tst_CliScripted::init()
 }
 
 /// The first is written, the second cannot be read, the name of the third is taken.
-void tst_CliScripted::PlayThreeResults() const
+QStringList tst_CliScripted::ThreeResults() const
 {
     const QString first = Field(QStringLiteral("photos/1.jpg"));
     const QString second = Field(QStringLiteral("photos/2.jpg"));
@@ -62,12 +63,12 @@ void tst_CliScripted::PlayThreeResults() const
         QStringLiteral("send 7 id i:3"),
         QStringLiteral("send 6 id"),
     };
-    stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))});
+    return {QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))};
 }
 
 void tst_CliScripted::ResultsAreTold()
 {
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QVERIFY2(run.exitCode == 1, run.err.constData());
     QVERIFY(run.out.isEmpty());
@@ -90,7 +91,7 @@ void tst_CliScripted::ResultsAreTold()
 
 void tst_CliScripted::QuietSaysProblemsOnly()
 {
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out -q"));
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.startsWith("failed ") && run.err.count('\n') == 2, run.err.constData());
@@ -98,7 +99,7 @@ void tst_CliScripted::QuietSaysProblemsOnly()
 
 void tst_CliScripted::EventsAreJson()
 {
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --json -q"));
     QCOMPARE(run.exitCode, 1);
     QStringList names;
@@ -118,7 +119,7 @@ void tst_CliScripted::EventsAreJson()
 
 void tst_CliScripted::ReportsListEveryInput()
 {
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     QCOMPARE(stage->Run(QStringLiteral("run photos -o out -q --report r.csv")).exitCode, 1);
     const QList<QByteArray> lines = stage->Content(QStringLiteral("r.csv")).split('\n');
     QCOMPARE(lines.size(), 5);
@@ -140,7 +141,7 @@ void tst_CliScripted::RefusedJobs()
 
 void tst_CliScripted::QuestionsWithoutATerminal()
 {
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --on-input-error stop"));
     QVERIFY2(run.err.contains("nobody can be asked"), run.err.constData());
     QVERIFY2(run.err.contains("--on-name-exists") && !run.err.contains("--on-input-error"), run.err.constData());
@@ -161,11 +162,24 @@ void tst_CliScripted::ServersThatEnd()
     stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + end});
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(run.err.contains("velkora-batch: the server ended unexpectedly.\n"), run.err.constData());
+    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one goes on.\n"), 2);
+    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly.\n"), 1);
+    QVERIFY2(run.err.contains("the server ends before it has done anything"), run.err.constData());
     QVERIFY2(run.err.contains("Not processed       3\n"), run.err.constData());
     // It can be taken up.
     QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
     QCOMPARE(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).size(), 1);
+}
+
+void tst_CliScripted::ServerThatEndsFirstThing()
+{
+    stage->PlayNext(ThreeResults());
+    stage->Play({QStringLiteral("start: next; exit 7")});
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QCOMPARE(run.err.count("the server ended unexpectedly"), 1);
+    QVERIFY2(run.err.contains("Written             1"), run.err.constData());
+    QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).isEmpty());
 }
 
 void tst_CliScripted::NoServer()
@@ -175,6 +189,7 @@ void tst_CliScripted::NoServer()
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 3);
     QVERIFY2(run.err.contains("no server works; VelkoraBatchProcessing belongs beside "), run.err.constData());
+    QCOMPARE(run.err.count("a new one goes on"), 0);
 }
 
 void tst_CliScripted::SecondRunAtATime()
@@ -190,7 +205,7 @@ void tst_CliScripted::SecondRunAtATime()
         QVERIFY2(first.waitForReadyRead(60'000), events.constData());
         events += first.readAllStandardOutput();
     }
-    PlayThreeResults();
+    stage->Play(ThreeResults());
     const CliRun second = stage->Run(QStringLiteral("run photos -o elsewhere"));
 #ifdef Q_OS_WIN
     QCOMPARE(second.exitCode, 3);
