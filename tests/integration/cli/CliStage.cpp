@@ -19,9 +19,11 @@ CliStage::CliStage(Server server)
     Place(QStringLiteral("velkora-batch"), QStringLiteral("velkora-batch"));
     if (server == Server::Scripted) {
         Place(QStringLiteral("scriptedserver"), serverName);
-    } else if (server == Server::StandIn) {
+    } else if (server != Server::Missing) {
         Place(serverName, serverName);
-        Place(QStringLiteral("standinworker"), QStringLiteral("VelkoraBatchWorker"));
+    }
+    if (server == Server::StandIn) {
+        PlaceWorker();
     }
     environment.insert(QStringLiteral("TMPDIR"), programs.path());
     environment.insert(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("2"));
@@ -35,6 +37,11 @@ CliStage::CliStage(Server server)
 QString CliStage::Program() const
 {
     return Executable(QStringLiteral("velkora-batch"));
+}
+
+void CliStage::PlaceWorker() const
+{
+    Place(QStringLiteral("standinworker"), QStringLiteral("VelkoraBatchWorker"));
 }
 
 void CliStage::Play(const QStringList& rules) const

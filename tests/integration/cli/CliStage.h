@@ -14,13 +14,17 @@ class CliStage
 public:
     enum class Server {
         Missing,
-        Scripted, ///< see tests/helpers/scriptedserver
-        StandIn   ///< the real one, with the worker of tests/helpers/standinworker
+        Scripted,      ///< see tests/helpers/scriptedserver
+        WithoutWorker, ///< the real one alone
+        StandIn        ///< the real one, with the worker of tests/helpers/standinworker
     };
 
     explicit CliStage(Server server);
 
     QString Program() const;
+
+    /// Makes of a stage without worker one with a stand-in.
+    void PlaceWorker() const;
 
     /// The rules of the scripted server, for servers that start from now on.
     void Play(const QStringList& rules) const;

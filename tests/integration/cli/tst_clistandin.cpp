@@ -17,6 +17,7 @@ private Q_SLOTS:
     void FilesAreWritten();
     void SavedJobsAreRun();
     void BrokenWorkersCostOneFile();
+    void NoWorker();
     void NamesThatAreTaken_data();
     void NamesThatAreTaken();
     void PlanTellsWhatRunDoes_data();
@@ -87,6 +88,22 @@ void tst_CliStandIn::BrokenWorkersCostOneFile()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.contains("failed " + bad.toUtf8() + ": "), run.err.constData());
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("3.png")}));
+}
+
+// The run is kept for when there is a worker.
+void tst_CliStandIn::NoWorker()
+{
+    stage = std::make_unique<CliStage>(CliStage::Server::WithoutWorker);
+    stage->Write(QStringLiteral("photos/1.jpg"), "1");
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out --format png --suffix text:x"));
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.err.contains("velkora-batch: no worker works; VelkoraBatchWorker belongs beside "),
+             run.err.constData());
+    QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
+    stage->PlaceWorker();
+    const CliRun rest = stage->Run(QStringLiteral("run --resume -o out"));
+    QVERIFY2(rest.exitCode == 0, rest.err.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1x.png")}));
 }
 
 void tst_CliStandIn::NamesThatAreTaken_data()
