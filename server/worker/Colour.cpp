@@ -49,10 +49,12 @@ Picture Transformed(const Picture& picture, const char* profile)
 Picture FittingProfile(const Picture& picture, QStringList& warnings)
 {
     const QByteArray profile = ProfileOf(picture);
-    if (profile.isEmpty() || KindOfProfile(profile) == KindOf(picture)) {
+    const std::optional<ColourKind> kind = KindOfProfile(profile);
+    if (profile.isEmpty() || kind == KindOf(picture)) {
         return picture;
     }
-    warnings.append(QStringLiteral("the embedded colour profile does not fit the picture and is not used"));
+    warnings.append(kind ? QStringLiteral("the embedded colour profile does not fit the picture and is not used")
+                         : QStringLiteral("the embedded colour profile is damaged and is not used"));
     return WithProfile(picture, {});
 }
 

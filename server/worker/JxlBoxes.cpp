@@ -1,12 +1,13 @@
 #include "JxlBoxes.h"
 
+#include "BoxFile.h"
+
 #include <QFile>
 #include <QtEndian>
 
 #include <brotli/decode.h>
 
 #include <memory>
-#include <optional>
 
 namespace BatchServer {
 
@@ -14,30 +15,6 @@ namespace {
 
 // Far more than metadata are, far less than a worker may take.
 constexpr qint64 largestContent = qint64(64) << 20;
-constexpr int typeSize = 4;
-
-struct Box
-{
-    QByteArray type;
-    qint64 size = 0; ///< of the content
-};
-
-std::optional<Box> NextBox(QFile& file)
-{
-    constexpr int headerSize = 8;
-    const QByteArray header = file.read(headerSize);
-    if (header.size() < headerSize) {
-        return std::nullopt;
-    }
-    qint64 size = qFromBigEndian<quint32>(header.constData());
-    if (size == 0) {
-        size = headerSize + file.size() - file.pos(); // up to the file's end
-    }
-    if (size < headerSize || size - headerSize > file.size() - file.pos()) {
-        return std::nullopt;
-    }
-    return Box{header.mid(typeSize), size - headerSize};
-}
 
 QByteArray Unpacked(const QByteArray& packed)
 {
@@ -87,16 +64,16 @@ JxlMetadata ReadJxlMetadata(const QString& path)
     JxlMetadata metadata;
     QFile file(path);
     constexpr int enough = 12;
-    if (!file.open(QIODevice::ReadOnly) || file.peek(enough).mid(typeSize, typeSize) != "JXL ") {
+    if (!file.open(QIODevice::ReadOnly) || file.peek(enough).mid(boxTypeSize, boxTypeSize) != "JXL ") {
         return metadata; // the bare pixels
     }
-    while (const std::optional<Box> box = NextBox(file)) {
+    while (const std::optional<BoxHeader> box = NextBox(file)) {
         const qint64 end = file.pos() + box->size;
         const bool isPacked = box->type == "brob";
         if ((isPacked || box->type == "Exif" || box->type == "xml ") && box->size <= largestContent) {
             const QByteArray content = file.read(box->size);
             if (isPacked) {
-                Take(content.left(typeSize), Unpacked(content.mid(typeSize)), metadata);
+                Take(content.left(boxTypeSize), Unpacked(content.mid(boxTypeSize)), metadata);
             } else {
                 Take(box->type, content, metadata);
             }

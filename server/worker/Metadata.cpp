@@ -1,7 +1,6 @@
 #include "Metadata.h"
 
-#include "JxlBoxes.h"
-#include "PictureSource.h"
+#include "MetadataReader.h"
 
 #include <QFile>
 
@@ -11,12 +10,8 @@
 
 namespace BatchServer {
 
-struct Metadata::Private
+struct Metadata::Private : MetadataBlocks
 {
-    Exiv2::ExifData exif;
-    Exiv2::IptcData iptc;
-    Exiv2::XmpData xmp;
-    QByteArray profile;
 };
 
 namespace {
@@ -28,43 +23,6 @@ void StartExiv2()
         return Exiv2::XmpParser::initialize();
     }();
     Q_UNUSED(isStarted)
-}
-
-// The formats whose files the metadata library reads by itself; of the others the decoder hands the blocks over.
-bool IsReadFromFile(const QString& format)
-{
-    const QStringList formats{QStringLiteral("JPEG"), QStringLiteral("PNG"), QStringLiteral("TIFF"),
-                              QStringLiteral("WebP"), QStringLiteral("RAW"), QStringLiteral("JPEG 2000")};
-    return formats.contains(format);
-}
-
-QByteArray Block(const Picture& header, const char* name)
-{
-    if (header.get_typeof(name) == 0) {
-        return {};
-    }
-    std::size_t size = 0;
-    const void* bytes = header.get_blob(name, &size);
-    return {static_cast<const char*>(bytes), int(size)};
-}
-
-// The library takes XMP in HEIF files for something else when it stands in a wrapper.
-QByteArray XmpBlock(const Picture& header)
-{
-    const QByteArray known = Block(header, VIPS_META_XMP_NAME);
-    if (!known.isEmpty()) {
-        return known;
-    }
-    const std::unique_ptr<gchar*, decltype(&g_strfreev)> fields(vips_image_get_fields(header.get_image()), g_strfreev);
-    for (gchar** field = fields.get(); *field; ++field) {
-        if (QByteArray(*field).startsWith("heif-mime")) {
-            const QByteArray block = Block(header, *field);
-            if (block.startsWith("<?xpacket")) {
-                return block;
-            }
-        }
-    }
-    return {};
 }
 
 bool IsAmong(int tag, std::initializer_list<std::pair<int, int>> ranges)
@@ -152,35 +110,7 @@ Metadata& Metadata::operator=(Metadata&& other) noexcept = default;
 Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringList& warnings)
 {
     Metadata metadata;
-    try {
-        if (IsReadFromFile(source.Format())) {
-            const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
-            image->readMetadata();
-            metadata.d->exif = image->exifData();
-            metadata.d->iptc = image->iptcData();
-            metadata.d->xmp = image->xmpData();
-            if (source.Format() == QLatin1String("JPEG 2000") && image->iccProfileDefined()) {
-                const Exiv2::DataBuf& profile = *image->iccProfile();
-                metadata.d->profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
-            }
-            return metadata;
-        }
-        const bool isJxl = source.Format() == QLatin1String("JPEG XL");
-        const JxlMetadata boxes = isJxl ? ReadJxlMetadata(file) : JxlMetadata();
-        QByteArray exif = isJxl ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
-        const QByteArray start("Exif\0\0", 6);
-        exif = exif.startsWith(start) ? exif.mid(start.size()) : exif;
-        if (!exif.isEmpty()) {
-            Exiv2::ExifParser::decode(metadata.d->exif, Data(exif), std::uint32_t(exif.size()));
-        }
-        const QByteArray xmp = isJxl ? boxes.xmp : XmpBlock(source.Header());
-        if (!xmp.isEmpty()) {
-            Exiv2::XmpParser::decode(metadata.d->xmp, xmp.toStdString());
-        }
-    } catch (const Exiv2::AnyError& problem) {
-        warnings.append(
-            QStringLiteral("metadata cannot be read and are left out: %1").arg(QString::fromUtf8(problem.what())));
-    }
+    static_cast<MetadataBlocks&>(*metadata.d) = ReadMetadata(file, source, warnings);
     return metadata;
 }
 

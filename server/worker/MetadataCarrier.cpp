@@ -1,5 +1,7 @@
 #include "MetadataCarrier.h"
 
+#include "BoxFile.h"
+
 #include <QFileInfo>
 #include <QtEndian>
 
@@ -88,12 +90,6 @@ QByteArray IptcResource(const QByteArray& records)
     const QByteArray padding(records.size() % 2, '\0');
     return QByteArray("Photoshop 3.0\0", 14) + "8BIM" + BigEndian(quint16(0x0404)) + QByteArray(2, '\0') +
            BigEndian(quint32(records.size())) + records + padding;
-}
-
-QByteArray Box(const char* type, const QByteArray& content)
-{
-    constexpr int header = 8;
-    return BigEndian(quint32(content.size() + header)) + type + content;
 }
 
 } // namespace

@@ -158,6 +158,8 @@ private Q_SLOTS:
     void survivesBrokenBoxes_data();
     void survivesBrokenBoxes();
     void survivesBrokenMetadata();
+    void readsMetadataBesideBrokenProfiles_data();
+    void readsMetadataBesideBrokenProfiles();
     void leavesOutWhatAJpegCannotHold();
     void keepsTheFileTime_data();
     void keepsTheFileTime();
@@ -374,6 +376,54 @@ void WorkerMetadataTest::survivesBrokenMetadata()
     bench->WriteBytes(Text("in.jpg"), bytes);
     QCOMPARE(bench->Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG")).reason, QString());
     QCOMPARE(ReadPicture(bench->Path(Text("out.jpg"))).bands(), 3);
+}
+
+void WorkerMetadataTest::readsMetadataBesideBrokenProfiles_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QByteArray>("profile");
+    const QVector<QPair<const char*, QByteArray>> profiles{
+        {"of three bytes", QByteArray("abc")},
+        {"of nonsense", QByteArray("no profile at all")},
+        {"that says it is longer", BigEndian(100'000, 4) + QByteArray(400, '\x07')},
+        {"that says it is shorter", BigEndian(100, 4) + QByteArray(400, '\x07')},
+        {"of two segments", BigEndian(100'000, 4) + QByteArray(69'996, '\x07')},
+    };
+    for (const char* format : {"JPEG", "TIFF", "WebP", "JPEG 2000"}) {
+        for (const auto& profile : profiles) {
+            QTest::addRow("%s, %s", format, profile.first) << Text(format) << profile.second;
+        }
+    }
+}
+
+void WorkerMetadataTest::readsMetadataBesideBrokenProfiles()
+{
+    QFETCH(const QString, format);
+    QFETCH(const QByteArray, profile);
+
+    const QString name = Text("broken.") + FindFormat(format)->extensions.first();
+    WriteSource(Text("in.jpg"));
+    QCOMPARE(bench->Make(Text("in.jpg"), name, format).reason, QString());
+    {
+        const auto image = Exiv2::ImageFactory::open(bench->Path(name).toStdString());
+        image->readMetadata();
+        Exiv2::DataBuf bytes(reinterpret_cast<const Exiv2::byte*>(profile.constData()), profile.size());
+        image->setIccProfile(bytes, false);
+        image->writeMetadata();
+    }
+    const Report report = bench->Make(name, Text("out.jpg"), Text("JPEG"));
+    QCOMPARE(report.reason, QString());
+    const QString warnings = report.warnings.join(QLatin1Char('\n'));
+    QVERIFY2(warnings.contains(Text("colour profile is damaged")), qPrintable(warnings));
+    QVERIFY2(report.warnings.size() == 1, qPrintable(warnings));
+    const Found found = Read(*bench, Text("JPEG"));
+    QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
+    QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
+    QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
+    QCOMPARE(found.Iptc("Iptc.Application2.Caption"), HoldsIptc(format) ? Text("A caption") : QString());
+    QVERIFY(!found.hasProfile);
+    QCOMPARE(bench->Worker().Do(ProbeTask{1, bench->Path(name)}).captured,
+             QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 
 void WorkerMetadataTest::leavesOutWhatAJpegCannotHold()
