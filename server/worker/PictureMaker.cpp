@@ -38,6 +38,7 @@ public:
         , options(OptionsFor(format, job.formatOptions))
         , source(task.inputFile, job.limits)
     {
+        TellOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
         const QJsonArray kinds = options[QLatin1String("keep")].toArray();
         for (const QJsonValue& kind : kinds) {
@@ -48,6 +49,7 @@ public:
     MadePicture Make();
 
 private:
+    void TellOfOtherPages();
     bool KeepsInks() const;
     bool KeepsProfile() const { return keep.contains(QLatin1String("icc")) && HoldsProfile(format); }
     Geometry PlannedGeometry(const QSize& upright);
@@ -89,6 +91,17 @@ MadePicture PictureRun::Make()
     struct stat status;
     made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
     return std::move(made);
+}
+
+void PictureRun::TellOfOtherPages()
+{
+    const int pages = source.Pages();
+    if (pages > 1) {
+        const bool hasMain = source.Format() == QLatin1String("HEIF") || source.Format() == QLatin1String("AVIF");
+        made.warnings.append(QStringLiteral("it has %1 pages; only the %2 is used")
+                                 .arg(pages)
+                                 .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first")));
+    }
 }
 
 // Inks that nothing touches but crop and size stay what they are. To go by RGB would turn black into a mix of all four.

@@ -5,6 +5,7 @@
 #include "Orientation.h"
 #include "PictureFailure.h"
 #include "RawFile.h"
+#include "TiffPages.h"
 #include "VipsText.h"
 
 #include <QFile>
@@ -119,6 +120,16 @@ bool PictureSource::HasAlpha() const
 bool PictureSource::IsCmyk() const
 {
     return !raw && BatchServer::IsCmyk(header);
+}
+
+int PictureSource::Pages() const
+{
+    if (raw) {
+        return 1;
+    }
+    const int pages = vips_image_get_n_pages(header.get_image());
+    const bool hasSeveral = pages > 1;
+    return hasSeveral && format == QLatin1String("TIFF") ? CountTiffPages(file, pages) : pages;
 }
 
 int PictureSource::PossibleShrink(double reduction) const

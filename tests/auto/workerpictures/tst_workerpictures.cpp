@@ -102,6 +102,8 @@ private Q_SLOTS:
     void keepsGrey();
     void takesEveryKind_data();
     void takesEveryKind();
+    void tellsOfFurtherPages_data();
+    void tellsOfFurtherPages();
     void keepsTransparency_data();
     void keepsTransparency();
     void laysTransparencyOnTheBackground();
@@ -338,6 +340,44 @@ void WorkerPicturesTest::takesEveryKind()
         QCOMPARE(QSize(result.width(), result.height()), QSize(64, 40));
         QVERIFY(QFile::remove(bench->Path(NameIn(format))));
     }
+}
+
+void WorkerPicturesTest::tellsOfFurtherPages_data()
+{
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<QByteArray>("options");
+    QTest::addColumn<QStringList>("warnings");
+    const QStringList none;
+    const QStringList first{Text("it has 3 pages; only the first is used")};
+    const QStringList main{Text("it has 3 pages; only the main one is used")};
+    QTest::newRow("TIFF") << Text("tif") << QByteArray("page-height=30") << first;
+    QTest::newRow("TIFF, large") << Text("tif") << QByteArray("page-height=30,bigtiff") << first;
+    QTest::newRow("GIF") << Text("gif") << QByteArray("page-height=30") << first;
+    QTest::newRow("WebP") << Text("webp") << QByteArray("page-height=30") << first;
+    QTest::newRow("HEIF") << Text("heic") << QByteArray("page-height=30") << main;
+    QTest::newRow("AVIF") << Text("avif") << QByteArray("page-height=30") << main;
+    QTest::newRow("TIFF, one page") << Text("tif") << QByteArray("page-height=90") << none;
+    QTest::newRow("WebP, one page") << Text("webp") << QByteArray("page-height=90") << none;
+    const QByteArray withSmaller("pyramid,tile,tile-width=16,tile-height=16");
+    QTest::newRow("TIFF with smaller copies") << Text("tif") << withSmaller << none;
+    QTest::newRow("TIFF with smaller copies, large") << Text("tif") << withSmaller + ",bigtiff" << none;
+}
+
+void WorkerPicturesTest::tellsOfFurtherPages()
+{
+    QFETCH(const QString, extension);
+    QFETCH(const QByteArray, options);
+    QFETCH(const QStringList, warnings);
+
+    const QString name = Text("in.") + extension;
+    WritePicture(Chart(40, 90), bench->Path(name), '[' + options + ']');
+    const Report report = bench->Make(name, Text("out.png"), Text("PNG"));
+    QCOMPARE(report.reason, QString());
+    // Of large files the metadata cannot be read, which is said too.
+    QCOMPARE(report.warnings.filter(Text("pages")), warnings);
+    const Picture first = ReadPicture(bench->Path(name));
+    QCOMPARE(first.height(), warnings.isEmpty() ? 90 : 30);
+    QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), first), 0.0);
 }
 
 void WorkerPicturesTest::keepsTransparency_data()
