@@ -89,7 +89,9 @@ Picture WithProfile(const Picture& picture, const QByteArray& profile)
 Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings)
 {
     if (!IsCmyk(decoded)) {
-        return FittingProfile(InWorkingForm(decoded), warnings);
+        // What floating point means depends on the profile.
+        const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
+        return FittingProfile(InWorkingForm(known), warnings);
     }
     const Picture inks = FittingProfile(decoded, warnings);
     return keepsCmyk ? inks : Transformed(inks, builtInSrgb);

@@ -31,13 +31,48 @@ Picture Plain(const Picture& picture, bool isGrey)
     return Named(picture, isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
 }
 
+Picture WholeNumbers(const Picture& floats)
+{
+    constexpr double largest = 65535;
+    return floats.linear(largest, 0.5).cast(VIPS_FORMAT_USHORT);
+}
+
+Picture CodedLight(const Picture& light, bool isGrey)
+{
+    const Picture three = isGrey ? Picture::bandjoin({light, light, light}) : light;
+    const Picture coded = Named(three, VIPS_INTERPRETATION_scRGB).colourspace(VIPS_INTERPRETATION_RGB16);
+    return isGrey ? coded.extract_band(0) : coded;
+}
+
+Picture FromFloatingPoint(const Picture& decoded)
+{
+    const int colours = decoded.bands() < 3 ? 1 : 3;
+    const Picture values = decoded.extract_band(0, Picture::option()->set("n", colours));
+    const bool hasProfile = decoded.get_typeof(VIPS_META_ICC_NAME) != 0;
+    const Picture coded = hasProfile ? WholeNumbers(values) : CodedLight(values, colours == 1);
+    const Picture whole =
+        decoded.bands() > colours ? coded.bandjoin(WholeNumbers(decoded.extract_band(colours))) : coded;
+    return Plain(whole, colours == 1);
+}
+
 } // namespace
+
+bool IsFloatingPoint(const Picture& decoded)
+{
+    const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
+    const bool isKnown =
+        IsGrey(kind) || IsRgb(kind) || kind == VIPS_INTERPRETATION_scRGB || kind == VIPS_INTERPRETATION_MULTIBAND;
+    return isKnown && (decoded.format() == VIPS_FORMAT_FLOAT || decoded.format() == VIPS_FORMAT_DOUBLE);
+}
 
 Picture InWorkingForm(const Picture& decoded)
 {
     const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
     const bool hasPlainDepth = decoded.format() == VIPS_FORMAT_UCHAR || decoded.format() == VIPS_FORMAT_USHORT;
     const bool isPlain = hasPlainDepth && (IsGrey(kind) || IsRgb(kind) || kind == VIPS_INTERPRETATION_MULTIBAND);
+    if (IsFloatingPoint(decoded)) {
+        return FromFloatingPoint(decoded);
+    }
     if (!isPlain) {
         return InWorkingForm(Named(decoded, kind).colourspace(VIPS_INTERPRETATION_RGB16));
     }

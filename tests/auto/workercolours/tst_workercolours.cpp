@@ -9,6 +9,10 @@
 #include <QJsonArray>
 #include <QTest>
 
+#include <cmath>
+
+Q_DECLARE_METATYPE(std::vector<double>)
+
 using namespace BatchServer;
 
 namespace {
@@ -50,6 +54,12 @@ Picture Patches()
         .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
 }
 
+// The value of sRGB for one of linear light; source: IEC 61966-2-1.
+double SrgbOf(double light)
+{
+    return light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+}
+
 } // namespace
 
 /// Colours of results: profiles of sources, profiles of jobs, inks.
@@ -62,6 +72,8 @@ private Q_SLOTS:
     void init();
     void knowsKindsOfProfiles();
     void keepsTheProfileAndTheNumbers();
+    void readsFloatingPoint_data();
+    void readsFloatingPoint();
     void convertsToTheProfileOfTheJob_data();
     void convertsToTheProfileOfTheJob();
     void convertsWithoutProfileToSrgb();
@@ -108,6 +120,49 @@ void WorkerColoursTest::keepsTheProfileAndTheNumbers()
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     QCOMPARE(ProfileOf(result), profile);
     QCOMPARE(LargestDifference(result, Patches()), 0.0);
+}
+
+void WorkerColoursTest::readsFloatingPoint_data()
+{
+    QTest::addColumn<std::vector<double>>("values");
+    QTest::addColumn<int>("colours");
+    QTest::addColumn<bool>("hasProfile");
+    QTest::newRow("RGB") << std::vector<double>{0.1, 0.25, 0.8} << 3 << false;
+    QTest::newRow("RGB with alpha") << std::vector<double>{0.1, 0.25, 0.8, 0.4} << 3 << false;
+    QTest::newRow("grey") << std::vector<double>{0.25} << 1 << false;
+    QTest::newRow("grey with alpha") << std::vector<double>{0.25, 0.4} << 1 << false;
+    QTest::newRow("outside of the range") << std::vector<double>{-0.5, 0, 7.5} << 3 << false;
+    QTest::newRow("RGB with a profile") << std::vector<double>{0.1, 0.25, 0.8} << 3 << true;
+    QTest::newRow("RGB with alpha and a profile") << std::vector<double>{0.1, 0.25, 0.8, 0.4} << 3 << true;
+}
+
+/// Light without a profile, the values of the profile with one.
+void WorkerColoursTest::readsFloatingPoint()
+{
+    QFETCH(const std::vector<double>, values);
+    QFETCH(const int, colours);
+    QFETCH(const bool, hasProfile);
+
+    const Picture plain = (Picture::black(32, 32, Picture::option()->set("bands", int(values.size()))) + values)
+                              .cast(VIPS_FORMAT_FLOAT)
+                              .copy(Picture::option()->set("interpretation", colours == 1 ? VIPS_INTERPRETATION_B_W
+                                                                                          : VIPS_INTERPRETATION_scRGB));
+    WritePicture(hasProfile ? WithProfile(plain, BuiltIn("p3")) : plain, bench->Path(Text("in.tif")));
+    const Report report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.warnings, QStringList());
+    const Picture result = ReadPicture(bench->Path(Text("out.png")));
+    QCOMPARE(result.format(), VIPS_FORMAT_USHORT);
+    QCOMPARE(ProfileOf(result).isEmpty(), !hasProfile);
+    const std::vector<double> found = Middle(result);
+    QCOMPARE(found.size(), values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const bool isAlpha = int(i) >= colours;
+        const double bounded = std::min(1.0, std::max(0.0, values[i]));
+        const double expected = 65535 * (isAlpha || hasProfile ? bounded : SrgbOf(bounded));
+        QVERIFY2(std::abs(found[i] - expected) <= 40,
+                 qPrintable(QStringLiteral("%1 instead of %2").arg(found[i]).arg(expected)));
+    }
 }
 
 void WorkerColoursTest::convertsToTheProfileOfTheJob_data()
