@@ -218,6 +218,20 @@ void LearnDeepHeif(KnownEncoders& known)
     }
 }
 
+bool CarriesBlocks(const Picture& picture)
+{
+    return picture.get_typeof(VIPS_META_ICC_NAME) != 0 || picture.get_typeof(VIPS_META_XMP_NAME) != 0;
+}
+
+// These encoders make EXIF up where there is none, unless they leave out everything. To a JPEG file the rest can be
+// added later.
+bool IsStripped(const Saver& saver, const Picture& picture, bool withoutExif)
+{
+    const bool isJpeg = saver.setOptions == SetJpegOptions;
+    const bool isHeif = saver.operation == QByteArray("heifsave_target");
+    return withoutExif && (isJpeg || (isHeif && !CarriesBlocks(picture)));
+}
+
 } // namespace
 
 bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDeep)
@@ -260,12 +274,15 @@ Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const P
 }
 
 void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,
-            int descriptor)
+            bool withoutExif, int descriptor)
 {
     const Saver& saver = SaverOf(format);
     const ResultTarget result(descriptor, before);
     Options* set = Picture::option()->set("in", picture)->set("target", result.Target());
     saver.setOptions(set, options, picture);
+    if (IsStripped(saver, picture, withoutExif)) {
+        set->set("strip", true);
+    }
     const auto checkFile = [&result] {
         if (result.Problem() != 0) {
             vips_error_clear();

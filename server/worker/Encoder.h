@@ -22,10 +22,11 @@ QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, c
 /// `options`, which are complete.
 Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture);
 
-/// Writes `before`, then `picture`, which is ready for `format`, to the open and empty file `descriptor`. Throws
-/// PictureFailure of the case Output when the file cannot take it, and vips::VError for anything else, such as a source
-/// that proves damaged.
+/// Writes `before`, then `picture`, which is ready for `format`, to the open and empty file `descriptor`. A JPEG file
+/// that goes `withoutExif` gets no metadata at all, not even the profile; so does a HEIF or AVIF file for which
+/// `picture` has none. Else their encoders make EXIF up where there is none. Throws PictureFailure of the case Output
+/// when the file cannot take it, and vips::VError for anything else, such as a source that proves damaged.
 void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,
-            int descriptor);
+            bool withoutExif, int descriptor);
 
 } // namespace BatchServer

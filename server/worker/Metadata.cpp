@@ -12,6 +12,7 @@ namespace BatchServer {
 
 struct Metadata::Private : MetadataBlocks
 {
+    bool keepsExif = true;
 };
 
 namespace {
@@ -135,6 +136,7 @@ void Metadata::KeepOnly(const QStringList& kinds)
 {
     const bool keepsExif = kinds.contains(QLatin1String("exif"));
     const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
+    d->keepsExif = keepsExif;
     RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) { return IsPlace(entry) ? !keepsPlaces : !keepsExif; });
     if (!kinds.contains(QLatin1String("iptc"))) {
         d->iptc.clear();
@@ -145,6 +147,11 @@ void Metadata::KeepOnly(const QStringList& kinds)
     if (!keepsPlaces) {
         RemoveIf(d->xmp, IsPlaceInXmp);
     }
+}
+
+bool Metadata::GoWithoutExif() const
+{
+    return !d->keepsExif && d->exif.empty();
 }
 
 void Metadata::DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb)
@@ -182,6 +189,11 @@ void Metadata::MoveIptcToXmp()
         }
     }
     d->iptc.clear();
+}
+
+void Metadata::RemoveXmp()
+{
+    d->xmp.clear();
 }
 
 QByteArray Metadata::Exif(int longest) const

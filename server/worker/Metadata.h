@@ -36,12 +36,17 @@ public:
     /// too.
     void KeepOnly(const QStringList& kinds);
 
+    /// Whether EXIF was not to be kept and there is none, not even places: then the result has no such block.
+    bool GoWithoutExif() const;
+
     /// Brings what describes the pixels in line with the result: upright, `size` pixels, `dotsPerInch`. Takes out the
     /// preview of the source, and whatever described how its pixels were stored.
     void DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb);
 
     /// Takes the captions and keywords of IPTC over into XMP, for formats that have no place for IPTC.
     void MoveIptcToXmp();
+
+    void RemoveXmp();
 
     /// A whole EXIF block, beginning with its TIFF header; empty when there is nothing to say. With `longest` above 0
     /// the notes that only the camera's maker understands are left out of a longer block.

@@ -1,6 +1,7 @@
 #include "MetadataCarrier.h"
 
 #include "BoxFile.h"
+#include "WebpExif.h"
 
 #include <QFileInfo>
 #include <QtEndian>
@@ -38,6 +39,11 @@ bool IsJpeg(const FormatSchema& format)
     return format.name == QLatin1String("JPEG");
 }
 
+bool IsWebp(const FormatSchema& format)
+{
+    return format.name == QLatin1String("WebP");
+}
+
 bool IsTiff(const FormatSchema& format)
 {
     return format.name == QLatin1String("TIFF");
@@ -51,6 +57,12 @@ bool IsJpeg2000(const FormatSchema& format)
 bool IsJpegXl(const FormatSchema& format)
 {
     return format.name == QLatin1String("JPEG XL");
+}
+
+// The encoder writes either no block at all, or one of EXIF whatever it is given.
+bool IsStripped(const FormatSchema& format, const Metadata& metadata)
+{
+    return IsJpeg(format) && metadata.GoWithoutExif();
 }
 
 Picture WithoutMetadata(const Picture& picture)
@@ -129,7 +141,14 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     if (!exif.isEmpty() && fits(exif, "EXIF")) {
         SetBlock(carrier, VIPS_META_EXIF_NAME, QByteArray("Exif\0\0", 6) + exif);
     }
-    if (fits(xmp, "XMP")) {
+    const bool isXmpHeld = fits(xmp, "XMP");
+    if (IsStripped(format, metadata)) {
+        if (!isXmpHeld) {
+            metadata.RemoveXmp();
+        }
+        return carrier; // the rest comes after encoding
+    }
+    if (isXmpHeld) {
         SetBlock(carrier, VIPS_META_XMP_NAME, xmp);
     }
     if (places.iptc && fits(iptc, "IPTC")) {
@@ -162,8 +181,11 @@ QByteArray BytesBefore(const FormatSchema& format, const Metadata& metadata)
 void CompleteFile(const QString& fileName, const FormatSchema& format, const Metadata& metadata,
                   const QByteArray& profile, QStringList& warnings)
 {
-    const bool needsProfile = IsJpeg2000(format) && !profile.isEmpty();
-    const bool isCompleted = IsTiff(format) || IsJpeg2000(format);
+    if (IsWebp(format) && metadata.GoWithoutExif() && !RemoveExifFromWebp(fileName)) {
+        warnings.append(QStringLiteral("EXIF cannot be taken out of the result"));
+    }
+    const bool needsProfile = (IsJpeg2000(format) || IsStripped(format, metadata)) && !profile.isEmpty();
+    const bool isCompleted = IsTiff(format) || IsJpeg2000(format) || IsStripped(format, metadata);
     const bool needsBlocks = isCompleted && !metadata.IsEmpty();
     if (!needsProfile && !needsBlocks) {
         return;

@@ -283,9 +283,13 @@ void WorkerColoursTest::keepsInks_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("hasProfile");
     QTest::addColumn<double>("tolerance");
-    QTest::newRow("TIFF") << Text("TIFF") << Text("out.tif") << true << 0.0;
-    QTest::newRow("TIFF without profile") << Text("TIFF") << Text("out.tif") << false << 0.0;
-    QTest::newRow("JPEG") << Text("JPEG") << Text("out.jpg") << true << 2.0;
+    QTest::addColumn<QJsonObject>("options");
+    const QJsonObject none;
+    const QJsonObject onlyProfile{{Text("keep"), QJsonArray{Text("icc")}}};
+    QTest::newRow("TIFF") << Text("TIFF") << Text("out.tif") << true << 0.0 << none;
+    QTest::newRow("TIFF without profile") << Text("TIFF") << Text("out.tif") << false << 0.0 << none;
+    QTest::newRow("JPEG") << Text("JPEG") << Text("out.jpg") << true << 2.0 << none;
+    QTest::newRow("JPEG with nothing but the profile") << Text("JPEG") << Text("out.jpg") << true << 2.0 << onlyProfile;
 }
 
 void WorkerColoursTest::keepsInks()
@@ -294,11 +298,12 @@ void WorkerColoursTest::keepsInks()
     QFETCH(const QString, name);
     QFETCH(const bool, hasProfile);
     QFETCH(const double, tolerance);
+    QFETCH(const QJsonObject, options);
 
     // Black ink alone must stay black ink alone.
     const Picture black = Plain({0, 0, 0, 240}, VIPS_INTERPRETATION_CMYK);
     WritePicture(hasProfile ? WithProfile(black, BuiltIn("cmyk")) : black, bench->Path(Text("in.tif")));
-    const Report report = bench->Make(Text("in.tif"), name, format);
+    const Report report = bench->Make(Text("in.tif"), name, format, options);
     QCOMPARE(report.reason, QString());
     QCOMPARE(report.warnings, QStringList());
     const Picture result = ReadPicture(bench->Path(name));

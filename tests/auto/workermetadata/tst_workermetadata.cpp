@@ -150,6 +150,8 @@ private Q_SLOTS:
     void initTestCase();
     void keepsEachKind_data();
     void keepsEachKind();
+    void leavesTheWholeBlockOut_data();
+    void leavesTheWholeBlockOut();
     void describesTheResult_data();
     void describesTheResult();
     void takesMetadataOutOfOtherFormats_data();
@@ -244,6 +246,56 @@ void WorkerMetadataTest::keepsEachKind()
     QCOMPARE(found.hasProfile, keeps("icc"));
     const bool losesSomething = !holdsAny && keep != QStringList() && keep != QStringList(Text("icc"));
     QCOMPARE(report.warnings.isEmpty(), !losesSomething);
+}
+
+void WorkerMetadataTest::leavesTheWholeBlockOut_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QStringList>("keep");
+    const QVector<QPair<const char*, QStringList>> kinds{
+        {"nothing kept", {}},
+        {"profile kept", {Text("icc")}},
+        {"XMP and IPTC kept", {Text("xmp"), Text("iptc")}},
+        {"all but EXIF kept", {Text("iptc"), Text("xmp"), Text("icc")}},
+    };
+    for (const char* format : {"HEIF", "AVIF"}) {
+        QTest::addRow("%s, %s", format, kinds.first().first) << Text(format) << kinds.first().second;
+    }
+    for (const char* format : {"JPEG", "PNG", "WebP", "JPEG XL"}) {
+        for (const auto& kind : kinds) {
+            QTest::addRow("%s, %s", format, kind.first) << Text(format) << kind.second;
+        }
+    }
+}
+
+/// Where no EXIF is to be kept, the encoder makes none up.
+void WorkerMetadataTest::leavesTheWholeBlockOut()
+{
+    QFETCH(const QString, format);
+    QFETCH(const QStringList, keep);
+
+    WriteSource(Text("in.jpg"));
+    const auto make = [&](const QStringList& kinds) {
+        return bench->Make(Text("in.jpg"), NameIn(format), format, {{Text("keep"), QJsonArray::fromStringList(kinds)}});
+    };
+    const auto isBlockThere = [&] {
+        const QString file = bench->Path(NameIn(format));
+        const Picture picture = Picture::new_from_file(file.toUtf8().constData());
+        const bool isJxl = format == QLatin1String("JPEG XL");
+        return !Block(picture, VIPS_META_EXIF_NAME).isEmpty() ||
+               (isJxl && !BoxOf(bench->Bytes(NameIn(format)), "Exif").isEmpty());
+    };
+    QCOMPARE(make(keep + QStringList(Text("exif"))).reason, QString());
+    QVERIFY(isBlockThere());
+    const Report report = make(keep);
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.warnings, QStringList());
+    QVERIFY(!isBlockThere());
+    const Found found = Read(*bench, format);
+    QCOMPARE(found.Xmp("Xmp.dc.creator"), keep.contains(Text("xmp")) ? Text("A. Photographer") : QString());
+    QCOMPARE(found.hasProfile, keep.contains(Text("icc")));
+    const Picture result = ReadPicture(bench->Path(NameIn(format)));
+    QCOMPARE(QSize(result.width(), result.height()), QSize(60, 90));
 }
 
 void WorkerMetadataTest::describesTheResult_data()
