@@ -25,9 +25,12 @@ ParameterSchema Effort(int standard)
     return {Text("effort"), ParameterType::Integer, standard, Text("higher is slower and smaller"), 0, 9, {}, {}};
 }
 
-ParameterSchema Lossless()
+constexpr const char* keepsAll = "keep every pixel as it is";
+constexpr const char* keepsAlmostAll = "keep every pixel, but for a last step of rounding";
+
+ParameterSchema Lossless(const char* meaning)
 {
-    return {Text("lossless"), ParameterType::Truth, false, Text("keep every pixel as it is"), 0, 0, {}, {}};
+    return {Text("lossless"), ParameterType::Truth, false, Text(meaning), 0, 0, {}, {}};
 }
 
 ParameterSchema Progressive()
@@ -131,37 +134,37 @@ QVector<FormatSchema> MakeFormats()
          false,
          {8},
          16'383,
-         WithCommonOptions({Quality(80), Lossless(), Effort(4)})},
+         WithCommonOptions({Quality(80), Lossless("keep every pixel that can be seen"), Effort(4)})},
         {Text("HEIF"),
          {Text("heic"), Text("heif")},
          true,
          false,
          {8, 10, 12},
          16'384,
-         WithCommonOptions(
-             {Quality(80), Lossless(), ChromaSubsampling(), BitDepth({Text("8"), Text("10"), Text("12")})})},
+         WithCommonOptions({Quality(80), Lossless(keepsAlmostAll), ChromaSubsampling(),
+                            BitDepth({Text("8"), Text("10"), Text("12")})})},
         {Text("AVIF"),
          {Text("avif")},
          true,
          false,
          {8, 10, 12},
          16'384,
-         WithCommonOptions(
-             {Quality(65), Lossless(), Effort(4), ChromaSubsampling(), BitDepth({Text("8"), Text("10"), Text("12")})})},
+         WithCommonOptions({Quality(65), Lossless(keepsAlmostAll), Effort(4), ChromaSubsampling(),
+                            BitDepth({Text("8"), Text("10"), Text("12")})})},
         {Text("JPEG XL"),
          {Text("jxl")},
          true,
          false,
          {8, 16},
          1'000'000,
-         WithCommonOptions({Quality(85), Lossless(), Effort(7), BitDepth({Text("8"), Text("16")})})},
+         WithCommonOptions({Quality(85), Lossless(keepsAll), Effort(7), BitDepth({Text("8"), Text("16")})})},
         {Text("JPEG 2000"),
          {Text("jp2"), Text("j2k"), Text("jpx")},
          true,
          false,
          {8, 16},
          1'000'000,
-         WithCommonOptions({Quality(85), Lossless(), ChromaSubsampling(), BitDepth({Text("8"), Text("16")})})},
+         WithCommonOptions({Quality(85), Lossless(keepsAll), ChromaSubsampling(), BitDepth({Text("8"), Text("16")})})},
         {Text("GIF"), {Text("gif")}, true, false, {8}, 65'535, WithCommonOptions({Effort(7)})},
     };
 }

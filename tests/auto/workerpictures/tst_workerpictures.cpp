@@ -98,6 +98,8 @@ private Q_SLOTS:
     void turnsPicturesUpright();
     void keepsDepth_data();
     void keepsDepth();
+    void losesNothingWithoutLoss_data();
+    void losesNothingWithoutLoss();
     void keepsGrey_data();
     void keepsGrey();
     void takesEveryKind_data();
@@ -292,6 +294,53 @@ void WorkerPicturesTest::keepsDepth()
     QCOMPARE(result.format(), isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR);
     const double difference = LargestDifference(result, isDeep ? Deep(chart) : chart);
     QVERIFY2(difference <= tolerance, qPrintable(QString::number(difference)));
+}
+
+void WorkerPicturesTest::losesNothingWithoutLoss_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<bool>("isDeep");
+    QTest::addColumn<double>("tolerance");
+    // HEIF and AVIF hold luma and chroma, which are rounded: 1 of 255, 2 of 4095.
+    constexpr double deepStep = 65535.0 / 4095;
+    QTest::newRow("WebP") << Text("WebP") << false << 0.0;
+    QTest::newRow("HEIF") << Text("HEIF") << false << 1.0;
+    QTest::newRow("AVIF") << Text("AVIF") << false << 1.0;
+    QTest::newRow("HEIF, 12 bits") << Text("HEIF") << true << 2 * deepStep;
+    QTest::newRow("AVIF, 12 bits") << Text("AVIF") << true << 2 * deepStep;
+    QTest::newRow("JPEG XL") << Text("JPEG XL") << false << 0.0;
+    QTest::newRow("JPEG XL, 16 bits") << Text("JPEG XL") << true << 0.0;
+    QTest::newRow("JPEG 2000") << Text("JPEG 2000") << false << 0.0;
+    QTest::newRow("JPEG 2000, 16 bits") << Text("JPEG 2000") << true << 0.0;
+}
+
+/// Noise of every colour, with pixels that are opaque, half transparent, and cannot be seen: what can be seen stays.
+void WorkerPicturesTest::losesNothingWithoutLoss()
+{
+    QFETCH(const QString, format);
+    QFETCH(const bool, isDeep);
+    QFETCH(const double, tolerance);
+
+    const auto noise = [](int seed) {
+        return Picture::gaussnoise(96, 64, Picture::option()->set("mean", 128)->set("sigma", 90)->set("seed", seed));
+    };
+    const Picture colours = Picture::bandjoin({noise(1), noise(2), noise(3)})
+                                .cast(VIPS_FORMAT_UCHAR)
+                                .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB))
+                                .copy_memory();
+    const Picture whole = isDeep ? Deep(colours) : WithAlpha(colours);
+    WritePicture(whole, bench->Path(Text("in.png")));
+    const Report report = bench->Make(Text("in.png"), NameIn(format), format, {{Text("lossless"), true}});
+    QCOMPARE(report.reason, QString());
+    const Picture result = ReadPicture(bench->Path(NameIn(format)));
+    QCOMPARE(result.bands(), whole.bands());
+    const int seen = isDeep ? 96 : 64; // what is right of that cannot be seen
+    const auto visible = [seen](const Picture& picture) { return picture.crop(0, 0, seen, picture.height()); };
+    const double difference = LargestDifference(visible(Colours(result)), visible(Colours(whole)));
+    QVERIFY2(difference <= tolerance, qPrintable(QString::number(difference)));
+    if (!isDeep) {
+        QCOMPARE(LargestDifference(result.extract_band(3), whole.extract_band(3)), 0.0);
+    }
 }
 
 void WorkerPicturesTest::keepsGrey_data()
