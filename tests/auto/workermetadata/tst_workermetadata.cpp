@@ -252,18 +252,18 @@ void WorkerMetadataTest::leavesTheWholeBlockOut_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QStringList>("keep");
-    const QVector<QPair<const char*, QStringList>> kinds{
+    const QVector<QPair<QByteArray, QStringList>> kinds{
         {"nothing kept", {}},
         {"profile kept", {Text("icc")}},
         {"XMP and IPTC kept", {Text("xmp"), Text("iptc")}},
         {"all but EXIF kept", {Text("iptc"), Text("xmp"), Text("icc")}},
     };
-    for (const char* format : {"HEIF", "AVIF"}) {
-        QTest::addRow("%s, %s", format, kinds.first().first) << Text(format) << kinds.first().second;
+    for (const QString& format : {Text("HEIF"), Text("AVIF")}) {
+        QTest::addRow("%s, %s", qPrintable(format), kinds.first().first.constData()) << format << kinds.first().second;
     }
-    for (const char* format : {"JPEG", "PNG", "WebP", "JPEG XL"}) {
+    for (const QString& format : {Text("JPEG"), Text("PNG"), Text("WebP"), Text("JPEG XL")}) {
         for (const auto& kind : kinds) {
-            QTest::addRow("%s, %s", format, kind.first) << Text(format) << kind.second;
+            QTest::addRow("%s, %s", qPrintable(format), kind.first.constData()) << format << kind.second;
         }
     }
 }
@@ -434,16 +434,16 @@ void WorkerMetadataTest::readsMetadataBesideBrokenProfiles_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("profile");
-    const QVector<QPair<const char*, QByteArray>> profiles{
+    const QVector<QPair<QByteArray, QByteArray>> profiles{
         {"of three bytes", QByteArray("abc")},
         {"of nonsense", QByteArray("no profile at all")},
         {"that says it is longer", BigEndian(100'000, 4) + QByteArray(400, '\x07')},
         {"that says it is shorter", BigEndian(100, 4) + QByteArray(400, '\x07')},
         {"of two segments", BigEndian(100'000, 4) + QByteArray(69'996, '\x07')},
     };
-    for (const char* format : {"JPEG", "TIFF", "WebP", "JPEG 2000"}) {
+    for (const QString& format : {Text("JPEG"), Text("TIFF"), Text("WebP"), Text("JPEG 2000")}) {
         for (const auto& profile : profiles) {
-            QTest::addRow("%s, %s", format, profile.first) << Text(format) << profile.second;
+            QTest::addRow("%s, %s", qPrintable(format), profile.first.constData()) << format << profile.second;
         }
     }
 }
