@@ -57,8 +57,8 @@ int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QStri
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     collector.onProgress = [&line](int folders, int files, const QString& folder) {
         line.Show([&] {
-            return QStringLiteral("Reading folders: %1 pictures in %2 folders, %3")
-                .arg(QLocale::c().toString(files), QLocale::c().toString(folders), folder);
+            return QStringLiteral("Folders read: %1, pictures found: %2, now in %3")
+                .arg(QLocale::c().toString(folders), QLocale::c().toString(files), folder);
         });
     };
     collector.Add(inputs);
