@@ -7,7 +7,7 @@ namespace BatchServer {
 
 namespace {
 
-// Source of the layout: Google, WebP Container Specification.
+// Source of the layout: Google, "WebP Container" (RIFF chunks).
 constexpr qint64 headerSize = 8; // of the file and of each chunk: type, size of what follows
 constexpr qint64 typeSize = 4;
 constexpr qint64 firstChunk = headerSize + typeSize;
