@@ -2,6 +2,7 @@
 
 #include "ProcessEnd.h"
 #include "ProgramFiles.h"
+#include "ServerRules.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,11 +38,7 @@ ServerStage::~ServerStage()
 
 void ServerStage::Play(const QStringList& rules)
 {
-    QFile file(ServerPath() + QStringLiteral(".script"));
-    const QByteArray text = rules.join(QLatin1Char('\n')).toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
-        qFatal("The script cannot be written: %s", qUtf8Printable(file.errorString()));
-    }
+    WriteServerRules(ServerPath(), rules);
 }
 
 QString ServerStage::ServerPath()

@@ -1,6 +1,7 @@
 #include "CliStage.h"
 
 #include "ProgramFiles.h"
+#include "ServerRules.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -46,21 +47,12 @@ void CliStage::PlaceWorker() const
 
 void CliStage::Play(const QStringList& rules) const
 {
-    WriteScript(QStringLiteral(".script"), rules);
+    WriteServerRules(Executable(serverName), rules);
 }
 
 void CliStage::PlayNext(const QStringList& rules) const
 {
-    WriteScript(QStringLiteral(".script.next"), rules);
-}
-
-void CliStage::WriteScript(const QString& ending, const QStringList& rules) const
-{
-    QFile file(Executable(serverName) + ending);
-    const QByteArray text = rules.join(QLatin1Char('\n')).toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
-        qFatal("The script cannot be written: %s", qUtf8Printable(file.errorString()));
-    }
+    WriteNextServerRules(Executable(serverName), rules);
 }
 
 QString CliStage::Write(const QString& name, const QByteArray& content) const

@@ -60,7 +60,6 @@ private:
     Q_DISABLE_COPY(CliStage)
 
     QString Executable(const QString& name) const;
-    void WriteScript(const QString& ending, const QStringList& rules) const;
     void Place(const QString& built, const QString& name) const;
 
     QTemporaryDir programs;
