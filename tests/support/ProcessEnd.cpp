@@ -51,6 +51,17 @@ DWORD ParentId()
     return parent;
 }
 
+/// In units of 100 ns; 0 for a process that has gone.
+quint64 StartTime(DWORD pid)
+{
+    FILETIME start{};
+    FILETIME unused{};
+    const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
+    GetProcessTimes(process, &start, &unused, &unused, &unused);
+    CloseHandle(process);
+    return quint64(start.dwHighDateTime) << 32 | start.dwLowDateTime;
+}
+
 void CALLBACK OnParentEnd(void*, BOOLEAN)
 {
     std::_Exit(parentHasGone);
@@ -105,10 +116,15 @@ void KillProcess(qint64 pid)
 QList<qint64> ChildrenOf(qint64 pid)
 {
     QList<qint64> children;
+    const quint64 start = StartTime(static_cast<DWORD>(pid));
     ForEachProcess([&](const PROCESSENTRY32W& entry) {
         // The system's own process behind the console of another is no child of that one's making.
         const bool isConsole = QString::fromWCharArray(entry.szExeFile) == QLatin1String("conhost.exe");
-        if (qint64(entry.th32ParentProcessID) == pid && !isConsole) {
+        if (qint64(entry.th32ParentProcessID) != pid || isConsole) {
+            return;
+        }
+        // One that is older is the child of a process that has ended, and whose number has been given again.
+        if (StartTime(entry.th32ProcessID) >= start) {
             children.append(entry.th32ProcessID);
         }
     });
