@@ -52,7 +52,6 @@ private Q_SLOTS:
     void KilledAtAnyMoment_data();
     void KilledAtAnyMoment();
     void KilledServer();
-    void ServerThatDiesOverAPicture();
     void InterruptKeepsTheRun();
     void NothingToResume();
     void DamagedJournal();
@@ -210,35 +209,6 @@ void tst_CliResume::KilledServer()
     QVERIFY2(out.contains("\"event\":\"server-lost\"") && out.contains("\"goesOn\":true"), out.constData());
     QCOMPARE(out.count("\"event\":\"written\""), 12);
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), undisturbed);
-}
-
-// Each server that works with one picture is killed: after the second the picture is left out.
-void tst_CliResume::ServerThatDiesOverAPicture()
-{
-    QProcess process;
-    Start(process, QStringLiteral("run a -o out --effect blur:sigma=20 --workers 1 --json"));
-    QByteArray out;
-    const QByteArray culprit = "\"event\":\"begin\",\"input\":\"" + Path(QStringLiteral("a/3.jpg")).toUtf8() + "\"";
-    for (int deaths = 0; deaths < 2; ++deaths) {
-        while (out.count(culprit) <= deaths) {
-            QVERIFY2(process.waitForReadyRead(60'000), out.constData());
-            out += process.readAllStandardOutput();
-        }
-        const QList<qint64> servers = ChildrenOf(process.processId());
-        QCOMPARE(servers.size(), 1);
-        QCOMPARE(kill(pid_t(servers.first()), SIGKILL), 0);
-    }
-    QVERIFY(process.waitForFinished(120'000));
-    out += process.readAllStandardOutput();
-    QCOMPARE(out.count("\"event\":\"server-lost\""), 2);
-    // The picture may have been finished right before the kill.
-    if (process.exitCode() == 1) {
-        QVERIFY2(out.contains("the server has died over it 2 times"), out.constData());
-        QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 5);
-    } else {
-        QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
-    }
 }
 
 void tst_CliResume::InterruptKeepsTheRun()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void PlanMarksTrouble();
     void KilledRunsGoOn();
     void KilledServersAreReplaced();
+    void FilesThatServersDieOverAreLeftOut();
 
 private:
     void Start(QProcess& process, const QString& arguments) const;
@@ -232,6 +233,26 @@ void tst_CliStandIn::KilledServersAreReplaced()
     QCOMPARE(output.count("\"written\""), 3 + 1); // The end counts them.
     QCOMPARE(stage->Names(QStringLiteral("out")),
              QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
+}
+
+void tst_CliStandIn::FilesThatServersDieOverAreLeftOut()
+{
+    stage->Write(QStringLiteral("photos/2.jpg"), "hang");
+    QProcess process;
+    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
+    constexpr int beforeIt = 1;
+    for (int deaths = 1; deaths <= 2; ++deaths) {
+        QVERIFY2(WaitForOutput(process, "\"begin\"", beforeIt + deaths), output.constData());
+        const QList<qint64> servers = ChildrenOf(process.processId());
+        QCOMPARE(servers.size(), 1);
+        KillProcess(servers.first());
+    }
+    QVERIFY(process.waitForFinished(120'000));
+    output += process.readAllStandardOutput();
+    QVERIFY2(process.exitCode() == 1, process.readAllStandardError().constData());
+    QCOMPARE(output.count("\"server-lost\""), 2);
+    QVERIFY2(output.contains("the server has died over it 2 times"), output.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("3.png")}));
 }
 
 QTEST_GUILESS_MAIN(tst_CliStandIn)
