@@ -1,18 +1,20 @@
-#include "Program.h"
-#include "Startup.h"
-#include "UsageError.h"
+#include "hosts/cli/commands/Program.h"
+#include "hosts/cli/terminal/Startup.h"
+#include "hosts/common/UsageError.h"
 
 #include <QCoreApplication>
 
+using namespace BatchCli;
+
 int main(int argc, char** argv)
 {
-    BatchCli::PrepareProcess();
+    PrepareProcess();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velkora-batch"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
     try {
-        return int(BatchCli::RunProgram(BatchCli::Arguments(argc, argv)));
-    } catch (const UsageError& error) {
-        return int(BatchCli::ReportUsageError(error.text));
+        return int(RunProgram(Arguments(argc, argv)));
+    } catch (const BatchHost::UsageError& error) {
+        return int(ReportUsageError(error.text));
     }
 }

@@ -2,7 +2,7 @@
 
 #include <QHash>
 
-namespace BatchServer {
+namespace BatchReference {
 
 QByteArray ExampleOf(const QString& id)
 {
@@ -36,4 +36,4 @@ QByteArray ExampleOf(const QString& id)
     return examples.value(id);
 }
 
-} // namespace BatchServer
+} // namespace BatchReference

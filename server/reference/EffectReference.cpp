@@ -1,12 +1,15 @@
 #include "EffectReference.h"
 
-#include "EffectCatalog.h"
 #include "EffectExamples.h"
+
+#include "job/effects/EffectCatalog.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace BatchServer {
+using namespace BatchJob;
+
+namespace BatchReference {
 
 namespace {
 
@@ -74,4 +77,4 @@ QString EffectReferencePage()
     return page + QString::fromUtf8(closing);
 }
 
-} // namespace BatchServer
+} // namespace BatchReference

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-namespace BatchServer {
+namespace BatchReference {
 
 /// The reference page of all effects, in Markdown, from the table of effects. It shows a picture for each,
 /// "effects/ID.jpg".
 QString EffectReferencePage();
 
-} // namespace BatchServer
+} // namespace BatchReference

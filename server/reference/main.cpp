@@ -1,12 +1,13 @@
 // effect_reference PHOTO FOLDER: writes the reference page of the effects to FOLDER/effects.md, a small picture of each
 // effect, made from PHOTO, to FOLDER/effects/, and the patterns of backgrounds to FOLDER/pictures/patterns.png.
 
-#include "BatchValues.h"
-#include "EffectCatalog.h"
 #include "EffectExamples.h"
 #include "EffectReference.h"
-#include "Effects.h"
-#include "framing/Background.h"
+
+#include "job/effects/EffectCatalog.h"
+#include "job/values/JobValues.h"
+#include "server/worker/effects/Effects.h"
+#include "server/worker/framing/Background.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,7 +18,9 @@
 #include <cstdio>
 #include <stdexcept>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchReference;
+using namespace BatchWorker;
 
 namespace {
 
@@ -68,7 +71,7 @@ void WritePatterns(const QString& path)
     std::vector<Picture> squares;
     for (int pattern = 0; pattern < count; ++pattern) {
         ZTBatchOutputSettings::Transformation framing;
-        framing.backgroundType = int(BatchValues::BackgroundType::Pattern);
+        framing.backgroundType = int(BatchJob::BackgroundType::Pattern);
         framing.backgroundPattern = {pattern, 100, 0};
         QStringList warnings;
         squares.push_back(MakeBackground(framing, std::nullopt, size, grey, warnings).extract_band(0));

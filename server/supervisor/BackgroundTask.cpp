@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace BatchSupervisor {
+
 BackgroundTask::BackgroundTask(std::function<void(const Cancelled&)> work)
     : work(std::move(work))
 {
@@ -17,3 +19,5 @@ void BackgroundTask::run()
 {
     work([this] { return isCancelled.load(); });
 }
+
+} // namespace BatchSupervisor

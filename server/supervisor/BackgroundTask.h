@@ -5,6 +5,8 @@
 #include <atomic>
 #include <functional>
 
+namespace BatchSupervisor {
+
 /// Work that asks the file system many things, on a thread of its own: the supervisor answers its host meanwhile.
 /// QThread::finished tells of the end. The destructor asks the work to give up and waits for it.
 class BackgroundTask : public QThread
@@ -28,3 +30,5 @@ private:
     std::function<void(const Cancelled&)> work;
     std::atomic<bool> isCancelled{false};
 };
+
+} // namespace BatchSupervisor

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QString>
 
+namespace BatchSupervisor {
+
 /// What one session of a host is told. A host that has gone is told nothing.
 class HostLink
 {
@@ -43,3 +45,5 @@ private:
     QPointer<ZTPipeSession> pipe;
     QString sessionId;
 };
+
+} // namespace BatchSupervisor

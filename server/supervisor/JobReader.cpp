@@ -1,6 +1,6 @@
 #include "JobReader.h"
 
-#include "ChildProcess.h"
+#include "server/protocol/ChildProcess.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -11,7 +11,10 @@
 
 #include <cstdio>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+namespace BatchSupervisor {
 
 namespace {
 
@@ -106,3 +109,5 @@ int JobReader::RunProcess()
     Write(stream, job);
     return output.flush() && stream.status() == QDataStream::Ok ? 0 : 1;
 }
+
+} // namespace BatchSupervisor

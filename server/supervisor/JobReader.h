@@ -1,12 +1,14 @@
 #pragma once
 
-#include "JobCheck.h"
-#include "JobFiles.h"
+#include "job/settings/JobCheck.h"
+#include "job/settings/JobFiles.h"
 
 #include <QString>
 #include <QVector>
 
 #include <functional>
+
+namespace BatchSupervisor {
 
 /// Reads the text of a job in a process of its own. A text can be made so that it takes a multiple of its size as a
 /// document; the memory goes with that process, and so does whatever else happens there.
@@ -15,9 +17,9 @@ namespace JobReader {
 /// What is left of a job after its check.
 struct Job
 {
-    BatchServer::Refusal refusal;        ///< when there is one, the rest is empty
-    QString settings;                    ///< the document without its inputs
-    QVector<BatchServer::JobFile> files; ///< in the document's order
+    BatchJob::Refusal refusal;        ///< when there is one, the rest is empty
+    QString settings;                 ///< the document without its inputs
+    QVector<BatchJob::JobFile> files; ///< in the document's order
 };
 
 /// The argument that makes this program the reader's process.
@@ -30,3 +32,5 @@ Job Read(QString text, const std::function<bool()>& isCancelled);
 int RunProcess();
 
 } // namespace JobReader
+
+} // namespace BatchSupervisor

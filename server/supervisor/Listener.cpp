@@ -5,6 +5,8 @@
 #include <QLocalSocket>
 #include <QThread>
 
+namespace BatchSupervisor {
+
 namespace {
 
 constexpr int answerTime = 1000; // ms
@@ -60,3 +62,5 @@ void Listener::Accept()
         }
     }
 }
+
+} // namespace BatchSupervisor

@@ -6,6 +6,8 @@
 
 class QLocalSocket;
 
+namespace BatchSupervisor {
+
 /// The end of the pipe that hosts connect to. Only processes of this user get through.
 class Listener : public QObject
 {
@@ -32,3 +34,5 @@ private:
     QLocalServer server;
     QString error;
 };
+
+} // namespace BatchSupervisor

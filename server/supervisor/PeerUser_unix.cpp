@@ -6,6 +6,8 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+namespace BatchSupervisor {
+
 bool IsPeerOfThisUser(const QLocalSocket& socket)
 {
     const int descriptor = int(socket.socketDescriptor());
@@ -19,3 +21,5 @@ bool IsPeerOfThisUser(const QLocalSocket& socket)
     return ::getpeereid(descriptor, &user, &group) == 0 && user == ::geteuid();
 #endif
 }
+
+} // namespace BatchSupervisor

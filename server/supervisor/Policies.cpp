@@ -2,7 +2,11 @@
 
 #include "ZTBatchManager.h"
 
-using BatchServer::Case;
+using namespace BatchProtocol;
+
+using BatchProtocol::Case;
+
+namespace BatchSupervisor {
 
 Policies::Policies(const ZTBatchPayload::Process& order)
 {
@@ -83,3 +87,5 @@ std::size_t Policies::Index(Case kind)
     static_assert(int(Case::Input) == 1 && int(Case::WriteToFormat) == 5);
     return std::size_t(kind) - 1;
 }
+
+} // namespace BatchSupervisor

@@ -1,8 +1,9 @@
 #include "Run.h"
 
 #include "JobReader.h"
-#include "TemporaryFile.h"
 #include "TroubleOfWorker.h"
+
+#include "server/protocol/TemporaryFile.h"
 
 #include "ZTBatchDocument.h"
 
@@ -11,8 +12,12 @@
 
 #include <utility>
 
-using namespace BatchServer;
-using BatchValues::Action;
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+using BatchJob::Action;
+
+namespace BatchSupervisor {
 
 namespace {
 
@@ -747,3 +752,5 @@ void Run::End()
     phase = Phase::Over;
     Q_EMIT Over();
 }
+
+} // namespace BatchSupervisor

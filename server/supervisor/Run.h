@@ -1,12 +1,13 @@
 #pragma once
 
 #include "BackgroundTask.h"
-#include "BatchValues.h"
 #include "HostLink.h"
 #include "Policies.h"
-#include "RunJournal.h"
 #include "RunPlan.h"
-#include "WorkerPool.h"
+
+#include "job/journal/RunJournal.h"
+#include "job/values/JobValues.h"
+#include "server/protocol/WorkerPool.h"
 
 #include <QLockFile>
 #include <QMap>
@@ -15,6 +16,8 @@
 
 #include <memory>
 #include <optional>
+
+namespace BatchSupervisor {
 
 /// One run: from the order to process a job to the message that it is over.
 ///
@@ -29,8 +32,8 @@ class Run : public QObject
 public:
     /// The run is written down in the journal at `journalPath`, if that is one of the order's job, and taken up where
     /// the journal ends.
-    Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, WorkerPool& pool,
-        const BatchServer::ServerLimits& limits, const QString& journalPath);
+    Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, BatchProtocol::WorkerPool& pool,
+        const BatchProtocol::ServerLimits& limits, const QString& journalPath);
     ~Run() override;
 
     void Begin();
@@ -61,11 +64,11 @@ private:
 
     struct Preparation
     {
-        BatchServer::Refusal refusal;
+        BatchJob::Refusal refusal;
         QString settings;
         RunPlan plan;
         std::unique_ptr<QLockFile> hold; ///< keeps other servers away from the journal
-        std::optional<BatchServer::JournalState> earlier;
+        std::optional<BatchJob::JournalState> earlier;
         QVector<int> found; ///< results that were finished, but not noted
         int swept = 0;
     };
@@ -84,16 +87,16 @@ private:
     void BeginNaming();
     void BeginWork();
 
-    void Give(const Assignment& task);
+    void Give(const BatchProtocol::Assignment& task);
     bool GivePicture(int file);
     bool MakeFolder(const QString& folder);
     void Examine(int file);
 
-    void OnBegun(const Assignment& task);
-    void OnReported(const Assignment& task, const BatchServer::Report& report);
-    void OnLost(const Assignment& task, WorkerEnd reason, const QString& text);
-    void OnReturned(const Assignment& task);
-    bool TakeUnreported(const Assignment& task);
+    void OnBegun(const BatchProtocol::Assignment& task);
+    void OnReported(const BatchProtocol::Assignment& task, const BatchProtocol::Report& report);
+    void OnLost(const BatchProtocol::Assignment& task, BatchProtocol::WorkerEnd reason, const QString& text);
+    void OnReturned(const BatchProtocol::Assignment& task);
+    bool TakeUnreported(const BatchProtocol::Assignment& task);
     void OnBroken(const QString& reason);
     void OnDropped();
 
@@ -104,25 +107,25 @@ private:
     void Resolve(int file, const Trouble& trouble, Decision decision);
     void ResolveName(int file, const Trouble& trouble, Decision decision);
     void ResolveFormat(int file, const Trouble& trouble);
-    void ReportTrouble(int file, const Trouble& trouble, BatchValues::Action action, const QString& consequence);
-    void GiveUp(int file, const Trouble& trouble, BatchValues::Action action);
-    void FinishPicture(int file, const BatchServer::Report& report);
+    void ReportTrouble(int file, const Trouble& trouble, BatchJob::Action action, const QString& consequence);
+    void GiveUp(int file, const Trouble& trouble, BatchJob::Action action);
+    void FinishPicture(int file, const BatchProtocol::Report& report);
     void FinishProbe();
     void Settle(int file);
     int FirstUnsettled();
 
     void Stop(const QString& reason);
-    void Refuse(const BatchServer::Refusal& refusal);
+    void Refuse(const BatchJob::Refusal& refusal);
     void EndWhenDone();
     void LogTotals(const QString& how) const;
     void End();
 
     const quint64 number;
     const HostLink host;
-    WorkerPool& pool;
-    const BatchServer::ServerLimits limits;
+    BatchProtocol::WorkerPool& pool;
+    const BatchProtocol::ServerLimits limits;
     Policies policies;
-    const BatchServer::Refusal policyRefusal;
+    const BatchJob::Refusal policyRefusal;
     QString document; ///< the job's text, until it is read
 
     Phase phase = Phase::Reading;
@@ -139,7 +142,7 @@ private:
 
     int next = 0;     ///< the first file that was not looked at
     QList<int> ready; ///< files to hand out before that
-    QList<Assignment> returned;
+    QList<BatchProtocol::Assignment> returned;
     QSet<int> inWork;
     QMap<int, Trouble> waiting; ///< for its turn to be decided
     std::optional<OpenQuestion> question;
@@ -150,10 +153,12 @@ private:
 
     const QString journalPath;
     std::unique_ptr<QLockFile> hold;
-    BatchServer::RunJournal journal;
+    BatchJob::RunJournal journal;
     QHash<int, int> losses; ///< files over which servers have died, and how often
 
     int written = 0;
     int skipped = 0;
     int failed = 0;
 };
+
+} // namespace BatchSupervisor

@@ -2,7 +2,10 @@
 
 #include <QSet>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+namespace BatchSupervisor {
 
 RunPlan::RunPlan(const OutputPlan& plan)
     : plan(plan)
@@ -137,3 +140,5 @@ QString RunPlan::NearestFormat(int file) const
     const QString fallback = isRaw ? QStringLiteral("TIFF") : QStringLiteral("JPEG");
     return nearestFormats.value(file, fallback);
 }
+
+} // namespace BatchSupervisor

@@ -1,16 +1,19 @@
 #pragma once
 
-#include "OutputPlan.h"
 #include "Policies.h"
+
+#include "job/plan/OutputPlan.h"
 
 #include <QHash>
 
 #include <vector>
 
+namespace BatchSupervisor {
+
 /// Something that keeps a file from being written as it was planned.
 struct Trouble
 {
-    BatchServer::Case kind = BatchServer::Case::None;
+    BatchProtocol::Case kind = BatchProtocol::Case::None;
     int code = ZTBatchMessage::NoError; ///< a ZTBatchMessage::Error
     QString reason;                     ///< for the log
     QString nearestFormat;              ///< for WriteToFormat: what could hold the picture; may be empty
@@ -22,12 +25,12 @@ class RunPlan
 {
 public:
     RunPlan() = default;
-    explicit RunPlan(const BatchServer::OutputPlan& plan);
+    explicit RunPlan(const BatchJob::OutputPlan& plan);
 
     int Count() const { return plan.Count(); }
-    const BatchServer::OutputPlan& Names() const { return plan; }
+    const BatchJob::OutputPlan& Names() const { return plan; }
 
-    bool ReadInputs(const BatchServer::OutputPlan::Cancelled& isCancelled) { return plan.ReadInputs(isCancelled); }
+    bool ReadInputs(const BatchJob::OutputPlan::Cancelled& isCancelled) { return plan.ReadInputs(isCancelled); }
 
     /// See OutputPlan::Keep().
     void Keep(int file, const QString& path) { plan.Keep(file, path); }
@@ -37,13 +40,13 @@ public:
     void Leave(int file, const QString& path) { left.insert(file, path); }
 
     /// What the probe of a file has found.
-    void TakeProbe(int file, const BatchServer::Report& report);
+    void TakeProbe(int file, const BatchProtocol::Report& report);
 
     /// A file that cannot be probed will not become a picture either.
     void TakeProbe(int file, const Trouble& trouble) { failedProbes.insert(file, trouble); }
 
     /// Makes the names and settles what the policies decide without asking.
-    bool MakeNames(const Policies& policies, const BatchServer::OutputPlan::Cancelled& isCancelled);
+    bool MakeNames(const Policies& policies, const BatchJob::OutputPlan::Cancelled& isCancelled);
 
     /// Settles the names of the files from `first` on where the policies for naming and format decide without asking.
     /// Always done for all of them at a time, in their order: so no name depends on how fast a worker is.
@@ -82,9 +85,11 @@ private:
     QString NearestFormat(int file) const;
     bool HasItsLastName(int file) const;
 
-    BatchServer::OutputPlan plan;
+    BatchJob::OutputPlan plan;
     std::vector<Marks> marks;
     QHash<int, QString> nearestFormats; ///< from probes
     QHash<int, Trouble> failedProbes;
     QHash<int, QString> left; ///< files that an earlier part of the run has given up
 };
+
+} // namespace BatchSupervisor

@@ -1,15 +1,19 @@
 #include "Server.h"
 
 #include "HostLink.h"
-#include "JobCheck.h"
+
+#include "job/settings/JobCheck.h"
 
 #include <QCoreApplication>
 #include <QLocalSocket>
 
 #include <chrono>
 
-using namespace BatchServer;
+using namespace BatchProtocol;
+
 using namespace std::chrono_literals;
+
+namespace BatchSupervisor {
 
 namespace {
 
@@ -184,7 +188,7 @@ void Server::Process(ZTPipeSession* pipe, const QByteArray& payload)
         return;
     }
     session->hadRun = true;
-    auto* const run = new Run(++lastRun, order, host, pool, limits, qEnvironmentVariable(BatchServer::journalVariable));
+    auto* const run = new Run(++lastRun, order, host, pool, limits, qEnvironmentVariable(BatchJob::journalVariable));
     session->run = run;
     runs.append(run);
     connect(run, &Run::HasTasks, this, &Server::ScheduleHandOut);
@@ -296,3 +300,5 @@ void Server::Quit()
 {
     QCoreApplication::quit();
 }
+
+} // namespace BatchSupervisor

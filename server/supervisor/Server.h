@@ -2,8 +2,9 @@
 
 #include "Listener.h"
 #include "Run.h"
-#include "ServerLimits.h"
-#include "WorkerPool.h"
+
+#include "server/protocol/ServerLimits.h"
+#include "server/protocol/WorkerPool.h"
 
 #include "ZTPipeSession.h"
 
@@ -15,6 +16,8 @@
 
 #include <memory>
 
+namespace BatchSupervisor {
+
 /// The batch server: takes what hosts say, starts and steers runs, and knows when to end.
 ///
 /// It ends when a host asks for it, when the connection to the host of a session is lost, when nobody connects for a
@@ -24,7 +27,7 @@ class Server : public QObject
     Q_OBJECT
 
 public:
-    Server(const QString& workerProgram, const BatchServer::ServerLimits& limits);
+    Server(const QString& workerProgram, const BatchProtocol::ServerLimits& limits);
     ~Server() override;
 
     /// Opens the pipe and starts the workers. False when the pipe cannot be opened, see Error().
@@ -58,9 +61,9 @@ private:
     void OnRunOver(Run* run);
     void Quit();
 
-    const BatchServer::ServerLimits limits;
+    const BatchProtocol::ServerLimits limits;
     Listener listener;
-    WorkerPool pool;
+    BatchProtocol::WorkerPool pool;
     QVector<ZTPipeSession*> pipes;
     QHash<QString, Session> sessions;
     QVector<Run*> runs; ///< in the order of their turns
@@ -70,3 +73,5 @@ private:
     QTimer loneliness; ///< runs while no host is connected
     QTimer lastDeadline;
 };
+
+} // namespace BatchSupervisor

@@ -2,6 +2,8 @@
 
 #include <functional>
 
+namespace BatchSupervisor {
+
 /// What the system has to be told before the supervisor starts its work.
 namespace Surroundings {
 
@@ -13,3 +15,5 @@ void Prepare();
 void OnEndRequest(const std::function<void()>& end);
 
 } // namespace Surroundings
+
+} // namespace BatchSupervisor

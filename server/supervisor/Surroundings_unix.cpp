@@ -13,6 +13,8 @@
 #include <sys/prctl.h>
 #endif
 
+namespace BatchSupervisor {
+
 namespace {
 
 // A handler may do no more than write to a pipe, whose other end the event loop reads.
@@ -57,3 +59,5 @@ void Surroundings::OnEndRequest(const std::function<void()>& end)
     ::sigaction(SIGTERM, &action, nullptr);
     ::sigaction(SIGINT, &action, nullptr);
 }
+
+} // namespace BatchSupervisor

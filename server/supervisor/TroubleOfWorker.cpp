@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <initializer_list>
 
-using namespace BatchServer;
+using namespace BatchProtocol;
+
+namespace BatchSupervisor {
 
 namespace {
 
@@ -72,3 +74,5 @@ Trouble TroubleOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& 
         return processing(QStringLiteral("the worker %1").arg(OneLine(text)));
     }
 }
+
+} // namespace BatchSupervisor

@@ -1,12 +1,15 @@
 #include "JobReader.h"
 #include "Server.h"
-#include "ServerLimits.h"
 #include "Surroundings.h"
+
+#include "server/protocol/ServerLimits.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
 #include <cstdio>
+
+using namespace BatchSupervisor;
 
 namespace {
 
@@ -35,7 +38,7 @@ int main(int argc, char** argv)
     if (arguments[0] == QLatin1String(JobReader::argument)) {
         return JobReader::RunProcess();
     }
-    Server server(WorkerProgram(), BatchServer::ServerLimits::FromEnvironment());
+    Server server(WorkerProgram(), BatchProtocol::ServerLimits::FromEnvironment());
     // Before anybody can connect: who does may ask for the end at once.
     Surroundings::OnEndRequest([&server] { server.End(); });
     if (!server.Start(arguments[0])) {

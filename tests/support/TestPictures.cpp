@@ -4,7 +4,7 @@
 
 #include <limits>
 
-using BatchServer::Picture;
+using BatchWorker::Picture;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
 #include <QString>
@@ -12,16 +12,16 @@ void StartPictures();
 
 /// 8 bits, RGB, without alpha: red grows from left to right, green from top to bottom, blue is a chequerboard of
 /// `square` pixels. Every place differs, so that a picture that is turned or moved shows it.
-BatchServer::Picture Chart(int width, int height, int square = 8);
+BatchWorker::Picture Chart(int width, int height, int square = 8);
 
 /// The file's pixels as they are stored, in memory.
-BatchServer::Picture ReadPicture(const QString& file);
+BatchWorker::Picture ReadPicture(const QString& file);
 
 /// Writes `picture`, in the format of the file's extension. `options` are the library's, such as "[Q=90]".
-void WritePicture(const BatchServer::Picture& picture, const QString& file, const char* options = "");
+void WritePicture(const BatchWorker::Picture& picture, const QString& file, const char* options = "");
 
 /// The largest difference of any two values at the same place; infinite for pictures of different size or bands.
-double LargestDifference(const BatchServer::Picture& left, const BatchServer::Picture& right);
+double LargestDifference(const BatchWorker::Picture& left, const BatchWorker::Picture& right);
 
 /// The same, as the mean over all values.
-double MeanDifference(const BatchServer::Picture& left, const BatchServer::Picture& right);
+double MeanDifference(const BatchWorker::Picture& left, const BatchWorker::Picture& right);

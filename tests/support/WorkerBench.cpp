@@ -4,7 +4,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
-using namespace BatchServer;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 WorkerBench::WorkerBench()
 {

@@ -23,13 +23,13 @@ public:
     QStringList Names() const;
 
     /// Has the worker make `output` of `input` in `format`; both are names in the folder.
-    BatchServer::Report Make(const QString& input, const QString& output, const QString& format,
-                             const QJsonObject& options = {},
-                             const std::function<void(ZTBatchOutputSettings&)>& edit = {});
+    BatchProtocol::Report Make(const QString& input, const QString& output, const QString& format,
+                               const QJsonObject& options = {},
+                               const std::function<void(ZTBatchOutputSettings&)>& edit = {});
 
     /// The same for a whole job.
-    BatchServer::Report Make(const QString& input, const QString& output, const QString& format,
-                             const BatchServer::Job& job);
+    BatchProtocol::Report Make(const QString& input, const QString& output, const QString& format,
+                               const BatchProtocol::Job& job);
 
     WorkerProcess& Worker() { return worker; }
 

@@ -2,7 +2,7 @@
 
 #include "ZTBatchDocument.h"
 
-using namespace BatchServer;
+using namespace BatchProtocol;
 
 namespace {
 

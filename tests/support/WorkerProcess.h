@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WorkerMessages.h"
+#include "server/protocol/WorkerMessages.h"
 
 #include "ZTBatchOutputSettings.h"
 
@@ -25,14 +25,14 @@ public:
 
     bool IsReady() const { return isReady; }
 
-    void Send(const BatchServer::ToWorker& message);
+    void Send(const BatchProtocol::ToWorker& message);
     void SendBytes(const QByteArray& bytes);
 
     /// The next report; nothing when none comes within a minute, or when the worker has ended without one.
-    std::optional<BatchServer::Report> NextReport();
+    std::optional<BatchProtocol::Report> NextReport();
 
     /// Sends `task` and takes its report.
-    BatchServer::Report Do(const BatchServer::ToWorker& task);
+    BatchProtocol::Report Do(const BatchProtocol::ToWorker& task);
 
     /// Closes the worker's input and waits for its end. -1 for a worker that crashed or did not end.
     int ExitCode();
@@ -45,14 +45,14 @@ public:
 
 private:
     QProcess process;
-    BatchServer::FrameReader reader;
+    BatchProtocol::FrameReader reader;
     QVector<int> begun;
     bool isReady = false;
 };
 
 /// A job whose document `edit` has filled.
-BatchServer::Job JobOf(const std::function<void(ZTBatchDocument&)>& edit);
+BatchProtocol::Job JobOf(const std::function<void(ZTBatchDocument&)>& edit);
 
 /// The same with output settings alone.
-BatchServer::Job JobOf(const QString& format, const QByteArray& options = {},
-                       const std::function<void(ZTBatchOutputSettings&)>& edit = {});
+BatchProtocol::Job JobOf(const QString& format, const QByteArray& options = {},
+                         const std::function<void(ZTBatchOutputSettings&)>& edit = {});

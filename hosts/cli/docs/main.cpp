@@ -1,12 +1,14 @@
 // Writes the manual page and the completions: shelldocs FRAME FOLDER.
 
-#include "ShellDocs.h"
+#include "hosts/cli/options/ShellDocs.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
 #include <cstdio>
+
+using namespace BatchCli;
 
 namespace {
 
@@ -29,10 +31,10 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "Usage: shelldocs FRAME FOLDER\n");
         return 2;
     }
-    const bool isWritten = Write(folder.filePath(QStringLiteral("velkora-batch.1")),
-                                 BatchCli::ManualPage(QString::fromUtf8(frame.readAll()))) &&
-                           Write(folder.filePath(QStringLiteral("velkora-batch.bash")), BatchCli::BashCompletion()) &&
-                           Write(folder.filePath(QStringLiteral("_velkora-batch")), BatchCli::ZshCompletion()) &&
-                           Write(folder.filePath(QStringLiteral("velkora-batch.fish")), BatchCli::FishCompletion());
+    const bool isWritten =
+        Write(folder.filePath(QStringLiteral("velkora-batch.1")), ManualPage(QString::fromUtf8(frame.readAll()))) &&
+        Write(folder.filePath(QStringLiteral("velkora-batch.bash")), BashCompletion()) &&
+        Write(folder.filePath(QStringLiteral("_velkora-batch")), ZshCompletion()) &&
+        Write(folder.filePath(QStringLiteral("velkora-batch.fish")), FishCompletion());
     return isWritten ? 0 : 1;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "../Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QJsonObject>
 
 /// The functions behind the effects, one source file each; the catalogue defines what each computes. They take checked,
 /// complete parameters, and keep size, depth, kind, alpha and metadata unless said otherwise. Parameters that change
 /// nothing give back the picture itself.
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyExposure(const Picture& picture, const QJsonObject& parameters);
 Picture ApplyBrightnessContrast(const Picture& picture, const QJsonObject& parameters);
@@ -50,4 +50,4 @@ Picture ApplyBorder(const Picture& picture, const QJsonObject& parameters);
 Picture ApplyWatermarkText(const Picture& picture, const QJsonObject& parameters);
 Picture ApplyWatermarkImage(const Picture& picture, const QJsonObject& parameters);
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,11 +1,12 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 #include <memory>
 #include <numeric>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -77,4 +78,4 @@ Picture ApplyAutoLevels(const Picture& picture, const QJsonObject& parameters)
     return MapValues(picture, Spread(whole));
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

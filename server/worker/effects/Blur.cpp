@@ -1,8 +1,9 @@
 #include "AllEffects.h"
 #include "Blurred.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 Picture ApplyBlur(const Picture& picture, const QJsonObject& parameters)
 {
@@ -21,4 +22,4 @@ Picture ApplyBlur(const Picture& picture, const QJsonObject& parameters)
         .copy(Picture::option()->set("interpretation", picture.interpretation()));
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,10 @@
 #include "Blurred.h"
 
-#include "PixelFilter.h"
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -65,4 +65,4 @@ Picture BlurredColours(const Picture& picture, double sigma)
         .linear(1.0 / largest, 0.0);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../Picture.h"
+#include "server/worker/pixels/Picture.h"
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// Up to this standard deviation, in pixels, a Gaussian is computed as it is.
 constexpr double largestDirectSigma = 8.0;
@@ -19,4 +19,4 @@ Picture Blurred(const Picture& picture, double sigma);
 /// 1 and, last, the blurred alpha if there is one. A colour under no opacity at all is 0.
 Picture BlurredColours(const Picture& picture, double sigma);
 
-} // namespace BatchServer
+} // namespace BatchWorker

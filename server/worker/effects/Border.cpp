@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyBorder(const Picture& picture, const QJsonObject& parameters)
 {
@@ -26,4 +26,4 @@ Picture ApplyBorder(const Picture& picture, const QJsonObject& parameters)
         Picture::option()->set("extend", VIPS_EXTEND_BACKGROUND)->set("background", painted.ink));
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,9 +1,10 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyBrightnessContrast(const Picture& picture, const QJsonObject& parameters)
 {
@@ -18,4 +19,4 @@ Picture ApplyBrightnessContrast(const Picture& picture, const QJsonObject& param
     return MapValues(picture, [shift, slope](double value) { return (value + shift - 0.5) * slope + 0.5; });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,9 +1,10 @@
 #include "AllEffects.h"
 #include "Blurred.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 namespace {
 
@@ -36,4 +37,4 @@ Picture ApplyClarity(const Picture& picture, const QJsonObject& parameters)
                       });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

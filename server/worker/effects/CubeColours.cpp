@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-namespace BatchServer {
+using namespace BatchJob;
+
+namespace BatchWorker {
 
 namespace {
 
@@ -97,4 +99,4 @@ std::array<double, 3> TetrahedralAt(const CubeTable& table, const std::array<dou
     return result;
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,11 +1,12 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -95,4 +96,4 @@ Picture ApplyCurve(const Picture& picture, const QJsonObject& parameters)
     return MapValues(picture, functions);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,11 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 #include <memory>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -124,4 +125,4 @@ Picture ApplyDenoise(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,8 +1,9 @@
 #include "AllEffects.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 // Light adds up in linear values, so the picture is multiplied there and not in its encoded values.
 Picture ApplyExposure(const Picture& picture, const QJsonObject& parameters)
@@ -15,4 +16,4 @@ Picture ApplyExposure(const Picture& picture, const QJsonObject& parameters)
     return MapValues(picture, [gain](double value) { return ValueOf(LightOf(value) * gain); });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,6 +1,6 @@
 #include "AllEffects.h"
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyFlip(const Picture& picture, const QJsonObject& parameters)
 {
@@ -11,4 +11,4 @@ Picture ApplyFlip(const Picture& picture, const QJsonObject& parameters)
     return picture.flip(direction == QLatin1String("vertical") ? VIPS_DIRECTION_VERTICAL : VIPS_DIRECTION_HORIZONTAL);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,11 @@
 #include "AllEffects.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <memory>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -50,4 +51,4 @@ Picture ApplyGrayscale(const Picture& picture, const QJsonObject& parameters)
                       [](std::array<double, 3>& colour) { colour.fill((colour[0] + colour[1] + colour[2]) / 3.0); });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

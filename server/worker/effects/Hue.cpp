@@ -1,9 +1,10 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 // The matrix of hueRotate in the W3C's Filter Effects Module Level 1: luma stays.
 Picture ApplyHue(const Picture& picture, const QJsonObject& parameters)
@@ -28,4 +29,4 @@ Picture ApplyHue(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

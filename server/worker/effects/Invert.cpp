@@ -1,11 +1,12 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 Picture ApplyInvert(const Picture& picture, const QJsonObject&)
 {
     return MapValues(picture, [](double value) { return 1.0 - value; });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

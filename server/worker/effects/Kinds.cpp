@@ -1,12 +1,12 @@
 #include "Kinds.h"
 
-#include "../Colour.h"
-#include "../ColourProfile.h"
-#include "PixelFilter.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/colour/ColourProfile.h"
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -96,4 +96,4 @@ Picture InProfileOf(const Picture& picture, const Picture& pixels)
     return ConvertedTo(profile, WithProfile(pixels, {}), warnings);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

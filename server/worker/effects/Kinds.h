@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QColor>
 #include <QString>
@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Grey and RGB pictures, and colours for them.
-namespace BatchServer {
+namespace BatchWorker {
 
 /// `picture` as an RGB picture of the same depth, alpha kept. A grey one is converted by its profile, after which it
 /// carries an sRGB profile; without a profile its values are repeated.
@@ -35,4 +35,4 @@ Painted PaintedFor(const Picture& picture, const QColor& colour);
 /// `pixels`, 8 bits sRGB with or without alpha, in the profile that `picture`, which is RGB, carries.
 Picture InProfileOf(const Picture& picture, const Picture& pixels);
 
-} // namespace BatchServer
+} // namespace BatchWorker

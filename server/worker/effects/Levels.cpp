@@ -1,10 +1,11 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyLevels(const Picture& picture, const QJsonObject& parameters)
 {
@@ -19,4 +20,4 @@ Picture ApplyLevels(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -4,7 +4,7 @@
 #include <cmath>
 
 /// Light and stored values of sRGB, and how bright colours are.
-namespace BatchServer {
+namespace BatchWorker {
 
 /// The light, 0 to 1, that the stored value 0 to 1 stands for, by the transfer function of IEC 61966-2-1.
 inline double LightOf(double value)
@@ -25,4 +25,4 @@ inline double WeightedSum(const std::array<double, 3>& colour)
     return 0.2126 * colour[0] + 0.7152 * colour[1] + 0.0722 * colour[2];
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

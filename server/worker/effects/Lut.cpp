@@ -1,11 +1,10 @@
 #include "AllEffects.h"
-
-#include "../Effects.h"
 #include "CubeColours.h"
+#include "Effects.h"
 #include "Kinds.h"
-#include "PixelFilter.h"
 
-#include "effects/CubeFile.h"
+#include "job/effects/CubeFile.h"
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -13,7 +12,9 @@
 
 #include <memory>
 
-namespace BatchServer {
+using namespace BatchJob;
+
+namespace BatchWorker {
 
 namespace {
 
@@ -72,4 +73,4 @@ Picture ApplyLut(const Picture& picture, const QJsonObject& parameters)
                          : MapByCube(rgb, table, strength, TrilinearAt);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

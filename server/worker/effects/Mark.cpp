@@ -1,14 +1,15 @@
 #include "Mark.h"
 
 #include "Kinds.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <memory>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -156,4 +157,4 @@ Picture Stamped(const Picture& picture, const Mark& mark, const QJsonObject& par
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "../Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QJsonObject>
 
 #include <cstdint>
 #include <vector>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// What a watermark lays over a picture: 8 bits a channel, red, green, blue and straight alpha for each pixel.
 struct Mark
@@ -34,4 +34,4 @@ double LengthIn(const QJsonObject& parameters, const char* name, double whole);
 /// Tiles repeat the mark in its place in all directions, the margin apart.
 Picture Stamped(const Picture& picture, const Mark& mark, const QJsonObject& parameters);
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,9 +1,10 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyPosterize(const Picture& picture, const QJsonObject& parameters)
 {
@@ -11,4 +12,4 @@ Picture ApplyPosterize(const Picture& picture, const QJsonObject& parameters)
     return MapValues(picture, [steps](double value) { return std::floor(value * steps + 0.5) / steps; });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,11 +1,12 @@
 #include "AllEffects.h"
 #include "Kinds.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -129,4 +130,4 @@ Picture ApplyRotate(const Picture& picture, const QJsonObject& parameters)
     return TurnedByAnyAngle(picture, degrees, ColourOf(parameters[QLatin1String("background")].toString()));
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

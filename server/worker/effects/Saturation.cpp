@@ -1,8 +1,9 @@
 #include "AllEffects.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 Picture ApplySaturation(const Picture& picture, const QJsonObject& parameters)
 {
@@ -18,4 +19,4 @@ Picture ApplySaturation(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

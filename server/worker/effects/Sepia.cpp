@@ -1,8 +1,9 @@
 #include "AllEffects.h"
 #include "Kinds.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 // The matrix of sepia() in the W3C's Filter Effects Module Level 1.
 Picture ApplySepia(const Picture& picture, const QJsonObject& parameters)
@@ -22,4 +23,4 @@ Picture ApplySepia(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

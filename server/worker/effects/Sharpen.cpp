@@ -1,10 +1,11 @@
 #include "AllEffects.h"
 #include "Blurred.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplySharpen(const Picture& picture, const QJsonObject& parameters)
 {
@@ -26,4 +27,4 @@ Picture ApplySharpen(const Picture& picture, const QJsonObject& parameters)
                       });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,11 @@
 #include "AllEffects.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyVibrance(const Picture& picture, const QJsonObject& parameters)
 {
@@ -22,4 +23,4 @@ Picture ApplyVibrance(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

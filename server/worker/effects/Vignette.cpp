@@ -1,10 +1,11 @@
 #include "AllEffects.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 Picture ApplyVignette(const Picture& picture, const QJsonObject& parameters)
 {
@@ -31,4 +32,4 @@ Picture ApplyVignette(const Picture& picture, const QJsonObject& parameters)
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,18 +1,18 @@
 #include "AllEffects.h"
-
-#include "../Colour.h"
-#include "../Effects.h"
-#include "../PixelForms.h"
-#include "../VipsText.h"
+#include "Effects.h"
 #include "Kinds.h"
 #include "Mark.h"
+
+#include "server/worker/colour/Colour.h"
+#include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/VipsText.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -42,4 +42,4 @@ Picture ApplyWatermarkImage(const Picture& picture, const QJsonObject& parameter
     return Stamped(under, MarkOf(image, under), parameters);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

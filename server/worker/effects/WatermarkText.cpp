@@ -1,15 +1,15 @@
 #include "AllEffects.h"
-
-#include "../Effects.h"
+#include "Effects.h"
 #include "Kinds.h"
 #include "Mark.h"
-#include "PixelFilter.h"
+
+#include "server/worker/pixels/PixelFilter.h"
 
 #include <QStringList>
 
 #include <algorithm>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -86,4 +86,4 @@ Picture ApplyWatermarkText(const Picture& picture, const QJsonObject& parameters
                    parameters);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

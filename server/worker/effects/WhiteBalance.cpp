@@ -1,8 +1,9 @@
 #include "AllEffects.h"
 #include "Luminance.h"
-#include "PixelFilter.h"
 
-namespace BatchServer {
+#include "server/worker/pixels/PixelFilter.h"
+
+namespace BatchWorker {
 
 Picture ApplyWhiteBalance(const Picture& picture, const QJsonObject& parameters)
 {
@@ -22,4 +23,4 @@ Picture ApplyWhiteBalance(const Picture& picture, const QJsonObject& parameters)
     return MapValues(picture, functions);
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

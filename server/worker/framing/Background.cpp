@@ -1,28 +1,31 @@
 #include "Background.h"
 
-#include "Colour.h"
 #include "Framing.h"
-#include "GeneratedPicture.h"
-#include "Geometry.h"
-#include "Orientation.h"
 #include "Patterns.h"
-#include "PictureColours.h"
-#include "PictureFailure.h"
-#include "PictureSource.h"
-#include "PixelForms.h"
-#include "Resampling.h"
-#include "VipsText.h"
 
-#include "BatchValues.h"
+#include "job/values/JobValues.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/decode/PictureSource.h"
+#include "server/worker/geometry/Geometry.h"
+#include "server/worker/geometry/Orientation.h"
+#include "server/worker/geometry/Resampling.h"
+#include "server/worker/pixels/GeneratedPicture.h"
+#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/VipsText.h"
 
 #include <cmath>
 #include <vector>
 
-namespace BatchServer {
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+namespace BatchWorker {
 
 namespace {
 
-using BatchValues::BackgroundType;
+using BatchJob::BackgroundType;
 
 // One pixel as large as the frame.
 Picture Filled(const std::vector<double>& values, const QSize& size, const Picture& like)
@@ -97,7 +100,7 @@ Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits&
     const int orientation = source.Orientation();
     const QSize upright = TurnedSize(source.StoredSize(), orientation);
     ZTBatchOutputSettings::Crop crop;
-    crop.type = int(BatchValues::CropType::Fill);
+    crop.type = int(BatchJob::CropType::Fill);
     crop.size = size;
     const Geometry geometry = PlanGeometry(upright, crop, ZTBatchOutputSettings::ImageSize());
     const double reduction = double(upright.width()) / geometry.scaledSize.width();
@@ -148,4 +151,4 @@ bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, co
            !(file && file->has_alpha());
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

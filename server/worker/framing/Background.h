@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Picture.h"
-#include "ServerLimits.h"
+#include "server/protocol/ServerLimits.h"
+#include "server/worker/pixels/Picture.h"
 
 #include "ZTBatchOutputSettings.h"
 
@@ -10,13 +10,13 @@
 
 #include <optional>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// The background file of `framing`, upright and scaled to cover a frame of `size`, the middle of it being cut out;
 /// sRGB or grey, held in memory. Nothing when the background is no file. Throws FramingError, with the file's name,
 /// when it cannot be read whole, or is beyond `limits`.
 std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
-                                          const ServerLimits& limits, QStringList& warnings);
+                                          const BatchProtocol::ServerLimits& limits, QStringList& warnings);
 
 /// The background of a frame of `size`, its opacity applied: in the kind, depth and profile of `like`, with an alpha
 /// channel. `file` is what ReadBackgroundFile() gave.
@@ -26,4 +26,4 @@ Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, con
 /// Whether nothing can be seen through the background.
 bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file);
 
-} // namespace BatchServer
+} // namespace BatchWorker

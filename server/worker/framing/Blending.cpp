@@ -1,6 +1,6 @@
 #include "Blending.h"
 
-#include "GeneratedPicture.h"
+#include "server/worker/pixels/GeneratedPicture.h"
 
 #include <algorithm>
 #include <array>
@@ -9,11 +9,13 @@
 #include <limits>
 #include <utility>
 
-namespace BatchServer {
+using namespace BatchJob;
+
+namespace BatchWorker {
 
 namespace {
 
-using BatchValues::Blending;
+using BatchJob::Blending;
 
 float Screen(float backdrop, float source)
 {
@@ -148,4 +150,4 @@ float BlendedValue(Blending mode, float backdrop, float source)
     return BlendedValueOf(mode, backdrop, source, std::make_integer_sequence<int, modeCount>());
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "Picture.h"
+#include "job/values/JobValues.h"
+#include "server/worker/pixels/Picture.h"
 
-#include "BatchValues.h"
-
-namespace BatchServer {
+namespace BatchWorker {
 
 /// Lays `layer` over `backdrop`, by the formulas of the W3C's "Compositing and Blending Level 1": its sections
 /// "Blending", for the modes, and "Source Over", for the alpha.
@@ -13,9 +12,9 @@ namespace BatchServer {
 /// opaque. `coverage`, one band of floats from 0 to 1, and `opacity` scale the layer's alpha. Values are straight,
 /// computed as floats and rounded to the nearest. The metadata is that of the layer. Streams.
 Picture Blend(const Picture& backdrop, const Picture& layer, const Picture& coverage, double opacity,
-              BatchValues::Blending mode);
+              BatchJob::Blending mode);
 
 /// The blending function B(Cb, Cs) of `mode`: the colour where both are opaque. All values are 0 to 1.
-float BlendedValue(BatchValues::Blending mode, float backdrop, float source);
+float BlendedValue(BatchJob::Blending mode, float backdrop, float source);
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,10 +1,10 @@
 #include "Coverage.h"
 
-#include "GeneratedPicture.h"
+#include "server/worker/pixels/GeneratedPicture.h"
 
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -105,4 +105,4 @@ Picture Coverage::OfFrame(const QSize& size) const
     });
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

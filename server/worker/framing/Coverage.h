@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QPointF>
 #include <QSize>
 
 #include <array>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// The area of the pixel whose upper left corner is (x, y) that lies within a rectangle, 0 to 1, exact for rectangles
 /// at any angle.
@@ -38,4 +38,4 @@ private:
     std::array<Edge, 4> edges;
 };
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -57,4 +57,4 @@ double PatternValue(Pattern pattern, double x, double y)
     return IsFigure(pattern, x, y) ? patternFigure : patternGround;
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// The built-in background patterns, drawn by code in two neutral greys.
 enum class Pattern : int {
@@ -24,4 +24,4 @@ double PatternValue(Pattern pattern, double x, double y);
 constexpr double patternGround = 0.94;
 constexpr double patternFigure = 0.80;
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -80,4 +80,4 @@ FramePlacement::FramePlacement(const QSize& picture, const ZTBatchOutputSettings
                placement.map(area.bottomLeft())};
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

@@ -9,7 +9,7 @@
 
 #include <array>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// Where a picture stands in its frame. Coordinates are pixels from the frame's upper left corner; whole numbers are
 /// the borders between pixels.
@@ -41,4 +41,4 @@ struct FramePlacement
     bool CoversFrame() const { return upright.contains(QRect(QPoint(0, 0), frame)); }
 };
 
-} // namespace BatchServer
+} // namespace BatchWorker

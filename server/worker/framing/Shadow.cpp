@@ -1,11 +1,11 @@
 #include "Shadow.h"
 
 #include "Coverage.h"
-#include "GeneratedPicture.h"
-#include "PictureColours.h"
-#include "PixelForms.h"
 
-#include "BatchValues.h"
+#include "job/values/JobValues.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/pixels/GeneratedPicture.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <QtMath>
 
@@ -13,7 +13,7 @@
 #include <cmath>
 #include <vector>
 
-namespace BatchServer {
+namespace BatchWorker {
 
 namespace {
 
@@ -99,7 +99,7 @@ private:
 
 QPoint ShadowOffset(const ZTBatchOutputSettings::Transformation& framing)
 {
-    if (framing.shadowMode == int(BatchValues::ShadowMode::ContactGlow)) {
+    if (framing.shadowMode == int(BatchJob::ShadowMode::ContactGlow)) {
         return QPoint(0, 0);
     }
     const double light = qDegreesToRadians(double(framing.shadowAngle));
@@ -159,4 +159,4 @@ Picture ShadowOfAlpha(const Picture& placedPicture, const Picture& coverage,
         Picture::option()->set("odx", firstCell + offset.x())->set("ody", firstCell + offset.y())->set("oarea", frame));
 }
 
-} // namespace BatchServer
+} // namespace BatchWorker

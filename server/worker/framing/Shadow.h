@@ -2,9 +2,9 @@
 
 #include "Placement.h"
 
-#include "Picture.h"
+#include "server/worker/pixels/Picture.h"
 
-namespace BatchServer {
+namespace BatchWorker {
 
 /// How far the shadow is moved, in whole pixels: away from the light by the record's distance; not at all for a contact
 /// glow.
@@ -19,4 +19,4 @@ Picture ShadowOfRectangle(const FramePlacement& placement, const ZTBatchOutputSe
 Picture ShadowOfAlpha(const Picture& placedPicture, const Picture& coverage,
                       const ZTBatchOutputSettings::Transformation& framing);
 
-} // namespace BatchServer
+} // namespace BatchWorker

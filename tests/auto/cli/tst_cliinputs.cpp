@@ -1,10 +1,9 @@
-#include "InputCollector.h"
-#include "NaturalNames.h"
-#include "UsageError.h"
+#include "hosts/common/InputCollector.h"
+#include "hosts/common/NaturalNames.h"
+#include "hosts/common/UsageError.h"
+#include "job/settings/JobFiles.h"
 
 #include "ZTBatchDocument.h"
-
-#include <JobFiles.h>
 
 #include <QtTest>
 
@@ -17,14 +16,15 @@
 #include <unistd.h>
 #endif
 
-using namespace BatchCli;
+using namespace BatchJob;
+using namespace BatchHost;
 
 namespace {
 
 QStringList FilesOf(const ZTBatchDocument& job, const QString& root)
 {
     QStringList files;
-    for (const BatchServer::JobFile& file : BatchServer::FilesOfJob(*job.GetInputModel())) {
+    for (const BatchJob::JobFile& file : BatchJob::FilesOfJob(*job.GetInputModel())) {
         files.append(QDir(root).relativeFilePath(file.path));
     }
     return files;

@@ -1,6 +1,6 @@
-#include "CommandLine.h"
-#include "JobOptions.h"
-#include "UsageError.h"
+#include "hosts/cli/options/CommandLine.h"
+#include "hosts/cli/options/JobOptions.h"
+#include "hosts/common/UsageError.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+using namespace BatchHost;
 using namespace BatchCli;
 
 namespace {

@@ -1,4 +1,4 @@
-#include "Startup.h"
+#include "hosts/cli/terminal/Startup.h"
 
 #include <QTest>
 

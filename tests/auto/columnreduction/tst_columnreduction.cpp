@@ -1,7 +1,8 @@
-#include "ByteColumns.h"
-#include "ColumnPlan.h"
-#include "ColumnReduction.h"
 #include "TestPictures.h"
+
+#include "server/worker/geometry/ByteColumns.h"
+#include "server/worker/geometry/ColumnPlan.h"
+#include "server/worker/geometry/ColumnReduction.h"
 
 #include <QTest>
 
@@ -11,7 +12,7 @@
 #include <random>
 #include <vector>
 
-using namespace BatchServer;
+using namespace BatchWorker;
 
 namespace {
 

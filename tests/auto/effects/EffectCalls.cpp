@@ -1,7 +1,7 @@
 #include "EffectCalls.h"
 
-#include "EffectCatalog.h"
-#include "Effects.h"
+#include "job/effects/EffectCatalog.h"
+#include "server/worker/effects/Effects.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,7 +10,8 @@
 
 namespace EffectCalls {
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchWorker;
 
 Picture Apply(const QString& id, const QByteArray& parameters, const Picture& picture)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
 #include <QString>
@@ -10,13 +10,13 @@ namespace EffectCalls {
 
 /// Applies the effect with the JSON text `parameters` after their check. Throws what the effect throws, and
 /// std::runtime_error when the parameters are refused.
-BatchServer::Picture Apply(const QString& id, const QByteArray& parameters, const BatchServer::Picture& picture);
+BatchWorker::Picture Apply(const QString& id, const QByteArray& parameters, const BatchWorker::Picture& picture);
 
 /// Why the parameters are refused; empty when they are accepted.
 QString Refusal(const QString& id, const QByteArray& parameters);
 
 /// What the effect says when it fails; empty when it does not.
-QString Failure(const QString& id, const QByteArray& parameters, const BatchServer::Picture& picture);
+QString Failure(const QString& id, const QByteArray& parameters, const BatchWorker::Picture& picture);
 
 /// The JSON object `others`, or an empty one, with "file" in it.
 QByteArray WithFile(const QString& path, const QByteArray& others = QByteArray());

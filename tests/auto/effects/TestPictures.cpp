@@ -6,7 +6,7 @@
 
 namespace TestPictures {
 
-using BatchServer::Picture;
+using BatchWorker::Picture;
 
 QVector<Form> AllForms()
 {

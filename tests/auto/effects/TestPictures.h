@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "server/worker/pixels/Picture.h"
 
 #include <QVector>
 
@@ -22,22 +22,22 @@ struct Form
 QVector<Form> AllForms();
 
 /// The form of `picture`; fails with an empty one when it has none of them.
-Form FormOf(const BatchServer::Picture& picture);
+Form FormOf(const BatchWorker::Picture& picture);
 
 bool operator==(const Form& a, const Form& b);
 
 /// `values` line by line, the channels of a pixel together.
-BatchServer::Picture FromValues(const Form& form, int width, int height, const QVector<int>& values);
+BatchWorker::Picture FromValues(const Form& form, int width, int height, const QVector<int>& values);
 
-QVector<int> ValuesOf(const BatchServer::Picture& picture);
+QVector<int> ValuesOf(const BatchWorker::Picture& picture);
 
 /// The values of one channel.
-QVector<int> ChannelOf(const BatchServer::Picture& picture, int band);
+QVector<int> ChannelOf(const BatchWorker::Picture& picture, int band);
 
 /// Values by chance, the same in every run.
-BatchServer::Picture Noise(const Form& form, int width, int height, unsigned seed = 1);
+BatchWorker::Picture Noise(const Form& form, int width, int height, unsigned seed = 1);
 
 /// Eight bits: every value from 0 to 255 once in each channel, the channels in different orders.
-BatchServer::Picture EveryValue(const Form& form);
+BatchWorker::Picture EveryValue(const Form& form);
 
 } // namespace TestPictures

@@ -1,4 +1,4 @@
-#include "effects/CubeFile.h"
+#include "job/effects/CubeFile.h"
 
 #include <QtTest>
 
@@ -6,7 +6,7 @@
 
 #include <random>
 
-using namespace BatchServer;
+using namespace BatchJob;
 
 class tst_CubeFile : public QObject
 {

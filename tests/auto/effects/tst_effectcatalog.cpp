@@ -1,12 +1,15 @@
 #include "EffectCalls.h"
-#include "EffectCatalog.h"
-#include "EffectExamples.h"
-#include "EffectReference.h"
-#include "Effects.h"
+
+#include "job/effects/EffectCatalog.h"
+#include "server/reference/EffectExamples.h"
+#include "server/reference/EffectReference.h"
+#include "server/worker/effects/Effects.h"
 
 #include <QtTest>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchWorker;
+using namespace BatchReference;
 
 class tst_EffectCatalog : public QObject
 {

@@ -1,12 +1,14 @@
 #include "EffectCalls.h"
-#include "EffectCatalog.h"
-#include "Effects.h"
-#include "PixelForms.h"
 #include "TestPictures.h"
+
+#include "job/effects/EffectCatalog.h"
+#include "server/worker/effects/Effects.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <QtTest>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchWorker;
 using namespace TestPictures;
 
 /// What holds for every effect and every form of picture.

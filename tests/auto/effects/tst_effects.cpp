@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-using namespace BatchServer;
+using namespace BatchWorker;
 using namespace TestPictures;
 
 /// The values that come out of effects, against values computed from the definitions by another program, and by hand.

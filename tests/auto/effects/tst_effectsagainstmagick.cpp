@@ -5,7 +5,7 @@
 
 #include <QProcess>
 
-using namespace BatchServer;
+using namespace BatchWorker;
 using namespace TestPictures;
 
 /// A real photo through our effects and through ImageMagick's operations of the same definition.

@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-using namespace BatchServer;
+using namespace BatchWorker;
 using namespace TestPictures;
 
 class tst_Watermarks : public QObject

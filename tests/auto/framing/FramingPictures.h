@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Picture.h"
+#include "job/values/JobValues.h"
+#include "server/worker/pixels/Picture.h"
 
-#include "BatchValues.h"
 #include "ZTBatchOutputSettings.h"
 
 #include <QImage>
@@ -11,7 +11,7 @@
 
 namespace FramingPictures {
 
-using BatchServer::Picture;
+using BatchWorker::Picture;
 
 /// A record with everything off: no margins, no angle, no background, no shadow.
 ZTBatchOutputSettings::Transformation PlainFraming();

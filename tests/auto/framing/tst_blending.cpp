@@ -1,16 +1,16 @@
 #include "FramingPictures.h"
 
-#include "framing/Blending.h"
+#include "server/worker/framing/Blending.h"
 
 #include <QTest>
 
-using BatchServer::Blend;
-using BatchServer::Picture;
-using BatchValues::Blending;
+using BatchJob::Blending;
+using BatchWorker::Blend;
+using BatchWorker::Picture;
 using FramingPictures::PixelText;
 using FramingPictures::Uniform;
 
-Q_DECLARE_METATYPE(BatchValues::Blending)
+Q_DECLARE_METATYPE(BatchJob::Blending)
 
 namespace {
 
@@ -130,7 +130,7 @@ private Q_SLOTS:
             for (int backdrop = 0; backdrop < 256; ++backdrop) {
                 for (int source = 0; source < 256; ++source) {
                     const float value =
-                        BatchServer::BlendedValue(Blending(mode), float(backdrop) / 255, float(source) / 255);
+                        BatchWorker::BlendedValue(Blending(mode), float(backdrop) / 255, float(source) / 255);
                     QVERIFY(value >= -1e-6f && value <= 1 + 1e-6f);
                 }
             }

@@ -1,9 +1,9 @@
-#include "framing/Coverage.h"
+#include "server/worker/framing/Coverage.h"
 
 #include <QTest>
 #include <QTransform>
 
-using BatchServer::Coverage;
+using BatchWorker::Coverage;
 
 namespace {
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QFETCH(double, angle);
         const QTransform turned = QTransform().translate(40.3, 40.7).rotate(angle);
         const Coverage coverage(Corners(QRectF(-25.2, -11.6, 50.4, 23.2), turned));
-        const BatchServer::Picture frame = coverage.OfFrame(QSize(80, 81));
+        const BatchWorker::Picture frame = coverage.OfFrame(QSize(80, 81));
         const double sum = frame.avg() * 80 * 81;
         QVERIFY2(qAbs(sum - 50.4 * 23.2) < 0.01, qPrintable(QString::number(sum)));
         QCOMPARE(frame.max(), 1.0);

@@ -1,15 +1,15 @@
 #include "FramingPictures.h"
 
-#include "Framing.h"
-#include "PictureColours.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/framing/Framing.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace FramingPictures;
-using BatchServer::FramingError;
-using BatchValues::BackgroundType;
+using BatchJob::BackgroundType;
+using BatchWorker::FramingError;
 
 namespace {
 
@@ -17,10 +17,10 @@ namespace {
 Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
                      qint64 pixelLimit = 1'000'000)
 {
-    BatchServer::ServerLimits limits;
+    BatchProtocol::ServerLimits limits;
     limits.pixels = pixelLimit;
     QStringList warnings;
-    return BatchServer::FramePicture(picture, framing, limits, warnings).copy_memory();
+    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
 }
 
 // A picture in one of the profiles that the library brings along.

@@ -1,13 +1,13 @@
 #include "FramingPictures.h"
 
-#include "Framing.h"
+#include "server/worker/framing/Framing.h"
 
 #include <QTest>
 
 #include <cmath>
 
 using namespace FramingPictures;
-using BatchValues::ShadowMode;
+using BatchJob::ShadowMode;
 
 namespace {
 
@@ -15,10 +15,10 @@ namespace {
 Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
                      qint64 pixelLimit = 1'000'000)
 {
-    BatchServer::ServerLimits limits;
+    BatchProtocol::ServerLimits limits;
     limits.pixels = pixelLimit;
     QStringList warnings;
-    return BatchServer::FramePicture(picture, framing, limits, warnings).copy_memory();
+    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
 }
 
 // A white square of 20 pixels in the middle of a white frame of 60, with a black shadow.
@@ -26,7 +26,7 @@ ZTBatchOutputSettings::Transformation ShadowFraming(int angle, int distance, int
 {
     ZTBatchOutputSettings::Transformation framing = PlainFraming();
     framing.margins = QMargins(20, 20, 20, 20);
-    framing.backgroundType = int(BatchValues::BackgroundType::Colour);
+    framing.backgroundType = int(BatchJob::BackgroundType::Colour);
     framing.backgroundColor = Qt::white;
     framing.shadowEnabled = true;
     framing.shadowColor = Qt::black;
@@ -160,7 +160,7 @@ private Q_SLOTS:
     void ShadowsShowOnNothing()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(180, 10, 0);
-        framing.backgroundType = int(BatchValues::BackgroundType::None);
+        framing.backgroundType = int(BatchJob::BackgroundType::None);
         framing.shadowOpacity = 0.6;
         const Picture framed = FramePicture(WhiteSquare(false), framing);
         QCOMPARE(PixelText(framed, 45, 30), QStringLiteral("0 153"));

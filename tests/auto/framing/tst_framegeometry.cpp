@@ -1,7 +1,7 @@
 #include "FramingPictures.h"
 
-#include "Framing.h"
-#include "framing/Placement.h"
+#include "server/worker/framing/Framing.h"
+#include "server/worker/framing/Placement.h"
 
 #include <QPainter>
 #include <QTest>
@@ -85,12 +85,12 @@ private Q_SLOTS:
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.angle = angle;
         framing.margins = margins;
-        framing.backgroundType = int(BatchValues::BackgroundType::Colour);
+        framing.backgroundType = int(BatchJob::BackgroundType::Colour);
         framing.backgroundColor = QColor(250, 250, 250);
 
         QStringList warnings;
-        const QImage framed = ToImage(BatchServer::FramePicture(FromImage(picture), framing, {}, warnings));
-        const BatchServer::FramePlacement placement(size, framing);
+        const QImage framed = ToImage(BatchWorker::FramePicture(FromImage(picture), framing, {}, warnings));
+        const BatchWorker::FramePlacement placement(size, framing);
         const QTransform onWholePixels = QTransform::fromScale(placement.drawn.width() / double(size.width()),
                                                                placement.drawn.height() / double(size.height())) *
                                          placement.toFrame;

@@ -1,11 +1,11 @@
 #include "FramingPictures.h"
 
-#include "framing/Placement.h"
+#include "server/worker/framing/Placement.h"
 
 #include <QTest>
 #include <QtMath>
 
-using BatchServer::FramePlacement;
+using BatchWorker::FramePlacement;
 using FramingPictures::PlainFraming;
 
 Q_DECLARE_METATYPE(QMargins)

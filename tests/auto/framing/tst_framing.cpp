@@ -1,7 +1,7 @@
 #include "FramingPictures.h"
 
-#include "Framing.h"
-#include "framing/Patterns.h"
+#include "server/worker/framing/Framing.h"
+#include "server/worker/framing/Patterns.h"
 
 #include <QSet>
 #include <QTemporaryDir>
@@ -10,8 +10,8 @@
 #include <cmath>
 
 using namespace FramingPictures;
-using BatchValues::BackgroundType;
-using BatchValues::Blending;
+using BatchJob::BackgroundType;
+using BatchJob::Blending;
 
 namespace {
 
@@ -19,10 +19,10 @@ namespace {
 Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
                      qint64 pixelLimit = 1'000'000)
 {
-    BatchServer::ServerLimits limits;
+    BatchProtocol::ServerLimits limits;
     limits.pixels = pixelLimit;
     QStringList warnings;
-    return BatchServer::FramePicture(picture, framing, limits, warnings).copy_memory();
+    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
 }
 
 ZTBatchOutputSettings::Transformation OnColour(const QColor& colour, int margin)
@@ -235,7 +235,7 @@ private Q_SLOTS:
         QFETCH(int, pattern);
         QFETCH(int, percent);
         QFETCH(int, side);
-        QCOMPARE(BatchServer::PatternTileSide(percent), side);
+        QCOMPARE(BatchWorker::PatternTileSide(percent), side);
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.backgroundType = int(BackgroundType::Pattern);
         framing.backgroundPattern = {pattern, percent, 0};
@@ -250,11 +250,11 @@ private Q_SLOTS:
                  0.0);
         // Two greys, and mixtures of them where their border crosses a pixel.
         QCOMPARE((tile.extract_band(0) - tile.extract_band(2)).abs().max(), 0.0);
-        QVERIFY(tile.min() >= std::floor(255 * BatchServer::patternFigure));
-        QVERIFY(tile.max() <= std::ceil(255 * BatchServer::patternGround));
+        QVERIFY(tile.min() >= std::floor(255 * BatchWorker::patternFigure));
+        QVERIFY(tile.max() <= std::ceil(255 * BatchWorker::patternGround));
         if (side > 2) {
-            QCOMPARE(tile.min(), std::round(255 * BatchServer::patternFigure));
-            QCOMPARE(tile.max(), std::round(255 * BatchServer::patternGround));
+            QCOMPARE(tile.min(), std::round(255 * BatchWorker::patternFigure));
+            QCOMPARE(tile.max(), std::round(255 * BatchWorker::patternGround));
         }
     }
 

@@ -1,6 +1,7 @@
-#include "JobCheck.h"
-
 #include "InputNodes.h"
+
+#include "job/settings/JobCheck.h"
+
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
 #include "ZTStyle.h"
@@ -10,7 +11,7 @@
 #include <functional>
 #include <limits>
 
-using namespace BatchServer;
+using namespace BatchJob;
 using Settings = ZTBatchOutputSettings;
 
 class tst_JobCheck : public QObject

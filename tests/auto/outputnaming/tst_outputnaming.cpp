@@ -1,8 +1,8 @@
-#include "OutputNaming.h"
+#include "job/settings/OutputNaming.h"
 
 #include <QtTest>
 
-using namespace BatchServer;
+using namespace BatchJob;
 using Settings = ZTBatchOutputSettings;
 
 class tst_OutputNaming : public QObject

@@ -1,14 +1,15 @@
-#include "OutputPlan.h"
-
-#include "BatchValues.h"
 #include "InputNodes.h"
+
+#include "job/plan/OutputPlan.h"
+#include "job/values/JobValues.h"
+
 #include "ZTBatchDocument.h"
 
 #include <QtTest>
 
 #include <filesystem>
 
-using namespace BatchServer;
+using namespace BatchJob;
 using Settings = ZTBatchOutputSettings;
 using Clash = OutputPlan::Clash;
 
@@ -383,7 +384,7 @@ void tst_OutputPlan::sharedSources()
     const QString background = Write(QStringLiteral("out/b.png"));
     const QStringList inputs{QStringLiteral("/in/a.jpg"), QStringLiteral("/in/b.jpg"), mark};
     settings.effects = {{FindEffect(QStringLiteral("watermark-image")), {{QStringLiteral("file"), mark}}}};
-    settings.framing.backgroundType = int(BatchValues::BackgroundType::Image);
+    settings.framing.backgroundType = int(BatchJob::BackgroundType::Image);
     settings.framing.backgroundImage = background;
     settings.framing.state = false; // So the background is none of its sources.
     OutputPlan unframed = Plan(inputs);

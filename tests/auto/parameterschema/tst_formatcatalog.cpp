@@ -1,4 +1,4 @@
-#include "FormatCatalog.h"
+#include "job/formats/FormatCatalog.h"
 
 #include "ZTBatchOutputSettings.h"
 
@@ -7,7 +7,7 @@
 #include <QJsonArray>
 #include <QSet>
 
-using namespace BatchServer;
+using namespace BatchJob;
 
 class tst_FormatCatalog : public QObject
 {

@@ -1,11 +1,11 @@
-#include "ParameterSchema.h"
+#include "job/values/ParameterSchema.h"
 
 #include <QtTest>
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
-using namespace BatchServer;
+using namespace BatchJob;
 
 class tst_ParameterSchema : public QObject
 {

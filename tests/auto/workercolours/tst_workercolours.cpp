@@ -1,7 +1,8 @@
-#include "BatchValues.h"
-#include "Colour.h"
-#include "ColourProfile.h"
 #include "WorkerBench.h"
+
+#include "job/values/JobValues.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/colour/ColourProfile.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
@@ -13,7 +14,9 @@
 
 Q_DECLARE_METATYPE(std::vector<double>)
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 namespace {
 

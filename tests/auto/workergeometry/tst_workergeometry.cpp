@@ -1,7 +1,8 @@
-#include "BatchValues.h"
-#include "Geometry.h"
-#include "Orientation.h"
 #include "WorkerBench.h"
+
+#include "job/values/JobValues.h"
+#include "server/worker/geometry/Geometry.h"
+#include "server/worker/geometry/Orientation.h"
 
 #include <QTest>
 
@@ -10,8 +11,9 @@
 Q_DECLARE_METATYPE(ZTBatchOutputSettings::ImageSize)
 Q_DECLARE_METATYPE(ZTBatchOutputSettings::Crop)
 
-using namespace BatchServer;
-using namespace BatchValues;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 namespace {
 
@@ -299,7 +301,7 @@ void WorkerGeometryTest::keepsPlainValuesOfSixteenBits()
     WritePicture(plain, bench.Path(Text("in.tif")));
     const auto edit = [](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
         size.size = 123;
         output.SetImageSizeSettings(size);
     };

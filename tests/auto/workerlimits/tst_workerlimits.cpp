@@ -1,6 +1,7 @@
-#include "BatchValues.h"
-#include "TemporaryFile.h"
 #include "WorkerBench.h"
+
+#include "job/values/JobValues.h"
+#include "server/protocol/TemporaryFile.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
@@ -16,7 +17,9 @@
 
 Q_DECLARE_METATYPE(ZTBatchOutputSettings::Transformation)
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 namespace {
 
@@ -188,7 +191,7 @@ void WorkerLimitsTest::staysSmall_data()
     framed.shadowAngle = 135;
     framed.shadowDistance = 30;
     framed.shadowSize = 20;
-    framed.backgroundType = int(BatchValues::BackgroundType::Colour);
+    framed.backgroundType = int(BatchJob::BackgroundType::Colour);
     framed.backgroundColor = Qt::white;
     framed.backgroundOpacity = 1;
     QTest::newRow("framed with a shadow") << QStringList() << 1 << 0 << framed;
@@ -215,8 +218,8 @@ void WorkerLimitsTest::staysSmall()
         document.GetOutputSettings()->SetFormat(Text("JPEG"), {});
         document.GetOutputSettings()->SetTransformationSettings(framing);
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = longSide > 0 ? int(BatchValues::SizeRestriction::Fit) : 0;
-        size.side = int(BatchValues::SizeSide::LongSide);
+        size.restriction = longSide > 0 ? int(BatchJob::SizeRestriction::Fit) : 0;
+        size.side = int(BatchJob::SizeSide::LongSide);
         size.size = longSide;
         document.GetOutputSettings()->SetImageSizeSettings(size);
         for (const QString& effect : effects) {

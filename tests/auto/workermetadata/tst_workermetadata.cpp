@@ -1,6 +1,7 @@
-#include "BatchValues.h"
-#include "FormatCatalog.h"
 #include "WorkerBench.h"
+
+#include "job/formats/FormatCatalog.h"
+#include "job/values/JobValues.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -11,7 +12,9 @@
 #include <brotli/encode.h>
 #include <exiv2/exiv2.hpp>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 namespace {
 
@@ -315,8 +318,8 @@ void WorkerMetadataTest::describesTheResult()
     WriteSource(Text("in.jpg"));
     const auto edit = [](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
-        size.side = int(BatchValues::SizeSide::Width);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
+        size.side = int(BatchJob::SizeSide::Width);
         size.size = 40;
         size.resolution = 144;
         output.SetImageSizeSettings(size);

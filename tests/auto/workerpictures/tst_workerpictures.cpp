@@ -1,14 +1,17 @@
-#include "BatchValues.h"
-#include "FormatCatalog.h"
-#include "Orientation.h"
 #include "WorkerBench.h"
+
+#include "job/formats/FormatCatalog.h"
+#include "job/values/JobValues.h"
+#include "server/worker/geometry/Orientation.h"
 
 #include <QJsonArray>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 namespace {
 
@@ -234,13 +237,13 @@ void WorkerPicturesTest::turnsPicturesUpright()
 
     const auto edit = [](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::Crop crop;
-        crop.type = int(BatchValues::CropType::Exact);
+        crop.type = int(BatchJob::CropType::Exact);
         crop.size = QSize(40, 24);
         crop.alignment = Qt::AlignRight | Qt::AlignTop;
         output.SetCropSettings(crop);
         ZTBatchOutputSettings::ImageSize imageSize;
-        imageSize.restriction = int(BatchValues::SizeRestriction::Fit);
-        imageSize.side = int(BatchValues::SizeSide::Width);
+        imageSize.restriction = int(BatchJob::SizeRestriction::Fit);
+        imageSize.side = int(BatchJob::SizeSide::Width);
         imageSize.size = 20;
         output.SetImageSizeSettings(imageSize);
     };
@@ -477,8 +480,8 @@ void WorkerPicturesTest::mixesNoHiddenColourIntoEdges()
     WritePicture(both, bench->Path(Text("in.png")));
     const auto edit = [](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
-        size.side = int(BatchValues::SizeSide::Width);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
+        size.side = int(BatchJob::SizeSide::Width);
         size.size = 25;
         output.SetImageSizeSettings(size);
     };
@@ -576,8 +579,8 @@ void WorkerPicturesTest::obeysThePixelLimit()
     WritePicture(Picture::black(100, 100), bench->Path(Text("in.png")));
     job = JobOf(Text("PNG"), {}, [](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
-        size.unit = int(BatchValues::SizeUnit::Percent);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
+        size.unit = int(BatchJob::SizeUnit::Percent);
         size.size = 2000;
         output.SetImageSizeSettings(size);
     });
@@ -608,7 +611,7 @@ void WorkerPicturesTest::scalesLikeAnotherProgram()
     QVERIFY(QFile::copy(photo, bench->Path(Text("in.jpg"))));
     const auto edit = [longSide](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
         size.size = longSide;
         output.SetImageSizeSettings(size);
     };

@@ -6,7 +6,8 @@
 
 #include <numeric>
 
-using namespace BatchServer;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 
 /// The worker as its supervisor sees it: messages, reports, files.
 class WorkerProcessTest : public QObject

@@ -1,15 +1,18 @@
-#include "BatchValues.h"
-#include "Colour.h"
-#include "ColourProfile.h"
 #include "RawPicture.h"
 #include "WorkerBench.h"
+
+#include "job/values/JobValues.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/colour/ColourProfile.h"
 
 #include <QDateTime>
 #include <QTest>
 
 #include <cmath>
 
-using namespace BatchServer;
+using namespace BatchJob;
+using namespace BatchProtocol;
+using namespace BatchWorker;
 using namespace RawPicture;
 
 namespace {
@@ -68,7 +71,7 @@ void WorkerRawTest::developsPictures()
     bench.WriteBytes(Text("in.dng"), Dng(1, neutral));
     const auto edit = [longSide](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
-        size.restriction = int(BatchValues::SizeRestriction::Fit);
+        size.restriction = int(BatchJob::SizeRestriction::Fit);
         size.size = longSide;
         output.SetImageSizeSettings(size);
     };

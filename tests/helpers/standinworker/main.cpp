@@ -13,8 +13,9 @@
 // A file "start.script" beside the executable makes it end at once, a file "job.script" when it gets a job.
 
 #include "ProcessEnd.h"
-#include "TemporaryFile.h"
-#include "WorkerMessages.h"
+
+#include "server/protocol/TemporaryFile.h"
+#include "server/protocol/WorkerMessages.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -34,7 +35,7 @@
 #include <unistd.h>
 #endif
 
-using namespace BatchServer;
+using namespace BatchProtocol;
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "CliRun.h"
-#include "CommandLine.h"
 #include "PseudoTerminal.h"
+
+#include "hosts/cli/options/CommandLine.h"
 
 #include <QProcess>
 #include <QRegularExpression>

@@ -59,7 +59,7 @@ void TestFramedRun::ThePictureStandsInItsFrame()
     QVERIFY(run.Start());
     run.Process(FramedJob(run, QStringLiteral("PNG"), framing));
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
-    const BatchServer::Picture framed = ReadPicture(run.Path(QStringLiteral("out/chart.png")));
+    const BatchWorker::Picture framed = ReadPicture(run.Path(QStringLiteral("out/chart.png")));
     QCOMPARE(framed.width(), 200);
     QCOMPARE(framed.height(), 150);
     QCOMPARE(framed.bands(), 3);
@@ -73,7 +73,7 @@ void TestFramedRun::TransparencyBecomesWhiteWhereItMust()
     QVERIFY(run.Start());
     run.Process(FramedJob(run, QStringLiteral("JPEG"), Turned()));
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
-    const BatchServer::Picture framed = ReadPicture(run.Path(QStringLiteral("out/chart.jpg")));
+    const BatchWorker::Picture framed = ReadPicture(run.Path(QStringLiteral("out/chart.jpg")));
     QCOMPARE(framed.bands(), 3);
     QVERIFY(framed.getpoint(1, 1)[0] >= 253);
 }

@@ -1,9 +1,8 @@
 #include "Mutations.h"
-
 #include "ServerRun.h"
 #include "TestPictures.h"
 
-#include "ServerLimits.h"
+#include "server/protocol/ServerLimits.h"
 
 #include <QDir>
 #include <QHash>

@@ -1,9 +1,9 @@
 #include "ProcessEnd.h"
 #include "ServerRun.h"
 
-#include "ZTBatchOutputSettings.h"
+#include "job/journal/RunJournal.h"
 
-#include <RunJournal.h>
+#include "ZTBatchOutputSettings.h"
 
 #include <QImage>
 #include <QRandomGenerator>
@@ -325,8 +325,8 @@ void tst_ServerPromises::finishedResultsOfLostServersCount()
     Policies policies;
     policies.naming = ZTBatchManager::NamingOverwrite;
     const QString journalPath = run.Path(QStringLiteral("journal"));
-    run.SetVariable(QString::fromLatin1(BatchServer::journalVariable), journalPath);
-    QVERIFY(BatchServer::RunJournal().Create(
+    run.SetVariable(QString::fromLatin1(BatchJob::journalVariable), journalPath);
+    QVERIFY(BatchJob::RunJournal().Create(
         journalPath, job, {policies.input, policies.output, policies.processing, policies.naming, policies.format}));
 
     QVERIFY(run.Start());

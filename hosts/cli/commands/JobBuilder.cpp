@@ -1,0 +1,80 @@
+#include "JobBuilder.h"
+
+#include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/terminal/Console.h"
+#include "hosts/cli/terminal/StatusLine.h"
+#include "hosts/common/InputCollector.h"
+#include "hosts/common/JobFile.h"
+#include "hosts/common/UsageError.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QLocale>
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+void ApplyOptions(ZTBatchDocument& job, const ParsedArguments& arguments)
+{
+    for (const JobOption& option : JobOptions()) {
+        for (const QString& value : arguments.Values(option.info.name)) {
+            try {
+                option.apply(job, value);
+            } catch (const UsageError& error) {
+                throw UsageError{QStringLiteral("%1: %2").arg(option.info.name, error.text)};
+            }
+        }
+    }
+}
+
+InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job)
+{
+    InputFilter filter;
+    filter.only = arguments.Values(QStringLiteral("--include"));
+    filter.except = arguments.Values(QStringLiteral("--exclude"));
+    filter.subfolders = !arguments.Has(QStringLiteral("--no-subfolders"));
+    filter.hidden = arguments.Has(QStringLiteral("--hidden"));
+    filter.outputFolder = job.GetOutputSettings()->GetPath();
+    return filter;
+}
+
+} // namespace
+
+int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob, const QStringList& inputs)
+{
+    SetJobDefaults(job);
+    if (!savedJob.isEmpty()) {
+        LoadJob(job, savedJob);
+    }
+    if (arguments.Has(QStringLiteral("--no-inputs"))) {
+        job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
+    }
+    ApplyOptions(job, arguments);
+
+    InputCollector collector(job, FilterOf(arguments, job));
+    StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
+    collector.onProgress = [&line](int folders, int files, const QString& folder) {
+        line.Show([&] {
+            return QStringLiteral("Folders read: %1, pictures found: %2, now in %3")
+                .arg(QLocale::c().toString(folders), QLocale::c().toString(files), folder);
+        });
+    };
+    collector.Add(inputs);
+    line.Clear();
+    const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
+    for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
+    }
+    return collector.Problems().size();
+}
+
+QString TakeSavedJob(QStringList& inputs)
+{
+    return inputs.value(0).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) ? inputs.takeFirst() : QString();
+}
+
+} // namespace BatchCli

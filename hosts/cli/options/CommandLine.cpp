@@ -1,0 +1,223 @@
+#include "CommandLine.h"
+
+#include "HelpTexts.h"
+#include "Words.h"
+
+#include "hosts/common/JobFile.h"
+#include "hosts/common/UsageError.h"
+
+#include <QCoreApplication>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <list>
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+std::string Bytes(const QString& text)
+{
+    return text.toStdString();
+}
+
+QString Text(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+/// What CLI11 writes into while it parses. A list, so that its references stay.
+struct Slot
+{
+    const OptionInfo* info = nullptr;
+    CLI::Option* option = nullptr;
+    std::vector<std::string> values;
+    bool isSet = false;
+};
+
+void AddOption(CLI::App& app, const OptionInfo& info, std::list<Slot>& slots)
+{
+    Slot& slot = slots.emplace_back();
+    slot.info = &info;
+    const std::string names =
+        Bytes(info.shortName.isEmpty() ? info.name : info.shortName + QLatin1Char(',') + info.name);
+    if (info.valueName.isEmpty()) {
+        slot.option = app.add_flag(names, slot.isSet, Bytes(info.help));
+    } else {
+        slot.option = app.add_option(names, slot.values, Bytes(info.help));
+        slot.option->type_name(Bytes(info.valueName));
+        slot.option->type_size(1);
+        slot.option->expected(1);
+        slot.option->allow_extra_args(false);
+        slot.option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll); // Collect() counts.
+    }
+    slot.option->group(Bytes(info.group));
+}
+
+QString WithoutDashes(QString name)
+{
+    while (name.startsWith(QLatin1Char('-'))) {
+        name.remove(0, 1);
+    }
+    return name;
+}
+
+/// The option of `command` that was meant by `name`; empty when none is near. Dashes do not make names alike.
+QString NearestOption(const QString& name, const CommandInfo& command)
+{
+    QStringList names;
+    for (const OptionInfo& option : command.options) {
+        names.append(WithoutDashes(option.name));
+    }
+    const QString nearest = BatchJob::NearestWord(WithoutDashes(name), names);
+    return nearest.isEmpty() ? QString() : QStringLiteral("--") + nearest;
+}
+
+QStringList CommandNames()
+{
+    QStringList names;
+    for (const CommandInfo& command : Commands()) {
+        names.append(command.name);
+    }
+    return names;
+}
+
+UsageError UnknownOption(const QString& text, const CommandInfo& command)
+{
+    const QString name = text.section(QLatin1Char('='), 0, 0);
+    const QString nearest = NearestOption(name, command);
+    return {
+        nearest.isEmpty()
+            ? QStringLiteral("unknown option %1; \"velkora-batch %2 --help\" lists the options").arg(name, command.name)
+            : QStringLiteral("unknown option %1; did you mean \"%2\"?").arg(name, nearest)};
+}
+
+void CheckFirstArgument(const QStringList& arguments)
+{
+    const QString first = arguments.value(0);
+    if (first.isEmpty()) {
+        throw UsageError{QStringLiteral("a command is needed: %1; \"velkora-batch --help\" tells more")
+                             .arg(CommandNames().join(QStringLiteral(", ")))};
+    }
+    if (first.startsWith(QLatin1Char('-'))) {
+        const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version")};
+        if (!known.contains(first)) {
+            throw UsageError{QStringLiteral("%1 stands before the command, where only %2 may stand%3")
+                                 .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
+        }
+    } else if (!CommandNames().contains(first)) {
+        throw UsageError{QStringLiteral("unknown command: %1").arg(NoSuchWord(first, CommandNames()).text)};
+    }
+}
+
+void CheckTexts(const QStringList& arguments)
+{
+    for (int i = 0; i < arguments.size(); ++i) {
+        if (!CanBeSaved(arguments.at(i))) {
+            throw UsageError{QStringLiteral("argument %1, \"%2\", has a character that no job can hold")
+                                 .arg(QString::number(i + 1), arguments.at(i))};
+        }
+    }
+}
+
+/// An empty name is a slip, such as a variable without value; it must not mean the current folder.
+void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
+{
+    if (parsed.inputs.contains(QString())) {
+        throw UsageError{QStringLiteral("the name behind %1 is empty").arg(command.name)};
+    }
+    for (const OptionInfo& option : command.options) {
+        const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
+        if (isName && parsed.Values(option.name).contains(QString())) {
+            throw UsageError{QStringLiteral("%1: the name is empty").arg(option.name)};
+        }
+    }
+}
+
+/// The inputs in what is no option of `command`. They are no positional option of CLI11 because that would take the
+/// name "[2024]" for a list.
+QStringList InputsAmong(const std::vector<std::string>& rest, const CommandInfo& command)
+{
+    QStringList inputs;
+    bool areOptionsOver = false;
+    for (const std::string& text : rest) {
+        if (!areOptionsOver && text == "--") {
+            areOptionsOver = true;
+        } else if (!areOptionsOver && text.size() > 1 && text[0] == '-') {
+            throw UnknownOption(Text(text), command);
+        } else {
+            inputs.append(Text(text));
+        }
+    }
+    return inputs;
+}
+
+ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots, const QStringList& inputs)
+{
+    ParsedArguments parsed;
+    parsed.command = command.name;
+    parsed.inputs = inputs;
+    for (const Slot& slot : slots) {
+        if (slot.option->count() == 0) {
+            continue;
+        }
+        QStringList values;
+        for (const std::string& value : slot.values) {
+            values.append(Text(value));
+        }
+        if (!slot.info->isRepeatable && values.size() > 1) {
+            throw UsageError{QStringLiteral("%1 is given %2 times and takes one value; leave \"%3\" or \"%4\" out")
+                                 .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
+        }
+        parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);
+    }
+    return parsed;
+}
+
+} // namespace
+
+ParsedArguments ParseArguments(const QStringList& arguments)
+{
+    CheckTexts(arguments);
+    CheckFirstArgument(arguments);
+    ParsedArguments parsed;
+    if (arguments.first() == QLatin1String("--version")) {
+        parsed.message = QStringLiteral("velkora-batch %1\n").arg(QCoreApplication::applicationVersion());
+        return parsed;
+    }
+    if (arguments.first().startsWith(QLatin1Char('-'))) {
+        parsed.message = ProgramHelp();
+        return parsed;
+    }
+    const CommandInfo& command = *std::find_if(Commands().begin(), Commands().end(), [&](const CommandInfo& known) {
+        return known.name == arguments.first();
+    });
+
+    CLI::App app;
+    app.set_help_flag();
+    app.allow_extras();
+    std::list<Slot> slots;
+    for (const OptionInfo& option : command.options) {
+        AddOption(app, option, slots);
+    }
+    std::vector<std::string> reversed;
+    for (int i = arguments.size() - 1; i > 0; --i) {
+        reversed.push_back(Bytes(arguments.at(i)));
+    }
+    try {
+        app.parse(reversed);
+    } catch (const CLI::ParseError& error) {
+        throw UsageError{Text(error.what())};
+    }
+    parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
+    CheckNames(parsed, command);
+    if (parsed.Has(QStringLiteral("--help"))) {
+        parsed.message = CommandHelp(command);
+    }
+    return parsed;
+}
+
+} // namespace BatchCli

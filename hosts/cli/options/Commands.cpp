@@ -1,0 +1,129 @@
+#include "CommandLine.h"
+#include "JobOptions.h"
+#include "PolicyOptions.h"
+#include "RunOptions.h"
+
+#include "job/effects/EffectCatalog.h"
+#include "job/formats/FormatCatalog.h"
+
+namespace BatchCli {
+
+namespace {
+
+QString Text(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+QVector<OptionInfo> InputOptions()
+{
+    const QString group = Text("Inputs");
+    return {
+        {Text("--no-inputs"), QString(), Text("drops the inputs of the saved job first"), group},
+        {Text("--include"), Text("WILDCARD"),
+         Text("takes only files of folders whose names match, such as \"*.nef\"; without it all that can be read are "
+              "taken. Files that are named are always taken"),
+         group, true},
+        {Text("--exclude"), Text("WILDCARD"), Text("leaves out files and folders of folders whose names match"), group,
+         true},
+        {Text("--no-subfolders"), QString(), Text("takes no folders inside folders"), group},
+        {Text("--hidden"), QString(), Text("takes files and folders whose names begin with a dot, too"), group},
+    };
+}
+
+QVector<OptionInfo> GeneralOptions()
+{
+    const QString group = Text("General");
+    return {
+        {Text("--quiet"), QString(), Text("prints problems only"), group, false, Completion::Nothing, {}, Text("-q")},
+        {Text("--verbose"),
+         QString(),
+         Text("prints what a search for a fault needs, too"),
+         group,
+         false,
+         Completion::Nothing,
+         {},
+         Text("-v")},
+        {Text("--help"), QString(), Text("prints this text"), group, false, Completion::Nothing, {}, Text("-h")},
+    };
+}
+
+QVector<OptionInfo> JobOptionInfos()
+{
+    QVector<OptionInfo> infos;
+    for (const JobOption& option : JobOptions()) {
+        infos.append(option.info);
+    }
+    return infos;
+}
+
+QStringList EffectIds()
+{
+    QStringList ids;
+    for (const BatchJob::EffectSchema& effect : BatchJob::Effects()) {
+        ids.append(effect.id);
+    }
+    return ids;
+}
+
+QStringList FormatNames()
+{
+    QStringList names;
+    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+        names.append(format.name);
+    }
+    return names;
+}
+
+QVector<CommandInfo> MakeCommands()
+{
+    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + GeneralOptions();
+    const QVector<OptionInfo> ofLists =
+        QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
+    const QVector<OptionInfo> ofCreate =
+        QVector<OptionInfo>{{Text("--from"), Text("JOB.xml"), Text("begins with a saved job"), Text("Inputs"), false,
+                             Completion::Files},
+                            {Text("--force"), QString(), Text("replaces a file that exists"), Text("General")}} +
+        ofJobs;
+    return {
+        {Text("run"), Text("[JOB.xml] [INPUT...]"),
+         Text("processes a saved job, or files and folders, or both; options change what the job says. Ends with 0 "
+              "when all was written, 1 when something was skipped or failed, 2 for wrong arguments or a wrong job, 3 "
+              "when the server could not be started or was lost, 4 when the run was cancelled"),
+         OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
+        {Text("create"), Text("JOB.xml [INPUT...]"),
+         Text("writes a job of these files and folders and options to a file, or to standard output for \"-\""),
+         ofCreate, Completion::Files},
+        {Text("show"), Text("[JOB.xml] [INPUT...]"),
+         Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
+         Completion::Files},
+        {Text("plan"), Text("[JOB.xml] [INPUT...]"),
+         Text("prints what would be written where: every input with its output, and in brackets what stands in the "
+              "way, with what the policy would do about it. Nothing is written. Ends with 1 when there are brackets"),
+         OptionsOfJobs() + PolicyOptionInfos() +
+             QVector<OptionInfo>{
+                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
+             GeneralOptions(),
+         Completion::Files},
+        {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
+         Completion::Words, EffectIds()},
+        {Text("formats"), Text("[NAME...]"),
+         Text("lists the formats that results can have, with their options, and the files that can be read"), ofLists,
+         Completion::Words, FormatNames()},
+    };
+}
+
+} // namespace
+
+QVector<OptionInfo> OptionsOfJobs()
+{
+    return InputOptions() + JobOptionInfos();
+}
+
+const QVector<CommandInfo>& Commands()
+{
+    static const QVector<CommandInfo> commands = MakeCommands();
+    return commands;
+}
+
+} // namespace BatchCli

@@ -1,0 +1,472 @@
+#include "JobOptions.h"
+
+#include "ParameterTexts.h"
+#include "ValueTexts.h"
+#include "Words.h"
+
+#include "hosts/common/UserPath.h"
+#include "job/effects/EffectCatalog.h"
+#include "job/formats/FormatCatalog.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTStyle.h"
+
+#include <QFile>
+
+#include <limits>
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+using Settings = ZTBatchOutputSettings;
+
+const QString none = QStringLiteral("none");
+
+QString Text(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+Settings& Output(const ZTBatchDocument& job)
+{
+    return *job.GetOutputSettings();
+}
+
+// Options that change one field of a record.
+
+template<typename Change>
+auto ChangeImageSize(Change change)
+{
+    return [change](ZTBatchDocument& job, const QString& text) {
+        Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
+        change(imageSize, text);
+        Output(job).SetImageSizeSettings(imageSize);
+    };
+}
+
+template<typename Change>
+auto ChangeCrop(Change change)
+{
+    return [change](ZTBatchDocument& job, const QString& text) {
+        Settings::Crop crop = Output(job).GetCropSettings();
+        change(crop, text);
+        Output(job).SetCropSettings(crop);
+    };
+}
+
+/// Whoever says something about the frame wants one.
+template<typename Change>
+auto ChangeFrame(Change change)
+{
+    return [change](ZTBatchDocument& job, const QString& text) {
+        Settings::Transformation frame = Output(job).GetTransformationSettings();
+        frame.state = true;
+        change(frame, text);
+        Output(job).SetTransformationSettings(frame);
+    };
+}
+
+template<typename Show>
+auto ShowImageSize(Show show)
+{
+    return [show](const ZTBatchDocument& job) {
+        const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
+        const bool isScaled = imageSize.restriction != int(BatchJob::SizeRestriction::None);
+        return isScaled ? QStringList{show(imageSize)} : QStringList();
+    };
+}
+
+template<typename Show>
+auto ShowFrame(Show show)
+{
+    return [show](const ZTBatchDocument& job) {
+        const Settings::Transformation frame = Output(job).GetTransformationSettings();
+        return frame.state ? QStringList{show(frame)} : QStringList();
+    };
+}
+
+template<typename Show>
+auto ShowShadow(Show show)
+{
+    return [show](const ZTBatchDocument& job) {
+        const Settings::Transformation frame = Output(job).GetTransformationSettings();
+        return frame.state && frame.shadowEnabled ? QStringList{show(frame)} : QStringList();
+    };
+}
+
+// Output.
+
+QStringList FormatNames()
+{
+    QStringList names{Settings::GetOriginalFormat()};
+    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+        names.append(format.name);
+    }
+    return names;
+}
+
+QString FormatFromText(const QString& text)
+{
+    const QStringList names = FormatNames();
+    for (const QString& name : names) {
+        if (name.compare(text, Qt::CaseInsensitive) == 0) {
+            return name;
+        }
+    }
+    const BatchJob::FormatSchema* const format = BatchJob::FindFormatByExtension(text);
+    if (format == nullptr) {
+        throw NoSuchWord(text, names);
+    }
+    return format->name;
+}
+
+void SetFormat(ZTBatchDocument& job, const QString& text)
+{
+    QString format;
+    QByteArray options;
+    Output(job).GetFormat(format, options);
+    const QString wanted = FormatFromText(text);
+    // Options belong to their format.
+    Output(job).SetFormat(wanted, wanted == format ? options : QByteArray());
+}
+
+void SetFormatOption(ZTBatchDocument& job, const QString& text)
+{
+    QString format;
+    QByteArray options;
+    Output(job).GetFormat(format, options);
+    Output(job).SetFormat(format, WithFormatOption(format, options, text));
+}
+
+void SetProfile(ZTBatchDocument& job, const QString& text)
+{
+    if (text == none) {
+        Output(job).SetICCProfile(QByteArray());
+        return;
+    }
+    QFile file(text);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw UsageError{QStringLiteral("%1 cannot be read: %2").arg(text, file.errorString())};
+    }
+    constexpr qint64 largestProfile = 64 << 20;
+    constexpr int signaturePosition = 36;
+    const QByteArray profile = file.read(largestProfile);
+    if (profile.mid(signaturePosition, 4) != "acsp") {
+        throw UsageError{QStringLiteral("%1 is no ICC profile").arg(text)};
+    }
+    Output(job).SetICCProfile(profile);
+}
+
+QVector<JobOption> OutputOptions()
+{
+    const QString group = Text("Output");
+    return {
+        {{Text("--job-name"), Text("TEXT"), Text("the name that the saved job carries"), group},
+         [](ZTBatchDocument& job, const QString& text) { job.SetDocumentName(text); },
+         [](const ZTBatchDocument& job) {
+             return job.GetDocumentName().isEmpty() ? QStringList() : QStringList{job.GetDocumentName()};
+         }},
+        {{Text("--output"),
+          Text("DIR"),
+          Text("the folder that results go to; it is made when it is missing"),
+          group,
+          false,
+          Completion::Folders,
+          {},
+          Text("-o")},
+         [](ZTBatchDocument& job, const QString& text) {
+             if (text.isEmpty()) {
+                 throw UsageError{Text("a folder is needed")};
+             }
+             Output(job).SetPath(AbsolutePath(text));
+         },
+         [](const ZTBatchDocument& job) { return QStringList{Output(job).GetPath()}; }},
+        {{Text("--structure"), Text("WORD"),
+          Text("which folders are made below it: flat, none; input, as in the inputs; date, by capture date"), group,
+          false, Completion::Words, AllWords(BatchJob::FolderStructureWords)},
+         [](ZTBatchDocument& job, const QString& text) {
+             Output(job).SetFolderStructure(Settings::FolderStructure(ValueOf(BatchJob::FolderStructureWords, text)));
+         },
+         [](const ZTBatchDocument& job) {
+             return QStringList{WordOf(BatchJob::FolderStructureWords, Output(job).GetFolderStructure())};
+         }},
+        {{Text("--format"), Text("FORMAT"),
+          Text("the format of results, by name or extension; Original keeps that of each input. Another format than "
+               "that of a saved job drops the job's format options"),
+          group, false, Completion::Words, FormatNames()},
+         SetFormat,
+         [](const ZTBatchDocument& job) {
+             QString format;
+             QByteArray options;
+             Output(job).GetFormat(format, options);
+             return QStringList{format};
+         }},
+        {{Text("--format-option"), Text("KEY=VALUE"),
+          Text("an option of the format, such as quality=90; \"velkora-batch formats\" lists them"), group, true},
+         SetFormatOption,
+         [](const ZTBatchDocument& job) {
+             QString format;
+             QByteArray options;
+             Output(job).GetFormat(format, options);
+             return FormatOptionTexts(options);
+         }},
+        {{Text("--icc"), Text("FILE"),
+          Text("an ICC profile that results are converted to and carry; none keeps each input's own"), group, false,
+          Completion::Files},
+         SetProfile,
+         [](const ZTBatchDocument& job) {
+             const int bytes = Output(job).GetICCProfile().size();
+             return bytes == 0 ? QStringList() : QStringList{QStringLiteral("(%1 bytes in the job)").arg(bytes)};
+         }},
+    };
+}
+
+// Names.
+
+JobOption NamePart(const char* name, Settings::NamingPart part, const QString& help)
+{
+    return {{Text(name), Text("PART"), help, Text("Names of results"), false, Completion::Words,
+             AllWords(BatchJob::NamingTemplateWords)},
+            [part](ZTBatchDocument& job, const QString& text) { NamePartFromText(text, part, Output(job)); },
+            [part](const ZTBatchDocument& job) { return QStringList{NamePartText(part, Output(job))}; }};
+}
+
+QVector<JobOption> NameOptions()
+{
+    const QString group = Text("Names of results");
+    return {
+        NamePart("--prefix", Settings::PartPrefix, Text("what a name begins with; PART is the same as for --name")),
+        NamePart("--name", Settings::PartMiddle,
+                 Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
+                      "date; time; text:TEXT; nothing")),
+        NamePart("--suffix", Settings::PartSuffix, Text("what a name ends with")),
+        {{Text("--prefix-separator"), Text("TEXT"), Text("stands between prefix and middle"), group},
+         [](ZTBatchDocument& job, const QString& text) { Output(job).SetPrefixSeparator(text); },
+         [](const ZTBatchDocument& job) {
+             const QString separator = Output(job).GetPrefixSeparator();
+             return separator.isEmpty() ? QStringList() : QStringList{separator};
+         }},
+        {{Text("--suffix-separator"), Text("TEXT"), Text("stands between middle and suffix"), group},
+         [](ZTBatchDocument& job, const QString& text) { Output(job).SetSuffixSeparator(text); },
+         [](const ZTBatchDocument& job) {
+             const QString separator = Output(job).GetSuffixSeparator();
+             return separator.isEmpty() ? QStringList() : QStringList{separator};
+         }},
+    };
+}
+
+// Size and crop.
+
+void SetSize(Settings::ImageSize& imageSize, const QString& text)
+{
+    if (text == none) {
+        imageSize.restriction = int(BatchJob::SizeRestriction::None);
+        return;
+    }
+    LengthFromText(text, imageSize);
+    if (imageSize.restriction == int(BatchJob::SizeRestriction::None)) {
+        imageSize.restriction = int(BatchJob::SizeRestriction::ReduceOnly);
+    }
+}
+
+QVector<JobOption> SizeOptions()
+{
+    const QString group = Text("Size and crop");
+    return {
+        {{Text("--size"), Text("LENGTH"),
+          Text("scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size"),
+          group},
+         ChangeImageSize(SetSize),
+         [](const ZTBatchDocument& job) {
+             const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
+             const bool isScaled = imageSize.restriction != int(BatchJob::SizeRestriction::None);
+             return QStringList{isScaled ? LengthText(imageSize) : none};
+         }},
+        {{Text("--side"), Text("SIDE"), Text("the side that --size speaks of"), group, false, Completion::Words,
+          AllWords(BatchJob::SizeSideWords)},
+         ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
+             imageSize.side = ValueOf(BatchJob::SizeSideWords, text);
+         }),
+         ShowImageSize(
+             [](const Settings::ImageSize& imageSize) { return WordOf(BatchJob::SizeSideWords, imageSize.side); })},
+        {{Text("--resize"), Text("WORD"),
+          Text("which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, "
+               "both; none"),
+          group, false, Completion::Words, AllWords(BatchJob::SizeRestrictionWords)},
+         ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
+             imageSize.restriction = ValueOf(BatchJob::SizeRestrictionWords, text);
+         }),
+         ShowImageSize([](const Settings::ImageSize& imageSize) {
+             return WordOf(BatchJob::SizeRestrictionWords, imageSize.restriction);
+         })},
+        {{Text("--resolution"), Text("DPI"),
+          Text("dots per inch, for lengths in in, cm and mm; it is written into results, too"), group},
+         ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
+             constexpr int finest = 100'000;
+             imageSize.resolution = IntegerFromText(text, 1, finest);
+         }),
+         [](const ZTBatchDocument& job) {
+             return QStringList{QString::number(Output(job).GetImageSizeSettings().resolution)};
+         }},
+        {{Text("--crop"), Text("CROP"),
+          Text("none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of "
+               "that ratio; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600, scales to "
+               "cover, then cuts; exact:800x600, that many pixels"),
+          group, false, Completion::Words, AllWords(BatchJob::CropTypeWords)},
+         ChangeCrop([](Settings::Crop& crop, const QString& text) { CropFromText(text, crop); }),
+         [](const ZTBatchDocument& job) { return QStringList{CropText(Output(job).GetCropSettings())}; }},
+        {{Text("--crop-position"), Text("WORD"), Text("where the frame of ratio, fill and exact stands in the picture"),
+          group, false, Completion::Words, AllWords(BatchJob::AlignmentWords)},
+         ChangeCrop([](Settings::Crop& crop, const QString& text) {
+             crop.alignment = ValueOf(BatchJob::AlignmentWords, text);
+         }),
+         [](const ZTBatchDocument& job) {
+             const Settings::Crop crop = Output(job).GetCropSettings();
+             const bool isCropped = crop.type != int(BatchJob::CropType::None);
+             return isCropped ? QStringList{WordOf(BatchJob::AlignmentWords, crop.alignment)} : QStringList();
+         }},
+    };
+}
+
+// Frame.
+
+QVector<JobOption> FrameOptions()
+{
+    using Frame = Settings::Transformation;
+    const QString group = Text("Frame");
+    constexpr int farthest = 100'000;
+    return {
+        {{Text("--frame"), Text("MARGINS"),
+          Text("puts pictures on a frame: the pixels that stay free, one number for all sides or "
+               "LEFT,TOP,RIGHT,BOTTOM; none takes the frame away. Each of the options below asks for a frame, too"),
+          group},
+         ChangeFrame([](Frame& frame, const QString& text) {
+             frame.state = text != none;
+             if (frame.state) {
+                 frame.margins = MarginsFromText(text);
+             }
+         }),
+         [](const ZTBatchDocument& job) {
+             const Frame frame = Output(job).GetTransformationSettings();
+             return QStringList{frame.state ? MarginsText(frame.margins) : none};
+         }},
+        {{Text("--frame-size"), Text("WxH"), Text("the size of the frame in pixels; picture: that of each picture"),
+          group},
+         ChangeFrame([](Frame& frame, const QString& text) {
+             frame.backgroundCustomOutput = text != Text("picture");
+             if (frame.backgroundCustomOutput) {
+                 frame.backgroundCustomSize = SizeFromText(text);
+             }
+         }),
+         ShowFrame([](const Frame& frame) {
+             return frame.backgroundCustomOutput ? SizeText(frame.backgroundCustomSize) : Text("picture");
+         })},
+        {{Text("--frame-angle"), Text("DEGREES"), Text("turns the picture on its frame, clockwise"), group},
+         ChangeFrame(
+             [](Frame& frame, const QString& text) { frame.angle = IntegerFromText(text, -farthest, farthest); }),
+         ShowFrame([](const Frame& frame) { return QString::number(frame.angle); })},
+        {{Text("--frame-opacity"), Text("0..1"), Text("the opacity of the picture"), group},
+         ChangeFrame([](Frame& frame, const QString& text) { frame.opacity = NumberFromText(text, 0, 1); }),
+         ShowFrame([](const Frame& frame) { return NumberText(frame.opacity); })},
+        {{Text("--frame-blending"), Text("WORD"), Text("how the picture is laid over its background"), group, false,
+          Completion::Words, AllWords(BatchJob::BlendingWords)},
+         ChangeFrame(
+             [](Frame& frame, const QString& text) { frame.blending = ValueOf(BatchJob::BlendingWords, text); }),
+         ShowFrame([](const Frame& frame) { return WordOf(BatchJob::BlendingWords, frame.blending); })},
+        {{Text("--background"), Text("BACKGROUND"),
+          Text("what the frame shows: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; "
+               "image:FILE"),
+          group, false, Completion::Words, AllWords(BatchJob::BackgroundTypeWords)},
+         ChangeFrame([](Frame& frame, const QString& text) { BackgroundFromText(text, frame); }),
+         ShowFrame([](const Frame& frame) { return BackgroundText(frame); })},
+        {{Text("--background-opacity"), Text("0..1"), Text("the opacity of the background"), group},
+         ChangeFrame([](Frame& frame, const QString& text) { frame.backgroundOpacity = NumberFromText(text, 0, 1); }),
+         ShowFrame([](const Frame& frame) { return NumberText(frame.backgroundOpacity); })},
+        {{Text("--shadow"), Text("WORD"), Text("the shadow of the picture: drop; glow, around it; none"), group, false,
+          Completion::Words, QStringList{none} + AllWords(BatchJob::ShadowModeWords)},
+         ChangeFrame([](Frame& frame, const QString& text) {
+             frame.shadowEnabled = text != none;
+             if (frame.shadowEnabled) {
+                 frame.shadowMode = ValueOf(BatchJob::ShadowModeWords, text);
+             }
+         }),
+         ShowFrame([](const Frame& frame) {
+             return frame.shadowEnabled ? WordOf(BatchJob::ShadowModeWords, frame.shadowMode) : none;
+         })},
+        {{Text("--shadow-colour"), Text("COLOUR"), Text("#rrggbb or a name"), group},
+         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowColor = ColourFromText(text); }),
+         ShowShadow([](const Frame& frame) { return frame.shadowColor.name(); })},
+        {{Text("--shadow-opacity"), Text("0..1"), Text("the opacity of the shadow"), group},
+         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowOpacity = NumberFromText(text, 0, 1); }),
+         ShowShadow([](const Frame& frame) { return NumberText(frame.shadowOpacity); })},
+        {{Text("--shadow-angle"), Text("DEGREES"), Text("where the light comes from: 0 from the right, 90 from above"),
+          group},
+         ChangeFrame(
+             [](Frame& frame, const QString& text) { frame.shadowAngle = IntegerFromText(text, -farthest, farthest); }),
+         ShowShadow([](const Frame& frame) { return QString::number(frame.shadowAngle); })},
+        {{Text("--shadow-distance"), Text("PIXELS"), Text("how far the shadow lies from the picture"), group},
+         ChangeFrame(
+             [](Frame& frame, const QString& text) { frame.shadowDistance = IntegerFromText(text, 0, farthest); }),
+         ShowShadow([](const Frame& frame) { return QString::number(frame.shadowDistance); })},
+        {{Text("--shadow-size"), Text("PIXELS"), Text("how soft the shadow is"), group},
+         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowSize = IntegerFromText(text, 0, farthest); }),
+         ShowShadow([](const Frame& frame) { return QString::number(frame.shadowSize); })},
+    };
+}
+
+// Effects.
+
+QVector<JobOption> EffectOptions()
+{
+    QStringList ids;
+    for (const BatchJob::EffectSchema& effect : BatchJob::Effects()) {
+        ids.append(effect.id);
+    }
+    const QString group = Text("Effects");
+    return {
+        {{Text("--no-effects"), QString(), Text("drops the effects of the saved job first"), group},
+         [](ZTBatchDocument& job, const QString&) { job.GetStyle()->Clear(); },
+         [](const ZTBatchDocument&) { return QStringList(); }},
+        {{Text("--effect"), Text("NAME:KEY=VALUE,..."),
+          Text("adds an effect behind those that are there, such as blur:sigma=2; NAME:{JSON} works, too, and off: in "
+               "front keeps it from being applied. \"velkora-batch effects\" lists them"),
+          group, true, Completion::Words, ids},
+         [](ZTBatchDocument& job, const QString& text) {
+             const Effect effect = EffectFromText(text);
+             job.GetStyle()->AppendEffect(effect.id, effect.parameters, effect.enabled);
+         },
+         [](const ZTBatchDocument& job) {
+             QStringList texts;
+             for (int i = 0; i < job.GetStyle()->GetEffectCount(); ++i) {
+                 texts.append(EffectText(*job.GetStyle(), i));
+             }
+             return texts;
+         }},
+    };
+}
+
+} // namespace
+
+const QVector<JobOption>& JobOptions()
+{
+    static const QVector<JobOption> options =
+        OutputOptions() + NameOptions() + SizeOptions() + FrameOptions() + EffectOptions();
+    return options;
+}
+
+void SetJobDefaults(ZTBatchDocument& job)
+{
+    Settings& output = Output(job);
+    output.SetNamingTemplate(Settings::PartPrefix, Settings::TemplateNothing);
+    output.SetNamingTemplate(Settings::PartMiddle, Settings::TemplateOriginalName);
+    output.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
+    Settings::Transformation frame;
+    frame.shadowEnabled = false;
+    output.SetTransformationSettings(frame);
+}
+
+} // namespace BatchCli

@@ -1,0 +1,96 @@
+#include "PolicyOptions.h"
+
+#include "Words.h"
+
+#include "hosts/common/UsageError.h"
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+constexpr std::array kinds{PolicyKind::Input, PolicyKind::Output, PolicyKind::Processing, PolicyKind::Naming,
+                           PolicyKind::WriteToFormat};
+
+QString HelpOf(PolicyKind kind)
+{
+    switch (kind) {
+    case PolicyKind::Input:
+        return QStringLiteral(
+            "when a file is missing, damaged, too large or no picture: skip it, stop the run, or ask");
+    case PolicyKind::Output:
+        return QStringLiteral(
+            "when a result cannot be written, because of a full disk or missing rights: skip, stop or "
+            "ask");
+    case PolicyKind::Processing:
+        return QStringLiteral("when an effect fails, or a picture takes too long or crashes its worker: skip, stop or "
+                              "ask");
+    case PolicyKind::Naming:
+        return QStringLiteral("when a result's name is taken, on disk, by another result or by a source: skip, "
+                              "overwrite, rename (\" (2)\" is appended) or ask");
+    case PolicyKind::WriteToFormat:
+        return QStringLiteral("when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, the "
+                              "format that comes nearest");
+    }
+    return {};
+}
+
+} // namespace
+
+QString PolicyOption(PolicyKind kind)
+{
+    switch (kind) {
+    case PolicyKind::Input:
+        return QStringLiteral("--on-input-error");
+    case PolicyKind::Output:
+        return QStringLiteral("--on-output-error");
+    case PolicyKind::Processing:
+        return QStringLiteral("--on-processing-error");
+    case PolicyKind::Naming:
+        return QStringLiteral("--on-name-exists");
+    case PolicyKind::WriteToFormat:
+        return QStringLiteral("--on-format");
+    }
+    return {};
+}
+
+int PolicyValue(PolicyKind kind, const QString& word)
+{
+    switch (kind) {
+    case PolicyKind::Naming:
+        return ValueOf(NamingPolicyWords, word);
+    case PolicyKind::WriteToFormat:
+        return ValueOf(WriteToFormatPolicyWords, word);
+    default:
+        return ValueOf(FilePolicyWords, word);
+    }
+}
+
+QVector<OptionInfo> PolicyOptionInfos()
+{
+    QVector<OptionInfo> infos;
+    for (const PolicyKind kind : kinds) {
+        infos.append({PolicyOption(kind), QStringLiteral("WORD"), HelpOf(kind), QStringLiteral("Exceptions"), false,
+                      Completion::Words, PolicyWords(kind)});
+    }
+    return infos;
+}
+
+void ApplyPolicies(const ParsedArguments& arguments, PolicyValues& values)
+{
+    for (const PolicyKind kind : kinds) {
+        const QString option = PolicyOption(kind);
+        if (!arguments.Has(option)) {
+            continue;
+        }
+        try {
+            values[std::size_t(kind)] = PolicyValue(kind, arguments.Value(option));
+        } catch (const UsageError& error) {
+            throw UsageError{QStringLiteral("%1: %2").arg(option, error.text)};
+        }
+    }
+}
+
+} // namespace BatchCli

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QColor>
+#include <QMargins>
+#include <QSize>
+#include <QString>
+
+/// The values of a job's output settings as users write them. Each pair of functions is its own inverse; the readers
+/// throw UsageError for what they do not understand.
+namespace BatchCli {
+
+/// A decimal number with a point, in every locale.
+double NumberFromText(const QString& text, double minimum, double maximum);
+int IntegerFromText(const QString& text, int minimum, int maximum);
+QString NumberText(double number);
+
+/// "800x600".
+QSize SizeFromText(const QString& text);
+QString SizeText(const QSize& size);
+
+/// A length and its unit: "1600", "1600px", "50%", "8in", "20cm", "200mm".
+void LengthFromText(const QString& text, ZTBatchOutputSettings::ImageSize& imageSize);
+QString LengthText(const ZTBatchOutputSettings::ImageSize& imageSize);
+
+/// Pixels: one number for all sides, or "left,top,right,bottom".
+QMargins MarginsFromText(const QString& text);
+QString MarginsText(const QMargins& margins);
+
+/// "#rrggbb", with or without "#", or a name such as "black".
+QColor ColourFromText(const QString& text);
+
+/// "trim", or a type with the frame's size: "ratio:3x2", "fill:800x600".
+void CropFromText(const QString& text, ZTBatchOutputSettings::Crop& crop);
+QString CropText(const ZTBatchOutputSettings::Crop& crop);
+
+/// "none", "colour:#rrggbb", "pattern:NUMBER[:PERCENT]" or "image:FILE".
+void BackgroundFromText(const QString& text, ZTBatchOutputSettings::Transformation& transformation);
+QString BackgroundText(const ZTBatchOutputSettings::Transformation& transformation);
+
+/// What a part of a result's name holds: "original", "number[:START[:DIGITS]]", "date", "time", "text:TEXT", "nothing".
+void NamePartFromText(const QString& text, ZTBatchOutputSettings::NamingPart part, ZTBatchOutputSettings& settings);
+QString NamePartText(ZTBatchOutputSettings::NamingPart part, const ZTBatchOutputSettings& settings);
+
+} // namespace BatchCli

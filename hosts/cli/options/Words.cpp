@@ -1,0 +1,19 @@
+#include "Words.h"
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+QString NearestHint(const QString& text, const QStringList& words)
+{
+    const QString nearest = BatchJob::NearestWord(text, words);
+    return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+}
+
+UsageError NoSuchWord(const QString& text, const QStringList& words)
+{
+    return {
+        QStringLiteral("\"%1\" is none of %2%3").arg(text, words.join(QStringLiteral(", ")), NearestHint(text, words))};
+}
+
+} // namespace BatchCli

@@ -1,0 +1,122 @@
+#include "EventWriter.h"
+
+#include "Console.h"
+
+#include "hosts/cli/options/PolicyOptions.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+constexpr int schemaVersion = 1;
+
+QString Key(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+void Write(const char* event, QJsonObject object)
+{
+    object.insert(Key("event"), Key(event));
+    WriteOut(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n'));
+}
+
+QJsonObject ResultObject(const FileResult& result)
+{
+    QJsonObject object{{Key("input"), result.input}};
+    if (!result.output.isEmpty()) {
+        object.insert(Key("output"), result.output);
+    }
+    if (result.kind != FileResult::Kind::Written) {
+        object.insert(Key("code"), result.errorCode);
+        object.insert(Key("reason"), result.reason);
+    }
+    return object;
+}
+
+QString PolicyName(PolicyKind kind)
+{
+    return PolicyOption(kind).mid(2);
+}
+
+} // namespace
+
+void EventWriter::OnStart(const RunInputs& inputs, const QString& outputFolder)
+{
+    Write("start", {{Key("version"), schemaVersion},
+                    {Key("files"), inputs.files.size()},
+                    {Key("bytes"), double(inputs.allBytes)},
+                    {Key("output"), outputFolder}});
+}
+
+void EventWriter::OnEarlierResult(const FileResult& result)
+{
+    QJsonObject object = ResultObject(result);
+    object.insert(Key("earlier"), true);
+    Write(qPrintable(ResultWord(result.kind)), object);
+}
+
+void EventWriter::OnInWork(const QStringList&, const QString& begun)
+{
+    Write("begin", {{Key("input"), begun}});
+}
+
+void EventWriter::OnResult(const FileResult& result, int done, int files)
+{
+    QJsonObject object = ResultObject(result);
+    object.insert(Key("done"), done);
+    object.insert(Key("files"), files);
+    Write(qPrintable(ResultWord(result.kind)), object);
+}
+
+void EventWriter::OnNote(const QString& input, const QString& output, const QString& what, const QString& text)
+{
+    Write("note", {{Key("input"), input}, {Key("output"), output}, {Key("what"), what}, {Key("text"), text}});
+}
+
+void EventWriter::OnLog(const QString& text)
+{
+    Write("log", {{Key("text"), text}});
+}
+
+void EventWriter::OnQuestion(PolicyKind kind, const QString& input, const QString& reason)
+{
+    Write("question", {{Key("policy"), PolicyName(kind)}, {Key("input"), input}, {Key("reason"), reason}});
+}
+
+void EventWriter::OnAnswer(PolicyKind kind, const QString& word, bool isForTheRest)
+{
+    Write("answer", {{Key("policy"), PolicyName(kind)}, {Key("word"), word}, {Key("rest"), isForTheRest}});
+}
+
+void EventWriter::OnServerLost(const QStringList& inWork, bool goesOn)
+{
+    Write("server-lost", {{Key("inWork"), QJsonArray::fromStringList(inWork)}, {Key("goesOn"), goesOn}});
+}
+
+void EventWriter::OnCancelling()
+{
+    Write("cancelling", {});
+}
+
+void EventWriter::OnEnd(const RunEnd& end)
+{
+    QJsonObject object{{Key("written"), end.written},        {Key("skipped"), end.skipped},
+                       {Key("failed"), end.failed},          {Key("notProcessed"), end.NotProcessed()},
+                       {Key("seconds"), end.seconds},        {Key("cancelled"), end.isCancelled},
+                       {Key("serverLost"), end.isServerLost}};
+    if (end.jobErrorCode != 0) {
+        object.insert(Key("code"), end.jobErrorCode);
+        object.insert(Key("reason"), end.jobError);
+    }
+    Write("end", object);
+}
+
+} // namespace BatchCli

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "hosts/common/RunObserver.h"
+
+class QJsonObject;
+
+namespace BatchCli {
+
+/// The events of a run as JSON on standard output, one object a line. docs/cli-events.md describes them.
+class EventWriter : public BatchHost::RunObserver
+{
+public:
+    void OnStart(const BatchHost::RunInputs& inputs, const QString& outputFolder) override;
+    void OnEarlierResult(const BatchHost::FileResult& result) override;
+    void OnInWork(const QStringList& names, const QString& begun) override;
+    void OnResult(const BatchHost::FileResult& result, int done, int files) override;
+    void OnNote(const QString& input, const QString& output, const QString& what, const QString& text) override;
+    void OnLog(const QString& text) override;
+    void OnQuestion(BatchJob::PolicyKind kind, const QString& input, const QString& reason) override;
+    void OnAnswer(BatchJob::PolicyKind kind, const QString& word, bool isForTheRest) override;
+    void OnServerLost(const QStringList& inWork, bool goesOn) override;
+    void OnCancelling() override;
+    void OnEnd(const BatchHost::RunEnd& end) override;
+};
+
+} // namespace BatchCli

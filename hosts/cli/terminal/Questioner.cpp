@@ -1,0 +1,76 @@
+#include "Questioner.h"
+
+#include "Console.h"
+
+using namespace BatchJob;
+
+namespace BatchCli {
+
+namespace {
+
+const QString stopWord = QStringLiteral("stop");
+
+/// What may be answered; of two words that begin alike the earlier is meant by their common beginning.
+QStringList AnswerWords(PolicyKind kind)
+{
+    QStringList words = PolicyWords(kind);
+    words.removeAll(QStringLiteral("ask"));
+    words.removeAll(stopWord);
+    return words << stopWord;
+}
+
+} // namespace
+
+std::optional<UserAnswer> ReadAnswer(PolicyKind kind, const QString& line)
+{
+    const QStringList given = line.toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const bool hasAll = given.size() == 2 && QStringLiteral("all").startsWith(given.at(1));
+    if (given.isEmpty() || (given.size() > 1 && !hasAll)) {
+        return std::nullopt;
+    }
+    for (const QString& word : AnswerWords(kind)) {
+        if (!word.startsWith(given.first())) {
+            continue;
+        }
+        // Stopping is a value of some policies. Where it is none, the run is cancelled.
+        const bool isValue = PolicyWords(kind).contains(word);
+        return UserAnswer{isValue ? std::optional(PolicyValue(kind, word)) : std::nullopt, hasAll};
+    }
+    return std::nullopt;
+}
+
+Questioner::Questioner(QObject* parent)
+    : QObject(parent)
+{
+    connect(&reader, &LineReader::Line, this, &Questioner::Take);
+    connect(&reader, &LineReader::Ended, this, [this] {
+        WriteError(QStringLiteral("\nNobody answers: the file is skipped, and so are all that follow.\n"));
+        Q_EMIT Answered({safePolicy, true});
+    });
+}
+
+void Questioner::Ask(PolicyKind newKind, const QString& input, const QString& reason)
+{
+    kind = newKind;
+    WriteErrorLine(QStringLiteral("%1: %2").arg(input, reason));
+    Prompt();
+}
+
+void Questioner::Prompt()
+{
+    WriteError(QStringLiteral("  %1? (\"all\" behind it: also for all that follow) ")
+                   .arg(AnswerWords(kind).join(QStringLiteral(", "))));
+    reader.Ask();
+}
+
+void Questioner::Take(const QString& line)
+{
+    const std::optional<UserAnswer> answer = ReadAnswer(kind, line);
+    if (answer) {
+        Q_EMIT Answered(*answer);
+    } else {
+        Prompt();
+    }
+}
+
+} // namespace BatchCli

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "server/protocol/WorkerMessages.h"
+
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+namespace BatchHost {
+
+/// Has worker processes look at files: when they were taken, and what they are. Nothing is written.
+class FileProber
+{
+public:
+    struct File
+    {
+        int number;
+        QString path;
+    };
+
+    /// Called for each file, in any order. A file that nobody could look at has a failure.
+    using Taker = std::function<void(const BatchProtocol::Report&)>;
+
+    /// Looks at `files` and returns when all are told. `settings` is the text of the job without inputs. Throws
+    /// UsageError when there is no worker.
+    static void Probe(const QVector<File>& files, const QString& settings, const Taker& take);
+};
+
+} // namespace BatchHost

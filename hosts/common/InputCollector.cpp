@@ -1,0 +1,261 @@
+#include "InputCollector.h"
+
+#include "JobFile.h"
+#include "NaturalNames.h"
+#include "UsageError.h"
+#include "UserPath.h"
+
+#include "hosts/cli/options/ValueTexts.h"
+#include "job/formats/FormatCatalog.h"
+
+#include "ZTBatchDocument.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace BatchJob;
+
+namespace BatchHost {
+
+namespace {
+
+/// Further down a job could not be read back.
+constexpr int deepestFolder = 900;
+
+QVector<QRegularExpression> Expressions(const QStringList& wildcards)
+{
+    QVector<QRegularExpression> expressions;
+    for (const QString& wildcard : wildcards) {
+        expressions.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(wildcard),
+                                              QRegularExpression::CaseInsensitiveOption));
+    }
+    return expressions;
+}
+
+bool MatchesAny(const QVector<QRegularExpression>& expressions, const QString& name)
+{
+    return std::any_of(expressions.begin(), expressions.end(),
+                       [&name](const QRegularExpression& expression) { return expression.match(name).hasMatch(); });
+}
+
+std::unique_ptr<TreeNode<BatchNodeData>> MakeNode(const QString& path, BatchNodeType type)
+{
+    auto node = std::make_unique<TreeNode<BatchNodeData>>();
+    const QString name = QFileInfo(path).fileName();
+    node->data.inputText = name.isEmpty() ? path : name;
+    node->data.fileName = path;
+    node->data.type = type;
+    node->data.enabled = true;
+    node->data.fileNodesCount = type == Folder ? 0 : 1;
+    return node;
+}
+
+void KeepModification(BatchNodeData& data, const QDateTime& modified)
+{
+    data.lastModification = modified.toString(Qt::ISODate);
+}
+
+/// Gives the nodes, entries of one folder, the texts that put them into their natural order, and brings them into it.
+void SortNaturally(QVector<TreeNode<BatchNodeData>*>& nodes)
+{
+    QStringList names;
+    for (const auto* node : nodes) {
+        names.append(node->data.inputText);
+    }
+    const QStringList texts = NaturalNames(names);
+    for (int i = 0; i < nodes.size(); ++i) {
+        nodes[i]->data.inputText = texts.at(i);
+    }
+    std::sort(nodes.begin(), nodes.end(), [](const auto* a, const auto* b) { return a->data < b->data; });
+}
+
+int DepthOf(const TreeNode<BatchNodeData>* node)
+{
+    int depth = 0;
+    for (; node != nullptr; node = node->parent) {
+        ++depth;
+    }
+    return depth;
+}
+
+} // namespace
+
+InputCollector::InputCollector(ZTBatchDocument& job, const InputFilter& filter)
+    : job(job)
+    , filter(filter)
+    , outputFolder(IdentityOfFolder(filter.outputFolder))
+    , only(Expressions(filter.only))
+    , except(Expressions(filter.except))
+    , extensions(BatchJob::ReadableExtensions().begin(), BatchJob::ReadableExtensions().end())
+{
+    const ZTBatchInputModel& model = *job.GetInputModel();
+    QVector<QModelIndex> folders{QModelIndex()};
+    for (int i = 0; i < folders.size(); ++i) {
+        const QModelIndex folder = folders.at(i);
+        for (int row = 0; row < model.rowCount(folder); ++row) {
+            const QModelIndex index = model.index(row, 0, folder);
+            taken.insert(model.getNodeData(index)->fileName);
+            folders.append(index);
+        }
+    }
+}
+
+InputCollector::~InputCollector() = default;
+
+void InputCollector::Add(const QStringList& paths)
+{
+    QVector<Node*> loose;
+    for (const QString& given : paths) {
+        const QString path = AbsolutePath(given);
+        const QFileInfo info(path);
+        if (!info.exists()) {
+            qDeleteAll(loose);
+            throw UsageError{info.isSymLink() ? QStringLiteral("%1 is a link that leads nowhere").arg(path)
+                                              : QStringLiteral("%1 does not exist").arg(path)};
+        }
+        if (!info.isDir() && !info.isFile()) {
+            qDeleteAll(loose);
+            throw UsageError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
+        }
+        if (taken.contains(path)) {
+            repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
+        } else if (info.isDir()) {
+            TakeFolder(path);
+        } else {
+            taken.insert(path);
+            ++fileCount;
+            loose.append(MakeNode(path, File).release());
+            KeepModification(loose.last()->data, info.lastModified().toUTC());
+        }
+    }
+    SortNaturally(loose);
+    for (Node* const node : loose) {
+        Insert(std::unique_ptr<Node>(node));
+    }
+}
+
+void InputCollector::TakeFolder(const QString& path)
+{
+    std::unique_ptr<Node> top = MakeNode(path, Folder);
+    // Folders are read in the order in which they are found. Links come last: what is reached by its own path and by a
+    // link stands in the job under its own path.
+    QVector<Node*> folders{top.get()};
+    QVector<Node*> links;
+    for (int i = 0; i < folders.size(); ++i) {
+        QVector<Node*> below;
+        ReadInto(*folders.at(i), below);
+        for (Node* const node : below) {
+            (QFileInfo(node->data.fileName).isSymLink() ? links : folders).append(node);
+        }
+        if (i + 1 == folders.size()) {
+            folders += links;
+            links.clear();
+        }
+    }
+    // A folder stands behind the one that holds it.
+    for (int i = folders.size() - 1; i > 0; --i) {
+        Node* const folder = folders.at(i);
+        if (folder->data.fileNodesCount == 0) {
+            delete folder;
+        } else {
+            folder->parent->data.fileNodesCount += folder->data.fileNodesCount;
+        }
+    }
+    if (top->data.fileNodesCount > 0) {
+        Insert(std::move(top));
+    }
+}
+
+void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
+{
+    const QString path = folder.data.fileName;
+    const FolderContent content = ReadFolder(path);
+    if (!content.error.isEmpty()) {
+        problems.append(QStringLiteral("%1 cannot be read: %2").arg(path, content.error));
+    }
+    if (content.identity.number != 0 && !IsFirst(folder, content.identity)) {
+        return;
+    }
+    if (DepthOf(&folder) > deepestFolder) {
+        problems.append(QStringLiteral("%1 lies too deep to be taken in.").arg(path));
+        return;
+    }
+    ++folderCount;
+    taken.insert(path);
+    QVector<Node*> files;
+    for (const FolderEntry& entry : content.entries) {
+        TakeEntry(entry, path, files, found);
+    }
+    fileCount += files.size();
+    folder.data.fileNodesCount = files.size();
+    SortNaturally(found);
+    SortNaturally(files);
+    for (Node* const node : found + files) {
+        folder.insertChild(node);
+    }
+    if (onProgress) {
+        onProgress(folderCount, fileCount, path);
+    }
+}
+
+void InputCollector::TakeEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
+                               QVector<Node*>& folders)
+{
+    if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, entry.name)) {
+        return;
+    }
+    const QString path =
+        folderPath.endsWith(QLatin1Char('/')) ? folderPath + entry.name : folderPath + QLatin1Char('/') + entry.name;
+    const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
+    if (isFolder ? !filter.subfolders : !IsWanted(entry.name)) {
+        return;
+    }
+    if (!entry.hasName) {
+        problems.append(QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
+    } else if (!CanBeSaved(entry.name)) {
+        problems.append(
+            QStringLiteral("%1 has a name with a character that no job can hold; rename it to use it.").arg(path));
+    } else if (entry.leadsNowhere) {
+        problems.append(QStringLiteral("%1 is a link that leads nowhere.").arg(path));
+    } else if (isFolder) {
+        const bool isOutput = outputFolder.number != 0 && entry.identity == outputFolder;
+        if (!isOutput && !taken.contains(path)) {
+            folders.append(MakeNode(path, Folder).release());
+        }
+    } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {
+        taken.insert(path);
+        files.append(MakeNode(path, File).release());
+        KeepModification(files.last()->data, entry.modified);
+    }
+}
+
+bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
+{
+    const QString path = folder.data.fileName;
+    const auto known = foldersTaken.constFind(identity);
+    if (known == foldersTaken.constEnd()) {
+        foldersTaken.insert(identity, path);
+        return true;
+    }
+    if (path.startsWith(*known + QLatin1Char('/'))) {
+        problems.append(QStringLiteral("%1 leads in a circle, back to %2; it is not followed.").arg(path, *known));
+    } else {
+        repetitions.append(QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
+    }
+    return false;
+}
+
+bool InputCollector::IsWanted(const QString& name) const
+{
+    return only.isEmpty() ? extensions.contains(QFileInfo(name).suffix().toLower()) : MatchesAny(only, name);
+}
+
+void InputCollector::Insert(std::unique_ptr<Node> node)
+{
+    node->data.bookmark = ZVFileBookmark(node->data.fileName);
+    job.GetInputModel()->InsertBranch(node.release(), QModelIndex());
+}
+
+} // namespace BatchHost

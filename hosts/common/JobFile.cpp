@@ -1,0 +1,100 @@
+#include "JobFile.h"
+
+#include "UsageError.h"
+
+#include "ZTBatchDocument.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+namespace BatchHost {
+
+namespace {
+
+/// Why `text` is no job, for the user.
+QString Reason(const QString& text)
+{
+    QXmlStreamReader reader(text);
+    bool hasType = false;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        hasType = hasType || (reader.isDTD() && reader.dtdName() == QLatin1String("batch"));
+    }
+    if (reader.hasError()) {
+        return QStringLiteral("line %1, column %2: %3")
+            .arg(reader.lineNumber())
+            .arg(reader.columnNumber())
+            .arg(reader.errorString());
+    }
+    return hasType ? QStringLiteral("its XML is nested too deep or declares what a job must not")
+                   : QStringLiteral("it does not begin with <!DOCTYPE batch>");
+}
+
+/// The name that the job carries; a document does not take it over from its text.
+QString NameOf(const QString& text)
+{
+    QXmlStreamReader reader(text);
+    reader.readNextStartElement();
+    return reader.attributes().value(QLatin1String("name")).toString();
+}
+
+} // namespace
+
+bool CanBeSaved(const QString& text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
+            ++i;
+            continue;
+        }
+        const ushort unit = character.unicode();
+        const bool isSpace = unit == '\t' || unit == '\n' || unit == '\r';
+        if (character.isSurrogate() || unit >= 0xFFFE || (unit < 0x20 && !isSpace)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void LoadJob(ZTBatchDocument& job, const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw UsageError{QStringLiteral("the job %1 cannot be read: %2").arg(path, file.errorString())};
+    }
+    constexpr qint64 largestJob = 512 << 20;
+    if (file.size() > largestJob) {
+        throw UsageError{
+            QStringLiteral("the job %1 has more than %2 MiB").arg(path, QString::number(largestJob >> 20))};
+    }
+    QTextCodec::ConverterState state;
+    const QByteArray bytes = file.readAll();
+    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0) {
+        throw UsageError{QStringLiteral("%1 is no batch job: it is not UTF-8 text").arg(path)};
+    }
+    if (!job.Deserialize(text)) {
+        throw UsageError{QStringLiteral("%1 is no batch job: %2").arg(path, Reason(text))};
+    }
+    job.SetDocumentName(NameOf(text));
+    job.SetFileName(path);
+}
+
+void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisting)
+{
+    const QString text = job.Serialize(nullptr);
+    if (!replaceExisting && QFileInfo::exists(path)) {
+        throw UsageError{QStringLiteral("%1 exists; --force replaces it").arg(path)};
+    }
+    QSaveFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        throw UsageError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+    }
+}
+
+} // namespace BatchHost

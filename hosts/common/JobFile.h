@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+class ZTBatchDocument;
+
+/// Jobs as files.
+namespace BatchHost {
+
+/// Whether a job can hold `text`. XML has no way to write most control characters.
+bool CanBeSaved(const QString& text);
+
+/// Throws UsageError.
+void LoadJob(ZTBatchDocument& job, const QString& path);
+
+/// Writes `job` whole or not at all. A file that exists is replaced only when `replaceExisting` is true. Throws
+/// UsageError.
+void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisting);
+
+} // namespace BatchHost

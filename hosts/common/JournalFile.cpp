@@ -1,0 +1,116 @@
+#include "JournalFile.h"
+
+#include "UsageError.h"
+
+#include "job/journal/RunJournal.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+namespace BatchHost {
+
+namespace {
+
+const QString nameStart = QStringLiteral(".velkora-batch-");
+const QString nameEnd = QStringLiteral(".journal");
+const QString lockEnd = QStringLiteral(".lock");
+
+QString PathOf(const QString& outputFolder, const QString& document)
+{
+    constexpr int digits = 16;
+    const QByteArray hash = QCryptographicHash::hash(document.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return QDir(outputFolder).filePath(nameStart + QString::fromLatin1(hash.left(digits)) + nameEnd);
+}
+
+/// The names of the journals in `folder`; of their locks, when `end` is that of a lock.
+QStringList JournalsIn(const QDir& folder, const QString& end)
+{
+    QStringList names;
+    for (const QString& name :
+         folder.entryList({nameStart + QLatin1Char('*') + nameEnd + end}, QDir::Files | QDir::Hidden, QDir::Name)) {
+        const QString journal = name.chopped(end.size());
+        if (!end.isEmpty() || BatchJob::HasJournalBegun(folder.filePath(journal))) {
+            names.append(journal);
+        }
+    }
+    return names;
+}
+
+} // namespace
+
+JournalFile::JournalFile(const QString& path)
+    : path(path)
+    , lock(path + lockEnd)
+{
+    lock.setStaleLockTime(0); // Only the holder's end makes it stale, not its age.
+    isHeld = lock.tryLock();
+}
+
+JournalFile::~JournalFile() = default;
+
+std::unique_ptr<JournalFile> JournalFile::ForJob(const QString& outputFolder, const QString& document)
+{
+    QDir().mkpath(outputFolder);
+    std::unique_ptr<JournalFile> journal(new JournalFile(PathOf(outputFolder, document)));
+    if (!journal->isHeld && journal->lock.error() == QLockFile::LockFailedError) {
+        throw UsageError{QStringLiteral("the same job is being run into %1").arg(outputFolder)};
+    }
+    return journal;
+}
+
+std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolder, const QString& document,
+                                                      bool isThisJob)
+{
+    const QDir folder(outputFolder);
+    RemoveUnbegun(folder);
+    const QStringList names = JournalsIn(folder, QString());
+    if (names.isEmpty()) {
+        throw UsageError{QStringLiteral("there is no interrupted run in %1").arg(outputFolder)};
+    }
+    const QString ofJob = PathOf(outputFolder, document);
+    const bool isOfJob = BatchJob::HasJournalBegun(ofJob);
+    if (isThisJob && !isOfJob) {
+        throw UsageError{QStringLiteral("what was interrupted in %1 is not this job: other inputs, options or files. "
+                                        "With --output alone it goes on as it was; without --resume this job is run")
+                             .arg(outputFolder)};
+    }
+    if (names.size() > 1 && !isOfJob) {
+        throw UsageError{QStringLiteral("%1 runs were interrupted in %2, none of this job; give the inputs and options "
+                                        "of the one to go on with")
+                             .arg(names.size())
+                             .arg(outputFolder)};
+    }
+    std::unique_ptr<JournalFile> journal(new JournalFile(names.size() > 1 ? ofJob : folder.filePath(names.first())));
+    if (!journal->isHeld) {
+        const bool isUnderWay = journal->lock.error() == QLockFile::LockFailedError;
+        throw UsageError{QStringLiteral("the run in %1 cannot be taken up: %2")
+                             .arg(outputFolder, isUnderWay ? QStringLiteral("it is under way")
+                                                           : QStringLiteral("the folder cannot be written"))};
+    }
+    return journal;
+}
+
+/// What somebody has left who died before his run began.
+void JournalFile::RemoveUnbegun(const QDir& folder)
+{
+    for (const QString& name : JournalsIn(folder, lockEnd)) {
+        JournalFile journal(folder.filePath(name));
+        if (journal.isHeld && !journal.Exists()) { // Else its run is just beginning.
+            journal.Remove();
+        }
+    }
+}
+
+bool JournalFile::Exists() const
+{
+    return BatchJob::HasJournalBegun(path);
+}
+
+void JournalFile::Remove()
+{
+    QFile::remove(path);
+    QFile::remove(path + QLatin1String(BatchJob::journalHoldEnd)); // Of a server that died.
+}
+
+} // namespace BatchHost

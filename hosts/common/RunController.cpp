@@ -1,0 +1,400 @@
+#include "RunController.h"
+
+#include "job/journal/RunJournal.h"
+#include "job/values/JobValues.h"
+
+#include "ZTBatchMessage.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+using namespace BatchJob;
+
+namespace BatchHost {
+
+namespace {
+
+using Session = ZTBatchManager::ZTBatchSession;
+
+/// A server that dies more often than this has no use for another one.
+constexpr int mostLives = 10;
+
+/// Nor has one that dies so often in a row before it has begun with a picture.
+constexpr int mostIdleLives = 3;
+
+/// Nothing was wrong with a picture whose name is taken or whose format cannot be written.
+bool IsSkip(int errorCode)
+{
+    return errorCode == ZTBatchMessage::FileNameAlreadyExists || errorCode == ZTBatchMessage::UnsupportedOutputFormat;
+}
+
+} // namespace
+
+QString ResultWord(FileResult::Kind kind)
+{
+    switch (kind) {
+    case FileResult::Kind::Written:
+        return QStringLiteral("written");
+    case FileResult::Kind::Skipped:
+        return QStringLiteral("skipped");
+    case FileResult::Kind::Failed:
+        return QStringLiteral("failed");
+    }
+    return {};
+}
+
+RunController::RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
+                             const PolicyValues& policies, const QVector<RunObserver*>& observers,
+                             const QString& journalPath)
+    : document(document)
+    , inputs(inputs)
+    , policies(policies)
+    , observers(observers)
+    , manager(ZTBatchManager::Instance())
+    , journalPath(journalPath)
+{
+    end.files = inputs.files.size();
+    end.outputFolder = outputFolder;
+    for (int i = 0; i < inputs.files.size(); ++i) {
+        open[inputs.files.at(i)].append(i);
+    }
+    sessionOver.setSingleShot(true);
+    connect(&sessionOver, &QTimer::timeout, this, [this] { End(phase == Phase::Cancelling, false); });
+    connect(manager, &ZTBatchManager::ConnectionEstablished, this, &RunController::BeginSession);
+    connect(manager, &ZTBatchManager::ConnectionFailed, this, &RunController::OnServerGone);
+}
+
+RunController::~RunController() = default;
+
+void RunController::Start()
+{
+    phase = Phase::Running;
+    time.start();
+    for (RunObserver* const observer : observers) {
+        observer->OnStart(inputs, end.outputFolder);
+    }
+    for (const auto& [index, result] : JournaledResults()) {
+        if (Count(result, index)) {
+            for (RunObserver* const observer : observers) {
+                observer->OnEarlierResult(result);
+            }
+        }
+    }
+    StartServer();
+}
+
+void RunController::StartServer()
+{
+    ++lives;
+    settledInThisLife = 0;
+    manager->Start();
+}
+
+void RunController::BeginSession()
+{
+    if (session || phase != Phase::Running) {
+        return;
+    }
+    session = manager->CreateBatchSession();
+    if (!session) {
+        return;
+    }
+    ConnectSession();
+    // The manager keeps its policies for its next life, but what was said for this run holds for this run.
+    const PolicyValues kept{manager->GetInputPolicy(), manager->GetOutputPolicy(), manager->GetProcessingPolicy(),
+                            manager->GetNamingPolicy(), manager->GetWriteToFormatPolicy()};
+    const auto set = [this](const PolicyValues& values) {
+        manager->SetInputPolicy(ZTBatchManager::InputPolicy(values[0]));
+        manager->SetOutputPolicy(ZTBatchManager::OutputPolicy(values[1]));
+        manager->SetProcessingPolicy(ZTBatchManager::ProcessingPolicy(values[2]));
+        manager->SetNamingPolicy(ZTBatchManager::NamingPolicy(values[3]));
+        manager->SetWriteToFormatPolicy(ZTBatchManager::WriteToFormatPolicy(values[4]));
+    };
+    set(policies);
+    session->Process(document);
+    set(kept);
+}
+
+void RunController::ConnectSession()
+{
+    connect(session, &Session::FileInProgress, this, &RunController::OnFileInProgress);
+    connect(session, &Session::FileProcessed, this, &RunController::OnFileProcessed);
+    connect(session, &Session::ProcessError, this, &RunController::OnProcessError);
+    connect(session, &Session::LogMessage, this, &RunController::OnLog);
+    connect(session, &Session::InputQuestion, this, [this] { OnQuestion(PolicyKind::Input); });
+    connect(session, &Session::OutputQuestion, this, [this] { OnQuestion(PolicyKind::Output); });
+    connect(session, &Session::ProcessingQuestion, this, [this] { OnQuestion(PolicyKind::Processing); });
+    connect(session, &Session::NamingQuestion, this, [this] { OnQuestion(PolicyKind::Naming); });
+    connect(session, &Session::WriteToFormatQuestion, this, [this] { OnQuestion(PolicyKind::WriteToFormat); });
+    connect(session, &Session::Finished, this, &RunController::OnSessionOver);
+    connect(session, &Session::Cancelled, this, &RunController::OnSessionOver);
+}
+
+void RunController::Cancel()
+{
+    if (phase != Phase::Running) {
+        return;
+    }
+    phase = Phase::Cancelling;
+    for (RunObserver* const observer : observers) {
+        observer->OnCancelling();
+    }
+    if (session) {
+        session->Cancel();
+    } else {
+        End(true, false);
+    }
+}
+
+void RunController::EndAtOnce()
+{
+    phase = Phase::Cancelling;
+    manager->Stop();
+    End(true, false);
+}
+
+void RunController::OnFileInProgress(const QString& input)
+{
+    inWork.append(input);
+    for (RunObserver* const observer : observers) {
+        observer->OnInWork(inWork, input);
+    }
+}
+
+void RunController::OnFileProcessed(const QString& input, const QString& output)
+{
+    Settle({input, output, FileResult::Kind::Written, ZTBatchMessage::NoError, {}});
+}
+
+void RunController::OnProcessError(const QString& input, const QString& output, int action, int errorCode)
+{
+    const QString reason = TakeReason(input, errorCode);
+    if (input.isEmpty()) {
+        end.jobErrorCode = errorCode;
+        end.jobError = reason;
+        return;
+    }
+    switch (BatchJob::Action(action)) {
+    case BatchJob::Action::ReportedOnly:
+        asked = {input, output, FileResult::Kind::Failed, errorCode, reason};
+        break;
+    case BatchJob::Action::FileSkipped:
+        Settle({input, output, IsSkip(errorCode) ? FileResult::Kind::Skipped : FileResult::Kind::Failed, errorCode,
+                reason});
+        break;
+    case BatchJob::Action::RunStopped:
+        Settle({input, output, FileResult::Kind::Failed, errorCode, reason});
+        break;
+    default: {
+        const BatchJob::Word* const word = BatchJob::FindWord(BatchJob::ActionWords, action);
+        const QString what = word == nullptr ? QString::number(action) : QString::fromLatin1(word->word);
+        for (RunObserver* const observer : observers) {
+            observer->OnNote(input, output, what, reason);
+        }
+        break;
+    }
+    }
+}
+
+void RunController::OnLog(const QString& text)
+{
+    lastLog = text;
+    for (RunObserver* const observer : observers) {
+        observer->OnLog(text);
+    }
+}
+
+/// The server says in its log what an error is about, right before the error.
+QString RunController::TakeReason(const QString& input, int errorCode)
+{
+    const QString start = input.isEmpty() ? QStringLiteral("The job is refused: ") : input + QStringLiteral(": ");
+    const QString log = lastLog;
+    lastLog.clear();
+    if (log.startsWith(start)) {
+        // Behind the last semicolon stands what was done about it, which the error itself says.
+        const QString text = log.mid(start.size());
+        const int semicolon = text.lastIndexOf(QStringLiteral("; "));
+        return semicolon > 0 && !input.isEmpty() ? text.left(semicolon) : text;
+    }
+    QString text = ZTBatchMessage::ErrorDescription(ZTBatchMessage::Error(errorCode));
+    if (text.endsWith(QLatin1Char('.'))) {
+        text.chop(1);
+    }
+    return text;
+}
+
+void RunController::OnQuestion(PolicyKind kind)
+{
+    if (phase != Phase::Running) {
+        return;
+    }
+    question = kind;
+    for (RunObserver* const observer : observers) {
+        observer->OnQuestion(kind, asked.input, asked.reason);
+    }
+    Q_EMIT Question(kind, asked.input, asked.output, asked.reason);
+}
+
+void RunController::Answer(int value, bool isForTheRest)
+{
+    if (!session || !question || phase != Phase::Running) {
+        return;
+    }
+    const PolicyKind kind = *question;
+    question.reset();
+    for (RunObserver* const observer : observers) {
+        observer->OnAnswer(kind, PolicyWord(kind, value), isForTheRest);
+    }
+    switch (kind) {
+    case PolicyKind::Input:
+        session->InputRespond(ZTBatchManager::InputPolicy(value), isForTheRest);
+        break;
+    case PolicyKind::Output:
+        session->OutputRespond(ZTBatchManager::OutputPolicy(value), isForTheRest);
+        break;
+    case PolicyKind::Processing:
+        session->ProcessingRespond(ZTBatchManager::ProcessingPolicy(value), isForTheRest);
+        break;
+    case PolicyKind::Naming:
+        session->NamingRespond(ZTBatchManager::NamingPolicy(value), isForTheRest);
+        break;
+    case PolicyKind::WriteToFormat:
+        session->WriteToFormatRespond(ZTBatchManager::WriteToFormatPolicy(value), isForTheRest);
+        break;
+    }
+}
+
+void RunController::Settle(const FileResult& result)
+{
+    inWork.removeOne(result.input);
+    if (!Count(result)) {
+        return;
+    }
+    ++settledInThisLife;
+    const int done = end.written + end.skipped + end.failed;
+    for (RunObserver* const observer : observers) {
+        observer->OnResult(result, done, end.files);
+    }
+}
+
+/// Counts the result of the input, the one at `index` if that is not negative. False when it has been counted.
+bool RunController::Count(const FileResult& result, int index)
+{
+    const auto waiting = open.find(result.input);
+    if (waiting == open.end() || (index >= 0 && !waiting->contains(index))) {
+        return false;
+    }
+    waiting->removeAt(index >= 0 ? waiting->indexOf(index) : 0);
+    if (waiting->isEmpty()) {
+        open.erase(waiting);
+    }
+    switch (result.kind) {
+    case FileResult::Kind::Written:
+        ++end.written;
+        break;
+    case FileResult::Kind::Skipped:
+        ++end.skipped;
+        break;
+    case FileResult::Kind::Failed:
+        ++end.failed;
+        break;
+    }
+    return true;
+}
+
+QVector<QPair<int, FileResult>> RunController::JournaledResults() const
+{
+    using Kind = BatchJob::JournalState::Result::Kind;
+    QVector<QPair<int, FileResult>> results;
+    const std::optional<BatchJob::JournalState> state = BatchJob::ReadJournal(journalPath);
+    for (int i = 0; state && i < inputs.files.size(); ++i) {
+        const auto found = state->results.constFind(i);
+        if (found != state->results.constEnd()) {
+            const FileResult::Kind kind = found->kind == Kind::Written   ? FileResult::Kind::Written
+                                          : found->kind == Kind::Skipped ? FileResult::Kind::Skipped
+                                                                         : FileResult::Kind::Failed;
+            results.append({i, {inputs.files.at(i), found->output, kind, found->errorCode, found->reason}});
+        }
+    }
+    return results;
+}
+
+bool RunController::IsServerThere()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("VelkoraBatchProcessing"),
+                                           {QCoreApplication::applicationDirPath()})
+                .isEmpty();
+}
+
+/// Lets the next server know over which inputs the last one has died.
+void RunController::NoteLoss(const QStringList& lost) const
+{
+    QVector<int> indexes;
+    for (const QString& input : lost) {
+        indexes += open.value(input);
+    }
+    BatchJob::RunJournal journal;
+    if (!indexes.isEmpty() && journal.Open(journalPath)) {
+        journal.Lose(indexes);
+    }
+}
+
+/// The session is over, with the run or with the server. The latter is known before the event loop turns again.
+void RunController::OnSessionOver()
+{
+    if (phase != Phase::Over) {
+        sessionOver.start(0);
+    }
+}
+
+void RunController::OnServerGone()
+{
+    sessionOver.stop();
+    if (phase == Phase::Over) {
+        return;
+    }
+    delete session;
+    question.reset();
+    // What it noted last may not have reached us.
+    for (const auto& [index, result] : JournaledResults()) {
+        if (open.value(result.input).contains(index)) {
+            Settle(result);
+        }
+    }
+    if (phase == Phase::Cancelling || open.isEmpty() || end.jobErrorCode != ZTBatchMessage::NoError) {
+        End(phase == Phase::Cancelling, false);
+        return;
+    }
+    const QStringList lost = inWork;
+    inWork.clear();
+    NoteLoss(lost);
+    idleLives = settledInThisLife > 0 || !lost.isEmpty() ? 0 : idleLives + 1;
+    const bool goesOn = !journalPath.isEmpty() && IsServerThere() && lives < mostLives && idleLives < mostIdleLives;
+    for (RunObserver* const observer : observers) {
+        observer->OnServerLost(lost, goesOn);
+    }
+    if (goesOn) {
+        // From the event loop: the manager is still busy with the end of the last one.
+        QTimer::singleShot(0, this, [this] { StartServer(); });
+    } else {
+        End(false, true);
+    }
+}
+
+void RunController::End(bool isCancelled, bool isServerLost)
+{
+    if (phase == Phase::Over) {
+        return;
+    }
+    phase = Phase::Over;
+    delete session;
+    end.isCancelled = isCancelled && !open.isEmpty();
+    end.isServerLost = isServerLost;
+    end.seconds = double(time.elapsed()) / 1000;
+    for (RunObserver* const observer : observers) {
+        observer->OnEnd(end);
+    }
+    Q_EMIT Ended(end);
+}
+
+} // namespace BatchHost

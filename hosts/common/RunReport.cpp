@@ -1,0 +1,98 @@
+#include "RunReport.h"
+
+#include "UsageError.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace BatchJob;
+
+namespace BatchHost {
+
+namespace {
+
+QString WordOf(const FileResult& result, bool isDone)
+{
+    return isDone ? ResultWord(result.kind) : QStringLiteral("not processed");
+}
+
+QString Quoted(const QString& text)
+{
+    QString doubled = text;
+    doubled.replace(QLatin1Char('"'), QStringLiteral("\"\""));
+    return QLatin1Char('"') + doubled + QLatin1Char('"');
+}
+
+} // namespace
+
+RunReport::RunReport(const QString& path)
+    : file(path)
+    , isJson(path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
+{
+    if (!isJson && !path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
+        throw UsageError{QStringLiteral("--report: the name \"%1\" must end with .csv or .json").arg(path)};
+    }
+    if (!file.open(QIODevice::WriteOnly)) {
+        throw UsageError{QStringLiteral("--report: %1 cannot be written: %2").arg(path, file.errorString())};
+    }
+}
+
+void RunReport::OnStart(const RunInputs& inputs, const QString&)
+{
+    for (const QString& input : inputs.files) {
+        Entry entry;
+        entry.result.input = input;
+        entries.append(entry);
+    }
+    for (int i = entries.size() - 1; i >= 0; --i) {
+        open.insert(inputs.files.at(i), i); // The one inserted last is taken first.
+    }
+}
+
+void RunReport::OnResult(const FileResult& result, int, int)
+{
+    const auto entry = open.find(result.input);
+    if (entry != open.end()) {
+        entries[*entry] = {result, true};
+        open.erase(entry);
+    }
+}
+
+void RunReport::OnEnd(const RunEnd&)
+{
+    const QByteArray bytes = isJson ? Json() : Csv();
+    if (file.write(bytes) != bytes.size() || !file.commit()) {
+        error = QStringLiteral("the report %1 cannot be written: %2").arg(file.fileName(), file.errorString());
+    }
+}
+
+QByteArray RunReport::Csv() const
+{
+    QString text = QStringLiteral("input,output,result,code,reason\r\n");
+    for (const Entry& entry : entries) {
+        const FileResult& result = entry.result;
+        text += QStringLiteral("%1,%2,%3,%4,%5\r\n")
+                    .arg(Quoted(result.input), Quoted(result.output), Quoted(WordOf(result, entry.isDone)),
+                         QString::number(result.errorCode), Quoted(result.reason));
+    }
+    return text.toUtf8();
+}
+
+QByteArray RunReport::Json() const
+{
+    QJsonArray array;
+    for (const Entry& entry : entries) {
+        const FileResult& result = entry.result;
+        array.append(QJsonObject{{QStringLiteral("input"), result.input},
+                                 {QStringLiteral("output"), result.output},
+                                 {QStringLiteral("result"), WordOf(result, entry.isDone)},
+                                 {QStringLiteral("code"), result.errorCode},
+                                 {QStringLiteral("reason"), result.reason}});
+    }
+    return QJsonDocument(array).toJson(QJsonDocument::Indented);
+}
+
+} // namespace BatchHost

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "RunObserver.h"
+
+#include <QMultiHash>
+#include <QSaveFile>
+
+namespace BatchHost {
+
+/// A file with one entry for each input of the job, in the job's order: CSV or JSON.
+class RunReport : public RunObserver
+{
+public:
+    /// Throws UsageError when the file cannot be written, or its name ends in something else than .csv or .json.
+    explicit RunReport(const QString& path);
+
+    void OnStart(const RunInputs& inputs, const QString& outputFolder) override;
+    void OnEarlierResult(const FileResult& result) override { OnResult(result, 0, 0); }
+    void OnResult(const FileResult& result, int done, int files) override;
+    void OnEnd(const RunEnd& end) override;
+
+    /// Why the report was not written in the end; empty when it was.
+    QString Error() const { return error; }
+
+private:
+    struct Entry
+    {
+        FileResult result;
+        bool isDone = false;
+    };
+
+    QByteArray Csv() const;
+    QByteArray Json() const;
+
+    QSaveFile file;
+    bool isJson = false;
+    QVector<Entry> entries;
+    QMultiHash<QString, int> open; ///< the entries of inputs that are not done
+    QString error;
+};
+
+} // namespace BatchHost

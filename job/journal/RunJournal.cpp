@@ -1,0 +1,174 @@
+#include "RunJournal.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace BatchJob {
+
+namespace {
+
+using Kind = JournalState::Result::Kind;
+
+constexpr int version = 1;
+constexpr qint64 longestLine = qint64(1) << 30;
+
+QString Key(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+const char* WordOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::Written:
+        return "written";
+    case Kind::Skipped:
+        return "skipped";
+    case Kind::Failed:
+        return "failed";
+    }
+    return "";
+}
+
+bool TakeHeader(const QJsonObject& line, JournalState& state)
+{
+    const QJsonArray policies = line.value(Key("policies")).toArray();
+    if (line.value(Key("journal")).toInt() != version || policies.size() != int(state.policies.size())) {
+        return false;
+    }
+    state.document = line.value(Key("document")).toString();
+    for (std::size_t i = 0; i < state.policies.size(); ++i) {
+        state.policies[i] = policies.at(int(i)).toInt();
+    }
+    return true;
+}
+
+void TakeLine(const QJsonObject& line, JournalState& state)
+{
+    const QString output = line.value(Key("output")).toString();
+    for (const Kind kind : {Kind::Written, Kind::Skipped, Kind::Failed}) {
+        const int index = line.value(Key(WordOf(kind))).toInt(-1);
+        if (index >= 0) {
+            state.results.insert(index,
+                                 {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString()});
+            state.begun.remove(index);
+            state.losses.remove(index);
+        }
+    }
+    const int begun = line.value(Key("begin")).toInt(-1);
+    if (begun >= 0 && !state.results.contains(begun)) {
+        state.begun.insert(begun, {output, line.value(Key("before")).toString()});
+    }
+    const QJsonValue answer = line.value(Key("answer"));
+    if (answer.isDouble()) {
+        state.answers.insert(answer.toInt(), line.value(Key("value")).toInt());
+    }
+    for (const QJsonValue& lost : line.value(Key("lost")).toArray()) {
+        ++state.losses[lost.toInt()];
+    }
+}
+
+} // namespace
+
+std::optional<JournalState> ReadJournal(const QString& path)
+{
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    JournalState state;
+    bool hasHeader = false;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine(longestLine);
+        const QJsonDocument document = QJsonDocument::fromJson(line);
+        const bool isWhole = line.endsWith('\n') && document.isObject();
+        if (!hasHeader) {
+            if (!isWhole || !TakeHeader(document.object(), state)) {
+                return std::nullopt;
+            }
+            hasHeader = true;
+        } else if (isWhole) {
+            TakeLine(document.object(), state);
+        }
+    }
+    return hasHeader ? std::optional(state) : std::nullopt;
+}
+
+bool HasJournalBegun(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readLine(longestLine).endsWith('\n');
+}
+
+bool RunJournal::Create(const QString& path, const QString& document, const std::array<int, 5>& policies)
+{
+    file.setFileName(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+        return false;
+    }
+    QJsonArray values;
+    for (const int policy : policies) {
+        values.append(policy);
+    }
+    Write(QJsonDocument(QJsonObject{{Key("journal"), version}, {Key("document"), document}, {Key("policies"), values}})
+              .toJson(QJsonDocument::Compact));
+    return file.error() == QFileDevice::NoError;
+}
+
+bool RunJournal::Open(const QString& path)
+{
+    file.setFileName(path);
+    // Opened for appending: host and server write in turn.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered | QIODevice::ExistingOnly)) {
+        return false;
+    }
+    // A line that was cut off must not take the next one along.
+    file.seek(std::max<qint64>(0, file.size() - 1));
+    if (file.read(1) != "\n") {
+        file.write("\n");
+    }
+    return true;
+}
+
+void RunJournal::Begin(int index, const JournalState::Beginning& beginning)
+{
+    QJsonObject line{{Key("begin"), index}, {Key("output"), beginning.output}};
+    if (!beginning.before.isEmpty()) {
+        line.insert(Key("before"), beginning.before);
+    }
+    Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
+}
+
+void RunJournal::Settle(int index, const JournalState::Result& result)
+{
+    QJsonObject line{{Key(WordOf(result.kind)), index}, {Key("output"), result.output}};
+    if (result.kind != Kind::Written) {
+        line.insert(Key("code"), result.errorCode);
+        line.insert(Key("reason"), result.reason);
+    }
+    Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
+}
+
+void RunJournal::Answer(int policy, int value)
+{
+    Write(QJsonDocument(QJsonObject{{Key("answer"), policy}, {Key("value"), value}}).toJson(QJsonDocument::Compact));
+}
+
+void RunJournal::Lose(const QVector<int>& indexes)
+{
+    QJsonArray lost;
+    for (const int index : indexes) {
+        lost.append(index);
+    }
+    Write(QJsonDocument(QJsonObject{{Key("lost"), lost}}).toJson(QJsonDocument::Compact));
+}
+
+void RunJournal::Write(const QByteArray& line)
+{
+    if (file.isOpen()) {
+        file.write(line + '\n');
+    }
+}
+
+} // namespace BatchJob

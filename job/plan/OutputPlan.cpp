@@ -1,0 +1,334 @@
+#include "OutputPlan.h"
+
+#include "job/values/JobValues.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+namespace BatchJob {
+
+namespace {
+
+using Settings = ZTBatchOutputSettings;
+
+constexpr int formatHeadSize = 64;
+
+QString ReadFormat(const QString& path)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    // Anything else, such as a named pipe, could keep the reader waiting for ever.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return {};
+    }
+    return FormatOfFile(file.read(formatHeadSize), info.suffix());
+}
+
+QString WithoutExtension(const QString& name)
+{
+    return name.left(name.lastIndexOf(QLatin1Char('.')));
+}
+
+/// The files that go into every result.
+QStringList SharedSources(const JobSettings& settings)
+{
+    QStringList files;
+    for (const JobEffect& effect : settings.effects) {
+        for (const ParameterSchema& parameter : effect.schema->parameters) {
+            if (parameter.type == ParameterType::File) {
+                files.append(effect.parameters.value(parameter.name).toString());
+            }
+        }
+    }
+    const Settings::Transformation& framing = settings.framing;
+    if (framing.state && framing.backgroundType == int(BackgroundType::Image)) {
+        files.append(framing.backgroundImage);
+    }
+    return files;
+}
+
+QString Numbered(int number)
+{
+    return QStringLiteral(" (%1)").arg(number);
+}
+
+} // namespace
+
+OutputPlan::OutputPlan(const QVector<JobFile>& files, const JobSettings& settings)
+    : outputFolder(settings.outputFolder)
+    , structure(settings.folderStructure)
+    , naming(settings.naming)
+    , keepsFormats(settings.format == Settings::GetOriginalFormat())
+    , sharedSources(SharedSources(settings))
+{
+    const FormatSchema* format = keepsFormats ? nullptr : FindFormat(settings.format);
+    entries.reserve(files.size());
+    jobFolders.reserve(structure == Settings::StructureAsInput ? files.size() : 0);
+    for (const JobFile& file : files) {
+        Entry entry;
+        entry.input = file.path;
+        entry.format = format;
+        entries.append(entry);
+        if (structure == Settings::StructureAsInput) {
+            jobFolders.append(file.folder);
+        }
+    }
+}
+
+bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
+{
+    if (!keepsFormats) {
+        return true;
+    }
+    for (Entry& entry : entries) {
+        if (isCancelled && isCancelled()) {
+            return false;
+        }
+        entry.inputFormat = ReadFormat(entry.input);
+        entry.format = FindFormat(entry.inputFormat);
+    }
+    return true;
+}
+
+QVector<int> OutputPlan::FilesToProbe() const
+{
+    const bool needsTimes = naming.NeedsCaptureTime() || structure == Settings::StructureByCaptureDate;
+    QVector<int> files;
+    for (int i = 0; i < entries.size(); ++i) {
+        if (!entries[i].isKept && (needsTimes || (keepsFormats && entries[i].inputFormat.isEmpty()))) {
+            files.append(i);
+        }
+    }
+    return files;
+}
+
+void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& inputFormat)
+{
+    Entry& entry = entries[index];
+    entry.captured = captured;
+    if (keepsFormats && !inputFormat.isEmpty()) {
+        entry.inputFormat = inputFormat;
+        entry.format = FindFormat(inputFormat);
+    }
+}
+
+void OutputPlan::Keep(int index, const QString& path)
+{
+    entries[index].isKept = true;
+    entries[index].name = path;
+    keptPaths.insert(path);
+}
+
+bool OutputPlan::MakeNames(const Cancelled& isCancelled)
+{
+    takers.reserve(entries.size());
+    for (int i = 0; i < entries.size(); ++i) {
+        if (isCancelled && isCancelled()) {
+            return false;
+        }
+        Entry& entry = entries[i];
+        if (entry.isKept) {
+            TakeKept(i);
+            continue;
+        }
+        entry.folder = FolderOf(SubFolder(i));
+        entry.stem = naming.Stem(entry.input, i, entry.captured);
+        if (entry.format) {
+            SetName(i, {});
+            FindClash(i);
+        }
+    }
+    return true;
+}
+
+QString OutputPlan::Folder(int index) const
+{
+    return folders[entries[index].folder].path;
+}
+
+QString OutputPlan::OutputName(int index) const
+{
+    return entries[index].name;
+}
+
+QString OutputPlan::Output(int index) const
+{
+    const Entry& entry = entries[index];
+    return entry.name.isEmpty() ? QString() : Folder(index) + QLatin1Char('/') + entry.name;
+}
+
+bool OutputPlan::IsAnothersSource(int index)
+{
+    const std::optional<FileIdentity> onDisk = IdentityOf(OnDiskPath(index));
+    if (!onDisk) {
+        return false;
+    }
+    NoteSources();
+    const int own = IdentityOf(entries[index].input) == onDisk ? 1 : 0;
+    return sourceCounts.value(*onDisk) > own;
+}
+
+void OutputPlan::ChangeFormat(int index, const FormatSchema& format)
+{
+    Entry& entry = entries[index];
+    if (!entry.name.isEmpty()) {
+        // What made the name a free one stays with it.
+        entry.stem = WithoutExtension(entry.name);
+    }
+    entry.format = &format;
+    SetName(index, {});
+    FindClash(index);
+}
+
+void OutputPlan::Rename(int index)
+{
+    Entry& entry = entries[index];
+    const Place wanted(folders[entry.folder].keyId,
+                       NameKey(FileName(entry.stem, {}, entry.format->extensions.first())));
+    int& next = nextAdditions[wanted];
+    next = std::max(next, 2);
+    do {
+        SetName(index, Numbered(next++));
+    } while (IsTaken(entry.folder, NameKey(entry.name)));
+    entry.clash = Clash::None;
+    entry.other = -1;
+    takers.insert({wanted.first, NameKey(entry.name)}, index);
+}
+
+QString OutputPlan::SubFolder(int index) const
+{
+    switch (structure) {
+    case Settings::StructureAsInput:
+        return jobFolders[index];
+    case Settings::StructureByCaptureDate: {
+        const QDateTime& captured = entries[index].captured;
+        return captured.isValid() ? captured.toString(QStringLiteral("yyyy/yyyy-MM-dd"))
+                                  : QStringLiteral("0000/0000-00-00");
+    }
+    case Settings::StructureFlat:
+        break;
+    }
+    return {};
+}
+
+int OutputPlan::FolderOf(const QString& subFolder)
+{
+    const auto known = folderIds.constFind(subFolder);
+    if (known != folderIds.constEnd()) {
+        return *known;
+    }
+    TargetFolder folder;
+    folder.path = subFolder.isEmpty() ? outputFolder : QDir(outputFolder).filePath(subFolder);
+    const QString key = NameKey(subFolder);
+    folder.keyId = folderKeyIds.value(key, folderKeyIds.size());
+    folderKeyIds.insert(key, folder.keyId);
+    folders.append(folder);
+    folderIds.insert(subFolder, folders.size() - 1);
+    return folders.size() - 1;
+}
+
+void OutputPlan::SetName(int index, const QString& addition)
+{
+    Entry& entry = entries[index];
+    entry.name = FileName(entry.stem, addition, entry.format->extensions.first());
+}
+
+void OutputPlan::TakeKept(int index)
+{
+    Entry& entry = entries[index];
+    const QFileInfo place(entry.name);
+    const QString subFolder = QDir(outputFolder).relativeFilePath(place.path());
+    entry.folder = FolderOf(subFolder == QLatin1String(".") ? QString() : subFolder);
+    entry.name = place.fileName();
+    entry.stem = WithoutExtension(entry.name);
+    const Place taken(folders[entry.folder].keyId, NameKey(entry.name));
+    if (!takers.contains(taken)) {
+        takers.insert(taken, index);
+    }
+}
+
+void OutputPlan::FindClash(int index)
+{
+    Entry& entry = entries[index];
+    const QString key = NameKey(entry.name);
+    const Place place(folders[entry.folder].keyId, key);
+    const auto taker = takers.constFind(place);
+    entry.clash = Clash::None;
+    entry.other = -1;
+    if (taker != takers.constEnd() && *taker != index) {
+        entry.clash = Clash::Result;
+        entry.other = *taker;
+        return;
+    }
+    takers.insert(place, index);
+    if (OnDisk(entry.folder).contains(key)) {
+        entry.clash = SourcesWith(OnDiskPath(index)) > 0 ? Clash::Source : Clash::Disk;
+    }
+}
+
+bool OutputPlan::IsTaken(int folder, const QString& key)
+{
+    return takers.contains({folders[folder].keyId, key}) || OnDisk(folder).contains(key);
+}
+
+const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
+{
+    TargetFolder& target = folders[folder];
+    if (!target.isListed) {
+        target.isListed = true;
+        QDirIterator names(target.path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+        while (names.hasNext()) {
+            names.next();
+            if (keptPaths.contains(target.path + QLatin1Char('/') + names.fileName())) {
+                continue;
+            }
+            target.onDisk.insert(NameKey(names.fileName()), names.fileName());
+        }
+    }
+    return target.onDisk;
+}
+
+/// The path of the file on the disk that has the name of a result; it may differ from it in letter case.
+QString OutputPlan::OnDiskPath(int index)
+{
+    const Entry& entry = entries[index];
+    const QString exact = Output(index);
+    if (QFileInfo::exists(exact)) {
+        return exact;
+    }
+    return Folder(index) + QLatin1Char('/') + OnDisk(entry.folder).value(NameKey(entry.name), entry.name);
+}
+
+int OutputPlan::SourcesWith(const QString& path)
+{
+    const std::optional<FileIdentity> identity = IdentityOf(path);
+    if (!identity) {
+        return 0;
+    }
+    NoteSources();
+    return sourceCounts.value(*identity);
+}
+
+void OutputPlan::NoteSources()
+{
+    if (areSourcesNoted) {
+        return;
+    }
+    areSourcesNoted = true;
+    const auto note = [this](const QString& source) {
+        const std::optional<FileIdentity> identity = IdentityOf(source);
+        if (identity) {
+            ++sourceCounts[*identity];
+        }
+    };
+    for (const Entry& entry : qAsConst(entries)) {
+        note(entry.input);
+    }
+    for (const QString& source : qAsConst(sharedSources)) {
+        note(source);
+    }
+}
+
+} // namespace BatchJob

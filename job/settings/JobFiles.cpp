@@ -1,0 +1,48 @@
+#include "JobFiles.h"
+
+#include "OutputNaming.h"
+
+#include "ZTBatchInputModel.h"
+
+namespace BatchJob {
+
+namespace {
+
+struct OpenFolder
+{
+    QModelIndex index;
+    QString path; ///< as in JobFile
+    int nextRow = 0;
+};
+
+QString NameOfFolder(const BatchNodeData& folder)
+{
+    const QString path = folder.fileName.endsWith(QLatin1Char('/')) ? folder.fileName.chopped(1) : folder.fileName;
+    return FolderName(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+}
+
+} // namespace
+
+QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input)
+{
+    QVector<JobFile> files;
+    QVector<OpenFolder> open{OpenFolder()};
+    while (!open.isEmpty()) {
+        OpenFolder& folder = open.last();
+        if (folder.nextRow == input.rowCount(folder.index)) {
+            open.removeLast();
+            continue;
+        }
+        const QModelIndex index = input.index(folder.nextRow++, 0, folder.index);
+        const BatchNodeData& node = *input.getNodeData(index);
+        if (node.type == Folder) {
+            const QString name = NameOfFolder(node);
+            open.append({index, folder.path.isEmpty() ? name : folder.path + QLatin1Char('/') + name});
+        } else {
+            files.append({node.fileName, folder.path});
+        }
+    }
+    return files;
+}
+
+} // namespace BatchJob

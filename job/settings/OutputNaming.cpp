@@ -1,0 +1,197 @@
+#include "OutputNaming.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace BatchJob {
+
+namespace {
+
+using Settings = ZTBatchOutputSettings;
+
+bool IsRefused(QChar character)
+{
+    switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return QStringLiteral("/\\<>:\"|?*").contains(character);
+    }
+}
+
+/// Half of a pair without its other half cannot be written as UTF-8.
+bool IsLoneSurrogate(const QString& text, int i)
+{
+    if (text[i].isHighSurrogate()) {
+        return i + 1 == text.size() || !text[i + 1].isLowSurrogate();
+    }
+    return text[i].isLowSurrogate() && (i == 0 || !text[i - 1].isHighSurrogate());
+}
+
+void ReplaceTrailing(QString& name)
+{
+    for (int i = name.size() - 1; i >= 0 && (name[i] == QLatin1Char('.') || name[i] == QLatin1Char(' ')); --i) {
+        name[i] = QLatin1Char('_');
+    }
+}
+
+/// Whether Windows takes a file of this name, without what follows a dot, for a device.
+bool IsDevice(const QString& name)
+{
+    const QString upper = name.trimmed().toUpper();
+    if (upper.size() == 4 && (upper.startsWith(QLatin1String("COM")) || upper.startsWith(QLatin1String("LPT")))) {
+        return QStringLiteral("123456789\u00B9\u00B2\u00B3").contains(upper[3]);
+    }
+    static const std::array devices{QLatin1String("CON"), QLatin1String("PRN"),    QLatin1String("AUX"),
+                                    QLatin1String("NUL"), QLatin1String("CONIN$"), QLatin1String("CONOUT$")};
+    return std::find(devices.begin(), devices.end(), upper) != devices.end();
+}
+
+/// The longest beginning of `text` that is whole characters, as users see them, and at most `bytes` bytes of UTF-8.
+QString CutToBytes(const QString& text, int bytes)
+{
+    if (text.size() <= bytes && text.toUtf8().size() <= bytes) {
+        return text;
+    }
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    int end = 0;
+    int size = 0;
+    for (int next = finder.toNextBoundary(); next != -1; next = finder.toNextBoundary()) {
+        size += text.mid(end, next - end).toUtf8().size();
+        if (size > bytes) {
+            break;
+        }
+        end = next;
+    }
+    return text.left(end);
+}
+
+/// Full case folding. QString folds character by character; those that fold to several, such as the sharp s, are the
+/// ones that have several capitals.
+QString Folded(const QString& text)
+{
+    const QString simple = text.toCaseFolded();
+    QString folded;
+    folded.reserve(simple.size());
+    for (const QChar character : simple) {
+        const QString capitals = QString(character).toUpper();
+        folded += capitals.size() > 1 ? capitals.toCaseFolded() : QString(character);
+    }
+    return folded;
+}
+
+QString BaseName(const QString& inputPath)
+{
+    const QString name = inputPath.mid(inputPath.lastIndexOf(QLatin1Char('/')) + 1);
+    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot == -1 ? name : name.left(dot);
+}
+
+} // namespace
+
+OutputNaming::OutputNaming(const Settings& settings)
+    : prefixSeparator(settings.GetPrefixSeparator())
+    , suffixSeparator(settings.GetSuffixSeparator())
+{
+    const auto read = [&settings](Settings::NamingPart part) {
+        return Part{settings.GetNamingTemplate(part), settings.GetCustomTemplate(part), settings.GetStartNumber(part),
+                    settings.GetDigitsCount(part)};
+    };
+    prefix = read(Settings::PartPrefix);
+    middle = read(Settings::PartMiddle);
+    suffix = read(Settings::PartSuffix);
+}
+
+bool OutputNaming::NeedsCaptureTime() const
+{
+    const auto needs = [](const Part& part) {
+        return part.kind == Settings::TemplateCaptureDate || part.kind == Settings::TemplateCaptureTime;
+    };
+    return needs(prefix) || needs(middle) || needs(suffix);
+}
+
+QString OutputNaming::Stem(const QString& inputPath, int position, const QDateTime& captured) const
+{
+    const QString first = TextOf(prefix, inputPath, position, captured);
+    const QString second = TextOf(middle, inputPath, position, captured);
+    const QString third = TextOf(suffix, inputPath, position, captured);
+    QString name = first;
+    if (!first.isEmpty() && !second.isEmpty()) {
+        name += prefixSeparator;
+    }
+    name += second;
+    if (!second.isEmpty() && !third.isEmpty()) {
+        name += suffixSeparator;
+    }
+    name += third;
+    return CleanName(name.isEmpty() ? BaseName(inputPath) : name);
+}
+
+QString OutputNaming::TextOf(const Part& part, const QString& inputPath, int position, const QDateTime& captured)
+{
+    switch (part.kind) {
+    case Settings::TemplateOriginalName:
+        return BaseName(inputPath);
+    case Settings::TemplateNumber:
+        return QString::number(qint64(part.start) + position).rightJustified(part.digits, QLatin1Char('0'));
+    case Settings::TemplateCaptureDate:
+        return captured.isValid() ? captured.toString(QStringLiteral("yyyyMMdd")) : QStringLiteral("00000000");
+    case Settings::TemplateCaptureTime:
+        return captured.isValid() ? captured.toString(QStringLiteral("HHmmss")) : QStringLiteral("000000");
+    case Settings::TemplateCustomText:
+        return part.text;
+    case Settings::TemplateNothing:
+        break;
+    }
+    return {};
+}
+
+QString CleanName(const QString& name)
+{
+    QString clean = name;
+    for (int i = 0; i < clean.size(); ++i) {
+        // The name itself is looked at, not what has become of it.
+        if (IsRefused(name[i]) || IsLoneSurrogate(name, i)) {
+            clean[i] = QLatin1Char('_');
+        }
+    }
+    ReplaceTrailing(clean);
+    const int dot = clean.indexOf(QLatin1Char('.'));
+    const int deviceSize = dot == -1 ? clean.size() : dot;
+    if (clean.isEmpty() || IsDevice(clean.left(deviceSize))) {
+        clean.replace(0, deviceSize, QLatin1Char('_'));
+    }
+    return clean;
+}
+
+QString FileName(const QString& stem, const QString& addition, const QString& extension)
+{
+    const QString end = addition + QLatin1Char('.') + extension;
+    QString cut = CutToBytes(stem, longestName - end.toUtf8().size());
+    if (cut.size() < stem.size()) {
+        ReplaceTrailing(cut);
+    }
+    return cut + end;
+}
+
+QString FolderName(const QString& name)
+{
+    QString cut = CutToBytes(CleanName(name), longestName);
+    ReplaceTrailing(cut);
+    return cut;
+}
+
+QString NameKey(const QString& name)
+{
+    const bool isAscii = std::all_of(name.begin(), name.end(), [](QChar character) { return character < QChar(0x80); });
+    if (isAscii) {
+        return name.toLower();
+    }
+    // Folding may compose or take apart what was normalised, and the other way round.
+    return Folded(name.normalized(QString::NormalizationForm_D)).normalized(QString::NormalizationForm_C);
+}
+
+} // namespace BatchJob

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "WorkerMessages.h"
+
+#include "job/values/FileIdentity.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace BatchProtocol {
+
+/// A task on its way to a worker.
+struct Assignment
+{
+    quint64 run = 0; ///< whose task it is
+    int file = -1;   ///< the file's number in the plan of the run
+    QByteArray job;  ///< the framed Job of the run; all its assignments share one
+    ToWorker task;   ///< a ProbeTask or PictureTask with the number `file`
+
+    /// What stood in the place of the result. Something else there means that the result is finished, told or not.
+    std::optional<BatchJob::FileIdentity> before;
+    bool isSecondTry = false; ///< a worker has ended already before it began the task
+};
+
+} // namespace BatchProtocol

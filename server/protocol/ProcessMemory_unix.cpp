@@ -1,0 +1,22 @@
+#include "ProcessMemory.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QList>
+
+#include <unistd.h>
+
+namespace BatchProtocol {
+
+qint64 MemoryOfProcess(qint64 id)
+{
+    // Systems without /proc leave it to the limit that a worker sets itself.
+    QFile file(QStringLiteral("/proc/%1/statm").arg(id));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return 0;
+    }
+    const QList<QByteArray> fields = file.readLine().split(' ');
+    return fields.value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+} // namespace BatchProtocol

@@ -1,0 +1,20 @@
+#include "TemporaryName.h"
+
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+namespace BatchProtocol {
+
+QString NewTemporaryName(const QString& folder)
+{
+    const quint64 number = QRandomGenerator::system()->generate64();
+    return QStringLiteral("%1/.velkora-%2.tmp").arg(folder).arg(number, 16, 16, QLatin1Char('0'));
+}
+
+bool IsTemporaryName(const QString& name)
+{
+    static const QRegularExpression form(QStringLiteral("\\A\\.velkora-[0-9a-f]{16}\\.tmp\\z"));
+    return form.match(name).hasMatch();
+}
+
+} // namespace BatchProtocol

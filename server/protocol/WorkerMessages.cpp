@@ -1,0 +1,152 @@
+#include "WorkerMessages.h"
+
+#include <QtEndian>
+
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+namespace BatchProtocol {
+
+namespace {
+
+// A job may carry a colour profile of some megabytes as hexadecimal text. Nothing else is large.
+constexpr quint32 maximumPayload = 256U << 20;
+
+// A report is a few lines. A worker that was taken over by a picture does not get the supervisor to fill its memory.
+constexpr quint32 maximumReport = 1U << 20;
+
+template<typename Record>
+auto Fields(Record& record)
+{
+    using Plain = std::remove_const_t<Record>;
+    if constexpr (std::is_same_v<Plain, Job>) {
+        return std::tie(record.document, record.limits.workers, record.limits.pixels, record.limits.workerMemory,
+                        record.limits.pictureSeconds);
+    } else if constexpr (std::is_same_v<Plain, ProbeTask>) {
+        return std::tie(record.number, record.inputFile);
+    } else if constexpr (std::is_same_v<Plain, PictureTask>) {
+        return std::tie(record.number, record.inputFile, record.outputFile, record.format, record.replaceExisting);
+    } else if constexpr (std::is_same_v<Plain, Beginning>) {
+        return std::tie(record.number);
+    } else {
+        return std::tie(record.number, record.failure, record.errorCode, record.reason, record.warnings,
+                        record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
+    }
+}
+
+template<typename Record>
+void Write(QDataStream& stream, const Record& record)
+{
+    std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Fields(record));
+}
+
+template<typename Record>
+std::optional<Record> Read(QDataStream& stream)
+{
+    Record record;
+    std::apply([&stream](auto&... fields) { ((stream >> fields), ...); }, Fields(record));
+    return stream.status() == QDataStream::Ok && stream.atEnd() ? std::optional(record) : std::nullopt;
+}
+
+template<typename Writer>
+QByteArray Frame(const Writer& write)
+{
+    QByteArray bytes(sizeof(quint32), '\0');
+    QDataStream stream(&bytes, QIODevice::Append);
+    write(stream);
+    qToBigEndian(quint32(bytes.size()) - quint32(sizeof(quint32)), bytes.data());
+    return bytes;
+}
+
+// The number of its kind, then the record.
+template<typename AnyMessage>
+QByteArray FrameOf(const AnyMessage& message)
+{
+    return Frame([&message](QDataStream& stream) {
+        stream << quint8(message.index());
+        std::visit([&stream](const auto& record) { Write(stream, record); }, message);
+    });
+}
+
+template<typename AnyMessage, std::size_t kind>
+std::optional<AnyMessage> ReadKind(QDataStream& stream)
+{
+    std::optional<std::variant_alternative_t<kind, AnyMessage>> message =
+        Read<std::variant_alternative_t<kind, AnyMessage>>(stream);
+    return message ? std::optional<AnyMessage>(std::move(*message)) : std::nullopt;
+}
+
+template<typename AnyMessage, std::size_t... kinds>
+std::optional<AnyMessage> ReadAny(const QByteArray& payload, std::index_sequence<kinds...>)
+{
+    QDataStream stream(payload);
+    quint8 wanted = 0;
+    stream >> wanted;
+    std::optional<AnyMessage> message;
+    ((kinds == wanted ? void(message = ReadKind<AnyMessage, kinds>(stream)) : void()), ...);
+    return message;
+}
+
+} // namespace
+
+QByteArray FrameToWorker(const ToWorker& message)
+{
+    return FrameOf(message);
+}
+
+QByteArray FrameFromWorker(const FromWorker& message)
+{
+    return FrameOf(message);
+}
+
+void FrameReader::Append(const QByteArray& bytes)
+{
+    if (!isBroken) {
+        buffer.append(bytes);
+    }
+}
+
+template<typename AnyMessage>
+std::optional<AnyMessage> FrameReader::Next(quint32 maximum)
+{
+    const std::optional<QByteArray> payload = NextPayload(maximum);
+    if (!payload) {
+        return std::nullopt;
+    }
+    std::optional<AnyMessage> message =
+        ReadAny<AnyMessage>(*payload, std::make_index_sequence<std::variant_size_v<AnyMessage>>());
+    isBroken = !message;
+    return message;
+}
+
+std::optional<ToWorker> FrameReader::NextToWorker()
+{
+    return Next<ToWorker>(maximumPayload);
+}
+
+std::optional<FromWorker> FrameReader::NextFromWorker()
+{
+    return Next<FromWorker>(maximumReport);
+}
+
+std::optional<QByteArray> FrameReader::NextPayload(quint32 maximum)
+{
+    constexpr int header = sizeof(quint32);
+    if (isBroken || buffer.size() < header) {
+        return std::nullopt;
+    }
+    const quint32 size = qFromBigEndian<quint32>(buffer.constData());
+    if (size > maximum) {
+        isBroken = true;
+        return std::nullopt;
+    }
+    if (buffer.size() - header < int(size)) {
+        return std::nullopt;
+    }
+    const QByteArray payload = buffer.mid(header, int(size));
+    buffer.remove(0, header + int(size));
+    return payload;
+}
+
+} // namespace BatchProtocol

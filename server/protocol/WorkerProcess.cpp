@@ -1,0 +1,189 @@
+#include "WorkerProcess.h"
+
+#include <QPointer>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace BatchProtocol {
+
+namespace {
+
+constexpr auto startTime = 30s;
+constexpr int endTime = 3000;    // ms
+constexpr int keptErrors = 1000; // bytes
+
+// There is a worker for each core: threads of a library's own would only take turns. A library that uses OpenMP reads
+// this when it is loaded, before a worker could set it.
+QProcessEnvironment EnvironmentOfWorkers()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
+    return environment;
+}
+
+QString CrashText(int exitCode)
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("ended by exception 0x%1").arg(uint(exitCode), 8, 16, QLatin1Char('0'));
+#else
+    return QStringLiteral("ended by signal %1").arg(exitCode);
+#endif
+}
+
+} // namespace
+
+WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent)
+    : QObject(parent)
+    , taskTime(limits.pictureSeconds * 1000)
+{
+    clock.setSingleShot(true);
+    connect(&clock, &QTimer::timeout, this, [this] { End(isReady ? WorkerEnd::Hung : WorkerEnd::FailedToStart); });
+    connect(&process, &QProcess::readyReadStandardOutput, this, &WorkerProcess::ReadReports);
+    connect(&process, &QProcess::readyReadStandardError, this, &WorkerProcess::NoteErrors);
+    connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &WorkerProcess::Finish);
+    connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            FailToStart();
+        }
+    });
+    clock.start(startTime);
+    process.setProcessEnvironment(EnvironmentOfWorkers());
+    process.start(program, QStringList());
+}
+
+WorkerProcess::~WorkerProcess()
+{
+    process.disconnect(this);
+    process.kill();
+    process.waitForFinished(endTime);
+}
+
+void WorkerProcess::Give(const Assignment& task)
+{
+    if (currentJob != task.job) {
+        currentJob = task.job;
+        process.write(currentJob);
+    }
+    process.write(FrameToWorker(task.task));
+    tasks.append(task);
+    if (tasks.size() == 1) {
+        clock.start(taskTime);
+        Q_EMIT Begun(task);
+    }
+}
+
+void WorkerProcess::End(WorkerEnd reason)
+{
+    if (!end) {
+        end = reason;
+        clock.stop();
+        process.kill();
+    }
+}
+
+QString WorkerProcess::EndText() const
+{
+    const QString errors = QString::fromUtf8(lastErrors).trimmed();
+    return errors.isEmpty() ? exitText : QStringLiteral("%1; its last words: %2").arg(exitText, errors);
+}
+
+int WorkerProcess::Culprit() const
+{
+    // The time that passes is that of the first.
+    return end == WorkerEnd::Hung ? 0 : begun - 1;
+}
+
+void WorkerProcess::ReadReports()
+{
+    reader.Append(process.readAllStandardOutput());
+    const QPointer<WorkerProcess> self(this);
+    while (self && !end) {
+        const std::optional<FromWorker> message = reader.NextFromWorker();
+        if (!message) {
+            break;
+        }
+        if (const auto* beginning = std::get_if<Beginning>(&*message)) {
+            TakeBeginning(beginning->number);
+        } else {
+            Take(std::get<Report>(*message));
+        }
+    }
+    if (self && reader.IsBroken()) {
+        End(WorkerEnd::Garbage);
+    }
+}
+
+void WorkerProcess::Take(const Report& report)
+{
+    if (!isReady) {
+        if (report.number != workerIsReady) {
+            End(WorkerEnd::Garbage);
+            return;
+        }
+        isReady = true;
+        clock.stop();
+        Q_EMIT Ready();
+        return;
+    }
+    if (begun == 0 || tasks.first().file != report.number) {
+        End(WorkerEnd::Garbage);
+        return;
+    }
+    const Assignment task = tasks.takeFirst();
+    --begun;
+    if (tasks.isEmpty()) {
+        clock.stop();
+    } else {
+        clock.start(taskTime);
+    }
+    const QPointer<WorkerProcess> self(this);
+    const bool hasNext = !tasks.isEmpty();
+    Q_EMIT Reported(task, report);
+    if (self && !end && hasNext) {
+        Q_EMIT Begun(tasks.first());
+    }
+}
+
+void WorkerProcess::TakeBeginning(qint32 number)
+{
+    if (begun == tasks.size() || tasks[begun].file != number) {
+        End(WorkerEnd::Garbage);
+        return;
+    }
+    ++begun;
+}
+
+void WorkerProcess::NoteErrors()
+{
+    lastErrors += process.readAllStandardError();
+    lastErrors = lastErrors.right(keptErrors);
+}
+
+void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)
+{
+    // What it said before its end still counts.
+    ReadReports();
+    NoteErrors();
+    clock.stop();
+    exitText =
+        status == QProcess::CrashExit ? CrashText(exitCode) : QStringLiteral("ended with exit code %1").arg(exitCode);
+    if (!end) {
+        const bool isOutOfMemory = status == QProcess::NormalExit && exitCode == workerOutOfMemory;
+        end = !isReady ? WorkerEnd::FailedToStart : isOutOfMemory ? WorkerEnd::OutOfMemory : WorkerEnd::Died;
+    }
+    Q_EMIT Ended(*end);
+}
+
+void WorkerProcess::FailToStart()
+{
+    clock.stop();
+    exitText = process.errorString();
+    end = WorkerEnd::FailedToStart;
+    // Inside the constructor nobody listens yet.
+    QMetaObject::invokeMethod(
+        this, [this] { Q_EMIT Ended(WorkerEnd::FailedToStart); }, Qt::QueuedConnection);
+}
+
+} // namespace BatchProtocol

@@ -1,9 +1,0 @@
-#pragma once
-
-namespace BatchServer {
-
-/// From here on the system refuses this process network sockets, starting programs, and reaching into other processes,
-/// with "permission denied". False when the system knows no such filter; nothing is refused then.
-bool FilterSystemCalls();
-
-} // namespace BatchServer

@@ -1,0 +1,218 @@
+#include "PictureSource.h"
+
+#include "RawFile.h"
+#include "TiffPages.h"
+
+#include "job/formats/FormatCatalog.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/geometry/Orientation.h"
+#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/VipsText.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+namespace BatchWorker {
+
+namespace {
+
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(const QString& file)
+        : value(open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+        if (value < 0) {
+            throw DamagedFile(qt_error_string(errno));
+        }
+        struct stat status;
+        const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
+        if (!isFile) {
+            close(value);
+            throw DamagedFile(QStringLiteral("it is no file"));
+        }
+    }
+    ~FileDescriptor() { close(value); }
+
+    int Value() const { return value; }
+
+private:
+    Q_DISABLE_COPY(FileDescriptor)
+
+    int value;
+};
+
+// The loader is named, never found by the library: it would look for options in the file's name, and try loaders that
+// are not meant for files of strangers.
+const char* LoaderOf(const QString& format)
+{
+    static const QHash<QString, const char*> loaders{
+        {QStringLiteral("JPEG"), "jpegload_source"},   {QStringLiteral("PNG"), "pngload_source"},
+        {QStringLiteral("TIFF"), "tiffload_source"},   {QStringLiteral("WebP"), "webpload_source"},
+        {QStringLiteral("HEIF"), "heifload_source"},   {QStringLiteral("AVIF"), "heifload_source"},
+        {QStringLiteral("JPEG XL"), "jxlload_source"}, {QStringLiteral("JPEG 2000"), "jp2kload_source"},
+        {QStringLiteral("GIF"), "gifload_source"},
+    };
+    return loaders.value(format, nullptr);
+}
+
+QString RawFormat()
+{
+    return QStringLiteral("RAW");
+}
+
+Picture Read(const QString& file, const QString& format, int shrink)
+{
+    const FileDescriptor descriptor(file);
+    vips::VOption* options = Picture::option()
+                                 ->set("source", vips::VSource::new_from_descriptor(descriptor.Value()))
+                                 ->set("access", VIPS_ACCESS_SEQUENTIAL)
+                                 ->set("fail_on", VIPS_FAIL_ON_ERROR);
+    if (shrink > 1 && format == QLatin1String("JPEG")) {
+        options->set("shrink", shrink);
+    } else if (shrink > 1 && format == QLatin1String("WebP")) {
+        options->set("scale", 1.0 / shrink);
+    }
+    Picture picture;
+    Picture::call(LoaderOf(format), options->set("out", &picture));
+    return picture;
+}
+
+} // namespace
+
+PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
+    : file(file)
+    , limits(limits)
+{
+    Identify();
+    if (format == RawFormat()) {
+        OpenRaw();
+    }
+    if (!raw) {
+        OpenOther();
+    }
+    const qint64 pixels = qint64(storedSize.width()) * storedSize.height();
+    if (pixels > limits.pixels) {
+        throw TooLarge(QStringLiteral("%1 x %2 pixels are more than the limit of %3 megapixels")
+                           .arg(storedSize.width())
+                           .arg(storedSize.height())
+                           .arg(limits.pixels / 1'000'000));
+    }
+}
+
+PictureSource::~PictureSource() = default;
+
+bool PictureSource::IsDeep() const
+{
+    return raw != nullptr || header.format() != VIPS_FORMAT_UCHAR;
+}
+
+bool PictureSource::HasAlpha() const
+{
+    return !raw && header.has_alpha();
+}
+
+bool PictureSource::IsCmyk() const
+{
+    return !raw && BatchWorker::IsCmyk(header);
+}
+
+int PictureSource::Pages() const
+{
+    if (raw) {
+        return 1;
+    }
+    const int pages = vips_image_get_n_pages(header.get_image());
+    const bool hasSeveral = pages > 1;
+    return hasSeveral && format == QLatin1String("TIFF") ? CountTiffPages(file, pages) : pages;
+}
+
+int PictureSource::PossibleShrink(double reduction) const
+{
+    if (raw) {
+        // A colour channel of the sensor has no more than a pixel of four anyway.
+        return reduction >= 2 ? 2 : 1;
+    }
+    if (format != QLatin1String("JPEG") && format != QLatin1String("WebP")) {
+        return 1;
+    }
+    // The filter that scales is better than that of the decoder. What it does to the last factor of two hides the
+    // other.
+    constexpr double leftForFilter = 2.0;
+    int shrink = 8;
+    while (shrink > 1 && shrink * leftForFilter > reduction) {
+        shrink /= 2;
+    }
+    return shrink;
+}
+
+Picture PictureSource::Load(int shrink)
+{
+    if (raw) {
+        // The decoder gives its memory back with the pixels.
+        RawFile decoder(file, limits.workerMemory);
+        return decoder.Develop(shrink > 1);
+    }
+    if (shrink == 1 && !isHeaderRead) {
+        isHeaderRead = true;
+        return header;
+    }
+    return Read(file, format, shrink);
+}
+
+void PictureSource::Identify()
+{
+    const FileDescriptor descriptor(file);
+    QFile head;
+    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const QByteArray bytes = head.read(64);
+    if (bytes.isEmpty()) {
+        throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
+    }
+    format = FormatOfFile(bytes, QFileInfo(file).suffix());
+    if (format.isEmpty()) {
+        throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
+    }
+}
+
+void PictureSource::OpenRaw()
+{
+    auto opened = std::make_unique<RawFile>(file, limits.workerMemory);
+    if (opened->IsKnown()) {
+        storedSize = opened->Size();
+        orientation = opened->Orientation();
+        raw = std::move(opened);
+        return;
+    }
+    // Some files with the extension of a camera are plain TIFF files.
+    const FileDescriptor descriptor(file);
+    QFile head;
+    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
+    format = FormatOfFile(head.read(64), {});
+    if (!LoaderOf(format)) {
+        throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));
+    }
+}
+
+void PictureSource::OpenOther()
+{
+    try {
+        header = Read(file, format, 1);
+    } catch (const vips::VError& problem) {
+        const QString text = TextOf(problem);
+        throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+    }
+    storedSize = QSize(header.width(), header.height());
+    orientation = OrientationOf(header);
+}
+
+} // namespace BatchWorker

@@ -1,0 +1,110 @@
+#include "RawFile.h"
+
+#include "server/worker/pixels/PictureFailure.h"
+
+#include <QFile>
+
+#include <libraw/libraw.h>
+
+namespace BatchWorker {
+
+namespace {
+
+constexpr int bitsOfResult = 16;
+
+// What the decoder hands over is used in place, and let go with the picture that stands on it.
+Picture Wrapped(libraw_processed_image_t* image)
+{
+    const int width = image->width;
+    const int height = image->height;
+    const int bands = image->colors;
+    const auto form = bands == 1 ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_RGB16;
+    VipsImage* wrapped =
+        vips_image_new_from_memory(image->data, image->data_size, width, height, bands, VIPS_FORMAT_USHORT);
+    if (!wrapped) {
+        LibRaw::dcraw_clear_mem(image);
+        throw vips::VError();
+    }
+    const auto release = [](VipsImage*, gpointer memory) {
+        LibRaw::dcraw_clear_mem(static_cast<libraw_processed_image_t*>(memory));
+    };
+    using Release = void (*)(VipsImage*, gpointer);
+    g_signal_connect(wrapped, "postclose", G_CALLBACK(static_cast<Release>(release)), image);
+    return Picture(wrapped).copy(Picture::option()->set("interpretation", form));
+}
+
+} // namespace
+
+RawFile::RawFile(const QString& file, qint64 memoryLimit)
+    : raw(std::make_unique<LibRaw>())
+{
+    constexpr qint64 mebibyte = 1 << 20;
+    raw->imgdata.params.max_raw_memory_mb = unsigned(memoryLimit / mebibyte);
+    const auto noteDamage = [](void* isDamaged, const char*, int) { *static_cast<bool*>(isDamaged) = true; };
+    raw->set_dataerror_handler(noteDamage, &isDamaged);
+    const int result = raw->open_file(QFile::encodeName(file).constData());
+    isKnown = result != LIBRAW_FILE_UNSUPPORTED && result != LIBRAW_NO_THUMBNAIL;
+    if (isKnown) {
+        Check(result);
+    }
+}
+
+RawFile::~RawFile() = default;
+
+QSize RawFile::Size() const
+{
+    return {raw->imgdata.sizes.width, raw->imgdata.sizes.height};
+}
+
+int RawFile::Orientation() const
+{
+    switch (raw->imgdata.sizes.flip) {
+    case 3:
+        return 3;
+    case 5:
+        return 8;
+    case 6:
+        return 6;
+    default:
+        return 1;
+    }
+}
+
+Picture RawFile::Develop(bool isHalf)
+{
+    libraw_output_params_t& params = raw->imgdata.params;
+    params.use_camera_wb = 1;
+    params.output_color = 1; // sRGB
+    params.gamm[0] = 1 / 2.4;
+    params.gamm[1] = 12.92;
+    params.output_bps = bitsOfResult;
+    params.no_auto_bright = 1;
+    params.adjust_maximum_thr = 0;
+    params.half_size = isHalf ? 1 : 0;
+    params.user_flip = 0; // as stored: it is turned with the others, after scaling
+    Check(raw->unpack());
+    if (isDamaged) {
+        throw DamagedFile(QStringLiteral("data of the picture are missing or make no sense"));
+    }
+    Check(raw->dcraw_process());
+    int result = LIBRAW_SUCCESS;
+    libraw_processed_image_t* image = raw->dcraw_make_mem_image(&result);
+    Check(result);
+    raw->recycle();
+    return Wrapped(image);
+}
+
+void RawFile::Check(int result) const
+{
+    switch (result) {
+    case LIBRAW_SUCCESS:
+        return;
+    case LIBRAW_UNSUFFICIENT_MEMORY:
+    case LIBRAW_TOO_BIG:
+        throw TooLarge(QStringLiteral("the decoder needs more memory than a worker may use"));
+    default:
+        throw DamagedFile(QString::fromLocal8Bit(libraw_strerror(result)));
+    }
+}
+
+} // namespace BatchWorker

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "server/worker/pixels/Picture.h"
+
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+class LibRaw;
+
+namespace BatchWorker {
+
+/// A camera RAW file: what the sensor saw, developed with the white balance that the camera has noted, into sRGB of 16
+/// bits a channel. Brightness is that of the exposure, so that pictures of a series match.
+class RawFile
+{
+public:
+    /// Opens `file` and reads its header. A decoder that would need more than `memoryLimit` bytes refuses later.
+    RawFile(const QString& file, qint64 memoryLimit);
+    ~RawFile();
+
+    /// Whether this is a file of a camera that the decoder knows. The others are of no use without it.
+    bool IsKnown() const { return isKnown; }
+
+    /// The size of the whole picture, before turning it upright.
+    QSize Size() const;
+
+    /// EXIF orientation, 1 to 8.
+    int Orientation() const;
+
+    /// Develops the picture. With `isHalf` four sensor elements make one pixel, which takes a quarter of time and
+    /// memory. To be called once. Throws PictureFailure when the file is damaged.
+    Picture Develop(bool isHalf);
+
+private:
+    Q_DISABLE_COPY(RawFile)
+
+    void Check(int result) const;
+
+    std::unique_ptr<LibRaw> raw;
+    bool isKnown = false;
+    bool isDamaged = false;
+};
+
+} // namespace BatchWorker

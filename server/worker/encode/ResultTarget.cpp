@@ -1,0 +1,53 @@
+#include "ResultTarget.h"
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace BatchWorker {
+
+ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
+    : target(VIPS_TARGET(vips_target_custom_new()), vips::STEAL)
+    , descriptor(descriptor)
+    , lengthBefore(before.size())
+{
+    VipsTarget* object = target.get_target();
+    const auto write = [](VipsTargetCustom*, const void* data, gint64 length, gpointer self) {
+        return static_cast<ResultTarget*>(self)->Write(static_cast<const char*>(data), length);
+    };
+    const auto read = [](VipsTargetCustom*, void* data, gint64 length, gpointer self) {
+        return gint64(::read(static_cast<ResultTarget*>(self)->descriptor, data, size_t(length)));
+    };
+    const auto seek = [](VipsTargetCustom*, gint64 offset, int whence, gpointer self) {
+        return static_cast<ResultTarget*>(self)->Seek(offset, whence);
+    };
+    using WriteHandler = gint64 (*)(VipsTargetCustom*, const void*, gint64, gpointer);
+    using ReadHandler = gint64 (*)(VipsTargetCustom*, void*, gint64, gpointer);
+    using SeekHandler = gint64 (*)(VipsTargetCustom*, gint64, int, gpointer);
+    g_signal_connect(object, "write", G_CALLBACK(static_cast<WriteHandler>(write)), this);
+    g_signal_connect(object, "read", G_CALLBACK(static_cast<ReadHandler>(read)), this);
+    g_signal_connect(object, "seek", G_CALLBACK(static_cast<SeekHandler>(seek)), this);
+    Write(before.constData(), lengthBefore);
+}
+
+// What cannot be written counts as written nonetheless: not every encoder survives a target that fails.
+gint64 ResultTarget::Write(const char* data, gint64 length)
+{
+    for (gint64 done = 0; done < length && problem == 0;) {
+        const ssize_t written = ::write(descriptor, data + done, size_t(length - done));
+        if (written >= 0) {
+            done += written;
+        } else if (errno != EINTR) {
+            problem = errno;
+        }
+    }
+    return length;
+}
+
+// The library counts from the first byte of its own.
+gint64 ResultTarget::Seek(gint64 offset, int whence)
+{
+    const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + lengthBefore : offset, whence);
+    return place < 0 ? place : place - lengthBefore;
+}
+
+} // namespace BatchWorker

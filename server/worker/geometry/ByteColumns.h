@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace BatchWorker {
+
+struct ColumnPlan;
+
+/// Reduces lines of 8-bit pixels to the new columns `begin` to `end` (exclusive) of a plan, two lines at a time. It
+/// calculates with whole numbers: every processor finds the same values.
+class ByteColumns
+{
+public:
+    enum class Unit {
+        Plain, ///< what every processor has
+        Vector ///< two lines side by side, where HasVectorUnit()
+    };
+
+    static bool HasVectorUnit();
+
+    ByteColumns(const ColumnPlan& plan, int begin, int end, int bands,
+                Unit unit = HasVectorUnit() ? Unit::Vector : Unit::Plain);
+
+    using Sources = std::array<const std::uint8_t*, 2>;
+    using Targets = std::array<std::uint8_t*, 2>;
+
+    /// `sources` are the pixels of the first old column that is needed, plan.firsts[begin], `targets` those of the
+    /// column `begin`. Both may name the same line twice.
+    void Reduce(const Sources& sources, const Targets& targets);
+
+private:
+    void ReducePlainly(const std::uint8_t* source, std::uint8_t* target) const;
+    void ReduceSideBySide(const Sources& sources, const Targets& targets);
+    template<int count>
+    void ReduceBands(const Sources& sources, const Targets& targets);
+    template<int count>
+    void Take(const Sources& sources);
+    template<int count>
+    void Give(const Targets& targets) const;
+
+    const ColumnPlan& plan;
+    const int begin;
+    const int end;
+    const int bands; ///< the distance from one pixel of a line to the next
+    const Unit unit;
+
+    /// Of both lines a pixel, up to four bands of it, and the one to the right of it, band by band.
+    struct alignas(32) Neighbours
+    {
+        std::array<std::int16_t, 16> values;
+    };
+    std::vector<Neighbours> neighbours; ///< one for each old column that is needed; empty in a plain unit
+};
+
+} // namespace BatchWorker

@@ -1,0 +1,178 @@
+#include "ColumnReduction.h"
+
+#include "ByteColumns.h"
+#include "ColumnPlan.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+#include <vector>
+
+namespace BatchWorker {
+
+namespace {
+
+constexpr int bandsAtOnce = 4;
+
+template<typename Sample>
+Sample SampleOf(float value)
+{
+    if constexpr (std::is_floating_point_v<Sample>) {
+        return value;
+    } else {
+        constexpr float largest = std::numeric_limits<Sample>::max();
+        return Sample(int(std::min(std::max(value, 0.0F), largest) + 0.5F));
+    }
+}
+
+/// Reduces a line of pixels, `count` bands of each.
+template<typename Sample, int count>
+class LineReduction
+{
+public:
+    explicit LineReduction(int columns)
+        : pixels(std::size_t(columns))
+    {
+    }
+
+    /// `from` is the first of the old columns, the next ones follow at a distance of `step` samples.
+    void Take(const Sample* from, int step)
+    {
+        for (Pixel& pixel : pixels) {
+            pixel = Pixel{};
+            for (int band = 0; band < count; ++band) {
+                pixel[band] = float(from[band]);
+            }
+            from += step;
+        }
+    }
+
+    /// Writes the new column `column` of the plan to `to`; `first` is the place of its first old one in the line.
+    void Give(const ColumnPlan& plan, int column, int first, Sample* to) const
+    {
+        const float* const weights = &plan.weights[std::size_t(column) * std::size_t(plan.taps)];
+        const Pixel* const old = &pixels[std::size_t(first)];
+        Pixel sum{};
+        for (int tap = 0; tap < plan.taps; ++tap) {
+            sum += weights[tap] * old[tap];
+        }
+        for (int band = 0; band < count; ++band) {
+            to[band] = SampleOf<Sample>(sum[band]);
+        }
+    }
+
+private:
+    /// What the processor takes at a time.
+    using Pixel = float __attribute__((vector_size(bandsAtOnce * sizeof(float))));
+
+    std::vector<Pixel> pixels;
+};
+
+/// Reduces some bands, from `band` on, of the area that `output` asks for.
+template<typename Sample, int count>
+void ReduceBands(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output, int band)
+{
+    const VipsRect& area = output->valid;
+    const int bands = output->im->Bands;
+    const int firstOld = plan.firsts[std::size_t(area.left)];
+    const int endOld = plan.firsts[std::size_t(VIPS_RECT_RIGHT(&area) - 1)] + plan.taps;
+    LineReduction<Sample, count> line(endOld - firstOld);
+    for (int y = area.top; y < VIPS_RECT_BOTTOM(&area); ++y) {
+        line.Take(reinterpret_cast<const Sample*>(VIPS_REGION_ADDR(input, firstOld, y)) + band, bands);
+        auto* to = reinterpret_cast<Sample*>(VIPS_REGION_ADDR(output, area.left, y)) + band;
+        for (int x = area.left; x < VIPS_RECT_RIGHT(&area); ++x) {
+            line.Give(plan, x, plan.firsts[std::size_t(x)] - firstOld, to);
+            to += bands;
+        }
+    }
+}
+
+template<typename Sample>
+void Reduce(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
+{
+    const int bands = output->im->Bands;
+    for (int band = 0; band < bands; band += bandsAtOnce) {
+        switch (std::min(bands - band, bandsAtOnce)) {
+        case 1:
+            ReduceBands<Sample, 1>(plan, input, output, band);
+            break;
+        case 2:
+            ReduceBands<Sample, 2>(plan, input, output, band);
+            break;
+        case 3:
+            ReduceBands<Sample, 3>(plan, input, output, band);
+            break;
+        default:
+            ReduceBands<Sample, bandsAtOnce>(plan, input, output, band);
+            break;
+        }
+    }
+}
+
+void ReduceBytes(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
+{
+    const VipsRect& area = output->valid;
+    const int firstOld = plan.firsts[std::size_t(area.left)];
+    const int bottom = VIPS_RECT_BOTTOM(&area) - 1;
+    ByteColumns columns(plan, area.left, VIPS_RECT_RIGHT(&area), output->im->Bands);
+    for (int y = area.top; y <= bottom; y += 2) {
+        const int next = std::min(y + 1, bottom);
+        columns.Reduce({VIPS_REGION_ADDR(input, firstOld, y), VIPS_REGION_ADDR(input, firstOld, next)},
+                       {VIPS_REGION_ADDR(output, area.left, y), VIPS_REGION_ADDR(output, area.left, next)});
+    }
+}
+
+int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
+{
+    const auto& plan = *static_cast<const ColumnPlan*>(client);
+    auto* const input = static_cast<VipsRegion*>(sequence);
+    const VipsRect& area = output->valid;
+    const int first = plan.firsts[std::size_t(area.left)];
+    const int end = plan.firsts[std::size_t(VIPS_RECT_RIGHT(&area) - 1)] + plan.taps;
+    const VipsRect needed{first, area.top, end - first, area.height};
+    if (vips_region_prepare(input, &needed) != 0) {
+        return -1;
+    }
+    switch (output->im->BandFmt) {
+    case VIPS_FORMAT_UCHAR:
+        ReduceBytes(plan, input, output);
+        break;
+    case VIPS_FORMAT_USHORT:
+        Reduce<std::uint16_t>(plan, input, output);
+        break;
+    default:
+        Reduce<float>(plan, input, output);
+        break;
+    }
+    return 0;
+}
+
+void DeletePlan(void* plan)
+{
+    delete static_cast<ColumnPlan*>(plan);
+}
+
+} // namespace
+
+Picture WithFewerColumns(const Picture& picture, int width)
+{
+    VipsImage* const input = picture.get_image();
+    VipsImage* const output = vips_image_new();
+    const Picture reduced(output);
+    // The output reads from its input as long as it lives.
+    g_object_ref(input);
+    vips_object_local(output, input);
+    auto* const plan = new ColumnPlan(picture.width(), width);
+    g_object_set_data_full(G_OBJECT(output), "column-plan", plan, DeletePlan);
+    if (vips_image_pipelinev(output, VIPS_DEMAND_STYLE_FATSTRIP, input, nullptr) != 0) {
+        throw vips::VError();
+    }
+    output->Xsize = width;
+    if (vips_image_generate(output, vips_start_one, Generate, vips_stop_one, input, plan) != 0) {
+        throw vips::VError();
+    }
+    return reduced;
+}
+
+} // namespace BatchWorker

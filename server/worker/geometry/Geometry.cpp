@@ -1,0 +1,148 @@
+#include "Geometry.h"
+
+#include "job/values/JobValues.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace BatchWorker {
+
+namespace {
+
+constexpr int longestSide = 10'000'000; // what the imaging library takes
+
+int Rounded(double length)
+{
+    return int(std::lround(std::clamp(length, 1.0, double(longestSide))));
+}
+
+// The length in pixels that the settings ask for, when their unit is a length.
+double PixelsOf(const ZTBatchOutputSettings::ImageSize& settings)
+{
+    switch (BatchJob::SizeUnit(settings.unit)) {
+    case BatchJob::SizeUnit::Inches:
+        return settings.size * settings.resolution;
+    case BatchJob::SizeUnit::Centimetres:
+        return settings.size / 2.54 * settings.resolution;
+    case BatchJob::SizeUnit::Millimetres:
+        return settings.size / 25.4 * settings.resolution;
+    default:
+        return settings.size;
+    }
+}
+
+bool IsWidthGiven(const QSize& size, int side)
+{
+    switch (BatchJob::SizeSide(side)) {
+    case BatchJob::SizeSide::Width:
+        return true;
+    case BatchJob::SizeSide::Height:
+        return false;
+    case BatchJob::SizeSide::LongSide:
+        return size.width() >= size.height();
+    default:
+        return size.width() <= size.height();
+    }
+}
+
+bool IsAllowed(double scale, int restriction)
+{
+    switch (BatchJob::SizeRestriction(restriction)) {
+    case BatchJob::SizeRestriction::Fit:
+        return true;
+    case BatchJob::SizeRestriction::ReduceOnly:
+        return scale < 1;
+    case BatchJob::SizeRestriction::EnlargeOnly:
+        return scale > 1;
+    default:
+        return false;
+    }
+}
+
+int AlignedStart(int frame, int size, bool isAtStart, bool isAtEnd)
+{
+    if (isAtStart) {
+        return 0;
+    }
+    return isAtEnd ? size - frame : (size - frame) / 2;
+}
+
+Geometry Unscaled(const QRect& part)
+{
+    return {part, part.size(), QRect(QPoint(0, 0), part.size())};
+}
+
+// The picture is scaled once, to the size after both steps, and cut then.
+Geometry FillGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
+                      const ZTBatchOutputSettings::ImageSize& imageSize)
+{
+    const QSize frame = crop.size.expandedTo(QSize(1, 1));
+    const QSize result = SizeAfter(frame, imageSize);
+    const double scale = std::max(double(result.width()) / size.width(), double(result.height()) / size.height());
+    const QSize scaled = QSize(Rounded(size.width() * scale), Rounded(size.height() * scale)).expandedTo(result);
+    return {QRect(QPoint(0, 0), size), scaled, AlignedRect(result, scaled, crop.alignment)};
+}
+
+} // namespace
+
+QSize SizeAfter(const QSize& size, const ZTBatchOutputSettings::ImageSize& settings)
+{
+    if (!std::isfinite(settings.size) || settings.size <= 0 || settings.resolution < 1) {
+        return size;
+    }
+    const bool isWidthGiven = IsWidthGiven(size, settings.side);
+    const bool isPercent = settings.unit == int(BatchJob::SizeUnit::Percent);
+    const int given = isWidthGiven ? size.width() : size.height();
+    const double length = isPercent ? given * settings.size / 100 : PixelsOf(settings);
+    const double scale = length / given;
+    if (!IsAllowed(scale, settings.restriction)) {
+        return size;
+    }
+    return isWidthGiven ? QSize(Rounded(length), Rounded(size.height() * scale))
+                        : QSize(Rounded(size.width() * scale), Rounded(length));
+}
+
+QRect AlignedRect(const QSize& frame, const QSize& size, int alignment)
+{
+    const int x =
+        AlignedStart(frame.width(), size.width(), (alignment & Qt::AlignLeft) != 0, (alignment & Qt::AlignRight) != 0);
+    const int y = AlignedStart(frame.height(), size.height(), (alignment & Qt::AlignTop) != 0,
+                               (alignment & Qt::AlignBottom) != 0);
+    return {QPoint(x, y), frame};
+}
+
+QSize LargestOfRatio(const QSize& ratio, const QSize& size)
+{
+    const double wanted = double(std::max(1, ratio.width())) / std::max(1, ratio.height());
+    const QSize fromHeight(Rounded(size.height() * wanted), size.height());
+    return fromHeight.width() <= size.width()
+               ? fromHeight
+               : QSize(size.width(), std::min(size.height(), Rounded(size.width() / wanted)));
+}
+
+Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
+                      const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found)
+{
+    Geometry geometry = Unscaled(QRect(QPoint(0, 0), size));
+    switch (BatchJob::CropType(crop.type)) {
+    case BatchJob::CropType::None:
+        break;
+    case BatchJob::CropType::Ratio:
+        geometry = Unscaled(AlignedRect(LargestOfRatio(crop.size, size), size, crop.alignment));
+        break;
+    case BatchJob::CropType::Trim:
+    case BatchJob::CropType::Interesting:
+        geometry = Unscaled(found);
+        break;
+    case BatchJob::CropType::Fill:
+        return FillGeometry(size, crop, imageSize);
+    case BatchJob::CropType::Exact:
+        geometry = Unscaled(AlignedRect(crop.size.expandedTo(QSize(1, 1)).boundedTo(size), size, crop.alignment));
+        break;
+    }
+    geometry.scaledSize = SizeAfter(geometry.part.size(), imageSize);
+    geometry.cut = QRect(QPoint(0, 0), geometry.scaledSize);
+    return geometry;
+}
+
+} // namespace BatchWorker

@@ -1,0 +1,76 @@
+#include "Resampling.h"
+
+#include "ColumnReduction.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace BatchWorker {
+
+namespace {
+
+Picture Cut(const Picture& picture, const QRect& rect)
+{
+    if (rect == QRect(0, 0, picture.width(), picture.height())) {
+        return picture;
+    }
+    return picture.crop(rect.x(), rect.y(), rect.width(), rect.height());
+}
+
+// Rows first: the library is quick with them, and fewer are left for the columns.
+Picture ScaledAsIs(const Picture& picture, const QSize& size)
+{
+    const double vertical = double(size.height()) / picture.height();
+    const bool hasFewerColumns = size.width() < picture.width();
+    const double horizontal = hasFewerColumns ? 1.0 : double(size.width()) / picture.width();
+    const Picture scaled = picture.resize(horizontal, Picture::option()->set("vscale", vertical));
+    return hasFewerColumns ? WithFewerColumns(scaled, size.width()) : scaled;
+}
+
+Picture Scaled(const Picture& picture, const QSize& size)
+{
+    if (size == QSize(picture.width(), picture.height())) {
+        return picture;
+    }
+    const bool hasSixteenBits = picture.format() == VIPS_FORMAT_USHORT;
+    if (!picture.has_alpha() && !hasSixteenBits) {
+        return ScaledAsIs(picture, size);
+    }
+    // Whole numbers of 16 bits would be scaled with weights that do not add up to one: white would come out grey.
+    const Picture exact = hasSixteenBits ? picture.cast(VIPS_FORMAT_FLOAT) : picture;
+    const Picture scaled =
+        picture.has_alpha() ? ScaledAsIs(exact.premultiply(), size).unpremultiply() : ScaledAsIs(exact, size);
+    return scaled.rint()
+        .cast(picture.format())
+        .copy(Picture::option()->set("interpretation", picture.interpretation()));
+}
+
+// The frame lies between the pixels of a source that was loaded smaller: the whole is scaled, then the frame is cut
+// out. Rows and columns that the frame does not need are not computed.
+Picture CutAfterScaling(const Picture& loaded, const QSize& sourceSize, const Geometry& geometry)
+{
+    const double horizontal = double(geometry.scaledSize.width()) / geometry.part.width();
+    const double vertical = double(geometry.scaledSize.height()) / geometry.part.height();
+    const QSize whole =
+        QSize(int(std::lround(sourceSize.width() * horizontal)), int(std::lround(sourceSize.height() * vertical)))
+            .expandedTo(geometry.cut.size());
+    const QPoint start(int(std::lround(geometry.part.x() * horizontal)) + geometry.cut.x(),
+                       int(std::lround(geometry.part.y() * vertical)) + geometry.cut.y());
+    const QPoint last(whole.width() - geometry.cut.width(), whole.height() - geometry.cut.height());
+    const QPoint within(std::min(start.x(), last.x()), std::min(start.y(), last.y()));
+    return Cut(Scaled(loaded, whole), QRect(within, geometry.cut.size()));
+}
+
+} // namespace
+
+Picture Resampled(const Picture& loaded, const QSize& sourceSize, const Geometry& geometry)
+{
+    const bool isWhole = geometry.part.size() == sourceSize;
+    if (!isWhole && QSize(loaded.width(), loaded.height()) != sourceSize) {
+        return CutAfterScaling(loaded, sourceSize, geometry);
+    }
+    const Picture part = isWhole ? loaded : Cut(loaded, geometry.part);
+    return Cut(Scaled(part, geometry.scaledSize), geometry.cut);
+}
+
+} // namespace BatchWorker

@@ -1,0 +1,188 @@
+#include "MetadataReader.h"
+
+#include "BoxFile.h"
+#include "JxlBoxes.h"
+
+#include "server/worker/decode/PictureSource.h"
+
+#include <QFile>
+
+#include <memory>
+
+namespace BatchWorker {
+
+namespace {
+
+// The formats whose files the metadata library reads by itself; of the others the decoder hands the blocks over.
+bool IsReadFromFile(const QString& format)
+{
+    const QStringList formats{QStringLiteral("JPEG"), QStringLiteral("PNG"), QStringLiteral("TIFF"),
+                              QStringLiteral("WebP"), QStringLiteral("RAW"), QStringLiteral("JPEG 2000")};
+    return formats.contains(format);
+}
+
+bool IsJpeg2000(const PictureSource& source)
+{
+    return source.Format() == QLatin1String("JPEG 2000");
+}
+
+const Exiv2::byte* Data(const QByteArray& bytes)
+{
+    return reinterpret_cast<const Exiv2::byte*>(bytes.constData());
+}
+
+QByteArray Block(const Picture& header, const char* name)
+{
+    if (header.get_typeof(name) == 0) {
+        return {};
+    }
+    std::size_t size = 0;
+    const void* bytes = header.get_blob(name, &size);
+    return {static_cast<const char*>(bytes), int(size)};
+}
+
+// The library takes XMP in HEIF files for something else when it stands in a wrapper.
+QByteArray XmpBlock(const Picture& header)
+{
+    const QByteArray known = Block(header, VIPS_META_XMP_NAME);
+    if (!known.isEmpty()) {
+        return known;
+    }
+    const std::unique_ptr<gchar*, decltype(&g_strfreev)> fields(vips_image_get_fields(header.get_image()), g_strfreev);
+    for (gchar** field = fields.get(); *field; ++field) {
+        if (QByteArray(*field).startsWith("heif-mime")) {
+            const QByteArray block = Block(header, *field);
+            if (block.startsWith("<?xpacket")) {
+                return block;
+            }
+        }
+    }
+    return {};
+}
+
+MetadataBlocks BlocksOf(Exiv2::Image& image)
+{
+    image.readMetadata();
+    MetadataBlocks blocks;
+    blocks.exif = image.exifData();
+    blocks.iptc = image.iptcData();
+    blocks.xmp = image.xmpData();
+    return blocks;
+}
+
+MetadataBlocks BlocksOfFile(const QString& file, const PictureSource& source)
+{
+    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
+    MetadataBlocks blocks = BlocksOf(*image);
+    if (IsJpeg2000(source) && image->iccProfileDefined()) {
+        const Exiv2::DataBuf& profile = *image->iccProfile();
+        blocks.profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
+    }
+    return blocks;
+}
+
+// The boxes of a JPEG 2000 file, without pixels, and without the header that a profile stands in.
+QByteArray WithoutHeader(const QString& path)
+{
+    constexpr qint64 largest = qint64(64) << 20; // far more than metadata are
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    QByteArray kept;
+    while (const std::optional<BoxHeader> box = NextBox(file)) {
+        const qint64 end = file.pos() + box->size;
+        const bool isKept = box->type != "jp2h" && box->type != "jp2c" && kept.size() + box->size <= largest;
+        if (isKept) {
+            kept += Box(box->type, file.read(box->size));
+        }
+        if (!file.seek(end)) {
+            break;
+        }
+    }
+    return kept;
+}
+
+// The decoder hands the block of Photoshop over, in which the records of IPTC are one resource of several.
+void TakeIptc(QByteArray block, Exiv2::IptcData& iptc)
+{
+    const QByteArray start("Photoshop 3.0\0", 14);
+    block = block.startsWith(start) ? block.mid(start.size()) : block;
+    const Exiv2::byte* record = nullptr;
+    std::uint32_t headerSize = 0;
+    std::uint32_t dataSize = 0;
+    const long size = block.size();
+    if (size > 0 && Exiv2::Photoshop::locateIptcIrb(Data(block), size, &record, &headerSize, &dataSize) == 0) {
+        Exiv2::IptcParser::decode(iptc, record + headerSize, dataSize);
+    }
+}
+
+MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
+{
+    const bool isJxl = source.Format() == QLatin1String("JPEG XL");
+    const JxlMetadata boxes = isJxl ? ReadJxlMetadata(file) : JxlMetadata();
+    MetadataBlocks blocks;
+    QByteArray exif = isJxl ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
+    const QByteArray start("Exif\0\0", 6);
+    exif = exif.startsWith(start) ? exif.mid(start.size()) : exif;
+    if (!exif.isEmpty()) {
+        Exiv2::ExifParser::decode(blocks.exif, Data(exif), std::uint32_t(exif.size()));
+    }
+    const QByteArray xmp = isJxl ? boxes.xmp : XmpBlock(source.Header());
+    if (!xmp.isEmpty()) {
+        Exiv2::XmpParser::decode(blocks.xmp, xmp.toStdString());
+    }
+    TakeIptc(Block(source.Header(), VIPS_META_IPTC_NAME), blocks.iptc);
+    return blocks;
+}
+
+// The metadata library gives a whole file up over a damaged profile. Around the profile there are other ways; that the
+// profile is not used is said where colours are read, except for JPEG 2000.
+MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source,
+                            QStringList& warnings)
+{
+    if (IsJpeg2000(source)) {
+        const QByteArray boxes = WithoutHeader(file);
+        const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
+        MetadataBlocks blocks = BlocksOf(*image);
+        warnings.append(QStringLiteral("the embedded colour profile is damaged and is not used"));
+        return blocks;
+    }
+    if (problem.code() == Exiv2::kerInvalidIccProfile) {
+        return BlocksOfDecoder(file, source);
+    }
+    throw;
+}
+
+// The metadata library loses its way in a JPEG file behind a profile that is shorter than the header of one.
+bool HasStumpOfProfile(const PictureSource& source)
+{
+    constexpr int profileHeader = 128;
+    const int size = source.Format() == QLatin1String("JPEG") ? Block(source.Header(), VIPS_META_ICC_NAME).size() : 0;
+    return size > 0 && size < profileHeader;
+}
+
+MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, QStringList& warnings)
+{
+    if (!IsReadFromFile(source.Format()) || HasStumpOfProfile(source)) {
+        return BlocksOfDecoder(file, source);
+    }
+    try {
+        return BlocksOfFile(file, source);
+    } catch (const Exiv2::AnyError& problem) {
+        return BlocksAround(problem, file, source, warnings);
+    }
+}
+
+} // namespace
+
+MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, QStringList& warnings)
+{
+    try {
+        return BlocksOfAnyFile(file, source, warnings);
+    } catch (const Exiv2::AnyError& problem) {
+        warnings.append(
+            QStringLiteral("metadata cannot be read and are left out: %1").arg(QString::fromUtf8(problem.what())));
+        return {};
+    }
+}
+
+} // namespace BatchWorker

@@ -1,0 +1,51 @@
+#include "NamelessFile.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace BatchWorker {
+
+namespace {
+
+int Open()
+{
+    const QByteArray folder = QFile::encodeName(QDir::tempPath());
+#ifdef O_TMPFILE
+    const int nameless = open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
+    if (nameless >= 0) {
+        return nameless;
+    }
+#endif
+    // Not every file system makes them; there a name is given for a moment.
+    QByteArray name = folder + "/velkora-XXXXXX";
+    const int named = mkostemp(name.data(), O_CLOEXEC);
+    if (named >= 0) {
+        unlink(name.constData());
+    }
+    return named;
+}
+
+} // namespace
+
+NamelessFile::NamelessFile()
+    : descriptor(Open())
+{
+}
+
+NamelessFile::~NamelessFile()
+{
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+}
+
+QByteArray NamelessFile::Path() const
+{
+    return descriptor < 0 ? QByteArray() : "/proc/self/fd/" + QByteArray::number(descriptor);
+}
+
+} // namespace BatchWorker

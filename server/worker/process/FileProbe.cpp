@@ -1,0 +1,28 @@
+#include "FileProbe.h"
+
+#include "server/worker/decode/PictureSource.h"
+#include "server/worker/encode/Encoder.h"
+#include "server/worker/metadata/Metadata.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+using namespace BatchProtocol;
+
+namespace BatchWorker {
+
+Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
+{
+    const PictureSource source(task.inputFile, limits);
+    Report report;
+    report.inputFormat = source.Format();
+    report.nearestFormat = NearestFormat(source.Format(), source.IsDeep(), source.HasAlpha(), source.StoredSize());
+    QStringList warnings; // those of metadata come with the picture
+    report.captured = Metadata::Of(task.inputFile, source, warnings).Captured();
+    if (!report.captured.isValid()) {
+        report.captured = QFileInfo(task.inputFile).lastModified();
+    }
+    return report;
+}
+
+} // namespace BatchWorker

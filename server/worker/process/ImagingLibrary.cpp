@@ -1,0 +1,103 @@
+#include "ImagingLibrary.h"
+
+#include "server/protocol/WorkerMessages.h"
+
+#include <vips/vips8>
+
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <mutex>
+#include <new>
+#include <unistd.h>
+
+using namespace BatchProtocol;
+
+namespace BatchWorker {
+
+namespace {
+
+std::mutex warningsMutex;
+QStringList warnings;
+
+void NoteWarning(const char* message)
+{
+    constexpr int most = 5;
+    const std::lock_guard<std::mutex> lock(warningsMutex);
+    const QString text = QString::fromLocal8Bit(message);
+    if (text.contains(QLatin1String("ignoring nclx profile"))) {
+        return; // said of every file that has an ICC profile too, which is used
+    }
+    if (warnings.size() < most && !warnings.contains(text)) {
+        warnings.append(text);
+    }
+}
+
+void TakeMessage(const gchar*, GLogLevelFlags level, const gchar* message, gpointer)
+{
+    if ((level & G_LOG_LEVEL_ERROR) != 0) {
+        std::fprintf(stderr, "VelkoraBatchWorker: %s\n", message);
+        if (std::strstr(message, "failed to allocate")) {
+            _exit(workerOutOfMemory);
+        }
+        return; // it ends the process
+    }
+    if ((level & (G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING)) != 0) {
+        NoteWarning(message);
+    }
+}
+
+// An exception of a library that nobody catches.
+[[noreturn]] void EndOfUncaught()
+{
+    try {
+        if (const std::exception_ptr problem = std::current_exception()) {
+            std::rethrow_exception(problem);
+        }
+    } catch (const std::bad_alloc&) {
+        _exit(workerOutOfMemory);
+    } catch (...) {
+        std::fprintf(stderr, "VelkoraBatchWorker: an exception was not caught\n");
+    }
+    std::abort();
+}
+
+void AllowKnownFormatsOnly()
+{
+    vips_block_untrusted_set(TRUE);
+    vips_operation_block_set("VipsForeignLoad", TRUE);
+    vips_operation_block_set("VipsForeignSave", TRUE);
+    for (const char* known : {"Jpeg", "Png", "Tiff", "Webp", "Heif", "Jxl", "Jp2k"}) {
+        for (const char* way : {"VipsForeignLoad", "VipsForeignSave"}) {
+            vips_operation_block_set((QByteArray(way) + known).constData(), FALSE);
+        }
+    }
+    vips_operation_block_set("VipsForeignLoadNsgif", FALSE);
+    vips_operation_block_set("VipsForeignSaveCgif", FALSE);
+}
+
+} // namespace
+
+bool StartImagingLibrary(const char* program)
+{
+    if (VIPS_INIT(program) != 0) {
+        std::fprintf(stderr, "VelkoraBatchWorker: the imaging library does not start: %s\n", vips_error_buffer());
+        return false;
+    }
+    g_log_set_default_handler(TakeMessage, nullptr);
+    std::set_terminate(EndOfUncaught);
+    vips_concurrency_set(1);
+    vips_cache_set_max(0);
+    AllowKnownFormatsOnly();
+    return true;
+}
+
+QStringList TakeLibraryWarnings()
+{
+    const std::lock_guard<std::mutex> lock(warningsMutex);
+    QStringList taken;
+    taken.swap(warnings);
+    return taken;
+}
+
+} // namespace BatchWorker

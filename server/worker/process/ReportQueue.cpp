@@ -1,0 +1,122 @@
+#include "ReportQueue.h"
+
+#include <cerrno>
+#include <unistd.h>
+
+using namespace BatchProtocol;
+
+namespace BatchWorker {
+
+namespace {
+
+constexpr std::size_t longestQueue = 2;
+
+// A supervisor that is gone needs no report; the end of the worker's input follows.
+void WriteAll(int output, const QByteArray& bytes)
+{
+    const char* rest = bytes.constData();
+    qint64 count = bytes.size();
+    while (count > 0) {
+        const ssize_t written = write(output, rest, std::size_t(count));
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return;
+        }
+        rest += written;
+        count -= written;
+    }
+}
+
+void Place(const MadePicture& made, bool replaceExisting, Report& report)
+{
+    switch (made.file->Place(replaceExisting)) {
+    case TemporaryFile::Placement::Done:
+        return;
+    case TemporaryFile::Placement::NameTaken:
+        report.failure = Case::Naming;
+        report.errorCode = ZTBatchMessage::FileNameAlreadyExists;
+        break;
+    case TemporaryFile::Placement::Failed:
+        report.failure = Case::Output;
+        report.errorCode = ZTBatchMessage::WriteOutputFormatError;
+        break;
+    }
+    report.reason = made.file->Error();
+    report.outputBytes = 0;
+}
+
+} // namespace
+
+ReportQueue::ReportQueue(int output)
+    : output(output)
+    , thread([this] { SendAll(); })
+{
+}
+
+ReportQueue::~ReportQueue()
+{
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        isEnding = true;
+    }
+    changed.notify_all();
+    thread.join();
+}
+
+void ReportQueue::Begin(qint32 number)
+{
+    Write(Beginning{number});
+}
+
+void ReportQueue::Send(const Report& report)
+{
+    Append({report, std::nullopt, false});
+}
+
+void ReportQueue::FinishAndSend(MadePicture made, bool replaceExisting, const Report& report)
+{
+    Append({report, std::move(made), replaceExisting});
+}
+
+void ReportQueue::Append(Item item)
+{
+    std::unique_lock<std::mutex> lock(mutex);
+    changed.wait(lock, [this] { return items.size() < longestQueue; });
+    items.push_back(std::move(item));
+    changed.notify_all();
+}
+
+std::optional<ReportQueue::Item> ReportQueue::Next()
+{
+    std::unique_lock<std::mutex> lock(mutex);
+    changed.wait(lock, [this] { return isEnding || !items.empty(); });
+    if (items.empty()) {
+        return std::nullopt;
+    }
+    Item item = std::move(items.front());
+    items.pop_front();
+    changed.notify_all();
+    return item;
+}
+
+void ReportQueue::SendAll()
+{
+    while (std::optional<Item> item = Next()) {
+        if (item->made) {
+            Place(*item->made, item->replaceExisting, item->report);
+            item->made.reset();
+        }
+        Write(item->report);
+    }
+}
+
+void ReportQueue::Write(const FromWorker& message)
+{
+    const QByteArray bytes = FrameFromWorker(message);
+    const std::lock_guard<std::mutex> lock(outputMutex);
+    WriteAll(output, bytes);
+}
+
+} // namespace BatchWorker
