@@ -10,7 +10,7 @@
 #include <optional>
 
 /// What a run has done so far, in a file that outlives it: whoever takes the run up again repeats and loses nothing,
-/// and gives every result the name that it would have had. docs/server.md describes the file.
+/// and gives every result the name that it would have had. docs/reference/journal.md describes the file.
 namespace BatchJob {
 
 /// Names the journal of a run to the server.

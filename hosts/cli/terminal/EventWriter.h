@@ -6,7 +6,7 @@ class QJsonObject;
 
 namespace BatchCli {
 
-/// The events of a run as JSON on standard output, one object a line. docs/cli-events.md describes them.
+/// The events of a run as JSON on standard output, one object a line. docs/reference/events.md describes them.
 class EventWriter : public BatchHost::RunObserver
 {
 public:

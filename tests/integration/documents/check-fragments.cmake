@@ -1,0 +1,35 @@
+# Fails when a C++ fragment of the tutorial is not in the program that the tutorial explains, word for word. Only the
+# indentation may differ: a fragment begins at the left border.
+cmake_minimum_required(VERSION 3.25)
+
+set(page "${SOURCE_DIR}/docs/guide/host-tutorial.md")
+set(program "${SOURCE_DIR}/examples/host-tutorial/main.cpp")
+
+# Text without what lists of CMake give a meaning, and without indentation.
+function(read_plainly file variable)
+    file(READ "${file}" text)
+    string(REPLACE ";" "<semicolon>" text "${text}")
+    string(REPLACE "[" "<open>" text "${text}")
+    string(REPLACE "]" "<close>" text "${text}")
+    string(REGEX REPLACE "\n[ \t]+" "\n" text "${text}")
+    set(${variable} "${text}" PARENT_SCOPE)
+endfunction()
+
+read_plainly("${page}" tutorial)
+read_plainly("${program}" code)
+string(REGEX MATCHALL "```cpp\n[^`]+```" fragments "${tutorial}")
+list(LENGTH fragments count)
+if(count EQUAL 0)
+    message(FATAL_ERROR "${page} shows no fragment: this check does not work.")
+endif()
+foreach(fragment IN LISTS fragments)
+    string(REGEX REPLACE "^```cpp\n|```$" "" fragment "${fragment}")
+    string(FIND "${code}" "${fragment}" position)
+    if(position EQUAL -1)
+        string(REPLACE "<semicolon>" ";" fragment "${fragment}")
+        string(REPLACE "<open>" "[" fragment "${fragment}")
+        string(REPLACE "<close>" "]" fragment "${fragment}")
+        message(FATAL_ERROR "This fragment of ${page} is not in ${program}:\n${fragment}")
+    endif()
+endforeach()
+message(STATUS "${count} fragments of the tutorial are in its program.")
