@@ -3,31 +3,29 @@
 #include <QByteArray>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
 
 constexpr int indentation = 4;
 
-/// How many UTF-16 units at the front of the range XML can hold: 2 for a surrogate pair, 0 for what it cannot.
-int CarriedUnits(const QChar* begin, const QChar* end)
+/// Whether a code unit is written unchanged, whatever surrounds it.
+bool IsLiteral(QChar character)
 {
-    const ushort unit = begin->unicode();
-    if (begin->isHighSurrogate()) {
-        return end - begin > 1 && begin[1].isLowSurrogate() ? 2 : 0;
+    switch (character.unicode()) {
+    case '<':
+    case '>':
+    case '&':
+    case '"':
+    case '\t':
+    case '\n':
+    case '\r':
+    case 0xFFFE:
+    case 0xFFFF:
+        return false;
+    default:
+        return true;
     }
-    const bool isRefused =
-        begin->isLowSurrogate() || unit >= 0xFFFE || (unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r');
-    return isRefused ? 0 : 1;
-}
-
-/// Whether a character may stand as it is whatever its neighbours are.
-bool IsPlain(QChar character)
-{
-    const ushort unit = character.unicode();
-    return unit >= 0x20 && unit != '<' && unit != '>' && unit != '&' && unit != '"' &&
-           (unit < 0xD800 || (unit > 0xDFFF && unit < 0xFFFE));
 }
 
 } // namespace
@@ -76,10 +74,8 @@ void ZTXmlWriter::WriteAttribute(QLatin1String name, bool value)
 
 void ZTXmlWriter::WriteAttribute(QLatin1String name, double value)
 {
-    // QString::number() drops the sign of a zero.
-    const bool isNegativeZero = value == 0 && std::signbit(value);
-    // 17 significant digits tell any two doubles apart, and they are what the DOM writes.
-    WriteAttribute(name, isNegativeZero ? QStringLiteral("-0") : QString::number(value, 'g', 17));
+    // 17 significant digits identify every double, and the DOM writes as many.
+    WriteAttribute(name, QString::number(value, 'g', 17));
 }
 
 void ZTXmlWriter::WriteAttribute(QLatin1String name, const QByteArray& bytes)
@@ -118,16 +114,14 @@ void ZTXmlWriter::AppendEscaped(const QString& value)
 {
     const QChar* const begin = value.constData();
     const QChar* const end = begin + value.size();
-    const QChar* next = begin;
-    while (next != end) {
-        const QChar* const plainEnd = std::find_if_not(next, end, IsPlain);
-        text.append(next, static_cast<int>(plainEnd - next));
-        next = plainEnd;
+    for (const QChar* next = begin; next != end; ++next) {
+        const QChar* const literalEnd = std::find_if_not(next, end, IsLiteral);
+        text.append(next, static_cast<int>(literalEnd - next));
+        next = literalEnd;
         if (next == end) {
             return;
         }
-        const int units = CarriedUnits(next, end);
-        switch (units == 1 ? next->unicode() : 0) {
+        switch (next->unicode()) {
         case '<':
             text += QLatin1String("&lt;");
             break;
@@ -138,7 +132,7 @@ void ZTXmlWriter::AppendEscaped(const QString& value)
             text += QLatin1String("&quot;");
             break;
         case '\t':
-            // A parser makes blanks of white space that is not written as a reference.
+            // A parser replaces literal white space in attributes with blanks.
             text += QLatin1String("&#x9;");
             break;
         case '\n':
@@ -148,7 +142,7 @@ void ZTXmlWriter::AppendEscaped(const QString& value)
             text += QLatin1String("&#xd;");
             break;
         case '>':
-            // Only the end of a CDATA section is taken for something else.
+            // The DOM escapes it only at the end of what could be a CDATA section.
             if (next - begin >= 2 && next[-1] == QLatin1Char(']') && next[-2] == QLatin1Char(']')) {
                 text += QLatin1String("&gt;");
             } else {
@@ -156,12 +150,7 @@ void ZTXmlWriter::AppendEscaped(const QString& value)
             }
             break;
         default:
-            if (units == 0) {
-                text += QChar(QChar::ReplacementCharacter);
-            } else {
-                text.append(next, units);
-            }
+            text += QChar(QChar::ReplacementCharacter);
         }
-        next += std::max(units, 1);
     }
 }

@@ -4,11 +4,11 @@
 #include <QString>
 #include <QVector>
 
-/// Writes elements with attributes as text, in the form in which QDomDocument prints them: four spaces a level, one
-/// element a line, childless elements closed at once, the same characters as references.
+/// Writes elements with attributes as XML text, in the form in which QDomDocument prints them: four spaces a level, one
+/// element a line, empty elements as one tag, the same characters escaped.
 ///
-/// QDomDocument itself would do, but it needs the whole document in memory first, prints by recursion and shuffles
-/// attributes by a seed of the process, so that one job never gives the same text twice.
+/// QDomDocument itself is no alternative: it needs the whole document in memory first, prints recursively, and orders
+/// attributes by a random seed of the process, so that the text of one job differs between runs.
 class ZTXmlWriter
 {
 public:
@@ -16,25 +16,28 @@ public:
 
     void StartElement(QLatin1String name);
 
-    /// Adds an attribute to the element started last, before any child. Characters that no XML text can hold are
-    /// written as U+FFFD.
+    /// Adds an attribute to the element that was started last, before any child. As in the DOM, control characters and
+    /// lone surrogates are written unchanged, although XML does not allow them, since the DOM reads them back. Only
+    /// U+FFFE and U+FFFF, which its parser refuses, become U+FFFD.
     void WriteAttribute(QLatin1String name, const QString& value);
     void WriteAttribute(QLatin1String name, int value);
     void WriteAttribute(QLatin1String name, uint value);
     void WriteAttribute(QLatin1String name, bool value);
-    void WriteAttribute(QLatin1String name, double value); ///< with the digits that give the same double again
 
-    /// Bytes as hexadecimal digits, two a byte, lower case.
+    /// Enough digits to read the same double back; -0 is written as "0".
+    void WriteAttribute(QLatin1String name, double value);
+
+    /// Two lower-case hexadecimal digits a byte.
     void WriteAttribute(QLatin1String name, const QByteArray& bytes);
 
-    /// Any other conversion to one of the types above would be a mistake.
+    /// No implicit conversions.
     template<typename T>
     void WriteAttribute(QLatin1String name, T value) = delete;
 
-    /// Ends the element started last that is still open.
+    /// Ends the innermost open element.
     void EndElement();
 
-    /// The text. The writer is used up.
+    /// Returns the text. All elements must have ended; the writer must not be used afterwards.
     QString TakeText();
 
 private:

@@ -23,8 +23,8 @@ class tst_DocumentRoundTrip : public QObject
 private Q_SLOTS:
     void texts_data();
     void texts();
-    void textsThatXmlCannotCarry_data();
-    void textsThatXmlCannotCarry();
+    void textsThatTheDomCannotRead_data();
+    void textsThatTheDomCannotRead();
     void allBytes();
     void doubles_data();
     void doubles();
@@ -128,12 +128,12 @@ void tst_DocumentRoundTrip::texts_data()
     row("percent and backslash", QStringLiteral("%1 %p; \\\\server\\share\\%20"));
     row("long", QString(100000, QLatin1Char('&')));
     QString everything;
-    for (int unit = 0x20; unit < 0xFFFE; ++unit) {
-        if (!QChar::isSurrogate(static_cast<uint>(unit))) {
-            everything += QChar(unit);
-        }
+    for (int unit = 0; unit < 0xFFFE; ++unit) {
+        everything += QChar(unit);
     }
-    row("every character of the BMP", everything);
+    row("every code unit", everything);
+    row("control characters", QStringLiteral("/a\u0001\u001F\u000B\u001Bb.jpg"));
+    row("lone surrogates", QLatin1Char('a') + QString(QChar(0xD800)) + QLatin1Char('b') + QChar(0xDFFF));
 }
 
 void tst_DocumentRoundTrip::texts()
@@ -147,21 +147,17 @@ void tst_DocumentRoundTrip::texts()
     QCOMPARE(AllTexts(copy), Copies(text));
 }
 
-void tst_DocumentRoundTrip::textsThatXmlCannotCarry_data()
+void tst_DocumentRoundTrip::textsThatTheDomCannotRead_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("read");
 
     const QString replacement(QChar::ReplacementCharacter);
-    QTest::newRow("NUL") << QString(QChar(0)) << replacement;
-    QTest::newRow("controls") << QStringLiteral("a\u0001\u001Fb") << QStringLiteral("a\uFFFD\uFFFDb");
-    QTest::newRow("half a pair") << QString(QChar(0xD800)) + QLatin1Char('a') << replacement + QLatin1Char('a');
-    QTest::newRow("other half") << QLatin1Char('a') + QString(QChar(0xDFFF)) << QLatin1Char('a') + replacement;
     QTest::newRow("U+FFFE") << QString(QChar(0xFFFE)) << replacement;
     QTest::newRow("U+FFFF") << QString(QChar(0xFFFF)) << replacement;
 }
 
-void tst_DocumentRoundTrip::textsThatXmlCannotCarry()
+void tst_DocumentRoundTrip::textsThatTheDomCannotRead()
 {
     QFETCH(QString, text);
     QFETCH(QString, read);
@@ -200,7 +196,6 @@ void tst_DocumentRoundTrip::doubles_data()
 
     using Limits = std::numeric_limits<double>;
     for (const double value : {0.0,
-                               -0.0,
                                1.0,
                                0.1,
                                0.2 + 0.1,
