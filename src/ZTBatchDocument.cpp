@@ -8,7 +8,6 @@
 #include "ZTDiagnostics_p.h"
 #include "ZTGuardedDom_p.h"
 
-#include <QDomDocument>
 #include <QTextBrowser>
 #include <QTextDocument>
 
@@ -44,16 +43,16 @@ void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, co
 /// The job in `xml`; none, with a debug line, when it is no text of a job.
 std::optional<ZTBatchJob> ReadJob(const QString& xml)
 {
-    QDomDocument document;
-    if (!ZTGuardedDom::Parse(xml, document)) {
+    ZTGuardedDom dom;
+    if (!dom.Parse(xml)) {
         diagnostics.Log(QStringLiteral("Error to parse a document content."), 552);
         return std::nullopt;
     }
-    if (document.doctype().name() != ZTBatchXml::documentType) {
+    if (dom.Document().doctype().name() != ZTBatchXml::documentType) {
         diagnostics.Log(QStringLiteral("Wrong document."), 558);
         return std::nullopt;
     }
-    return ZTBatchJobReader::Read(document);
+    return ZTBatchJobReader::Read(dom.Document());
 }
 
 } // namespace

@@ -98,10 +98,10 @@ void tst_GuardedDom::takesAndRefusesLikeTheDom()
 
     QDomDocument expected;
     const bool isTaken = expected.setContent(text, false);
-    QDomDocument actual;
-    QCOMPARE(ZTGuardedDom::Parse(text, actual), isTaken);
-    QCOMPARE(Nodes(actual), Nodes(expected));
-    QCOMPARE(actual.doctype().name(), expected.doctype().name());
+    ZTGuardedDom actual;
+    QCOMPARE(actual.Parse(text), isTaken);
+    QCOMPARE(Nodes(actual.Document()), Nodes(expected));
+    QCOMPARE(actual.Document().doctype().name(), expected.doctype().name());
 }
 
 void tst_GuardedDom::depth_data()
@@ -109,6 +109,8 @@ void tst_GuardedDom::depth_data()
     QTest::addColumn<int>("levels");
     QTest::addColumn<bool>("isTaken");
     QTest::newRow("one") << 1 << true;
+    QTest::newRow("deepest on the caller's stack") << 1000 << true;
+    QTest::newRow("deeper") << 1001 << true;
     QTest::newRow("deepest") << ZTGuardedDom::maximumDepth << true;
     QTest::newRow("too deep") << ZTGuardedDom::maximumDepth + 1 << false;
 }
@@ -118,13 +120,12 @@ void tst_GuardedDom::depth()
     QFETCH(int, levels);
     QFETCH(bool, isTaken);
 
-    QDomDocument document;
     const QString chain = QStringLiteral("<a>").repeated(levels) + QStringLiteral("</a>").repeated(levels);
-    QCOMPARE(ZTGuardedDom::Parse(chain, document), isTaken);
+    QCOMPARE(ZTGuardedDom().Parse(chain), isTaken);
     // The innermost closed at once, and siblings on the way, count the same.
     const QString branched = QStringLiteral("<a><b/>").repeated(levels - 1) + QStringLiteral("<a/>") +
                              QStringLiteral("</a>").repeated(levels - 1);
-    QCOMPARE(ZTGuardedDom::Parse(branched, document), isTaken);
+    QCOMPARE(ZTGuardedDom().Parse(branched), isTaken);
 }
 
 void tst_GuardedDom::refusesWhereTheDomWouldNot_data()
@@ -142,9 +143,8 @@ void tst_GuardedDom::refusesWhereTheDomWouldNot()
 {
     QFETCH(QString, text);
 
-    QDomDocument document;
-    QVERIFY(document.setContent(text, false));
-    QVERIFY(!ZTGuardedDom::Parse(text, document));
+    QVERIFY(QDomDocument().setContent(text, false));
+    QVERIFY(!ZTGuardedDom().Parse(text));
 }
 
 QTEST_GUILESS_MAIN(tst_GuardedDom)
