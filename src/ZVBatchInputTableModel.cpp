@@ -86,7 +86,7 @@ void ZVBatchInputTableModel::rebuild()
 
 void ZVBatchInputTableModel::toggleFolder(const QModelIndex& folder)
 {
-    if (!folder.isValid()) {
+    if (!folder.isValid() || folder.model() != d->rows.Source()) {
         return;
     }
     const QPersistentModelIndex persistentFolder(folder);
