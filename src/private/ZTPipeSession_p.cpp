@@ -278,12 +278,13 @@ void ZTPipeSession::Private::Begin()
     if (socket) {
         socketMove.Arrive(*socket);
     }
-    // The timers of an attempt that is under way change threads by an event, which must not be lost when the session is
-    // deleted at once.
-    QCoreApplication::sendPostedEvents();
+    // Before any queued event: one that reports an error changes the state, but the socket may be connected still.
     if (IsConnected()) {
         RestartTimer();
     }
+    // The timers of an attempt that is under way change threads by an event, which must not be lost when the session is
+    // deleted at once.
+    QCoreApplication::sendPostedEvents();
     if (hasEarlyConnection) {
         QTimer::singleShot(announceTimeout, this, [this] { FinishEarlyConnection(); });
     }
