@@ -4,10 +4,12 @@
 #include "ZTBatchPayload.h"
 #include "ZTDiagnostics_p.h"
 #include "ZTPipeSession.h"
+#include "ZTPipeSessionEnd_p.h"
 #include "ZTServerProcess_p.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QPointer>
 #include <QSettings>
@@ -26,24 +28,31 @@ const QString processingPolicyKey = QStringLiteral("ProcessingPolicy");
 const QString namingPolicyKey = QStringLiteral("NamingPolicy");
 const QString writeToFormatPolicyKey = QStringLiteral("WriteToFormatPolicy");
 
-/// Connects to the server that listens, if there is one, and asks it to end. The session's own thread writes the
-/// message; the destruction of the returned session waits until that is done.
-std::unique_ptr<ZTPipeSession> AskListenerToClose()
+/// Asks the server that listens on the pipe to end, if there is one. Returns the session whose thread writes the
+/// message; its destruction waits for that.
+std::unique_ptr<ZTPipeSession> AskListenerToClose(const QDeadlineTimer& deadline)
 {
     auto session = std::make_unique<ZTPipeSession>(pipeName, nullptr);
-    if (session->WaitForConnected(ZTBatchManagerTimings::InUse().listenerConnectTimeout)) {
+    if (session->WaitForConnected(static_cast<int>(deadline.remainingTime()))) {
         session->Send(ZTBatchMessage::Name(ZTBatchMessage::MsgCloseServer),
                       ZTBatchPayload::Pack(ZTBatchPayload::ToServer<ZTBatchMessage::MsgCloseServer>{}));
     }
     return session;
 }
 
+QDeadlineTimer ListenerDeadline()
+{
+    return QDeadlineTimer(ZTBatchManagerTimings::InUse().listenerConnectTimeout);
+}
+
 } // namespace
 
 void ZTBatchManager::Private::CloseListener()
 {
-    // Not left to the event loop: a host that ends without one would take the message along.
-    AskListenerToClose();
+    // Not left to the event loop: a host that ends without one would take the message along. Nor destroyed here: a
+    // server that does not read would hold up the host.
+    const QDeadlineTimer deadline = ListenerDeadline();
+    ZTPipeSessionEnd::Begin(AskListenerToClose(deadline), deadline);
 }
 
 ZTBatchManager::Private::Private(ZTBatchManager* manager)
@@ -151,7 +160,7 @@ void ZTBatchManager::Private::CloseServerProcess()
     diagnostics.Assert(serverProcess);
     // The session stays until the wait is over: its thread writes the message meanwhile, and a server that answers on
     // the connection does not find it closed.
-    const std::unique_ptr<ZTPipeSession> session = AskListenerToClose();
+    const std::unique_ptr<ZTPipeSession> session = AskListenerToClose(ListenerDeadline());
     ZTServerProcess* const process = serverProcess; // The host may start another one meanwhile.
     if (!process->WaitForEnd(ZTBatchManagerTimings::InUse().serverEndTimeout)) {
         process->kill();

@@ -1,0 +1,64 @@
+#include "PrivateTempDir.h"
+#include "ZTBatchManager.h"
+
+#include <QElapsedTimer>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QtTest>
+
+#include <algorithm>
+#include <limits>
+
+/// KillExistingBatchProcess(false) against a server that accepts connections but does not read.
+class tst_ServerLifeListener : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void killExistingDoesNotWaitForAReader();
+};
+
+namespace {
+
+const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
+
+/// "21", nothing
+const QByteArray closeServerFrame = QByteArray::fromHex("00000004"
+                                                        "00320031"
+                                                        "00000000");
+
+} // namespace
+
+void tst_ServerLifeListener::killExistingDoesNotWaitForAReader()
+{
+    const PrivateTempDir folder;
+    // No event loop turns here before the calls have returned, so nothing reads.
+    QLocalServer listener;
+    QVERIFY2(listener.listen(pipeName), qPrintable(listener.errorString()));
+    constexpr int calls = 3;
+    qint64 shortest = std::numeric_limits<qint64>::max();
+    for (int i = 0; i < calls; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        ZTBatchManager::KillExistingBatchProcess(false);
+        shortest = std::min(shortest, clock.elapsed());
+    }
+    // Connecting may take 100 ms. The quickest call counts, since the machine may be busy.
+    QVERIFY2(shortest < 500, qPrintable(QString::number(shortest)));
+
+    // The last message still gets through to a server that reads later.
+    QByteArray received;
+    for (int i = 0; i < calls; ++i) {
+        QVERIFY(listener.hasPendingConnections() || listener.waitForNewConnection(10000));
+        QLocalSocket* const connection = listener.nextPendingConnection();
+        received.clear();
+        while (received.size() < closeServerFrame.size() &&
+               (connection->bytesAvailable() > 0 || connection->waitForReadyRead(10000))) {
+            received += connection->readAll();
+        }
+    }
+    QCOMPARE(received, closeServerFrame);
+}
+
+QTEST_GUILESS_MAIN(tst_ServerLifeListener)
+#include "tst_serverlifelistener.moc"
