@@ -12,14 +12,14 @@ class ZTBatchInputModel;
 class ZTBatchOutputSettings;
 class ZTStyle;
 
-/// The description of one batch job: what goes in, which effects are applied, how results are written.
+/// The description of one batch job: its input, its effects, and how results are written.
 ///
-/// The document owns an input model, a style and output settings, which the host edits directly, and turns the whole
-/// job into an XML text and back. Reading and writing files is the host's. It also knows whether the job was changed:
-/// every change of the input or the output settings counts, edits of the style do not.
+/// The document owns an input model, a style and output settings, which the host edits directly. It converts the whole
+/// job to XML text and back; the host reads and writes the files. It also tracks whether the job has changed: changes
+/// of the input or the output settings count, edits of the style do not.
 ///
-/// Everything happens on the thread that created the document, signals come from inside the call that caused them, and
-/// a host must not delete one of the three owned objects.
+/// Use it only on the thread that created it. Signals are emitted from inside the call that causes them. A host must
+/// not delete any of the three owned objects.
 class BATCHCORE_EXPORT ZTBatchDocument : public QObject
 {
     Q_OBJECT
@@ -31,58 +31,61 @@ public:
     /// Empty by default. Written to the text of the job, but never read from it.
     QString GetDocumentName() const;
 
-    /// The host's file name for the job, which the library only keeps. Empty by default.
+    /// The host's file name for the job, which the library only stores. Empty by default.
     QString GetFileName() const;
 
-    /// A value of the host, which the library only keeps. Empty by default.
+    /// A value of the host, which the library only stores. Empty by default.
     QString GetGroupFilter() const;
 
-    /// The folders and files that go in. Owned by the document, like the two below.
+    /// The input folders and files. The document owns the model, and so the two objects below.
     ZTBatchInputModel* GetInputModel() const;
     ZTBatchOutputSettings* GetOutputSettings() const;
 
     /// The effects, in the order in which they are applied.
     ZTStyle* GetStyle() const;
 
-    /// 0 after construction and loading, 1 after a change, or what SetModificationState() was given.
+    /// 0 after construction or loading, 1 after a change, or the value last given to SetModificationState().
     int ModificationState() const;
 
-    /// The XML text of the job: a document of type "batch" without XML declaration, indented by four spaces a level, so
-    /// that folders in folders make it grow with the square of their depth.
+    /// Returns the XML text of the job: a document of type "batch" without XML declaration, indented by four spaces a
+    /// level. Because of the indentation, the size of nested folders grows with the square of their depth.
     ///
-    /// Without a sink every node is written and the file system is not asked. With one, whatever object it is, a node
-    /// whose path does not exist now is left out with all that is below it, and so is one whose path stands in the text
-    /// already, level by level from the top. A QTextBrowser also receives what was left out, as translated warnings
-    /// with the paths; its handlers may do anything, even delete the document, and then the text is empty.
+    /// Without a sink, every node is written and the file system is not accessed. With a sink, whatever object it is, a
+    /// node is left out together with its subtree when its path does not exist or has been written before; nodes are
+    /// checked level by level from the top. A QTextBrowser also receives translated warnings with the paths that were
+    /// left out. Slots connected to it may do anything; if one deletes the document, the text is empty.
     ///
-    /// The text can be read back whatever the job holds. XML has no way to carry control characters other than tab and
-    /// line breaks, halves of surrogate pairs, U+FFFE and U+FFFF: each is written as U+FFFD. Not written are the tool
-    /// tips and the enabled states of nodes, the alpha of colours and the loaded background picture.
+    /// Deserialize() reads the text back, whatever the job holds. Every code unit of a text survives, except that
+    /// U+FFFE and U+FFFF become U+FFFD. Control characters and lone surrogates are written unchanged, although XML does
+    /// not allow them: other XML readers may refuse them, and UTF-8 cannot store lone surrogates. The tool tips and the
+    /// enabled states of nodes, the alpha of colours and the loaded background picture are not written.
     QString Serialize(QObject* warningSink) const;
 
-    /// Replaces the job by the one in `xml`. Returns false, with a debug line and nothing changed, when the text is not
-    /// well-formed or not of the document type "batch".
+    /// Replaces the job with the one in `xml`. If the text is not well-formed or its document type is not "batch",
+    /// writes a debug line, changes nothing and returns false.
     ///
-    /// Refused like a text that is not well-formed is one that could take all stack or memory: elements more than
-    /// 1,000 levels deep, declarations of entities, or of elements with more than 1,000 opening parentheses around.
+    /// A text that could exhaust the stack or the memory is refused like one that is not well-formed. Such are elements
+    /// more than 16,384 levels deep, declarations of entities, and declarations of elements in a text with more than
+    /// 1,000 opening parentheses.
     ///
-    /// A text of the right type always loads: sections and attributes that are missing, or do not make sense, take
-    /// defaults. Input and style are emptied in any case; output settings whose section is missing stay, except that
-    /// transformation, crop and profile are reset. Name, file name and group filter stay. At the end the modification
-    /// state is 0, and ModificationStateChanged(0) comes even when it was 0 before.
+    /// Any other text of the right type is loaded: sections and attributes that are missing or invalid take defaults.
+    /// The previous input and style are always removed. Output settings whose section is missing keep their values,
+    /// except that transformation, crop and profile are reset when there is an output section at all. Name, file name
+    /// and group filter are not changed. At the end the modification state is 0, and ModificationStateChanged(0) is
+    /// emitted even if it was 0 before.
     bool Deserialize(const QString& xml);
 
-    /// Emits DocumentNameChanged() on change. Not a modification.
+    /// Emits DocumentNameChanged() on change. Does not change the modification state.
     void SetDocumentName(const QString& name);
 
-    /// No signal, not a modification.
+    /// Emits nothing and does not change the modification state.
     void SetFileName(const QString& fileName);
 
-    /// No signal, not a modification.
+    /// Emits nothing and does not change the modification state.
     void SetGroupFilter(const QString& filter);
 
-    /// Replaces the document's effects by those of `style`, which may be the document's own. No signal, not a
-    /// modification.
+    /// Replaces the document's effects with copies of those of `style`, which may be the document's own style. Emits
+    /// nothing and does not change the modification state.
     void SetStyle(const ZTStyle& style);
 
     /// Any value is accepted. Emits ModificationStateChanged() on change.
@@ -94,7 +97,7 @@ Q_SIGNALS:
     /// For hosts to emit when they have edited the style; the document never does.
     void StyleChanged();
 
-    /// The modification state is `value` now. Comes on change, and at the end of each successful Deserialize().
+    /// The modification state is now `value`. Emitted on change and at the end of each successful Deserialize().
     void ModificationStateChanged(int value);
 
 private Q_SLOTS:

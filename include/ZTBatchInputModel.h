@@ -14,26 +14,27 @@
 
 class ZTBatchInputObserver;
 
-/// What an input node is. Wherever the library reads a node's type, every value but Folder counts as a file.
+/// The kind of an input node. The library treats every value other than Folder as a file.
 enum BatchNodeType : int { Folder = 0, File = 1 };
 
 /// The record of one input folder or file.
 ///
-/// Two records are equal when their types and their texts are; nothing else takes part. In the order folders come
-/// before everything else, and records of one type go by their text in UTF-16 code units, so upper case before lower
-/// case. It is no total order: of two records of different types that are not folders neither is less, and they are
-/// not equal, so that each of them is both greater and greater or equal.
+/// Two records are equal when `type` and `inputText` are equal; no other field counts. Folders sort before everything
+/// else. Records of one type sort by `inputText` in UTF-16 code units, so upper case before lower case. This is no
+/// total order: of two records whose types differ and are both not Folder, neither is less and they are not equal, so
+/// `>` and
+/// `>=` hold in both directions.
 struct BATCHCORE_EXPORT BatchNodeData
 {
-    QString inputText;        ///< names the node for the user; the sort key after the type
-    QString inputInfo;        ///< informs the user further
+    QString inputText;        ///< names the node for the user; the sort key after `type`
+    QString inputInfo;        ///< further information for the user
     QString fileName;         ///< absolute path in Qt's form, with forward slashes
-    QString toolTip;          ///< empty: the path serves as tool tip
-    QString lastModification; ///< the file's modification stamp, a text that only the host reads
+    QString toolTip;          ///< if empty, the path serves as tool tip
+    QString lastModification; ///< the file's modification time, as text in a format of the host
     int type = Folder;        ///< a BatchNodeType
-    bool enabled = false;     ///< kept for the host; the library takes no notice of it
-    int fileNodesCount = 0;   ///< how many file nodes the subtree has, the node itself included
-    ZVFileBookmark bookmark;  ///< keeps the access to `fileName`; empty when nobody asked for it
+    bool enabled = false;     ///< stored for the host; the library does not use it
+    int fileNodesCount = 0;   ///< number of file nodes in the subtree, including this node
+    ZVFileBookmark bookmark;  ///< keeps access to `fileName`; may be empty
 
     BatchNodeData();
     BatchNodeData(const BatchNodeData& other);
@@ -50,10 +51,10 @@ struct BATCHCORE_EXPORT BatchNodeData
     bool operator>=(const BatchNodeData& other) const;
 };
 
-/// A node of a tree that owns its children and keeps them sorted. Exists for BatchNodeData only.
+/// A node of a tree that owns its children and keeps them sorted. Instantiated for BatchNodeData only.
 ///
-/// Destroying a node destroys its subtree, however deep, and takes the node out of its parent. Use a tree on one
-/// thread at a time, even for reading: looking a node up refreshes what it remembers about its place.
+/// Destroying a node destroys its subtree, without recursion, and removes the node from its parent. Use a tree on one
+/// thread at a time, even for reading: lookups update the row that a node caches.
 template<typename T>
 class TreeNode
 {
@@ -61,22 +62,22 @@ public:
     BATCHCORE_EXPORT TreeNode();
     BATCHCORE_EXPORT ~TreeNode();
 
-    /// Adopts `child` with its subtree at its place in the order and returns the row where it stands now; behind the
-    /// children that are equal to it. A child of another node is taken out there first; no fileNodesCount is touched.
-    /// Returns -1, and does nothing, for null.
+    /// Takes ownership of `child` with its subtree, inserts it at its sorted place, after equal children, and returns
+    /// its row. If it is a child of another node, it is removed there first. No fileNodesCount is updated. For null,
+    /// does nothing and returns -1.
     BATCHCORE_EXPORT int insertChild(TreeNode* child);
 
-    /// Nodes have memory of their own, where those that are made one after the other stand side by side.
+    /// Nodes come from a pool in which nodes that are created one after the other are adjacent.
     BATCHCORE_EXPORT static void* operator new(std::size_t size);
     BATCHCORE_EXPORT static void operator delete(void* memory, std::size_t size) noexcept;
 
-    /// A node in memory of the caller's, as containers make them.
+    /// Placement new, as containers use it.
     BATCHCORE_EXPORT static void* operator new(std::size_t size, void* place) noexcept;
     BATCHCORE_EXPORT static void operator delete(void* memory, void* place) noexcept;
 
-    T data;                     ///< comes first: the address of a node is the address of its data
-    TreeNode* parent = nullptr; ///< null for a root and for a node that belongs to nobody
-    QList<TreeNode*> children;  ///< owned, in ascending order of their data
+    T data;                     ///< the first member, so that a node and its data have the same address
+    TreeNode* parent = nullptr; ///< null for a root and for a node outside any tree
+    QList<TreeNode*> children;  ///< owned, in ascending order of `data`
 
 private:
     Q_DISABLE_COPY(TreeNode)
@@ -88,19 +89,19 @@ private:
     int rowBehindEqual(int row, const TreeNode& child) const;
     void insertChildAt(int row, TreeNode* child);
 
-    /// Where the node stood in its parent's children when somebody last looked. Only ever a guess, to be checked:
-    /// it spares the views, which ask for the parents of indexes all the time, a search through all siblings.
+    /// The row that the node had in its parent at the last lookup. Only a hint, to be verified: views ask for the
+    /// parents of indexes all the time, and it saves them a search through all siblings.
     int rowHint = 0;
 };
 
 extern template class TreeNode<BatchNodeData>;
 
-/// The folders and files that a batch takes in, as a tree with one column.
+/// The input folders and files of a batch, as a tree with one column.
 ///
-/// The model owns its tree. The root has no row: its children are the top-level rows. Qt::DisplayRole shows the path
-/// with native separators, Qt::ToolTipRole the tool tip or, without one, the same path; hosts read everything else
-/// through getNodeData(). A count of file nodes is kept in every folder and follows InsertBranch() and removeRows().
-/// Belongs to the thread that made it; a broken invariant ends the process.
+/// The model owns its tree. The root has no row: its children are the top-level rows. Qt::DisplayRole gives the path
+/// with native separators; Qt::ToolTipRole gives the tool tip or, if that is empty, the same path. Hosts read
+/// everything else through getNodeData(). InsertBranch() and removeRows() keep the fileNodesCount of all folders up to
+/// date. Use the model only on the thread that created it. A broken invariant ends the process.
 class BATCHCORE_EXPORT ZTBatchInputModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -119,59 +120,60 @@ public:
     /// The index of a node of this model's tree; invalid for null and for the root.
     QModelIndex indexFromNode(TreeNode<BatchNodeData>* node) const;
 
-    /// The record of `index`, null when that is invalid. It stays the model's; no signal tells of what the caller
-    /// changes in it, and a node whose type or text is changed keeps its place.
+    /// The record of `index`, owned by the model; null for an invalid index. The caller may change it, but no signal is
+    /// emitted then, and a node whose `type` or `inputText` changes is not sorted again.
     BatchNodeData* getNodeData(const QModelIndex& index) const;
 
-    /// How many file nodes the tree has.
+    /// The number of file nodes in the tree.
     int GetFileNodesCount() const;
 
-    /// Whether any node, of whatever type, has a path that ends in ".heic", upper or lower case.
+    /// Whether the path of any node, of any type, ends in ".heic" in any letter case.
     bool IsHeicFormatExisting() const;
 
-    /// Adds `count` nodes with default records at `row`, which is moved into the range of rows. They are placed where
-    /// the caller says, not where the order would have them, and they count as no files. Always true.
+    /// Inserts `count` nodes with default records at `row`, clamped to the existing rows. They are not sorted, and they
+    /// do not count as files. Always returns true.
     ///
-    /// A count of 0 or less adds nothing but is announced by both signals all the same; below 0 that makes persistent
-    /// indexes of the rows behind point to wrong ones.
+    /// A count of 0 or less inserts nothing, but both signals are emitted. With a negative count, persistent indexes of
+    /// the rows that follow then refer to wrong rows.
     bool insertRows(int row, int count, const QModelIndex& parent = QModelIndex()) override;
 
-    /// Does nothing, returns false: there is one column.
+    /// Does nothing and returns false: there is always one column.
     bool insertColumns(int column, int count, const QModelIndex& parent = QModelIndex()) override;
 
-    /// Destroys `count` nodes from `row` on, with their subtrees. The part of the range before row 0 is left out; a
-    /// range that begins behind the last row, or is empty, is none. The rest must be rows that exist. Always true.
+    /// Destroys `count` nodes from `row` on, with their subtrees. Rows below 0 are cut off the range. Does nothing if
+    /// the range is then empty or begins after the last row; otherwise its end must not exceed the last row. Always
+    /// returns true.
     bool removeRows(int row, int count, const QModelIndex& parent = QModelIndex()) override;
 
-    /// Does nothing, returns false: there is one column.
+    /// Does nothing and returns false: there is always one column.
     bool removeColumns(int column, int count, const QModelIndex& parent = QModelIndex()) override;
 
-    /// Takes ownership of `node` with its subtree, puts it into the folder `parent` (the top level, when invalid) at
-    /// its place in the order and adds its fileNodesCount, which the caller has set, to all folders above.
-    /// Returns the node's index; an invalid one, with nothing done, for null.
+    /// Takes ownership of `node` with its subtree, inserts it at its sorted place into the folder `parent` (at the top
+    /// level, if invalid) and adds its fileNodesCount, which the caller has set, to all folders above. Returns the
+    /// node's index. For null, does nothing and returns an invalid index.
     ///
-    /// The node is in the tree already when rowsAboutToBeInserted() comes: handlers of that signal see one row more
-    /// than they may expect, and must not make persistent indexes.
+    /// The node is already in the tree when rowsAboutToBeInserted() is emitted: slots of that signal see one row more
+    /// than usual, and must not create persistent indexes.
     QModelIndex InsertBranch(TreeNode<BatchNodeData>* node, const QModelIndex& parent);
 
-    /// dataChanged() comes only when the value changes. Ignored for an invalid index.
+    /// Emits dataChanged() only if the value changes. Ignores an invalid index.
     void setEnabled(const QModelIndex& index, bool enabled);
 
-    /// dataChanged() comes with every call, also for the same text. Ignored for an invalid index.
+    /// Emits dataChanged() at every call, even for the same text. Ignores an invalid index.
     void setLastModification(const QModelIndex& index, const QString& text);
 
-    /// dataChanged() comes with every call, also for the same text. Ignored for an invalid index.
+    /// Emits dataChanged() at every call, even for the same text. Ignores an invalid index.
     void setToolTip(const QModelIndex& index, const QString& text);
 
 Q_SIGNALS:
-    /// A document that was read has been moved into the model, all of it. Emitted by the reader.
+    /// ZTBatchDocument::Deserialize() has moved the whole input of a job into the model.
     void ModelUpdated();
 
-    /// InsertBranch() has put a folder at `index`; once for the branch, whatever folders are inside it.
+    /// InsertBranch() has inserted a folder at `index`. Emitted once for a branch, whatever folders it contains.
     void FolderInserted(const QModelIndex& index);
 
 protected:
-    /// Hides the base's: what the library keeps in step with the rows must hear of a reset before modelReset() comes.
+    /// Hides the base's: observers inside the library must learn of a reset before modelReset() is emitted.
     void endResetModel();
 
 private:
@@ -182,5 +184,5 @@ private:
     TreeNode<BatchNodeData>* nodeOrRoot(const QModelIndex& index) const;
 
     const std::unique_ptr<TreeNode<BatchNodeData>> root;
-    QVector<ZTBatchInputObserver*> observers; ///< not owned; they sign off
+    QVector<ZTBatchInputObserver*> observers; ///< not owned; they unregister themselves
 };

@@ -10,15 +10,14 @@
 
 class QAction;
 
-/// The one object through which a host runs batches: it starts the batch server, a process of its own, talks to it over
-/// a local pipe, and hands out the sessions in which runs happen. It also keeps the exception policies and what other
-/// modules register to extend the host's view of inputs.
+/// The singleton through which a host runs batches: it starts the batch server, a separate process, talks to it over a
+/// local pipe, and creates the sessions in which runs happen. It also stores the exception policies and the actions and
+/// handlers with which other modules extend the host's input view.
 ///
-/// Everything here belongs to one thread, the one that called InitInstance(); that thread needs an event loop. A slot
-/// connected to a signal of the manager or of a session may delete that session, call Start(), Stop() or
-/// ReleaseInstance().
+/// Use it only on the thread that called InitInstance(), which needs an event loop. A slot connected to a signal of the
+/// manager or of a session may delete that session and call Start(), Stop() or ReleaseInstance().
 ///
-/// A host deletes its session before it lets the server go. A session that is deleted later keeps its place:
+/// A host must delete its session before the server goes. After a session that is deleted later,
 /// IsAllowToCreateSession() stays false until the manager is released.
 class BATCHCORE_EXPORT ZTBatchManager : public QObject
 {
@@ -29,14 +28,14 @@ public:
     class ZTInputDnDHandler;
     class ZTInputUpdateHandler;
 
-    // The exception policies say what the server does about a case of their kind. The library passes any value
-    // through; these are the ones that the server understands.
+    // Each exception policy determines how the server handles one kind of exceptional case. The library passes any
+    // value through; the server understands these.
 
     /// What happens to a file that cannot be read. Default: InputAsk.
     enum InputPolicy : int { InputSkip = 0, InputStop = 1, InputAsk = 2 };
     Q_ENUM(InputPolicy)
 
-    /// What happens when a result cannot be written to its place. Default: OutputAsk.
+    /// What happens when a result cannot be written to the output folder. Default: OutputAsk.
     enum OutputPolicy : int { OutputSkip = 0, OutputStop = 1, OutputAsk = 2 };
     Q_ENUM(OutputPolicy)
 
@@ -44,11 +43,11 @@ public:
     enum ProcessingPolicy : int { ProcessingSkip = 0, ProcessingStop = 1, ProcessingAsk = 2 };
     Q_ENUM(ProcessingPolicy)
 
-    /// What happens when the result's name is taken. Default: NamingAsk.
+    /// What happens when the name of a result already exists. Default: NamingAsk.
     enum NamingPolicy : int { NamingSkip = 0, NamingOverwrite = 1, NamingRename = 2, NamingAsk = 3 };
     Q_ENUM(NamingPolicy)
 
-    /// What happens when the picture cannot be written in the wanted format; WriteToFormatNearest takes the nearest
+    /// What happens when a picture cannot be written in the requested format. WriteToFormatNearest selects the nearest
     /// format that can hold it. Default: WriteToFormatAsk.
     enum WriteToFormatPolicy : int {
         WriteToFormatSkip = 0,
@@ -58,27 +57,30 @@ public:
     };
     Q_ENUM(WriteToFormatPolicy)
 
-    /// Creates the instance and reads the policies from "BatchExceptionPolicy.ini" in the folder `settingsDir`; what
-    /// the file lacks, or a file that cannot be read, gives the defaults. Does nothing when there is an instance.
+    /// Creates the instance and reads the policies from "BatchExceptionPolicy.ini" in the folder `settingsDir`. A value
+    /// that is missing takes its default, and so do all values if the file cannot be read. Does nothing if there is an
+    /// instance.
     static void InitInstance(const QString& settingsDir);
 
-    /// The instance; null before InitInstance() and from ReleaseInstance() on.
+    /// The instance; null before InitInstance() and as soon as ReleaseInstance() is called.
     static ZTBatchManager* Instance();
 
-    /// Writes the policies back (a failure is not reported), asks the server to end, deletes the instance with the
-    /// sessions that are left, and returns when the server has ended or was killed: after 30 seconds at most.
-    /// Neither ConnectionFailed() nor a signal of a session comes from here.
+    /// Writes the policies to the file (a failure is not reported), asks the server to end, and deletes the instance
+    /// with all remaining sessions. Waits up to 30 seconds for the server and then kills it. Emits neither
+    /// ConnectionFailed() nor a signal of a session.
     static void ReleaseInstance();
 
-    /// Ends a server that listens on the pipe, such as one left over from an earlier run; works without an instance.
-    /// When `waitForExit` is true and the instance has a server process, also waits for that process, 30 seconds at
-    /// most, then kills it. Otherwise returns as soon as the request is written.
+    /// Asks a server that listens on the pipe to end, such as one left over from an earlier run. Works without an
+    /// instance. If `waitForExit` is true and the instance has a server process, also waits up to 30 seconds for that
+    /// process and then kills it. Otherwise returns as soon as the request is written, after 100 ms at the latest; a
+    /// request that the server has not read by then remains pending for a second.
     static void KillExistingBatchProcess(bool waitForExit);
 
-    /// Whether there is a server process, connected or not yet.
+    /// Whether there is a server process, connected or not.
     bool IsStarted() const;
 
-    /// Whether there is no session: one at a time is the rule. CreateBatchSession() leaves the check to the host.
+    /// Whether there is no session. Only one may exist at a time; CreateBatchSession() does not check that, so the host
+    /// must.
     bool IsAllowToCreateSession() const;
 
     InputPolicy GetInputPolicy() const;
@@ -87,59 +89,61 @@ public:
     NamingPolicy GetNamingPolicy() const;
     WriteToFormatPolicy GetWriteToFormatPolicy() const;
 
-    /// The registered actions by ascending order, those of one order as they were registered. The caller owns none.
+    /// The registered actions in ascending order, those of equal order in the order of registration. Not owned by the
+    /// caller.
     QList<QAction*> GetInputActions() const;
 
-    /// The handler registered last; null when there is none or it was deleted.
+    /// The registered handler; null if there is none or it was deleted.
     ZTInputDnDHandler* InputDragAndDropHandler() const;
     ZTInputUpdateHandler* InputUpdateHandler() const;
 
-    /// Starts the server, "VelkoraBatchProcessing" in the application's folder, and connects to it, trying once a
-    /// second. Returns at once; ConnectionEstablished() or ConnectionFailed() tells how it went. A server that has not
-    /// opened its pipe after 25 seconds is ended. What has been started already is left as it is, with a debug line.
+    /// Starts the server, "VelkoraBatchProcessing" in the application's folder, and tries once a second to connect to
+    /// it. Returns at once; ConnectionEstablished() or ConnectionFailed() reports the outcome. A server that has not
+    /// opened its pipe after 25 seconds is killed. A server that is already started, or a pipe that already exists, is
+    /// kept, and a debug line is written.
     void Start();
 
-    /// Kills the server. The sessions are told and ConnectionFailed() comes before this returns. Without a server
-    /// only a debug line is written.
+    /// Kills the server. Sessions are notified and ConnectionFailed() is emitted before this returns. Without a server,
+    /// only writes a debug line.
     void Stop();
 
-    /// A new session, for whose run the server is ready; null when the pipe is not connected. The host deletes it.
+    /// Creates a session and announces it to the server. Returns null if the pipe is not connected. The host deletes
+    /// the session; the manager is its QObject parent.
     ZTBatchSession* CreateBatchSession();
 
-    /// The setters change the policy for runs that start from now on and for the next life of the manager; a run under
-    /// way keeps those that it was started with. A new value is announced by the policy's signal, once.
+    /// Each setter applies to runs that start later, and to the next instance through the policy file. A run that has
+    /// started keeps its policies. The policy's signal is emitted on change.
     void SetInputPolicy(InputPolicy policy);
     void SetOutputPolicy(OutputPolicy policy);
     void SetProcessingPolicy(ProcessingPolicy policy);
     void SetNamingPolicy(NamingPolicy policy);
     void SetWriteToFormatPolicy(WriteToFormatPolicy policy);
 
-    /// Adds `action` behind those whose order is not greater than `index`. An action that is registered stays where it
-    /// is. The action is not owned; it leaves the registry when it is deleted, without a signal.
+    /// Adds `action` with the order `index`, after all actions of the same or a lower order. Does nothing if the action
+    /// is registered already. The action is not owned; when it is deleted, it is removed without a signal.
     void RegisterInputAction(QAction* action, int index);
 
-    /// Removes `action`; does nothing when it is not registered.
+    /// Removes `action`. Does nothing if it is not registered.
     void UnregisterInputAction(QAction* action);
 
-    /// Replaces the handler that was registered before; null clears. A handler is not owned and leaves the registry
-    /// when it is deleted.
+    /// Replaces the registered handler; null removes it. A handler is not owned, and is removed when it is deleted.
     void RegisterDragAndDropHandler(ZTInputDnDHandler* handler);
     void UnregisterDragAndDropHandler();
     void RegisterInputUpdateHandler(ZTInputUpdateHandler* handler);
     void UnregisterInputHandler();
 
 Q_SIGNALS:
-    /// The pipe is up. Comes again when a lost connection to the same server is back.
+    /// The pipe is connected. Emitted again when a lost connection to the same server is restored.
     void ConnectionEstablished();
 
-    /// The server could not be started or has ended; the sessions were told before. Comes once for each Start() that
-    /// was not ended by ReleaseInstance(). Start() may be called again from here.
+    /// The server could not be started or has ended; the sessions have been notified. Emitted once for each started
+    /// server that ends before ReleaseInstance(). A slot may call Start() again.
     void ConnectionFailed();
 
     void InputActionRegistered(QAction*, int index);
     void InputActionUnregistered(QAction*);
 
-    /// The policy has got another value, the given one. The last signal is known to hosts without "Policy" in its name.
+    /// The policy has changed to the given value. Hosts know the last signal without "Policy" in its name.
     void InputPolicyChanged(InputPolicy);
     void OutputPolicyChanged(OutputPolicy);
     void ProcessingPolicyChanged(ProcessingPolicy);
@@ -167,7 +171,7 @@ private:
     ZTBatchManager(const QString& settingsDir, QObject* parent);
     ~ZTBatchManager() override;
 
-    // What sessions ask for.
+    // Called by sessions.
     void Process(const QString& id, const QString& document);
     void Pause(const QString& id);
     void Resume(const QString& id);

@@ -6,9 +6,8 @@
 
 /// The messages between a host and the batch server, and the errors that the server reports.
 ///
-/// A message travels as a name and a payload. The name is the message's number in decimal; only numbers go over the
-/// pipe, the names of the enumerators serve the code alone. ZTBatchPayload.h packs and unpacks the payloads.
-/// Every operation is safe on any thread.
+/// A message is sent as a name and a payload. The name is the message's number in decimal; the names of the enumerators
+/// never go over the pipe. ZTBatchPayload.h packs and unpacks the payloads. All functions are thread-safe.
 class BATCHCORE_EXPORT ZTBatchMessage
 {
 public:
@@ -41,11 +40,11 @@ public:
         // To the server.
         MsgCloseServer = 21,
 
-        /// What FromName() returns for a name that is no message. It is never sent.
+        /// Returned by FromName() for a name that is no message. Never sent.
         MsgUnknown = 1000
     };
 
-    /// Error codes of the server, as they travel in MsgError.
+    /// Error codes that the server sends in MsgError.
     enum Error : int {
         NoError = 0,
         UnsupportedInputFormat = 1,
@@ -61,15 +60,14 @@ public:
         FileNameAlreadyExists = 11
     };
 
-    /// The name of `message` on the wire: its number in decimal. Any value is accepted.
+    /// The name of `message` on the wire: its number in decimal. Accepts any value.
     static QString Name(Message message);
 
-    /// The message whose name on the wire is `name`; MsgUnknown for everything that is not a decimal number from 0
-    /// to 21.
+    /// The message with the name `name`; MsgUnknown if that is not a decimal number from 0 to 21.
     static Message FromName(const QString& name);
 
-    /// One sentence for users about `error`, translated in the context "QObject"; "Unknown error." for a value that
-    /// is no error code.
+    /// A sentence for users that describes `error`, translated in the context "QObject"; "Unknown error." for other
+    /// values.
     static QString ErrorDescription(Error error);
 
     ZTBatchMessage() = default;

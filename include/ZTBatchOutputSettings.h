@@ -14,17 +14,17 @@
 #include <array>
 #include <memory>
 
-/// What a batch job says about its results: where they go and how they are named, encoded, sized, cropped and framed.
+/// The output settings of a batch job: where results go and how they are named, encoded, sized, cropped and framed.
 ///
-/// The object stores values and announces changes; it judges none of them. Enumerations travel as plain integers and
-/// come back unchanged, whatever their value, because their meaning is settled by the server that reads them. Belongs
-/// to the thread that created it, and emits its signals there, from inside the setter that caused them.
+/// The object stores values and signals changes; except where a setter says so, it does not validate them. Enumerations
+/// are stored as plain integers and any value is kept, because the server defines their meaning. Use the object only on
+/// the thread that created it. Signals are emitted from inside the setter that causes them.
 class BATCHCORE_EXPORT ZTBatchOutputSettings : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The parts that the name of a result is made of, in their order in the name.
+    /// The parts of a result's name, in their order in the name.
     enum NamingPart : int { PartPrefix = 0, PartMiddle = 1, PartSuffix = 2 };
 
     /// What a part contributes to the name.
@@ -37,29 +37,29 @@ public:
         TemplateNothing = 5
     };
 
-    /// Which folders are made below the output folder.
+    /// Which folders are created below the output folder.
     enum FolderStructure : int { StructureFlat = 0, StructureAsInput = 1, StructureByCaptureDate = 2 };
 
     /// The size that results are scaled to. The aspect ratio is always kept.
     struct BATCHCORE_EXPORT ImageSize
     {
-        int restriction = 0; ///< 0 leaves the size alone; the other fields but `resolution` mean nothing then
-        int unit = 0;        ///< unit of `size`, 0 = pixels
-        int side = 2;        ///< which side `size` is the length of, 2 = the long one
+        int restriction = 0; ///< 0 = no scaling; then only `resolution` has an effect
+        int unit = 0;        ///< unit of `size`; 0 = pixels
+        int side = 2;        ///< the side that `size` applies to; 2 = the long one
         double size = 800.0;
         int resolution = 300; ///< dots per inch
 
-        /// All fields take part. A NaN in `size` equals every number, so that it alone never makes a difference.
+        /// Compares all fields. A NaN in `size` equals every number, so it never makes two records unequal by itself.
         bool operator==(const ImageSize& other) const;
         bool operator!=(const ImageSize& other) const { return !(*this == other); }
     };
 
-    /// The frame that results are cut to. All fields take part in equality.
+    /// The frame that results are cropped to. Equality compares all fields.
     struct BATCHCORE_EXPORT Crop
     {
-        int alignment = Qt::AlignCenter; ///< Qt alignment flags: where the frame stands in the picture
-        QSize size{800, 600};
-        int type = 0; ///< 0 = no crop
+        int alignment = Qt::AlignCenter; ///< Qt alignment flags: the position of the frame in the picture
+        QSize size{800, 600};            ///< pixels, or a ratio, depending on `type`
+        int type = 0;                    ///< 0 = no crop
 
         bool operator==(const Crop& other) const;
         bool operator!=(const Crop& other) const { return !(*this == other); }
@@ -69,7 +69,7 @@ public:
     struct BATCHCORE_EXPORT Transformation
     {
         int angle = 0;                ///< degrees, clockwise
-        QMargins margins{5, 5, 5, 5}; ///< pixels of the frame that stay free
+        QMargins margins{5, 5, 5, 5}; ///< pixels of the frame that stay empty
         int blending = 0;             ///< 0 = normal
         double opacity = 1.0;         ///< 0 to 1, like the other opacities
         bool shadowEnabled = true;
@@ -82,14 +82,14 @@ public:
         int backgroundType = 0; ///< 0 = none
         double backgroundOpacity = 1.0;
         std::array<int, 3> backgroundPattern{0, 0, 0};
-        QString backgroundImage; ///< names the picture of the background
+        QString backgroundImage; ///< the path of the background picture
         QColor backgroundColor = Qt::black;
-        QImage backgroundImageData; ///< the loaded picture that `backgroundImage` names, kept beside it by the host
-        bool backgroundCustomOutput = false; ///< the frame has `backgroundCustomSize` instead of the picture's size
+        QImage backgroundImageData;          ///< the loaded `backgroundImage`, for the host only
+        bool backgroundCustomOutput = false; ///< the frame is `backgroundCustomSize` instead of the picture's size
         QSize backgroundCustomSize{800, 600};
-        bool state = false; ///< whether the transformation takes place at all
+        bool state = false; ///< whether the transformation is applied at all
 
-        /// All fields take part but `backgroundImageData`, which follows from `backgroundImage`. A NaN equals every
+        /// Compares all fields except `backgroundImageData`, which depends on `backgroundImage`. A NaN equals every
         /// number.
         bool operator==(const Transformation& other) const;
         bool operator!=(const Transformation& other) const { return !(*this == other); }
@@ -98,36 +98,37 @@ public:
     explicit ZTBatchOutputSettings(QObject* parent);
     ~ZTBatchOutputSettings() override;
 
-    /// The format value that keeps each picture's own format: "Original", in every language.
+    /// The format value that keeps the format of each picture: "Original", never translated.
     static QString GetOriginalFormat();
 
-    /// The name of that value for users, translated.
+    /// The translated display name of that value.
     static QString GetOriginalFormatName();
 
-    /// Places a picture of `size` pixels, turned by `angle` degrees (clockwise, any integer), in the area that
-    /// `margins` leave free of a frame of the same size. The picture keeps its aspect ratio.
+    /// Fits a picture of `size` pixels, rotated by `angle` degrees (clockwise, any integer), into the area that
+    /// `margins` leave free in a frame of the same size. The picture keeps its aspect ratio.
     ///
-    /// Returns the transform from the picture's coordinates to the frame's. A non-null `outputSize` receives the size
-    /// in pixels that the picture is drawn in, before it is turned. Two inputs give the identity: an empty `size`,
-    /// which `outputSize` then receives unchanged, and margins that leave nothing free, for which it receives an
-    /// invalid size. Safe on any thread.
+    /// Returns the transform from the picture's coordinates to the frame's. `outputSize` may be null; otherwise it
+    /// receives the size in pixels at which the picture is drawn, before the rotation. The result is the identity if
+    /// `size` is empty, in which case `outputSize` receives `size`, and if the margins leave no area free, in which
+    /// case `outputSize` receives an invalid size. Thread-safe.
     static QTransform CalculateOutputTransformation(const QSize& size, int angle, const QMargins& margins,
                                                     QSize* outputSize);
 
     /// The output folder; empty by default.
     QString GetPath() const;
 
-    /// Writes the format, by default "Original", and its options, by default empty, which only the server reads.
+    /// Sets `format` to the format ("Original" by default) and `options` to its options (empty by default), which only
+    /// the server interprets.
     void GetFormat(QString& format, QByteArray& options) const;
 
-    /// The profile that results are converted to; empty by default.
+    /// The ICC profile that results are converted to; empty by default.
     QByteArray GetICCProfile() const;
 
     /// StructureFlat by default.
     FolderStructure GetFolderStructure() const;
 
-    /// The template of `part`. Prefix, middle and suffix start with TemplateNothing, TemplateCustomText and
-    /// TemplateNumber. In this and the other operations on a part, one that is not an enumerator is a programming
+    /// The template of `part`; by default TemplateNothing for the prefix, TemplateCustomText for the middle and
+    /// TemplateNumber for the suffix. Here and in the other functions, a `part` that is no enumerator is a programming
     /// error.
     NamingTemplate GetNamingTemplate(NamingPart part) const;
 
@@ -137,26 +138,26 @@ public:
     /// The first number of `part`; by default 1 for the suffix, 0 for the others.
     int GetStartNumber(NamingPart part) const;
 
-    /// How many digits numbers of `part` have at least; by default 3 for the suffix, 1 for the others.
+    /// The minimum number of digits of `part`; by default 3 for the suffix, 1 for the others.
     int GetDigitsCount(NamingPart part) const;
 
-    /// What stands between prefix and middle; empty by default.
+    /// The text between prefix and middle; empty by default.
     QString GetPrefixSeparator() const;
 
-    /// What stands between middle and suffix; empty by default.
+    /// The text between middle and suffix; empty by default.
     QString GetSuffixSeparator() const;
 
     ImageSize GetImageSizeSettings() const;
     Crop GetCropSettings() const;
     Transformation GetTransformationSettings() const;
 
-    /// Emits PathChanged() on change; paths that differ in letter case are different.
+    /// Emits PathChanged() on change. The comparison is case-sensitive.
     void SetPath(const QString& path);
 
-    /// Emits FormatChanged() when the format or a byte of the options changes.
+    /// Emits FormatChanged() if the format or any byte of the options changes.
     void SetFormat(const QString& format, const QByteArray& options);
 
-    /// Emits AdvancedSettingsChanged() at every call, changed or not.
+    /// Emits AdvancedSettingsChanged() at every call, even for the same profile.
     void SetICCProfile(const QByteArray& profile);
 
     /// Emits FolderStructureChanged() on change.
@@ -165,22 +166,22 @@ public:
     /// Emits NamingChanged() on change.
     void SetNamingTemplate(NamingPart part, NamingTemplate namingTemplate);
 
-    /// Emits NamingChanged() on change, provided that the template of `part` is TemplateCustomText; else the text is
-    /// kept silently for the day it becomes that.
+    /// Emits NamingChanged() on change if the template of `part` is TemplateCustomText. With another template the text
+    /// is stored without a signal.
     void SetCustomTemplate(NamingPart part, const QString& text);
 
-    /// Emits NamingChanged() on change, provided that the template of `part` is TemplateNumber. A negative number is
-    /// ignored.
+    /// Emits NamingChanged() on change if the template of `part` is TemplateNumber; otherwise stores the number without
+    /// a signal. Ignores a negative number.
     void SetStartNumber(NamingPart part, int number);
 
-    /// Emits NamingChanged() on change, provided that the template of `part` is TemplateNumber. A count below 1 is
-    /// ignored.
+    /// Emits NamingChanged() on change if the template of `part` is TemplateNumber; otherwise stores the count without
+    /// a signal. Ignores a count below 1.
     void SetDigitsCount(NamingPart part, int count);
 
-    /// Emits SuffixSeparatorChanged() on change: the two separators announce each other's change.
+    /// Emits SuffixSeparatorChanged() on change: each separator emits the signal of the other.
     void SetPrefixSeparator(const QString& separator);
 
-    /// Emits PrefixSeparatorChanged() on change: the two separators announce each other's change.
+    /// Emits PrefixSeparatorChanged() on change: each separator emits the signal of the other.
     void SetSuffixSeparator(const QString& separator);
 
     /// Emits RestrictionChanged() on change.
@@ -189,16 +190,15 @@ public:
     /// Emits CropChanged() on change.
     void SetCropSettings(const Crop& settings);
 
-    /// Emits TransformationChanged() on change. A record that differs only in its loaded picture is no change, and is
-    /// not stored.
+    /// Emits TransformationChanged() on change. A record that differs only in `backgroundImageData` is equal and is not
+    /// stored.
     void SetTransformationSettings(const Transformation& settings);
 
-    /// Resolves the output folder anew, for a folder that was moved or mounted again since the path was set. Emits
-    /// nothing.
+    /// Resolves the output folder again, in case it was moved or remounted since the path was set. Emits nothing.
     void RefreshPath();
 
-    /// Puts format, folder structure, the three naming parts and the path back to their defaults, each through its
-    /// setter and in this order. Separators, size, crop, transformation and profile stay.
+    /// Resets format, folder structure, the three naming parts and the path to their defaults, through their setters
+    /// and in this order. Separators, size, crop, transformation and profile are not changed.
     void RestoreDefault();
 
 Q_SIGNALS:
@@ -207,7 +207,7 @@ Q_SIGNALS:
     void RestrictionChanged();
     void PathChanged();
     void FolderStructureChanged();
-    /// A naming part has changed in a way that shows in the names of results.
+    /// A naming part has changed in a way that affects the names of results.
     void NamingChanged();
     /// The suffix separator has changed.
     void PrefixSeparatorChanged();

@@ -8,18 +8,18 @@
 
 #include <tuple>
 
-/// The payloads of the messages: one record for each shape, and the catalogue that says which message carries which.
+/// The payloads of the messages: one record for each layout, and the mapping of messages to records.
 ///
-/// A payload is what QDataStream writes with its default settings (big-endian) for the record's fields in their order,
-/// without padding, count or terminator:
+/// A payload consists of the record's fields in their order, as QDataStream writes them with its default settings
+/// (big-endian), without padding, count or terminator:
 ///
 ///     const QByteArray bytes = ZTBatchPayload::Pack(ZTBatchPayload::FromServer<ZTBatchMessage::MsgProgress>{id, 7});
 ///     const auto progress = ZTBatchPayload::Unpack<ZTBatchPayload::FromServer<ZTBatchMessage::MsgProgress>>(bytes);
 ///
-/// Everything here is safe on any thread.
+/// All functions are thread-safe.
 namespace ZTBatchPayload {
 
-/// Nothing at all.
+/// No fields.
 struct Empty
 {
     template<typename Self>
@@ -29,7 +29,7 @@ struct Empty
     }
 };
 
-/// Only the session that the message concerns. Every payload but the empty one begins with it.
+/// The session that the message concerns. Every payload except Empty begins with this field.
 struct Session
 {
     QString sessionId;
@@ -41,7 +41,7 @@ struct Session
     }
 };
 
-/// A job: the document's text and the five policies in force, the values of ZTBatchManager's policy enumerations.
+/// A job: the document's text and the five current policies, as values of ZTBatchManager's policy enumerations.
 struct Process
 {
     QString sessionId;
@@ -73,7 +73,7 @@ struct Progress
     }
 };
 
-/// The ends of the scale on which MsgProgress counts.
+/// The range of the values in MsgProgress.
 struct ProgressRange
 {
     QString sessionId;
@@ -100,7 +100,7 @@ struct InputFile
     }
 };
 
-/// An input file and what was made of it.
+/// An input file and its result.
 struct FilePair
 {
     QString sessionId;
@@ -127,8 +127,7 @@ struct Log
     }
 };
 
-/// A failure: the files concerned, what the server did about it (the server's own numbers) and a
-/// ZTBatchMessage::Error.
+/// A failure: the files concerned, the server's action (defined by the server) and a ZTBatchMessage::Error.
 struct Error
 {
     QString sessionId;
@@ -144,7 +143,7 @@ struct Error
     }
 };
 
-/// The answer to a question: a value of the question's policy, and a flag whose meaning is the server's.
+/// The answer to a question: a value of the question's policy, and a flag that the server defines.
 struct Answer
 {
     QString sessionId;
@@ -198,11 +197,11 @@ auto RecordFromServer()
 
 } // namespace Detail
 
-/// The record that carries `message` to the server; void when the host does not send it.
+/// The payload of `message` to the server; void if the host does not send it.
 template<ZTBatchMessage::Message message>
 using ToServer = decltype(Detail::RecordToServer<message>());
 
-/// The record that carries `message` from the server; void when the server does not send it.
+/// The payload of `message` from the server; void if the server does not send it.
 template<ZTBatchMessage::Message message>
 using FromServer = decltype(Detail::RecordFromServer<message>());
 
@@ -210,14 +209,14 @@ using FromServer = decltype(Detail::RecordFromServer<message>());
 template<typename Payload>
 QByteArray Pack(const Payload& payload)
 {
-    QByteArray bytes(""); // Not null: on the pipe the two differ, and a payload without fields is an empty one.
+    QByteArray bytes(""); // Not null: the pipe distinguishes null from empty, and a payload without fields is empty.
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Payload::Fields(payload));
     return bytes;
 }
 
-/// The payload that `bytes` hold. What a short payload lacks is left empty, zero or false, and bytes behind the last
-/// field are not looked at; `isExact`, when given, tells whether the bytes held the fields and nothing else.
+/// The payload in `bytes`. Fields that are missing are empty, zero or false, and bytes after the last field are
+/// ignored. `isExact` may be null; otherwise it is set to whether `bytes` held exactly the fields.
 template<typename Payload>
 Payload Unpack(const QByteArray& bytes, bool* isExact = nullptr)
 {

@@ -2,14 +2,14 @@
 
 #include "ZTBatchManager.h"
 
-/// One batch run as the host sees it, made by ZTBatchManager::CreateBatchSession().
+/// One batch run as the host sees it, created by ZTBatchManager::CreateBatchSession().
 ///
-/// The session holds no state: commands go to the server as they are given, and what the server says comes back as
-/// signals, each message one signal, in order and unfiltered. No command reports a failure; with no connection to
-/// the server it is lost. A command given after ZTBatchManager::ReleaseInstance() ends the process.
+/// The session holds no state: it forwards commands to the server, and emits one signal for each message of the server,
+/// in order and unfiltered. No command reports a failure; without a connection to the server it is lost. A command
+/// after ZTBatchManager::ReleaseInstance() ends the process.
 ///
-/// It belongs to the manager's thread. The host deletes it when it is done with it, at any time and from any of its
-/// signals; the manager deletes what is left when it is released.
+/// Use a session only on the manager's thread. The host may delete it at any time, also in a slot connected to one of
+/// its signals; the manager deletes remaining sessions when it is released.
 class BATCHCORE_EXPORT ZTBatchManager::ZTBatchSession : public QObject
 {
     Q_OBJECT
@@ -17,17 +17,17 @@ class BATCHCORE_EXPORT ZTBatchManager::ZTBatchSession : public QObject
 public:
     ~ZTBatchSession() override;
 
-    /// Starts the run of `document`, the XML text of a ZTBatchDocument, with the manager's policies of this moment.
-    /// The text is not looked at here. Always true.
+    /// Starts the run of `document`, the XML text of a ZTBatchDocument, with the manager's current policies. The text
+    /// is not checked. Always returns true.
     bool Process(const QString& document);
 
-    /// Asks the server to pause, go on or end the run; Paused(), Resumed() and Cancelled() confirm it.
+    /// Ask the server to pause, resume or cancel the run; Paused(), Resumed() and Cancelled() confirm it.
     void Pause();
     void Resume();
     void Cancel();
 
-    /// The answer to the question of the same name. `flag` tells the server whether the answer holds for the rest of
-    /// the run. The manager's own policy stays as it is.
+    /// Answer the question of the same name. `flag` tells the server whether the answer applies to the rest of the run.
+    /// The manager's policy does not change.
     void InputRespond(InputPolicy policy, bool flag);
     void OutputRespond(OutputPolicy policy, bool flag);
     void ProcessingRespond(ProcessingPolicy policy, bool flag);
@@ -39,30 +39,29 @@ Q_SIGNALS:
     void Resumed();
     void Cancelled();
 
-    /// The server could not be started or crashed. A line about it has come through LogMessage() before.
+    /// The server could not be started or has crashed. LogMessage() reports that first.
     void Aborted();
 
-    /// The run is over, or the server has ended by itself; a line about the latter has come through LogMessage()
-    /// before.
+    /// The run is over, or the server has exited. LogMessage() reports an exit first.
     void Finished();
 
-    /// How far the run is, within the announced range.
+    /// The progress of the run, within the last ProgressRange().
     void Progress(int);
 
     void FileInProgress(const QString& inputFileName);
     void FileProcessed(const QString& inputFileName, const QString& outputFileName);
 
-    /// A file could not be processed. `action` is what the server did about it, a number of the server's;
-    /// `errorCode` is a ZTBatchMessage::Error.
+    /// A file could not be processed. `action` is what the server did about it, as a number that the server defines;
+    /// `errorCode` is a ZTBatchMessage::Error. The file names are empty for an error that concerns no file.
     void ProcessError(const QString& inputFileName, const QString& outputFileName, int action, int errorCode);
 
     /// A line for the run's log.
     void LogMessage(const QString& log);
 
-    /// The least and the greatest value of Progress() from now on.
+    /// The minimum and the maximum of Progress() from now on.
     void ProgressRange(int, int);
 
-    /// The server has met a case that its policy leaves to the user, and waits for the answer.
+    /// The server has a case that the policy leaves to the user, and waits for the answer.
     void InputQuestion();
     void OutputQuestion();
     void ProcessingQuestion();
@@ -78,8 +77,8 @@ private:
 
     ZTBatchSession(const QString& id, QObject* parent);
 
-    // What the manager tells. Each emits one signal and does nothing behind it: a slot may have deleted the session.
-    // A finished file is progress too, hence the two SessionProgress(): the one with names emits FileProcessed().
+    // Called by the manager. Each emits one signal and does nothing after it, since a slot may have deleted the
+    // session. A processed file is progress too: the SessionProgress() with file names emits FileProcessed().
     void SessionPaused();
     void SessionResumed();
     void SessionCancelled();

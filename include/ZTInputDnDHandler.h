@@ -5,8 +5,8 @@
 class QMimeData;
 class ZTBatchInputModel;
 
-/// Accepts what is dragged onto the host's view of inputs. A module derives from it and registers an object with
-/// ZTBatchManager::RegisterDragAndDropHandler(); the view asks for it there.
+/// Handles drag and drop onto the host's input view. A module derives from this class and registers an object with
+/// ZTBatchManager::RegisterDragAndDropHandler(), where the view finds it.
 class BATCHCORE_EXPORT ZTBatchManager::ZTInputDnDHandler : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     /// Whether `data` may be dropped.
     bool IsAccept(const QMimeData& data) const;
 
-    /// Adds what `data` holds to `model`.
+    /// Adds the content of `data` to `model`.
     void DropData(ZTBatchInputModel* model, const QMimeData& data);
 
 protected:

@@ -5,8 +5,8 @@
 class QModelIndex;
 class ZTBatchInputModel;
 
-/// Refreshes entries of the host's input model. A module derives from it and registers an object with
-/// ZTBatchManager::RegisterInputUpdateHandler(); the view asks for it there.
+/// Refreshes entries of the host's input model. A module derives from this class and registers an object with
+/// ZTBatchManager::RegisterInputUpdateHandler(), where the view finds it.
 class BATCHCORE_EXPORT ZTBatchManager::ZTInputUpdateHandler : public QObject
 {
     Q_OBJECT
@@ -16,7 +16,8 @@ public:
     ~ZTInputUpdateHandler() override;
 
 public Q_SLOTS:
-    /// Refreshes the entry `id` of `pModel`; `ignoreModificationTime` asks for it even when the file looks unchanged.
+    /// Refreshes the entry `id` of `pModel`. With `ignoreModificationTime`, even if the file's modification time has
+    /// not changed.
     void Update(ZTBatchInputModel* pModel, const QModelIndex& id, bool ignoreModificationTime);
 
 protected:

@@ -10,21 +10,22 @@ class ZTBatchInputModel;
 
 /// The input tree as a flat table of three columns, for a view that looks like a grid.
 ///
-/// Each folder has a row of its own, in depth-first order. Below a folder that is expanded come its files, three to a
-/// row; then its sub-folders, which are shown whether it is expanded or not. The files outside all folders come last
-/// and are always shown.
+/// Each folder has a row of its own, in depth-first order. Below an expanded folder come its files, three to a row, and
+/// then its sub-folders. The sub-folders of a collapsed folder are shown too. Files outside any folder come last and
+/// are always shown.
 ///
-/// The rows are made anew by rebuild() alone, that is when the source is reset, when it emits ModelUpdated(), and by
-/// toggleFolder(). Until then they keep to their nodes: a row follows a node whose place changes and is empty when the
-/// node is gone. What happens to a folder never takes its state away, whether it is expanded.
+/// Only rebuild() changes the rows. It runs when the source is reset, when the source emits ModelUpdated(), and in
+/// toggleFolder(). Between rebuilds each cell keeps its node: it follows a node that moves, and is empty when the node
+/// is removed. Rebuilds preserve which folders are expanded.
 ///
-/// Belongs to the thread of its source, which it does not own: once that is destroyed, the cells are empty.
+/// Use the table only on the thread of its source. It does not own the source; when that is destroyed, all cells are
+/// empty.
 class BATCHCORE_EXPORT ZVBatchInputTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// A table without rows: the first rebuild() makes them.
+    /// Creates an empty table; the first rebuild() adds the rows. `source` must not be null.
     explicit ZVBatchInputTableModel(ZTBatchInputModel* source, QObject* parent = nullptr);
     ~ZVBatchInputTableModel() override;
 
@@ -34,9 +35,10 @@ public:
     /// Always 3.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
 
-    /// What the source says about the folder, in column 0 of its row, or about the file; nothing in other cells.
+    /// The source's data of the cell's file, or of the folder in column 0 of its row; an invalid value in other cells.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
+    /// Null when the source was destroyed.
     ZTBatchInputModel* sourceModel() const;
 
     /// False for a row that does not exist.
@@ -45,28 +47,28 @@ public:
     /// Whether there is a folder row.
     bool HasFolder() const;
 
-    /// Whether the files of `folder`, an index of the source, are shown at the next rebuild.
+    /// Whether `folder`, an index of the source, is expanded.
     bool isFolderExpanded(const QModelIndex& folder) const;
 
-    /// The index of the source behind a cell. Every cell of a folder row leads to the folder, also those without data.
+    /// The source index of a cell. Every cell of a folder row maps to the folder, including those without data.
     QModelIndex mapToSource(const QModelIndex& index) const;
 
-    /// The first cell that shows `sourceIndex`; invalid when there is none. An invalid index leads to the first cell
-    /// whose node has left the source.
+    /// The first cell that shows `sourceIndex`; invalid if there is none. An invalid index maps to the first cell whose
+    /// node was removed from the source.
     QModelIndex mapFromSource(const QModelIndex& sourceIndex) const;
 
-    /// Makes the rows anew, in a model reset, then emits UpdateSelectionModel() if that was asked for.
+    /// Rebuilds the rows in a model reset, and then emits UpdateSelectionModel() if that was requested.
     void rebuild();
 
-    /// Expands or collapses `folder`, an index of the source, and makes the rows anew with UpdateSelectionModel() at
-    /// the end. Ignored for an invalid index.
+    /// Expands or collapses `folder`, an index of the source, rebuilds the rows and emits UpdateSelectionModel().
+    /// Ignores invalid indexes and indexes of other models.
     void toggleFolder(const QModelIndex& folder);
 
-    /// Asks for UpdateSelectionModel() at the next rebuild, or takes that back.
+    /// Requests UpdateSelectionModel() for the next rebuild, or cancels the request.
     void UpdateSelection(bool pending);
 
 Q_SIGNALS:
-    /// Comes at the end of a rebuild for which it was asked: the view restores the selection that the reset took away.
+    /// Emitted at the end of a rebuild for which it was requested: the view restores the selection lost in the reset.
     void UpdateSelectionModel();
 
 private:

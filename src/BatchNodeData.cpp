@@ -27,8 +27,7 @@ bool BatchNodeData::operator<(const BatchNodeData& other) const
     if (type == other.type) {
         return QString::compare(inputText, other.inputText, Qt::CaseSensitive) < 0;
     }
-    // Only folders stand apart: the types behind them have no order among each other, and saved jobs keep the order
-    // that this gives.
+    // Only folders sort before other types, which have no order among each other. Saved jobs depend on this order.
     return type == Folder;
 }
 

@@ -15,14 +15,14 @@ constexpr ZTDiagnostics diagnostics("include\\ZTBatchInputModel");
 #endif
 #endif
 
-/// A sanitizer must see each node alone, to find those that are used after their end.
+/// With a sanitizer, each node has its own allocation, so that use after destruction is detected.
 #ifdef BATCHCORE_ADDRESS_SANITIZER
 constexpr bool nodesShareSlabs = false;
 #else
 constexpr bool nodesShareSlabs = true;
 #endif
 
-/// Whether an object of `size` bytes comes from the pool. A host may derive from the node.
+/// Whether an object of `size` bytes comes from the pool. Classes of a host that derive from the node do not.
 constexpr bool IsPooled(std::size_t size)
 {
     return nodesShareSlabs && size == sizeof(TreeNode<BatchNodeData>);
@@ -30,7 +30,7 @@ constexpr bool IsPooled(std::size_t size)
 
 ZTSlabPool& NodePool()
 {
-    // Never destroyed: nodes that outlive everything else still find it.
+    // Never destroyed, since nodes may be destroyed later than static objects.
     static auto* const pool = new ZTSlabPool(sizeof(TreeNode<BatchNodeData>));
     return *pool;
 }
@@ -40,14 +40,14 @@ ZTSlabPool& NodePool()
 template<typename T>
 void* TreeNode<T>::operator new(std::size_t size)
 {
-    return IsPooled(size) ? NodePool().Take() : ::operator new(size);
+    return IsPooled(size) ? NodePool().Allocate() : ::operator new(size);
 }
 
 template<typename T>
 void TreeNode<T>::operator delete(void* memory, std::size_t size) noexcept
 {
     if (IsPooled(size)) {
-        NodePool().GiveBack(memory);
+        NodePool().Free(memory);
     } else {
         ::operator delete(memory);
     }
@@ -70,7 +70,7 @@ TreeNode<T>::TreeNode() = default;
 template<typename T>
 TreeNode<T>::~TreeNode()
 {
-    // The list grows while it is worked off. A recursion would overflow on deep trees.
+    // The list grows while it is processed. Recursion would overflow the stack on deep trees.
     QList<TreeNode*> descendants;
     descendants.swap(children);
     for (int i = 0; i < descendants.size(); ++i) {
@@ -120,8 +120,8 @@ int TreeNode<T>::childRow(const TreeNode* child) const
     for (int distance = 1; distance <= farthest; ++distance) {
         for (const int row : {hint - distance, hint + distance}) {
             if (row >= 0 && row < count && children.at(row) == child) {
-                // Its neighbours most likely moved as far. As many are put right as were passed, so that the work stays
-                // in proportion to the search, and a walk in any direction finds the next ones at once.
+                // Its neighbours have most likely moved as far. Refreshing as many as were passed keeps the cost in
+                // proportion to the search, and lets a walk in either direction find the next ones at once.
                 refreshRowHints(row - distance, row + distance);
                 return row;
             }
@@ -130,7 +130,7 @@ int TreeNode<T>::childRow(const TreeNode* child) const
     return -1;
 }
 
-/// Notes where the children in the rows from `first` to `last` stand, as far as there are such rows.
+/// Updates the row hints of the children from `first` to `last`, clamped to the existing rows.
 template<typename T>
 void TreeNode<T>::refreshRowHints(int first, int last) const
 {
@@ -142,12 +142,12 @@ void TreeNode<T>::refreshRowHints(int first, int last) const
     }
 }
 
-/// The row at which `child` is to be inserted.
+/// The row at which insertChild() inserts `child`.
 template<typename T>
 int TreeNode<T>::sortedRow(const TreeNode& child) const
 {
-    // Rows that insertRows() made, and records that a host changed in place, may break the order. Then the result
-    // depends on each step taken here, and it decides the order in saved jobs: the steps stay as they are.
+    // Rows from insertRows() and records that a host changed in place may break the order. The result then depends on
+    // each step of the search, and it determines the order in saved jobs: do not change the steps.
     const int count = children.size();
     if (count == 0) {
         return 0;
@@ -192,7 +192,7 @@ void TreeNode<T>::insertChildAt(int row, TreeNode* child)
 {
     child->parent = this;
     child->rowHint = row;
-    // Qt moves the shorter side of a list if there is room at both ends; room at the front only comes from prepending.
+    // QList moves the shorter side if it has room at both ends, but only prepending creates room at the front.
     if (row < children.size() / 2) {
         children.prepend(child);
         children.move(0, row);

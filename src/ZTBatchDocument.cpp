@@ -15,7 +15,7 @@ namespace {
 
 constexpr ZTDiagnostics diagnostics("src\\ZTBatchDocument");
 
-/// A line that a text browser shows character by character: one that it would take for markup is made markup.
+/// `line` in a form that a text browser shows literally. A line that looks like markup is escaped.
 QString LiteralLine(const QString& line)
 {
     if (!Qt::mightBeRichText(line)) {
@@ -24,7 +24,7 @@ QString LiteralLine(const QString& line)
     return QLatin1String("<span style=\"white-space:pre-wrap\">") + line.toHtmlEscaped() + QLatin1String("</span>");
 }
 
-/// Tells the user about `paths`, unless there are none.
+/// Appends `header` and `paths` to `sink`, if there are any paths.
 void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, const QStringList& paths)
 {
     if (sink == nullptr || paths.isEmpty()) {
@@ -32,7 +32,7 @@ void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, co
     }
     sink->append(header);
     for (const QString& path : paths) {
-        // A handler of what the sink emits may delete it.
+        // A slot connected to the sink may delete it.
         if (sink == nullptr) {
             return;
         }
@@ -40,7 +40,7 @@ void AppendWarning(const QPointer<QTextBrowser>& sink, const QString& header, co
     }
 }
 
-/// The job in `xml`; none, with a debug line, when it is no text of a job.
+/// The job in `xml`; nothing, with a debug line, if `xml` is not the text of a job.
 std::optional<ZTBatchJob> ReadJob(const QString& xml)
 {
     ZTGuardedDom dom;
@@ -121,13 +121,13 @@ QString ZTBatchDocument::Serialize(QObject* warningSink) const
     ZTBatchJobWriter writer(d->documentName);
     const ZTBatchInputOutline outline(*d->inputModel, warningSink == nullptr ? ZTBatchInputOutline::Everything
                                                                              : ZTBatchInputOutline::ExistingOnce);
-    // Before anybody is told anything: the outline lasts only as long as nobody edits the model.
+    // Before any slot can run: the outline is valid only until the model changes.
     writer.WriteInput(outline);
 
     const QPointer<QTextBrowser> browser(qobject_cast<QTextBrowser*>(warningSink));
     AppendWarning(browser, tr("Warning! Some files are not found and skipped:"), outline.MissingFiles());
     AppendWarning(browser, tr("Warning! There are duplicate files:"), outline.DuplicateFiles());
-    // Nothing finds these yet: which formats can be read is not known here. The report is ready for the day it is.
+    // A hook for later: the library does not know yet which formats can be read.
     const QStringList unsupportedFiles;
     AppendWarning(browser, tr("Warning! These files of unsupported format cannot be processed:"), unsupportedFiles);
     if (self == nullptr) {
@@ -148,7 +148,7 @@ bool ZTBatchDocument::Deserialize(const QString& xml)
         return false;
     }
 
-    // From here on everything that is changed is announced, and whoever hears it may delete the document.
+    // From here on each change emits, and a slot may delete the document.
     const QPointer<ZTBatchDocument> self(this);
     diagnostics.Assert(d->inputModel != nullptr);
     d->inputModel->removeRows(0, d->inputModel->rowCount());
@@ -210,7 +210,7 @@ void ZTBatchDocument::SetModificationState(int value)
 
 void ZTBatchDocument::IncrementModificationState()
 {
-    // Whatever the name says, it stops at 1: hosts only ask whether there is something to save.
+    // Despite its name it stops at 1: hosts only need to know whether there is something to save.
     if (d->modificationState != 0) {
         return;
     }

@@ -25,7 +25,7 @@ int ClampedToInt(qint64 value)
 
 bool IsHeic(const QString& path)
 {
-    // Most paths are told by their end alone; QFileInfo settles what is a suffix on this platform.
+    // The end decides for most paths; QFileInfo knows what a suffix is on this platform.
     return path.endsWith(QLatin1String(".heic"), Qt::CaseInsensitive) &&
            QFileInfo(path).suffix().toLower() == QLatin1String("heic");
 }
@@ -41,12 +41,12 @@ void AddFileNodes(Node* folder, int count)
     }
 }
 
-/// Subtracts what the children in the rows from `first` up to, not including, `end` count, from `folder` and from
+/// Subtracts the counts of the children in the rows from `first` up to, but not including, `end`, from `folder` and
 /// every node above it.
 void SubtractFileNodes(Node* folder, int first, int end)
 {
-    // One child after the other leaves the tree, and no count may be below 0 after any of them. A host may have made a
-    // count negative, so the lowest point need not be the end.
+    // The children are removed one by one, and no count may fall below 0 after any of them. A host may have made a
+    // count negative, so the minimum need not be at the end.
     constexpr qint64 nothing = std::numeric_limits<qint64>::min();
     qint64 total = 0;
     qint64 highestTotal = nothing;
@@ -178,12 +178,12 @@ bool ZTBatchInputModel::insertRows(int row, int count, const QModelIndex& parent
 
     const int rowsBefore = folder->children.size();
     const int position = qBound(0, row, rowsBefore);
-    // A count of 0 or less is announced like any other: handlers of the two signals rely on seeing every call.
+    // A count of 0 or less is announced too: slots of the two signals rely on every call.
     beginInsertRows(parent, position, ClampedToInt(qint64(position) + count - 1));
     for (int i = 0; i < count; ++i) {
         folder->insertChildAt(rowsBefore + i, new Node);
     }
-    // All of them moved to their place at once: one by one each would shift all rows behind it.
+    // Moved into place together: inserting them one by one would shift all later rows each time.
     std::rotate(folder->children.begin() + position, folder->children.begin() + rowsBefore, folder->children.end());
     for (int i = 0; i < count; ++i) {
         folder->children.at(position + i)->rowHint = position + i;
@@ -212,7 +212,7 @@ bool ZTBatchInputModel::removeRows(int row, int count, const QModelIndex& parent
         return true;
     }
     beginRemoveRows(parent, first, ClampedToInt(first + removed - 1));
-    // Only rows that exist can be destroyed, whatever was announced.
+    // Only existing rows can be destroyed, whatever was announced.
     const int end = static_cast<int>(qMin<qint64>(first + removed, folder->children.size()));
     for (ZTBatchInputObserver* const observer : qAsConst(observers)) {
         observer->RowsLeaving(*folder, first, end - first);
@@ -221,7 +221,7 @@ bool ZTBatchInputModel::removeRows(int row, int count, const QModelIndex& parent
     const QList<Node*> doomed = folder->children.mid(first, end - first);
     folder->children.erase(folder->children.begin() + first, folder->children.begin() + end);
     for (Node* const node : doomed) {
-        // Already out of the list: nothing is left for the destructor to search there.
+        // Already removed from the list, so the destructor need not search it.
         node->parent = nullptr;
         delete node;
     }
@@ -243,8 +243,8 @@ QModelIndex ZTBatchInputModel::InsertBranch(TreeNode<BatchNodeData>* node, const
     Node* const folder = nodeOrRoot(parent);
     diagnostics.Assert(folder != nullptr, 377);
 
-    // Only the insertion tells the row, so the node is in the list before the insertion is announced. Persistent
-    // indexes bear that: Qt picks those to be moved by the rows that they had before.
+    // Only the insertion yields the row, so the node is inserted before the insertion is announced. Persistent indexes
+    // still work: Qt selects those to move by their rows before the insertion.
     const int row = folder->insertChild(node);
     const QPointer<ZTBatchInputModel> self(this);
     const bool isTopLevel = !parent.isValid();
@@ -257,7 +257,7 @@ QModelIndex ZTBatchInputModel::InsertBranch(TreeNode<BatchNodeData>* node, const
     }
     endInsertRows();
 
-    // A handler may have removed the folder or deleted the model.
+    // A slot may have removed the folder or deleted the model.
     const auto isGone = [&] { return self == nullptr || (!isTopLevel && !persistentParent.isValid()); };
     if (isGone()) {
         return QModelIndex();

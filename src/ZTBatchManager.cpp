@@ -17,7 +17,7 @@ constexpr ZTDiagnostics diagnostics("src\\ZTBatchManager");
 
 ZTBatchManager* instance = nullptr;
 
-/// Lets values of type T, which the signals name as `name`, travel through queued connections and signal spies.
+/// Registers T under `name`, which the signals use, for queued connections and signal spies.
 template<typename T>
 void RegisterSignalType(const char* name)
 {
@@ -42,7 +42,7 @@ ZTBatchManager* ZTBatchManager::Instance()
 
 void ZTBatchManager::ReleaseInstance()
 {
-    // Cleared first: whoever is told of an object's destruction on the way finds no half-destroyed manager.
+    // Cleared first, so that slots called during the destruction do not find a half-destroyed manager.
     delete std::exchange(instance, nullptr);
 }
 
@@ -244,7 +244,7 @@ void ZTBatchManager::UnregisterInputHandler()
 void ZTBatchManager::timerEvent(QTimerEvent* event)
 {
     diagnostics.Assert(d != nullptr);
-    // The watchdog ends the server, and a slot that hears of it may release the manager.
+    // The watchdog ends the server, and a slot may then release the manager.
     const QPointer<ZTBatchManager> guard(this);
     d->HandleTimer(event->timerId());
     if (guard) {

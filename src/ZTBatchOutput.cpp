@@ -10,8 +10,8 @@ namespace {
 
 constexpr ZTDiagnostics diagnostics("src\\ZTBatchOutput");
 
-/// Neither is less: a NaN counts as equal, otherwise a record that holds one would differ from itself and every call of
-/// its setter would be a change.
+/// Neither is less. A NaN equals every number: otherwise a record with a NaN would differ from itself, and every call
+/// of its setter would be a change.
 bool SameNumber(double a, double b)
 {
     return !(a < b) && !(a > b);
@@ -58,7 +58,7 @@ QString ZTBatchOutputSettings::GetOriginalFormat()
 
 QString ZTBatchOutputSettings::GetOriginalFormatName()
 {
-    //: Stands among the names of file formats: each picture keeps the format that it has.
+    //: Appears among the names of file formats and means that each picture keeps its own format.
     return tr("Original");
 }
 
@@ -177,7 +177,7 @@ void ZTBatchOutputSettings::SetICCProfile(const QByteArray& profile)
 {
     diagnostics.Assert(d != nullptr);
     d->iccProfile = profile;
-    // Without a comparison: hosts take each call as the moment to show the profile anew.
+    // Emitted without a comparison: hosts refresh the profile that they show at each call.
     Q_EMIT AdvancedSettingsChanged();
 }
 
@@ -248,7 +248,7 @@ void ZTBatchOutputSettings::SetPrefixSeparator(const QString& separator)
         return;
     }
     d->prefixSeparator = separator;
-    // Each separator announces the other's change. Hosts were built on this crossing.
+    // Each separator emits the signal of the other. Hosts rely on that.
     Q_EMIT SuffixSeparatorChanged();
 }
 
@@ -295,7 +295,7 @@ void ZTBatchOutputSettings::SetTransformationSettings(const Transformation& sett
 
 void ZTBatchOutputSettings::RefreshPath()
 {
-    // The old bookmark goes first: a platform may refuse a second grant of a place while the first is held.
+    // Released first: a platform may refuse a second grant for a path while the first is held.
     d->pathBookmark = ZVFileBookmark();
     d->pathBookmark = ZVFileBookmark(d->path);
 }
@@ -325,7 +325,7 @@ void ZTBatchOutputSettings::RestoreDefault()
 
         [](ZTBatchOutputSettings& settings) { settings.SetPath(QString()); },
     };
-    // Each step may emit, and whoever hears it may delete the object.
+    // Each step may emit, and a slot may delete the object.
     const QPointer<ZTBatchOutputSettings> self(this);
     for (const Step step : steps) {
         if (self == nullptr) {

@@ -7,7 +7,7 @@ namespace {
 
 constexpr ZTDiagnostics diagnostics("src\\ZTBatchSession");
 
-/// The manager that a command goes to.
+/// The manager that receives the commands; there must be one.
 ZTBatchManager& Manager(int line = __builtin_LINE())
 {
     ZTBatchManager* manager = ZTBatchManager::Instance();
@@ -26,7 +26,7 @@ ZTBatchManager::ZTBatchSession::ZTBatchSession(const QString& id, QObject* paren
 
 ZTBatchManager::ZTBatchSession::~ZTBatchSession()
 {
-    // A slot of destroyed() may release the manager, which must not find a child that is being deleted already.
+    // A slot of destroyed() may release the manager, which must not delete this object again as its child.
     setParent(nullptr);
 }
 

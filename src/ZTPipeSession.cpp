@@ -28,7 +28,8 @@ ZTPipeSession::~ZTPipeSession()
 {
     quit();
     wait();
-    // A session on an adopted socket whose thread ended earlier may have lost its worker to the event loop already.
+    // If the thread of a session on an adopted socket ended earlier, the event loop may have deleted the worker
+    // already.
     if (!worker) {
         return;
     }

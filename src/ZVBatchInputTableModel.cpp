@@ -8,7 +8,7 @@ ZVBatchInputTableModel::ZVBatchInputTableModel(ZTBatchInputModel* source, QObjec
     : QAbstractTableModel(parent)
     , d(std::make_unique<Private>(source))
 {
-    // Made by pointer: rebuild() is no slot.
+    // Connected by pointer, since rebuild() is not a slot.
     connect(source, &QAbstractItemModel::modelReset, this, &ZVBatchInputTableModel::rebuild);
     connect(source, &ZTBatchInputModel::ModelUpdated, this, &ZVBatchInputTableModel::rebuild);
 }
@@ -27,7 +27,7 @@ int ZVBatchInputTableModel::columnCount(const QModelIndex&) const
 
 QVariant ZVBatchInputTableModel::data(const QModelIndex& index, int role) const
 {
-    // Only the first cell of a folder row answers, although all of them lead to the folder.
+    // Only the first cell of a folder row has data, although all of them map to the folder.
     if (isFolderRow(index.row()) && index.column() != 0) {
         return QVariant();
     }
@@ -47,7 +47,7 @@ bool ZVBatchInputTableModel::isFolderRow(int row) const
 
 bool ZVBatchInputTableModel::HasFolder() const
 {
-    // If there are folders, the first of them is in the first row.
+    // The first row is a folder row if there are any folders.
     return isFolderRow(0);
 }
 
@@ -58,14 +58,14 @@ bool ZVBatchInputTableModel::isFolderExpanded(const QModelIndex& folder) const
 
 QModelIndex ZVBatchInputTableModel::mapToSource(const QModelIndex& index) const
 {
-    // Wherever the user clicks in the row of a folder, the folder is meant.
+    // A click on any cell of a folder row means the folder.
     return index.isValid() ? d->rows.IndexAt(index.row(), index.column()) : QModelIndex();
 }
 
 QModelIndex ZVBatchInputTableModel::mapFromSource(const QModelIndex& sourceIndex) const
 {
-    // A cell whose node is gone has an invalid index, and those are all equal.
-    const ZVBatchInputRows::Cell cell = sourceIndex.isValid() ? d->rows.Find(sourceIndex) : d->rows.FindGone();
+    // A cell whose node was removed has an invalid index, and all invalid indexes are equal.
+    const ZVBatchInputRows::Cell cell = sourceIndex.isValid() ? d->rows.Find(sourceIndex) : d->rows.FindRemoved();
     return index(cell.row, cell.column);
 }
 

@@ -82,12 +82,12 @@
     <name>ZTBatchOutputSettings</name>
     <message>
         <source>Image</source>
-        <extracomment>Part of the names of results until the user chooses another text, as in &quot;Image001&quot;.</extracomment>
+        <extracomment>The default text in the names of results, as in &quot;Image001&quot;.</extracomment>
         <translation>Imagen</translation>
     </message>
     <message>
         <source>Original</source>
-        <extracomment>Stands among the names of file formats: each picture keeps the format that it has.</extracomment>
+        <extracomment>Appears among the names of file formats and means that each picture keeps its own format.</extracomment>
         <translation>Original</translation>
     </message>
 </context>

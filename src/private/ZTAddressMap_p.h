@@ -5,41 +5,41 @@
 
 #include <array>
 
-/// Numbers, kept by the addresses of objects.
+/// Maps addresses of objects to numbers.
 ///
-/// Objects that stand near each other in memory have their numbers near each other, too: who looks them up one after
-/// the other finds the numbers in the processor's cache, where a hash table of a million objects would not be.
+/// Objects that are close in memory have their numbers close in memory too, so successive lookups hit the processor's
+/// cache. The lookups in a hash table of a million objects would not.
 class ZTAddressMap
 {
 public:
-    /// The least size of an object: of two that are smaller one might hide the other.
-    static constexpr int leastSize = 32;
+    /// The minimum size of an object in bytes: smaller objects could share an entry.
+    static constexpr int minimumObjectSize = 32;
     static constexpr int none = -1;
 
     bool IsEmpty() const { return pages.isEmpty(); }
     void Clear();
 
-    /// Sets the number of the object at `address`, 0 or more. An object that overlapped this one and is gone may lose
-    /// its number.
+    /// Sets the number of the object at `address`, which must be 0 or more. May overwrite the number of a destroyed
+    /// object whose memory overlapped.
     void Insert(const void* address, int number);
 
-    /// The number that an object at `address` was given, `none` without one; or that of an object that is gone and
-    /// overlapped this address: the caller knows whom it gave the number to. The address is not looked into.
+    /// The number of the object at `address`, or `none`. It may be the number of a destroyed object whose memory
+    /// overlapped, so the caller must check which object has the number. The address is not dereferenced.
     int Value(const void* address) const;
 
 private:
     static constexpr int pageSize = 4096;
-    using Page = std::array<int, pageSize / leastSize>;
+    using Page = std::array<int, pageSize / minimumObjectSize>;
 
     static quintptr PageOf(const void* address) { return reinterpret_cast<quintptr>(address) / pageSize; }
     static std::size_t SlotOf(const void* address)
     {
-        return reinterpret_cast<quintptr>(address) % pageSize / leastSize;
+        return reinterpret_cast<quintptr>(address) % pageSize / minimumObjectSize;
     }
 
     QVector<Page> pages;
     QHash<quintptr, int> pageNumbers;
-    /// The page used last, which is most often the next.
+    /// Cache of the page used last.
     mutable quintptr lastPage = 0;
     mutable int lastPageNumber = none;
 };

@@ -8,8 +8,8 @@
 
 #include <QPointer>
 
-/// The state of a ZTBatchDocument. The three objects are the document's children; the pointers notice when a host
-/// deletes one all the same.
+/// The state of a ZTBatchDocument. The three objects are the document's children. The pointers are guarded, in case a
+/// host deletes one against the rules.
 class Q_DECL_HIDDEN ZTBatchDocument::Private
 {
 public:

@@ -2,22 +2,23 @@
 
 #include "ZTBatchInputModel.h"
 
-/// Hears how the rows of an input model change, when the model's persistent indexes follow: before anybody hears of it
-/// by signal. Must neither change the model nor make persistent indexes.
+/// Is notified of row changes of an input model at the time at which the model's persistent indexes are updated, before
+/// the signals. Must neither change the model nor create persistent indexes.
 ///
-/// For what the library keeps in step with the tree in great numbers: Qt asks every persistent index at every change.
+/// It replaces large numbers of persistent indexes, since Qt visits every persistent index at every change.
 class ZTBatchInputObserver
 {
 public:
     using Node = TreeNode<BatchNodeData>;
 
-    /// `count` rows have come into `folder`, the root at the top level, at `first`. May be 0 or less: see insertRows().
+    /// `count` rows were inserted into `folder` (the root for the top level) at `first`. `count` may be 0 or less: see
+    /// insertRows().
     virtual void RowsInserted(const Node& folder, int first, int count) = 0;
 
-    /// `count` rows are leaving `folder` at `first`. They are in the tree still.
+    /// `count` rows of `folder` are about to be removed at `first`. They are still in the tree.
     virtual void RowsLeaving(const Node& folder, int first, int count) = 0;
 
-    /// The model was reset: all persistent indexes end.
+    /// The model was reset, which invalidates all persistent indexes.
     virtual void ModelReset() = 0;
 
 protected:

@@ -9,7 +9,7 @@ ZTBatchInputOutline::ZTBatchInputOutline(const ZTBatchInputModel& model, Filter 
         QModelIndex index;
         int entry;
     };
-    // The root, and behind it the folders that are found on the way.
+    // The root, followed by the folders that the loop finds.
     entries.append(Entry());
     QVector<FolderEntry> folders{{QModelIndex(), 0}};
     for (int i = 0; i < folders.size(); ++i) {
@@ -36,7 +36,7 @@ bool ZTBatchInputOutline::IsWritten(const QString& path)
 {
     if (!QFileInfo::exists(path)) {
         missingFiles.Add(path);
-        // It may have gone away since it was met before.
+        // It may have been deleted since its first occurrence.
         if (writtenPaths.contains(path)) {
             duplicateFiles.Add(path);
         }

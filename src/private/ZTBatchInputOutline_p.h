@@ -6,23 +6,23 @@
 #include <QStringList>
 #include <QVector>
 
-/// Which nodes of an input model are written to a job's text, in which order, and which are left out and why.
+/// Selects the nodes of an input model that are written to a job's text, and records which are left out and why.
 ///
-/// Refers to the model's records: it lasts until the model changes.
+/// Refers to the model's records, so it is valid only until the model changes.
 class ZTBatchInputOutline
 {
 public:
     enum Filter { Everything, ExistingOnce };
 
-    /// With ExistingOnce, a node whose path does not exist, or was met before, is left out with everything below it.
-    /// The model is walked level by level, so that of two nodes with the same path the higher one stays.
+    /// With ExistingOnce, a node whose path does not exist or is a duplicate is left out with its subtree. The model is
+    /// visited level by level, so that of two nodes with the same path the upper one is kept.
     ZTBatchInputOutline(const ZTBatchInputModel& model, Filter filter);
 
-    /// The paths left out, each once, in the order in which they were met.
+    /// The paths that were left out, each once, in the order of the visit.
     QStringList MissingFiles() const { return missingFiles.inOrder; }
     QStringList DuplicateFiles() const { return duplicateFiles.inOrder; }
 
-    /// Calls `start(record)` when a node begins and `end()` when all below it is done. The nodes of a folder come in
+    /// Calls `start(record)` before and `end()` after the children of each node. The nodes of a folder are visited in
     /// the order of their rows.
     template<typename Start, typename End>
     void ForEach(Start start, End end) const;
@@ -47,7 +47,7 @@ private:
 
     bool IsWritten(const QString& path);
 
-    QVector<Entry> entries; ///< level by level, so that children stand together
+    QVector<Entry> entries; ///< level by level, so that siblings are adjacent
     QSet<QString> writtenPaths;
     PathList missingFiles;
     PathList duplicateFiles;
@@ -61,7 +61,7 @@ void ZTBatchInputOutline::ForEach(Start start, End end) const
         int next;
         int end;
     };
-    // A stack of its own instead of a recursion: trees can be deeper than the thread's stack bears.
+    // An explicit stack: recursion would overflow the thread's stack on deep trees.
     QVector<Range> open{{entries.first().firstChild, entries.first().childrenEnd}};
     while (true) {
         Range& range = open.last();

@@ -26,8 +26,8 @@ QDomNode NextNode(const QDomNode& node, const QDomNode& ancestor)
     return next;
 }
 
-/// The first element of each name below `ancestor`, in document order; null where there is none. One walk finds them
-/// all: a job can be large, and lists of elements by name are made by a walk for each.
+/// For each name the first element below `ancestor` in document order; null if there is none. Finds all of them in one
+/// walk, since jobs can be large and each list of elements by name would take a walk of its own.
 template<std::size_t count>
 std::array<QDomElement, count> FirstElements(const QDomNode& ancestor, const std::array<QLatin1String, count>& names)
 {
@@ -56,13 +56,14 @@ QString Text(const QDomElement& element, QLatin1String name)
     return element.attribute(name);
 }
 
-/// 0 for what is no number.
+/// 0 if the text is not a number.
 int Integer(const QDomElement& element, QLatin1String name, int missing = 0)
 {
     return element.hasAttribute(name) ? element.attribute(name).toInt() : missing;
 }
 
-/// As Integer(), for what is written without sign. Negative values come back: they went through the same conversion.
+/// As Integer(), for values that are written unsigned. Negative values survive, since the writer converts them
+/// likewise.
 int Unsigned(const QDomElement& element, QLatin1String name)
 {
     return static_cast<int>(element.attribute(name).toUInt());
@@ -92,7 +93,7 @@ QColor Color(const QDomElement& element, QLatin1String name)
     return color;
 }
 
-/// Numbers with white space between them; 0 from where they end or stop being numbers.
+/// Numbers separated by white space. All values from the first missing or invalid one on are 0.
 template<std::size_t count>
 std::array<int, count> Integers(QString text)
 {
@@ -104,15 +105,14 @@ std::array<int, count> Integers(QString text)
     return values;
 }
 
-/// Reads one node after the other. The names live as long as the reader: in a large job they are looked up too often to
-/// be made anew each time.
+/// Reads the input tree. The names are members because converting them for each lookup would be slow in large jobs.
 class InputReader
 {
 public:
     std::unique_ptr<Node> Read(const QDomElement& input)
     {
         auto root = std::make_unique<Node>();
-        // Folders that were met and those that were read, in one list that grows while it is worked off.
+        // A queue that keeps the folders that were read.
         QVector<std::pair<QDomElement, Node*>> folders{{input, root.get()}};
         for (int i = 0; i < folders.size(); ++i) {
             const auto [element, folder] = folders.at(i);
@@ -120,7 +120,7 @@ public:
                  child = child.nextSiblingElement(inputElement)) {
                 Node* const node = ReadNode(child);
                 if (folder == root.get()) {
-                    KeepAccess(node->data);
+                    SetBookmark(node->data);
                 }
                 if (node->data.type == Folder) {
                     folders.append({child, node});
@@ -129,7 +129,7 @@ public:
                 folder->insertChild(node);
             }
         }
-        // Until here a folder counts its own files. A folder stands behind the one that holds it.
+        // So far each folder counts only its own files. In the list it comes after its parent.
         for (int i = folders.size() - 1; i > 0; --i) {
             const Node* const folder = folders.at(i).second;
             folder->parent->data.fileNodesCount += folder->data.fileNodesCount;
@@ -151,8 +151,8 @@ private:
         return node;
     }
 
-    /// What the user chose is granted; what is below it comes with it.
-    static void KeepAccess(BatchNodeData& data)
+    /// Only for top-level nodes, which the user chose. The access covers everything below them.
+    static void SetBookmark(BatchNodeData& data)
     {
         if (QFileInfo::exists(data.fileName)) {
             data.bookmark = ZVFileBookmark(data.fileName);
@@ -225,8 +225,8 @@ ZTBatchJob::Naming ReadNaming(const QDomElement& element)
     return naming;
 }
 
-/// A missing attribute does not always take the default of a new record: jobs written before it existed were processed
-/// with the value that is given here.
+/// The values of missing attributes differ from the defaults of a new record: jobs that predate an attribute were
+/// processed with these.
 Settings::Transformation ReadTransformation(const QDomElement& element)
 {
     using namespace ZTBatchXml;
@@ -257,7 +257,7 @@ Settings::Transformation ReadTransformation(const QDomElement& element)
     return record;
 }
 
-/// What a job without the section means: no transformation, no margins, no shadow.
+/// For a job without the section: no transformation, no margins, no shadow.
 Settings::Transformation MissingTransformation()
 {
     Settings::Transformation record;
@@ -268,7 +268,7 @@ Settings::Transformation MissingTransformation()
 
 Settings::Crop ReadCrop(const QDomElement& element)
 {
-    // What older jobs call simply a crop is the exact one today.
+    // Older jobs only know whether there is a crop; it is the exact one of today.
     constexpr int typeOfOlderJobs = 5;
 
     Settings::Crop crop;

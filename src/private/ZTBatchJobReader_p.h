@@ -4,11 +4,11 @@
 
 class QDomDocument;
 
-/// Reads jobs from their XML form. Takes whatever there is: a section is the first element of its name, wherever it
-/// stands, and what is missing or makes no sense takes the value that it has always had then.
+/// Reads jobs from their XML form. Accepts any document: a section is the first element with its name at any depth, and
+/// missing or invalid values take fixed defaults.
 namespace ZTBatchJobReader {
 
-/// The job in `document`. Top-level nodes whose path exists now have a bookmark.
+/// The job in `document`. Top-level nodes whose path exists get a bookmark.
 ZTBatchJob Read(const QDomDocument& document);
 
 } // namespace ZTBatchJobReader

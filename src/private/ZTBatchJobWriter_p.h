@@ -6,7 +6,7 @@ class ZTBatchInputOutline;
 class ZTBatchOutputSettings;
 class ZTStyle;
 
-/// Writes the XML form of a job, section by section, in this order.
+/// Writes the XML form of a job. The sections must be written in the order of the functions.
 class ZTBatchJobWriter
 {
 public:
@@ -16,7 +16,7 @@ public:
     void WriteStyle(const ZTStyle& style);
     void WriteOutput(const ZTBatchOutputSettings& settings);
 
-    /// The text of the job. The writer is used up.
+    /// Returns the text of the job. The writer must not be used afterwards.
     QString TakeText();
 
 private:

@@ -12,7 +12,7 @@ void ZTBatchJob::MoveInputTo(ZTBatchInputModel& model)
     const QPointer<ZTBatchInputModel> target(&model);
     while (target != nullptr && !input->children.isEmpty()) {
         TreeNode<BatchNodeData>* const node = input->children.takeFirst();
-        // Taken out here, where it is known to be the first; the model would have to look for it.
+        // Removed here, where it is known to be the first; the model would have to search for it.
         node->parent = nullptr;
         target->InsertBranch(node, QModelIndex());
     }

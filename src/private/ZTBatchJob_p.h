@@ -12,7 +12,7 @@
 
 class ZTStyle;
 
-/// A job as it was read from a text, before any of it reaches a document.
+/// A job as read from a text, before it is applied to a document.
 struct ZTBatchJob
 {
     struct Effect
@@ -28,7 +28,7 @@ struct ZTBatchJob
         QByteArray options;
     };
 
-    /// What is said about one naming part. Only the fields that go with the template mean something.
+    /// The settings of one naming part. Only the fields that belong to the template are used.
     struct NamingPart
     {
         ZTBatchOutputSettings::NamingPart part = ZTBatchOutputSettings::PartPrefix;
@@ -45,7 +45,7 @@ struct ZTBatchJob
         QVector<NamingPart> parts; ///< in the order of the text, which may name a part twice
     };
 
-    /// Output settings; sections that are missing in the text and leave the settings alone have no value.
+    /// Output settings. A missing section whose settings are not to change has no value.
     struct Output
     {
         std::optional<ZTBatchOutputSettings::ImageSize> imageSize;
@@ -58,16 +58,16 @@ struct ZTBatchJob
         QByteArray iccProfile;
     };
 
-    std::unique_ptr<TreeNode<BatchNodeData>> input; ///< a root without meaning of its own; null without a section
+    std::unique_ptr<TreeNode<BatchNodeData>> input; ///< a root that carries no data; null without an input section
     QVector<Effect> effects;
     std::optional<Output> output;
 
-    /// Moves the nodes into the empty `model`, one after the other, then emits its ModelUpdated(). Does nothing without
-    /// an input section. Handlers may delete the model.
+    /// Moves the nodes one by one into the empty `model`, then emits its ModelUpdated(). Does nothing without an input
+    /// section. Slots may delete the model.
     void MoveInputTo(ZTBatchInputModel& model);
 
     void AppendEffectsTo(ZTStyle& style) const;
 
-    /// Gives `settings` what the text says. Does nothing without an output section. Handlers may delete the settings.
+    /// Applies the output settings to `settings`. Does nothing without an output section. Slots may delete `settings`.
     void SetOutputOf(ZTBatchOutputSettings& settings) const;
 };

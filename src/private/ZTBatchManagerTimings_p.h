@@ -1,13 +1,13 @@
 #pragma once
 
-/// How long the manager waits for what, in milliseconds. There is one set for the process; only tests change it.
+/// The manager's timeouts and intervals in milliseconds. One set for the process, which only tests change.
 struct ZTBatchManagerTimings
 {
-    int startupTimeout = 25000;        ///< from Start() until a server that is not connected is ended
-    int reconnectInterval = 1000;      ///< between two attempts to connect
-    int shutdownConnectTimeout = 1000; ///< for a pipe that is not connected when the manager is released
-    int serverEndTimeout = 30000;      ///< for a server that was asked to end
-    int listenerConnectTimeout = 100;  ///< for a server that listens on the pipe, whoever started it
+    int startupTimeout = 25000;        ///< from Start() until a server that is not connected is killed
+    int reconnectInterval = 1000;      ///< between attempts to connect
+    int shutdownConnectTimeout = 1000; ///< for an unconnected pipe when the manager is released
+    int serverEndTimeout = 30000;      ///< for a server that was asked to end, until it is killed
+    int listenerConnectTimeout = 100;  ///< for the connection that asks any listening server to end
 
     static ZTBatchManagerTimings& InUse();
 };

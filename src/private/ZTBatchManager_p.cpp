@@ -49,8 +49,8 @@ QDeadlineTimer ListenerDeadline()
 
 void ZTBatchManager::Private::CloseListener()
 {
-    // Not left to the event loop: a host that ends without one would take the message along. Nor destroyed here: a
-    // server that does not read would hold up the host.
+    // Not left to the event loop: a host that ends without one would lose the message. Not destroyed here either: a
+    // server that does not read would block the host.
     const QDeadlineTimer deadline = ListenerDeadline();
     ZTPipeSessionEnd::Begin(AskListenerToClose(deadline), deadline);
 }
@@ -75,7 +75,7 @@ void ZTBatchManager::Private::CleanUp()
     if (serverProcess) {
         DisconnectServerProcess();
         if (serverProcess->HasEnded()) {
-            // Its end is being reported this moment, and a slot of the host releases the manager.
+            // Its end is being reported, and a slot of the host is releasing the manager.
             ReleaseServerProcess();
         }
     }
@@ -88,8 +88,8 @@ void ZTBatchManager::Private::CleanUp()
             serverProcess->Close();
         }
     }
-    // A pipe that connects only within that second gets no close message, so its server is waited for in vain and then
-    // killed together with the process object. A known lapse, kept because hosts know the shutdown to go like this.
+    // A server whose pipe connects only within that second gets no close message: the wait times out, and the server is
+    // killed with the process object. A known flaw, kept because hosts expect this shutdown.
     if (serverProcess && !serverProcess->WaitForEnd(ZTBatchManagerTimings::InUse().serverEndTimeout)) {
         diagnostics.Log(QStringLiteral("Finish server process error."));
     }
@@ -100,8 +100,7 @@ void ZTBatchManager::Private::Start()
     diagnostics.Assert(manager);
     const QPointer<ZTBatchManager> guard(manager);
     StartServerProcess();
-    // A process that fails inside the call has been reported and torn down; a pipe without a server would be watched
-    // in vain.
+    // A process that fails inside the call has been reported and torn down already; without it a pipe is useless.
     if (guard && serverProcess) {
         ConnectPipe();
     }
@@ -158,10 +157,10 @@ void ZTBatchManager::Private::CloseServerProcess()
 {
     diagnostics.Assert(manager);
     diagnostics.Assert(serverProcess);
-    // The session stays until the wait is over: its thread writes the message meanwhile, and a server that answers on
-    // the connection does not find it closed.
+    // The session exists until the wait is over: its thread writes the message meanwhile, and the connection stays open
+    // for a server that answers on it.
     const std::unique_ptr<ZTPipeSession> session = AskListenerToClose(ListenerDeadline());
-    ZTServerProcess* const process = serverProcess; // The host may start another one meanwhile.
+    ZTServerProcess* const process = serverProcess; // A slot of the host may start another one.
     if (!process->WaitForEnd(ZTBatchManagerTimings::InUse().serverEndTimeout)) {
         process->kill();
     }
@@ -288,9 +287,9 @@ void ZTBatchManager::Private::HandleSessionDestroyed(const QObject* session)
         return;
     }
     if (!pipe) {
-        // The place stays taken for the manager's life, so that a host that lets the server go before its session
-        // finds out: it may not create another one.
-        sessions.KeepPlaceOnly(id);
+        // The entry remains, so that IsAllowToCreateSession() stays false: a host must delete its session before the
+        // server goes.
+        sessions.MarkDeleted(id);
         return;
     }
     SendSessionMessage(ZTBatchMessage::MsgCloseSession, id);
@@ -306,7 +305,7 @@ void ZTBatchManager::Private::HandleServerError(QProcess::ProcessError error)
         return;
     }
     const QPointer<ZTBatchManager> guard(manager);
-    TellSessions(&ZTBatchSession::SessionAborted);
+    NotifySessions(&ZTBatchSession::SessionAborted);
     if (guard) {
         TearDown();
     }
@@ -315,21 +314,21 @@ void ZTBatchManager::Private::HandleServerError(QProcess::ProcessError error)
 void ZTBatchManager::Private::HandleServerFinished()
 {
     diagnostics.Assert(manager);
-    // Any end of the server by itself counts as abnormal, whatever its exit code; the sessions are told of it as the
-    // end of their run, not as an abortion.
+    // Any exit of the server counts as abnormal, whatever its exit code, but is reported to the sessions as the end of
+    // their run, not as an abort.
     const QPointer<ZTBatchManager> guard(manager);
-    TellSessions(&ZTBatchSession::SessionFinished);
+    NotifySessions(&ZTBatchSession::SessionFinished);
     if (guard) {
         TearDown();
     }
 }
 
-void ZTBatchManager::Private::TellSessions(void (ZTBatchSession::*end)())
+void ZTBatchManager::Private::NotifySessions(void (ZTBatchSession::*end)())
 {
     diagnostics.Assert(manager);
     const QString text = ZTBatchManager::tr("Abnormal process termination.");
     const QVector<QPointer<ZTBatchSession>> all = sessions.All();
-    // A session that its host deletes meanwhile is null here, and so are all of them when the manager goes.
+    // A session that a slot deletes meanwhile is null, and all are null if a slot releases the manager.
     for (const QPointer<ZTBatchSession>& session : all) {
         if (session) {
             session->SessionLog(text);
@@ -371,7 +370,7 @@ void ZTBatchManager::Private::DisconnectServerProcess()
 void ZTBatchManager::Private::ReleaseServerProcess()
 {
     diagnostics.Assert(manager);
-    // It may be the one that is emitting right now, so it must outlive a manager that is released from there.
+    // It may be emitting right now, so it must outlive a manager that is released by the slot.
     serverProcess->Release();
     serverProcess = nullptr;
 }
@@ -395,7 +394,7 @@ template<typename Payload>
 void ZTBatchManager::Private::Send(ZTBatchMessage::Message message, const Payload& payload)
 {
     diagnostics.Assert(manager);
-    // Without a pipe a message is lost as on a closed one.
+    // Without a pipe the message is dropped, as on an unconnected one.
     if (pipe) {
         pipe->Send(ZTBatchMessage::Name(message), ZTBatchPayload::Pack(payload));
     }
@@ -421,7 +420,7 @@ void ZTBatchManager::Private::SendAnswer(ZTBatchMessage::Message question, const
 void ZTBatchManager::Private::LoadPolicies()
 {
     diagnostics.Assert(manager);
-    // The fields hold the defaults so far. What is no number becomes 0.
+    // The fields still hold the defaults. A value that is not a number becomes 0.
     const QSettings file(PolicyFilePath(), QSettings::IniFormat);
     manager->SetInputPolicy(static_cast<InputPolicy>(file.value(inputPolicyKey, inputPolicy).toInt()));
     manager->SetOutputPolicy(static_cast<OutputPolicy>(file.value(outputPolicyKey, outputPolicy).toInt()));

@@ -12,14 +12,14 @@
 class ZTPipeSession;
 class ZTServerProcess;
 
-/// The manager's server process, its pipe, its sessions, its policies and its registries.
+/// The manager's server process, pipe, sessions, policies and registries.
 ///
-/// Where a routine emits or ends the server, a slot of the host may have deleted the manager, and this with it, when
-/// it returns.
+/// When a function that emits or ends the server returns, a slot of the host may have deleted the manager and this
+/// object.
 class Q_DECL_HIDDEN ZTBatchManager::Private
 {
 public:
-    /// Ends a server that listens on the pipe without waiting for it.
+    /// Asks a server that listens on the pipe to end. Does not wait for that.
     static void CloseListener();
 
     explicit Private(ZTBatchManager* manager);
@@ -27,13 +27,14 @@ public:
 
     void Initialize(const QString& newSettingsDir);
 
-    /// Saves the policies and ends the server. The last thing before the destruction.
+    /// Saves the policies and ends the server. Must be the last call before the destruction.
     void CleanUp();
 
     void Start();
     void Stop();
 
-    /// Ends the server through a connection of its own, as CloseListener() does, and waits for it. There must be one.
+    /// Asks the server to end as CloseListener() does, waits for its process and then kills it. There must be a
+    /// process.
     void CloseServerProcess();
 
     ZTBatchSession* CreateSession();
@@ -79,7 +80,7 @@ private:
     void StartServerProcess();
     void ConnectPipe();
     void EndServerProcess();
-    void TellSessions(void (ZTBatchSession::*end)());
+    void NotifySessions(void (ZTBatchSession::*end)());
     void TearDown();
     void ReleaseServerProcess();
     void DisconnectServerProcess();

@@ -21,7 +21,7 @@ void ZTBatchOutputSettings::Private::Initialize()
 {
     diagnostics.Assert(owner != nullptr);
     namingParts.append({TemplateNothing, QString(), 0, 1});
-    //: Part of the names of results until the user chooses another text, as in "Image001".
+    //: The default text in the names of results, as in "Image001".
     namingParts.append({TemplateCustomText, ZTBatchOutputSettings::tr("Image"), 0, 1});
     namingParts.append({TemplateNumber, QString(), 1, 3});
 }

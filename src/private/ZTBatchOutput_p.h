@@ -21,7 +21,7 @@ public:
     explicit Private(ZTBatchOutputSettings* owner);
     ~Private();
 
-    /// The record of `part`, shared with nobody.
+    /// The record of `part`, detached from any copy.
     NamingPartSettings& Naming(NamingPart part);
 
     ZTBatchOutputSettings* owner;

@@ -41,7 +41,7 @@ void ZTBatchSessionMap::Remove(const QString& id)
     entries.remove(id);
 }
 
-void ZTBatchSessionMap::KeepPlaceOnly(const QString& id)
+void ZTBatchSessionMap::MarkDeleted(const QString& id)
 {
     const auto found = entries.find(id);
     if (found != entries.end()) {

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QVector>
 
-/// The sessions of a manager by id, in the order of the ids. An entry may stay when its session is gone: it then holds
-/// no session, but its place.
+/// The sessions of a manager by id, in the order of the ids. An entry may remain when its session is deleted; the map
+/// is then not empty although it holds no session.
 class ZTBatchSessionMap
 {
 public:
@@ -16,29 +16,29 @@ public:
 
     bool IsEmpty() const;
 
-    /// The session of `id`; null when there is none, or no longer.
+    /// The session of `id`; null if there is none or it was deleted.
     Session* Find(const QString& id) const;
 
-    /// All sessions of this moment. They may be deleted while the caller walks over them.
+    /// All existing sessions. Slots may delete them while the caller iterates.
     QVector<QPointer<Session>> All() const;
 
-    /// The id under which `object` was inserted. Takes a session that is being deleted, which no guarded pointer knows
-    /// any more. Empty when there is none.
+    /// The id of `object`; empty if there is none. Also finds a session that is being deleted, whose guarded pointer is
+    /// null already.
     QString IdOf(const QObject* object) const;
 
-    /// Replaces an entry of the same id.
+    /// Replaces an entry with the same id.
     void Insert(const QString& id, Session* session);
 
     void Remove(const QString& id);
 
-    /// The session of `id` has been deleted, its place stays. Another session may get its address.
-    void KeepPlaceOnly(const QString& id);
+    /// Keeps the entry of `id` after its session was deleted, but forgets the address, which another session may get.
+    void MarkDeleted(const QString& id);
 
 private:
     struct Entry
     {
         QPointer<Session> session;
-        const QObject* address = nullptr; ///< of the session, until it is known to be deleted
+        const QObject* address = nullptr; ///< of the session; null once it is marked as deleted
     };
 
     QMap<QString, Entry> entries;

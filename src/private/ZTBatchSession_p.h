@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// A session is its id; everything else is the manager's and the server's.
+/// The state of a session, which is only its id.
 class Q_DECL_HIDDEN ZTBatchManager::ZTBatchSession::Private
 {
 public:

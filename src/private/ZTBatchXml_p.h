@@ -2,10 +2,10 @@
 
 #include <QLatin1String>
 
-/// The names of elements and attributes in the text of a job.
+/// The names of the elements and attributes in a job's text.
 namespace ZTBatchXml {
 
-/// QLatin1String measures a plain pointer at run time; an array knows its size.
+/// From an array the size is known at compile time; QLatin1String would measure a plain pointer at run time.
 template<int size>
 constexpr QLatin1String Name(const char (&text)[size])
 {
@@ -82,7 +82,7 @@ constexpr QLatin1String cropAlignment = Name("cropAlignment");
 constexpr QLatin1String cropWidth = Name("cropWidth");
 constexpr QLatin1String cropHeight = Name("cropHeight");
 constexpr QLatin1String cropType = Name("cropType");
-/// Only ever read: older jobs say with it that there is a crop.
+/// Only read, never written: in older jobs it means that there is a crop.
 constexpr QLatin1String cropEnabled = Name("cropEnabled");
 
 constexpr QLatin1String advancedOutput = Name("advancedOutput");

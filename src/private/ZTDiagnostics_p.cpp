@@ -15,6 +15,6 @@ void ZTDiagnostics::LogFailedAssert(int line) const
 void ZTDiagnostics::Fail(int line) const
 {
     LogFailedAssert(line);
-    // With no exception in flight this calls std::terminate, past every handler on the way up.
+    // Without an active exception this calls std::terminate(), and no exception handler of a caller runs.
     throw;
 }

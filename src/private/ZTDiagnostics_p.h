@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// What one source file says to the developer: debug lines and failed assertions.
+/// Writes the debug lines and checks the assertions of one source file.
 ///
-/// A source file that has something to say holds one constant of this class, made with its path in the form that
-/// stands in every log: from the root of the sources, with backslashes on every platform and without extension.
-/// A line number given by hand is one that tools which read our logs rely on; it stays when the code moves.
+/// Each source file that needs it has one constant of this class. `source` is the file's path as logs show it: relative
+/// to the root of the sources, with backslashes on every platform and without extension. Explicit line numbers are
+/// fixed, because tools that read the logs rely on them; they do not change when the code moves.
 class ZTDiagnostics
 {
 public:
@@ -18,8 +18,8 @@ public:
     /// Writes "[source:line] text" as a debug line.
     void Log(const QString& text, int line = __builtin_LINE()) const;
 
-    /// Ends the process when `condition` is false, after the line "[source:line] Assert failed". A broken invariant is
-    /// not an error that anybody could handle.
+    /// If `condition` is false, writes "[source:line] Assert failed" and ends the process. Nobody can handle a broken
+    /// invariant.
     void Assert(bool condition, int line = __builtin_LINE()) const
     {
         if (!condition) {
@@ -27,7 +27,7 @@ public:
         }
     }
 
-    /// Writes "[source:line] Assert failed" and goes on, for the places that must not end the process.
+    /// Writes "[source:line] Assert failed" and returns, for places that must not end the process.
     void LogFailedAssert(int line = __builtin_LINE()) const;
 
 private:

@@ -11,10 +11,10 @@ namespace {
 constexpr quint32 nullSize = 0xFFFFFFFF;
 constexpr int countSize = sizeof(quint32);
 
-/// How much is fetched from the device at once, and from which size on a payload is read without that detour. Bytes.
+/// The number of bytes fetched from the device at once. Larger payloads are read directly.
 constexpr int fetchSize = 64 * 1024;
 
-/// What is set aside at once for a large payload, if it is as large as that. Bytes.
+/// The first allocation for a large payload, in bytes, unless the payload is smaller.
 constexpr int smallestReserve = 4 * 1024 * 1024;
 
 void AppendCount(QByteArray& bytes, bool isNull, int size)
@@ -117,7 +117,7 @@ ZTFrameReader::Result ZTFrameReader::ReadLargePayload(QIODevice& device)
     const int filled = payload.size();
     const int step = static_cast<int>(std::min<qint64>(device.bytesAvailable(), largePayloadSize - filled));
     if (step > 0) {
-        // Doubling keeps the copying linear; the announced size alone never makes it large.
+        // Doubling keeps the copying linear. The announced size alone never causes a large allocation.
         if (payload.capacity() < filled + step) {
             payload.reserve(static_cast<int>(std::min<qint64>(
                 largePayloadSize, std::max<qint64>({smallestReserve, filled + step, 2 * qint64(filled)}))));
@@ -145,7 +145,7 @@ void ZTFrameReader::SetName(const char* bytes, quint32 count)
         name = QString();
         return;
     }
-    // Most messages have the name of the one before.
+    // Most messages have the same name as the previous one.
     const int size = static_cast<int>(count);
     const bool isLastName =
         !lastName.isNull() && lastNameBytes.size() == size && std::memcmp(lastNameBytes.constData(), bytes, count) == 0;

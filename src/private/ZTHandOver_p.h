@@ -7,14 +7,14 @@
 #include <utility>
 #include <vector>
 
-/// Carries items in order to the thread that takes them, from any thread. Its owner posts one event for as many items
-/// as wait, which is what makes a burst of small messages cheap: an event for each would cost more than its message.
+/// A queue of items from any thread to one taking thread. The owner posts one event for all waiting items, which makes
+/// a burst of small messages cheap: one event for each would cost more than the message.
 template<typename Item>
 class ZTHandOver
 {
 public:
-    /// Adds `more`, which is empty afterwards. Returns whether the taking thread has to be woken: it is not while it
-    /// still takes.
+    /// Adds `more` and leaves it empty. Returns whether the taking thread must be woken, which is not necessary while
+    /// it is still taking.
     bool Put(std::vector<Item>& more)
     {
         const QMutexLocker locker(&lock);
@@ -22,7 +22,7 @@ public:
         return !std::exchange(isTaking, true);
     }
 
-    /// The same with a function that gets the waiting items and adds to them.
+    /// The same, with a function that adds to the waiting items.
     template<typename Function>
     bool Put(const Function& put)
     {
@@ -31,8 +31,8 @@ public:
         return !std::exchange(isTaking, true);
     }
 
-    /// Appends every item that waits to `taken`, in the order in which they were put. Returns whether there were any;
-    /// who was woken takes until there are none.
+    /// Appends all waiting items to `taken`, in order. Returns whether there were any. A woken thread must call this
+    /// until it returns false.
     bool TakeAll(std::vector<Item>& taken)
     {
         const QMutexLocker locker(&lock);

@@ -3,7 +3,7 @@
 #include <QList>
 #include <QObject>
 
-/// Objects by ascending order; those of one order stand as they came. It owns none of them.
+/// Objects in ascending order, those of equal order in the order of insertion. Not owned.
 class ZTInputActionList
 {
 public:
@@ -12,7 +12,7 @@ public:
 
     void Insert(int order, QObject* action);
 
-    /// Returns whether `action` was there.
+    /// Returns whether `action` was in the list.
     bool Remove(const QObject* action);
 
 private:

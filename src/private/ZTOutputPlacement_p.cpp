@@ -21,7 +21,7 @@ bool IsZero(const QPointF& vector)
     return std::abs(vector.x()) <= limit && std::abs(vector.y()) <= limit;
 }
 
-/// Half up, as lengths are positive. Negative margins can ask for more than an int holds; that much is cut off.
+/// Rounds half up, as lengths are positive. Clamped to the range of int, which negative margins can exceed.
 int Rounded(double length)
 {
     constexpr double largest = std::numeric_limits<int>::max();
@@ -45,8 +45,8 @@ ZTOutputPlacement::ZTOutputPlacement(const QSize& size, int angle, const QMargin
 
     const QSizeF picture = PictureSize();
     outputSize = QSize(Rounded(picture.width()), Rounded(picture.height()));
-    // A picture that fills the frame to the pixel is neither scaled nor moved to the centre of the free area, even
-    // where margins of opposite signs put that elsewhere: it must stay as sharp as its source.
+    // A picture that fills the frame exactly is neither scaled nor moved to the centre of the free area, so that it
+    // stays as sharp as its source. That holds even if margins of opposite signs move the free area.
     transform = outputSize == size ? PlainRotation() : ScaledPlacement(picture.width());
 }
 
@@ -71,8 +71,8 @@ QSizeF ZTOutputPlacement::UprightSize() const
     }
 
     const double width = FreeHeight() * ratio;
-    // The limit is the width less the margins above and below, not those at the sides. Wrong as it looks, portraits
-    // have always been placed so, and a job must give the same pictures again.
+    // The limit subtracts the top and bottom margins from the width. That looks wrong, but portraits have always been
+    // placed this way, and a job must reproduce its results.
     const double widthLimit = double(size.width()) - margins.top() - margins.bottom();
     if (width > widthLimit) {
         return QSizeF(FreeWidth(), FreeWidth() / ratio);
@@ -82,7 +82,7 @@ QSizeF ZTOutputPlacement::UprightSize() const
 
 QSizeF ZTOutputPlacement::LyingSize() const
 {
-    // Only the picture's long side is fitted; uneven margins may let the short one reach into them.
+    // Only the long side is fitted; with uneven margins the short side may extend into them.
     const double ratio = AspectRatio();
     if (ratio >= 1) {
         return QSizeF(FreeHeight(), FreeHeight() / ratio);
@@ -121,8 +121,8 @@ double ZTOutputPlacement::FittedDiagonal(double boxWidth, double boxHeight, int 
     diagnostics.Assert(!IsZero(falling));
     diagnostics.Assert(!IsZero(rising));
 
-    // Where the turned diagonals, drawn out, meet the lines of the box edges. A diagonal along such a line gives an
-    // infinity or a NaN, which no edge contains.
+    // The points at which the rotated diagonals, extended, cross the lines of the box edges. A diagonal parallel to an
+    // edge yields an infinity or a NaN, which no edge contains.
     QVector<QPointF> crossings;
     const auto addOnHorizontalEdge = [&](const QPointF& point) {
         if (point.x() >= left && point.x() <= right) {
@@ -141,8 +141,8 @@ double ZTOutputPlacement::FittedDiagonal(double boxWidth, double boxHeight, int 
     addOnHorizontalEdge(QPointF(rising.x() * bottom / rising.y(), bottom));
     addOnHorizontalEdge(QPointF(rising.x() * top / rising.y(), top));
     addOnVerticalEdge(QPointF(right, rising.y() * right / rising.x()));
-    // On the left edge with the height of the right one: mirrored, but just as far from the centre, which is all that
-    // counts below. The operations stay as they always were, to the last bit.
+    // On the left edge, but with y calculated for the right edge: the mirrored point has the same distance from the
+    // centre, and only that counts below. Do not change the operation, so that results stay the same to the last bit.
     addOnVerticalEdge(QPointF(left, rising.y() * right / rising.x()));
     diagnostics.Assert(!crossings.isEmpty());
 
@@ -172,7 +172,7 @@ QTransform ZTOutputPlacement::ScaledPlacement(double pictureWidth) const
         QRectF(0, 0, size.width(), size.height())
             .adjusted(margins.left(), margins.top(), -double(margins.right()), -double(margins.bottom()))
             .center();
-    // The unrounded width: pictures of neighbouring sizes are not to jump from pixel to pixel.
+    // The unrounded width, so that the scale changes smoothly with the size.
     const double scale = pictureWidth / size.width();
 
     QTransform placement;
@@ -184,7 +184,7 @@ QTransform ZTOutputPlacement::ScaledPlacement(double pictureWidth) const
     return placement;
 }
 
-// Sums in double precision hold every sum of ints exactly, and none overflows.
+// Double precision represents every sum of these ints exactly, without overflow.
 
 double ZTOutputPlacement::FreeWidth() const
 {

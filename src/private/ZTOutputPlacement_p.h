@@ -5,23 +5,23 @@
 #include <QSizeF>
 #include <QTransform>
 
-/// Where a picture stands in a frame of its own size: the arithmetic behind
-/// ZTBatchOutputSettings::CalculateOutputTransformation(). Made and read on any thread.
+/// The placement of a picture in a frame of its own size: the calculation behind
+/// ZTBatchOutputSettings::CalculateOutputTransformation(). Usable on any thread.
 ///
-/// Previews and results of past jobs were placed by exactly these steps, so each keeps its operations and their order.
+/// Results of earlier jobs were placed by exactly these steps: do not change the operations or their order.
 class ZTOutputPlacement
 {
 public:
     ZTOutputPlacement(const QSize& size, int angle, const QMargins& margins);
 
-    /// The size that the picture is drawn in, before it is turned, in whole pixels.
+    /// The size in pixels at which the picture is drawn, before the rotation.
     QSize OutputSize() const { return outputSize; }
 
     /// From the picture's coordinates to the frame's.
     QTransform Transform() const { return transform; }
 
-    /// The diagonal of the largest rectangle that fits, turned by `angle` degrees and centred, into a box of
-    /// `boxWidth` by `boxHeight` whose own aspect ratio the rectangle has.
+    /// The diagonal of the largest centred rectangle that fits into a box of `boxWidth` by `boxHeight` after a rotation
+    /// by `angle` degrees, and has the aspect ratio of the box.
     static double FittedDiagonal(double boxWidth, double boxHeight, int angle);
 
 private:

@@ -18,13 +18,13 @@ constexpr int readInterval = 10;        // ms
 constexpr int lastWritesTimeout = 1000; // ms
 constexpr int announceTimeout = 250;    // ms
 
-/// Messages with a payload up to `smallPayload` are put together into requests of about `writeSize`, and larger
-/// payloads are written in pieces of that size. Bytes.
+/// In bytes. Messages with a payload of at most `smallPayload` are combined into requests of about `writeSize`; larger
+/// payloads are written in pieces of that size.
 constexpr int smallPayload = 16 * 1024;
 constexpr int writeSize = 256 * 1024;
 
-/// How many events of one poll are handed to the owner at a time.
-constexpr std::size_t largestLot = 128;
+/// The maximum number of events of one poll that are handed to the owner together.
+constexpr std::size_t largestEventBatch = 128;
 
 QString SocketErrorText(int error)
 {
@@ -37,18 +37,18 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, const QString& serverName)
     : owner(owner)
 {
     ConnectToOwner();
-    connect(this, &Private::MessageSent, this, [this] { Tell({Event::Kind::Sent, {}, {}}); });
+    connect(this, &Private::MessageSent, this, [this] { QueueEvent({Event::Kind::Sent, {}, {}}); });
 
     socket = new QLocalSocket(this);
     connect(socket, SIGNAL(disconnected()), this, SLOT(OnDisconnected()));
     connect(socket, SIGNAL(error(QLocalSocket::LocalSocketError)), this, SLOT(OnError(QLocalSocket::LocalSocketError)));
 
-    // An attempt that ends inside this call would run OnConnected() on this thread, before the session has its own and
-    // before its user can listen. So success here is announced only when the user's thread is back in its event loop,
-    // asks for something or has had its time.
+    // If the attempt succeeded inside this call, connected() would run OnConnected() on this thread, before the
+    // session's thread exists and before the user can connect to signals. So the signal is connected afterwards, and an
+    // early success is announced when the user's thread is back in its event loop, makes a request, or after a timeout.
     socket->connectToServer(serverName, QIODevice::ReadWrite);
     connect(socket, SIGNAL(connected()), this, SLOT(OnConnected()));
-    socketMove.Leave(*socket, lastWritesTimeout);
+    socketMove.DetachFromThread(*socket, lastWritesTimeout);
     if (socket->state() == QLocalSocket::ConnectedState) {
         hasEarlyConnection = true;
         QMetaObject::invokeMethod(
@@ -65,7 +65,7 @@ ZTPipeSession::Private::Private(ZTPipeSession* owner, QLocalSocket* adoptedSocke
         return;
     }
     socket->setParent(this);
-    socketMove.Leave(*socket, lastWritesTimeout);
+    socketMove.DetachFromThread(*socket, lastWritesTimeout);
     connectionState = socket->state();
     connect(socket, SIGNAL(disconnected()), this, SLOT(OnDisconnected()));
     connect(socket, SIGNAL(error(QLocalSocket::LocalSocketError)), this, SLOT(OnError(QLocalSocket::LocalSocketError)));
@@ -81,45 +81,45 @@ ZTPipeSession::Private::~Private()
         return;
     }
     diagnostics.LogFailedAssert();
-    // A socket must not be destroyed on a foreign thread: it is left behind rather than taken along with its parent.
+    // A socket must not be destroyed on a foreign thread: it is leaked instead of being deleted with its parent.
     socket->setParent(nullptr);
 }
 
 void ZTPipeSession::Private::ConnectToOwner()
 {
     diagnostics.Assert(owner);
-    // Both ways a queued connection would post one event for each message. The hand-over keeps their order and posts
-    // one event for as many as wait.
-    connect(this, &Private::SessionDown, this, [this] { Tell({Event::Kind::Down, {}, {}}); });
-    connect(this, &Private::SessionConnected, this, [this] { Tell({Event::Kind::Connected, {}, {}}); });
+    // Queued connections would post one event for each message, in both directions. The hand-over keeps the order and
+    // posts one event for all waiting messages.
+    connect(this, &Private::SessionDown, this, [this] { QueueEvent({Event::Kind::Down, {}, {}}); });
+    connect(this, &Private::SessionConnected, this, [this] { QueueEvent({Event::Kind::Connected, {}, {}}); });
     connect(this, &Private::IncomingMessage, this, [this](const QString& message, const QByteArray& data) {
-        Tell({Event::Kind::Incoming, message, data});
+        QueueEvent({Event::Kind::Incoming, message, data});
     });
     connect(
         owner, &ZTPipeSession::WriteMessage, this,
-        [this](const QString& name, const QByteArray& data) { AskForWrite(name, data); }, Qt::DirectConnection);
+        [this](const QString& name, const QByteArray& data) { QueueWrite(name, data); }, Qt::DirectConnection);
     connect(
         owner, &ZTPipeSession::ReconnectToServer, this,
         [this](const QString& serverName) {
-            Ask({Request::Kind::Reconnect, 0, {}, {}, serverName});
+            QueueRequest({Request::Kind::Reconnect, 0, {}, {}, serverName});
         },
         Qt::DirectConnection);
     connect(
         owner, &ZTPipeSession::RunUpdateReadTimer, this,
         [this] {
-            Ask({Request::Kind::RestartTimer, 0, {}, {}, {}});
+            QueueRequest({Request::Kind::RestartTimer, 0, {}, {}, {}});
         },
         Qt::DirectConnection);
 }
 
-void ZTPipeSession::Private::AskForWrite(const QString& name, const QByteArray& data)
+void ZTPipeSession::Private::QueueWrite(const QString& name, const QByteArray& data)
 {
-    // The frames are made on the thread that sends: so a small payload is let go where it was made, and the session's
-    // thread writes many messages at a time.
+    // The frames are built on the sending thread. So a small payload is freed on the thread that allocated it, and the
+    // session's thread writes many messages at a time.
     if (data.size() > smallPayload) {
         Request request{Request::Kind::Write, 1, {}, data, {}};
         AppendFrameFront(request.frames, name, data);
-        Ask(std::move(request));
+        QueueRequest(std::move(request));
         return;
     }
     const bool hasToWake = requests.Put([&](std::vector<Request>& waiting) {
@@ -138,7 +138,7 @@ void ZTPipeSession::Private::AskForWrite(const QString& name, const QByteArray& 
     }
 }
 
-void ZTPipeSession::Private::Ask(Request request)
+void ZTPipeSession::Private::QueueRequest(Request request)
 {
     if (requests.Put([&](std::vector<Request>& waiting) { waiting.push_back(std::move(request)); })) {
         WakeWorker();
@@ -148,17 +148,17 @@ void ZTPipeSession::Private::Ask(Request request)
 void ZTPipeSession::Private::WakeWorker()
 {
     QMetaObject::invokeMethod(
-        this, [this] { DoRequests(); }, Qt::QueuedConnection);
+        this, [this] { HandleRequests(); }, Qt::QueuedConnection);
 }
 
-void ZTPipeSession::Private::DoRequests()
+void ZTPipeSession::Private::HandleRequests()
 {
-    if (!requests.TakeAll(doing)) {
+    if (!requests.TakeAll(requestsInWork)) {
         return;
     }
     isGathering = true;
     FinishEarlyConnection();
-    for (const Request& request : doing) {
+    for (const Request& request : requestsInWork) {
         switch (request.kind) {
         case Request::Kind::Write:
             WriteFrames(request);
@@ -171,24 +171,24 @@ void ZTPipeSession::Private::DoRequests()
             break;
         }
     }
-    doing.clear();
+    requestsInWork.clear();
     isGathering = false;
     HandOverEvents();
-    // The event loop gets its turn between two lots, for the socket's sake.
+    // Return to the event loop between batches of requests, so that the socket's events are handled.
     WakeWorker();
 }
 
-void ZTPipeSession::Private::Tell(Event event)
+void ZTPipeSession::Private::QueueEvent(Event event)
 {
-    telling.push_back(std::move(event));
-    if (telling.size() >= largestLot || !isGathering) {
+    gatheredEvents.push_back(std::move(event));
+    if (gatheredEvents.size() >= largestEventBatch || !isGathering) {
         HandOverEvents();
     }
 }
 
 void ZTPipeSession::Private::HandOverEvents()
 {
-    if (!telling.empty() && events.Put(telling)) {
+    if (!gatheredEvents.empty() && events.Put(gatheredEvents)) {
         WakeOwner();
     }
 }
@@ -210,15 +210,15 @@ void ZTPipeSession::Private::WakeOwner()
 
 void ZTPipeSession::Private::EmitEvents()
 {
-    if (!events.TakeAll(emitting) && emitting.empty()) {
+    if (!events.TakeAll(eventsInWork) && eventsInWork.empty()) {
         return;
     }
-    // For the events that come meanwhile, and for a slot with an event loop of its own, which gets the rest there.
+    // For events that are queued meanwhile, and for a slot that runs an event loop, which then emits the rest.
     WakeOwner();
     // A slot may delete the session and with it this object.
     const QPointer<Private> self(this);
-    while (self && emitted < emitting.size()) {
-        const Event event = std::move(emitting[emitted++]);
+    while (self && emittedCount < eventsInWork.size()) {
+        const Event event = std::move(eventsInWork[emittedCount++]);
         switch (event.kind) {
         case Event::Kind::Down:
             Q_EMIT owner->SessionDown();
@@ -235,8 +235,8 @@ void ZTPipeSession::Private::EmitEvents()
         }
     }
     if (self) {
-        emitting.clear();
-        emitted = 0;
+        eventsInWork.clear();
+        emittedCount = 0;
     }
 }
 
@@ -276,14 +276,15 @@ void ZTPipeSession::Private::FinishEarlyConnection()
 void ZTPipeSession::Private::Begin()
 {
     if (socket) {
-        socketMove.Arrive(*socket);
+        socketMove.AttachToThread(*socket);
     }
-    // Before any queued event: one that reports an error changes the state, but the socket may be connected still.
+    // Before any queued event: an error sets the cached state to unconnected although the socket may still be
+    // connected.
     if (IsConnected()) {
         RestartTimer();
     }
-    // The timers of an attempt that is under way change threads by an event, which must not be lost when the session is
-    // deleted at once.
+    // The timers of a pending attempt move to this thread by an event, which must not be lost if the session is deleted
+    // at once.
     QCoreApplication::sendPostedEvents();
     if (hasEarlyConnection) {
         QTimer::singleShot(announceTimeout, this, [this] { FinishEarlyConnection(); });
@@ -295,20 +296,20 @@ void ZTPipeSession::Private::Finish()
     if (socket && socket->state() == QLocalSocket::ConnectedState) {
         WriteRemainder();
     } else if (socket && socket->state() == QLocalSocket::ConnectingState) {
-        // The attempt runs on a timer of the socket, which has to end on its own thread.
+        // The attempt uses a timer of the socket, which must be stopped on its own thread.
         socket->close();
     }
     if (socket) {
-        socketMove.Leave(*socket, 0);
+        socketMove.DetachFromThread(*socket, 0);
     }
     StopTimer();
 }
 
 void ZTPipeSession::Private::WriteRemainder()
 {
-    // What was sent before the end still goes out: a session that is deleted right after its last message is the rule,
-    // not the exception. The deadline is for a peer that has stopped reading.
-    DoRequests();
+    // Messages sent before the end are still written: sessions are usually deleted right after their last message. The
+    // deadline is for a peer that has stopped reading.
+    HandleRequests();
     const QDeadlineTimer deadline(lastWritesTimeout);
     while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
            socket->waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
@@ -325,8 +326,8 @@ void ZTPipeSession::Private::OnReadyRead()
         return;
     }
     DeliverMessages();
-    // While data flows the next poll follows as soon as the event loop has fetched more: what would pile up until the
-    // next tick is slower to read than to fetch.
+    // While data arrives, poll again as soon as the event loop has fetched more: a backlog until the next tick would be
+    // slower to read.
     QTimer::singleShot(0, this, SLOT(OnReadyRead()));
 }
 
@@ -369,8 +370,8 @@ void ZTPipeSession::Private::OnError(QLocalSocket::LocalSocketError error)
 void ZTPipeSession::Private::OnDisconnected()
 {
     FinishEarlyConnection();
-    // Messages that had arrived before the peer went away are still the user's; a piece of one is nobody's. When it was
-    // this side that closed, the socket has nothing left to read.
+    // Complete messages that arrived before the peer closed are still delivered; an incomplete one is dropped. If this
+    // side closed, the socket has nothing left to read.
     if (socket->bytesAvailable() > 0) {
         DeliverMessages();
     }
@@ -397,7 +398,7 @@ void ZTPipeSession::Private::WriteFrames(const Request& request)
         }
         return;
     }
-    // What the pipe takes at once needs no memory in the socket; the event loop sends the rest.
+    // Bytes that the pipe takes at once need no memory in the socket; the event loop sends the rest.
     socket->write(request.frames);
     socket->flush();
     for (int begin = 0; begin < request.payload.size(); begin += writeSize) {
@@ -411,7 +412,7 @@ void ZTPipeSession::Private::WriteFrames(const Request& request)
 
 void ZTPipeSession::Private::Reconnect(const QString& serverName)
 {
-    // Data that the old peer has not taken keeps a closing socket open; the new connection must not wait for it.
+    // A closing socket stays open until the old peer has taken all data; the new connection must not wait for that.
     socket->flush();
     if (socket->bytesToWrite() > 0) {
         socket->abort();

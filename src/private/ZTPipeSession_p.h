@@ -10,32 +10,33 @@
 
 #include <vector>
 
-/// The worker of a pipe session. It is made on the thread of its session, then lives with its socket and its timer on
-/// the session's own thread until that ends. Unless said otherwise a member is used there only.
+/// The worker of a pipe session. It is created on the thread of its owner, the ZTPipeSession object, and then lives
+/// with its socket and its timer on the session's own thread until that ends. Unless stated otherwise, members are used
+/// only on the session's thread.
 class Q_DECL_HIDDEN ZTPipeSession::Private : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Creates the socket and begins to connect. On the thread of `owner`.
+    /// Creates the socket and starts to connect. On the thread of `owner`.
     Private(ZTPipeSession* owner, const QString& serverName);
 
     /// Adopts `socket`, which may be null. On the thread of `owner`.
     Private(ZTPipeSession* owner, QLocalSocket* socket);
 
-    /// On the thread of the session, which the worker was given back to.
+    /// On the thread of the owner, to which the worker has returned.
     ~Private() override;
 
     /// On any thread.
     bool IsConnected() const;
 
-    /// On the caller's thread, whatever it is.
+    /// On any thread.
     bool WaitForConnected(int msecs);
 
-    /// The first thing that happens on the session's thread.
+    /// Called first on the session's thread.
     void Begin();
 
-    /// The last thing that happens on the session's thread.
+    /// Called last on the session's thread.
     void Finish();
 
 Q_SIGNALS:
@@ -49,7 +50,7 @@ public Q_SLOTS:
     void OnConnected();
     void OnError(QLocalSocket::LocalSocketError error);
     void OnDisconnected();
-    /// Writes one message now, ahead of requests that wait.
+    /// Writes one message at once, before pending requests.
     void Write(const QString& name, const QByteArray& data);
     void Reconnect(const QString& serverName);
     void OnRunTimer();
@@ -58,19 +59,19 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    /// Something that the session's thread is to do. Small messages that follow each other share one request.
+    /// A request to the session's thread. Successive small messages share one request.
     struct Request
     {
         enum class Kind { Write, Reconnect, RestartTimer };
 
         Kind kind = Kind::Write;
         int messageCount = 0;
-        QByteArray frames;  ///< of the messages, whole or, when there is a payload, up to it
-        QByteArray payload; ///< of one large message, which is not copied into `frames`
+        QByteArray frames;  ///< of all messages, or only the front of the one whose payload follows
+        QByteArray payload; ///< of one large message, not copied into `frames`; otherwise null
         QString serverName;
     };
 
-    /// Something that the session tells its users.
+    /// A signal of the session that is to be emitted.
     struct Event
     {
         enum class Kind { Down, Connected, Incoming, Sent };
@@ -82,8 +83,8 @@ private:
 
     void ConnectToOwner();
 
-    /// Calls OnConnected() for a connection that the constructor made, unless that was done already; comes before
-    /// anything else that is done with the connection.
+    /// Calls OnConnected() for a connection that the constructor established, unless that was done already. Must
+    /// precede any other use of the connection.
     void FinishEarlyConnection();
 
     void SetConnectionState(int state);
@@ -93,24 +94,24 @@ private:
     void WriteFrames(const Request& request);
     void WriteRemainder();
 
-    /// On any thread: have FinishEarlyConnection() called on the session's thread.
+    /// On any thread. Schedules FinishEarlyConnection() on the session's thread.
     void AnnounceEarlyConnection();
 
-    /// On any thread: have something done on the session's thread, behind what was asked before.
-    void AskForWrite(const QString& name, const QByteArray& data);
-    void Ask(Request request);
+    /// On any thread. Queue a request to the session's thread, after earlier ones.
+    void QueueWrite(const QString& name, const QByteArray& data);
+    void QueueRequest(Request request);
     void WakeWorker();
-    void DoRequests();
+    void HandleRequests();
 
-    /// Has the owner emit `event` on its own thread, behind the earlier ones.
-    void Tell(Event event);
+    /// Queues `event` for emission by the owner on the owner's thread, after earlier ones.
+    void QueueEvent(Event event);
     void HandOverEvents();
     void WakeOwner();
 
     /// On the thread of the owner.
     void EmitEvents();
 
-    /// Null when the session was deleted on a foreign thread, which leaves the worker behind.
+    /// Null if the session was deleted on a foreign thread, which leaks the worker.
     QPointer<ZTPipeSession> owner;
     mutable QReadWriteLock stateLock;
     QLocalSocket* socket = nullptr;
@@ -119,20 +120,20 @@ private:
     int connectionState = QLocalSocket::UnconnectedState;
     ZTFrameReader reader;
 
-    /// Whether the constructor's attempt has succeeded and OnConnected() was not called for it yet.
+    /// Whether the constructor has connected, but OnConnected() has not been called yet.
     bool hasEarlyConnection = false;
 
     ZTHandOver<Request> requests;
     ZTHandOver<Event> events;
 
-    /// Taken from `requests`, and kept for its memory.
-    std::vector<Request> doing;
+    /// The requests that are being handled. A member only to reuse its memory.
+    std::vector<Request> requestsInWork;
 
-    /// Events that wait for the lot of them to be complete, while there is one.
-    std::vector<Event> telling;
+    /// Events that are gathered while `isGathering`, to be queued together.
+    std::vector<Event> gatheredEvents;
     bool isGathering = false;
 
-    /// Taken from `events`, of which the first ones are emitted already. On the thread of the owner.
-    std::vector<Event> emitting;
-    std::size_t emitted = 0;
+    /// The events that are being emitted, and how many have been. On the thread of the owner.
+    std::vector<Event> eventsInWork;
+    std::size_t emittedCount = 0;
 };

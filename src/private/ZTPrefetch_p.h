@@ -2,7 +2,7 @@
 
 #include <QList>
 
-/// Tells the processor that the object at `address` is going to be read. Never fails, whatever the address.
+/// Hints to the processor that the object at `address` will be read soon. Any address is safe.
 inline void Prefetch(const void* address)
 {
 #if defined(__GNUC__) || defined(__clang__)
@@ -12,8 +12,8 @@ inline void Prefetch(const void* address)
 #endif
 }
 
-/// Calls `visit(row, object)` for each row of `list`, which must not change meanwhile. The objects, which stand
-/// anywhere in memory, are asked for some rows ahead, so that the memory works on several of them at once.
+/// Calls `visit(row, object)` for each row of `list`, which must not change meanwhile. Objects are prefetched some rows
+/// ahead, so that several cache misses overlap.
 template<typename T, typename Visit>
 void ForEachPrefetched(const QList<T*>& list, Visit visit)
 {

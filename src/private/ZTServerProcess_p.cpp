@@ -1,7 +1,7 @@
 #include "ZTServerProcess_p.h"
 
-/// Keeps a released process while one of its calls is under way. Without it the first event loop that a slot runs
-/// would delete the process when the call was not made from an event loop itself.
+/// Delays the deletion of a released process until a call of it has returned. Otherwise, if the call was not made from
+/// an event loop, the first event loop that a slot runs would delete the process.
 class ZTServerProcess::Call
 {
 public:
@@ -26,7 +26,7 @@ private:
 ZTServerProcess::ZTServerProcess(QObject* parent)
     : QProcess(parent)
 {
-    // Nobody reads what a server writes there, and QProcess would keep all of it.
+    // Nobody reads this output, and QProcess would buffer all of it.
     setStandardOutputFile(nullDevice());
     setProcessChannelMode(ForwardedErrorChannel);
 
@@ -39,7 +39,7 @@ ZTServerProcess::ZTServerProcess(QObject* parent)
 
 ZTServerProcess::~ZTServerProcess()
 {
-    // The base class kills a process that still runs, and reports its end when this object is a mere QProcess.
+    // The base class kills a running process and emits when this part of the object is already destroyed.
     disconnect(this, nullptr, this, nullptr);
 }
 

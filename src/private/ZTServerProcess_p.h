@@ -2,27 +2,27 @@
 
 #include <QProcess>
 
-/// The server's process. QProcess reports a process's end from inside the calls that end or await it, and the host's
-/// slots may do anything then: these calls bear that. Its standard output goes nowhere, its standard error is the
-/// host's.
+/// The server's process. QProcess reports the end of a process from inside the calls that end it or wait for it. The
+/// functions of this class remain safe when slots of the host release the object then. The standard output of the
+/// process is discarded; its standard error is the host's.
 class ZTServerProcess : public QProcess
 {
 public:
     explicit ZTServerProcess(QObject* parent);
     ~ZTServerProcess() override;
 
-    /// Whether the process has ended, or never started. True already while a crash is being reported, when state()
-    /// still says "running": whoever waited for such a process would wait in vain.
+    /// Whether the process has ended or was never started. Already true while a crash is being reported, when state()
+    /// is still Running: a wait for such a process would time out.
     bool HasEnded() const;
 
-    /// Kills the process and returns when it is gone.
+    /// Kills the process and returns when it has ended.
     void Close();
 
-    /// Returns whether the process has ended within `msecs` milliseconds.
+    /// Waits up to `msecs` milliseconds for the end of the process. Returns whether it has ended.
     bool WaitForEnd(int msecs);
 
-    /// Gives the object up: from now on it belongs to nobody and goes with a later turn of the event loop, but not
-    /// before the calls above have returned and the end of a process that ran has been reported.
+    /// Removes the object from its parent and schedules its deletion in the event loop: as soon as the calls above have
+    /// returned and the end of a started process has been reported.
     void Release();
 
 private:
@@ -31,6 +31,6 @@ private:
     void DeleteWhenIdle();
 
     int callsUnderWay = 0;
-    bool isEndAwaited = false; ///< from the report of the start to the last report of the end
+    bool isEndAwaited = false; ///< from the signal of the start to the last signal of the end
     bool isReleased = false;
 };

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A slab begins at a multiple of its size, so that the address of a slot tells its slab.
+/// A slab is aligned to its size, so that its address follows from the address of a slot.
 constexpr std::size_t slabSize = 64 * 1024;
 constexpr std::align_val_t slabAlignment{slabSize};
 
@@ -28,7 +28,7 @@ ZTSlabPool::~ZTSlabPool()
     }
 }
 
-void* ZTSlabPool::Take()
+void* ZTSlabPool::Allocate()
 {
     const std::lock_guard<std::mutex> lock(mutex);
     if (open == nullptr) {
@@ -40,14 +40,14 @@ void* ZTSlabPool::Take()
         spare = nullptr;
     }
     Slab* const slab = open;
-    void* const slot = TakeFrom(*slab);
+    void* const slot = AllocateFrom(*slab);
     if (!HasFreeSlot(*slab)) {
         RemoveOpen(slab);
     }
     return slot;
 }
 
-void ZTSlabPool::GiveBack(void* slot) noexcept
+void ZTSlabPool::Free(void* slot) noexcept
 {
     auto* const slab = reinterpret_cast<Slab*>(reinterpret_cast<quintptr>(slot) / slabSize * slabSize);
     const std::lock_guard<std::mutex> lock(mutex);
@@ -55,12 +55,12 @@ void ZTSlabPool::GiveBack(void* slot) noexcept
         AddOpen(slab);
     }
     slab->freeSlots = new (slot) FreeSlot{slab->freeSlots};
-    if (--slab->takenCount > 0) {
+    if (--slab->usedCount > 0) {
         return;
     }
     RemoveOpen(slab);
     if (spare == nullptr) {
-        // As good as new: its slots are taken in the order of their addresses again.
+        // Reinitialised, so that its slots are allocated in the order of their addresses again.
         spare = new (slab) Slab;
         spare->freshSlots = sizeof(Slab);
     } else {
@@ -87,7 +87,7 @@ ZTSlabPool::Slab* ZTSlabPool::NewSlab() const
     return slab;
 }
 
-/// Behind the first, which goes on giving slots that stand side by side.
+/// Inserts after the first slab, which continues to provide adjacent slots.
 void ZTSlabPool::AddOpen(Slab* slab)
 {
     slab->previous = open;
@@ -106,9 +106,9 @@ void ZTSlabPool::RemoveOpen(Slab* slab)
     }
 }
 
-void* ZTSlabPool::TakeFrom(Slab& slab) const
+void* ZTSlabPool::AllocateFrom(Slab& slab) const
 {
-    ++slab.takenCount;
+    ++slab.usedCount;
     if (slab.freeSlots != nullptr) {
         FreeSlot* const slot = slab.freeSlots;
         slab.freeSlots = slot->next;

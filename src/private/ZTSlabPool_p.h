@@ -5,26 +5,25 @@
 #include <cstddef>
 #include <mutex>
 
-/// Memory for a great many objects of one size.
+/// Memory for very many objects of one size.
 ///
-/// Objects that are made one after the other stand side by side, whatever else is allocated in between: a walk in the
-/// order in which they were made goes straight through the memory, which the processor foresees. Slots may be taken and
-/// given back on any thread.
+/// Objects that are allocated one after the other are adjacent, whatever else is allocated in between. A walk in the
+/// order of allocation is then sequential in memory, which the processor prefetches. Thread-safe.
 class ZTSlabPool
 {
 public:
     /// For objects of `objectSize` bytes, at most 1 KiB, that need no stricter alignment than a pointer.
     explicit ZTSlabPool(std::size_t objectSize);
 
-    /// All slots have been given back.
+    /// All slots must have been freed.
     ~ZTSlabPool();
 
-    /// Throws std::bad_alloc when there is no memory.
-    void* Take();
+    /// Throws std::bad_alloc if there is no memory.
+    void* Allocate();
 
-    /// `slot` came from Take(). The memory goes back to where it came from in slabs, when none of their slots is taken;
-    /// one such slab is kept.
-    void GiveBack(void* slot) noexcept;
+    /// `slot` came from Allocate(). The memory goes back to where it came from in slabs, when none of their slots is
+    /// taken; one such slab is kept.
+    void Free(void* slot) noexcept;
 
     /// How many slabs there are.
     int SlabCount() const;
@@ -44,14 +43,14 @@ private:
         Slab* next = nullptr;
         FreeSlot* freeSlots = nullptr; ///< that were given back
         std::size_t freshSlots = 0;    ///< offset of those that were never taken
-        int takenCount = 0;
+        int usedCount = 0;
     };
 
     bool HasFreeSlot(const Slab& slab) const;
     Slab* NewSlab() const;
     void AddOpen(Slab* slab);
     void RemoveOpen(Slab* slab);
-    void* TakeFrom(Slab& slab) const;
+    void* AllocateFrom(Slab& slab) const;
 
     const std::size_t slotSize;
     mutable std::mutex mutex;

@@ -21,10 +21,10 @@ HANDLE HandleOf(const QLocalSocket& socket)
 
 } // namespace
 
-void ZTSocketMove::Leave(QLocalSocket& socket, int msecs)
+void ZTSocketMove::DetachFromThread(QLocalSocket& socket, int msecs)
 {
-    arrived.clear();
-    // What happens here to the socket is not its user's affair.
+    buffered.clear();
+    // The socket's user must not see the intermediate states.
     const QSignalBlocker blocker(socket);
     const QDeadlineTimer deadline(msecs);
     while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
@@ -39,42 +39,42 @@ void ZTSocketMove::Leave(QLocalSocket& socket, int msecs)
 
 void ZTSocketMove::StopReading(QLocalSocket& socket)
 {
-    // Opened anew the socket would stop by itself, and drop a read that has just ended with data. So the read is
-    // cancelled behind its back: one that has ended after all delivers its data, and another follows; one that is
-    // cancelled counts as an error that ends the connection, which is made good below.
+    // Reopening the socket would stop the read as well, but would drop a read that has just completed with data. So the
+    // read is cancelled without the socket's knowledge. A read that completes all the same delivers its data and starts
+    // another one. To the socket a cancelled read is an error that ends the connection, which is undone below.
     bool isCancelled = false;
     while (socket.state() == QLocalSocket::ConnectedState) {
         isCancelled = CancelIoEx(HandleOf(socket), nullptr) || isCancelled;
         if (SleepEx(isCancelled ? cancelLimit : 0, TRUE) != WAIT_IO_COMPLETION) {
-            // Nothing is being read: the peer has gone, and the event that says so comes along to the new thread.
+            // No read is pending: the peer has closed, and the event that reports it moves to the new thread.
             break;
         }
     }
-    arrived = socket.readAll();
+    buffered = socket.readAll();
     if (socket.state() == QLocalSocket::UnconnectedState) {
-        // The posted end of the connection comes to nothing while the socket takes it for ended already.
+        // The queued end of the connection has no effect while the socket is unconnected.
         QCoreApplication::sendPostedEvents(&socket, QEvent::MetaCall);
-        // Connected again; what is open for writing only is not read.
+        // Connected again. Write-only, so that no read starts.
         socket.setSocketDescriptor(socket.socketDescriptor(), QLocalSocket::ConnectedState, QIODevice::WriteOnly);
     }
 }
 
-void ZTSocketMove::Arrive(QLocalSocket& socket)
+void ZTSocketMove::AttachToThread(QLocalSocket& socket)
 {
     if (socket.state() != QLocalSocket::ConnectedState) {
         return;
     }
     const QSignalBlocker blocker(socket);
     socket.setSocketDescriptor(socket.socketDescriptor(), QLocalSocket::ConnectedState, QIODevice::ReadWrite);
-    for (int i = arrived.size(); i > 0; --i) {
-        socket.ungetChar(arrived.at(i - 1));
+    for (int i = buffered.size(); i > 0; --i) {
+        socket.ungetChar(buffered.at(i - 1));
     }
-    arrived.clear();
+    buffered.clear();
 }
 
 #else
 
-void ZTSocketMove::Leave(QLocalSocket&, int) {}
-void ZTSocketMove::Arrive(QLocalSocket&) {}
+void ZTSocketMove::DetachFromThread(QLocalSocket&, int) {}
+void ZTSocketMove::AttachToThread(QLocalSocket&) {}
 
 #endif

@@ -4,25 +4,26 @@
 
 class QLocalSocket;
 
-/// Takes a local socket to another thread, around QObject::moveToThread().
+/// Moves a local socket to another thread, before and after QObject::moveToThread().
 ///
-/// On Windows that alone is not enough: the end of an overlapped read or write is told to the thread that began it and
-/// to no other, so the socket would go on reading there while it is used here, and wait for ever when it is closed.
-/// Elsewhere nothing has to be done.
+/// On Windows moveToThread() alone is not enough: the completion of an overlapped read or write is delivered only to
+/// the thread that started it. The socket would continue to read on the old thread and wait forever when it is closed.
+/// On other systems nothing needs to be done.
 class ZTSocketMove
 {
 public:
-    /// On the thread that the socket leaves. What has arrived is kept for Arrive(), and nothing is read until then.
-    /// What was written is given `msecs` milliseconds; a peer that has not taken it by then loses the connection.
-    void Leave(QLocalSocket& socket, int msecs);
+    /// Call on the old thread. Data that has arrived is kept for AttachToThread(), and nothing is read until then.
+    /// Waits up to `msecs` milliseconds for pending writes; if the peer has not taken them by then, the connection is
+    /// aborted.
+    void DetachFromThread(QLocalSocket& socket, int msecs);
 
-    /// On the new thread: reading goes on, with what has been kept.
-    void Arrive(QLocalSocket& socket);
+    /// Call on the new thread. Resumes reading, beginning with the data that was kept.
+    void AttachToThread(QLocalSocket& socket);
 
 private:
 #ifdef Q_OS_WIN
     void StopReading(QLocalSocket& socket);
 
-    QByteArray arrived;
+    QByteArray buffered;
 #endif
 };

@@ -10,7 +10,7 @@ namespace {
 
 using Node = TreeNode<BatchNodeData>;
 
-static_assert(sizeof(Node) >= ZTAddressMap::leastSize, "one node would hide another");
+static_assert(sizeof(Node) >= ZTAddressMap::minimumObjectSize, "one node would hide another");
 
 Node* ChildAt(const Node& folder, int row)
 {
@@ -56,9 +56,9 @@ void ZVBatchInputRows::Build(const QSet<QPersistentModelIndex>& expandedFolders)
             childCount += node->children.size();
         }
     }
-    // Room for all at once: growing would touch twice as much new memory.
+    // Reserved at once: growing would touch twice as much new memory.
     files.reserve(std::size_t(childCount));
-    // A stack of our own, the next folder on top: a recursion would overflow on a deep tree.
+    // An explicit stack with the next folder on top: recursion would overflow the thread's stack on deep trees.
     std::vector<PendingFolder> pendingFolders;
     AddChildren(topLevel, true, pendingFolders);
     topLevelFileCount = int(files.size());
@@ -124,7 +124,7 @@ ZVBatchInputRows::Cell ZVBatchInputRows::Find(const QModelIndex& sourceIndex) co
     return IndexOf(section.folder) == sourceIndex ? Cell{section.firstRow, 0} : Cell();
 }
 
-ZVBatchInputRows::Cell ZVBatchInputRows::FindGone() const
+ZVBatchInputRows::Cell ZVBatchInputRows::FindRemoved() const
 {
     for (const Section& section : sections) {
         if (!section.IsTopLevel() && !IndexOf(section.folder).isValid()) {
@@ -180,8 +180,7 @@ void ZVBatchInputRows::ModelReset()
     }
 }
 
-/// Adds the files right in the section's folder, and puts the folders there on the stack `pendingFolders`, the first on
-/// top.
+/// Adds the files of the section's folder, and pushes its sub-folders on the stack `pendingFolders`, the first on top.
 void ZVBatchInputRows::AddChildren(const Section& section, bool withFiles, std::vector<PendingFolder>& pendingFolders)
 {
     const auto foldersBefore = std::ptrdiff_t(pendingFolders.size());
@@ -202,7 +201,8 @@ void ZVBatchInputRows::AddSection(const Section& section)
     rowCount += (section.IsTopLevel() ? 0 : 1) + (section.fileCount + columnCount - 1) / columnCount;
 }
 
-/// Moves to `row`, where `node` is: as a persistent index does it, which counts the rows and takes what it finds there.
+/// Moves `place` to `row`, where `node` is now. A persistent index does the same: it adjusts its row and refers to
+/// whatever node is there.
 void ZVBatchInputRows::MovePlace(Place& place, int row, Node* node)
 {
     place.row = row;
@@ -228,7 +228,7 @@ void ZVBatchInputRows::RemoveRows(Place& place, const Node& folder, int first, i
     }
 }
 
-/// Calls `change(place)` for each file that stands at `first` or behind, and perhaps for others.
+/// Calls `change(place)` for each file at row `first` or later, and possibly for others.
 template<typename Change>
 void ZVBatchInputRows::ChangeFiles(const Section& section, int first, Change change)
 {
@@ -241,7 +241,7 @@ void ZVBatchInputRows::ChangeFiles(const Section& section, int first, Change cha
     }
 }
 
-/// The nodes that the section shows are gone.
+/// Marks all nodes that the section shows as removed.
 void ZVBatchInputRows::Forget(Section& section)
 {
     section.owner = nullptr;
@@ -267,7 +267,7 @@ const ZVBatchInputRows::Section& ZVBatchInputRows::SectionOfFile(int file) const
     if (file < topLevelFileCount) {
         return sections.back();
     }
-    // The section of the top level, if there is one, is behind those of the folders.
+    // The section of the top-level files, if there is one, comes last.
     const auto foldersEnd = topLevelFileCount > 0 ? std::prev(sections.end()) : sections.end();
     const auto next = std::upper_bound(sections.begin(), foldersEnd, file,
                                        [](int wanted, const Section& section) { return wanted < section.firstFile; });
@@ -287,7 +287,7 @@ ZVBatchInputRows::Cell ZVBatchInputRows::CellOfFile(const Section& section, int 
 
 void ZVBatchInputRows::FillNumbers() const
 {
-    // From the end, so that the first of several cells with one node stays.
+    // From the end, so that of several cells with the same node the first one wins.
     for (std::size_t i = sections.size(); i-- > 0;) {
         const Section& section = sections[i];
         for (int file = section.FilesEnd(); file-- > section.firstFile;) {

@@ -9,11 +9,11 @@
 
 #include <vector>
 
-/// The rows of a table as Build() made them. Until the next time they keep to their nodes, as if each cell held a
-/// persistent index of the source: it follows a node whose place changes and is invalid when the node is gone.
+/// The rows of a table, as built by Build(). Between builds each cell behaves as if it held a persistent index of the
+/// source: it follows a node that moves, and is invalid when the node is removed.
 ///
-/// Persistent indexes themselves would do, but Qt asks each of them at every change of the source, a million of them
-/// for a million files.
+/// Real persistent indexes would be too slow: Qt visits all of them at every change of the source, a million for a
+/// million files.
 class ZVBatchInputRows final : private ZTBatchInputObserver
 {
 public:
@@ -28,10 +28,11 @@ public:
     explicit ZVBatchInputRows(ZTBatchInputModel* source);
     ~ZVBatchInputRows();
 
-    /// Null once it is destroyed; then all nodes are gone.
+    /// Null if it was destroyed; all cells are invalid then.
     ZTBatchInputModel* Source() const { return source; }
 
-    /// Makes the rows of what the source holds now; of the files in folders only those in `expandedFolders`.
+    /// Builds the rows from the current tree. Files in folders are included only for `expandedFolders`, valid indexes
+    /// of the source or invalid ones.
     void Build(const QSet<QPersistentModelIndex>& expandedFolders);
 
     int Count() const { return rowCount; }
@@ -39,36 +40,36 @@ public:
     /// False for a row that does not exist.
     bool IsFolderRow(int row) const;
 
-    /// The index of the source behind a cell; the folder's for every column of a folder row. Invalid for a cell that is
-    /// empty or does not exist.
+    /// The source index of a cell; in a folder row, the folder's for every column. Invalid if the cell is empty or does
+    /// not exist.
     QModelIndex IndexAt(int row, int column) const;
 
-    /// The first cell that shows `sourceIndex`, which is valid. Whether its node still exists does not matter: it is
-    /// not touched.
+    /// The first cell that shows `sourceIndex`, which must be valid. Its node need not exist any more; it is not
+    /// dereferenced.
     Cell Find(const QModelIndex& sourceIndex) const;
 
-    /// The first cell whose node is gone.
-    Cell FindGone() const;
+    /// The first cell whose node was removed.
+    Cell FindRemoved() const;
 
 private:
-    /// What stands for a persistent index.
+    /// Replaces a persistent index.
     struct Place
     {
-        Node* node = nullptr; ///< null when it is gone
-        int row = -1;         ///< in the source; between its neighbours' rows when the node is gone
+        Node* node = nullptr; ///< null if it was removed
+        int row = -1;         ///< in the source; for a removed node, the row before its former place
     };
 
-    /// A folder's row and those of its files, or those of the top-level files.
+    /// The rows of a folder and its files, or of the top-level files.
     struct Section
     {
-        Place folder;                 ///< what the folder row shows
-        Node* owner = nullptr;        ///< of the files: the folder, or the root; null when it is gone
-        const Node* parent = nullptr; ///< the folder's; null when the folder is gone
-        int depth = 0;                ///< of the folder: 1 for one that is right in the root
+        Place folder;                 ///< shown in the folder row
+        Node* owner = nullptr;        ///< of the files: the folder or the root; null if it was removed
+        const Node* parent = nullptr; ///< of the folder; null if the folder was removed
+        int depth = 0;                ///< of the folder: 1 for children of the root, 0 for the top-level files
         int firstRow = 0;
         int firstFile = 0;
         int fileCount = 0;
-        bool areFilesInOrder = true; ///< their rows in the source ascend
+        bool areFilesInOrder = true; ///< whether their rows in the source ascend
 
         bool IsTopLevel() const { return depth == 0; }
         int FilesEnd() const { return firstFile + fileCount; }
@@ -101,11 +102,11 @@ private:
     void FillNumbers() const;
 
     const QPointer<ZTBatchInputModel> source;
-    std::vector<Section> sections; ///< in the order of the rows; behind a folder's the ones of the folders inside it
-    std::vector<Place> files;      ///< those of a section stand together; those of the top level come first
+    std::vector<Section> sections; ///< in the order of the rows, so sub-folders follow their folder
+    std::vector<Place> files;      ///< adjacent for each section; the top-level files come first
     int rowCount = 0;
     int topLevelFileCount = 0;
-    /// Where each node is shown, filled by the first search: the number of a file, or behind all of them that of the
-    /// section whose folder it is.
+    /// Where each node is shown: the index in `files`, or files.size() plus the index in `sections` for a folder.
+    /// Filled by the first search.
     mutable ZTAddressMap numbers;
 };

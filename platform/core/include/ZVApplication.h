@@ -8,10 +8,9 @@ class VELKORA_CORE_EXPORT ZVApplication
 public:
     ZVApplication() = delete;
 
-    /// The background pattern that is offered first: an index into the built-in patterns, 0 until one was set.
-    /// Safe on any thread.
+    /// The default background pattern: an index into the built-in patterns, 0 until one is set. Thread-safe.
     static int GetTexturePatternIndex();
 
-    /// Makes `index` the background pattern that is offered first. Safe on any thread.
+    /// Makes `index` the default background pattern. Thread-safe.
     static void SetTexturePatternIndex(int index);
 };

@@ -10,40 +10,40 @@
 
 class ZTStyleGroup;
 
-/// An ordered list of effects. The same effect may stand in it several times.
+/// An ordered list of effects. It may contain the same effect several times.
 ///
-/// Belongs to the thread that created it.
+/// Use it only on the thread that created it.
 class VELKORA_STYLECORE_EXPORT ZTStyle : public QObject
 {
     Q_OBJECT
 
 public:
-    /// An empty style. `group` may be null, is not owned, and is forgotten when it is destroyed.
+    /// Creates an empty style. `group` may be null and is not owned.
     ZTStyle(const QString& name, const QString& description, ZTStyleGroup* group, QObject* parent);
     ~ZTStyle() override;
 
     QString Name() const;
     QString Description() const;
 
-    /// The group given to the constructor; null when there was none or when it is gone.
+    /// The group given to the constructor; null if there was none or it was destroyed.
     ZTStyleGroup* Group() const;
 
     int GetEffectCount() const;
 
-    /// The identifier of the effect at `index`; a null string when there is no such effect.
+    /// The identifier of the effect at `index`; a null string if there is no such effect.
     QString EffectAt(int index) const;
 
-    /// The parameters of the effect at `index`, bytes that only the effect understands; null when there is no such
-    /// effect.
+    /// The parameters of the effect at `index`, in a format that only the effect knows; a null array if there is no
+    /// such effect.
     QByteArray DataAt(int index) const;
 
-    /// Whether the effect at `index` is to be applied; false when there is no such effect.
+    /// Whether the effect at `index` is to be applied; false if there is no such effect.
     bool IsEnabled(int index) const;
 
-    /// Adds an effect behind the others. Neither the identifier nor the data is looked into.
+    /// Appends an effect. Neither the identifier nor the data is checked.
     void AppendEffect(const QString& uid, const QByteArray& data, bool enabled);
 
-    /// Adds this style's effects, in order, behind those of `target`. A style copied into itself is doubled.
+    /// Appends this style's effects to those of `target`, in order. Copying a style into itself doubles its effects.
     void CopyEffects(ZTStyle& target) const;
 
     /// Removes every effect.

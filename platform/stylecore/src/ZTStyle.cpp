@@ -54,7 +54,7 @@ void ZTStyle::AppendEffect(const QString& uid, const QByteArray& data, bool enab
 
 void ZTStyle::CopyEffects(ZTStyle& target) const
 {
-    // The copy shares its data with the list and keeps it alive while a style is appended to itself.
+    // The copy shares its data with the list and keeps the data alive if a style is copied into itself.
     const QVector<Effect> copied = effects;
     target.effects += copied;
 }

@@ -5,15 +5,15 @@
 #include <QSet>
 #include <QString>
 
-/// Issues identifiers that are unique among those registered and that nobody can guess: random UUIDs, drawn from the
-/// system's secure generator. Use one container on one thread at a time.
+/// Issues identifiers that are unique among the registered ones and cannot be guessed: random UUIDs from the system's
+/// secure generator. Use each container on one thread at a time.
 class VELKORA_UTILS_EXPORT ZTIDContainer
 {
 public:
     ZTIDContainer();
     ~ZTIDContainer();
 
-    /// A new identifier, registered until UnregisterID() is called with it. Never empty.
+    /// Returns a new identifier, which stays registered until UnregisterID() is called for it. Never empty.
     QString CreateAndRegisterID();
 
     /// Releases `id`. Returns whether it was registered.

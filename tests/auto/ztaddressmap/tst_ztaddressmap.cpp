@@ -42,7 +42,7 @@ void tst_ZTAddressMap::keepsNumbers_data()
 {
     QTest::addColumn<int>("distance");
 
-    QTest::newRow("the smallest objects") << int(ZTAddressMap::leastSize);
+    QTest::newRow("the smallest objects") << int(ZTAddressMap::minimumObjectSize);
     QTest::newRow("out of step with the pages") << 88;
     QTest::newRow("one to a page") << 4096;
     QTest::newRow("far away") << 1000000;
@@ -75,8 +75,8 @@ void tst_ZTAddressMap::neighboursHaveNoNumber()
 {
     ZTAddressMap map;
     map.Insert(Address(8192), 5);
-    QCOMPARE(map.Value(Address(8192 - ZTAddressMap::leastSize)), int(ZTAddressMap::none));
-    QCOMPARE(map.Value(Address(8192 + ZTAddressMap::leastSize)), int(ZTAddressMap::none));
+    QCOMPARE(map.Value(Address(8192 - ZTAddressMap::minimumObjectSize)), int(ZTAddressMap::none));
+    QCOMPARE(map.Value(Address(8192 + ZTAddressMap::minimumObjectSize)), int(ZTAddressMap::none));
     QCOMPARE(map.Value(Address(8192 + 4096)), int(ZTAddressMap::none));
     QCOMPARE(map.Value(Address(8192)), 5);
 }

@@ -36,19 +36,19 @@ quintptr AddressOf(void* slot)
     return reinterpret_cast<quintptr>(slot);
 }
 
-std::vector<void*> TakeMany(ZTSlabPool& pool, int count)
+std::vector<void*> AllocateMany(ZTSlabPool& pool, int count)
 {
     std::vector<void*> taken;
     for (int i = 0; i < count; ++i) {
-        taken.push_back(pool.Take());
+        taken.push_back(pool.Allocate());
     }
     return taken;
 }
 
-void GiveBackAll(ZTSlabPool& pool, const std::vector<void*>& taken)
+void FreeAll(ZTSlabPool& pool, const std::vector<void*>& taken)
 {
     for (void* const slot : taken) {
-        pool.GiveBack(slot);
+        pool.Free(slot);
     }
 }
 
@@ -66,14 +66,14 @@ void tst_ZTSlabPool::beginsWithoutMemory()
 void tst_ZTSlabPool::slotsStandSideBySide()
 {
     ZTSlabPool pool(objectSize);
-    const std::vector<void*> taken = TakeMany(pool, many);
+    const std::vector<void*> taken = AllocateMany(pool, many);
     int breaks = 0;
     for (std::size_t i = 1; i < taken.size(); ++i) {
         breaks += AddressOf(taken[i]) - AddressOf(taken[i - 1]) == objectSize ? 0 : 1;
     }
     QVERIFY(pool.SlabCount() > 1);
     QCOMPARE(breaks, pool.SlabCount() - 1);
-    GiveBackAll(pool, taken);
+    FreeAll(pool, taken);
 }
 
 void tst_ZTSlabPool::slotsAreApart_data()
@@ -90,7 +90,7 @@ void tst_ZTSlabPool::slotsAreApart()
     QFETCH(int, size);
 
     ZTSlabPool pool{std::size_t(size)};
-    std::vector<void*> taken = TakeMany(pool, many);
+    std::vector<void*> taken = AllocateMany(pool, many);
     for (void* const slot : taken) {
         QCOMPARE(AddressOf(slot) % alignof(void*), quintptr(0));
         // Every byte is the object's.
@@ -100,22 +100,22 @@ void tst_ZTSlabPool::slotsAreApart()
     for (std::size_t i = 1; i < taken.size(); ++i) {
         QVERIFY(AddressOf(taken[i]) - AddressOf(taken[i - 1]) >= quintptr(size));
     }
-    GiveBackAll(pool, taken);
+    FreeAll(pool, taken);
     QCOMPARE(pool.SlabCount(), 1);
 }
 
 void tst_ZTSlabPool::slotsAreTakenAgain()
 {
     ZTSlabPool pool(objectSize);
-    std::vector<void*> taken = TakeMany(pool, many);
+    std::vector<void*> taken = AllocateMany(pool, many);
     const int slabCount = pool.SlabCount();
     // Every third one, in all slabs.
     std::vector<void*> free;
     for (std::size_t i = 0; i < taken.size(); i += 3) {
         free.push_back(taken[i]);
-        pool.GiveBack(taken[i]);
+        pool.Free(taken[i]);
     }
-    std::vector<void*> again = TakeMany(pool, int(free.size()));
+    std::vector<void*> again = AllocateMany(pool, int(free.size()));
     QCOMPARE(pool.SlabCount(), slabCount);
     // Some may be from the end of the last slab, which is not full.
     std::sort(free.begin(), free.end());
@@ -126,10 +126,10 @@ void tst_ZTSlabPool::slotsAreTakenAgain()
 
     for (std::size_t i = 0; i < taken.size(); ++i) {
         if (i % 3 != 0) {
-            pool.GiveBack(taken[i]);
+            pool.Free(taken[i]);
         }
     }
-    GiveBackAll(pool, again);
+    FreeAll(pool, again);
     QCOMPARE(pool.SlabCount(), 1);
 }
 
@@ -137,14 +137,14 @@ void tst_ZTSlabPool::slabsGoBack()
 {
     ZTSlabPool pool(objectSize);
     for (int round = 0; round < 3; ++round) {
-        const std::vector<void*> taken = TakeMany(pool, many);
+        const std::vector<void*> taken = AllocateMany(pool, many);
         const int slabCount = pool.SlabCount();
         QVERIFY(slabCount > 2);
         void* const last = taken.back();
-        GiveBackAll(pool, {taken.begin(), taken.end() - 1});
+        FreeAll(pool, {taken.begin(), taken.end() - 1});
         // The one whose last slot is taken, and a spare one.
         QCOMPARE(pool.SlabCount(), 2);
-        pool.GiveBack(last);
+        pool.Free(last);
         QCOMPARE(pool.SlabCount(), 1);
     }
 }
@@ -152,13 +152,13 @@ void tst_ZTSlabPool::slabsGoBack()
 void tst_ZTSlabPool::emptySlabIsTakenInOrderAgain()
 {
     ZTSlabPool pool(objectSize);
-    const std::vector<void*> first = TakeMany(pool, 100);
+    const std::vector<void*> first = AllocateMany(pool, 100);
     std::vector<void*> shuffled = first;
     std::shuffle(shuffled.begin(), shuffled.end(), std::mt19937(1));
-    GiveBackAll(pool, shuffled);
-    const std::vector<void*> second = TakeMany(pool, 100);
+    FreeAll(pool, shuffled);
+    const std::vector<void*> second = AllocateMany(pool, 100);
     QVERIFY(first == second);
-    GiveBackAll(pool, second);
+    FreeAll(pool, second);
 }
 
 void tst_ZTSlabPool::randomUse()
@@ -175,7 +175,7 @@ void tst_ZTSlabPool::randomUse()
         // In turn more and less.
         const bool takes = objects.empty() || random() % 10 < (step / 10000 % 2 == 0 ? 7U : 3U);
         if (takes) {
-            const Object object{pool.Take(), static_cast<unsigned char>(random() % 256)};
+            const Object object{pool.Allocate(), static_cast<unsigned char>(random() % 256)};
             std::memset(object.slot, object.mark, objectSize);
             objects.push_back(object);
         } else {
@@ -184,12 +184,12 @@ void tst_ZTSlabPool::randomUse()
             const bool isIntact =
                 std::all_of(bytes, bytes + objectSize, [&](unsigned char byte) { return byte == objects.back().mark; });
             QVERIFY(isIntact);
-            pool.GiveBack(objects.back().slot);
+            pool.Free(objects.back().slot);
             objects.pop_back();
         }
     }
     for (const Object& object : objects) {
-        pool.GiveBack(object.slot);
+        pool.Free(object.slot);
     }
     QCOMPARE(pool.SlabCount(), 1);
 }
@@ -204,8 +204,8 @@ void tst_ZTSlabPool::manyThreads()
         std::vector<std::thread> threads;
         for (std::vector<void*>& slots : taken) {
             threads.emplace_back([&pool, &slots] {
-                GiveBackAll(pool, slots);
-                slots = TakeMany(pool, many);
+                FreeAll(pool, slots);
+                slots = AllocateMany(pool, many);
                 for (void* const slot : slots) {
                     std::memset(slot, 0xAA, objectSize);
                 }
@@ -223,7 +223,7 @@ void tst_ZTSlabPool::manyThreads()
         std::rotate(taken.begin(), taken.begin() + 1, taken.end());
     }
     for (const std::vector<void*>& slots : taken) {
-        GiveBackAll(pool, slots);
+        FreeAll(pool, slots);
     }
     QCOMPARE(pool.SlabCount(), 1);
 }
