@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QMap>
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +14,7 @@
 
 namespace {
 
-/// The exit code by which the helper says that std::terminate was called; no runtime or sanitizer uses it.
+/// The helper's exit code when std::terminate is called; no runtime or sanitizer uses it.
 constexpr int terminatedExitCode = 83;
 constexpr int survivedExitCode = 84;
 constexpr int unknownCaseExitCode = 85;
@@ -46,7 +47,7 @@ int RunDeathCases(int argc, char** argv)
 {
     CrashQuietly();
     qInstallMessageHandler(WriteLine);
-    // The runtime's own handler would write a line of its own behind ours.
+    // The runtime's own handler would write another line after ours.
     std::set_terminate(EndQuietly);
 
     const QString name = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
@@ -57,6 +58,13 @@ int RunDeathCases(int argc, char** argv)
     }
     function();
     return survivedExitCode;
+}
+
+bool IsFailedAssert(const QString& line, const QString& source)
+{
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+        QStringLiteral("\\[%1:[1-9][0-9]*\\] Assert failed").arg(QRegularExpression::escape(source))));
+    return pattern.match(line).hasMatch();
 }
 
 DeathReport RunDeathCase(const QString& name)

@@ -2,24 +2,30 @@
 
 #include <QString>
 
-/// One way to make the library end its process. Cases live in the helper executable "deaths", which runs the one that
-/// its argument names; a test starts it with RunDeathCase() and looks at what was left behind.
+/// One way to make the library end its process. The cases are part of the helper executable "deaths", which runs the
+/// one that its argument names. A test starts it with RunDeathCase() and checks the report.
 class DeathCase
 {
 public:
     using Function = void (*)();
 
-    /// Registers `function` under `name`. Made as a constant at file scope in the helper.
+    /// Registers `function` under `name`. Defined as a constant at file scope in the helper.
     DeathCase(const char* name, Function function);
 };
 
 /// Runs the case that the first argument names. The whole of a helper's main().
 int RunDeathCases(int argc, char** argv);
 
+/// Whether `line` is the message of a failed assertion of `source`: "[source:line] Assert failed" with any line number.
+bool IsFailedAssert(const QString& line, const QString& source);
+
 /// How a case ended.
 struct DeathReport
 {
-    bool aborted = false; ///< the process was ended by std::terminate, and by nothing else
+    /// Whether a failed assertion of `source`, at any line, has ended the process.
+    bool EndedByAssertOf(const QString& source) const { return aborted && IsFailedAssert(lastLine, source); }
+
+    bool aborted = false; ///< std::terminate has ended the process, and nothing else
     QString lastLine;     ///< the last line that it wrote
     QString output;       ///< everything that it wrote, for the message of a failed test
 };

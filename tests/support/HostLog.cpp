@@ -8,26 +8,26 @@ void HostLog::Watch(ZTBatchManager* manager)
 {
     connect(manager, &ZTBatchManager::ConnectionEstablished, this, [this] {
         ++connections;
-        Note(QStringLiteral("established"));
+        Note(HostLines::established);
     });
-    connect(manager, &ZTBatchManager::ConnectionFailed, this, [this] { Note(QStringLiteral("failed")); });
+    connect(manager, &ZTBatchManager::ConnectionFailed, this, [this] { Note(HostLines::failed); });
 }
 
 void HostLog::Watch(Session* session)
 {
-    const auto watchPlain = [this, session](void (Session::*signal)(), const char* line) {
-        connect(session, signal, this, [this, line] { Note(QLatin1String(line)); });
+    const auto watchPlain = [this, session](void (Session::*signal)(), const QString& line) {
+        connect(session, signal, this, [this, line] { Note(line); });
     };
-    watchPlain(&Session::Paused, "paused");
-    watchPlain(&Session::Resumed, "resumed");
-    watchPlain(&Session::Cancelled, "cancelled");
-    watchPlain(&Session::Aborted, "aborted");
-    watchPlain(&Session::Finished, "finished");
-    watchPlain(&Session::InputQuestion, "input question");
-    watchPlain(&Session::OutputQuestion, "output question");
-    watchPlain(&Session::ProcessingQuestion, "processing question");
-    watchPlain(&Session::NamingQuestion, "naming question");
-    watchPlain(&Session::WriteToFormatQuestion, "write-to-format question");
+    watchPlain(&Session::Paused, QStringLiteral("paused"));
+    watchPlain(&Session::Resumed, QStringLiteral("resumed"));
+    watchPlain(&Session::Cancelled, QStringLiteral("cancelled"));
+    watchPlain(&Session::Aborted, HostLines::aborted);
+    watchPlain(&Session::Finished, HostLines::finished);
+    watchPlain(&Session::InputQuestion, QStringLiteral("input question"));
+    watchPlain(&Session::OutputQuestion, QStringLiteral("output question"));
+    watchPlain(&Session::ProcessingQuestion, QStringLiteral("processing question"));
+    watchPlain(&Session::NamingQuestion, QStringLiteral("naming question"));
+    watchPlain(&Session::WriteToFormatQuestion, QStringLiteral("write-to-format question"));
     connect(session, &Session::Progress, this, [this](int value) { Note(QStringLiteral("progress %1").arg(value)); });
     connect(session, &Session::ProgressRange, this,
             [this](int minimum, int maximum) { Note(QStringLiteral("range %1 %2").arg(minimum).arg(maximum)); });

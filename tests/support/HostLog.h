@@ -5,7 +5,18 @@
 #include <QObject>
 #include <QStringList>
 
-/// What the manager and its sessions say to a host, in order, one line for each emission.
+/// The lines of a HostLog that many tests expect.
+namespace HostLines {
+
+inline const QString established = QStringLiteral("established");
+inline const QString failed = QStringLiteral("failed");
+inline const QString aborted = QStringLiteral("aborted");
+inline const QString finished = QStringLiteral("finished");
+inline const QString abnormalEnd = QStringLiteral("log [Abnormal process termination.]");
+
+} // namespace HostLines
+
+/// Records every signal of the manager and of its sessions, in order, one line for each emission.
 class HostLog : public QObject
 {
     Q_OBJECT
@@ -17,7 +28,7 @@ public:
     int Count(const QString& line) const { return lines.count(line); }
 
     QStringList lines;
-    int connections = 0; ///< how often ConnectionEstablished() came
+    int connections = 0; ///< how often ConnectionEstablished() was emitted
 
 private:
     void Note(const QString& line) { lines.append(line); }

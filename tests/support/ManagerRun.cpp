@@ -14,7 +14,7 @@ bool Eventually(const std::function<bool()>& condition)
 
 ManagerRun::ManagerRun(const QStringList& rules)
 {
-    stage.Play(rules);
+    stage.SetRules(rules);
     timings.reconnectInterval = 3600000;
     ZTBatchManager::InitInstance(SettingsDir());
     log.Watch(Manager());
@@ -23,7 +23,7 @@ ManagerRun::ManagerRun(const QStringList& rules)
 ManagerRun::~ManagerRun()
 {
     ZTBatchManager::ReleaseInstance();
-    // What was released with deleteLater().
+    // Deletes what deleteLater() has been called for.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     timings = ZTBatchManagerTimings();
 }
@@ -39,30 +39,30 @@ bool ManagerRun::Connect()
 bool ManagerRun::AwaitConnection(int opened, int connections)
 {
     if (!Eventually([&] { return stage.Count(QStringLiteral("open")) >= opened; })) {
-        TellWhatHappened();
+        PrintLogs();
         return false;
     }
-    // The pipe to an earlier server may still wait for its deletion.
+    // The pipe to an earlier server may not be deleted yet.
     const QList<ZTPipeSession*> pipes = Manager()->findChildren<ZTPipeSession*>();
-    // A server may be faster than the first attempt.
+    // The manager's own first attempt has succeeded already if the server was faster.
     if (!pipes.isEmpty() && !pipes.last()->WaitForConnected(0)) {
-        pipes.last()->Reconnect(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+        pipes.last()->Reconnect(ServerStage::PipeName());
     }
     if (!Eventually([&] { return log.connections >= connections; })) {
-        TellWhatHappened();
+        PrintLogs();
         return false;
     }
     return true;
 }
 
-void ManagerRun::TellWhatHappened() const
+void ManagerRun::PrintLogs() const
 {
     const auto list = [](const char* title, const QStringList& lines) {
         QTextStream(stderr) << title << ":\n    " << lines.join(QLatin1String("\n    ")) << '\n';
     };
-    list("The servers noted", stage.Events());
-    list("The host was told", log.lines);
-    list("The library wrote", debugLines.All());
+    list("Events of the servers", stage.Events());
+    list("Signals to the host", log.lines);
+    list("Debug lines of the library", debugLines.All());
 }
 
 QPointer<ManagerRun::Session> ManagerRun::CreateSession()
@@ -76,6 +76,12 @@ QPointer<ManagerRun::Session> ManagerRun::CreateSession()
         }
     }
     return session;
+}
+
+bool ManagerRun::OpenSession()
+{
+    session = Connect() ? CreateSession() : nullptr;
+    return !session.isNull();
 }
 
 QProcess* ManagerRun::Process()

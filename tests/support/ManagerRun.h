@@ -14,14 +14,18 @@
 
 class QProcess;
 
-/// Turns the event loop until `condition` holds, 20 seconds at most; returns whether it does.
+/// The rule of a server that opens its pipe when it starts.
+inline const QString opensAtOnce = QStringLiteral("start: open");
+
+/// Runs the event loop until `condition` holds, 20 seconds at most; returns whether it does.
 bool Eventually(const std::function<bool()>& condition);
 
-/// A host with a manager and a stage for its server: one for each test. Its end releases the manager.
+/// A host with a manager and a scripted server: one for each test. The destructor releases the manager and resets the
+/// timings.
 ///
-/// The manager does not try to connect again by itself unless a test sets the interval: on a machine under load an
-/// attempt that comes while the one before it succeeds takes the new connection down again. All other waits are as
-/// long as they are for users, until a test changes `timings`; its end puts them back.
+/// The manager does not reconnect by itself unless a test sets the interval: under load, an attempt that starts while
+/// the previous one succeeds would close the new connection. All other timeouts are those of production until a test
+/// changes `timings`.
 class ManagerRun
 {
 public:
@@ -30,21 +34,24 @@ public:
     explicit ManagerRun(const QStringList& rules);
     ~ManagerRun();
 
-    /// Starts the server and waits until it is connected, which it is as soon as it has opened its pipe.
+    /// Starts the server and waits until the manager is connected to it.
     bool Connect();
 
-    /// The second half of it, when something else has caused the start: waits until `opened` servers of this run have
-    /// opened their pipes, connects to the last one, and waits for what is then connection number `connections`.
+    /// For a start that something else has caused: waits until `opened` servers of this run have opened their pipes,
+    /// connects to the last one, and waits for connection number `connections`.
     bool AwaitConnection(int opened, int connections);
 
-    /// A session whose emissions go to the log; the server knows it when this returns. Null when that failed.
+    /// Creates a session whose signals are logged, and waits until the server knows it. Null on failure.
     QPointer<Session> CreateSession();
 
-    /// The manager; null when it was released.
+    /// Connect() and CreateSession(): how most tests begin. The session is `session`.
+    bool OpenSession();
+
+    /// The manager; null after its release.
     static ZTBatchManager* Manager() { return ZTBatchManager::Instance(); }
     static QProcess* Process();
 
-    /// What the manager and its private part have written, in order.
+    /// The debug texts of the manager and of its private part, in order.
     QStringList DebugTexts() const;
 
     QString SettingsDir() const { return folder.FilePath(QStringLiteral("settings")); }
@@ -54,10 +61,11 @@ public:
     ZTBatchManagerTimings& timings = ZTBatchManagerTimings::InUse();
     DebugLines debugLines;
     HostLog log;
+    QPointer<Session> session; ///< the one of OpenSession()
 
 private:
     Q_DISABLE_COPY(ManagerRun)
 
-    /// For a test that fails: what servers, host and library have noted goes to the terminal.
-    void TellWhatHappened() const;
+    /// Prints the logs of servers, host and library, for a test that fails.
+    void PrintLogs() const;
 };

@@ -24,7 +24,7 @@ QByteArray Content(const QString& path)
 ServerStage::ServerStage()
 {
     RemoveRecords();
-    Play({});
+    SetRules({});
 }
 
 ServerStage::~ServerStage()
@@ -36,7 +36,7 @@ ServerStage::~ServerStage()
     RemoveRecords();
 }
 
-void ServerStage::Play(const QStringList& rules)
+void ServerStage::SetRules(const QStringList& rules)
 {
     WriteServerRules(ServerPath(), rules);
 }
@@ -44,6 +44,11 @@ void ServerStage::Play(const QStringList& rules)
 QString ServerStage::ServerPath()
 {
     return BuiltProgram(QStringLiteral("VelkoraBatchProcessing"));
+}
+
+QString ServerStage::PipeName()
+{
+    return QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
 }
 
 void ServerStage::HideServer()

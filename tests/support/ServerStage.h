@@ -4,19 +4,24 @@
 #include <QString>
 #include <QStringList>
 
-/// The test's side of the scripted server beside its executable, see ScriptedServer: gives it its script and reads what
-/// it writes down. Made first thing in a test; at its end no server is left.
+/// Controls the scripted server beside the test's executable, see ScriptedServer: writes its script and reads its
+/// records. Created first in a test; the destructor kills the servers that are still alive.
 class ServerStage
 {
 public:
     ServerStage();
     ~ServerStage();
 
-    /// The rules for every server that starts from now on.
-    void Play(const QStringList& rules);
+    /// Sets the rules for every server that starts from now on.
+    void SetRules(const QStringList& rules);
 
-    /// The server's executable; takes it away and puts it back.
+    /// The server's executable.
     static QString ServerPath();
+
+    /// The pipe that a server opens when the manager starts it.
+    static QString PipeName();
+
+    /// Removes the executable and puts it back.
     void HideServer();
     void ShowServer();
 
@@ -24,13 +29,13 @@ public:
     QStringList Events() const;
     int Count(const QString& event) const;
 
-    /// The bytes that came on the n-th connection.
+    /// The bytes received on the n-th connection.
     QByteArray Received(int connection = 1) const;
 
-    /// The identifier in the first message of the first connection, which creates a session; empty before it came.
+    /// The identifier in the first message of the first connection, which creates a session; empty before that message.
     QString SessionId() const;
 
-    /// The servers that live now.
+    /// The process ids of the servers that are alive.
     QList<qint64> LivingServers() const;
 
 private:

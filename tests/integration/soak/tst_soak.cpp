@@ -8,15 +8,11 @@
 
 #include <cstdio>
 
-// Long lives: nothing piles up, and no moment for the server to die is a bad one.
-
 namespace {
 
 using Session = ZTBatchManager::ZTBatchSession;
 
-const QString opensAtOnce = QStringLiteral("start: open");
-
-/// The memory of this process in KiB; 0 where that cannot be told.
+/// The resident memory of this process in KiB; 0 where the system does not tell.
 qint64 ResidentMemory()
 {
 #ifdef Q_OS_LINUX
@@ -32,21 +28,22 @@ qint64 ResidentMemory()
     return 0;
 }
 
-/// To the terminal, past the collection of the debug lines.
-void Say(const QString& text)
+/// Writes to the terminal directly: DebugLines swallows what Qt logs.
+void Print(const QString& text)
 {
     std::printf("%s\n", qPrintable(text));
     std::fflush(stdout);
 }
 
 #if defined(__SANITIZE_ADDRESS__)
-constexpr bool memoryIsMeasured = false; // freed memory is kept back on purpose
+constexpr bool memoryIsMeasured = false; // the sanitizer keeps freed memory
 #else
 constexpr bool memoryIsMeasured = true;
 #endif
 
 } // namespace
 
+/// Long runs: memory and objects do not accumulate, and the server may be killed at any moment.
 class tst_Soak : public QObject
 {
     Q_OBJECT
@@ -60,7 +57,7 @@ void tst_Soak::thousandRuns()
 {
     constexpr int warmUp = 200;
     constexpr int runs = 1000;
-    constexpr qint64 allowedGrowth = 1024; // KiB: a KiB for each run at most
+    constexpr qint64 allowedGrowth = 1024; // KiB: at most one for each run
 
     ManagerRun run(
         {opensAtOnce,
@@ -91,11 +88,11 @@ void tst_Soak::thousandRuns()
         delete session;
     }
     const qint64 growth = ResidentMemory() - memoryBefore;
-    Say(QStringLiteral("%1 runs, memory %2 KiB before them and %3 KiB more behind them")
-            .arg(runs)
-            .arg(memoryBefore)
-            .arg(growth));
-    QCOMPARE(run.log.Count(QStringLiteral("failed")), 0);
+    Print(QStringLiteral("%1 runs, memory %2 KiB before them and %3 KiB more after them")
+              .arg(runs)
+              .arg(memoryBefore)
+              .arg(growth));
+    QCOMPARE(run.log.Count(HostLines::failed), 0);
     QVERIFY(Eventually([&] { return run.stage.Count(QStringLiteral("message 1")) == warmUp + runs; }));
     QVERIFY2(!memoryIsMeasured || growth <= allowedGrowth, qPrintable(QString::number(growth)));
     QCOMPARE(run.Manager()->children().size(), 2); // the process and the pipe
@@ -104,7 +101,7 @@ void tst_Soak::thousandRuns()
 void tst_Soak::serverKilledAtAnyMoment()
 {
 #ifdef Q_OS_WIN
-    // A process takes ten times as long to start there, so fewer have to do, and the moments lie further apart.
+    // On Windows a process takes ten times as long to start: fewer starts, at moments further apart.
     constexpr int starts = 40;
     constexpr int latestKill = 2500; // ms
 #else
@@ -112,10 +109,10 @@ void tst_Soak::serverKilledAtAnyMoment()
     constexpr int latestKill = 120; // ms
 #endif
     constexpr quint32 seed = 20240611;
-    Say(QStringLiteral("seed %1").arg(seed));
+    Print(QStringLiteral("seed %1").arg(seed));
     QRandomGenerator random(seed);
 
-    // From before the pipe is open until deep in a run.
+    // The moments range from before the pipe is open to the middle of a run.
     ManagerRun run({QStringLiteral("start: wait 5; open"),
                     QStringLiteral("5: send 11 id i:0 i:9; flood 3000; wait 5; flood 3000; send 6 id")});
     run.timings.reconnectInterval = 10;
@@ -124,11 +121,11 @@ void tst_Soak::serverKilledAtAnyMoment()
         if (run.Manager()->IsAllowToCreateSession()) {
             const QPointer<Session> session = run.Manager()->CreateBatchSession();
             if (!session) {
-                return; // The server was gone before the host heard of it.
+                return; // The server has ended before the host got the signal.
             }
             ++sessions;
             session->Process(QStringLiteral("<batch/>"));
-            // The end of the server and the end of a run both end the session.
+            // The session is deleted at the end of the server as well as at the end of its run.
             connect(session, &Session::Aborted, session, [session] { delete session; });
             connect(session, &Session::Finished, session, [session] { delete session; });
         }
@@ -138,18 +135,18 @@ void tst_Soak::serverKilledAtAnyMoment()
         QVERIFY(run.Manager()->IsStarted());
         const QPointer<QProcess> process = run.Process();
         QTimer::singleShot(static_cast<int>(random.bounded(latestKill)), process, &QProcess::kill);
-        QVERIFY(Eventually([&] { return run.log.Count(QStringLiteral("failed")) == i + 1; }));
+        QVERIFY(Eventually([&] { return run.log.Count(HostLines::failed) == i + 1; }));
         QVERIFY(!run.Manager()->IsStarted());
         QVERIFY(run.Manager()->IsAllowToCreateSession());
         QCoreApplication::processEvents();
-        QCOMPARE(run.log.Count(QStringLiteral("failed")), i + 1);
+        QCOMPARE(run.log.Count(HostLines::failed), i + 1);
     }
     QCOMPARE(run.stage.LivingServers(), QList<qint64>());
     QVERIFY(sessions > 0);
-    Say(QStringLiteral("%1 starts, %2 sessions").arg(starts).arg(sessions));
+    Print(QStringLiteral("%1 starts, %2 sessions").arg(starts).arg(sessions));
 
     run.timings.reconnectInterval = 1000;
-    run.stage.Play({opensAtOnce});
+    run.stage.SetRules({opensAtOnce});
     QVERIFY(Eventually([&] { return run.Process() == nullptr; }));
     run.Manager()->Start();
     QVERIFY(Eventually([&] { return sessions > 0 && run.Manager()->CreateBatchSession(); }));

@@ -1,0 +1,39 @@
+#include "ServerLife.h"
+
+#include "ManagerRun.h"
+
+#include <algorithm>
+
+QByteArray CloseServerFrame()
+{
+    return QByteArray::fromHex("00000004"
+                               "00320031"
+                               "00000000");
+}
+
+QList<QAbstractEventDispatcher::TimerInfo> TimersOf(QObject* object)
+{
+    return QAbstractEventDispatcher::instance()->registeredTimers(object);
+}
+
+QList<int> TimerIntervals(QObject* object)
+{
+    QList<int> intervals;
+    for (const QAbstractEventDispatcher::TimerInfo& timer : TimersOf(object)) {
+        intervals.append(timer.interval);
+    }
+    std::sort(intervals.begin(), intervals.end());
+    return intervals;
+}
+
+OrphanServer::OrphanServer(const ServerStage& stage)
+{
+    process.start(ServerStage::ServerPath(), {ServerStage::PipeName()});
+    isOpen = Eventually([&stage] { return stage.Count(QStringLiteral("open")) == 1; });
+}
+
+OrphanServer::~OrphanServer()
+{
+    process.kill();
+    process.waitForFinished();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ServerStage.h"
+
+#include <QAbstractEventDispatcher>
+#include <QByteArray>
+#include <QList>
+#include <QProcess>
+
+/// The message that asks a server to end, as the bytes on the pipe: its payload is empty, not null.
+QByteArray CloseServerFrame();
+
+/// The timers that `object` has started.
+QList<QAbstractEventDispatcher::TimerInfo> TimersOf(QObject* object);
+
+/// Their intervals in milliseconds, sorted.
+QList<int> TimerIntervals(QObject* object);
+
+/// A server that the manager has not started, as one left over from an earlier run of the host. The destructor kills
+/// it.
+class OrphanServer
+{
+public:
+    /// Starts the server and waits until it has opened its pipe; `isOpen` tells whether it has.
+    explicit OrphanServer(const ServerStage& stage);
+    ~OrphanServer();
+
+    QProcess process;
+    bool isOpen = false;
+
+private:
+    Q_DISABLE_COPY(OrphanServer)
+};
