@@ -88,6 +88,7 @@ QStringList Names(const QVector<Message>& messages)
 void tst_Translations::languages()
 {
     QTest::addColumn<QString>("language");
+
     for (const char* const language : {"de", "es", "fr", "ja"}) {
         QTest::newRow(language) << QString::fromLatin1(language);
     }
@@ -111,6 +112,7 @@ void tst_Translations::sourcesAreFinished()
 void tst_Translations::sourcesMatchTheCode()
 {
     QFETCH(QString, language);
+
     if (QStringLiteral(LUPDATE).isEmpty()) {
         QSKIP("The tools run on the building machine, whose own tests compare the same files.");
     }

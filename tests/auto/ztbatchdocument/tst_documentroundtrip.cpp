@@ -252,6 +252,7 @@ void tst_DocumentRoundTrip::doubles()
 void tst_DocumentRoundTrip::integers_data()
 {
     QTest::addColumn<int>("value");
+
     for (const int value : {1, -1, 2, 7, 132, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
         QTest::addRow("%d", value) << value;
     }
@@ -441,6 +442,7 @@ void tst_DocumentRoundTrip::SetRandomOutput(QRandomGenerator& random, Settings& 
 void tst_DocumentRoundTrip::randomDocuments_data()
 {
     QTest::addColumn<uint>("seed");
+
     for (uint seed = 1; seed <= 300; ++seed) {
         QTest::addRow("seed %u", seed) << seed;
     }

@@ -442,6 +442,7 @@ void tst_DocumentWriting::missingFileIsWrittenWithoutSink()
 void tst_DocumentWriting::missingFileIsLeftOutWithSink_data()
 {
     QTest::addColumn<bool>("isBrowser");
+
     QTest::newRow("any object") << false;
     QTest::newRow("browser") << true;
 }
@@ -550,6 +551,7 @@ void tst_DocumentWriting::pathsInWarningsAreNoMarkup_data()
 void tst_DocumentWriting::pathsInWarningsAreNoMarkup()
 {
     QFETCH(QString, path);
+
     ZTBatchDocument document;
     AddInput(document, File, path);
     AddInput(document, File, QStringLiteral("/nowhere/z"));

@@ -108,6 +108,7 @@ void tst_GuardedDom::depth_data()
 {
     QTest::addColumn<int>("levels");
     QTest::addColumn<bool>("isTaken");
+
     QTest::newRow("one") << 1 << true;
     QTest::newRow("deepest on the caller's stack") << 1000 << true;
     QTest::newRow("deeper") << 1001 << true;

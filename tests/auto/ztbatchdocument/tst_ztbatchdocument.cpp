@@ -33,8 +33,8 @@ private Q_SLOTS:
     void setStyle();
     void setStyleToItsOwn();
     void deletedByItsOwnSignal();
-    void brokenInvariants_data();
-    void brokenInvariants();
+    void failedAssertions_data();
+    void failedAssertions();
 };
 
 void tst_ZTBatchDocument::metaObject()
@@ -306,7 +306,7 @@ void tst_ZTBatchDocument::deletedByItsOwnSignal()
     QVERIFY(document == nullptr);
 }
 
-void tst_ZTBatchDocument::brokenInvariants_data()
+void tst_ZTBatchDocument::failedAssertions_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("line");
@@ -327,7 +327,7 @@ void tst_ZTBatchDocument::brokenInvariants_data()
         << QStringLiteral("document-read-without-settings") << QStringLiteral(R"(\d+)");
 }
 
-void tst_ZTBatchDocument::brokenInvariants()
+void tst_ZTBatchDocument::failedAssertions()
 {
     QFETCH(QString, name);
     QFETCH(QString, line);

@@ -8,8 +8,8 @@
 #include <random>
 #include <vector>
 
-/// Random edits of the model, each repeated on a plain tree that knows nothing of rows remembered, counts kept or
-/// indexes moved. After every edit the two are compared whole.
+/// Random edits of the model, each repeated on a plain tree without remembered rows, counts or persistent indexes.
+/// After every edit the two are compared completely.
 class tst_InputModelEdits : public QObject
 {
     Q_OBJECT
@@ -84,7 +84,7 @@ public:
         }
     }
 
-    /// What is wrong, empty when nothing is.
+    /// The first difference between the model and the plain tree; empty if there is none.
     QString Difference()
     {
         std::map<int, QModelIndex> indexes;
@@ -119,7 +119,7 @@ private:
 
     int Random(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
 
-    /// Any node that may have children; the top level, too.
+    /// Any node that may have children, or the top level.
     Place RandomFolder()
     {
         Place place{&plain, QModelIndex()};
@@ -151,7 +151,7 @@ private:
         return {folder.node->children[static_cast<size_t>(row)].get(), model.index(row, 0, folder.index)};
     }
 
-    /// The same branch twice: for the model and for the plain tree.
+    /// Two equal branches: one for the model, one for the plain tree.
     InputNode* MakeBranch(PlainNode& twin, int depth)
     {
         twin.id = nextId++;
@@ -184,7 +184,7 @@ private:
 
         auto& siblings = folder.node->children;
         const auto before = [](const auto& a, const auto& b) { return ComesBefore(*a, *b); };
-        // Only a sorted list has one right place. Rows that insertRows() put anywhere leave that to the search.
+        // Only in a sorted list is the place unique. Among rows that insertRows() has put anywhere, the search decides.
         const bool isSorted = std::is_sorted(siblings.begin(), siblings.end(), before);
         const auto place = isSorted ? std::upper_bound(siblings.begin(), siblings.end(), twin, before)
                                     : siblings.begin() + qBound(0, index.row(), static_cast<int>(siblings.size()));

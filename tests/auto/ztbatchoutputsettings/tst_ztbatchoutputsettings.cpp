@@ -513,6 +513,7 @@ void tst_ZTBatchOutputSettings::ignoredNamingValues_data()
 {
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("digits");
+
     QTest::newRow("just below") << -1 << 0;
     QTest::newRow("negative") << -1000 << -1;
     QTest::newRow("least") << std::numeric_limits<int>::min() << std::numeric_limits<int>::min();

@@ -180,6 +180,7 @@ void tst_ZTFrameReader::namesOfNeighboursDoNotMix()
 void tst_ZTFrameReader::payloadsAroundTheFetchSize_data()
 {
     QTest::addColumn<int>("size");
+
     for (const int size : {65000, 65521, 65522, 65523, 65535, 65536, 65537, 131072, 131073, 1000000}) {
         QTest::addRow("%d", size) << size;
     }
@@ -327,6 +328,7 @@ void tst_ZTFrameReader::refusals()
 void tst_ZTFrameReader::largestSizesAreTaken_data()
 {
     QTest::addColumn<QByteArray>("front");
+
     QTest::newRow("name of 64 KiB") << QByteArray::fromHex("00010000");
     QTest::newRow("payload of 1 GiB") << QByteArray::fromHex("00000000"
                                                              "40000000");

@@ -77,6 +77,7 @@ void tst_ZTStyle::effectsKeepTheirOrderAndBytes()
 void tst_ZTStyle::indexesOutsideGiveNothing_data()
 {
     QTest::addColumn<int>("index");
+
     QTest::newRow("negative") << -1;
     QTest::newRow("count") << 1;
     QTest::newRow("far") << 1000000;

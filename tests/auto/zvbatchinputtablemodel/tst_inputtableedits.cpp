@@ -7,8 +7,8 @@
 #include <random>
 #include <vector>
 
-/// Random edits of the source and toggles of the table. After each, every cell and every search is compared with what
-/// the rows of the last rebuild, kept as plain lists, say.
+/// Random edits of the source and toggles of the table. After each, every cell and every search is compared with the
+/// rows of the last rebuild, which the test keeps as plain lists.
 class tst_InputTableEdits : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// One row as the last rebuild must have made it.
+/// One expected row since the last rebuild.
 struct PlainRow
 {
     bool isFolder;
@@ -61,7 +61,7 @@ public:
         }
     }
 
-    /// What is wrong, empty when nothing is.
+    /// The first difference between the table and the expected rows; empty if there is none.
     QString Difference() const
     {
         if (table.rowCount() != rows.size()) {
@@ -127,7 +127,7 @@ private:
         const int count = source.rowCount(folder);
         if (count > 0) {
             const int first = Random(count);
-            // Now and then more rows than there are.
+            // Sometimes more rows than there are.
             source.removeRows(first, 1 + Random(qMin(3, count - first)) + (Random(8) == 0 ? 3 : 0), folder);
         }
     }
@@ -198,7 +198,7 @@ private:
         }
     }
 
-    /// The first cell with `sourceIndex`, found by looking at all of them.
+    /// The first cell with `sourceIndex`, found by a linear search.
     QModelIndex FirstCell(const QModelIndex& sourceIndex) const
     {
         for (int row = 0; row < rows.size(); ++row) {

@@ -38,6 +38,7 @@ void tst_ZVFileBookmark::emptyPathIsEmpty()
 void tst_ZVFileBookmark::keepsItsPath_data()
 {
     QTest::addColumn<QString>("path");
+
     QTest::newRow("absolute") << QStringLiteral("/photos/2024/IMG 0001.jpg");
     QTest::newRow("relative") << QStringLiteral("a.jpg");
     QTest::newRow("not cleaned") << QStringLiteral("/photos/../photos//a.jpg/");
@@ -47,6 +48,7 @@ void tst_ZVFileBookmark::keepsItsPath_data()
 void tst_ZVFileBookmark::keepsItsPath()
 {
     QFETCH(QString, path);
+
     const ZVFileBookmark bookmark(path);
     QVERIFY(!bookmark.IsEmpty());
     QCOMPARE(bookmark.Path(), path);

@@ -86,6 +86,7 @@ Cause CurrentCause()
 {
     QFETCH(QByteArray, signature);
     QFETCH(QString, action);
+
     return {signature, action};
 }
 
