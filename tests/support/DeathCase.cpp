@@ -1,9 +1,8 @@
 #include "DeathCase.h"
 
 #include "ProcessEnd.h"
+#include "ProgramFiles.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
@@ -71,7 +70,7 @@ DeathReport RunDeathCase(const QString& name)
 {
     QProcess helper;
     helper.setProcessChannelMode(QProcess::MergedChannels);
-    helper.start(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("deaths")), {name});
+    helper.start(BuiltProgram(QStringLiteral("deaths")), {name});
     const bool finished = helper.waitForFinished(30000);
 
     DeathReport report;

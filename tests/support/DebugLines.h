@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-/// Collects every message that Qt's logging gets while it lives, from all threads, and keeps them from the terminal.
-/// One at a time.
+/// Collects all messages of Qt's logging from all threads, instead of printing them, as long as it exists. There may be
+/// only one at a time.
 class DebugLines
 {
 public:

@@ -6,7 +6,7 @@
 
 using InputNode = TreeNode<BatchNodeData>;
 
-/// A file that belongs to nobody, named `text`, at the path /in/<text>.
+/// A file without a parent, with the text `text` and the path /in/<text>.
 inline InputNode* NewFile(const QString& text)
 {
     auto* const node = new InputNode;
@@ -18,7 +18,7 @@ inline InputNode* NewFile(const QString& text)
     return node;
 }
 
-/// A folder that belongs to nobody, with children that it adopts, counted.
+/// The same for a folder, which takes ownership of `children` and counts their files.
 inline InputNode* NewFolder(const QString& text, const QList<InputNode*>& children = {})
 {
     auto* const node = new InputNode;

@@ -1,6 +1,7 @@
 #include "OwnFolder.h"
 
 #include "ProcessEnd.h"
+#include "ProgramFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -17,14 +18,8 @@ namespace {
 constexpr char folderVariable[] = "BATCHCORE_TEST_OWN_FOLDER";
 constexpr int failure = 97;
 
-#ifdef Q_OS_WIN
-const QString suffix = QStringLiteral(".exe");
-#else
-const QString suffix;
-#endif
-
-/// A hard link where that is possible: the executable must find itself in the new place. Windows would not remove a
-/// link to an executable that runs.
+/// Makes a hard link where that is possible: a process must find its executable in the new folder. Windows does not
+/// remove links to a running executable.
 bool Place(const QString& from, const QString& to)
 {
 #ifdef Q_OS_WIN
@@ -42,7 +37,7 @@ int RunThere(const QString& executable, const QString& folder, const QStringList
     environment.insert(QString::fromLatin1(folderVariable), folder);
     environment.insert(QStringLiteral("TMPDIR"), folder);
 #ifdef Q_OS_WIN
-    // The libraries are found beside the executable or on this path.
+    // Windows looks for libraries beside the executable and in this path.
     environment.insert(QStringLiteral("PATH"), QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) +
                                                    QLatin1Char(';') + environment.value(QStringLiteral("PATH")));
 #endif
@@ -53,7 +48,7 @@ int RunThere(const QString& executable, const QString& folder, const QStringList
     test.setInputChannelMode(QProcess::ForwardedInputChannel);
     test.start(executable, arguments);
     if (!test.waitForFinished(-1) || test.exitStatus() != QProcess::NormalExit) {
-        std::fprintf(stderr, "The test did not end by itself: %s\n", qUtf8Printable(test.errorString()));
+        std::fprintf(stderr, "The test crashed or could not be run: %s\n", qUtf8Printable(test.errorString()));
         return failure;
     }
     return test.exitCode();
@@ -63,14 +58,13 @@ int RunInNewFolder(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     const QTemporaryDir folder;
-    const QDir from(QCoreApplication::applicationDirPath());
     const QDir to(folder.path());
     const QString executable = to.filePath(QFileInfo(QCoreApplication::applicationFilePath()).fileName());
     if (!folder.isValid() || !Place(QCoreApplication::applicationFilePath(), executable) ||
-        !Place(from.filePath(QStringLiteral("scriptedserver") + suffix),
-               to.filePath(QStringLiteral("VelkoraBatchProcessing") + suffix)) ||
-        !Place(from.filePath(QStringLiteral("deaths") + suffix), to.filePath(QStringLiteral("deaths") + suffix))) {
-        std::fprintf(stderr, "The test's folder could not be made.\n");
+        !Place(BuiltProgram(QStringLiteral("scriptedserver")),
+               to.filePath(ProgramFileName(QStringLiteral("VelkoraBatchProcessing")))) ||
+        !Place(BuiltProgram(QStringLiteral("deaths")), to.filePath(ProgramFileName(QStringLiteral("deaths"))))) {
+        std::fprintf(stderr, "The test's folder could not be created.\n");
         return failure;
     }
     return RunThere(executable, folder.path(), QCoreApplication::arguments().mid(1));

@@ -1,11 +1,11 @@
 #pragma once
 
-/// Runs a test in a folder of its own. The manager starts the server that stands beside the executable, so a test that
-/// brings its own server must not stand where all executables do, and two of them not in one place.
+/// Runs a test in a folder of its own. The manager starts the server that is beside the executable, so each test with a
+/// server of its own needs a folder of its own.
 ///
-/// Makes a temporary folder with this executable, the scripted server under the name that the manager looks for, and
-/// the helper "deaths"; runs this executable there with the same arguments and the folder as place for temporary
-/// files, and removes everything in the end. In that second process `runTest` is called. Returns the test's exit code.
+/// Creates a temporary folder with this executable, the scripted server under the name of the real one, and the helper
+/// "deaths". Runs this executable there, with the same arguments and with the folder for temporary files; that second
+/// process calls `runTest`. Removes the folder afterwards, and returns the test's exit code.
 int RunInOwnFolder(int argc, char** argv, int (*runTest)(int, char**));
 
 /// The main() of such a test without a display.

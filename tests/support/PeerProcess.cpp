@@ -1,9 +1,9 @@
 #include "PeerProcess.h"
 
-#include <QCoreApplication>
+#include "ProgramFiles.h"
+
 #include <QDeadlineTimer>
 #include <QDebug>
-#include <QDir>
 
 namespace {
 constexpr int answerLimit = 40000;
@@ -12,7 +12,7 @@ constexpr int answerLimit = 40000;
 PeerProcess::PeerProcess()
 {
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("peer")), QStringList());
+    process.start(BuiltProgram(QStringLiteral("peer")), QStringList());
     if (!process.waitForStarted()) {
         qFatal("The peer process did not start: %s", qUtf8Printable(process.errorString()));
     }

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// Gives this process and its children a temporary folder of their own: local sockets and temporary files of tests that
-/// run side by side never meet. Made first thing in a test; removes the folder at its end.
+/// A temporary folder of its own for this process and its children, so that local sockets and temporary files of tests
+/// that run in parallel are separate. Created first in a test; the destructor removes the folder.
 class PrivateTempDir
 {
 public:
@@ -14,7 +14,7 @@ public:
     /// The absolute path of `name` in the folder.
     QString FilePath(const QString& name) const;
 
-    /// The names of what stands in the folder now, sorted; local sockets are found too.
+    /// The names of all entries of the folder, sorted, including local sockets.
     QStringList Entries() const;
 
 private:

@@ -7,7 +7,7 @@
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
-// After it.
+// Needs the header above.
 #include <tlhelp32.h>
 #else
 #include <cerrno>
@@ -28,14 +28,14 @@ namespace {
 
 namespace {
 
-template<typename Take>
-void ForEachProcess(const Take& take)
+template<typename Function>
+void ForEachProcess(const Function& function)
 {
     const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
     PROCESSENTRY32W entry{};
     entry.dwSize = sizeof(entry);
     for (BOOL found = Process32FirstW(processes, &entry); found; found = Process32NextW(processes, &entry)) {
-        take(entry);
+        function(entry);
     }
     CloseHandle(processes);
 }
@@ -51,7 +51,7 @@ DWORD ParentId()
     return parent;
 }
 
-/// In units of 100 ns; 0 for a process that has gone.
+/// In units of 100 ns; 0 for a process that no longer exists.
 quint64 StartTime(DWORD pid)
 {
     FILETIME start{};
@@ -85,7 +85,7 @@ void CrashQuietly()
 
 void Crash()
 {
-    // abort() is an ordinary end here, with code 3.
+    // On Windows abort() is a normal exit with code 3.
     RaiseException(EXCEPTION_ACCESS_VIOLATION, EXCEPTION_NONCONTINUABLE, 0, nullptr);
     std::abort();
 }
@@ -118,12 +118,12 @@ QList<qint64> ChildrenOf(qint64 pid)
     QList<qint64> children;
     const quint64 start = StartTime(static_cast<DWORD>(pid));
     ForEachProcess([&](const PROCESSENTRY32W& entry) {
-        // The system's own process behind the console of another is no child of that one's making.
+        // The system starts this process for a console; it is not a child that `pid` has started.
         const bool isConsole = QString::fromWCharArray(entry.szExeFile) == QLatin1String("conhost.exe");
         if (qint64(entry.th32ParentProcessID) != pid || isConsole) {
             return;
         }
-        // One that is older is the child of a process that has ended, and whose number has been given again.
+        // An older process is the child of an earlier process that had the same number.
         if (StartTime(entry.th32ProcessID) >= start) {
             children.append(entry.th32ProcessID);
         }
@@ -162,7 +162,7 @@ void EndAtOnce(int exitCode)
 bool IsProcessAlive(qint64 pid)
 {
 #ifdef Q_OS_LINUX
-    // One that has ended keeps its number until its parent asks for its end, which a new parent may do seconds later.
+    // A process that has ended is a zombie until its parent waits for it; a new parent may do that seconds later.
     QFile file(QStringLiteral("/proc/%1/stat").arg(pid));
     const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     return !status.isEmpty() && status.mid(status.lastIndexOf(')') + 2, 1) != "Z";

@@ -2,20 +2,20 @@
 
 #include <QList>
 
-/// Makes the system end this process together with the one that started it, where the system can do that.
+/// Makes the system end this process when its parent ends, where the system supports that.
 void EndWithParent();
 
-/// A crash of this process leaves no core file and no window behind.
+/// Prevents a core file or an error window if this process crashes.
 void CrashQuietly();
 
 /// Ends this process in a way that its parent sees as a crash.
 [[noreturn]] void Crash();
 
-/// Ends this process as it is: no library gets the chance to clean up, and to wait for a thread that is gone.
+/// Ends this process at once, without any clean-up: that could wait for a thread that no longer exists.
 [[noreturn]] void EndAtOnce(int exitCode);
 
 bool IsProcessAlive(qint64 pid);
 void KillProcess(qint64 pid);
 
-/// The living processes that `pid` has started itself; none where that is not to be had.
+/// The living child processes of `pid`; none where the system does not tell.
 QList<qint64> ChildrenOf(qint64 pid);

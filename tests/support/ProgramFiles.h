@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QString>
 
-/// The name of the file in which the system keeps the program `name`.
+/// The file name of the program `name` on this system.
 inline QString ProgramFileName(const QString& name)
 {
 #ifdef Q_OS_WIN
@@ -14,7 +14,7 @@ inline QString ProgramFileName(const QString& name)
 #endif
 }
 
-/// The path of the program `name` that was built beside this one.
+/// The path of the program `name` in the folder of this program.
 inline QString BuiltProgram(const QString& name)
 {
     return QDir(QCoreApplication::applicationDirPath()).filePath(ProgramFileName(name));

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-/// The rules of the scripted server whose executable is `server`, see ServerScript; written for all that start from now
-/// on. Ends the test when they cannot be.
+/// Writes the rules of the scripted server whose executable is `server`, see ServerScript. They are valid for all
+/// servers that start from now on. Ends the test if the file cannot be written.
 void WriteServerRules(const QString& server, const QStringList& rules);
 
-/// The rules for those that start after one has done the action "next".
+/// The same for servers that start after one of them has executed the action "next".
 void WriteNextServerRules(const QString& server, const QStringList& rules);

@@ -122,7 +122,7 @@ void tst_BatchNodeData::compares_data()
     row("two kinds of file, the other way", 2, b, File, a, false, false);
     row("folder before a negative type", Folder, a, -1, a, true, false);
     row("negative type behind folder", -1, a, Folder, a, false, false);
-    // U+FF5E is one code unit 0xFF5E; U+1F600 begins with 0xD83D: less as code units, greater as code points.
+    // U+FF5E is one code unit, 0xFF5E. U+1F600 begins with 0xD83D: less in code units, greater in code points.
     row("by code units", File, QString::fromUtf8("\xF0\x9F\x98\x80"), File, QString(QChar(0xFF5E)), true, false);
     row("no normalisation", File, QStringLiteral("e\u0301"), File, QStringLiteral("\u00e9"), true, false);
 }
@@ -136,7 +136,7 @@ void tst_BatchNodeData::compares()
     QFETCH(bool, less);
     QFETCH(bool, equal);
 
-    // No other field takes part.
+    // No other field is compared.
     Record left = FullRecord();
     left.type = leftType;
     left.inputText = leftText;

@@ -11,7 +11,7 @@
 #include <QTranslator>
 #include <QtTest>
 
-/// Tests of the catalogues that are shipped.
+/// The translations that are shipped.
 class tst_Translations : public QObject
 {
     Q_OBJECT
@@ -102,13 +102,13 @@ void tst_Translations::sourcesAreFinished()
     QVERIFY(messages.size() >= 19);
     for (const Message& message : messages) {
         QVERIFY2(message.state.isEmpty() && !message.translation.isEmpty(), qPrintable(message.Name()));
-        // A sentence stays one, an introduction to a list too.
+        // A translation ends with a full stop or a colon exactly when its source does.
         QCOMPARE(QStringLiteral(".:\u3002\uFF1A").contains(message.translation.right(1)),
                  QStringLiteral(".:").contains(message.source.right(1)));
     }
 }
 
-/// What the tools find in the code now is what the catalogue has, no more and no less.
+/// The catalogue has exactly the texts that the tools find in the code now.
 void tst_Translations::sourcesMatchTheCode()
 {
     QFETCH(QString, language);

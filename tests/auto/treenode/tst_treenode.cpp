@@ -72,8 +72,7 @@ void tst_TreeNode::livesWhereItIsPut()
 
 void tst_TreeNode::isSmall()
 {
-    // A million nodes are a job that people have. Each also takes a place in its parent's list and what the allocator
-    // adds.
+    // Jobs of a million nodes are real. Each node also needs a place in its parent's list and the allocator's overhead.
     QVERIFY2(sizeof(InputNode) <= 128, qPrintable(QString::number(sizeof(InputNode))));
 }
 
@@ -81,7 +80,7 @@ void tst_TreeNode::insertChildKeepsTheOrder_data()
 {
     QTest::addColumn<QStringList>("texts");
 
-    // Texts that begin with "/" are folders.
+    // A text that begins with "/" stands for a folder.
     QStringList texts{QStringLiteral("/z"), QStringLiteral("B.jpg"), QStringLiteral("a"), QStringLiteral("b.jpg")};
     std::sort(texts.begin(), texts.end());
     do {
@@ -107,7 +106,7 @@ void tst_TreeNode::insertChildKeepsTheOrder()
 
 void tst_TreeNode::insertChildGoesBehindEqualChildren()
 {
-    // Whatever the length of the run of equal children, and whatever stands around it.
+    // With any number of equal children, and any number of others before and behind them.
     for (int before = 0; before < 5; ++before) {
         for (int behind = 0; behind < 5; ++behind) {
             InputNode parent;
@@ -145,7 +144,7 @@ void tst_TreeNode::insertChildLeavesTheOldParent()
     QCOMPARE(first->data.fileNodesCount, 3);
     QCOMPARE(second.data.fileNodesCount, 0);
 
-    // Into the same parent again: taken out first, so that it does not find itself.
+    // Inserted into the same parent again, a child is removed first, so that the search does not find it.
     first->children.first()->data.inputText = QStringLiteral("z");
     QCOMPARE(first->insertChild(first->children.first()), 1);
     QCOMPARE(ChildTexts(*first), (QStringList{QStringLiteral("c"), QStringLiteral("z")}));
@@ -161,7 +160,7 @@ void tst_TreeNode::insertChildFollowsItsStepsInUnsortedLists_data()
         QTest::newRow(name) << QString::fromLatin1(children).split(QLatin1Char(' ')) << QString::fromLatin1(text)
                             << expected;
     };
-    // The row follows from the middles that the search visits: of n children first (n-1)/2.
+    // The row depends on the children that the binary search visits: of n children first number (n-1)/2.
     row("one child, greater", "b", "a", 0);
     row("one child, less", "b", "c", 1);
     row("one child, equal", "b", "b", 1);
@@ -203,7 +202,7 @@ void tst_TreeNode::destroyedNodeLeavesItsParent()
     QCOMPARE(ChildTexts(*parent), (QStringList{QStringLiteral("folder"), QStringLiteral("b")}));
     delete parent->children.at(0);
     QCOMPARE(ChildTexts(*parent), QStringList{QStringLiteral("b")});
-    // Destroying is no removal through the model: nobody counts anew.
+    // Destroying a node is not removing it through the model: the counts stay.
     QCOMPARE(parent->data.fileNodesCount, 3);
 }
 
@@ -215,7 +214,7 @@ void tst_TreeNode::destroyedNodeIsFoundAfterItsSiblingsMoved()
         texts.append(QString::number(10000 + i));
         parent->insertChild(NewFile(texts.last()));
     }
-    // Half of them leave behind the back of the tree, so that all others stand far from where they stood.
+    // Half of them leave without the tree's knowledge, so that all others are far from their remembered rows.
     QList<InputNode*> removed = parent->children.mid(0, 500);
     parent->children.erase(parent->children.begin(), parent->children.begin() + 500);
     for (InputNode* const node : qAsConst(removed)) {
@@ -252,7 +251,7 @@ void tst_TreeNode::nodesOfDeepTreesAreDestroyed()
         bottom->insertChild(folder);
         bottom = folder;
     }
-    // A recursion would need far more than the stack of any thread.
+    // A recursive destructor would need far more stack than any thread has.
     delete top;
 }
 

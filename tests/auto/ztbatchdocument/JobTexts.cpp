@@ -3,6 +3,9 @@
 #include "ZTBatchDocument.h"
 
 #include <QDomDocument>
+#include <QThread>
+
+#include <memory>
 
 namespace {
 
@@ -103,4 +106,12 @@ QStringList StateOf(const ZTBatchDocument& document)
     return ElementLines(document.Serialize(nullptr)) + QStringList{document.GetDocumentName(), document.GetFileName(),
                                                                    document.GetGroupFilter(),
                                                                    QString::number(document.ModificationState())};
+}
+
+void RunOnStack(uint bytes, const std::function<void()>& function)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(function));
+    thread->setStackSize(bytes);
+    thread->start();
+    thread->wait();
 }

@@ -8,23 +8,11 @@
 #include "ZTStyle.h"
 
 #include <QSignalSpy>
-#include <QThread>
 #include <QtTest>
-
-#include <functional>
-#include <memory>
 
 using Settings = ZTBatchOutputSettings;
 
 namespace {
-
-void RunOnStack(uint bytes, const std::function<void()>& function)
-{
-    const std::unique_ptr<QThread> thread(QThread::create(function));
-    thread->setStackSize(bytes);
-    thread->start();
-    thread->wait();
-}
 
 /// A text with `levels` nested elements.
 QString Nested(int levels)

@@ -15,7 +15,7 @@
 
 using Settings = ZTBatchOutputSettings;
 
-/// Tests that what is written comes back.
+/// Writing a document and reading it again: everything comes back.
 class tst_DocumentRoundTrip : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private:
 
 namespace {
 
-/// Every text of `document`, wherever one can be, set to `text`.
+/// Sets every text of `document` to `text`.
 void SetAllTexts(ZTBatchDocument& document, const QString& text)
 {
     const QModelIndex index = AddInput(document, Folder, text);
@@ -67,7 +67,7 @@ void SetAllTexts(ZTBatchDocument& document, const QString& text)
     settings->SetTransformationSettings(record);
 }
 
-/// The texts that SetAllTexts() has set.
+/// The texts that SetAllTexts() sets.
 QStringList AllTexts(const ZTBatchDocument& document)
 {
     const ZTBatchInputModel* const model = document.GetInputModel();
@@ -234,7 +234,7 @@ void tst_DocumentRoundTrip::doubles()
     ZTBatchDocument document;
     document.GetOutputSettings()->SetImageSizeSettings({1, 0, 0, value, 0});
     Settings::Transformation record;
-    // The setter of an equal record stores nothing, and the two zeros are equal.
+    // 0 and -0 are equal, and the setter ignores an equal record: `state` makes this one different.
     record.state = true;
     record.opacity = value;
     record.shadowOpacity = value;
@@ -303,7 +303,7 @@ void tst_DocumentRoundTrip::colors()
     ZTBatchDocument copy;
     QVERIFY(copy.Deserialize(document.Serialize(nullptr)));
     const Settings::Transformation read = copy.GetOutputSettings()->GetTransformationSettings();
-    // The alpha is not carried.
+    // The alpha value is not written.
     QCOMPARE(read.shadowColor, QColor(1, 2, 3));
     QCOMPARE(read.backgroundColor, QColor(0, 255, 0));
 }
@@ -380,7 +380,7 @@ double tst_DocumentRoundTrip::RandomDouble(QRandomGenerator& random)
     }
 }
 
-/// Trees of every shape, with whatever texts come: empty ones, equal ones. The types are those below `types`.
+/// Adds a tree of any shape with random texts, some of them empty or equal. The nodes' types are less than `types`.
 void tst_DocumentRoundTrip::AddRandomInput(QRandomGenerator& random, int types, ZTBatchDocument& document)
 {
     QVector<QPersistentModelIndex> folders{QPersistentModelIndex()};
@@ -448,8 +448,8 @@ void tst_DocumentRoundTrip::randomDocuments_data()
     }
 }
 
-/// What is read is written again as it was. Nodes of unknown types have no order that would be the same each time they
-/// are sorted; every second document has some, and of those all nodes have to come back, in whatever rows.
+/// What is read is written again unchanged. Every second document has nodes of unknown types, whose order may change
+/// each time they are sorted: there, all nodes have to come back, in any order.
 void tst_DocumentRoundTrip::randomDocuments()
 {
     QFETCH(uint, seed);

@@ -1,5 +1,6 @@
 #include "JobTexts.h"
 
+#include "ContextTranslator.h"
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
 #include "ZTStyle.h"
@@ -8,7 +9,6 @@
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QThread>
 #include <QtTest>
 
 #include <algorithm>
@@ -17,7 +17,7 @@
 
 using Settings = ZTBatchOutputSettings;
 
-/// Tests of the text that a document writes.
+/// The text that a document writes.
 class tst_DocumentWriting : public QObject
 {
     Q_OBJECT
@@ -90,7 +90,7 @@ const QStringList defaultOutput{
     QStringLiteral("  advancedOutput ICCProfile=\"\""),
 };
 
-/// The paths of the nodes in a text, with a blank for each level.
+/// The paths of the nodes in a text, indented by one blank for each level.
 QStringList WrittenPaths(const QString& xml)
 {
     QStringList paths;
@@ -105,7 +105,7 @@ QStringList WrittenPaths(const QString& xml)
     return paths;
 }
 
-/// A chain of folders as deep as `levels`, made from the innermost on.
+/// Adds a chain of `levels` nested folders, built from the innermost outwards.
 void AddChain(ZTBatchDocument& document, int levels)
 {
     TreeNode<BatchNodeData>* folder = NewInputNode(Folder, QStringLiteral("d"));
@@ -115,15 +115,6 @@ void AddChain(ZTBatchDocument& document, int levels)
         folder = outer;
     }
     document.GetInputModel()->InsertBranch(folder, QModelIndex());
-}
-
-/// Runs `function` on a thread with so small a stack, and waits.
-void RunOnStack(uint bytes, const std::function<void()>& function)
-{
-    const std::unique_ptr<QThread> thread(QThread::create(function));
-    thread->setStackSize(bytes);
-    thread->start();
-    thread->wait();
 }
 
 } // namespace
@@ -147,7 +138,7 @@ void tst_DocumentWriting::newDocument()
     QVERIFY(text.endsWith(QLatin1String("\n    </output>\n</root>\n")));
 }
 
-/// Line by line the text has the characters that the DOM prints for it; only attributes may change places.
+/// Each line has the same characters as the DOM's own output; only the order of attributes may differ.
 void tst_DocumentWriting::formIsTheDomsOwn()
 {
     ZTBatchDocument document;
@@ -220,7 +211,7 @@ void tst_DocumentWriting::input()
                                 " lastModification=\"\" type=\"-1\""),
              }));
     QVERIFY(!text.contains(QLatin1String("never written")));
-    // In the order in which they are written, too.
+    // The order of the attributes.
     QVERIFY(
         text.contains(QLatin1String("<inputElement inputText=\"text\" inputInfo=\"info\" fileName=\"/z\" type=\"0\" "
                                     "lastModification=\"2024-05-01T12:00:00\">")));
@@ -380,7 +371,7 @@ void tst_DocumentWriting::numbers_data()
     }
 }
 
-/// Written as the DOM's own attribute setter does it.
+/// Numbers are written as the DOM's own attribute setters write them.
 void tst_DocumentWriting::numbers()
 {
     QFETCH(double, size);
@@ -424,7 +415,7 @@ void tst_DocumentWriting::escapes()
     const QString text = document.Serialize(nullptr);
     QCOMPARE(text.section(QLatin1Char('\n'), 1, 1), QStringLiteral("<root name=\"%1\">").arg(written));
 
-    // A parser that takes XML literally has nothing to say against it.
+    // A strict XML parser accepts it.
     QXmlStreamReader strict(text);
     while (!strict.atEnd()) {
         strict.readNext();
@@ -447,7 +438,7 @@ void tst_DocumentWriting::missingFileIsLeftOutWithSink_data()
     QTest::newRow("browser") << true;
 }
 
-/// A folder that is missing takes along what is below it, though that exists.
+/// When a folder is missing, everything below it is skipped too, even files that exist.
 void tst_DocumentWriting::missingFileIsLeftOutWithSink()
 {
     QFETCH(bool, isBrowser);
@@ -479,12 +470,12 @@ void tst_DocumentWriting::firstOccurrenceLevelByLevelStays()
     const QString directory = folder.path();
 
     ZTBatchDocument document;
-    // In the rows of the tree the folder comes first; level by level the loose file does.
+    // In the tree the folder comes first; level by level the loose file does.
     const QModelIndex outer = AddInput(document, Folder, directory);
     AddInput(document, File, twice, outer);
     AddInput(document, File, once, outer);
     AddInput(document, File, twice);
-    // A duplicate folder takes along what is below it.
+    // When a folder is a duplicate, everything below it is skipped too.
     AddInput(document, File, once, AddInput(document, Folder, directory, outer));
 
     QTextBrowser browser;
@@ -511,7 +502,7 @@ void tst_DocumentWriting::warnings()
     const QString alsoGone = folder.filePath(QStringLiteral("also gone.jpg"));
     ZTBatchDocument document;
     for (const QString& path : {gone, present, alsoGone, present, gone, present}) {
-        // Texts that keep the rows in this order.
+        // These texts keep the rows in this order.
         TreeNode<BatchNodeData>* const node = NewInputNode(File, path);
         node->data.inputText = QStringLiteral("same");
         document.GetInputModel()->InsertBranch(node, QModelIndex());
@@ -571,22 +562,9 @@ void tst_DocumentWriting::noWarningsNoText()
     QVERIFY(browser.document()->isEmpty());
 }
 
-/// Answers every text of the document's context with the text in brackets.
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* sourceText, const char*, int) const override
-    {
-        return qstrcmp(context, "ZTBatchDocument") == 0
-                   ? QLatin1Char('[') + QString::fromUtf8(sourceText) + QLatin1Char(']')
-                   : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 void tst_DocumentWriting::warningsAreTranslated()
 {
-    BracketTranslator translator;
+    ContextTranslator translator("ZTBatchDocument");
     QVERIFY(QCoreApplication::installTranslator(&translator));
     const QString present = Touch(QStringLiteral("b.jpg"));
     ZTBatchDocument document;
@@ -620,7 +598,7 @@ void tst_DocumentWriting::documentDeletedByItsSink()
     QVERIFY(document == nullptr);
 }
 
-/// The text is that of the moment of the call.
+/// The text shows the document as it was when the call began.
 void tst_DocumentWriting::modelEditedByTheSink()
 {
     const QString present = Touch(QStringLiteral("c.jpg"));

@@ -3,7 +3,7 @@
 #include <QDomDocument>
 #include <QtTest>
 
-/// The guarded parser against the DOM's own.
+/// The guarded parser, compared with the DOM's own.
 class tst_GuardedDom : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// Everything below `node` but references to entities.
+/// Everything below `node` except entity references.
 QStringList Nodes(const QDomNode& node)
 {
     QStringList lines;
@@ -123,7 +123,7 @@ void tst_GuardedDom::depth()
 
     const QString chain = QStringLiteral("<a>").repeated(levels) + QStringLiteral("</a>").repeated(levels);
     QCOMPARE(ZTGuardedDom().Parse(chain), isTaken);
-    // The innermost closed at once, and siblings on the way, count the same.
+    // An empty innermost element and siblings on the way do not change the depth.
     const QString branched = QStringLiteral("<a><b/>").repeated(levels - 1) + QStringLiteral("<a/>") +
                              QStringLiteral("</a>").repeated(levels - 1);
     QCOMPARE(ZTGuardedDom().Parse(branched), isTaken);

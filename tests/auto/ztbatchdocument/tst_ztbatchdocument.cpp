@@ -246,7 +246,7 @@ void tst_ZTBatchDocument::stateNeverPassesOne()
     QCOMPARE(document.ModificationState(), 1);
     QCOMPARE(states.count(), 1);
 
-    // Only 0 is left; a value of the host stands.
+    // A change raises only 0; a value that the host has set is kept.
     document.SetModificationState(5);
     document.GetOutputSettings()->SetPath(QStringLiteral("/c"));
     QCOMPARE(document.ModificationState(), 5);
@@ -255,7 +255,7 @@ void tst_ZTBatchDocument::stateNeverPassesOne()
 
 void tst_ZTBatchDocument::documentHearsOfChangesFirst()
 {
-    // A slot of the document is the first to hear of a change: hosts connect behind it and see the state that counts.
+    // The document's own slot is connected first, so hosts see the new state when their slots run.
     ZTBatchDocument document;
     QVector<int> states;
     connect(document.GetOutputSettings(), &ZTBatchOutputSettings::PathChanged, &document,

@@ -1,6 +1,6 @@
+#include "ContextTranslator.h"
 #include "ZTBatchMessage.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 #include <type_traits>
@@ -151,25 +151,13 @@ void tst_ZTBatchMessage::errorDescriptions()
     QCOMPARE(ZTBatchMessage::ErrorDescription(static_cast<ZTBatchMessage::Error>(value)), text);
 }
 
-/// Answers every text of one context with the text in brackets, and notes the contexts it was asked for.
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* sourceText, const char*, int) const override
-    {
-        return qstrcmp(context, "QObject") == 0 ? QLatin1Char('<') + QString::fromUtf8(sourceText) + QLatin1Char('>')
-                                                : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 void tst_ZTBatchMessage::errorDescriptionsAreTranslatedInTheContextQObject()
 {
-    BracketTranslator translator;
+    ContextTranslator translator("QObject");
     QVERIFY(QCoreApplication::installTranslator(&translator));
     for (int value = -1; value <= 12; ++value) {
         const QString text = ZTBatchMessage::ErrorDescription(static_cast<ZTBatchMessage::Error>(value));
-        QVERIFY2(text.startsWith(QLatin1Char('<')) && text.endsWith(QLatin1Char('>')), qPrintable(text));
+        QVERIFY2(text.startsWith(QLatin1Char('[')) && text.endsWith(QLatin1Char(']')), qPrintable(text));
     }
 }
 

@@ -44,7 +44,7 @@ bool Near(double actual, double expected, double scale)
 
 } // namespace
 
-/// The columns of the file are written, and explained, by placement.py beside it.
+/// placement.py beside the file has written it, and explains its columns.
 void tst_OutputPlacement::againstTheGeometry_data()
 {
     QTest::addColumn<QSize>("size");
@@ -117,7 +117,7 @@ void tst_OutputPlacement::sizesWorkedOutByHand_data()
     // 800 - 10 = 790 high would be 592.5 wide: more than 600 - 10, by the margins above and below, so 600 - 200,
     // by those at the sides, decides.
     QTest::newRow("portrait, over the limit") << QSize(600, 800) << 0 << QMargins(100, 5, 100, 5) << QSize(400, 533);
-    // 800 high is 600 wide, not more than 600 - 0: the margins at the sides are not asked.
+    // 800 high is 600 wide, not more than 600 - 0: the margins at the sides do not matter.
     QTest::newRow("portrait, at the limit") << QSize(600, 800) << 0 << QMargins(100, 0, 100, 0) << QSize(600, 800);
     // 820 high is 615 wide, not more than 600 + 20.
     QTest::newRow("portrait, below the limit")
@@ -164,7 +164,7 @@ void tst_OutputPlacement::centreOfThePictureGoesToTheCentreOfTheFreeArea()
     QVERIFY(Near(centre.y(), 290, 0));
 }
 
-/// Margins of opposite signs leave the size alone and move the centre; a picture of full size does not follow.
+/// Margins of opposite signs keep the size and move the centre; a picture of full size does not move.
 void tst_OutputPlacement::wholePictureIsNotMoved()
 {
     QSize outputSize;
@@ -184,8 +184,8 @@ void tst_OutputPlacement::pictureStaysInsideTheFreeArea_data()
     }
 }
 
-/// What the fit is for, seen from outside: no corner leaves the free area, and one touches its edge or the edge of the
-/// box of the picture's own ratio in it. Quarter turns have fits of their own.
+/// The purpose of the fit: no corner is outside the free area, and one touches its edge, or the edge of the largest box
+/// of the picture's ratio in it. Quarter turns are fitted differently.
 void tst_OutputPlacement::pictureStaysInsideTheFreeArea()
 {
     QFETCH(QSize, size);
@@ -231,14 +231,14 @@ void tst_OutputPlacement::extremeNumbers_data()
 
     constexpr int most = std::numeric_limits<int>::max();
     constexpr int least = std::numeric_limits<int>::min();
-    // The margins' sum is no int; it is more than the width all the same.
+    // The sum of the margins overflows int, and is more than the width nevertheless.
     QTest::newRow("huge margins") << QSize(800, 600) << 0 << QMargins(most, 0, most, 0) << QSize(-1, -1);
     QTest::newRow("margins that cancel out") << QSize(800, 600) << 0 << QMargins(most, 0, -most, 0) << QSize(800, 600);
-    // Twice 2^31 is free in both directions; what no int holds is cut off.
+    // 2 * 2^31 is free in both directions; it is limited to the range of int.
     QTest::newRow("hugely negative margins")
         << QSize(most, most) << 0 << QMargins(least, least, 0, 0) << QSize(most, most);
     QTest::newRow("largest picture") << QSize(most, most) << 0 << QMargins() << QSize(most, most);
-    // 2147483610 is 90 times an odd number, 2147483520 twice that of a whole one: lying and upright.
+    // 2147483610 is 90 times an odd number, 2147483520 is 90 times an even one: turned sideways and upright.
     QTest::newRow("largest quarter turn") << QSize(800, 600) << 2147483610 << QMargins() << QSize(600, 450);
     QTest::newRow("largest half turn") << QSize(800, 600) << 2147483520 << QMargins() << QSize(800, 600);
     QTest::newRow("smallest quarter turn") << QSize(800, 600) << -2147483610 << QMargins() << QSize(600, 450);

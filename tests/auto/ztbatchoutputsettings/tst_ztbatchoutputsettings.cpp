@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "ZTBatchOutputSettings.h"
 
 #include "MetaMethods.h"
@@ -22,7 +23,7 @@ using Edit = std::function<void(Settings&)>;
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// Writes down the names of the change signals in the order in which they come.
+/// Records the names of the change signals in the order of their emission.
 class SignalLog : public QObject
 {
     Q_OBJECT
@@ -48,7 +49,7 @@ private:
     QStringList names;
 };
 
-/// Everything that the getters tell, one text per value.
+/// The values of all getters, as texts.
 QStringList Values(const Settings& settings)
 {
     QString format;
@@ -224,29 +225,16 @@ void tst_ZTBatchOutputSettings::originalFormat()
     QCOMPARE(Settings::GetOriginalFormatName(), QStringLiteral("Original"));
 }
 
-/// Answers every text of the settings' context with the text in brackets.
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* sourceText, const char*, int) const override
-    {
-        return qstrcmp(context, "ZTBatchOutputSettings") == 0
-                   ? QLatin1Char('<') + QString::fromUtf8(sourceText) + QLatin1Char('>')
-                   : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 void tst_ZTBatchOutputSettings::textsAreTranslated()
 {
     Settings older(nullptr);
-    BracketTranslator translator;
+    ContextTranslator translator("ZTBatchOutputSettings");
     QVERIFY(QCoreApplication::installTranslator(&translator));
 
-    QCOMPARE(Settings::GetOriginalFormatName(), QStringLiteral("<Original>"));
+    QCOMPARE(Settings::GetOriginalFormatName(), QStringLiteral("[Original]"));
     QCOMPARE(Settings::GetOriginalFormat(), QStringLiteral("Original"));
     const Settings settings(nullptr);
-    QCOMPARE(settings.GetCustomTemplate(Settings::PartMiddle), QStringLiteral("<Image>"));
+    QCOMPARE(settings.GetCustomTemplate(Settings::PartMiddle), QStringLiteral("[Image]"));
     QString format;
     QByteArray options;
     settings.GetFormat(format, options);
@@ -254,7 +242,7 @@ void tst_ZTBatchOutputSettings::textsAreTranslated()
 
     QCOMPARE(older.GetCustomTemplate(Settings::PartMiddle), QStringLiteral("Image"));
     older.RestoreDefault();
-    QCOMPARE(older.GetCustomTemplate(Settings::PartMiddle), QStringLiteral("<Image>"));
+    QCOMPARE(older.GetCustomTemplate(Settings::PartMiddle), QStringLiteral("[Image]"));
 }
 
 void tst_ZTBatchOutputSettings::imageSizeEquality_data()
@@ -365,7 +353,7 @@ void tst_ZTBatchOutputSettings::transformationEquality()
     const Settings::Transformation copy(other);
     QVERIFY(copy == other);
 
-    // What equality sees is what the setter stores and tells.
+    // The setter stores a record and emits exactly when the records are not equal.
     Settings settings(nullptr);
     SignalLog log(settings);
     settings.SetTransformationSettings(other);
@@ -383,14 +371,14 @@ void tst_ZTBatchOutputSettings::transformationEqualityIgnoresTheLoadedImage()
     QVERIFY(copy.backgroundImageData.isNull());
     QVERIFY(copy == record);
 
-    // It travels with the record when something else changes.
+    // It is stored with the record when another field differs.
     record.angle = 1;
     Settings settings(nullptr);
     settings.SetTransformationSettings(record);
     QCOMPARE(settings.GetTransformationSettings().backgroundImageData.size(), QSize(2, 2));
 }
 
-/// Each row sets a value twice. The first call emits `first`, the second, with the same value, `second`.
+/// Each row sets a value twice. The first call emits `first`; the second call, with the same value, emits `second`.
 void tst_ZTBatchOutputSettings::setters_data()
 {
     QTest::addColumn<Edit>("edit");
@@ -610,7 +598,7 @@ void tst_ZTBatchOutputSettings::restoreDefault()
     QCOMPARE(log.TakeNames(), QStringList());
 }
 
-/// What the settings hold at each NamingChanged() shows the order within the parts.
+/// The values at each NamingChanged() show the order within the parts.
 void tst_ZTBatchOutputSettings::restoreDefaultOrderOfPartlyChangedSettings()
 {
     Settings settings(nullptr);

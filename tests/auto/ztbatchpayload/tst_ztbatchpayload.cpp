@@ -294,7 +294,7 @@ void tst_ZTBatchPayload::bytesBehindThePayloadAreNotLookedAt()
 
 void tst_ZTBatchPayload::announcedSizesTakeNoMemory()
 {
-    // A string that claims 2 GiB and has two bytes.
+    // A string with a count of 2 GiB, but only two bytes.
     bool isExact = true;
     const auto payload = ZTBatchPayload::Unpack<ZTBatchPayload::Progress>(QByteArray::fromHex("7ffffffe"
                                                                                               "0061"),

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A device whose bytes become readable when the test says so. It counts how often it is asked.
+/// A device whose bytes arrive when the test adds them. It counts the reads.
 class Pipe : public QIODevice
 {
 public:
@@ -316,7 +316,7 @@ void tst_ZTFrameReader::refusals()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, refusal);
 
-    // The size alone decides: what would follow is neither awaited nor read.
+    // The size is sufficient for the refusal: the reader does not wait for more.
     Pipe pipe;
     pipe.Arrive(messageAb + bytes);
     ZTFrameReader reader;

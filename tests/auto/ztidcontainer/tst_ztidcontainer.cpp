@@ -49,8 +49,9 @@ void tst_ZTIDContainer::containersDoNotRepeatEachOther()
 
 void tst_ZTIDContainer::idsAreRandom()
 {
-    // A guessable id repeats most of its text from one to the next. In random UUIDs only the separators and the
-    // version stand still; over 64 of them every other place shows at least 4 digits, but for odds below 1e-20.
+    // Identifiers that can be guessed have most of their text in common. In random UUIDs only the separators and the
+    // version are constant; among 64 of them every other place has at least 4 different digits, with a probability of
+    // error below 1e-20.
     ZTIDContainer container;
     QStringList ids;
     for (int i = 0; i < 64; ++i) {

@@ -4,6 +4,20 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+namespace {
+
+/// The frame of a message named "a" with at most 255 bytes of payload.
+QByteArray FrameOfA(const QByteArray& payload)
+{
+    QByteArray frame = QByteArray::fromHex("00000002"
+                                           "0061"
+                                           "00000000");
+    frame.back() = static_cast<char>(payload.size());
+    return frame + payload;
+}
+
+} // namespace
+
 /// Messages in both directions, byte by byte, and frames that are refused.
 class tst_PipeMessages : public PipeTest
 {
@@ -92,10 +106,7 @@ void tst_PipeMessages::sendIsOrderedAndCounted()
     for (int i = 0; i < 1000; ++i) {
         const QByteArray number = QByteArray::number(i).rightJustified(4, '0');
         pair.session->Send(QStringLiteral("a"), number);
-        expected += QByteArray::fromHex("00000002"
-                                        "0061"
-                                        "00000004") +
-                    number;
+        expected += FrameOfA(number);
     }
     QCOMPARE(pair.peer.Read(expected.size()), expected);
     QTRY_COMPARE(pair.log->Count(QStringLiteral("sent")), 1000);
@@ -186,10 +197,7 @@ void tst_PipeMessages::manyMessages()
     QStringList expected;
     for (int i = 0; i < 20000; ++i) {
         const QByteArray number = QByteArray::number(i).rightJustified(6, '0');
-        stream += QByteArray::fromHex("00000002"
-                                      "0061"
-                                      "00000006") +
-                  number;
+        stream += FrameOfA(number);
         expected << QStringLiteral("a=") + QString::fromLatin1(number);
     }
     QVERIFY(pair.peer.Write(stream));
@@ -259,10 +267,7 @@ void tst_PipeMessages::slotsMayRunAnEventLoop()
     QStringList expected;
     for (int i = 0; i < 100; ++i) {
         const QByteArray number = QByteArray::number(i).rightJustified(3, '0');
-        stream += QByteArray::fromHex("00000002"
-                                      "0061"
-                                      "00000003") +
-                  number;
+        stream += FrameOfA(number);
         expected.append(QString::fromLatin1(number));
     }
     expected.append(QStringLiteral("bcd"));

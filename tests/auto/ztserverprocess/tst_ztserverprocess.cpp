@@ -10,10 +10,10 @@ namespace {
 
 constexpr int megabyte = 1 << 20;
 
-/// A server that talks: a megabyte on standard output, a line on standard error.
+/// A server that writes a megabyte to standard output and a line to standard error.
 int RunChatter()
 {
-    // To a device, the null device too, Windows' runtime writes each character by itself.
+    // Windows' runtime writes single characters to a device, even to the null device.
     std::setvbuf(stdout, nullptr, _IOFBF, megabyte / 16);
     const std::string line(1023, 'x');
     for (int i = 0; i < megabyte / 1024; ++i) {
@@ -23,7 +23,7 @@ int RunChatter()
     return 0;
 }
 
-/// A host with such a server.
+/// A host that runs such a server.
 int RunHost(int& argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

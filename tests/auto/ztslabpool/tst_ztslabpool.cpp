@@ -52,7 +52,7 @@ void FreeAll(ZTSlabPool& pool, const std::vector<void*>& taken)
     }
 }
 
-/// So many that they take more than one slab.
+/// More than one slab holds.
 constexpr int many = 5000;
 
 } // namespace
@@ -93,7 +93,7 @@ void tst_ZTSlabPool::slotsAreApart()
     std::vector<void*> taken = AllocateMany(pool, many);
     for (void* const slot : taken) {
         QCOMPARE(AddressOf(slot) % alignof(void*), quintptr(0));
-        // Every byte is the object's.
+        // Every byte belongs to the object.
         std::memset(slot, 0xAA, std::size_t(size));
     }
     std::sort(taken.begin(), taken.end());
@@ -109,7 +109,7 @@ void tst_ZTSlabPool::slotsAreTakenAgain()
     ZTSlabPool pool(objectSize);
     std::vector<void*> taken = AllocateMany(pool, many);
     const int slabCount = pool.SlabCount();
-    // Every third one, in all slabs.
+    // Every third slot, in all slabs.
     std::vector<void*> free;
     for (std::size_t i = 0; i < taken.size(); i += 3) {
         free.push_back(taken[i]);
@@ -117,7 +117,7 @@ void tst_ZTSlabPool::slotsAreTakenAgain()
     }
     std::vector<void*> again = AllocateMany(pool, int(free.size()));
     QCOMPARE(pool.SlabCount(), slabCount);
-    // Some may be from the end of the last slab, which is not full.
+    // Some may be at the end of the last slab, which is not full.
     std::sort(free.begin(), free.end());
     std::sort(again.begin(), again.end());
     std::vector<void*> common;
@@ -142,7 +142,7 @@ void tst_ZTSlabPool::slabsGoBack()
         QVERIFY(slabCount > 2);
         void* const last = taken.back();
         FreeAll(pool, {taken.begin(), taken.end() - 1});
-        // The one whose last slot is taken, and a spare one.
+        // The slab of the slot that is still taken, and a spare one.
         QCOMPARE(pool.SlabCount(), 2);
         pool.Free(last);
         QCOMPARE(pool.SlabCount(), 1);
@@ -172,7 +172,7 @@ void tst_ZTSlabPool::randomUse()
     ZTSlabPool pool(objectSize);
     std::vector<Object> objects;
     for (int step = 0; step < 100000; ++step) {
-        // In turn more and less.
+        // Phases of growth and of shrinking alternate.
         const bool takes = objects.empty() || random() % 10 < (step / 10000 % 2 == 0 ? 7U : 3U);
         if (takes) {
             const Object object{pool.Allocate(), static_cast<unsigned char>(random() % 256)};
@@ -196,7 +196,7 @@ void tst_ZTSlabPool::randomUse()
 
 void tst_ZTSlabPool::manyThreads()
 {
-    // Each takes slots and gives back those of its neighbour.
+    // Each thread takes slots and returns those of its neighbour.
     constexpr int threadCount = 4;
     ZTSlabPool pool(objectSize);
     std::vector<std::vector<void*>> taken(threadCount);
@@ -249,7 +249,7 @@ void tst_ZTSlabPool::nodesComeFromManyThreads()
     for (std::thread& thread : threads) {
         thread.join();
     }
-    // On another thread than the one that made it.
+    // Destroyed on a thread other than the one that has created it.
     for (Node* const tree : trees) {
         QCOMPARE(tree->children.size(), many);
         delete tree;

@@ -1,4 +1,5 @@
 #include "InputNodes.h"
+#include "RandomEdits.h"
 #include "ZVBatchInputTableModel.h"
 
 #include <QPersistentModelIndex>
@@ -245,26 +246,15 @@ private:
 
 void tst_InputTableEdits::randomEdits_data()
 {
-    QTest::addColumn<unsigned>("seed");
-
-    for (unsigned seed = 1; seed <= 40; ++seed) {
-        QTest::addRow("seed %u", seed) << seed;
-    }
+    AddSeeds();
 }
 
 void tst_InputTableEdits::randomEdits()
 {
     QFETCH(unsigned, seed);
 
-    Editor editor(seed);
-    for (int step = 0; step < 200; ++step) {
-        editor.Edit();
-        const QString difference = editor.Difference();
-        QVERIFY2(
-            difference.isEmpty(),
-            qPrintable(
-                QStringLiteral("seed %1, step %2, after %3: %4").arg(seed).arg(step).arg(editor.lastEdit, difference)));
-    }
+    const QString difference = FirstDifference<Editor>(seed, 200);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
 QTEST_GUILESS_MAIN(tst_InputTableEdits)

@@ -97,7 +97,7 @@ void tst_ZVFileBookmark::caseOfNames()
 void tst_ZVFileBookmark::danglingLinkDoesNotExist()
 {
     const QTemporaryDir folder;
-    // The ending that makes a link of it on Windows.
+    // On Windows the file name extension makes it a link.
     const QString link = folder.filePath(QStringLiteral("link.lnk"));
     QVERIFY(QFile::link(folder.filePath(QStringLiteral("nowhere")), link));
     QVERIFY(!ZVFileBookmark(link).Exists());

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The three objects are the document's; these hosts delete them all the same.
+// The document owns its model, style and settings; these hosts delete them nevertheless.
 
 const DeathCase serializeWithoutModel("document-serialize-without-model", [] {
     const ZTBatchDocument document;

@@ -5,7 +5,7 @@ namespace {
 
 using Node = TreeNode<BatchNodeData>;
 
-/// Makes the indexes that no correct host has: what a model's own code hands out is always backed by a node.
+/// Makes indexes without a node, which no correct host has: the model's own indexes always have one.
 class CarelessModel : public ZTBatchInputModel
 {
 public:
@@ -62,7 +62,7 @@ const DeathCase insertBranchWithoutNode("input-insert-branch-without-node", [] {
     model.InsertBranch(&node, model.IndexOf(nullptr));
 });
 
-/// The folder counts fewer files than the child that leaves it.
+/// The folder's count is less than the count of the child that is removed.
 const DeathCase folderCountBelowZero("input-folder-count-below-zero", [] {
     ZTBatchInputModel model;
     const QModelIndex folder = model.InsertBranch(NewNode(Folder, 0), QModelIndex());
@@ -71,7 +71,7 @@ const DeathCase folderCountBelowZero("input-folder-count-below-zero", [] {
     model.removeRows(0, 1, folder);
 });
 
-/// The folder's count suffices, the one above it does not.
+/// The folder's count is sufficient, but the one above it is not.
 const DeathCase rootCountBelowZero("input-root-count-below-zero", [] {
     ZTBatchInputModel model;
     const QModelIndex folder = model.InsertBranch(NewNode(Folder, 0), QModelIndex());
@@ -81,7 +81,7 @@ const DeathCase rootCountBelowZero("input-root-count-below-zero", [] {
     model.removeRows(0, 1, folder);
 });
 
-/// The sum is 0 in the end, but after the first of the two rows it is not.
+/// The final count is 0, but after the first of the two rows it is negative.
 const DeathCase countBelowZeroOnTheWay("input-count-below-zero-on-the-way", [] {
     ZTBatchInputModel model;
     model.InsertBranch(NewNode(File, 1), QModelIndex());

@@ -46,7 +46,7 @@ const DeathCase unknownAction("manager-unknown-action", [] {
     QMetaObject::invokeMethod(ZTBatchManager::Instance(), "OnInputActionDestroyed", Q_ARG(QObject*, &object));
 });
 
-// Who listens to an action's end before the manager does still finds it in the list.
+// A slot that is connected to destroyed() before the manager's own slot still finds the action in the list.
 const DeathCase dyingAction("manager-dying-action", [] {
     const Host host;
     auto* action = new QAction(nullptr);
@@ -61,7 +61,7 @@ const DeathCase nullAction("manager-null-action", [] {
     ZTBatchManager::Instance()->GetInputActions();
 });
 
-/// Keeps a session beyond its manager and gives it a command. The test has placed a server beside this executable.
+/// Gives a command to a session that has outlived its manager. The test has placed a server beside this executable.
 void CommandAfterRelease(const std::function<void(ZTBatchManager::ZTBatchSession&)>& command)
 {
     const Host host;

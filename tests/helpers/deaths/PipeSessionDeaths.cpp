@@ -21,7 +21,7 @@ private:
     QCoreApplication application;
 };
 
-/// A session on an adopted socket that has lost its worker: its thread has ended, and the event loop has turned since.
+/// Makes a session on an adopted socket lose its worker: ends its thread and runs the event loop afterwards.
 void EndThread(ZTPipeSession& session)
 {
     session.quit();

@@ -1,15 +1,15 @@
-// The other end of a pipe, in a process of its own: a bare local socket that does what the lines on its standard input
-// say, one answer line for each. It knows nothing of messages, only of bytes, which are written by hand in the tests.
+// The other end of a pipe, in a process of its own: a bare local socket. It executes the commands on its standard
+// input, one per line, and answers each with one line. It knows no messages, only the bytes that the tests give it.
 //
 //   listen NAME          opens the pipe NAME                          ok
 //   accept               waits for a connection                       ok
 //   connect NAME         connects to the pipe NAME                    ok
-//   write HEX            writes the bytes, returns when they are out  ok
+//   write HEX            writes the bytes, answers when all are sent  ok
 //   dribble HEX          the same, each byte on its own               ok
 //   fill PREFIX COUNT    writes the bytes PREFIX, then COUNT times the bytes 0 to 255 in turn   ok
 //   read COUNT           reads exactly COUNT bytes                    HEX
 //   check COUNT          reads exactly COUNT bytes of "fill"          ok
-//   closed               waits until the other end has gone           ok
+//   closed               waits until the other end has disconnected   ok
 //   disconnect           closes the connection                        ok
 //   die                  ends without closing anything
 //
@@ -108,7 +108,7 @@ QByteArray Peer::Do(const QList<QByteArray>& words)
     const QByteArray command = words.value(0);
     const QByteArray argument = words.value(1);
     if (command == "listen") {
-        // A peer that has died leaves its socket file behind.
+        // A peer that was killed has left its socket file behind.
         QLocalServer::removeServer(QString::fromUtf8(argument));
         return Answer(server.listen(QString::fromUtf8(argument)), server.errorString());
     }

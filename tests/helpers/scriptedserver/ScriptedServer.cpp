@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Appends in one write, so that a reader finds lines whole.
+/// Appends in one write, so that a reader never sees part of a line.
 void Append(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
@@ -27,11 +27,11 @@ void Append(const QString& path, const QByteArray& bytes)
 } // namespace
 
 ScriptedServer::ScriptedServer(const QString& basePath, const QString& pipeName)
-    : m_basePath(basePath)
-    , m_pipeName(pipeName)
-    , m_script(ServerScript::Load(basePath + QStringLiteral(".script")))
+    : basePath(basePath)
+    , pipeName(pipeName)
+    , script(ServerScript::Load(basePath + QStringLiteral(".script")))
 {
-    connect(&m_server, &QLocalServer::newConnection, this, &ScriptedServer::OnConnection);
+    connect(&server, &QLocalServer::newConnection, this, &ScriptedServer::OnConnection);
 }
 
 void ScriptedServer::Begin()
@@ -43,14 +43,14 @@ void ScriptedServer::Begin()
 
 void ScriptedServer::Trigger(const QString& trigger)
 {
-    m_pending += m_script.Actions(trigger);
+    pending += script.Actions(trigger);
     DoPending();
 }
 
 void ScriptedServer::DoPending()
 {
-    while (!m_pending.isEmpty() && !m_isWaiting) {
-        Do(m_pending.takeFirst());
+    while (!pending.isEmpty() && !isWaiting) {
+        Do(pending.takeFirst());
     }
 }
 
@@ -61,17 +61,17 @@ void ScriptedServer::Do(const QString& action)
     if (verb == QLatin1String("open")) {
         Open();
     } else if (verb == QLatin1String("close")) {
-        m_server.close();
+        server.close();
     } else if (verb == QLatin1String("wait")) {
-        m_isWaiting = true;
+        isWaiting = true;
         QTimer::singleShot(words.value(1).toInt(), this, [this] {
-            m_isWaiting = false;
+            isWaiting = false;
             DoPending();
         });
     } else if (verb == QLatin1String("send")) {
-        Write(Wire::Frame(words.value(1), Wire::Payload(words.mid(2), m_sessionId)));
+        Write(Wire::Frame(words.value(1), Wire::Payload(words.mid(2), sessionId)));
     } else if (verb == QLatin1String("cut")) {
-        Write(Wire::Frame(words.value(2), Wire::Payload(words.mid(3), m_sessionId)).left(words.value(1).toInt()));
+        Write(Wire::Frame(words.value(2), Wire::Payload(words.mid(3), sessionId)).left(words.value(1).toInt()));
     } else if (verb == QLatin1String("raw")) {
         Write(QByteArray::fromHex(words.value(1).toLatin1()));
     } else if (verb == QLatin1String("flood")) {
@@ -79,11 +79,11 @@ void ScriptedServer::Do(const QString& action)
     } else if (verb == QLatin1String("note")) {
         Note(action);
     } else if (verb == QLatin1String("disconnect")) {
-        m_latest->disconnectFromServer();
+        latestConnection->disconnectFromServer();
     } else if (verb == QLatin1String("next")) {
-        const QString script = m_basePath + QStringLiteral(".script");
-        QFile::remove(script);
-        QFile::rename(script + QStringLiteral(".next"), script);
+        const QString scriptFile = basePath + QStringLiteral(".script");
+        QFile::remove(scriptFile);
+        QFile::rename(scriptFile + QStringLiteral(".next"), scriptFile);
     } else if (verb == QLatin1String("exit")) {
         EndAtOnce(words.value(1).toInt());
     } else if (verb == QLatin1String("crash")) {
@@ -99,23 +99,23 @@ void ScriptedServer::Do(const QString& action)
 
 void ScriptedServer::Open()
 {
-    QLocalServer::removeServer(m_pipeName);
-    if (!m_server.listen(m_pipeName)) {
-        qFatal("The pipe cannot be opened: %s", qUtf8Printable(m_server.errorString()));
+    QLocalServer::removeServer(pipeName);
+    if (!server.listen(pipeName)) {
+        qFatal("The pipe cannot be opened: %s", qUtf8Printable(server.errorString()));
     }
     Note(QStringLiteral("open"));
 }
 
 void ScriptedServer::OnConnection()
 {
-    while (QLocalSocket* socket = m_server.nextPendingConnection()) {
+    while (QLocalSocket* socket = server.nextPendingConnection()) {
         int number = 1;
-        while (QFile::exists(m_basePath + QStringLiteral(".in.%1").arg(number))) {
+        while (QFile::exists(basePath + QStringLiteral(".in.%1").arg(number))) {
             ++number;
         }
-        Append(m_basePath + QStringLiteral(".in.%1").arg(number), QByteArray());
+        Append(basePath + QStringLiteral(".in.%1").arg(number), QByteArray());
         Note(QStringLiteral("connect %1").arg(number));
-        m_latest = socket;
+        latestConnection = socket;
         connect(socket, &QLocalSocket::readyRead, this, [this, socket, number] { OnBytes(socket, number); });
         connect(socket, &QLocalSocket::disconnected, this,
                 [this, number] { Note(QStringLiteral("disconnect %1").arg(number)); });
@@ -130,12 +130,12 @@ void ScriptedServer::OnBytes(QLocalSocket* socket, int number)
     if (bytes.isEmpty()) {
         return;
     }
-    Append(m_basePath + QStringLiteral(".in.%1").arg(number), bytes);
-    QByteArray& unparsed = m_unparsed[socket];
-    unparsed += bytes;
+    Append(basePath + QStringLiteral(".in.%1").arg(number), bytes);
+    QByteArray& stream = unparsed[socket];
+    stream += bytes;
     QString name;
     QByteArray payload;
-    while (Wire::TakeFrame(unparsed, name, payload)) {
+    while (Wire::TakeFrame(stream, name, payload)) {
         OnMessage(name, payload);
     }
 }
@@ -144,10 +144,10 @@ void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
 {
     Note(QStringLiteral("message ") + name);
     if (name == QLatin1String("0")) {
-        m_sessionId = Wire::FirstText(payload);
+        sessionId = Wire::FirstText(payload);
     }
-    if (name == QLatin1String("21") && !m_script.Has(name)) {
-        m_server.close();
+    if (name == QLatin1String("21") && !script.Has(name)) {
+        server.close();
         EndAtOnce(0);
     }
     Trigger(name);
@@ -155,17 +155,17 @@ void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
 
 void ScriptedServer::Write(const QByteArray& bytes)
 {
-    m_latest->write(bytes);
-    m_latest->flush();
+    latestConnection->write(bytes);
+    latestConnection->flush();
 }
 
 void ScriptedServer::Flood(int count)
 {
     QByteArray burst;
     for (int i = 0; i < count; ++i) {
-        burst += Wire::Frame(QStringLiteral("7"), Wire::Text(m_sessionId) + Wire::Int(i));
+        burst += Wire::Frame(QStringLiteral("7"), Wire::Text(sessionId) + Wire::Int(i));
     }
-    // The clock that the receiving process reads too.
+    // The receiving process uses the same clock.
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     Note(QStringLiteral("flood %1").arg(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
     Write(burst);
@@ -173,5 +173,5 @@ void ScriptedServer::Flood(int count)
 
 void ScriptedServer::Note(const QString& event)
 {
-    Append(m_basePath + QStringLiteral(".events"), event.toUtf8() + '\n');
+    Append(basePath + QStringLiteral(".events"), event.toUtf8() + '\n');
 }

@@ -10,22 +10,23 @@
 
 class QLocalSocket;
 
-/// A batch server that does what its script says and nothing by itself, except to end on message 21 when no rule speaks
-/// of it. What happens is written down beside the executable: events as lines of "<executable>.events", the bytes of
-/// the n-th connection in "<executable>.in.<n>".
+/// A batch server that does only what its script says; without a rule for message 21 it ends at that message. It keeps
+/// records beside the executable: events as lines of "<executable>.events", the bytes received on the n-th connection
+/// in
+/// "<executable>.in.<n>".
 ///
 /// Actions:
 ///
 ///     open              opens the pipe that the argument names
-///     close             stops listening; connections stay
-///     wait MS           does nothing for so long; what is triggered meanwhile waits too
+///     close             stops listening; connections stay open
+///     wait MS           waits; actions that are triggered meanwhile wait too
 ///     send NAME FIELDS  a message on the latest connection, see Wire::Payload()
-///     cut BYTES NAME .. the first bytes of such a message only
+///     cut BYTES NAME .. only the first bytes of such a message
 ///     raw HEX           bytes on the latest connection
-///     flood COUNT       progress messages 0 to COUNT - 1 in one burst; the event "flood NS" tells when it began
-///     note TEXT         an event
-///     disconnect        drops the latest connection
-///     next              servers that start from now on play "<executable>.script.next"
+///     flood COUNT       progress messages 0 to COUNT - 1 in one burst; the event "flood NS" has the time of its start
+///     note TEXT         records an event
+///     disconnect        closes the latest connection
+///     next              servers that start from now on use "<executable>.script.next"
 ///     exit CODE, crash, abort, hang
 class ScriptedServer : public QObject
 {
@@ -48,13 +49,13 @@ private:
     void Flood(int count);
     void Note(const QString& event);
 
-    QString m_basePath;
-    QString m_pipeName;
-    ServerScript m_script;
-    QLocalServer m_server;
-    QLocalSocket* m_latest = nullptr;
-    QHash<QLocalSocket*, QByteArray> m_unparsed;
-    QString m_sessionId;
-    QStringList m_pending;
-    bool m_isWaiting = false;
+    QString basePath;
+    QString pipeName;
+    ServerScript script;
+    QLocalServer server;
+    QLocalSocket* latestConnection = nullptr;
+    QHash<QLocalSocket*, QByteArray> unparsed;
+    QString sessionId;
+    QStringList pending;
+    bool isWaiting = false;
 };

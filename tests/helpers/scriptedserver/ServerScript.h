@@ -4,15 +4,15 @@
 #include <QString>
 #include <QStringList>
 
-/// What the server does and when: the file "<executable>.script", one rule a line,
+/// The rules of the scripted server: the file "<executable>.script", one rule per line,
 ///
 ///     trigger: action; action; ...
 ///
-/// where the trigger is "start", "connect" or the name of a message that has arrived.
+/// where the trigger is "start", "connect" or the name of a received message.
 class ServerScript
 {
 public:
-    /// An empty script when the file does not exist.
+    /// The script in `path`; empty if the file does not exist.
     static ServerScript Load(const QString& path);
 
     bool Has(const QString& trigger) const { return rules.contains(trigger); }

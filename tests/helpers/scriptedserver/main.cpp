@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     CrashQuietly();
     QCoreApplication application(argc, argv);
 
-    // Nobody waits that long; whoever forgets a server is not left with it.
+    // Longer than any test waits: a server that a test has forgotten ends by itself.
     QTimer::singleShot(300000, [] { std::_Exit(99); });
 
     ScriptedServer server(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().value(1));

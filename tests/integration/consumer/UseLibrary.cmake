@@ -1,4 +1,4 @@
-# Builds the project in project/ against the library, in the way that WAY names, and runs what comes out.
+# Builds the project in project/ with the library, in the way that WAY names, and runs its program.
 
 function(run)
     execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -7,8 +7,8 @@ function(run)
     endif()
 endfunction()
 
-# What is private is not for others to link against: it changes without notice. Names are compared as they are in the
-# file: "7Private" is the class Private within another, "4Send" the method Send.
+# Private classes must not be exported, because they change without notice. The names are mangled: "7Private" is the
+# nested class Private, "4Send" the method Send.
 set(private_names "7Private|ZTFrameReader|ZTDiagnostics|ZTHandOver|ZTSocketMove")
 
 function(check_exports prefix)
@@ -24,7 +24,7 @@ function(check_exports prefix)
     endif()
 endfunction()
 
-# A library of Windows exports what is marked and nothing else: each name is that of a public class.
+# On Windows a library exports only what is marked: every exported name belongs to a public class.
 function(check_dll_exports library expected)
     execute_process(COMMAND "${OBJDUMP}" -p "${library}" OUTPUT_VARIABLE description COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX REPLACE ".*Name Pointer\\] Table\n" "" table "${description}")
@@ -46,7 +46,7 @@ set(options
     -D CMAKE_CXX_COMPILER_LAUNCHER=${CXX_COMPILER_LAUNCHER})
 if(TOOLCHAIN_FILE)
     list(APPEND options -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN_FILE} -D BATCHCORE_QT_MINGW=${QT_MINGW})
-    # Where its libraries are, in the form that Windows knows.
+    # The folder of its libraries, as a native path.
     string(REPLACE "/" "\\" libraries "Z:${WORK_DIR}/installed/bin;Z:${WORK_DIR}/build/batchcore/bin")
     set(ENV{WINEPATH} "${libraries}")
 else()

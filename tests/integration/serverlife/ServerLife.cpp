@@ -1,7 +1,5 @@
 #include "ServerLife.h"
 
-#include "ManagerRun.h"
-
 #include <algorithm>
 
 QByteArray CloseServerFrame()
@@ -36,4 +34,18 @@ OrphanServer::~OrphanServer()
 {
     process.kill();
     process.waitForFinished();
+}
+
+HungServerRun::HungServerRun()
+    : ManagerRun({opensAtOnce, QStringLiteral("2: hang")})
+{
+}
+
+bool HungServerRun::Hang()
+{
+    if (!OpenSession()) {
+        return false;
+    }
+    session->Pause();
+    return Eventually([this] { return stage.Count(QStringLiteral("message 2")) == 1; });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ServerStage.h"
+#include "ManagerRun.h"
 
 #include <QAbstractEventDispatcher>
 #include <QByteArray>
@@ -30,4 +30,14 @@ public:
 
 private:
     Q_DISABLE_COPY(OrphanServer)
+};
+
+/// A run whose server hangs once it has a session.
+class HungServerRun : public ManagerRun
+{
+public:
+    HungServerRun();
+
+    /// Opens the session and waits until the server hangs.
+    bool Hang();
 };

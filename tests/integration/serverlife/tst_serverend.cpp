@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "ManagerRun.h"
 #include "OwnFolder.h"
 #include "ServerLife.h"
@@ -5,7 +6,6 @@
 
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QTranslator>
 #include <QtTest>
 
 #ifdef Q_OS_LINUX
@@ -218,27 +218,15 @@ void tst_ServerEnd::everySessionIsToldInOrder()
 
 void tst_ServerEnd::endIsToldInTheUsersLanguage()
 {
-    class Translator : public QTranslator
-    {
-    public:
-        QString translate(const char* context, const char* source, const char*, int) const override
-        {
-            return qstrcmp(source, "Abnormal process termination.") == 0
-                       ? QStringLiteral("%1: vorzeitiges Ende").arg(QLatin1String(context))
-                       : QString();
-        }
-        bool isEmpty() const override { return false; }
-    };
-
     ManagerRun run({opensAtOnce});
     QVERIFY(run.Connect());
     QVERIFY(run.CreateSession());
-    Translator translator;
+    ContextTranslator translator("ZTBatchManager");
     QVERIFY(QCoreApplication::installTranslator(&translator));
     run.Manager()->Stop();
     QVERIFY(QCoreApplication::removeTranslator(&translator));
     QCOMPARE(run.log.lines,
-             (QStringList{established, QStringLiteral("log [ZTBatchManager: vorzeitiges Ende]"), aborted, failed}));
+             (QStringList{established, QStringLiteral("log [[Abnormal process termination.]]"), aborted, failed}));
 }
 
 void tst_ServerEnd::stateInTheSignalsOfTheEnd()

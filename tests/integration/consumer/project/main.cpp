@@ -1,4 +1,4 @@
-// Uses a class of each library, so that a header or a symbol that is not exported does not go unnoticed.
+// Uses a class of each library, so that a missing header or a symbol that is not exported is found.
 
 #include <ZTBatchMessage.h>
 #include <ZTBatchPayload.h>

@@ -1,4 +1,4 @@
-// Uses the library on top of the product's own sibling libraries.
+// Uses the library with the product's own sibling libraries.
 
 #include <ZTBatchDocument.h>
 #include <ZTIDContainer.h>

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The product's own registry, known by the form of its identifiers.
+/// The product's own registry, recognisable by the form of its identifiers.
 class ZTIDContainer
 {
 public:

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The product's own style; of an effect it keeps the identifier alone.
+/// The product's own style, which keeps only the identifiers of effects.
 class ZTStyle : public QObject
 {
 public:
