@@ -12,14 +12,14 @@
 #include <malloc.h>
 #endif
 
-/// The time on the system's monotonic clock, which every process sees alike.
+/// The time on the system's monotonic clock, which is the same in every process.
 inline std::int64_t Nanoseconds()
 {
     using namespace std::chrono;
     return duration_cast<nanoseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-/// Time since it was made.
+/// The time since its construction.
 class Stopwatch
 {
 public:
@@ -32,7 +32,7 @@ private:
     std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
 };
 
-/// The greater of the two in the middle, if the number of values is even; 0 without values.
+/// The median; of an even number of values the greater of the two in the middle, of none 0.
 inline double Median(std::vector<double> values)
 {
     if (values.empty()) {
@@ -54,17 +54,17 @@ double Median(int repeats, Measure measure)
     return Median(std::move(values));
 }
 
-/// How often to measure a case of `items` items: often where one run is so short that chance decides.
+/// How often to measure a case of `items` items: the shorter one run, the more often.
 inline int RepeatsFor(int items)
 {
     return std::clamp(1000000 / items, 1, 25);
 }
 
-/// Prints one case line by line as its sizes grow: the time per item, and its ratio to the first size.
+/// Prints one case, one line for each size: the time per item, and its ratio to that of the first size.
 class Series
 {
 public:
-    /// The goal is a ratio that is not to be exceeded; 0 for none.
+    /// The goal is the greatest ratio that is acceptable; 0 for none.
     Series(const char* name, double goal)
         : name(name)
         , goal(goal)
@@ -88,7 +88,7 @@ private:
     double first = 0;
 };
 
-/// The bytes that are allocated now; 0 where the platform does not tell.
+/// The number of bytes that are allocated now; 0 where the platform does not tell.
 inline std::size_t AllocatedBytes()
 {
 #ifdef __GLIBC__

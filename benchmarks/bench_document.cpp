@@ -1,3 +1,4 @@
+#include "JobShape.h"
 #include "Stopwatch.h"
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -15,13 +16,7 @@ namespace {
 
 using Node = TreeNode<BatchNodeData>;
 
-/// How the files of a job are spread: all in one folder, or some hundred to a folder, some folders to a folder.
-enum class Shape { OneFolder, Realistic };
-
-constexpr int filesPerFolder = 300;
-constexpr int foldersPerFolder = 20;
-
-/// One of a million paths of the same length that all lead to `folder`, so that the file system finds each of them.
+/// One of a million different spellings of the path `folder`, all of the same length: the file system finds each.
 QString PathTo(const QString& folder, int number)
 {
     constexpr int bits = 20;
@@ -45,11 +40,11 @@ Node* NewNode(const QString& text, const QString& path, BatchNodeType type)
     return node;
 }
 
-/// A document with so many nodes.
+/// A document with `nodeCount` nodes.
 class Job
 {
 public:
-    Job(const QString& directory, Shape shape, int nodeCount)
+    Job(const QString& directory, JobShape shape, int nodeCount)
     {
         ZTBatchInputModel* const model = document.GetInputModel();
         Node* outer = nullptr;
@@ -58,12 +53,13 @@ public:
         for (int i = 0; i < nodeCount; ++i) {
             const QString number = QStringLiteral("%1").arg(i, 8, 10, QLatin1Char('0'));
             const QString path = PathTo(directory, i);
-            if (shape == Shape::Realistic && (outer == nullptr || foldersBelowOuter == foldersPerFolder)) {
+            if (shape == JobShape::Realistic && (outer == nullptr || foldersBelowOuter == foldersPerFolder)) {
                 outer = NewNode(QLatin1String("month ") + number, path, Folder);
                 model->InsertBranch(outer, QModelIndex());
                 foldersBelowOuter = 0;
                 folder = nullptr;
-            } else if (folder == nullptr || (shape == Shape::Realistic && folder->children.size() == filesPerFolder)) {
+            } else if (folder == nullptr ||
+                       (shape == JobShape::Realistic && folder->children.size() == filesPerFolder)) {
                 folder = NewNode(QLatin1String("day ") + number, path, Folder);
                 model->InsertBranch(folder, model->indexFromNode(outer));
                 ++foldersBelowOuter;
@@ -76,7 +72,7 @@ public:
     ZTBatchDocument document;
 };
 
-/// What the document's own way is compared with: the DOM, given the same elements and attributes with no thought.
+/// The baseline: the DOM with the same elements and attributes, used in the obvious way.
 class BareDom
 {
 public:
@@ -147,7 +143,7 @@ double Write(const ZTBatchDocument& document, QObject* sink)
     return time;
 }
 
-/// What the memory alone asks for: the text in a string of its own.
+/// The share of the memory: copies the text into a string of its own.
 double Copy(const QString& text)
 {
     const Stopwatch stopwatch;
@@ -159,8 +155,8 @@ double Copy(const QString& text)
     return time;
 }
 
-/// What the file system alone asks for.
-double AskTheDisk(const ZTBatchDocument& document)
+/// The share of the file system: looks for every file.
+double FindFiles(const ZTBatchDocument& document)
 {
     const ZTBatchInputModel* const model = document.GetInputModel();
     int found = 0;
@@ -199,20 +195,20 @@ double Read(const QString& text)
 
 } // namespace
 
-/// Argument: the greatest number of nodes (1000000). What the DOM needs to destroy its documents is not counted for it,
-/// but the document's own reading does it and is charged with it.
+/// Argument: the greatest number of nodes (1000000). The time of the bare DOM does not include the destruction of its
+/// document; Deserialize() does destroy its DOM, so its time includes that.
 int main(int argc, char** argv)
 {
     const int most = argc > 1 ? std::atoi(argv[1]) : 1000000;
     const QTemporaryDir directory;
     QObject sink;
 
-    for (const Shape shape : {Shape::OneFolder, Shape::Realistic}) {
-        std::printf("%s\n", shape == Shape::OneFolder ? "One folder" : "Realistic tree");
+    for (const JobShape shape : {JobShape::OneFolder, JobShape::Realistic}) {
+        std::printf("%s\n", Title(shape));
         Series write("Serialize without sink", 1.5);
         Series copy("  of that, memory for the text", 0);
         Series writeWithSink("Serialize with sink", 1.5);
-        Series disk("  of that, asking the disk", 0);
+        Series disk("  of that, finding the files", 0);
         Series read("Deserialize", 1.5);
         Series domWrite("bare DOM, build and print", 0);
         Series domParse("bare DOM, parse", 0);
@@ -223,7 +219,7 @@ int main(int argc, char** argv)
             const double writeTime = Median(repeats, [&] { return Write(job.document, nullptr); });
             const double sinkTime = Median(repeats, [&] { return Write(job.document, &sink); });
             const double copyTime = Median(repeats, [&] { return Copy(text); });
-            const double diskTime = Median(repeats, [&] { return AskTheDisk(job.document); });
+            const double diskTime = Median(repeats, [&] { return FindFiles(job.document); });
             const double readTime = Median(repeats, [&] { return Read(text); });
             const double domWriteTime = Median(repeats, [&] { return BareDom(job.document).Write(); });
             const double domParseTime = Median(repeats, [&] { return BareDom::Parse(text); });

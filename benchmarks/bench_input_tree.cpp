@@ -1,3 +1,4 @@
+#include "JobShape.h"
 #include "Stopwatch.h"
 #include "ZTBatchInputModel.h"
 #include "ZVBatchInputTableModel.h"
@@ -17,13 +18,7 @@ namespace {
 
 using Node = TreeNode<BatchNodeData>;
 
-/// How the files of a job are spread: all in one folder, or some hundred to a folder, some folders to a folder.
-enum class Shape { OneFolder, Realistic };
-
-constexpr int filesPerFolder = 300;
-constexpr int foldersPerFolder = 20;
-
-/// A node as a host makes it right before it hands it over.
+/// A node as a host makes it just before it passes it to the model.
 Node* NewNode(const QString& text, BatchNodeType type)
 {
     auto* const node = new Node;
@@ -60,18 +55,18 @@ QVector<int> Numbers(int count, bool shuffled)
     return numbers;
 }
 
-/// A job of so many files. Their folders are made first; the files are put in by the benchmark.
+/// A job of `fileCount` files. The constructor makes only their folders; the benchmark inserts the files.
 class Job
 {
 public:
-    Job(Shape shape, int fileCount, bool shuffled = false)
+    Job(JobShape shape, int fileCount, bool shuffled = false)
         : shape(shape)
         , order(Numbers(fileCount, shuffled))
     {
-        const int folderCount = shape == Shape::OneFolder ? 1 : (fileCount + filesPerFolder - 1) / filesPerFolder;
+        const int folderCount = shape == JobShape::OneFolder ? 1 : (fileCount + filesPerFolder - 1) / filesPerFolder;
         Node* parent = nullptr;
         for (int i = 0; i < folderCount; ++i) {
-            if (shape == Shape::Realistic && i % foldersPerFolder == 0) {
+            if (shape == JobShape::Realistic && i % foldersPerFolder == 0) {
                 parent = NewFolder(i);
                 model.InsertBranch(parent, QModelIndex());
             }
@@ -82,7 +77,7 @@ public:
 
     int FileCount() const { return order.size(); }
 
-    Node* FolderOf(int file) const { return folders.at(shape == Shape::OneFolder ? 0 : file / filesPerFolder); }
+    Node* FolderOf(int file) const { return folders.at(shape == JobShape::OneFolder ? 0 : file / filesPerFolder); }
 
     void InsertFiles()
     {
@@ -91,11 +86,25 @@ public:
         }
     }
 
-    /// Expands every folder while it has no files yet and the rows are few, then puts the files in without a word to
-    /// the table.
-    void InsertFilesIntoExpandedFolders(ZVBatchInputTableModel& table)
+    ZTBatchInputModel model;
+    QVector<Node*> folders;
+
+protected:
+    const JobShape shape;
+    const QVector<int> order;
+};
+
+/// A job with a table in which every folder is expanded. The table has no rows for the files until its next rebuild.
+class ExpandedJob : public Job
+{
+public:
+    ExpandedJob(JobShape shape, int fileCount)
+        : Job(shape, fileCount)
+        , table(&model, nullptr)
     {
-        for (Node* const folder : folders) {
+        // Expanded while there are few rows. Then the files are inserted without the model, so that the table does not
+        // notice.
+        for (Node* const folder : qAsConst(folders)) {
             table.toggleFolder(model.indexFromNode(folder));
         }
         for (const int file : order) {
@@ -107,15 +116,10 @@ public:
         }
     }
 
-    ZTBatchInputModel model;
-    QVector<Node*> folders;
-
-private:
-    const Shape shape;
-    const QVector<int> order;
+    ZVBatchInputTableModel table;
 };
 
-double InsertSorted(Shape shape, int count)
+double InsertSorted(JobShape shape, int count)
 {
     Job job(shape, count);
     const Stopwatch stopwatch;
@@ -123,7 +127,7 @@ double InsertSorted(Shape shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-double InsertShuffled(Shape shape, int count)
+double InsertShuffled(JobShape shape, int count)
 {
     Job job(shape, count, true);
     const Stopwatch stopwatch;
@@ -131,7 +135,7 @@ double InsertShuffled(Shape shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-double MakeShuffledNodesOnly(Shape, int count)
+double MakeShuffledNodesOnly(JobShape, int count)
 {
     const QVector<int> numbers = Numbers(count, true);
     QVector<Node*> nodes;
@@ -145,8 +149,8 @@ double MakeShuffledNodesOnly(Shape, int count)
     return time;
 }
 
-/// The list of one folder's children alone, with rows as a shuffled order gives them: what moving the siblings takes.
-double MoveShuffledSiblingsOnly(Shape, int count)
+/// The share of moving the siblings: only the list of one folder's children, with the rows of a shuffled order.
+double MoveShuffledSiblingsOnly(JobShape, int count)
 {
     std::mt19937 random(1);
     QVector<int> rows;
@@ -156,7 +160,7 @@ double MoveShuffledSiblingsOnly(Shape, int count)
     QList<Node*> children;
     const Stopwatch stopwatch;
     for (const int row : qAsConst(rows)) {
-        // As the tree does it: the shorter side moves.
+        // As in the tree, the shorter side moves.
         if (row < children.size() / 2) {
             children.prepend(nullptr);
             children.move(0, row);
@@ -167,52 +171,44 @@ double MoveShuffledSiblingsOnly(Shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-double RebuildFirst(Shape shape, int count)
+double RebuildFirst(JobShape shape, int count)
 {
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
+    ExpandedJob job(shape, count);
     const Stopwatch stopwatch;
-    table.rebuild();
+    job.table.rebuild();
     return stopwatch.Nanoseconds();
 }
 
-double RebuildAgain(Shape shape, int count)
+double RebuildAgain(JobShape shape, int count)
 {
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
-    table.rebuild();
+    ExpandedJob job(shape, count);
+    job.table.rebuild();
     const Stopwatch stopwatch;
-    table.rebuild();
+    job.table.rebuild();
     return stopwatch.Nanoseconds();
 }
 
-/// Collapses and expands one folder of many, or the only one, while all files are shown.
-double ToggleTwice(Shape shape, int count)
+/// Collapses and expands one folder while the files of all folders are shown.
+double ToggleTwice(JobShape shape, int count)
 {
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
-    table.rebuild();
+    ExpandedJob job(shape, count);
+    job.table.rebuild();
     const QModelIndex folder = job.model.indexFromNode(job.folders.first());
     const Stopwatch stopwatch;
-    table.toggleFolder(folder);
-    table.toggleFolder(folder);
+    job.table.toggleFolder(folder);
+    job.table.toggleFolder(folder);
     return stopwatch.Nanoseconds();
 }
 
-double MapAllFromSource(Shape shape, int count)
+double MapAllFromSource(JobShape shape, int count)
 {
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
-    table.rebuild();
+    ExpandedJob job(shape, count);
+    job.table.rebuild();
     int found = 0;
     const Stopwatch stopwatch;
     for (Node* const folder : qAsConst(job.folders)) {
         for (Node* const file : qAsConst(folder->children)) {
-            found += table.mapFromSource(job.model.indexFromNode(file)).isValid() ? 1 : 0;
+            found += job.table.mapFromSource(job.model.indexFromNode(file)).isValid() ? 1 : 0;
         }
     }
     const double time = stopwatch.Nanoseconds();
@@ -222,7 +218,7 @@ double MapAllFromSource(Shape shape, int count)
     return time;
 }
 
-double RemoveAllAtOnce(Shape shape, int count)
+double RemoveAllAtOnce(JobShape shape, int count)
 {
     Job job(shape, count);
     job.InsertFiles();
@@ -231,18 +227,16 @@ double RemoveAllAtOnce(Shape shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-double RemoveAllAtOnceWhileShown(Shape shape, int count)
+double RemoveAllAtOnceWhileShown(JobShape shape, int count)
 {
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
-    table.rebuild();
+    ExpandedJob job(shape, count);
+    job.table.rebuild();
     const Stopwatch stopwatch;
     job.model.removeRows(0, job.model.rowCount());
     return stopwatch.Nanoseconds();
 }
 
-double RemoveFilesOneByOne(Shape shape, int count)
+double RemoveFilesOneByOne(JobShape shape, int count)
 {
     Job job(shape, count);
     job.InsertFiles();
@@ -256,8 +250,8 @@ double RemoveFilesOneByOne(Shape shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-/// All remembered rows are wrong by more than is searched nearby.
-double FindRowsAfterChanges(Shape shape, int count)
+/// All remembered rows are wrong, by more than the distance of the search nearby.
+double FindRowsAfterChanges(JobShape shape, int count)
 {
     Job job(shape, count);
     job.InsertFiles();
@@ -278,8 +272,8 @@ double FindRowsAfterChanges(Shape shape, int count)
     return time;
 }
 
-/// What the memory alone asks for: one look at each node, in the order of the tree.
-double VisitNodes(Shape shape, int count)
+/// The share of the memory: reads each node once, in the order of the tree.
+double VisitNodes(JobShape shape, int count)
 {
     Job job(shape, count);
     job.InsertFiles();
@@ -297,8 +291,8 @@ double VisitNodes(Shape shape, int count)
     return time;
 }
 
-/// Persistent indexes alone, without rows of a table.
-double MakePersistentIndexes(Shape shape, int count)
+/// Only the persistent indexes, without a table.
+double MakePersistentIndexes(JobShape shape, int count)
 {
     Job job(shape, count);
     job.InsertFiles();
@@ -315,14 +309,12 @@ double MakePersistentIndexes(Shape shape, int count)
     return stopwatch.Nanoseconds();
 }
 
-/// Counted as if one insertion were the whole job: every one passes all persistent indexes of the table.
-double InsertOneWhileShown(Shape shape, int count)
+/// The time of one insertion, divided by all nodes: each insertion updates all persistent indexes of the table.
+double InsertOneWhileShown(JobShape shape, int count)
 {
     constexpr int insertions = 20;
-    Job job(shape, count);
-    ZVBatchInputTableModel table(&job.model, nullptr);
-    job.InsertFilesIntoExpandedFolders(table);
-    table.rebuild();
+    ExpandedJob job(shape, count);
+    job.table.rebuild();
     const Stopwatch stopwatch;
     for (int i = 0; i < insertions; ++i) {
         job.model.InsertBranch(NewFile(count + i), job.model.indexFromNode(job.folders.last()));
@@ -333,7 +325,7 @@ double InsertOneWhileShown(Shape shape, int count)
 struct Case
 {
     const char* name;
-    double (*measure)(Shape shape, int count);
+    double (*measure)(JobShape shape, int count);
     double goalInOneFolder;
     double goalInTree;
 };
@@ -356,8 +348,8 @@ constexpr Case cases[] = {
     {"one insertion while shown, per node shown", InsertOneWhileShown, 0, 0},
 };
 
-/// The texts are made before and only shared by the nodes, so that the difference is what the tree itself takes.
-void PrintMemory(Shape shape, int count)
+/// The nodes share texts that exist before, so that the difference is the memory of the tree itself.
+void PrintMemory(JobShape shape, int count)
 {
     QVector<QString> texts;
     for (int i = 0; i < count; ++i) {
@@ -380,19 +372,19 @@ void PrintMemory(Shape shape, int count)
 
 } // namespace
 
-/// Arguments: the greatest number of nodes (1000000), and a part of the names of the cases to run (all).
+/// Arguments: the greatest number of nodes (1000000), and a text that the names of the cases to run contain (all).
 int main(int argc, char** argv)
 {
     const int most = argc > 1 ? std::atoi(argv[1]) : 1000000;
     const QByteArray wanted = argc > 2 ? argv[2] : "";
 
-    for (const Shape shape : {Shape::OneFolder, Shape::Realistic}) {
-        std::printf("%s\n", shape == Shape::OneFolder ? "One folder" : "Realistic tree");
+    for (const JobShape shape : {JobShape::OneFolder, JobShape::Realistic}) {
+        std::printf("%s\n", Title(shape));
         for (const Case& one : cases) {
             if (!QByteArray(one.name).contains(wanted)) {
                 continue;
             }
-            Series series(one.name, shape == Shape::OneFolder ? one.goalInOneFolder : one.goalInTree);
+            Series series(one.name, shape == JobShape::OneFolder ? one.goalInOneFolder : one.goalInTree);
             for (int count = 10000; count <= most; count *= 10) {
                 series.Add(count, Median(RepeatsFor(count), [&] { return one.measure(shape, count) / count; }));
             }

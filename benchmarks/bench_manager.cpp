@@ -1,6 +1,6 @@
-// How fast progress messages come from a server process to the signal of a session, against a bare QLocalSocket with a
-// QDataStream that reads the same burst: from the server's first write to the last emission, on the clock that both
-// processes share. Every run checks that all messages came, in order.
+// The rate of progress messages from a server process to the signal of a session, compared with a bare QLocalSocket and
+// a QDataStream that read the same burst. The time is from the server's first write to the last emission, on a clock
+// that both processes share. Every run checks that all messages arrive in order.
 
 #include "ManagerRun.h"
 #include "OwnFolder.h"
@@ -22,9 +22,7 @@ using Session = ZTBatchManager::ZTBatchSession;
 constexpr int rounds = 7;
 constexpr double goal = 200000; // messages per second
 
-const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
-
-/// Takes the values of the burst as they come.
+/// Receives the values of a burst, and checks and times them.
 class Burst
 {
 public:
@@ -33,7 +31,7 @@ public:
     {
     }
 
-    void Take(int value)
+    void Receive(int value)
     {
         isInOrder = isInOrder && value == received;
         if (++received == count) {
@@ -43,12 +41,12 @@ public:
 
     bool IsComplete() const { return received == count; }
 
-    /// Messages per second since the server, whose events these are, began the burst.
+    /// Messages per second since the start of the burst, which is one of the server's `events`.
     double Rate(const QStringList& events) const
     {
         const QStringList begin = events.filter(QStringLiteral("flood "));
         if (!IsComplete() || !isInOrder || begin.size() != 1) {
-            qFatal("The burst did not come whole and in order.");
+            qFatal("The burst is incomplete or out of order.");
         }
         return count / ((end - begin.first().mid(6).toLongLong()) / 1e9);
     }
@@ -62,7 +60,7 @@ private:
 
 QStringList Rules(int count)
 {
-    return {QStringLiteral("start: open"), QStringLiteral("5: flood %1").arg(count)};
+    return {opensAtOnce, QStringLiteral("5: flood %1").arg(count)};
 }
 
 double ManagerRate(int count)
@@ -73,7 +71,7 @@ double ManagerRate(int count)
     }
     Session* session = run.Manager()->CreateBatchSession();
     Burst burst(count);
-    QObject::connect(session, &Session::Progress, session, [&burst](int value) { burst.Take(value); });
+    QObject::connect(session, &Session::Progress, session, [&burst](int value) { burst.Receive(value); });
     session->Process(QString());
     Eventually([&] { return burst.IsComplete(); });
     return burst.Rate(run.stage.Events());
@@ -83,10 +81,10 @@ double BareRate(int count)
 {
     ManagerRun run(Rules(count));
     QProcess server;
-    server.start(ServerStage::ServerPath(), {pipeName});
+    server.start(ServerStage::ServerPath(), {ServerStage::PipeName()});
     QLocalSocket socket;
     Eventually([&] { return run.stage.Count(QStringLiteral("open")) == 1; });
-    socket.connectToServer(pipeName);
+    socket.connectToServer(ServerStage::PipeName());
 
     Burst burst(count);
     QDataStream in(&socket);
@@ -103,7 +101,7 @@ double BareRate(int count)
             QString id;
             int value = 0;
             fields >> id >> value;
-            burst.Take(value);
+            burst.Receive(value);
         }
     });
     const QString id = QStringLiteral("6ba7b810-9dad-11d1-80b4-00c04fd430c8");

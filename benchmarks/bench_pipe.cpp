@@ -1,9 +1,9 @@
-// What a pipe session costs against a bare QLocalSocket with a QDataStream on each side, in the same run: messages and
-// megabytes per second, the time from a write to its signal, and the memory that one large message takes.
+// The cost of a pipe session, compared in the same run with a bare QLocalSocket and a QDataStream on each side:
+// messages and megabytes per second, the time from a write to its signal, and the memory for one large message.
 //
-// The sending end is a child process. Each message begins with the time at which it was handed over, on the clock that
-// both processes share; a run lasts from the first of these to the arrival of the last message. All messages of a run
-// are handed over at once, as fast as the sender can.
+// The sender is a child process. Each message begins with the time at which it was sent, on a clock that both processes
+// share. A run lasts from the first of these times to the arrival of the last message. The sender sends all messages of
+// a run as fast as it can.
 
 #include "Stopwatch.h"
 #include "ZTPipeSession.h"
@@ -33,10 +33,10 @@ const QString sessionKind = QStringLiteral("session");
 const QString bareKind = QStringLiteral("bare");
 constexpr int rounds = 5;
 constexpr int latencyMessages = 500;
-constexpr int latencyInterval = 7; // ms: out of step with the 10 ms of the polling
+constexpr int latencyInterval = 7; // ms: not a multiple or divisor of the 10 ms between polls
 constexpr int largeSize = 256 * 1024 * 1024;
 
-/// A payload of its own for each message, as every user makes one.
+/// A new payload for one message, as every user makes it, which begins with the current time.
 QByteArray Stamped(const QByteArray& pattern)
 {
     QByteArray payload(pattern.constData(), pattern.size());
@@ -61,7 +61,7 @@ QByteArray Pattern(int size)
     return bytes;
 }
 
-/// The most memory that this process has had in use so far, in bytes; 0 where the system does not tell.
+/// The peak memory of this process so far, in bytes; 0 where the system does not tell.
 qint64 PeakMemory()
 {
 #ifdef Q_OS_LINUX
@@ -122,9 +122,9 @@ private:
     QTimer timer;
 };
 
-/// Calls `take` for each message on a bare socket, in the way that Qt's manual shows.
-template<typename Take>
-void ReadBare(QLocalSocket& socket, const Take& take)
+/// Calls `receive` for each message on a bare socket, with the transactions of QDataStream.
+template<typename Receive>
+void ReadBare(QLocalSocket& socket, const Receive& receive)
 {
     QDataStream stream(&socket);
     for (;;) {
@@ -135,7 +135,7 @@ void ReadBare(QLocalSocket& socket, const Take& take)
         if (!stream.commitTransaction()) {
             return;
         }
-        take(payload);
+        receive(payload);
     }
 }
 
@@ -184,13 +184,13 @@ public:
     {
     }
 
-    void Take(const QByteArray& payload)
+    void Receive(const QByteArray& payload)
     {
         const qint64 now = Nanoseconds();
         const qint64 stamp = Stamp(payload);
         first = received == 0 ? stamp : first;
         run.latencies.push_back((now - stamp) / 1e6);
-        // Every byte of a large message is compared; of many small ones the size, which does not disturb the timing.
+        // A single large message is compared completely; of many small ones only the size, to keep the timing true.
         const std::size_t compared = task.count > 1 ? 0 : expected.size() - sizeof(stamp);
         const bool isSame =
             payload.size() == expected.size() &&
@@ -230,13 +230,13 @@ Run Measure(Task task)
     QLocalSocket* socket = server.nextPendingConnection();
     std::unique_ptr<ZTPipeSession> session;
     Receiver receiver(task);
-    const auto take = [&receiver](const QByteArray& payload) { receiver.Take(payload); };
+    const auto receive = [&receiver](const QByteArray& payload) { receiver.Receive(payload); };
     if (task.kind == sessionKind) {
         session = std::make_unique<ZTPipeSession>(socket, nullptr);
         QObject::connect(session.get(), &ZTPipeSession::IncomingMessage, qApp,
-                         [&](const QString&, const QByteArray& payload) { take(payload); });
+                         [&](const QString&, const QByteArray& payload) { receive(payload); });
     } else {
-        const auto read = [&] { ReadBare(*socket, take); };
+        const auto read = [&] { ReadBare(*socket, receive); };
         QObject::connect(socket, &QLocalSocket::readyRead, qApp, read);
         QTimer::singleShot(0, qApp, read);
     }
@@ -284,7 +284,7 @@ void LargeMessage()
 {
     const qint64 before = PeakMemory();
     const Run run = Measure({sessionKind, {}, largeSize, 1, 0});
-    // What is not the pipe's: the sender has the pattern and the payload made of it, this process the pattern.
+    // Not the pipe's: the pattern and the payload in the sender, the pattern in this process.
     const double sender = double(run.childPeak) / largeSize - 2;
     const double receiver = double(PeakMemory() - before) / largeSize - 1;
     std::printf("one message of 256 MiB: %s, %.0f MB/s; extra memory in sizes of the message: sender %.2f, receiver "

@@ -13,9 +13,8 @@
 #include <cstdlib>
 #include <unistd.h>
 
-/// One whole run of the server, from the order to its end, and the memory that it took at most. Prints
-/// "seconds S supervisor K worker K cpu S": memory in KiB, and the processor time of all workers, which a busy machine
-/// changes little.
+/// One complete run of the server: its duration and its peak memory. Prints "seconds S supervisor K worker K cpu S":
+/// memory in KiB, and the processor time of all workers, which depends little on other load.
 namespace {
 
 constexpr int patience = 3'600'000; // ms
@@ -40,7 +39,7 @@ double ProcessorSeconds(qint64 process)
     if (!file.open(QIODevice::ReadOnly)) {
         return 0.0;
     }
-    // The name of the program, which may have spaces, ends with the last bracket; 11 numbers later comes the time.
+    // The program's name, which may contain spaces, ends at the last bracket. The times are 11 fields further.
     const QByteArray status = file.readAll();
     const QList<QByteArray> fields = status.mid(status.lastIndexOf(')') + 2).split(' ');
     return double(fields.value(11).toLongLong() + fields.value(12).toLongLong()) / double(sysconf(_SC_CLK_TCK));
@@ -59,7 +58,7 @@ void ToReducedJpeg(ZTBatchDocument& job, int side)
     }
 }
 
-/// Sleeps until the run ends: a host that looked again and again would take processor time from the workers.
+/// Sleeps until the run ends: polling would take processor time from the workers.
 bool SleepUntilFinished(ServerRun& run)
 {
     QEventLoop loop;
