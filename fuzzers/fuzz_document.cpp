@@ -1,5 +1,7 @@
-// Reads a text as a job. What is accepted can be written and read again, and comes back the same; what is refused has
-// changed nothing.
+// Reads a text as a job. A text that is accepted can be written and read again with the same result; a text that is
+// refused changes nothing.
+
+#include "Require.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -10,21 +12,13 @@
 #include <QVector>
 
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
 namespace {
 
 using Settings = ZTBatchOutputSettings;
 
-void Require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
-}
-
-/// UTF-8, or UTF-16 behind two zero bytes: the parser is to see what no decoder of UTF-8 lets through.
+/// The input as UTF-8 or, after two zero bytes, as UTF-16, which can contain what no decoder of UTF-8 produces.
 QString Text(const uint8_t* data, size_t size)
 {
     if (size < 2 || data[0] != 0 || data[1] != 0) {
@@ -35,7 +29,7 @@ QString Text(const uint8_t* data, size_t size)
     return text;
 }
 
-/// Every node, level by level; with what is written of it.
+/// The data of every node, level by level.
 QVector<BatchNodeData> Nodes(const ZTBatchDocument& document)
 {
     const ZTBatchInputModel* const model = document.GetInputModel();
@@ -82,7 +76,7 @@ void RequireSameOutput(const Settings& a, const Settings& b)
 
 } // namespace
 
-/// Most texts are refused with a debug line; nobody is to read them.
+/// Silences the debug lines: most texts are refused with one.
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
@@ -110,7 +104,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QVector<BatchNodeData> nodes = Nodes(document);
     Require(Nodes(copy).size() == nodes.size());
 
-    // Written once, the texts hold nothing any more that is replaced on the way, and known types are in order.
+    // After one round trip no characters are left that writing replaces, and nodes of known types are sorted.
     const QString second = copy.Serialize(nullptr);
     if (HasOnlyKnownTypes(nodes)) {
         ZTBatchDocument last;

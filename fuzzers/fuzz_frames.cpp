@@ -1,5 +1,7 @@
-// Feeds the frame reader a stream in pieces. The first byte seeds the sizes of the pieces. However the stream is cut,
-// the messages are those of the whole stream, and what was read as messages is what their frames hold.
+// Feeds a stream to the frame reader in pieces, whose sizes depend on the first byte. However the stream is cut, the
+// messages are those of the whole stream, and their frames are the bytes that were read.
+
+#include "Require.h"
 
 #include "ZTFrame_p.h"
 
@@ -7,14 +9,13 @@
 #include <QVector>
 
 #include <cstdint>
-#include <cstdlib>
 #include <utility>
 
 namespace {
 
 using Messages = QVector<std::pair<QString, QByteArray>>;
 
-/// A device that has the bytes which have arrived, and no end.
+/// A sequential device with the bytes that have arrived so far.
 class Pipe : public QIODevice
 {
 public:
@@ -46,13 +47,6 @@ bool ReadMessages(ZTFrameReader& reader, Pipe& pipe, Messages& messages)
         messages.append({name, reader.TakePayload()});
     }
     return result != ZTFrameReader::Result::Refused;
-}
-
-void Require(bool condition)
-{
-    if (!condition) {
-        std::abort();
-    }
 }
 
 } // namespace

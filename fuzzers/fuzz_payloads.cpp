@@ -1,10 +1,11 @@
-// Unpacks arbitrary bytes as each payload. What unpacks exactly packs to the same bytes, but for the flag of an answer,
-// of which any value but 0 reads as true.
+// Unpacks arbitrary bytes as each kind of payload. A payload that unpacks exactly packs to the same bytes, except for
+// the flag of an answer: any value other than 0 is read as true.
+
+#include "Require.h"
 
 #include "ZTBatchPayload.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <type_traits>
 
 namespace {
@@ -16,14 +17,11 @@ void RoundTrip(const QByteArray& bytes)
     const auto payload = ZTBatchPayload::Unpack<Payload>(bytes, &isExact);
     const QByteArray packed = ZTBatchPayload::Pack(payload);
     const bool isFlagged = std::is_same_v<Payload, ZTBatchPayload::Answer>;
-    if (isExact && packed.chopped(isFlagged ? 1 : 0) != bytes.chopped(isFlagged ? 1 : 0)) {
-        std::abort();
-    }
+    const int flagSize = isFlagged ? 1 : 0;
+    Require(!isExact || packed.chopped(flagSize) == bytes.chopped(flagSize));
     bool isExactAgain = false;
     ZTBatchPayload::Unpack<Payload>(packed, &isExactAgain);
-    if (!isExactAgain) {
-        std::abort();
-    }
+    Require(isExactAgain);
 }
 
 } // namespace
