@@ -6,7 +6,6 @@
 #include <QtTest>
 
 #include <random>
-#include <vector>
 
 /// Random edits of the source and toggles of the table. After each, every cell and every search is compared with the
 /// rows of the last rebuild, which the test keeps as plain lists.

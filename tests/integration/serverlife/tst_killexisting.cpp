@@ -8,8 +8,6 @@
 
 using namespace HostLines;
 
-using Session = ZTBatchManager::ZTBatchSession;
-
 /// KillExistingBatchProcess() with and without a manager, a listening server, and a server of the manager's own.
 class tst_KillExisting : public QObject
 {

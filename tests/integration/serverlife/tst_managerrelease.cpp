@@ -4,7 +4,6 @@
 #include "ServerLife.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QtTest>
 
 using namespace HostLines;
