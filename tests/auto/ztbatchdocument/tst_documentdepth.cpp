@@ -1,11 +1,7 @@
 #include "JobTexts.h"
 #include "ZTBatchDocument.h"
 
-#include <QThread>
 #include <QtTest>
-
-#include <functional>
-#include <memory>
 
 /// Deep trees of folders are written and read back, however small the stack is.
 class tst_DocumentDepth : public QObject
@@ -42,19 +38,14 @@ int Depth(const ZTBatchDocument& document)
     return depth;
 }
 
-void RunOnSmallStack(const std::function<void()>& function)
-{
-    const std::unique_ptr<QThread> thread(QThread::create(function));
-    thread->setStackSize(512 * 1024);
-    thread->start();
-    QVERIFY(thread->wait());
-}
+constexpr uint smallStack = 512 * 1024;
 
 } // namespace
 
 void tst_DocumentDepth::whatIsWrittenIsRead_data()
 {
     QTest::addColumn<int>("folders");
+
     QTest::newRow("998 folders") << 998;
     QTest::newRow("999 folders") << 999;
     QTest::newRow("1000 folders") << 1000;
@@ -82,7 +73,7 @@ void tst_DocumentDepth::whatIsWrittenIsRead()
 void tst_DocumentDepth::deepestJobOnSmallStack()
 {
     int depth = 0;
-    RunOnSmallStack([&] {
+    RunOnStack(smallStack, [&] {
         ZTBatchDocument document;
         document.Deserialize(Chain(deepestFolder));
         depth = Depth(document);
@@ -93,7 +84,7 @@ void tst_DocumentDepth::deepestJobOnSmallStack()
 void tst_DocumentDepth::brokenDeepJobOnSmallStack()
 {
     bool isRead = true;
-    RunOnSmallStack([&] {
+    RunOnStack(smallStack, [&] {
         QString text = Chain(deepestFolder);
         text.chop(1);
         isRead = ZTBatchDocument().Deserialize(text);

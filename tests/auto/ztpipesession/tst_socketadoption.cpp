@@ -1,22 +1,10 @@
-#include "DebugLines.h"
-#include "PeerProcess.h"
-#include "PrivateTempDir.h"
-#include "ZTPipeSession.h"
+#include "PipeTest.h"
 
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QtTest>
 
 namespace {
-
-// On Windows the temporary folder does not keep the pipes of tests apart, so their names do.
-const QString pipeName = QStringLiteral("adoption-%1").arg(QCoreApplication::applicationPid());
-
-/// "a", "bcd"
-const QByteArray frame = QByteArray::fromHex("00000002"
-                                             "0061"
-                                             "00000003"
-                                             "626364");
 
 /// Queues an error for the worker that adopts it at the moment at which the worker leaves for the session's thread, and
 /// so before anything runs there.
@@ -40,36 +28,34 @@ public:
 } // namespace
 
 /// What an adopted socket may have gone through before its session's thread runs.
-class tst_ZTPipeSessionAdoption : public QObject
+class tst_SocketAdoption : public PipeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void errorBeforeTheThreadRuns();
+    void isReadAfterAnErrorBeforeTheThreadRuns();
 };
 
-void tst_ZTPipeSessionAdoption::errorBeforeTheThreadRuns()
+void tst_SocketAdoption::isReadAfterAnErrorBeforeTheThreadRuns()
 {
     qRegisterMetaType<QLocalSocket::LocalSocketError>("QLocalSocket::LocalSocketError");
-    const PrivateTempDir folder;
-    const DebugLines lines;
     PeerProcess peer;
-    QVERIFY(peer.Do(QStringLiteral("listen ") + pipeName));
+    QVERIFY(peer.Listen(pipeName));
     auto* const socket = new TroubledSocket;
     socket->connectToServer(pipeName);
-    QVERIFY(peer.Do(QStringLiteral("accept")));
+    QVERIFY(peer.Accept());
     QVERIFY(socket->waitForConnected());
 
     ZTPipeSession session(socket, nullptr);
     QVERIFY(socket->isErrorQueued);
     QSignalSpy messages(&session, &ZTPipeSession::IncomingMessage);
-    QTRY_COMPARE(lines.CountEndingWith(QStringLiteral("] Socket error: 10")), 1);
-    // The socket is connected still, and is read whatever the state says.
+    QTRY_COMPARE(lines->CountEndingWith(QStringLiteral("] Socket error: 10")), 1);
+    // The socket is still connected, and is read although the state says otherwise.
     QVERIFY(!session.IsConnected());
-    QVERIFY(peer.Write(frame));
+    QVERIFY(peer.Write(frameA));
     QTRY_COMPARE(messages.count(), 1);
     QCOMPARE(messages.at(0), (QVariantList{QStringLiteral("a"), QByteArrayLiteral("bcd")}));
 }
 
-QTEST_GUILESS_MAIN(tst_ZTPipeSessionAdoption)
-#include "tst_ztpipesessionadoption.moc"
+QTEST_GUILESS_MAIN(tst_SocketAdoption)
+#include "tst_socketadoption.moc"

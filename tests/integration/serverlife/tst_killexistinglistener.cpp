@@ -1,4 +1,6 @@
 #include "PrivateTempDir.h"
+#include "ServerLife.h"
+#include "ServerStage.h"
 #include "ZTBatchManager.h"
 
 #include <QElapsedTimer>
@@ -10,31 +12,20 @@
 #include <limits>
 
 /// KillExistingBatchProcess(false) against a server that accepts connections but does not read.
-class tst_ServerLifeListener : public QObject
+class tst_KillExistingListener : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void killExistingDoesNotWaitForAReader();
+    void doesNotWaitForAReader();
 };
 
-namespace {
-
-const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
-
-/// "21", nothing
-const QByteArray closeServerFrame = QByteArray::fromHex("00000004"
-                                                        "00320031"
-                                                        "00000000");
-
-} // namespace
-
-void tst_ServerLifeListener::killExistingDoesNotWaitForAReader()
+void tst_KillExistingListener::doesNotWaitForAReader()
 {
     const PrivateTempDir folder;
     // No event loop turns here before the calls have returned, so nothing reads.
     QLocalServer listener;
-    QVERIFY2(listener.listen(pipeName), qPrintable(listener.errorString()));
+    QVERIFY2(listener.listen(ServerStage::PipeName()), qPrintable(listener.errorString()));
     constexpr int calls = 3;
     qint64 shortest = std::numeric_limits<qint64>::max();
     for (int i = 0; i < calls; ++i) {
@@ -52,13 +43,13 @@ void tst_ServerLifeListener::killExistingDoesNotWaitForAReader()
         QVERIFY(listener.hasPendingConnections() || listener.waitForNewConnection(10000));
         QLocalSocket* const connection = listener.nextPendingConnection();
         received.clear();
-        while (received.size() < closeServerFrame.size() &&
+        while (received.size() < CloseServerFrame().size() &&
                (connection->bytesAvailable() > 0 || connection->waitForReadyRead(10000))) {
             received += connection->readAll();
         }
     }
-    QCOMPARE(received, closeServerFrame);
+    QCOMPARE(received, CloseServerFrame());
 }
 
-QTEST_GUILESS_MAIN(tst_ServerLifeListener)
-#include "tst_serverlifelistener.moc"
+QTEST_GUILESS_MAIN(tst_KillExistingListener)
+#include "tst_killexistinglistener.moc"
