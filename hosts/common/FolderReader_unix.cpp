@@ -9,6 +9,7 @@
 #include <memory>
 #include <sys/stat.h>
 
+using namespace BatchJob;
 
 namespace BatchHost {
 
@@ -30,7 +31,7 @@ QString ReadableForm(const char* name)
     return text;
 }
 
-FileIdentity IdentityOf(const struct stat& state)
+FileIdentity IdentityFrom(const struct stat& state)
 {
     return {quint64(state.st_dev), quint64(state.st_ino)};
 }
@@ -51,12 +52,12 @@ FolderEntry EntryOf(int folder, const char* name)
     }
     entry.isLink = S_ISLNK(state.st_mode);
     if (entry.isLink && fstatat(folder, name, &state, 0) != 0) {
-        entry.leadsNowhere = true;
+        entry.isDangling = true;
         return entry;
     }
     if (S_ISDIR(state.st_mode)) {
         entry.kind = FolderEntry::Kind::Folder;
-        entry.identity = IdentityOf(state);
+        entry.identity = IdentityFrom(state);
     } else if (S_ISREG(state.st_mode)) {
         entry.kind = FolderEntry::Kind::File;
         entry.modified = QDateTime::fromSecsSinceEpoch(state.st_mtime, Qt::UTC);
@@ -77,7 +78,7 @@ FolderContent ReadFolder(const QString& path)
         content.error = ErrorText();
         return content;
     }
-    content.identity = IdentityOf(state);
+    content.identity = IdentityFrom(state);
     errno = 0;
     while (const dirent* const found = readdir(folder.get())) {
         if (std::strcmp(found->d_name, ".") != 0 && std::strcmp(found->d_name, "..") != 0) {
@@ -89,15 +90,6 @@ FolderContent ReadFolder(const QString& path)
         content.error = ErrorText();
     }
     return content;
-}
-
-FileIdentity IdentityOfFolder(const QString& path)
-{
-    struct stat state
-    {
-    };
-    return stat(QFile::encodeName(path).constData(), &state) == 0 && S_ISDIR(state.st_mode) ? IdentityOf(state)
-                                                                                            : FileIdentity();
 }
 
 } // namespace BatchHost

@@ -2,31 +2,17 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
 
+using namespace BatchJob;
 
 namespace BatchHost {
-
-namespace {
-
-/// There are no numbers of files to be had without opening them; the path that is left when all links are resolved
-/// tells folders apart just as well.
-FileIdentity IdentityOf(const QString& path)
-{
-    static QHash<QString, quint64> numbers;
-    const QString resolved = QFileInfo(path).canonicalFilePath().toLower();
-    const auto known = numbers.constFind(resolved);
-    return {0, known != numbers.constEnd() ? *known : *numbers.insert(resolved, quint64(numbers.size() + 1))};
-}
-
-} // namespace
 
 FolderContent ReadFolder(const QString& path)
 {
     FolderContent content;
     const QDir folder(path);
     if (!folder.exists() || !folder.isReadable()) {
-        content.error = QStringLiteral("it cannot be opened");
+        content.error = QStringLiteral("the folder cannot be opened");
         return content;
     }
     content.identity = IdentityOf(path);
@@ -36,7 +22,7 @@ FolderContent ReadFolder(const QString& path)
         FolderEntry entry;
         entry.name = info.fileName();
         entry.isLink = info.isSymLink();
-        entry.leadsNowhere = entry.isLink && !info.exists();
+        entry.isDangling = entry.isLink && !info.exists();
         if (info.isDir()) {
             entry.kind = FolderEntry::Kind::Folder;
             entry.identity = IdentityOf(info.filePath());
@@ -47,11 +33,6 @@ FolderContent ReadFolder(const QString& path)
         content.entries.append(entry);
     }
     return content;
-}
-
-FileIdentity IdentityOfFolder(const QString& path)
-{
-    return QFileInfo(path).isDir() ? IdentityOf(path) : FileIdentity();
 }
 
 } // namespace BatchHost

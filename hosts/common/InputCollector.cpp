@@ -5,7 +5,6 @@
 #include "UsageError.h"
 #include "UserPath.h"
 
-#include "hosts/cli/options/ValueTexts.h"
 #include "job/formats/FormatCatalog.h"
 
 #include "ZTBatchDocument.h"
@@ -85,7 +84,7 @@ int DepthOf(const TreeNode<BatchNodeData>* node)
 InputCollector::InputCollector(ZTBatchDocument& job, const InputFilter& filter)
     : job(job)
     , filter(filter)
-    , outputFolder(IdentityOfFolder(filter.outputFolder))
+    , outputFolder(IdentityOf(filter.outputFolder))
     , only(Expressions(filter.only))
     , except(Expressions(filter.except))
     , extensions(BatchJob::ReadableExtensions().begin(), BatchJob::ReadableExtensions().end())
@@ -175,7 +174,7 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     if (!content.error.isEmpty()) {
         problems.append(QStringLiteral("%1 cannot be read: %2").arg(path, content.error));
     }
-    if (content.identity.number != 0 && !IsFirst(folder, content.identity)) {
+    if (content.identity && !IsFirst(folder, *content.identity)) {
         return;
     }
     if (DepthOf(&folder) > deepestFolder) {
@@ -217,10 +216,10 @@ void InputCollector::TakeEntry(const FolderEntry& entry, const QString& folderPa
     } else if (!CanBeSaved(entry.name)) {
         problems.append(
             QStringLiteral("%1 has a name with a character that no job can hold; rename it to use it.").arg(path));
-    } else if (entry.leadsNowhere) {
+    } else if (entry.isDangling) {
         problems.append(QStringLiteral("%1 is a link that leads nowhere.").arg(path));
     } else if (isFolder) {
-        const bool isOutput = outputFolder.number != 0 && entry.identity == outputFolder;
+        const bool isOutput = outputFolder && entry.identity == outputFolder;
         if (!isOutput && !taken.contains(path)) {
             folders.append(MakeNode(path, Folder).release());
         }

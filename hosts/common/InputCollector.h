@@ -56,18 +56,18 @@ private:
     void TakeFolder(const QString& path);
     void ReadInto(Node& folder, QVector<Node*>& found);
     void TakeEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
-    bool IsFirst(Node& folder, const FileIdentity& identity);
+    bool IsFirst(Node& folder, const BatchJob::FileIdentity& identity);
     bool IsWanted(const QString& name) const;
     void Insert(std::unique_ptr<Node> node);
 
     ZTBatchDocument& job;
     const InputFilter filter;
-    const FileIdentity outputFolder;
+    const std::optional<BatchJob::FileIdentity> outputFolder;
     QVector<QRegularExpression> only;
     QVector<QRegularExpression> except;
     QSet<QString> extensions;
     QSet<QString> taken;                                 ///< the paths in the job
-    QHash<FileIdentity, QString> foldersTaken; ///< and their paths
+    QHash<BatchJob::FileIdentity, QString> foldersTaken; ///< and their paths
     QStringList problems;
     QStringList repetitions;
     int folderCount = 0;
