@@ -1,6 +1,6 @@
 #include "CliRun.h"
+#include "PictureFiles.h"
 #include "ProcessEnd.h"
-#include "TestPictures.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -79,7 +79,7 @@ private:
     void MakeOutput(const QString& folder = QStringLiteral("out")) const
     {
         QVERIFY(QDir(Path(folder)).removeRecursively());
-        TestPictures::Write(Path(folder + QStringLiteral("/2.jpg")), 99);
+        PictureFiles::WriteJpeg(Path(folder + QStringLiteral("/2.jpg")), 99);
     }
 
     std::unique_ptr<QTemporaryDir> root;
@@ -94,8 +94,8 @@ void tst_CliResume::init()
     environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
     // The names of the two folders meet in one output folder.
     for (int i = 1; i <= 6; ++i) {
-        TestPictures::Write(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 500, 400);
-        TestPictures::Write(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, 500, 400);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 500, 400);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, 500, 400);
     }
 }
 

@@ -1,5 +1,5 @@
 #include "CliRun.h"
-#include "TestPictures.h"
+#include "PictureFiles.h"
 
 #include <QDir>
 #include <QImage>
@@ -93,7 +93,7 @@ void tst_CliRun::init()
     environment.remove(QStringLiteral("XDG_CONFIG_HOME"));
     environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
     for (int i = 1; i <= 3; ++i) {
-        TestPictures::Write(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
     }
 }
 
@@ -123,7 +123,7 @@ void tst_CliRun::SavedJobsAreRun()
 
 void tst_CliRun::FailuresAreToldAndCounted()
 {
-    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     const CliRun run = Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(Results(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("3.jpg")}));
@@ -193,7 +193,7 @@ void tst_CliRun::QuietSaysProblemsOnly()
     const CliRun good = Run(QStringLiteral("run photos -o out -q"));
     QCOMPARE(good.exitCode, 0);
     QVERIFY2(good.err.isEmpty(), good.err.constData());
-    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     const CliRun bad = Run(QStringLiteral("run photos/2.jpg -o out2 -q"));
     QCOMPARE(bad.exitCode, 1);
     QCOMPARE(bad.err.count('\n'), 1);
@@ -202,7 +202,7 @@ void tst_CliRun::QuietSaysProblemsOnly()
 
 void tst_CliRun::EventsAreJson()
 {
-    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     const CliRun run = Run(QStringLiteral("run photos -o out --json"));
     QCOMPARE(run.exitCode, 1);
     QHash<QString, int> counts;
@@ -237,8 +237,8 @@ void tst_CliRun::EventsAreJson()
 void tst_CliRun::ReportsListEveryInput()
 {
     const QString odd = QStringLiteral("photos/a \"quoted\", name.jpg");
-    TestPictures::Write(Path(odd));
-    TestPictures::WriteDamaged(Path(QStringLiteral("photos/2.jpg")));
+    PictureFiles::WriteJpeg(Path(odd));
+    PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     QCOMPARE(Run(QStringLiteral("run photos -o out --report r.csv -q")).exitCode, 1);
     QCOMPARE(Run(QStringLiteral("run photos -o out2 --report r.JSON -q")).exitCode, 1);
 
@@ -262,7 +262,7 @@ void tst_CliRun::ReportsListEveryInput()
 void tst_CliRun::PlanTellsWhatRunDoes()
 {
     for (int i = 1; i <= 3; ++i) {
-        TestPictures::Write(Path(QStringLiteral("more/%1.jpg").arg(i)), 10 + i);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("more/%1.jpg").arg(i)), 10 + i);
     }
     for (const char* options : {"--structure input", "--name date --suffix number:9:2", "--on-name-exists rename",
                                 "--structure date --name time --on-name-exists rename"}) {
@@ -295,8 +295,8 @@ void tst_CliRun::PlanTellsWhatRunDoes()
 
 void tst_CliRun::PlanMarksTrouble()
 {
-    TestPictures::Write(Path(QStringLiteral("more/1.jpg")), 10);
-    TestPictures::Write(Path(QStringLiteral("out/3.jpg")), 10);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("more/1.jpg")), 10);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("out/3.jpg")), 10);
     const CliRun plan = Run(QStringLiteral("plan photos more -o out --on-name-exists skip"));
     QCOMPARE(plan.exitCode, 1);
     QVERIFY2(plan.out.contains("[skip: " + Path(QStringLiteral("out/1.jpg")).toUtf8() + " is the result of "),
@@ -415,9 +415,9 @@ void tst_CliRun::NothingIsLeftBehind()
 
 void tst_CliRun::NamesStayInTheirLine()
 {
-    TestPictures::Write(Path(QStringLiteral("odd/a\nb%1.jpg")));
-    TestPictures::Write(Path(QStringLiteral("odd/\x7F.jpg")));
-    TestPictures::WriteDamaged(Path(QStringLiteral("odd/\xC2\x9B.jpg")));
+    PictureFiles::WriteJpeg(Path(QStringLiteral("odd/a\nb%1.jpg")));
+    PictureFiles::WriteJpeg(Path(QStringLiteral("odd/\x7F.jpg")));
+    PictureFiles::WriteTruncated(Path(QStringLiteral("odd/\xC2\x9B.jpg")));
     const CliRun plan = Run(QStringLiteral("plan odd -o out"));
     QCOMPARE(plan.out.count('\n'), 3);
     QVERIFY2(plan.out.contains("/odd/a\\x0ab%1.jpg -> "), plan.out.constData());

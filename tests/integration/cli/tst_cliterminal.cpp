@@ -1,6 +1,6 @@
 #include "CliRun.h"
+#include "PictureFiles.h"
 #include "PseudoTerminal.h"
-#include "TestPictures.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -40,13 +40,13 @@ private:
     }
     void WriteTaken() const
     {
-        TestPictures::Write(Path(QStringLiteral("out/1.jpg")), 9);
-        TestPictures::Write(Path(QStringLiteral("out/2.jpg")), 9);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("out/1.jpg")), 9);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("out/2.jpg")), 9);
     }
     void WriteMany() const
     {
         for (int i = 0; i < 40; ++i) {
-            TestPictures::Write(Path(QStringLiteral("many/%1.jpg").arg(i)), i, 1500, 1000);
+            PictureFiles::WriteJpeg(Path(QStringLiteral("many/%1.jpg").arg(i)), i, 1500, 1000);
         }
     }
 
@@ -66,7 +66,7 @@ void tst_CliTerminal::init()
     qputenv("TERM", "xterm");
     qunsetenv("NO_COLOR");
     for (int i = 1; i <= 3; ++i) {
-        TestPictures::Write(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
     }
 }
 
@@ -214,7 +214,7 @@ void tst_CliTerminal::AnswersOutliveTheProgram()
 {
     WriteTaken();
     for (const char* folder : {"a", "b", "c"}) {
-        TestPictures::Write(Path(QLatin1String(folder) + QStringLiteral("/1.jpg")), folder[0], 3000, 2000);
+        PictureFiles::WriteJpeg(Path(QLatin1String(folder) + QStringLiteral("/1.jpg")), folder[0], 3000, 2000);
     }
     {
         PseudoTerminal terminal(

@@ -1,11 +1,11 @@
-#include "TestPictures.h"
+#include "PictureFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 
-void TestPictures::Write(const QString& path, int seed, int width, int height)
+void PictureFiles::WriteJpeg(const QString& path, int seed, int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y) {
@@ -18,11 +18,11 @@ void TestPictures::Write(const QString& path, int seed, int width, int height)
     }
 }
 
-void TestPictures::WriteDamaged(const QString& path)
+void PictureFiles::WriteTruncated(const QString& path)
 {
-    Write(path, 1, 200, 200);
+    WriteJpeg(path, 1, 200, 200);
     QFile file(path);
     if (!file.resize(file.size() / 2)) {
-        qFatal("The picture %s cannot be cut off.", qUtf8Printable(path));
+        qFatal("The picture %s cannot be truncated.", qUtf8Printable(path));
     }
 }

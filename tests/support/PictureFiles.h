@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Pictures that tests write themselves, without the worker.
+namespace PictureFiles {
+
+/// Writes a JPEG of `width` x `height` pixels, and the folders above it. Each `seed` gives other pixels.
+void WriteJpeg(const QString& path, int seed = 0, int width = 64, int height = 48);
+
+/// Writes a JPEG that ends in its middle.
+void WriteTruncated(const QString& path);
+
+} // namespace PictureFiles
