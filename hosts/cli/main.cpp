@@ -1,6 +1,5 @@
 #include "hosts/cli/commands/Program.h"
 #include "hosts/cli/terminal/Startup.h"
-#include "hosts/common/UsageError.h"
 
 #include <QCoreApplication>
 
@@ -14,7 +13,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
     try {
         return int(RunProgram(Arguments(argc, argv)));
-    } catch (const BatchHost::UsageError& error) {
-        return int(ReportUsageError(error.text));
+    } catch (const BatchHost::RequestError& error) {
+        return int(Report(error));
     }
 }

@@ -1,6 +1,6 @@
 #include "FileProber.h"
 
-#include "UsageError.h"
+#include "RequestError.h"
 
 #include "server/protocol/ServerLimits.h"
 #include "server/protocol/TaskFailure.h"
@@ -109,7 +109,7 @@ void FileProber::Probe(const QVector<File>& files, const QString& settings, cons
 {
     const QString problem = ProbeRun(files, settings, take).Execute();
     if (!problem.isEmpty()) {
-        throw UsageError{
+        throw RequestError{
             QStringLiteral("names depend on capture dates, but no worker can be started: %1").arg(problem)};
     }
 }

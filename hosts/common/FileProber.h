@@ -23,7 +23,7 @@ public:
     using Taker = std::function<void(const BatchProtocol::Report&)>;
 
     /// Probes `files` and returns when all are reported. `settings` is the text of the job without inputs. Throws
-    /// UsageError when no worker can be started.
+    /// RequestError when no worker can be started.
     static void Probe(const QVector<File>& files, const QString& settings, const Taker& take);
 };
 

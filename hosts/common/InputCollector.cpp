@@ -2,7 +2,7 @@
 
 #include "JobFile.h"
 #include "NaturalNames.h"
-#include "UsageError.h"
+#include "RequestError.h"
 #include "UserPath.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -111,12 +111,12 @@ void InputCollector::Add(const QStringList& paths)
         const QFileInfo info(path);
         if (!info.exists()) {
             qDeleteAll(loose);
-            throw UsageError{info.isSymLink() ? QStringLiteral("%1 is a link that leads nowhere").arg(path)
-                                              : QStringLiteral("%1 does not exist").arg(path)};
+            throw RequestError{info.isSymLink() ? QStringLiteral("%1 is a link that leads nowhere").arg(path)
+                                                : QStringLiteral("%1 does not exist").arg(path)};
         }
         if (!info.isDir() && !info.isFile()) {
             qDeleteAll(loose);
-            throw UsageError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
+            throw RequestError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
         }
         if (taken.contains(path)) {
             repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));

@@ -39,8 +39,8 @@ public:
     /// Called now and then while folders are read, with the folder at hand.
     std::function<void(int folders, int files, const QString& folder)> onProgress;
 
-    /// Adds the files and folders `paths` to the job. Throws UsageError when one of them does not exist or cannot be an
-    /// input.
+    /// Adds the files and folders `paths` to the job. Throws RequestError when one of them does not exist or cannot be
+    /// an input.
     void Add(const QStringList& paths);
 
     /// What was left out though somebody may miss it, one sentence each: folders that cannot be read, links that lead

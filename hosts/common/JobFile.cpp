@@ -1,6 +1,6 @@
 #include "JobFile.h"
 
-#include "UsageError.h"
+#include "RequestError.h"
 
 #include "ZTBatchDocument.h"
 
@@ -14,7 +14,7 @@ namespace BatchHost {
 
 namespace {
 
-/// Why `text` is no job, for the user.
+/// Why `text` is not a job, for the user.
 QString Reason(const QString& text)
 {
     QXmlStreamReader reader(text);
@@ -29,11 +29,11 @@ QString Reason(const QString& text)
             .arg(reader.columnNumber())
             .arg(reader.errorString());
     }
-    return hasType ? QStringLiteral("its XML is nested too deep or declares what a job must not")
+    return hasType ? QStringLiteral("its XML is nested too deeply, or declares what a job must not declare")
                    : QStringLiteral("it does not begin with <!DOCTYPE batch>");
 }
 
-/// The name that the job carries; a document does not take it over from its text.
+/// The name that the job carries. Reading a document does not set it.
 QString NameOf(const QString& text)
 {
     QXmlStreamReader reader(text);
@@ -64,21 +64,21 @@ void LoadJob(ZTBatchDocument& job, const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw UsageError{QStringLiteral("the job %1 cannot be read: %2").arg(path, file.errorString())};
+        throw RequestError{QStringLiteral("the job %1 cannot be read: %2").arg(path, file.errorString())};
     }
     constexpr qint64 largestJob = 512 << 20;
     if (file.size() > largestJob) {
-        throw UsageError{
-            QStringLiteral("the job %1 has more than %2 MiB").arg(path, QString::number(largestJob >> 20))};
+        throw RequestError{
+            QStringLiteral("the job %1 is larger than %2 MiB").arg(path, QString::number(largestJob >> 20))};
     }
     QTextCodec::ConverterState state;
     const QByteArray bytes = file.readAll();
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0) {
-        throw UsageError{QStringLiteral("%1 is no batch job: it is not UTF-8 text").arg(path)};
+        throw RequestError{QStringLiteral("%1 is not a batch job: it is not UTF-8 text").arg(path)};
     }
     if (!job.Deserialize(text)) {
-        throw UsageError{QStringLiteral("%1 is no batch job: %2").arg(path, Reason(text))};
+        throw RequestError{QStringLiteral("%1 is not a batch job: %2").arg(path, Reason(text))};
     }
     job.SetDocumentName(NameOf(text));
     job.SetFileName(path);
@@ -88,12 +88,12 @@ void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisti
 {
     const QString text = job.Serialize(nullptr);
     if (!replaceExisting && QFileInfo::exists(path)) {
-        throw UsageError{QStringLiteral("%1 exists; --force replaces it").arg(path)};
+        throw RequestError{QStringLiteral("%1 exists").arg(path), RequestError::Kind::FileExists};
     }
     QSaveFile file(path);
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        throw UsageError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 

@@ -10,11 +10,11 @@ namespace BatchHost {
 /// Whether a job can hold `text`. XML has no way to write most control characters.
 bool CanBeSaved(const QString& text);
 
-/// Throws UsageError.
+/// Reads the job in the file `path`. Throws RequestError.
 void LoadJob(ZTBatchDocument& job, const QString& path);
 
 /// Writes `job` whole or not at all. A file that exists is replaced only when `replaceExisting` is true. Throws
-/// UsageError.
+/// RequestError.
 void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisting);
 
 } // namespace BatchHost

@@ -1,6 +1,6 @@
 #include "JournalFile.h"
 
-#include "UsageError.h"
+#include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
 
@@ -23,7 +23,7 @@ QString PathOf(const QString& outputFolder, const QString& document)
     return QDir(outputFolder).filePath(nameStart + QString::fromLatin1(hash.left(digits)) + nameEnd);
 }
 
-/// The names of the journals in `folder`; of their locks, when `end` is that of a lock.
+/// The names of the journals in `folder` that hold a run; with `end`, that of a lock, of all that have a lock.
 QStringList JournalsIn(const QDir& folder, const QString& end)
 {
     QStringList names;
@@ -43,7 +43,7 @@ JournalFile::JournalFile(const QString& path)
     : path(path)
     , lock(path + lockEnd)
 {
-    lock.setStaleLockTime(0); // Only the holder's end makes it stale, not its age.
+    lock.setStaleLockTime(0); // A run may take days: the lock is stale only when its holder has ended.
     isHeld = lock.tryLock();
 }
 
@@ -54,7 +54,7 @@ std::unique_ptr<JournalFile> JournalFile::ForJob(const QString& outputFolder, co
     QDir().mkpath(outputFolder);
     std::unique_ptr<JournalFile> journal(new JournalFile(PathOf(outputFolder, document)));
     if (!journal->isHeld && journal->lock.error() == QLockFile::LockFailedError) {
-        throw UsageError{QStringLiteral("the same job is being run into %1").arg(outputFolder)};
+        throw RequestError{QStringLiteral("the same job is already running into %1").arg(outputFolder)};
     }
     return journal;
 }
@@ -66,37 +66,39 @@ std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolde
     RemoveUnbegun(folder);
     const QStringList names = JournalsIn(folder, QString());
     if (names.isEmpty()) {
-        throw UsageError{QStringLiteral("there is no interrupted run in %1").arg(outputFolder)};
+        throw RequestError{QStringLiteral("there is no interrupted run in %1").arg(outputFolder)};
     }
     const QString ofJob = PathOf(outputFolder, document);
     const bool isOfJob = BatchJob::HasJournalBegun(ofJob);
     if (isThisJob && !isOfJob) {
-        throw UsageError{QStringLiteral("what was interrupted in %1 is not this job: other inputs, options or files. "
-                                        "With --output alone it goes on as it was; without --resume this job is run")
-                             .arg(outputFolder)};
+        throw RequestError{
+            QStringLiteral("the run that was interrupted in %1 is of another job: its inputs, options or "
+                           "files differ")
+                .arg(outputFolder),
+            RequestError::Kind::OtherRunInterrupted};
     }
     if (names.size() > 1 && !isOfJob) {
-        throw UsageError{QStringLiteral("%1 runs were interrupted in %2, none of this job; give the inputs and options "
-                                        "of the one to go on with")
-                             .arg(names.size())
-                             .arg(outputFolder)};
+        throw RequestError{QStringLiteral("%1 runs were interrupted in %2, none of them of this job")
+                               .arg(names.size())
+                               .arg(outputFolder),
+                           RequestError::Kind::SeveralRunsInterrupted};
     }
     std::unique_ptr<JournalFile> journal(new JournalFile(names.size() > 1 ? ofJob : folder.filePath(names.first())));
     if (!journal->isHeld) {
         const bool isUnderWay = journal->lock.error() == QLockFile::LockFailedError;
-        throw UsageError{QStringLiteral("the run in %1 cannot be taken up: %2")
-                             .arg(outputFolder, isUnderWay ? QStringLiteral("it is under way")
-                                                           : QStringLiteral("the folder cannot be written"))};
+        throw RequestError{QStringLiteral("the run in %1 cannot be taken up: %2")
+                               .arg(outputFolder, isUnderWay ? QStringLiteral("it is under way")
+                                                             : QStringLiteral("the folder cannot be written"))};
     }
     return journal;
 }
 
-/// What somebody has left who died before his run began.
+/// Removes what processes have left that died before their run began.
 void JournalFile::RemoveUnbegun(const QDir& folder)
 {
     for (const QString& name : JournalsIn(folder, lockEnd)) {
         JournalFile journal(folder.filePath(name));
-        if (journal.isHeld && !journal.Exists()) { // Else its run is just beginning.
+        if (journal.isHeld && !journal.Exists()) { // A journal that another process holds is just beginning.
             journal.Remove();
         }
     }
@@ -110,7 +112,7 @@ bool JournalFile::Exists() const
 void JournalFile::Remove()
 {
     QFile::remove(path);
-    QFile::remove(path + QLatin1String(BatchJob::journalHoldEnd)); // Of a server that died.
+    QFile::remove(path + QLatin1String(BatchJob::journalHoldEnd)); // Left by a server that died.
 }
 
 } // namespace BatchHost

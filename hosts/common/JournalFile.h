@@ -8,18 +8,18 @@
 
 namespace BatchHost {
 
-/// The journal of a run in its output folder: a hidden file, there as long as the run is not finished. One process at a
-/// time holds it.
+/// The journal of a run: a hidden file in its output folder, which exists until the run is finished. Only one process
+/// at a time holds it.
 class JournalFile
 {
 public:
-    /// Takes the place of the journal for a job with the text `document`. An earlier journal of that job is replaced
-    /// when it is written. IsHeld() is false when the folder cannot be made or written.
+    /// The journal for a new run of the job with the text `document`. An earlier journal of that job is replaced when
+    /// this one is written. IsHeld() is false when the folder cannot be made or written.
     static std::unique_ptr<JournalFile> ForJob(const QString& outputFolder, const QString& document);
 
-    /// The journal of the run that was interrupted in `outputFolder`; where there are several, or when `isThisJob`,
-    /// that of the job `document`. Throws UsageError when there is none, or not that one, or when the run is still
-    /// under way.
+    /// The journal of the run that was interrupted in `outputFolder`. Where there are several, or with `isThisJob`, it
+    /// has to be a run of the job `document`. Throws RequestError when there is no such run, or when it is still
+    /// running.
     static std::unique_ptr<JournalFile> Interrupted(const QString& outputFolder, const QString& document,
                                                     bool isThisJob);
 
@@ -28,10 +28,10 @@ public:
     bool IsHeld() const { return isHeld; }
     QString Path() const { return path; }
 
-    /// Whether a run has begun with it.
+    /// Whether a run has begun to write it.
     bool Exists() const;
 
-    /// The run is finished.
+    /// For a finished run.
     void Remove();
 
 private:

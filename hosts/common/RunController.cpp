@@ -1,5 +1,7 @@
 #include "RunController.h"
 
+#include "ManagerPolicies.h"
+
 #include "job/journal/RunJournal.h"
 #include "job/values/JobValues.h"
 
@@ -30,33 +32,15 @@ bool IsSkip(int errorCode)
 
 } // namespace
 
-QString ResultWord(FileResult::Kind kind)
-{
-    switch (kind) {
-    case FileResult::Kind::Written:
-        return QStringLiteral("written");
-    case FileResult::Kind::Skipped:
-        return QStringLiteral("skipped");
-    case FileResult::Kind::Failed:
-        return QStringLiteral("failed");
-    }
-    return {};
-}
-
-RunController::RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
-                             const PolicyValues& policies, const QVector<RunObserver*>& observers,
-                             const QString& journalPath)
-    : document(document)
-    , inputs(inputs)
-    , policies(policies)
+RunController::RunController(const Order& order, const QVector<RunObserver*>& observers)
+    : order(order)
     , observers(observers)
     , manager(ZTBatchManager::Instance())
-    , journalPath(journalPath)
 {
-    end.files = inputs.files.size();
-    end.outputFolder = outputFolder;
-    for (int i = 0; i < inputs.files.size(); ++i) {
-        open[inputs.files.at(i)].append(i);
+    end.files = order.inputs.files.size();
+    end.outputFolder = order.outputFolder;
+    for (int i = 0; i < order.inputs.files.size(); ++i) {
+        open[order.inputs.files.at(i)].append(i);
     }
     sessionOver.setSingleShot(true);
     connect(&sessionOver, &QTimer::timeout, this, [this] { End(phase == Phase::Cancelling, false); });
@@ -71,7 +55,7 @@ void RunController::Start()
     phase = Phase::Running;
     time.start();
     for (RunObserver* const observer : observers) {
-        observer->OnStart(inputs, end.outputFolder);
+        observer->OnStart(order.inputs, end.outputFolder);
     }
     for (const auto& [index, result] : JournaledResults()) {
         if (Count(result, index)) {
@@ -100,19 +84,11 @@ void RunController::BeginSession()
         return;
     }
     ConnectSession();
-    // The manager keeps its policies for its next life, but what was said for this run holds for this run.
-    const PolicyValues kept{manager->GetInputPolicy(), manager->GetOutputPolicy(), manager->GetProcessingPolicy(),
-                            manager->GetNamingPolicy(), manager->GetWriteToFormatPolicy()};
-    const auto set = [this](const PolicyValues& values) {
-        manager->SetInputPolicy(ZTBatchManager::InputPolicy(values[0]));
-        manager->SetOutputPolicy(ZTBatchManager::OutputPolicy(values[1]));
-        manager->SetProcessingPolicy(ZTBatchManager::ProcessingPolicy(values[2]));
-        manager->SetNamingPolicy(ZTBatchManager::NamingPolicy(values[3]));
-        manager->SetWriteToFormatPolicy(ZTBatchManager::WriteToFormatPolicy(values[4]));
-    };
-    set(policies);
-    session->Process(document);
-    set(kept);
+    // The manager saves its policies as the user's settings; those of this run are for this run only.
+    const PolicyValues saved = PoliciesOfManager();
+    SetPoliciesOfManager(order.policies);
+    session->Process(order.document);
+    SetPoliciesOfManager(saved);
 }
 
 void RunController::ConnectSession()
@@ -306,20 +282,20 @@ QVector<QPair<int, FileResult>> RunController::JournaledResults() const
 {
     using Kind = BatchJob::JournalState::Result::Kind;
     QVector<QPair<int, FileResult>> results;
-    const std::optional<BatchJob::JournalState> state = BatchJob::ReadJournal(journalPath);
-    for (int i = 0; state && i < inputs.files.size(); ++i) {
+    const std::optional<BatchJob::JournalState> state = BatchJob::ReadJournal(order.journalPath);
+    for (int i = 0; state && i < order.inputs.files.size(); ++i) {
         const auto found = state->results.constFind(i);
         if (found != state->results.constEnd()) {
             const FileResult::Kind kind = found->kind == Kind::Written   ? FileResult::Kind::Written
                                           : found->kind == Kind::Skipped ? FileResult::Kind::Skipped
                                                                          : FileResult::Kind::Failed;
-            results.append({i, {inputs.files.at(i), found->output, kind, found->errorCode, found->reason}});
+            results.append({i, {order.inputs.files.at(i), found->output, kind, found->errorCode, found->reason}});
         }
     }
     return results;
 }
 
-bool RunController::IsServerThere()
+bool RunController::IsServerInstalled()
 {
     return !QStandardPaths::findExecutable(QStringLiteral("VelkoraBatchProcessing"),
                                            {QCoreApplication::applicationDirPath()})
@@ -334,7 +310,7 @@ void RunController::NoteLoss(const QStringList& lost) const
         indexes += open.value(input);
     }
     BatchJob::RunJournal journal;
-    if (!indexes.isEmpty() && journal.Open(journalPath)) {
+    if (!indexes.isEmpty() && journal.Open(order.journalPath)) {
         journal.Lose(indexes);
     }
 }
@@ -369,7 +345,8 @@ void RunController::OnServerGone()
     inWork.clear();
     NoteLoss(lost);
     idleLives = settledInThisLife > 0 || !lost.isEmpty() ? 0 : idleLives + 1;
-    const bool goesOn = !journalPath.isEmpty() && IsServerThere() && lives < mostLives && idleLives < mostIdleLives;
+    const bool goesOn =
+        !order.journalPath.isEmpty() && IsServerInstalled() && lives < mostLives && idleLives < mostIdleLives;
     for (RunObserver* const observer : observers) {
         observer->OnServerLost(lost, goesOn);
     }

@@ -17,39 +17,47 @@ class ZTBatchDocument;
 
 namespace BatchHost {
 
-/// One run of a job through the batch manager: starts the server, keeps account of every input, puts questions, takes
-/// the run up again when the server dies. Needs an instance of the manager.
+/// One run of a job through the batch manager: starts the server, records the result of every input, asks questions,
+/// and resumes the run with a new server when one dies. Needs an instance of the manager.
 class RunController : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `document` is the text of the job, whose inputs are `inputs` and whose results go to `outputFolder`. What the
-    /// journal at `journalPath` holds already was done by an earlier part of the run. Without a journal, an empty path,
-    /// the run ends with its server.
-    RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
-                  const BatchJob::PolicyValues& policies, const QVector<RunObserver*>& observers, const QString& journalPath);
+    struct Order
+    {
+        QString document; ///< the text of the job
+        RunInputs inputs; ///< of the job
+        QString outputFolder;
+        BatchJob::PolicyValues policies{};
+
+        /// The results that the journal holds already are taken over. Without a journal, an empty path, the run ends
+        /// with its server.
+        QString journalPath;
+    };
+
+    RunController(const Order& order, const QVector<RunObserver*>& observers);
     ~RunController() override;
 
     void Start();
 
-    /// Asks the server to end the run. Ended() comes when it has.
+    /// Asks the server to end the run. Ended() follows.
     void Cancel();
 
-    /// Kills the server. Ended() comes from inside.
+    /// Kills the server. Emits Ended() before it returns.
     void EndAtOnce();
 
-    /// The answer to the open question, a value of the policy's.
+    /// Answers the open question with a value of its policy.
     void Answer(int value, bool isForTheRest);
 
-    /// Whether there is a server that can be started.
-    static bool IsServerThere();
+    /// Whether the server's executable is installed.
+    static bool IsServerInstalled();
 
 Q_SIGNALS:
     /// The server waits for Answer().
     void Question(BatchJob::PolicyKind kind, const QString& input, const QString& output, const QString& reason);
 
-    /// The run is over. Comes once.
+    /// The run is over. Emitted once.
     void Ended(const RunEnd& end);
 
 private:
@@ -72,9 +80,7 @@ private:
     void End(bool isCancelled, bool isServerLost);
     QString TakeReason(const QString& input, int errorCode);
 
-    const QString document;
-    const RunInputs inputs;
-    const BatchJob::PolicyValues policies;
+    const Order order;
     const QVector<RunObserver*> observers;
     ZTBatchManager* const manager;
     QPointer<ZTBatchManager::ZTBatchSession> session;
@@ -82,7 +88,6 @@ private:
     QElapsedTimer time;
     Phase phase = Phase::Idle;
     RunEnd end;
-    const QString journalPath;
     QHash<QString, QVector<int>> open; ///< inputs without a result, and their places in the job
     QStringList inWork;
     QString lastLog;

@@ -1,54 +1,16 @@
 #pragma once
 
+#include "RunInputs.h"
+#include "RunResults.h"
+
 #include "job/values/PolicyValues.h"
 
 #include <QString>
 #include <QStringList>
-#include <QVector>
 
 namespace BatchHost {
 
-/// What became of one input.
-struct FileResult
-{
-    enum class Kind { Written, Skipped, Failed };
-
-    QString input;
-    QString output;
-    Kind kind = Kind::Written;
-    int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
-    QString reason;    ///< one sentence; empty when it was written
-};
-
-/// The word of `kind`: "written", "skipped", "failed".
-QString ResultWord(FileResult::Kind kind);
-
-/// The inputs of a run with their sizes in bytes, in the document's order.
-struct RunInputs
-{
-    QStringList files;
-    QVector<qint64> bytes;
-    qint64 allBytes = 0;
-};
-
-/// How a run ended.
-struct RunEnd
-{
-    int files = 0;
-    int written = 0;
-    int skipped = 0;
-    int failed = 0;
-    double seconds = 0;
-    bool isCancelled = false;
-    bool isServerLost = false;
-    QString outputFolder;
-    int jobErrorCode = 0; ///< a ZTBatchMessage::Error that ended the whole run; 0 when none did
-    QString jobError;     ///< and its reason
-
-    int NotProcessed() const { return files - written - skipped - failed; }
-};
-
-/// Watches a run. Each does with an event what it is there for; by default nothing.
+/// Watches a run. By default an observer ignores every event.
 class RunObserver
 {
 public:
@@ -56,16 +18,16 @@ public:
 
     virtual void OnStart(const RunInputs&, const QString& /*outputFolder*/) {}
 
-    /// An input was done by an earlier part of the run. Comes after OnStart() and before anything else.
+    /// The result of an input from before the run was interrupted. Called after OnStart() and before anything else.
     virtual void OnEarlierResult(const FileResult&) {}
 
-    /// The server works with the inputs `names` now.
+    /// The server has begun with the input `begun`, and is working on the inputs `names` now.
     virtual void OnInWork(const QStringList& /*names*/, const QString& /*begun*/) {}
 
-    /// An input is done; so many are now, of so many.
+    /// An input has its result, as the `done`-th of `files`.
     virtual void OnResult(const FileResult&, int /*done*/, int /*files*/) {}
 
-    /// Something happened to a result that was written nonetheless; `what` is a word of BatchJob::ActionWords.
+    /// A result was written in another way than planned; `what` is a word of BatchJob::ActionWords.
     virtual void OnNote(const QString& /*input*/, const QString& /*output*/, const QString& /*what*/,
                         const QString& /*text*/)
     {
@@ -75,7 +37,7 @@ public:
     virtual void OnQuestion(BatchJob::PolicyKind, const QString& /*input*/, const QString& /*reason*/) {}
     virtual void OnAnswer(BatchJob::PolicyKind, const QString& /*word*/, bool /*isForTheRest*/) {}
 
-    /// The server died while it worked on `inWork`; another one goes on.
+    /// The server died while it worked on `inWork`. If `goesOn`, a new server continues the run.
     virtual void OnServerLost(const QStringList& /*inWork*/, bool /*goesOn*/) {}
     virtual void OnCancelling() {}
     virtual void OnEnd(const RunEnd&) {}

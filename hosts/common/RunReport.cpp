@@ -1,6 +1,6 @@
 #include "RunReport.h"
 
-#include "UsageError.h"
+#include "RequestError.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,10 +33,10 @@ RunReport::RunReport(const QString& path)
     , isJson(path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
 {
     if (!isJson && !path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
-        throw UsageError{QStringLiteral("--report: the name \"%1\" must end with .csv or .json").arg(path)};
+        throw RequestError{QStringLiteral("the name \"%1\" must end with .csv or .json").arg(path)};
     }
     if (!file.open(QIODevice::WriteOnly)) {
-        throw UsageError{QStringLiteral("--report: %1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 
@@ -48,7 +48,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
         entries.append(entry);
     }
     for (int i = entries.size() - 1; i >= 0; --i) {
-        open.insert(inputs.files.at(i), i); // The one inserted last is taken first.
+        open.insert(inputs.files.at(i), i); // find() gives the one that was inserted last.
     }
 }
 

@@ -7,11 +7,11 @@
 
 namespace BatchHost {
 
-/// A file with one entry for each input of the job, in the job's order: CSV or JSON.
+/// Writes a CSV or JSON file with one entry for each input of the job, in the job's order.
 class RunReport : public RunObserver
 {
 public:
-    /// Throws UsageError when the file cannot be written, or its name ends in something else than .csv or .json.
+    /// Throws RequestError when the file cannot be written, or its name ends with neither .csv nor .json.
     explicit RunReport(const QString& path);
 
     void OnStart(const RunInputs& inputs, const QString& outputFolder) override;
@@ -19,7 +19,7 @@ public:
     void OnResult(const FileResult& result, int done, int files) override;
     void OnEnd(const RunEnd& end) override;
 
-    /// Why the report was not written in the end; empty when it was.
+    /// After the run: why the report could not be written; empty when it was.
     QString Error() const { return error; }
 
 private:

@@ -1,5 +1,6 @@
 #include "ServerLimits.h"
 
+#include <QByteArray>
 #include <QThread>
 
 #include <algorithm>
@@ -9,23 +10,30 @@ namespace BatchProtocol {
 namespace {
 
 template<typename Number>
-Number Setting(const char* variable, int minimum, int maximum, Number unit, Number fallback)
+Number ValueOf(const ServerLimit& limit, Number unit, Number fallback)
 {
     bool isNumber = false;
-    const int value = qEnvironmentVariableIntValue(variable, &isNumber);
-    return isNumber && value >= minimum && value <= maximum ? value * unit : fallback;
+    const int value = qEnvironmentVariableIntValue(limit.variable, &isNumber);
+    return isNumber && value >= limit.minimum && value <= limit.maximum ? value * unit : fallback;
 }
 
 } // namespace
 
+void ServerLimit::Set(int value) const
+{
+    qputenv(variable, QByteArray::number(value));
+}
+
 ServerLimits ServerLimits::FromEnvironment()
 {
+    constexpr qint64 megapixel = 1'000'000;
+    constexpr qint64 mebibyte = 1 << 20;
     const ServerLimits defaults;
     ServerLimits limits;
-    limits.workers = Setting("VELKORA_BATCH_WORKERS", 1, 256, 1, std::max(1, QThread::idealThreadCount()));
-    limits.pixels = Setting("VELKORA_BATCH_MAX_MEGAPIXELS", 1, 100'000, qint64(1'000'000), defaults.pixels);
-    limits.workerMemory = Setting("VELKORA_BATCH_WORKER_MIB", 128, 1 << 20, qint64(1) << 20, defaults.workerMemory);
-    limits.pictureSeconds = Setting("VELKORA_BATCH_PICTURE_SECONDS", 1, 86'400, 1, defaults.pictureSeconds);
+    limits.workers = ValueOf(workersLimit, 1, std::max(1, QThread::idealThreadCount()));
+    limits.pixels = ValueOf(megapixelsLimit, megapixel, defaults.pixels);
+    limits.workerMemory = ValueOf(workerMemoryLimit, mebibyte, defaults.workerMemory);
+    limits.pictureSeconds = ValueOf(pictureTimeLimit, 1, defaults.pictureSeconds);
     return limits;
 }
 

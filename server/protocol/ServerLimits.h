@@ -4,14 +4,30 @@
 
 namespace BatchProtocol {
 
-/// How much a run may take. The supervisor reads them from its environment once, at its start, and sets them for its
-/// workers. A variable that is missing, no number or out of range gives the default.
+/// A limit as a whole number in an environment variable.
+struct ServerLimit
+{
+    const char* variable;
+    int minimum;
+    int maximum;
+
+    /// Sets the variable for this process and those that it starts from now on.
+    void Set(int value) const;
+};
+
+constexpr ServerLimit workersLimit{"VELKORA_BATCH_WORKERS", 1, 256};
+constexpr ServerLimit megapixelsLimit{"VELKORA_BATCH_MAX_MEGAPIXELS", 1, 100'000};
+constexpr ServerLimit workerMemoryLimit{"VELKORA_BATCH_WORKER_MIB", 128, 1 << 20};
+constexpr ServerLimit pictureTimeLimit{"VELKORA_BATCH_PICTURE_SECONDS", 1, 86'400};
+
+/// How much a run may take. The supervisor reads the limits from its environment once, when it starts, and passes them
+/// on to its workers. A variable that is missing, not a number or out of range gives the default.
 struct ServerLimits
 {
-    int workers = 0;                       ///< VELKORA_BATCH_WORKERS, 1 to 256; default: one for each core
-    qint64 pixels = 400'000'000;           ///< VELKORA_BATCH_MAX_MEGAPIXELS, 1 to 100000, in millions of pixels
-    qint64 workerMemory = qint64(2) << 30; ///< VELKORA_BATCH_WORKER_MIB, 128 to 1048576, in MiB; bytes here
-    int pictureSeconds = 300;              ///< VELKORA_BATCH_PICTURE_SECONDS, 1 to 86400: time for one picture
+    int workers = 0; ///< default: one for each core
+    qint64 pixels = 400'000'000;
+    qint64 workerMemory = qint64(2) << 30; ///< bytes
+    int pictureSeconds = 300;              ///< time for one picture
 
     static ServerLimits FromEnvironment();
 };

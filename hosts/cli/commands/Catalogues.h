@@ -4,7 +4,7 @@
 #include <QStringList>
 
 /// What there is: effects with their parameters, formats with their options. `names` picks some; none means all. Throws
-/// UsageError for a name that is not there.
+/// RequestError for a name that is not there.
 namespace BatchCli {
 
 QString EffectListing(const QStringList& names);

@@ -4,8 +4,9 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InputCollector.h"
+#include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -24,8 +25,8 @@ void ApplyOptions(ZTBatchDocument& job, const ParsedArguments& arguments)
         for (const QString& value : arguments.Values(option.info.name)) {
             try {
                 option.apply(job, value);
-            } catch (const UsageError& error) {
-                throw UsageError{QStringLiteral("%1: %2").arg(option.info.name, error.text)};
+            } catch (const RequestError& error) {
+                throw error.In(option.info.name);
             }
         }
     }

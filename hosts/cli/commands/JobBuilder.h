@@ -8,7 +8,7 @@ namespace BatchCli {
 
 /// Makes the job that `arguments` describe: a saved one, `savedJob` if that is not empty, changed by the options and
 /// with the inputs `inputs` added. Problems with folders go to standard error; their count is returned. While folders
-/// are read, a terminal shows how far it is. Throws UsageError.
+/// are read, a terminal shows how far it is. Throws RequestError.
 int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
              const QStringList& inputs);
 

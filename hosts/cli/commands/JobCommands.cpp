@@ -4,8 +4,8 @@
 
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobFile.h"
-#include "hosts/common/UsageError.h"
-#include "job/settings/JobCheck.h"
+#include "hosts/common/JobRequirements.h"
+#include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -16,22 +16,11 @@ namespace BatchCli {
 
 namespace {
 
-void CheckOutput(const ZTBatchDocument& job)
-{
-    if (job.GetOutputSettings()->GetPath().isEmpty()) {
-        throw UsageError{QStringLiteral("where do results go? --output DIR says it")};
-    }
-    const BatchJob::CheckedSettings checked = BatchJob::CheckSettings(job);
-    if (!checked.IsAccepted()) {
-        throw UsageError{checked.refusal.message};
-    }
-}
-
 QString PicturesText(int count)
 {
     switch (count) {
     case 0:
-        return QStringLiteral("a job without pictures; run and plan take them behind its name");
+        return QStringLiteral("a job without pictures; give them to run or plan, after the job");
     case 1:
         return QStringLiteral("a job of 1 picture");
     default:
@@ -41,33 +30,26 @@ QString PicturesText(int count)
 
 } // namespace
 
-void CheckJob(const ZTBatchDocument& job)
-{
-    if (job.GetInputModel()->GetFileNodesCount() == 0) {
-        throw UsageError{QStringLiteral("there is no picture: name files, or folders with files that can be read")};
-    }
-    CheckOutput(job);
-}
-
 ExitCode CreateJob(const ParsedArguments& arguments)
 {
     QStringList inputs = arguments.inputs;
     if (inputs.isEmpty()) {
-        throw UsageError{
-            QStringLiteral("the name of the job's file is missing: velkora-batch create JOB.xml INPUT...")};
+        throw RequestError{QStringLiteral("no file name for the job: velkora-batch create JOB.xml INPUT...")};
     }
     const QString path = inputs.takeFirst();
     if (path != QLatin1String("-") && !path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
-        throw UsageError{
-            QStringLiteral("the job's file comes first and its name ends with .xml, unlike \"%1\"").arg(path)};
+        throw RequestError{
+            QStringLiteral(
+                "the first argument must be the file of the job, with a name that ends with .xml, but is \"%1\"")
+                .arg(path)};
     }
     ZTBatchDocument job;
     const int problems = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
-    // A job may be made for pictures that come later, but not by a slip in the names of those that are given.
+    // A job without inputs may be meant for pictures to come; inputs without a picture are a mistake.
     if (inputs.isEmpty()) {
-        CheckOutput(job);
+        RequireUsableSettings(job);
     } else {
-        CheckJob(job);
+        RequireRunnableJob(job);
     }
     if (path == QLatin1String("-")) {
         WriteOut(job.Serialize(nullptr));

@@ -5,6 +5,7 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/FileProber.h"
+#include "hosts/common/JobRequirements.h"
 #include "job/plan/OutputPlan.h"
 
 #include "ZTBatchDocument.h"
@@ -209,7 +210,7 @@ ExitCode PlanJob(const ParsedArguments& arguments)
     ApplyPolicies(arguments, policies);
     ZTBatchDocument job;
     const int problems = BuildJob(job, arguments, savedJob, inputs);
-    CheckJob(job);
+    RequireRunnableJob(job);
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));

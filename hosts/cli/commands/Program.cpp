@@ -4,7 +4,7 @@
 #include "CommandFunctions.h"
 
 #include "hosts/cli/terminal/Console.h"
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -31,7 +31,7 @@ ExitCode ListFormats(const ParsedArguments& arguments)
 
 bool isVerbose = false;
 
-/// The library's debug lines are for a search for faults only.
+/// Debug lines of the library are printed with --verbose only.
 void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtDebugMsg || isVerbose) {
@@ -53,7 +53,7 @@ const QHash<QString, Command>& CommandFunctions()
     return functions;
 }
 
-/// The exit code of a command that would end with `code` if all that it wrote had arrived.
+/// `code`, or that of an incomplete command when standard output could not be written.
 ExitCode WithOutput(ExitCode code)
 {
     if (OutputError().isEmpty()) {
@@ -61,6 +61,27 @@ ExitCode WithOutput(ExitCode code)
     }
     WriteErrorLine(QStringLiteral("velkora-batch: standard output cannot be written: %1.").arg(OutputError()));
     return std::max(code, ExitCode::Incomplete);
+}
+
+/// What the user can do about an error, in terms of the command line.
+QString RemedyFor(RequestError::Kind kind)
+{
+    switch (kind) {
+    case RequestError::Kind::NoPictures:
+        return QStringLiteral(": name files, or folders with pictures that can be read");
+    case RequestError::Kind::NoOutputFolder:
+        return QStringLiteral(": use --output DIR");
+    case RequestError::Kind::FileExists:
+        return QStringLiteral("; use --force to replace it");
+    case RequestError::Kind::OtherRunInterrupted:
+        return QStringLiteral(". Use --resume with --output alone to resume that run, or run this job without "
+                              "--resume");
+    case RequestError::Kind::SeveralRunsInterrupted:
+        return QStringLiteral("; use --resume with the inputs and options of the run to resume");
+    case RequestError::Kind::Other:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -76,16 +97,16 @@ ExitCode RunProgram(const QStringList& arguments)
             return WithOutput(ExitCode::Done);
         }
         return WithOutput(CommandFunctions().value(parsed.command)(parsed));
-    } catch (const UsageError& error) {
-        return ReportUsageError(error.text);
+    } catch (const RequestError& error) {
+        return Report(error);
     }
 }
 
-ExitCode ReportUsageError(const QString& text)
+ExitCode Report(const RequestError& error)
 {
+    const QString text = error.text + RemedyFor(error.kind);
     const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
-    const QString end = isWhole ? QString() : QStringLiteral(".");
-    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, end));
+    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, isWhole ? QString() : QStringLiteral(".")));
     return ExitCode::Usage;
 }
 

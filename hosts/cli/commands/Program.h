@@ -1,15 +1,16 @@
 #pragma once
 
 #include "hosts/cli/terminal/ExitCode.h"
+#include "hosts/common/RequestError.h"
 
 #include <QStringList>
 
 namespace BatchCli {
 
-/// Does what `arguments`, those behind the program's name, ask for. Needs a QCoreApplication.
+/// Executes the command in `arguments`, which do not include the program's name. Needs a QCoreApplication.
 ExitCode RunProgram(const QStringList& arguments);
 
-/// Tells the user what was wrong with the arguments.
-ExitCode ReportUsageError(const QString& text);
+/// Tells the user about an error in the arguments or the job.
+ExitCode Report(const BatchHost::RequestError& error);
 
 } // namespace BatchCli

@@ -1,6 +1,6 @@
 // Writes the manual page and the completions: shelldocs FRAME FOLDER.
 
-#include "hosts/cli/options/ShellDocs.h"
+#include "ShellDocs.h"
 
 #include <QCoreApplication>
 #include <QDir>

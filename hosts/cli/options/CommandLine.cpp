@@ -4,7 +4,7 @@
 #include "Words.h"
 
 #include "hosts/common/JobFile.h"
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 #include <QCoreApplication>
 
@@ -85,7 +85,7 @@ QStringList CommandNames()
     return names;
 }
 
-UsageError UnknownOption(const QString& text, const CommandInfo& command)
+RequestError UnknownOption(const QString& text, const CommandInfo& command)
 {
     const QString name = text.section(QLatin1Char('='), 0, 0);
     const QString nearest = NearestOption(name, command);
@@ -99,17 +99,17 @@ void CheckFirstArgument(const QStringList& arguments)
 {
     const QString first = arguments.value(0);
     if (first.isEmpty()) {
-        throw UsageError{QStringLiteral("a command is needed: %1; \"velkora-batch --help\" tells more")
-                             .arg(CommandNames().join(QStringLiteral(", ")))};
+        throw RequestError{QStringLiteral("a command is needed: %1; \"velkora-batch --help\" tells more")
+                               .arg(CommandNames().join(QStringLiteral(", ")))};
     }
     if (first.startsWith(QLatin1Char('-'))) {
         const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version")};
         if (!known.contains(first)) {
-            throw UsageError{QStringLiteral("%1 stands before the command, where only %2 may stand%3")
-                                 .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
+            throw RequestError{QStringLiteral("%1 stands before the command, where only %2 may stand%3")
+                                   .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
         }
     } else if (!CommandNames().contains(first)) {
-        throw UsageError{QStringLiteral("unknown command: %1").arg(NoSuchWord(first, CommandNames()).text)};
+        throw RequestError{QStringLiteral("unknown command: %1").arg(NoSuchWord(first, CommandNames()).text)};
     }
 }
 
@@ -117,8 +117,8 @@ void CheckTexts(const QStringList& arguments)
 {
     for (int i = 0; i < arguments.size(); ++i) {
         if (!CanBeSaved(arguments.at(i))) {
-            throw UsageError{QStringLiteral("argument %1, \"%2\", has a character that no job can hold")
-                                 .arg(QString::number(i + 1), arguments.at(i))};
+            throw RequestError{QStringLiteral("argument %1, \"%2\", has a character that no job can hold")
+                                   .arg(QString::number(i + 1), arguments.at(i))};
         }
     }
 }
@@ -127,12 +127,12 @@ void CheckTexts(const QStringList& arguments)
 void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
 {
     if (parsed.inputs.contains(QString())) {
-        throw UsageError{QStringLiteral("the name behind %1 is empty").arg(command.name)};
+        throw RequestError{QStringLiteral("the name behind %1 is empty").arg(command.name)};
     }
     for (const OptionInfo& option : command.options) {
         const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
         if (isName && parsed.Values(option.name).contains(QString())) {
-            throw UsageError{QStringLiteral("%1: the name is empty").arg(option.name)};
+            throw RequestError{QStringLiteral("%1: the name is empty").arg(option.name)};
         }
     }
 }
@@ -169,8 +169,9 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
             values.append(Text(value));
         }
         if (!slot.info->isRepeatable && values.size() > 1) {
-            throw UsageError{QStringLiteral("%1 is given %2 times and takes one value; leave \"%3\" or \"%4\" out")
-                                 .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
+            throw RequestError{
+                QStringLiteral("%1 is given %2 times and takes one value; leave \"%3\" or \"%4\" out")
+                    .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
         }
         parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);
     }
@@ -210,7 +211,7 @@ ParsedArguments ParseArguments(const QStringList& arguments)
     try {
         app.parse(reversed);
     } catch (const CLI::ParseError& error) {
-        throw UsageError{Text(error.what())};
+        throw RequestError{Text(error.what())};
     }
     parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
     CheckNames(parsed, command);

@@ -27,7 +27,7 @@ const QVector<CommandInfo>& Commands();
 /// The options that change what a job says, those about its inputs among them.
 QVector<OptionInfo> OptionsOfJobs();
 
-/// Throws UsageError.
+/// Throws RequestError.
 ParsedArguments ParseArguments(const QStringList& arguments);
 
 } // namespace BatchCli

@@ -150,13 +150,13 @@ void SetProfile(ZTBatchDocument& job, const QString& text)
     }
     QFile file(text);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw UsageError{QStringLiteral("%1 cannot be read: %2").arg(text, file.errorString())};
+        throw RequestError{QStringLiteral("%1 cannot be read: %2").arg(text, file.errorString())};
     }
     constexpr qint64 largestProfile = 64 << 20;
     constexpr int signaturePosition = 36;
     const QByteArray profile = file.read(largestProfile);
     if (profile.mid(signaturePosition, 4) != "acsp") {
-        throw UsageError{QStringLiteral("%1 is no ICC profile").arg(text)};
+        throw RequestError{QStringLiteral("%1 is no ICC profile").arg(text)};
     }
     Output(job).SetICCProfile(profile);
 }
@@ -180,7 +180,7 @@ QVector<JobOption> OutputOptions()
           Text("-o")},
          [](ZTBatchDocument& job, const QString& text) {
              if (text.isEmpty()) {
-                 throw UsageError{Text("a folder is needed")};
+                 throw RequestError{Text("a folder is needed")};
              }
              Output(job).SetPath(AbsolutePath(text));
          },
@@ -456,17 +456,6 @@ const QVector<JobOption>& JobOptions()
     static const QVector<JobOption> options =
         OutputOptions() + NameOptions() + SizeOptions() + FrameOptions() + EffectOptions();
     return options;
-}
-
-void SetJobDefaults(ZTBatchDocument& job)
-{
-    Settings& output = Output(job);
-    output.SetNamingTemplate(Settings::PartPrefix, Settings::TemplateNothing);
-    output.SetNamingTemplate(Settings::PartMiddle, Settings::TemplateOriginalName);
-    output.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
-    Settings::Transformation frame;
-    frame.shadowEnabled = false;
-    output.SetTransformationSettings(frame);
 }
 
 } // namespace BatchCli

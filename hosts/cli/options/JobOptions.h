@@ -15,7 +15,7 @@ struct JobOption
 {
     OptionInfo info;
 
-    /// Puts the value that a user wrote into a job. Throws UsageError.
+    /// Puts the value that a user wrote into a job. Throws RequestError.
     std::function<void(ZTBatchDocument&, const QString&)> apply;
 
     /// The values that would give a job what it has now: one, or any number of a repeatable option. Empty where the
@@ -25,8 +25,5 @@ struct JobOption
 
 /// Every value of a job but its inputs, in the order in which options are applied and shown.
 const QVector<JobOption>& JobOptions();
-
-/// What a job has that nothing was said about: each result in its input's format under its input's name, in one folder.
-void SetJobDefaults(ZTBatchDocument& job);
 
 } // namespace BatchCli

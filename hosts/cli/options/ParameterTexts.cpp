@@ -36,7 +36,7 @@ Assignment Split(const QString& text)
 {
     const int sign = text.indexOf(QLatin1Char('='));
     if (sign <= 0) {
-        throw UsageError{QStringLiteral("\"%1\" has not the form KEY=VALUE").arg(text)};
+        throw RequestError{QStringLiteral("\"%1\" has not the form KEY=VALUE").arg(text)};
     }
     return {text.left(sign).trimmed(), text.mid(sign + 1)};
 }
@@ -67,13 +67,13 @@ QJsonValue ValueFor(const QVector<ParameterSchema>& schema, const Assignment& as
     });
     if (found == schema.end()) {
         const QStringList names = NamesOf(schema);
-        throw UsageError{names.isEmpty()
-                             ? QStringLiteral("it takes no parameters, so \"%1\" is none").arg(assignment.name)
-                             : NoSuchWord(assignment.name, names).text};
+        throw RequestError{names.isEmpty()
+                               ? QStringLiteral("it takes no parameters, so \"%1\" is none").arg(assignment.name)
+                               : NoSuchWord(assignment.name, names).text};
     }
     const BatchJob::ParameterValue value = BatchJob::ParameterFromText(*found, assignment.value);
     if (!value.IsValid()) {
-        throw UsageError{value.error};
+        throw RequestError{value.error};
     }
     return value.value;
 }
@@ -139,8 +139,8 @@ Effect EffectFromText(const QString& text)
         for (const BatchJob::EffectSchema& known : BatchJob::Effects()) {
             ids.append(known.id);
         }
-        throw UsageError{QStringLiteral("there is no effect \"%1\"; there are %2%3")
-                             .arg(effect.id, ids.join(QStringLiteral(", ")), NearestHint(effect.id, ids))};
+        throw RequestError{QStringLiteral("there is no effect \"%1\"; there are %2%3")
+                               .arg(effect.id, ids.join(QStringLiteral(", ")), NearestHint(effect.id, ids))};
     }
     effect.id = schema->id;
     const QString parameters = whole.section(QLatin1Char(':'), 1);
@@ -152,15 +152,15 @@ Effect EffectFromText(const QString& text)
             try {
                 object.insert(SpelledName(schema->parameters, assignment.name),
                               ValueFor(schema->parameters, assignment));
-            } catch (const UsageError& error) {
-                throw UsageError{QStringLiteral("effect %1: %2").arg(effect.id, error.text)};
+            } catch (const RequestError& error) {
+                throw error.In(QStringLiteral("effect ") + effect.id);
             }
         }
         effect.parameters = Compact(object);
     }
     const BatchJob::CheckedParameters checked = BatchJob::CheckEffect(*schema, effect.parameters);
     if (!checked.IsValid()) {
-        throw UsageError{QStringLiteral("effect %1: %2").arg(effect.id, checked.error)};
+        throw RequestError{QStringLiteral("effect %1: %2").arg(effect.id, checked.error)};
     }
     return effect;
 }
@@ -196,8 +196,8 @@ QByteArray WithFormatOption(const QString& format, const QByteArray& options, co
     try {
         const Assignment assignment = Split(text);
         object.insert(SpelledName(schema, assignment.name), ValueFor(schema, assignment));
-    } catch (const UsageError& error) {
-        throw UsageError{QStringLiteral("format %1: %2").arg(format, error.text)};
+    } catch (const RequestError& error) {
+        throw error.In(QStringLiteral("format ") + format);
     }
     return Compact(object);
 }

@@ -2,7 +2,7 @@
 
 #include "Words.h"
 
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -87,8 +87,8 @@ void ApplyPolicies(const ParsedArguments& arguments, PolicyValues& values)
         }
         try {
             values[std::size_t(kind)] = PolicyValue(kind, arguments.Value(option));
-        } catch (const UsageError& error) {
-            throw UsageError{QStringLiteral("%1: %2").arg(option, error.text)};
+        } catch (const RequestError& error) {
+            throw error.In(option);
         }
     }
 }

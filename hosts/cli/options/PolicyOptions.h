@@ -13,10 +13,10 @@ QString PolicyOption(BatchJob::PolicyKind kind);
 
 QVector<OptionInfo> PolicyOptionInfos();
 
-/// Changes `values` where `arguments` say something else. Throws UsageError.
+/// Changes `values` where `arguments` say something else. Throws RequestError.
 void ApplyPolicies(const ParsedArguments& arguments, BatchJob::PolicyValues& values);
 
-/// The value of a word. Throws UsageError.
+/// The value of a word. Throws RequestError.
 int PolicyValue(BatchJob::PolicyKind kind, const QString& word);
 
 } // namespace BatchCli

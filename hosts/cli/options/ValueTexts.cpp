@@ -54,7 +54,7 @@ double NumberFromText(const QString& text, double minimum, double maximum)
     bool isNumber = false;
     const double number = QLocale::c().toDouble(text, &isNumber);
     if (!isNumber || !std::isfinite(number) || number < minimum || number > maximum) {
-        throw UsageError{
+        throw RequestError{
             QStringLiteral("\"%1\" is no number from %2 to %3").arg(text, NumberText(minimum), NumberText(maximum))};
     }
     return number;
@@ -65,8 +65,8 @@ int IntegerFromText(const QString& text, int minimum, int maximum)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum) {
-        throw UsageError{QStringLiteral("\"%1\" is no whole number from %2 to %3")
-                             .arg(text, QString::number(minimum), QString::number(maximum))};
+        throw RequestError{QStringLiteral("\"%1\" is no whole number from %2 to %3")
+                               .arg(text, QString::number(minimum), QString::number(maximum))};
     }
     return number;
 }
@@ -84,8 +84,8 @@ QSize SizeFromText(const QString& text)
     const QSize size(sides.value(0).toInt(&isWidth), sides.value(1).toInt(&isHeight));
     if (sides.size() != 2 || !isWidth || !isHeight || size.isEmpty() || size.width() > largestSide ||
         size.height() > largestSide) {
-        throw UsageError{QStringLiteral("\"%1\" is no WIDTHxHEIGHT of whole numbers from 1 to %2, such as 800x600")
-                             .arg(text, QString::number(largestSide))};
+        throw RequestError{QStringLiteral("\"%1\" is no WIDTHxHEIGHT of whole numbers from 1 to %2, such as 800x600")
+                               .arg(text, QString::number(largestSide))};
     }
     return size;
 }
@@ -109,9 +109,9 @@ void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
     bool isNumber = false;
     imageSize.size = QLocale::c().toDouble(number.trimmed(), &isNumber);
     if (!isNumber || !(imageSize.size > 0) || imageSize.size > largestSide) {
-        throw UsageError{QStringLiteral("\"%1\" is no length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
-                                        "200mm; \"none\" keeps the size")
-                             .arg(text, QString::number(largestSide))};
+        throw RequestError{QStringLiteral("\"%1\" is no length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
+                                          "200mm; \"none\" keeps the size")
+                               .arg(text, QString::number(largestSide))};
     }
 }
 
@@ -143,9 +143,9 @@ QMargins MarginsFromText(const QString& text)
     if (sides.size() == 4) {
         return {sides[0], sides[1], sides[2], sides[3]};
     }
-    throw UsageError{QStringLiteral("\"%1\" is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; "
-                                    "\"none\" means no frame")
-                         .arg(text)};
+    throw RequestError{QStringLiteral("\"%1\" is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; "
+                                      "\"none\" means no frame")
+                           .arg(text)};
 }
 
 QString MarginsText(const QMargins& margins)
@@ -166,8 +166,8 @@ QColor ColourFromText(const QString& text)
         colour.setNamedColor(QLatin1Char('#') + text);
     }
     if (!colour.isValid() || colour.alpha() != 255) {
-        throw UsageError{QStringLiteral("\"%1\" is no colour; it must be #rrggbb or a name%2")
-                             .arg(text, NearestHint(text, QColor::colorNames()))};
+        throw RequestError{QStringLiteral("\"%1\" is no colour; it must be #rrggbb or a name%2")
+                               .arg(text, NearestHint(text, QColor::colorNames()))};
     }
     return colour;
 }
@@ -178,10 +178,10 @@ void CropFromText(const QString& text, Settings::Crop& crop)
     crop.type = ValueOf(BatchJob::CropTypeWords, HeadOf(text));
     if (TakesNoSize(crop.type)) {
         if (!size.isEmpty()) {
-            throw UsageError{QStringLiteral("\"%1\" takes no size").arg(HeadOf(text))};
+            throw RequestError{QStringLiteral("\"%1\" takes no size").arg(HeadOf(text))};
         }
     } else if (size.isEmpty()) {
-        throw UsageError{QStringLiteral("\"%1\" needs a size, such as %1:3x2").arg(text)};
+        throw RequestError{QStringLiteral("\"%1\" needs a size, such as %1:3x2").arg(text)};
     } else {
         crop.size = SizeFromText(size);
     }
@@ -199,7 +199,7 @@ void BackgroundFromText(const QString& text, Settings::Transformation& transform
     const int type = ValueOf(BatchJob::BackgroundTypeWords, HeadOf(text));
     const auto need = [&](const char* example) {
         if (value.isEmpty()) {
-            throw UsageError{QStringLiteral("\"%1\" needs more, such as %2").arg(text, QLatin1String(example))};
+            throw RequestError{QStringLiteral("\"%1\" needs more, such as %2").arg(text, QLatin1String(example))};
         }
     };
     switch (BatchJob::BackgroundType(type)) {
@@ -248,13 +248,13 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
     const QString value = TailOf(text);
     const QStringList words = AllWords(BatchJob::NamingTemplateWords);
     if (!words.contains(head, Qt::CaseInsensitive)) {
-        throw UsageError{NoSuchWord(head, words).text +
-                         QStringLiteral("; a text of your own is written text:%1").arg(text)};
+        throw RequestError{NoSuchWord(head, words).text +
+                           QStringLiteral("; a text of your own is written text:%1").arg(text)};
     }
     const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamingTemplateWords, head));
     const bool takesMore = kind == Settings::TemplateNumber || kind == Settings::TemplateCustomText;
     if (!takesMore && text.contains(QLatin1Char(':'))) {
-        throw UsageError{QStringLiteral("\"%1\" takes nothing behind it").arg(head)};
+        throw RequestError{QStringLiteral("\"%1\" takes nothing behind it").arg(head)};
     }
     if (kind == Settings::TemplateNumber) {
         constexpr int mostDigits = 20;

@@ -8,7 +8,7 @@
 #include <QString>
 
 /// The values of a job's output settings as users write them. Each pair of functions is its own inverse; the readers
-/// throw UsageError for what they do not understand.
+/// throw RequestError for what they do not understand.
 namespace BatchCli {
 
 /// A decimal number with a point, in every locale.

@@ -10,7 +10,7 @@ QString NearestHint(const QString& text, const QStringList& words)
     return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
 }
 
-UsageError NoSuchWord(const QString& text, const QStringList& words)
+RequestError NoSuchWord(const QString& text, const QStringList& words)
 {
     return {
         QStringLiteral("\"%1\" is none of %2%3").arg(text, words.join(QStringLiteral(", ")), NearestHint(text, words))};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 #include "job/values/JobValues.h"
 #include "job/values/ParameterSchema.h"
 
@@ -13,9 +13,9 @@ namespace BatchCli {
 QString NearestHint(const QString& text, const QStringList& words);
 
 /// The error of a text that should have been one of `words`.
-BatchHost::UsageError NoSuchWord(const QString& text, const QStringList& words);
+BatchHost::RequestError NoSuchWord(const QString& text, const QStringList& words);
 
-/// The value whose word is `text`, in any letter case. Throws UsageError when there is none.
+/// The value whose word is `text`, in any letter case. Throws RequestError when there is none.
 template<std::size_t count>
 int ValueOf(const std::array<BatchJob::Word, count>& words, const QString& text)
 {

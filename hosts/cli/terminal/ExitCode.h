@@ -1,5 +1,7 @@
 #pragma once
 
+namespace BatchCli {
+
 /// How velkora-batch ends.
 enum class ExitCode : int {
     Done = 0,       ///< every picture was written
@@ -8,3 +10,5 @@ enum class ExitCode : int {
     ServerLost = 3, ///< the server could not be started, or was lost for good
     Cancelled = 4
 };
+
+} // namespace BatchCli

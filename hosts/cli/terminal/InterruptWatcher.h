@@ -4,7 +4,8 @@
 
 namespace BatchCli {
 
-/// Tells of the user's wish to end the program, Ctrl-C or a request of the system, instead of ending it. One at a time.
+/// For as long as it lives, Ctrl-C and the system's requests to end emit a signal instead of ending the process. Only
+/// one at a time.
 class InterruptWatcher : public QObject
 {
     Q_OBJECT
@@ -12,9 +13,6 @@ class InterruptWatcher : public QObject
 public:
     explicit InterruptWatcher(QObject* parent = nullptr);
     ~InterruptWatcher() override;
-
-    /// From now on the next interrupt ends the process where it stands: nothing else would answer it.
-    static void EndAtNext();
 
 Q_SIGNALS:
     void Interrupted();

@@ -15,18 +15,17 @@ namespace {
 
 constexpr std::array watched{SIGINT, SIGTERM, SIGHUP};
 
-// A handler may do no more than write to a pipe, whose other end the event loop reads.
+// A signal handler may do little more than write to a pipe, which the event loop reads.
 std::array<int, 2> channel{-1, -1};
-volatile std::sig_atomic_t endsAtNext = 0;
 
-/// So many without an answer mean that the event loop hangs.
+/// After so many interrupts without an answer the event loop must be stuck: the process ends itself.
 constexpr int patience = 3;
 volatile std::sig_atomic_t unanswered = 0;
 
 void Handle(int)
 {
     unanswered = unanswered + 1;
-    if (endsAtNext != 0 || unanswered >= patience) {
+    if (unanswered >= patience) {
         _exit(int(ExitCode::Cancelled));
     }
     const char byte = 0;
@@ -58,7 +57,7 @@ InterruptWatcher::InterruptWatcher(QObject* parent)
     for (const int number : watched) {
         struct sigaction before = {};
         sigaction(number, nullptr, &before);
-        if (before.sa_handler != SIG_IGN) { // As nohup asks for.
+        if (before.sa_handler != SIG_IGN) { // nohup has it ignored.
             sigaction(number, &action, nullptr);
         }
     }
@@ -73,11 +72,6 @@ InterruptWatcher::~InterruptWatcher()
         close(end);
         end = -1;
     }
-}
-
-void InterruptWatcher::EndAtNext()
-{
-    endsAtNext = 1;
 }
 
 } // namespace BatchCli

@@ -10,16 +10,15 @@ namespace BatchCli {
 namespace {
 
 InterruptWatcher* watcher = nullptr;
-std::atomic<bool> endsAtNext{false};
 
-/// So many without an answer mean that the event loop hangs.
+/// After so many interrupts without an answer the event loop must be stuck: the process ends itself.
 constexpr int patience = 3;
 std::atomic<int> unanswered{0};
 
-/// The system calls it on a thread of its own.
+/// The system calls this on a thread of its own.
 BOOL WINAPI Handle(DWORD event)
 {
-    if (endsAtNext || ++unanswered >= patience) {
+    if (++unanswered >= patience) {
         ExitProcess(UINT(ExitCode::Cancelled));
     }
     const auto tell = [] {
@@ -28,7 +27,8 @@ BOOL WINAPI Handle(DWORD event)
     };
     QMetaObject::invokeMethod(watcher, tell, Qt::QueuedConnection);
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) {
-        // The console is closed or the user goes: the process has until this returns, seconds at most.
+        // The console is being closed or the user logs out: returning would end the process now instead of in a few
+        // seconds.
         Sleep(INFINITE);
     }
     return TRUE;
@@ -47,11 +47,6 @@ InterruptWatcher::~InterruptWatcher()
 {
     SetConsoleCtrlHandler(&Handle, FALSE);
     watcher = nullptr;
-}
-
-void InterruptWatcher::EndAtNext()
-{
-    endsAtNext = true;
 }
 
 } // namespace BatchCli

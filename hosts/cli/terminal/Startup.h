@@ -12,7 +12,7 @@ void PrepareProcess();
 /// From now on whoever reads the output may leave: that ends nothing, and what is written then is lost.
 void OutliveReaders();
 
-/// The arguments without the program's name. Throws UsageError for one that cannot be represented.
+/// The arguments without the program's name. Throws RequestError for one that cannot be represented.
 QStringList Arguments(int argc, char** argv);
 
 } // namespace BatchCli

@@ -1,6 +1,6 @@
 #include "Startup.h"
 
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 #include <QFile>
 
@@ -87,7 +87,7 @@ QStringList Arguments(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const QString argument = QFile::decodeName(argv[i]);
         if (QFile::encodeName(argument) != argv[i]) {
-            throw UsageError{QStringLiteral("argument %1 (%2) is not valid UTF-8").arg(i).arg(argument)};
+            throw RequestError{QStringLiteral("argument %1 (%2) is not valid UTF-8").arg(i).arg(argument)};
         }
         arguments.append(argument);
     }

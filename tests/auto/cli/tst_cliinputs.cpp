@@ -1,6 +1,6 @@
 #include "hosts/common/InputCollector.h"
 #include "hosts/common/NaturalNames.h"
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 #include "job/settings/JobFiles.h"
 
 #include "ZTBatchDocument.h"
@@ -212,9 +212,9 @@ void tst_CliInputs::MissingInputsAreRefused()
     ZTBatchDocument job;
     InputCollector collector(job, {});
     QVERIFY_EXCEPTION_THROWN(
-        collector.Add({root->filePath(QStringLiteral("a.jpg")), root->filePath(QStringLiteral("b.jpg"))}), UsageError);
+        collector.Add({root->filePath(QStringLiteral("a.jpg")), root->filePath(QStringLiteral("b.jpg"))}), RequestError);
 #ifdef Q_OS_UNIX
-    QVERIFY_EXCEPTION_THROWN(collector.Add({QStringLiteral("/dev/null")}), UsageError);
+    QVERIFY_EXCEPTION_THROWN(collector.Add({QStringLiteral("/dev/null")}), RequestError);
 #endif
     QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 0);
 }

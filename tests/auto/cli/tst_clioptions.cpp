@@ -1,6 +1,6 @@
 #include "hosts/cli/options/CommandLine.h"
 #include "hosts/cli/options/JobOptions.h"
-#include "hosts/common/UsageError.h"
+#include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -26,7 +26,7 @@ QString ErrorOf(ZTBatchDocument& job, const QString& option, const QString& valu
 {
     try {
         Option(option).apply(job, value);
-    } catch (const UsageError& error) {
+    } catch (const RequestError& error) {
         return error.text;
     }
     return {};
@@ -308,7 +308,7 @@ void tst_CliOptions::WrongArgumentsAreExplained()
     QString text;
     try {
         ParseArguments(arguments);
-    } catch (const UsageError& error) {
+    } catch (const RequestError& error) {
         text = error.text;
     }
     QVERIFY2(text.contains(wanted), qPrintable(text));

@@ -142,7 +142,7 @@ void tst_CliJobs::JobsWithoutPictures()
 {
     const CliRun create = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("-ox")});
     QCOMPARE(create.exitCode, 0);
-    QCOMPARE(create.err, QByteArray("a.xml: a job without pictures; run and plan take them behind its name.\n"));
+    QCOMPARE(create.err, QByteArray("a.xml: a job without pictures; give them to run or plan, after the job.\n"));
     const CliRun later = Run({QStringLiteral("create"), QStringLiteral("b.xml"), QStringLiteral("--from"),
                               QStringLiteral("a.xml"), QStringLiteral("photos/1.jpg")});
     QCOMPARE(later.exitCode, 0);
@@ -210,7 +210,7 @@ void tst_CliJobs::FilesAreNotReplacedUnasked()
                           QStringLiteral("-ox")};
     const CliRun refused = Run(arguments);
     QCOMPARE(refused.exitCode, 2);
-    QVERIFY(refused.err.contains("a.xml exists; --force replaces it"));
+    QVERIFY(refused.err.contains("a.xml exists; use --force to replace it"));
     QFile file(Path(QStringLiteral("a.xml")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("precious"));
@@ -264,9 +264,9 @@ void tst_CliJobs::WrongJobsAreExplained_data()
     };
     row("no arguments", "", none, "a command is needed");
     row("no file", "create", none, "JOB.xml INPUT...");
-    row("no job's name", "create photos -ox", none, "its name ends with .xml");
-    row("empty folder", "create a.xml empty -ox", none, "there is no picture");
-    row("no output", "create a.xml photos", none, "--output DIR says it");
+    row("no job's name", "create photos -ox", none, "a name that ends with .xml");
+    row("empty folder", "create a.xml empty -ox", none, "no pictures: name files");
+    row("no output", "create a.xml photos", none, "no output folder: use --output DIR");
     row("missing input", "create a.xml nothing.jpg -ox", none, "nothing.jpg does not exist");
     row("missing job", "show nothing.xml", none, "nothing.xml cannot be read");
     row("folder as job", "show folder.xml", none, "folder.xml cannot be read");
@@ -280,7 +280,7 @@ void tst_CliJobs::WrongJobsAreExplained_data()
     row("not XML", "show job.xml", "<!DOCTYPE batch>\n<root><input></root>", "line 2, column");
     row("other type", "show job.xml", "<!DOCTYPE other>\n<root/>", "<!DOCTYPE batch>");
     row("not text", "show job.xml", "\xFF\xD8\xFF\xE0 JFIF", "it is not UTF-8 text");
-    row("empty", "show job.xml", none, "is no batch job");
+    row("empty", "show job.xml", none, "is not a batch job");
     row("entities", "show job.xml", "<!DOCTYPE batch [<!ENTITY a \"b\">]>\n<root/>", "declares what a job must not");
     row("wrong value", "create b.xml --from job.xml",
         "<!DOCTYPE batch><root><input><inputElement inputText=\"a\" fileName=\"/a.jpg\" type=\"1\"/></input><output>"

@@ -297,7 +297,7 @@ void tst_CliResume::OtherJobsAreNotResumed()
     for (const char* other : {"a", "a b --structure input", "--size 10", "--no-inputs"}) {
         const CliRun run = Run(QStringLiteral("run --resume -o out ") + QLatin1String(other));
         QCOMPARE(run.exitCode, 2);
-        QVERIFY2(run.err.contains(" is not this job: "), run.err.constData());
+        QVERIFY2(run.err.contains(" is of another job: "), run.err.constData());
     }
     const CliRun same = Run(QStringLiteral("run a b --resume -o out --structure input --effect blur:sigma=20 -q"));
     QVERIFY2(same.exitCode == 0, same.err.constData());
@@ -338,7 +338,7 @@ void tst_CliResume::SameJobTwiceAtATime()
     const CliRun second =
         Run(QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
     QCOMPARE(second.exitCode, 2);
-    QVERIFY2(second.err.contains("the same job is being run"), second.err.constData());
+    QVERIFY2(second.err.contains("the same job is already running"), second.err.constData());
     QCOMPARE(Run(QStringLiteral("run --resume -o out")).exitCode, 2);
     first.terminate();
     QVERIFY(first.waitForFinished(60'000));

@@ -166,7 +166,7 @@ void tst_CliRun::NobodyToAskIsSaid()
 {
     const CliRun run = Run(QStringLiteral("run photos -o out --on-input-error stop"));
     QCOMPARE(run.exitCode, 0);
-    QVERIFY2(run.err.contains("nobody can be asked"), run.err.constData());
+    QVERIFY2(run.err.contains("\"ask\" becomes \"skip\""), run.err.constData());
     QVERIFY2(run.err.contains("--on-name-exists"), run.err.constData());
     QVERIFY2(!run.err.contains("--on-input-error"), run.err.constData());
 }
@@ -316,8 +316,8 @@ void tst_CliRun::WrongOptionsEndBeforeAnything_data()
     const auto row = [](const char* arguments, const char* wanted) {
         QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(wanted);
     };
-    row("run photos", "--output DIR says it");
-    row("run -o out", "there is no picture");
+    row("run photos", "no output folder: use --output DIR");
+    row("run -o out", "no pictures: name files");
     row("run nothing.xml -o out", "nothing.xml cannot be read");
     row("run photos -o out --on-name-exists replace", "is none of skip, overwrite, rename, ask");
     row("run photos -o out --on-input-error skpi", "did you mean \"skip\"?");
@@ -327,8 +327,8 @@ void tst_CliRun::WrongOptionsEndBeforeAnything_data()
     row("run photos -o out --report nowhere/r.csv", "nowhere/r.csv cannot be written");
     row("run photos -o out --effect blurr", "did you mean \"blur\"?");
     row("run photos -o out --resum", "unknown option --resum");
-    row("run photos -o out --settings photos/1.jpg", "photos/1.jpg is no folder");
-    row("plan photos", "--output DIR says it");
+    row("run photos -o out --settings photos/1.jpg", "photos/1.jpg is not a folder");
+    row("plan photos", "no output folder: use --output DIR");
     row("plan photos -o out --workers 2", "unknown option --workers");
 }
 
@@ -373,7 +373,7 @@ void tst_CliRun::NoServer()
     QVERIFY(process.waitForFinished(120'000));
     QCOMPARE(process.exitCode(), 3);
     const QByteArray err = process.readAllStandardError();
-    QVERIFY2(err.contains("no server works; VelkoraBatchProcessing belongs beside "), err.constData());
+    QVERIFY2(err.contains("the server cannot be started; VelkoraBatchProcessing belongs beside "), err.constData());
 }
 
 void tst_CliRun::NoTemporaryFolder()

@@ -143,7 +143,7 @@ void tst_CliScripted::QuestionsWithoutATerminal()
 {
     stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --on-input-error stop"));
-    QVERIFY2(run.err.contains("nobody can be asked"), run.err.constData());
+    QVERIFY2(run.err.contains("\"ask\" becomes \"skip\""), run.err.constData());
     QVERIFY2(run.err.contains("--on-name-exists") && !run.err.contains("--on-input-error"), run.err.constData());
 }
 
@@ -164,7 +164,7 @@ void tst_CliScripted::ServersThatEnd()
     QCOMPARE(run.exitCode, 3);
     QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one goes on.\n"), 2);
     QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly.\n"), 1);
-    QVERIFY2(run.err.contains("the server ends before it has done anything"), run.err.constData());
+    QVERIFY2(run.err.contains("the server ended before it had processed anything"), run.err.constData());
     QVERIFY2(run.err.contains("Not processed       3\n"), run.err.constData());
     // It can be taken up.
     QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
@@ -188,7 +188,7 @@ void tst_CliScripted::NoServer()
     stage->Write(QStringLiteral("photos/1.jpg"), "a picture");
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(run.err.contains("no server works; VelkoraBatchProcessing belongs beside "), run.err.constData());
+    QVERIFY2(run.err.contains("the server cannot be started; VelkoraBatchProcessing belongs beside "), run.err.constData());
     QCOMPARE(run.err.count("a new one goes on"), 0);
 }
 
@@ -209,7 +209,7 @@ void tst_CliScripted::SecondRunAtATime()
     const CliRun second = stage->Run(QStringLiteral("run photos -o elsewhere"));
 #ifdef Q_OS_WIN
     QCOMPARE(second.exitCode, 3);
-    QVERIFY2(second.err.contains("another batch server is at work"), second.err.constData());
+    QVERIFY2(second.err.contains("another batch server is running"), second.err.constData());
 #else
     QVERIFY2(second.exitCode == 1, second.err.constData());
     QVERIFY2(second.err.contains("[1/3] "), second.err.constData());

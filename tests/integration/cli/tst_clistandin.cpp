@@ -101,7 +101,7 @@ void tst_CliStandIn::NoWorker()
     stage->Write(QStringLiteral("photos/1.jpg"), "1");
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --format png --suffix text:x"));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(run.err.contains("velkora-batch: no worker works; VelkoraBatchWorker belongs beside "),
+    QVERIFY2(run.err.contains("velkora-batch: no worker can be started; VelkoraBatchWorker belongs beside "),
              run.err.constData());
     QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
     stage->PlaceWorker();

@@ -1,6 +1,6 @@
 #include "ShellDocs.h"
 
-#include "CommandLine.h"
+#include "hosts/cli/options/CommandLine.h"
 
 #include <QCoreApplication>
 

@@ -1,0 +1,66 @@
+#include "JobRun.h"
+
+#include "RunInputs.h"
+
+#include "job/journal/RunJournal.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchManager.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QFile>
+#include <QLocalSocket>
+
+namespace BatchHost {
+
+namespace {
+
+/// On Unix the pipe lies in the run's own temporary folder, but Windows has one pipe of this name for the whole
+/// machine: a second server could not open it, and its host would talk to the first one's server.
+bool IsPipeInUse()
+{
+    constexpr int answerTime = 1000;
+    QLocalSocket socket;
+    socket.connectToServer(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    return socket.waitForConnected(answerTime);
+}
+
+JobRun::Obstacle FindObstacle(const PrivateTempFolder& temporary)
+{
+    if (!temporary.Error().isEmpty()) {
+        return JobRun::Obstacle::NoTemporaryFolder;
+    }
+    return IsPipeInUse() ? JobRun::Obstacle::PipeInUse : JobRun::Obstacle::None;
+}
+
+} // namespace
+
+JobRun::JobRun(const QString& settingsFolder)
+    : obstacle(FindObstacle(temporary))
+{
+    if (obstacle == Obstacle::None) {
+        ZTBatchManager::InitInstance(settingsFolder);
+    }
+}
+
+JobRun::~JobRun()
+{
+    if (obstacle == Obstacle::None) {
+        ZTBatchManager::ReleaseInstance();
+    }
+}
+
+std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, JournaledJob& journaled,
+                                               const BatchJob::PolicyValues& policies,
+                                               const QVector<RunObserver*>& observers)
+{
+    const QString journalPath = journaled.BeginJournal(policies);
+    // The server, which inherits the environment, continues the journal.
+    qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
+    return std::make_unique<RunController>(RunController::Order{journaled.Document(), InputsOf(job),
+                                                                job.GetOutputSettings()->GetPath(), policies,
+                                                                journalPath},
+                                           observers);
+}
+
+} // namespace BatchHost

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "JournaledJob.h"
+#include "PrivateTempFolder.h"
+#include "RunController.h"
+
+#include <QString>
+#include <QVector>
+
+#include <memory>
+
+class ZTBatchDocument;
+
+namespace BatchHost {
+
+/// What a run needs around it, for as long as it takes: a temporary folder of its own and the batch manager, which ends
+/// its server with this object. One at a time in a process.
+class JobRun
+{
+public:
+    /// What keeps the run from starting.
+    enum class Obstacle {
+        None,
+        NoTemporaryFolder,
+        PipeInUse ///< by another batch server, on systems that have one pipe for all
+    };
+
+    /// The manager reads its policies from `settingsFolder`.
+    explicit JobRun(const QString& settingsFolder);
+    ~JobRun();
+
+    /// With an obstacle nothing else may be called.
+    Obstacle WhatPrevents() const { return obstacle; }
+    QString TemporaryFolderError() const { return temporary.Error(); }
+
+    /// The run of `job`, ready to start. It must end before this object.
+    std::unique_ptr<RunController> Prepare(const ZTBatchDocument& job, JournaledJob& journaled,
+                                           const BatchJob::PolicyValues& policies,
+                                           const QVector<RunObserver*>& observers);
+
+private:
+    Q_DISABLE_COPY(JobRun)
+
+    const PrivateTempFolder temporary;
+    const Obstacle obstacle;
+};
+
+} // namespace BatchHost

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class ZTBatchDocument;
+
+namespace BatchHost {
+
+/// The inputs of a run with their sizes in bytes, in the document's order.
+struct RunInputs
+{
+    QStringList files;
+    QVector<qint64> bytes;
+    qint64 allBytes = 0;
+};
+
+RunInputs InputsOf(const ZTBatchDocument& job);
+
+} // namespace BatchHost

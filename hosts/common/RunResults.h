@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+
+namespace BatchHost {
+
+/// What became of one input.
+struct FileResult
+{
+    enum class Kind { Written, Skipped, Failed };
+
+    QString input;
+    QString output;
+    Kind kind = Kind::Written;
+    int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
+    QString reason;    ///< one sentence; empty when it was written
+};
+
+/// The word of `kind`: "written", "skipped", "failed".
+QString ResultWord(FileResult::Kind kind);
+
+enum class RunOutcome {
+    Complete,   ///< every picture was written
+    Incomplete, ///< some were skipped or failed, or a policy stopped the run
+    Refused,    ///< the server refused the job
+    NoWorkers,  ///< the server could not start a worker
+    ServerLost, ///< the server could not be started, or was lost for good
+    Cancelled
+};
+
+/// How a run ended.
+struct RunEnd
+{
+    int files = 0;
+    int written = 0;
+    int skipped = 0;
+    int failed = 0;
+    double seconds = 0;
+    bool isCancelled = false;
+    bool isServerLost = false;
+    QString outputFolder;
+    int jobErrorCode = 0; ///< a ZTBatchMessage::Error that ended the whole run; 0 when none did
+    QString jobError;     ///< and its reason
+
+    int Processed() const { return written + skipped + failed; }
+    int NotProcessed() const { return files - Processed(); }
+
+    RunOutcome Outcome() const;
+
+    /// Whether nothing is left that resuming the run could do.
+    bool IsFinished() const { return NotProcessed() == 0 || Outcome() == RunOutcome::Refused; }
+};
+
+} // namespace BatchHost
