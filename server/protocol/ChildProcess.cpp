@@ -11,8 +11,6 @@
 
 namespace BatchProtocol {
 
-// Where there is no such thing, a worker finds out by the end of its input.
-
 #ifdef Q_OS_LINUX
 
 namespace {
@@ -23,22 +21,25 @@ void EndWithParent()
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parentId) {
-        _exit(1); // It has gone already.
+        _exit(1); // The parent has ended already.
     }
 }
 
 } // namespace
 
-ChildProcess::ChildProcess(QObject* parent)
-    : QProcess(parent)
+void EndForkedCopiesWithThisProcess()
 {
-    // QProcess may let a new process wait for a word of this one before it gets as far as setupChildProcess(). If this
-    // one were killed meanwhile, the other would wait for ever, and keep the pipe open on which nobody listens.
-    static const bool isNoted = [] {
+    static const bool isRegistered = [] {
         parentId = getpid();
         return pthread_atfork(nullptr, nullptr, EndWithParent) == 0;
     }();
-    Q_UNUSED(isNoted)
+    Q_UNUSED(isRegistered)
+}
+
+ChildProcess::ChildProcess(QObject* parent)
+    : QProcess(parent)
+{
+    EndForkedCopiesWithThisProcess();
 }
 
 void ChildProcess::setupChildProcess()
@@ -48,11 +49,13 @@ void ChildProcess::setupChildProcess()
 
 #else
 
+void EndForkedCopiesWithThisProcess() {}
+
 #ifdef Q_OS_WIN
 namespace {
 
-/// Puts this process into a job, in which all that it starts are too. The job ends with its only handle: with this
-/// process, however that goes.
+/// Puts this process into a job, together with all that it starts. The job ends with its only handle, and so with this
+/// process, however that ends.
 bool BeginJob()
 {
     const HANDLE job = CreateJobObjectW(nullptr, nullptr);

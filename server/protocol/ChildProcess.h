@@ -4,7 +4,14 @@
 
 namespace BatchProtocol {
 
-/// A process that does not outlive this one: where the system can do that, it ends the one with the other.
+/// QProcess starts a program from a forked copy of this process, which may wait for a word of this one first. If this
+/// process were killed meanwhile, the copy would wait for ever, and keep its pipes and locks. From this call on the
+/// system ends such copies with this process, where it can (Linux). May be called before anything of Qt, and
+/// repeatedly.
+void EndForkedCopiesWithThisProcess();
+
+/// A process that the system ends together with this one, where it can (Linux and Windows). Elsewhere a worker notices
+/// the end of its input.
 class ChildProcess : public QProcess
 {
     Q_OBJECT

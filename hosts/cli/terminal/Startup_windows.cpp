@@ -12,7 +12,7 @@ namespace BatchCli {
 void PrepareProcess()
 {
     SetConsoleOutputCP(CP_UTF8);
-    // Output is the same bytes on every system, for the programs that read it.
+    // Programs that read the output get the same bytes on every system.
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
 }
