@@ -100,7 +100,7 @@ private:
     QQueue<Assignment> waiting;
     QString problem;
     QEventLoop loop;
-    WorkerPool pool; ///< ends first: its signals use the others
+    WorkerPool pool; ///< destroyed first, as its signals use the other fields
 };
 
 } // namespace
@@ -109,8 +109,7 @@ void FileProber::Probe(const QVector<File>& files, const QString& settings, cons
 {
     const QString problem = ProbeRun(files, settings, take).Execute();
     if (!problem.isEmpty()) {
-        throw RequestError{
-            QStringLiteral("names depend on capture dates, but no worker can be started: %1").arg(problem)};
+        throw RequestError{QStringLiteral("no worker can be started to look at the pictures: %1").arg(problem)};
     }
 }
 

@@ -20,7 +20,7 @@ namespace BatchHost {
 
 namespace {
 
-/// Further down a job could not be read back.
+/// A job with deeper folders could not be read back.
 constexpr int deepestFolder = 900;
 
 QVector<QRegularExpression> Expressions(const QStringList& wildcards)
@@ -56,7 +56,7 @@ void KeepModification(BatchNodeData& data, const QDateTime& modified)
     data.lastModification = modified.toString(Qt::ISODate);
 }
 
-/// Gives the nodes, entries of one folder, the texts that put them into their natural order, and brings them into it.
+/// Gives the nodes, the entries of one folder, texts whose order is the natural one, and sorts them.
 void SortNaturally(QVector<TreeNode<BatchNodeData>*>& nodes)
 {
     QStringList names;
@@ -111,7 +111,7 @@ void InputCollector::Add(const QStringList& paths)
         const QFileInfo info(path);
         if (!info.exists()) {
             qDeleteAll(loose);
-            throw RequestError{info.isSymLink() ? QStringLiteral("%1 is a link that leads nowhere").arg(path)
+            throw RequestError{info.isSymLink() ? QStringLiteral("%1 is a dangling link").arg(path)
                                                 : QStringLiteral("%1 does not exist").arg(path)};
         }
         if (!info.isDir() && !info.isFile()) {
@@ -121,7 +121,7 @@ void InputCollector::Add(const QStringList& paths)
         if (taken.contains(path)) {
             repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
         } else if (info.isDir()) {
-            TakeFolder(path);
+            AddFolder(path);
         } else {
             taken.insert(path);
             ++fileCount;
@@ -135,11 +135,11 @@ void InputCollector::Add(const QStringList& paths)
     }
 }
 
-void InputCollector::TakeFolder(const QString& path)
+void InputCollector::AddFolder(const QString& path)
 {
     std::unique_ptr<Node> top = MakeNode(path, Folder);
-    // Folders are read in the order in which they are found. Links come last: what is reached by its own path and by a
-    // link stands in the job under its own path.
+    // Folders are read in the order in which they are found, but links last: a folder that is found directly and by a
+    // link gets its own path.
     QVector<Node*> folders{top.get()};
     QVector<Node*> links;
     for (int i = 0; i < folders.size(); ++i) {
@@ -153,7 +153,7 @@ void InputCollector::TakeFolder(const QString& path)
             links.clear();
         }
     }
-    // A folder stands behind the one that holds it.
+    // A folder comes after the one that contains it.
     for (int i = folders.size() - 1; i > 0; --i) {
         Node* const folder = folders.at(i);
         if (folder->data.fileNodesCount == 0) {
@@ -178,14 +178,14 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
         return;
     }
     if (DepthOf(&folder) > deepestFolder) {
-        problems.append(QStringLiteral("%1 lies too deep to be taken in.").arg(path));
+        problems.append(QStringLiteral("%1 is nested too deeply for a job.").arg(path));
         return;
     }
     ++folderCount;
     taken.insert(path);
     QVector<Node*> files;
     for (const FolderEntry& entry : content.entries) {
-        TakeEntry(entry, path, files, found);
+        AddEntry(entry, path, files, found);
     }
     fileCount += files.size();
     folder.data.fileNodesCount = files.size();
@@ -199,8 +199,8 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     }
 }
 
-void InputCollector::TakeEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
-                               QVector<Node*>& folders)
+void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
+                              QVector<Node*>& folders)
 {
     if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, entry.name)) {
         return;
@@ -215,9 +215,9 @@ void InputCollector::TakeEntry(const FolderEntry& entry, const QString& folderPa
         problems.append(QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
     } else if (!CanBeSaved(entry.name)) {
         problems.append(
-            QStringLiteral("%1 has a name with a character that no job can hold; rename it to use it.").arg(path));
+            QStringLiteral("%1 has a name with a character that a job cannot hold; rename it to use it.").arg(path));
     } else if (entry.isDangling) {
-        problems.append(QStringLiteral("%1 is a link that leads nowhere.").arg(path));
+        problems.append(QStringLiteral("%1 is a dangling link.").arg(path));
     } else if (isFolder) {
         const bool isOutput = outputFolder && entry.identity == outputFolder;
         if (!isOutput && !taken.contains(path)) {
@@ -239,7 +239,7 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
         return true;
     }
     if (path.startsWith(*known + QLatin1Char('/'))) {
-        problems.append(QStringLiteral("%1 leads in a circle, back to %2; it is not followed.").arg(path, *known));
+        problems.append(QStringLiteral("%1 leads back to %2; it is not followed.").arg(path, *known));
     } else {
         repetitions.append(QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
     }

@@ -18,44 +18,44 @@ class ZTBatchDocument;
 
 namespace BatchHost {
 
-/// Which files of a folder are taken. Files that the user names are taken whatever they are called.
+/// Which files of a folder become inputs. Files that the user names are always inputs.
 struct InputFilter
 {
     QStringList only;   ///< wildcards; empty: every format that the server reads
-    QStringList except; ///< wildcards that keep files and folders out
+    QStringList except; ///< wildcards of files and folders to leave out
     bool subfolders = true;
-    bool hidden = false;  ///< whether names that begin with a dot are taken, too
-    QString outputFolder; ///< left out where it lies inside a folder: results are no inputs. Absolute
+    bool hidden = false;  ///< whether names that begin with a dot are included
+    QString outputFolder; ///< absolute; left out where a folder contains it, as results are not inputs
 };
 
 /// Turns files and folders into inputs of a job.
 class InputCollector
 {
 public:
-    /// `job` has to stay. What it holds already is not added again.
+    /// `job` must outlive this object. What it has already is not added again.
     InputCollector(ZTBatchDocument& job, const InputFilter& filter);
     ~InputCollector();
 
-    /// Called now and then while folders are read, with the folder at hand.
+    /// Called for each folder that has been read, with the numbers so far.
     std::function<void(int folders, int files, const QString& folder)> onProgress;
 
     /// Adds the files and folders `paths` to the job. Throws RequestError when one of them does not exist or cannot be
     /// an input.
     void Add(const QStringList& paths);
 
-    /// What was left out though somebody may miss it, one sentence each: folders that cannot be read, links that lead
-    /// in circles or nowhere, names that cannot be represented.
+    /// What was left out unexpectedly, one sentence each: folders that cannot be read, circular or dangling links,
+    /// names that a QString or a job cannot hold.
     const QStringList& Problems() const { return problems; }
 
-    /// What was named or reached once more and is in the job once, one sentence each. Nothing is missing.
+    /// What was named or found more than once, one sentence each. It is in the job once.
     const QStringList& Repetitions() const { return repetitions; }
 
 private:
     using Node = TreeNode<BatchNodeData>;
 
-    void TakeFolder(const QString& path);
+    void AddFolder(const QString& path);
     void ReadInto(Node& folder, QVector<Node*>& found);
-    void TakeEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
+    void AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
     bool IsFirst(Node& folder, const BatchJob::FileIdentity& identity);
     bool IsWanted(const QString& name) const;
     void Insert(std::unique_ptr<Node> node);

@@ -86,8 +86,8 @@ std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolde
     std::unique_ptr<JournalFile> journal(new JournalFile(names.size() > 1 ? ofJob : folder.filePath(names.first())));
     if (!journal->isHeld) {
         const bool isUnderWay = journal->lock.error() == QLockFile::LockFailedError;
-        throw RequestError{QStringLiteral("the run in %1 cannot be taken up: %2")
-                               .arg(outputFolder, isUnderWay ? QStringLiteral("it is under way")
+        throw RequestError{QStringLiteral("the run in %1 cannot be resumed: %2")
+                               .arg(outputFolder, isUnderWay ? QStringLiteral("it is still running")
                                                              : QStringLiteral("the folder cannot be written"))};
     }
     return journal;
@@ -98,7 +98,7 @@ void JournalFile::RemoveUnbegun(const QDir& folder)
 {
     for (const QString& name : JournalsIn(folder, lockEnd)) {
         JournalFile journal(folder.filePath(name));
-        if (journal.isHeld && !journal.Exists()) { // A journal that another process holds is just beginning.
+        if (journal.isHeld && !journal.Exists()) { // Else its run is just starting.
             journal.Remove();
         }
     }

@@ -19,7 +19,7 @@ namespace BatchHost {
 class JournaledJob
 {
 public:
-    /// A run of `job` from its beginning. Throws RequestError when the job cannot be used, or is being run.
+    /// A run of `job` from its beginning. Throws RequestError when the job cannot be used, or is already running.
     static JournaledJob New(const ZTBatchDocument& job);
 
     /// The run that was interrupted in the output folder of `job`, which becomes the job of that run. With `isThisJob`

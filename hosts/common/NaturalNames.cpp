@@ -8,7 +8,7 @@ namespace BatchHost {
 
 namespace {
 
-/// Longer runs of digits are no numbers that anybody counts with.
+/// Longer runs of digits are identifiers rather than numbers.
 constexpr int longestNumber = 18;
 
 bool IsDigit(QChar character)
@@ -16,7 +16,7 @@ bool IsDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// Calls `visit` with the words before it, and the start and the length, for each number of `name`.
+/// Calls `visit` for each number in `name`, with the words before it, its start and its length.
 template<typename Visit>
 void VisitNumbers(const QString& name, Visit visit)
 {

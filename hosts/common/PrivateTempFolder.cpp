@@ -7,7 +7,7 @@ namespace BatchHost {
 
 namespace {
 
-/// What is left for the folder of a socket's path of 107 bytes.
+/// The path of a socket may have 107 bytes; this is left for its folder.
 constexpr int longestFolder = 70;
 
 QString Template()

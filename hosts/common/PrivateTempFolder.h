@@ -4,16 +4,15 @@
 
 namespace BatchHost {
 
-/// A temporary folder for this process and its server alone. The pipe between them has a fixed name in the temporary
-/// folder: without this, two programs at a time would meet there.
-/// Removed at the end.
+/// A temporary folder for this process and its server only, which becomes TMPDIR. The pipe between them has a fixed
+/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object.
 class PrivateTempFolder
 {
 public:
     PrivateTempFolder();
     ~PrivateTempFolder();
 
-    /// Why there is no such folder; empty when there is one. Without it the server cannot be reached.
+    /// Why the folder could not be made; empty when it was. The server cannot be reached without it.
     QString Error() const { return folder.isValid() ? QString() : folder.errorString(); }
 
     void Remove() { folder.remove(); }

@@ -18,10 +18,10 @@ namespace {
 
 using Session = ZTBatchManager::ZTBatchSession;
 
-/// A server that dies more often than this has no use for another one.
+/// How many servers are started for a run.
 constexpr int mostLives = 10;
 
-/// Nor has one that dies so often in a row before it has begun with a picture.
+/// How many servers in a row may die before they have begun with a picture.
 constexpr int mostIdleLives = 3;
 
 /// Nothing was wrong with a picture whose name is taken or whose format cannot be written.
@@ -253,7 +253,7 @@ void RunController::Settle(const FileResult& result)
     }
 }
 
-/// Counts the result of the input, the one at `index` if that is not negative. False when it has been counted.
+/// Counts the result of an input, that at `index` if it is not negative. False when it was counted before.
 bool RunController::Count(const FileResult& result, int index)
 {
     const auto waiting = open.find(result.input);
@@ -302,7 +302,7 @@ bool RunController::IsServerInstalled()
                 .isEmpty();
 }
 
-/// Lets the next server know over which inputs the last one has died.
+/// Tells the next server, in the journal, which inputs were in work when the last one died.
 void RunController::NoteLoss(const QStringList& lost) const
 {
     QVector<int> indexes;
@@ -315,7 +315,8 @@ void RunController::NoteLoss(const QStringList& lost) const
     }
 }
 
-/// The session is over, with the run or with the server. The latter is known before the event loop turns again.
+/// The session is over, either with the run or with the server. In the latter case OnServerGone() is called before the
+/// timer fires.
 void RunController::OnSessionOver()
 {
     if (phase != Phase::Over) {
@@ -331,7 +332,7 @@ void RunController::OnServerGone()
     }
     delete session;
     question.reset();
-    // What it noted last may not have reached us.
+    // The server may have written results to the journal that it could not report any more.
     for (const auto& [index, result] : JournaledResults()) {
         if (open.value(result.input).contains(index)) {
             Settle(result);
@@ -351,7 +352,7 @@ void RunController::OnServerGone()
         observer->OnServerLost(lost, goesOn);
     }
     if (goesOn) {
-        // From the event loop: the manager is still busy with the end of the last one.
+        // Later: the manager is still handling the end of the last server.
         QTimer::singleShot(0, this, [this] { StartServer(); });
     } else {
         End(false, true);

@@ -84,7 +84,7 @@ private:
     const QVector<RunObserver*> observers;
     ZTBatchManager* const manager;
     QPointer<ZTBatchManager::ZTBatchSession> session;
-    QTimer sessionOver; ///< runs from the session's end until it is known that the server lives
+    QTimer sessionOver; ///< fires after the end of a session if its server still runs
     QElapsedTimer time;
     Phase phase = Phase::Idle;
     RunEnd end;
@@ -93,9 +93,9 @@ private:
     QString lastLog;
     FileResult asked; ///< what the open question is about
     std::optional<BatchJob::PolicyKind> question;
-    int lives = 0; ///< servers that were started
+    int lives = 0; ///< how many servers were started
     int settledInThisLife = 0;
-    int idleLives = 0; ///< how many of the last ones ended before they had begun with a picture
+    int idleLives = 0; ///< how many of the last servers in a row died before they had begun with a picture
 };
 
 } // namespace BatchHost

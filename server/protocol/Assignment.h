@@ -13,14 +13,14 @@ namespace BatchProtocol {
 /// A task on its way to a worker.
 struct Assignment
 {
-    quint64 run = 0; ///< whose task it is
+    quint64 run = 0; ///< the run that the task belongs to
     int file = -1;   ///< the file's number in the plan of the run
-    QByteArray job;  ///< the framed Job of the run; all its assignments share one
+    QByteArray job;  ///< the framed Job of the run; all its assignments share it
     ToWorker task;   ///< a ProbeTask or PictureTask with the number `file`
 
-    /// What stood in the place of the result. Something else there means that the result is finished, told or not.
+    /// The file in the place of the result. Another one there means that the result is finished, reported or not.
     std::optional<BatchJob::FileIdentity> before;
-    bool isSecondTry = false; ///< a worker has ended already before it began the task
+    bool isSecondTry = false; ///< a worker has ended before it began the task
 };
 
 } // namespace BatchProtocol

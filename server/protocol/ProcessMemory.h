@@ -4,7 +4,7 @@
 
 namespace BatchProtocol {
 
-/// How much memory the process `id` holds now, in bytes of what is resident; 0 when that cannot be found out.
+/// The resident memory of the process `id` in bytes; 0 when it cannot be determined.
 qint64 MemoryOfProcess(qint64 id);
 
 } // namespace BatchProtocol

@@ -10,7 +10,7 @@ namespace BatchProtocol {
 
 qint64 MemoryOfProcess(qint64 id)
 {
-    // Systems without /proc leave it to the limit that a worker sets itself.
+    // On systems without /proc there is only the limit that a worker sets itself.
     QFile file(QStringLiteral("/proc/%1/statm").arg(id));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return 0;

@@ -58,7 +58,7 @@ Report CheckedFailure(const Report& report)
     Report checked = report;
     checked.reason = OneLine(report.reason);
     if (!IsCodeOf(report.failure, report.errorCode)) {
-        checked = ProcessingFailure(QStringLiteral("the worker's report makes no sense: %1").arg(checked.reason));
+        checked = ProcessingFailure(QStringLiteral("the worker's report is invalid: %1").arg(checked.reason));
         checked.number = report.number;
     }
     return checked;

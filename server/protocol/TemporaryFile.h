@@ -2,48 +2,48 @@
 
 #include <QString>
 
-/// Results under work: a result is whole under its final name, or it is absent.
+/// Files in the making: a result is complete under its final name, or absent.
 namespace BatchProtocol {
 
-/// A hidden file in the folder of a result, which becomes the result when it is finished.
+/// A hidden file in the folder of a result. It gets the name of the result when it is complete.
 ///
-/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". While it is being written it is locked (flock; on Windows it
-/// is open for this process only), so that a later run can tell it from one that a crash has left: the system releases
-/// the lock with the process. Belongs to one thread at a time.
+/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". It is locked while it is written (flock; on Windows it is
+/// open for this process only). As the system releases the lock with the process, a later run can tell it from one that
+/// a crash has left. Use it on one thread at a time.
 class TemporaryFile
 {
 public:
-    /// What became of the final name.
+    /// The outcome of Place().
     enum class Placement {
         Done,
-        NameTaken, ///< a file of that name has appeared, and was left alone
+        NameTaken, ///< a file of that name has appeared; it is unchanged
         Failed     ///< see Error()
     };
 
     explicit TemporaryFile(const QString& finalName);
 
-    /// Removes the file, unless Place() has finished it.
+    /// Removes the file, unless Place() was successful.
     ~TemporaryFile();
 
-    /// Makes the file and locks it. False when the folder does not allow that, see Error(). To be called once.
+    /// Creates the file and locks it. False when that fails, see Error(). Call it once.
     bool Create();
 
-    /// The open file, for reading and writing at any position; -1 before Create(). It stays this object's.
+    /// The open file, for reading and writing at any position; -1 before Create(). This object closes it.
     int Descriptor() const { return descriptor; }
 
-    /// Where the file stands; empty before Create().
+    /// The path of the file; empty before Create().
     QString FileName() const { return fileName; }
 
-    /// Flushes the file to disk, gives it its final name, and flushes the folder. With `replaceExisting` it takes the
-    /// place of a file of that name; else such a file is never touched, whenever it appeared. After anything but Done
-    /// the file is removed with this object.
+    /// Flushes the file to disk, renames it to its final name, and flushes the folder. A file of that name is replaced
+    /// with `replaceExisting`, else it is never touched, whenever it appeared. After anything but Done the destructor
+    /// removes the file.
     Placement Place(bool replaceExisting);
 
     /// What went wrong, for users.
     QString Error() const { return error; }
 
-    /// Removes from `folder` the temporary files that nobody is writing any more, and nothing else. Returns how many.
-    /// Safe on any thread, beside any other process.
+    /// Removes the temporary files in `folder` that no process is writing. Returns their number. May be called on any
+    /// thread, while other processes do the same.
     static int Sweep(const QString& folder);
 
 private:

@@ -28,7 +28,7 @@ bool IsStillThere(int descriptor)
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink > 0;
 }
 
-// Without replacing. Some file systems know neither of the two ways, but each knows one.
+// Renames without replacing. Not every file system supports this flag of renameat2(), and not every one hard links.
 int RenameToFreeName(const QByteArray& from, const QByteArray& to)
 {
 #ifdef RENAME_NOREPLACE
@@ -46,7 +46,7 @@ int RenameToFreeName(const QByteArray& from, const QByteArray& to)
     return 0;
 }
 
-// A folder that cannot be flushed is no error: the file itself is on disk, and not every file system does it.
+// Failure is no error: the file itself is on disk, and not every file system can flush folders.
 void FlushFolder(const QString& folder)
 {
     const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -76,7 +76,7 @@ TemporaryFile::~TemporaryFile()
 bool TemporaryFile::Create()
 {
     Q_ASSERT(descriptor < 0);
-    // A sweep may hold, or remove, the file in the moment before it is locked. Then another one is made.
+    // A sweep of another process may lock or remove the file before it is locked here; then try again.
     for (int attempt = 0; attempt < 100; ++attempt) {
         const QString name = NewTemporaryName(FolderOf(finalName));
         const QByteArray path = QFile::encodeName(name);

@@ -88,7 +88,7 @@ bool TemporaryFile::Create()
 TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
 {
     const HANDLE file = HandleOf(descriptor);
-    // Only the way to the final name is hidden.
+    // Only the temporary file is hidden, not the result.
     const bool isReady = FlushFileBuffers(file) && SetFileAttributesW(Native(fileName).c_str(), FILE_ATTRIBUTE_NORMAL);
     const DWORD problem = isReady ? Rename(file, finalName, replaceExisting) : GetLastError();
     if (problem != ERROR_SUCCESS) {

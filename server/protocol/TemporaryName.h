@@ -4,10 +4,10 @@
 
 namespace BatchProtocol {
 
-/// A name in `folder` that no temporary file has yet.
+/// A path in `folder` for a new temporary file.
 QString NewTemporaryName(const QString& folder);
 
-/// Whether a file of this name, without its folder, is a temporary file.
+/// Whether `name`, without a folder, is that of a temporary file.
 bool IsTemporaryName(const QString& name);
 
 } // namespace BatchProtocol

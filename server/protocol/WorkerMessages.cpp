@@ -13,7 +13,7 @@ namespace {
 // A job may carry a colour profile of some megabytes as hexadecimal text. Nothing else is large.
 constexpr quint32 maximumPayload = 256U << 20;
 
-// A report is a few lines. A worker that was taken over by a picture does not get the supervisor to fill its memory.
+// A report is a few lines. A worker that a malicious picture has taken over must not fill the memory of its client.
 constexpr quint32 maximumReport = 1U << 20;
 
 template<typename Record>

@@ -13,49 +13,50 @@
 #include <optional>
 #include <variant>
 
-/// What the supervisor and its workers tell each other, over the worker's standard input and output.
+/// The messages between a worker and its client, over the worker's standard input and output.
 ///
-/// A worker says that it is ready with one Report of number workerIsReady, before it reads anything. Then it gets a Job
-/// and tasks, and answers each task with one Beginning and one Report. Each of the two comes in the tasks' order, but a
-/// worker may begin a task before the one before is reported: that one's result is on its way to the disk. So a worker
-/// that ends tells by its last Beginning over which task. A supervisor may hand over the next task before the last is
-/// reported. The end of its input ends a worker.
+/// When it is ready, and before it reads anything, a worker sends a Report with the number workerIsReady. Then it gets
+/// a Job and tasks, and answers each task with one Beginning and one Report. Both come in the order of the tasks, but a
+/// worker may begin a task before the previous one is reported, while the result of that one is being flushed to disk.
+/// So the last Beginning of a worker that ends names the task over which it ended. The client may send the next task
+/// before the last one is reported. The end of its input ends a worker.
 namespace BatchProtocol {
 
-/// The number of the first report of a worker. A worker that ends before it could not start: no picture is to blame.
+/// The number of a worker's first report. A worker that ends without it could not start, which is no picture's
+/// fault.
 constexpr qint32 workerIsReady = -1;
 
-/// The exit code of a worker that has no memory left to report that: the picture in work takes more than it may.
+/// The exit code of a worker that runs out of memory and cannot report it.
 constexpr int workerOutOfMemory = 10;
 
-/// What holds for every picture of a run. A later job replaces the one before.
+/// The settings of all pictures of a run. A later job replaces the previous one.
 struct Job
 {
     QString document; ///< the XML text of the job without its inputs: output settings and style
     ServerLimits limits;
 };
 
-/// Read what the plan of a run needs to know of a file, and write nothing.
+/// Look at a file for the plan of a run. Nothing is written.
 struct ProbeTask
 {
-    qint32 number = 0; ///< comes back in the report
+    qint32 number = 0; ///< repeated in the answers
     QString inputFile;
 };
 
 /// Make the result of one file.
 struct PictureTask
 {
-    qint32 number = 0; ///< comes back in the report
+    qint32 number = 0; ///< repeated in the answers
     QString inputFile;
     QString outputFile;           ///< the final name; its folder exists
     QString format;               ///< one of Formats(), never "Original"
-    bool replaceExisting = false; ///< else a file of the final name is left alone, whenever it appeared
+    bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
 };
 
-/// Which policy decides about a case that a worker reports.
+/// The policy that decides about a failure.
 enum class Case : qint32 { None, Input, Output, Processing, Naming, WriteToFormat };
 
-/// The worker turns to a task.
+/// The worker begins a task.
 struct Beginning
 {
     qint32 number = 0;
@@ -66,8 +67,8 @@ struct Report
     qint32 number = 0;
     Case failure = Case::None;                  ///< None: the task is done
     qint32 errorCode = ZTBatchMessage::NoError; ///< a ZTBatchMessage::Error
-    QString reason;                             ///< for the log: what was wrong, and where
-    QStringList warnings;                       ///< for the log, of tasks that were done nonetheless
+    QString reason;                             ///< for the log: what is wrong, and where
+    QStringList warnings;                       ///< for the log, of tasks that were done
     QString nearestFormat;                      ///< for WriteToFormat, and of a probe: a format that can
                                                 ///< hold the picture, one of Formats()
     QString inputFormat;                        ///< of a probe: as FormatOfFile() names it
@@ -78,22 +79,22 @@ struct Report
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;
 using FromWorker = std::variant<Beginning, Report>;
 
-/// The frame of a message: its bytes behind their count, 32 bits, big-endian.
+/// The frame of a message: the number of its bytes, 32 bits, big-endian, then the bytes.
 QByteArray FrameToWorker(const ToWorker& message);
 QByteArray FrameFromWorker(const FromWorker& message);
 
-/// Takes messages out of whatever pieces of a stream arrive.
+/// Reads messages from a stream that arrives in pieces of any size.
 class FrameReader
 {
 public:
-    /// Appends what has arrived.
+    /// Appends bytes that have arrived.
     void Append(const QByteArray& bytes);
 
-    /// The next message; nothing as long as it is incomplete, and from then on when the stream is broken.
+    /// The next message. Nothing while it is incomplete, or once the stream is broken.
     std::optional<ToWorker> NextToWorker();
     std::optional<FromWorker> NextFromWorker();
 
-    /// Whether the stream held what no message is: nothing more can be read from it.
+    /// Whether the stream had an invalid message. Nothing more can be read from it then.
     bool IsBroken() const { return isBroken; }
 
 private:

@@ -27,7 +27,7 @@ WorkerPool::WorkerPool(const QString& program, const ServerLimits& limits, QObje
 
 WorkerPool::~WorkerPool()
 {
-    // Their ends concern nobody any more.
+    // The workers end with this object; their signals would find it half destroyed.
     for (WorkerProcess* worker : qAsConst(workers)) {
         worker->disconnect(this);
     }
@@ -101,7 +101,7 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
         ++failures;
         qWarning("A worker %s.", qUtf8Printable(text));
     }
-    // A worker that cannot live, started again and again, would keep the machine busy with nothing.
+    // Workers that cannot run must not be started again and again.
     if (failures <= limits.workers + 1) {
         StartWorker();
     }
@@ -119,12 +119,13 @@ void WorkerPool::GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd
         if (drops.contains(task.run)) {
             continue;
         }
-        // One that ends between two tasks has suffered from something else, or from the next before it could say so.
+        // A worker that ends between two tasks ended for another reason, or over the next task before it could report
+        // its beginning. The next task gets a second try; if that ends the same way, it is blamed.
         const bool isNext = i == culprit + 1;
         const bool isBlamed = i == culprit || (culprit < 0 && isNext && task.isSecondTry);
         if (isBlamed && reason != WorkerEnd::Dropped) {
             if (i > 0) {
-                Q_EMIT Begun(task); // It could not be said before the earlier ones are reported.
+                Q_EMIT Begun(task); // Emitted late, as earlier tasks were not reported yet.
             }
             Q_EMIT Lost(task, reason, text);
         } else {

@@ -10,8 +10,8 @@
 
 namespace BatchProtocol {
 
-/// The workers: one for each core, started ahead, reused from picture to picture and from run to run. One that has
-/// ended is replaced. Each has the next task before it has finished the last, so that it never waits.
+/// A number of workers that are started in advance and reused for many tasks and runs. A worker that ends is replaced.
+/// Each gets its next task before it has finished the last, so that it never waits.
 class WorkerPool : public QObject
 {
     Q_OBJECT
@@ -20,22 +20,22 @@ public:
     WorkerPool(const QString& program, const ServerLimits& limits, QObject* parent = nullptr);
     ~WorkerPool() override;
 
-    /// Starts the workers that are not there, with hope again when earlier ones could not be started.
+    /// Starts the missing workers, even if earlier ones failed to start.
     void Start();
 
-    /// Whether a task of a run that has `left` tasks to hand out finds a worker. With few left a task waits for a
-    /// worker that is free, rather than behind another task.
+    /// Whether a worker can take a task of a run with `left` tasks to hand out. The last tasks of a run wait for an
+    /// idle worker, instead of queueing behind another task.
     bool HasRoom(int left) const;
 
-    /// Hands a task to a worker; HasRoom() was true.
+    /// Hands a task to a worker. HasRoom() must be true.
     void Give(const Assignment& task);
 
-    /// Ends the workers that have tasks of `run`. Dropped() comes when they are gone, in any case and never from inside
-    /// this call; none of the other signals comes for the run any more.
+    /// Ends the workers that have tasks of `run`. Always followed by Dropped() when they are gone, never from inside
+    /// this call. The other signals are no longer emitted for the run.
     void Drop(quint64 run);
 
 Q_SIGNALS:
-    /// A task may find a worker now.
+    /// HasRoom() may have become true.
     void RoomMade();
 
     void Begun(const Assignment& task);
@@ -44,12 +44,12 @@ Q_SIGNALS:
     /// The worker has ended over this task.
     void Lost(const Assignment& task, WorkerEnd reason, const QString& text);
 
-    /// The worker has ended, but over another task: it had not begun this one, or not yet reported it.
+    /// The worker has ended over another task. It had not begun this one, or finished but not reported it.
     void Returned(const Assignment& task);
 
     void Dropped(quint64 run);
 
-    /// No worker is left and none can be started.
+    /// No worker is left, and none can be started.
     void Broken(const QString& reason);
 
 private:

@@ -14,8 +14,8 @@ constexpr auto startTime = 30s;
 constexpr int endTime = 3000;    // ms
 constexpr int keptErrors = 1000; // bytes
 
-// There is a worker for each core: threads of a library's own would only take turns. A library that uses OpenMP reads
-// this when it is loaded, before a worker could set it.
+// There is a worker for each core, so further threads would only compete. OpenMP reads the variable when its library is
+// loaded, before a worker could set it.
 QProcessEnvironment EnvironmentOfWorkers()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -86,12 +86,12 @@ void WorkerProcess::End(WorkerEnd reason)
 QString WorkerProcess::EndText() const
 {
     const QString errors = QString::fromUtf8(lastErrors).trimmed();
-    return errors.isEmpty() ? exitText : QStringLiteral("%1; its last words: %2").arg(exitText, errors);
+    return errors.isEmpty() ? exitText : QStringLiteral("%1; its last output: %2").arg(exitText, errors);
 }
 
 int WorkerProcess::Culprit() const
 {
-    // The time that passes is that of the first.
+    // The time limit is that of the first task.
     return end == WorkerEnd::Hung ? 0 : begun - 1;
 }
 
@@ -105,9 +105,9 @@ void WorkerProcess::ReadReports()
             break;
         }
         if (const auto* beginning = std::get_if<Beginning>(&*message)) {
-            TakeBeginning(beginning->number);
+            OnBeginning(beginning->number);
         } else {
-            Take(std::get<Report>(*message));
+            OnReport(std::get<Report>(*message));
         }
     }
     if (self && reader.IsBroken()) {
@@ -115,7 +115,7 @@ void WorkerProcess::ReadReports()
     }
 }
 
-void WorkerProcess::Take(const Report& report)
+void WorkerProcess::OnReport(const Report& report)
 {
     if (!isReady) {
         if (report.number != workerIsReady) {
@@ -146,7 +146,7 @@ void WorkerProcess::Take(const Report& report)
     }
 }
 
-void WorkerProcess::TakeBeginning(qint32 number)
+void WorkerProcess::OnBeginning(qint32 number)
 {
     if (begun == tasks.size() || tasks[begun].file != number) {
         End(WorkerEnd::Garbage);
@@ -163,7 +163,7 @@ void WorkerProcess::NoteErrors()
 
 void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)
 {
-    // What it said before its end still counts.
+    // Messages from before the end still count.
     ReadReports();
     NoteErrors();
     clock.stop();
@@ -181,7 +181,7 @@ void WorkerProcess::FailToStart()
     clock.stop();
     exitText = process.errorString();
     end = WorkerEnd::FailedToStart;
-    // Inside the constructor nobody listens yet.
+    // In the constructor no signal is connected yet.
     QMetaObject::invokeMethod(
         this, [this] { Q_EMIT Ended(WorkerEnd::FailedToStart); }, Qt::QueuedConnection);
 }

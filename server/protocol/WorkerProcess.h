@@ -11,70 +11,70 @@
 
 namespace BatchProtocol {
 
-/// How a worker came to its end.
+/// Why a worker has ended.
 enum class WorkerEnd {
-    FailedToStart, ///< its process does not start, or ends before it is ready
+    FailedToStart, ///< its process did not start, or ended before it was ready
     Died,
-    OutOfMemory, ///< by its own word, or because it took more than it may
-    Hung,        ///< a task took longer than it may
-    Garbage,     ///< it said what is no answer
-    Dropped      ///< nobody wants its tasks any more
+    OutOfMemory, ///< reported by itself, or because it exceeded its limit
+    Hung,        ///< a task exceeded its time limit
+    Garbage,     ///< it sent an invalid answer
+    Dropped      ///< its tasks are no longer wanted
 };
 
-/// One worker and the tasks that it has. Ends with this object.
+/// A worker and its tasks. The worker ends with this object.
 class WorkerProcess : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Starts the worker. It is ready later, see Ready().
+    /// Starts the worker. Ready() follows.
     WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent);
     ~WorkerProcess() override;
 
     bool IsReady() const { return isReady && !end; }
     qint64 ProcessId() const { return process.processId(); }
 
-    /// The tasks that are not reported yet. When the worker has ended: those that it leaves.
+    /// The tasks that are not reported yet, also after the end of the worker.
     const QList<Assignment>& Tasks() const { return tasks; }
 
-    /// Of an ended worker: which of its tasks it has ended over; -1 when it was between two. Earlier tasks wait to be
-    /// reported, their results may be finished; later ones were not begun.
+    /// After the end of the worker: the index of the task over which it ended; -1 when it was between two tasks. The
+    /// results of earlier tasks may be finished though they are not reported; later tasks were not begun.
     int Culprit() const;
 
-    /// Hands over a task. It is done when the earlier ones are.
+    /// Hands over a task, to be done after the earlier ones.
     void Give(const Assignment& task);
 
-    /// Ends the worker for the reason given; Ended() comes when it is gone.
+    /// Kills the worker for `reason`. Ended() follows when it is gone.
     void End(WorkerEnd reason);
 
-    /// What is known of the worker's end, for logs.
+    /// How the worker ended, for logs.
     QString EndText() const;
 
 Q_SIGNALS:
     void Ready();
 
-    /// The worker turns to the task.
+    /// The worker has begun the task.
     void Begun(const Assignment& task);
     void Reported(const Assignment& task, const Report& report);
 
-    /// The worker has ended. Comes once; nothing comes after it.
+    /// The worker has ended. Emitted once, as the last signal.
     void Ended(WorkerEnd reason);
 
 private:
     void ReadReports();
-    void Take(const Report& report);
-    void TakeBeginning(qint32 number);
+    void OnReport(const Report& report);
+    void OnBeginning(qint32 number);
     void NoteErrors();
     void Finish(int exitCode, QProcess::ExitStatus status);
     void FailToStart();
 
     const int taskTime; ///< ms
     ChildProcess process;
-    QTimer clock; ///< runs while the worker owes an answer
+    QTimer clock; ///< runs while an answer is due
     FrameReader reader;
     QByteArray currentJob;
     QList<Assignment> tasks;
-    int begun = 0; ///< so many of the tasks
+    int begun = 0; ///< how many of the tasks the worker has begun
     bool isReady = false;
     std::optional<WorkerEnd> end;
     QByteArray lastErrors;

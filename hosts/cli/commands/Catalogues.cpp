@@ -56,10 +56,10 @@ QVector<Schema> Pick(const QVector<Schema>& all, const QStringList& names)
 QString DefaultText(const ParameterSchema& parameter)
 {
     if (parameter.defaultValue.isNull()) {
-        return QStringLiteral("has to be given");
+        return QStringLiteral("required");
     }
     if (parameter.defaultValue.isUndefined()) {
-        return QStringLiteral("may be left out");
+        return QStringLiteral("optional");
     }
     if (parameter.defaultValue.isString()) {
         const QString text = parameter.defaultValue.toString();
@@ -181,7 +181,7 @@ QString FormatListing(const QStringList& names)
         text += ParameterListing(format.options);
     }
     if (names.isEmpty()) {
-        text += QStringLiteral("Original\n  each result has the format of its input\n\nFiles that can be read: ") +
+        text += QStringLiteral("Original\n  the format of each input\n\nFiles that can be read: ") +
                 Wrapped(BatchJob::ReadableExtensions().join(QStringLiteral(", ")), 2, columns) + QLatin1Char('\n');
     }
     return text;

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// What there is: effects with their parameters, formats with their options. `names` picks some; none means all. Throws
-/// RequestError for a name that is not there.
+/// Lists of effects with their parameters and of formats with their options: of those in `names`, or of all when it is
+/// empty. Throw RequestError for an unknown name.
 namespace BatchCli {
 
 QString EffectListing(const QStringList& names);

@@ -6,14 +6,14 @@ class ZTBatchDocument;
 
 namespace BatchCli {
 
-/// Makes the job that `arguments` describe: a saved one, `savedJob` if that is not empty, changed by the options and
-/// with the inputs `inputs` added. Problems with folders go to standard error; their count is returned. While folders
-/// are read, a terminal shows how far it is. Throws RequestError.
+/// Builds the job that `arguments` describe: the saved job in the file `savedJob`, if that is not empty, with the
+/// options applied and `inputs` added. Writes problems with folders to standard error and returns their number. Shows
+/// progress on a terminal. Throws RequestError.
 int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
              const QStringList& inputs);
 
-/// The saved job among `arguments`, the first input when its name ends with ".xml"; empty when there is none. It is
-/// taken out of `inputs`.
+/// Removes the saved job from `inputs`, the first one if its name ends with ".xml", and returns it; empty when there is
+/// none.
 QString TakeSavedJob(QStringList& inputs);
 
 } // namespace BatchCli

@@ -6,7 +6,7 @@ class ZTBatchDocument;
 
 namespace BatchCli {
 
-/// A job for people: inputs as a tree, effects, and the output in the words of the options.
+/// A job as text for people: its inputs as a tree, and its settings and effects in the words of the options.
 QString JobListing(const ZTBatchDocument& job);
 
 } // namespace BatchCli

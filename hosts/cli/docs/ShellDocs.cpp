@@ -31,7 +31,7 @@ QString OptionEntry(const OptionInfo& option)
     return QStringLiteral(".TP\n%1\n%2%3\n").arg(names, Roff(option.help), more);
 }
 
-/// The options that several commands share are described once, under the first that has them.
+/// An option that several commands share is described under the first of them only.
 QString CommandSections()
 {
     QString text;
@@ -55,7 +55,7 @@ QString CommandSections()
             text += entry;
         }
         if (known > 0) {
-            text += QStringLiteral(".PP\nIt takes %1 of the options above, too; \\fB\\-\\-help\\fR lists them.\n")
+            text += QStringLiteral(".PP\nIt also takes %1 of the options above; \\fB\\-\\-help\\fR lists them.\n")
                         .arg(known);
         }
     }
@@ -127,7 +127,7 @@ QString ZshText(QString text)
     return text;
 }
 
-/// The names of an option, each with the sign that tells where its value stands.
+/// The names of an option, each with the sign that tells zsh where to expect its value.
 QString ZshNames(const OptionInfo& option)
 {
     const bool isSwitch = option.valueName.isEmpty();

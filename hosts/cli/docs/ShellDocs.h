@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// Texts about the command line for other readers than people at a prompt, made from the tables of commands.
+/// The manual page and the shell completions, generated from the tables of commands.
 namespace BatchCli {
 
-/// The manual page, in roff. `frame` is its text with "@COMMANDS@" where commands and options go, and "@VERSION@".
+/// The manual page, in roff. In `frame`, "@COMMANDS@" and "@VERSION@" are replaced.
 QString ManualPage(const QString& frame);
 
 QString BashCompletion();

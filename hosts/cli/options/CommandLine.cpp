@@ -29,7 +29,7 @@ QString Text(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// What CLI11 writes into while it parses. A list, so that its references stay.
+/// What CLI11 fills in while it parses. It keeps references to the fields, so slots are kept in a list.
 struct Slot
 {
     const OptionInfo* info = nullptr;
@@ -52,7 +52,7 @@ void AddOption(CLI::App& app, const OptionInfo& info, std::list<Slot>& slots)
         slot.option->type_size(1);
         slot.option->expected(1);
         slot.option->allow_extra_args(false);
-        slot.option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll); // Collect() counts.
+        slot.option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll); // Collect() reports repetitions.
     }
     slot.option->group(Bytes(info.group));
 }
@@ -65,7 +65,7 @@ QString WithoutDashes(QString name)
     return name;
 }
 
-/// The option of `command` that was meant by `name`; empty when none is near. Dashes do not make names alike.
+/// The option of `command` whose name is nearest to `name`, dashes aside; empty when none is near.
 QString NearestOption(const QString& name, const CommandInfo& command)
 {
     QStringList names;
@@ -99,13 +99,13 @@ void CheckFirstArgument(const QStringList& arguments)
 {
     const QString first = arguments.value(0);
     if (first.isEmpty()) {
-        throw RequestError{QStringLiteral("a command is needed: %1; \"velkora-batch --help\" tells more")
+        throw RequestError{QStringLiteral("no command: use one of %1, or \"velkora-batch --help\"")
                                .arg(CommandNames().join(QStringLiteral(", ")))};
     }
     if (first.startsWith(QLatin1Char('-'))) {
         const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version")};
         if (!known.contains(first)) {
-            throw RequestError{QStringLiteral("%1 stands before the command, where only %2 may stand%3")
+            throw RequestError{QStringLiteral("%1 is not allowed before the command, only %2%3")
                                    .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
         }
     } else if (!CommandNames().contains(first)) {
@@ -117,17 +117,17 @@ void CheckTexts(const QStringList& arguments)
 {
     for (int i = 0; i < arguments.size(); ++i) {
         if (!CanBeSaved(arguments.at(i))) {
-            throw RequestError{QStringLiteral("argument %1, \"%2\", has a character that no job can hold")
+            throw RequestError{QStringLiteral("argument %1, \"%2\", contains a character that a job cannot hold")
                                    .arg(QString::number(i + 1), arguments.at(i))};
         }
     }
 }
 
-/// An empty name is a slip, such as a variable without value; it must not mean the current folder.
+/// An empty name is a mistake, such as an unset variable in a script; it must not mean the current folder.
 void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
 {
     if (parsed.inputs.contains(QString())) {
-        throw RequestError{QStringLiteral("the name behind %1 is empty").arg(command.name)};
+        throw RequestError{QStringLiteral("an input of %1 has an empty name").arg(command.name)};
     }
     for (const OptionInfo& option : command.options) {
         const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
@@ -137,8 +137,8 @@ void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
     }
 }
 
-/// The inputs in what is no option of `command`. They are no positional option of CLI11 because that would take the
-/// name "[2024]" for a list.
+/// The inputs among the arguments that are not options of `command`. They are not a positional option of CLI11, which
+/// would take the name "[2024]" for a list.
 QStringList InputsAmong(const std::vector<std::string>& rest, const CommandInfo& command)
 {
     QStringList inputs;
@@ -170,7 +170,7 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
         }
         if (!slot.info->isRepeatable && values.size() > 1) {
             throw RequestError{
-                QStringLiteral("%1 is given %2 times and takes one value; leave \"%3\" or \"%4\" out")
+                QStringLiteral("%1 is given %2 times, but takes one value; remove \"%3\" or \"%4\"")
                     .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
         }
         parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);

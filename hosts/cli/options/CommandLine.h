@@ -6,13 +6,13 @@
 #include <QStringList>
 #include <QVector>
 
-/// The command line: what may stand in it, and what stood in it.
+/// The commands with their options, and the arguments of one call.
 namespace BatchCli {
 
 struct ParsedArguments
 {
     QString command;
-    QString message; ///< the help or version text, when only that was asked for
+    QString message; ///< the help or version text, if that is all the user asked for
     QStringList inputs;
     QHash<QString, QStringList> options; ///< by the option's name; switches have one empty value
 
@@ -24,7 +24,7 @@ struct ParsedArguments
 /// Every command with its options.
 const QVector<CommandInfo>& Commands();
 
-/// The options that change what a job says, those about its inputs among them.
+/// The options that describe a job, including its inputs.
 QVector<OptionInfo> OptionsOfJobs();
 
 /// Throws RequestError.

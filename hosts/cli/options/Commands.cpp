@@ -21,13 +21,13 @@ QVector<OptionInfo> InputOptions()
     return {
         {Text("--no-inputs"), QString(), Text("drops the inputs of the saved job first"), group},
         {Text("--include"), Text("WILDCARD"),
-         Text("takes only files of folders whose names match, such as \"*.nef\"; without it all that can be read are "
-              "taken. Files that are named are always taken"),
+         Text("takes only files whose names match, such as \"*.nef\"; default: all that can be read. Files that are "
+              "given by name are always taken"),
          group, true},
-        {Text("--exclude"), Text("WILDCARD"), Text("leaves out files and folders of folders whose names match"), group,
-         true},
-        {Text("--no-subfolders"), QString(), Text("takes no folders inside folders"), group},
-        {Text("--hidden"), QString(), Text("takes files and folders whose names begin with a dot, too"), group},
+        {Text("--exclude"), Text("WILDCARD"),
+         Text("leaves out files and folders whose names match, inside the given folders"), group, true},
+        {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
+        {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
     };
 }
 
@@ -38,7 +38,7 @@ QVector<OptionInfo> GeneralOptions()
         {Text("--quiet"), QString(), Text("prints problems only"), group, false, Completion::Nothing, {}, Text("-q")},
         {Text("--verbose"),
          QString(),
-         Text("prints what a search for a fault needs, too"),
+         Text("also prints details for finding faults"),
          group,
          false,
          Completion::Nothing,
@@ -81,25 +81,25 @@ QVector<CommandInfo> MakeCommands()
     const QVector<OptionInfo> ofLists =
         QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
     const QVector<OptionInfo> ofCreate =
-        QVector<OptionInfo>{{Text("--from"), Text("JOB.xml"), Text("begins with a saved job"), Text("Inputs"), false,
+        QVector<OptionInfo>{{Text("--from"), Text("JOB.xml"), Text("starts from a saved job"), Text("Inputs"), false,
                              Completion::Files},
-                            {Text("--force"), QString(), Text("replaces a file that exists"), Text("General")}} +
+                            {Text("--force"), QString(), Text("replaces an existing file"), Text("General")}} +
         ofJobs;
     return {
         {Text("run"), Text("[JOB.xml] [INPUT...]"),
-         Text("processes a saved job, or files and folders, or both; options change what the job says. Ends with 0 "
-              "when all was written, 1 when something was skipped or failed, 2 for wrong arguments or a wrong job, 3 "
-              "when the server could not be started or was lost, 4 when the run was cancelled"),
+         Text("processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
+              "pictures were written, 1 when some were skipped or failed, 2 for wrong arguments or a wrong job, 3 when "
+              "the server could not be started or was lost, 4 when the run was cancelled"),
          OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
-         Text("writes a job of these files and folders and options to a file, or to standard output for \"-\""),
-         ofCreate, Completion::Files},
+         Text("writes a job with these inputs and options to a file, or to standard output for \"-\""), ofCreate,
+         Completion::Files},
         {Text("show"), Text("[JOB.xml] [INPUT...]"),
          Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
          Completion::Files},
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints what would be written where: every input with its output, and in brackets what stands in the "
-              "way, with what the policy would do about it. Nothing is written. Ends with 1 when there are brackets"),
+         Text("prints every input with its output, and writes nothing. A problem is printed in brackets, with what "
+              "the policy would do about it. Exit status: 1 when there are problems"),
          OptionsOfJobs() + PolicyOptionInfos() +
              QVector<OptionInfo>{
                  {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
@@ -108,7 +108,7 @@ QVector<CommandInfo> MakeCommands()
         {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
          Completion::Words, EffectIds()},
         {Text("formats"), Text("[NAME...]"),
-         Text("lists the formats that results can have, with their options, and the files that can be read"), ofLists,
+         Text("lists the output formats with their options, and the files that can be read"), ofLists,
          Completion::Words, FormatNames()},
     };
 }

@@ -11,7 +11,7 @@ namespace {
 constexpr int lineColumns = 100;
 constexpr int textColumn = 34;
 
-/// "  name", and `help` from a column of its own on.
+/// "  name" with `help` in a column beside it.
 QString Entry(const QString& name, const QString& help)
 {
     const QString head = QStringLiteral("  ") + name;
@@ -54,8 +54,8 @@ QString ProgramHelp()
         text += Entry(command.name, command.help);
     }
     text += QStringLiteral("\nOptions:\n");
-    text +=
-        Entry(QStringLiteral("-h, --help"), QStringLiteral("prints this text; behind a command, that of the command"));
+    text += Entry(QStringLiteral("-h, --help"),
+                  QStringLiteral("prints this text; after a command, the help of that command"));
     text += Entry(QStringLiteral("    --version"), QStringLiteral("prints the version"));
     return text;
 }

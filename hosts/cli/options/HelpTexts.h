@@ -7,11 +7,11 @@ namespace BatchCli {
 /// One line about the program.
 QString ProgramDescription();
 
-/// What --help prints, of the program and of a command.
+/// The texts that --help prints for the program and for a command.
 QString ProgramHelp();
 QString CommandHelp(const CommandInfo& command);
 
-/// `text` in lines of at most `columns` columns, each behind `indent` blanks but the first.
+/// `text` in lines of at most `columns` columns. All but the first are indented by `indent` blanks.
 QString Wrapped(const QString& text, int indent, int columns);
 
 } // namespace BatchCli

@@ -58,7 +58,7 @@ auto ChangeCrop(Change change)
     };
 }
 
-/// Whoever says something about the frame wants one.
+/// An option about the frame turns it on.
 template<typename Change>
 auto ChangeFrame(Change change)
 {
@@ -130,7 +130,7 @@ void SetFormat(ZTBatchDocument& job, const QString& text)
     QByteArray options;
     Output(job).GetFormat(format, options);
     const QString wanted = FormatFromText(text);
-    // Options belong to their format.
+    // Format options are valid for their format only.
     Output(job).SetFormat(wanted, wanted == format ? options : QByteArray());
 }
 
@@ -156,7 +156,7 @@ void SetProfile(ZTBatchDocument& job, const QString& text)
     constexpr int signaturePosition = 36;
     const QByteArray profile = file.read(largestProfile);
     if (profile.mid(signaturePosition, 4) != "acsp") {
-        throw RequestError{QStringLiteral("%1 is no ICC profile").arg(text)};
+        throw RequestError{QStringLiteral("%1 is not an ICC profile").arg(text)};
     }
     Output(job).SetICCProfile(profile);
 }
@@ -165,14 +165,14 @@ QVector<JobOption> OutputOptions()
 {
     const QString group = Text("Output");
     return {
-        {{Text("--job-name"), Text("TEXT"), Text("the name that the saved job carries"), group},
+        {{Text("--job-name"), Text("TEXT"), Text("the name of the saved job"), group},
          [](ZTBatchDocument& job, const QString& text) { job.SetDocumentName(text); },
          [](const ZTBatchDocument& job) {
              return job.GetDocumentName().isEmpty() ? QStringList() : QStringList{job.GetDocumentName()};
          }},
         {{Text("--output"),
           Text("DIR"),
-          Text("the folder that results go to; it is made when it is missing"),
+          Text("the folder for the results; it is created when it does not exist"),
           group,
           false,
           Completion::Folders,
@@ -180,14 +180,14 @@ QVector<JobOption> OutputOptions()
           Text("-o")},
          [](ZTBatchDocument& job, const QString& text) {
              if (text.isEmpty()) {
-                 throw RequestError{Text("a folder is needed")};
+                 throw RequestError{Text("the name of the folder is empty")};
              }
              Output(job).SetPath(AbsolutePath(text));
          },
          [](const ZTBatchDocument& job) { return QStringList{Output(job).GetPath()}; }},
         {{Text("--structure"), Text("WORD"),
-          Text("which folders are made below it: flat, none; input, as in the inputs; date, by capture date"), group,
-          false, Completion::Words, AllWords(BatchJob::FolderStructureWords)},
+          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date"), group, false,
+          Completion::Words, AllWords(BatchJob::FolderStructureWords)},
          [](ZTBatchDocument& job, const QString& text) {
              Output(job).SetFolderStructure(Settings::FolderStructure(ValueOf(BatchJob::FolderStructureWords, text)));
          },
@@ -195,8 +195,8 @@ QVector<JobOption> OutputOptions()
              return QStringList{WordOf(BatchJob::FolderStructureWords, Output(job).GetFolderStructure())};
          }},
         {{Text("--format"), Text("FORMAT"),
-          Text("the format of results, by name or extension; Original keeps that of each input. Another format than "
-               "that of a saved job drops the job's format options"),
+          Text("the format of results, by name or extension; Original keeps that of each input. Changing the format "
+               "of a saved job drops its format options"),
           group, false, Completion::Words, FormatNames()},
          SetFormat,
          [](const ZTBatchDocument& job) {
@@ -215,7 +215,7 @@ QVector<JobOption> OutputOptions()
              return FormatOptionTexts(options);
          }},
         {{Text("--icc"), Text("FILE"),
-          Text("an ICC profile that results are converted to and carry; none keeps each input's own"), group, false,
+          Text("an ICC profile to convert results to and to embed; none keeps each input's own"), group, false,
           Completion::Files},
          SetProfile,
          [](const ZTBatchDocument& job) {
@@ -244,13 +244,13 @@ QVector<JobOption> NameOptions()
                  Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
                       "date; time; text:TEXT; nothing")),
         NamePart("--suffix", Settings::PartSuffix, Text("what a name ends with")),
-        {{Text("--prefix-separator"), Text("TEXT"), Text("stands between prefix and middle"), group},
+        {{Text("--prefix-separator"), Text("TEXT"), Text("the text between prefix and middle"), group},
          [](ZTBatchDocument& job, const QString& text) { Output(job).SetPrefixSeparator(text); },
          [](const ZTBatchDocument& job) {
              const QString separator = Output(job).GetPrefixSeparator();
              return separator.isEmpty() ? QStringList() : QStringList{separator};
          }},
-        {{Text("--suffix-separator"), Text("TEXT"), Text("stands between middle and suffix"), group},
+        {{Text("--suffix-separator"), Text("TEXT"), Text("the text between middle and suffix"), group},
          [](ZTBatchDocument& job, const QString& text) { Output(job).SetSuffixSeparator(text); },
          [](const ZTBatchDocument& job) {
              const QString separator = Output(job).GetSuffixSeparator();
@@ -286,7 +286,7 @@ QVector<JobOption> SizeOptions()
              const bool isScaled = imageSize.restriction != int(BatchJob::SizeRestriction::None);
              return QStringList{isScaled ? LengthText(imageSize) : none};
          }},
-        {{Text("--side"), Text("SIDE"), Text("the side that --size speaks of"), group, false, Completion::Words,
+        {{Text("--side"), Text("SIDE"), Text("the side that --size sets"), group, false, Completion::Words,
           AllWords(BatchJob::SizeSideWords)},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
              imageSize.side = ValueOf(BatchJob::SizeSideWords, text);
@@ -304,7 +304,7 @@ QVector<JobOption> SizeOptions()
              return WordOf(BatchJob::SizeRestrictionWords, imageSize.restriction);
          })},
         {{Text("--resolution"), Text("DPI"),
-          Text("dots per inch, for lengths in in, cm and mm; it is written into results, too"), group},
+          Text("dots per inch, for lengths in in, cm and mm; also written into results"), group},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
              constexpr int finest = 100'000;
              imageSize.resolution = IntegerFromText(text, 1, finest);
@@ -319,7 +319,7 @@ QVector<JobOption> SizeOptions()
           group, false, Completion::Words, AllWords(BatchJob::CropTypeWords)},
          ChangeCrop([](Settings::Crop& crop, const QString& text) { CropFromText(text, crop); }),
          [](const ZTBatchDocument& job) { return QStringList{CropText(Output(job).GetCropSettings())}; }},
-        {{Text("--crop-position"), Text("WORD"), Text("where the frame of ratio, fill and exact stands in the picture"),
+        {{Text("--crop-position"), Text("WORD"), Text("where ratio, fill and exact place the frame in the picture"),
           group, false, Completion::Words, AllWords(BatchJob::AlignmentWords)},
          ChangeCrop([](Settings::Crop& crop, const QString& text) {
              crop.alignment = ValueOf(BatchJob::AlignmentWords, text);
@@ -341,8 +341,8 @@ QVector<JobOption> FrameOptions()
     constexpr int farthest = 100'000;
     return {
         {{Text("--frame"), Text("MARGINS"),
-          Text("puts pictures on a frame: the pixels that stay free, one number for all sides or "
-               "LEFT,TOP,RIGHT,BOTTOM; none takes the frame away. Each of the options below asks for a frame, too"),
+          Text("puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; "
+               "none removes the frame. Each of the options below adds a frame"),
           group},
          ChangeFrame([](Frame& frame, const QString& text) {
              frame.state = text != none;
@@ -354,7 +354,7 @@ QVector<JobOption> FrameOptions()
              const Frame frame = Output(job).GetTransformationSettings();
              return QStringList{frame.state ? MarginsText(frame.margins) : none};
          }},
-        {{Text("--frame-size"), Text("WxH"), Text("the size of the frame in pixels; picture: that of each picture"),
+        {{Text("--frame-size"), Text("WxH"), Text("the size of the frame in pixels; picture: the size of each picture"),
           group},
          ChangeFrame([](Frame& frame, const QString& text) {
              frame.backgroundCustomOutput = text != Text("picture");
@@ -378,8 +378,9 @@ QVector<JobOption> FrameOptions()
              [](Frame& frame, const QString& text) { frame.blending = ValueOf(BatchJob::BlendingWords, text); }),
          ShowFrame([](const Frame& frame) { return WordOf(BatchJob::BlendingWords, frame.blending); })},
         {{Text("--background"), Text("BACKGROUND"),
-          Text("what the frame shows: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; "
-               "image:FILE"),
+          Text(
+              "the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; "
+              "image:FILE"),
           group, false, Completion::Words, AllWords(BatchJob::BackgroundTypeWords)},
          ChangeFrame([](Frame& frame, const QString& text) { BackgroundFromText(text, frame); }),
          ShowFrame([](const Frame& frame) { return BackgroundText(frame); })},
@@ -432,8 +433,8 @@ QVector<JobOption> EffectOptions()
          [](ZTBatchDocument& job, const QString&) { job.GetStyle()->Clear(); },
          [](const ZTBatchDocument&) { return QStringList(); }},
         {{Text("--effect"), Text("NAME:KEY=VALUE,..."),
-          Text("adds an effect behind those that are there, such as blur:sigma=2; NAME:{JSON} works, too, and off: in "
-               "front keeps it from being applied. \"velkora-batch effects\" lists them"),
+          Text("adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds "
+               "the effect disabled. \"velkora-batch effects\" lists all effects"),
           group, true, Completion::Words, ids},
          [](ZTBatchDocument& job, const QString& text) {
              const Effect effect = EffectFromText(text);

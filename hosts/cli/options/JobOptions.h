@@ -8,22 +8,22 @@
 
 class ZTBatchDocument;
 
-/// The one place where the options of the command line meet the values of a job.
+/// Maps the options of the command line to the values of a job and back.
 namespace BatchCli {
 
 struct JobOption
 {
     OptionInfo info;
 
-    /// Puts the value that a user wrote into a job. Throws RequestError.
+    /// Applies the value that a user wrote to a job. Throws RequestError.
     std::function<void(ZTBatchDocument&, const QString&)> apply;
 
-    /// The values that would give a job what it has now: one, or any number of a repeatable option. Empty where the
-    /// value means nothing, such as the shadow of a picture without frame.
+    /// The values of the option that would produce `job`: one, or several for a repeatable option. Empty where the
+    /// value has no effect, such as the shadow of a picture without a frame.
     std::function<QStringList(const ZTBatchDocument&)> texts;
 };
 
-/// Every value of a job but its inputs, in the order in which options are applied and shown.
+/// An option for every value of a job but its inputs, in the order in which they are applied and shown.
 const QVector<JobOption>& JobOptions();
 
 } // namespace BatchCli

@@ -4,11 +4,11 @@
 #include <QStringList>
 #include <QVector>
 
-/// Options and commands as data: arguments are parsed by them, and help texts, the manual page and the completions are
-/// written from them.
+/// Options and commands as data, from which arguments are parsed, and help texts, the manual page and the completions
+/// are generated.
 namespace BatchCli {
 
-/// What a shell offers where a value is to be typed.
+/// What a shell completes a value with.
 enum class Completion { Nothing, Files, Folders, Words };
 
 struct OptionInfo
@@ -26,10 +26,10 @@ struct OptionInfo
 struct CommandInfo
 {
     QString name;
-    QString inputs; ///< what stands behind it, "[JOB.xml] [INPUT...]"; empty for nothing
+    QString inputs; ///< the arguments after it, "[JOB.xml] [INPUT...]"; empty for none
     QString help;
     QVector<OptionInfo> options;
-    Completion completion = Completion::Nothing; ///< of what stands behind it
+    Completion completion = Completion::Nothing; ///< of the arguments after it
     QStringList words = {};
 };
 

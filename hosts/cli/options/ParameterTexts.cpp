@@ -36,7 +36,7 @@ Assignment Split(const QString& text)
 {
     const int sign = text.indexOf(QLatin1Char('='));
     if (sign <= 0) {
-        throw RequestError{QStringLiteral("\"%1\" has not the form KEY=VALUE").arg(text)};
+        throw RequestError{QStringLiteral("\"%1\" does not have the form KEY=VALUE").arg(text)};
     }
     return {text.left(sign).trimmed(), text.mid(sign + 1)};
 }
@@ -68,7 +68,7 @@ QJsonValue ValueFor(const QVector<ParameterSchema>& schema, const Assignment& as
     if (found == schema.end()) {
         const QStringList names = NamesOf(schema);
         throw RequestError{names.isEmpty()
-                               ? QStringLiteral("it takes no parameters, so \"%1\" is none").arg(assignment.name)
+                               ? QStringLiteral("it takes no parameters, but \"%1\" is given").arg(assignment.name)
                                : NoSuchWord(assignment.name, names).text};
     }
     const BatchJob::ParameterValue value = BatchJob::ParameterFromText(*found, assignment.value);
@@ -139,7 +139,7 @@ Effect EffectFromText(const QString& text)
         for (const BatchJob::EffectSchema& known : BatchJob::Effects()) {
             ids.append(known.id);
         }
-        throw RequestError{QStringLiteral("there is no effect \"%1\"; there are %2%3")
+        throw RequestError{QStringLiteral("unknown effect \"%1\"; the effects are %2%3")
                                .arg(effect.id, ids.join(QStringLiteral(", ")), NearestHint(effect.id, ids))};
     }
     effect.id = schema->id;
@@ -184,7 +184,7 @@ QString EffectText(const ZTStyle& style, int index)
         assignments.append(it.key() + QLatin1Char('=') + ValueText(it.value()));
     }
     const QString joined = assignments.join(QLatin1Char(','));
-    // A text that looks like the next parameter would be taken for one.
+    // A value may hold text that looks like another parameter.
     const bool isReadBack = SplitAll(joined).size() == assignments.size();
     return text + QLatin1Char(':') + (isReadBack ? joined : QString::fromUtf8(data));
 }

@@ -5,7 +5,7 @@
 
 class ZTStyle;
 
-/// Effects with their parameters and the options of formats, as users write them.
+/// Effects and format options as users write them.
 namespace BatchCli {
 
 /// An effect of a style.
@@ -16,14 +16,14 @@ struct Effect
     bool enabled = true;
 };
 
-/// "NAME", "NAME:KEY=VALUE,KEY=VALUE" or "NAME:{JSON}", with "off:" in front for an effect that is not applied. A comma
-/// begins a parameter only where a word and "=" follow, so that texts may hold commas. Throws RequestError.
+/// Reads "NAME", "NAME:KEY=VALUE,KEY=VALUE" or "NAME:{JSON}", with "off:" in front for a disabled effect. A comma
+/// begins a parameter only if a word and "=" follow, so texts may contain commas. Throws RequestError.
 Effect EffectFromText(const QString& text);
 
-/// The text of the effect at `index`; with JSON where the short form could not be read back.
+/// The text of the effect at `index`, with JSON if the short form could not be read back.
 QString EffectText(const ZTStyle& style, int index);
 
-/// `options` of a job in `format`, with one more of the form "KEY=VALUE". Throws RequestError.
+/// The format options `options` of a job in `format`, with the one in `text`, "KEY=VALUE", set. Throws RequestError.
 QByteArray WithFormatOption(const QString& format, const QByteArray& options, const QString& text);
 
 /// "KEY=VALUE" for each of the options, in their order.

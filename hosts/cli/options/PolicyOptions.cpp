@@ -19,7 +19,7 @@ QString HelpOf(PolicyKind kind)
     switch (kind) {
     case PolicyKind::Input:
         return QStringLiteral(
-            "when a file is missing, damaged, too large or no picture: skip it, stop the run, or ask");
+            "when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask");
     case PolicyKind::Output:
         return QStringLiteral(
             "when a result cannot be written, because of a full disk or missing rights: skip, stop or "
@@ -31,8 +31,9 @@ QString HelpOf(PolicyKind kind)
         return QStringLiteral("when a result's name is taken, on disk, by another result or by a source: skip, "
                               "overwrite, rename (\" (2)\" is appended) or ask");
     case PolicyKind::WriteToFormat:
-        return QStringLiteral("when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, the "
-                              "format that comes nearest");
+        return QStringLiteral(
+            "when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write "
+            "the nearest format that can hold it");
     }
     return {};
 }

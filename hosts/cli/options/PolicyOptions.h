@@ -8,15 +8,15 @@
 /// The five exception policies on the command line.
 namespace BatchCli {
 
-/// "--on-input-error" and so on.
+/// The name of the option for `kind`, such as "--on-input-error".
 QString PolicyOption(BatchJob::PolicyKind kind);
 
 QVector<OptionInfo> PolicyOptionInfos();
 
-/// Changes `values` where `arguments` say something else. Throws RequestError.
+/// Sets the values for which `arguments` have an option. Throws RequestError.
 void ApplyPolicies(const ParsedArguments& arguments, BatchJob::PolicyValues& values);
 
-/// The value of a word. Throws RequestError.
+/// The value of `word` for the policy `kind`. Throws RequestError.
 int PolicyValue(BatchJob::PolicyKind kind, const QString& word);
 
 } // namespace BatchCli

@@ -4,10 +4,10 @@
 
 namespace BatchCli {
 
-/// The options of "run" beside those of jobs and policies.
+/// The options of "run" other than those of jobs and policies.
 QVector<OptionInfo> RunOptionInfos();
 
-/// Sets the limits of the server, which it reads from its environment, as `arguments` say. Throws RequestError.
+/// Puts the limits in `arguments` into the environment, which the server inherits. Throws RequestError.
 void ApplyServerLimits(const ParsedArguments& arguments);
 
 /// The folder with the policies: --settings, else the user's.

@@ -55,7 +55,7 @@ double NumberFromText(const QString& text, double minimum, double maximum)
     const double number = QLocale::c().toDouble(text, &isNumber);
     if (!isNumber || !std::isfinite(number) || number < minimum || number > maximum) {
         throw RequestError{
-            QStringLiteral("\"%1\" is no number from %2 to %3").arg(text, NumberText(minimum), NumberText(maximum))};
+            QStringLiteral("\"%1\" is not a number from %2 to %3").arg(text, NumberText(minimum), NumberText(maximum))};
     }
     return number;
 }
@@ -65,7 +65,7 @@ int IntegerFromText(const QString& text, int minimum, int maximum)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum) {
-        throw RequestError{QStringLiteral("\"%1\" is no whole number from %2 to %3")
+        throw RequestError{QStringLiteral("\"%1\" is not a whole number from %2 to %3")
                                .arg(text, QString::number(minimum), QString::number(maximum))};
     }
     return number;
@@ -84,8 +84,10 @@ QSize SizeFromText(const QString& text)
     const QSize size(sides.value(0).toInt(&isWidth), sides.value(1).toInt(&isHeight));
     if (sides.size() != 2 || !isWidth || !isHeight || size.isEmpty() || size.width() > largestSide ||
         size.height() > largestSide) {
-        throw RequestError{QStringLiteral("\"%1\" is no WIDTHxHEIGHT of whole numbers from 1 to %2, such as 800x600")
-                               .arg(text, QString::number(largestSide))};
+        throw RequestError{
+            QStringLiteral(
+                "\"%1\" does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600")
+                .arg(text, QString::number(largestSide))};
     }
     return size;
 }
@@ -109,9 +111,10 @@ void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
     bool isNumber = false;
     imageSize.size = QLocale::c().toDouble(number.trimmed(), &isNumber);
     if (!isNumber || !(imageSize.size > 0) || imageSize.size > largestSide) {
-        throw RequestError{QStringLiteral("\"%1\" is no length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
-                                          "200mm; \"none\" keeps the size")
-                               .arg(text, QString::number(largestSide))};
+        throw RequestError{
+            QStringLiteral("\"%1\" is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
+                           "200mm; \"none\" keeps the size")
+                .arg(text, QString::number(largestSide))};
     }
 }
 
@@ -166,7 +169,7 @@ QColor ColourFromText(const QString& text)
         colour.setNamedColor(QLatin1Char('#') + text);
     }
     if (!colour.isValid() || colour.alpha() != 255) {
-        throw RequestError{QStringLiteral("\"%1\" is no colour; it must be #rrggbb or a name%2")
+        throw RequestError{QStringLiteral("\"%1\" is not a colour; use #rrggbb or a name%2")
                                .arg(text, NearestHint(text, QColor::colorNames()))};
     }
     return colour;
@@ -199,7 +202,8 @@ void BackgroundFromText(const QString& text, Settings::Transformation& transform
     const int type = ValueOf(BatchJob::BackgroundTypeWords, HeadOf(text));
     const auto need = [&](const char* example) {
         if (value.isEmpty()) {
-            throw RequestError{QStringLiteral("\"%1\" needs more, such as %2").arg(text, QLatin1String(example))};
+            throw RequestError{
+                QStringLiteral("\"%1\" is incomplete; complete it as in %2").arg(text, QLatin1String(example))};
         }
     };
     switch (BatchJob::BackgroundType(type)) {
@@ -249,12 +253,12 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
     const QStringList words = AllWords(BatchJob::NamingTemplateWords);
     if (!words.contains(head, Qt::CaseInsensitive)) {
         throw RequestError{NoSuchWord(head, words).text +
-                           QStringLiteral("; a text of your own is written text:%1").arg(text)};
+                           QStringLiteral("; write a text of your own as text:%1").arg(text)};
     }
     const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamingTemplateWords, head));
     const bool takesMore = kind == Settings::TemplateNumber || kind == Settings::TemplateCustomText;
     if (!takesMore && text.contains(QLatin1Char(':'))) {
-        throw RequestError{QStringLiteral("\"%1\" takes nothing behind it").arg(head)};
+        throw RequestError{QStringLiteral("\"%1\" takes no value").arg(head)};
     }
     if (kind == Settings::TemplateNumber) {
         constexpr int mostDigits = 20;

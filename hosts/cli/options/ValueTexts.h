@@ -7,11 +7,11 @@
 #include <QSize>
 #include <QString>
 
-/// The values of a job's output settings as users write them. Each pair of functions is its own inverse; the readers
-/// throw RequestError for what they do not understand.
+/// The values of a job's output settings as users write them. Each ...Text() writes what the matching ...FromText()
+/// reads; the latter throw RequestError for invalid text.
 namespace BatchCli {
 
-/// A decimal number with a point, in every locale.
+/// Decimal numbers with a point, whatever the locale.
 double NumberFromText(const QString& text, double minimum, double maximum);
 int IntegerFromText(const QString& text, int minimum, int maximum);
 QString NumberText(double number);

@@ -12,8 +12,8 @@ QString NearestHint(const QString& text, const QStringList& words)
 
 RequestError NoSuchWord(const QString& text, const QStringList& words)
 {
-    return {
-        QStringLiteral("\"%1\" is none of %2%3").arg(text, words.join(QStringLiteral(", ")), NearestHint(text, words))};
+    return {QStringLiteral("\"%1\" is not one of %2%3")
+                .arg(text, words.join(QStringLiteral(", ")), NearestHint(text, words))};
 }
 
 } // namespace BatchCli

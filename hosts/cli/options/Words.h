@@ -6,10 +6,10 @@
 
 #include <QStringList>
 
-/// The words of JobValues.h, read from and written to command lines.
+/// Reads words of the command line.
 namespace BatchCli {
 
-/// "; did you mean "X"?", or nothing when no word of `words` is near.
+/// "; did you mean "X"?", or nothing when none of `words` is similar to `text`.
 QString NearestHint(const QString& text, const QStringList& words);
 
 /// The error of a text that should have been one of `words`.

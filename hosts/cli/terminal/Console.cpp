@@ -11,7 +11,7 @@ namespace BatchCli {
 
 namespace {
 
-/// False when it did not all go out; errno says why.
+/// False when not everything was written; errno says why.
 bool Write(FILE* file, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();

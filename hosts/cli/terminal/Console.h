@@ -2,31 +2,31 @@
 
 #include <QString>
 
-/// Standard output and standard error, as UTF-8, and what the terminal can do. Each write goes out at once and whole.
+/// Standard output and standard error, as UTF-8, and properties of the terminal. Writes are not buffered.
 namespace BatchCli {
 
-/// Results: what was asked for. Once it has failed, nothing more is written.
+/// Writes to standard output: the results of a command. After a failure nothing more is written.
 void WriteOut(const QString& text);
 
 /// Why WriteOut() has failed; empty when it has not.
 QString OutputError();
 
-/// Everything else: problems, progress, questions. Nobody is told when it fails.
+/// Writes to standard error: problems, progress, questions. Failures are ignored.
 void WriteError(const QString& text);
 
-/// WriteError() of one line, whatever names are in it.
+/// Writes one line to standard error, see Visible().
 void WriteErrorLine(const QString& text);
 
-/// `text` with control characters as \xNN: a name with a line break stays in its line, and none commands the terminal.
+/// `text` with control characters as \xNN, so that no file name can break a line or control the terminal.
 QString Visible(const QString& text);
 
-/// What only the platform knows about a terminal.
+/// What depends on the terminal.
 namespace Terminal {
 
 bool IsInputTerminal();
 bool IsErrorTerminal();
 
-/// The columns of the terminal at standard error; 80 when nobody knows.
+/// The columns of the terminal at standard error; 80 when unknown.
 int Columns();
 
 /// How many columns `text` takes: none for combining characters, two for wide ones.

@@ -6,7 +6,7 @@ class QJsonObject;
 
 namespace BatchCli {
 
-/// The events of a run as JSON on standard output, one object a line. docs/reference/events.md describes them.
+/// Writes the events of a run to standard output as JSON, one object a line. docs/reference/events.md describes them.
 class EventWriter : public BatchHost::RunObserver
 {
 public:

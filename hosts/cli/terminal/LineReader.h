@@ -6,7 +6,7 @@
 
 namespace BatchCli {
 
-/// Reads lines that the user types, while the event loop goes on.
+/// Reads lines that the user types without blocking the event loop.
 class LineReader : public QObject
 {
     Q_OBJECT
@@ -15,14 +15,14 @@ public:
     explicit LineReader(QObject* parent = nullptr);
     ~LineReader() override;
 
-    /// From now on the next line is wanted.
+    /// Starts to read one line. Line() or Ended() follows.
     void Ask();
 
 Q_SIGNALS:
-    /// The line that was asked for, without its end.
+    /// A line, without its end.
     void Line(const QString& text);
 
-    /// There will be no line: standard input is at its end.
+    /// Standard input is at its end.
     void Ended();
 
 private:

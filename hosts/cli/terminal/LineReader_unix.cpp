@@ -22,7 +22,7 @@ LineReader::~LineReader() = default;
 
 void LineReader::Ask()
 {
-    // A terminal hands out whole lines, one with each read.
+    // In its line mode a terminal gives one whole line for each read.
     d->notifier = std::make_unique<QSocketNotifier>(STDIN_FILENO, QSocketNotifier::Read);
     connect(d->notifier.get(), &QSocketNotifier::activated, this, [this] {
         char bytes[1024];

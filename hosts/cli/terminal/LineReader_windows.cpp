@@ -23,7 +23,7 @@ Outcome ReadLine(QString& line)
     if (count == 0) {
         return GetLastError() == ERROR_OPERATION_ABORTED ? Outcome::Interrupt : Outcome::End;
     }
-    constexpr wchar_t controlZ = 0x1A; // The end, as one types it there.
+    constexpr wchar_t controlZ = 0x1A; // Ctrl-Z ends the input on Windows.
     if (text[0] == controlZ) {
         return Outcome::End;
     }
@@ -47,12 +47,12 @@ LineReader::~LineReader() = default;
 
 void LineReader::Ask()
 {
-    // A console cannot be watched. The thread ends with its line, or with the process.
+    // A console cannot be watched by an event loop. The thread ends with its line or with the process.
     std::thread([reader = QPointer<LineReader>(this)] {
         QString line;
         const Outcome outcome = ReadLine(line);
         if (outcome == Outcome::Interrupt) {
-            return; // InterruptWatcher tells of it.
+            return; // InterruptWatcher reports it.
         }
         QMetaObject::invokeMethod(reader.data(), [reader, outcome, line] {
             if (reader && outcome == Outcome::Line) {

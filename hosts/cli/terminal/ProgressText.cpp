@@ -11,7 +11,7 @@ namespace BatchCli {
 
 namespace {
 
-/// What a file counts beside its bytes: opening and naming it takes time even when it is empty.
+/// The weight of a file beside its bytes: even an empty file takes time.
 constexpr double bytesOfAnyFile = 64 * 1024;
 
 constexpr int narrowestBar = 10;

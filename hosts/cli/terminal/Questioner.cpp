@@ -10,7 +10,7 @@ namespace {
 
 const QString stopWord = QStringLiteral("stop");
 
-/// What may be answered; of two words that begin alike the earlier is meant by their common beginning.
+/// The possible answers. A beginning that several words share means the first of them.
 QStringList AnswerWords(PolicyKind kind)
 {
     QStringList words = PolicyWords(kind);
@@ -32,7 +32,7 @@ std::optional<UserAnswer> ReadAnswer(PolicyKind kind, const QString& line)
         if (!word.startsWith(given.first())) {
             continue;
         }
-        // Stopping is a value of some policies. Where it is none, the run is cancelled.
+        // Some policies have a value for "stop"; with the others the run is cancelled.
         const bool isValue = PolicyWords(kind).contains(word);
         return UserAnswer{isValue ? std::optional(PolicyValue(kind, word)) : std::nullopt, hasAll};
     }
@@ -42,9 +42,9 @@ std::optional<UserAnswer> ReadAnswer(PolicyKind kind, const QString& line)
 Questioner::Questioner(QObject* parent)
     : QObject(parent)
 {
-    connect(&reader, &LineReader::Line, this, &Questioner::Take);
+    connect(&reader, &LineReader::Line, this, &Questioner::ReadLine);
     connect(&reader, &LineReader::Ended, this, [this] {
-        WriteError(QStringLiteral("\nNobody answers: the file is skipped, and so are all that follow.\n"));
+        WriteError(QStringLiteral("\nNo more input: this file and all that follow with questions are skipped.\n"));
         Q_EMIT Answered({safePolicy, true});
     });
 }
@@ -58,12 +58,12 @@ void Questioner::Ask(PolicyKind newKind, const QString& input, const QString& re
 
 void Questioner::Prompt()
 {
-    WriteError(QStringLiteral("  %1? (\"all\" behind it: also for all that follow) ")
-                   .arg(AnswerWords(kind).join(QStringLiteral(", "))));
+    WriteError(
+        QStringLiteral("  %1? (add \"all\" for all that follow) ").arg(AnswerWords(kind).join(QStringLiteral(", "))));
     reader.Ask();
 }
 
-void Questioner::Take(const QString& line)
+void Questioner::ReadLine(const QString& line)
 {
     const std::optional<UserAnswer> answer = ReadAnswer(kind, line);
     if (answer) {

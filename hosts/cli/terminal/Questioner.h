@@ -11,15 +11,15 @@
 
 namespace BatchCli {
 
-/// What a user answers to a question.
+/// The answer to a question.
 struct UserAnswer
 {
-    std::optional<int> value; ///< a value of the policy's; nothing means that the run is to be stopped
+    std::optional<int> value; ///< a value of the policy; nothing to stop the run
     bool isForTheRest = false;
 };
 
-/// Understands `line`, an answer to a question about `kind`: a word of the policy or the beginning of one, "stop", and
-/// "all" behind it. Nothing when it is none.
+/// Reads the answer in `line` to a question about `kind`: a word of the policy or "stop", or the beginning of one, and
+/// optionally "all". Nothing when it is not an answer.
 std::optional<UserAnswer> ReadAnswer(BatchJob::PolicyKind kind, const QString& line);
 
 /// Asks the user at the terminal.
@@ -37,7 +37,7 @@ Q_SIGNALS:
 
 private:
     void Prompt();
-    void Take(const QString& line);
+    void ReadLine(const QString& line);
 
     LineReader reader;
     BatchJob::PolicyKind kind = BatchJob::PolicyKind::Input;

@@ -93,14 +93,14 @@ void RunDisplay::OnServerLost(const QStringList& inWork, bool goesOn)
     const QString where =
         inWork.isEmpty() ? QString() : QStringLiteral(" while it worked on ") + inWork.join(QStringLiteral(", "));
     Write(QStringLiteral("velkora-batch: the server ended unexpectedly%1%2.")
-              .arg(where, goesOn ? QStringLiteral("; a new one goes on") : QString()));
+              .arg(where, goesOn ? QStringLiteral("; a new one continues") : QString()));
 }
 
 void RunDisplay::OnCancelling()
 {
     isCancelling = true;
     if (detail != Detail::Quiet) {
-        Write(QStringLiteral("Cancelling; once more ends at once."));
+        Write(QStringLiteral("Cancelling; interrupt again to end at once."));
     }
     Refresh();
 }

@@ -11,7 +11,7 @@
 
 namespace BatchCli {
 
-/// A run on standard error: a moving line on a terminal, a line for each picture elsewhere, and every problem.
+/// Shows a run on standard error: a status line on a terminal, else a line for each picture, and every problem.
 class RunDisplay : public BatchHost::RunObserver
 {
 public:
@@ -20,7 +20,7 @@ public:
     explicit RunDisplay(Detail detail);
     ~RunDisplay() override;
 
-    /// Keeps the moving line away while the user is asked something.
+    /// Hide the status line while a question is open.
     void Suspend();
     void Resume();
 
@@ -40,7 +40,7 @@ private:
 
     const Detail detail;
     StatusLine line;
-    QTimer clock; ///< moves the line when nothing happens
+    QTimer clock; ///< updates the line between events
     QElapsedTimer time;
     Progress progress;
     QHash<QString, qint64> bytes;

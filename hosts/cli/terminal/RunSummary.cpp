@@ -14,7 +14,7 @@ namespace BatchCli {
 
 namespace {
 
-/// More are in the report, for whoever wants one.
+/// The report has all of them.
 constexpr int mostLines = 20;
 
 enum class Colour { Green = 32, Yellow = 33, Red = 31 };
@@ -45,7 +45,7 @@ QString Listed(const QStringList& paths)
     return paths.size() > most ? first + QStringLiteral(", ...") : first;
 }
 
-/// How long a run took; ProgressText's times are of what is left, in whole seconds.
+/// The duration of a run, with tenths of a second below one minute.
 QString TimeTaken(double seconds)
 {
     constexpr double minute = 60;
@@ -80,7 +80,7 @@ void RunSummary::OnEnd(const RunEnd& end)
                        .arg(end.outputFolder, TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
                    Colour::Green));
     if (!gone.isEmpty()) {
-        WriteErrorLine(QStringLiteral("    %1 of them, written before the interruption, %2 not there any more: %3")
+        WriteErrorLine(QStringLiteral("    %1 of them, written before the interruption, %2 missing now: %3")
                            .arg(QString::number(gone.size()),
                                 gone.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"), Listed(gone)));
     }
@@ -114,7 +114,7 @@ void RunSummary::Write(FileResult::Kind kind, int count) const
         }
     }
     if (lines > mostLines) {
-        WriteError(QStringLiteral("    and %1 more; --report FILE lists all\n").arg(lines - mostLines));
+        WriteError(QStringLiteral("    and %1 more; use --report FILE for all\n").arg(lines - mostLines));
     }
 }
 

@@ -4,7 +4,7 @@
 
 namespace BatchCli {
 
-/// The table at the end of a run, on standard error: what was written, skipped and failed, and why.
+/// Writes a table to standard error at the end of a run: how many files were written, skipped and failed, and why.
 class RunSummary : public BatchHost::RunObserver
 {
 public:
@@ -16,7 +16,7 @@ private:
     void Write(BatchHost::FileResult::Kind kind, int count) const;
 
     QVector<BatchHost::FileResult> unwritten;
-    QStringList gone; ///< results of an earlier part of the run that somebody has taken away
+    QStringList gone; ///< results from before the interruption that no longer exist
 };
 
 } // namespace BatchCli

@@ -32,7 +32,7 @@ void StatusLine::Show(const std::function<QString()>& make)
 void StatusLine::ShowNow(const QString& text)
 {
     if (isShown) {
-        // The last column stays free: some terminals break the line there.
+        // Some terminals break the line after their last column.
         WriteError(eraseLine + Terminal::Shortened(text, Terminal::Columns() - 1));
         isVisible = true;
         sinceLast.start();

@@ -7,8 +7,8 @@
 
 namespace BatchCli {
 
-/// One line on standard error that is written over and over: how far something is. Shows nothing when standard error is
-/// no terminal.
+/// A line on standard error that is overwritten as something progresses. Shows nothing when standard error is not a
+/// terminal.
 class StatusLine
 {
 public:
@@ -17,14 +17,14 @@ public:
 
     bool IsShown() const { return isShown; }
 
-    /// Shows the text that `make` gives, cut to the terminal's width; at most ten times a second, else `make` is not
-    /// asked.
+    /// Shows the text that `make` returns, cut to the terminal's width. Does nothing when called more than ten times a
+    /// second.
     void Show(const std::function<QString()>& make);
 
-    /// As Show(), but at once.
+    /// As Show(), but always.
     void ShowNow(const QString& text);
 
-    /// Takes the line away, so that something else can be written.
+    /// Erases the line, so that something else can be written.
     void Clear();
 
 private:

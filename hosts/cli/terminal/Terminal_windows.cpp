@@ -6,8 +6,8 @@ namespace BatchCli {
 
 namespace {
 
-/// The console at standard error. For as long as this process lives it understands the sequences that terminals do;
-/// one that cannot learn them counts as none.
+/// The console at standard error, with escape sequences switched on until this process ends. A console without them
+/// counts as no terminal.
 class ErrorConsole
 {
 public:

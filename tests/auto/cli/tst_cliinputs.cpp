@@ -31,7 +31,7 @@ QStringList FilesOf(const ZTBatchDocument& job, const QString& root)
 }
 
 #ifdef Q_OS_LINUX
-/// Root may read whatever the permissions of files say. While this lives, a test that root runs may not.
+/// Root may read files whatever their permissions. While this object lives, permissions hold for root too.
 class PermissionsHold
 {
 public:
@@ -135,7 +135,7 @@ void tst_CliInputs::FoldersAreReadWhole()
              QStringList({QStringLiteral("b/c/x.nef"), QStringLiteral("b/2.jpg"), QStringLiteral("b/10.JPG")}));
     QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 3);
     QVERIFY(collector.Problems().isEmpty());
-    // What was read is what is saved and loaded.
+    // Saving and loading keeps the inputs.
     ZTBatchDocument copy;
     QVERIFY(copy.Deserialize(job.Serialize(nullptr)));
     QCOMPARE(FilesOf(copy, root->path()), FilesOf(job, root->path()));
@@ -195,7 +195,7 @@ void tst_CliInputs::OutputFolderIsNoInput()
     QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 1);
     QVERIFY(collector.Problems().isEmpty());
 #ifdef Q_OS_UNIX
-    // By whatever way it is reached.
+    // However the folder is reached.
     QTemporaryDir elsewhere;
     const QString link = elsewhere.filePath(QStringLiteral("link"));
     QVERIFY(QFile::link(root->path(), link));
@@ -212,7 +212,8 @@ void tst_CliInputs::MissingInputsAreRefused()
     ZTBatchDocument job;
     InputCollector collector(job, {});
     QVERIFY_EXCEPTION_THROWN(
-        collector.Add({root->filePath(QStringLiteral("a.jpg")), root->filePath(QStringLiteral("b.jpg"))}), RequestError);
+        collector.Add({root->filePath(QStringLiteral("a.jpg")), root->filePath(QStringLiteral("b.jpg"))}),
+        RequestError);
 #ifdef Q_OS_UNIX
     QVERIFY_EXCEPTION_THROWN(collector.Add({QStringLiteral("/dev/null")}), RequestError);
 #endif
@@ -234,7 +235,7 @@ void tst_CliInputs::LinksAreFollowedOnce()
     QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("top/out/2.jpg"), QStringLiteral("top/z/1.jpg"),
                                                       QStringLiteral("top/3.jpg")}));
     QCOMPARE(collector.Problems().size(), 1);
-    QVERIFY(collector.Problems().value(0).contains(QStringLiteral("z/up leads in a circle")));
+    QVERIFY(collector.Problems().value(0).contains(QStringLiteral("z/up leads back to ")));
     QCOMPARE(collector.Repetitions().size(), 1);
     QVERIFY(collector.Repetitions().value(0).contains(QStringLiteral("top/a is the folder ")));
 }
@@ -256,11 +257,11 @@ void tst_CliInputs::OddEntriesAreReported()
     QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("a.jpg"), QStringLiteral("line\nbreak.jpg")}));
     QCOMPARE(collector.Problems().size(), 3);
     const QString problems = collector.Problems().join(QLatin1Char('\n'));
-    QVERIFY2(problems.contains(QStringLiteral("lost.jpg is a link that leads nowhere")), qPrintable(problems));
+    QVERIFY2(problems.contains(QStringLiteral("lost.jpg is a dangling link")), qPrintable(problems));
     QVERIFY2(problems.contains(QStringLiteral("\\xe9t\\xe9.jpg has a name that is not valid UTF-8")),
              qPrintable(problems));
-    std::remove((folder + "/\xE9t\xE9.jpg").constData()); // Qt could not.
-    QVERIFY2(problems.contains(QStringLiteral("bell\a.jpg has a name with a character that no job can hold")),
+    std::remove((folder + "/\xE9t\xE9.jpg").constData()); // Qt cannot remove it.
+    QVERIFY2(problems.contains(QStringLiteral("bell\a.jpg has a name with a character that a job cannot hold")),
              qPrintable(problems));
 }
 #endif

@@ -21,7 +21,7 @@ const JobOption& Option(const QString& name)
                          [&name](const JobOption& option) { return option.info.name == name; });
 }
 
-/// What the user is told; empty when all is well.
+/// The error message; empty when there is none.
 QString ErrorOf(ZTBatchDocument& job, const QString& option, const QString& value)
 {
     try {
@@ -32,7 +32,7 @@ QString ErrorOf(ZTBatchDocument& job, const QString& option, const QString& valu
     return {};
 }
 
-/// A job without a single default, made by options alone.
+/// Fills a job by options only, without leaving a single default.
 void Fill(ZTBatchDocument& job)
 {
     const QVector<QPair<const char*, const char*>> values{{"--output", "/tmp/results"},
@@ -151,7 +151,7 @@ void tst_CliOptions::ValuesReachTheJob()
     QVERIFY(style.DataAt(2).isEmpty());
 }
 
-// What is shown of a job makes the same job.
+// The options that are shown for a job produce the same job.
 void tst_CliOptions::EveryValueCanBeReadBack()
 {
     ZTBatchDocument job;
@@ -174,28 +174,28 @@ void tst_CliOptions::WrongValuesAreExplained_data()
         QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(option), QLatin1String(value))))
             << QString::fromLatin1(option) << QString::fromUtf8(value) << QString::fromLatin1(wanted);
     };
-    row("--output", "", "a folder is needed");
+    row("--output", "", "the name of the folder is empty");
     row("--structure", "flta", "did you mean \"flat\"?");
     row("--format", "JPGE", "did you mean \"JPEG\"?");
-    row("--format", "bmp", "is none of Original, JPEG");
+    row("--format", "bmp", "is not one of Original, JPEG");
     row("--format-option", "quality", "KEY=VALUE");
     row("--format-option", "qualty=3", "did you mean \"quality\"?");
     row("--format-option", "quality=101", "from 1 to 100");
     row("--icc", "/nowhere.icc", "/nowhere.icc cannot be read");
-    row("--icc", "/dev/null", "no ICC profile");
+    row("--icc", "/dev/null", "not an ICC profile");
     row("--name", "Holiday", "text:Holiday");
-    row("--name", "date:3", "takes nothing behind it");
-    row("--name", "number:x", "no whole number");
+    row("--name", "date:3", "takes no value");
+    row("--name", "number:x", "not a whole number");
     row("--name", "number:1:21", "from 1 to 20");
-    row("--size", "0", "no length above 0");
-    row("--size", "1000001", "no length above 0 and up to 1000000, such as");
-    row("--size", "-5", "no length above 0");
-    row("--size", "5 miles", "no length above 0");
-    row("--size", "nan", "no length above 0");
-    row("--side", "longest", "is none of width, height, long, short; did you mean");
+    row("--size", "0", "not a length above 0");
+    row("--size", "1000001", "not a length above 0 and up to 1000000, such as");
+    row("--size", "-5", "not a length above 0");
+    row("--size", "5 miles", "not a length above 0");
+    row("--size", "nan", "not a length above 0");
+    row("--side", "longest", "is not one of width, height, long, short; did you mean");
     row("--resolution", "0", "from 1 to");
-    row("--resolution", "%1", "\"%1\" is no whole number from 1 to 100000");
-    row("--size", "inf", "no length above 0");
+    row("--resolution", "%1", "\"%1\" is not a whole number from 1 to 100000");
+    row("--size", "inf", "not a length above 0");
     row("--crop", "ratio", "needs a size");
     row("--crop", "trim:3x2", "takes no size");
     row("--crop", "ratio:3", "WIDTHxHEIGHT");
@@ -204,8 +204,8 @@ void tst_CliOptions::WrongValuesAreExplained_data()
     row("--frame", "-1", "LEFT,TOP,RIGHT,BOTTOM");
     row("--frame-opacity", "1.5", "from 0 to 1");
     row("--frame-opacity", "0,5", "from 0 to 1");
-    row("--background", "red", "is none of none, colour, pattern, image");
-    row("--background", "colour", "needs more");
+    row("--background", "red", "is not one of none, colour, pattern, image");
+    row("--background", "colour", "is incomplete");
     row("--background", "colour:blakc", "did you mean \"black\"?");
     row("--background", "pattern:8", "from 0 to 7");
     row("--shadow", "dorp", "did you mean \"drop\"?");
@@ -281,10 +281,10 @@ void tst_CliOptions::WrongArgumentsAreExplained_data()
         QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
                                  << QString::fromLatin1(wanted);
     };
-    row("", "a command is needed: run, create, show");
+    row("", "no command: use one of run, create, show");
     row("shwo", "did you mean \"show\"?");
     row("--versoin", "did you mean \"--version\"?");
-    row("--output x show", "stands before the command");
+    row("--output x show", "is not allowed before the command");
     row("show --ouput x", "unknown option --ouput; did you mean \"--output\"?");
     row("show --ouput=x", "unknown option --ouput; did you mean \"--output\"?");
     row("show --xyzzy", "--help");
@@ -292,10 +292,10 @@ void tst_CliOptions::WrongArgumentsAreExplained_data()
     row("show --size 1 --size 2", "--size");
     row("effects --output x", "unknown option --output");
     row("show -5", "unknown option -5");
-    row("show a\x01z", "argument 2, \"a\x01z\", has a character that no job can hold");
-    row("show \xEF\xBF\xBF", "has a character that no job can hold");
+    row("show a\x01z", "argument 2, \"a\x01z\", contains a character that a job cannot hold");
+    row("show \xEF\xBF\xBF", "contains a character that a job cannot hold");
     QTest::newRow("empty input") << QStringList{QStringLiteral("show"), QString()}
-                                 << QStringLiteral("the name behind show is empty");
+                                 << QStringLiteral("an input of show has an empty name");
     QTest::newRow("empty name of a file")
         << QStringList{QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("--from"), QString()}
         << QStringLiteral("--from: the name is empty");

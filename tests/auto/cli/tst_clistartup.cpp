@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Of the command line's preparations, those that no run of the command can show for certain.
+/// The preparations of the process that runs of the command cannot show reliably.
 class tst_CliStartup : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void CopiesEndWithTheirProcess();
 };
 
-// The copy holds one end of a pipe. Nobody writes: the other end tells when the copy is gone.
+// The copy holds one end of a pipe, and nobody writes. So the other end shows when the copy is gone.
 void tst_CliStartup::CopiesEndWithTheirProcess()
 {
     std::array<int, 2> pipe{};

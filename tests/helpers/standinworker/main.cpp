@@ -1,17 +1,17 @@
-// A worker that makes no pictures: it does what the first line of its input file says. Without such a line the result
-// is a file with the input's content.
+// A worker that makes no pictures, but executes the command in the first line of its input file. Without a command the
+// result is a file with the input's content.
 //
-//     crash | hang | stop | exit | outofmemory   end, or do not end, with half a temporary file in the folder
+//     crash | hang | stop | exit | outofmemory   ends or hangs, and leaves a temporary file in the folder
 //     eat                                        takes memory until it is ended
-//     garbage | alien | flood                    says what is no answer: no frame, another number, one that never ends
-//     late garbage | late crash                  is no worker any more once it has answered
-//     held                                       tells that it is done only after it has begun the next
-//     wait PATH                                  goes on when there is a file PATH
-//     input CODE | output CODE | ...             reports a case with the error code
-//     format NAME                                cannot be written in any format but this one
-//     crashprobe | hangprobe | eatprobe          do the same as crash, hang and eat when the file is probed
+//     garbage | alien | flood                    sends an invalid answer: no frame, a wrong number, an endless frame
+//     late garbage | late crash                  misbehaves after it has answered
+//     held                                       reports only after it has begun the next task
+//     wait PATH                                  waits for the file PATH
+//     input CODE | output CODE | ...             reports a failure of that case with the error code
+//     format NAME                                can write this format only
+//     crashprobe | hangprobe | eatprobe          does as crash, hang and eat when the file is probed
 //
-// A file "start.script" beside the executable makes it end at once, a file "job.script" when it gets a job.
+// With a file "start.script" beside the executable it ends at once, with "job.script" when it gets a job.
 
 #include "ProcessEnd.h"
 
@@ -68,7 +68,7 @@ Report Failure(Case kind, int code, const QString& nearest = {})
     }
 }
 
-/// Until somebody outside lets the process go on.
+/// Stops until another process continues this one.
 void Stop()
 {
 #ifdef Q_OS_WIN
@@ -78,7 +78,7 @@ void Stop()
 #endif
 }
 
-/// What is read and written are bytes, not lines of text.
+/// Standard channels carry bytes, not lines of text.
 void PrepareStreams()
 {
 #ifdef Q_OS_WIN
@@ -87,8 +87,8 @@ void PrepareStreams()
 #endif
 }
 
-/// What has come on standard input, as soon as something has; not more than 0 at its end. QFile would wait for as much
-/// as there is room on Windows.
+/// Reads what is available on standard input, and waits only if nothing is. Returns 0 or less at its end. On Windows
+/// QFile would wait until the buffer is full.
 int ReadInput(char* buffer, unsigned size)
 {
     constexpr int standardInput = 0;
@@ -126,7 +126,7 @@ Report WriteResult(const PictureTask& task, const QByteArray& content)
     return report;
 }
 
-/// The commands that keep the worker from an answer.
+/// Executes the commands that prevent an answer.
 void Misbehave(const QByteArray& command, const PictureTask& task)
 {
     const QList<QByteArray> endings{"crash", "hang", "stop", "exit", "outofmemory", "eat"};
@@ -155,7 +155,7 @@ Report Make(const PictureTask& task)
         return Failure(Case::Input, ZTBatchMessage::ReadFileError);
     }
     const QByteArray content = input.readAll();
-    input.close(); // The result may take its place, which Windows grants to closed files alone.
+    input.close(); // The result may replace it, which Windows allows for closed files only.
     const QList<QByteArray> line = content.split('\n')[0].split(' ');
     const QByteArray command = line[0];
     const QByteArray argument = line.value(1);

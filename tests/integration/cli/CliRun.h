@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// velkora-batch as a process: run to its end, with what it wrote.
+/// A run of velkora-batch as a process, to its end, with its output.
 struct CliRun
 {
     int exitCode = -1; ///< -1: it crashed or did not end in time

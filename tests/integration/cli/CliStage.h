@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// velkora-batch in a folder of its own, beside the server that a test wants, and a folder in which it works. Needs no
-/// picture worker.
+/// velkora-batch in a folder of its own, beside the server that a test wants, and a working folder. Needs no picture
+/// worker.
 class CliStage
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     QString Program() const;
 
-    /// Makes of a stage without worker one with a stand-in.
+    /// Adds the stand-in worker to a stage without a worker.
     void PlaceWorker() const;
 
     /// The rules of the scripted server, for servers that start from now on.
@@ -32,7 +32,7 @@ public:
     /// The rules for servers that start after one has done the action "next".
     void PlayNext(const QStringList& rules) const;
 
-    /// The absolute path of `name` in the folder in which the program works.
+    /// The absolute path of `name` in the working folder.
     QString Path(const QString& name) const { return work.filePath(name); }
 
     /// Writes a file, with the folders above it, and returns its path.
@@ -44,7 +44,7 @@ public:
     /// The names of all files in a folder, hidden ones too, sorted.
     QStringList Names(const QString& folder) const;
 
-    /// `arguments` as the program takes them: split at blanks, and with settings of its own where it reads settings.
+    /// `arguments`, split at blanks, with a settings folder of its own for commands that read settings.
     QStringList Arguments(const QString& arguments) const;
 
     /// Runs the program to its end.

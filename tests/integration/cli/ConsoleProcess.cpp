@@ -42,7 +42,7 @@ ConsoleProcess::ConsoleProcess(const QString& program, const QStringList& argume
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION started{};
-    SetConsoleCtrlHandler(nullptr, FALSE); // It would be inherited.
+    SetConsoleCtrlHandler(nullptr, FALSE); // Otherwise the process would inherit it.
     std::wstring line = CommandLine(program, arguments).toStdWString();
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
                         QDir::toNativeSeparators(folder).toStdWString().c_str(), &startup, &started)) {
@@ -51,11 +51,11 @@ ConsoleProcess::ConsoleProcess(const QString& program, const QStringList& argume
     CloseHandle(started.hThread);
     process = started.hProcess;
     FreeConsole();
-    // The console is there a moment after the process.
+    // The console exists a moment after the process.
     if (!QTest::qWaitFor([&] { return AttachConsole(started.dwProcessId) != FALSE; }, patience)) {
         qFatal("The process has no console.");
     }
-    SetConsoleCtrlHandler(nullptr, TRUE); // What is typed concerns the process.
+    SetConsoleCtrlHandler(nullptr, TRUE); // Typed interrupts are for the process, not for the test.
     output = Open(L"CONOUT$");
     input = Open(L"CONIN$");
 }

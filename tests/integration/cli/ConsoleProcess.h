@@ -3,32 +3,32 @@
 #include <QString>
 #include <QStringList>
 
-/// A process with a console of Windows of its own, which has no window, and the test as the user before it: it reads
-/// the console's screen and types. One at a time.
+/// A process with a Windows console of its own, without a window. The test is the user: it reads the screen and types.
+/// Only one at a time.
 class ConsoleProcess
 {
 public:
     /// Starts `program` in `folder`. The test joins its console.
     ConsoleProcess(const QString& program, const QStringList& arguments, const QString& folder);
 
-    /// Ends what still runs, and leaves the console.
+    /// Ends the process if it still runs, and leaves the console.
     ~ConsoleProcess();
 
-    /// Everything on the screen, rows one after the other without line ends. Where a console does not interpret the
-    /// sequences of terminals they stand in it.
+    /// Everything on the screen, as rows without line ends. Includes the escape sequences that the console does not
+    /// interpret.
     QString Screen() const;
 
-    /// The rows of the screen that are not empty, without such sequences.
+    /// The rows of the screen that are not empty, without escape sequences.
     QStringList Rows() const;
 
-    /// Waits until the screen shows `text` so many times; false when it has not within a minute.
+    /// Waits until the screen shows `text` as often as wanted; false when it does not within a minute.
     bool WaitFor(const QString& text, int count = 1) const;
 
-    /// Whether `text` stands in the colour of this number, as terminals count (32 is green): by its attributes, or by
-    /// the sequence before it.
+    /// Whether `text` has the colour of this number, as in escape sequences (32 is green): by its attributes, or by the
+    /// escape sequence before it.
     bool HasColour(const QString& text, int colour) const;
 
-    /// Whether the process has asked the console to interpret the sequences of terminals.
+    /// Whether the process has asked the console to interpret escape sequences.
     bool InterpretsSequences() const;
 
     void Type(const QString& line);

@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-/// Runs at a console of Windows, with a user who watches, answers and interrupts.
+/// Runs at a Windows console, with a user who watches, answers and interrupts.
 class tst_CliConsole : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private:
     {
         return std::make_unique<ConsoleProcess>(stage->Program(), stage->Arguments(arguments), stage->Folder());
     }
-    /// The files in the folder for results, without the journal of a run that can be taken up.
+    /// The files in the output folder, without the journal of a run that can be resumed.
     QStringList Results() const { return stage->Names(QStringLiteral("out")).filter(QStringLiteral(".jpg")); }
 
     std::unique_ptr<CliStage> stage;
@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-const QString question = QStringLiteral("also for all that follow)");
+const QString question = QStringLiteral("for all that follow)");
 
 } // namespace
 
@@ -63,7 +63,7 @@ void tst_CliConsole::ProgressIsOneLine()
     QCOMPARE(console->ExitCode(), 0);
     QVERIFY2(console->HasColour(QStringLiteral("Written"), 32), qUtf8Printable(console->Screen()));
     QVERIFY2(!console->Screen().contains(QStringLiteral("nobody can be asked")), qUtf8Printable(console->Screen()));
-    // The console is left as it was found.
+    // The mode of the console is restored.
     QVERIFY(!console->InterpretsSequences());
     QCOMPARE(Results().size(), 3);
 }
@@ -136,7 +136,7 @@ void tst_CliConsole::InterruptCancels()
     QCOMPARE(console->ExitCode(), 4);
     QVERIFY2(console->Screen().contains(QStringLiteral("Cancelled.")), qUtf8Printable(console->Screen()));
     QVERIFY2(console->Screen().contains(QStringLiteral("Not processed")), qUtf8Printable(console->Screen()));
-    // The server was asked, and not ended by the console: it has taken its unfinished files away.
+    // The server was asked to end, not ended by the console: it has removed its unfinished files.
     QVERIFY2(!console->Screen().contains(QStringLiteral("ended unexpectedly")), qUtf8Printable(console->Screen()));
     QCOMPARE(Results(), QStringList{QStringLiteral("1.jpg")});
     QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".tmp")).isEmpty());

@@ -149,7 +149,7 @@ void tst_CliJobs::JobsWithoutPictures()
     QCOMPARE(later.err, QByteArray("b.xml: a job of 1 picture.\n"));
 }
 
-/// In whatever order they are named.
+/// The order in which they are named does not matter.
 void tst_CliJobs::InputsNamedTwice_data()
 {
     QTest::addColumn<QString>("inputs");
@@ -214,7 +214,7 @@ void tst_CliJobs::FilesAreNotReplacedUnasked()
     QFile file(Path(QStringLiteral("a.xml")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("precious"));
-    // Windows replaces no file that is open.
+    // Windows does not replace open files.
     file.close();
     arguments.append(QStringLiteral("--force"));
     QCOMPARE(Run(arguments).exitCode, 0);
@@ -262,7 +262,7 @@ void tst_CliJobs::WrongJobsAreExplained_data()
     const auto row = [](const char* name, const char* arguments, const QByteArray& job, const char* wanted) {
         QTest::newRow(name) << QString::fromLatin1(arguments) << job << QString::fromLatin1(wanted);
     };
-    row("no arguments", "", none, "a command is needed");
+    row("no arguments", "", none, "no command: use one of");
     row("no file", "create", none, "JOB.xml INPUT...");
     row("no job's name", "create photos -ox", none, "a name that ends with .xml");
     row("empty folder", "create a.xml empty -ox", none, "no pictures: name files");
@@ -273,7 +273,7 @@ void tst_CliJobs::WrongJobsAreExplained_data()
     row("name that an option has elsewhere", "show photos --json", none,
         "unknown option --json; \"velkora-batch show --help\" lists the options");
     row("option twice", "create a.xml photos -ox --format png --format jpeg", none,
-        "--format is given 2 times and takes one value; leave \"png\" or \"jpeg\" out");
+        "--format is given 2 times, but takes one value; remove \"png\" or \"jpeg\"");
     row("wrong option", "create a.xml photos --ouput x", none, "did you mean \"--output\"?");
     row("wrong effect", "create a.xml photos -ox --effect blurr", none, "did you mean \"blur\"?");
     row("cannot be written", "create nowhere/a.xml photos -ox", none, "nowhere/a.xml cannot be written");
@@ -318,7 +318,7 @@ void tst_CliJobs::ProblemsAreToldAndCounted()
     const CliRun run = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"),
                             QStringLiteral("-ox"), QStringLiteral("-q")});
     QCOMPARE(run.exitCode, 1);
-    QVERIFY(run.err.contains("photos/lost.jpg is a link that leads nowhere."));
+    QVERIFY(run.err.contains("photos/lost.jpg is a dangling link."));
     QVERIFY(QFile::exists(Path(QStringLiteral("a.xml"))));
 }
 

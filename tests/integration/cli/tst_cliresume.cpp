@@ -17,7 +17,7 @@ namespace {
 
 using Files = QMap<QString, QByteArray>;
 
-/// Every file below `folder`, hidden ones too, by its path in it.
+/// The content of every file below `folder`, including hidden files, by its relative path.
 Files FilesBelow(const QString& folder)
 {
     Files files;
@@ -33,8 +33,8 @@ Files FilesBelow(const QString& folder)
 
 } // namespace
 
-/// Runs that are interrupted, and those that go on where they were.
-// A kill costs three runs. The plain build looks for moments, the sanitizers for what happens at any of them.
+/// Runs that are interrupted and resumed.
+// A kill costs three runs. The plain build tries many moments, builds with sanitizers a few.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr int killsForEachRow = 5;
 constexpr int leastResumed = 0;
@@ -92,7 +92,7 @@ void tst_CliResume::init()
     environment = QProcessEnvironment::systemEnvironment();
     QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
     environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
-    // The names of the two folders meet in one output folder.
+    // Both folders have results of the same names in one output folder.
     for (int i = 1; i <= 6; ++i) {
         PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 500, 400);
         PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, 500, 400);
@@ -111,8 +111,8 @@ void tst_CliResume::KilledAtAnyMoment_data()
                                        << 4U;
 }
 
-// The union of what the two parts of a run write is what an undisturbed run writes, byte for byte. Most of a run is
-// waiting, so some go on at a time, each in a folder of its own.
+// The two parts of a run together write what an undisturbed run writes, byte for byte. Runs spend most of their time
+// waiting, so several run at a time, each in a folder of its own.
 void tst_CliResume::KilledAtAnyMoment()
 {
     QFETCH(QString, options);
@@ -137,14 +137,14 @@ void tst_CliResume::KilledAtAnyMoment()
         QVERIFY(undisturbed.isEmpty() || files == undisturbed);
         undisturbed = files;
     }
-    int duration = int(time.elapsed()); // of the runs, which other processes of the machine may change at any time
+    int duration = int(time.elapsed()); // of a run; other load on the machine may change it at any time
 
     QRandomGenerator random(seed);
     int resumed = 0;
     for (int kills = 0; kills < killsForEachRow; kills += lanes) {
         std::array<int, lanes> moments{};
         for (int& moment : moments) {
-            // The first second passes until the server is reached.
+            // Starting and reaching the server takes up to a second.
             moment = std::min(800, duration / 2) + random.bounded(duration);
         }
         std::sort(moments.begin(), moments.end());
@@ -172,7 +172,7 @@ void tst_CliResume::KilledAtAnyMoment()
             const bool hadNothingToDo = run.exitCode() == 2;
             QVERIFY2(!hadNothingToDo || err.contains("there is no interrupted run"), err.constData());
             if (hadNothingToDo && wasKilled[std::size_t(lane)] && files.size() == 1) {
-                QCOMPARE(files.firstKey(), QStringLiteral("2.jpg")); // It had not begun.
+                QCOMPARE(files.firstKey(), QStringLiteral("2.jpg")); // The run had not begun.
                 continue;
             }
             resumed += hadNothingToDo ? 0 : 1;
@@ -233,9 +233,9 @@ void tst_CliResume::InterruptKeepsTheRun()
     QVERIFY2(rest.err.contains("[12/12] "), rest.err.constData());
     QVERIFY2(!rest.err.contains("[1/12] "), rest.err.constData());
     QVERIFY2(rest.err.contains("Written            12"), rest.err.constData());
-    QVERIFY2(rest.Err().contains(QStringLiteral("1 of them, written before the interruption, is not there any more: ") +
-                                 taken),
-             rest.err.constData());
+    QVERIFY2(
+        rest.Err().contains(QStringLiteral("1 of them, written before the interruption, is missing now: ") + taken),
+        rest.err.constData());
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 11);
 }
 
@@ -270,7 +270,7 @@ void tst_CliResume::JournalThatWasNotBegun_data()
     QTest::newRow("cut off") << QByteArray("{\"journal\":1,\"docu");
 }
 
-// Whoever died while writing the first line had begun nothing, and leaves nothing.
+// A run that died while it wrote the first line of its journal had not begun, and leaves nothing.
 void tst_CliResume::JournalThatWasNotBegun()
 {
     QFETCH(QByteArray, text);

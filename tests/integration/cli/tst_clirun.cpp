@@ -58,7 +58,7 @@ private:
     {
         return CliRun::Of(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts), root->path(), environment);
     }
-    /// `script` by a shell that has the program in $VELKORA.
+    /// Runs `script` in a shell, with the program in $VELKORA.
     CliRun Shell(const QString& script) const;
 
     std::unique_ptr<QTemporaryDir> root;
@@ -182,7 +182,7 @@ void tst_CliRun::SettingsHoldPolicies()
     QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q")).exitCode, 0);
     QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q")).exitCode, 0);
     QCOMPARE(Results(), QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg")}));
-    // An option holds for its run only.
+    // An option is for its run only.
     QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q --on-name-exists skip")).exitCode, 1);
     QCOMPARE(QSettings(file, QSettings::IniFormat).value(QStringLiteral("NamingPolicy")).toInt(), 2);
     QVERIFY(QDir(Path(QStringLiteral("home"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
@@ -319,9 +319,9 @@ void tst_CliRun::WrongOptionsEndBeforeAnything_data()
     row("run photos", "no output folder: use --output DIR");
     row("run -o out", "no pictures: name files");
     row("run nothing.xml -o out", "nothing.xml cannot be read");
-    row("run photos -o out --on-name-exists replace", "is none of skip, overwrite, rename, ask");
+    row("run photos -o out --on-name-exists replace", "is not one of skip, overwrite, rename, ask");
     row("run photos -o out --on-input-error skpi", "did you mean \"skip\"?");
-    row("run photos -o out --workers 0", "--workers: \"0\" is no whole number from 1 to 256");
+    row("run photos -o out --workers 0", "--workers: \"0\" is not a whole number from 1 to 256");
     row("run photos -o out --workers many", "from 1 to 256");
     row("run photos -o out --report r.txt", "must end with .csv or .json");
     row("run photos -o out --report nowhere/r.csv", "nowhere/r.csv cannot be written");
@@ -462,11 +462,11 @@ void tst_CliRun::LostOutputIsTold()
     const CliRun run = Shell(QStringLiteral("\"$VELKORA\" %1 %2").arg(arguments, channel));
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.contains("velkora-batch: standard output cannot be written: " + reason), run.err.constData());
-    // The pictures are made all the same.
+    // The pictures are written nevertheless.
     QCOMPARE(Results().size(), arguments.startsWith(QLatin1String("run photos")) ? 3 : 0);
 }
 
-// What is meant for a channel that is closed must not get into a file that was opened in its place.
+// Output to a closed channel must not end up in a file that was opened in its place.
 void tst_CliRun::ClosedChannelsHarmNoFile()
 {
     const CliRun run =
@@ -491,7 +491,7 @@ void tst_CliRun::ReadersMayLeave()
     const CliRun none = Shell(QStringLiteral(
         "{ exec 3>&1; \"$VELKORA\" run photos -o out1 --json >&3; echo \"ends with $?\" >&2; } | exec <&- sleep 0"));
     QVERIFY2(none.err.contains("ends with 1"), none.err.constData());
-    // Progress that nobody watches is no trouble.
+    // A closed standard error does not matter.
     const CliRun lines = Shell(QStringLiteral(
         "{ \"$VELKORA\" run photos -o out2; echo \"ends with $?\" >&3; } 3>&1 2>&1 >/dev/null | head -n 1"));
     QVERIFY2(lines.out.contains("ends with 0") || lines.out.count('\n') == 1, lines.out.constData());

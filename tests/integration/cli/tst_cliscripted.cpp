@@ -6,7 +6,7 @@
 #include <QUrl>
 #include <QtTest>
 
-/// The command against a server that says what the test wants, whatever there is to do.
+/// The command with a scripted server, which reports what the test wants whatever the job.
 class tst_CliScripted : public QObject
 {
     Q_OBJECT
@@ -83,9 +83,9 @@ void tst_CliScripted::ResultsAreTold()
     QVERIFY2(run.err.contains("Written             1  to ") && run.err.contains("Skipped             1  ") &&
                  run.err.contains("Failed              1  "),
              run.err.constData());
-    // Neither the moving line nor colours where nobody looks on.
+    // No status line and no colours without a terminal.
     QVERIFY2(!run.err.contains('\r') && !run.err.contains('\033'), run.err.constData());
-    // A run that is over leaves no journal.
+    // A finished run leaves no journal.
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList());
 }
 
@@ -162,11 +162,11 @@ void tst_CliScripted::ServersThatEnd()
     stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + end});
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 3);
-    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one goes on.\n"), 2);
+    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one continues.\n"), 2);
     QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly.\n"), 1);
     QVERIFY2(run.err.contains("the server ended before it had processed anything"), run.err.constData());
     QVERIFY2(run.err.contains("Not processed       3\n"), run.err.constData());
-    // It can be taken up.
+    // The run can be resumed.
     QVERIFY2(run.err.contains("run --resume -o"), run.err.constData());
     QCOMPARE(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).size(), 1);
 }
@@ -188,7 +188,8 @@ void tst_CliScripted::NoServer()
     stage->Write(QStringLiteral("photos/1.jpg"), "a picture");
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 3);
-    QVERIFY2(run.err.contains("the server cannot be started; VelkoraBatchProcessing belongs beside "), run.err.constData());
+    QVERIFY2(run.err.contains("the server cannot be started; VelkoraBatchProcessing belongs beside "),
+             run.err.constData());
     QCOMPARE(run.err.count("a new one goes on"), 0);
 }
 

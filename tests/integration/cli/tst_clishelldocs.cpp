@@ -74,7 +74,7 @@ void tst_CliShellDocs::initTestCase()
     }
 }
 
-/// The lines that a program writes; a program that says anything on standard error has failed.
+/// The lines that a program writes. A program that writes to standard error has failed.
 QStringList tst_CliShellDocs::Output(const QString& program, const QStringList& arguments) const
 {
     QProcess process;
@@ -90,7 +90,7 @@ QStringList tst_CliShellDocs::Output(const QString& program, const QStringList& 
                : QStringList{QString::fromUtf8(error)};
 }
 
-/// What the completion offers for the last of the words.
+/// The completions of the last of the words.
 QStringList tst_CliShellDocs::Bash(const QStringList& words) const
 {
     const QString script = QStringLiteral("set -u; source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); "
@@ -193,7 +193,7 @@ void tst_CliShellDocs::BashKnowsEveryOption()
     }
 }
 
-// How a line is cut into words is readline's business.
+// Splitting a line into words is up to readline.
 void tst_CliShellDocs::BashAtTheTerminal()
 {
     if (!IsThere("bash")) {
@@ -214,7 +214,7 @@ void tst_CliShellDocs::ZshKnowsEveryOption()
     if (!IsThere("zsh")) {
         QSKIP("zsh is not installed.");
     }
-    // With _arguments in its place, what the function hands over to it can be read.
+    // A replacement of _arguments shows what the function passes to it.
     const QString script = QStringLiteral("_arguments() { print -rl -- \"$@\" }; _files() { }; compadd() { }; "
                                           "words=(velkora-batch $2 ''); CURRENT=3; source $1");
     for (const CommandInfo& command : Commands()) {
@@ -246,7 +246,7 @@ void tst_CliShellDocs::ZshOffersEveryWord()
                   "' $fpath); autoload -U compinit; compinit -u -D; LISTMAX=10000; PS1='ready> '; echo "
                   "loaded-$((1+1))\n");
     QVERIFY2(terminal.WaitFor("loaded-2\r\n"), terminal.Output().constData());
-    // What is ambiguous is listed; control-U takes the line away.
+    // Ambiguous completions are listed; control-U erases the line.
     const auto offers = [&terminal](const QString& line, QStringList words) {
         words.replaceInStrings(QStringLiteral(" "), QStringLiteral("\\ "));
         terminal.Type("\x15" + line.toUtf8() + '\t');

@@ -94,7 +94,7 @@ void tst_CliStandIn::BrokenWorkersCostOneFile()
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("3.png")}));
 }
 
-// The run is kept for when there is a worker.
+// The run can be resumed as soon as there is a worker.
 void tst_CliStandIn::NoWorker()
 {
     stage = std::make_unique<CliStage>(CliStage::Server::WithoutWorker);
@@ -203,7 +203,7 @@ void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver()
     const QString bad = stage->Write(QStringLiteral("photos/2.jpg"), content);
     QProcessEnvironment environment = stage->Environment();
     environment.insert(QStringLiteral("VELKORA_BATCH_WORKER_MIB"), QStringLiteral("128"));
-    // The memory is to run out before the time, on a busy machine too.
+    // The memory must run out before the time, even on a busy machine.
     const bool isHang = content == "hangprobe";
     environment.insert(QStringLiteral("VELKORA_BATCH_PICTURE_SECONDS"),
                        isHang ? QStringLiteral("1") : QStringLiteral("60"));
@@ -272,9 +272,9 @@ void tst_CliStandIn::KilledServersAreReplaced()
     const QByteArray errors = process.readAllStandardError();
     QVERIFY2(process.exitCode() == 0, errors.constData());
     QVERIFY2(errors.contains("the server ended unexpectedly while it worked on ") &&
-                 errors.contains("2.jpg; a new one goes on.\n"),
+                 errors.contains("2.jpg; a new one continues.\n"),
              errors.constData());
-    QCOMPARE(output.count("\"written\""), 3 + 1); // The end counts them.
+    QCOMPARE(output.count("\"written\""), 3 + 1); // The last event has a field of that name.
     QCOMPARE(stage->Names(QStringLiteral("out")),
              QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
 }

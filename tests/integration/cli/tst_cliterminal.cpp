@@ -131,11 +131,11 @@ void tst_CliTerminal::QuestionsAreAsked()
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
     for (const QByteArray& answer : answers.trimmed().split('\n')) {
-        QVERIFY2(terminal.WaitFor("also for all that follow) "), terminal.Output().constData());
+        QVERIFY2(terminal.WaitFor("for all that follow) "), terminal.Output().constData());
         terminal.Type(answer + '\n');
     }
     QCOMPARE(terminal.ExitCode(), exitCode);
-    QCOMPARE(terminal.Output().count("also for all that follow) "), questions);
+    QCOMPARE(terminal.Output().count("for all that follow) "), questions);
     QCOMPARE(Results().size(), results);
 }
 
@@ -144,7 +144,7 @@ void tst_CliTerminal::WrongAnswersAreAskedAgain()
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos/1.jpg -o out")));
     for (const char* answer : {"what\n", "\n", "skip none\n", "rename\n"}) {
-        QVERIFY2(terminal.WaitFor("also for all that follow) "), terminal.Output().constData());
+        QVERIFY2(terminal.WaitFor("for all that follow) "), terminal.Output().constData());
         terminal.Type(answer);
     }
     QCOMPARE(terminal.ExitCode(), 0);
@@ -155,10 +155,10 @@ void tst_CliTerminal::EndOfInputMeansSkipping()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
-    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    QVERIFY(terminal.WaitFor("for all that follow) "));
     terminal.Type("\x04");
     QCOMPARE(terminal.ExitCode(), 1);
-    QVERIFY(terminal.Output().contains("Nobody answers"));
+    QVERIFY(terminal.Output().contains("No more input"));
     QCOMPARE(Results().size(), 3);
 }
 
@@ -166,7 +166,7 @@ void tst_CliTerminal::StopEndsTheRun()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
-    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    QVERIFY(terminal.WaitFor("for all that follow) "));
     terminal.Type("stop\n");
     QCOMPARE(terminal.ExitCode(), 4);
     QVERIFY(terminal.Output().contains("Cancelled."));
@@ -181,7 +181,7 @@ void tst_CliTerminal::InterruptCancels()
     QCOMPARE(terminal.ExitCode(), 4);
     QVERIFY2(terminal.Output().contains("Cancelled."), terminal.Output().constData());
     QVERIFY(terminal.Output().contains("Not processed"));
-    // What was written is whole, and nothing else is there.
+    // Results are complete, and there are no other files.
     QVERIFY(!Results().isEmpty());
     for (const QString& result : Results()) {
         QVERIFY(QImage(Path(QStringLiteral("out/") + result)).size() == QSize(1500, 1000));
@@ -202,14 +202,14 @@ void tst_CliTerminal::InterruptDuringQuestion()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
-    QVERIFY(terminal.WaitFor("also for all that follow) "));
+    QVERIFY(terminal.WaitFor("for all that follow) "));
     terminal.Type("\x03");
     QCOMPARE(terminal.ExitCode(), 4);
     QVERIFY(terminal.Output().contains("Cancelled."));
 }
 
-// One file is skipped by its own answer, all others are renamed: a resumed run gives them the names of an undisturbed
-// one.
+// One file is skipped by an answer of its own, all others are renamed: a resumed run gives them the names of an
+// undisturbed run.
 void tst_CliTerminal::AnswersOutliveTheProgram()
 {
     WriteTaken();
@@ -219,9 +219,9 @@ void tst_CliTerminal::AnswersOutliveTheProgram()
     {
         PseudoTerminal terminal(
             program, Arguments(QStringLiteral("run a b c -o out --effect blur:sigma=30 --workers 1 --verbose")));
-        QVERIFY(terminal.WaitFor("also for all that follow) "));
+        QVERIFY(terminal.WaitFor("for all that follow) "));
         terminal.Type("skip\n");
-        QVERIFY(terminal.WaitFor("also for all that follow) "));
+        QVERIFY(terminal.WaitFor("for all that follow) "));
         terminal.Type("rename all\n");
         QVERIFY2(terminal.WaitFor("holds for the rest of the run"), terminal.Output().constData());
         QCOMPARE(kill(pid_t(terminal.ProcessId()), SIGKILL), 0);
