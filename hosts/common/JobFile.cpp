@@ -51,9 +51,7 @@ bool CanBeSaved(const QString& text)
             ++i;
             continue;
         }
-        const ushort unit = character.unicode();
-        const bool isSpace = unit == '\t' || unit == '\n' || unit == '\r';
-        if (character.isSurrogate() || unit >= 0xFFFE || (unit < 0x20 && !isSpace)) {
+        if (character.isSurrogate() || character.unicode() >= 0xFFFE) {
             return false;
         }
     }

@@ -7,7 +7,7 @@ class ZTBatchDocument;
 /// Jobs as files.
 namespace BatchHost {
 
-/// Whether a job can hold `text`. XML has no way to write most control characters.
+/// Whether a saved job can hold `text`. Its parser refuses U+FFFE and U+FFFF, and UTF-8 has no lone surrogates.
 bool CanBeSaved(const QString& text);
 
 /// Reads the job in the file `path`. Throws RequestError.

@@ -245,6 +245,7 @@ void tst_CliInputs::OddEntriesAreReported()
     Make(QStringLiteral("a.jpg"));
     Make(QStringLiteral("line\nbreak.jpg"));
     Make(QStringLiteral("bell\a.jpg"));
+    Make(QStringLiteral("last\uFFFF.jpg"));
     QVERIFY(QFile::link(QStringLiteral("/nowhere/at/all"), root->filePath(QStringLiteral("lost.jpg"))));
     const QByteArray folder = QFile::encodeName(root->path());
     FILE* const odd = std::fopen((folder + "/\xE9t\xE9.jpg").constData(), "w");
@@ -254,14 +255,15 @@ void tst_CliInputs::OddEntriesAreReported()
     ZTBatchDocument job;
     InputCollector collector(job, {});
     collector.Add({root->path()});
-    QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("a.jpg"), QStringLiteral("line\nbreak.jpg")}));
+    QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("a.jpg"), QStringLiteral("bell\a.jpg"),
+                                                      QStringLiteral("line\nbreak.jpg")}));
     QCOMPARE(collector.Problems().size(), 3);
     const QString problems = collector.Problems().join(QLatin1Char('\n'));
     QVERIFY2(problems.contains(QStringLiteral("lost.jpg is a dangling link")), qPrintable(problems));
     QVERIFY2(problems.contains(QStringLiteral("\\xe9t\\xe9.jpg has a name that is not valid UTF-8")),
              qPrintable(problems));
     std::remove((folder + "/\xE9t\xE9.jpg").constData()); // Qt cannot remove it.
-    QVERIFY2(problems.contains(QStringLiteral("bell\a.jpg has a name with a character that a job cannot hold")),
+    QVERIFY2(problems.contains(QStringLiteral("last\uFFFF.jpg has a name with a character that a job cannot hold")),
              qPrintable(problems));
 }
 #endif

@@ -417,19 +417,21 @@ void tst_CliRun::NamesStayInTheirLine()
 {
     PictureFiles::WriteJpeg(Path(QStringLiteral("odd/a\nb%1.jpg")));
     PictureFiles::WriteJpeg(Path(QStringLiteral("odd/\x7F.jpg")));
+    PictureFiles::WriteJpeg(Path(QStringLiteral("odd/bell\a.jpg")));
     PictureFiles::WriteTruncated(Path(QStringLiteral("odd/\xC2\x9B.jpg")));
     const CliRun plan = Run(QStringLiteral("plan odd -o out"));
-    QCOMPARE(plan.out.count('\n'), 3);
+    QCOMPARE(plan.out.count('\n'), 4);
     QVERIFY2(plan.out.contains("/odd/a\\x0ab%1.jpg -> "), plan.out.constData());
     const CliRun show = Run(QStringLiteral("show odd -o out"));
     QVERIFY2(show.out.contains("    a\\x0ab%1.jpg\n"), show.out.constData());
     const CliRun run = Run(QStringLiteral("run odd -o out -q"));
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.err.count('\n'), 1);
-    QCOMPARE(Results().size(), 2);
+    QCOMPARE(Results().size(), 3);
     const CliRun told = Run(QStringLiteral("run odd -o out2"));
     QVERIFY2(told.err.contains("/odd/a\\x0ab%1.jpg -> "), told.err.constData());
     QVERIFY2(told.err.contains("/odd/\\x7f.jpg -> "), told.err.constData());
+    QVERIFY2(told.err.contains("/odd/bell\\x07.jpg -> "), told.err.constData());
 }
 
 void tst_CliRun::LostOutputIsTold_data()
