@@ -42,7 +42,7 @@ private:
     Result ReadFetched();
     Result ReadLargePayload(QIODevice& device);
     Result Refuse(const QString& reason);
-    void SetName(const char* bytes, quint32 size);
+    void SetName(const char* bytes, quint32 count);
 
     QByteArray fetched; ///< buffered bytes; those before `fetchedBegin` are consumed
     int fetchedBegin = 0;

@@ -6,7 +6,7 @@
 namespace {
 
 /// A slab is aligned to its size, so that its address follows from the address of a slot.
-constexpr std::size_t slabSize = 64 * 1024;
+constexpr std::size_t slabSize = std::size_t{64} * 1024;
 constexpr std::align_val_t slabAlignment{slabSize};
 
 constexpr std::size_t RoundedUp(std::size_t size, std::size_t unit)
