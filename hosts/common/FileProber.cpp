@@ -3,16 +3,14 @@
 #include "UsageError.h"
 
 #include "server/protocol/ServerLimits.h"
+#include "server/protocol/TaskFailure.h"
+#include "server/protocol/WorkerPool.h"
+#include "server/protocol/WorkerProgram.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QEventLoop>
-#include <QProcess>
 #include <QQueue>
-#include <QTimer>
 
-#include <memory>
-#include <vector>
+#include <algorithm>
 
 using namespace BatchProtocol;
 
@@ -20,150 +18,99 @@ namespace BatchHost {
 
 namespace {
 
-using BatchProtocol::Report;
-
-QString WorkerProgram()
+ServerLimits LimitsFor(int files)
 {
-#ifdef Q_OS_WIN
-    const QString name = QStringLiteral("VelkoraBatchWorker.exe");
-#else
-    const QString name = QStringLiteral("VelkoraBatchWorker");
-#endif
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
+    ServerLimits limits = ServerLimits::FromEnvironment();
+    limits.workers = std::min(limits.workers, files);
+    return limits;
 }
 
-/// One worker and the file that it looks at.
-class ProbingWorker : public QObject
+/// The files that are still to be probed, and the workers that do it.
+class ProbeRun
 {
 public:
-    ProbingWorker(const BatchProtocol::Job& job, std::function<void(ProbingWorker&)> isIdle,
-                  std::function<void(const Report&)> take, std::function<void(ProbingWorker&)> hasEnded)
-        : isIdle(std::move(isIdle))
-        , take(std::move(take))
-        , hasEnded(std::move(hasEnded))
-        , time(job.limits.pictureSeconds * 1000)
+    ProbeRun(const QVector<FileProber::File>& files, const QString& settings, const FileProber::Taker& take)
+        : limits(LimitsFor(files.size()))
+        , take(take)
+        , open(files.size())
+        , pool(WorkerProgram(), limits)
     {
-        clock.setSingleShot(true);
-        connect(&clock, &QTimer::timeout, &process, &QProcess::kill);
-        connect(&process, &QProcess::readyReadStandardOutput, this, [this] { Read(); });
-        connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart) {
-                End();
-            }
+        const QByteArray job = FrameToWorker(BatchProtocol::Job{settings, limits});
+        for (const FileProber::File& file : files) {
+            Assignment task;
+            task.file = file.number;
+            task.job = job;
+            task.task = ProbeTask{file.number, file.path};
+            waiting.enqueue(task);
+        }
+        const auto handOut = [this] { HandOut(); };
+        QObject::connect(&pool, &WorkerPool::RoomMade, &loop, handOut, Qt::QueuedConnection);
+        QObject::connect(&pool, &WorkerPool::Reported, &loop,
+                         [this](const Assignment&, const Report& report) { Settle(Checked(report)); });
+        QObject::connect(&pool, &WorkerPool::Lost, &loop,
+                         [this](const Assignment& task, WorkerEnd reason, const QString& text) {
+                             Report failure = FailureOfEnd(reason, text, limits);
+                             failure.number = task.file;
+                             Settle(CheckedFailure(failure));
+                         });
+        QObject::connect(&pool, &WorkerPool::Returned, &loop, [this, handOut](const Assignment& task) {
+            waiting.prepend(task);
+            QMetaObject::invokeMethod(&loop, handOut, Qt::QueuedConnection);
         });
-        connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, [this] { End(); });
-        process.setStandardErrorFile(QProcess::nullDevice());
-        process.start(WorkerProgram(), QStringList());
-        process.write(BatchProtocol::FrameToWorker(job));
+        QObject::connect(&pool, &WorkerPool::Broken, &loop, [this](const QString& reason) {
+            problem = reason;
+            loop.quit();
+        });
     }
 
-    ~ProbingWorker() override
+    /// Returns why there is no worker; nothing when all files are reported.
+    QString Execute()
     {
-        process.disconnect(this);
-        process.kill();
-        process.waitForFinished();
+        pool.Start();
+        if (open > 0) {
+            loop.exec();
+        }
+        return open > 0 ? problem : QString();
     }
-
-    void Give(const FileProber::File& file)
-    {
-        number = file.number;
-        clock.start(time);
-        process.write(BatchProtocol::FrameToWorker(BatchProtocol::ProbeTask{file.number, file.path}));
-    }
-
-    bool WasReady() const { return wasReady; }
 
 private:
-    void Read()
+    static Report Checked(const Report& report)
     {
-        reader.Append(process.readAllStandardOutput());
-        while (const std::optional<BatchProtocol::FromWorker> message = reader.NextFromWorker()) {
-            const Report* report = std::get_if<Report>(&*message);
-            if (!report) {
-                continue; // It has one task at a time, and begins with that.
-            }
-            clock.stop();
-            wasReady = true;
-            if (report->number != BatchProtocol::workerIsReady) {
-                number = -1;
-                take(*report);
-            }
-            isIdle(*this);
-        }
-        if (reader.IsBroken()) {
-            process.kill();
+        return report.failure == Case::None ? report : CheckedFailure(report);
+    }
+
+    void HandOut()
+    {
+        while (!waiting.isEmpty() && pool.HasRoom(waiting.size())) {
+            pool.Give(waiting.dequeue());
         }
     }
 
-    void End()
+    void Settle(const Report& report)
     {
-        clock.stop();
-        if (number >= 0) {
-            Report report;
-            report.number = number;
-            report.failure = BatchProtocol::Case::Processing;
-            report.errorCode = ZTBatchMessage::ApplyAdjustmentError;
-            report.reason = QStringLiteral("its worker died");
-            number = -1;
-            take(report);
+        take(report);
+        if (--open == 0) {
+            loop.quit();
         }
-        hasEnded(*this);
     }
 
-    const std::function<void(ProbingWorker&)> isIdle;
-    const std::function<void(const Report&)> take;
-    const std::function<void(ProbingWorker&)> hasEnded;
-    const int time;
-    QProcess process;
-    QTimer clock;
-    BatchProtocol::FrameReader reader;
-    int number = -1; ///< of the file at hand
-    bool wasReady = false;
+    const ServerLimits limits;
+    const FileProber::Taker& take;
+    int open; ///< files that are not reported yet
+    QQueue<Assignment> waiting;
+    QString problem;
+    QEventLoop loop;
+    WorkerPool pool; ///< ends first: its signals use the others
 };
 
 } // namespace
 
 void FileProber::Probe(const QVector<File>& files, const QString& settings, const Taker& take)
 {
-    const BatchProtocol::Job job{settings, BatchProtocol::ServerLimits::FromEnvironment()};
-    QQueue<File> waiting;
-    for (const File& file : files) {
-        waiting.enqueue(file);
-    }
-    int open = files.size();
-    bool canWork = true;
-    QEventLoop loop;
-    std::vector<std::unique_ptr<ProbingWorker>> workers;
-
-    const auto isIdle = [&](ProbingWorker& worker) {
-        if (!waiting.isEmpty()) {
-            worker.Give(waiting.dequeue());
-        }
-    };
-    const auto takeReport = [&](const Report& report) {
-        take(report);
-        if (--open == 0) {
-            loop.quit();
-        }
-    };
-    std::function<void()> addWorker;
-    const auto hasEnded = [&](ProbingWorker& worker) {
-        canWork = canWork && worker.WasReady();
-        if (!canWork) {
-            loop.quit();
-        } else if (!waiting.isEmpty()) {
-            addWorker();
-        }
-    };
-    addWorker = [&] { workers.push_back(std::make_unique<ProbingWorker>(job, isIdle, takeReport, hasEnded)); };
-    for (int i = 0; i < std::min(job.limits.workers, files.size()); ++i) {
-        addWorker();
-    }
-    if (open > 0) {
-        loop.exec();
-    }
-    if (!canWork) {
-        throw UsageError{QStringLiteral("names depend on capture dates, but %1 does not work").arg(WorkerProgram())};
+    const QString problem = ProbeRun(files, settings, take).Execute();
+    if (!problem.isEmpty()) {
+        throw UsageError{
+            QStringLiteral("names depend on capture dates, but no worker can be started: %1").arg(problem)};
     }
 }
 

@@ -19,11 +19,11 @@ public:
         QString path;
     };
 
-    /// Called for each file, in any order. A file that nobody could look at has a failure.
+    /// Called once for each file, in any order. A file that could not be probed comes with a failure.
     using Taker = std::function<void(const BatchProtocol::Report&)>;
 
-    /// Looks at `files` and returns when all are told. `settings` is the text of the job without inputs. Throws
-    /// UsageError when there is no worker.
+    /// Probes `files` and returns when all are reported. `settings` is the text of the job without inputs. Throws
+    /// UsageError when no worker can be started.
     static void Probe(const QVector<File>& files, const QString& settings, const Taker& take);
 };
 

@@ -3,27 +3,13 @@
 #include "Surroundings.h"
 
 #include "server/protocol/ServerLimits.h"
+#include "server/protocol/WorkerProgram.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include <cstdio>
 
 using namespace BatchSupervisor;
-
-namespace {
-
-QString WorkerProgram()
-{
-#ifdef Q_OS_WIN
-    const QString name = QStringLiteral("VelkoraBatchWorker.exe");
-#else
-    const QString name = QStringLiteral("VelkoraBatchWorker");
-#endif
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -38,7 +24,7 @@ int main(int argc, char** argv)
     if (arguments[0] == QLatin1String(JobReader::argument)) {
         return JobReader::RunProcess();
     }
-    Server server(WorkerProgram(), BatchProtocol::ServerLimits::FromEnvironment());
+    Server server(BatchProtocol::WorkerProgram(), BatchProtocol::ServerLimits::FromEnvironment());
     // Before anybody can connect: who does may ask for the end at once.
     Surroundings::OnEndRequest([&server] { server.End(); });
     if (!server.Start(arguments[0])) {

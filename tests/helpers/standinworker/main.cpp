@@ -9,6 +9,7 @@
 //     wait PATH                                  goes on when there is a file PATH
 //     input CODE | output CODE | ...             reports a case with the error code
 //     format NAME                                cannot be written in any format but this one
+//     crashprobe | hangprobe | eatprobe          do the same as crash, hang and eat when the file is probed
 //
 // A file "start.script" beside the executable makes it end at once, a file "job.script" when it gets a job.
 
@@ -198,6 +199,10 @@ Report Probe(const ProbeTask& task)
     if (command == "crashprobe") {
         CrashQuietly();
         Crash();
+    } else if (command == "hangprobe") {
+        SleepForEver();
+    } else if (command == "eatprobe") {
+        EatMemory();
     }
     report.inputFormat = QStringLiteral("PSD");
     report.nearestFormat = QStringLiteral("PNG");

@@ -23,6 +23,9 @@ private Q_SLOTS:
     void PlanTellsWhatRunDoes_data();
     void PlanTellsWhatRunDoes();
     void PlanMarksTrouble();
+    void PlanReportsFilesThatWorkersEndOver_data();
+    void PlanReportsFilesThatWorkersEndOver();
+    void PlanFailsWithoutWorkers();
     void KilledRunsGoOn();
     void KilledServersAreReplaced();
     void FilesThatServersDieOverAreLeftOut();
@@ -182,6 +185,47 @@ void tst_CliStandIn::PlanMarksTrouble()
     QCOMPARE(plan.out.count('['), 2);
     const CliRun source = stage->Run(QStringLiteral("plan photos -o photos --format jpeg"));
     QVERIFY2(source.out.count("is a source of this job]") == 3, source.out.constData());
+}
+
+void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("reason");
+    QTest::newRow("crash") << QByteArray("crashprobe") << QByteArray("the worker ended by ");
+    QTest::newRow("hang") << QByteArray("hangprobe") << QByteArray("it takes longer than the limit of 1 seconds");
+    QTest::newRow("memory") << QByteArray("eatprobe") << QByteArray("it takes more memory than the limit of 128 MiB");
+}
+
+void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, reason);
+    const QString bad = stage->Write(QStringLiteral("photos/2.jpg"), content);
+    QProcessEnvironment environment = stage->Environment();
+    environment.insert(QStringLiteral("VELKORA_BATCH_WORKER_MIB"), QStringLiteral("128"));
+    // The memory is to run out before the time, on a busy machine too.
+    const bool isHang = content == "hangprobe";
+    environment.insert(QStringLiteral("VELKORA_BATCH_PICTURE_SECONDS"),
+                       isHang ? QStringLiteral("1") : QStringLiteral("60"));
+    const CliRun plan = CliRun::OfProgram(
+        stage->Program(), stage->Arguments(QStringLiteral("plan photos -o out --format png --name date")),
+        stage->Folder(), environment);
+    QVERIFY2(plan.exitCode == 1, plan.err.constData());
+    const QList<QByteArray> lines = plan.out.trimmed().split('\n');
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(1).startsWith(bad.toUtf8()) && lines.at(1).contains("[ask: " + reason), plan.out.constData());
+    QVERIFY2(lines.at(0).endsWith("20240501.png"), plan.out.constData());
+    QVERIFY2(lines.at(2).contains("20240501.png"), plan.out.constData());
+}
+
+void tst_CliStandIn::PlanFailsWithoutWorkers()
+{
+    stage = std::make_unique<CliStage>(CliStage::Server::WithoutWorker);
+    stage->Write(QStringLiteral("photos/1.jpg"), "1");
+    const CliRun plan = stage->Run(QStringLiteral("plan photos -o out --format png --name date"));
+    QCOMPARE(plan.exitCode, 2);
+    QVERIFY2(plan.err.contains("no worker can be started"), plan.err.constData());
+    QVERIFY2(plan.out.isEmpty(), plan.out.constData());
 }
 
 void tst_CliStandIn::KilledRunsGoOn()

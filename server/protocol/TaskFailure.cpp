@@ -1,0 +1,83 @@
+#include "TaskFailure.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace BatchProtocol {
+
+namespace {
+
+constexpr int longestReason = 1000;
+
+bool IsCodeOf(Case kind, int code)
+{
+    const auto isOneOf = [code](std::initializer_list<int> codes) {
+        return std::find(codes.begin(), codes.end(), code) != codes.end();
+    };
+    switch (kind) {
+    case Case::Input:
+        return isOneOf(
+            {ZTBatchMessage::UnsupportedInputFormat, ZTBatchMessage::ReadFileError, ZTBatchMessage::ImageTooLarge});
+    case Case::Output:
+        return code == ZTBatchMessage::WriteOutputFormatError;
+    case Case::Processing:
+        return code == ZTBatchMessage::ApplyAdjustmentError;
+    case Case::Naming:
+        return code == ZTBatchMessage::FileNameAlreadyExists;
+    case Case::WriteToFormat:
+        return code == ZTBatchMessage::UnsupportedOutputFormat;
+    case Case::None:
+        break;
+    }
+    return false;
+}
+
+QString OneLine(const QString& text)
+{
+    return text.left(longestReason).simplified();
+}
+
+Report Failure(Case kind, int errorCode, const QString& reason)
+{
+    Report report;
+    report.failure = kind;
+    report.errorCode = errorCode;
+    report.reason = reason;
+    return report;
+}
+
+Report ProcessingFailure(const QString& reason)
+{
+    return Failure(Case::Processing, ZTBatchMessage::ApplyAdjustmentError, reason);
+}
+
+} // namespace
+
+Report CheckedFailure(const Report& report)
+{
+    Report checked = report;
+    checked.reason = OneLine(report.reason);
+    if (!IsCodeOf(report.failure, report.errorCode)) {
+        checked = ProcessingFailure(QStringLiteral("the worker's report makes no sense: %1").arg(checked.reason));
+        checked.number = report.number;
+    }
+    return checked;
+}
+
+Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& limits)
+{
+    switch (reason) {
+    case WorkerEnd::OutOfMemory:
+        return Failure(Case::Input, ZTBatchMessage::ImageTooLarge,
+                       QStringLiteral("it takes more memory than the limit of %1 MiB").arg(limits.workerMemory >> 20U));
+    case WorkerEnd::Hung:
+        return ProcessingFailure(
+            QStringLiteral("it takes longer than the limit of %1 seconds").arg(limits.pictureSeconds));
+    case WorkerEnd::Garbage:
+        return ProcessingFailure(QStringLiteral("the worker sent an invalid answer"));
+    default:
+        return ProcessingFailure(QStringLiteral("the worker %1").arg(OneLine(text)));
+    }
+}
+
+} // namespace BatchProtocol

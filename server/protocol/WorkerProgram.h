@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace BatchProtocol {
+
+/// The path of the worker's executable, beside that of this process. Needs a QCoreApplication.
+QString WorkerProgram();
+
+} // namespace BatchProtocol
