@@ -1,5 +1,7 @@
 #include "RunPlan.h"
 
+#include "job/formats/NearestFormat.h"
+
 #include <QSet>
 
 using namespace BatchJob;
@@ -136,9 +138,7 @@ QStringList RunPlan::Folders() const
 /// What a picture of a format that is not written is written in, as far as that can be told without looking at it.
 QString RunPlan::NearestFormat(int file) const
 {
-    const bool isRaw = plan.InputFormat(file) == QLatin1String("RAW");
-    const QString fallback = isRaw ? QStringLiteral("TIFF") : QStringLiteral("JPEG");
-    return nearestFormats.value(file, fallback);
+    return nearestFormats.value(file, BatchJob::NearestFormat(plan.InputFormat(file)).name);
 }
 
 } // namespace BatchSupervisor

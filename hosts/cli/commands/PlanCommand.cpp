@@ -5,6 +5,7 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/FileProber.h"
+#include "job/formats/NearestFormat.h"
 #include "job/plan/OutputPlan.h"
 
 #include "ZTBatchDocument.h"
@@ -162,9 +163,7 @@ private:
     const BatchJob::FormatSchema& NearestFormat(int index) const
     {
         const BatchJob::FormatSchema* const format = BatchJob::FindFormat(nearestFormats.value(index));
-        const bool isRaw = plan.InputFormat(index) == QLatin1String("RAW");
-        return format != nullptr ? *format
-                                 : *BatchJob::FindFormat(isRaw ? QStringLiteral("TIFF") : QStringLiteral("JPEG"));
+        return format != nullptr ? *format : BatchJob::NearestFormat(plan.InputFormat(index));
     }
 
     const PolicyValues policies;
