@@ -2,6 +2,8 @@
 
 #include "RunObserver.h"
 
+#include "job/values/JobValues.h"
+
 #include "ZTBatchManager.h"
 #include "ZTBatchSession.h"
 
@@ -28,7 +30,8 @@ public:
     /// journal at `journalPath` holds already was done by an earlier part of the run. Without a journal, an empty path,
     /// the run ends with its server.
     RunController(const QString& document, const RunInputs& inputs, const QString& outputFolder,
-                  const BatchJob::PolicyValues& policies, const QVector<RunObserver*>& observers, const QString& journalPath);
+                  const BatchJob::PolicyValues& policies, const QVector<RunObserver*>& observers,
+                  const QString& journalPath);
     ~RunController() override;
 
     void Start();
@@ -70,7 +73,7 @@ private:
     QVector<QPair<int, FileResult>> JournaledResults() const;
     void NoteLoss(const QStringList& lost) const;
     void End(bool isCancelled, bool isServerLost);
-    QString TakeReason(const QString& input, int errorCode);
+    QString ReasonOfError(const QString& input, BatchJob::Action action, int errorCode);
 
     const QString document;
     const RunInputs inputs;

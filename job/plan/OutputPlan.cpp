@@ -104,7 +104,7 @@ QVector<int> OutputPlan::FilesToProbe() const
     return files;
 }
 
-void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& inputFormat)
+void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& inputFormat)
 {
     Entry& entry = entries[index];
     entry.captured = captured;
@@ -114,7 +114,7 @@ void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& 
     }
 }
 
-void OutputPlan::Keep(int index, const QString& path)
+void OutputPlan::KeepResult(int index, const QString& path)
 {
     entries[index].isKept = true;
     entries[index].name = path;

@@ -27,7 +27,7 @@ namespace BatchJob {
 ///     OutputPlan plan(FilesOfJob(input), settings);
 ///     plan.ReadInputs();
 ///     for (const int index : plan.FilesToProbe()) {
-///         plan.TakeProbe(index, ...);
+///         plan.SetProbe(index, ...);
 ///     }
 ///     plan.MakeNames();
 class OutputPlan
@@ -60,11 +60,11 @@ public:
     QVector<int> FilesToProbe() const;
 
     /// What a probe has found out. An invalid time and an empty format change nothing.
-    void TakeProbe(int index, const QDateTime& captured, const QString& inputFormat);
+    void SetProbe(int index, const QDateTime& captured, const QString& inputFormat);
 
     /// Settles the result of a file at `path`, where an earlier part of this run has put it. It is then not in its own
     /// way, needs no probe, and keeps its name. To be called before MakeNames().
-    void Keep(int index, const QString& path);
+    void KeepResult(int index, const QString& path);
 
     bool IsKept(int index) const { return entries[index].isKept; }
 

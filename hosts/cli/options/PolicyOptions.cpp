@@ -33,6 +33,8 @@ QString HelpOf(PolicyKind kind)
     case PolicyKind::WriteToFormat:
         return QStringLiteral("when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, the "
                               "format that comes nearest");
+    case PolicyKind::None:
+        break;
     }
     return {};
 }
@@ -52,6 +54,8 @@ QString PolicyOption(PolicyKind kind)
         return QStringLiteral("--on-name-exists");
     case PolicyKind::WriteToFormat:
         return QStringLiteral("--on-format");
+    case PolicyKind::None:
+        break;
     }
     return {};
 }
