@@ -20,6 +20,7 @@ private Q_SLOTS:
     void noJournal();
     void journalsAreLocked();
     void journalsOfOtherJobsAreIgnored();
+    void answersToUnknownPoliciesAreIgnored();
     void journaledResultsKeepTheirNames();
     void finishedResultsAreFound_data();
     void finishedResultsAreFound();
@@ -121,6 +122,19 @@ void tst_RunPreparation::journalsOfOtherJobsAreIgnored()
     RunPreparation preparation;
     preparation.OpenJournal(Path(QStringLiteral("journal")), QStringLiteral("<other/>"));
     QVERIFY(!preparation.earlier);
+}
+
+void tst_RunPreparation::answersToUnknownPoliciesAreIgnored()
+{
+    RunJournal journal;
+    StartJournal(journal);
+    for (const int policy : {-1, int(PolicyKind::Naming), policyCount, 1'000'000}) {
+        journal.Answer(policy, 2);
+    }
+    RunPreparation preparation;
+    preparation.OpenJournal(Path(QStringLiteral("journal")), Document());
+    QVERIFY(preparation.earlier);
+    QCOMPARE(preparation.earlier->answers.keys(), QList<int>{int(PolicyKind::Naming)});
 }
 
 void tst_RunPreparation::journaledResultsKeepTheirNames()
