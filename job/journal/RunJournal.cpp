@@ -119,11 +119,11 @@ bool RunJournal::Create(const QString& path, const QString& document, const std:
 bool RunJournal::Open(const QString& path)
 {
     file.setFileName(path);
-    // Opened for appending: host and server write in turn.
+    // For appending: host and server write in turn.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered | QIODevice::ExistingOnly)) {
         return false;
     }
-    // A line that was cut off must not take the next one along.
+    // A truncated line must not swallow the next one.
     file.seek(std::max<qint64>(0, file.size() - 1));
     if (file.read(1) != "\n") {
         file.write("\n");

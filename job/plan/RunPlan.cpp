@@ -57,7 +57,7 @@ void RunPlan::SettleName(int file, const Policies& policies)
     }
 }
 
-/// Nothing changes the name of such a file any more.
+/// Whether the policies leave format and name of the file alone.
 bool RunPlan::IsSettled(int file) const
 {
     return failedProbes.contains(file) || plan.IsKept(file) || WasGivenUpUnderItsName(file);
@@ -119,7 +119,7 @@ Decision RunPlan::ResolveName(int file, Decision decision)
     return safe;
 }
 
-/// A user who allows results to be overwritten does not mean pictures that are still to be read.
+/// A user who lets results be overwritten does not mean pictures that are still to be read.
 Decision RunPlan::SafeDecision(int file, Decision decision)
 {
     return decision == Decision::Overwrite && plan.IsAnothersSource(file) ? Decision::Rename : decision;

@@ -43,8 +43,7 @@ public:
     /// A file that cannot be probed cannot be processed either.
     void SetProbeFailure(int file, const Trouble& trouble) { failedProbes.insert(file, trouble); }
 
-    /// Makes the names and settles what the policies decide without asking.
-    /// False when the work was cancelled.
+    /// Makes the names and settles what the policies decide without asking. False when it was cancelled.
     bool MakeNames(const Policies& policies, const OutputPlan::Cancelled& isCancelled = {});
 
     /// Settles formats and names of the files from `first` on where the policies decide without asking. This is done
@@ -69,7 +68,7 @@ public:
     bool IsOverwriting(int file) const { return marks[std::size_t(file)].isOverwriting; }
     bool HasOtherFormat(int file) const { return marks[std::size_t(file)].hasOtherFormat; }
 
-    /// Every folder that results go to, once each.
+    /// Every folder of results, once.
     QStringList Folders() const;
 
 private:

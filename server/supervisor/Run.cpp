@@ -158,8 +158,7 @@ void Run::BeginWork()
     phase = Phase::Working;
     plan = std::move(preparation->plan);
     if (preparation->removedFiles > 0) {
-        host.Log(
-            QStringLiteral("Removed %1 unfinished files that an earlier run has left.").arg(preparation->removedFiles));
+        host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
     preparation.reset();
     pool.Start();
@@ -349,7 +348,7 @@ void Run::OnBroken(const QString& reason)
         return;
     }
     if (phase == Phase::Reading || phase == Phase::Naming) {
-        return; // They are started again when there is something to do.
+        return; // BeginWork() and the probing start the pool again.
     }
     host.Tell<ZTBatchMessage::MsgError>(QString(), QString(), int(Action::RunStopped),
                                         int(ZTBatchMessage::NoAdjustmentManager));
@@ -597,7 +596,7 @@ void Run::Cancel()
     }
 }
 
-/// No further file is handed out; those in work are finished.
+/// Hands no further file out. Files in work are still finished.
 void Run::Stop(const QString& reason)
 {
     if (isStopping) {

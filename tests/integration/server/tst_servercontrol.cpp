@@ -31,12 +31,12 @@ void tst_ServerControl::pauseAndResume()
     run.Process(run.Job(inputs));
     QVERIFY2(run.WaitFor(QStringLiteral("file [in/first.jpg]")), qPrintable(run.Report()));
     run.Send<ZTBatchMessage::MsgPause>();
-    // Confirmed while a picture is in work.
+    // The pause is confirmed while a picture is in work.
     QVERIFY2(run.WaitFor(QStringLiteral("paused")), qPrintable(run.Report()));
     run.Send<ZTBatchMessage::MsgPause>();
     QVERIFY2(run.WaitFor(QStringLiteral("log There is nothing to pause.")), qPrintable(run.Report()));
     run.Write(QStringLiteral("gate"), {});
-    // What the worker had already is finished, nothing else.
+    // Only what the worker had already got is finished.
     QVERIFY2(run.WaitFor(QStringLiteral("processed [in/0.jpg]")), qPrintable(run.Report()));
     run.Send<ZTBatchMessage::MsgPause>();
     QVERIFY(QTest::qWaitFor([&] { return run.Count(QStringLiteral("log There is nothing to pause.")) == 2; }, 30000));
@@ -95,7 +95,7 @@ void tst_ServerControl::cancelled()
     run.Send<ZTBatchMessage::MsgCancel>();
     QVERIFY2(run.WaitFor(QStringLiteral("cancelled")), qPrintable(run.Report()));
     QCOMPARE(run.Count(QStringLiteral("log Cancelled: 0 written, 0 skipped, 0 failed")), 1);
-    // Nothing is left behind, and the server works on.
+    // Nothing is left behind, and the server still works.
     QVERIFY2(run.Names(QStringLiteral("out")).isEmpty(),
              qPrintable(run.Names(QStringLiteral("out")).join(QLatin1Char(' '))));
     run.Send<ZTBatchMessage::MsgCloseSession>();

@@ -86,7 +86,7 @@ void tst_ServerPolicies::namingPolicies()
 void tst_ServerPolicies::anothersSourceIsNeverOverwritten()
 {
     ServerRun run(ServerRun::Worker::StandIn);
-    // The result of the first has the name of the second's source; the second may replace itself.
+    // The first result has the name of the second input. The second may replace itself.
     const QStringList inputs{run.Write(QStringLiteral("in/b.jpg"), "first"),
                              run.Write(QStringLiteral("out/b.jpg"), "second")};
     Policies policies;
@@ -147,7 +147,7 @@ void tst_ServerPolicies::formatPolicies_data()
                           << QStringList{QStringLiteral("good.jpg")};
     QTest::newRow("stop") << int(ZTBatchManager::WriteToFormatStop)
                           << QStringList{QStringLiteral("error [in/photo.jpg] [] 2 3")} << QStringList();
-    // The stand-in calls what it does not know a PSD, and PNG its nearest format.
+    // The stand-in takes any unknown file for a PSD, with PNG as its nearest format.
     QTest::newRow("nearest") << int(ZTBatchManager::WriteToFormatNearest)
                              << QStringList{QStringLiteral("error [in/photo.jpg] [out/photo.png] 5 3"),
                                             QStringLiteral("error [in/raw.dng] [out/raw.tif] 5 3")}

@@ -62,7 +62,7 @@ void tst_ServerQuestions::questions()
     QVERIFY(run.Start());
     run.Process(run.Job({input}), {2, 2, 2, 3, 2});
     QVERIFY2(run.WaitFor(question), qPrintable(run.Report()));
-    // What the question is about comes before it.
+    // The error that the question is about comes before it.
     const int at = run.lines.indexOf(question);
     const QString reported = QStringLiteral("error [in/a.jpg] [out/a.jpg] 0 ");
     QVERIFY2(run.lines[at - 1].startsWith(reported), qPrintable(run.Report()));
@@ -103,7 +103,7 @@ void tst_ServerQuestions::oneQuestionAtATimeInOrder()
 {
     ServerRun run(ServerRun::Worker::StandIn);
     const QString gate = run.Path(QStringLiteral("gate"));
-    // The first is the last to be found out.
+    // The trouble of the first file is found last.
     const QStringList inputs{run.Write(QStringLiteral("in/0.jpg"), "wait " + gate.toUtf8()),
                              run.Write(QStringLiteral("in/1.jpg"), "input 2"),
                              run.Write(QStringLiteral("in/2.jpg"), "processing 9"),
@@ -135,7 +135,7 @@ void tst_ServerQuestions::outputQuestionsHoldTheRun()
     QVERIFY2(run.WaitFor(QStringLiteral("output question")), qPrintable(run.Report()));
     run.Send<ZTBatchMessage::MsgOutputQuestion>(int(ZTBatchManager::OutputStop), false);
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
-    // The one that was asked about and the one behind it in the worker.
+    // The file of the question, and the next one, which the worker had already got.
     QVERIFY2(run.Count(QStringLiteral("file ")) <= 2, qPrintable(run.Report()));
 }
 
@@ -148,7 +148,7 @@ void tst_ServerQuestions::unansweredQuestionsKeepTheRunWaiting()
     run.Process(run.Job(inputs), {2, 2, 2, 3, 2});
     QVERIFY2(run.WaitFor(QStringLiteral("input question")), qPrintable(run.Report()));
     QVERIFY2(run.WaitFor(QStringLiteral("processed [in/good.jpg]")), qPrintable(run.Report()));
-    // Answers that are none leave it open.
+    // Invalid answers leave the question open.
     run.Send<ZTBatchMessage::MsgInputQuestion>(2, false);
     run.Send<ZTBatchMessage::MsgInputQuestion>(77, true);
     run.Send<ZTBatchMessage::MsgOutputQuestion>(0, true);

@@ -156,7 +156,7 @@ void tst_ServerRun::cases_data()
     QTest::newRow("sudden end") << QByteArray("exit") << "1 9" << failed;
     QTest::newRow("out of memory") << QByteArray("outofmemory") << "1 10" << failed;
     QTest::newRow("garbage") << QByteArray("garbage") << "1 9" << failed;
-#ifndef Q_OS_WIN // QProcess takes in whatever comes there before it lets anybody look at it.
+#ifndef Q_OS_WIN // There QProcess reads all that comes before it lets anybody look at it.
     QTest::newRow("answer without end") << QByteArray("flood") << "1 9" << failed;
 #endif
     QTest::newRow("answer about another file") << QByteArray("alien") << "1 9" << failed;
@@ -196,7 +196,7 @@ void tst_ServerRun::stoppedRun()
     run.Process(run.Job(inputs), policies);
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QCOMPARE(run.Lines(QStringLiteral("error")), QStringList{QStringLiteral("error [in/bad.jpg] [out/bad.jpg] 2 9")});
-    // The one that the worker had already is finished.
+    // The file that the worker had already got is finished.
     QCOMPARE(run.Lines(QStringLiteral("log Stopped")),
              QStringList{QStringLiteral("log Stopped: 1 written, 0 skipped, 1 failed, 19 not processed.")});
     QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("0.jpg")});
@@ -249,7 +249,7 @@ void tst_ServerRun::sameResultsForAnyNumberOfWorkers()
         run.SetVariable(QStringLiteral("VELKORA_BATCH_WORKERS"), QString::number(i == 0 ? 1 : 4));
         QStringList inputs;
         for (int file = 0; file < 60; ++file) {
-            // Names meet each other and the disk; formats change; some fail.
+            // Names clash with each other and with the disk, formats change, some files fail.
             const QByteArray script = file % 7 == 3   ? QByteArray("format TIFF\n")
                                       : file % 7 == 5 ? QByteArray("input 2\n")
                                       : file % 7 == 6 ? QByteArray("format PNG\n")
@@ -302,7 +302,7 @@ void tst_ServerRun::workersHaveOneThreadForPictures()
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QCOMPARE(run.Count(QStringLiteral("processed")), 1);
     QCOMPARE(run.WorkerIds().size(), 1);
-    // Threads of the imaging library have names of their own; those of others have that of the program.
+    // The imaging library names its threads. All others have the name of the program.
     const QString tasks = QStringLiteral("/proc/%1/task").arg(run.WorkerIds().first());
     int count = 0;
     for (const QString& task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
