@@ -3,12 +3,16 @@
 #include "ManagerPolicies.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/plan/Trouble.h"
+#include "job/plan/TroubleLine.h"
 #include "job/values/JobValues.h"
 
 #include "ZTBatchMessage.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
+
+#include <utility>
 
 using namespace BatchJob;
 
@@ -23,12 +27,6 @@ constexpr int mostLives = 10;
 
 /// How many servers in a row may die before they have begun with a picture.
 constexpr int mostIdleLives = 3;
-
-/// Nothing was wrong with a picture whose name is taken or whose format cannot be written.
-bool IsSkip(int errorCode)
-{
-    return errorCode == ZTBatchMessage::FileNameAlreadyExists || errorCode == ZTBatchMessage::UnsupportedOutputFormat;
-}
 
 } // namespace
 
@@ -144,7 +142,7 @@ void RunController::OnFileProcessed(const QString& input, const QString& output)
 
 void RunController::OnProcessError(const QString& input, const QString& output, int action, int errorCode)
 {
-    const QString reason = TakeReason(input, errorCode);
+    const QString reason = ReasonOfError(input, BatchJob::Action(action), errorCode);
     if (input.isEmpty()) {
         end.jobErrorCode = errorCode;
         end.jobError = reason;
@@ -155,12 +153,11 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
         asked = {input, output, FileResult::Kind::Failed, errorCode, reason};
         break;
     case BatchJob::Action::FileSkipped:
-        Settle({input, output, IsSkip(errorCode) ? FileResult::Kind::Skipped : FileResult::Kind::Failed, errorCode,
-                reason});
+    case BatchJob::Action::RunStopped: {
+        const bool isSkipped = CountsAsSkipped(BatchJob::Action(action), errorCode);
+        Settle({input, output, isSkipped ? FileResult::Kind::Skipped : FileResult::Kind::Failed, errorCode, reason});
         break;
-    case BatchJob::Action::RunStopped:
-        Settle({input, output, FileResult::Kind::Failed, errorCode, reason});
-        break;
+    }
     default: {
         const BatchJob::Word* const word = BatchJob::FindWord(BatchJob::ActionWords, action);
         const QString what = word == nullptr ? QString::number(action) : QString::fromLatin1(word->word);
@@ -180,17 +177,19 @@ void RunController::OnLog(const QString& text)
     }
 }
 
-/// The server says in its log what an error is about, right before the error.
-QString RunController::TakeReason(const QString& input, int errorCode)
+/// The reason of an error message. The server logs it right before the message; without that line the reason is the
+/// description of the error.
+QString RunController::ReasonOfError(const QString& input, BatchJob::Action action, int errorCode)
 {
-    const QString start = input.isEmpty() ? QStringLiteral("The job is refused: ") : input + QStringLiteral(": ");
-    const QString log = lastLog;
-    lastLog.clear();
-    if (log.startsWith(start)) {
-        // Behind the last semicolon stands what was done about it, which the error itself says.
-        const QString text = log.mid(start.size());
-        const int semicolon = text.lastIndexOf(QStringLiteral("; "));
-        return semicolon > 0 && !input.isEmpty() ? text.left(semicolon) : text;
+    const QString log = std::exchange(lastLog, {});
+    if (input.isEmpty()) {
+        if (const std::optional<RefusalLine> refusal = RefusalLine::Parse(log)) {
+            return refusal->message;
+        }
+    } else if (const std::optional<TroubleLine> trouble = TroubleLine::Parse(log, input, action)) {
+        return trouble->reason;
+    } else if (const std::optional<ResultLine> result = ResultLine::Parse(log, input, action)) {
+        return result->Remark();
     }
     QString text = ZTBatchMessage::ErrorDescription(ZTBatchMessage::Error(errorCode));
     if (text.endsWith(QLatin1Char('.'))) {
@@ -236,6 +235,8 @@ void RunController::Answer(int value, bool isForTheRest)
         break;
     case PolicyKind::WriteToFormat:
         session->WriteToFormatRespond(ZTBatchManager::WriteToFormatPolicy(value), isForTheRest);
+        break;
+    case PolicyKind::None:
         break;
     }
 }

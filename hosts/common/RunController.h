@@ -2,6 +2,8 @@
 
 #include "RunObserver.h"
 
+#include "job/values/JobValues.h"
+
 #include "ZTBatchManager.h"
 #include "ZTBatchSession.h"
 
@@ -78,7 +80,7 @@ private:
     QVector<QPair<int, FileResult>> JournaledResults() const;
     void NoteLoss(const QStringList& lost) const;
     void End(bool isCancelled, bool isServerLost);
-    QString TakeReason(const QString& input, int errorCode);
+    QString ReasonOfError(const QString& input, BatchJob::Action action, int errorCode);
 
     const Order order;
     const QVector<RunObserver*> observers;

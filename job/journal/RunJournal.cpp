@@ -31,7 +31,7 @@ const char* WordOf(Kind kind)
     return "";
 }
 
-bool TakeHeader(const QJsonObject& line, JournalState& state)
+bool ReadHeader(const QJsonObject& line, JournalState& state)
 {
     const QJsonArray policies = line.value(Key("policies")).toArray();
     if (line.value(Key("journal")).toInt() != version || policies.size() != int(state.policies.size())) {
@@ -44,7 +44,7 @@ bool TakeHeader(const QJsonObject& line, JournalState& state)
     return true;
 }
 
-void TakeLine(const QJsonObject& line, JournalState& state)
+void ReadLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
     for (const Kind kind : {Kind::Written, Kind::Skipped, Kind::Failed}) {
@@ -60,9 +60,9 @@ void TakeLine(const QJsonObject& line, JournalState& state)
     if (begun >= 0 && !state.results.contains(begun)) {
         state.begun.insert(begun, {output, line.value(Key("before")).toString()});
     }
-    const QJsonValue answer = line.value(Key("answer"));
-    if (answer.isDouble()) {
-        state.answers.insert(answer.toInt(), line.value(Key("value")).toInt());
+    const int answer = line.value(Key("answer")).toInt(-1);
+    if (answer >= 0 && answer < int(state.policies.size())) {
+        state.answers.insert(answer, line.value(Key("value")).toInt());
     }
     for (const QJsonValue& lost : line.value(Key("lost")).toArray()) {
         ++state.losses[lost.toInt()];
@@ -84,12 +84,12 @@ std::optional<JournalState> ReadJournal(const QString& path)
         const QJsonDocument document = QJsonDocument::fromJson(line);
         const bool isWhole = line.endsWith('\n') && document.isObject();
         if (!hasHeader) {
-            if (!isWhole || !TakeHeader(document.object(), state)) {
+            if (!isWhole || !ReadHeader(document.object(), state)) {
                 return std::nullopt;
             }
             hasHeader = true;
         } else if (isWhole) {
-            TakeLine(document.object(), state);
+            ReadLine(document.object(), state);
         }
     }
     return hasHeader ? std::optional(state) : std::nullopt;
@@ -119,11 +119,11 @@ bool RunJournal::Create(const QString& path, const QString& document, const std:
 bool RunJournal::Open(const QString& path)
 {
     file.setFileName(path);
-    // Opened for appending: host and server write in turn.
+    // For appending: host and server write in turn.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered | QIODevice::ExistingOnly)) {
         return false;
     }
-    // A line that was cut off must not take the next one along.
+    // A truncated line must not swallow the next one.
     file.seek(std::max<qint64>(0, file.size() - 1));
     if (file.read(1) != "\n") {
         file.write("\n");

@@ -9,17 +9,17 @@
 #include <array>
 #include <optional>
 
-/// What a run has done so far, in a file that outlives it: whoever takes the run up again repeats and loses nothing,
-/// and gives every result the name that it would have had. docs/reference/journal.md describes the file.
+/// What a run has done so far, in a file that outlives the run. A resumed run repeats nothing, loses nothing, and gives
+/// every result the name that it would have had. docs/reference/journal.md describes the file.
 namespace BatchJob {
 
-/// Names the journal of a run to the server.
+/// The environment variable that names the journal to the server.
 constexpr char journalVariable[] = "VELKORA_BATCH_JOURNAL";
 
-/// Behind the name of a journal: the name of the lock that its server holds.
+/// Appended to the name of a journal, this is the name of the lock that its server holds.
 constexpr char journalHoldEnd[] = ".server";
 
-/// What a journal says.
+/// The content of a journal.
 struct JournalState
 {
     struct Result
@@ -35,38 +35,37 @@ struct JournalState
     QString document;              ///< the text of the job
     std::array<int, 5> policies{}; ///< input, output, processing, naming, write-to-format
 
-    /// By a file's place in the document, counted from 0.
-    QHash<int, Result> results;
     /// A worker was about to make a result.
     struct Beginning
     {
         QString output;
-        QString before; ///< FileIdentity::Text() of what stood there; empty for nothing
+        QString before; ///< FileIdentity::Text() of the file that was there; empty for none
     };
 
-    QHash<int, Beginning> begun; ///< files without result
-    QHash<int, int> losses;      ///< files without result: how often the server has died over them
+    // By a file's place in the document, counted from 0.
+    QHash<int, Result> results;
+    QHash<int, Beginning> begun; ///< of files without result
+    QHash<int, int> losses;      ///< of files without result: how often the server has died while it worked on them
 
-    /// What answers have changed for the rest of the run: a policy's place in `policies`, its value.
+    /// The policies that answers have changed for the rest of the run, by their places in `policies`.
     QMap<int, int> answers;
 };
 
-/// The journal in the file `path`; nothing when there is none, or the file is something else. A last line that was cut
-/// off counts as not written.
+/// Reads the journal `path`. Nothing when there is none, or the file is something else. A truncated last line is
+/// ignored.
 std::optional<JournalState> ReadJournal(const QString& path);
 
-/// Whether a run was begun with the journal at `path`: its first line is whole. Whoever died while writing that had
-/// begun nothing.
+/// Whether the run of the journal `path` has started, which is when the first line, the header, is whole.
 bool HasJournalBegun(const QString& path);
 
-/// A journal that is written. Each line is handed to the system at once: it survives the process, not the machine.
+/// Writes a journal. Each line goes to the system at once: it survives the process, not the machine.
 class RunJournal
 {
 public:
-    /// Begins a new journal at `path`, in place of one that is there. False when it cannot be written.
+    /// Starts a new journal at `path`, replacing any other. False when it cannot be written.
     bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies);
 
-    /// Goes on with the one at `path`.
+    /// Continues the journal at `path`. False when there is none, or it cannot be written.
     bool Open(const QString& path);
 
     bool IsOpen() const { return file.isOpen(); }

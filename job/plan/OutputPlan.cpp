@@ -19,7 +19,7 @@ QString ReadFormat(const QString& path)
 {
     const QFileInfo info(path);
     QFile file(path);
-    // Anything else, such as a named pipe, could keep the reader waiting for ever.
+    // Opening anything else, such as a named pipe, could block for ever.
     if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return {};
     }
@@ -31,7 +31,7 @@ QString WithoutExtension(const QString& name)
     return name.left(name.lastIndexOf(QLatin1Char('.')));
 }
 
-/// The files that go into every result.
+/// The files of effects and framing, which every result needs.
 QStringList SharedSources(const JobSettings& settings)
 {
     QStringList files;
@@ -104,7 +104,7 @@ QVector<int> OutputPlan::FilesToProbe() const
     return files;
 }
 
-void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& inputFormat)
+void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& inputFormat)
 {
     Entry& entry = entries[index];
     entry.captured = captured;
@@ -114,7 +114,7 @@ void OutputPlan::TakeProbe(int index, const QDateTime& captured, const QString& 
     }
 }
 
-void OutputPlan::Keep(int index, const QString& path)
+void OutputPlan::KeepResult(int index, const QString& path)
 {
     entries[index].isKept = true;
     entries[index].name = path;
@@ -130,7 +130,7 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
         }
         Entry& entry = entries[i];
         if (entry.isKept) {
-            TakeKept(i);
+            PlaceKeptResult(i);
             continue;
         }
         entry.folder = FolderOf(SubFolder(i));
@@ -174,7 +174,7 @@ void OutputPlan::ChangeFormat(int index, const FormatSchema& format)
 {
     Entry& entry = entries[index];
     if (!entry.name.isEmpty()) {
-        // What made the name a free one stays with it.
+        // The number that made the name a free one stays.
         entry.stem = WithoutExtension(entry.name);
     }
     entry.format = &format;
@@ -235,7 +235,7 @@ void OutputPlan::SetName(int index, const QString& addition)
     entry.name = FileName(entry.stem, addition, entry.format->extensions.first());
 }
 
-void OutputPlan::TakeKept(int index)
+void OutputPlan::PlaceKeptResult(int index)
 {
     Entry& entry = entries[index];
     const QFileInfo place(entry.name);
@@ -290,7 +290,7 @@ const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
     return target.onDisk;
 }
 
-/// The path of the file on the disk that has the name of a result; it may differ from it in letter case.
+/// The path of the file on the disk whose name equals that of the result; letter case may differ.
 QString OutputPlan::OnDiskPath(int index)
 {
     const Entry& entry = entries[index];

@@ -17,31 +17,31 @@
 
 namespace BatchJob {
 
-/// Where every result of a job goes, settled before the first picture is touched: numbers and names follow the
-/// document's order, so that neither failures nor parallel work shift them.
+/// Where every result of a job goes. The names are made before the first picture is touched. Numbers and names follow
+/// the document's order, so that neither failures nor parallel work shift them.
 ///
-/// Two names are the same when a file system could take them for the same: letter case and composition of characters
-/// make no difference. A plan reads folders and the first bytes of inputs, and writes nothing. Use it on one thread at
-/// a time; it may be handed from thread to thread.
+/// Two names are equal if any file system could treat them as equal: letter case and the composition of characters do
+/// not count. A plan reads folders and the first bytes of inputs, and writes nothing. It may move between threads; use
+/// it on one at a time.
 ///
 ///     OutputPlan plan(FilesOfJob(input), settings);
 ///     plan.ReadInputs();
 ///     for (const int index : plan.FilesToProbe()) {
-///         plan.TakeProbe(index, ...);
+///         plan.SetProbe(index, ...);
 ///     }
 ///     plan.MakeNames();
 class OutputPlan
 {
 public:
-    /// What has the planned name already.
+    /// What already has the planned name.
     enum class Clash {
         None,
         Disk,   ///< a file or folder on the disk
-        Source, ///< a source of this job, a file that an effect or the framing reads too; it may be the file's own
-        Result  ///< the result of another file, one that stands earlier in the document or got its name earlier
+        Source, ///< a file that the job reads: an input, even the file itself, or a file of an effect or the framing
+        Result  ///< the result of another file that got its name earlier
     };
 
-    /// Returns true when the work is to be given up; asked between files.
+    /// Returns true to cancel the work. Called between files.
     using Cancelled = std::function<bool()>;
 
     OutputPlan() = default;
@@ -51,52 +51,52 @@ public:
 
     int Count() const { return entries.size(); }
 
-    /// When results keep their inputs' formats: reads what these are. A file that cannot be read has none. Needless,
-    /// but harmless, for other jobs. False when it was given up.
+    /// Reads the formats of the inputs, if results keep them; otherwise does nothing. A file that cannot be read has no
+    /// format. False when it was cancelled.
     bool ReadInputs(const Cancelled& isCancelled = {});
 
-    /// The files of which the plan needs to know more than it can see by itself: all when names or folders hold capture
-    /// times; those whose format no result can have, or that is unknown, when results keep their inputs' formats.
+    /// The files that a worker has to examine before MakeNames(): all files, if names or folders contain capture times;
+    /// the files of unknown format, if results keep their inputs' formats. None that KeepResult() has settled.
     QVector<int> FilesToProbe() const;
 
-    /// What a probe has found out. An invalid time and an empty format change nothing.
-    void TakeProbe(int index, const QDateTime& captured, const QString& inputFormat);
+    /// Enters what a probe has found. An invalid time and an empty format change nothing.
+    void SetProbe(int index, const QDateTime& captured, const QString& inputFormat);
 
-    /// Settles the result of a file at `path`, where an earlier part of this run has put it. It is then not in its own
-    /// way, needs no probe, and keeps its name. To be called before MakeNames().
-    void Keep(int index, const QString& path);
+    /// An earlier part of this run has written the result of the file to `path`: it keeps this name, does not clash
+    /// with itself and needs no probe. To be called before MakeNames().
+    void KeepResult(int index, const QString& path);
 
     bool IsKept(int index) const { return entries[index].isKept; }
 
-    /// Gives every file whose format is known its name and finds out what has it already. False when it was given up.
+    /// Names the results of all files whose format is known, and finds their clashes. False when it was cancelled.
     bool MakeNames(const Cancelled& isCancelled = {});
 
     QString Input(int index) const { return entries[index].input; }
 
-    /// The format of the input as FormatOfFile() names it. Empty when it is not known, or needs not be known.
+    /// The format of the input as FormatOfFile() names it. Empty when it is unknown or not needed.
     QString InputFormat(int index) const { return entries[index].inputFormat; }
 
-    /// The format of the result; null when the input's own format was asked for and cannot be written. Then there is no
-    /// name either, until ChangeFormat() gives both.
+    /// The format of the result. Null if it is to be the input's format and that cannot be written: the file then has
+    /// neither format nor name until ChangeFormat().
     const FormatSchema* Format(int index) const { return entries[index].format; }
 
     QString Folder(int index) const;     ///< where the result goes; absolute
     QString OutputName(int index) const; ///< empty as long as there is no format
-    QString Output(int index) const;     ///< both together; empty as long as there is no format
+    QString Output(int index) const;     ///< folder and name; empty as long as there is no format
 
     Clash ClashOf(int index) const { return entries[index].clash; }
 
     /// For Clash::Result: the file whose result has the name.
     int ClashesWith(int index) const { return entries[index].other; }
 
-    /// For Clash::Source: whether the planned name belongs to a source other than the file's own, as well or only. Its
-    /// loss would be the loss of another input of the job.
+    /// For Clash::Source: whether the planned name is that of a source other than the file itself, even if it is that
+    /// of the file too. Overwriting would then destroy another source of the job.
     bool IsAnothersSource(int index);
 
-    /// Gives a file another format, and its name the extension of that. The new name may clash.
+    /// Gives a file another format, and its name the extension of that format. The new name may clash.
     void ChangeFormat(int index, const FormatSchema& format);
 
-    /// Gives a file a free name: with " (2)", " (3)" and so on behind the stem.
+    /// Gives a file a free name by appending " (2)", " (3)" and so on to its stem.
     void Rename(int index);
 
 private:
@@ -117,7 +117,7 @@ private:
     struct TargetFolder
     {
         QString path;
-        int keyId = -1; ///< the same for folders whose paths are the same but for letter case and composition
+        int keyId = -1; ///< equal for folders whose paths differ only in letter case and composition
         bool isListed = false;
         QHash<QString, QString> onDisk; ///< key of a name, the name
     };
@@ -127,7 +127,7 @@ private:
     QString SubFolder(int index) const;
     int FolderOf(const QString& subFolder);
     void SetName(int index, const QString& addition);
-    void TakeKept(int index);
+    void PlaceKeptResult(int index);
     void FindClash(int index);
     bool IsTaken(int folder, const QString& key);
     const QHash<QString, QString>& OnDisk(int folder);
@@ -139,17 +139,17 @@ private:
     ZTBatchOutputSettings::FolderStructure structure = ZTBatchOutputSettings::StructureFlat;
     OutputNaming naming;
     bool keepsFormats = false;
-    QVector<QString> jobFolders; ///< JobFile::folder of each file
+    QVector<QString> jobFolders; ///< JobFile::folder of each file, for StructureAsInput
     QVector<Entry> entries;
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;
-    QHash<Place, int> takers;        ///< which file has a name
-    QSet<QString> keptPaths;         ///< what stands there came from this run
-    QHash<Place, int> nextAdditions; ///< the number behind a stem from which on names may be free
+    QHash<Place, int> takers;        ///< the file that has a name
+    QSet<QString> keptPaths;         ///< files that an earlier part of this run has written
+    QHash<Place, int> nextAdditions; ///< the first number behind a stem that may be free
     QStringList sharedSources;
     bool areSourcesNoted = false;
-    QHash<FileIdentity, int> sourceCounts; ///< how many inputs of the job, and shared sources, are one file
+    QHash<FileIdentity, int> sourceCounts; ///< the number of inputs and shared sources that are the same file
 };
 
 } // namespace BatchJob

@@ -80,4 +80,15 @@ Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& l
     }
 }
 
+BatchJob::ProbeResult ProbeResultOf(const Report& report)
+{
+    return {report.captured, report.inputFormat, report.nearestFormat};
+}
+
+BatchJob::Trouble TroubleOf(const Report& failure)
+{
+    const Report checked = CheckedFailure(failure);
+    return {checked.failure, checked.errorCode, checked.reason, checked.nearestFormat, true};
+}
+
 } // namespace BatchProtocol

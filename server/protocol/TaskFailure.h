@@ -2,6 +2,8 @@
 
 #include "WorkerProcess.h"
 
+#include "job/plan/RunPlan.h"
+
 namespace BatchProtocol {
 
 /// `report`, a worker's report of a failure, as far as it can be trusted: a case without a matching error code becomes
@@ -11,5 +13,9 @@ Report CheckedFailure(const Report& report);
 /// The failure of a task over which its worker has ended. `text` is what is known of the end; `limits` are those of the
 /// worker.
 Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& limits);
+
+/// What the report of a probe or of a failure says to the plan of a run.
+BatchJob::ProbeResult ProbeResultOf(const Report& report);
+BatchJob::Trouble TroubleOf(const Report& failure);
 
 } // namespace BatchProtocol

@@ -16,6 +16,22 @@ constexpr quint32 maximumPayload = 256U << 20;
 // A report is a few lines. A worker that a malicious picture has taken over must not fill the memory of its client.
 constexpr quint32 maximumReport = 1U << 20;
 
+// On the wire 0 is no failure, and the policies count from 1.
+constexpr int firstPolicy = 1;
+
+QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
+{
+    return stream << qint32(int(kind) + firstPolicy);
+}
+
+QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
+{
+    qint32 value = 0;
+    stream >> value;
+    kind = BatchJob::PolicyKind(qint64(value) - firstPolicy);
+    return stream;
+}
+
 template<typename Record>
 auto Fields(Record& record)
 {

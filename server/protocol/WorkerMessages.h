@@ -2,6 +2,8 @@
 
 #include "ServerLimits.h"
 
+#include "job/values/PolicyValues.h"
+
 #include "ZTBatchMessage.h"
 
 #include <QByteArray>
@@ -53,8 +55,7 @@ struct PictureTask
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
 };
 
-/// The policy that decides about a failure.
-enum class Case : qint32 { None, Input, Output, Processing, Naming, WriteToFormat };
+using Case = BatchJob::PolicyKind;
 
 /// The worker begins a task.
 struct Beginning
@@ -65,15 +66,15 @@ struct Beginning
 struct Report
 {
     qint32 number = 0;
-    Case failure = Case::None;                  ///< None: the task is done
-    qint32 errorCode = ZTBatchMessage::NoError; ///< a ZTBatchMessage::Error
-    QString reason;                             ///< for the log: what is wrong, and where
-    QStringList warnings;                       ///< for the log, of tasks that were done
-    QString nearestFormat;                      ///< for WriteToFormat, and of a probe: a format that can
-                                                ///< hold the picture, one of Formats()
-    QString inputFormat;                        ///< of a probe: as FormatOfFile() names it
-    QDateTime captured;                         ///< of a probe: EXIF original time, else the file's time
-    qint64 outputBytes = 0;                     ///< of a picture that was written
+    BatchJob::PolicyKind failure = BatchJob::PolicyKind::None; ///< the policy that decides; None: the task is done
+    qint32 errorCode = ZTBatchMessage::NoError;                ///< a ZTBatchMessage::Error
+    QString reason;                                            ///< for the log: what is wrong, and where
+    QStringList warnings;                                      ///< for the log, of tasks that were done
+    QString nearestFormat;                                     ///< for WriteToFormat, and of a probe: a format that can
+                                                               ///< hold the picture, one of Formats()
+    QString inputFormat;                                       ///< of a probe: as FormatOfFile() names it
+    QDateTime captured;                                        ///< of a probe: EXIF original time, else the file's time
+    qint64 outputBytes = 0;                                    ///< of a picture that was written
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;

@@ -7,14 +7,14 @@
 
 namespace BatchSupervisor {
 
-/// Work that asks the file system many things, on a thread of its own: the supervisor answers its host meanwhile.
-/// QThread::finished tells of the end. The destructor asks the work to give up and waits for it.
+/// Runs work that uses the file system a lot on a thread of its own, so that the supervisor keeps answering its host.
+/// QThread::finished is emitted at the end. The destructor cancels the work and waits for it.
 class BackgroundTask : public QThread
 {
     Q_OBJECT
 
 public:
-    /// True when the work is to be given up. Safe on any thread.
+    /// Returns true when the work is cancelled. Safe on any thread.
     using Cancelled = std::function<bool()>;
 
     explicit BackgroundTask(std::function<void(const Cancelled&)> work);

@@ -8,7 +8,7 @@
 
 namespace BatchSupervisor {
 
-/// What one session of a host is told. A host that has gone is told nothing.
+/// Sends messages to one session of a host. When the host has gone, nothing is sent.
 class HostLink
 {
 public:

@@ -36,7 +36,7 @@ JobReader::Job ReadHere(const QString& text)
     return job;
 }
 
-// A folder is written with the first of its files; 100,000 files share a few folders.
+// A folder is written with the first of its files only: 100,000 files share a few folders.
 void Write(QDataStream& stream, const JobReader::Job& job)
 {
     stream << qint32(job.refusal.code) << job.refusal.message << job.settings << qint32(job.files.size());
@@ -90,9 +90,8 @@ JobReader::Job JobReader::Read(QString text, const std::function<bool()>& isCanc
     Job job;
     QDataStream stream(&reader);
     if (reader.exitStatus() != QProcess::NormalExit || reader.exitCode() != 0 || !ReadBack(stream, job)) {
-        return {{ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job cannot be read: its reader has failed")},
-                {},
-                {}};
+        return {
+            {ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job cannot be read: its reader failed")}, {}, {}};
     }
     return job;
 }

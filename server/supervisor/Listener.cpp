@@ -11,8 +11,8 @@ namespace {
 
 constexpr int answerTime = 1000; // ms
 
-// A server that was killed answers until the processes that it was just starting have followed it, and one that ends
-// needs a moment to let its pipe go.
+// The pipe of a killed server answers until the child processes that it was starting have ended too, and a server that
+// ends needs a moment to release its pipe.
 constexpr int attempts = 20;
 constexpr int attemptInterval = 50; // ms
 

@@ -8,7 +8,7 @@ class QLocalSocket;
 
 namespace BatchSupervisor {
 
-/// The end of the pipe that hosts connect to. Only processes of this user get through.
+/// The server's end of the pipe, to which hosts connect. Only processes of the same user get through.
 class Listener : public QObject
 {
     Q_OBJECT
@@ -16,8 +16,8 @@ class Listener : public QObject
 public:
     explicit Listener(QObject* parent = nullptr);
 
-    /// Opens the pipe. What is left of a server that has gone is removed; a server that lives is left alone, and then
-    /// this returns false. See Error().
+    /// Opens the pipe. Replaces the pipe of a server that no longer runs. False when a server runs on it already, or
+    /// when it cannot be opened; see Error().
     bool Listen(const QString& pipeName);
 
     QString Error() const { return error; }

@@ -4,8 +4,8 @@ class QLocalSocket;
 
 namespace BatchSupervisor {
 
-/// Whether the process at the other end of `socket`, a connection that was accepted, belongs to the user whose process
-/// this is. False when that cannot be found out.
+/// Whether the process at the other end of `socket`, an accepted connection, belongs to the user of this process. False
+/// when that cannot be determined.
 bool IsPeerOfThisUser(const QLocalSocket& socket);
 
 } // namespace BatchSupervisor

@@ -9,7 +9,7 @@ namespace BatchSupervisor {
 
 namespace {
 
-/// The user of a process; empty when it is not to be had.
+/// The user of a process; empty when it cannot be determined.
 QByteArray UserOf(HANDLE process)
 {
     HANDLE token = nullptr;

@@ -1,14 +1,11 @@
 #include "Run.h"
 
-#include "JobReader.h"
-#include "TroubleOfWorker.h"
-
+#include "job/plan/FolderCheck.h"
+#include "job/plan/TroubleLine.h"
+#include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
 
-#include "ZTBatchDocument.h"
-
 #include <QDir>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -21,7 +18,7 @@ namespace BatchSupervisor {
 
 namespace {
 
-/// How many files are looked at in one go; the event loop gets its turn in between.
+/// Files that are examined in one go, before the event loop continues.
 constexpr int filesAtOnce = 256;
 
 } // namespace
@@ -32,8 +29,8 @@ Run::Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& h
     , host(host)
     , pool(pool)
     , limits(limits)
-    , policies(order)
     , policyRefusal(CheckPolicies(order))
+    , decisions(Policies(order))
     , document(order.document)
     , journalPath(journalPath)
 {
@@ -64,68 +61,13 @@ void Run::Begin()
         Refuse(policyRefusal);
         return;
     }
-    preparation = std::make_shared<Preparation>();
+    preparation = std::make_shared<RunPreparation>();
     StartInBackground(
         [preparation = preparation, path = journalPath,
          text = std::exchange(document, {})](const BackgroundTask::Cancelled& isCancelled) mutable {
-            HoldJournal(path, *preparation);
-            if (preparation->earlier && preparation->earlier->document != text) {
-                preparation->earlier.reset();
-            }
-            const JobReader::Job read = JobReader::Read(std::exchange(text, {}), isCancelled);
-            preparation->refusal = read.refusal;
-            if (isCancelled() || read.refusal.code != ZTBatchMessage::NoError) {
-                return;
-            }
-            ZTBatchDocument settings;
-            settings.Deserialize(read.settings);
-            preparation->settings = read.settings;
-            preparation->plan = RunPlan(OutputPlan(read.files, CheckSettings(settings).settings));
-            FindFinished(*preparation);
-            preparation->plan.ReadInputs(isCancelled);
+            preparation->ReadJob(std::exchange(text, {}), path, isCancelled);
         },
-        &Run::TakeJob);
-}
-
-/// Reads the journal. A server whose host was killed may be cleaning up yet: it has a while to end.
-void Run::HoldJournal(const QString& path, Preparation& preparation)
-{
-    if (path.isEmpty()) {
-        return;
-    }
-    constexpr int patience = 15'000;
-    preparation.hold = std::make_unique<QLockFile>(path + QLatin1String(journalHoldEnd));
-    preparation.hold->setStaleLockTime(0); // Only its holder's end makes it stale, not its age.
-    if (preparation.hold->tryLock(patience)) {
-        preparation.earlier = ReadJournal(path);
-    }
-}
-
-/// Takes what the journal says into the plan. Where another file stands now than before a worker began, the result was
-/// finished: results are whole or absent.
-void Run::FindFinished(Preparation& preparation)
-{
-    if (!preparation.earlier) {
-        return;
-    }
-    JournalState& earlier = *preparation.earlier;
-    for (auto it = earlier.begun.constBegin(); it != earlier.begun.constEnd(); ++it) {
-        const std::optional<FileIdentity> identity = IdentityOf(it->output);
-        if (it.key() < preparation.plan.Count() && identity && identity->Text() != it->before) {
-            earlier.results.insert(it.key(), {JournalState::Result::Kind::Written, it->output, 0, {}});
-            preparation.found.append(it.key());
-        }
-    }
-    for (auto it = earlier.results.constBegin(); it != earlier.results.constEnd(); ++it) {
-        if (it.key() >= preparation.plan.Count()) {
-            continue;
-        }
-        if (it->kind == JournalState::Result::Kind::Written) {
-            preparation.plan.Keep(it.key(), it->output);
-        } else {
-            preparation.plan.Leave(it.key(), it->output);
-        }
-    }
+        &Run::OnJobRead);
 }
 
 void Run::StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)())
@@ -143,7 +85,7 @@ void Run::StartInBackground(std::function<void(const BackgroundTask::Cancelled&)
     background->start();
 }
 
-void Run::TakeJob()
+void Run::OnJobRead()
 {
     if (preparation->refusal.code != ZTBatchMessage::NoError) {
         Refuse(preparation->refusal);
@@ -151,41 +93,40 @@ void Run::TakeJob()
     }
     plan = std::move(preparation->plan);
     job = FrameToWorker(Job{preparation->settings, limits});
-    settled.assign(std::size_t(plan.Count()), false);
+    decisions.SetFiles(plan.Count());
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
     host.Log(QStringLiteral("The job has %1 files.").arg(plan.Count()));
-    TakeEarlier();
-    probes = plan.Names().FilesToProbe();
-    openProbes = probes.size();
-    if (probes.isEmpty()) {
+    AdoptEarlierPart();
+    probes = ProbeQueue(plan.Names().FilesToProbe());
+    if (probes.Count() == 0) {
         BeginNaming();
         return;
     }
     phase = Phase::Probing;
     pool.Start();
-    host.Log(QStringLiteral("Names and formats depend on the pictures; looking at %1 of them.").arg(probes.size()));
+    host.Log(QStringLiteral("Names and formats depend on the pictures; looking at %1 of them.").arg(probes.Count()));
     Q_EMIT HasTasks();
 }
 
-void Run::TakeEarlier()
+void Run::AdoptEarlierPart()
 {
     if (!preparation->earlier || !journal.Open(journalPath)) {
         return;
     }
-    hold = std::move(preparation->hold);
+    journalLock = std::move(preparation->journalLock);
     const JournalState& earlier = *preparation->earlier;
     losses = earlier.losses;
     for (auto it = earlier.answers.begin(); it != earlier.answers.end(); ++it) {
-        const auto kind = Case(it.key() + int(Case::Input));
+        const auto kind = PolicyKind(it.key());
         if (const std::optional<Decision> decision = Policies::Meaning(kind, *it)) {
-            policies.Set(kind, *decision);
+            decisions.SetPolicy(kind, *decision);
         }
     }
     for (auto it = earlier.results.constBegin(); it != earlier.results.constEnd(); ++it) {
         if (it.key() < 0 || it.key() >= plan.Count()) {
             continue;
         }
-        settled[std::size_t(it.key())] = true;
+        decisions.SetDone(it.key());
         ++(it->kind == JournalState::Result::Kind::Written   ? written
            : it->kind == JournalState::Result::Kind::Skipped ? skipped
                                                              : failed);
@@ -194,12 +135,12 @@ void Run::TakeEarlier()
         return;
     }
     host.Log(QStringLiteral("An earlier part of this run has settled %1 files.").arg(earlier.results.size()));
-    for (const int file : qAsConst(preparation->found)) {
+    for (const int file : qAsConst(preparation->unreported)) {
         const JournalState::Result& result = earlier.results[file];
         journal.Settle(file, result);
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), result.output);
     }
-    host.Tell<ZTBatchMessage::MsgProgress>(written + skipped + failed);
+    host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
 }
 
 void Run::BeginNaming()
@@ -207,14 +148,8 @@ void Run::BeginNaming()
     phase = Phase::Naming;
     preparation->plan = std::move(plan);
     StartInBackground(
-        [preparation = preparation, policies = policies](const BackgroundTask::Cancelled& isCancelled) {
-            if (!preparation->plan.MakeNames(policies, isCancelled)) {
-                return;
-            }
-            for (const QString& folder : preparation->plan.Folders()) {
-                preparation->swept += isCancelled() ? 0 : TemporaryFile::Sweep(folder);
-            }
-        },
+        [preparation = preparation, policies = decisions.CurrentPolicies()](
+            const BackgroundTask::Cancelled& isCancelled) { preparation->MakeNames(policies, isCancelled); },
         &Run::BeginWork);
 }
 
@@ -222,8 +157,8 @@ void Run::BeginWork()
 {
     phase = Phase::Working;
     plan = std::move(preparation->plan);
-    if (preparation->swept > 0) {
-        host.Log(QStringLiteral("Removed %1 unfinished files that an earlier run has left.").arg(preparation->swept));
+    if (preparation->removedFiles > 0) {
+        host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
     preparation.reset();
     pool.Start();
@@ -243,14 +178,14 @@ bool Run::HandOut()
         return true;
     }
     if (phase == Phase::Probing) {
-        if (nextProbe == probes.size()) {
+        if (probes.NotBegun() == 0) {
             return false;
         }
-        const int file = probes[nextProbe++];
+        const int file = probes.Begin();
         Give({number, file, job, ProbeTask{file, plan.Names().Input(file)}, {}, false});
         return true;
     }
-    if (question && question->trouble.kind == Case::Output) {
+    if (decisions.IsAskingAbout(PolicyKind::Output)) {
         return false;
     }
     for (int looked = 0; phase == Phase::Working && !isStopping; ++looked) {
@@ -274,7 +209,7 @@ bool Run::HandOut()
 
 int Run::TasksLeft() const
 {
-    return phase == Phase::Probing ? probes.size() - nextProbe + returned.size()
+    return phase == Phase::Probing ? probes.NotBegun() + returned.size()
                                    : plan.Count() - next + ready.size() + returned.size();
 }
 
@@ -289,10 +224,11 @@ bool Run::GivePicture(int file)
     const OutputPlan& names = plan.Names();
     const QString folder = names.Folder(file);
     if (!MakeFolder(folder)) {
-        Meet(file, {Case::Output,
-                    ZTBatchMessage::WriteOutputFormatError,
-                    QStringLiteral("the folder \"%1\" cannot be made").arg(folder),
-                    {}});
+        const QString reason = WhyNotWritable(folder);
+        HandleTrouble(file, {PolicyKind::Output,
+                             ZTBatchMessage::WriteOutputFormatError,
+                             reason.isEmpty() ? QStringLiteral("the folder \"%1\" cannot be made").arg(folder) : reason,
+                             {}});
         return false;
     }
     const QString output = names.Output(file);
@@ -315,25 +251,25 @@ bool Run::MakeFolder(const QString& folder)
     return true;
 }
 
-/// Looks at a file before it is handed out.
+/// Hands a file on to the workers, or its trouble to the policies.
 void Run::Examine(int file)
 {
-    if (settled[std::size_t(file)]) {
-        return; // By an earlier part of the run.
+    if (decisions.IsDone(file)) {
+        return; // An earlier part of the run has done it.
     }
-    constexpr int patience = 2;
-    if (losses.value(file) >= patience) {
-        Meet(file, {Case::Processing,
-                    ZTBatchMessage::ApplyAdjustmentError,
-                    QStringLiteral("the server has died over it %1 times").arg(losses.value(file)),
-                    {}});
+    constexpr int mostLosses = 2;
+    if (losses.value(file) >= mostLosses) {
+        HandleTrouble(file, {PolicyKind::Processing,
+                             ZTBatchMessage::ApplyAdjustmentError,
+                             QStringLiteral("the server has died over it %1 times").arg(losses.value(file)),
+                             {}});
         return;
     }
     const Trouble trouble = plan.TroubleOf(file);
-    if (trouble.kind == Case::None) {
+    if (trouble.kind == PolicyKind::None) {
         ready.append(file);
     } else {
-        Meet(file, trouble);
+        HandleTrouble(file, trouble);
     }
 }
 
@@ -348,37 +284,37 @@ void Run::OnReported(const Assignment& task, const Report& report)
 {
     inWork.remove(task.file);
     if (std::holds_alternative<ProbeTask>(task.task)) {
-        if (report.failure == Case::None) {
-            plan.TakeProbe(task.file, report);
+        if (report.failure == PolicyKind::None) {
+            plan.SetProbe(task.file, ProbeResultOf(report));
         } else {
-            plan.TakeProbe(task.file, TroubleOfReport(report));
+            plan.SetProbeFailure(task.file, TroubleOf(report));
         }
         FinishProbe();
-    } else if (report.failure == Case::None) {
+    } else if (report.failure == PolicyKind::None) {
         FinishPicture(task.file, report);
     } else {
-        Meet(task.file, TroubleOfReport(report));
+        HandleTrouble(task.file, TroubleOf(report));
     }
 }
 
 void Run::OnLost(const Assignment& task, WorkerEnd reason, const QString& text)
 {
     inWork.remove(task.file);
-    const Trouble trouble = TroubleOfEnd(reason, text, limits);
+    const Trouble trouble = TroubleOf(FailureOfEnd(reason, text, limits));
     if (std::holds_alternative<ProbeTask>(task.task)) {
-        plan.TakeProbe(task.file, trouble);
+        plan.SetProbeFailure(task.file, trouble);
         FinishProbe();
         return;
     }
-    if (!TakeUnreported(task)) {
-        Meet(task.file, trouble);
+    if (!FinishUnreported(task)) {
+        HandleTrouble(task.file, trouble);
     }
 }
 
 void Run::OnReturned(const Assignment& task)
 {
     inWork.remove(task.file);
-    if (TakeUnreported(task)) {
+    if (FinishUnreported(task)) {
         return;
     }
     if (isStopping) {
@@ -389,8 +325,9 @@ void Run::OnReturned(const Assignment& task)
     Q_EMIT HasTasks();
 }
 
-/// Whether the worker had finished the result, and only its report is missing: results are whole or absent.
-bool Run::TakeUnreported(const Assignment& task)
+/// Results are whole or absent. If the worker had written the result and only its report is missing, the file is done:
+/// returns true.
+bool Run::FinishUnreported(const Assignment& task)
 {
     const auto* picture = std::get_if<PictureTask>(&task.task);
     if (!picture) {
@@ -411,7 +348,7 @@ void Run::OnBroken(const QString& reason)
         return;
     }
     if (phase == Phase::Reading || phase == Phase::Naming) {
-        return; // They are started again when there is something to do.
+        return; // BeginWork() and the probing start the pool again.
     }
     host.Tell<ZTBatchMessage::MsgError>(QString(), QString(), int(Action::RunStopped),
                                         int(ZTBatchMessage::NoAdjustmentManager));
@@ -441,87 +378,66 @@ void Run::OnDropped()
     End();
 }
 
-void Run::Meet(int file, const Trouble& trouble)
+void Run::HandleTrouble(int file, const Trouble& trouble)
 {
     if (isStopping) {
         GiveUp(file, trouble, Action::RunStopped);
-        return;
-    }
-    if (policies.Of(trouble.kind) == Decision::Ask || NeedsOrder(file, trouble)) {
-        waiting.insert(file, trouble);
+    } else if (decisions.MustWait(plan, file, trouble)) {
+        decisions.Wait(file, trouble);
         DecideWaiting();
     } else {
-        Resolve(file, trouble, policies.Of(trouble.kind));
+        Resolve(file, trouble, decisions.CurrentPolicies().Of(trouble.kind));
     }
 }
 
-/// Whether the decision may give a file another name, or has to find the result of an earlier file in its place.
-bool Run::NeedsOrder(int file, const Trouble& trouble) const
-{
-    switch (policies.Of(trouble.kind)) {
-    case Decision::Nearest:
-    case Decision::Rename:
-        return true;
-    case Decision::Overwrite:
-        return trouble.isFromWorker || plan.Names().ClashOf(file) == OutputPlan::Clash::Result;
-    default:
-        return false;
-    }
-}
-
-/// Decides about the files whose turn it is: those before which every file is done.
 void Run::DecideWaiting()
 {
     if (isDeciding) {
-        return; // The loop below goes on with what has come up.
+        return;
     }
     isDeciding = true;
-    while (!question && !waiting.isEmpty() && waiting.firstKey() == FirstUnsettled()) {
-        const int file = waiting.firstKey();
-        const Trouble trouble = waiting.take(file);
-        const Decision decision = policies.Of(trouble.kind);
+    while (const std::optional<RunDecisions::FileTrouble> next = decisions.TakeNext()) {
+        const Decision decision = decisions.CurrentPolicies().Of(next->trouble.kind);
         if (decision == Decision::Ask) {
-            Ask(file, trouble);
+            Ask(*next);
         } else {
-            Resolve(file, trouble, decision);
+            Resolve(next->file, next->trouble, decision);
         }
     }
     isDeciding = false;
     EndWhenDone();
 }
 
-void Run::Ask(int file, const Trouble& trouble)
+void Run::Ask(const RunDecisions::FileTrouble& about)
 {
-    question = OpenQuestion{file, trouble};
-    ReportTrouble(file, trouble, Action::ReportedOnly, QStringLiteral("asking"));
-    host.Ask(Policies::Question(trouble.kind));
+    decisions.Ask(about);
+    ReportTrouble(about.file, about.trouble, Action::ReportedOnly);
+    host.Ask(Policies::Question(about.trouble.kind));
 }
 
 void Run::Answer(ZTBatchMessage::Message answered, int policy, bool isForTheRest)
 {
-    if (!question || Policies::Question(question->trouble.kind) != answered) {
+    using Meaning = RunDecisions::Answer::Meaning;
+    const RunDecisions::Answer answer = decisions.TakeAnswer(answered, policy);
+    if (answer.meaning == Meaning::NoQuestion) {
         host.Log(QStringLiteral("There is no such question: the answer is ignored."));
         return;
     }
-    const Case kind = question->trouble.kind;
-    const std::optional<Decision> decision = Policies::Meaning(kind, policy);
-    if (!decision || *decision == Decision::Ask) {
-        host.Log(QStringLiteral("%1 is no answer to the question about %2: it stays open.")
-                     .arg(policy)
-                     .arg(Policies::Name(kind)));
+    const QString policyName = Policies::Name(answer.policy);
+    if (answer.meaning == Meaning::Invalid) {
+        host.Log(
+            QStringLiteral("%1 is no answer to the question about %2: it stays open.").arg(policy).arg(policyName));
         return;
     }
-    const OpenQuestion open = *question;
-    question.reset();
     if (isForTheRest) {
-        policies.Set(kind, *decision);
-        journal.Answer(int(kind) - int(Case::Input), policy);
-        host.Log(QStringLiteral("The answer about %1 holds for the rest of the run.").arg(Policies::Name(kind)));
+        decisions.SetPolicy(answer.policy, answer.decision);
+        journal.Answer(int(answer.policy), policy);
+        host.Log(QStringLiteral("The answer about %1 holds for the rest of the run.").arg(policyName));
     }
-    isDeciding = true; // The files behind have their turn when their names are settled.
-    Resolve(open.file, open.trouble, *decision);
+    isDeciding = true; // Later files are decided when their names are settled.
+    Resolve(answer.about.file, answer.about.trouble, answer.decision);
     if (isForTheRest) {
-        plan.Settle(open.file + 1, policies);
+        plan.Settle(answer.about.file + 1, decisions.CurrentPolicies());
     }
     isDeciding = false;
     DecideWaiting();
@@ -532,7 +448,7 @@ void Run::Resolve(int file, const Trouble& trouble, Decision decision)
 {
     switch (decision) {
     case Decision::Stop:
-        waiting.insert(file, trouble);
+        decisions.Wait(file, trouble);
         Stop(QStringLiteral("the %1 policy says so").arg(Policies::Name(trouble.kind)));
         break;
     case Decision::Overwrite:
@@ -551,16 +467,14 @@ void Run::Resolve(int file, const Trouble& trouble, Decision decision)
 
 void Run::ResolveName(int file, const Trouble& trouble, Decision decision)
 {
-    // An answer for the rest of the run has settled it meanwhile, perhaps.
+    // An answer for the rest of the run may have settled the name in the meantime.
     const bool isTaken = trouble.isFromWorker || plan.Names().ClashOf(file) != OutputPlan::Clash::None;
     if (isTaken && decision == Decision::Overwrite && plan.IsOverwriting(file)) {
-        GiveUp(file, trouble, Action::FileSkipped); // The worker was told so already.
+        GiveUp(file, trouble, Action::FileSkipped); // The worker was to overwrite, and could not.
         return;
     }
-    if (isTaken && decision == Decision::Overwrite && !plan.IsAnothersSource(file)) {
-        plan.Overwrite(file);
-    } else if (isTaken) {
-        plan.Rename(file);
+    if (isTaken) {
+        plan.ResolveName(file, decision);
     }
     ready.append(file);
     Q_EMIT HasTasks();
@@ -568,39 +482,36 @@ void Run::ResolveName(int file, const Trouble& trouble, Decision decision)
 
 void Run::ResolveFormat(int file, const Trouble& trouble)
 {
-    // An answer for the rest of the run has given it one meanwhile, perhaps.
+    // An answer for the rest of the run may have given it a format in the meantime.
     const bool isSettled = !trouble.isFromWorker && plan.Names().Format(file);
     if (!isSettled && !plan.ChangeFormat(file, trouble.nearestFormat)) {
         GiveUp(file, trouble, Action::FileSkipped);
         return;
     }
-    plan.SettleFile(file, policies);
+    plan.SettleName(file, decisions.CurrentPolicies());
     Examine(file);
     Q_EMIT HasTasks();
 }
 
-void Run::ReportTrouble(int file, const Trouble& trouble, Action action, const QString& consequence)
+void Run::ReportTrouble(int file, const Trouble& trouble, Action action)
 {
     const OutputPlan& names = plan.Names();
-    host.Log(QStringLiteral("%1: %2; %3 (%4 policy)")
-                 .arg(names.Input(file), trouble.reason, consequence, Policies::Name(trouble.kind)));
+    host.Log(TroubleLine{names.Input(file), trouble.reason, action, trouble.kind}.Text());
     host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), trouble.code);
 }
 
 /// The file will not be written.
 void Run::GiveUp(int file, const Trouble& trouble, Action action)
 {
-    const bool isStop = action == Action::RunStopped;
-    ReportTrouble(file, trouble, action, isStop ? QStringLiteral("the run is stopped") : QStringLiteral("skipped"));
-    // Nothing was wrong with a picture whose name is taken or whose format cannot be written.
-    const bool isFailure = isStop || (trouble.kind != Case::Naming && trouble.kind != Case::WriteToFormat);
-    ++(isFailure ? failed : skipped);
-    if (!isStop) {
-        using Kind = JournalState::Result::Kind;
+    using Kind = JournalState::Result::Kind;
+    ReportTrouble(file, trouble, action);
+    const bool isSkipped = CountsAsSkipped(action, trouble.code);
+    ++(isSkipped ? skipped : failed);
+    if (action != Action::RunStopped) { // A resumed run tries what a stop has left.
         journal.Settle(
-            file, {isFailure ? Kind::Failed : Kind::Skipped, plan.Names().Output(file), trouble.code, trouble.reason});
+            file, {isSkipped ? Kind::Skipped : Kind::Failed, plan.Names().Output(file), trouble.code, trouble.reason});
     }
-    Settle(file);
+    OnFileDone(file);
 }
 
 void Run::FinishPicture(int file, const Report& report)
@@ -611,48 +522,42 @@ void Run::FinishPicture(int file, const Report& report)
     for (const QString& warning : report.warnings) {
         host.Log(QStringLiteral("%1: warning: %2").arg(input, warning));
     }
-    const auto note = [&](Action action, ZTBatchMessage::Error code, const QString& text) {
-        host.Log(QStringLiteral("%1: %2").arg(input, text));
-        host.Tell<ZTBatchMessage::MsgError>(input, output, int(action), int(code));
-    };
     if (plan.HasOtherFormat(file)) {
-        note(Action::WrittenInAnotherFormat, ZTBatchMessage::UnsupportedOutputFormat,
-             QStringLiteral("written as %1 (write-to-format policy)").arg(names.Format(file)->name));
+        ReportResult(file, Action::WrittenInAnotherFormat, ZTBatchMessage::UnsupportedOutputFormat,
+                     names.Format(file)->name);
     }
     if (plan.IsOverwriting(file)) {
-        note(Action::ExistingFileOverwritten, ZTBatchMessage::FileNameAlreadyExists,
-             QStringLiteral("\"%1\" was overwritten (naming policy)").arg(output));
+        ReportResult(file, Action::ExistingFileOverwritten, ZTBatchMessage::FileNameAlreadyExists, output);
     } else if (plan.IsRenamed(file)) {
-        note(Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists,
-             QStringLiteral("written as \"%1\" (naming policy)").arg(output));
+        ReportResult(file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
     }
     journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}});
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
-    Settle(file);
+    OnFileDone(file);
+}
+
+/// Reports that a result was not written as planned; see ResultLine.
+void Run::ReportResult(int file, Action action, ZTBatchMessage::Error code, const QString& result)
+{
+    const OutputPlan& names = plan.Names();
+    host.Log(ResultLine{names.Input(file), result, action}.Text());
+    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), int(code));
 }
 
 void Run::FinishProbe()
 {
-    if (--openProbes == 0) {
+    if (probes.Finish()) {
         BeginNaming();
     }
 }
 
-void Run::Settle(int file)
+void Run::OnFileDone(int file)
 {
-    settled[std::size_t(file)] = true;
-    host.Tell<ZTBatchMessage::MsgProgress>(written + skipped + failed);
+    decisions.SetDone(file);
+    host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
     DecideWaiting();
     EndWhenDone();
-}
-
-int Run::FirstUnsettled()
-{
-    while (firstUnsettled < plan.Count() && settled[std::size_t(firstUnsettled)]) {
-        ++firstUnsettled;
-    }
-    return firstUnsettled;
 }
 
 void Run::Pause()
@@ -683,15 +588,15 @@ void Run::Cancel()
         return;
     }
     phase = Phase::Cancelling;
-    question.reset();
+    decisions.DropQuestion();
     if (background) {
-        background->Cancel(); // Its end goes on from here.
+        background->Cancel(); // The cancellation continues when it has ended.
     } else {
         pool.Drop(number);
     }
 }
 
-/// No further file is handed out; those in work are finished.
+/// Hands no further file out. Files in work are still finished.
 void Run::Stop(const QString& reason)
 {
     if (isStopping) {
@@ -701,14 +606,10 @@ void Run::Stop(const QString& reason)
     host.Log(QStringLiteral("The run is stopped: %1.").arg(reason));
     ready.clear();
     returned.clear();
-    if (question) {
-        waiting.insert(question->file, question->trouble);
-        question.reset();
-    }
     const bool wasDeciding = std::exchange(isDeciding, true);
-    while (!waiting.isEmpty()) {
-        const int file = waiting.firstKey();
-        GiveUp(file, waiting.take(file), Action::RunStopped);
+    const QVector<RunDecisions::FileTrouble> undecided = decisions.TakeAll();
+    for (const RunDecisions::FileTrouble& one : undecided) {
+        GiveUp(one.file, one.trouble, Action::RunStopped);
     }
     isDeciding = wasDeciding;
     EndWhenDone();
@@ -716,7 +617,7 @@ void Run::Stop(const QString& reason)
 
 void Run::Refuse(const Refusal& refusal)
 {
-    host.Log(QStringLiteral("The job is refused: %1.").arg(refusal.message));
+    host.Log(RefusalLine{refusal.message}.Text());
     host.Tell<ZTBatchMessage::MsgError>(QString(), QString(), int(Action::RunStopped), int(refusal.code));
     LogTotals(QStringLiteral("Finished"));
     host.Tell<ZTBatchMessage::MsgFinished>();
@@ -728,7 +629,8 @@ void Run::EndWhenDone()
     if (phase != Phase::Working || !inWork.isEmpty() || isDeciding) {
         return;
     }
-    const bool isDone = next == plan.Count() && ready.isEmpty() && returned.isEmpty() && waiting.isEmpty() && !question;
+    const bool isDone = next == plan.Count() && ready.isEmpty() && returned.isEmpty() && !decisions.HasWaiting() &&
+                        !decisions.IsAsking();
     if (isDone || isStopping) {
         LogTotals(isStopping ? QStringLiteral("Stopped") : QStringLiteral("Finished"));
         host.Tell<ZTBatchMessage::MsgFinished>();
@@ -738,7 +640,7 @@ void Run::EndWhenDone()
 
 void Run::LogTotals(const QString& how) const
 {
-    const int left = plan.Count() - written - skipped - failed;
+    const int left = plan.Count() - FilesDone();
     QString text =
         QStringLiteral("%1: %2 written, %3 skipped, %4 failed").arg(how).arg(written).arg(skipped).arg(failed);
     if (left > 0) {

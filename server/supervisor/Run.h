@@ -2,51 +2,52 @@
 
 #include "BackgroundTask.h"
 #include "HostLink.h"
-#include "Policies.h"
-#include "RunPlan.h"
+#include "RunDecisions.h"
+#include "RunPreparation.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/plan/RunPlan.h"
 #include "job/values/JobValues.h"
 #include "server/protocol/WorkerPool.h"
 
-#include <QLockFile>
-#include <QMap>
+#include <QHash>
+#include <QList>
 #include <QObject>
 #include <QSet>
 
 #include <memory>
-#include <optional>
 
 namespace BatchSupervisor {
 
-/// One run: from the order to process a job to the message that it is over.
+/// One run, from the order to process a job to the message that it is over: prepares it, hands tasks to the workers,
+/// reports to the host, ends.
 ///
-/// The order of things never depends on which worker is faster: names are settled for all files before the first is
-/// handed out, questions are asked in the document's order, and an answer for the rest of the run holds for all files
-/// that stand behind. A question keeps nobody from working: files whose way is clear go on being handed out, except
-/// when the question is about the output, which then fails for every file.
+/// Results never depend on which worker is faster: all names are made before the first file is handed out, questions
+/// are asked in the document's order, and an answer for the rest of the run applies to all later files. While a
+/// question is open, files without trouble are still handed out, unless the question is about the output, which then
+/// fails for every file.
 class Run : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The run is written down in the journal at `journalPath`, if that is one of the order's job, and taken up where
-    /// the journal ends.
+    /// If the file `journalPath` is a journal of the order's job, the run resumes where the journal ends, and continues
+    /// the journal.
     Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, BatchProtocol::WorkerPool& pool,
         const BatchProtocol::ServerLimits& limits, const QString& journalPath);
     ~Run() override;
 
     void Begin();
 
-    /// Hands one task to the pool, which has room; false when there is none now.
+    /// Hands one task to the pool, which must have room. False when there is no task now.
     bool HandOut();
 
-    /// How many tasks may still be handed out.
+    /// The greatest number of tasks that may still be handed out.
     int TasksLeft() const;
 
     bool IsOver() const { return phase == Phase::Over; }
 
-    /// Commands of the host. What makes no sense now is answered with a line of the log.
+    /// Commands of the host. Commands that are invalid in the current state are logged and ignored.
     void Pause();
     void Resume();
     void Cancel();
@@ -56,34 +57,15 @@ Q_SIGNALS:
     /// There may be something to hand out.
     void HasTasks();
 
-    /// The host has been told. Comes once.
+    /// The run is over and the host knows. Emitted once.
     void Over();
 
 private:
     enum class Phase { Reading, Probing, Naming, Working, Cancelling, Over };
 
-    struct Preparation
-    {
-        BatchJob::Refusal refusal;
-        QString settings;
-        RunPlan plan;
-        std::unique_ptr<QLockFile> hold; ///< keeps other servers away from the journal
-        std::optional<BatchJob::JournalState> earlier;
-        QVector<int> found; ///< results that were finished, but not noted
-        int swept = 0;
-    };
-
-    struct OpenQuestion
-    {
-        int file = -1;
-        Trouble trouble;
-    };
-
     void StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)());
-    static void HoldJournal(const QString& path, Preparation& preparation);
-    static void FindFinished(Preparation& preparation);
-    void TakeJob();
-    void TakeEarlier();
+    void OnJobRead();
+    void AdoptEarlierPart();
     void BeginNaming();
     void BeginWork();
 
@@ -96,23 +78,23 @@ private:
     void OnReported(const BatchProtocol::Assignment& task, const BatchProtocol::Report& report);
     void OnLost(const BatchProtocol::Assignment& task, BatchProtocol::WorkerEnd reason, const QString& text);
     void OnReturned(const BatchProtocol::Assignment& task);
-    bool TakeUnreported(const BatchProtocol::Assignment& task);
+    bool FinishUnreported(const BatchProtocol::Assignment& task);
     void OnBroken(const QString& reason);
     void OnDropped();
 
-    void Meet(int file, const Trouble& trouble);
-    bool NeedsOrder(int file, const Trouble& trouble) const;
+    void HandleTrouble(int file, const BatchJob::Trouble& trouble);
     void DecideWaiting();
-    void Ask(int file, const Trouble& trouble);
-    void Resolve(int file, const Trouble& trouble, Decision decision);
-    void ResolveName(int file, const Trouble& trouble, Decision decision);
-    void ResolveFormat(int file, const Trouble& trouble);
-    void ReportTrouble(int file, const Trouble& trouble, BatchJob::Action action, const QString& consequence);
-    void GiveUp(int file, const Trouble& trouble, BatchJob::Action action);
+    void Ask(const RunDecisions::FileTrouble& about);
+    void Resolve(int file, const BatchJob::Trouble& trouble, BatchJob::Decision decision);
+    void ResolveName(int file, const BatchJob::Trouble& trouble, BatchJob::Decision decision);
+    void ResolveFormat(int file, const BatchJob::Trouble& trouble);
+    void ReportTrouble(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
+    void GiveUp(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
     void FinishPicture(int file, const BatchProtocol::Report& report);
     void FinishProbe();
-    void Settle(int file);
-    int FirstUnsettled();
+    void ReportResult(int file, BatchJob::Action action, ZTBatchMessage::Error code, const QString& result);
+    void OnFileDone(int file);
+    int FilesDone() const { return written + skipped + failed; }
 
     void Stop(const QString& reason);
     void Refuse(const BatchJob::Refusal& refusal);
@@ -124,37 +106,31 @@ private:
     const HostLink host;
     BatchProtocol::WorkerPool& pool;
     const BatchProtocol::ServerLimits limits;
-    Policies policies;
     const BatchJob::Refusal policyRefusal;
+    RunDecisions decisions;
     QString document; ///< the job's text, until it is read
 
     Phase phase = Phase::Reading;
     bool isPaused = false;
     bool isStopping = false;
-    std::shared_ptr<Preparation> preparation; ///< belongs to the background task while that runs
+    std::shared_ptr<RunPreparation> preparation; ///< until work begins; the background task's while that runs
     std::unique_ptr<BackgroundTask> background;
 
-    RunPlan plan;
+    BatchJob::RunPlan plan;
     QByteArray job; ///< framed, for workers
-    QVector<int> probes;
-    int nextProbe = 0;
-    int openProbes = 0;
+    ProbeQueue probes;
 
-    int next = 0;     ///< the first file that was not looked at
+    int next = 0;     ///< the first file that was not examined
     QList<int> ready; ///< files to hand out before that
     QList<BatchProtocol::Assignment> returned;
     QSet<int> inWork;
-    QMap<int, Trouble> waiting; ///< for its turn to be decided
-    std::optional<OpenQuestion> question;
-    bool isDeciding = false;
-    std::vector<bool> settled;
-    int firstUnsettled = 0;
+    bool isDeciding = false; ///< a loop over decisions is running, which goes on with what comes up meanwhile
     QSet<QString> madeFolders;
 
     const QString journalPath;
-    std::unique_ptr<QLockFile> hold;
+    std::unique_ptr<QLockFile> journalLock;
     BatchJob::RunJournal journal;
-    QHash<int, int> losses; ///< files over which servers have died, and how often
+    QHash<int, int> losses; ///< how often a server has died while it worked on a file
 
     int written = 0;
     int skipped = 0;

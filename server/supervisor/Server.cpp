@@ -17,10 +17,10 @@ namespace BatchSupervisor {
 
 namespace {
 
-/// How long a server waits for its first host, and for a host that comes back before it has begun a session.
+/// How long the server waits for a host: for the first one, and for one that disconnected before it began a session.
 constexpr auto hostTime = 30s;
 
-/// Runs that cannot be cancelled by then, because a file system does not answer, are left.
+/// How long the server waits for its runs when it ends. A file system that does not answer may hold a run for ever.
 constexpr auto endTime = 10s;
 
 } // namespace
@@ -31,14 +31,14 @@ Server::Server(const QString& workerProgram, const ServerLimits& limits)
 {
     connect(&listener, &Listener::Connected, this, &Server::Accept);
     connect(&pool, &WorkerPool::RoomMade, this, &Server::ScheduleHandOut);
-    for (QTimer* timer : {&loneliness, &lastDeadline}) {
+    for (QTimer* timer : {&hostTimeout, &endDeadline}) {
         timer->setSingleShot(true);
     }
-    connect(&loneliness, &QTimer::timeout, this, [this] {
+    connect(&hostTimeout, &QTimer::timeout, this, [this] {
         qWarning("No host is connected: the server ends.");
         End();
     });
-    connect(&lastDeadline, &QTimer::timeout, this, &Server::Quit);
+    connect(&endDeadline, &QTimer::timeout, this, &Server::Quit);
 }
 
 Server::~Server()
@@ -53,7 +53,7 @@ bool Server::Start(const QString& pipeName)
         return false;
     }
     pool.Start();
-    loneliness.start(hostTime);
+    hostTimeout.start(hostTime);
     return true;
 }
 
@@ -68,7 +68,7 @@ void Server::End()
         Quit();
         return;
     }
-    lastDeadline.start(endTime);
+    endDeadline.start(endTime);
     const QVector<Run*> all = runs;
     for (Run* run : all) {
         run->Cancel();
@@ -77,14 +77,14 @@ void Server::End()
 
 void Server::Accept(QLocalSocket* socket)
 {
-    loneliness.stop();
+    hostTimeout.stop();
     auto* const pipe = new ZTPipeSession(socket, nullptr);
     pipes.append(pipe);
     connect(pipe, &ZTPipeSession::IncomingMessage, this,
             [this, pipe](const QString& name, const QByteArray& payload) { Handle(pipe, name, payload); });
     connect(pipe, &ZTPipeSession::SessionDown, this, [this, pipe] { LosePipe(pipe); });
     if (!pipe->IsConnected()) {
-        LosePipe(pipe); // It went away before anybody could hear of it.
+        LosePipe(pipe); // It was lost before the signal was connected.
     }
 }
 
@@ -123,7 +123,7 @@ void Server::Handle(ZTPipeSession* pipe, const QString& name, const QByteArray& 
         End();
         break;
     default:
-        qWarning("A message was ignored: \"%s\" is none that a server gets.", qUtf8Printable(name.left(20)));
+        qWarning("A message was ignored: \"%s\" is not a message to a server.", qUtf8Printable(name.left(20)));
         break;
     }
 }
@@ -215,7 +215,7 @@ void Server::Answer(ZTPipeSession* pipe, ZTBatchMessage::Message message, const 
     }
 }
 
-/// The session `id` of the host behind `pipe`; null, with a line in the log, when it has none.
+/// The session `id` of the host at `pipe`; null, with a line on stderr, when that host has no such session.
 Server::Session* Server::SessionOf(ZTPipeSession* pipe, const QString& id, ZTBatchMessage::Message message)
 {
     const auto session = sessions.find(id);
@@ -253,8 +253,8 @@ void Server::LosePipe(ZTPipeSession* pipe)
     if (hadSession) {
         End();
     } else {
-        // A host may give an early connection up and come back at once.
-        loneliness.start(hostTime);
+        // A host may drop an early connection and connect again at once.
+        hostTimeout.start(hostTime);
     }
 }
 
@@ -270,7 +270,7 @@ void Server::ScheduleHandOut()
 void Server::HandOut()
 {
     isHandOutScheduled = false;
-    // Runs have their turns one after the other.
+    // The runs hand out in turn.
     int idle = 0;
     while (idle < runs.size()) {
         Run* const run = runs.first();

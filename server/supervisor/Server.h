@@ -18,10 +18,10 @@
 
 namespace BatchSupervisor {
 
-/// The batch server: takes what hosts say, starts and steers runs, and knows when to end.
+/// The batch server: accepts hosts, handles their messages, starts runs and shares the workers among them.
 ///
-/// It ends when a host asks for it, when the connection to the host of a session is lost, when nobody connects for a
-/// while, and when the system asks for it. Each time runs are cancelled first, with all that belongs to that.
+/// It ends when a host asks for it, when the connection to the host of a session is lost, when no host connects for a
+/// while, and when the system asks for it. It always cancels its runs first, as a host would.
 class Server : public QObject
 {
     Q_OBJECT
@@ -35,14 +35,14 @@ public:
 
     QString Error() const { return listener.Error(); }
 
-    /// Cancels the runs and ends the application's event loop when that is done.
+    /// Cancels the runs, then ends the application's event loop.
     void End();
 
 private:
     struct Session
     {
         ZTPipeSession* pipe = nullptr;
-        Run* run = nullptr; ///< null before the first order and after the run
+        Run* run = nullptr; ///< null before the order and after the run
         bool hadRun = false;
     };
 
@@ -66,12 +66,12 @@ private:
     BatchProtocol::WorkerPool pool;
     QVector<ZTPipeSession*> pipes;
     QHash<QString, Session> sessions;
-    QVector<Run*> runs; ///< in the order of their turns
+    QVector<Run*> runs; ///< the first one hands out the next task
     quint64 lastRun = 0;
     bool isHandOutScheduled = false;
     bool isEnding = false;
-    QTimer loneliness; ///< runs while no host is connected
-    QTimer lastDeadline;
+    QTimer hostTimeout; ///< runs while no host is connected
+    QTimer endDeadline;
 };
 
 } // namespace BatchSupervisor

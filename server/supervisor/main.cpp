@@ -1,6 +1,6 @@
 #include "JobReader.h"
+#include "ProcessSetup.h"
 #include "Server.h"
-#include "Surroundings.h"
 
 #include "server/protocol/ServerLimits.h"
 #include "server/protocol/WorkerProgram.h"
@@ -13,7 +13,7 @@ using namespace BatchSupervisor;
 
 int main(int argc, char** argv)
 {
-    Surroundings::Prepare();
+    ProcessSetup::Prepare();
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.size() != 1 || arguments[0].isEmpty()) {
@@ -25,8 +25,8 @@ int main(int argc, char** argv)
         return JobReader::RunProcess();
     }
     Server server(BatchProtocol::WorkerProgram(), BatchProtocol::ServerLimits::FromEnvironment());
-    // Before anybody can connect: who does may ask for the end at once.
-    Surroundings::OnEndRequest([&server] { server.End(); });
+    // Before any host can connect: it may ask for the end at once.
+    ProcessSetup::OnEndRequest([&server] { server.End(); });
     if (!server.Start(arguments[0])) {
         std::fprintf(stderr, "VelkoraBatchProcessing: the pipe \"%s\" cannot be opened: %s\n",
                      qUtf8Printable(arguments[0]), qUtf8Printable(server.Error()));

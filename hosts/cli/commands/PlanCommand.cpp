@@ -6,13 +6,13 @@
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/FileProber.h"
 #include "hosts/common/JobRequirements.h"
-#include "job/plan/OutputPlan.h"
+#include "job/plan/RunForecast.h"
+#include "server/protocol/TaskFailure.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
 
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -23,15 +23,6 @@ namespace BatchCli {
 
 namespace {
 
-using BatchJob::OutputPlan;
-
-/// What will become of one file, as far as that can be known before it is read.
-struct Prospect
-{
-    QString result; ///< "write", "rename", "overwrite", "skip", "stop", "ask"
-    QString reason; ///< what stands in the way of the planned name; empty when nothing does
-};
-
 QString JobSettingsText(const ZTBatchDocument& job)
 {
     ZTBatchDocument settings;
@@ -40,161 +31,81 @@ QString JobSettingsText(const ZTBatchDocument& job)
     return settings.Serialize(nullptr);
 }
 
-QString ClashText(const OutputPlan& plan, int index)
+void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line)
 {
-    switch (plan.ClashOf(index)) {
-    case OutputPlan::Clash::Disk:
-        return QStringLiteral("exists already");
-    case OutputPlan::Clash::Source:
-        return QStringLiteral("is a source of this job");
-    case OutputPlan::Clash::Result:
-        return QStringLiteral("is the result of %1").arg(plan.Input(plan.ClashesWith(index)));
-    case OutputPlan::Clash::None:
-        break;
+    QVector<FileProber::File> files;
+    for (const int index : plan.Names().FilesToProbe()) {
+        files.append({index, plan.Names().Input(index)});
+    }
+    if (files.isEmpty()) {
+        return;
+    }
+    int done = 0;
+    FileProber::Probe(files, JobSettingsText(job), [&](const BatchProtocol::Report& report) {
+        ++done;
+        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
+        if (report.failure == PolicyKind::None) {
+            plan.SetProbe(report.number, BatchProtocol::ProbeResultOf(report));
+        } else {
+            plan.SetProbeFailure(report.number, BatchProtocol::TroubleOf(report));
+        }
+    });
+}
+
+RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, bool isQuiet)
+{
+    RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), CheckSettings(job).settings));
+    StatusLine line(!isQuiet);
+    line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
+    plan.ReadInputs();
+    Probe(plan, job, line);
+    return {plan, Policies(policies)};
+}
+
+QString ProspectWord(const RunForecast::Prospect& prospect)
+{
+    if (!prospect.decision) {
+        return QStringLiteral("write");
+    }
+    switch (*prospect.decision) {
+    case Decision::Skip:
+        return QStringLiteral("skip");
+    case Decision::Stop:
+        return QStringLiteral("stop");
+    case Decision::Ask:
+        return QStringLiteral("ask");
+    case Decision::Overwrite:
+        return QStringLiteral("overwrite");
+    case Decision::Rename:
+        return QStringLiteral("rename");
+    case Decision::Nearest:
+        return QStringLiteral("nearest");
     }
     return {};
 }
 
-class JobPlan
+QString Line(const RunForecast& forecast, int index)
 {
-public:
-    JobPlan(const ZTBatchDocument& job, const PolicyValues& policies, bool isQuiet)
-        : policies(policies)
-        , plan(BatchJob::FilesOfJob(*job.GetInputModel()), BatchJob::CheckSettings(job).settings)
-    {
-        StatusLine line(!isQuiet);
-        line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
-        plan.ReadInputs();
-        Probe(job, line);
-        plan.MakeNames();
-    }
-
-    int Count() const { return plan.Count(); }
-    QString Input(int index) const { return plan.Input(index); }
-    QString Output(int index) const { return plan.Output(index); }
-
-    /// Settles the file as the policies say. Called for all files in their order: a new name depends on those before.
-    Prospect Settle(int index)
-    {
-        const auto failed = failures.constFind(index);
-        if (failed != failures.constEnd()) {
-            return {PolicyWord(PolicyKind::Input, Policy(PolicyKind::Input)), *failed};
-        }
-        if (!QFileInfo::exists(plan.Input(index))) {
-            return {PolicyWord(PolicyKind::Input, Policy(PolicyKind::Input)), QStringLiteral("it does not exist")};
-        }
-        if (plan.Format(index) == nullptr) {
-            const QString reason = QStringLiteral("its format, %1, cannot be written")
-                                       .arg(plan.InputFormat(index).isEmpty() ? QStringLiteral("which is unknown")
-                                                                              : plan.InputFormat(index));
-            if (Policy(PolicyKind::WriteToFormat) != ZTBatchManager::WriteToFormatNearest) {
-                return {PolicyWord(PolicyKind::WriteToFormat, Policy(PolicyKind::WriteToFormat)), reason};
-            }
-            plan.ChangeFormat(index, NearestFormat(index));
-        }
-        const QString folderReason = FolderTrouble(QFileInfo(plan.Output(index)).path());
-        if (!folderReason.isEmpty()) {
-            return {PolicyWord(PolicyKind::Output, Policy(PolicyKind::Output)), folderReason};
-        }
-        return SettleName(index);
-    }
-
-private:
-    /// Why nothing can be written into the folder, which may have to be made; empty when it looks possible.
-    QString FolderTrouble(const QString& folder)
-    {
-        const auto known = folderTroubles.constFind(folder);
-        if (known != folderTroubles.constEnd()) {
-            return *known;
-        }
-        QFileInfo there(folder);
-        while (!there.exists() && !there.isRoot()) {
-            there.setFile(there.path());
-        }
-        const QString trouble = !there.isDir()        ? QStringLiteral("%1 is no folder").arg(there.filePath())
-                                : !there.isWritable() ? QStringLiteral("%1 cannot be written").arg(there.filePath())
-                                                      : QString();
-        return *folderTroubles.insert(folder, trouble);
-    }
-
-    int Policy(PolicyKind kind) const { return policies[std::size_t(kind)]; }
-
-    void Probe(const ZTBatchDocument& job, StatusLine& line)
-    {
-        QVector<FileProber::File> files;
-        for (const int index : plan.FilesToProbe()) {
-            files.append({index, plan.Input(index)});
-        }
-        if (files.isEmpty()) {
-            return;
-        }
-        int done = 0;
-        FileProber::Probe(files, JobSettingsText(job), [&](const BatchProtocol::Report& report) {
-            ++done;
-            line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
-            if (report.failure != BatchProtocol::Case::None) {
-                failures.insert(report.number, report.reason);
-                return;
-            }
-            plan.TakeProbe(report.number, report.captured, report.inputFormat);
-            nearestFormats.insert(report.number, report.nearestFormat);
-        });
-    }
-
-    Prospect SettleName(int index)
-    {
-        const QString clash = ClashText(plan, index);
-        if (clash.isEmpty()) {
-            return {QStringLiteral("write"), {}};
-        }
-        const QString reason = QStringLiteral("%1 %2").arg(plan.Output(index), clash);
-        const int naming = Policy(PolicyKind::Naming);
-        const bool overwrites = naming == ZTBatchManager::NamingOverwrite && !plan.IsAnothersSource(index);
-        if (overwrites) {
-            return {QStringLiteral("overwrite"), reason};
-        }
-        if (naming == ZTBatchManager::NamingRename || naming == ZTBatchManager::NamingOverwrite) {
-            plan.Rename(index);
-            return {QStringLiteral("rename"), reason};
-        }
-        return {PolicyWord(PolicyKind::Naming, naming), reason};
-    }
-
-    const BatchJob::FormatSchema& NearestFormat(int index) const
-    {
-        const BatchJob::FormatSchema* const format = BatchJob::FindFormat(nearestFormats.value(index));
-        const bool isRaw = plan.InputFormat(index) == QLatin1String("RAW");
-        return format != nullptr ? *format
-                                 : *BatchJob::FindFormat(isRaw ? QStringLiteral("TIFF") : QStringLiteral("JPEG"));
-    }
-
-    const PolicyValues policies;
-    OutputPlan plan;
-    QHash<int, QString> nearestFormats;
-    QHash<int, QString> failures;
-    QHash<QString, QString> folderTroubles;
-};
-
-QString Line(const JobPlan& plan, int index, const Prospect& prospect)
-{
-    const QString output = plan.Output(index);
-    QString line = plan.Input(index);
+    const RunForecast::Prospect& prospect = forecast.Of(index);
+    const QString output = forecast.Names().Output(index);
+    QString line = forecast.Names().Input(index);
     if (!output.isEmpty()) {
         line += QStringLiteral(" -> ") + output;
     }
-    if (!prospect.reason.isEmpty()) {
-        line += QStringLiteral("  [%1: %2]").arg(prospect.result, prospect.reason);
+    if (prospect.decision) {
+        line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), prospect.trouble.reason);
     }
     return Visible(line) + QLatin1Char('\n');
 }
 
-QString JsonLine(const JobPlan& plan, int index, const Prospect& prospect)
+QString JsonLine(const RunForecast& forecast, int index)
 {
-    QJsonObject object{{QStringLiteral("input"), plan.Input(index)},
-                       {QStringLiteral("output"), plan.Output(index)},
-                       {QStringLiteral("result"), prospect.result}};
-    if (!prospect.reason.isEmpty()) {
-        object.insert(QStringLiteral("reason"), prospect.reason);
+    const RunForecast::Prospect& prospect = forecast.Of(index);
+    QJsonObject object{{QStringLiteral("input"), forecast.Names().Input(index)},
+                       {QStringLiteral("output"), forecast.Names().Output(index)},
+                       {QStringLiteral("result"), ProspectWord(prospect)}};
+    if (prospect.decision) {
+        object.insert(QStringLiteral("reason"), prospect.trouble.reason);
     }
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
 }
@@ -214,20 +125,20 @@ ExitCode PlanJob(const ParsedArguments& arguments)
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));
-    JobPlan plan(job, policies, isQuiet);
+    const RunForecast forecast = Forecast(job, policies, isQuiet);
+    const int count = forecast.Names().Count();
     int clear = 0;
     int unclear = 0;
     QString text;
-    for (int i = 0; i < plan.Count(); ++i) {
-        const Prospect prospect = plan.Settle(i);
-        ++(prospect.reason.isEmpty() ? clear : unclear);
-        text += isJson ? JsonLine(plan, i, prospect) : Line(plan, i, prospect);
+    for (int i = 0; i < count; ++i) {
+        ++(forecast.Of(i).decision ? unclear : clear);
+        text += isJson ? JsonLine(forecast, i) : Line(forecast, i);
     }
     WriteOut(text);
     if (!isQuiet) {
         WriteErrorLine(QStringLiteral("%1 %2: %3 without trouble, %4 in brackets. Nothing was written.")
-                           .arg(plan.Count())
-                           .arg(plan.Count() == 1 ? QStringLiteral("file") : QStringLiteral("files"))
+                           .arg(count)
+                           .arg(count == 1 ? QStringLiteral("file") : QStringLiteral("files"))
                            .arg(clear)
                            .arg(unclear));
     }

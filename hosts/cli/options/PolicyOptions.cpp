@@ -34,6 +34,8 @@ QString HelpOf(PolicyKind kind)
         return QStringLiteral(
             "when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write "
             "the nearest format that can hold it");
+    case PolicyKind::None:
+        break;
     }
     return {};
 }
@@ -53,6 +55,8 @@ QString PolicyOption(PolicyKind kind)
         return QStringLiteral("--on-name-exists");
     case PolicyKind::WriteToFormat:
         return QStringLiteral("--on-format");
+    case PolicyKind::None:
+        break;
     }
     return {};
 }

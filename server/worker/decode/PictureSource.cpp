@@ -215,4 +215,9 @@ void PictureSource::OpenOther()
     orientation = OrientationOf(header);
 }
 
+FormatNeeds NeedsOf(const PictureSource& source)
+{
+    return {source.IsDeep(), source.HasAlpha(), false, source.StoredSize()};
+}
+
 } // namespace BatchWorker

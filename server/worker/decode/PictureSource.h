@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job/formats/NearestFormat.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
 
@@ -72,5 +73,8 @@ private:
     bool isHeaderRead = false; ///< its pixels have been taken
     std::unique_ptr<RawFile> raw;
 };
+
+/// What the picture as it is stored asks of the format that it is written in.
+BatchJob::FormatNeeds NeedsOf(const PictureSource& source);
 
 } // namespace BatchWorker

@@ -253,19 +253,6 @@ bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDee
     return known.value(key);
 }
 
-QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, const QSize& size)
-{
-    const auto holds = [&size](const QString& name) {
-        return std::max(size.width(), size.height()) <= FindFormat(name)->longestSide;
-    };
-    const QString tiff = QStringLiteral("TIFF");
-    if (sourceFormat == QLatin1String("RAW") || isDeep) {
-        return tiff;
-    }
-    const QString usual = hasAlpha ? QStringLiteral("PNG") : QStringLiteral("JPEG");
-    return holds(usual) ? usual : tiff;
-}
-
 Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const Picture& picture)
 {
     Picture ready = picture;

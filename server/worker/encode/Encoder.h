@@ -5,18 +5,12 @@
 
 #include <QByteArray>
 #include <QJsonObject>
-#include <QSize>
-#include <QString>
 
 namespace BatchWorker {
 
 /// Whether this installation can write `format` with `options`, which are complete, for pictures of more than 8 bits a
 /// channel if `isDeep`: the imaging library may lack an encoder, and some versions of encoders fail at some depths.
 bool CanWrite(const BatchJob::FormatSchema& format, const QJsonObject& options, bool isDeep);
-
-/// The format that surely holds a picture: TIFF for camera RAW (`sourceFormat` is "RAW"), for more than 8 bits a
-/// channel and for sides that the others do not hold; PNG with transparency; else JPEG.
-QString NearestFormat(const QString& sourceFormat, bool isDeep, bool hasAlpha, const QSize& size);
 
 /// Brings `picture`, of the form that stages hand on or of CMYK, into one that `format` holds: depth and background by
 /// `options`, which are complete.

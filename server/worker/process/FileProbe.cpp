@@ -1,7 +1,6 @@
 #include "FileProbe.h"
 
 #include "server/worker/decode/PictureSource.h"
-#include "server/worker/encode/Encoder.h"
 #include "server/worker/metadata/Metadata.h"
 
 #include <QDateTime>
@@ -16,7 +15,7 @@ Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
     const PictureSource source(task.inputFile, limits);
     Report report;
     report.inputFormat = source.Format();
-    report.nearestFormat = NearestFormat(source.Format(), source.IsDeep(), source.HasAlpha(), source.StoredSize());
+    report.nearestFormat = BatchJob::NearestFormat(source.Format(), NeedsOf(source)).name;
     QStringList warnings; // those of metadata come with the picture
     report.captured = Metadata::Of(task.inputFile, source, warnings).Captured();
     if (!report.captured.isValid()) {

@@ -2,6 +2,7 @@
 
 #include "PixelSearch.h"
 
+#include "job/formats/NearestFormat.h"
 #include "job/values/JobValues.h"
 #include "server/worker/colour/Colour.h"
 #include "server/worker/colour/ColourProfile.h"
@@ -209,15 +210,15 @@ Picture PictureRun::InOutputColours(const Picture& picture)
 void PictureRun::CheckFormat(const Picture& picture) const
 {
     const QSize size(picture.width(), picture.height());
-    const QString nearest = NearestFormat(source.Format(), HasSixteenBits(picture), picture.has_alpha(), size);
+    const QString nearest =
+        NearestFormat(source.Format(), {HasSixteenBits(picture), picture.has_alpha(), IsCmyk(picture), size}).name;
     if (!CanWrite(format, options, HasSixteenBits(picture))) {
         throw FormatCannotHold(
             QStringLiteral("this installation has no encoder for %1, or not for this depth").arg(format.name), nearest);
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(
-            QStringLiteral("%1 holds no CMYK, which the job's colour profile asks for").arg(format.name),
-            HasSixteenBits(picture) ? QStringLiteral("TIFF") : QStringLiteral("JPEG"));
+            QStringLiteral("%1 holds no CMYK, which the job's colour profile asks for").arg(format.name), nearest);
     }
     if (std::max(size.width(), size.height()) > format.longestSide) {
         throw FormatCannotHold(QStringLiteral("%1 x %2 pixels: %3 holds at most %4 on a side")
@@ -266,7 +267,7 @@ PictureFailure PictureRun::Explained(const vips::VError& problem)
         return ProcessingFailed(text);
     }
     return FormatCannotHold(QStringLiteral("the encoder for %1 failed: %2").arg(format.name, text),
-                            NearestFormat(source.Format(), source.IsDeep(), source.HasAlpha(), source.StoredSize()));
+                            NearestFormat(source.Format(), NeedsOf(source)).name);
 }
 
 bool PictureRun::IsSourceDamaged(QString& text)
@@ -288,7 +289,7 @@ MadePicture MakePicture(const JobSettings& job, const PictureTask& task)
 {
     const FormatSchema* format = FindFormat(task.format);
     if (!format) {
-        throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), QStringLiteral("JPEG"));
+        throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
     }
     BeginMemoryAccount();
     return PictureRun(job, task, *format).Make();

@@ -197,7 +197,7 @@ void tst_OutputPlan::structures()
     settings.format = QStringLiteral("PNG");
     OutputPlan plan({{QStringLiteral("/in/a.jpg"), QStringLiteral("Trip/Day 1")}}, settings);
     QCOMPARE(plan.FilesToProbe().size(), structure == Settings::StructureByCaptureDate ? 1 : 0);
-    plan.TakeProbe(0, captured, {});
+    plan.SetProbe(0, captured, {});
     QVERIFY(plan.MakeNames());
     QCOMPARE(plan.Output(0), Path(QStringLiteral("out/")) + output);
 }
@@ -219,7 +219,7 @@ void tst_OutputPlan::captureTimesAreAskedForWhenNeeded()
     settings.naming = NamingOf(Settings::TemplateCaptureDate);
     OutputPlan plan(AsFiles({QStringLiteral("/in/a.jpg"), QStringLiteral("/in/b.jpg")}), settings);
     QCOMPARE(plan.FilesToProbe(), (QVector<int>{0, 1}));
-    plan.TakeProbe(1, QDateTime(QDate(2020, 1, 2), QTime(3, 4)), QStringLiteral("JPEG"));
+    plan.SetProbe(1, QDateTime(QDate(2020, 1, 2), QTime(3, 4)), QStringLiteral("JPEG"));
     plan.MakeNames();
     QCOMPARE(OutputNames(plan), (QStringList{QStringLiteral("00000000.png"), QStringLiteral("20200102.png")}));
     QCOMPARE(Plan({QStringLiteral("/in/a.jpg")}).Format(0)->name, QStringLiteral("PNG"));
@@ -269,8 +269,8 @@ void tst_OutputPlan::aFormatIsNeededForAName()
                     settings);
     plan.ReadInputs();
     QCOMPARE(plan.FilesToProbe(), (QVector<int>{0, 1, 2}));
-    plan.TakeProbe(0, {}, QStringLiteral("PSD"));
-    plan.TakeProbe(1, {}, QStringLiteral("WebP"));
+    plan.SetProbe(0, {}, QStringLiteral("PSD"));
+    plan.SetProbe(1, {}, QStringLiteral("WebP"));
     plan.MakeNames();
     QCOMPARE(OutputNames(plan), (QStringList{QString(), QStringLiteral("b.webp"), QString()}));
     QCOMPARE(plan.Output(0), QString());

@@ -183,7 +183,7 @@ Report Make(const PictureTask& task)
     const QList<QByteArray> cases{"", "input", "output", "processing", "naming", "write"};
     const int kind = cases.indexOf(command);
     if (kind > 0) {
-        return Failure(Case(kind), argument.toInt());
+        return Failure(Case(kind - 1), argument.toInt());
     }
     return WriteResult(task, content);
 }

@@ -299,9 +299,9 @@ void tst_CliRun::PlanMarksTrouble()
     PictureFiles::WriteJpeg(Path(QStringLiteral("out/3.jpg")), 10);
     const CliRun plan = Run(QStringLiteral("plan photos more -o out --on-name-exists skip"));
     QCOMPARE(plan.exitCode, 1);
-    QVERIFY2(plan.out.contains("[skip: " + Path(QStringLiteral("out/1.jpg")).toUtf8() + " is the result of "),
+    QVERIFY2(plan.out.contains("[skip: \"" + Path(QStringLiteral("out/1.jpg")).toUtf8() + "\" is the result of \""),
              plan.out.constData());
-    QVERIFY2(plan.out.contains("[skip: " + Path(QStringLiteral("out/3.jpg")).toUtf8() + " exists already]"),
+    QVERIFY2(plan.out.contains("[skip: \"" + Path(QStringLiteral("out/3.jpg")).toUtf8() + "\" exists already]"),
              plan.out.constData());
     QCOMPARE(plan.out.count('['), 2);
     QVERIFY(plan.err.contains("Nothing was written."));

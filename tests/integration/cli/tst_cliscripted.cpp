@@ -131,7 +131,7 @@ void tst_CliScripted::ReportsListEveryInput()
 
 void tst_CliScripted::RefusedJobs()
 {
-    const QString reason = Encoded(QStringLiteral("The job is refused: Effect 1 is unheard of"));
+    const QString reason = Encoded(QStringLiteral("The job is refused: Effect 1 is unheard of."));
     stage->Play({QStringLiteral("start: open"),
                  QStringLiteral("5: send 10 id s:%1; send 15 id s: s: i:2 i:8; send 6 id").arg(reason)});
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));

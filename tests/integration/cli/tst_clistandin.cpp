@@ -20,6 +20,7 @@ private Q_SLOTS:
     void NoWorker();
     void NamesThatAreTaken_data();
     void NamesThatAreTaken();
+    void NotesNameWholeFiles();
     void PlanTellsWhatRunDoes_data();
     void PlanTellsWhatRunDoes();
     void PlanMarksTrouble();
@@ -137,6 +138,25 @@ void tst_CliStandIn::NamesThatAreTaken()
     QCOMPARE(stage->Content(QStringLiteral("out/1.jpg")), content);
 }
 
+/// A note about a result quotes the log of the server, whatever the names look like.
+void tst_CliStandIn::NotesNameWholeFiles()
+{
+    const QString name = QStringLiteral("a; b (naming policy).jpg");
+    stage->Write(QStringLiteral("odd/") + name, "1");
+    stage->Write(QStringLiteral("out/") + name, "old");
+    const QString renamed = stage->Path(QStringLiteral("out/a; b (naming policy) (2).jpg"));
+    const CliRun run = stage->Run(QStringLiteral("run odd -o out --format jpeg --on-name-exists rename --json"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    QStringList texts;
+    for (const QByteArray& line : run.out.trimmed().split('\n')) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (event.value(QStringLiteral("event")) == QLatin1String("note")) {
+            texts.append(event.value(QStringLiteral("text")).toString());
+        }
+    }
+    QCOMPARE(texts, QStringList{QStringLiteral("written as \"%1\" (naming policy)").arg(renamed)});
+}
+
 void tst_CliStandIn::PlanTellsWhatRunDoes_data()
 {
     QTest::addColumn<QString>("options");
@@ -178,9 +198,10 @@ void tst_CliStandIn::PlanMarksTrouble()
     stage->Write(QStringLiteral("out/3.jpg"), "3");
     const CliRun plan = stage->Run(QStringLiteral("plan photos more -o out --format jpeg --on-name-exists skip"));
     QCOMPARE(plan.exitCode, 1);
-    QVERIFY2(plan.out.contains("[skip: " + stage->Path(QStringLiteral("out/1.jpg")).toUtf8() + " is the result of "),
-             plan.out.constData());
-    QVERIFY2(plan.out.contains("[skip: " + stage->Path(QStringLiteral("out/3.jpg")).toUtf8() + " exists already]"),
+    QVERIFY2(
+        plan.out.contains("[skip: \"" + stage->Path(QStringLiteral("out/1.jpg")).toUtf8() + "\" is the result of \""),
+        plan.out.constData());
+    QVERIFY2(plan.out.contains("[skip: \"" + stage->Path(QStringLiteral("out/3.jpg")).toUtf8() + "\" exists already]"),
              plan.out.constData());
     QCOMPARE(plan.out.count('['), 2);
     const CliRun source = stage->Run(QStringLiteral("plan photos -o photos --format jpeg"));

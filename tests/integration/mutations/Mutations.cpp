@@ -81,7 +81,7 @@ QByteArray Cut(QByteArray bytes, std::mt19937& random)
     return bytes.left(Below(bytes.size(), random));
 }
 
-// Counts, sizes and offsets stand in headers.
+// Headers hold counts, sizes and offsets.
 QByteArray WithExtremeHeader(QByteArray bytes, std::mt19937& random)
 {
     const std::array extremes{'\x00', '\xFF', '\x7F', '\x80', '\x01'};

@@ -17,6 +17,6 @@ struct PictureBytes
 /// EXIF, as far as the format takes them; and camera RAW.
 QVector<PictureBytes> SmallPictures();
 
-/// `bytes` with one kind of damage, which `random` chooses: flipped bits, a cut, a header with extreme values, a piece
-/// that is missing, twice there or overwritten.
+/// `bytes` with one kind of damage, which `random` chooses: flipped bits, truncation, extreme values in the header, a
+/// piece that is missing, doubled or overwritten.
 QByteArray Mutated(const QByteArray& bytes, std::mt19937& random);

@@ -9,7 +9,7 @@
 #include <QSet>
 #include <QTest>
 
-/// Damaged pictures of every format in one run of the real server: what a broken memory card gives.
+/// Damaged pictures of every format, as from a broken memory card, in one run of the real server.
 class TestMutations : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ void TestMutations::EveryPictureIsWrittenOrReported_data()
 {
     QTest::addColumn<unsigned>("seed");
     QTest::newRow("the usual damage") << 20240607U;
-    // Further seeds for whoever hunts: VELKORA_TEST_SEED=17 tst_mutations
+    // To search further: VELKORA_TEST_SEED=17 tst_mutations
     bool isGiven = false;
     const unsigned given = qEnvironmentVariable("VELKORA_TEST_SEED").toUInt(&isGiven);
     if (isGiven) {
@@ -87,7 +87,7 @@ void TestMutations::EveryPictureIsWrittenOrReported()
     const QHash<QString, QByteArray> originals = Contents(run);
     QCOMPARE(originals.size(), pictureCount);
     QVERIFY(run.Start());
-    // A first run, so that everything that the server opens once is open.
+    // A first run opens everything that the server opens only once.
     run.Process(run.Job({run.Write(QStringLiteral("first.png"), SmallPictures().constFirst().bytes)}));
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QTRY_COMPARE(run.WorkerIds().size(), 2);
@@ -99,7 +99,7 @@ void TestMutations::EveryPictureIsWrittenOrReported()
     run.Process(run.Job(files));
     QTRY_VERIFY2_WITH_TIMEOUT(run.Count(QStringLiteral("finished")) > 0, qPrintable(run.Report()), patience);
 
-    // Each picture has one end.
+    // Each picture has exactly one outcome.
     QSet<QString> written;
     for (const QString& line : run.Lines(QStringLiteral("processed "))) {
         QVERIFY2(!written.contains(InputOf(line)), qPrintable(line));
@@ -116,7 +116,7 @@ void TestMutations::EveryPictureIsWrittenOrReported()
     QVERIFY2(written.size() > pictureCount / 20, qPrintable(QString::number(written.size())));
     QVERIFY2(skipped.size() > pictureCount / 5, qPrintable(QString::number(skipped.size())));
 
-    // What was written is whole, and nothing else stands beside it.
+    // The results are whole, and there are no other files.
     const QStringList results = run.Names(QStringLiteral("out"));
     QCOMPARE(results.size(), written.size() + 1);
     for (const QString& result : results) {
@@ -124,7 +124,7 @@ void TestMutations::EveryPictureIsWrittenOrReported()
     }
     QCOMPARE(Contents(run), originals);
 
-    // The server is as it was: as many workers, as many open files.
+    // The server has as many workers and open files as before.
     QCOMPARE(run.Server().state(), QProcess::Running);
     QVERIFY(run.WorkerIds().size() <= 2);
     QTRY_VERIFY2(OpenFiles(run.Server().processId()).size() <= openFiles,

@@ -11,7 +11,7 @@
 
 using Settings = ZTBatchOutputSettings;
 
-/// The server as hosts use it: started, steered and ended by the library's manager, with real pictures.
+/// The server as hosts use it: the library's manager starts, controls and ends it. Real pictures.
 class tst_ServerHost : public QObject
 {
     Q_OBJECT
@@ -197,7 +197,7 @@ void tst_ServerHost::endedByKillExistingBatchProcess()
     session->Process(Job(200));
     QVERIFY(Eventually([this] { return Results() > 0; }));
     ZTBatchManager::KillExistingBatchProcess(true);
-    // An end that nobody asked the manager for counts as the end of the run.
+    // If nobody asked the manager to end the server, its end counts as the end of the run.
     QVERIFY(Eventually([this] { return log->Count(QStringLiteral("failed")) == 1; }));
     QCOMPARE(log->Count(QStringLiteral("finished")), 1);
     delete session;

@@ -3,7 +3,7 @@
 #include <QtTest>
 
 #include <qt_windows.h>
-// After it.
+// Must follow the header above.
 #include <aclapi.h>
 
 /// Who may open the server's pipe, by the access list of the system.
@@ -42,7 +42,7 @@ void tst_ServerPipe::onlyItsOwnerHasAccess()
 {
     ServerRun run(ServerRun::Worker::StandIn);
     QVERIFY(run.Start());
-    // The server hears of its host before it makes the next instance of the pipe.
+    // The server learns of its host before it creates the next instance of the pipe.
     HANDLE pipe = INVALID_HANDLE_VALUE;
     QVERIFY(QTest::qWaitFor(
         [&pipe] {

@@ -19,7 +19,7 @@
 using Settings = ZTBatchOutputSettings;
 using Policies = ServerRun::Policies;
 
-/// What the server promises, and attempts to make it break its word.
+/// What the server promises, and attempts to break it.
 class tst_ServerPromises : public QObject
 {
     Q_OBJECT
@@ -95,7 +95,7 @@ bool Mount(const QStringList& arguments)
     return ::geteuid() == 0 && QProcess::execute(QStringLiteral("mount"), arguments) == 0;
 }
 
-/// A small file system in memory, as long as this object lives.
+/// A small file system in memory, mounted while this object exists.
 class SmallDisk
 {
 public:
@@ -239,7 +239,7 @@ void tst_ServerPromises::finishedResultsOfLostWorkersCount_data()
     QTest::newRow("crash, over an existing file") << QByteArray("crash") << 9 << int(ZTBatchManager::NamingOverwrite);
 }
 
-/// A worker has put a result in its place, and ends over the next picture before it could say so.
+/// A worker has placed a result, and ends while it works on the next picture, before it could report the first.
 void tst_ServerPromises::finishedResultsOfLostWorkersCount()
 {
     QFETCH(QByteArray, script);
@@ -306,8 +306,8 @@ void tst_ServerPromises::finishedResultsOfLostServersCount_data()
     QTest::newRow("over its source") << QStringLiteral("in") << true;
 }
 
-/// The server dies after a result has taken its place, and before that is written down. Who made it again from itself
-/// would apply its effects twice.
+/// The server dies after a result has replaced its source and before the journal says so. Processing the file again
+/// would apply the effects twice.
 void tst_ServerPromises::finishedResultsOfLostServersCount()
 {
     QFETCH(QString, folder);
@@ -331,7 +331,7 @@ void tst_ServerPromises::finishedResultsOfLostServersCount()
 
     QVERIFY(run.Start());
     run.Process(job, policies);
-    // To look into the file would be in the worker's way on Windows.
+    // On Windows, opening the file here would block the worker.
     const auto isPlaced = [&] { return QFileInfo(run.Path(output)).lastModified() > longAgo; };
     QVERIFY2(QTest::qWaitFor(isPlaced, 30000), qPrintable(run.Report()));
     QVERIFY(run.KillServer());
@@ -371,7 +371,7 @@ void tst_ServerPromises::resultsAreWholeOrAbsent_data()
     }
 }
 
-/// The supervisor is killed at random moments of a run; the next one finishes the work of the last.
+/// The supervisor is killed at random moments of a run, and the next one resumes.
 void tst_ServerPromises::resultsAreWholeOrAbsent()
 {
     QFETCH(bool, isReal);
@@ -386,7 +386,7 @@ void tst_ServerPromises::resultsAreWholeOrAbsent()
     QRandomGenerator random(20240229);
     int unfinished = 0;
     int left = 0;
-    int longest = 0; // ms; about what a run takes, which other processes of the machine may change at any time
+    int longest = 0; // ms; the approximate time of a run, which the load of the machine may change
     for (int moment = -1; moment < moments; ++moment) {
         QVERIFY(QDir(run.Path(QStringLiteral("out"))).removeRecursively() || moment == -1);
         run.lines.clear();
@@ -417,7 +417,7 @@ void tst_ServerPromises::resultsAreWholeOrAbsent()
             }
         }
     }
-    // The moments were moments of work.
+    // The servers were killed at work.
     QVERIFY2(unfinished > moments / 4, qPrintable(QString::number(unfinished)));
     qInfo("%d of %d runs were cut, which left %d temporary files", unfinished, moments, left);
 
@@ -454,7 +454,7 @@ void tst_ServerPromises::fullDisk()
         QSKIP("No file system can be mounted here.");
     }
     const QByteArray content = isReal ? Photo() : QByteArray(100'000, 'x');
-    // One picture has room, another has not: as a PNG the photo takes some tens of kilobytes.
+    // There is room for one picture, not for the other: as a PNG the photo takes some tens of kilobytes.
     run.Write(QStringLiteral("out/filler"), QByteArray(isReal ? 230'000 : 100'000, 'x'));
     QStringList inputs;
     for (int i = 0; i < 4; ++i) {
@@ -603,7 +603,7 @@ void tst_ServerPromises::namesThatAreNoText()
 #ifdef Q_OS_LINUX
     ServerRun run(ServerRun::Worker::StandIn);
     run.Write(QStringLiteral("out/good.txt"), {});
-    // No job can name this file, but it stands where the server looks.
+    // No job can name this file, but it is in a folder that the server reads.
     const std::string odd = run.Path(QStringLiteral("out/")).toStdString() + "caf\xE9.jpg";
     std::filesystem::copy_file(run.Path(QStringLiteral("out/good.txt")).toStdString(), odd);
     const QStringList inputs{run.Path(QStringLiteral("in/caf")) + QChar(0xFFFD) + QStringLiteral(".jpg"),
@@ -633,7 +633,7 @@ void tst_ServerPromises::memoryOfManyFiles()
     }
     QVERIFY(run.Start());
     run.Process(run.Job(inputs));
-    // To the end: what is told about each file must not pile up either.
+    // To the end: the messages about files must not pile up either.
     QVERIFY2(
         QTest::qWaitFor([&] { return !run.lines.isEmpty() && run.lines.last() == QLatin1String("finished"); }, 200000),
         qPrintable(run.lines.mid(0, 20).join(QLatin1Char('\n'))));

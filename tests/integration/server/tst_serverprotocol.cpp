@@ -11,7 +11,7 @@
 #include <unistd.h>
 #endif
 
-/// What hosts can do to a server apart from running jobs: commands in any order, bytes that are no messages, and ends.
+/// What hosts can do to a server besides running jobs: commands in any order, malformed messages, disconnecting.
 class tst_ServerProtocol : public QObject
 {
     Q_OBJECT
@@ -256,7 +256,7 @@ void tst_ServerProtocol::malformedFrames()
     QVERIFY(socket.waitForConnected());
     socket.write(bytes);
     QVERIFY(QTest::qWaitFor([&] { return socket.state() == QLocalSocket::UnconnectedState; }, 30000));
-    // Nobody else notices.
+    // No other host notices.
     QVERIFY2(Works(run), qPrintable(run.Report()));
     QVERIFY2(run.Report().contains(QStringLiteral("Frame refused")), qPrintable(run.Report()));
 }
@@ -287,7 +287,7 @@ void tst_ServerProtocol::ends()
     if (how == QLatin1String("asked")) {
         run.SendRaw(ZTBatchMessage::MsgCloseServer, "");
     } else if (how == QLatin1String("connection lost")) {
-        // The session of the host is known before it goes.
+        // The server knows the session before the host disconnects.
         QVERIFY(QTest::qWaitFor([&] { return run.WorkerIds().size() == 2; }, 30000));
         run.Process(run.Job({}));
         QVERIFY(QTest::qWaitFor([&] { return !run.lines.isEmpty(); }, 30000));
@@ -372,7 +372,7 @@ void tst_ServerProtocol::otherUsersAreRefused()
     QCOMPARE(::stat(pipe.constData(), &found), 0);
     QCOMPARE(int(found.st_mode & 0077U), 0);
 
-    // Even where the file lets everybody in.
+    // Even if the socket file admits everybody.
     QCOMPARE(::chmod(pipe.constData(), 0666), 0);
     QCOMPARE(::chmod(run.Path(QString()).toUtf8().constData(), 0755), 0);
     const pid_t child = ::fork();
@@ -412,7 +412,7 @@ void tst_ServerProtocol::wrongArguments()
         QCOMPARE(server.exitCode(), 2);
         QVERIFY(server.readAllStandardError().startsWith("Usage: VelkoraBatchProcessing PIPE"));
     }
-#ifdef Q_OS_UNIX // Pipes have no folders elsewhere: every name will do.
+#ifdef Q_OS_UNIX // Elsewhere pipes have no folders, and any name is valid.
     QProcess server;
     server.start(program, {run.Path(QStringLiteral("no such folder/pipe"))});
     QVERIFY(server.waitForFinished());
@@ -440,7 +440,7 @@ void tst_ServerProtocol::missingWorker()
     QCOMPARE(run.Count(QStringLiteral("log Stopped: 0 written, 0 skipped, 0 failed, 2 not processed.")), 1);
     if (isThere) {
         QVERIFY2(run.Report().contains(QStringLiteral("told to end")), qPrintable(run.Report()));
-        // Once it is repaired, the same server works.
+        // The same server works once the file is repaired.
         QVERIFY(QFile::remove(run.Path(QStringLiteral("start.script"))));
         run.lines.clear();
         QVERIFY2(Works(run), qPrintable(run.Report()));

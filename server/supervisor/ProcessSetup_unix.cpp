@@ -1,4 +1,4 @@
-#include "Surroundings.h"
+#include "ProcessSetup.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -17,7 +17,7 @@ namespace BatchSupervisor {
 
 namespace {
 
-// A handler may do no more than write to a pipe, whose other end the event loop reads.
+// A signal handler may only write to a pipe; the event loop reads the other end.
 std::array<int, 2> requestPipe{-1, -1};
 
 void NoteRequest(int)
@@ -28,19 +28,19 @@ void NoteRequest(int)
 
 } // namespace
 
-void Surroundings::Prepare()
+void ProcessSetup::Prepare()
 {
 #ifdef Q_OS_LINUX
-    // A host may have asked for it, until its server is there. The server sees to its end itself: when the connection
-    // is lost it takes away what is unfinished.
+    // The host may have set it for the time until the server runs. From here on the server ends itself: when it loses
+    // the connection it removes unfinished files first.
     ::prctl(PR_SET_PDEATHSIG, 0);
 #endif
-    ::setsid(); // Fails for the leader of a group, which has been set apart already.
+    ::setsid(); // Fails for the leader of a process group, which is detached already.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     std::signal(SIGPIPE, SIG_IGN);
 }
 
-void Surroundings::OnEndRequest(const std::function<void()>& end)
+void ProcessSetup::OnEndRequest(const std::function<void()>& end)
 {
     if (::pipe(requestPipe.data()) != 0) {
         return;

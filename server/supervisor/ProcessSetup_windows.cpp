@@ -1,4 +1,4 @@
-#include "Surroundings.h"
+#include "ProcessSetup.h"
 
 #include <QCoreApplication>
 
@@ -13,35 +13,35 @@ namespace {
 
 std::function<void()> endRequested;
 
-/// The system calls it on a thread of its own.
+/// Called by the system on a thread of its own.
 BOOL WINAPI Handle(DWORD event)
 {
     if (event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT) {
-        return TRUE; // For the host.
+        return TRUE; // It is for the host.
     }
     if (!endRequested) {
         return FALSE;
     }
     QMetaObject::invokeMethod(QCoreApplication::instance(), endRequested, Qt::QueuedConnection);
-    // The console is closed or the user goes: the process has until this returns, seconds at most.
+    // The console closes or the user logs off. The process lives until this returns, a few seconds at most.
     Sleep(INFINITE);
     return TRUE;
 }
 
 } // namespace
 
-// File names are Unicode here.
-void Surroundings::Prepare()
+// File names are Unicode on this system.
+void ProcessSetup::Prepare()
 {
-    // What processes tell each other are bytes, not lines of text.
+    // The pipes between processes carry bytes, not text.
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
     SetConsoleCtrlHandler(&Handle, TRUE);
-    // Processes that are started from here inherit this one, as far as Ctrl-C goes.
+    // Child processes inherit that Ctrl-C is ignored.
     SetConsoleCtrlHandler(nullptr, TRUE);
 }
 
-void Surroundings::OnEndRequest(const std::function<void()>& end)
+void ProcessSetup::OnEndRequest(const std::function<void()>& end)
 {
     endRequested = end;
 }

@@ -1,11 +1,10 @@
 #include "RunPlan.h"
 
+#include "job/formats/NearestFormat.h"
+
 #include <QSet>
 
-using namespace BatchJob;
-using namespace BatchProtocol;
-
-namespace BatchSupervisor {
+namespace BatchJob {
 
 RunPlan::RunPlan(const OutputPlan& plan)
     : plan(plan)
@@ -13,11 +12,11 @@ RunPlan::RunPlan(const OutputPlan& plan)
 {
 }
 
-void RunPlan::TakeProbe(int file, const Report& report)
+void RunPlan::SetProbe(int file, const ProbeResult& result)
 {
-    plan.TakeProbe(file, report.captured, report.inputFormat);
-    if (!plan.Format(file) && !report.nearestFormat.isEmpty()) {
-        nearestFormats.insert(file, report.nearestFormat);
+    plan.SetProbe(file, result.captured, result.inputFormat);
+    if (!plan.Format(file) && !result.nearestFormat.isEmpty()) {
+        nearestFormats.insert(file, result.nearestFormat);
     }
 }
 
@@ -32,40 +31,42 @@ bool RunPlan::MakeNames(const Policies& policies, const OutputPlan::Cancelled& i
 
 void RunPlan::Settle(int first, const Policies& policies)
 {
-    const Decision format = policies.Of(Case::WriteToFormat);
-    const Decision naming = policies.Of(Case::Naming);
+    const Decision format = policies.Of(PolicyKind::WriteToFormat);
+    const Decision naming = policies.Of(PolicyKind::Naming);
     if (format != Decision::Nearest && naming != Decision::Rename && naming != Decision::Overwrite) {
         return;
     }
     for (int i = first; i < plan.Count(); ++i) {
-        SettleFile(i, policies);
+        SettleFormat(i, policies);
+        SettleName(i, policies);
     }
 }
 
-void RunPlan::SettleFile(int file, const Policies& policies)
+void RunPlan::SettleFormat(int file, const Policies& policies)
 {
-    if (failedProbes.contains(file) || plan.IsKept(file) || HasItsLastName(file)) {
-        return;
+    if (!plan.Format(file) && policies.Of(PolicyKind::WriteToFormat) == Decision::Nearest && !IsSettled(file)) {
+        ChangeFormat(file, NearestFormat(file));
     }
-    if (!plan.Format(file)) {
-        if (policies.Of(Case::WriteToFormat) != Decision::Nearest || !ChangeFormat(file, NearestFormat(file))) {
-            return;
-        }
-    }
-    if (plan.ClashOf(file) == OutputPlan::Clash::None || IsOverwriting(file) || HasItsLastName(file)) {
-        return;
-    }
-    const Decision naming = policies.Of(Case::Naming);
-    // Who lets results take the place of what is there does not mean pictures that still have to be read.
-    if (naming == Decision::Rename || (naming == Decision::Overwrite && IsAnothersSource(file))) {
+}
+
+void RunPlan::SettleName(int file, const Policies& policies)
+{
+    const bool isTaken = plan.Format(file) && plan.ClashOf(file) != OutputPlan::Clash::None && !IsOverwriting(file);
+    if (isTaken && !IsSettled(file) && SafeDecision(file, policies.Of(PolicyKind::Naming)) == Decision::Rename) {
         Rename(file);
     }
 }
 
-bool RunPlan::HasItsLastName(int file) const
+/// Whether the policies leave format and name of the file alone.
+bool RunPlan::IsSettled(int file) const
 {
-    const auto last = left.constFind(file);
-    return last != left.constEnd() && *last == plan.Output(file);
+    return failedProbes.contains(file) || plan.IsKept(file) || WasGivenUpUnderItsName(file);
+}
+
+bool RunPlan::WasGivenUpUnderItsName(int file) const
+{
+    const auto name = givenUp.constFind(file);
+    return name != givenUp.constEnd() && *name == plan.Output(file);
 }
 
 Trouble RunPlan::TroubleOf(int file) const
@@ -76,7 +77,7 @@ Trouble RunPlan::TroubleOf(int file) const
     }
     if (!plan.Format(file)) {
         const QString format = plan.InputFormat(file);
-        return {Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat,
+        return {PolicyKind::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat,
                 format.isEmpty() ? QStringLiteral("its own format cannot be written")
                                  : QStringLiteral("its own format, %1, cannot be written").arg(format),
                 NearestFormat(file)};
@@ -89,22 +90,39 @@ Trouble RunPlan::TroubleOf(int file) const
     case OutputPlan::Clash::None:
         break;
     case OutputPlan::Clash::Disk:
-        return {Case::Naming,
+        return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("there is a file \"%1\"").arg(output),
+                QStringLiteral("\"%1\" exists already").arg(output),
                 {}};
     case OutputPlan::Clash::Source:
-        return {Case::Naming,
+        return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
                 QStringLiteral("\"%1\" is a source of this job").arg(output),
                 {}};
     case OutputPlan::Clash::Result:
-        return {Case::Naming,
+        return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
                 QStringLiteral("\"%1\" is the result of \"%2\"").arg(output, plan.Input(plan.ClashesWith(file))),
                 {}};
     }
     return {};
+}
+
+Decision RunPlan::ResolveName(int file, Decision decision)
+{
+    const Decision safe = SafeDecision(file, decision);
+    if (safe == Decision::Overwrite) {
+        marks[std::size_t(file)].isOverwriting = true;
+    } else {
+        Rename(file);
+    }
+    return safe;
+}
+
+/// A user who lets results be overwritten does not mean pictures that are still to be read.
+Decision RunPlan::SafeDecision(int file, Decision decision)
+{
+    return decision == Decision::Overwrite && plan.IsAnothersSource(file) ? Decision::Rename : decision;
 }
 
 void RunPlan::Rename(int file)
@@ -133,12 +151,10 @@ QStringList RunPlan::Folders() const
     return folders.values();
 }
 
-/// What a picture of a format that is not written is written in, as far as that can be told without looking at it.
+/// The format for a picture whose own format cannot be written, as far as that is known before the picture is read.
 QString RunPlan::NearestFormat(int file) const
 {
-    const bool isRaw = plan.InputFormat(file) == QLatin1String("RAW");
-    const QString fallback = isRaw ? QStringLiteral("TIFF") : QStringLiteral("JPEG");
-    return nearestFormats.value(file, fallback);
+    return nearestFormats.value(file, BatchJob::NearestFormat(plan.InputFormat(file)).name);
 }
 
-} // namespace BatchSupervisor
+} // namespace BatchJob

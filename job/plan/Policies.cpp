@@ -2,34 +2,35 @@
 
 #include "ZTBatchManager.h"
 
-using namespace BatchProtocol;
+namespace BatchJob {
 
-using BatchProtocol::Case;
-
-namespace BatchSupervisor {
-
-Policies::Policies(const ZTBatchPayload::Process& order)
+Policies::Policies(const PolicyValues& values)
 {
-    Set(Case::Input, Meaning(Case::Input, order.inputPolicy).value_or(Decision::Skip));
-    Set(Case::Output, Meaning(Case::Output, order.outputPolicy).value_or(Decision::Skip));
-    Set(Case::Processing, Meaning(Case::Processing, order.processingPolicy).value_or(Decision::Skip));
-    Set(Case::Naming, Meaning(Case::Naming, order.namingPolicy).value_or(Decision::Skip));
-    Set(Case::WriteToFormat, Meaning(Case::WriteToFormat, order.writeToFormatPolicy).value_or(Decision::Skip));
+    for (int i = 0; i < policyCount; ++i) {
+        const auto kind = PolicyKind(i);
+        Set(kind, Meaning(kind, values[std::size_t(i)]).value_or(Decision::Skip));
+    }
 }
 
-Decision Policies::Of(Case kind) const
+Policies::Policies(const ZTBatchPayload::Process& order)
+    : Policies(PolicyValues{order.inputPolicy, order.outputPolicy, order.processingPolicy, order.namingPolicy,
+                            order.writeToFormatPolicy})
+{
+}
+
+Decision Policies::Of(PolicyKind kind) const
 {
     return decisions[Index(kind)];
 }
 
-void Policies::Set(Case kind, Decision decision)
+void Policies::Set(PolicyKind kind, Decision decision)
 {
     decisions[Index(kind)] = decision;
 }
 
-std::optional<Decision> Policies::Meaning(Case kind, int value)
+std::optional<Decision> Policies::Meaning(PolicyKind kind, int value)
 {
-    if (kind == Case::Naming) {
+    if (kind == PolicyKind::Naming) {
         switch (value) {
         case ZTBatchManager::NamingSkip:
             return Decision::Skip;
@@ -51,41 +52,41 @@ std::optional<Decision> Policies::Meaning(Case kind, int value)
     case ZTBatchManager::WriteToFormatAsk:
         return Decision::Ask;
     case ZTBatchManager::WriteToFormatNearest:
-        return kind == Case::WriteToFormat ? std::optional(Decision::Nearest) : std::nullopt;
+        return kind == PolicyKind::WriteToFormat ? std::optional(Decision::Nearest) : std::nullopt;
     default:
         return std::nullopt;
     }
 }
 
-ZTBatchMessage::Message Policies::Question(Case kind)
+ZTBatchMessage::Message Policies::Question(PolicyKind kind)
 {
-    // The questions stand in the order of the kinds.
+    static_assert(ZTBatchMessage::MsgWriteToFormatQuestion - ZTBatchMessage::MsgInputQuestion ==
+                  int(PolicyKind::WriteToFormat));
     return ZTBatchMessage::Message(ZTBatchMessage::MsgInputQuestion + int(Index(kind)));
 }
 
-QString Policies::Name(Case kind)
+QString Policies::Name(PolicyKind kind)
 {
     switch (kind) {
-    case Case::Input:
+    case PolicyKind::Input:
         return QStringLiteral("input");
-    case Case::Output:
+    case PolicyKind::Output:
         return QStringLiteral("output");
-    case Case::Processing:
+    case PolicyKind::Processing:
         return QStringLiteral("processing");
-    case Case::Naming:
+    case PolicyKind::Naming:
         return QStringLiteral("naming");
-    case Case::WriteToFormat:
+    case PolicyKind::WriteToFormat:
         return QStringLiteral("write-to-format");
-    case Case::None:
+    case PolicyKind::None:
         break;
     }
     return {};
 }
 
-std::size_t Policies::Index(Case kind)
+std::size_t Policies::Index(PolicyKind kind)
 {
-    static_assert(int(Case::Input) == 1 && int(Case::WriteToFormat) == 5);
-    return std::size_t(kind) - 1;
+    return std::size_t(kind);
 }
 
-} // namespace BatchSupervisor
+} // namespace BatchJob

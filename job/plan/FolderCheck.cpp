@@ -1,0 +1,19 @@
+#include "FolderCheck.h"
+
+#include <QFileInfo>
+
+namespace BatchJob {
+
+QString WhyNotWritable(const QString& folder)
+{
+    QFileInfo existing(folder);
+    while (!existing.exists() && !existing.isRoot()) {
+        existing.setFile(existing.path());
+    }
+    if (!existing.isDir()) {
+        return QStringLiteral("%1 is no folder").arg(existing.filePath());
+    }
+    return existing.isWritable() ? QString() : QStringLiteral("%1 cannot be written").arg(existing.filePath());
+}
+
+} // namespace BatchJob

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "RunPlan.h"
+
+#include <QHash>
+#include <QVector>
+
+#include <optional>
+
+namespace BatchJob {
+
+/// What a run would do with each file of a job, as far as that can be told before a picture is read. It takes the steps
+/// that a run takes, on the same plan and in the same order.
+class RunForecast
+{
+public:
+    struct Prospect
+    {
+        Trouble trouble;                  ///< the trouble that decides; none when the file is written as planned
+        std::optional<Decision> decision; ///< what is done about it: Skip, Stop, Ask, Overwrite or Rename
+    };
+
+    /// `plan` has read the inputs and got the probes' results, but has no names yet.
+    RunForecast(const RunPlan& plan, const Policies& policies);
+
+    const OutputPlan& Names() const { return plan.Names(); }
+    const Prospect& Of(int file) const { return prospects[file]; }
+
+private:
+    Prospect Foresee(int file);
+    Trouble TroubleOfFiles(int file);
+
+    RunPlan plan;
+    const Policies policies;
+    QVector<Prospect> prospects;
+    QHash<QString, QString> folderProblems;
+};
+
+} // namespace BatchJob

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+namespace BatchSupervisor {
+
+/// The settings of the supervisor's process that the system keeps.
+namespace ProcessSetup {
+
+/// Detaches the process from the terminal of its host: Ctrl-C there is for the host, which decides what to cancel.
+/// Makes file names UTF-8 in any locale, on systems that leave this to programs. To be called before anything else.
+void Prepare();
+
+/// Calls `end` on this thread, from its event loop, when the system asks the process to end.
+void OnEndRequest(const std::function<void()>& end);
+
+} // namespace ProcessSetup
+
+} // namespace BatchSupervisor

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "job/journal/RunJournal.h"
+#include "job/plan/RunPlan.h"
+#include "job/settings/JobCheck.h"
+
+#include <QLockFile>
+#include <QString>
+#include <QVector>
+
+#include <memory>
+#include <optional>
+
+namespace BatchSupervisor {
+
+/// What happens in a run before its first picture is touched, and what comes out of it. ReadJob() and MakeNames() ask
+/// the file system a lot and belong on a background thread. Use it on one thread at a time.
+struct RunPreparation
+{
+    using Cancelled = BatchJob::OutputPlan::Cancelled;
+
+    /// Reads the job and the journal at `journalPath`, which may be empty, and makes the plan, without names yet.
+    void ReadJob(QString document, const QString& journalPath, const Cancelled& isCancelled);
+
+    /// Locks the journal and reads it. A journal of another job than `document` is ignored.
+    void OpenJournal(const QString& path, const QString& document);
+
+    /// Enters the results of an earlier part of the run in the plan. A result that the journal only announced counts as
+    /// written if its file has changed since: results are whole or absent.
+    void EnterEarlierResults();
+
+    /// Makes the names and removes what an earlier run has left unfinished in the folders of the results.
+    void MakeNames(const BatchJob::Policies& policies, const Cancelled& isCancelled);
+
+    BatchJob::Refusal refusal; ///< when there is one, there is no plan
+    QString settings;          ///< the job without its inputs
+    BatchJob::RunPlan plan;
+    std::unique_ptr<QLockFile> journalLock; ///< keeps other servers away from the journal
+    std::optional<BatchJob::JournalState> earlier;
+    QVector<int> unreported; ///< files whose results were finished, but not journaled
+    int removedFiles = 0;    ///< unfinished files of earlier runs
+};
+
+/// The files of a run that are still to be probed, or whose probe is not over.
+class ProbeQueue
+{
+public:
+    ProbeQueue() = default;
+    explicit ProbeQueue(const QVector<int>& files)
+        : files(files)
+        , open(files.size())
+    {
+    }
+
+    int Count() const { return files.size(); }
+    int NotBegun() const { return files.size() - next; }
+
+    /// Only when NotBegun() is not 0.
+    int Begin() { return files[next++]; }
+
+    /// Counts one probe that is over. True for the last one.
+    bool Finish() { return --open == 0; }
+
+private:
+    QVector<int> files;
+    int next = 0;
+    int open = 0;
+};
+
+} // namespace BatchSupervisor

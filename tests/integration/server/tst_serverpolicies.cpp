@@ -1,0 +1,199 @@
+#include "ServerRun.h"
+
+#include "ZTBatchOutputSettings.h"
+
+#include <QtTest>
+
+using Settings = ZTBatchOutputSettings;
+using Policies = ServerRun::Policies;
+
+/// What the naming and write-to-format policies do to a run, and names that depend on probes.
+class tst_ServerPolicies : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namingPolicies_data();
+    void namingPolicies();
+    void anothersSourceIsNeverOverwritten();
+    void resultsOfOneNameAreOverwrittenInOrder();
+    void probedNames();
+
+    void formatPolicies_data();
+    void formatPolicies();
+    void newNamesOfOtherFormatsAreChecked();
+};
+
+namespace {
+
+QString Lines(const QStringList& lines)
+{
+    return lines.join(QLatin1Char('\n'));
+}
+
+void Original(ZTBatchDocument& job)
+{
+    job.GetOutputSettings()->SetFormat(Settings::GetOriginalFormat(), {});
+}
+
+constexpr char jpeg[] = "\xFF\xD8\xFF and so on";
+
+} // namespace
+
+void tst_ServerPolicies::namingPolicies_data()
+{
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<QStringList>("errors");
+    QTest::addColumn<QString>("out"); // name=content
+    QTest::newRow("skip") << int(ZTBatchManager::NamingSkip)
+                          << QStringList{QStringLiteral("error [in/a.jpg] [out/a.jpg] 1 11"),
+                                         QStringLiteral("error [in/x/b.jpg] [out/b.jpg] 1 11")}
+                          << "a.jpg=old b.jpg=b1";
+    QTest::newRow("overwrite") << int(ZTBatchManager::NamingOverwrite)
+                               << QStringList{QStringLiteral("error [in/a.jpg] [out/a.jpg] 4 11"),
+                                              QStringLiteral("error [in/x/b.jpg] [out/b.jpg] 4 11")}
+                               << "a.jpg=a1 b.jpg=b2";
+    QTest::newRow("rename") << int(ZTBatchManager::NamingRename)
+                            << QStringList{QStringLiteral("error [in/a.jpg] [out/a (2).jpg] 3 11"),
+                                           QStringLiteral("error [in/x/b.jpg] [out/b (2).jpg] 3 11")}
+                            << "a (2).jpg=a1 a.jpg=old b (2).jpg=b2 b.jpg=b1";
+}
+
+void tst_ServerPolicies::namingPolicies()
+{
+    QFETCH(int, policy);
+    QFETCH(QStringList, errors);
+    QFETCH(QString, out);
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.Write(QStringLiteral("out/a.jpg"), "old");
+    const QStringList inputs{run.Write(QStringLiteral("in/a.jpg"), "a1"), run.Write(QStringLiteral("in/b.jpg"), "b1"),
+                             run.Write(QStringLiteral("in/x/b.jpg"), "b2")};
+    Policies policies;
+    policies.naming = policy;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QStringList found = run.Lines(QStringLiteral("error"));
+    found.sort();
+    QCOMPARE(Lines(found), Lines(errors));
+    QStringList files;
+    for (const QString& name : run.Names(QStringLiteral("out"))) {
+        files.append(name + QLatin1Char('=') + QString::fromUtf8(run.Content(QStringLiteral("out/") + name)));
+    }
+    QCOMPARE(files.join(QLatin1Char(' ')), out);
+}
+
+void tst_ServerPolicies::anothersSourceIsNeverOverwritten()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    // The first result has the name of the second input. The second may replace itself.
+    const QStringList inputs{run.Write(QStringLiteral("in/b.jpg"), "first"),
+                             run.Write(QStringLiteral("out/b.jpg"), "second")};
+    Policies policies;
+    policies.naming = ZTBatchManager::NamingOverwrite;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Content(QStringLiteral("out/b (2).jpg")), QByteArray("first"));
+    QCOMPARE(run.Content(QStringLiteral("out/b.jpg")), QByteArray("second"));
+    QCOMPARE(run.Content(QStringLiteral("in/b.jpg")), QByteArray("first"));
+}
+
+void tst_ServerPolicies::resultsOfOneNameAreOverwrittenInOrder()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    QStringList inputs;
+    for (int i = 0; i < 10; ++i) {
+        inputs.append(run.Write(QStringLiteral("in/%1/a.jpg").arg(i), QByteArray::number(i)));
+    }
+    Policies policies;
+    policies.naming = ZTBatchManager::NamingOverwrite;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("a.jpg")});
+    QCOMPARE(run.Content(QStringLiteral("out/a.jpg")), QByteArray("9"));
+    QCOMPARE(run.Count(QStringLiteral("processed")), 10);
+}
+
+void tst_ServerPolicies::probedNames()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    const QStringList inputs{run.Write(QStringLiteral("in/a.jpg"), "a"),
+                             run.Write(QStringLiteral("in/crash.jpg"), "crashprobe"),
+                             run.Path(QStringLiteral("in/missing.jpg")), run.Write(QStringLiteral("in/b.jpg"), "b")};
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs, [](ZTBatchDocument& job) {
+        Settings& settings = *job.GetOutputSettings();
+        settings.SetNamingTemplate(Settings::PartPrefix, Settings::TemplateCaptureDate);
+        settings.SetFolderStructure(Settings::StructureByCaptureDate);
+    }));
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Names(QStringLiteral("out/2024/2024-05-01")),
+             (QStringList{QStringLiteral("20240501a.jpg"), QStringLiteral("20240501b.jpg")}));
+    QCOMPARE(Lines(run.Lines(QStringLiteral("error"))),
+             Lines({QStringLiteral("error [in/crash.jpg] [out/0000/0000-00-00/00000000crash.jpg] 1 9"),
+                    QStringLiteral("error [in/missing.jpg] [out/0000/0000-00-00/00000000missing.jpg] 1 2")}));
+}
+
+void tst_ServerPolicies::formatPolicies_data()
+{
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<QStringList>("errors");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("skip") << int(ZTBatchManager::WriteToFormatSkip)
+                          << QStringList{QStringLiteral("error [in/photo.jpg] [] 1 3"),
+                                         QStringLiteral("error [in/raw.dng] [] 1 3")}
+                          << QStringList{QStringLiteral("good.jpg")};
+    QTest::newRow("stop") << int(ZTBatchManager::WriteToFormatStop)
+                          << QStringList{QStringLiteral("error [in/photo.jpg] [] 2 3")} << QStringList();
+    // The stand-in takes any unknown file for a PSD, with PNG as its nearest format.
+    QTest::newRow("nearest") << int(ZTBatchManager::WriteToFormatNearest)
+                             << QStringList{QStringLiteral("error [in/photo.jpg] [out/photo.png] 5 3"),
+                                            QStringLiteral("error [in/raw.dng] [out/raw.tif] 5 3")}
+                             << QStringList{QStringLiteral("good.jpg"), QStringLiteral("photo.png"),
+                                            QStringLiteral("raw.tif")};
+}
+
+void tst_ServerPolicies::formatPolicies()
+{
+    QFETCH(int, policy);
+    QFETCH(QStringList, errors);
+    QFETCH(QStringList, names);
+    ServerRun run(ServerRun::Worker::StandIn);
+    const QStringList inputs{run.Write(QStringLiteral("in/photo.jpg"), "no JPEG"),
+                             run.Write(QStringLiteral("in/raw.dng"), QByteArray("II*\0 and so on", 14)),
+                             run.Write(QStringLiteral("in/good.jpg"), jpeg)};
+    Policies policies;
+    policies.format = policy;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs, Original), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QStringList found = run.Lines(QStringLiteral("error"));
+    found.sort();
+    QCOMPARE(Lines(found), Lines(errors));
+    QCOMPARE(run.Names(QStringLiteral("out")), names);
+}
+
+void tst_ServerPolicies::newNamesOfOtherFormatsAreChecked()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    run.Write(QStringLiteral("out/a.tif"), "old");
+    const QStringList inputs{run.Write(QStringLiteral("in/a.jpg"), "format TIFF"),
+                             run.Write(QStringLiteral("in/b.jpg"), "format TIFF")};
+    Policies policies;
+    policies.format = ZTBatchManager::WriteToFormatNearest;
+    policies.naming = ZTBatchManager::NamingRename;
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(Lines(run.Names(QStringLiteral("out"))),
+             Lines({QStringLiteral("a (2).tif"), QStringLiteral("a.tif"), QStringLiteral("b.tif")}));
+    QCOMPARE(run.Content(QStringLiteral("out/a.tif")), QByteArray("old"));
+    QCOMPARE(Lines(run.Lines(QStringLiteral("error [in/a"))),
+             Lines({QStringLiteral("error [in/a.jpg] [out/a (2).tif] 5 3"),
+                    QStringLiteral("error [in/a.jpg] [out/a (2).tif] 3 11")}));
+}
+
+QTEST_GUILESS_MAIN(tst_ServerPolicies)
+#include "tst_serverpolicies.moc"
