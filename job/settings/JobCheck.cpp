@@ -1,6 +1,7 @@
 #include "JobCheck.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/formats/FormatOptions.h"
 #include "job/values/JobValues.h"
 #include "job/values/ParameterSchema.h"
 

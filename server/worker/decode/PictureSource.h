@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job/formats/FormatSchema.h"
 #include "job/formats/NearestFormat.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
@@ -25,8 +26,8 @@ public:
     PictureSource(const QString& file, const BatchProtocol::ServerLimits& limits);
     ~PictureSource();
 
-    /// As FormatOfFile() names it; the bytes of the file decide, not its name.
-    QString Format() const { return format; }
+    /// The bytes of the file decide, not its name.
+    const BatchJob::FormatSchema& Format() const { return *format; }
 
     /// The size of the pixels as they are stored, before turning the picture upright.
     QSize StoredSize() const { return storedSize; }
@@ -42,15 +43,14 @@ public:
     /// Whether the pixels are inks.
     bool IsCmyk() const;
 
-    /// How many pages the file has, or frames of an animation; Load() gives the first, of HEIF and AVIF the main one.
-    /// 1 for camera RAW, and for the formats whose decoders know of no others.
+    /// How many pages or frames the file has, as far as the decoder says. Load() gives the one that FormatPages says.
     int Pages() const;
 
     /// The header as the library reads it, for its metadata; without any for camera RAW.
     const Picture& Header() const { return header; }
 
-    /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost, without
-    /// anybody seeing that in a result which is `reduction` times smaller: 1, 2, 4 or 8.
+    /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost without
+    /// visible difference in a result that is `reduction` times smaller: 1, 2, 4 or 8.
     int PossibleShrink(double reduction) const;
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
@@ -60,17 +60,16 @@ public:
 private:
     Q_DISABLE_COPY(PictureSource)
 
-    void Identify();
     void OpenRaw();
-    void OpenOther();
+    void OpenWithLoader();
 
     QString file;
     BatchProtocol::ServerLimits limits;
-    QString format;
+    const BatchJob::FormatSchema* format = nullptr;
     QSize storedSize;
     int orientation = 1;
     Picture header;
-    bool isHeaderRead = false; ///< its pixels have been taken
+    bool isHeaderRead = false; ///< its pixels are read already
     std::unique_ptr<RawFile> raw;
 };
 
