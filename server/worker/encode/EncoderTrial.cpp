@@ -10,7 +10,9 @@
 #include <QHash>
 #include <QPair>
 
+#include <csignal>
 #include <cstdlib>
+#include <optional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,23 +45,36 @@ bool TryToWrite(const FormatSchema& format, const QJsonObject& options, bool isD
     }
 }
 
-// The same for a deep picture in a process of its own, which an encoder may end.
-bool TryToWriteElsewhere(const FormatSchema& format, const QJsonObject& options)
+// Seconds after which a trial is given up. The imaging library ends its idle threads after 15.
+constexpr unsigned longestTrial = 20;
+
+// The same for a deep picture in a process of its own, which an encoder may end. Nothing when it gave no answer in
+// time.
+std::optional<bool> TryToWriteElsewhere(const FormatSchema& format, const QJsonObject& options)
 {
-    constexpr int longest = 20; // seconds
     const pid_t child = fork();
     if (child == 0) {
-        alarm(longest);
+        alarm(longestTrial);
         close(STDERR_FILENO);
         _exit(TryToWrite(format, options, true) ? EXIT_SUCCESS : EXIT_FAILURE);
     }
     int status = 0;
     const bool hasEnded = child > 0 && waitpid(child, &status, 0) == child;
+    if (hasEnded && WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM) {
+        return std::nullopt;
+    }
     return hasEnded && WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
-// All of them before the first is used: their libraries keep threads, which a fork of the process lacks and would wait
-// for.
+// The fork has none of the imaging library's threads, but waits for those that were idle when it was made. A second
+// trial comes after these have ended.
+bool TryTwiceToWriteElsewhere(const FormatSchema& format, const QJsonObject& options)
+{
+    const std::optional<bool> first = TryToWriteElsewhere(format, options);
+    return first ? *first : TryToWriteElsewhere(format, options).value_or(false);
+}
+
+// All of them before the first is used: their libraries keep threads, too, which a fork lacks and would wait for.
 DeepEncoders TryCrashingEncoders()
 {
     DeepEncoders found;
@@ -67,28 +82,36 @@ DeepEncoders TryCrashingEncoders()
         for (const int bits : format.bitDepths) {
             if (bits > plainBits && EncoderOf(format).mayCrashWhenDeep) {
                 const QJsonObject options = OptionsFor(format, {{QStringLiteral("bitDepth"), bits}});
-                found.insert({format.name, bits}, TryToWriteElsewhere(format, options));
+                found.insert({format.name, bits}, TryTwiceToWriteElsewhere(format, options));
             }
         }
     }
     return found;
 }
 
+const DeepEncoders& CrashingEncoders()
+{
+    static const DeepEncoders encoders = TryCrashingEncoders();
+    return encoders;
+}
+
 } // namespace
+
+void PrepareEncoder(const FormatSchema& format)
+{
+    if (EncoderOf(format).mayCrashWhenDeep) {
+        CrashingEncoders();
+    }
+}
 
 bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDeep)
 {
-    static DeepEncoders deepEncoders;
-    static QHash<QString, bool> plainEncoders;
-    if (EncoderOf(format).mayCrashWhenDeep) {
-        if (deepEncoders.isEmpty()) {
-            deepEncoders = TryCrashingEncoders();
-        }
-        if (ResultDepth(format, options, isDeep) > plainBits) {
-            const int bits = options[QLatin1String("bitDepth")].toInt(format.bitDepths.last());
-            return deepEncoders.value({format.name, bits});
-        }
+    PrepareEncoder(format);
+    if (EncoderOf(format).mayCrashWhenDeep && ResultDepth(format, options, isDeep) > plainBits) {
+        const int bits = options[QLatin1String("bitDepth")].toInt(format.bitDepths.last());
+        return CrashingEncoders().value({format.name, bits});
     }
+    static QHash<QString, bool> plainEncoders;
     if (!plainEncoders.contains(format.name)) {
         plainEncoders.insert(format.name, TryToWrite(format, OptionsFor(format, {}), false));
     }

@@ -196,7 +196,7 @@ Picture PictureRun::InOutputColours(const Picture& picture)
     if (!job.profile.isEmpty()) {
         if (!format.metadata.holdsProfile) {
             made.warnings.append(
-                QStringLiteral("%1 files hold no colour profile; the result is sRGB").arg(format.name));
+                QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name));
             return InPlainSrgb(picture, made.warnings);
         }
         return ConvertedTo(job.profile, picture, made.warnings);
@@ -221,7 +221,7 @@ void PictureRun::CheckFormat(const Picture& picture) const
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(
-            QStringLiteral("%1 holds no CMYK, which the job's colour profile asks for").arg(format.name), nearest);
+            QStringLiteral("%1 cannot hold CMYK, which the job's colour profile asks for").arg(format.name), nearest);
     }
     if (std::max(size.width(), size.height()) > format.longestSide) {
         throw FormatCannotHold(QStringLiteral("%1 x %2 pixels: %3 holds at most %4 on a side")
@@ -294,6 +294,7 @@ MadePicture MakePicture(const JobSettings& job, const PictureTask& task)
     if (!format) {
         throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
     }
+    PrepareEncoder(*format);
     BeginMemoryAccount();
     return PictureRun(job, task, *format).Make();
 }
