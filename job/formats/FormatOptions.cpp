@@ -74,8 +74,7 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
     if (depth.isDouble() && !schema->bitDepths.contains(depth.toInt())) {
         return {{}, DepthError(*schema, depth.toInt())};
     }
-    const bool isPackedAsJpeg = checked.values.value(QStringLiteral("compression")) == QStringLiteral("jpeg");
-    if (isPackedAsJpeg && depth.isDouble() && depth.toInt() != 8) {
+    if (depth.isDouble() && !BitDepthsFor(*schema, checked.values).contains(depth.toInt())) {
         return {{}, QStringLiteral("\"bitDepth\" is %1; \"compression\" jpeg takes 8").arg(depth.toInt())};
     }
     return checked;
@@ -97,6 +96,12 @@ QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted)
         *depth = above == format.bitDepths.begin() ? format.bitDepths.first() : *std::prev(above);
     }
     return CheckParameters(format.options, own).values;
+}
+
+QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options)
+{
+    const bool isCompressedAsJpeg = options.value(QStringLiteral("compression")) == QStringLiteral("jpeg");
+    return isCompressedAsJpeg ? QVector<int>{8} : format.bitDepths;
 }
 
 } // namespace BatchJob

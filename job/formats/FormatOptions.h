@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QVector>
 
 /// The options of formats, as jobs give them. Everything here is safe on any thread.
 namespace BatchJob {
@@ -16,5 +17,8 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
 /// The options among `accepted`, the checked options of a job, that apply to pictures written in `format`, complete
 /// with the defaults of that format. A bit depth that the format does not have becomes the next lower one that it has.
 QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted);
+
+/// The bits a channel, ascending, that files of `format` can have with `options`, which are checked.
+QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options);
 
 } // namespace BatchJob

@@ -11,8 +11,8 @@
 
 namespace BatchJob {
 
-/// A format of FormatList.h, as an index of tables that have an entry for each format. What a format can do is asked
-/// of its FormatSchema.
+/// A format of FormatList.h, as an index into tables with an entry for each format. What a format can do is in its
+/// FormatSchema; no code compares identifiers to decide that.
 enum class FormatId {
 #define BATCHJOB_FORMAT_ID(id) id,
     BATCHJOB_FORMATS(BATCHJOB_FORMAT_ID)
@@ -39,7 +39,7 @@ enum class FormatLoss {
     Always
 };
 
-/// What a file may hold beside its picture. Results have one page; of an input with several, one is used.
+/// What a file may hold besides one picture. Results have one page; of an input with several, one is used.
 enum class FormatPages {
     One,
     Frames,      ///< of an animation; the first is used
@@ -62,7 +62,7 @@ enum class MetadataWriting {
     AfterEncoding ///< the metadata library writes them into the finished file
 };
 
-/// How a file is kept free of EXIF. Some encoders make up an EXIF block where they are given none.
+/// How a result is kept free of EXIF. Some encoders make up an EXIF block if they are given none.
 enum class ExifRemoval {
     NotNeeded,
     Strip,        ///< the encoder writes no metadata at all; the other blocks are added to the finished file
@@ -70,7 +70,7 @@ enum class ExifRemoval {
     CutOut        ///< the block is cut out of the finished file
 };
 
-/// What files of a format say about their picture, and how the worker gets at it.
+/// Which metadata files of a format hold, and how the worker reads and writes it.
 struct MetadataSupport
 {
     bool holdsExif = true;
@@ -81,10 +81,11 @@ struct MetadataSupport
     MetadataWriting writing = MetadataWriting::ByEncoder;
     ExifRemoval exifRemoval = ExifRemoval::NotNeeded;
     int longestBlock = 0;      ///< bytes; 0: no limit
-    int shortestProfile = 0;   ///< bytes; behind a shorter profile the metadata library finds nothing
+    int shortestProfile = 0;   ///< bytes; after a shorter profile the metadata library finds nothing
     bool hasXmpWrapper = true; ///< readers expect XMP in a packet
-    bool isProfileInDecoder =
-        true; ///< decoder and encoder handle the colour profile; if not, the metadata library does
+
+    /// The decoder and the encoder handle the colour profile. If not, the metadata library does.
+    bool isProfileInDecoder = true;
 };
 
 /// The capabilities of one format. The defaults are those of most formats.

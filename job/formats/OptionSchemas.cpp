@@ -30,7 +30,14 @@ ParameterSchema Lossless(const char* meaning)
 
 ParameterSchema Progressive()
 {
-    return {Text("progressive"), ParameterType::Truth, false, Text("shows coarse first while it loads"), 0, 0, {}, {}};
+    return {Text("progressive"),
+            ParameterType::Truth,
+            false,
+            Text("shows a coarse picture first while it loads"),
+            0,
+            0,
+            {},
+            {}};
 }
 
 ParameterSchema ChromaSubsampling()
@@ -38,7 +45,7 @@ ParameterSchema ChromaSubsampling()
     return {Text("chromaSubsampling"),
             ParameterType::Choice,
             Text("auto"),
-            Text("how fine colour is kept; auto is 4:4:4 from quality 90"),
+            Text("resolution of colour; auto is 4:4:4 from quality 90"),
             0,
             0,
             {},
@@ -54,7 +61,7 @@ ParameterSchema BitDepth(const QVector<int>& depths)
     return {Text("bitDepth"),
             ParameterType::Integer,
             QJsonValue(QJsonValue::Undefined),
-            Text("bits a channel; without it those of the input, as far as the format goes: ") +
+            Text("bits a channel; by default those of the input, as far as the format has them: ") +
                 texts.join(QStringLiteral(", ")),
             8,
             16,
@@ -68,7 +75,7 @@ QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
     own.append({Text("keep"),
                 ParameterType::ChoiceList,
                 QJsonArray::fromStringList(kinds),
-                Text("which metadata are taken over"),
+                Text("which metadata is kept"),
                 0,
                 0,
                 {},
@@ -76,7 +83,7 @@ QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
     own.append({Text("background"),
                 ParameterType::Colour,
                 Text("#ffffff"),
-                Text("stands under transparency that the format cannot hold"),
+                Text("colour under transparency that the format cannot hold"),
                 0,
                 0,
                 {},

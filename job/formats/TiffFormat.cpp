@@ -23,7 +23,7 @@ FormatSchema TiffFormat()
     const ParameterSchema compression{QStringLiteral("compression"),
                                       ParameterType::Choice,
                                       QStringLiteral("lzw"),
-                                      QStringLiteral("how the pixels are packed"),
+                                      QStringLiteral("how the pixels are compressed"),
                                       0,
                                       0,
                                       {},

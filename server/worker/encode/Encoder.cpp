@@ -4,6 +4,7 @@
 #include "FormatEncoder.h"
 #include "ResultTarget.h"
 
+#include "job/formats/FormatOptions.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 
@@ -39,8 +40,7 @@ bool MustStrip(const FormatSchema& format, const Picture& picture)
 
 int ResultDepth(const FormatSchema& format, const QJsonObject& options, bool isDeep)
 {
-    const bool isPackedAsJpeg = ChoiceOption(options, "compression") == QLatin1String("jpeg");
-    if (format.bitDepths.last() == 8 || isPackedAsJpeg) {
+    if (BitDepthsFor(format, options).last() == 8) {
         return 8;
     }
     const QJsonValue wanted = options[QLatin1String("bitDepth")];

@@ -69,6 +69,11 @@ void tst_FormatCatalog::describesEveryFormatSoundly()
         QVERIFY(!format.bitDepths.isEmpty());
         QVERIFY(std::is_sorted(format.bitDepths.begin(), format.bitDepths.end()));
         QVERIFY(format.longestSide > 0);
+        const auto isChoice = [](const ParameterSchema& option) {
+            return option.name == QLatin1String("lossless") || option.name == QLatin1String("compression");
+        };
+        const bool hasChoice = std::any_of(format.options.begin(), format.options.end(), isChoice);
+        QCOMPARE(format.loss == FormatLoss::Optional, hasChoice);
         const bool holdsMetadata = format.metadata.holdsExif || format.metadata.holdsIptc || format.metadata.holdsXmp;
         QCOMPARE(format.metadata.writing != MetadataWriting::None, holdsMetadata);
         QCOMPARE(FindFormat(format.name), &format);
