@@ -37,7 +37,7 @@ public:
         const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
         if (!isFile) {
             close(value);
-            throw DamagedFile(QStringLiteral("it is no file"));
+            throw DamagedFile(QStringLiteral("it is not a regular file"));
         }
     }
     ~FileDescriptor() { close(value); }
@@ -135,14 +135,14 @@ int PictureSource::Pages() const
 int PictureSource::PossibleShrink(double reduction) const
 {
     if (raw) {
-        // Each colour channel of the sensor has at most every second pixel in each direction.
+        // Each colour of the sensor has at most two of four pixels anyway.
         return reduction >= 2 ? 2 : 1;
     }
     if (LoaderOf(*format).shrink == LoaderShrink::None) {
         return 1;
     }
-    // The filter that scales is better than that of the decoder. By scaling the last factor of two it hides what the
-    // decoder has done.
+    // The scaling filter is better than the decoder's. It does the last factor of two, which hides what the decoder
+    // did.
     constexpr double leftForFilter = 2.0;
     int shrink = 8;
     while (shrink > 1 && shrink * leftForFilter > reduction) {
@@ -154,7 +154,7 @@ int PictureSource::PossibleShrink(double reduction) const
 Picture PictureSource::Load(int shrink)
 {
     if (raw) {
-        // A decoder of its own for each call: its memory is freed with the pixels.
+        // A decoder of its own: its memory is freed with the pixels.
         RawFile decoder(file, limits.workerMemory);
         return decoder.Develop(shrink > 1);
     }
@@ -174,7 +174,7 @@ void PictureSource::OpenRaw()
         raw = std::move(opened);
         return;
     }
-    // Some files with the extension of a camera are plain TIFF files.
+    // Some files with the extension of camera files are plain TIFF files.
     format = IdentifiedFormat(file, {});
     if (!format || !LoaderOf(*format).operation) {
         throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));

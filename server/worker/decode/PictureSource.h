@@ -17,8 +17,8 @@ class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
 ///
-/// All operations throw PictureFailure, with a case of Input, for a file that is missing, unreadable, damaged, of no
-/// known format or larger than the limit. Damage further inside shows as vips::VError when the pixels are read.
+/// All operations throw PictureFailure, with the case Input, for a file that is missing, unreadable, damaged, of no
+/// known format or larger than the limit. Damage of the pixels throws vips::VError when they are read.
 class PictureSource
 {
 public:
@@ -32,7 +32,7 @@ public:
     /// The size of the pixels as they are stored, before turning the picture upright.
     QSize StoredSize() const { return storedSize; }
 
-    /// How the stored picture has to be turned to stand upright, 1 to 8.
+    /// The EXIF orientation, 1 to 8: how the stored picture has to be turned to be upright.
     int Orientation() const { return orientation; }
 
     /// Whether a channel has more than 8 bits.
@@ -46,7 +46,7 @@ public:
     /// How many pages or frames the file has, as far as the decoder says. Load() gives the one that FormatPages says.
     int Pages() const;
 
-    /// The header as the library reads it, for its metadata; without any for camera RAW.
+    /// The header as the imaging library reads it, with its metadata; empty for camera RAW.
     const Picture& Header() const { return header; }
 
     /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost without
@@ -54,7 +54,7 @@ public:
     int PossibleShrink(double reduction) const;
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
-    /// sizes rounded as the format does it. Each call reads the file anew.
+    /// sizes rounded as the decoder rounds them. Each call reads the file again.
     Picture Load(int shrink = 1);
 
 private:

@@ -73,7 +73,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     const QByteArray iptc = metadata.Iptc();
     const bool hasAny = !exif.isEmpty() || !xmp.isEmpty() || !iptc.isEmpty();
     if (hasAny && support.writing == MetadataWriting::None) {
-        warnings.append(QStringLiteral("%1 files hold no metadata; they are left out").arg(format.name));
+        warnings.append(QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name));
     }
     if (support.writing != MetadataWriting::ByEncoder) {
         return carrier;
@@ -82,7 +82,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
         if (support.longestBlock == 0 || block.size() <= support.longestBlock) {
             return true;
         }
-        warnings.append(QStringLiteral("%1 metadata of %2 bytes do not fit into a %3 file and are left out")
+        warnings.append(QStringLiteral("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
                             .arg(QLatin1String(what))
                             .arg(block.size())
                             .arg(format.name));
@@ -134,7 +134,7 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     const MetadataSupport& support = format.metadata;
     const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
     if (isCutOut && !RemoveExifFromWebp(fileName)) {
-        warnings.append(QStringLiteral("EXIF cannot be taken out of the result"));
+        warnings.append(QStringLiteral("EXIF cannot be removed from the result"));
     }
     const bool isStripped = IsStripped(format, metadata);
     const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();
@@ -144,7 +144,8 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     }
     constexpr qint64 largestInMemory = qint64(256) << 20;
     if (QFileInfo(fileName).size() > largestInMemory) {
-        warnings.append(QStringLiteral("the result is too large for metadata of this format; some are left out"));
+        warnings.append(
+            QStringLiteral("the result is too large for all of its metadata to be added; some is left out"));
         return;
     }
     try {

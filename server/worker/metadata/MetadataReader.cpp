@@ -168,7 +168,7 @@ MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, QS
         return BlocksOfAnyFile(file, source, warnings);
     } catch (const Exiv2::AnyError& problem) {
         warnings.append(
-            QStringLiteral("metadata cannot be read and are left out: %1").arg(QString::fromUtf8(problem.what())));
+            QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what())));
         return {};
     }
 }
