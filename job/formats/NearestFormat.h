@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FormatCatalog.h"
+#include "FormatSchema.h"
 
 #include <QSize>
 #include <QString>

@@ -15,25 +15,25 @@
 
 class ZTBatchDocument;
 
-/// The check that a job has to pass before any of its pictures is touched. Everything here is used on the thread that
-/// the document belongs to.
+/// The check that a job has to pass before any of its pictures is touched. Call everything here on the document's
+/// thread.
 namespace BatchJob {
 
-/// Why something is refused.
+/// Why a job or an order is refused.
 struct Refusal
 {
-    ZTBatchMessage::Error code = ZTBatchMessage::NoError; ///< NoError: it is not
-    QString message; ///< names the field, its value and what is allowed; empty when nothing is refused
+    ZTBatchMessage::Error code = ZTBatchMessage::NoError; ///< NoError: it is accepted
+    QString message; ///< names the field, its value and what is allowed; empty if it is accepted
 };
 
-/// An effect that is to be applied.
+/// An effect to apply.
 struct JobEffect
 {
     const EffectSchema* schema = nullptr; ///< one of Effects()
     QJsonObject parameters;               ///< complete with the defaults
 };
 
-/// What a job says about its results, every value being one that the server understands.
+/// The checked settings of a job: the server understands every value.
 struct JobSettings
 {
     QString outputFolder; ///< absolute, clean, in Qt's form
@@ -44,26 +44,26 @@ struct JobSettings
     QByteArray profile;        ///< the ICC profile that results are converted to, unchecked; empty for none
     ZTBatchOutputSettings::ImageSize imageSize;
     ZTBatchOutputSettings::Crop crop;
-    ZTBatchOutputSettings::Transformation framing; ///< only what its `state` and its switches need is checked
+    ZTBatchOutputSettings::Transformation framing; ///< values that its switches turn off are unchecked
     QVector<JobEffect> effects;                    ///< those that are enabled, in their order
 };
 
 struct CheckedSettings
 {
-    JobSettings settings; ///< means nothing when refused
+    JobSettings settings; ///< meaningless when refused
     Refusal refusal;
 
     bool IsAccepted() const { return refusal.code == ZTBatchMessage::NoError; }
 };
 
-/// Checks the output settings and the effects of `job`, not its inputs: ReadOutputSettingsError for a value that means
-/// nothing, NoAdjustment for an effect that does not exist, ApplyAdjustmentError for one whose parameters are wrong.
+/// Checks the output settings and the effects of `job`, not its inputs. Gives ReadOutputSettingsError for an unknown or
+/// invalid value, NoAdjustment for an unknown effect, ApplyAdjustmentError for an effect with invalid parameters.
 CheckedSettings CheckSettings(const ZTBatchDocument& job);
 
-/// As CheckSettings(), and EmptyBatchDocument for a job without a single file.
+/// As CheckSettings(), and EmptyBatchDocument for a job without files.
 CheckedSettings CheckJob(const ZTBatchDocument& job);
 
-/// Checks the five policies of `order`: ReadOutputSettingsError for a value that is none of the policy's.
+/// Checks the five policies of `order`. Gives ReadOutputSettingsError for a value that a policy does not have.
 Refusal CheckPolicies(const ZTBatchPayload::Process& order);
 
 } // namespace BatchJob

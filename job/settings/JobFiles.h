@@ -12,12 +12,12 @@ struct JobFile
 {
     QString path;
 
-    /// Where its folder stands in the job: the names of the folders above, cleaned, with "/" between; empty at the top.
+    /// The path of its folder within the job: cleaned folder names joined with "/"; empty at the top.
     QString folder;
 };
 
-/// The files of a job in the document's order: as the tree shows them from top to bottom with all folders open. Trees
-/// of any depth are walked without recursion.
+/// The files of a job in the document's order: from top to bottom of the tree with all folders expanded. Trees of any
+/// depth are walked without recursion.
 QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input);
 
 } // namespace BatchJob

@@ -22,7 +22,7 @@ bool IsRefused(QChar character)
     }
 }
 
-/// Half of a pair without its other half cannot be written as UTF-8.
+/// A lone surrogate cannot be written as UTF-8.
 bool IsLoneSurrogate(const QString& text, int i)
 {
     if (text[i].isHighSurrogate()) {
@@ -38,7 +38,7 @@ void ReplaceTrailing(QString& name)
     }
 }
 
-/// Whether Windows takes a file of this name, without what follows a dot, for a device.
+/// Whether `name`, which has no extension, is the name of a device on Windows.
 bool IsDevice(const QString& name)
 {
     const QString upper = name.trimmed().toUpper();
@@ -50,7 +50,7 @@ bool IsDevice(const QString& name)
     return std::find(devices.begin(), devices.end(), upper) != devices.end();
 }
 
-/// The longest beginning of `text` that is whole characters, as users see them, and at most `bytes` bytes of UTF-8.
+/// The longest beginning of `text` that has at most `bytes` bytes of UTF-8 and does not split a user-visible character.
 QString CutToBytes(const QString& text, int bytes)
 {
     if (text.size() <= bytes && text.toUtf8().size() <= bytes) {
@@ -69,8 +69,8 @@ QString CutToBytes(const QString& text, int bytes)
     return text.left(end);
 }
 
-/// Full case folding. QString folds character by character; those that fold to several, such as the sharp s, are the
-/// ones that have several capitals.
+/// Full case folding. QString folds one character to one; those that fold to several, such as the sharp s, are those
+/// that have several capitals.
 QString Folded(const QString& text)
 {
     const QString simple = text.toCaseFolded();
@@ -153,7 +153,7 @@ QString CleanName(const QString& name)
 {
     QString clean = name;
     for (int i = 0; i < clean.size(); ++i) {
-        // The name itself is looked at, not what has become of it.
+        // The unchanged name decides, not the one with replacements.
         if (IsRefused(name[i]) || IsLoneSurrogate(name, i)) {
             clean[i] = QLatin1Char('_');
         }
@@ -190,7 +190,7 @@ QString NameKey(const QString& name)
     if (isAscii) {
         return name.toLower();
     }
-    // Folding may compose or take apart what was normalised, and the other way round.
+    // Folding may undo the normalisation, so the name is normalised before and after.
     return Folded(name.normalized(QString::NormalizationForm_D)).normalized(QString::NormalizationForm_C);
 }
 

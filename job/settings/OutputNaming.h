@@ -10,7 +10,7 @@
 /// The names of results. Everything here is safe on any thread.
 namespace BatchJob {
 
-/// The longest name of a file or folder, in bytes of UTF-8. File systems that count otherwise hold more.
+/// The longest name of a file or folder, in bytes of UTF-8. File systems that count characters hold more.
 constexpr int longestName = 255;
 
 /// How a job names its results.
@@ -19,14 +19,14 @@ class OutputNaming
 public:
     OutputNaming() = default;
 
-    /// Takes the naming of `settings`, whose templates are known to be enumerators.
+    /// Uses the naming of `settings`, which have passed CheckSettings().
     explicit OutputNaming(const ZTBatchOutputSettings& settings);
 
-    /// Whether a name holds the date or the time at which its picture was taken.
+    /// Whether names contain capture dates or times.
     bool NeedsCaptureTime() const;
 
-    /// The name without extension for the file `inputPath`, the `position`-th of the job counted from 0, as any file
-    /// system takes it. A time that is not known (invalid) shows as zeros.
+    /// The name without extension, valid on any file system, for the file `inputPath`, which is number `position` of
+    /// the job, counted from 0. An invalid `captured` becomes zeros.
     QString Stem(const QString& inputPath, int position, const QDateTime& captured) const;
 
 private:
@@ -47,20 +47,20 @@ private:
     QString suffixSeparator;
 };
 
-/// `name` as one component of a path on any system: what a file system refuses or reads as something else is replaced
-/// with "_" (path separators, <>:"|?*, control characters and line ends, halves of surrogate pairs, trailing dots and
-/// spaces, names of devices such as CON), an empty name becomes "_". Not cut.
+/// `name` as a valid path component on any system. Replaced with "_" are path separators, <>:"|?*, control characters
+/// and line ends, lone surrogates, trailing dots and spaces, and names of devices such as CON. An empty name becomes
+/// "_". The length is not limited.
 QString CleanName(const QString& name);
 
-/// `stem` + `addition` + "." + `extension`; the stem is cut, between two characters, where the whole would be longer
-/// than longestName.
+/// `stem` + `addition` + "." + `extension`. The stem is cut between two characters if the whole would be longer than
+/// longestName.
 QString FileName(const QString& stem, const QString& addition, const QString& extension);
 
-/// A cleaned folder name, cut to longestName.
+/// CleanName(), cut to longestName.
 QString FolderName(const QString& name);
 
-/// The text that two names share when they could mean the same file on some system: they differ in nothing but letter
-/// case (full Unicode case folding) and composition of characters.
+/// A key that is equal for names that mean the same file on some system: names that differ only in letter case (full
+/// Unicode case folding) and in the composition of characters.
 QString NameKey(const QString& name);
 
 } // namespace BatchJob

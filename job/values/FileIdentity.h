@@ -7,14 +7,14 @@
 
 namespace BatchJob {
 
-/// Which file a path leads to, whatever links it leads through. Two paths of one file have equal identities, two files
-/// that exist at the same time have different ones.
+/// Which file a path leads to, with links resolved. Two paths to one file have equal identities; two files that exist
+/// at the same time have different ones.
 struct FileIdentity
 {
     quint64 device = 0;
     quint64 file = 0;
 
-    /// The same as a text.
+    /// The identity as text.
     QString Text() const { return QStringLiteral("%1:%2").arg(device).arg(file); }
 
     bool operator==(const FileIdentity& other) const { return device == other.device && file == other.file; }
@@ -25,7 +25,7 @@ inline uint qHash(const FileIdentity& identity, uint seed = 0)
     return ::qHash(identity.file ^ (identity.device << 48U), seed);
 }
 
-/// The identity of the file at `path`; nothing when there is none. Safe on any thread.
+/// The identity of the file at `path`; nothing if there is no file. Safe on any thread.
 std::optional<FileIdentity> IdentityOf(const QString& path);
 
 } // namespace BatchJob

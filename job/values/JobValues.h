@@ -9,16 +9,16 @@
 
 /// What the plain integers of a job, of the policies and of the server's reports mean.
 ///
-/// The library passes these integers through unseen. The server, its documentation and the hosts take their meaning
-/// from here and nowhere else: the enumerators for code, the words for command lines and documents. A value that is no
-/// enumerator is refused before a run starts. Naming parts, naming templates, folder structures and policies have their
-/// enumerators in the library; only their words are here.
+/// The library passes these integers through without reading them. The server, its documentation and the hosts take
+/// their meaning from here and nowhere else: the enumerators for code, the words for command lines and documents. A
+/// value that is no enumerator is refused before a run starts. Naming parts, naming templates, folder structures and
+/// policies have their enumerators in the library; only their words are here.
 namespace BatchJob {
 
 /// ZTBatchOutputSettings::ImageSize::restriction: whether a picture is scaled, and in which direction.
 enum class SizeRestriction : int { None = 0, Fit = 1, ReduceOnly = 2, EnlargeOnly = 3 };
 
-/// ZTBatchOutputSettings::ImageSize::side: the side whose length is given. The other follows, the ratio is kept.
+/// ZTBatchOutputSettings::ImageSize::side: the side whose length is given. The ratio is kept.
 enum class SizeSide : int { Width = 0, Height = 1, LongSide = 2, ShortSide = 3 };
 
 /// ZTBatchOutputSettings::ImageSize::unit. Lengths become pixels by the record's resolution in dots per inch.
@@ -29,10 +29,13 @@ enum class CropType : int {
     None = 0,
     Ratio = 1,       ///< the largest frame of the ratio width : height
     Trim = 2,        ///< a border of one colour is cut off
-    Interesting = 3, ///< the frame of that ratio that draws the eye
+    Interesting = 3, ///< the most interesting frame of that ratio
     Fill = 4,        ///< scaled to cover width x height, then cut to it
     Exact = 5        ///< width x height pixels, clipped to the picture
 };
+
+/// How many patterns are built in; they are numbered from 0.
+constexpr int builtInPatterns = 8;
 
 /// ZTBatchOutputSettings::Transformation::backgroundType.
 enum class BackgroundType : int {
@@ -59,7 +62,7 @@ enum class Blending : int {
 /// the right, counter-clockwise; shadowDistance and shadowSize (the blur's sigma) are pixels.
 enum class ShadowMode : int { Drop = 0, ContactGlow = 1 };
 
-/// What the server did about the case that an error message reports: its field `action`.
+/// The field `action` of an error message: what the server did about the error.
 enum class Action : int {
     ReportedOnly = 0, ///< nothing yet: the question about this file comes next
     FileSkipped = 1,
@@ -190,7 +193,7 @@ inline constexpr std::array ActionWords{
     Word{int(Action::WrittenInAnotherFormat), "converted", "written in another format"},
 };
 
-/// The word of `value` in `words`; null when there is none. With a null result the value is unknown to the server.
+/// The word of `value` in `words`; null for a value that the server does not know.
 template<std::size_t count>
 constexpr const Word* FindWord(const std::array<Word, count>& words, int value)
 {
@@ -212,7 +215,7 @@ QStringList AllWords(const std::array<Word, count>& words)
     return all;
 }
 
-/// The word of `value`; its number when a job holds one without meaning.
+/// The word of `value`; the number itself for a value that the server does not know.
 template<std::size_t count>
 QString WordOf(const std::array<Word, count>& words, int value)
 {

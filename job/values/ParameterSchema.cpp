@@ -176,7 +176,7 @@ QJsonValue PointsFromText(const QString& text)
     return points;
 }
 
-// Undefined, or a list with something in it that no schema allows, when the text has not the form of the type.
+// Text of another form than the type's gives undefined or a list with an element that no schema allows.
 QJsonValue ValueFromText(const ParameterSchema& parameter, const QString& text)
 {
     switch (parameter.type) {

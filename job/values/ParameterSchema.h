@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QVector>
 
-/// Parameters of effects and options of formats, described as data. Validation, help texts and the reference pages all
-/// come from these descriptions. Everything here is safe on any thread.
+/// Parameters of effects and options of formats, described as data. Checks, help texts and the reference pages are all
+/// made from these descriptions. Everything here is safe on any thread.
 namespace BatchJob {
 
 /// What a parameter's JSON value must be.
@@ -28,8 +28,8 @@ struct ParameterSchema
 {
     QString name;
     ParameterType type = ParameterType::Number;
-    QJsonValue defaultValue; ///< Null: the parameter has to be given. Undefined: it may be left out and is absent then.
-    QString description;     ///< one line, without the range, which is written from the fields here
+    QJsonValue defaultValue; ///< null: the parameter is required; undefined: it is optional, without a default
+    QString description;     ///< one line, without the range, which comes from the other fields
     double minimum = 0;
     double maximum = 0;
     QString unit;        ///< such as "pixels", "degrees", "percent"; empty for plain numbers
@@ -45,8 +45,8 @@ struct CheckedParameters
     bool IsValid() const { return error.isEmpty(); }
 };
 
-/// Checks `json`, the UTF-8 text of a JSON object, against `schema`. No text at all, or `{}`, gives the defaults. An
-/// unknown name is refused with the nearest known one.
+/// Checks `json`, the UTF-8 text of a JSON object, against `schema`. Empty text and `{}` give the defaults. The error
+/// about an unknown name suggests the nearest known one.
 CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const QByteArray& json);
 CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const QJsonObject& given);
 
@@ -59,17 +59,17 @@ struct ParameterValue
     bool IsValid() const { return error.isEmpty(); }
 };
 
-/// The JSON value that `text`, written on a command line, stands for, checked against `parameter`. Numbers have a
-/// decimal point in every locale. Truth is "true", "yes", "on", "1" or their opposites, in any letter case, as choices
-/// are. A colour may come without its "#". A relative file counts from the current folder. A list joins its choices
-/// with "+" or ",", and "none" is the empty list. Points are written x:y and joined with "+", ";" or blanks.
+/// The JSON value of `text` from a command line, checked against `parameter`. Numbers have a decimal point in every
+/// locale. Truth is "true", "yes", "on", "1" or their opposites; letter case does not matter, nor does it for choices.
+/// A colour may lack its "#". A relative path starts at the current folder. The choices of a list are joined with "+"
+/// or ","; "none" is the empty list. Points are written x:y and joined with "+", ";" or blanks.
 ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString& text);
 
-/// What `parameter` takes, in words, such as "a number from 0 to 100 (percent)".
+/// The values that `parameter` allows, in words, such as "a number from 0 to 100 (percent)".
 QString AllowedValues(const ParameterSchema& parameter);
 
-/// The entry of `words` that is nearest to `word` in edits of single characters, upper and lower case being equal; an
-/// empty string when none is nearer than half of the word's length.
+/// The entry of `words` with the least edit distance to `word`, ignoring letter case; an empty string if the distance
+/// is more than half of the word's length.
 QString NearestWord(const QString& word, const QStringList& words);
 
 } // namespace BatchJob

@@ -178,7 +178,7 @@ QString FormatListing(const QStringList& names)
                          format.holdsTransparency ? QStringLiteral("yes") : QStringLiteral("no"),
                          format.holdsCmyk ? QStringLiteral("yes") : QStringLiteral("no"))
                     .arg(format.longestSide);
-        text += ParameterListing(format.options);
+        text += QStringLiteral("  ") + format.description + QLatin1Char('\n') + ParameterListing(format.options);
     }
     if (names.isEmpty()) {
         text += QStringLiteral("Original\n  the format of each input\n\nFiles that can be read: ") +
@@ -196,6 +196,7 @@ QString FormatJson(const QStringList& names)
             depths.append(depth);
         }
         array.append(QJsonObject{{QStringLiteral("name"), format.name},
+                                 {QStringLiteral("description"), format.description},
                                  {QStringLiteral("extensions"), QJsonArray::fromStringList(format.extensions)},
                                  {QStringLiteral("transparency"), format.holdsTransparency},
                                  {QStringLiteral("cmyk"), format.holdsCmyk},

@@ -1,5 +1,6 @@
 #include "PictureSource.h"
 
+#include "Loader.h"
 #include "RawFile.h"
 #include "TiffPages.h"
 
@@ -11,8 +12,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
-
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -38,7 +37,7 @@ public:
         const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
         if (!isFile) {
             close(value);
-            throw DamagedFile(QStringLiteral("it is no file"));
+            throw DamagedFile(QStringLiteral("it is not a regular file"));
         }
     }
     ~FileDescriptor() { close(value); }
@@ -51,39 +50,33 @@ private:
     int value;
 };
 
-// The loader is named, never found by the library: it would look for options in the file's name, and try loaders that
-// are not meant for files of strangers.
-const char* LoaderOf(const QString& format)
+// The format of `file` by its first bytes and `extension`; null when the server reads no such files.
+const FormatSchema* IdentifiedFormat(const QString& file, const QString& extension)
 {
-    static const QHash<QString, const char*> loaders{
-        {QStringLiteral("JPEG"), "jpegload_source"},   {QStringLiteral("PNG"), "pngload_source"},
-        {QStringLiteral("TIFF"), "tiffload_source"},   {QStringLiteral("WebP"), "webpload_source"},
-        {QStringLiteral("HEIF"), "heifload_source"},   {QStringLiteral("AVIF"), "heifload_source"},
-        {QStringLiteral("JPEG XL"), "jxlload_source"}, {QStringLiteral("JPEG 2000"), "jp2kload_source"},
-        {QStringLiteral("GIF"), "gifload_source"},
-    };
-    return loaders.value(format, nullptr);
+    const FileDescriptor descriptor(file);
+    QFile head;
+    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const QByteArray bytes = head.read(64);
+    if (bytes.isEmpty()) {
+        throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
+    }
+    return FindReadableFormat(FormatOfFile(bytes, extension));
 }
 
-QString RawFormat()
-{
-    return QStringLiteral("RAW");
-}
-
-Picture Read(const QString& file, const QString& format, int shrink)
+Picture Read(const QString& file, const Loader& loader, int shrink)
 {
     const FileDescriptor descriptor(file);
     vips::VOption* options = Picture::option()
                                  ->set("source", vips::VSource::new_from_descriptor(descriptor.Value()))
                                  ->set("access", VIPS_ACCESS_SEQUENTIAL)
                                  ->set("fail_on", VIPS_FAIL_ON_ERROR);
-    if (shrink > 1 && format == QLatin1String("JPEG")) {
+    if (shrink > 1 && loader.shrink == LoaderShrink::ByFactor) {
         options->set("shrink", shrink);
-    } else if (shrink > 1 && format == QLatin1String("WebP")) {
+    } else if (shrink > 1 && loader.shrink == LoaderShrink::ByScale) {
         options->set("scale", 1.0 / shrink);
     }
     Picture picture;
-    Picture::call(LoaderOf(format), options->set("out", &picture));
+    Picture::call(loader.operation, options->set("out", &picture));
     return picture;
 }
 
@@ -93,12 +86,15 @@ PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
     : file(file)
     , limits(limits)
 {
-    Identify();
-    if (format == RawFormat()) {
+    format = IdentifiedFormat(file, QFileInfo(file).suffix());
+    if (!format) {
+        throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
+    }
+    if (!LoaderOf(*format).operation) {
         OpenRaw();
     }
     if (!raw) {
-        OpenOther();
+        OpenWithLoader();
     }
     const qint64 pixels = qint64(storedSize.width()) * storedSize.height();
     if (pixels > limits.pixels) {
@@ -133,20 +129,20 @@ int PictureSource::Pages() const
     }
     const int pages = vips_image_get_n_pages(header.get_image());
     const bool hasSeveral = pages > 1;
-    return hasSeveral && format == QLatin1String("TIFF") ? CountTiffPages(file, pages) : pages;
+    return hasSeveral && format->pages == FormatPages::Directories ? CountTiffPages(file, pages) : pages;
 }
 
 int PictureSource::PossibleShrink(double reduction) const
 {
     if (raw) {
-        // A colour channel of the sensor has no more than a pixel of four anyway.
+        // Each colour of the sensor has at most two of four pixels anyway.
         return reduction >= 2 ? 2 : 1;
     }
-    if (format != QLatin1String("JPEG") && format != QLatin1String("WebP")) {
+    if (LoaderOf(*format).shrink == LoaderShrink::None) {
         return 1;
     }
-    // The filter that scales is better than that of the decoder. What it does to the last factor of two hides the
-    // other.
+    // The scaling filter is better than the decoder's. It does the last factor of two, which hides what the decoder
+    // did.
     constexpr double leftForFilter = 2.0;
     int shrink = 8;
     while (shrink > 1 && shrink * leftForFilter > reduction) {
@@ -158,7 +154,7 @@ int PictureSource::PossibleShrink(double reduction) const
 Picture PictureSource::Load(int shrink)
 {
     if (raw) {
-        // The decoder gives its memory back with the pixels.
+        // A decoder of its own: its memory is freed with the pixels.
         RawFile decoder(file, limits.workerMemory);
         return decoder.Develop(shrink > 1);
     }
@@ -166,22 +162,7 @@ Picture PictureSource::Load(int shrink)
         isHeaderRead = true;
         return header;
     }
-    return Read(file, format, shrink);
-}
-
-void PictureSource::Identify()
-{
-    const FileDescriptor descriptor(file);
-    QFile head;
-    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
-    const QByteArray bytes = head.read(64);
-    if (bytes.isEmpty()) {
-        throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
-    }
-    format = FormatOfFile(bytes, QFileInfo(file).suffix());
-    if (format.isEmpty()) {
-        throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
-    }
+    return Read(file, LoaderOf(*format), shrink);
 }
 
 void PictureSource::OpenRaw()
@@ -193,20 +174,17 @@ void PictureSource::OpenRaw()
         raw = std::move(opened);
         return;
     }
-    // Some files with the extension of a camera are plain TIFF files.
-    const FileDescriptor descriptor(file);
-    QFile head;
-    head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
-    format = FormatOfFile(head.read(64), {});
-    if (!LoaderOf(format)) {
+    // Some files with the extension of camera files are plain TIFF files.
+    format = IdentifiedFormat(file, {});
+    if (!format || !LoaderOf(*format).operation) {
         throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));
     }
 }
 
-void PictureSource::OpenOther()
+void PictureSource::OpenWithLoader()
 {
     try {
-        header = Read(file, format, 1);
+        header = Read(file, LoaderOf(*format), 1);
     } catch (const vips::VError& problem) {
         const QString text = TextOf(problem);
         throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);

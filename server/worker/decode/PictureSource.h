@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job/formats/FormatSchema.h"
 #include "job/formats/NearestFormat.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
@@ -16,8 +17,8 @@ class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
 ///
-/// All operations throw PictureFailure, with a case of Input, for a file that is missing, unreadable, damaged, of no
-/// known format or larger than the limit. Damage further inside shows as vips::VError when the pixels are read.
+/// All operations throw PictureFailure, with the case Input, for a file that is missing, unreadable, damaged, of no
+/// known format or larger than the limit. Damage of the pixels throws vips::VError when they are read.
 class PictureSource
 {
 public:
@@ -25,13 +26,13 @@ public:
     PictureSource(const QString& file, const BatchProtocol::ServerLimits& limits);
     ~PictureSource();
 
-    /// As FormatOfFile() names it; the bytes of the file decide, not its name.
-    QString Format() const { return format; }
+    /// The bytes of the file decide, not its name.
+    const BatchJob::FormatSchema& Format() const { return *format; }
 
     /// The size of the pixels as they are stored, before turning the picture upright.
     QSize StoredSize() const { return storedSize; }
 
-    /// How the stored picture has to be turned to stand upright, 1 to 8.
+    /// The EXIF orientation, 1 to 8: how the stored picture has to be turned to be upright.
     int Orientation() const { return orientation; }
 
     /// Whether a channel has more than 8 bits.
@@ -42,35 +43,33 @@ public:
     /// Whether the pixels are inks.
     bool IsCmyk() const;
 
-    /// How many pages the file has, or frames of an animation; Load() gives the first, of HEIF and AVIF the main one.
-    /// 1 for camera RAW, and for the formats whose decoders know of no others.
+    /// How many pages or frames the file has, as far as the decoder says. Load() gives the one that FormatPages says.
     int Pages() const;
 
-    /// The header as the library reads it, for its metadata; without any for camera RAW.
+    /// The header as the imaging library reads it, with its metadata; empty for camera RAW.
     const Picture& Header() const { return header; }
 
-    /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost, without
-    /// anybody seeing that in a result which is `reduction` times smaller: 1, 2, 4 or 8.
+    /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost without
+    /// visible difference in a result that is `reduction` times smaller: 1, 2, 4 or 8.
     int PossibleShrink(double reduction) const;
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
-    /// sizes rounded as the format does it. Each call reads the file anew.
+    /// sizes rounded as the decoder rounds them. Each call reads the file again.
     Picture Load(int shrink = 1);
 
 private:
     Q_DISABLE_COPY(PictureSource)
 
-    void Identify();
     void OpenRaw();
-    void OpenOther();
+    void OpenWithLoader();
 
     QString file;
     BatchProtocol::ServerLimits limits;
-    QString format;
+    const BatchJob::FormatSchema* format = nullptr;
     QSize storedSize;
     int orientation = 1;
     Picture header;
-    bool isHeaderRead = false; ///< its pixels have been taken
+    bool isHeaderRead = false; ///< its pixels are read already
     std::unique_ptr<RawFile> raw;
 };
 

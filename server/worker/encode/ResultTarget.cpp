@@ -29,7 +29,7 @@ ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
     Write(before.constData(), lengthBefore);
 }
 
-// What cannot be written counts as written nonetheless: not every encoder survives a target that fails.
+// Reports success even after a failure: not every encoder survives a target that fails.
 gint64 ResultTarget::Write(const char* data, gint64 length)
 {
     for (gint64 done = 0; done < length && problem == 0;) {
@@ -43,7 +43,7 @@ gint64 ResultTarget::Write(const char* data, gint64 length)
     return length;
 }
 
-// The library counts from the first byte of its own.
+// The library counts from its own first byte.
 gint64 ResultTarget::Seek(gint64 offset, int whence)
 {
     const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + lengthBefore : offset, whence);

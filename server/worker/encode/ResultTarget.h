@@ -6,8 +6,8 @@
 
 namespace BatchWorker {
 
-/// An open file as target of the imaging library, which remembers why it could not be written: the library tells a full
-/// disk and a damaged source with the same exception. A failure does not stop the library; it has to be asked for.
+/// An open file as a target of the imaging library. It remembers why a write failed, because the library throws the
+/// same exception for a full disk and for a damaged source. A failure does not stop the library: ask Problem() after.
 class ResultTarget
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     vips::VTarget Target() const { return target; }
 
-    /// The error number of the first operation on the file that failed; 0 when all went well.
+    /// The error number of the first operation on the file that failed; 0 if none did.
     int Problem() const { return problem; }
 
 private:

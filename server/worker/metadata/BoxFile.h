@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/// Files of boxes, as JPEG 2000 and JPEG XL have them: each box has a header of its size and its type.
+/// Files that consist of boxes, such as JPEG 2000 and JPEG XL. The header of a box holds its size and its type.
 namespace BatchWorker {
 
 constexpr int boxTypeSize = 4;
@@ -16,8 +16,8 @@ struct BoxHeader
     qint64 size = 0; ///< of the content
 };
 
-/// Reads the header of the box that begins where `file` stands; its content comes next. Nothing at the end, and where
-/// no box of sense begins. Sizes of 64 bits are not read.
+/// Reads the header of the box at the position of `file`, up to the box's content. Nothing at the end of the file and
+/// for a malformed box. Sizes of 64 bits are not supported.
 std::optional<BoxHeader> NextBox(QFile& file);
 
 /// A box of `type` that holds `content`.

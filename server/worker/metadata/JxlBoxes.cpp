@@ -13,10 +13,10 @@ namespace BatchWorker {
 
 namespace {
 
-// Far more than metadata are, far less than a worker may take.
+// Far more than metadata takes, far less than a worker may use.
 constexpr qint64 largestContent = qint64(64) << 20;
 
-QByteArray Unpacked(const QByteArray& packed)
+QByteArray Decompressed(const QByteArray& packed)
 {
     const std::unique_ptr<BrotliDecoderState, decltype(&BrotliDecoderDestroyInstance)> decoder(
         BrotliDecoderCreateInstance(nullptr, nullptr, nullptr), BrotliDecoderDestroyInstance);
@@ -37,7 +37,7 @@ QByteArray Unpacked(const QByteArray& packed)
     return result == BROTLI_DECODER_RESULT_SUCCESS && content.size() <= largestContent ? content : QByteArray();
 }
 
-// The block stands behind a count of bytes to pass over.
+// The block comes after a count of bytes to skip.
 QByteArray ExifOf(const QByteArray& content)
 {
     constexpr int countSize = 4;
@@ -48,7 +48,7 @@ QByteArray ExifOf(const QByteArray& content)
     return passed < quint32(content.size() - countSize) ? content.mid(countSize + int(passed)) : QByteArray();
 }
 
-void Take(const QByteArray& type, const QByteArray& content, JxlMetadata& metadata)
+void AddBlock(const QByteArray& type, const QByteArray& content, JxlMetadata& metadata)
 {
     if (type == "Exif" && metadata.exif.isEmpty()) {
         metadata.exif = ExifOf(content);
@@ -73,9 +73,9 @@ JxlMetadata ReadJxlMetadata(const QString& path)
         if ((isPacked || box->type == "Exif" || box->type == "xml ") && box->size <= largestContent) {
             const QByteArray content = file.read(box->size);
             if (isPacked) {
-                Take(content.left(boxTypeSize), Unpacked(content.mid(boxTypeSize)), metadata);
+                AddBlock(content.left(boxTypeSize), Decompressed(content.mid(boxTypeSize)), metadata);
             } else {
-                Take(box->type, content, metadata);
+                AddBlock(box->type, content, metadata);
             }
         }
         if (!file.seek(end)) {

@@ -5,14 +5,14 @@
 
 namespace BatchWorker {
 
-/// Metadata of a JPEG XL file; each is empty when there is none, or when it makes no sense.
+/// Metadata of a JPEG XL file. A block is empty if the file does not have it or if it is malformed.
 struct JxlMetadata
 {
     QByteArray exif; ///< begins with its TIFF header
     QByteArray xmp;
 };
 
-/// Reads the boxes of `file` that hold metadata, packed ones too. The decoder passes them over.
+/// Reads the boxes of `file` that hold metadata, compressed ones, too. The decoder ignores them.
 JxlMetadata ReadJxlMetadata(const QString& file);
 
 } // namespace BatchWorker

@@ -32,7 +32,7 @@ bool IsAmong(int tag, std::initializer_list<std::pair<int, int>> ranges)
                        [tag](const std::pair<int, int>& range) { return tag >= range.first && tag <= range.second; });
 }
 
-// Entries that say how pixels are stored in TIFF files and those built like them, or where other blocks begin.
+// Entries that say how pixels are stored in TIFF files and files built like them, or where other blocks begin.
 bool DescribesStorage(const Exiv2::Exifdatum& entry)
 {
     const std::string group = entry.groupName();
@@ -69,12 +69,12 @@ void RemoveIf(Data& data, const Predicate& isUnwanted)
     }
 }
 
-bool IsPlace(const Exiv2::Exifdatum& entry)
+bool IsPosition(const Exiv2::Exifdatum& entry)
 {
     return entry.groupName() == "GPSInfo" || entry.key() == "Exif.Image.GPSTag";
 }
 
-bool IsPlaceInXmp(const Exiv2::Xmpdatum& entry)
+bool IsPositionInXmp(const Exiv2::Xmpdatum& entry)
 {
     return entry.groupName() == "exif" && entry.tagName().rfind("GPS", 0) == 0;
 }
@@ -135,17 +135,17 @@ QDateTime Metadata::Captured() const
 void Metadata::KeepOnly(const QStringList& kinds)
 {
     const bool keepsExif = kinds.contains(QLatin1String("exif"));
-    const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
+    const bool keepsPositions = kinds.contains(QLatin1String("gps"));
     d->keepsExif = keepsExif;
-    RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) { return IsPlace(entry) ? !keepsPlaces : !keepsExif; });
+    RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) { return IsPosition(entry) ? !keepsPositions : !keepsExif; });
     if (!kinds.contains(QLatin1String("iptc"))) {
         d->iptc.clear();
     }
     if (!kinds.contains(QLatin1String("xmp"))) {
         d->xmp.clear();
     }
-    if (!keepsPlaces) {
-        RemoveIf(d->xmp, IsPlaceInXmp);
+    if (!keepsPositions) {
+        RemoveIf(d->xmp, IsPositionInXmp);
     }
 }
 

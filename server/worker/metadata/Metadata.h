@@ -12,55 +12,55 @@ namespace BatchWorker {
 
 class PictureSource;
 
-/// What a picture says about itself: EXIF with GPS, IPTC, XMP. The colour profile is a matter of
-/// the decoder, with one exception.
+/// The metadata of a picture: EXIF with GPS, IPTC, XMP. The colour profile comes from the decoder, with one exception,
+/// see Profile().
 class Metadata
 {
 public:
-    /// None.
+    /// No metadata.
     Metadata();
     ~Metadata();
     Metadata(Metadata&& other) noexcept;
     Metadata& operator=(Metadata&& other) noexcept;
 
-    /// Those of `file`, whose header `source` has read. What cannot be read is left out, with a warning.
+    /// The metadata of `file`, whose header `source` has read. What cannot be read is left out, with a warning.
     static Metadata Of(const QString& file, const PictureSource& source, QStringList& warnings);
 
-    /// The ICC profile of a JPEG 2000 file, which the decoder of that format does not hand over; empty for all others.
+    /// The ICC profile of a file whose decoder does not hand it over (MetadataSupport::isProfileInDecoder); else empty.
     QByteArray Profile() const;
 
-    /// The EXIF original time, by the camera's clock; invalid when there is none.
+    /// The EXIF original time, by the camera's clock; invalid if there is none.
     QDateTime Captured() const;
 
-    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" the places that XMP repeats go
+    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" positions are removed from XMP,
     /// too.
     void KeepOnly(const QStringList& kinds);
 
-    /// Whether EXIF was not to be kept and there is none, not even places: then the result has no such block.
+    /// Whether the result must have no EXIF block: EXIF is not kept, and no GPS positions are left in it.
     bool GoWithoutExif() const;
 
-    /// Brings what describes the pixels in line with the result: upright, `size` pixels, `dotsPerInch`. Takes out the
-    /// preview of the source, and whatever described how its pixels were stored.
+    /// Makes the entries that describe the pixels fit the result: upright, `size` pixels, `dotsPerInch`. Removes the
+    /// preview of the source and the entries that describe how its pixels are stored.
     void DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb);
 
-    /// Takes the captions and keywords of IPTC over into XMP, for formats that have no place for IPTC.
+    /// Moves the captions and keywords of IPTC to XMP, for formats that cannot hold IPTC.
     void MoveIptcToXmp();
 
     void RemoveXmp();
 
-    /// A whole EXIF block, beginning with its TIFF header; empty when there is nothing to say. With `longest` above 0
-    /// the notes that only the camera's maker understands are left out of a longer block.
+    /// A whole EXIF block, beginning with its TIFF header; empty if there is no EXIF. A block of more than `longest`
+    /// bytes is written without the maker's notes; 0 means no limit.
     QByteArray Exif(int longest = 0) const;
 
     /// The records of IPTC; empty when there are none.
     QByteArray Iptc() const;
 
-    /// An XMP packet; empty when there is nothing to say. Without its wrapper it is shorter, and can no longer be
-    /// changed in place.
+    /// An XMP packet; empty if there is no XMP. Without its wrapper it is shorter and can no longer be changed in
+    /// place.
     QByteArray Xmp(bool withWrapper = true) const;
 
-    /// Writes them into the finished file `file`, for formats that the encoder writes without. Reads the whole file
-    /// into memory. Throws std::exception.
+    /// Writes the metadata into the finished file `file`, for formats whose encoder does not write it. Reads the whole
+    /// file into memory. Throws std::exception.
     void WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const;
 
     bool IsEmpty() const;

@@ -14,57 +14,10 @@ namespace BatchWorker {
 
 namespace {
 
-// What one segment of a JPEG file holds, less its headers.
-constexpr int longestJpegBlock = 65'000;
-
-struct Places
-{
-    bool exif = false;
-    bool iptc = false;
-    bool xmp = false;
-    bool profile = false;
-};
-
-// Where a format has a place, whoever writes it.
-Places PlacesIn(const FormatSchema& format)
-{
-    if (format.name == QLatin1String("GIF")) {
-        return {};
-    }
-    const bool hasIptc = format.name == QLatin1String("JPEG") || format.name == QLatin1String("TIFF") ||
-                         format.name == QLatin1String("JPEG 2000");
-    return {true, hasIptc, true, true};
-}
-
-bool IsJpeg(const FormatSchema& format)
-{
-    return format.name == QLatin1String("JPEG");
-}
-
-bool IsWebp(const FormatSchema& format)
-{
-    return format.name == QLatin1String("WebP");
-}
-
-bool IsTiff(const FormatSchema& format)
-{
-    return format.name == QLatin1String("TIFF");
-}
-
-bool IsJpeg2000(const FormatSchema& format)
-{
-    return format.name == QLatin1String("JPEG 2000");
-}
-
-bool IsJpegXl(const FormatSchema& format)
-{
-    return format.name == QLatin1String("JPEG XL");
-}
-
-// The encoder writes either no block at all, or one of EXIF whatever it is given.
+// The encoder writes no block at all; all of them are added to the finished file.
 bool IsStripped(const FormatSchema& format, const Metadata& metadata)
 {
-    return IsJpeg(format) && metadata.GoWithoutExif();
+    return format.metadata.exifRemoval == ExifRemoval::Strip && metadata.GoWithoutExif();
 }
 
 Picture WithoutMetadata(const Picture& picture)
@@ -95,7 +48,7 @@ QByteArray BigEndian(Number number)
     return bytes;
 }
 
-// The resource of Photoshop files in which JPEG files carry IPTC records.
+// The Photoshop resource in which JPEG files carry IPTC records.
 QByteArray IptcResource(const QByteArray& records)
 {
     if (records.isEmpty()) {
@@ -108,36 +61,31 @@ QByteArray IptcResource(const QByteArray& records)
 
 } // namespace
 
-bool HoldsProfile(const FormatSchema& format)
-{
-    return PlacesIn(format).profile;
-}
-
 Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadata& metadata, QStringList& warnings)
 {
-    const Places places = PlacesIn(format);
-    if (!places.iptc && places.xmp) {
+    const MetadataSupport& support = format.metadata;
+    if (!support.holdsIptc && support.holdsXmp) {
         metadata.MoveIptcToXmp();
     }
     const Picture carrier = WithoutMetadata(picture);
-    const QByteArray exif = metadata.Exif(IsJpeg(format) ? longestJpegBlock : 0);
-    const bool isHeif = format.name == QLatin1String("HEIF") || format.name == QLatin1String("AVIF");
-    const QByteArray xmp = metadata.Xmp(!isHeif); // readers do not expect the wrapper there
+    const QByteArray exif = metadata.Exif(support.longestBlock);
+    const QByteArray xmp = metadata.Xmp(support.hasXmpWrapper);
     const QByteArray iptc = metadata.Iptc();
     const bool hasAny = !exif.isEmpty() || !xmp.isEmpty() || !iptc.isEmpty();
-    if (hasAny && !places.exif) {
-        warnings.append(QStringLiteral("%1 files hold no metadata; they are left out").arg(format.name));
+    if (hasAny && support.writing == MetadataWriting::None) {
+        warnings.append(QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name));
     }
-    if (!places.exif || IsJpegXl(format) || IsJpeg2000(format) || IsTiff(format)) {
-        return carrier; // what these hold comes before or after encoding
+    if (support.writing != MetadataWriting::ByEncoder) {
+        return carrier;
     }
     const auto fits = [&](const QByteArray& block, const char* what) {
-        if (!IsJpeg(format) || block.size() <= longestJpegBlock) {
+        if (support.longestBlock == 0 || block.size() <= support.longestBlock) {
             return true;
         }
-        warnings.append(QStringLiteral("%1 metadata of %2 bytes do not fit into a JPEG file and are left out")
+        warnings.append(QStringLiteral("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
                             .arg(QLatin1String(what))
-                            .arg(block.size()));
+                            .arg(block.size())
+                            .arg(format.name));
         return false;
     };
     if (!exif.isEmpty() && fits(exif, "EXIF")) {
@@ -148,12 +96,12 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
         if (!isXmpHeld) {
             metadata.RemoveXmp();
         }
-        return carrier; // the rest comes after encoding
+        return carrier;
     }
     if (isXmpHeld) {
         SetBlock(carrier, VIPS_META_XMP_NAME, xmp);
     }
-    if (places.iptc && fits(iptc, "IPTC")) {
+    if (support.holdsIptc && fits(iptc, "IPTC")) {
         SetBlock(carrier, VIPS_META_IPTC_NAME, IptcResource(iptc));
     }
     return carrier;
@@ -161,7 +109,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
 
 QByteArray BytesBefore(const FormatSchema& format, const Metadata& metadata)
 {
-    if (!IsJpegXl(format)) {
+    if (format.metadata.writing != MetadataWriting::BeforePixels) {
         return {};
     }
     const QByteArray exif = metadata.Exif();
@@ -169,7 +117,7 @@ QByteArray BytesBefore(const FormatSchema& format, const Metadata& metadata)
     if (exif.isEmpty() && xmp.isEmpty()) {
         return {};
     }
-    // A container of boxes around the bare pixels, which are the last box: its size 0 means that it goes on to the end.
+    // The boxes of a JPEG XL container. The pixels are the last box, whose size 0 means that it ends with the file.
     QByteArray boxes = Box("JXL ", "\r\n\x87\n") + Box("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
     if (!exif.isEmpty()) {
         boxes += Box("Exif", QByteArray(4, '\0') + exif);
@@ -183,18 +131,21 @@ QByteArray BytesBefore(const FormatSchema& format, const Metadata& metadata)
 void CompleteFile(const QString& fileName, const FormatSchema& format, const Metadata& metadata,
                   const QByteArray& profile, QStringList& warnings)
 {
-    if (IsWebp(format) && metadata.GoWithoutExif() && !RemoveExifFromWebp(fileName)) {
-        warnings.append(QStringLiteral("EXIF cannot be taken out of the result"));
+    const MetadataSupport& support = format.metadata;
+    const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
+    if (isCutOut && !RemoveExifFromWebp(fileName)) {
+        warnings.append(QStringLiteral("EXIF cannot be removed from the result"));
     }
-    const bool needsProfile = (IsJpeg2000(format) || IsStripped(format, metadata)) && !profile.isEmpty();
-    const bool isCompleted = IsTiff(format) || IsJpeg2000(format) || IsStripped(format, metadata);
-    const bool needsBlocks = isCompleted && !metadata.IsEmpty();
+    const bool isStripped = IsStripped(format, metadata);
+    const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();
+    const bool needsBlocks = (support.writing == MetadataWriting::AfterEncoding || isStripped) && !metadata.IsEmpty();
     if (!needsProfile && !needsBlocks) {
         return;
     }
     constexpr qint64 largestInMemory = qint64(256) << 20;
     if (QFileInfo(fileName).size() > largestInMemory) {
-        warnings.append(QStringLiteral("the result is too large for metadata of this format; some are left out"));
+        warnings.append(
+            QStringLiteral("the result is too large for all of its metadata to be added; some is left out"));
         return;
     }
     try {

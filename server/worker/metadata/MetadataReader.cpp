@@ -9,22 +9,11 @@
 
 #include <memory>
 
+using namespace BatchJob;
+
 namespace BatchWorker {
 
 namespace {
-
-// The formats whose files the metadata library reads by itself; of the others the decoder hands the blocks over.
-bool IsReadFromFile(const QString& format)
-{
-    const QStringList formats{QStringLiteral("JPEG"), QStringLiteral("PNG"), QStringLiteral("TIFF"),
-                              QStringLiteral("WebP"), QStringLiteral("RAW"), QStringLiteral("JPEG 2000")};
-    return formats.contains(format);
-}
-
-bool IsJpeg2000(const PictureSource& source)
-{
-    return source.Format() == QLatin1String("JPEG 2000");
-}
 
 const Exiv2::byte* Data(const QByteArray& bytes)
 {
@@ -41,7 +30,7 @@ QByteArray Block(const Picture& header, const char* name)
     return {static_cast<const char*>(bytes), int(size)};
 }
 
-// The library takes XMP in HEIF files for something else when it stands in a wrapper.
+// The imaging library does not recognise XMP with a packet wrapper in HEIF files and hands it over under another name.
 QByteArray XmpBlock(const Picture& header)
 {
     const QByteArray known = Block(header, VIPS_META_XMP_NAME);
@@ -74,14 +63,14 @@ MetadataBlocks BlocksOfFile(const QString& file, const PictureSource& source)
 {
     const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
     MetadataBlocks blocks = BlocksOf(*image);
-    if (IsJpeg2000(source) && image->iccProfileDefined()) {
+    if (!source.Format().metadata.isProfileInDecoder && image->iccProfileDefined()) {
         const Exiv2::DataBuf& profile = *image->iccProfile();
         blocks.profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
     }
     return blocks;
 }
 
-// The boxes of a JPEG 2000 file, without pixels, and without the header that a profile stands in.
+// The boxes of a JPEG 2000 file, without the pixels and without the header, which holds the profile.
 QByteArray WithoutHeader(const QString& path)
 {
     constexpr qint64 largest = qint64(64) << 20; // far more than metadata are
@@ -101,8 +90,8 @@ QByteArray WithoutHeader(const QString& path)
     return kept;
 }
 
-// The decoder hands the block of Photoshop over, in which the records of IPTC are one resource of several.
-void TakeIptc(QByteArray block, Exiv2::IptcData& iptc)
+// The decoder hands over a block of Photoshop resources, one of which holds the records of IPTC.
+void ReadIptc(QByteArray block, Exiv2::IptcData& iptc)
 {
     const QByteArray start("Photoshop 3.0\0", 14);
     block = block.startsWith(start) ? block.mid(start.size()) : block;
@@ -117,29 +106,29 @@ void TakeIptc(QByteArray block, Exiv2::IptcData& iptc)
 
 MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
 {
-    const bool isJxl = source.Format() == QLatin1String("JPEG XL");
-    const JxlMetadata boxes = isJxl ? ReadJxlMetadata(file) : JxlMetadata();
+    const bool isInBoxes = source.Format().metadata.reading == MetadataReading::FromBoxes;
+    const JxlMetadata boxes = isInBoxes ? ReadJxlMetadata(file) : JxlMetadata();
     MetadataBlocks blocks;
-    QByteArray exif = isJxl ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
+    QByteArray exif = isInBoxes ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
     const QByteArray start("Exif\0\0", 6);
     exif = exif.startsWith(start) ? exif.mid(start.size()) : exif;
     if (!exif.isEmpty()) {
         Exiv2::ExifParser::decode(blocks.exif, Data(exif), std::uint32_t(exif.size()));
     }
-    const QByteArray xmp = isJxl ? boxes.xmp : XmpBlock(source.Header());
+    const QByteArray xmp = isInBoxes ? boxes.xmp : XmpBlock(source.Header());
     if (!xmp.isEmpty()) {
         Exiv2::XmpParser::decode(blocks.xmp, xmp.toStdString());
     }
-    TakeIptc(Block(source.Header(), VIPS_META_IPTC_NAME), blocks.iptc);
+    ReadIptc(Block(source.Header(), VIPS_META_IPTC_NAME), blocks.iptc);
     return blocks;
 }
 
-// The metadata library gives a whole file up over a damaged profile. Around the profile there are other ways; that the
-// profile is not used is said where colours are read, except for JPEG 2000.
+// The metadata library refuses a whole file over a damaged profile, so the blocks are read past the profile. The
+// warning about the profile comes from where colours are read, except where the profile is read here.
 MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source,
                             QStringList& warnings)
 {
-    if (IsJpeg2000(source)) {
+    if (!source.Format().metadata.isProfileInDecoder) {
         const QByteArray boxes = WithoutHeader(file);
         const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
         MetadataBlocks blocks = BlocksOf(*image);
@@ -152,17 +141,16 @@ MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file,
     throw;
 }
 
-// The metadata library loses its way in a JPEG file behind a profile that is shorter than the header of one.
-bool HasStumpOfProfile(const PictureSource& source)
+bool HasTruncatedProfile(const PictureSource& source)
 {
-    constexpr int profileHeader = 128;
-    const int size = source.Format() == QLatin1String("JPEG") ? Block(source.Header(), VIPS_META_ICC_NAME).size() : 0;
-    return size > 0 && size < profileHeader;
+    const int shortest = source.Format().metadata.shortestProfile;
+    const int size = shortest > 0 ? Block(source.Header(), VIPS_META_ICC_NAME).size() : 0;
+    return size > 0 && size < shortest;
 }
 
 MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, QStringList& warnings)
 {
-    if (!IsReadFromFile(source.Format()) || HasStumpOfProfile(source)) {
+    if (source.Format().metadata.reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
     }
     try {
@@ -180,7 +168,7 @@ MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, QS
         return BlocksOfAnyFile(file, source, warnings);
     } catch (const Exiv2::AnyError& problem) {
         warnings.append(
-            QStringLiteral("metadata cannot be read and are left out: %1").arg(QString::fromUtf8(problem.what())));
+            QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what())));
         return {};
     }
 }

@@ -4,8 +4,8 @@
 
 namespace BatchWorker {
 
-/// Takes the EXIF block, which the encoder always writes, out of the WebP file `fileName`. Returns whether the file is
-/// free of it.
+/// Removes the EXIF block, which the encoder always writes, from the WebP file `fileName`. Returns whether the file has
+/// none now.
 bool RemoveExifFromWebp(const QString& fileName);
 
 } // namespace BatchWorker

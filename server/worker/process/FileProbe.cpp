@@ -14,8 +14,8 @@ Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
 {
     const PictureSource source(task.inputFile, limits);
     Report report;
-    report.inputFormat = source.Format();
-    report.nearestFormat = BatchJob::NearestFormat(source.Format(), NeedsOf(source)).name;
+    report.inputFormat = source.Format().name;
+    report.nearestFormat = BatchJob::NearestFormat(source.Format().name, NeedsOf(source)).name;
     QStringList warnings; // those of metadata come with the picture
     report.captured = Metadata::Of(task.inputFile, source, warnings).Captured();
     if (!report.captured.isValid()) {

@@ -1,6 +1,9 @@
 #include "ImagingLibrary.h"
 
+#include "job/formats/FormatCatalog.h"
 #include "server/protocol/WorkerMessages.h"
+#include "server/worker/decode/Loader.h"
+#include "server/worker/encode/FormatEncoder.h"
 
 #include <vips/vips8>
 
@@ -62,18 +65,27 @@ void TakeMessage(const gchar*, GLogLevelFlags level, const gchar* message, gpoin
     std::abort();
 }
 
+// An installation may lack the operation.
+void Allow(const char* operation)
+{
+    if (const GType type = vips_type_find("VipsOperation", operation)) {
+        vips_operation_block_set(g_type_name(type), FALSE);
+    }
+}
+
 void AllowKnownFormatsOnly()
 {
     vips_block_untrusted_set(TRUE);
     vips_operation_block_set("VipsForeignLoad", TRUE);
     vips_operation_block_set("VipsForeignSave", TRUE);
-    for (const char* known : {"Jpeg", "Png", "Tiff", "Webp", "Heif", "Jxl", "Jp2k"}) {
-        for (const char* way : {"VipsForeignLoad", "VipsForeignSave"}) {
-            vips_operation_block_set((QByteArray(way) + known).constData(), FALSE);
+    for (const BatchJob::FormatSchema& format : BatchJob::ReadableFormats()) {
+        if (const char* const loader = LoaderOf(format).operation) {
+            Allow(loader);
         }
     }
-    vips_operation_block_set("VipsForeignLoadNsgif", FALSE);
-    vips_operation_block_set("VipsForeignSaveCgif", FALSE);
+    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+        Allow(EncoderOf(format).operation);
+    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "JobSettings.h"
 
 #include "job/effects/EffectCatalog.h"
-#include "job/formats/FormatCatalog.h"
+#include "job/formats/FormatOptions.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include "ZTBatchDocument.h"

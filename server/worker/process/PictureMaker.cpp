@@ -2,6 +2,8 @@
 
 #include "PixelSearch.h"
 
+#include "job/formats/FormatCatalog.h"
+#include "job/formats/FormatOptions.h"
 #include "job/formats/NearestFormat.h"
 #include "job/values/JobValues.h"
 #include "server/worker/colour/Colour.h"
@@ -9,6 +11,7 @@
 #include "server/worker/decode/PictureSource.h"
 #include "server/worker/effects/Effects.h"
 #include "server/worker/encode/Encoder.h"
+#include "server/worker/encode/EncoderTrial.h"
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
@@ -56,7 +59,7 @@ public:
 private:
     void TellOfOtherPages();
     bool KeepsInks() const;
-    bool KeepsProfile() const { return keep.contains(QLatin1String("icc")) && HoldsProfile(format); }
+    bool KeepsProfile() const { return keep.contains(QLatin1String("icc")) && format.metadata.holdsProfile; }
     Geometry PlannedGeometry(const QSize& upright);
     Picture Sized();
     Picture Processed(Picture picture) const;
@@ -102,7 +105,7 @@ void PictureRun::TellOfOtherPages()
 {
     const int pages = source.Pages();
     if (pages > 1) {
-        const bool hasMain = source.Format() == QLatin1String("HEIF") || source.Format() == QLatin1String("AVIF");
+        const bool hasMain = source.Format().pages == FormatPages::Items;
         made.warnings.append(QStringLiteral("it has %1 pages; only the %2 is used")
                                  .arg(pages)
                                  .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first")));
@@ -191,9 +194,9 @@ Picture PictureRun::Framed(const Picture& picture)
 Picture PictureRun::InOutputColours(const Picture& picture)
 {
     if (!job.profile.isEmpty()) {
-        if (!HoldsProfile(format)) {
+        if (!format.metadata.holdsProfile) {
             made.warnings.append(
-                QStringLiteral("%1 files hold no colour profile; the result is sRGB").arg(format.name));
+                QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name));
             return InPlainSrgb(picture, made.warnings);
         }
         return ConvertedTo(job.profile, picture, made.warnings);
@@ -211,14 +214,14 @@ void PictureRun::CheckFormat(const Picture& picture) const
 {
     const QSize size(picture.width(), picture.height());
     const QString nearest =
-        NearestFormat(source.Format(), {HasSixteenBits(picture), picture.has_alpha(), IsCmyk(picture), size}).name;
+        NearestFormat(source.Format().name, {HasSixteenBits(picture), picture.has_alpha(), IsCmyk(picture), size}).name;
     if (!CanWrite(format, options, HasSixteenBits(picture))) {
         throw FormatCannotHold(
             QStringLiteral("this installation has no encoder for %1, or not for this depth").arg(format.name), nearest);
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(
-            QStringLiteral("%1 holds no CMYK, which the job's colour profile asks for").arg(format.name), nearest);
+            QStringLiteral("%1 cannot hold CMYK, which the job's colour profile asks for").arg(format.name), nearest);
     }
     if (std::max(size.width(), size.height()) > format.longestSide) {
         throw FormatCannotHold(QStringLiteral("%1 x %2 pixels: %3 holds at most %4 on a side")
@@ -267,7 +270,7 @@ PictureFailure PictureRun::Explained(const vips::VError& problem)
         return ProcessingFailed(text);
     }
     return FormatCannotHold(QStringLiteral("the encoder for %1 failed: %2").arg(format.name, text),
-                            NearestFormat(source.Format(), NeedsOf(source)).name);
+                            NearestFormat(source.Format().name, NeedsOf(source)).name);
 }
 
 bool PictureRun::IsSourceDamaged(QString& text)
@@ -291,6 +294,7 @@ MadePicture MakePicture(const JobSettings& job, const PictureTask& task)
     if (!format) {
         throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
     }
+    PrepareEncoder(*format);
     BeginMemoryAccount();
     return PictureRun(job, task, *format).Make();
 }

@@ -138,7 +138,7 @@ void tst_JobCheck::values_data()
     refused("middle", Part(Settings::PartMiddle, -1), "The name's middle is -1; it must be");
     refused("suffix", Part(Settings::PartSuffix, 1000), "The name's suffix is 1000; it must be");
     refused("digits", Part(Settings::PartMiddle, Settings::TemplateNumber, 65),
-            "The count of digits in the name's middle is 65; it must be a whole number from 1 to 64");
+            "The number of digits in the name's middle is 65; it must be a whole number from 1 to 64");
     accepted("most digits", Part(Settings::PartMiddle, Settings::TemplateNumber, 64));
 
     refused("format", Format("jpeg"), "The format is \"jpeg\"; it must be one of Original, JPEG");

@@ -1,4 +1,6 @@
 #include "job/formats/FormatCatalog.h"
+#include "job/formats/FormatOptions.h"
+#include "job/formats/NearestFormat.h"
 
 #include "ZTBatchOutputSettings.h"
 
@@ -27,7 +29,10 @@ private Q_SLOTS:
     void picksTheOptionsOfAFormat();
     void tellsFormatsByTheirBytes_data();
     void tellsFormatsByTheirBytes();
+    void tellsFormatsByTheirRecords();
     void listsReadableExtensions();
+    void namesTheNearestFormat_data();
+    void namesTheNearestFormat();
 };
 
 void tst_FormatCatalog::listsEveryFormat()
@@ -44,6 +49,14 @@ void tst_FormatCatalog::listsEveryFormat()
 void tst_FormatCatalog::describesEveryFormatSoundly()
 {
     QSet<QString> extensions;
+    for (int i = 0; i < ReadableFormats().size(); ++i) {
+        const FormatSchema& format = ReadableFormats()[i];
+        QCOMPARE(int(format.id), i);
+        QCOMPARE(&FormatOf(format.id), &format);
+        QCOMPARE(FindReadableFormat(format.name), &format);
+        QCOMPARE(FindFormat(format.name) != nullptr, format.isWritten);
+        QVERIFY(!format.description.isEmpty());
+    }
     for (const FormatSchema& format : Formats()) {
         QVERIFY2(!format.extensions.isEmpty(), qPrintable(format.name));
         for (const QString& extension : format.extensions) {
@@ -56,6 +69,13 @@ void tst_FormatCatalog::describesEveryFormatSoundly()
         QVERIFY(!format.bitDepths.isEmpty());
         QVERIFY(std::is_sorted(format.bitDepths.begin(), format.bitDepths.end()));
         QVERIFY(format.longestSide > 0);
+        const auto isChoice = [](const ParameterSchema& option) {
+            return option.name == QLatin1String("lossless") || option.name == QLatin1String("compression");
+        };
+        const bool hasChoice = std::any_of(format.options.begin(), format.options.end(), isChoice);
+        QCOMPARE(format.loss == FormatLoss::Optional, hasChoice);
+        const bool holdsMetadata = format.metadata.holdsExif || format.metadata.holdsIptc || format.metadata.holdsXmp;
+        QCOMPARE(format.metadata.writing != MetadataWriting::None, holdsMetadata);
         QCOMPARE(FindFormat(format.name), &format);
 
         // Every default has to pass its own check, and every option says what it is.
@@ -266,6 +286,21 @@ void tst_FormatCatalog::tellsFormatsByTheirBytes()
     QCOMPARE(FormatOfFile(head, extension), format);
 }
 
+void tst_FormatCatalog::tellsFormatsByTheirRecords()
+{
+    for (const FormatSchema& format : ReadableFormats()) {
+        QVERIFY2(!format.signatures.isEmpty(), qPrintable(format.name));
+        for (const FormatSignature& signature : format.signatures) {
+            QByteArray head(64, '.');
+            for (const BytesAt& piece : signature.pieces) {
+                head.replace(piece.offset, piece.bytes.size(), piece.bytes);
+            }
+            QCOMPARE(FormatOfFile(head, format.extensions.first()), format.name);
+            QCOMPARE(FormatOfFile(head, QStringLiteral("txt")) == format.name, !signature.needsExtension);
+        }
+    }
+}
+
 void tst_FormatCatalog::listsReadableExtensions()
 {
     const QStringList extensions = ReadableExtensions();
@@ -276,6 +311,51 @@ void tst_FormatCatalog::listsReadableExtensions()
         QVERIFY2(extensions.contains(QLatin1String(extension)), extension);
     }
     QVERIFY(!extensions.contains(QStringLiteral("txt")));
+}
+
+void tst_FormatCatalog::namesTheNearestFormat_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("isDeep");
+    QTest::addColumn<bool>("hasAlpha");
+    QTest::addColumn<bool>("isCmyk");
+    QTest::addColumn<int>("side");
+    QTest::addColumn<QString>("nearest");
+
+    const auto row = [](const char* name, const char* input, bool isDeep, bool hasAlpha, bool isCmyk, int side,
+                        const char* nearest) {
+        QTest::newRow(name) << QString::fromLatin1(input) << isDeep << hasAlpha << isCmyk << side
+                            << QString::fromLatin1(nearest);
+    };
+    row("nothing known", "", false, false, false, 0, "JPEG");
+    row("format unknown", "PSD", false, false, false, 100, "JPEG");
+    row("plain", "WebP", false, false, false, 100, "JPEG");
+    row("RAW", "RAW", false, false, false, 0, "TIFF");
+    row("RAW in 8 bits", "RAW", false, true, false, 100, "TIFF");
+    row("deep", "HEIF", true, false, false, 100, "TIFF");
+    row("deep with alpha", "PNG", true, true, false, 100, "TIFF");
+    row("alpha", "GIF", false, true, false, 100, "PNG");
+    row("CMYK", "JPEG", false, false, true, 100, "JPEG");
+    row("CMYK with alpha", "TIFF", false, true, true, 100, "JPEG");
+    row("deep CMYK", "TIFF", true, false, true, 100, "TIFF");
+    row("as long as JPEG holds", "PNG", false, false, false, 65'500, "JPEG");
+    row("too long for JPEG", "PNG", false, false, false, 65'501, "TIFF");
+    row("CMYK, too long for JPEG", "TIFF", false, false, true, 65'501, "TIFF");
+    row("as long as PNG holds", "GIF", false, true, false, 1'000'000, "PNG");
+    row("too long for PNG", "GIF", false, true, false, 1'000'001, "TIFF");
+}
+
+void tst_FormatCatalog::namesTheNearestFormat()
+{
+    QFETCH(QString, input);
+    QFETCH(bool, isDeep);
+    QFETCH(bool, hasAlpha);
+    QFETCH(bool, isCmyk);
+    QFETCH(int, side);
+    QFETCH(QString, nearest);
+
+    QCOMPARE(NearestFormat(input, {isDeep, hasAlpha, isCmyk, QSize(side, 2)}).name, nearest);
+    QCOMPARE(NearestFormat(input, {isDeep, hasAlpha, isCmyk, QSize(2, side)}).name, nearest);
 }
 
 QTEST_GUILESS_MAIN(tst_FormatCatalog)

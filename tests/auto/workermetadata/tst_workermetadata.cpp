@@ -125,9 +125,9 @@ QByteArray Packed(const QByteArray& content)
 {
     QByteArray packed(int(BrotliEncoderMaxCompressedSize(std::size_t(content.size()))), '\0');
     std::size_t size = std::size_t(packed.size());
-    BrotliEncoderCompress(BROTLI_DEFAULT_QUALITY, BROTLI_DEFAULT_WINDOW, BROTLI_DEFAULT_MODE,
-                          std::size_t(content.size()), reinterpret_cast<const std::uint8_t*>(content.constData()),
-                          &size, reinterpret_cast<std::uint8_t*>(packed.data()));
+    BrotliEncoderCompress(BROTLI_MIN_QUALITY, BROTLI_DEFAULT_WINDOW, BROTLI_DEFAULT_MODE, std::size_t(content.size()),
+                          reinterpret_cast<const std::uint8_t*>(content.constData()), &size,
+                          reinterpret_cast<std::uint8_t*>(packed.data()));
     return packed.left(int(size));
 }
 
@@ -181,6 +181,9 @@ void WorkerMetadataTest::initTestCase()
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
     Exiv2::XmpParser::initialize();
     bench = std::make_unique<WorkerBench>();
+    // The trial of the HEIF encoders takes 20 s longer in a worker that has made another picture just before.
+    WriteSource(Text("in.jpg"));
+    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(Text("HEIF")), Text("HEIF")).reason, QString());
 }
 
 // A picture with metadata of every kind, turned by 90 degrees, with a profile that is not sRGB.
@@ -397,7 +400,7 @@ void WorkerMetadataTest::survivesBrokenBoxes_data()
     QTest::newRow("EXIF of nonsense") << BigEndian(20, 4) + "Exif" + QByteArray(12, '\x7F');
     QTest::newRow("XMP of nonsense") << BigEndian(20, 4) + "xml " + QByteArray(12, '<');
     QTest::newRow("nonsense, packed") << BigEndian(20, 4) + "brob" + "Exif" + QByteArray(8, '\x55');
-    QTest::newRow("packed by far") << QByteArray("brob") + "xml " + Packed(QByteArray(200 << 20, ' '));
+    QTest::newRow("packed by far") << QByteArray("brob") + "xml " + Packed(QByteArray(80 << 20, ' '));
 }
 
 void WorkerMetadataTest::survivesBrokenBoxes()

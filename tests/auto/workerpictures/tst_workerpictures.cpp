@@ -93,6 +93,7 @@ class WorkerPicturesTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void cleanup();
     void writesEveryFormat_data();
     void writesEveryFormat();
     void readsEveryFormat_data();
@@ -101,6 +102,7 @@ private Q_SLOTS:
     void turnsPicturesUpright();
     void keepsDepth_data();
     void keepsDepth();
+    void triesEncodersBeforePixelsAreRead();
     void losesNothingWithoutLoss_data();
     void losesNothingWithoutLoss();
     void keepsGrey_data();
@@ -129,9 +131,28 @@ void WorkerPicturesTest::initTestCase()
     StartPictures();
 }
 
+// One worker makes the pictures of all rows, as in a run; after a failure the next row gets a new one.
 void WorkerPicturesTest::init()
 {
-    bench = std::make_unique<WorkerBench>();
+    if (!bench) {
+        bench = std::make_unique<WorkerBench>();
+        // The trial of the HEIF encoders takes 20 s longer in a worker that has made another picture just before.
+        WritePicture(Chart(8, 8), bench->Path(Text("in.png")));
+        QCOMPARE(bench->Make(Text("in.png"), NameIn(Text("HEIF")), Text("HEIF")).reason, QString());
+        cleanup();
+    }
+}
+
+void WorkerPicturesTest::cleanup()
+{
+    if (QTest::currentTestFailed()) {
+        bench.reset();
+        return;
+    }
+    const QStringList names = bench->Names();
+    for (const QString& name : names) {
+        QVERIFY(QFile::remove(bench->Path(name)));
+    }
 }
 
 void WorkerPicturesTest::writesEveryFormat_data()
@@ -299,6 +320,21 @@ void WorkerPicturesTest::keepsDepth()
     QVERIFY2(difference <= tolerance, qPrintable(QString::number(difference)));
 }
 
+/// A turned picture is read while the pipeline is built; the trial of the encoder must not come after that.
+void WorkerPicturesTest::triesEncodersBeforePixelsAreRead()
+{
+    const auto make = [](int orientation, int bits) {
+        WorkerBench fresh;
+        Picture picture = Deep(Chart(64, 40));
+        picture.set(VIPS_META_ORIENTATION, orientation);
+        WritePicture(picture, fresh.Path(Text("in.tif")));
+        return fresh.Make(Text("in.tif"), NameIn(Text("HEIF")), Text("HEIF"), {{Text("bitDepth"), bits}}).reason;
+    };
+    for (const int bits : {10, 12}) {
+        QCOMPARE(make(6, bits), make(1, bits));
+    }
+}
+
 void WorkerPicturesTest::losesNothingWithoutLoss_data()
 {
     QTest::addColumn<QString>("format");
@@ -348,10 +384,7 @@ void WorkerPicturesTest::losesNothingWithoutLoss()
 
 void WorkerPicturesTest::keepsGrey_data()
 {
-    QTest::addColumn<QString>("format");
-    for (const char* format : {"JPEG", "PNG", "TIFF", "JPEG 2000", "JPEG XL"}) {
-        QTest::newRow(format) << Text(format);
-    }
+    writesEveryFormat_data();
 }
 
 void WorkerPicturesTest::keepsGrey()
@@ -362,8 +395,8 @@ void WorkerPicturesTest::keepsGrey()
     WritePicture(grey, bench->Path(Text("in.png")));
     QCOMPARE(bench->Make(Text("in.png"), NameIn(format), format, Finest(format)).reason, QString());
     const Picture result = ReadPicture(bench->Path(NameIn(format)));
-    QCOMPARE(result.bands(), 1);
-    QVERIFY(LargestDifference(result, grey) <= Tolerance(format));
+    QCOMPARE(result.bands() == 1, Format(format).holdsGrey);
+    QVERIFY(LargestDifference(result.extract_band(0), grey) <= Tolerance(format));
 }
 
 void WorkerPicturesTest::takesEveryKind_data()
@@ -592,11 +625,11 @@ void WorkerPicturesTest::obeysThePixelLimit()
 void WorkerPicturesTest::scalesLikeAnotherProgram_data()
 {
     QTest::addColumn<int>("longSide");
-    QTest::newRow("a little smaller") << 1600;
-    QTest::newRow("half") << 960;
-    QTest::newRow("a quarter") << 480;
-    QTest::newRow("a tenth") << 192;
-    QTest::newRow("larger") << 2400;
+    QTest::newRow("a little smaller") << 534;
+    QTest::newRow("half") << 320;
+    QTest::newRow("a quarter") << 160;
+    QTest::newRow("a tenth") << 64;
+    QTest::newRow("larger") << 800;
 }
 
 void WorkerPicturesTest::scalesLikeAnotherProgram()
@@ -608,7 +641,10 @@ void WorkerPicturesTest::scalesLikeAnotherProgram()
     if (convert.isEmpty() || !QFile::exists(photo)) {
         QSKIP("imagemagick or mate-backgrounds is not installed");
     }
-    QVERIFY(QFile::copy(photo, bench->Path(Text("in.jpg"))));
+    // The middle of a photo, 640 x 400 pixels: the other program and a debug build take seconds for the whole.
+    const Picture whole = ReadPicture(photo);
+    const Picture middle = whole.crop((whole.width() - 640) / 2, (whole.height() - 400) / 2, 640, 400);
+    WritePicture(middle, bench->Path(Text("in.jpg")), "[Q=95]");
     const auto edit = [longSide](ZTBatchOutputSettings& output) {
         ZTBatchOutputSettings::ImageSize size;
         size.restriction = int(BatchJob::SizeRestriction::Fit);
@@ -616,7 +652,7 @@ void WorkerPicturesTest::scalesLikeAnotherProgram()
         output.SetImageSizeSettings(size);
     };
     QCOMPARE(bench->Make(Text("in.jpg"), Text("out.png"), Text("PNG"), {}, edit).reason, QString());
-    QCOMPARE(QProcess::execute(convert, {photo, Text("-filter"), Text("Lanczos"), Text("-resize"),
+    QCOMPARE(QProcess::execute(convert, {bench->Path(Text("in.jpg")), Text("-filter"), Text("Lanczos"), Text("-resize"),
                                          QStringLiteral("%1x%1").arg(longSide), bench->Path(Text("other.png"))}),
              0);
     const Picture own = ReadPicture(bench->Path(Text("out.png")));

@@ -1,0 +1,26 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema AvifFormat()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Avif;
+    format.name = QStringLiteral("AVIF");
+    format.description = QStringLiteral("very small files for the web in up to 12 bits, slow to write");
+    format.extensions = QStringList{QStringLiteral("avif")};
+    format.signatures = {{{{4, "ftypavif"}}}, {{{4, "ftypavis"}}}};
+    format.bitDepths = {8, 10, 12};
+    format.longestSide = 16'384;
+    format.pages = FormatPages::Items;
+    format.metadata.reading = MetadataReading::FromDecoder;
+    format.metadata.exifRemoval = ExifRemoval::StripIfAlone;
+    format.metadata.hasXmpWrapper = false;
+    format.options = WithCommonOptions({Quality(65), Lossless("keep every pixel, but for a last step of rounding"),
+                                        Effort(4), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    return format;
+}
+
+} // namespace BatchJob

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "FormatSchema.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+/// The options of formats, as jobs give them. Everything here is safe on any thread.
+namespace BatchJob {
+
+/// Checks the options of a job with format `format`. The format may be "Original": then every option that some format
+/// takes is accepted, no default is filled in, and OptionsFor() picks those of each picture's format.
+CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& options);
+
+/// The options among `accepted`, the checked options of a job, that apply to pictures written in `format`, complete
+/// with the defaults of that format. A bit depth that the format does not have becomes the next lower one that it has.
+QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted);
+
+/// The bits a channel, ascending, that files of `format` can have with `options`, which are checked.
+QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options);
+
+} // namespace BatchJob

@@ -1,0 +1,28 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema HeifFormat()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Heif;
+    format.name = QStringLiteral("HEIF");
+    format.description = QStringLiteral("small files of photos in up to 12 bits, as phones write them");
+    format.extensions = QStringList{QStringLiteral("heic"), QStringLiteral("heif")};
+    for (const char* brand : {"heic", "heix", "hevc", "hevx", "heim", "heis", "mif1", "msf1"}) {
+        format.signatures.append({{{4, QByteArray("ftyp") + brand}}});
+    }
+    format.bitDepths = {8, 10, 12};
+    format.longestSide = 16'384;
+    format.pages = FormatPages::Items;
+    format.metadata.reading = MetadataReading::FromDecoder;
+    format.metadata.exifRemoval = ExifRemoval::StripIfAlone;
+    format.metadata.hasXmpWrapper = false;
+    format.options = WithCommonOptions({Quality(80), Lossless("keep every pixel, but for a last step of rounding"),
+                                        ChromaSubsampling(), BitDepth(format.bitDepths)});
+    return format;
+}
+
+} // namespace BatchJob

@@ -1,0 +1,26 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema Jpeg2000Format()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Jpeg2000;
+    format.name = QStringLiteral("JPEG 2000");
+    format.description = QStringLiteral("archives and films, in up to 16 bits, also without loss");
+    format.extensions = QStringList{QStringLiteral("jp2"), QStringLiteral("j2k"), QStringLiteral("jpx")};
+    format.signatures = {{{{4, "jP  \r\n\x87\n"}}}, {{{0, "\xFF\x4F\xFF\x51"}}}};
+    format.holdsGrey = true;
+    format.bitDepths = {8, 16};
+    format.longestSide = 1'000'000;
+    format.metadata.holdsIptc = true;
+    format.metadata.writing = MetadataWriting::AfterEncoding;
+    format.metadata.isProfileInDecoder = false;
+    format.options = WithCommonOptions(
+        {Quality(85), Lossless("keep every pixel as it is"), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    return format;
+}
+
+} // namespace BatchJob

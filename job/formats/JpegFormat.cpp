@@ -1,0 +1,29 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema JpegFormat()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Jpeg;
+    format.name = QStringLiteral("JPEG");
+    format.description = QStringLiteral("small files of photos, which every program reads");
+    format.extensions =
+        QStringList{QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("jpe"), QStringLiteral("jfif")};
+    format.signatures = {{{{0, "\xFF\xD8\xFF"}}}};
+    format.holdsTransparency = false;
+    format.holdsCmyk = true;
+    format.holdsGrey = true;
+    format.longestSide = 65'500;
+    format.loss = FormatLoss::Always;
+    format.metadata.holdsIptc = true;
+    format.metadata.exifRemoval = ExifRemoval::Strip;
+    format.metadata.longestBlock = 65'000; // what one segment holds, less its headers
+    format.metadata.shortestProfile = 128; // the header of a profile
+    format.options = WithCommonOptions({Quality(85), Progressive(), ChromaSubsampling()});
+    return format;
+}
+
+} // namespace BatchJob

@@ -1,0 +1,102 @@
+#include "OptionSchemas.h"
+
+#include <QJsonArray>
+
+namespace BatchJob::OptionSchemas {
+
+namespace {
+
+QString Text(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+ParameterSchema Quality(int standard)
+{
+    return {Text("quality"), ParameterType::Integer, standard, Text("higher is better and larger"), 1, 100, {}, {}};
+}
+
+ParameterSchema Effort(int standard)
+{
+    return {Text("effort"), ParameterType::Integer, standard, Text("higher is slower and smaller"), 0, 9, {}, {}};
+}
+
+ParameterSchema Lossless(const char* meaning)
+{
+    return {Text("lossless"), ParameterType::Truth, false, Text(meaning), 0, 0, {}, {}};
+}
+
+ParameterSchema Progressive()
+{
+    return {Text("progressive"),
+            ParameterType::Truth,
+            false,
+            Text("shows a coarse picture first while it loads"),
+            0,
+            0,
+            {},
+            {}};
+}
+
+ParameterSchema ChromaSubsampling()
+{
+    return {Text("chromaSubsampling"),
+            ParameterType::Choice,
+            Text("auto"),
+            Text("resolution of colour; auto is 4:4:4 from quality 90"),
+            0,
+            0,
+            {},
+            {Text("4:4:4"), Text("4:2:0"), Text("auto")}};
+}
+
+ParameterSchema BitDepth(const QVector<int>& depths)
+{
+    QStringList texts;
+    for (const int depth : depths) {
+        texts.append(QString::number(depth));
+    }
+    return {Text("bitDepth"),
+            ParameterType::Integer,
+            QJsonValue(QJsonValue::Undefined),
+            Text("bits a channel; by default those of the input, as far as the format has them: ") +
+                texts.join(QStringLiteral(", ")),
+            8,
+            16,
+            Text("bits"),
+            {}};
+}
+
+QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
+{
+    const QStringList kinds{Text("exif"), Text("gps"), Text("iptc"), Text("xmp"), Text("icc")};
+    own.append({Text("keep"),
+                ParameterType::ChoiceList,
+                QJsonArray::fromStringList(kinds),
+                Text("which metadata is kept"),
+                0,
+                0,
+                {},
+                kinds});
+    own.append({Text("background"),
+                ParameterType::Colour,
+                Text("#ffffff"),
+                Text("colour under transparency that the format cannot hold"),
+                0,
+                0,
+                {},
+                {}});
+    own.append({Text("keepFileTime"),
+                ParameterType::Truth,
+                false,
+                Text("gives the result the input's modification time"),
+                0,
+                0,
+                {},
+                {}});
+    return own;
+}
+
+} // namespace BatchJob::OptionSchemas

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "job/values/ParameterSchema.h"
+
+#include <QVector>
+
+/// The options that several formats have, each described once.
+namespace BatchJob::OptionSchemas {
+
+ParameterSchema Quality(int standard);
+ParameterSchema Effort(int standard);
+
+/// `meaning` says what is kept: no two formats mean quite the same.
+ParameterSchema Lossless(const char* meaning);
+
+ParameterSchema Progressive();
+ParameterSchema ChromaSubsampling();
+ParameterSchema BitDepth(const QVector<int>& depths);
+
+/// `own`, followed by the options that every format takes.
+QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own);
+
+} // namespace BatchJob::OptionSchemas

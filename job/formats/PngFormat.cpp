@@ -1,0 +1,31 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema PngFormat()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Png;
+    format.name = QStringLiteral("PNG");
+    format.description = QStringLiteral("every pixel as it is, with transparency; for graphics and for editing");
+    format.extensions = QStringList{QStringLiteral("png")};
+    format.signatures = {{{{0, "\x89PNG\r\n\x1A\n"}}}};
+    format.holdsGrey = true;
+    format.bitDepths = {8, 16};
+    format.longestSide = 1'000'000;
+    format.loss = FormatLoss::Never;
+    const ParameterSchema compressionLevel{QStringLiteral("compressionLevel"),
+                                           ParameterType::Integer,
+                                           6,
+                                           QStringLiteral("higher is slower and smaller"),
+                                           0,
+                                           9,
+                                           {},
+                                           {}};
+    format.options = WithCommonOptions({compressionLevel, Progressive(), BitDepth(format.bitDepths)});
+    return format;
+}
+
+} // namespace BatchJob

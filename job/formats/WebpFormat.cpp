@@ -1,0 +1,22 @@
+#include "FormatDefinitions.h"
+#include "OptionSchemas.h"
+
+namespace BatchJob {
+
+FormatSchema WebpFormat()
+{
+    using namespace OptionSchemas;
+    FormatSchema format;
+    format.id = FormatId::Webp;
+    format.name = QStringLiteral("WebP");
+    format.description = QStringLiteral("small files for the web, with transparency");
+    format.extensions = QStringList{QStringLiteral("webp")};
+    format.signatures = {{{{0, "RIFF"}, {8, "WEBP"}}}};
+    format.longestSide = 16'383;
+    format.pages = FormatPages::Frames;
+    format.metadata.exifRemoval = ExifRemoval::CutOut;
+    format.options = WithCommonOptions({Quality(80), Lossless("keep every pixel that can be seen"), Effort(4)});
+    return format;
+}
+
+} // namespace BatchJob

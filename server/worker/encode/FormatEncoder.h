@@ -1,0 +1,31 @@
+#pragma once
+
+#include "job/formats/FormatSchema.h"
+#include "server/worker/pixels/Picture.h"
+
+#include <QJsonObject>
+
+namespace BatchWorker {
+
+/// How the imaging library writes a format.
+struct FormatEncoder
+{
+    /// The library's operation that writes to a target.
+    const char* operation = nullptr;
+
+    /// Sets the arguments of `operation` for `picture`, which is ready to be written. `options` are complete.
+    void (*setArguments)(vips::VOption* arguments, const QJsonObject& options, const Picture& picture) = nullptr;
+
+    /// Some versions of this encoder end the process for some depths above 8 bits, instead of failing.
+    bool mayCrashWhenDeep = false;
+};
+
+/// The encoder of `format`, which is one of Formats().
+const FormatEncoder& EncoderOf(const BatchJob::FormatSchema& format);
+
+/// One function and one file for each format that is written.
+#define BATCHWORKER_DECLARE_ENCODER(id) FormatEncoder id##Encoder();
+BATCHJOB_WRITTEN_FORMATS(BATCHWORKER_DECLARE_ENCODER)
+#undef BATCHWORKER_DECLARE_ENCODER
+
+} // namespace BatchWorker
