@@ -1,7 +1,5 @@
 #include "EffectReference.h"
 
-#include "EffectExamples.h"
-
 #include "job/effects/EffectCatalog.h"
 
 #include <QJsonArray>
@@ -69,8 +67,7 @@ QString EffectReferencePage()
     QString page = QString::fromUtf8(introduction);
     for (const EffectSchema& effect : Effects()) {
         page += QStringLiteral("## %1\n\n%2.\n\n").arg(effect.id, effect.description);
-        page +=
-            QStringLiteral("![%1](effects/%1.jpg) `%2`\n\n").arg(effect.id, QString::fromUtf8(ExampleOf(effect.id)));
+        page += QStringLiteral("![%1](effects/%1.jpg) `%2`\n\n").arg(effect.id, QString::fromUtf8(effect.example));
         page += ParameterTable(effect.parameters);
         page += effect.definition + QStringLiteral("\n\n");
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
@@ -10,12 +11,6 @@ namespace BatchWorker {
 
 /// Whether `picture` is one of inks: cyan, magenta, yellow, black.
 bool IsCmyk(const Picture& picture);
-
-/// The ICC profile that `picture` carries; empty when it carries none.
-QByteArray ProfileOf(const Picture& picture);
-
-/// `picture` with `profile` in the place of the one that it carries; an empty one removes that. Its colours stay.
-Picture WithProfile(const Picture& picture, const QByteArray& profile);
 
 /// `decoded` in the form that the stages expect, with its profile if that fits. A profile that does not fit is removed,
 /// with a warning: sRGB, and a common ink set, stand in. A picture of inks stays one with `keepsCmyk`; else it becomes

@@ -38,9 +38,6 @@ public:
 
     bool HasAlpha() const;
 
-    /// Whether the pixels are inks.
-    bool IsCmyk() const;
-
     /// How many pages the file has, or frames of an animation; Load() gives the first, of HEIF and AVIF the main one.
     /// 1 for camera RAW, and for the formats whose decoders know of no others.
     int Pages() const;

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
@@ -53,6 +53,7 @@ ValueFunction Spread(const Range& range)
 
 } // namespace
 
+// Reads the picture twice, the first time at once.
 Picture ApplyAutoLevels(const Picture& picture, const QJsonObject& parameters)
 {
     const double clip = parameters[QLatin1String("clip")].toDouble() / 100.0;

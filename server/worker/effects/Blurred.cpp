@@ -1,6 +1,7 @@
 #include "Blurred.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "job/effects/BlurLimits.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <cmath>
 
@@ -49,8 +50,8 @@ Picture BlurredBySmallCopy(const Picture& picture, double sigma)
 
 Picture Blurred(const Picture& picture, double sigma)
 {
-    return sigma <= largestDirectSigma ? DirectlyBlurred(picture, sigma).cast(VIPS_FORMAT_FLOAT)
-                                       : BlurredBySmallCopy(picture, sigma);
+    return sigma <= BatchJob::largestDirectSigma ? DirectlyBlurred(picture, sigma).cast(VIPS_FORMAT_FLOAT)
+                                                 : BlurredBySmallCopy(picture, sigma);
 }
 
 Picture BlurredColours(const Picture& picture, double sigma)

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 #include "Luminance.h"
 
 #include "server/worker/pixels/PixelFilter.h"
@@ -35,6 +35,7 @@ Picture GreyByLuminance(const Picture& picture)
 
 } // namespace
 
+// Three equal channels; a grey picture stays as it is.
 Picture ApplyGrayscale(const Picture& picture, const QJsonObject& parameters)
 {
     if (ColourBands(picture) == 1) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "PictureMaker.h"
-
 #include "server/protocol/WorkerMessages.h"
+#include "server/worker/pipeline/PictureMaker.h"
 
 #include <condition_variable>
 #include <deque>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "JobSettings.h"
 #include "ReportQueue.h"
 
+#include "job/settings/JobCheck.h"
 #include "server/protocol/WorkerMessages.h"
 
 #include <optional>
@@ -21,13 +21,15 @@ public:
 
 private:
     void Handle(const BatchProtocol::ToWorker& message);
-    void Take(const BatchProtocol::Job& job);
+    void Accept(const BatchProtocol::Job& job);
+    BatchProtocol::Report Read(const BatchProtocol::Job& job);
     void Probe(const BatchProtocol::ProbeTask& task);
     void Make(const BatchProtocol::PictureTask& task);
 
     ReportQueue& reports;
-    std::optional<JobSettings> settings;
-    BatchProtocol::Report jobProblem; ///< what is wrong with the job, as long as there are no settings
+    BatchProtocol::ServerLimits limits;            ///< of the last job
+    std::optional<BatchJob::JobSettings> settings; ///< of the last job, if it can be done
+    BatchProtocol::Report jobProblem;              ///< what is wrong with the job when there are no settings
 };
 
 } // namespace BatchWorker

@@ -1,7 +1,6 @@
 #include "FramingPictures.h"
 
-#include "server/worker/colour/PictureColours.h"
-#include "server/worker/framing/Framing.h"
+#include "server/worker/pixels/PictureFailure.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -9,19 +8,9 @@
 
 using namespace FramingPictures;
 using BatchJob::BackgroundType;
-using BatchWorker::FramingError;
+using BatchWorker::PictureFailure;
 
 namespace {
-
-// Computed once, because tests look at single pixels.
-Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
-                     qint64 pixelLimit = 1'000'000)
-{
-    BatchProtocol::ServerLimits limits;
-    limits.pixels = pixelLimit;
-    QStringList warnings;
-    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
-}
 
 // A picture in one of the profiles that the library brings along.
 Picture WithProfile(const Picture& picture, const char* profile)
@@ -179,12 +168,12 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("large.png"));
         Uniform(40, 30, {123}).pngsave(path.toUtf8().constData());
         const Picture picture = Uniform(20, 20, {0});
-        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, OnFile(path), 1199), FramingError);
+        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, OnFile(path), 1199), PictureFailure);
         QCOMPARE(FramePicture(picture, OnFile(path), 1200).width(), 20);
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.backgroundCustomOutput = true;
         framing.backgroundCustomSize = QSize(1'000'000, 1'000'000);
-        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, framing), FramingError);
+        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, framing), PictureFailure);
     }
 
     void FilesThatCannotBeReadAreNamed_data()
@@ -214,8 +203,9 @@ private Q_SLOTS:
         try {
             FramePicture(Uniform(20, 20, {0, 0, 0}), OnFile(path));
             QFAIL("A background was read that is none.");
-        } catch (const FramingError& error) {
-            QVERIFY2(QString::fromUtf8(error.what()).contains(path), error.what());
+        } catch (const PictureFailure& failure) {
+            QCOMPARE(failure.kind, PictureFailure::Kind::ProcessingFailed);
+            QVERIFY2(failure.reason.contains(path), failure.what());
         }
     }
 
