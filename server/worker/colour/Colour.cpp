@@ -64,7 +64,7 @@ bool IsCmyk(const Picture& picture)
 Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings)
 {
     if (!IsCmyk(decoded)) {
-        // What floating point means depends on the profile.
+        // What floating-point values mean depends on the profile.
         const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
         return FittingProfile(InWorkingForm(known), warnings);
     }
@@ -83,7 +83,8 @@ Picture ConvertedTo(const QByteArray& profile, const Picture& picture, QStringLi
             return picture;
         }
     }
-    warnings.append(QStringLiteral("the job's colour profile is no profile of pictures; the colours stay as they are"));
+    warnings.append(
+        QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted"));
     return picture;
 }
 

@@ -37,7 +37,7 @@ public:
         const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
         if (!isFile) {
             close(value);
-            throw DamagedFile(QStringLiteral("it is no file"));
+            throw DamagedFile(QStringLiteral("it is not a regular file"));
         }
     }
     ~FileDescriptor() { close(value); }
@@ -50,8 +50,8 @@ private:
     int value;
 };
 
-// The loader is named, never found by the library: it would look for options in the file's name, and try loaders that
-// are not meant for files of strangers.
+// The loader is given by name, never chosen by the library: that would look for options in the file's name, and try
+// loaders that are not safe for files of unknown origin.
 const char* LoaderOf(const QString& format)
 {
     static const QHash<QString, const char*> loaders{
@@ -133,14 +133,14 @@ int PictureSource::Pages() const
 int PictureSource::PossibleShrink(double reduction) const
 {
     if (raw) {
-        // A colour channel of the sensor has no more than a pixel of four anyway.
+        // Each colour of the sensor has at most two of four pixels anyway.
         return reduction >= 2 ? 2 : 1;
     }
     if (format != QLatin1String("JPEG") && format != QLatin1String("WebP")) {
         return 1;
     }
-    // The filter that scales is better than that of the decoder. What it does to the last factor of two hides the
-    // other.
+    // The scaling filter is better than the decoder's. It does the last factor of two, which hides what the decoder
+    // did.
     constexpr double leftForFilter = 2.0;
     int shrink = 8;
     while (shrink > 1 && shrink * leftForFilter > reduction) {
@@ -152,7 +152,7 @@ int PictureSource::PossibleShrink(double reduction) const
 Picture PictureSource::Load(int shrink)
 {
     if (raw) {
-        // The decoder gives its memory back with the pixels.
+        // A decoder of its own: its memory is freed with the pixels.
         RawFile decoder(file, limits.workerMemory);
         return decoder.Develop(shrink > 1);
     }
@@ -187,7 +187,7 @@ void PictureSource::OpenRaw()
         raw = std::move(opened);
         return;
     }
-    // Some files with the extension of a camera are plain TIFF files.
+    // Some files with the extension of camera files are plain TIFF files.
     const FileDescriptor descriptor(file);
     QFile head;
     head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);

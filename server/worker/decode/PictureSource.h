@@ -15,7 +15,7 @@ class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
 ///
-/// All operations throw PictureFailure, with a case of Input, for a file that is missing, unreadable, damaged, of no
+/// All operations throw PictureFailure, for a file that is missing, unreadable, damaged, of no
 /// known format or larger than the limit. Damage further inside shows as vips::VError when the pixels are read.
 class PictureSource
 {
@@ -50,7 +50,7 @@ public:
     int PossibleShrink(double reduction) const;
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
-    /// sizes rounded as the format does it. Each call reads the file anew.
+    /// sizes rounded as the decoder rounds them. Each call reads the file again.
     Picture Load(int shrink = 1);
 
 private:

@@ -9,7 +9,7 @@ namespace BatchWorker {
 
 namespace {
 
-// Powers are slow; there are few values to take them of.
+// Powers are slow, and there are few different values.
 std::vector<double> LightTable(int entries)
 {
     std::vector<double> table;

@@ -20,7 +20,7 @@ namespace {
 
 using SharedTable = std::shared_ptr<const CubeTable>;
 
-// A run uses one table for all its pictures: the last one read is kept, as long as its file does not change.
+// A run uses one table for all its pictures: the last one read is cached until its file changes.
 SharedTable TableAt(const QString& path)
 {
     static QMutex mutex;

@@ -20,7 +20,7 @@ struct Turn
     {
         const double c = std::abs(std::cos(degrees * M_PI / 180.0));
         const double s = std::abs(std::sin(degrees * M_PI / 180.0));
-        // What is over by rounding errors makes no further pixel.
+        // Rounding errors do not make another pixel.
         constexpr double tolerance = 1e-6;
         canvas = QSize(static_cast<int>(std::ceil(picture.width() * c + picture.height() * s - tolerance)),
                        static_cast<int>(std::ceil(picture.width() * s + picture.height() * c - tolerance)));
@@ -49,7 +49,7 @@ Picture OverPaint(const Picture& turned, const Coverage& shape, const std::vecto
             for (int x = area.left; x < area.left + area.width; ++x, in += bands, out += bands) {
                 const double covered = shape.OfPixel(x, y);
                 for (std::size_t band = 0; band < bands; ++band) {
-                    // What lies outside may hold anything; nothing of it is to come through.
+                    // What lies outside may hold anything; it must not come through.
                     out[band] = covered > 0.0
                                     ? static_cast<float>(covered * double(in[band]) + (1.0 - covered) * paint[band])
                                     : static_cast<float>(paint[band]);

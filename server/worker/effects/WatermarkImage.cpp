@@ -23,7 +23,7 @@ Picture ImageAt(const QString& path, int width)
         const vips::VSource source = vips::VSource::new_from_file(QFile::encodeName(path).constData());
         const Picture scaled = Picture::thumbnail_source(
             source, width, Picture::option()->set("height", VIPS_MAX_COORD)->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
-        // What is odd about a logo's profile is of no interest in a report on a picture.
+        // Warnings about a logo's profile do not belong into the report on a picture.
         QStringList warnings;
         const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
         return AsRgb(WithDepth(plain, 8)).copy_memory();

@@ -14,7 +14,7 @@ namespace BatchWorker {
 
 namespace {
 
-// What the renderer could not take is left out; line breaks stay.
+// Leaves out what the renderer cannot handle; line breaks stay.
 QString Printable(const QString& text)
 {
     QString printable;

@@ -36,7 +36,7 @@ Picture Filled(const std::vector<double>& values, const QSize& size, const Pictu
         .embed(0, 0, size.width(), size.height(), Picture::option()->set("extend", VIPS_EXTEND_COPY));
 }
 
-// How light a pixel of a tile is: the mean of several places in it.
+// How light a pixel of a tile is: the mean of several points in it.
 double PatternPixel(Pattern pattern, int x, int y, double side)
 {
     constexpr int places = 4;

@@ -48,7 +48,7 @@ Picture Scaled(const Picture& picture, const QSize& size)
     });
 }
 
-// For what is read in another order than its file holds it.
+// For pixels that are not read from top to bottom.
 Picture ReadableInAnyOrder(const Picture& picture)
 {
     return vips_image_is_sequential(picture.get_image()) != 0 ? WithRandomAccess(picture) : picture;
@@ -59,7 +59,7 @@ Picture TurnedByQuarters(const Picture& picture, int quarterTurns)
     return quarterTurns == 0 ? picture : ReadableInAnyOrder(picture).rot(VipsAngle(quarterTurns));
 }
 
-// The picture where it stands in the frame, on pixels that mean nothing where it does not.
+// The picture at its place in the frame; the other pixels mean nothing.
 Picture Placed(const Picture& picture, const FramePlacement& placement)
 {
     const Picture scaled = Scaled(picture, placement.drawn);

@@ -18,7 +18,7 @@ namespace BatchWorker {
 /// picture is blended with what is below it as Blend() says.
 ///
 /// Colours of the record are sRGB and are converted to the picture's space. A grey picture becomes RGB when a colour
-/// comes in: a background colour or shadow colour that is not grey, or a background file that is not. The built-in
+/// is added: a background colour or shadow colour that is not grey, or a background file that is not. The built-in
 /// patterns are neutral.
 ///
 /// The result has an alpha channel when the frame can be seen through anywhere: when the background is none or not

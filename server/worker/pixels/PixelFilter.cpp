@@ -21,7 +21,7 @@ Picture TableOf(const std::vector<ValueFunction>& functions, int bands, int entr
     }
     const Picture wrapped = Picture::new_from_memory(table.data(), table.size() * sizeof(Sample), entries, 1, bands,
                                                      sizeof(Sample) == 1 ? VIPS_FORMAT_UCHAR : VIPS_FORMAT_USHORT);
-    // The copy owns its values; `table` ends here.
+    // The copy owns its values; `table` is destroyed here.
     const Picture own = Picture::new_memory();
     wrapped.write(own);
     return own;

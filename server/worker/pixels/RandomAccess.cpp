@@ -12,10 +12,10 @@ namespace BatchWorker {
 
 namespace {
 
-// What copies of the picture in work have taken in memory, let go or not.
+// How much memory the copies of the current picture have taken, those included that have been freed.
 std::atomic<guint64> takenInMemory{0};
 
-// The first copy may be large. An effect that reads another one needs room for itself.
+// The first copy may be large. Later ones may not: effects that read them need memory too.
 bool HasRoomInMemory(guint64 size)
 {
     constexpr guint64 largest = guint64(256) << 20;
@@ -57,7 +57,7 @@ Picture OnDisk(const Picture& picture)
     }
     const auto deleteFile = [](gpointer held) { delete static_cast<NamelessFile*>(held); };
     g_object_set_data_full(G_OBJECT(bytes), "nameless-file", file.release(), deleteFile);
-    // Of what goes with the pixels, later stages need no more than this.
+    // Later stages need no other metadata.
     return WithProfile(Picture(bytes).copy(Picture::option()
                                                ->set("bands", picture.bands())
                                                ->set("format", picture.format())

@@ -63,7 +63,7 @@ Report Guarded(const Work& work)
     } catch (const PictureFailure& problem) {
         return ReportOf(problem);
     } catch (const std::bad_alloc&) {
-        return ReportOf(TooLarge(QStringLiteral("it takes more memory than a worker may use")));
+        return ReportOf(TooLarge(QStringLiteral("it needs more memory than a worker may use")));
     } catch (const std::exception& problem) {
         return ReportOf(ProcessingFailed(QString::fromLocal8Bit(problem.what())));
     }
@@ -147,7 +147,7 @@ void Worker::Make(const PictureTask& task)
 {
     reports.Begin(task.number);
     MadePicture made;
-    TakeLibraryWarnings(); // of a task before, which had no use for them
+    TakeLibraryWarnings(); // discards those of earlier tasks
     Report report = Guarded([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {

@@ -9,14 +9,14 @@
 
 namespace BatchWorker {
 
-/// Takes a supervisor's messages, one after the other, and has a report sent for each task.
+/// Handles a supervisor's messages, one after the other, and sends a report for each task.
 class Worker
 {
 public:
     /// Reports go through `reports`, which outlives this object.
     explicit Worker(ReportQueue& reports);
 
-    /// Reads messages from the open file `input` until its end. False when what came was no message.
+    /// Reads messages from the open file `input` until its end. False when the input is not valid.
     bool Run(int input);
 
 private:

@@ -106,7 +106,7 @@ void WorkerProcessTest::refusesWhatIsNoMessage()
     worker.SendBytes(QByteArray("\0\0\0\1\x77", 5));
     QCOMPARE(worker.NextReport().has_value(), false);
     QCOMPARE(worker.ExitCode(), 1);
-    QVERIFY(worker.ErrorOutput().contains("no message"));
+    QVERIFY(worker.ErrorOutput().contains("an invalid message"));
 }
 
 void WorkerProcessTest::reportsARefusedJob()
