@@ -30,7 +30,7 @@ struct CubeFile
 };
 
 /// Reads the file at `path`, line by line. Lines end with LF or CR LF; they may be empty or comments (`#`). TITLE is
-/// read over. A file needs exactly as many entries as its size says.
+/// ignored. A file needs exactly as many entries as its size says.
 CubeFile ReadCubeFile(const QString& path);
 
 /// The same from an open device; `name` stands for the file in messages.

@@ -1,7 +1,6 @@
 #include "EffectCatalog.h"
 
-#include "EffectChecks.h"
-#include "EffectGroups.h"
+#include "EffectRecords.h"
 
 #include <algorithm>
 
@@ -9,21 +8,19 @@ namespace BatchJob {
 
 namespace {
 
-QVector<EffectSchema> MakeEffects()
+EffectSchema OfKind(EffectKind kind, EffectSchema record)
 {
-    QVector<EffectSchema> effects =
-        ToneEffects() + ColourEffects() + DetailEffects() + LookEffects() + GeometryEffects() + WatermarkEffects();
-    for (EffectSchema& effect : effects) {
-        effect.definition = DefinitionOf(effect.id);
-    }
-    return effects;
+    record.kind = kind;
+    return record;
 }
 
 } // namespace
 
 const QVector<EffectSchema>& Effects()
 {
-    static const QVector<EffectSchema> effects = MakeEffects();
+#define BATCH_EFFECT_ENTRY(name) OfKind(EffectKind::name, name##Effect()),
+    static const QVector<EffectSchema> effects{BATCH_EFFECTS(BATCH_EFFECT_ENTRY)};
+#undef BATCH_EFFECT_ENTRY
     return effects;
 }
 
@@ -38,7 +35,10 @@ const EffectSchema* FindEffect(const QString& id)
 CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data)
 {
     const CheckedParameters checked = CheckParameters(effect.parameters, data);
-    const QString problem = checked.IsValid() ? EffectProblem(effect.id, checked.values) : QString();
+    if (!checked.IsValid() || !effect.extraProblem) {
+        return checked;
+    }
+    const QString problem = effect.extraProblem(checked.values);
     return problem.isEmpty() ? checked : CheckedParameters{{}, problem};
 }
 

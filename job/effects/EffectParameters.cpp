@@ -1,4 +1,4 @@
-#include "EffectGroups.h"
+#include "EffectParameters.h"
 
 namespace BatchJob {
 
@@ -54,6 +54,21 @@ ParameterSchema ColourParameter(const char* name, const char* standard, const ch
 ParameterSchema FileParameter(const char* name, const char* description)
 {
     return Parameter(name, ParameterType::File, QJsonValue(), description);
+}
+
+QString PercentProblem(const QJsonObject& parameters, const QStringList& names)
+{
+    if (parameters[QLatin1String("unit")].toString() != QLatin1String("percent")) {
+        return {};
+    }
+    for (const QString& name : names) {
+        if (parameters[name].toDouble() > 100) {
+            return QStringLiteral("\"%1\" is %2 percent; it must be at most 100, or the unit pixels")
+                .arg(name)
+                .arg(parameters[name].toDouble());
+        }
+    }
+    return {};
 }
 
 } // namespace BatchJob

@@ -1,7 +1,5 @@
 #include "EffectReference.h"
 
-#include "EffectExamples.h"
-
 #include "job/effects/EffectCatalog.h"
 
 #include <QJsonArray>
@@ -18,14 +16,14 @@ const char introduction[] =
 
 <!-- Made by scripts/make-effect-reference from the table of effects. Changes belong there. -->
 
-A job's style is a list of effects. They are applied in their order, behind crop and size, so lengths in pixels are those
-of the result. Each has an identifier and parameters, a JSON object; what is left out has its default. On the command
-line an effect is written `--effect exposure:stops=1`.
+A job's style is a list of effects. They are applied in the order of the list, after crop and size, so lengths in pixels
+are pixels of the result. Each effect has an identifier and parameters, a JSON object; a parameter that is left out has
+its default. On the command line an effect is written `--effect exposure:stops=1`.
 
 Values run from 0, black, to 1, white, in the steps of 8 or 16 bits that a picture has; results are rounded to the
-nearest step and held within that range. Effects work on the values that are stored in the picture, in the picture's own
+nearest step and clipped to that range. Effects work on the values that are stored in the picture, in the picture's own
 colour profile. Colours in parameters are sRGB and are converted to that profile; the last two digits of `#rrggbbaa` are
-opacity. Size, bit depth and transparency stay as they are where nothing else is said.
+the opacity. Size, bit depth and transparency do not change unless stated below.
 
 ![original](effects/original.jpg) The picture that the examples begin with.
 
@@ -69,8 +67,7 @@ QString EffectReferencePage()
     QString page = QString::fromUtf8(introduction);
     for (const EffectSchema& effect : Effects()) {
         page += QStringLiteral("## %1\n\n%2.\n\n").arg(effect.id, effect.description);
-        page +=
-            QStringLiteral("![%1](effects/%1.jpg) `%2`\n\n").arg(effect.id, QString::fromUtf8(ExampleOf(effect.id)));
+        page += QStringLiteral("![%1](effects/%1.jpg) `%2`\n\n").arg(effect.id, QString::fromUtf8(effect.example));
         page += ParameterTable(effect.parameters);
         page += effect.definition + QStringLiteral("\n\n");
     }

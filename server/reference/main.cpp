@@ -1,7 +1,6 @@
 // effect_reference PHOTO FOLDER: writes the reference page of the effects to FOLDER/effects.md, a small picture of each
 // effect, made from PHOTO, to FOLDER/effects/, and the patterns of backgrounds to FOLDER/pictures/patterns.png.
 
-#include "EffectExamples.h"
 #include "EffectReference.h"
 
 #include "job/effects/EffectCatalog.h"
@@ -82,7 +81,7 @@ void WritePatterns(const QString& path)
 
 QJsonObject ParametersOf(const EffectSchema& effect, const QDir& files)
 {
-    QJsonObject example = QJsonDocument::fromJson(ExampleOf(effect.id)).object();
+    QJsonObject example = QJsonDocument::fromJson(effect.example).object();
     const auto file = example.find(QStringLiteral("file"));
     if (file != example.end()) {
         *file = files.filePath(file->toString());
@@ -105,7 +104,7 @@ void MakeReference(const QString& photo, const QDir& folder)
     const Picture original = Picture::thumbnail(QFile::encodeName(photo).constData(), width).copy_memory();
     WriteJpeg(original, folder.filePath(QStringLiteral("effects/original.jpg")));
     for (const EffectSchema& effect : Effects()) {
-        WriteJpeg(ApplyEffect(effect.id, ParametersOf(effect, files), original),
+        WriteJpeg(ApplyEffect(effect, ParametersOf(effect, files), original),
                   folder.filePath(QStringLiteral("effects/%1.jpg").arg(effect.id)));
     }
     folder.mkpath(QStringLiteral("pictures"));

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVector>
 
 /// Pictures that tests make, write and look at.
 
@@ -25,3 +26,36 @@ double LargestDifference(const BatchWorker::Picture& left, const BatchWorker::Pi
 
 /// The same, as the mean over all values.
 double MeanDifference(const BatchWorker::Picture& left, const BatchWorker::Picture& right);
+
+/// A form that stages hand on: 1 or 3 channels of colour, 8 or 16 bits, with alpha or without.
+struct PictureForm
+{
+    int colours = 3;
+    int bits = 8;
+    bool hasAlpha = false;
+
+    int Bands() const { return colours + (hasAlpha ? 1 : 0); }
+    int Largest() const { return bits == 16 ? 65'535 : 255; }
+};
+
+/// All eight.
+QVector<PictureForm> AllForms();
+
+/// The form of `picture`; fails with an empty one when it has none of them.
+PictureForm FormOf(const BatchWorker::Picture& picture);
+
+bool operator==(const PictureForm& a, const PictureForm& b);
+
+/// `values` line by line, the channels of a pixel together.
+BatchWorker::Picture FromValues(const PictureForm& form, int width, int height, const QVector<int>& values);
+
+QVector<int> ValuesOf(const BatchWorker::Picture& picture);
+
+/// The values of one channel.
+QVector<int> ChannelOf(const BatchWorker::Picture& picture, int band);
+
+/// Values by chance, the same in every run.
+BatchWorker::Picture Noise(const PictureForm& form, int width, int height, unsigned seed = 1);
+
+/// Eight bits: every value from 0 to 255 once in each channel, the channels in different orders.
+BatchWorker::Picture EveryValue(const PictureForm& form);

@@ -2,6 +2,8 @@
 
 #include "ZTBatchDocument.h"
 
+#include <QDir>
+
 using namespace BatchProtocol;
 
 namespace {
@@ -76,6 +78,7 @@ int WorkerProcess::ExitCode()
 Job JobOf(const std::function<void(ZTBatchDocument&)>& edit)
 {
     ZTBatchDocument document;
+    document.GetOutputSettings()->SetPath(QDir::tempPath());
     edit(document);
     Job job;
     job.document = document.Serialize(nullptr);

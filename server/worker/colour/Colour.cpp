@@ -13,17 +13,12 @@ namespace {
 constexpr const char* builtInSrgb = "srgb";
 constexpr const char* builtInCmyk = "cmyk";
 
-int ColourBands(const Picture& picture)
-{
-    return picture.bands() - (picture.has_alpha() ? 1 : 0);
-}
-
 ColourKind KindOf(const Picture& picture)
 {
     if (IsCmyk(picture)) {
         return ColourKind::Cmyk;
     }
-    return ColourBands(picture) == 1 ? ColourKind::Grey : ColourKind::Rgb;
+    return IsGrey(picture) ? ColourKind::Grey : ColourKind::Rgb;
 }
 
 // From the profile that the picture carries, or the built-in one of its kind, to `profile`, a file or a built-in one.
@@ -66,31 +61,10 @@ bool IsCmyk(const Picture& picture)
     return picture.interpretation() == VIPS_INTERPRETATION_CMYK && picture.bands() >= 4;
 }
 
-QByteArray ProfileOf(const Picture& picture)
-{
-    if (picture.get_typeof(VIPS_META_ICC_NAME) == 0) {
-        return {};
-    }
-    std::size_t size = 0;
-    const void* bytes = picture.get_blob(VIPS_META_ICC_NAME, &size);
-    return {static_cast<const char*>(bytes), int(size)};
-}
-
-Picture WithProfile(const Picture& picture, const QByteArray& profile)
-{
-    Picture changed = picture.copy();
-    changed.remove(VIPS_META_ICC_NAME);
-    if (!profile.isEmpty()) {
-        vips_image_set_blob_copy(changed.get_image(), VIPS_META_ICC_NAME, profile.constData(),
-                                 std::size_t(profile.size()));
-    }
-    return changed;
-}
-
 Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings)
 {
     if (!IsCmyk(decoded)) {
-        // What floating point means depends on the profile.
+        // What floating-point values mean depends on the profile.
         const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
         return FittingProfile(InWorkingForm(known), warnings);
     }
@@ -109,7 +83,8 @@ Picture ConvertedTo(const QByteArray& profile, const Picture& picture, QStringLi
             return picture;
         }
     }
-    warnings.append(QStringLiteral("the job's colour profile is no profile of pictures; the colours stay as they are"));
+    warnings.append(
+        QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted"));
     return picture;
 }
 

@@ -1,29 +1,25 @@
 #pragma once
 
+#include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
 #include <QStringList>
 
-/// The ways of colours into the stages and out of them. Warnings, for users, are appended to the list given.
+/// Colours on their way into the stages and out of them. Warnings, for users, are appended to the list given.
 namespace BatchWorker {
 
 /// Whether `picture` is one of inks: cyan, magenta, yellow, black.
 bool IsCmyk(const Picture& picture);
 
-/// The ICC profile that `picture` carries; empty when it carries none.
-QByteArray ProfileOf(const Picture& picture);
-
-/// `picture` with `profile` in the place of the one that it carries; an empty one removes that. Its colours stay.
-Picture WithProfile(const Picture& picture, const QByteArray& profile);
-
 /// `decoded` in the form that the stages expect, with its profile if that fits. A profile that does not fit is removed,
-/// with a warning: sRGB, and a common ink set, stand in. A picture of inks stays one with `keepsCmyk`; else it becomes
-/// sRGB.
+/// with a warning: sRGB, or a common set of inks, is used instead. A picture of inks stays one with `keepsCmyk`; else
+/// it becomes sRGB.
 Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings);
 
 /// `picture`, of the form that stages hand on or of inks, converted to `profile` (relative colorimetric with black
-/// point compensation), which it carries then. Where that profile makes no sense it stays as it is, with a warning.
+/// point compensation), which it carries then. If that profile cannot be used, the picture stays as it is, with a
+/// warning.
 Picture ConvertedTo(const QByteArray& profile, const Picture& picture, QStringList& warnings);
 
 /// `picture` converted to sRGB where its profile is another, without any profile. Grey stays grey.

@@ -9,14 +9,15 @@ namespace BatchWorker {
 /// What the numbers of a picture mean.
 enum class ColourKind { Grey, Rgb, Cmyk };
 
-/// The kind of picture that `profile`, an ICC profile, describes; nothing when it is none, or describes no pictures.
+/// The kind of picture that `profile`, an ICC profile, describes; nothing when it is no profile, or not one of
+/// pictures.
 std::optional<ColourKind> KindOfProfile(const QByteArray& profile);
 
 /// Whether `profile` calls itself sRGB.
 bool IsSrgb(const QByteArray& profile);
 
-/// A profile under a file name, which is all that the imaging library takes. The file lives in memory, and as long as
-/// this object.
+/// A profile under a file name, which is all that the imaging library accepts. The file is in memory and exists as long
+/// as this object.
 class ProfileFile
 {
 public:

@@ -1,8 +1,12 @@
 #include "PictureColours.h"
 
 #include "Colour.h"
+#include "ColourProfile.h"
 
 #include "server/worker/pixels/PixelForms.h"
+
+#include <cmath>
+#include <cstdint>
 
 namespace BatchWorker {
 
@@ -32,25 +36,58 @@ Picture WithoutMetadata(const Picture& picture)
     return result;
 }
 
+QByteArray SrgbProfile()
+{
+    VipsBlob* blob = nullptr;
+    if (vips_profile_load("srgb", &blob, nullptr) != 0) {
+        throw vips::VError();
+    }
+    std::size_t size = 0;
+    const void* const bytes = vips_blob_get(blob, &size);
+    const QByteArray profile(static_cast<const char*>(bytes), int(size));
+    vips_area_unref(VIPS_AREA(blob));
+    return profile;
+}
+
+// Whether two colours differ by more than rounding in a conversion does.
+bool AreFarApart(const std::vector<double>& one, const std::vector<double>& other, double largest)
+{
+    const double nearby = 2.0 * largest / 255.0;
+    for (std::size_t band = 0; band < one.size(); ++band) {
+        if (std::abs(one[band] - other[band]) > nearby) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
-bool IsGrey(const Picture& picture)
+bool HasColour(const QColor& colour)
 {
-    return picture.bands() < 3;
+    return colour.red() != colour.green() || colour.green() != colour.blue();
 }
 
-double FullValue(const Picture& picture)
+bool HasColour(const Picture& image)
 {
-    return HasSixteenBits(picture) ? 65535 : 255;
+    const std::vector<std::uint8_t> pixels = BytesOf(WithAlpha(image));
+    for (std::size_t i = 0; i < pixels.size(); i += 4) {
+        if (pixels[i + 3] > 0 && (pixels[i] != pixels[i + 1] || pixels[i] != pixels[i + 2])) {
+            return true;
+        }
+    }
+    return false;
 }
 
-Picture ToRgb(const Picture& picture)
+Picture AsRgb(const Picture& picture)
 {
     if (!IsGrey(picture)) {
         return picture;
     }
+    // A profile that cannot be used was reported when the picture was read.
     QStringList warnings;
-    return InPlainSrgb(picture, warnings).colourspace(KindOf(false, DepthOf(picture)));
+    const Picture rgb = InPlainSrgb(picture, warnings).colourspace(KindOf(false, DepthOf(picture)));
+    return ProfileOf(picture).isEmpty() ? rgb : WithProfile(rgb, SrgbProfile());
 }
 
 Picture InSpaceOf(const Picture& picture, const Picture& other, QStringList& warnings)
@@ -58,8 +95,9 @@ Picture InSpaceOf(const Picture& picture, const Picture& other, QStringList& war
     const int depth = DepthOf(picture);
     const Picture deep = WithDepth(other, depth);
     const QByteArray profile = ProfileOf(picture);
-    return WithoutMetadata(profile.isEmpty() ? deep.colourspace(KindOf(IsGrey(picture), depth))
-                                             : ConvertedTo(profile, deep, warnings));
+    const bool isPlain = profile.isEmpty() || IsSrgb(profile);
+    return WithoutMetadata(isPlain ? deep.colourspace(KindOf(IsGrey(picture), depth))
+                                   : ConvertedTo(profile, deep, warnings));
 }
 
 std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour, QStringList& warnings)
@@ -68,7 +106,31 @@ std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour
     const Picture pixel = (Picture::black(1, 1) + values)
                               .cast(VIPS_FORMAT_UCHAR)
                               .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
-    return InSpaceOf(picture, pixel, warnings).getpoint(0, 0);
+    std::vector<double> converted = InSpaceOf(picture, pixel, warnings).getpoint(0, 0);
+    if (IsGrey(picture) && HasColour(colour)) {
+        return converted;
+    }
+    const double largest = LargestValue(picture);
+    std::vector<double> asWritten;
+    for (std::size_t band = 0; band < converted.size(); ++band) {
+        asWritten.push_back(values[band] * (largest / 255.0));
+    }
+    return AreFarApart(converted, asWritten, largest) ? converted : asWritten;
+}
+
+PaintablePicture PaintableWith(const QColor& colour, const Picture& picture)
+{
+    PaintablePicture paintable{HasColour(colour) ? AsRgb(picture) : picture, {}};
+    // A profile that cannot be used was reported when the picture was read.
+    QStringList warnings;
+    paintable.paint = ColourInSpaceOf(paintable.picture, colour, warnings);
+    if (colour.alpha() < 255) {
+        paintable.picture = WithAlpha(paintable.picture);
+    }
+    if (paintable.picture.has_alpha()) {
+        paintable.paint.push_back(colour.alpha() * (LargestValue(paintable.picture) / 255.0));
+    }
+    return paintable;
 }
 
 } // namespace BatchWorker

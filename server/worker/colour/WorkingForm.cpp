@@ -21,7 +21,7 @@ Picture Named(const Picture& picture, VipsInterpretation interpretation)
                : picture.copy(Picture::option()->set("interpretation", interpretation));
 }
 
-// Colours as they are, under the name that belongs to their depth.
+// The values unchanged, with the interpretation that belongs to their depth.
 Picture Plain(const Picture& picture, bool isGrey)
 {
     const bool isDeep = picture.format() == VIPS_FORMAT_USHORT;

@@ -4,7 +4,7 @@
 
 namespace BatchWorker {
 
-/// Brings what a decoder gives into the form that the stages expect: grey or RGB, 8 or 16 bits a channel, at most one
+/// Brings decoded pixels into the form that the stages expect: grey or RGB, 8 or 16 bits a channel, at most one
 /// channel behind the colours, which is alpha. Floating point becomes 16 bits: 0 to 1 is the whole range, the rest is
 /// cut off; the values are those of the picture's profile, which has to fit, and without one linear light, which
 /// becomes sRGB or grey. Other colours without such a form (Lab) become sRGB of 16 bits.

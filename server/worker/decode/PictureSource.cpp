@@ -5,7 +5,6 @@
 #include "TiffPages.h"
 
 #include "job/formats/FormatCatalog.h"
-#include "server/worker/colour/Colour.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/VipsText.h"
@@ -115,11 +114,6 @@ bool PictureSource::IsDeep() const
 bool PictureSource::HasAlpha() const
 {
     return !raw && header.has_alpha();
-}
-
-bool PictureSource::IsCmyk() const
-{
-    return !raw && BatchWorker::IsCmyk(header);
 }
 
 int PictureSource::Pages() const

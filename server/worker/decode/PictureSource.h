@@ -17,8 +17,8 @@ class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
 ///
-/// All operations throw PictureFailure, with the case Input, for a file that is missing, unreadable, damaged, of no
-/// known format or larger than the limit. Damage of the pixels throws vips::VError when they are read.
+/// All operations throw PictureFailure for a file that is missing, unreadable, damaged, of no known format or larger
+/// than the limit. Damage of the pixels throws vips::VError when they are read.
 class PictureSource
 {
 public:
@@ -39,9 +39,6 @@ public:
     bool IsDeep() const;
 
     bool HasAlpha() const;
-
-    /// Whether the pixels are inks.
-    bool IsCmyk() const;
 
     /// How many pages or frames the file has, as far as the decoder says. Load() gives the one that FormatPages says.
     int Pages() const;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int bitsOfResult = 16;
 
-// What the decoder hands over is used in place, and let go with the picture that stands on it.
+// The decoder's pixels are used in place, and freed with the picture that refers to them.
 Picture Wrapped(libraw_processed_image_t* image)
 {
     const int width = image->width;
@@ -84,7 +84,7 @@ Picture RawFile::Develop(bool isHalf)
     params.user_flip = 0; // as stored: it is turned with the others, after scaling
     Check(raw->unpack());
     if (isDamaged) {
-        throw DamagedFile(QStringLiteral("data of the picture are missing or make no sense"));
+        throw DamagedFile(QStringLiteral("picture data are missing or damaged"));
     }
     Check(raw->dcraw_process());
     int result = LIBRAW_SUCCESS;

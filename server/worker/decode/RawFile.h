@@ -11,16 +11,16 @@ class LibRaw;
 
 namespace BatchWorker {
 
-/// A camera RAW file: what the sensor saw, developed with the white balance that the camera has noted, into sRGB of 16
-/// bits a channel. Brightness is that of the exposure, so that pictures of a series match.
+/// A camera RAW file: the sensor data, developed with the white balance that the camera recorded, into sRGB of 16 bits
+/// a channel. Brightness is that of the exposure, so that pictures of a series match.
 class RawFile
 {
 public:
-    /// Opens `file` and reads its header. A decoder that would need more than `memoryLimit` bytes refuses later.
+    /// Opens `file` and reads its header. Develop() fails when the decoder would need more than `memoryLimit` bytes.
     RawFile(const QString& file, qint64 memoryLimit);
     ~RawFile();
 
-    /// Whether this is a file of a camera that the decoder knows. The others are of no use without it.
+    /// Whether this is a file of a camera that the decoder knows. Only then the other functions may be called.
     bool IsKnown() const { return isKnown; }
 
     /// The size of the whole picture, before turning it upright.

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
@@ -53,12 +53,13 @@ ValueFunction Spread(const Range& range)
 
 } // namespace
 
+// Reads the picture twice, the first time at once.
 Picture ApplyAutoLevels(const Picture& picture, const QJsonObject& parameters)
 {
     const double clip = parameters[QLatin1String("clip")].toDouble() / 100.0;
     const bool isForEach = parameters[QLatin1String("channels")].toString() == QLatin1String("each");
 
-    // Whatever hides under no opacity at all is not seen, so it does not count.
+    // Pixels without any opacity are invisible, so they do not count.
     Picture opacity;
     if (picture.has_alpha()) {
         opacity = (AlphaOf(picture) > 0.0) / 255.0;

@@ -1,10 +1,11 @@
-#include "AllEffects.h"
 #include "Blurred.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
 namespace BatchWorker {
 
+// Alpha is blurred as well.
 Picture ApplyBlur(const Picture& picture, const QJsonObject& parameters)
 {
     const double sigma = parameters[QLatin1String("sigma")].toDouble();

@@ -1,6 +1,7 @@
 #include "Blurred.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "job/effects/BlurLimits.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <cmath>
 
@@ -34,7 +35,7 @@ Picture BlurredBySmallCopy(const Picture& picture, double sigma)
     const double rest = std::sqrt(sigma * sigma - done) / factor;
     const Picture small = DirectlyBlurred(padded.cast(VIPS_FORMAT_FLOAT).shrink(factor, factor), rest).copy_memory();
 
-    // The library places samples at whole numbers, the block's mean stands in its middle.
+    // The library places samples at whole numbers; the mean of a block belongs to its middle.
     const double middle = (factor - 1) / 2.0;
     return small.affine({double(factor), 0, 0, double(factor)},
                         Picture::option()
@@ -49,8 +50,8 @@ Picture BlurredBySmallCopy(const Picture& picture, double sigma)
 
 Picture Blurred(const Picture& picture, double sigma)
 {
-    return sigma <= largestDirectSigma ? DirectlyBlurred(picture, sigma).cast(VIPS_FORMAT_FLOAT)
-                                       : BlurredBySmallCopy(picture, sigma);
+    return sigma <= BatchJob::largestDirectSigma ? DirectlyBlurred(picture, sigma).cast(VIPS_FORMAT_FLOAT)
+                                                 : BlurredBySmallCopy(picture, sigma);
 }
 
 Picture BlurredColours(const Picture& picture, double sigma)

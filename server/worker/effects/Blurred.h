@@ -4,15 +4,12 @@
 
 namespace BatchWorker {
 
-/// Up to this standard deviation, in pixels, a Gaussian is computed as it is.
-constexpr double largestDirectSigma = 8.0;
-
 /// `picture`, all bands alike, blurred by a Gaussian with the standard deviation `sigma` in pixels, as floating-point
 /// values of the same range. Beyond its edges the picture goes on as there. The kernel ends at three sigma.
 ///
-/// Above `largestDirectSigma` the picture is reduced by a whole number of at most
-/// sigma / 4, blurred by what is left, and enlarged linearly, so that the cost hardly grows; all of `picture` is read
-/// then, at once, for a copy that is small.
+/// Above BatchJob::largestDirectSigma the picture is reduced by a whole number of at most sigma / 4, blurred by what is
+/// left, and enlarged linearly, so that the cost hardly grows; all of `picture` is read then, at once, for a copy that
+/// is small.
 Picture Blurred(const Picture& picture, double sigma);
 
 /// The colours of `picture` blurred, with the weight that their opacity gives them; floating-point values of 0 to

@@ -1,11 +1,15 @@
-#include "AllEffects.h"
-#include "Kinds.h"
+#include "ColourParameter.h"
+#include "EffectFunctions.h"
+
+#include "server/worker/colour/PictureColours.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace BatchWorker {
 
+// The size changes. A grey picture becomes RGB for a colour that is not grey, and a colour that is not opaque gives an
+// alpha channel.
 Picture ApplyBorder(const Picture& picture, const QJsonObject& parameters)
 {
     const bool isPercent = parameters[QLatin1String("unit")].toString() == QLatin1String("percent");
@@ -20,10 +24,10 @@ Picture ApplyBorder(const Picture& picture, const QJsonObject& parameters)
     if (left + top + right + bottom == 0) {
         return picture;
     }
-    const Painted painted = PaintedFor(picture, ColourOf(parameters[QLatin1String("colour")].toString()));
-    return painted.picture.embed(
+    const PaintablePicture paintable = PaintableWith(ColourOf(parameters[QLatin1String("colour")].toString()), picture);
+    return paintable.picture.embed(
         left, top, left + picture.width() + right, top + picture.height() + bottom,
-        Picture::option()->set("extend", VIPS_EXTEND_BACKGROUND)->set("background", painted.ink));
+        Picture::option()->set("extend", VIPS_EXTEND_BACKGROUND)->set("background", paintable.paint));
 }
 
 } // namespace BatchWorker

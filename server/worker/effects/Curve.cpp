@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
@@ -27,43 +27,41 @@ private:
         double slope;
     };
 
-    std::vector<Knot> m_knots;
+    std::vector<Knot> knots;
 };
 
 MonotoneCurve::MonotoneCurve(const QJsonArray& points)
 {
     for (const QJsonValue& value : points) {
         const QJsonArray point = value.toArray();
-        m_knots.push_back({point[0].toDouble() / 100.0, point[1].toDouble() / 100.0, 0.0});
+        knots.push_back({point[0].toDouble() / 100.0, point[1].toDouble() / 100.0, 0.0});
     }
-    const auto secant = [this](size_t i) {
-        return (m_knots[i + 1].y - m_knots[i].y) / (m_knots[i + 1].x - m_knots[i].x);
-    };
-    const size_t last = m_knots.size() - 1;
-    m_knots[0].slope = secant(0);
-    m_knots[last].slope = secant(last - 1);
+    const auto secant = [this](size_t i) { return (knots[i + 1].y - knots[i].y) / (knots[i + 1].x - knots[i].x); };
+    const size_t last = knots.size() - 1;
+    knots[0].slope = secant(0);
+    knots[last].slope = secant(last - 1);
     for (size_t i = 1; i < last; ++i) {
         const double before = secant(i - 1);
         const double behind = secant(i);
         if (before * behind > 0.0) {
-            const double widthBefore = m_knots[i].x - m_knots[i - 1].x;
-            const double widthBehind = m_knots[i + 1].x - m_knots[i].x;
+            const double widthBefore = knots[i].x - knots[i - 1].x;
+            const double widthBehind = knots[i + 1].x - knots[i].x;
             const double weightBefore = 2.0 * widthBehind + widthBefore;
             const double weightBehind = widthBehind + 2.0 * widthBefore;
-            m_knots[i].slope = (weightBefore + weightBehind) / (weightBefore / before + weightBehind / behind);
+            knots[i].slope = (weightBefore + weightBehind) / (weightBefore / before + weightBehind / behind);
         }
     }
 }
 
 double MonotoneCurve::At(double x) const
 {
-    if (x <= m_knots.front().x) {
-        return m_knots.front().y;
+    if (x <= knots.front().x) {
+        return knots.front().y;
     }
-    if (x >= m_knots.back().x) {
-        return m_knots.back().y;
+    if (x >= knots.back().x) {
+        return knots.back().y;
     }
-    const auto to = std::upper_bound(m_knots.begin(), m_knots.end(), x,
+    const auto to = std::upper_bound(knots.begin(), knots.end(), x,
                                      [](double wanted, const Knot& knot) { return wanted < knot.x; });
     const auto from = std::prev(to);
     const double width = to->x - from->x;
@@ -76,6 +74,7 @@ double MonotoneCurve::At(double x) const
 
 } // namespace
 
+// A curve of one channel leaves a grey picture as it is.
 Picture ApplyCurve(const Picture& picture, const QJsonObject& parameters)
 {
     const QJsonArray points = parameters[QLatin1String("points")].toArray();

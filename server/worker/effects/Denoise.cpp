@@ -1,8 +1,12 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/pixels/GeneratedPicture.h"
+#include "server/worker/pixels/PixelForms.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 
 namespace BatchWorker {
@@ -14,38 +18,38 @@ class BilateralWeights
 {
 public:
     BilateralWeights(double strength, double sigma)
-        : m_radius(static_cast<int>(std::ceil(2.0 * sigma)))
-        , m_scale(entriesPerUnit / (2.0 * strength * strength))
+        : radius(static_cast<int>(std::ceil(2.0 * sigma)))
+        , scale(entriesPerUnit / (2.0 * strength * strength))
     {
-        for (int y = -m_radius; y <= m_radius; ++y) {
-            for (int x = -m_radius; x <= m_radius; ++x) {
-                m_near.push_back(static_cast<float>(std::exp(-(x * x + y * y) / (2.0 * sigma * sigma))));
+        for (int y = -radius; y <= radius; ++y) {
+            for (int x = -radius; x <= radius; ++x) {
+                near.push_back(static_cast<float>(std::exp(-(x * x + y * y) / (2.0 * sigma * sigma))));
             }
         }
         for (int entry = 0; entry < entriesPerUnit * largestExponent; ++entry) {
-            m_alike.push_back(static_cast<float>(std::exp(-(entry + 0.5) / entriesPerUnit)));
+            alike.push_back(static_cast<float>(std::exp(-(entry + 0.5) / entriesPerUnit)));
         }
-        m_alike.front() = 1.0F;
+        alike.front() = 1.0F;
     }
 
-    int Radius() const { return m_radius; }
-    const float* Near() const { return m_near.data(); }
+    int Radius() const { return radius; }
+    const float* Near() const { return near.data(); }
 
     /// For the mean of the squared differences, of values of 0 to 1.
     float Alike(float squares) const
     {
-        const auto entry = static_cast<size_t>(squares * m_scale);
-        return entry < m_alike.size() ? m_alike[entry] : 0.0F;
+        const auto entry = static_cast<size_t>(squares * scale);
+        return entry < alike.size() ? alike[entry] : 0.0F;
     }
 
 private:
     static constexpr int entriesPerUnit = 1024;
     static constexpr int largestExponent = 10; // exp(-10) is less than a rounding step
 
-    int m_radius;
-    double m_scale;
-    std::vector<float> m_near;
-    std::vector<float> m_alike;
+    int radius;
+    double scale;
+    std::vector<float> near;
+    std::vector<float> alike;
 };
 
 /// The weighted mean of the neighbours of one pixel, `stride` samples a line; opaque ones count most, of others none.
@@ -94,8 +98,8 @@ void SmoothArea(VipsRegion* input, VipsRegion* output, const BilateralWeights& w
     const int radius = weights.Radius();
     const auto stride = static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(input) / sizeof(Sample));
     for (int y = area.top; y < area.top + area.height; ++y) {
-        const auto* in = reinterpret_cast<const Sample*>(VIPS_REGION_ADDR(input, area.left + radius, y + radius));
-        auto* out = reinterpret_cast<Sample*>(VIPS_REGION_ADDR(output, area.left, y));
+        const auto* in = PixelAt<const Sample>(input, area.left + radius, y + radius);
+        auto* out = PixelAt<Sample>(output, area.left, y);
         for (int x = 0; x < area.width; ++x, in += bands, out += bands) {
             Smooth(in, stride, bands, weights, out);
         }
@@ -116,13 +120,14 @@ Picture ApplyDenoise(const Picture& picture, const QJsonObject& parameters)
     const Picture padded = picture.embed(radius, radius, picture.width() + 2 * radius, picture.height() + 2 * radius,
                                          Picture::option()->set("extend", VIPS_EXTEND_COPY));
     const bool isDeep = HasSixteenBits(picture);
-    return FilterAreas({padded}, radius, [weights, isDeep](VipsRegion* const* inputs, VipsRegion* output) {
+    const auto smooth = [weights, isDeep](VipsRegion* target, const std::vector<VipsRegion*>& inputs) {
         if (isDeep) {
-            SmoothArea<std::uint16_t>(inputs[0], output, *weights);
+            SmoothArea<std::uint16_t>(inputs[0], target, *weights);
         } else {
-            SmoothArea<std::uint8_t>(inputs[0], output, *weights);
+            SmoothArea<std::uint8_t>(inputs[0], target, *weights);
         }
-    });
+    };
+    return GeneratePicture(ShapeOf(picture), {padded}, smooth, radius);
 }
 
 } // namespace BatchWorker

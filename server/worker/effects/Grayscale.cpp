@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 #include "Luminance.h"
 
 #include "server/worker/pixels/PixelFilter.h"
@@ -9,7 +9,7 @@ namespace BatchWorker {
 
 namespace {
 
-// Powers are slow; there are few values to take them of.
+// Powers are slow, and there are few different values.
 std::vector<double> LightTable(int entries)
 {
     std::vector<double> table;
@@ -35,6 +35,7 @@ Picture GreyByLuminance(const Picture& picture)
 
 } // namespace
 
+// Three equal channels; a grey picture stays as it is.
 Picture ApplyGrayscale(const Picture& picture, const QJsonObject& parameters)
 {
     if (ColourBands(picture) == 1) {

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
@@ -6,7 +6,7 @@
 
 namespace BatchWorker {
 
-// The matrix of hueRotate in the W3C's Filter Effects Module Level 1: luma stays.
+// The matrix of hueRotate in the W3C's Filter Effects Module Level 1: luma stays. Leaves a grey picture as it is.
 Picture ApplyHue(const Picture& picture, const QJsonObject& parameters)
 {
     const double degrees = parameters[QLatin1String("angle")].toDouble();

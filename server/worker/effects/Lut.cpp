@@ -1,9 +1,9 @@
-#include "AllEffects.h"
 #include "CubeColours.h"
-#include "Effects.h"
-#include "Kinds.h"
+#include "EffectFunctions.h"
 
 #include "job/effects/CubeFile.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelFilter.h"
 
 #include <QDateTime>
@@ -20,7 +20,7 @@ namespace {
 
 using SharedTable = std::shared_ptr<const CubeTable>;
 
-// A run uses one table for all its pictures: the last one read is kept, as long as its file does not change.
+// A run uses one table for all its pictures: the last one read is cached until its file changes.
 SharedTable TableAt(const QString& path)
 {
     static QMutex mutex;
@@ -34,7 +34,7 @@ SharedTable TableAt(const QString& path)
     if (!last || lastPath != path || lastTime != info.lastModified() || lastSize != info.size()) {
         CubeFile file = ReadCubeFile(path);
         if (!file.IsValid()) {
-            throw EffectError(file.error.toStdString());
+            throw ProcessingFailed(file.error);
         }
         last = std::make_shared<const CubeTable>(std::move(file.table));
         lastPath = path;
@@ -57,6 +57,7 @@ Picture MapByCube(const Picture& picture, const SharedTable& table, double stren
 
 } // namespace
 
+// A grey picture becomes RGB. Throws PictureFailure when the file cannot be used.
 Picture ApplyLut(const Picture& picture, const QJsonObject& parameters)
 {
     const SharedTable table = TableAt(parameters[QLatin1String("file")].toString());

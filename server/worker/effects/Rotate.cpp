@@ -1,116 +1,93 @@
-#include "AllEffects.h"
-#include "Kinds.h"
+#include "ColourParameter.h"
+#include "EffectFunctions.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/geometry/Coverage.h"
+#include "server/worker/geometry/Rotation.h"
+#include "server/worker/pixels/GeneratedPicture.h"
+#include "server/worker/pixels/PixelForms.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace BatchWorker {
 
 namespace {
 
-/// Turns a size clockwise by any angle onto the smallest canvas that holds it. Both stand on their middle.
-class Turn
+/// Turns a size clockwise by any angle onto the smallest canvas that holds it. Both have one middle.
+struct Turn
 {
-public:
-    Turn(int width, int height, double degrees)
-        : m_width(width)
-        , m_height(height)
-        , m_cosine(std::cos(degrees * M_PI / 180.0))
-        , m_sine(std::sin(degrees * M_PI / 180.0))
+    Turn(const QSize& picture, double degrees)
     {
-        // What is over by rounding errors makes no further pixel.
+        const double c = std::abs(std::cos(degrees * M_PI / 180.0));
+        const double s = std::abs(std::sin(degrees * M_PI / 180.0));
+        // Rounding errors do not make another pixel.
         constexpr double tolerance = 1e-6;
-        const double c = std::abs(m_cosine);
-        const double s = std::abs(m_sine);
-        m_canvasWidth = static_cast<int>(std::ceil(width * c + height * s - tolerance));
-        m_canvasHeight = static_cast<int>(std::ceil(width * s + height * c - tolerance));
+        canvas = QSize(static_cast<int>(std::ceil(picture.width() * c + picture.height() * s - tolerance)),
+                       static_cast<int>(std::ceil(picture.width() * s + picture.height() * c - tolerance)));
+        toCanvas = QTransform::fromTranslate(-picture.width() / 2.0, -picture.height() / 2.0) *
+                   QTransform().rotate(degrees) *
+                   QTransform::fromTranslate(canvas.width() / 2.0, canvas.height() / 2.0);
+        corners = {toCanvas.map(QPointF(0, 0)), toCanvas.map(QPointF(picture.width(), 0)),
+                   toCanvas.map(QPointF(picture.width(), picture.height())),
+                   toCanvas.map(QPointF(0, picture.height()))};
     }
 
-    /// Of bicubic interpolation; the border goes on outside.
-    Picture Turned(const Picture& picture) const
-    {
-        const double x = (m_width - 1) / 2.0;
-        const double y = (m_height - 1) / 2.0;
-        return picture.affine({m_cosine, -m_sine, m_sine, m_cosine},
-                              Picture::option()
-                                  ->set("interpolate", vips::VInterpolate::new_from_name("bicubic"))
-                                  ->set("odx", (m_canvasWidth - 1) / 2.0 - (m_cosine * x - m_sine * y))
-                                  ->set("ody", (m_canvasHeight - 1) / 2.0 - (m_sine * x + m_cosine * y))
-                                  ->set("oarea", std::vector<int>{0, 0, m_canvasWidth, m_canvasHeight})
-                                  ->set("extend", VIPS_EXTEND_COPY)
-                                  ->set("premultiplied", true));
-    }
-
-    /// How much of the pixel x, y of the canvas the picture covers, 0 to 1.
-    double Coverage(int x, int y) const
-    {
-        const double right = x + 0.5 - m_canvasWidth / 2.0;
-        const double down = y + 0.5 - m_canvasHeight / 2.0;
-        const double across = m_width / 2.0 - std::abs(m_cosine * right + m_sine * down);
-        const double along = m_height / 2.0 - std::abs(m_cosine * down - m_sine * right);
-        // A pixel's own extent across a border that stands at this angle.
-        const double extent = std::abs(m_cosine) + std::abs(m_sine);
-        return std::clamp(across / extent + 0.5, 0.0, 1.0) * std::clamp(along / extent + 0.5, 0.0, 1.0);
-    }
-
-private:
-    int m_width;
-    int m_height;
-    double m_cosine;
-    double m_sine;
-    int m_canvasWidth = 0;
-    int m_canvasHeight = 0;
+    QSize canvas;
+    QTransform toCanvas;
+    std::array<QPointF, 4> corners;
 };
 
-/// `turned`, floating point and premultiplied, over `ink`, premultiplied too.
-Picture OverInk(const Picture& turned, const Turn& turn, const std::vector<double>& ink)
+/// `turned`, floating point and premultiplied, over `paint`, premultiplied too.
+Picture OverPaint(const Picture& turned, const Coverage& shape, const std::vector<double>& paint)
 {
-    return FilterAreas({turned}, 0, [turn, ink](VipsRegion* const* inputs, VipsRegion* output) {
-        const VipsRect& area = output->valid;
-        const auto bands = static_cast<size_t>(output->im->Bands);
+    const auto lay = [shape, paint](VipsRegion* target, const std::vector<VipsRegion*>& inputs) {
+        const VipsRect& area = target->valid;
+        const std::size_t bands = paint.size();
         for (int y = area.top; y < area.top + area.height; ++y) {
-            const auto* in = reinterpret_cast<const float*>(VIPS_REGION_ADDR(inputs[0], area.left, y));
-            auto* out = reinterpret_cast<float*>(VIPS_REGION_ADDR(output, area.left, y));
+            const auto* in = PixelAt<const float>(inputs[0], area.left, y);
+            auto* out = PixelAt<float>(target, area.left, y);
             for (int x = area.left; x < area.left + area.width; ++x, in += bands, out += bands) {
-                const double coverage = turn.Coverage(x, y);
-                for (size_t band = 0; band < bands; ++band) {
-                    // What lies far outside may hold anything; nothing of it is to come through.
-                    out[band] = coverage > 0.0
-                                    ? static_cast<float>(coverage * double(in[band]) + (1.0 - coverage) * ink[band])
-                                    : static_cast<float>(ink[band]);
+                const double covered = shape.OfPixel(x, y);
+                for (std::size_t band = 0; band < bands; ++band) {
+                    // What lies outside may hold anything; it must not come through.
+                    out[band] = covered > 0.0
+                                    ? static_cast<float>(covered * double(in[band]) + (1.0 - covered) * paint[band])
+                                    : static_cast<float>(paint[band]);
                 }
             }
         }
-    });
+    };
+    return GeneratePicture(ShapeOf(turned), {turned}, lay);
 }
 
 Picture TurnedByAnyAngle(const Picture& picture, double degrees, const QColor& background)
 {
-    Painted painted = PaintedFor(picture, background);
-    const double largest = LargestValue(painted.picture);
-    const bool hasAlpha = painted.picture.has_alpha();
-    const Turn turn(picture.width(), picture.height(), degrees);
+    PaintablePicture paintable = PaintableWith(background, picture);
+    const double largest = LargestValue(paintable.picture);
+    const bool hasAlpha = paintable.picture.has_alpha();
+    const Turn turn(QSize(picture.width(), picture.height()), degrees);
 
-    Picture source = painted.picture.cast(VIPS_FORMAT_FLOAT);
+    Picture source = paintable.picture.cast(VIPS_FORMAT_FLOAT);
+    std::vector<double>& paint = paintable.paint;
     if (hasAlpha) {
-        source = painted.picture.premultiply(Picture::option()->set("max_alpha", largest));
-        for (size_t band = 0; band + 1 < painted.ink.size(); ++band) {
-            painted.ink[band] *= painted.ink.back() / largest;
+        source = paintable.picture.premultiply(Picture::option()->set("max_alpha", largest));
+        for (std::size_t band = 0; band + 1 < paint.size(); ++band) {
+            paint[band] *= paint.back() / largest;
         }
     }
-    Picture turned = OverInk(turn.Turned(source), turn, painted.ink);
+    Picture turned = OverPaint(Rotated(source, turn.toCanvas, turn.canvas), Coverage(turn.corners), paint);
     if (hasAlpha) {
         turned = turned.unpremultiply(Picture::option()->set("max_alpha", largest));
     }
     return turned.linear(1.0, 0.5)
         .cast(picture.format())
-        .copy(Picture::option()->set("interpretation", painted.picture.interpretation()));
+        .copy(Picture::option()->set("interpretation", paintable.picture.interpretation()));
 }
 
 } // namespace
 
+// The size changes unless the angle is a multiple of 180. A grey picture becomes RGB for a background with colour, and
+// a background that is not opaque gives an alpha channel; not so at multiples of 90.
 Picture ApplyRotate(const Picture& picture, const QJsonObject& parameters)
 {
     const double turn = std::fmod(parameters[QLatin1String("angle")].toDouble(), 360.0);

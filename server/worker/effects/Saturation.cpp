@@ -1,10 +1,11 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 #include "Luminance.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
 namespace BatchWorker {
 
+// Leaves a grey picture as it is.
 Picture ApplySaturation(const Picture& picture, const QJsonObject& parameters)
 {
     const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;

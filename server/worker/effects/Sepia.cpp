@@ -1,11 +1,11 @@
-#include "AllEffects.h"
-#include "Kinds.h"
+#include "EffectFunctions.h"
 
+#include "server/worker/colour/PictureColours.h"
 #include "server/worker/pixels/PixelFilter.h"
 
 namespace BatchWorker {
 
-// The matrix of sepia() in the W3C's Filter Effects Module Level 1.
+// The matrix of sepia() in the W3C's Filter Effects Module Level 1. A grey picture becomes RGB.
 Picture ApplySepia(const Picture& picture, const QJsonObject& parameters)
 {
     const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;

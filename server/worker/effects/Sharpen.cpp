@@ -1,5 +1,5 @@
-#include "AllEffects.h"
 #include "Blurred.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 #include "Luminance.h"
 
 #include "server/worker/pixels/PixelFilter.h"
@@ -7,6 +7,7 @@
 
 namespace BatchWorker {
 
+// Leaves a grey picture as it is.
 Picture ApplyVibrance(const Picture& picture, const QJsonObject& parameters)
 {
     const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;

@@ -1,4 +1,4 @@
-#include "AllEffects.h"
+#include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
 
@@ -11,7 +11,7 @@ Picture ApplyVignette(const Picture& picture, const QJsonObject& parameters)
 {
     const double amount = parameters[QLatin1String("amount")].toDouble() / 100.0;
     const double start = parameters[QLatin1String("start")].toDouble() / 100.0;
-    // A hard edge is a very short transition.
+    // Without softness: a very short transition.
     constexpr double shortest = 1e-6;
     const double softness = std::max(parameters[QLatin1String("softness")].toDouble() / 100.0, shortest);
     if (amount == 0.0) {

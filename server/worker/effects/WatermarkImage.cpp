@@ -1,9 +1,9 @@
-#include "AllEffects.h"
-#include "Effects.h"
-#include "Kinds.h"
-#include "Mark.h"
+#include "EffectFunctions.h"
+#include "WatermarkPlacement.h"
 
 #include "server/worker/colour/Colour.h"
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/VipsText.h"
 
@@ -23,23 +23,33 @@ Picture ImageAt(const QString& path, int width)
         const vips::VSource source = vips::VSource::new_from_file(QFile::encodeName(path).constData());
         const Picture scaled = Picture::thumbnail_source(
             source, width, Picture::option()->set("height", VIPS_MAX_COORD)->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
-        // What is odd about a logo's profile is of no interest in a report on a picture.
+        // Warnings about a logo's profile do not belong into the report on a picture.
         QStringList warnings;
         const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
         return AsRgb(WithDepth(plain, 8)).copy_memory();
     } catch (const vips::VError& problem) {
-        throw EffectError(QStringLiteral("the file %1 cannot be read: %2").arg(path, TextOf(problem)).toStdString());
+        throw ProcessingFailed(QStringLiteral("the file %1 cannot be read: %2").arg(path, TextOf(problem)));
     }
+}
+
+/// `image`, sRGB of 8 bits, as a mark, its colours in the profile of `picture`.
+Overlay MarkOf(const Picture& image, const Picture& picture)
+{
+    // A profile that cannot be used was reported when the picture was read.
+    QStringList warnings;
+    const Picture colours = IsGrey(picture) ? image : WithDepth(InSpaceOf(picture, image, warnings), 8);
+    return {image.width(), image.height(), BytesOf(WithAlpha(colours))};
 }
 
 } // namespace
 
+// A grey picture becomes RGB for a mark with colour. Throws PictureFailure for a file that cannot be read.
 Picture ApplyWatermarkImage(const Picture& picture, const QJsonObject& parameters)
 {
     const int width = std::max(1, static_cast<int>(std::lround(LengthIn(parameters, "size", picture.width()))));
     const Picture image = ImageAt(parameters[QLatin1String("file")].toString(), width);
     const Picture under = HasColour(image) ? AsRgb(picture) : picture;
-    return Stamped(under, MarkOf(image, under), parameters);
+    return Watermarked(under, MarkOf(image, under), parameters);
 }
 
 } // namespace BatchWorker

@@ -1,8 +1,9 @@
-#include "AllEffects.h"
-#include "Effects.h"
-#include "Kinds.h"
-#include "Mark.h"
+#include "ColourParameter.h"
+#include "EffectFunctions.h"
+#include "WatermarkPlacement.h"
 
+#include "server/worker/colour/PictureColours.h"
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelFilter.h"
 
 #include <QStringList>
@@ -13,7 +14,7 @@ namespace BatchWorker {
 
 namespace {
 
-// What the renderer could not take is left out; line breaks stay.
+// Leaves out what the renderer cannot handle; line breaks stay.
 QString Printable(const QString& text)
 {
     QString printable;
@@ -38,7 +39,7 @@ void RequireReasonableSize(const QString& text, double height)
         longest = std::max(longest, line.size());
     }
     if (height * longest * height * 1.5 * lines.size() > mostPixels) {
-        throw EffectError("the text would be too large at a size of " + std::to_string(int(height)) + " pixels");
+        throw ProcessingFailed(QStringLiteral("the text would be too large at a size of %1 pixels").arg(int(height)));
     }
 }
 
@@ -51,18 +52,18 @@ Picture Letters(const QString& text, const QString& font, double height)
     return Picture::text(escaped.constData(), Picture::option()->set("font", description.constData())->set("dpi", 72));
 }
 
-Mark Drawn(const Picture& letters, const Painted& painted, double opacity)
+Overlay Drawn(const Picture& letters, const PaintablePicture& paintable, double opacity)
 {
-    std::array<std::uint8_t, 3> ink{};
+    std::array<std::uint8_t, 3> paint{};
     for (size_t band = 0; band < 3; ++band) {
-        const double value = painted.ink[ColourBands(painted.picture) == 1 ? 0 : band];
-        ink[band] = SampleOf<std::uint8_t>(value / LargestValue(painted.picture), 255.0);
+        const double value = paintable.paint[IsGrey(paintable.picture) ? 0 : band];
+        paint[band] = SampleOf<std::uint8_t>(value / LargestValue(paintable.picture), 255.0);
     }
-    Mark mark{letters.width(), letters.height(), {}};
+    Overlay mark{letters.width(), letters.height(), {}};
     const std::vector<std::uint8_t> coverage = BytesOf(letters);
     mark.pixels.reserve(4 * coverage.size());
     for (const std::uint8_t covered : coverage) {
-        mark.pixels.insert(mark.pixels.end(), ink.begin(), ink.end());
+        mark.pixels.insert(mark.pixels.end(), paint.begin(), paint.end());
         mark.pixels.push_back(SampleOf<std::uint8_t>(covered / 255.0 * opacity, 255.0));
     }
     return mark;
@@ -70,20 +71,20 @@ Mark Drawn(const Picture& letters, const Painted& painted, double opacity)
 
 } // namespace
 
+// A grey picture becomes RGB for a colour that is not grey. Throws PictureFailure for a text that cannot be drawn.
 Picture ApplyWatermarkText(const Picture& picture, const QJsonObject& parameters)
 {
     const QString text = Printable(parameters[QLatin1String("text")].toString());
     if (text.trimmed().isEmpty()) {
-        throw EffectError("the text has no letters that could be drawn");
+        throw ProcessingFailed(QStringLiteral("the text has no letters that could be drawn"));
     }
     const double height = std::max(1.0, LengthIn(parameters, "size", std::min(picture.width(), picture.height())));
     RequireReasonableSize(text, height);
 
     const QColor colour = ColourOf(parameters[QLatin1String("colour")].toString());
-    const Painted painted = PaintedFor(picture, colour.rgb());
-    return Stamped(painted.picture,
-                   Drawn(Letters(text, parameters[QLatin1String("font")].toString(), height), painted, colour.alphaF()),
-                   parameters);
+    const PaintablePicture paintable = PaintableWith(colour.rgb(), picture);
+    const Picture letters = Letters(text, parameters[QLatin1String("font")].toString(), height);
+    return Watermarked(paintable.picture, Drawn(letters, paintable, colour.alphaF()), parameters);
 }
 
 } // namespace BatchWorker

@@ -1,6 +1,5 @@
 #include "Background.h"
 
-#include "Framing.h"
 #include "Patterns.h"
 
 #include "job/values/JobValues.h"
@@ -13,6 +12,7 @@
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/RandomAccess.h"
 #include "server/worker/pixels/VipsText.h"
 
 #include <cmath>
@@ -36,7 +36,7 @@ Picture Filled(const std::vector<double>& values, const QSize& size, const Pictu
         .embed(0, 0, size.width(), size.height(), Picture::option()->set("extend", VIPS_EXTEND_COPY));
 }
 
-// How light a pixel of a tile is: the mean of several places in it.
+// How light a pixel of a tile is: the mean of several points in it.
 double PatternPixel(Pattern pattern, int x, int y, double side)
 {
     constexpr int places = 4;
@@ -69,7 +69,7 @@ Picture PatternPicture(const ZTBatchOutputSettings::Transformation& framing, con
 {
     const int side = PatternTileSide(framing.backgroundPattern[1]);
     const Picture tile = PatternTile(Pattern(framing.backgroundPattern[0]), side, size)
-                             .linear(FullValue(like), 0.5)
+                             .linear(LargestValue(like), 0.5)
                              .cast(like.format())
                              .copy(Picture::option()->set("interpretation", like.interpretation()))
                              .copy_memory();
@@ -109,10 +109,9 @@ Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits&
     return InPlainSrgb(TurnedUpright(WithRandomAccess(covering), orientation), warnings);
 }
 
-FramingError Unreadable(const QString& file, const QString& reason)
+PictureFailure Unreadable(const QString& file, const QString& reason)
 {
-    const QString text = QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason);
-    return FramingError(text.toStdString());
+    return ProcessingFailed(QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason));
 }
 
 } // namespace
@@ -142,7 +141,7 @@ Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, con
         const Picture alpha = AlphaOf(background).linear(opacity, 0.5).cast(background.format());
         return WithoutAlpha(background).bandjoin(alpha);
     }
-    return background.bandjoin(std::round(opacity * FullValue(like)));
+    return background.bandjoin(std::round(opacity * LargestValue(like)));
 }
 
 bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file)

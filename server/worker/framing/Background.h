@@ -13,7 +13,7 @@
 namespace BatchWorker {
 
 /// The background file of `framing`, upright and scaled to cover a frame of `size`, the middle of it being cut out;
-/// sRGB or grey, held in memory. Nothing when the background is no file. Throws FramingError, with the file's name,
+/// sRGB or grey, held in memory. Nothing when the background is no file. Throws PictureFailure, with the file's name,
 /// when it cannot be read whole, or is beyond `limits`.
 std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
                                           const BatchProtocol::ServerLimits& limits, QStringList& warnings);

@@ -36,7 +36,7 @@ float SoftLight(float backdrop, float source)
     return backdrop + (2 * source - 1) * (lifted - backdrop);
 }
 
-// The mode is a constant in the loops over pixels, so that no choice is made there.
+// The mode is a template argument, so that loops over pixels do not branch on it.
 template<Blending mode>
 float Blended(float backdrop, float source)
 {

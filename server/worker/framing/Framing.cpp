@@ -2,14 +2,16 @@
 
 #include "Background.h"
 #include "Blending.h"
-#include "Coverage.h"
 #include "Placement.h"
 #include "Shadow.h"
 
 #include "server/worker/colour/PictureColours.h"
+#include "server/worker/geometry/Coverage.h"
+#include "server/worker/geometry/Rotation.h"
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
-
-#include <vector>
+#include "server/worker/pixels/RandomAccess.h"
+#include "server/worker/pixels/WeightedFilter.h"
 
 using namespace BatchProtocol;
 
@@ -22,17 +24,11 @@ using Transformation = ZTBatchOutputSettings::Transformation;
 void CheckFrame(const QSize& frame, qint64 pixelLimit)
 {
     if (qint64(frame.width()) * frame.height() > pixelLimit) {
-        const QString text = QStringLiteral("the frame of %1 x %2 pixels is above the limit of %3 pixels")
-                                 .arg(frame.width())
-                                 .arg(frame.height())
-                                 .arg(pixelLimit);
-        throw FramingError(text.toStdString());
+        throw ProcessingFailed(QStringLiteral("the frame of %1 x %2 pixels is above the limit of %3 pixels")
+                                   .arg(frame.width())
+                                   .arg(frame.height())
+                                   .arg(pixelLimit));
     }
-}
-
-bool HasColour(const QColor& colour)
-{
-    return colour.red() != colour.green() || colour.green() != colour.blue();
 }
 
 bool BringsColour(const Transformation& framing, const std::optional<Picture>& backgroundFile)
@@ -41,32 +37,18 @@ bool BringsColour(const Transformation& framing, const std::optional<Picture>& b
            (backgroundFile && !IsGrey(*backgroundFile)) || (framing.shadowEnabled && HasColour(framing.shadowColor));
 }
 
-// Pixels that are seen through must not lend their colour to their neighbours. The library's whole-number filters have
-// weights of few bits, which is enough for 8 bits a channel only: at 16 bits white would become grey.
-template<typename Filter>
-Picture Filtered(const Picture& picture, const Filter& filter)
-{
-    if (picture.has_alpha()) {
-        return filter(picture.premultiply()).unpremultiply().rint().cast(picture.format());
-    }
-    if (picture.format() == VIPS_FORMAT_UCHAR) {
-        return filter(picture);
-    }
-    return filter(picture.cast(VIPS_FORMAT_FLOAT)).rint().cast(picture.format());
-}
-
 Picture Scaled(const Picture& picture, const QSize& size)
 {
     if (size == QSize(picture.width(), picture.height())) {
         return picture;
     }
-    return Filtered(picture, [&size](const Picture& source) {
+    return FilteredByOpacity(picture, [&size](const Picture& source) {
         return source.resize(size.width() / double(source.width()),
                              Picture::option()->set("vscale", size.height() / double(source.height())));
     });
 }
 
-// For what is read in another order than its file holds it.
+// For pixels that are not read from top to bottom.
 Picture ReadableInAnyOrder(const Picture& picture)
 {
     return vips_image_is_sequential(picture.get_image()) != 0 ? WithRandomAccess(picture) : picture;
@@ -77,26 +59,7 @@ Picture TurnedByQuarters(const Picture& picture, int quarterTurns)
     return quarterTurns == 0 ? picture : ReadableInAnyOrder(picture).rot(VipsAngle(quarterTurns));
 }
 
-// Turned by any angle. Its own colours go on beyond its edges; the edges themselves are the coverage's matter.
-Picture TurnedFreely(const Picture& picture, const FramePlacement& placement)
-{
-    constexpr int beyond = 3;
-    const Picture widened = picture.embed(beyond, beyond, picture.width() + 2 * beyond, picture.height() + 2 * beyond,
-                                          Picture::option()->set("extend", VIPS_EXTEND_COPY));
-    const QTransform& toFrame = placement.toFrame;
-    // The library counts from the centres of pixels.
-    const QPointF firstPixel = toFrame.map(QPointF(0.5 - beyond, 0.5 - beyond)) - QPointF(0.5, 0.5);
-    const std::vector<double> matrix{toFrame.m11(), toFrame.m21(), toFrame.m12(), toFrame.m22()};
-    const std::vector<int> area{0, 0, placement.frame.width(), placement.frame.height()};
-    return widened.affine(matrix, Picture::option()
-                                      ->set("interpolate", vips::VInterpolate::new_from_name("bicubic"))
-                                      ->set("odx", firstPixel.x())
-                                      ->set("ody", firstPixel.y())
-                                      ->set("oarea", area)
-                                      ->set("premultiplied", true));
-}
-
-// The picture where it stands in the frame, on pixels that mean nothing where it does not.
+// The picture at its place in the frame; the other pixels mean nothing.
 Picture Placed(const Picture& picture, const FramePlacement& placement)
 {
     const Picture scaled = Scaled(picture, placement.drawn);
@@ -104,8 +67,9 @@ Picture Placed(const Picture& picture, const FramePlacement& placement)
         return TurnedByQuarters(scaled, placement.quarterTurns)
             .embed(placement.upright.x(), placement.upright.y(), placement.frame.width(), placement.frame.height());
     }
-    return Filtered(ReadableInAnyOrder(scaled),
-                    [&placement](const Picture& source) { return TurnedFreely(source, placement); });
+    return FilteredByOpacity(ReadableInAnyOrder(scaled), [&placement](const Picture& source) {
+        return Rotated(source, placement.toFrame, placement.frame);
+    });
 }
 
 Picture WithShadow(const Picture& background, const Picture& placed, const Picture& coverage,
@@ -128,7 +92,7 @@ Picture FramePicture(const Picture& original, const Transformation& framing, con
         warnings.append(QStringLiteral("the margins leave nothing of the frame free and have no effect"));
     }
     const std::optional<Picture> backgroundFile = ReadBackgroundFile(framing, placement.frame, limits, warnings);
-    const Picture picture = BringsColour(framing, backgroundFile) ? ToRgb(original) : original;
+    const Picture picture = BringsColour(framing, backgroundFile) ? AsRgb(original) : original;
     const Picture coverage = Coverage(placement.corners).OfFrame(placement.frame);
 
     Picture placed = Placed(picture, placement);

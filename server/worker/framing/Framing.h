@@ -7,16 +7,7 @@
 
 #include <QStringList>
 
-#include <stdexcept>
-
 namespace BatchWorker {
-
-/// A picture could not be framed for a reason that users can do something about; the message says which.
-class FramingError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// Lays `picture` on its frame as `framing`, a checked record whose state is true, says.
 ///
@@ -27,7 +18,7 @@ public:
 /// picture is blended with what is below it as Blend() says.
 ///
 /// Colours of the record are sRGB and are converted to the picture's space. A grey picture becomes RGB when a colour
-/// comes in: a background colour or shadow colour that is not grey, or a background file that is not. The built-in
+/// is added: a background colour or shadow colour that is not grey, or a background file that is not. The built-in
 /// patterns are neutral.
 ///
 /// The result has an alpha channel when the frame can be seen through anywhere: when the background is none or not
@@ -38,8 +29,9 @@ public:
 /// frame's size a background file.
 ///
 /// Warnings, for users, are appended to the list given: margins that leave nothing free, a profile that colours cannot
-/// be converted to. Throws FramingError when the frame would have more pixels than `limits` allow, and when the
-/// background file cannot be read, with the name of the file; vips::VError for what the library reports of the picture.
+/// be converted to. Throws PictureFailure, ProcessingFailed, when the frame would have more pixels than `limits` allow,
+/// and when the background file cannot be read, with the name of the file; vips::VError for what the library reports of
+/// the picture.
 Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
                      const BatchProtocol::ServerLimits& limits, QStringList& warnings);
 

@@ -20,7 +20,7 @@ QSize AtLeastOnePixel(const QSize& size)
     return size.expandedTo(QSize(1, 1));
 }
 
-// Rounded by hand: QSize::scaled() cuts fractions off.
+// Not by QSize::scaled(), which truncates.
 QSize FittedInto(const QSize& picture, const QSize& frame)
 {
     const double scale = std::min(frame.width() / double(picture.width()), frame.height() / double(picture.height()));

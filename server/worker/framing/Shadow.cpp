@@ -1,9 +1,7 @@
 #include "Shadow.h"
 
-#include "Coverage.h"
-
 #include "job/values/JobValues.h"
-#include "server/worker/colour/PictureColours.h"
+#include "server/worker/geometry/Coverage.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PixelForms.h"
 
@@ -132,7 +130,7 @@ Picture ShadowOfRectangle(const FramePlacement& placement, const ZTBatchOutputSe
 Picture ShadowOfAlpha(const Picture& placedPicture, const Picture& coverage,
                       const ZTBatchOutputSettings::Transformation& framing)
 {
-    const Picture shape = (AlphaOf(placedPicture) * coverage).linear(1 / FullValue(placedPicture), 0);
+    const Picture shape = (AlphaOf(placedPicture) * coverage).linear(1 / LargestValue(placedPicture), 0);
     const int width = shape.width();
     const int height = shape.height();
     const QPoint offset = ShadowOffset(framing);

@@ -9,12 +9,12 @@ namespace BatchWorker {
 struct ColumnPlan;
 
 /// Reduces lines of 8-bit pixels to the new columns `begin` to `end` (exclusive) of a plan, two lines at a time. It
-/// calculates with whole numbers: every processor finds the same values.
+/// calculates with whole numbers: the values are the same on every processor.
 class ByteColumns
 {
 public:
     enum class Unit {
-        Plain, ///< what every processor has
+        Plain, ///< on every processor
         Vector ///< two lines side by side, where HasVectorUnit()
     };
 
@@ -36,9 +36,9 @@ private:
     template<int count>
     void ReduceBands(const Sources& sources, const Targets& targets);
     template<int count>
-    void Take(const Sources& sources);
+    void Load(const Sources& sources);
     template<int count>
-    void Give(const Targets& targets) const;
+    void Store(const Targets& targets) const;
 
     const ColumnPlan& plan;
     const int begin;
@@ -46,7 +46,7 @@ private:
     const int bands; ///< the distance from one pixel of a line to the next
     const Unit unit;
 
-    /// Of both lines a pixel, up to four bands of it, and the one to the right of it, band by band.
+    /// Of each of the two lines a pixel, up to four bands of it, and its right neighbour, band by band.
     struct alignas(32) Neighbours
     {
         std::array<std::int16_t, 16> values;

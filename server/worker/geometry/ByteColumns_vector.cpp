@@ -14,7 +14,7 @@ namespace {
 
 constexpr int bandsAtOnce = 4;
 
-// What the processor is asked for where HasVectorUnit() has found it; the rest of the program does without.
+// The instructions that HasVectorUnit() looks for; the rest of the program is compiled without them.
 #define WITH_VECTOR_UNIT __attribute__((target("avx2")))
 
 template<int count>
@@ -34,13 +34,13 @@ bool ByteColumns::HasVectorUnit()
 }
 
 template<int count>
-WITH_VECTOR_UNIT void ByteColumns::Take(const Sources& sources)
+WITH_VECTOR_UNIT void ByteColumns::Load(const Sources& sources)
 {
     const std::uint8_t* upper = sources[0];
     const std::uint8_t* lower = sources[1];
     const int columns = int(neighbours.size());
-    // Four bytes are read in one step, but three are not, and what is read beyond a pixel does no harm. Beyond the line
-    // it would.
+    // Four bytes are read in one step, three are not. Reading a byte beyond a pixel is harmless, but not beyond the
+    // line.
     const int wideColumns = columns - (bandsAtOnce + bands - 1) / bands;
     auto* to = reinterpret_cast<__m256i*>(neighbours.data());
     __m256i left = _mm256_setzero_si256();
@@ -61,7 +61,7 @@ WITH_VECTOR_UNIT void ByteColumns::Take(const Sources& sources)
 }
 
 template<int count>
-WITH_VECTOR_UNIT void ByteColumns::Give(const Targets& targets) const
+WITH_VECTOR_UNIT void ByteColumns::Store(const Targets& targets) const
 {
     const __m256i zero = _mm256_setzero_si256();
     const auto* const allOld = reinterpret_cast<const __m256i*>(neighbours.data());
@@ -92,8 +92,8 @@ WITH_VECTOR_UNIT void ByteColumns::Give(const Targets& targets) const
 template<int count>
 void ByteColumns::ReduceBands(const Sources& sources, const Targets& targets)
 {
-    Take<count>(sources);
-    Give<count>(targets);
+    Load<count>(sources);
+    Store<count>(targets);
 }
 
 void ByteColumns::ReduceSideBySide(const Sources& sources, const Targets& targets)

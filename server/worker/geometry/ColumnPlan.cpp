@@ -47,7 +47,7 @@ ColumnPlan::ColumnPlan(int oldWidth, int newWidth)
 void ColumnPlan::AppendWeights(const std::vector<double>& exact)
 {
     weights.insert(weights.end(), exact.begin(), exact.end());
-    // What rounding takes from one the next one gets: their sum stays, however small they are.
+    // The rounding error of each is passed on to the next: their sum stays exact, however small they are.
     double rest = 0.0;
     for (const double weight : exact) {
         const double wanted = weight * (1 << wholeBits) + rest;

@@ -5,8 +5,8 @@
 
 namespace BatchWorker {
 
-/// Which old columns of a picture make a new one, by the Lanczos filter of three lobes, as wide as the reduction asks
-/// for: `taps` of them, from firsts[column] on. Their weights add up to one.
+/// Which old columns of a picture make a new one, by the Lanczos filter of three lobes, scaled by the reduction: `taps`
+/// of them, from firsts[column] on. Their weights add up to one.
 struct ColumnPlan
 {
     ColumnPlan(int oldWidth, int newWidth);

@@ -19,12 +19,12 @@ struct Geometry
     bool IsScaled() const { return scaledSize != part.size(); }
 };
 
-/// The size of a picture of `size` pixels after `settings`; at least 1 x 1. Settings without sense (a length that is
-/// no positive number, a resolution below 1) leave the size alone.
+/// The size of a picture of `size` pixels after `settings`; at least 1 x 1. Invalid settings (a length that is no
+/// positive number, a resolution below 1) leave the size unchanged.
 QSize SizeAfter(const QSize& size, const ZTBatchOutputSettings::ImageSize& settings);
 
-/// The frame of `frame` pixels in a picture of `size` pixels, which is not smaller, where `alignment`, Qt alignment
-/// flags, puts it; in the middle in a direction that has no flag.
+/// The frame of `frame` pixels in a picture of `size` pixels, which is not smaller, placed by `alignment`, Qt alignment
+/// flags; centred in a direction that has no flag.
 QRect AlignedRect(const QSize& frame, const QSize& size, int alignment);
 
 /// The largest size of the aspect ratio of `ratio` within `size`; at least 1 x 1.

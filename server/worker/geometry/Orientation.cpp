@@ -47,7 +47,7 @@ QRect StoredRect(const QRect& upright, const QSize& uprightSize, int orientation
 
 QRect UprightRect(const QRect& stored, const QSize& storedSize, int orientation)
 {
-    // Each orientation is its own reverse, but for the two quarter turns, which are each other's.
+    // Each orientation is its own inverse, but for the two quarter turns, which are the inverse of each other.
     constexpr int quarterTurn = 6;
     constexpr int otherQuarterTurn = 8;
     if (orientation == quarterTurn) {

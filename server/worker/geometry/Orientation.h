@@ -10,7 +10,7 @@
 /// EXIF orientations 1 to 8: how a stored picture has to be mirrored and turned to stand upright.
 namespace BatchWorker {
 
-/// The orientation that the metadata of `picture` state; 1 (upright) when they state none, or nonsense.
+/// The orientation that the metadata of `picture` state; 1 (upright) when they state none or an invalid one.
 int OrientationOf(const Picture& picture);
 
 /// Whether width and height change places.

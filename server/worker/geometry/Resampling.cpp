@@ -2,6 +2,8 @@
 
 #include "ColumnReduction.h"
 
+#include "server/worker/pixels/WeightedFilter.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -32,17 +34,7 @@ Picture Scaled(const Picture& picture, const QSize& size)
     if (size == QSize(picture.width(), picture.height())) {
         return picture;
     }
-    const bool hasSixteenBits = picture.format() == VIPS_FORMAT_USHORT;
-    if (!picture.has_alpha() && !hasSixteenBits) {
-        return ScaledAsIs(picture, size);
-    }
-    // Whole numbers of 16 bits would be scaled with weights that do not add up to one: white would come out grey.
-    const Picture exact = hasSixteenBits ? picture.cast(VIPS_FORMAT_FLOAT) : picture;
-    const Picture scaled =
-        picture.has_alpha() ? ScaledAsIs(exact.premultiply(), size).unpremultiply() : ScaledAsIs(exact, size);
-    return scaled.rint()
-        .cast(picture.format())
-        .copy(Picture::option()->set("interpretation", picture.interpretation()));
+    return FilteredByOpacity(picture, [&size](const Picture& source) { return ScaledAsIs(source, size); });
 }
 
 // The frame lies between the pixels of a source that was loaded smaller: the whole is scaled, then the frame is cut

@@ -20,7 +20,7 @@ int Open()
         return nameless;
     }
 #endif
-    // Not every file system makes them; there a name is given for a moment.
+    // Not every file system supports these; otherwise the file has a name for a moment.
     QByteArray name = folder + "/velkora-XXXXXX";
     const int named = mkostemp(name.data(), O_CLOEXEC);
     if (named >= 0) {

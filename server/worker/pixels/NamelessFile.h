@@ -5,8 +5,8 @@
 
 namespace BatchWorker {
 
-/// An empty file in the temporary folder that goes with this object, and with the process, however that ends: it has no
-/// name that could stay behind.
+/// An empty file in the temporary folder that is gone with this object, and with the process, however that ends: it has
+/// no name, so nothing can be left behind.
 class NamelessFile
 {
 public:

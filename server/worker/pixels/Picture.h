@@ -11,10 +11,10 @@
 /// kind of the picture that it gets, and states where it does not.
 ///
 /// Pixels may be readable only once, from top to bottom, as a decoder gives them. A stage that looks at them in another
-/// order (to turn them, to measure them first) takes them by WithRandomAccess() of PixelForms.h.
+/// order (to turn them, to measure them first) calls WithRandomAccess() of RandomAccess.h before.
 ///
 /// A stage builds a part of a libvips pipeline and returns at once; pixels flow when the result is encoded. Where it
-/// can work line by line it does, so that a large picture never stands in memory as a whole.
+/// can work line by line it does, so that a large picture is never in memory as a whole.
 namespace BatchWorker {
 
 using Picture = vips::VImage;

@@ -1,19 +1,27 @@
 #pragma once
 
-#include "server/protocol/WorkerMessages.h"
+#include <QByteArray>
+#include <QString>
 
 #include <exception>
 
 namespace BatchWorker {
 
-/// Why a picture cannot be made: thrown by the stages, turned into a Report by the worker.
+/// Why a picture cannot be made: thrown by all stages, turned into a report by the worker.
 class PictureFailure : public std::exception
 {
 public:
-    PictureFailure(BatchProtocol::Case failure, ZTBatchMessage::Error error, const QString& reason,
-                   const QString& nearestFormat = {})
-        : failure(failure)
-        , error(error)
+    enum class Kind {
+        DamagedFile,      ///< the file is missing, unreadable or damaged
+        UnknownFormat,    ///< no decoder knows the file
+        TooLarge,         ///< more pixels than the limit, or more memory than a worker may use
+        ProcessingFailed, ///< an effect or the framing cannot be done
+        FormatCannotHold, ///< the format cannot be written, or cannot hold this picture
+        OutputFailed      ///< the result cannot be written
+    };
+
+    PictureFailure(Kind kind, const QString& reason, const QString& nearestFormat = {})
+        : kind(kind)
         , reason(reason)
         , nearestFormat(nearestFormat)
         , text(reason.toUtf8())
@@ -22,10 +30,9 @@ public:
 
     const char* what() const noexcept override { return text.constData(); }
 
-    BatchProtocol::Case failure;
-    ZTBatchMessage::Error error;
+    Kind kind;
     QString reason;        ///< for users
-    QString nearestFormat; ///< for Case::WriteToFormat
+    QString nearestFormat; ///< for FormatCannotHold: one that can hold the picture
 
 private:
     QByteArray text;
@@ -33,32 +40,32 @@ private:
 
 inline PictureFailure DamagedFile(const QString& reason)
 {
-    return {BatchProtocol::Case::Input, ZTBatchMessage::ReadFileError, reason};
+    return {PictureFailure::Kind::DamagedFile, reason};
 }
 
 inline PictureFailure UnknownFormat(const QString& reason)
 {
-    return {BatchProtocol::Case::Input, ZTBatchMessage::UnsupportedInputFormat, reason};
+    return {PictureFailure::Kind::UnknownFormat, reason};
 }
 
 inline PictureFailure TooLarge(const QString& reason)
 {
-    return {BatchProtocol::Case::Input, ZTBatchMessage::ImageTooLarge, reason};
-}
-
-inline PictureFailure FormatCannotHold(const QString& reason, const QString& nearestFormat)
-{
-    return {BatchProtocol::Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat, reason, nearestFormat};
-}
-
-inline PictureFailure OutputFailed(const QString& reason)
-{
-    return {BatchProtocol::Case::Output, ZTBatchMessage::WriteOutputFormatError, reason};
+    return {PictureFailure::Kind::TooLarge, reason};
 }
 
 inline PictureFailure ProcessingFailed(const QString& reason)
 {
-    return {BatchProtocol::Case::Processing, ZTBatchMessage::ApplyAdjustmentError, reason};
+    return {PictureFailure::Kind::ProcessingFailed, reason};
+}
+
+inline PictureFailure FormatCannotHold(const QString& reason, const QString& nearestFormat)
+{
+    return {PictureFailure::Kind::FormatCannotHold, reason, nearestFormat};
+}
+
+inline PictureFailure OutputFailed(const QString& reason)
+{
+    return {PictureFailure::Kind::OutputFailed, reason};
 }
 
 } // namespace BatchWorker

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "GeneratedPicture.h"
 #include "PixelForms.h"
 
 #include <array>
@@ -11,19 +11,6 @@
 /// Makes pictures from functions of pixels. Everything here builds part of a pipeline and returns at once; the
 /// functions run later, on several threads at a time, and must not throw.
 namespace BatchWorker {
-
-/// Fills the area of `output` from `inputs`, of which each holds the same area, wider by the margin on every side.
-using AreaFunction = std::function<void(VipsRegion* const* inputs, VipsRegion* output)>;
-
-/// A picture with the metadata and the size of the first of `inputs`, less `margin` on every side, and with its bands
-/// and its format.
-Picture FilterAreas(const std::vector<Picture>& inputs, int margin, AreaFunction function);
-
-/// The channels without alpha: 1 or 3.
-int ColourBands(const Picture& picture);
-
-/// The largest value of a channel: 255 or 65535.
-double LargestValue(const Picture& picture);
 
 using ValueFunction = std::function<double(double)>;
 
@@ -43,18 +30,18 @@ Sample SampleOf(double value, double largest)
 
 /// Colour of a pixel: one or three values of 0 to 1, of which the function changes what it likes.
 template<typename Sample, typename Function>
-void MapColoursOfLines(VipsRegion* const* inputs, VipsRegion* output, Function& function)
+void MapColoursOfLines(VipsRegion* output, const std::vector<VipsRegion*>& inputs, Function& function)
 {
     const VipsRect& area = output->valid;
     const int bands = output->im->Bands;
     const int colourBands = bands < 3 ? 1 : 3;
     constexpr double largest = sizeof(Sample) == 1 ? 255.0 : 65535.0;
-    const int otherBands = inputs[1] ? inputs[1]->im->Bands : 0;
+    VipsRegion* const second = inputs.size() > 1 ? inputs[1] : nullptr;
+    const int otherBands = second ? second->im->Bands : 0;
     for (int y = area.top; y < area.top + area.height; ++y) {
-        const auto* in = reinterpret_cast<const Sample*>(VIPS_REGION_ADDR(inputs[0], area.left, y));
-        const auto* other =
-            inputs[1] ? reinterpret_cast<const float*>(VIPS_REGION_ADDR(inputs[1], area.left, y)) : nullptr;
-        auto* out = reinterpret_cast<Sample*>(VIPS_REGION_ADDR(output, area.left, y));
+        const auto* in = PixelAt<const Sample>(inputs[0], area.left, y);
+        const auto* other = second ? PixelAt<const float>(second, area.left, y) : nullptr;
+        auto* out = PixelAt<Sample>(output, area.left, y);
         for (int x = area.left; x < area.left + area.width; ++x) {
             std::array<double, 3> colour{};
             for (int band = 0; band < colourBands; ++band) {
@@ -84,14 +71,15 @@ Picture MapColours(const Picture& picture, const Picture* other, Function functi
     if (other) {
         inputs.push_back(*other);
     }
-    if (HasSixteenBits(picture)) {
-        return FilterAreas(inputs, 0, [function](VipsRegion* const* regions, VipsRegion* output) {
-            MapColoursOfLines<std::uint16_t>(regions, output, function);
-        });
-    }
-    return FilterAreas(inputs, 0, [function](VipsRegion* const* regions, VipsRegion* output) {
-        MapColoursOfLines<std::uint8_t>(regions, output, function);
-    });
+    const bool isDeep = HasSixteenBits(picture);
+    const auto map = [function, isDeep](VipsRegion* target, const std::vector<VipsRegion*>& regions) {
+        if (isDeep) {
+            MapColoursOfLines<std::uint16_t>(target, regions, function);
+        } else {
+            MapColoursOfLines<std::uint8_t>(target, regions, function);
+        }
+    };
+    return GeneratePicture(ShapeOf(picture), inputs, map);
 }
 
 /// The same by `function(std::array<double, 3>& colour)`.

@@ -1,14 +1,6 @@
 #include "PixelForms.h"
 
-#include "NamelessFile.h"
-
-#include "server/worker/colour/Colour.h"
-
-#include <atomic>
-#include <cerrno>
 #include <memory>
-#include <unistd.h>
-#include <vector>
 
 namespace BatchWorker {
 
@@ -28,66 +20,26 @@ VipsInterpretation InterpretationOf(const Picture& picture, int bits)
     }
 }
 
-// What copies of the picture in work have taken in memory, let go or not.
-std::atomic<guint64> takenInMemory{0};
-
-// The first copy may be large. An effect that reads another one needs room for itself.
-bool HasRoomInMemory(guint64 size)
-{
-    constexpr guint64 largest = guint64(256) << 20;
-    constexpr guint64 largestTogether = guint64(96) << 20;
-    const guint64 taken = takenInMemory;
-    return taken == 0 ? size <= largest : taken + size <= largestTogether;
-}
-
-// Called with the lines in their order.
-int WriteLines(VipsRegion* region, VipsRect* area, void* descriptor)
-{
-    const std::size_t lineSize = VIPS_REGION_SIZEOF_LINE(region);
-    for (int y = area->top; y < area->top + area->height; ++y) {
-        const VipsPel* line = VIPS_REGION_ADDR(region, 0, y);
-        std::size_t done = 0;
-        while (done < lineSize) {
-            const ssize_t count = write(*static_cast<int*>(descriptor), line + done, lineSize - done);
-            if (count < 0 && errno != EINTR) {
-                vips_error_system(errno, "worker", "the temporary folder has no room");
-                return -1;
-            }
-            done += count > 0 ? std::size_t(count) : 0;
-        }
-    }
-    return 0;
-}
-
-Picture OnDisk(const Picture& picture)
-{
-    auto file = std::make_unique<NamelessFile>();
-    int descriptor = file->Descriptor();
-    const int pixelSize = int(VIPS_IMAGE_SIZEOF_PEL(picture.get_image()));
-    VipsImage* bytes = nullptr;
-    if (vips_sink_disc(picture.get_image(), WriteLines, &descriptor) == 0) {
-        bytes = vips_image_new_from_file_raw(file->Path().constData(), picture.width(), picture.height(), pixelSize, 0);
-    }
-    if (!bytes) {
-        throw vips::VError();
-    }
-    const auto deleteFile = [](gpointer held) { delete static_cast<NamelessFile*>(held); };
-    g_object_set_data_full(G_OBJECT(bytes), "nameless-file", file.release(), deleteFile);
-    // Of what goes with the pixels, later stages need no more than this.
-    return WithProfile(Picture(bytes).copy(Picture::option()
-                                               ->set("bands", picture.bands())
-                                               ->set("format", picture.format())
-                                               ->set("interpretation", picture.interpretation())
-                                               ->set("xres", picture.xres())
-                                               ->set("yres", picture.yres())),
-                       ProfileOf(picture));
-}
-
 } // namespace
 
 bool HasSixteenBits(const Picture& picture)
 {
     return picture.format() == VIPS_FORMAT_USHORT;
+}
+
+double LargestValue(const Picture& picture)
+{
+    return HasSixteenBits(picture) ? 65535.0 : 255.0;
+}
+
+bool IsGrey(const Picture& picture)
+{
+    return picture.bands() < 3;
+}
+
+int ColourBands(const Picture& picture)
+{
+    return IsGrey(picture) ? 1 : 3;
 }
 
 Picture WithDepth(const Picture& picture, int bits)
@@ -107,13 +59,18 @@ Picture Flattened(const Picture& picture, const QColor& background)
     if (!picture.has_alpha()) {
         return picture;
     }
-    const double largest = HasSixteenBits(picture) ? 65535.0 : 255.0;
+    const double largest = LargestValue(picture);
     std::vector<double> colour{background.redF() * largest, background.greenF() * largest,
                                background.blueF() * largest};
     if (picture.bands() == 2) {
         colour = {qGray(background.rgb()) / 255.0 * largest};
     }
     return picture.flatten(Picture::option()->set("background", colour)->set("max_alpha", largest));
+}
+
+Picture WithAlpha(const Picture& picture)
+{
+    return picture.has_alpha() ? picture : picture.bandjoin_const({LargestValue(picture)});
 }
 
 Picture WithoutAlpha(const Picture& picture)
@@ -126,19 +83,12 @@ Picture AlphaOf(const Picture& picture)
     return picture.extract_band(picture.bands() - 1);
 }
 
-Picture WithRandomAccess(const Picture& picture)
+std::vector<std::uint8_t> BytesOf(const Picture& picture)
 {
-    const guint64 size = VIPS_IMAGE_SIZEOF_IMAGE(picture.get_image());
-    if (!HasRoomInMemory(size)) {
-        return OnDisk(picture);
-    }
-    takenInMemory += size;
-    return picture.copy_memory();
-}
-
-void BeginMemoryAccount()
-{
-    takenInMemory = 0;
+    std::size_t size = 0;
+    const std::unique_ptr<void, decltype(&g_free)> values(picture.write_to_memory(&size), g_free);
+    const auto* const first = static_cast<const std::uint8_t*>(values.get());
+    return {first, first + size};
 }
 
 } // namespace BatchWorker

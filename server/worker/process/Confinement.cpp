@@ -35,7 +35,8 @@ void GiveUpRights()
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     Bound(RLIMIT_CORE, 0);
-    // A file that grows beyond its limit, and a supervisor that is gone, are results of calls, no reasons to die.
+    // A file that exceeds its limit and a supervisor that has ended are reported by the calls; signals would end the
+    // process.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN);
     FilterSystemCalls();
@@ -43,7 +44,7 @@ void GiveUpRights()
 
 void BoundResources(const ServerLimits& limits)
 {
-    // The largest result, four channels of 16 bits, and as a temporary file in floating point.
+    // The largest file: four channels in floating point, in a temporary file.
     constexpr qint64 bytesOfPixel = 16;
     constexpr qint64 metadata = qint64(64) << 20;
     Bound(RLIMIT_FSIZE, limits.pixels * bytesOfPixel + metadata);

@@ -5,7 +5,7 @@
 namespace BatchWorker {
 
 /// Gives up what a worker never needs: new privileges, core files, the network, starting other programs. It ends with
-/// its supervisor. To be called once, before the first thread starts. What the system does not know is left out.
+/// its supervisor. To be called once, before the first thread starts. What the system does not support is left out.
 void GiveUpRights();
 
 /// Bounds memory and the size of files by `limits`, for good: later limits can only be narrower. Sanitizers reserve

@@ -36,7 +36,7 @@ void NoteWarning(const char* message)
     }
 }
 
-void TakeMessage(const gchar*, GLogLevelFlags level, const gchar* message, gpointer)
+void HandleLogMessage(const gchar*, GLogLevelFlags level, const gchar* message, gpointer)
 {
     if ((level & G_LOG_LEVEL_ERROR) != 0) {
         std::fprintf(stderr, "VelkoraBatchWorker: %s\n", message);
@@ -50,7 +50,7 @@ void TakeMessage(const gchar*, GLogLevelFlags level, const gchar* message, gpoin
     }
 }
 
-// An exception of a library that nobody catches.
+// For exceptions of a library that nobody catches.
 [[noreturn]] void EndOfUncaught()
 {
     try {
@@ -96,7 +96,7 @@ bool StartImagingLibrary(const char* program)
         std::fprintf(stderr, "VelkoraBatchWorker: the imaging library does not start: %s\n", vips_error_buffer());
         return false;
     }
-    g_log_set_default_handler(TakeMessage, nullptr);
+    g_log_set_default_handler(HandleLogMessage, nullptr);
     std::set_terminate(EndOfUncaught);
     vips_concurrency_set(1);
     vips_cache_set_max(0);

@@ -7,8 +7,8 @@ namespace BatchWorker {
 /// Starts the imaging library for a worker: one thread, no caches, and of all its readers and writers of files only
 /// those of the formats that this server knows. False, with the reason on standard error, when it does not start.
 ///
-/// From then on a library that finds no memory ends the process with the exit code workerOutOfMemory, where it would
-/// abort otherwise.
+/// From then on a library that cannot allocate memory ends the process with the exit code workerOutOfMemory, where it
+/// would abort otherwise.
 bool StartImagingLibrary(const char* program);
 
 /// What the library has warned of since the last call, each warning once. Safe on any thread.

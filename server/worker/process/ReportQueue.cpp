@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t longestQueue = 2;
 
-// A supervisor that is gone needs no report; the end of the worker's input follows.
+// A supervisor that has ended needs no report; the worker's input ends soon after.
 void WriteAll(int output, const QByteArray& bytes)
 {
     const char* rest = bytes.constData();

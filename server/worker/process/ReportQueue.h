@@ -1,8 +1,7 @@
 #pragma once
 
-#include "PictureMaker.h"
-
 #include "server/protocol/WorkerMessages.h"
+#include "server/worker/pipeline/PictureMaker.h"
 
 #include <condition_variable>
 #include <deque>
@@ -13,25 +12,25 @@
 
 namespace BatchWorker {
 
-/// Sends reports in order. A result's report waits until the result stands whole on disk under its name; that happens
-/// on a thread of its own, while the next picture is being made.
+/// Sends reports in order. The report on a result is sent once the result is complete on disk under its final name;
+/// that happens on a thread of its own, while the next picture is being made.
 class ReportQueue
 {
 public:
     /// Writes to the open file `output`, which stays the caller's.
     explicit ReportQueue(int output);
 
-    /// Sends what still waits.
+    /// Sends what is still queued.
     ~ReportQueue();
 
-    /// Says at once, ahead of the reports that wait, that the worker turns to the task `number`.
+    /// Reports at once, ahead of queued reports, that the worker begins the task `number`.
     void Begin(qint32 number);
 
-    /// Sends `report` after those before it. Waits while two results are unfinished already: a slow disk slows the
-    /// work down, instead of filling the memory.
+    /// Sends `report` after those before it. Waits while two reports are queued already: a slow disk slows the work
+    /// down, instead of filling the memory.
     void Send(const BatchProtocol::Report& report);
 
-    /// Gives `made` its final name, then sends `report`, or what went wrong in its place.
+    /// Gives `made` its final name, then sends `report`; on failure, the reason instead.
     void FinishAndSend(MadePicture made, bool replaceExisting, const BatchProtocol::Report& report);
 
 private:

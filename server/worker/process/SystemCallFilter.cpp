@@ -23,7 +23,7 @@ constexpr unsigned architecture = AUDIT_ARCH_X86_64;
 constexpr unsigned architecture = AUDIT_ARCH_AARCH64;
 #endif
 
-// Calls by which a process gets at other programs, other processes, or around this filter. The leak checker of the
+// Calls that start other programs, reach into other processes, or get around this filter. The leak checker of the
 // sanitizers stops the process by ptrace.
 constexpr std::array refusedCalls
 {
@@ -51,12 +51,12 @@ std::vector<sock_filter> Program()
     constexpr unsigned give = BPF_RET | BPF_K;
     const sock_filter refuse = Statement(give, SECCOMP_RET_ERRNO | EACCES);
     const sock_filter allow = Statement(give, SECCOMP_RET_ALLOW);
-    // Another architecture has other numbers: none of its calls are meant.
+    // Other architectures number their calls differently: none of theirs is allowed.
     std::vector<sock_filter> program{Statement(load, offsetof(seccomp_data, arch)), Jump(architecture, 1, 0),
                                      Statement(give, SECCOMP_RET_KILL_PROCESS),
                                      Statement(load, offsetof(seccomp_data, nr))};
 #ifdef __x86_64__
-    // The same goes for the second table of calls that this architecture has.
+    // The same holds for the second table of calls that this architecture has.
     constexpr unsigned secondTable = 0x40000000;
     program.push_back({BPF_JMP | BPF_JGE | BPF_K, 0, 1, secondTable});
     program.push_back(refuse);

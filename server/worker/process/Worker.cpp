@@ -3,28 +3,55 @@
 #include "Confinement.h"
 #include "FileProbe.h"
 #include "ImagingLibrary.h"
-#include "PictureMaker.h"
 
+#include "server/worker/pipeline/PictureMaker.h"
 #include "server/worker/pixels/PictureFailure.h"
+
+#include "ZTBatchDocument.h"
 
 #include <cerrno>
 #include <new>
 #include <unistd.h>
 
+using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace BatchWorker {
 
 namespace {
 
-Report ReportOf(const PictureFailure& problem)
+Report Failure(Case failure, ZTBatchMessage::Error error, const QString& reason)
 {
     Report report;
-    report.failure = problem.failure;
-    report.errorCode = problem.error;
-    report.reason = problem.reason;
-    report.nearestFormat = problem.nearestFormat;
+    report.failure = failure;
+    report.errorCode = error;
+    report.reason = reason;
     return report;
+}
+
+Report ReportOf(const PictureFailure& problem)
+{
+    using Kind = PictureFailure::Kind;
+    const auto failed = [&problem](Case failure, ZTBatchMessage::Error error) {
+        Report report = Failure(failure, error, problem.reason);
+        report.nearestFormat = problem.nearestFormat;
+        return report;
+    };
+    switch (problem.kind) {
+    case Kind::DamagedFile:
+        return failed(Case::Input, ZTBatchMessage::ReadFileError);
+    case Kind::UnknownFormat:
+        return failed(Case::Input, ZTBatchMessage::UnsupportedInputFormat);
+    case Kind::TooLarge:
+        return failed(Case::Input, ZTBatchMessage::ImageTooLarge);
+    case Kind::FormatCannotHold:
+        return failed(Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat);
+    case Kind::OutputFailed:
+        return failed(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+    case Kind::ProcessingFailed:
+        break;
+    }
+    return failed(Case::Processing, ZTBatchMessage::ApplyAdjustmentError);
 }
 
 // Calls `work`, which gives a report or throws.
@@ -36,7 +63,7 @@ Report Guarded(const Work& work)
     } catch (const PictureFailure& problem) {
         return ReportOf(problem);
     } catch (const std::bad_alloc&) {
-        return ReportOf(TooLarge(QStringLiteral("it takes more memory than a worker may use")));
+        return ReportOf(TooLarge(QStringLiteral("it needs more memory than a worker may use")));
     } catch (const std::exception& problem) {
         return ReportOf(ProcessingFailed(QString::fromLocal8Bit(problem.what())));
     }
@@ -76,7 +103,7 @@ bool Worker::Run(int input)
 void Worker::Handle(const ToWorker& message)
 {
     if (const Job* job = std::get_if<Job>(&message)) {
-        Take(*job);
+        Accept(*job);
     } else if (const ProbeTask* probe = std::get_if<ProbeTask>(&message)) {
         Probe(*probe);
     } else {
@@ -84,21 +111,34 @@ void Worker::Handle(const ToWorker& message)
     }
 }
 
-void Worker::Take(const Job& job)
+void Worker::Accept(const Job& job)
 {
-    BoundResources(job.limits);
+    limits = job.limits;
+    BoundResources(limits);
     settings.reset();
-    jobProblem = Guarded([this, &job] {
-        settings = ReadJob(job);
-        return Report();
-    });
+    jobProblem = Guarded([this, &job] { return Read(job); });
+}
+
+// The supervisor has checked the job; a file that the job names may have changed since.
+Report Worker::Read(const Job& job)
+{
+    ZTBatchDocument document;
+    if (!document.Deserialize(job.document)) {
+        return Failure(Case::Processing, ZTBatchMessage::ReadOutputSettingsError,
+                       QStringLiteral("the job cannot be read"));
+    }
+    const CheckedSettings checked = CheckSettings(document);
+    if (!checked.IsAccepted()) {
+        return Failure(Case::Processing, checked.refusal.code, checked.refusal.message);
+    }
+    settings = checked.settings;
+    return {};
 }
 
 void Worker::Probe(const ProbeTask& task)
 {
-    const ServerLimits limits = settings ? settings->limits : ServerLimits();
     reports.Begin(task.number);
-    Report report = Guarded([&task, &limits] { return ProbeFile(task, limits); });
+    Report report = Guarded([this, &task] { return ProbeFile(task, limits); });
     report.number = task.number;
     reports.Send(report);
 }
@@ -107,11 +147,11 @@ void Worker::Make(const PictureTask& task)
 {
     reports.Begin(task.number);
     MadePicture made;
-    TakeLibraryWarnings(); // of a task before, which had no use for them
+    TakeLibraryWarnings(); // discards those of earlier tasks
     Report report = Guarded([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
-            made = MakePicture(*settings, task);
+            made = MakePicture(*settings, limits, task);
             done.outputBytes = made.bytes;
             done.warnings = made.warnings + TakeLibraryWarnings();
         }

@@ -15,7 +15,7 @@ using namespace BatchWorker;
 
 namespace {
 
-// Libraries print to standard output when they please; the supervisor must see frames alone there.
+// Libraries may print to standard output at any time; the supervisor must read nothing but frames there.
 int TakeStandardOutput()
 {
     const int own = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
@@ -46,7 +46,7 @@ int main(int argc, char** argv)
     }
     vips_shutdown();
     if (!isUnderstood) {
-        std::fprintf(stderr, "VelkoraBatchWorker: the supervisor sent what is no message.\n");
+        std::fprintf(stderr, "VelkoraBatchWorker: the supervisor sent an invalid message.\n");
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;

@@ -55,7 +55,7 @@ Picture PictureOf(const Values& values, int width, int height, int bands, VipsBa
         .copy_memory();
 }
 
-Values ValuesOf(const Picture& picture)
+Values ExactValuesOf(const Picture& picture)
 {
     std::size_t size = 0;
     auto* const memory = static_cast<double*>(picture.cast(VIPS_FORMAT_DOUBLE).write_to_memory(&size));
@@ -135,7 +135,7 @@ void ColumnReductionTest::givesWeightedSums()
 
     // Half a step is the rounding's, the rest that of the weights.
     const double tolerance = largest > 1.0 ? 0.5 + largest * 1e-3 : 1e-5;
-    const Values found = ValuesOf(reduced);
+    const Values found = ExactValuesOf(reduced);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < newWidth; ++x) {
             for (int band = 0; band < bands; ++band) {
@@ -159,7 +159,7 @@ void ColumnReductionTest::keepsPlainValues()
         const double value = std::round(part * LargestOf(VipsBandFormat(format)));
         const Picture plain =
             PictureOf(Values(std::size_t(width * bands), value), width, 1, bands, VipsBandFormat(format));
-        for (const double found : ValuesOf(WithFewerColumns(plain, newWidth))) {
+        for (const double found : ExactValuesOf(WithFewerColumns(plain, newWidth))) {
             QVERIFY(std::abs(found - value) < 1e-5);
         }
     }
@@ -177,7 +177,7 @@ void ColumnReductionTest::findsTheSameInPieces()
     const int left = newWidth / 3;
     const int right = newWidth - newWidth / 4;
     const Picture piece = reduced.crop(left, 5, right - left, 7);
-    QCOMPARE(ValuesOf(piece), ValuesOf(reduced.copy_memory().crop(left, 5, right - left, 7)));
+    QCOMPARE(ExactValuesOf(piece), ExactValuesOf(reduced.copy_memory().crop(left, 5, right - left, 7)));
 }
 
 void ColumnReductionTest::everyUnitFindsTheSame_data()

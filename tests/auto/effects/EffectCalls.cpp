@@ -2,6 +2,7 @@
 
 #include "job/effects/EffectCatalog.h"
 #include "server/worker/effects/Effects.h"
+#include "server/worker/pixels/PictureFailure.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,7 +24,7 @@ Picture Apply(const QString& id, const QByteArray& parameters, const Picture& pi
     if (!checked.IsValid()) {
         throw std::runtime_error(checked.error.toStdString());
     }
-    return ApplyEffect(id, checked.values, picture);
+    return ApplyEffect(*schema, checked.values, picture);
 }
 
 QString Refusal(const QString& id, const QByteArray& parameters)
@@ -35,9 +36,9 @@ QString Refusal(const QString& id, const QByteArray& parameters)
 QString Failure(const QString& id, const QByteArray& parameters, const Picture& picture)
 {
     try {
-        ApplyEffect(id, QJsonDocument::fromJson(parameters).object(), picture);
-    } catch (const EffectError& error) {
-        return QString::fromUtf8(error.what());
+        ApplyEffect(*FindEffect(id), QJsonDocument::fromJson(parameters).object(), picture);
+    } catch (const PictureFailure& failure) {
+        return failure.kind == PictureFailure::Kind::ProcessingFailed ? failure.reason : QStringLiteral("another kind");
     }
     return {};
 }

@@ -3,13 +3,12 @@
 
 #include "job/effects/EffectCatalog.h"
 #include "server/worker/effects/Effects.h"
-#include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/RandomAccess.h"
 
 #include <QtTest>
 
 using namespace BatchJob;
 using namespace BatchWorker;
-using namespace TestPictures;
 
 /// What holds for every effect and every form of picture.
 class tst_EffectProperties : public QObject
@@ -149,7 +148,7 @@ const QStringList& NeutralByDefault()
     return ids;
 }
 
-QByteArray Name(const Form& form)
+QByteArray Name(const PictureForm& form)
 {
     return QByteArray(form.colours == 1 ? "grey" : "RGB") + QByteArray::number(form.bits) +
            (form.hasAlpha ? " alpha" : "");
@@ -160,7 +159,7 @@ QByteArray Name(const Form& form)
 void tst_EffectProperties::initTestCase()
 {
     QVERIFY(VIPS_INIT("tst_effectproperties") == 0);
-    const Form rgba{3, 8, true};
+    const PictureForm rgba{3, 8, true};
     FromValues(rgba, 2, 1, {255, 0, 0, 255, 0, 0, 255, 128})
         .write_to_file(qPrintable(m_folder.filePath(QStringLiteral("mark.png"))));
     QFile cube(m_folder.filePath(QStringLiteral("warm.cube")));
@@ -200,7 +199,7 @@ void tst_EffectProperties::keepsTheForm()
     const QString id = QLatin1String(row.id);
     const QByteArray parameters = WithFiles(id, row.parameters);
 
-    for (const Form& form : AllForms()) {
+    for (const PictureForm& form : AllForms()) {
         for (const QSize& size : Sizes()) {
             Picture picture = Noise(form, size.width(), size.height());
             picture = picture.copy();
@@ -209,7 +208,7 @@ void tst_EffectProperties::keepsTheForm()
             const QByteArray where =
                 Name(form) + " " + QByteArray::number(size.width()) + "x" + QByteArray::number(size.height());
 
-            Form expected = form;
+            PictureForm expected = form;
             expected.colours = row.turnsGreyIntoRgb ? 3 : form.colours;
             expected.hasAlpha = form.hasAlpha || row.addsAlpha;
             QVERIFY2(FormOf(result) == expected, where.constData());
@@ -246,7 +245,7 @@ void tst_EffectProperties::neutralParametersChangeNothing()
     QFETCH(QString, id);
     QVERIFY(NeutralParameters().contains(id));
 
-    for (const Form& form : AllForms()) {
+    for (const PictureForm& form : AllForms()) {
         // A watermark with colour makes RGB of grey even where it cannot be seen.
         if (id == QLatin1String("watermark-image") && form.colours == 1) {
             continue;
@@ -291,7 +290,8 @@ void tst_EffectProperties::readsFromTopToBottom()
     QFETCH(int, number);
     const QString id = QLatin1String(Cases()[number].id);
     const QByteArray parameters = WithFiles(id, Cases()[number].parameters);
-    const QJsonObject complete = CheckEffect(*FindEffect(id), parameters).values;
+    const EffectSchema& effect = *FindEffect(id);
+    const QJsonObject complete = CheckEffect(effect, parameters).values;
 
     const QString path = m_folder.filePath(QStringLiteral("tall.png"));
     if (!QFile::exists(path)) {
@@ -299,24 +299,27 @@ void tst_EffectProperties::readsFromTopToBottom()
     }
     Picture sequential =
         Picture::new_from_file(qPrintable(path), Picture::option()->set("access", VIPS_ACCESS_SEQUENTIAL));
-    if (NeedsRandomAccess(id, complete)) {
+    if (effect.NeedsRandomAccess(complete)) {
         sequential = WithRandomAccess(sequential);
     }
     const Picture whole = Picture::new_from_file(qPrintable(path));
 
-    QVERIFY(ValuesOf(ApplyEffect(id, complete, sequential)) == ValuesOf(ApplyEffect(id, complete, whole)));
+    QVERIFY(ValuesOf(ApplyEffect(effect, complete, sequential)) == ValuesOf(ApplyEffect(effect, complete, whole)));
 }
 
 void tst_EffectProperties::readsOnlyOnceWhereItSaysSo()
 {
-    QVERIFY(NeedsRandomAccess(QStringLiteral("rotate"), {{QStringLiteral("angle"), 90.0}}));
-    QVERIFY(NeedsRandomAccess(QStringLiteral("rotate"), {{QStringLiteral("angle"), 1.5}}));
-    QVERIFY(!NeedsRandomAccess(QStringLiteral("rotate"), {{QStringLiteral("angle"), -360.0}}));
-    QVERIFY(!NeedsRandomAccess(QStringLiteral("flip"), {{QStringLiteral("direction"), QStringLiteral("horizontal")}}));
-    QVERIFY(NeedsRandomAccess(QStringLiteral("flip"), {{QStringLiteral("direction"), QStringLiteral("both")}}));
-    QVERIFY(!NeedsRandomAccess(QStringLiteral("blur"), {{QStringLiteral("sigma"), 200.0}}));
-    QVERIFY(NeedsRandomAccess(QStringLiteral("sharpen"), {{QStringLiteral("sigma"), 12.0}}));
-    QVERIFY(!NeedsRandomAccess(QStringLiteral("sharpen"), {{QStringLiteral("sigma"), 1.0}}));
+    const auto needsRandomAccess = [](const char* id, const QJsonObject& parameters) {
+        return FindEffect(QLatin1String(id))->NeedsRandomAccess(parameters);
+    };
+    QVERIFY(needsRandomAccess("rotate", {{QStringLiteral("angle"), 90.0}}));
+    QVERIFY(needsRandomAccess("rotate", {{QStringLiteral("angle"), 1.5}}));
+    QVERIFY(!needsRandomAccess("rotate", {{QStringLiteral("angle"), -360.0}}));
+    QVERIFY(!needsRandomAccess("flip", {{QStringLiteral("direction"), QStringLiteral("horizontal")}}));
+    QVERIFY(needsRandomAccess("flip", {{QStringLiteral("direction"), QStringLiteral("both")}}));
+    QVERIFY(!needsRandomAccess("blur", {{QStringLiteral("sigma"), 200.0}}));
+    QVERIFY(needsRandomAccess("sharpen", {{QStringLiteral("sigma"), 12.0}}));
+    QVERIFY(!needsRandomAccess("sharpen", {{QStringLiteral("sigma"), 1.0}}));
 }
 
 QTEST_GUILESS_MAIN(tst_EffectProperties)

@@ -4,7 +4,6 @@
 #include <QtTest>
 
 using namespace BatchWorker;
-using namespace TestPictures;
 
 /// The values that come out of effects, against values computed from the definitions by another program, and by hand.
 class tst_Effects : public QObject
@@ -46,10 +45,10 @@ QString WrittenTo(const QTemporaryDir& folder, const QByteArray& text)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? file.fileName() : QString();
 }
 
-const Form grey8{1, 8, false};
-const Form rgb8{3, 8, false};
-const Form rgb16{3, 16, false};
-const Form rgba8{3, 8, true};
+const PictureForm grey8{1, 8, false};
+const PictureForm rgb8{3, 8, false};
+const PictureForm rgb16{3, 16, false};
+const PictureForm rgba8{3, 8, true};
 
 } // namespace
 
@@ -77,7 +76,7 @@ void tst_Effects::computes()
 {
     QFETCH(QByteArrayList, row);
 
-    const Form form{row[2].toInt(), row[3].toInt(), row[4] == "1"};
+    const PictureForm form{row[2].toInt(), row[3].toInt(), row[4] == "1"};
     const Picture picture = FromValues(form, row[5].toInt(), row[6].toInt(), Numbers(row[7]));
     const Picture result = EffectCalls::Apply(QString::fromLatin1(row[0]), row[1], picture);
     const QVector<int> values = ValuesOf(result);
@@ -152,7 +151,7 @@ void tst_Effects::spreadsNothingWhereThereIsOneValue()
 
 void tst_Effects::countsNoHiddenColours()
 {
-    const Form greyAlpha{1, 8, true};
+    const PictureForm greyAlpha{1, 8, true};
     const Picture picture = FromValues(greyAlpha, 4, 1, {0, 0, 50, 255, 100, 1, 255, 0});
     QCOMPARE(ChannelOf(EffectCalls::Apply(QStringLiteral("auto-levels"), R"({"clip": 0})", picture), 0),
              (QVector<int>{0, 0, 255, 255}));

@@ -6,7 +6,6 @@
 #include <QProcess>
 
 using namespace BatchWorker;
-using namespace TestPictures;
 
 /// A real photo through our effects and through ImageMagick's operations of the same definition.
 class tst_EffectsAgainstMagick : public QObject
@@ -31,7 +30,7 @@ void tst_EffectsAgainstMagick::initTestCase()
     }
     Picture::thumbnail(photo, 333)
         .pngsave(qPrintable(m_folder.filePath(QStringLiteral("photo.png"))), Picture::option()->set("strip", true));
-    const Form rgba{3, 8, true};
+    const PictureForm rgba{3, 8, true};
     Noise(rgba, 25, 18).write_to_file(qPrintable(m_folder.filePath(QStringLiteral("mark.png"))));
 }
 

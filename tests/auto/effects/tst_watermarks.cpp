@@ -4,7 +4,6 @@
 #include <QtTest>
 
 using namespace BatchWorker;
-using namespace TestPictures;
 
 class tst_Watermarks : public QObject
 {
@@ -32,8 +31,8 @@ private:
 
 namespace {
 
-const Form rgb8{3, 8, false};
-const Form rgba8{3, 8, true};
+const PictureForm rgb8{3, 8, false};
+const PictureForm rgba8{3, 8, true};
 
 Picture Black(int width, int height)
 {

@@ -1,5 +1,7 @@
 #include "FramingPictures.h"
 
+#include "server/worker/framing/Framing.h"
+
 #include <QPainter>
 #include <QStringList>
 
@@ -14,6 +16,14 @@ ZTBatchOutputSettings::Transformation PlainFraming()
     framing.margins = QMargins();
     framing.shadowEnabled = false;
     return framing;
+}
+
+Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing, qint64 pixelLimit)
+{
+    BatchProtocol::ServerLimits limits;
+    limits.pixels = pixelLimit;
+    QStringList warnings;
+    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
 }
 
 Picture Uniform(int width, int height, const std::vector<double>& values, VipsBandFormat format)

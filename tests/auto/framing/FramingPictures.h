@@ -16,6 +16,10 @@ using BatchWorker::Picture;
 /// A record with everything off: no margins, no angle, no background, no shadow.
 ZTBatchOutputSettings::Transformation PlainFraming();
 
+/// The picture framed, in memory, because tests look at single pixels.
+Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
+                     qint64 pixelLimit = 1'000'000);
+
 /// A picture of one colour; its depth and kind follow from `format` and the number of `values`: 1 grey, 2 grey and
 /// alpha, 3 RGB, 4 RGB and alpha.
 Picture Uniform(int width, int height, const std::vector<double>& values, VipsBandFormat format = VIPS_FORMAT_UCHAR);

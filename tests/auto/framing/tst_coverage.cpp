@@ -1,4 +1,4 @@
-#include "server/worker/framing/Coverage.h"
+#include "server/worker/geometry/Coverage.h"
 
 #include <QTest>
 #include <QTransform>

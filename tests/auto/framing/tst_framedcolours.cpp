@@ -1,27 +1,20 @@
 #include "FramingPictures.h"
 
+#include "server/worker/colour/ColourProfile.h"
 #include "server/worker/colour/PictureColours.h"
-#include "server/worker/framing/Framing.h"
+#include "server/worker/pixels/EmbeddedProfile.h"
+#include "server/worker/pixels/PictureFailure.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace FramingPictures;
 using BatchJob::BackgroundType;
-using BatchWorker::FramingError;
+using BatchWorker::PictureFailure;
 
 namespace {
-
-// Computed once, because tests look at single pixels.
-Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
-                     qint64 pixelLimit = 1'000'000)
-{
-    BatchProtocol::ServerLimits limits;
-    limits.pixels = pixelLimit;
-    QStringList warnings;
-    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
-}
 
 // A picture in one of the profiles that the library brings along.
 Picture WithProfile(const Picture& picture, const char* profile)
@@ -36,6 +29,30 @@ Picture WithProfile(const Picture& picture, const char* profile)
     vips_image_set_blob_copy(result.get_image(), VIPS_META_ICC_NAME, bytes, size);
     vips_area_unref(VIPS_AREA(blob));
     return result;
+}
+
+// An ICC profile (version 2.1) of grey values that are proportional to light.
+QByteArray LinearGreyProfile()
+{
+    const auto number = [](const char* text) {
+        return quint32(text[0]) << 24 | quint32(text[1]) << 16 | quint32(text[2]) << 8 | quint32(text[3]);
+    };
+    const quint32 whiteX = 0xF6D6; // D50, as ICC.1 writes it
+    const quint32 whiteY = 0x10000;
+    const quint32 whiteZ = 0xD32D;
+    QByteArray profile;
+    QDataStream stream(&profile, QIODevice::WriteOnly);
+    stream << quint32(192) << quint32(0) << quint32(0x02100000) << number("mntr") << number("GRAY") << number("XYZ ");
+    stream << quint32(0) << quint32(0) << quint32(0) << number("acsp");
+    stream << quint32(0) << quint32(0) << quint32(0) << quint32(0) << quint64(0) << quint32(0);
+    stream << whiteX << whiteY << whiteZ << quint32(0);
+    profile.append(QByteArray(128 - profile.size(), '\0'));
+    stream.device()->seek(128);
+    stream << quint32(2) << number("wtpt") << quint32(156) << quint32(20) << number("kTRC") << quint32(176)
+           << quint32(14);
+    stream << number("XYZ ") << quint32(0) << whiteX << whiteY << whiteZ;
+    stream << number("curv") << quint32(0) << quint32(1) << quint16(0x0100) << quint16(0);
+    return profile;
 }
 
 ZTBatchOutputSettings::Transformation OnFile(const QString& file)
@@ -97,6 +114,34 @@ private Q_SLOTS:
         const Picture same = FramePicture(WithProfile(Uniform(20, 20, {1, 2, 3}), "srgb"), framing);
         QVERIFY(qAbs(same.getpoint(0, 0)[0] - 200) <= 1);
         QVERIFY(qAbs(same.getpoint(0, 0)[1] - 40) <= 1);
+    }
+
+    // A light of 55 / 255 is the value 128 in sRGB.
+    void GreyOfAProfileBecomesNeutralSrgb()
+    {
+        const Picture grey = BatchWorker::WithProfile(Uniform(20, 20, {55}), LinearGreyProfile());
+        ZTBatchOutputSettings::Transformation framing = PlainFraming();
+        framing.margins = QMargins(5, 5, 5, 5);
+        framing.backgroundType = int(BackgroundType::Colour);
+        framing.backgroundColor = QColor(200, 40, 60);
+        const Picture framed = FramePicture(grey, framing);
+        const std::vector<double> inside = framed.getpoint(10, 10);
+        QCOMPARE(inside.size(), std::size_t(3));
+        QVERIFY2(qAbs(inside[0] - 128) <= 1, qPrintable(PixelText(framed, 10, 10)));
+        QVERIFY2(inside[0] == inside[1] && inside[0] == inside[2], qPrintable(PixelText(framed, 10, 10)));
+        QCOMPARE(PixelText(framed, 0, 0), QStringLiteral("200 40 60"));
+        QVERIFY(BatchWorker::IsSrgb(BatchWorker::ProfileOf(framed)));
+    }
+
+    void PaintForAGreyPictureIsOfItsProfile()
+    {
+        const Picture grey = BatchWorker::WithProfile(Uniform(20, 20, {55}), LinearGreyProfile());
+        const BatchWorker::PaintablePicture paintable = BatchWorker::PaintableWith(QColor(128, 128, 128), grey);
+        QCOMPARE(paintable.paint.size(), std::size_t(1));
+        QVERIFY2(qAbs(paintable.paint[0] - 55) <= 1, qPrintable(QString::number(paintable.paint[0])));
+        // Without a profile a grey is taken as it is written.
+        QCOMPARE(BatchWorker::PaintableWith(QColor(128, 128, 128), Uniform(20, 20, {55})).paint,
+                 std::vector<double>{128});
     }
 
     void BackgroundFilesCoverTheFrame()
@@ -179,12 +224,12 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("large.png"));
         Uniform(40, 30, {123}).pngsave(path.toUtf8().constData());
         const Picture picture = Uniform(20, 20, {0});
-        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, OnFile(path), 1199), FramingError);
+        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, OnFile(path), 1199), PictureFailure);
         QCOMPARE(FramePicture(picture, OnFile(path), 1200).width(), 20);
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.backgroundCustomOutput = true;
         framing.backgroundCustomSize = QSize(1'000'000, 1'000'000);
-        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, framing), FramingError);
+        QVERIFY_EXCEPTION_THROWN(FramePicture(picture, framing), PictureFailure);
     }
 
     void FilesThatCannotBeReadAreNamed_data()
@@ -214,8 +259,9 @@ private Q_SLOTS:
         try {
             FramePicture(Uniform(20, 20, {0, 0, 0}), OnFile(path));
             QFAIL("A background was read that is none.");
-        } catch (const FramingError& error) {
-            QVERIFY2(QString::fromUtf8(error.what()).contains(path), error.what());
+        } catch (const PictureFailure& failure) {
+            QCOMPARE(failure.kind, PictureFailure::Kind::ProcessingFailed);
+            QVERIFY2(failure.reason.contains(path), failure.what());
         }
     }
 

@@ -1,7 +1,5 @@
 #include "FramingPictures.h"
 
-#include "server/worker/framing/Framing.h"
-
 #include <QTest>
 
 #include <cmath>
@@ -10,16 +8,6 @@ using namespace FramingPictures;
 using BatchJob::ShadowMode;
 
 namespace {
-
-// Computed once, because tests look at single pixels.
-Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
-                     qint64 pixelLimit = 1'000'000)
-{
-    BatchProtocol::ServerLimits limits;
-    limits.pixels = pixelLimit;
-    QStringList warnings;
-    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
-}
 
 // A white square of 20 pixels in the middle of a white frame of 60, with a black shadow.
 ZTBatchOutputSettings::Transformation ShadowFraming(int angle, int distance, int size)

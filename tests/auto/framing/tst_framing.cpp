@@ -1,6 +1,5 @@
 #include "FramingPictures.h"
 
-#include "server/worker/framing/Framing.h"
 #include "server/worker/framing/Patterns.h"
 
 #include <QSet>
@@ -14,16 +13,6 @@ using BatchJob::BackgroundType;
 using BatchJob::Blending;
 
 namespace {
-
-// Computed once, because tests look at single pixels.
-Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
-                     qint64 pixelLimit = 1'000'000)
-{
-    BatchProtocol::ServerLimits limits;
-    limits.pixels = pixelLimit;
-    QStringList warnings;
-    return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
-}
 
 ZTBatchOutputSettings::Transformation OnColour(const QColor& colour, int margin)
 {

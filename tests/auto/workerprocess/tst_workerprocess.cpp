@@ -1,6 +1,11 @@
 #include "TestPictures.h"
 #include "WorkerProcess.h"
 
+#include "job/values/JobValues.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTStyle.h"
+
 #include <QDir>
 #include <QTest>
 
@@ -8,6 +13,21 @@
 
 using namespace BatchProtocol;
 using namespace BatchWorker;
+
+namespace {
+
+/// A job of PNG files whose width is `width`.
+Job ScaledJob(BatchJob::SizeRestriction restriction, int width)
+{
+    return JobOf(QStringLiteral("PNG"), {}, [restriction, width](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::ImageSize size;
+        size.restriction = int(restriction);
+        size.size = width;
+        output.SetImageSizeSettings(size);
+    });
+}
+
+} // namespace
 
 /// The worker as its supervisor sees it: messages, reports, files.
 class WorkerProcessTest : public QObject
@@ -19,6 +39,7 @@ private Q_SLOTS:
     void init();
     void endsWithItsInput();
     void refusesWhatIsNoMessage();
+    void reportsARefusedJob();
     void writesAPicture();
     void reportsInOrder();
     void reportsBadInput_data();
@@ -85,7 +106,25 @@ void WorkerProcessTest::refusesWhatIsNoMessage()
     worker.SendBytes(QByteArray("\0\0\0\1\x77", 5));
     QCOMPARE(worker.NextReport().has_value(), false);
     QCOMPARE(worker.ExitCode(), 1);
-    QVERIFY(worker.ErrorOutput().contains("no message"));
+    QVERIFY(worker.ErrorOutput().contains("an invalid message"));
+}
+
+void WorkerProcessTest::reportsARefusedJob()
+{
+    WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
+    const PictureTask task = Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg"));
+    WorkerProcess worker;
+    worker.Send(JobOf(
+        [](ZTBatchDocument& document) { document.GetStyle()->AppendEffect(QStringLiteral("sparkle"), {}, true); }));
+    const Report report = worker.Do(task);
+    QCOMPARE(report.failure, Case::Processing);
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::NoAdjustment));
+    QVERIFY2(report.reason.contains(QStringLiteral("\"sparkle\"")), qUtf8Printable(report.reason));
+    QVERIFY(!QFile::exists(task.outputFile));
+
+    // The next job is none the worse for it.
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    QCOMPARE(worker.Do(task).reason, QString());
 }
 
 void WorkerProcessTest::writesAPicture()
@@ -199,12 +238,7 @@ void WorkerProcessTest::replacesOnRequest()
     // The source itself is the hardest case: it is read while its successor is written.
     WritePicture(Chart(300, 200), Path(QStringLiteral("in.png")));
     WorkerProcess worker;
-    worker.Send(JobOf(QStringLiteral("PNG"), {}, [](ZTBatchOutputSettings& output) {
-        ZTBatchOutputSettings::ImageSize size;
-        size.restriction = 1;
-        size.size = 30;
-        output.SetImageSizeSettings(size);
-    }));
+    worker.Send(ScaledJob(BatchJob::SizeRestriction::Fit, 30));
     PictureTask task = Task(QStringLiteral("in.png"), QStringLiteral("in.png"));
     task.format = QStringLiteral("PNG");
     task.replaceExisting = true;
@@ -247,12 +281,7 @@ void WorkerProcessTest::scalesAPicture()
 {
     WritePicture(Chart(1200, 800, 64), Path(QStringLiteral("in.jpg")));
     WorkerProcess worker;
-    worker.Send(JobOf(QStringLiteral("PNG"), {}, [](ZTBatchOutputSettings& output) {
-        ZTBatchOutputSettings::ImageSize size;
-        size.restriction = 2;
-        size.size = 150;
-        output.SetImageSizeSettings(size);
-    }));
+    worker.Send(ScaledJob(BatchJob::SizeRestriction::ReduceOnly, 150));
     PictureTask task = Task(QStringLiteral("in.jpg"), QStringLiteral("out.png"));
     task.format = QStringLiteral("PNG");
     QCOMPARE(worker.Do(task).reason, QString());

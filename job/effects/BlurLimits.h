@@ -1,0 +1,9 @@
+#pragma once
+
+namespace BatchJob {
+
+/// Up to this standard deviation, in pixels, effects compute a Gaussian on the picture itself; above it on a reduced
+/// copy, for which the whole picture is read at once.
+constexpr double largestDirectSigma = 8.0;
+
+} // namespace BatchJob

@@ -1,0 +1,32 @@
+#include "EffectParameters.h"
+#include "EffectRecords.h"
+
+namespace BatchJob {
+
+namespace {
+
+// The blurred luma may be that of a reduced copy, which is complete before the picture itself is read.
+bool Always(const QJsonObject&)
+{
+    return true;
+}
+
+} // namespace
+
+EffectSchema ClarityEffect()
+{
+    EffectSchema effect;
+    effect.id = QStringLiteral("clarity");
+    effect.description =
+        QStringLiteral("Raises or lowers the contrast of larger structures, mostly in the middle tones");
+    effect.parameters = {NumberParameter("amount", 30, -100, 100, "percent", "below 0 softens"),
+                         NumberParameter("sigma", 40, 5, 500, "pixels", "size of the structures in the result")};
+    effect.definition =
+        QStringLiteral("Each channel changes by amount / 100 x 4 Y (1 - Y) (Y - B), where Y is the luma and B the "
+                       "luma blurred as by blur.");
+    effect.example = QByteArrayLiteral(R"({"amount": 80, "sigma": 15})");
+    effect.randomAccess = Always;
+    return effect;
+}
+
+} // namespace BatchJob

@@ -1,0 +1,19 @@
+#include "EffectParameters.h"
+#include "EffectRecords.h"
+
+namespace BatchJob {
+
+EffectSchema ExposureEffect()
+{
+    EffectSchema effect;
+    effect.id = QStringLiteral("exposure");
+    effect.description = QStringLiteral("Brightens or darkens as a longer or shorter exposure would");
+    effect.parameters = {NumberParameter("stops", 0, -10, 10, "stops", "how much; 1 doubles the light")};
+    effect.definition =
+        QStringLiteral("Light is multiplied by 2^stops: each value is decoded by the transfer function of sRGB (IEC "
+                       "61966-2-1), multiplied and encoded again.");
+    effect.example = QByteArrayLiteral(R"({"stops": 1})");
+    return effect;
+}
+
+} // namespace BatchJob

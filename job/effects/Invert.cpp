@@ -1,0 +1,16 @@
+#include "EffectParameters.h"
+#include "EffectRecords.h"
+
+namespace BatchJob {
+
+EffectSchema InvertEffect()
+{
+    EffectSchema effect;
+    effect.id = QStringLiteral("invert");
+    effect.description = QStringLiteral("Turns a picture into its negative");
+    effect.definition = QStringLiteral("v becomes 1 - v.");
+    effect.example = QByteArrayLiteral("{}");
+    return effect;
+}
+
+} // namespace BatchJob

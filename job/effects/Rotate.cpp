@@ -1,0 +1,34 @@
+#include "EffectParameters.h"
+#include "EffectRecords.h"
+
+#include <cmath>
+
+namespace BatchJob {
+
+namespace {
+
+bool Turns(const QJsonObject& parameters)
+{
+    return std::fmod(parameters[QLatin1String("angle")].toDouble(), 360.0) != 0.0;
+}
+
+} // namespace
+
+EffectSchema RotateEffect()
+{
+    EffectSchema effect;
+    effect.id = QStringLiteral("rotate");
+    effect.description = QStringLiteral("Turns a picture clockwise; the result is as large as it needs");
+    effect.parameters = {NumberParameter("angle", 0, -360, 360, "degrees", "multiples of 90 keep every pixel as it is"),
+                         ColourParameter("background", "#ffffff",
+                                         "fills the corners; with transparency the result has an alpha channel")};
+    effect.definition =
+        QStringLiteral("Bicubic interpolation around the middle, weighted by opacity; borders are smooth by the "
+                       "share of each pixel that they cover. The canvas is the smallest that holds the picture. A "
+                       "grey picture becomes a colour picture for a background with colour.");
+    effect.example = QByteArrayLiteral(R"({"angle": 12, "background": "#202020"})");
+    effect.randomAccess = Turns;
+    return effect;
+}
+
+} // namespace BatchJob

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "server/worker/pixels/Picture.h"
+
+#include <QSize>
+#include <QTransform>
+
+namespace BatchWorker {
+
+/// `picture` drawn onto a canvas of `size` by `toCanvas`, a rotation with or without a scale, with bicubic
+/// interpolation. Alpha, where there is one, has to be premultiplied. The picture has to be readable in any order.
+///
+/// Its border pixels are repeated beyond its edges, so that a pixel of the canvas that it covers in part has its whole
+/// colour: how much of the pixel it covers is for the caller to weigh in, by Coverage of the corners that `toCanvas`
+/// gives. Pixels that it does not touch mean nothing.
+Picture Rotated(const Picture& picture, const QTransform& toCanvas, const QSize& size);
+
+} // namespace BatchWorker

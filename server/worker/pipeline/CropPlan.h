@@ -1,0 +1,15 @@
+#pragma once
+
+#include "server/worker/decode/PictureSource.h"
+#include "server/worker/geometry/Geometry.h"
+
+#include "ZTBatchOutputSettings.h"
+
+namespace BatchWorker {
+
+/// The crop and the size of the upright picture of `source`. Where the crop depends on the pixels they are read for it,
+/// apart from later stages. Throws what PictureSource throws, and vips::VError.
+Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
+                         const ZTBatchOutputSettings::ImageSize& size);
+
+} // namespace BatchWorker

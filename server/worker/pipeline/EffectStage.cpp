@@ -1,0 +1,42 @@
+#include "EffectStage.h"
+
+#include "server/worker/effects/Effects.h"
+#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/RandomAccess.h"
+#include "server/worker/pixels/VipsText.h"
+
+using namespace BatchJob;
+
+namespace BatchWorker {
+
+namespace {
+
+Picture Applied(const JobEffect& effect, const Picture& picture)
+{
+    const auto failed = [&effect](const QString& text) {
+        return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.schema->id, text));
+    };
+    try {
+        return ApplyEffect(*effect.schema, effect.parameters, picture);
+    } catch (const PictureFailure& problem) {
+        throw failed(problem.reason);
+    } catch (const vips::VError& problem) {
+        throw failed(TextOf(problem));
+    }
+}
+
+} // namespace
+
+// `picture` is the only reference: what it refers to before an assignment is freed by that, which may be a large copy.
+Picture WithEffects(Picture picture, const QVector<JobEffect>& effects)
+{
+    for (const JobEffect& effect : effects) {
+        if (effect.schema->NeedsRandomAccess(effect.parameters)) {
+            picture = WithRandomAccess(picture);
+        }
+        picture = Applied(effect, picture);
+    }
+    return picture;
+}
+
+} // namespace BatchWorker

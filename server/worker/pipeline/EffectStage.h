@@ -1,0 +1,16 @@
+#pragma once
+
+#include "job/settings/JobCheck.h"
+#include "server/worker/pixels/Picture.h"
+
+#include <QVector>
+
+namespace BatchWorker {
+
+/// `picture` after `effects`, one after the other. Throws PictureFailure, ProcessingFailed, with the effect's id, when
+/// one of them fails; vips::VError when the pixels that it needs cannot be read.
+///
+/// Copies that effects need are freed as soon as the next one is made; so callers must not hold on to `picture`.
+Picture WithEffects(Picture picture, const QVector<BatchJob::JobEffect>& effects);
+
+} // namespace BatchWorker

@@ -1,0 +1,198 @@
+#include "PictureMaker.h"
+
+#include "CropPlan.h"
+#include "EffectStage.h"
+#include "FailureCause.h"
+#include "FormatCheck.h"
+#include "ResultColours.h"
+
+#include "job/formats/FormatCatalog.h"
+#include "job/formats/FormatOptions.h"
+#include "job/formats/NearestFormat.h"
+#include "server/worker/colour/Colour.h"
+#include "server/worker/colour/ColourProfile.h"
+#include "server/worker/decode/PictureSource.h"
+#include "server/worker/encode/Encoder.h"
+#include "server/worker/encode/EncoderTrial.h"
+#include "server/worker/framing/Framing.h"
+#include "server/worker/geometry/Orientation.h"
+#include "server/worker/geometry/Resampling.h"
+#include "server/worker/metadata/Metadata.h"
+#include "server/worker/metadata/MetadataCarrier.h"
+#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/RandomAccess.h"
+
+#include <QFile>
+#include <QJsonArray>
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace BatchJob;
+using namespace BatchProtocol;
+
+namespace BatchWorker {
+
+namespace {
+
+QStringList KeptMetadata(const QJsonObject& options)
+{
+    QStringList keep;
+    const QJsonArray kinds = options[QLatin1String("keep")].toArray();
+    for (const QJsonValue& kind : kinds) {
+        keep.append(kind.toString());
+    }
+    return keep;
+}
+
+/// The way of one picture through the stages.
+class PictureRun
+{
+public:
+    PictureRun(const JobSettings& job, const ServerLimits& limits, const PictureTask& task, const FormatSchema& format)
+        : job(job)
+        , limits(limits)
+        , task(task)
+        , format(format)
+        , options(OptionsFor(format, job.formatOptions))
+        , keep(KeptMetadata(options))
+        , colours(job, format, keep)
+        , source(task.inputFile, limits)
+    {
+        WarnOfOtherPages();
+        metadata = Metadata::Of(task.inputFile, source, made.warnings);
+    }
+
+    MadePicture Make();
+
+private:
+    void WarnOfOtherPages();
+    Picture Sized();
+    void CheckResultSize(const QSize& size) const;
+    Picture Decoded(int shrink);
+    Picture Framed(const Picture& picture);
+    void Write(const Picture& picture);
+    void KeepFileTime() const;
+    bool IsProcessed() const { return !job.effects.isEmpty() || job.framing.state; }
+
+    const JobSettings& job;
+    const ServerLimits& limits;
+    const PictureTask& task;
+    const FormatSchema& format;
+    QJsonObject options;
+    QStringList keep;
+    ResultColours colours;
+    PictureSource source;
+    Metadata metadata;
+    MadePicture made;
+};
+
+MadePicture PictureRun::Make()
+{
+    try {
+        const Picture framed = Framed(WithEffects(Sized(), job.effects));
+        const Picture ready = colours.Of(framed, made.warnings);
+        RequireFormatHolds(format, options, ready, source.Format().name);
+        made.file = std::make_unique<TemporaryFile>(task.outputFile);
+        if (!made.file->Create()) {
+            throw OutputFailed(made.file->Error());
+        }
+        Write(ReadyFor(format, options, ready));
+    } catch (const vips::VError& problem) {
+        throw CauseOf(problem, source, IsProcessed(), format);
+    }
+    KeepFileTime();
+    struct stat status;
+    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
+    return std::move(made);
+}
+
+void PictureRun::WarnOfOtherPages()
+{
+    const int pages = source.Pages();
+    if (pages > 1) {
+        const bool hasMain = source.Format().pages == FormatPages::Items;
+        made.warnings.append(QStringLiteral("it has %1 pages; only the %2 is used")
+                                 .arg(pages)
+                                 .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first")));
+    }
+}
+
+// Pixels are turned upright last, when they are fewer: only then they have to be in memory.
+Picture PictureRun::Sized()
+{
+    const int orientation = source.Orientation();
+    const QSize upright = TurnedSize(source.StoredSize(), orientation);
+    const Geometry geometry = PlannedGeometry(source, job.crop, job.imageSize);
+    CheckResultSize(geometry.ResultSize());
+    const double reduction = std::min(double(geometry.part.width()) / geometry.scaledSize.width(),
+                                      double(geometry.part.height()) / geometry.scaledSize.height());
+    const Picture decoded = Decoded(source.PossibleShrink(reduction));
+    const Picture loaded = InWorkingColours(decoded, colours.KeepsInks(), made.warnings);
+    const Picture sized = Resampled(loaded, source.StoredSize(), StoredGeometry(geometry, upright, orientation));
+    const bool isReadInOrder = orientation <= 2;
+    const double perMillimetre = std::max(1, job.imageSize.resolution) / 25.4;
+    return TurnedUpright(isReadInOrder ? sized : WithRandomAccess(sized), orientation)
+        .copy(Picture::option()->set("xres", perMillimetre)->set("yres", perMillimetre));
+}
+
+void PictureRun::CheckResultSize(const QSize& size) const
+{
+    if (qint64(size.width()) * size.height() > limits.pixels) {
+        throw TooLarge(QStringLiteral("the result of %1 x %2 pixels would be above the limit of %3 megapixels")
+                           .arg(size.width())
+                           .arg(size.height())
+                           .arg(limits.pixels / 1'000'000));
+    }
+}
+
+// With the profile that the metadata hold, where the decoder knows of none.
+Picture PictureRun::Decoded(int shrink)
+{
+    const Picture loaded = source.Load(shrink);
+    const Picture decoded = metadata.Profile().isEmpty() ? loaded : WithProfile(loaded, metadata.Profile());
+    colours.NoteSource(decoded);
+    return decoded;
+}
+
+Picture PictureRun::Framed(const Picture& picture)
+{
+    return job.framing.state ? FramePicture(picture, job.framing, limits, made.warnings) : picture;
+}
+
+void PictureRun::Write(const Picture& picture)
+{
+    const QByteArray profile = ProfileOf(picture);
+    metadata.KeepOnly(keep);
+    metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
+                            profile.isEmpty() || IsSrgb(profile));
+    const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
+    Encode(carrier, format, options, BytesBefore(format, metadata), metadata.GoWithoutExif(), made.file->Descriptor());
+    CompleteFile(made.file->FileName(), format, metadata, profile, made.warnings);
+}
+
+void PictureRun::KeepFileTime() const
+{
+    struct stat status;
+    if (options[QLatin1String("keepFileTime")].toBool() &&
+        stat(QFile::encodeName(task.inputFile).constData(), &status) == 0) {
+        const timespec times[2] = {status.st_atim, status.st_mtim};
+        futimens(made.file->Descriptor(), times);
+    }
+}
+
+} // namespace
+
+MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, const PictureTask& task)
+{
+    const FormatSchema* format = FindFormat(task.format);
+    if (!format) {
+        throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
+    }
+    PrepareEncoder(*format);
+    BeginMemoryAccount();
+    return PictureRun(job, limits, task, *format).Make();
+}
+
+} // namespace BatchWorker

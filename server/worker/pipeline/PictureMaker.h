@@ -1,0 +1,26 @@
+#pragma once
+
+#include "job/settings/JobCheck.h"
+#include "server/protocol/TemporaryFile.h"
+#include "server/protocol/WorkerMessages.h"
+
+#include <QStringList>
+
+#include <memory>
+
+namespace BatchWorker {
+
+/// A result that is complete but for its name.
+struct MadePicture
+{
+    std::unique_ptr<BatchProtocol::TemporaryFile> file;
+    qint64 bytes = 0;
+    QStringList warnings;
+};
+
+/// Makes the result of `task` in a temporary file: decode, upright, crop, size, effects, framing, colour, encode.
+/// Throws PictureFailure; nothing is left behind then.
+MadePicture MakePicture(const BatchJob::JobSettings& job, const BatchProtocol::ServerLimits& limits,
+                        const BatchProtocol::PictureTask& task);
+
+} // namespace BatchWorker

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "job/formats/FormatSchema.h"
+#include "job/settings/JobCheck.h"
+#include "server/worker/pixels/Picture.h"
+
+#include <QStringList>
+
+namespace BatchWorker {
+
+/// Which colours a result has: what the job, the format and the source say together.
+class ResultColours
+{
+public:
+    /// Both outlive this object. `keep` are the kinds of metadata that results keep.
+    ResultColours(const BatchJob::JobSettings& job, const BatchJob::FormatSchema& format, const QStringList& keep);
+
+    /// Whether a source of inks stays one on its way through the stages.
+    bool KeepsInks() const;
+
+    /// Tells of `decoded`, before any stage, what the result may have to go back to.
+    void NoteSource(const Picture& decoded);
+
+    /// `picture`, as the stages give it, in the colours of the result. Warnings are appended.
+    Picture Of(const Picture& picture, QStringList& warnings) const;
+
+private:
+    const BatchJob::JobSettings& job;
+    const BatchJob::FormatSchema& format;
+    bool keepsProfile;
+    bool hasInks = false; ///< whether the source has
+    QByteArray inks;      ///< their profile; empty when it carries none
+};
+
+} // namespace BatchWorker
