@@ -76,7 +76,7 @@ public:
 private:
     static Report Checked(const Report& report)
     {
-        return report.failure == Case::None ? report : CheckedFailure(report);
+        return report.failure == BatchJob::PolicyKind::None ? report : CheckedFailure(report);
     }
 
     void HandOut()

@@ -64,7 +64,7 @@ void ReadLine(const QJsonObject& line, JournalState& state)
     if (answer >= 0 && answer < int(state.policies.size())) {
         state.answers.insert(answer, line.value(Key("value")).toInt());
     }
-    for (const QJsonValue& lost : line.value(Key("lost")).toArray()) {
+    for (const QJsonValue lost : line.value(Key("lost")).toArray()) {
         ++state.losses[lost.toInt()];
     }
 }

@@ -9,24 +9,24 @@ namespace {
 
 constexpr int longestReason = 1000;
 
-bool IsCodeOf(Case kind, int code)
+bool IsCodeOf(BatchJob::PolicyKind kind, int code)
 {
     const auto isOneOf = [code](std::initializer_list<int> codes) {
         return std::find(codes.begin(), codes.end(), code) != codes.end();
     };
     switch (kind) {
-    case Case::Input:
+    case BatchJob::PolicyKind::Input:
         return isOneOf(
             {ZTBatchMessage::UnsupportedInputFormat, ZTBatchMessage::ReadFileError, ZTBatchMessage::ImageTooLarge});
-    case Case::Output:
+    case BatchJob::PolicyKind::Output:
         return code == ZTBatchMessage::WriteOutputFormatError;
-    case Case::Processing:
+    case BatchJob::PolicyKind::Processing:
         return code == ZTBatchMessage::ApplyAdjustmentError;
-    case Case::Naming:
+    case BatchJob::PolicyKind::Naming:
         return code == ZTBatchMessage::FileNameAlreadyExists;
-    case Case::WriteToFormat:
+    case BatchJob::PolicyKind::WriteToFormat:
         return code == ZTBatchMessage::UnsupportedOutputFormat;
-    case Case::None:
+    case BatchJob::PolicyKind::None:
         break;
     }
     return false;
@@ -37,7 +37,7 @@ QString OneLine(const QString& text)
     return text.left(longestReason).simplified();
 }
 
-Report Failure(Case kind, int errorCode, const QString& reason)
+Report Failure(BatchJob::PolicyKind kind, int errorCode, const QString& reason)
 {
     Report report;
     report.failure = kind;
@@ -48,7 +48,7 @@ Report Failure(Case kind, int errorCode, const QString& reason)
 
 Report ProcessingFailure(const QString& reason)
 {
-    return Failure(Case::Processing, ZTBatchMessage::ApplyAdjustmentError, reason);
+    return Failure(BatchJob::PolicyKind::Processing, ZTBatchMessage::ApplyAdjustmentError, reason);
 }
 
 } // namespace
@@ -68,7 +68,7 @@ Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& l
 {
     switch (reason) {
     case WorkerEnd::OutOfMemory:
-        return Failure(Case::Input, ZTBatchMessage::ImageTooLarge,
+        return Failure(BatchJob::PolicyKind::Input, ZTBatchMessage::ImageTooLarge,
                        QStringLiteral("it takes more memory than the limit of %1 MiB").arg(limits.workerMemory >> 20U));
     case WorkerEnd::Hung:
         return ProcessingFailure(

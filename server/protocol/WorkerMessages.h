@@ -55,8 +55,6 @@ struct PictureTask
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
 };
 
-using Case = BatchJob::PolicyKind;
-
 /// The worker begins a task.
 struct Beginning
 {

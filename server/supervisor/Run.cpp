@@ -415,10 +415,10 @@ void Run::Ask(const RunDecisions::FileTrouble& about)
     host.Ask(Policies::Question(about.trouble.kind));
 }
 
-void Run::Answer(ZTBatchMessage::Message answered, int policy, bool isForTheRest)
+void Run::Answer(ZTBatchMessage::Message question, int policy, bool isForTheRest)
 {
     using Meaning = RunDecisions::Answer::Meaning;
-    const RunDecisions::Answer answer = decisions.TakeAnswer(answered, policy);
+    const RunDecisions::Answer answer = decisions.TakeAnswer(question, policy);
     if (answer.meaning == Meaning::NoQuestion) {
         host.Log(QStringLiteral("There is no such question: the answer is ignored."));
         return;

@@ -208,7 +208,7 @@ QStringList FormatOptionTexts(const QByteArray& options)
     QStringList texts;
     for (auto it = object.begin(); it != object.end(); ++it) {
         QStringList list;
-        for (const QJsonValue& value : it.value().toArray()) {
+        for (const QJsonValue value : it.value().toArray()) {
             list.append(ValueText(value));
         }
         const QString value = !it.value().isArray() ? ValueText(it.value())

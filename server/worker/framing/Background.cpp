@@ -41,9 +41,10 @@ double PatternPixel(Pattern pattern, int x, int y, double side)
 {
     constexpr int places = 4;
     double sum = 0;
-    for (int place = 0; place < places * places; ++place) {
-        sum += PatternValue(pattern, (x + (place % places + 0.5) / places) / side,
-                            (y + (place / places + 0.5) / places) / side);
+    for (int row = 0; row < places; ++row) {
+        for (int column = 0; column < places; ++column) {
+            sum += PatternValue(pattern, (x + (column + 0.5) / places) / side, (y + (row + 0.5) / places) / side);
+        }
     }
     return sum / (places * places);
 }

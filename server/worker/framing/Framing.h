@@ -22,7 +22,7 @@ namespace BatchWorker {
 /// patterns are neutral.
 ///
 /// The result has an alpha channel when the frame can be seen through anywhere: when the background is none or not
-/// opaque, unless an opaque picture covers the whole frame. Depth, profile and metadata are those of `picture`.
+/// opaque, unless an opaque picture covers the whole frame. Depth, profile and metadata are those of `original`.
 ///
 /// An upright picture streams. What has to be read in another order is read when this is called, and held in memory in
 /// the size that it is drawn in: a picture that is turned, a picture with alpha that throws a shadow, and in the
@@ -32,7 +32,7 @@ namespace BatchWorker {
 /// be converted to. Throws PictureFailure, ProcessingFailed, when the frame would have more pixels than `limits` allow,
 /// and when the background file cannot be read, with the name of the file; vips::VError for what the library reports of
 /// the picture.
-Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transformation& framing,
+Picture FramePicture(const Picture& original, const ZTBatchOutputSettings::Transformation& framing,
                      const BatchProtocol::ServerLimits& limits, QStringList& warnings);
 
 } // namespace BatchWorker

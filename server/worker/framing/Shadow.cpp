@@ -30,14 +30,14 @@ public:
         : stepsPerPixel(stepsPerSigma / sigma)
     {
         for (int step = 0; step <= stepCount; ++step) {
-            const double place = (step - stepCount / 2) / double(stepsPerSigma);
+            const double place = double(step - middleStep) / stepsPerSigma;
             values.push_back(static_cast<float>((1 + std::erf(place / std::sqrt(2.0))) / 2));
         }
     }
 
     float At(double pixels) const
     {
-        const double step = pixels * stepsPerPixel + stepCount / 2.0;
+        const double step = pixels * stepsPerPixel + middleStep;
         if (step <= 0) {
             return 0;
         }
@@ -51,7 +51,8 @@ public:
 
 private:
     static constexpr int stepsPerSigma = 128;
-    static constexpr int stepCount = int(2 * reach) * stepsPerSigma;
+    static constexpr int middleStep = int(reach) * stepsPerSigma;
+    static constexpr int stepCount = 2 * middleStep;
 
     double stepsPerPixel;
     std::vector<float> values;

@@ -24,7 +24,7 @@ void ByteColumns::ReducePlainly(const std::uint8_t* source, std::uint8_t* target
     const int first = plan.firsts[std::size_t(begin)];
     for (int column = begin; column < end; ++column) {
         const std::int16_t* const weights = &plan.wholeWeights[std::size_t(column) * std::size_t(plan.wholeTaps)];
-        const std::uint8_t* const old = source + (plan.firsts[std::size_t(column)] - first) * bands;
+        const std::uint8_t* const old = source + std::ptrdiff_t(plan.firsts[std::size_t(column)] - first) * bands;
         for (int band = 0; band < bands; ++band) {
             int sum = ColumnPlan::wholeHalf;
             for (int tap = 0; tap < plan.taps; ++tap) {

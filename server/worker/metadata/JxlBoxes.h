@@ -12,7 +12,7 @@ struct JxlMetadata
     QByteArray xmp;
 };
 
-/// Reads the boxes of `file` that hold metadata, compressed ones, too. The decoder ignores them.
-JxlMetadata ReadJxlMetadata(const QString& file);
+/// Reads the boxes of the file at `path` that hold metadata, compressed ones, too. The decoder ignores them.
+JxlMetadata ReadJxlMetadata(const QString& path);
 
 } // namespace BatchWorker

@@ -35,11 +35,11 @@ void Place(const MadePicture& made, bool replaceExisting, Report& report)
     case TemporaryFile::Placement::Done:
         return;
     case TemporaryFile::Placement::NameTaken:
-        report.failure = Case::Naming;
+        report.failure = BatchJob::PolicyKind::Naming;
         report.errorCode = ZTBatchMessage::FileNameAlreadyExists;
         break;
     case TemporaryFile::Placement::Failed:
-        report.failure = Case::Output;
+        report.failure = BatchJob::PolicyKind::Output;
         report.errorCode = ZTBatchMessage::WriteOutputFormatError;
         break;
     }

@@ -20,7 +20,7 @@ namespace BatchWorker {
 
 namespace {
 
-Report Failure(Case failure, ZTBatchMessage::Error error, const QString& reason)
+Report Failure(PolicyKind failure, ZTBatchMessage::Error error, const QString& reason)
 {
     Report report;
     report.failure = failure;
@@ -32,26 +32,26 @@ Report Failure(Case failure, ZTBatchMessage::Error error, const QString& reason)
 Report ReportOf(const PictureFailure& problem)
 {
     using Kind = PictureFailure::Kind;
-    const auto failed = [&problem](Case failure, ZTBatchMessage::Error error) {
+    const auto failed = [&problem](PolicyKind failure, ZTBatchMessage::Error error) {
         Report report = Failure(failure, error, problem.reason);
         report.nearestFormat = problem.nearestFormat;
         return report;
     };
     switch (problem.kind) {
     case Kind::DamagedFile:
-        return failed(Case::Input, ZTBatchMessage::ReadFileError);
+        return failed(PolicyKind::Input, ZTBatchMessage::ReadFileError);
     case Kind::UnknownFormat:
-        return failed(Case::Input, ZTBatchMessage::UnsupportedInputFormat);
+        return failed(PolicyKind::Input, ZTBatchMessage::UnsupportedInputFormat);
     case Kind::TooLarge:
-        return failed(Case::Input, ZTBatchMessage::ImageTooLarge);
+        return failed(PolicyKind::Input, ZTBatchMessage::ImageTooLarge);
     case Kind::FormatCannotHold:
-        return failed(Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat);
+        return failed(PolicyKind::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat);
     case Kind::OutputFailed:
-        return failed(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+        return failed(PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError);
     case Kind::ProcessingFailed:
         break;
     }
-    return failed(Case::Processing, ZTBatchMessage::ApplyAdjustmentError);
+    return failed(PolicyKind::Processing, ZTBatchMessage::ApplyAdjustmentError);
 }
 
 // Calls `work`, which gives a report or throws.
@@ -124,12 +124,12 @@ Report Worker::Read(const Job& job)
 {
     ZTBatchDocument document;
     if (!document.Deserialize(job.document)) {
-        return Failure(Case::Processing, ZTBatchMessage::ReadOutputSettingsError,
+        return Failure(PolicyKind::Processing, ZTBatchMessage::ReadOutputSettingsError,
                        QStringLiteral("the job cannot be read"));
     }
     const CheckedSettings checked = CheckSettings(document);
     if (!checked.IsAccepted()) {
-        return Failure(Case::Processing, checked.refusal.code, checked.refusal.message);
+        return Failure(PolicyKind::Processing, checked.refusal.code, checked.refusal.message);
     }
     settings = checked.settings;
     return {};

@@ -60,22 +60,22 @@ class tst_CliInputs : public QObject
 
 private Q_SLOTS:
     void init() { root = std::make_unique<QTemporaryDir>(); }
-    void NumbersSortNaturally_data();
-    void NumbersSortNaturally();
-    void FoldersAreReadWhole();
-    void FiltersChoose();
-    void NothingComesTwice();
-    void OutputFolderIsNoInput();
-    void MissingInputsAreRefused();
+    void numbersSortNaturally_data();
+    void numbersSortNaturally();
+    void foldersAreReadWhole();
+    void filtersChoose();
+    void nothingComesTwice();
+    void outputFolderIsNoInput();
+    void missingInputsAreRefused();
 #ifdef Q_OS_UNIX
-    void LinksAreFollowedOnce();
-    void OddEntriesAreReported();
+    void linksAreFollowedOnce();
+    void oddEntriesAreReported();
 #endif
 #ifdef Q_OS_LINUX
-    void UnreadableFoldersAreReported();
+    void unreadableFoldersAreReported();
 #endif
-    void DeepFoldersCanBeSaved();
-    void ManyFiles();
+    void deepFoldersCanBeSaved();
+    void manyFiles();
 
 private:
     void Make(const QString& path) const
@@ -89,7 +89,7 @@ private:
     std::unique_ptr<QTemporaryDir> root;
 };
 
-void tst_CliInputs::NumbersSortNaturally_data()
+void tst_CliInputs::numbersSortNaturally_data()
 {
     QTest::addColumn<QStringList>("inOrder");
     const auto row = [](const char* name, const char* names) {
@@ -103,7 +103,7 @@ void tst_CliInputs::NumbersSortNaturally_data()
     row("upper case first", "B2 B10 a1");
 }
 
-void tst_CliInputs::NumbersSortNaturally()
+void tst_CliInputs::numbersSortNaturally()
 {
     QFETCH(QStringList, inOrder);
     QStringList backwards = inOrder;
@@ -123,7 +123,7 @@ void tst_CliInputs::NumbersSortNaturally()
     QCOMPARE(NaturalNames(even), even);
 }
 
-void tst_CliInputs::FoldersAreReadWhole()
+void tst_CliInputs::foldersAreReadWhole()
 {
     for (const char* path : {"b/2.jpg", "b/10.JPG", "b/c/x.nef", "b/readme.txt", "b/.hidden.jpg", "b/empty/none.txt"}) {
         Make(QLatin1String(path));
@@ -142,7 +142,7 @@ void tst_CliInputs::FoldersAreReadWhole()
     QCOMPARE(copy.Serialize(nullptr), job.Serialize(nullptr));
 }
 
-void tst_CliInputs::FiltersChoose()
+void tst_CliInputs::filtersChoose()
 {
     for (const char* path : {"a.jpg", "b.png", "c.xyz", ".d.jpg", "sub/e.jpg", "no/f.jpg"}) {
         Make(QLatin1String(path));
@@ -167,7 +167,7 @@ void tst_CliInputs::FiltersChoose()
     QCOMPARE(named.GetInputModel()->GetFileNodesCount(), 1);
 }
 
-void tst_CliInputs::NothingComesTwice()
+void tst_CliInputs::nothingComesTwice()
 {
     Make(QStringLiteral("a/1.jpg"));
     ZTBatchDocument job;
@@ -183,7 +183,7 @@ void tst_CliInputs::NothingComesTwice()
     QVERIFY(again.Repetitions().value(0).contains(QStringLiteral("in the job already")));
 }
 
-void tst_CliInputs::OutputFolderIsNoInput()
+void tst_CliInputs::outputFolderIsNoInput()
 {
     Make(QStringLiteral("a.jpg"));
     Make(QStringLiteral("results/a.jpg"));
@@ -206,7 +206,7 @@ void tst_CliInputs::OutputFolderIsNoInput()
 #endif
 }
 
-void tst_CliInputs::MissingInputsAreRefused()
+void tst_CliInputs::missingInputsAreRefused()
 {
     Make(QStringLiteral("a.jpg"));
     ZTBatchDocument job;
@@ -221,7 +221,7 @@ void tst_CliInputs::MissingInputsAreRefused()
 }
 
 #ifdef Q_OS_UNIX
-void tst_CliInputs::LinksAreFollowedOnce()
+void tst_CliInputs::linksAreFollowedOnce()
 {
     Make(QStringLiteral("top/z/1.jpg"));
     Make(QStringLiteral("elsewhere/2.jpg"));
@@ -240,7 +240,7 @@ void tst_CliInputs::LinksAreFollowedOnce()
     QVERIFY(collector.Repetitions().value(0).contains(QStringLiteral("top/a is the folder ")));
 }
 
-void tst_CliInputs::OddEntriesAreReported()
+void tst_CliInputs::oddEntriesAreReported()
 {
     Make(QStringLiteral("a.jpg"));
     Make(QStringLiteral("line\nbreak.jpg"));
@@ -255,8 +255,8 @@ void tst_CliInputs::OddEntriesAreReported()
     ZTBatchDocument job;
     InputCollector collector(job, {});
     collector.Add({root->path()});
-    QCOMPARE(FilesOf(job, root->path()), QStringList({QStringLiteral("a.jpg"), QStringLiteral("bell\a.jpg"),
-                                                      QStringLiteral("line\nbreak.jpg")}));
+    QCOMPARE(FilesOf(job, root->path()),
+             QStringList({QStringLiteral("a.jpg"), QStringLiteral("bell\a.jpg"), QStringLiteral("line\nbreak.jpg")}));
     QCOMPARE(collector.Problems().size(), 3);
     const QString problems = collector.Problems().join(QLatin1Char('\n'));
     QVERIFY2(problems.contains(QStringLiteral("lost.jpg is a dangling link")), qPrintable(problems));
@@ -269,7 +269,7 @@ void tst_CliInputs::OddEntriesAreReported()
 #endif
 
 #ifdef Q_OS_LINUX
-void tst_CliInputs::UnreadableFoldersAreReported()
+void tst_CliInputs::unreadableFoldersAreReported()
 {
     Make(QStringLiteral("a.jpg"));
     Make(QStringLiteral("closed/b.jpg"));
@@ -287,7 +287,7 @@ void tst_CliInputs::UnreadableFoldersAreReported()
 }
 #endif
 
-void tst_CliInputs::DeepFoldersCanBeSaved()
+void tst_CliInputs::deepFoldersCanBeSaved()
 {
     QString path = QStringLiteral("d");
     for (int i = 0; i < 300; ++i) {
@@ -301,7 +301,7 @@ void tst_CliInputs::DeepFoldersCanBeSaved()
     QCOMPARE(copy.GetInputModel()->GetFileNodesCount(), 1);
 }
 
-void tst_CliInputs::ManyFiles()
+void tst_CliInputs::manyFiles()
 {
     constexpr int folders = 20;
     constexpr int filesEach = 500;

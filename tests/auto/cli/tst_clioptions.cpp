@@ -79,18 +79,18 @@ class tst_CliOptions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ValuesReachTheJob();
-    void EveryValueCanBeReadBack();
-    void WrongValuesAreExplained_data();
-    void WrongValuesAreExplained();
-    void AnotherFormatDropsOptions();
-    void FrameIsAskedForByItsOptions();
-    void ArgumentsAreParsed();
-    void WrongArgumentsAreExplained_data();
-    void WrongArgumentsAreExplained();
+    void valuesReachTheJob();
+    void everyValueCanBeReadBack();
+    void wrongValuesAreExplained_data();
+    void wrongValuesAreExplained();
+    void anotherFormatDropsOptions();
+    void frameIsAskedForByItsOptions();
+    void argumentsAreParsed();
+    void wrongArgumentsAreExplained_data();
+    void wrongArgumentsAreExplained();
 };
 
-void tst_CliOptions::ValuesReachTheJob()
+void tst_CliOptions::valuesReachTheJob()
 {
     ZTBatchDocument job;
     Fill(job);
@@ -152,7 +152,7 @@ void tst_CliOptions::ValuesReachTheJob()
 }
 
 // The options that are shown for a job produce the same job.
-void tst_CliOptions::EveryValueCanBeReadBack()
+void tst_CliOptions::everyValueCanBeReadBack()
 {
     ZTBatchDocument job;
     Fill(job);
@@ -165,7 +165,7 @@ void tst_CliOptions::EveryValueCanBeReadBack()
     QCOMPARE(copy.Serialize(nullptr), job.Serialize(nullptr));
 }
 
-void tst_CliOptions::WrongValuesAreExplained_data()
+void tst_CliOptions::wrongValuesAreExplained_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("value");
@@ -216,7 +216,7 @@ void tst_CliOptions::WrongValuesAreExplained_data()
     row("--effect", "exposure:{\"stops\":", "effect exposure: ");
 }
 
-void tst_CliOptions::WrongValuesAreExplained()
+void tst_CliOptions::wrongValuesAreExplained()
 {
     QFETCH(QString, option);
     QFETCH(QString, value);
@@ -228,7 +228,7 @@ void tst_CliOptions::WrongValuesAreExplained()
     QCOMPARE(job.Serialize(nullptr), before);
 }
 
-void tst_CliOptions::AnotherFormatDropsOptions()
+void tst_CliOptions::anotherFormatDropsOptions()
 {
     ZTBatchDocument job;
     Option(QStringLiteral("--format")).apply(job, QStringLiteral("JPEG"));
@@ -244,7 +244,7 @@ void tst_CliOptions::AnotherFormatDropsOptions()
     QVERIFY(options.isEmpty());
 }
 
-void tst_CliOptions::FrameIsAskedForByItsOptions()
+void tst_CliOptions::frameIsAskedForByItsOptions()
 {
     ZTBatchDocument job;
     Option(QStringLiteral("--shadow")).apply(job, QStringLiteral("drop"));
@@ -253,7 +253,7 @@ void tst_CliOptions::FrameIsAskedForByItsOptions()
     QVERIFY(!job.GetOutputSettings()->GetTransformationSettings().state);
 }
 
-void tst_CliOptions::ArgumentsAreParsed()
+void tst_CliOptions::argumentsAreParsed()
 {
     const ParsedArguments parsed = ParseArguments(
         {QStringLiteral("show"), QStringLiteral("a.jpg"), QStringLiteral("--frame-angle"), QStringLiteral("-5"),
@@ -273,7 +273,7 @@ void tst_CliOptions::ArgumentsAreParsed()
         ParseArguments({QStringLiteral("show"), QStringLiteral("--help")}).message.contains(QStringLiteral("--crop")));
 }
 
-void tst_CliOptions::WrongArgumentsAreExplained_data()
+void tst_CliOptions::wrongArgumentsAreExplained_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("wanted");
@@ -301,7 +301,7 @@ void tst_CliOptions::WrongArgumentsAreExplained_data()
         << QStringLiteral("--from: the name is empty");
 }
 
-void tst_CliOptions::WrongArgumentsAreExplained()
+void tst_CliOptions::wrongArgumentsAreExplained()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, wanted);

@@ -14,11 +14,11 @@ class tst_CliStartup : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void CopiesEndWithTheirProcess();
+    void copiesEndWithTheirProcess();
 };
 
 // The copy holds one end of a pipe, and nobody writes. So the other end shows when the copy is gone.
-void tst_CliStartup::CopiesEndWithTheirProcess()
+void tst_CliStartup::copiesEndWithTheirProcess()
 {
     std::array<int, 2> pipe{};
     QCOMPARE(::pipe(pipe.data()), 0);

@@ -81,7 +81,7 @@ double ReducedValue(const Values& values, int width, int newWidth, int bands, in
 
 } // namespace
 
-class ColumnReductionTest : public QObject
+class tst_ColumnReduction : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ private Q_SLOTS:
     void everyUnitFindsTheSame();
 };
 
-void ColumnReductionTest::givesWeightedSums_data()
+void tst_ColumnReduction::givesWeightedSums_data()
 {
     QTest::addColumn<int>("format");
     QTest::addColumn<int>("bands");
@@ -118,7 +118,7 @@ void ColumnReductionTest::givesWeightedSums_data()
     }
 }
 
-void ColumnReductionTest::givesWeightedSums()
+void tst_ColumnReduction::givesWeightedSums()
 {
     QFETCH(const int, format);
     QFETCH(const int, bands);
@@ -149,7 +149,7 @@ void ColumnReductionTest::givesWeightedSums()
     }
 }
 
-void ColumnReductionTest::keepsPlainValues()
+void tst_ColumnReduction::keepsPlainValues()
 {
     QFETCH(const int, format);
     QFETCH(const int, bands);
@@ -165,7 +165,7 @@ void ColumnReductionTest::keepsPlainValues()
     }
 }
 
-void ColumnReductionTest::findsTheSameInPieces()
+void tst_ColumnReduction::findsTheSameInPieces()
 {
     QFETCH(const int, format);
     QFETCH(const int, bands);
@@ -180,7 +180,7 @@ void ColumnReductionTest::findsTheSameInPieces()
     QCOMPARE(ExactValuesOf(piece), ExactValuesOf(reduced.copy_memory().crop(left, 5, right - left, 7)));
 }
 
-void ColumnReductionTest::everyUnitFindsTheSame_data()
+void tst_ColumnReduction::everyUnitFindsTheSame_data()
 {
     QTest::addColumn<int>("bands");
     QTest::addColumn<int>("width");
@@ -193,7 +193,7 @@ void ColumnReductionTest::everyUnitFindsTheSame_data()
     }
 }
 
-void ColumnReductionTest::everyUnitFindsTheSame()
+void tst_ColumnReduction::everyUnitFindsTheSame()
 {
     if (!ByteColumns::HasVectorUnit()) {
         QSKIP("This processor has one unit only.");
@@ -224,5 +224,5 @@ void ColumnReductionTest::everyUnitFindsTheSame()
     }
 }
 
-QTEST_GUILESS_MAIN(ColumnReductionTest)
+QTEST_GUILESS_MAIN(tst_ColumnReduction)
 #include "tst_columnreduction.moc"

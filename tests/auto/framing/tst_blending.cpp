@@ -31,7 +31,7 @@ class TestBlending : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(VIPS_INIT("tst_blending") == 0); }
 
-    void OpaqueColoursBlend_data()
+    void opaqueColoursBlend_data()
     {
         QTest::addColumn<Blending>("mode");
         QTest::addColumn<int>("backdrop");
@@ -69,7 +69,7 @@ private Q_SLOTS:
         add("difference", Blending::Difference, 255, 255, 0);
     }
 
-    void OpaqueColoursBlend()
+    void opaqueColoursBlend()
     {
         QFETCH(Blending, mode);
         QFETCH(int, backdrop);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(deep.getpoint(0, 0)[1], 65535.0);
     }
 
-    void AlphaComposes()
+    void alphaComposes()
     {
         // Cb = 0.2 at alpha 0.4 under Cs = 0.8 at alpha 0.25, multiplied:
         // alpha 0.25 + 0.4 * 0.75 = 0.55; Cs' = 0.6 * 0.8 + 0.4 * 0.16 = 0.544
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(result, 0, 0), QStringLiteral("91 140"));
     }
 
-    void CoverageOpacityAndAlphaScaleTheLayer()
+    void coverageOpacityAndAlphaScaleTheLayer()
     {
         // 0.5 * 0.8 * 0.6 = 0.24 of white over black: 61.2.
         const Picture result = Blend(Uniform(1, 1, {0, 255}), Uniform(1, 1, {255, 3 * fifth}), FullCoverage(1, 1, 0.5),
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(result, 0, 0), QStringLiteral("61 255"));
     }
 
-    void NothingOverNothingIsNothing()
+    void nothingOverNothingIsNothing()
     {
         const Picture result = Blend(Uniform(1, 1, {7, 8, 9, 0}), Uniform(1, 1, {255, 255, 255}), FullCoverage(1, 1, 0),
                                      1, Blending::Screen);
@@ -114,7 +114,7 @@ private Q_SLOTS:
     }
 
     // Over nothing there is nothing to blend with: the layer keeps its colours.
-    void ALayerOverNothingKeepsItsColours()
+    void aLayerOverNothingKeepsItsColours()
     {
         for (int mode = 0; mode <= int(Blending::Difference); ++mode) {
             const Picture result = Blend(Uniform(1, 1, {0, 0, 0, 0}), Uniform(1, 1, {10, 20, 30}), FullCoverage(1, 1),
@@ -124,7 +124,7 @@ private Q_SLOTS:
     }
 
     // Every pair of values keeps the other's at no opacity, and no result leaves the range.
-    void EveryPairOfValuesStaysInRange()
+    void everyPairOfValuesStaysInRange()
     {
         for (int mode = 0; mode <= int(Blending::Difference); ++mode) {
             for (int backdrop = 0; backdrop < 256; ++backdrop) {

@@ -22,7 +22,7 @@ class TestCoverage : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(VIPS_INIT("tst_coverage") == 0); }
 
-    void UprightRectanglesCoverPartsOfPixels()
+    void uprightRectanglesCoverPartsOfPixels()
     {
         const Coverage coverage(Corners(QRectF(1.25, 2.5, 3.5, 2)));
         QCOMPARE(coverage.OfPixel(0, 3), 0.0);
@@ -36,7 +36,7 @@ private Q_SLOTS:
         QCOMPARE(coverage.OfPixel(2, 1), 0.0);
     }
 
-    void ADiagonalHalvesItsPixels()
+    void aDiagonalHalvesItsPixels()
     {
         // A square on its point: (4, 0), (8, 4), (4, 8), (0, 4).
         const Coverage coverage({QPointF(4, 0), QPointF(8, 4), QPointF(4, 8), QPointF(0, 4)});
@@ -48,12 +48,12 @@ private Q_SLOTS:
         QCOMPARE(coverage.OfPixel(5, 0), 0.0);
     }
 
-    void ARectangleThinnerThanAPixelIsCovered()
+    void aRectangleThinnerThanAPixelIsCovered()
     {
         QCOMPARE(Coverage(Corners(QRectF(2.4, 0, 0.2, 10))).OfPixel(2, 5), 0.2);
     }
 
-    void TheOrderOfTheCornersDoesNotMatter()
+    void theOrderOfTheCornersDoesNotMatter()
     {
         const std::array<QPointF, 4> corners = Corners(QRectF(1.25, 2.5, 3.5, 2));
         const Coverage reversed({corners[3], corners[2], corners[1], corners[0]});
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(reversed.OfPixel(0, 0), 0.0);
     }
 
-    void PixelsAddUpToTheArea_data()
+    void pixelsAddUpToTheArea_data()
     {
         QTest::addColumn<double>("angle");
         for (const double angle : {0.0, 1.0, 17.5, 30.0, 45.0, 89.0, 133.0, -60.0}) {
@@ -69,7 +69,7 @@ private Q_SLOTS:
         }
     }
 
-    void PixelsAddUpToTheArea()
+    void pixelsAddUpToTheArea()
     {
         QFETCH(double, angle);
         const QTransform turned = QTransform().translate(40.3, 40.7).rotate(angle);

@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(folder.isValid());
     }
 
-    void NeutralColoursKeepAPictureGrey()
+    void neutralColoursKeepAPictureGrey()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.margins = QMargins(5, 5, 5, 5);
@@ -95,7 +95,7 @@ private Q_SLOTS:
     }
 
     // Colours of a job are sRGB; in a picture with another profile they must look the same, not have the same values.
-    void ColoursAreConvertedToThePicturesProfile()
+    void coloursAreConvertedToThePicturesProfile()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.margins = QMargins(5, 5, 5, 5);
@@ -117,7 +117,7 @@ private Q_SLOTS:
     }
 
     // A light of 55 / 255 is the value 128 in sRGB.
-    void GreyOfAProfileBecomesNeutralSrgb()
+    void greyOfAProfileBecomesNeutralSrgb()
     {
         const Picture grey = BatchWorker::WithProfile(Uniform(20, 20, {55}), LinearGreyProfile());
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QVERIFY(BatchWorker::IsSrgb(BatchWorker::ProfileOf(framed)));
     }
 
-    void PaintForAGreyPictureIsOfItsProfile()
+    void paintForAGreyPictureIsOfItsProfile()
     {
         const Picture grey = BatchWorker::WithProfile(Uniform(20, 20, {55}), LinearGreyProfile());
         const BatchWorker::PaintablePicture paintable = BatchWorker::PaintableWith(QColor(128, 128, 128), grey);
@@ -144,7 +144,7 @@ private Q_SLOTS:
                  std::vector<double>{128});
     }
 
-    void BackgroundFilesCoverTheFrame()
+    void backgroundFilesCoverTheFrame()
     {
         // Left half red, right half blue: in a square frame the outer quarters are cut off.
         QImage file(80, 40, QImage::Format_RGB888);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(large, 190, 50), QStringLiteral("0 0 65535"));
     }
 
-    void BackgroundFilesAreUpright()
+    void backgroundFilesAreUpright()
     {
         QImage file(40, 40, QImage::Format_RGB888);
         file.fill(Qt::red);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QVERIFY(framed.getpoint(20, 35)[2] > 240);
     }
 
-    void SeeThroughBackgroundFilesLetThrough()
+    void seeThroughBackgroundFilesLetThrough()
     {
         QImage file(20, 20, QImage::Format_RGBA8888);
         file.fill(QColor(10, 200, 30, 102));
@@ -201,14 +201,14 @@ private Q_SLOTS:
         QCOMPARE(PixelText(FramePicture(Uniform(20, 20, {0, 0, 0}), half), 3, 3), QStringLiteral("10 200 30 51"));
     }
 
-    void GreyFilesLeaveAPictureGrey()
+    void greyFilesLeaveAPictureGrey()
     {
         const QString path = folder.filePath(QStringLiteral("grey.png"));
         Uniform(30, 30, {123}).pngsave(path.toUtf8().constData());
         QCOMPARE(PixelText(FramePicture(Uniform(20, 20, {0}), OnFile(path)), 3, 3), QStringLiteral("123"));
     }
 
-    void MetadataOfABackgroundFileStaysThere()
+    void metadataOfABackgroundFileStaysThere()
     {
         Picture file = Uniform(30, 30, {1, 2, 3}).copy();
         file.set("exif-ifd0-Artist", "Someone else");
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(framed.get_typeof(VIPS_META_ICC_NAME), GType(0));
     }
 
-    void LimitsHoldForFramesAndTheirFiles()
+    void limitsHoldForFramesAndTheirFiles()
     {
         const QString path = folder.filePath(QStringLiteral("large.png"));
         Uniform(40, 30, {123}).pngsave(path.toUtf8().constData());
@@ -232,7 +232,7 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(FramePicture(picture, framing), PictureFailure);
     }
 
-    void FilesThatCannotBeReadAreNamed_data()
+    void filesThatCannotBeReadAreNamed_data()
     {
         QTest::addColumn<QByteArray>("content");
         const QImage picture = Landscape(QSize(300, 300));
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QTest::newRow("truncated") << bytes.left(bytes.size() / 2);
     }
 
-    void FilesThatCannotBeReadAreNamed()
+    void filesThatCannotBeReadAreNamed()
     {
         QFETCH(QByteArray, content);
         QTemporaryDir own;

@@ -44,7 +44,7 @@ class TestFramedShadows : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(VIPS_INIT("tst_framedshadows") == 0); }
 
-    void SharpShadowsFallAwayFromTheLight_data()
+    void sharpShadowsFallAwayFromTheLight_data()
     {
         QTest::addColumn<int>("angle");
         QTest::addColumn<int>("distance");
@@ -64,7 +64,7 @@ private Q_SLOTS:
         }
     }
 
-    void SharpShadowsFallAwayFromTheLight()
+    void sharpShadowsFallAwayFromTheLight()
     {
         QFETCH(int, angle);
         QFETCH(int, distance);
@@ -80,7 +80,7 @@ private Q_SLOTS:
         }
     }
 
-    void GlowsDoNotMove()
+    void glowsDoNotMove()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(0, 10, 3);
         framing.shadowMode = int(ShadowMode::ContactGlow);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(framed.getpoint(18, 30)[0] < 200);
     }
 
-    void ShadowsAreGaussian_data()
+    void shadowsAreGaussian_data()
     {
         QTest::addColumn<int>("size");
         QTest::addColumn<bool>("hasAlpha");
@@ -101,7 +101,7 @@ private Q_SLOTS:
     }
 
     // The blur of a square is the product of the Gaussian's integrals along both axes.
-    void ShadowsAreGaussian()
+    void shadowsAreGaussian()
     {
         QFETCH(int, size);
         QFETCH(bool, hasAlpha);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         }
     }
 
-    void HugeShadowsAreQuick()
+    void hugeShadowsAreQuick()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(180, 10000, 10000);
         framing.shadowMode = int(ShadowMode::ContactGlow);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         }
     }
 
-    void OpacityAndColourAreTheShadows()
+    void opacityAndColourAreTheShadows()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(180, 10, 0);
         framing.shadowColor = QColor(255, 0, 0);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(framed, 30, 30), QStringLiteral("255 255 255"));
     }
 
-    void ShadowsShowOnNothing()
+    void shadowsShowOnNothing()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(180, 10, 0);
         framing.backgroundType = int(BatchJob::BackgroundType::None);
@@ -156,7 +156,7 @@ private Q_SLOTS:
     }
 
     // A hole in the picture is a hole in its shadow.
-    void ShadowsHaveTheShapeOfTheAlpha()
+    void shadowsHaveTheShapeOfTheAlpha()
     {
         QImage picture(60, 60, QImage::Format_RGBA8888);
         picture.fill(Qt::white);
@@ -175,7 +175,7 @@ private Q_SLOTS:
     }
 
     // Turned, a shadow turns with its picture; the light does not.
-    void TurnedShadowsMoveInTheFrame()
+    void turnedShadowsMoveInTheFrame()
     {
         ZTBatchOutputSettings::Transformation framing = ShadowFraming(90, 14, 0);
         framing.angle = 45;

@@ -58,7 +58,7 @@ class TestFrameGeometry : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(VIPS_INIT("tst_framegeometry") == 0); }
 
-    void FramedPicturesLookAsPainted_data()
+    void framedPicturesLookAsPainted_data()
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<int>("angle");
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     // Off the edges the pictures differ by the resampling filters only; in a band along the edges by the antialiasing,
     // too. Where the picture stands on whole pixels, which moves its edges by up to a pixel, it is painted so as well.
-    void FramedPicturesLookAsPainted()
+    void framedPicturesLookAsPainted()
     {
         QFETCH(QSize, size);
         QFETCH(int, angle);

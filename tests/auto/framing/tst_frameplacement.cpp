@@ -42,7 +42,7 @@ class TestFramePlacement : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void OwnFramesFollowTheSettings_data()
+    void ownFramesFollowTheSettings_data()
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<int>("angle");
@@ -58,7 +58,7 @@ private Q_SLOTS:
     }
 
     // Exact where the picture is turned freely, within a pixel where it stands on whole pixels.
-    void OwnFramesFollowTheSettings()
+    void ownFramesFollowTheSettings()
     {
         QFETCH(QSize, size);
         QFETCH(int, angle);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(Length(placement.toFrame.map(drawn.bottomLeft()) - placement.corners[3]) < 1e-6);
     }
 
-    void CustomFramesAreUsedUp_data()
+    void customFramesAreUsedUp_data()
     {
         QTest::addColumn<QSize>("picture");
         QTest::addColumn<QSize>("frame");
@@ -121,7 +121,7 @@ private Q_SLOTS:
             << photo << QSize(600, 600) << QMargins(300, 0, 300, 0) << 45 << QRect(0, 100, 600, 400);
     }
 
-    void CustomFramesAreUsedUp()
+    void customFramesAreUsedUp()
     {
         QFETCH(QSize, picture);
         QFETCH(QSize, frame);
@@ -139,7 +139,7 @@ private Q_SLOTS:
     }
 
     // A picture that is turned freely keeps its ratio, stays in the free area and touches two of its opposite sides.
-    void TurnedPicturesFillTheFreeArea_data()
+    void turnedPicturesFillTheFreeArea_data()
     {
         QTest::addColumn<QSize>("picture");
         QTest::addColumn<QSize>("frame");
@@ -156,7 +156,7 @@ private Q_SLOTS:
         }
     }
 
-    void TurnedPicturesFillTheFreeArea()
+    void turnedPicturesFillTheFreeArea()
     {
         QFETCH(QSize, picture);
         QFETCH(QSize, frame);
@@ -188,7 +188,7 @@ private Q_SLOTS:
     }
 
     // Margins that take everything away are no reason to lose the picture.
-    void MarginsThatLeaveNothingFreeHaveNoEffect()
+    void marginsThatLeaveNothingFreeHaveNoEffect()
     {
         for (const QMargins& margins : {QMargins(50, 0, 50, 0), QMargins(0, 30, 0, 70), QMargins(999, 999, 999, 999)}) {
             ZTBatchOutputSettings::Transformation framing = PlainFraming();
@@ -202,7 +202,7 @@ private Q_SLOTS:
         }
     }
 
-    void OnlyWholeFramesAreCovered()
+    void onlyWholeFramesAreCovered()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         QVERIFY(FramePlacement(QSize(100, 80), framing).hasRoom);

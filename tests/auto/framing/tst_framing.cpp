@@ -32,7 +32,7 @@ class TestFraming : public QObject
 private Q_SLOTS:
     void initTestCase() { QVERIFY(VIPS_INIT("tst_framing") == 0); }
 
-    void WithoutMarginsThePictureStaysItself()
+    void withoutMarginsThePictureStaysItself()
     {
         const QImage picture = Landscape(QSize(40, 30));
         const Picture framed = FramePicture(FromImage(picture), PlainFraming());
@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(ToImage(framed), picture.convertToFormat(QImage::Format_RGBA8888));
     }
 
-    void QuarterTurnsKeepEveryPixel_data()
+    void quarterTurnsKeepEveryPixel_data()
     {
         QTest::addColumn<int>("angle");
         for (const int angle : {90, 180, 270, -90, 450}) {
@@ -48,7 +48,7 @@ private Q_SLOTS:
         }
     }
 
-    void QuarterTurnsKeepEveryPixel()
+    void quarterTurnsKeepEveryPixel()
     {
         QFETCH(int, angle);
         const QImage picture = Landscape(QSize(40, 40));
@@ -59,7 +59,7 @@ private Q_SLOTS:
                  picture.transformed(QTransform().rotate(angle % 360)).convertToFormat(QImage::Format_RGBA8888));
     }
 
-    void MarginsShowTheBackground()
+    void marginsShowTheBackground()
     {
         const Picture framed = FramePicture(Uniform(20, 20, {10, 20, 30}), OnColour(QColor(200, 150, 100), 5));
         QCOMPARE(framed.width(), 20);
@@ -74,7 +74,7 @@ private Q_SLOTS:
         }
     }
 
-    void WithoutBackgroundTheMarginsAreTransparent()
+    void withoutBackgroundTheMarginsAreTransparent()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.margins = QMargins(5, 5, 5, 5);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(grey.getpoint(4, 5)[1], 0.0);
     }
 
-    void OpacitiesScaleAlpha()
+    void opacitiesScaleAlpha()
     {
         ZTBatchOutputSettings::Transformation framing = OnColour(QColor(100, 100, 100), 5);
         framing.opacity = 0.4;
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(both, 10, 10), QStringLiteral("177 133"));
     }
 
-    void ThePictureIsBlended_data()
+    void thePictureIsBlended_data()
     {
         QTest::addColumn<int>("mode");
         QTest::addColumn<QString>("expected"); // of 204 over 51, which are four fifths and one fifth
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QTest::newRow("difference") << 8 << QStringLiteral("153");
     }
 
-    void ThePictureIsBlended()
+    void thePictureIsBlended()
     {
         QFETCH(int, mode);
         QFETCH(QString, expected);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(framed, 2, 8), QStringLiteral("51"));
     }
 
-    void AlphaOfThePictureIsKept()
+    void alphaOfThePictureIsKept()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.margins = QMargins(5, 5, 5, 5);
@@ -141,7 +141,7 @@ private Q_SLOTS:
     }
 
     // Pixels that cannot be seen must not colour their neighbours when the picture is turned or scaled.
-    void InvisibleColoursStayInvisible()
+    void invisibleColoursStayInvisible()
     {
         QImage picture(60, 60, QImage::Format_RGBA8888);
         picture.fill(QColor(255, 0, 0, 0));
@@ -165,7 +165,7 @@ private Q_SLOTS:
         }
     }
 
-    void DeepPicturesStayDeep()
+    void deepPicturesStayDeep()
     {
         ZTBatchOutputSettings::Transformation framing = OnColour(QColor(200, 150, 100), 5);
         const Picture framed = FramePicture(Uniform(20, 20, {1001, 20002, 60003}, VIPS_FORMAT_USHORT), framing);
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(framed, 1, 1), QStringLiteral("51400 38550 25700"));
     }
 
-    void TurningKeepsFlatColours()
+    void turningKeepsFlatColours()
     {
         ZTBatchOutputSettings::Transformation framing = OnColour(Qt::white, 5);
         framing.angle = 30;
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(turned, 10, 10), QStringLiteral("1001 20002 60003"));
     }
 
-    void CustomFramesHaveTheirSize()
+    void customFramesHaveTheirSize()
     {
         ZTBatchOutputSettings::Transformation framing = OnColour(QColor(9, 9, 9), 0);
         framing.backgroundCustomOutput = true;
@@ -198,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(PixelText(framed, 29, 35), QStringLiteral("9"));
     }
 
-    void MetadataIsThePictures()
+    void metadataIsThePictures()
     {
         Picture picture = Uniform(20, 20, {1, 2, 3}).copy();
         picture.set("exif-ifd0-Artist", "Someone");
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(framed.get_string("exif-ifd0-Artist")), QByteArray("Someone"));
     }
 
-    void PatternTilesRepeat_data()
+    void patternTilesRepeat_data()
     {
         QTest::addColumn<int>("pattern");
         QTest::addColumn<int>("percent");
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QTest::newRow("too small for the screen") << 0 << 1 << 2;
     }
 
-    void PatternTilesRepeat()
+    void patternTilesRepeat()
     {
         QFETCH(int, pattern);
         QFETCH(int, percent);
@@ -247,7 +247,7 @@ private Q_SLOTS:
         }
     }
 
-    void PatternsDiffer()
+    void patternsDiffer()
     {
         QSet<QByteArray> tiles;
         for (int pattern = 0; pattern < 8; ++pattern) {
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(tiles.size(), 8);
     }
 
-    void TheCheckerboardIsExact()
+    void theCheckerboardIsExact()
     {
         ZTBatchOutputSettings::Transformation framing = PlainFraming();
         framing.backgroundType = int(BackgroundType::Pattern);

@@ -66,7 +66,7 @@ double SrgbOf(double light)
 } // namespace
 
 /// Colours of results: profiles of sources, profiles of jobs, inks.
-class WorkerColoursTest : public QObject
+class tst_WorkerColours : public QObject
 {
     Q_OBJECT
 
@@ -92,17 +92,17 @@ private:
     std::unique_ptr<WorkerBench> bench;
 };
 
-void WorkerColoursTest::initTestCase()
+void tst_WorkerColours::initTestCase()
 {
     StartPictures();
 }
 
-void WorkerColoursTest::init()
+void tst_WorkerColours::init()
 {
     bench = std::make_unique<WorkerBench>();
 }
 
-void WorkerColoursTest::knowsKindsOfProfiles()
+void tst_WorkerColours::knowsKindsOfProfiles()
 {
     QVERIFY(KindOfProfile(BuiltIn("srgb")) == ColourKind::Rgb);
     QVERIFY(KindOfProfile(BuiltIn("p3")) == ColourKind::Rgb);
@@ -115,7 +115,7 @@ void WorkerColoursTest::knowsKindsOfProfiles()
     QVERIFY(!IsSrgb(BuiltIn("cmyk")));
 }
 
-void WorkerColoursTest::keepsTheProfileAndTheNumbers()
+void tst_WorkerColours::keepsTheProfileAndTheNumbers()
 {
     const QByteArray profile = BuiltIn("p3");
     WritePicture(WithProfile(Patches(), profile), bench->Path(Text("in.png")));
@@ -125,7 +125,7 @@ void WorkerColoursTest::keepsTheProfileAndTheNumbers()
     QCOMPARE(LargestDifference(result, Patches()), 0.0);
 }
 
-void WorkerColoursTest::readsFloatingPoint_data()
+void tst_WorkerColours::readsFloatingPoint_data()
 {
     QTest::addColumn<std::vector<double>>("values");
     QTest::addColumn<int>("colours");
@@ -140,7 +140,7 @@ void WorkerColoursTest::readsFloatingPoint_data()
 }
 
 /// Light without a profile, the values of the profile with one.
-void WorkerColoursTest::readsFloatingPoint()
+void tst_WorkerColours::readsFloatingPoint()
 {
     QFETCH(const std::vector<double>, values);
     QFETCH(const int, colours);
@@ -168,7 +168,7 @@ void WorkerColoursTest::readsFloatingPoint()
     }
 }
 
-void WorkerColoursTest::convertsToTheProfileOfTheJob_data()
+void tst_WorkerColours::convertsToTheProfileOfTheJob_data()
 {
     QTest::addColumn<bool>("hasProfile");
     QTest::addColumn<bool>("isDeep");
@@ -179,7 +179,7 @@ void WorkerColoursTest::convertsToTheProfileOfTheJob_data()
     QTest::newRow("with alpha") << false << false << true;
 }
 
-void WorkerColoursTest::convertsToTheProfileOfTheJob()
+void tst_WorkerColours::convertsToTheProfileOfTheJob()
 {
     QFETCH(const bool, hasProfile);
     QFETCH(const bool, isDeep);
@@ -230,7 +230,7 @@ void WorkerColoursTest::convertsToTheProfileOfTheJob()
     QVERIFY2(difference < 3.5, qPrintable(QString::number(difference)));
 }
 
-void WorkerColoursTest::convertsWithoutProfileToSrgb()
+void tst_WorkerColours::convertsWithoutProfileToSrgb()
 {
     // A format that holds no profile, and a job that keeps none, both get sRGB: the colours stay right.
     WritePicture(WithProfile(Plain({200, 80, 60}), BuiltIn("p3")), bench->Path(Text("in.png")));
@@ -247,7 +247,7 @@ void WorkerColoursTest::convertsWithoutProfileToSrgb()
     QVERIFY(LargestDifference(gif.extract_band(0, Picture::option()->set("n", 3)), expected) <= 4.0);
 }
 
-void WorkerColoursTest::fallsBackFromBrokenProfiles_data()
+void tst_WorkerColours::fallsBackFromBrokenProfiles_data()
 {
     QTest::addColumn<QByteArray>("profile");
     QTest::addColumn<bool>("isOfJob");
@@ -260,7 +260,7 @@ void WorkerColoursTest::fallsBackFromBrokenProfiles_data()
     QTest::newRow("of the job, cut off") << cut << true;
 }
 
-void WorkerColoursTest::fallsBackFromBrokenProfiles()
+void tst_WorkerColours::fallsBackFromBrokenProfiles()
 {
     QFETCH(const QByteArray, profile);
     QFETCH(const bool, isOfJob);
@@ -280,7 +280,7 @@ void WorkerColoursTest::fallsBackFromBrokenProfiles()
     QCOMPARE(LargestDifference(result, Patches()), 0.0);
 }
 
-void WorkerColoursTest::keepsInks_data()
+void tst_WorkerColours::keepsInks_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("name");
@@ -295,7 +295,7 @@ void WorkerColoursTest::keepsInks_data()
     QTest::newRow("JPEG with nothing but the profile") << Text("JPEG") << Text("out.jpg") << true << 2.0 << onlyProfile;
 }
 
-void WorkerColoursTest::keepsInks()
+void tst_WorkerColours::keepsInks()
 {
     QFETCH(const QString, format);
     QFETCH(const QString, name);
@@ -315,7 +315,7 @@ void WorkerColoursTest::keepsInks()
     QVERIFY(LargestDifference(result, black) <= tolerance);
 }
 
-void WorkerColoursTest::writesInksBackAfterEffects()
+void tst_WorkerColours::writesInksBackAfterEffects()
 {
     const Picture inks = WithProfile(Plain({120, 60, 40, 10}, VIPS_INTERPRETATION_CMYK), BuiltIn("cmyk"));
     WritePicture(inks, bench->Path(Text("in.tif")));
@@ -336,7 +336,7 @@ void WorkerColoursTest::writesInksBackAfterEffects()
     QVERIFY2(difference <= 6.0, qPrintable(QString::number(difference)));
 }
 
-void WorkerColoursTest::turnsInksIntoSrgb()
+void tst_WorkerColours::turnsInksIntoSrgb()
 {
     const Picture inks = WithProfile(Plain({0, 200, 200, 0}, VIPS_INTERPRETATION_CMYK), BuiltIn("cmyk"));
     WritePicture(inks, bench->Path(Text("in.tif")));
@@ -354,12 +354,12 @@ void WorkerColoursTest::turnsInksIntoSrgb()
     QVERIFY(pixel[0] > pixel[1] + 60);
 }
 
-void WorkerColoursTest::refusesInksWhereThereIsNoPlace()
+void tst_WorkerColours::refusesInksWhereThereIsNoPlace()
 {
     WritePicture(Patches(), bench->Path(Text("in.png")));
     const auto edit = [](ZTBatchOutputSettings& output) { output.SetICCProfile(BuiltIn("cmyk")); };
     const Report png = bench->Make(Text("in.png"), Text("out.png"), Text("PNG"), {}, edit);
-    QCOMPARE(png.failure, Case::WriteToFormat);
+    QCOMPARE(png.failure, PolicyKind::WriteToFormat);
     QCOMPARE(png.errorCode, qint32(ZTBatchMessage::UnsupportedOutputFormat));
     QCOMPARE(png.nearestFormat, Text("JPEG"));
     const Report jpeg = bench->Make(Text("in.png"), Text("out.jpg"), Text("JPEG"), {}, edit);
@@ -367,5 +367,5 @@ void WorkerColoursTest::refusesInksWhereThereIsNoPlace()
     QCOMPARE(ReadPicture(bench->Path(Text("out.jpg"))).interpretation(), VIPS_INTERPRETATION_CMYK);
 }
 
-QTEST_GUILESS_MAIN(WorkerColoursTest)
+QTEST_GUILESS_MAIN(tst_WorkerColours)
 #include "tst_workercolours.moc"

@@ -46,7 +46,7 @@ ZTBatchOutputSettings::Crop Crop(CropType type, const QSize& size, int alignment
 } // namespace
 
 /// Sizes and frames: the arithmetic by itself, and what it does to real pictures.
-class WorkerGeometryTest : public QObject
+class tst_WorkerGeometry : public QObject
 {
     Q_OBJECT
 
@@ -73,12 +73,12 @@ private Q_SLOTS:
     void writesTheResolution();
 };
 
-void WorkerGeometryTest::initTestCase()
+void tst_WorkerGeometry::initTestCase()
 {
     StartPictures();
 }
 
-void WorkerGeometryTest::countsSizes_data()
+void tst_WorkerGeometry::countsSizes_data()
 {
     using R = SizeRestriction;
     using S = SizeSide;
@@ -120,7 +120,7 @@ void WorkerGeometryTest::countsSizes_data()
     row("a length beyond all pictures", {10, 10}, Size(R::Fit, S::Width, U::Pixels, 1e300), {10'000'000, 10'000'000});
 }
 
-void WorkerGeometryTest::countsSizes()
+void tst_WorkerGeometry::countsSizes()
 {
     QFETCH(const QSize, size);
     QFETCH(const ZTBatchOutputSettings::ImageSize, settings);
@@ -128,7 +128,7 @@ void WorkerGeometryTest::countsSizes()
     QCOMPARE(SizeAfter(size, settings), expected);
 }
 
-void WorkerGeometryTest::plansCrops_data()
+void tst_WorkerGeometry::plansCrops_data()
 {
     QTest::addColumn<ZTBatchOutputSettings::Crop>("crop");
     QTest::addColumn<ZTBatchOutputSettings::ImageSize>("imageSize");
@@ -166,7 +166,7 @@ void WorkerGeometryTest::plansCrops_data()
                                      << QSize(400, 300) << QRect(0, 50, 400, 200);
 }
 
-void WorkerGeometryTest::plansCrops()
+void tst_WorkerGeometry::plansCrops()
 {
     QFETCH(const ZTBatchOutputSettings::Crop, crop);
     QFETCH(const ZTBatchOutputSettings::ImageSize, imageSize);
@@ -179,7 +179,7 @@ void WorkerGeometryTest::plansCrops()
     QCOMPARE(geometry.cut, cut);
 }
 
-void WorkerGeometryTest::findsStoredPlaces_data()
+void tst_WorkerGeometry::findsStoredPlaces_data()
 {
     QTest::addColumn<int>("orientation");
     for (int orientation = 1; orientation <= 8; ++orientation) {
@@ -187,7 +187,7 @@ void WorkerGeometryTest::findsStoredPlaces_data()
     }
 }
 
-void WorkerGeometryTest::findsStoredPlaces()
+void tst_WorkerGeometry::findsStoredPlaces()
 {
     QFETCH(const int, orientation);
 
@@ -207,7 +207,7 @@ void WorkerGeometryTest::findsStoredPlaces()
     QCOMPARE(turned.avg() * upright.width() * upright.height(), 255.0 * mark.width() * mark.height());
 }
 
-void WorkerGeometryTest::cropsExactPixels_data()
+void tst_WorkerGeometry::cropsExactPixels_data()
 {
     QTest::addColumn<int>("alignment");
     QTest::addColumn<QPoint>("start");
@@ -217,7 +217,7 @@ void WorkerGeometryTest::cropsExactPixels_data()
     QTest::newRow("top") << int(Qt::AlignTop | Qt::AlignHCenter) << QPoint(30, 0);
 }
 
-void WorkerGeometryTest::cropsExactPixels()
+void tst_WorkerGeometry::cropsExactPixels()
 {
     QFETCH(const int, alignment);
     QFETCH(const QPoint, start);
@@ -232,7 +232,7 @@ void WorkerGeometryTest::cropsExactPixels()
              0.0);
 }
 
-void WorkerGeometryTest::fillsTheFrame()
+void tst_WorkerGeometry::fillsTheFrame()
 {
     WorkerBench bench;
     const Picture chart = Chart(300, 200, 32);
@@ -243,7 +243,7 @@ void WorkerGeometryTest::fillsTheFrame()
     QVERIFY(MeanDifference(result, chart.resize(0.5).crop(25, 0, 100, 100)) < 0.5);
 }
 
-void WorkerGeometryTest::loadsSmallerUnseen_data()
+void tst_WorkerGeometry::loadsSmallerUnseen_data()
 {
     QTest::addColumn<QString>("extension");
     QTest::addColumn<int>("type");
@@ -254,7 +254,7 @@ void WorkerGeometryTest::loadsSmallerUnseen_data()
     }
 }
 
-void WorkerGeometryTest::loadsSmallerUnseen()
+void tst_WorkerGeometry::loadsSmallerUnseen()
 {
     QFETCH(const QString, extension);
     QFETCH(const int, type);
@@ -276,7 +276,7 @@ void WorkerGeometryTest::loadsSmallerUnseen()
     QVERIFY2(difference < 3.0, qPrintable(QString::number(difference)));
 }
 
-void WorkerGeometryTest::keepsPlainValuesOfSixteenBits_data()
+void tst_WorkerGeometry::keepsPlainValuesOfSixteenBits_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<bool>("hasAlpha");
@@ -287,7 +287,7 @@ void WorkerGeometryTest::keepsPlainValuesOfSixteenBits_data()
 }
 
 // A resize of a picture of one colour gives that colour.
-void WorkerGeometryTest::keepsPlainValuesOfSixteenBits()
+void tst_WorkerGeometry::keepsPlainValuesOfSixteenBits()
 {
     QFETCH(const int, value);
     QFETCH(const bool, hasAlpha);
@@ -315,7 +315,7 @@ void WorkerGeometryTest::keepsPlainValuesOfSixteenBits()
     }
 }
 
-void WorkerGeometryTest::trimsBorders_data()
+void tst_WorkerGeometry::trimsBorders_data()
 {
     QTest::addColumn<int>("orientation");
     QTest::addColumn<int>("kind");
@@ -327,7 +327,7 @@ void WorkerGeometryTest::trimsBorders_data()
     }
 }
 
-void WorkerGeometryTest::trimsBorders()
+void tst_WorkerGeometry::trimsBorders()
 {
     QFETCH(const int, orientation);
     QFETCH(const int, kind);
@@ -361,7 +361,7 @@ void WorkerGeometryTest::trimsBorders()
     QCOMPARE(LargestDifference(result, expected), 0.0);
 }
 
-void WorkerGeometryTest::trimsNoThinLines()
+void tst_WorkerGeometry::trimsNoThinLines()
 {
     WorkerBench bench;
     Picture drawing = Picture::black(400, 300, Picture::option()->set("bands", 3)).linear(1, 255).copy_memory();
@@ -377,7 +377,7 @@ void WorkerGeometryTest::trimsNoThinLines()
     QCOMPARE(LargestDifference(result, plain.crop(20, 20, 371, 271)), 0.0);
 }
 
-void WorkerGeometryTest::findsWhatDrawsTheEye()
+void tst_WorkerGeometry::findsWhatDrawsTheEye()
 {
     WorkerBench bench;
     // A bright pattern on the right third of a plain grey picture.
@@ -399,7 +399,7 @@ void WorkerGeometryTest::findsWhatDrawsTheEye()
     QVERIFY(std::abs(amount(result) - amount(scene)) < 1);
 }
 
-void WorkerGeometryTest::writesTheResolution_data()
+void tst_WorkerGeometry::writesTheResolution_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("name");
@@ -408,7 +408,7 @@ void WorkerGeometryTest::writesTheResolution_data()
     QTest::newRow("TIFF") << Text("TIFF") << Text("out.tif");
 }
 
-void WorkerGeometryTest::writesTheResolution()
+void tst_WorkerGeometry::writesTheResolution()
 {
     QFETCH(const QString, format);
     QFETCH(const QString, name);
@@ -421,5 +421,5 @@ void WorkerGeometryTest::writesTheResolution()
     QVERIFY(std::abs(ReadPicture(bench.Path(name)).xres() * 25.4 - 240) < 0.1);
 }
 
-QTEST_GUILESS_MAIN(WorkerGeometryTest)
+QTEST_GUILESS_MAIN(tst_WorkerGeometry)
 #include "tst_workergeometry.moc"

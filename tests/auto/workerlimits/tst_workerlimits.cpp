@@ -71,7 +71,7 @@ Picture Noise(int width, int height)
 } // namespace
 
 /// What a worker may take, what it leaves behind, and what it gives up.
-class WorkerLimitsTest : public QObject
+class tst_WorkerLimits : public QObject
 {
     Q_OBJECT
 
@@ -91,12 +91,12 @@ private Q_SLOTS:
     void tellsFailedEffectsFromDamagedFiles();
 };
 
-void WorkerLimitsTest::initTestCase()
+void tst_WorkerLimits::initTestCase()
 {
     StartPictures();
 }
 
-void WorkerLimitsTest::leavesNothingOnAFullDisk_data()
+void tst_WorkerLimits::leavesNothingOnAFullDisk_data()
 {
     QTest::addColumn<QString>("format");
     for (const char* format : {"JPEG", "PNG", "TIFF", "WebP", "HEIF", "AVIF", "JPEG XL", "JPEG 2000", "GIF"}) {
@@ -104,7 +104,7 @@ void WorkerLimitsTest::leavesNothingOnAFullDisk_data()
     }
 }
 
-void WorkerLimitsTest::leavesNothingOnAFullDisk()
+void tst_WorkerLimits::leavesNothingOnAFullDisk()
 {
     QFETCH(const QString, format);
 
@@ -113,24 +113,24 @@ void WorkerLimitsTest::leavesNothingOnAFullDisk()
     const rlimit small{2'000, 2'000};
     QCOMPARE(prlimit(pid_t(bench.Worker().ProcessId()), RLIMIT_FSIZE, &small, nullptr), 0);
     const Report report = bench.Make(Text("in.png"), Text("out"), format);
-    QVERIFY2(report.failure == Case::Output, qPrintable(report.reason));
+    QVERIFY2(report.failure == PolicyKind::Output, qPrintable(report.reason));
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
     QVERIFY(!report.reason.isEmpty());
     QCOMPARE(bench.Names(), QStringList(Text("in.png")));
 }
 
-void WorkerLimitsTest::goesOnAfterAFullDisk()
+void tst_WorkerLimits::goesOnAfterAFullDisk()
 {
     WorkerBench bench;
     WritePicture(Noise(200, 150), bench.Path(Text("in.png")));
     WritePicture(Picture::black(10, 10), bench.Path(Text("small.png")));
     const rlimit small{2'000, 2'000};
     QCOMPARE(prlimit(pid_t(bench.Worker().ProcessId()), RLIMIT_FSIZE, &small, nullptr), 0);
-    QCOMPARE(bench.Make(Text("in.png"), Text("out.png"), Text("PNG")).failure, Case::Output);
+    QCOMPARE(bench.Make(Text("in.png"), Text("out.png"), Text("PNG")).failure, PolicyKind::Output);
     QCOMPARE(bench.Make(Text("small.png"), Text("out.png"), Text("PNG")).reason, QString());
 }
 
-void WorkerLimitsTest::boundsItsMemory()
+void tst_WorkerLimits::boundsItsMemory()
 {
     if (isSanitized) {
         QSKIP("sanitizers reserve more address space than any limit");
@@ -145,13 +145,13 @@ void WorkerLimitsTest::boundsItsMemory()
     Job job = JobOf(Text("JPEG"));
     job.limits.workerMemory = qint64(150) << 20;
     const Report report = bench.Make(Text("in.jpg"), Text("out.jpg"), Text("JPEG"), job);
-    const bool isReported = report.failure == Case::Input && report.errorCode == ZTBatchMessage::ImageTooLarge;
+    const bool isReported = report.failure == PolicyKind::Input && report.errorCode == ZTBatchMessage::ImageTooLarge;
     const bool isEnded = bench.Worker().ExitCode() == workerOutOfMemory;
     QVERIFY2(isReported || isEnded, qPrintable(report.reason));
     QVERIFY(!QFile::exists(bench.Path(Text("out.jpg"))));
 }
 
-void WorkerLimitsTest::staysSmall_data()
+void tst_WorkerLimits::staysSmall_data()
 {
     using Framing = ZTBatchOutputSettings::Transformation;
     QTest::addColumn<QStringList>("effects"); // each with its parameters
@@ -200,7 +200,7 @@ void WorkerLimitsTest::staysSmall_data()
     QTest::newRow("framed askew, after effects") << QStringList{Text("clarity {}")} << 6 << 0 << framed;
 }
 
-void WorkerLimitsTest::staysSmall()
+void tst_WorkerLimits::staysSmall()
 {
     QFETCH(const QStringList, effects);
     QFETCH(const int, orientation);
@@ -235,7 +235,7 @@ void WorkerLimitsTest::staysSmall()
 }
 
 /// What does not fit into memory goes to disk; a worker that is killed meanwhile must not leave it there.
-void WorkerLimitsTest::keepsNoNamedFilesForItself()
+void tst_WorkerLimits::keepsNoNamedFilesForItself()
 {
     if (isSanitized) {
         QSKIP("under sanitizers this takes minutes");
@@ -274,7 +274,7 @@ void WorkerLimitsTest::keepsNoNamedFilesForItself()
     QCOMPARE(report->reason, QString());
 }
 
-void WorkerLimitsTest::givesUpRights()
+void tst_WorkerLimits::givesUpRights()
 {
     WorkerBench bench;
     WritePicture(Chart(30, 20), bench.Path(Text("in.png")));
@@ -290,7 +290,7 @@ void WorkerLimitsTest::givesUpRights()
     QVERIFY(LimitOf(process, RLIMIT_FSIZE).rlim_max != RLIM_INFINITY);
 }
 
-void WorkerLimitsTest::endsWithItsSupervisor()
+void tst_WorkerLimits::endsWithItsSupervisor()
 {
     // A shell in the place of the supervisor starts a worker whose input never ends, and is killed.
     QTemporaryDir folder;
@@ -307,7 +307,7 @@ void WorkerLimitsTest::endsWithItsSupervisor()
     QTRY_VERIFY_WITH_TIMEOUT(StatusOf(worker, "Name").isEmpty() || StatusOf(worker, "State").startsWith('Z'), 30'000);
 }
 
-void WorkerLimitsTest::marksItsTemporaryFiles()
+void tst_WorkerLimits::marksItsTemporaryFiles()
 {
     QTemporaryDir folder;
     TemporaryFile file(folder.filePath(Text("result.jpg")));
@@ -321,7 +321,7 @@ void WorkerLimitsTest::marksItsTemporaryFiles()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(Text("result.jpg")));
 }
 
-void WorkerLimitsTest::sweepsStaleFilesOnly()
+void tst_WorkerLimits::sweepsStaleFilesOnly()
 {
     QTemporaryDir folder;
     const auto make = [&folder](const char* name) {
@@ -346,7 +346,7 @@ void WorkerLimitsTest::sweepsStaleFilesOnly()
     QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))), 0);
 }
 
-void WorkerLimitsTest::tellsFailedEffectsFromDamagedFiles()
+void tst_WorkerLimits::tellsFailedEffectsFromDamagedFiles()
 {
     WorkerBench bench;
     const auto jobWith = [](const QByteArray& effect, const QByteArray& parameters) {
@@ -360,7 +360,7 @@ void WorkerLimitsTest::tellsFailedEffectsFromDamagedFiles()
     bench.WriteBytes(Text("mark.png"), "no picture");
     const QByteArray mark = "{\"file\":\"" + bench.Path(Text("mark.png")).toUtf8() + "\"}";
     const Report effect = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith("watermark-image", mark));
-    QVERIFY2(effect.failure == Case::Processing, qPrintable(effect.reason));
+    QVERIFY2(effect.failure == PolicyKind::Processing, qPrintable(effect.reason));
     QCOMPARE(effect.errorCode, qint32(ZTBatchMessage::ApplyAdjustmentError));
 
     // A damaged file stays a damaged file, with an effect that streams and with one that holds the picture.
@@ -368,11 +368,11 @@ void WorkerLimitsTest::tellsFailedEffectsFromDamagedFiles()
     for (const char* id : {"exposure", "auto-levels", "rotate"}) {
         const QByteArray parameters = qstrcmp(id, "rotate") == 0 ? "{\"angle\":30}" : "{}";
         const Report damaged = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith(id, parameters));
-        QVERIFY2(damaged.failure == Case::Input, qPrintable(damaged.reason));
+        QVERIFY2(damaged.failure == PolicyKind::Input, qPrintable(damaged.reason));
         QCOMPARE(damaged.errorCode, qint32(ZTBatchMessage::ReadFileError));
     }
     QVERIFY(!QFile::exists(bench.Path(Text("out.png"))));
 }
 
-QTEST_GUILESS_MAIN(WorkerLimitsTest)
+QTEST_GUILESS_MAIN(tst_WorkerLimits)
 #include "tst_workerlimits.moc"

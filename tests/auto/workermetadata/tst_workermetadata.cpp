@@ -145,7 +145,7 @@ bool HoldsIptc(const QString& format)
 } // namespace
 
 /// What results say about themselves.
-class WorkerMetadataTest : public QObject
+class tst_WorkerMetadata : public QObject
 {
     Q_OBJECT
 
@@ -175,7 +175,7 @@ private:
     std::unique_ptr<WorkerBench> bench;
 };
 
-void WorkerMetadataTest::initTestCase()
+void tst_WorkerMetadata::initTestCase()
 {
     StartPictures();
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
@@ -187,7 +187,7 @@ void WorkerMetadataTest::initTestCase()
 }
 
 // A picture with metadata of every kind, turned by 90 degrees, with a profile that is not sRGB.
-void WorkerMetadataTest::WriteSource(const QString& name) const
+void tst_WorkerMetadata::WriteSource(const QString& name) const
 {
     Picture picture = Chart(90, 60);
     VipsBlob* profile = nullptr;
@@ -212,7 +212,7 @@ void WorkerMetadataTest::WriteSource(const QString& name) const
     image->writeMetadata();
 }
 
-void WorkerMetadataTest::keepsEachKind_data()
+void tst_WorkerMetadata::keepsEachKind_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QStringList>("keep");
@@ -228,7 +228,7 @@ void WorkerMetadataTest::keepsEachKind_data()
     }
 }
 
-void WorkerMetadataTest::keepsEachKind()
+void tst_WorkerMetadata::keepsEachKind()
 {
     QFETCH(const QString, format);
     QFETCH(const QStringList, keep);
@@ -254,7 +254,7 @@ void WorkerMetadataTest::keepsEachKind()
     QCOMPARE(report.warnings.isEmpty(), !losesSomething);
 }
 
-void WorkerMetadataTest::leavesTheWholeBlockOut_data()
+void tst_WorkerMetadata::leavesTheWholeBlockOut_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QStringList>("keep");
@@ -275,7 +275,7 @@ void WorkerMetadataTest::leavesTheWholeBlockOut_data()
 }
 
 /// Where no EXIF is to be kept, the encoder makes none up.
-void WorkerMetadataTest::leavesTheWholeBlockOut()
+void tst_WorkerMetadata::leavesTheWholeBlockOut()
 {
     QFETCH(const QString, format);
     QFETCH(const QStringList, keep);
@@ -304,7 +304,7 @@ void WorkerMetadataTest::leavesTheWholeBlockOut()
     QCOMPARE(QSize(result.width(), result.height()), QSize(60, 90));
 }
 
-void WorkerMetadataTest::describesTheResult_data()
+void tst_WorkerMetadata::describesTheResult_data()
 {
     QTest::addColumn<QString>("format");
     for (const FormatSchema& format : Formats()) {
@@ -314,7 +314,7 @@ void WorkerMetadataTest::describesTheResult_data()
     }
 }
 
-void WorkerMetadataTest::describesTheResult()
+void tst_WorkerMetadata::describesTheResult()
 {
     QFETCH(const QString, format);
 
@@ -343,12 +343,12 @@ void WorkerMetadataTest::describesTheResult()
     QCOMPARE(found.Exif("Exif.Thumbnail.Compression"), QString());
 }
 
-void WorkerMetadataTest::takesMetadataOutOfOtherFormats_data()
+void tst_WorkerMetadata::takesMetadataOutOfOtherFormats_data()
 {
     describesTheResult_data();
 }
 
-void WorkerMetadataTest::takesMetadataOutOfOtherFormats()
+void tst_WorkerMetadata::takesMetadataOutOfOtherFormats()
 {
     QFETCH(const QString, format);
 
@@ -369,7 +369,7 @@ void WorkerMetadataTest::takesMetadataOutOfOtherFormats()
 }
 
 /// As encoders write them that pack what they can.
-void WorkerMetadataTest::readsPackedBoxes()
+void tst_WorkerMetadata::readsPackedBoxes()
 {
     WriteSource(Text("in.jpg"));
     QCOMPARE(bench->Make(Text("in.jpg"), Text("out.jxl"), Text("JPEG XL")).reason, QString());
@@ -392,7 +392,7 @@ void WorkerMetadataTest::readsPackedBoxes()
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
 }
 
-void WorkerMetadataTest::survivesBrokenBoxes_data()
+void tst_WorkerMetadata::survivesBrokenBoxes_data()
 {
     QTest::addColumn<QByteArray>("box");
     QTest::newRow("EXIF that ends before it begins") << BigEndian(12, 4) + "Exif" + QByteArray(4, '\xFF');
@@ -403,7 +403,7 @@ void WorkerMetadataTest::survivesBrokenBoxes_data()
     QTest::newRow("packed by far") << QByteArray("brob") + "xml " + Packed(QByteArray(80 << 20, ' '));
 }
 
-void WorkerMetadataTest::survivesBrokenBoxes()
+void tst_WorkerMetadata::survivesBrokenBoxes()
 {
     QFETCH(QByteArray, box);
     if (box.startsWith("brob")) {
@@ -422,7 +422,7 @@ void WorkerMetadataTest::survivesBrokenBoxes()
     QCOMPARE(ReadPicture(bench->Path(Text("broken.png"))).height(), 90);
 }
 
-void WorkerMetadataTest::survivesBrokenMetadata()
+void tst_WorkerMetadata::survivesBrokenMetadata()
 {
     WriteSource(Text("in.jpg"));
     QByteArray bytes = bench->Bytes(Text("in.jpg"));
@@ -436,7 +436,7 @@ void WorkerMetadataTest::survivesBrokenMetadata()
     QCOMPARE(ReadPicture(bench->Path(Text("out.jpg"))).bands(), 3);
 }
 
-void WorkerMetadataTest::readsMetadataBesideBrokenProfiles_data()
+void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("profile");
@@ -454,7 +454,7 @@ void WorkerMetadataTest::readsMetadataBesideBrokenProfiles_data()
     }
 }
 
-void WorkerMetadataTest::readsMetadataBesideBrokenProfiles()
+void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles()
 {
     QFETCH(const QString, format);
     QFETCH(const QByteArray, profile);
@@ -484,7 +484,7 @@ void WorkerMetadataTest::readsMetadataBesideBrokenProfiles()
              QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 
-void WorkerMetadataTest::leavesOutWhatAJpegCannotHold()
+void tst_WorkerMetadata::leavesOutWhatAJpegCannotHold()
 {
     WritePicture(Chart(40, 30), bench->Path(Text("in.tif")));
     {
@@ -501,7 +501,7 @@ void WorkerMetadataTest::leavesOutWhatAJpegCannotHold()
     QCOMPARE(Read(*bench, Text("JPEG")).Exif("Exif.Image.Artist"), Text("A. Photographer"));
 }
 
-void WorkerMetadataTest::keepsTheFileTime_data()
+void tst_WorkerMetadata::keepsTheFileTime_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<bool>("isKept");
@@ -510,7 +510,7 @@ void WorkerMetadataTest::keepsTheFileTime_data()
     QTest::newRow("not kept") << Text("JPEG") << false;
 }
 
-void WorkerMetadataTest::keepsTheFileTime()
+void tst_WorkerMetadata::keepsTheFileTime()
 {
     QFETCH(const QString, format);
     QFETCH(const bool, isKept);
@@ -526,5 +526,5 @@ void WorkerMetadataTest::keepsTheFileTime()
     QCOMPARE(QFileInfo(bench->Path(NameIn(format))).lastModified() == before, isKept);
 }
 
-QTEST_GUILESS_MAIN(WorkerMetadataTest)
+QTEST_GUILESS_MAIN(tst_WorkerMetadata)
 #include "tst_workermetadata.moc"

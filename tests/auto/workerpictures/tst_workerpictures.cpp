@@ -86,7 +86,7 @@ Picture WithAlpha(const Picture& picture)
 } // namespace
 
 /// Pixels of results: formats, depths, orientations, alpha, options, comparison with another program.
-class WorkerPicturesTest : public QObject
+class tst_WorkerPictures : public QObject
 {
     Q_OBJECT
 
@@ -126,13 +126,13 @@ private:
     std::unique_ptr<WorkerBench> bench;
 };
 
-void WorkerPicturesTest::initTestCase()
+void tst_WorkerPictures::initTestCase()
 {
     StartPictures();
 }
 
 // One worker makes the pictures of all rows, as in a run; after a failure the next row gets a new one.
-void WorkerPicturesTest::init()
+void tst_WorkerPictures::init()
 {
     if (!bench) {
         bench = std::make_unique<WorkerBench>();
@@ -143,7 +143,7 @@ void WorkerPicturesTest::init()
     }
 }
 
-void WorkerPicturesTest::cleanup()
+void tst_WorkerPictures::cleanup()
 {
     if (QTest::currentTestFailed()) {
         bench.reset();
@@ -155,7 +155,7 @@ void WorkerPicturesTest::cleanup()
     }
 }
 
-void WorkerPicturesTest::writesEveryFormat_data()
+void tst_WorkerPictures::writesEveryFormat_data()
 {
     QTest::addColumn<QString>("format");
     for (const FormatSchema& format : Formats()) {
@@ -163,7 +163,7 @@ void WorkerPicturesTest::writesEveryFormat_data()
     }
 }
 
-void WorkerPicturesTest::writesEveryFormat()
+void tst_WorkerPictures::writesEveryFormat()
 {
     QFETCH(const QString, format);
 
@@ -182,12 +182,12 @@ void WorkerPicturesTest::writesEveryFormat()
     QCOMPARE(bench->Names(), (QStringList{Text("in.png"), NameIn(format)}));
 }
 
-void WorkerPicturesTest::readsEveryFormat_data()
+void tst_WorkerPictures::readsEveryFormat_data()
 {
     writesEveryFormat_data();
 }
 
-void WorkerPicturesTest::readsEveryFormat()
+void tst_WorkerPictures::readsEveryFormat()
 {
     QFETCH(const QString, format);
 
@@ -201,7 +201,7 @@ void WorkerPicturesTest::readsEveryFormat()
     QCOMPARE(probe.inputFormat, format);
 }
 
-void WorkerPicturesTest::turnsPicturesUpright_data()
+void tst_WorkerPictures::turnsPicturesUpright_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<int>("orientation");
@@ -212,7 +212,7 @@ void WorkerPicturesTest::turnsPicturesUpright_data()
     }
 }
 
-void WorkerPicturesTest::turnsPicturesUpright()
+void tst_WorkerPictures::turnsPicturesUpright()
 {
     QFETCH(const QString, format);
     QFETCH(const int, orientation);
@@ -275,7 +275,7 @@ void WorkerPicturesTest::turnsPicturesUpright()
     QVERIFY2(MeanDifference(part, expected) < 3.0, qPrintable(QString::number(MeanDifference(part, expected))));
 }
 
-void WorkerPicturesTest::keepsDepth_data()
+void tst_WorkerPictures::keepsDepth_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<int>("wanted");
@@ -294,7 +294,7 @@ void WorkerPicturesTest::keepsDepth_data()
     QTest::newRow("WebP") << Text("WebP") << 0 << false << 0.0;
 }
 
-void WorkerPicturesTest::keepsDepth()
+void tst_WorkerPictures::keepsDepth()
 {
     QFETCH(const QString, format);
     QFETCH(const int, wanted);
@@ -308,7 +308,7 @@ void WorkerPicturesTest::keepsDepth()
         options.insert(Text("bitDepth"), wanted);
     }
     const Report report = bench->Make(Text("in.png"), NameIn(format), format, options);
-    if (wanted == 10 && report.failure == Case::WriteToFormat) {
+    if (wanted == 10 && report.failure == PolicyKind::WriteToFormat) {
         QVERIFY(report.reason.contains(Text("depth")));
         QCOMPARE(report.nearestFormat, Text("TIFF"));
         QSKIP("this encoder falls over at 10 bits; the worker has said so and lives");
@@ -321,7 +321,7 @@ void WorkerPicturesTest::keepsDepth()
 }
 
 /// A turned picture is read while the pipeline is built; the trial of the encoder must not come after that.
-void WorkerPicturesTest::triesEncodersBeforePixelsAreRead()
+void tst_WorkerPictures::triesEncodersBeforePixelsAreRead()
 {
     const auto make = [](int orientation, int bits) {
         WorkerBench fresh;
@@ -335,7 +335,7 @@ void WorkerPicturesTest::triesEncodersBeforePixelsAreRead()
     }
 }
 
-void WorkerPicturesTest::losesNothingWithoutLoss_data()
+void tst_WorkerPictures::losesNothingWithoutLoss_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<bool>("isDeep");
@@ -354,7 +354,7 @@ void WorkerPicturesTest::losesNothingWithoutLoss_data()
 }
 
 /// Noise of every colour, with pixels that are opaque, half transparent, and cannot be seen: what can be seen stays.
-void WorkerPicturesTest::losesNothingWithoutLoss()
+void tst_WorkerPictures::losesNothingWithoutLoss()
 {
     QFETCH(const QString, format);
     QFETCH(const bool, isDeep);
@@ -382,12 +382,12 @@ void WorkerPicturesTest::losesNothingWithoutLoss()
     }
 }
 
-void WorkerPicturesTest::keepsGrey_data()
+void tst_WorkerPictures::keepsGrey_data()
 {
     writesEveryFormat_data();
 }
 
-void WorkerPicturesTest::keepsGrey()
+void tst_WorkerPictures::keepsGrey()
 {
     QFETCH(const QString, format);
 
@@ -399,7 +399,7 @@ void WorkerPicturesTest::keepsGrey()
     QVERIFY(LargestDifference(result.extract_band(0), grey) <= Tolerance(format));
 }
 
-void WorkerPicturesTest::takesEveryKind_data()
+void tst_WorkerPictures::takesEveryKind_data()
 {
     QTest::addColumn<QString>("format");
     for (const FormatSchema& format : Formats()) {
@@ -408,7 +408,7 @@ void WorkerPicturesTest::takesEveryKind_data()
 }
 
 // With its default options, and with what those leave out.
-void WorkerPicturesTest::takesEveryKind()
+void tst_WorkerPictures::takesEveryKind()
 {
     QFETCH(const QString, format);
 
@@ -427,7 +427,7 @@ void WorkerPicturesTest::takesEveryKind()
     }
 }
 
-void WorkerPicturesTest::tellsOfFurtherPages_data()
+void tst_WorkerPictures::tellsOfFurtherPages_data()
 {
     QTest::addColumn<QString>("extension");
     QTest::addColumn<QByteArray>("options");
@@ -448,7 +448,7 @@ void WorkerPicturesTest::tellsOfFurtherPages_data()
     QTest::newRow("TIFF with smaller copies, large") << Text("tif") << withSmaller + ",bigtiff" << none;
 }
 
-void WorkerPicturesTest::tellsOfFurtherPages()
+void tst_WorkerPictures::tellsOfFurtherPages()
 {
     QFETCH(const QString, extension);
     QFETCH(const QByteArray, options);
@@ -465,12 +465,12 @@ void WorkerPicturesTest::tellsOfFurtherPages()
     QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), first), 0.0);
 }
 
-void WorkerPicturesTest::keepsTransparency_data()
+void tst_WorkerPictures::keepsTransparency_data()
 {
     writesEveryFormat_data();
 }
 
-void WorkerPicturesTest::keepsTransparency()
+void tst_WorkerPictures::keepsTransparency()
 {
     QFETCH(const QString, format);
 
@@ -488,7 +488,7 @@ void WorkerPicturesTest::keepsTransparency()
     }
 }
 
-void WorkerPicturesTest::laysTransparencyOnTheBackground()
+void tst_WorkerPictures::laysTransparencyOnTheBackground()
 {
     WritePicture(WithAlpha(Chart(60, 40)), bench->Path(Text("in.png")));
     QJsonObject options = Finest(Text("JPEG"));
@@ -500,7 +500,7 @@ void WorkerPicturesTest::laysTransparencyOnTheBackground()
     QVERIFY(std::abs(hidden[2] - 0x80) <= 3);
 }
 
-void WorkerPicturesTest::mixesNoHiddenColourIntoEdges()
+void tst_WorkerPictures::mixesNoHiddenColourIntoEdges()
 {
     // White that can be seen beside red that cannot: a filter that forgets about alpha makes pink edges.
     const Picture white = Picture::black(40, 40, Picture::option()->set("bands", 3)).linear(1, 255);
@@ -528,7 +528,7 @@ void WorkerPicturesTest::mixesNoHiddenColourIntoEdges()
     }
 }
 
-void WorkerPicturesTest::obeysOptions_data()
+void tst_WorkerPictures::obeysOptions_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QJsonObject>("larger");
@@ -558,7 +558,7 @@ void WorkerPicturesTest::obeysOptions_data()
     row("JPEG 2000 quality", "JPEG 2000", {{quality, 95}}, {{quality, 30}});
 }
 
-void WorkerPicturesTest::obeysOptions()
+void tst_WorkerPictures::obeysOptions()
 {
     QFETCH(const QString, format);
     QFETCH(const QJsonObject, larger);
@@ -574,11 +574,11 @@ void WorkerPicturesTest::obeysOptions()
              qPrintable(QStringLiteral("%1 and %2 bytes").arg(small.outputBytes).arg(large.outputBytes)));
 }
 
-void WorkerPicturesTest::refusesWhatTheFormatCannotHold()
+void tst_WorkerPictures::refusesWhatTheFormatCannotHold()
 {
     WritePicture(Picture::black(17'000, 2), bench->Path(Text("in.png")));
     const Report report = bench->Make(Text("in.png"), Text("out.webp"), Text("WebP"));
-    QCOMPARE(report.failure, Case::WriteToFormat);
+    QCOMPARE(report.failure, PolicyKind::WriteToFormat);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::UnsupportedOutputFormat));
     QCOMPARE(report.nearestFormat, Text("JPEG"));
     QVERIFY(report.reason.contains(Text("16383")));
@@ -588,14 +588,14 @@ void WorkerPicturesTest::refusesWhatTheFormatCannotHold()
     QCOMPARE(bench->Make(Text("in.png"), Text("out.jpg"), Text("JPEG")).nearestFormat, Text("TIFF"));
 }
 
-void WorkerPicturesTest::obeysThePixelLimit()
+void tst_WorkerPictures::obeysThePixelLimit()
 {
     // A header alone: 50,000 x 50,000 pixels that nobody has written.
     QByteArray header("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\xC3\x50\0\0\xC3\x50\x08\x02\0\0\0", 29);
     header += QByteArray::fromHex("c4cdaa9d"); // the checksum of the chunk
     bench->WriteBytes(Text("in.png"), header + QByteArray("\0\0\0\x10IDATxxxxxxxxxxxxxxxxcccc", 28));
     const Report report = bench->Make(Text("in.png"), Text("out.jpg"), Text("JPEG"));
-    QCOMPARE(report.failure, Case::Input);
+    QCOMPARE(report.failure, PolicyKind::Input);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::ImageTooLarge));
     QVERIFY2(report.reason.contains(Text("50000")), qPrintable(report.reason));
 
@@ -622,7 +622,7 @@ void WorkerPicturesTest::obeysThePixelLimit()
              qint32(ZTBatchMessage::ImageTooLarge));
 }
 
-void WorkerPicturesTest::scalesLikeAnotherProgram_data()
+void tst_WorkerPictures::scalesLikeAnotherProgram_data()
 {
     QTest::addColumn<int>("longSide");
     QTest::newRow("a little smaller") << 534;
@@ -632,7 +632,7 @@ void WorkerPicturesTest::scalesLikeAnotherProgram_data()
     QTest::newRow("larger") << 800;
 }
 
-void WorkerPicturesTest::scalesLikeAnotherProgram()
+void tst_WorkerPictures::scalesLikeAnotherProgram()
 {
     QFETCH(const int, longSide);
 
@@ -662,5 +662,5 @@ void WorkerPicturesTest::scalesLikeAnotherProgram()
     QVERIFY2(difference < 2.5, qPrintable(QString::number(difference)));
 }
 
-QTEST_GUILESS_MAIN(WorkerPicturesTest)
+QTEST_GUILESS_MAIN(tst_WorkerPictures)
 #include "tst_workerpictures.moc"

@@ -30,7 +30,7 @@ Job ScaledJob(BatchJob::SizeRestriction restriction, int width)
 } // namespace
 
 /// The worker as its supervisor sees it: messages, reports, files.
-class WorkerProcessTest : public QObject
+class tst_WorkerProcess : public QObject
 {
     Q_OBJECT
 
@@ -59,31 +59,31 @@ private:
     std::unique_ptr<QTemporaryDir> folder;
 };
 
-void WorkerProcessTest::initTestCase()
+void tst_WorkerProcess::initTestCase()
 {
     StartPictures();
 }
 
-void WorkerProcessTest::init()
+void tst_WorkerProcess::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     QVERIFY(folder->isValid());
 }
 
-QByteArray WorkerProcessTest::Bytes(const QString& name) const
+QByteArray tst_WorkerProcess::Bytes(const QString& name) const
 {
     QFile file(Path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
 }
 
-void WorkerProcessTest::WriteBytes(const QString& name, const QByteArray& bytes) const
+void tst_WorkerProcess::WriteBytes(const QString& name, const QByteArray& bytes) const
 {
     QFile file(Path(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
 
-PictureTask WorkerProcessTest::Task(const QString& input, const QString& output) const
+PictureTask tst_WorkerProcess::Task(const QString& input, const QString& output) const
 {
     PictureTask task;
     task.number = 7;
@@ -93,14 +93,14 @@ PictureTask WorkerProcessTest::Task(const QString& input, const QString& output)
     return task;
 }
 
-void WorkerProcessTest::endsWithItsInput()
+void tst_WorkerProcess::endsWithItsInput()
 {
     WorkerProcess worker;
     QVERIFY(worker.IsReady());
     QCOMPARE(worker.ExitCode(), 0);
 }
 
-void WorkerProcessTest::refusesWhatIsNoMessage()
+void tst_WorkerProcess::refusesWhatIsNoMessage()
 {
     WorkerProcess worker;
     worker.SendBytes(QByteArray("\0\0\0\1\x77", 5));
@@ -109,7 +109,7 @@ void WorkerProcessTest::refusesWhatIsNoMessage()
     QVERIFY(worker.ErrorOutput().contains("an invalid message"));
 }
 
-void WorkerProcessTest::reportsARefusedJob()
+void tst_WorkerProcess::reportsARefusedJob()
 {
     WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
     const PictureTask task = Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg"));
@@ -117,7 +117,7 @@ void WorkerProcessTest::reportsARefusedJob()
     worker.Send(JobOf(
         [](ZTBatchDocument& document) { document.GetStyle()->AppendEffect(QStringLiteral("sparkle"), {}, true); }));
     const Report report = worker.Do(task);
-    QCOMPARE(report.failure, Case::Processing);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::Processing);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::NoAdjustment));
     QVERIFY2(report.reason.contains(QStringLiteral("\"sparkle\"")), qUtf8Printable(report.reason));
     QVERIFY(!QFile::exists(task.outputFile));
@@ -127,7 +127,7 @@ void WorkerProcessTest::reportsARefusedJob()
     QCOMPARE(worker.Do(task).reason, QString());
 }
 
-void WorkerProcessTest::writesAPicture()
+void tst_WorkerProcess::writesAPicture()
 {
     const Picture chart = Chart(64, 40);
     WritePicture(chart, Path(QStringLiteral("in.png")));
@@ -137,14 +137,14 @@ void WorkerProcessTest::writesAPicture()
     task.format = QStringLiteral("PNG");
     const Report report = worker.Do(task);
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.failure, Case::None);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::None);
     QCOMPARE(report.number, task.number);
     QCOMPARE(report.outputBytes, QFileInfo(task.outputFile).size());
     QCOMPARE(LargestDifference(ReadPicture(task.outputFile), chart), 0.0);
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-void WorkerProcessTest::reportsInOrder()
+void tst_WorkerProcess::reportsInOrder()
 {
     WritePicture(Chart(300, 200), Path(QStringLiteral("in.jpg")));
     WorkerProcess worker;
@@ -162,7 +162,7 @@ void WorkerProcessTest::reportsInOrder()
         const std::optional<Report> report = worker.NextReport();
         QVERIFY(report.has_value());
         QCOMPARE(report->number, i);
-        QCOMPARE(report->failure, i % 3 == 1 ? Case::Input : Case::None);
+        QCOMPARE(report->failure, i % 3 == 1 ? BatchJob::PolicyKind::Input : BatchJob::PolicyKind::None);
         QCOMPARE(QFile::exists(Path(QStringLiteral("out%1.jpg").arg(i))), i % 3 != 1);
     }
     QVector<int> all(count);
@@ -170,7 +170,7 @@ void WorkerProcessTest::reportsInOrder()
     QCOMPARE(worker.Begun(), all);
 }
 
-void WorkerProcessTest::reportsBadInput_data()
+void tst_WorkerProcess::reportsBadInput_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("error");
@@ -202,7 +202,7 @@ void WorkerProcessTest::reportsBadInput_data()
     QTest::newRow("half an AVIF") << encoded(".avif").left(2'000) << damaged << QString();
 }
 
-void WorkerProcessTest::reportsBadInput()
+void tst_WorkerProcess::reportsBadInput()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const int, error);
@@ -212,7 +212,7 @@ void WorkerProcessTest::reportsBadInput()
     WorkerProcess worker;
     worker.Send(JobOf(QStringLiteral("JPEG")));
     const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg")));
-    QCOMPARE(report.failure, Case::Input);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::Input);
     QCOMPARE(report.errorCode, error);
     QVERIFY(!report.reason.isEmpty());
     QVERIFY2(report.reason.contains(words), qUtf8Printable(report.reason));
@@ -220,20 +220,20 @@ void WorkerProcessTest::reportsBadInput()
     QCOMPARE(worker.ExitCode(), 0);
 }
 
-void WorkerProcessTest::leavesATakenNameAlone()
+void tst_WorkerProcess::leavesATakenNameAlone()
 {
     WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
     WriteBytes(QStringLiteral("out.jpg"), "somebody's");
     WorkerProcess worker;
     worker.Send(JobOf(QStringLiteral("JPEG")));
     const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("out.jpg")));
-    QCOMPARE(report.failure, Case::Naming);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::Naming);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::FileNameAlreadyExists));
     QCOMPARE(Bytes(QStringLiteral("out.jpg")), QByteArray("somebody's"));
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-void WorkerProcessTest::replacesOnRequest()
+void tst_WorkerProcess::replacesOnRequest()
 {
     // The source itself is the hardest case: it is read while its successor is written.
     WritePicture(Chart(300, 200), Path(QStringLiteral("in.png")));
@@ -248,18 +248,18 @@ void WorkerProcessTest::replacesOnRequest()
     QCOMPARE(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
-void WorkerProcessTest::reportsAnUnusableFolder()
+void tst_WorkerProcess::reportsAnUnusableFolder()
 {
     WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
     WorkerProcess worker;
     worker.Send(JobOf(QStringLiteral("JPEG")));
     const Report report = worker.Do(Task(QStringLiteral("in.jpg"), QStringLiteral("no such folder/out.jpg")));
-    QCOMPARE(report.failure, Case::Output);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::Output);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
     QVERIFY(!report.reason.isEmpty());
 }
 
-void WorkerProcessTest::probesFiles()
+void tst_WorkerProcess::probesFiles()
 {
     Picture picture = Chart(30, 20);
     picture.set("exif-ifd2-DateTimeOriginal", "2019:07:06 05:04:03");
@@ -277,7 +277,7 @@ void WorkerProcessTest::probesFiles()
     QCOMPARE(worker.Do(ProbeTask{3, Path(QStringLiteral("none"))}).errorCode, qint32(ZTBatchMessage::ReadFileError));
 }
 
-void WorkerProcessTest::scalesAPicture()
+void tst_WorkerProcess::scalesAPicture()
 {
     WritePicture(Chart(1200, 800, 64), Path(QStringLiteral("in.jpg")));
     WorkerProcess worker;
@@ -293,5 +293,5 @@ void WorkerProcessTest::scalesAPicture()
     QVERIFY2(difference < 1.0, qPrintable(QString::number(difference)));
 }
 
-QTEST_GUILESS_MAIN(WorkerProcessTest)
+QTEST_GUILESS_MAIN(tst_WorkerProcess)
 #include "tst_workerprocess.moc"

@@ -30,7 +30,7 @@ double Encoded(double light)
 } // namespace
 
 /// Camera RAW files, which the test makes itself.
-class WorkerRawTest : public QObject
+class tst_WorkerRaw : public QObject
 {
     Q_OBJECT
 
@@ -45,12 +45,12 @@ private Q_SLOTS:
     void probes();
 };
 
-void WorkerRawTest::initTestCase()
+void tst_WorkerRaw::initTestCase()
 {
     StartPictures();
 }
 
-void WorkerRawTest::developsPictures_data()
+void tst_WorkerRaw::developsPictures_data()
 {
     QTest::addColumn<QVector<double>>("neutral");
     QTest::addColumn<int>("longSide");
@@ -62,7 +62,7 @@ void WorkerRawTest::developsPictures_data()
     QTest::newRow("a quarter, under a lamp") << lamp << width / 4;
 }
 
-void WorkerRawTest::developsPictures()
+void tst_WorkerRaw::developsPictures()
 {
     QFETCH(const QVector<double>, neutral);
     QFETCH(const int, longSide);
@@ -95,7 +95,7 @@ void WorkerRawTest::developsPictures()
     }
 }
 
-void WorkerRawTest::turnsPicturesUpright()
+void tst_WorkerRaw::turnsPicturesUpright()
 {
     WorkerBench bench;
     bench.WriteBytes(Text("in.dng"), Dng(6, {1, 1, 1}));
@@ -107,7 +107,7 @@ void WorkerRawTest::turnsPicturesUpright()
     QVERIFY(std::abs(result.getpoint(height / 4, width / 4)[1] - Encoded(Patches()[2][1])) <= 2.0);
 }
 
-void WorkerRawTest::keepsTheDepth()
+void tst_WorkerRaw::keepsTheDepth()
 {
     WorkerBench bench;
     bench.WriteBytes(Text("in.dng"), Dng(1, {1, 1, 1}));
@@ -115,22 +115,22 @@ void WorkerRawTest::keepsTheDepth()
     QCOMPARE(ReadPicture(bench.Path(Text("out.tif"))).format(), VIPS_FORMAT_USHORT);
 }
 
-void WorkerRawTest::reportsDamage()
+void tst_WorkerRaw::reportsDamage()
 {
     WorkerBench bench;
     QByteArray dng = Dng(1, {1, 1, 1});
     // The directory in front, as cameras have it, so that the pixels are what is missing.
     bench.WriteBytes(Text("in.dng"), dng.left(dng.size() - 200));
     const Report cut = bench.Make(Text("in.dng"), Text("out.tif"), Text("TIFF"));
-    QCOMPARE(cut.failure, Case::Input);
+    QCOMPARE(cut.failure, PolicyKind::Input);
     bench.WriteBytes(Text("in.cr2"), QByteArray("II*\0\x10\0\0\0CR\2\0", 12) + QByteArray(2000, 'x'));
     const Report nonsense = bench.Make(Text("in.cr2"), Text("out.tif"), Text("TIFF"));
-    QCOMPARE(nonsense.failure, Case::Input);
+    QCOMPARE(nonsense.failure, PolicyKind::Input);
     QVERIFY(!nonsense.reason.isEmpty());
     QVERIFY(!QFile::exists(bench.Path(Text("out.tif"))));
 }
 
-void WorkerRawTest::readsPlainTiffFilesUnderTheName()
+void tst_WorkerRaw::readsPlainTiffFilesUnderTheName()
 {
     WorkerBench bench;
     WritePicture(Chart(60, 40), bench.Path(Text("plain.tif")));
@@ -139,7 +139,7 @@ void WorkerRawTest::readsPlainTiffFilesUnderTheName()
     QCOMPARE(LargestDifference(ReadPicture(bench.Path(Text("out.png"))), Chart(60, 40)), 0.0);
 }
 
-void WorkerRawTest::probes()
+void tst_WorkerRaw::probes()
 {
     WorkerBench bench;
     bench.WriteBytes(Text("in.dng"), Dng(1, {1, 1, 1}));
@@ -150,5 +150,5 @@ void WorkerRawTest::probes()
     QVERIFY(probe.captured.isValid());
 }
 
-QTEST_GUILESS_MAIN(WorkerRawTest)
+QTEST_GUILESS_MAIN(tst_WorkerRaw)
 #include "tst_workerraw.moc"

@@ -32,7 +32,7 @@ public:
     explicit SignalLog(Settings& settings)
     {
         const QMetaObject& metaObject = Settings::staticMetaObject;
-        const QMetaMethod note = staticMetaObject.method(staticMetaObject.indexOfSlot("Note()"));
+        const QMetaMethod note = staticMetaObject.method(staticMetaObject.indexOfSlot("note()"));
         for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i) {
             if (metaObject.method(i).methodType() == QMetaMethod::Signal) {
                 connect(&settings, metaObject.method(i), this, note);
@@ -43,7 +43,7 @@ public:
     QStringList TakeNames() { return std::exchange(names, QStringList()); }
 
 private Q_SLOTS:
-    void Note() { names.append(QString::fromLatin1(sender()->metaObject()->method(senderSignalIndex()).name())); }
+    void note() { names.append(QString::fromLatin1(sender()->metaObject()->method(senderSignalIndex()).name())); }
 
 private:
     QStringList names;

@@ -51,7 +51,7 @@ void Say(const QByteArray& bytes)
     std::fflush(stdout);
 }
 
-Report Failure(Case kind, int code, const QString& nearest = {})
+Report Failure(BatchJob::PolicyKind kind, int code, const QString& nearest = {})
 {
     Report report;
     report.failure = kind;
@@ -111,13 +111,13 @@ Report WriteResult(const PictureTask& task, const QByteArray& content)
     QFile bytes;
     if (!file.Create() || !bytes.open(file.Descriptor(), QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         bytes.write(content) != content.size()) {
-        return Failure(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+        return Failure(BatchJob::PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError);
     }
     switch (file.Place(task.replaceExisting)) {
     case TemporaryFile::Placement::NameTaken:
-        return Failure(Case::Naming, ZTBatchMessage::FileNameAlreadyExists);
+        return Failure(BatchJob::PolicyKind::Naming, ZTBatchMessage::FileNameAlreadyExists);
     case TemporaryFile::Placement::Failed:
-        return Failure(Case::Output, ZTBatchMessage::WriteOutputFormatError);
+        return Failure(BatchJob::PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError);
     case TemporaryFile::Placement::Done:
         break;
     }
@@ -152,7 +152,7 @@ Report Make(const PictureTask& task)
 {
     QFile input(task.inputFile);
     if (!input.open(QIODevice::ReadOnly)) {
-        return Failure(Case::Input, ZTBatchMessage::ReadFileError);
+        return Failure(BatchJob::PolicyKind::Input, ZTBatchMessage::ReadFileError);
     }
     const QByteArray content = input.readAll();
     input.close(); // The result may replace it, which Windows allows for closed files only.
@@ -178,12 +178,13 @@ Report Make(const PictureTask& task)
             QThread::msleep(5);
         }
     } else if (command == "format" && task.format != QString::fromUtf8(argument)) {
-        return Failure(Case::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat, QString::fromUtf8(argument));
+        return Failure(BatchJob::PolicyKind::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat,
+                       QString::fromUtf8(argument));
     }
     const QList<QByteArray> cases{"", "input", "output", "processing", "naming", "write"};
     const int kind = cases.indexOf(command);
     if (kind > 0) {
-        return Failure(Case(kind - 1), argument.toInt());
+        return Failure(BatchJob::PolicyKind(kind - 1), argument.toInt());
     }
     return WriteResult(task, content);
 }
@@ -193,7 +194,7 @@ Report Probe(const ProbeTask& task)
     Report report;
     QFile input(task.inputFile);
     if (!input.open(QIODevice::ReadOnly)) {
-        return Failure(Case::Input, ZTBatchMessage::ReadFileError);
+        return Failure(BatchJob::PolicyKind::Input, ZTBatchMessage::ReadFileError);
     }
     const QByteArray command = input.readLine().trimmed();
     if (command == "crashprobe") {

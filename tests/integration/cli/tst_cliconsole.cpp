@@ -10,14 +10,14 @@ class tst_CliConsole : public QObject
 
 private Q_SLOTS:
     void init();
-    void ProgressIsOneLine();
-    void NoColour();
-    void QuestionsAreAsked_data();
-    void QuestionsAreAsked();
-    void WrongAnswersAreAskedAgain();
-    void StopEndsTheRun();
-    void InterruptCancels();
-    void InterruptDuringQuestion();
+    void progressIsOneLine();
+    void noColour();
+    void questionsAreAsked_data();
+    void questionsAreAsked();
+    void wrongAnswersAreAskedAgain();
+    void stopEndsTheRun();
+    void interruptCancels();
+    void interruptDuringQuestion();
 
 private:
     std::unique_ptr<ConsoleProcess> Start(const QString& arguments) const
@@ -49,7 +49,7 @@ void tst_CliConsole::init()
     }
 }
 
-void tst_CliConsole::ProgressIsOneLine()
+void tst_CliConsole::progressIsOneLine()
 {
     const QString gate = stage->Path(QStringLiteral("gate"));
     stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
@@ -68,7 +68,7 @@ void tst_CliConsole::ProgressIsOneLine()
     QCOMPARE(Results().size(), 3);
 }
 
-void tst_CliConsole::NoColour()
+void tst_CliConsole::noColour()
 {
     qputenv("NO_COLOR", "1");
     const auto console = Start(QStringLiteral("run photos -o out --format jpeg"));
@@ -77,7 +77,7 @@ void tst_CliConsole::NoColour()
     QVERIFY2(!console->HasColour(QStringLiteral("Written"), 32), qUtf8Printable(console->Screen()));
 }
 
-void tst_CliConsole::QuestionsAreAsked_data()
+void tst_CliConsole::questionsAreAsked_data()
 {
     QTest::addColumn<QStringList>("answers");
     QTest::addColumn<int>("exitCode");
@@ -86,7 +86,7 @@ void tst_CliConsole::QuestionsAreAsked_data()
     QTest::newRow("all, short") << QStringList{QStringLiteral("R a")} << 0 << 5;
 }
 
-void tst_CliConsole::QuestionsAreAsked()
+void tst_CliConsole::questionsAreAsked()
 {
     QFETCH(QStringList, answers);
     QFETCH(int, exitCode);
@@ -103,7 +103,7 @@ void tst_CliConsole::QuestionsAreAsked()
     QCOMPARE(Results().size(), results);
 }
 
-void tst_CliConsole::WrongAnswersAreAskedAgain()
+void tst_CliConsole::wrongAnswersAreAskedAgain()
 {
     stage->Write(QStringLiteral("out/1.jpg"), "old");
     const auto console = Start(QStringLiteral("run photos/1.jpg -o out --format jpeg"));
@@ -116,7 +116,7 @@ void tst_CliConsole::WrongAnswersAreAskedAgain()
     QVERIFY(Results().contains(QStringLiteral("1 (2).jpg")));
 }
 
-void tst_CliConsole::StopEndsTheRun()
+void tst_CliConsole::stopEndsTheRun()
 {
     stage->Write(QStringLiteral("out/1.jpg"), "old");
     const auto console = Start(QStringLiteral("run photos -o out --format jpeg"));
@@ -126,7 +126,7 @@ void tst_CliConsole::StopEndsTheRun()
     QVERIFY2(console->Screen().contains(QStringLiteral("Cancelled.")), qUtf8Printable(console->Screen()));
 }
 
-void tst_CliConsole::InterruptCancels()
+void tst_CliConsole::interruptCancels()
 {
     stage->Write(QStringLiteral("photos/2.jpg"), "hang");
     stage->Write(QStringLiteral("photos/3.jpg"), "hang");
@@ -142,7 +142,7 @@ void tst_CliConsole::InterruptCancels()
     QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".tmp")).isEmpty());
 }
 
-void tst_CliConsole::InterruptDuringQuestion()
+void tst_CliConsole::interruptDuringQuestion()
 {
     stage->Write(QStringLiteral("out/1.jpg"), "old");
     const auto console = Start(QStringLiteral("run photos -o out --format jpeg"));

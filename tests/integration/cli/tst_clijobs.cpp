@@ -16,21 +16,21 @@ class tst_CliJobs : public QObject
 
 private Q_SLOTS:
     void init();
-    void VersionAndHelp();
-    void CreateWritesTheJob();
-    void SavedJobsAreOverridden();
-    void NamesOfJobsStay();
-    void JobsWithoutPictures();
-    void InputsNamedTwice_data();
-    void InputsNamedTwice();
-    void JobsGoToStandardOutput();
-    void ShowTellsEverything();
-    void FilesAreNotReplacedUnasked();
-    void NamesNeedNoLocale();
-    void Catalogues();
-    void WrongJobsAreExplained_data();
-    void WrongJobsAreExplained();
-    void ProblemsAreToldAndCounted();
+    void versionAndHelp();
+    void createWritesTheJob();
+    void savedJobsAreOverridden();
+    void namesOfJobsStay();
+    void jobsWithoutPictures();
+    void inputsNamedTwice_data();
+    void inputsNamedTwice();
+    void jobsGoToStandardOutput();
+    void showTellsEverything();
+    void filesAreNotReplacedUnasked();
+    void namesNeedNoLocale();
+    void catalogues();
+    void wrongJobsAreExplained_data();
+    void wrongJobsAreExplained();
+    void problemsAreToldAndCounted();
 
 private:
     QString Path(const QString& name) const { return root->filePath(name); }
@@ -62,7 +62,7 @@ bool tst_CliJobs::Load(const QString& name, ZTBatchDocument& job) const
     return file.open(QIODevice::ReadOnly) && job.Deserialize(QString::fromUtf8(file.readAll()));
 }
 
-void tst_CliJobs::VersionAndHelp()
+void tst_CliJobs::versionAndHelp()
 {
     const CliRun version = Run({QStringLiteral("--version")});
     QCOMPARE(version.exitCode, 0);
@@ -75,7 +75,7 @@ void tst_CliJobs::VersionAndHelp()
     }
 }
 
-void tst_CliJobs::CreateWritesTheJob()
+void tst_CliJobs::createWritesTheJob()
 {
     const CliRun run = Run({QStringLiteral("create"), QStringLiteral("job.xml"), QStringLiteral("photos"),
                             QStringLiteral("--output"), QStringLiteral("results"), QStringLiteral("--effect"),
@@ -93,7 +93,7 @@ void tst_CliJobs::CreateWritesTheJob()
     QCOMPARE(job.GetStyle()->GetEffectCount(), 1);
 }
 
-void tst_CliJobs::SavedJobsAreOverridden()
+void tst_CliJobs::savedJobsAreOverridden()
 {
     QCOMPARE(
         Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos/1.jpg"), QStringLiteral("-ox"),
@@ -122,7 +122,7 @@ void tst_CliJobs::SavedJobsAreOverridden()
     QCOMPARE(job.GetStyle()->GetEffectCount(), 0);
 }
 
-void tst_CliJobs::NamesOfJobsStay()
+void tst_CliJobs::namesOfJobsStay()
 {
     QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"), QStringLiteral("-ox"),
                   QStringLiteral("--job-name"), QStringLiteral("Holidays & \"more\"")})
@@ -138,7 +138,7 @@ void tst_CliJobs::NamesOfJobsStay()
     QVERIFY(saved.readAll().contains("name=\"Holidays &amp; &quot;more&quot;\""));
 }
 
-void tst_CliJobs::JobsWithoutPictures()
+void tst_CliJobs::jobsWithoutPictures()
 {
     const CliRun create = Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("-ox")});
     QCOMPARE(create.exitCode, 0);
@@ -150,7 +150,7 @@ void tst_CliJobs::JobsWithoutPictures()
 }
 
 /// The order in which they are named does not matter.
-void tst_CliJobs::InputsNamedTwice_data()
+void tst_CliJobs::inputsNamedTwice_data()
 {
     QTest::addColumn<QString>("inputs");
     QTest::addColumn<QByteArray>("told");
@@ -160,7 +160,7 @@ void tst_CliJobs::InputsNamedTwice_data()
                                    << QByteArray("photos/1.jpg");
 }
 
-void tst_CliJobs::InputsNamedTwice()
+void tst_CliJobs::inputsNamedTwice()
 {
     QFETCH(QString, inputs);
     QFETCH(QByteArray, told);
@@ -177,7 +177,7 @@ void tst_CliJobs::InputsNamedTwice()
     QVERIFY2(quiet.err.isEmpty(), quiet.err.constData());
 }
 
-void tst_CliJobs::JobsGoToStandardOutput()
+void tst_CliJobs::jobsGoToStandardOutput()
 {
     const CliRun run = Run({QStringLiteral("create"), QStringLiteral("-"), QStringLiteral("photos"),
                             QStringLiteral("-o"), QStringLiteral("x")});
@@ -188,7 +188,7 @@ void tst_CliJobs::JobsGoToStandardOutput()
     QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
 }
 
-void tst_CliJobs::ShowTellsEverything()
+void tst_CliJobs::showTellsEverything()
 {
     QCOMPARE(Run({QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"), QStringLiteral("-ox"),
                   QStringLiteral("--effect"), QStringLiteral("blur:sigma=3"), QStringLiteral("--frame"),
@@ -203,7 +203,7 @@ void tst_CliJobs::ShowTellsEverything()
     }
 }
 
-void tst_CliJobs::FilesAreNotReplacedUnasked()
+void tst_CliJobs::filesAreNotReplacedUnasked()
 {
     Write(QStringLiteral("a.xml"), "precious");
     QStringList arguments{QStringLiteral("create"), QStringLiteral("a.xml"), QStringLiteral("photos"),
@@ -222,7 +222,7 @@ void tst_CliJobs::FilesAreNotReplacedUnasked()
     QVERIFY(Load(QStringLiteral("a.xml"), job));
 }
 
-void tst_CliJobs::NamesNeedNoLocale()
+void tst_CliJobs::namesNeedNoLocale()
 {
     const QString name = QString::fromUtf8("\xC3\xA9t\xC3\xA9 \xF0\x9F\x8C\xBB.jpg");
     Write(QStringLiteral("photos/") + name);
@@ -234,7 +234,7 @@ void tst_CliJobs::NamesNeedNoLocale()
     QVERIFY2(run.err.isEmpty(), run.err.constData());
 }
 
-void tst_CliJobs::Catalogues()
+void tst_CliJobs::catalogues()
 {
     const CliRun effects = Run({QStringLiteral("effects")});
     QCOMPARE(effects.exitCode, 0);
@@ -253,7 +253,7 @@ void tst_CliJobs::Catalogues()
     QVERIFY(QJsonDocument::fromJson(json.out).array().size() > 5);
 }
 
-void tst_CliJobs::WrongJobsAreExplained_data()
+void tst_CliJobs::wrongJobsAreExplained_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QByteArray>("job");
@@ -292,7 +292,7 @@ void tst_CliJobs::WrongJobsAreExplained_data()
         "did you mean \"blur\"?");
 }
 
-void tst_CliJobs::WrongJobsAreExplained()
+void tst_CliJobs::wrongJobsAreExplained()
 {
     QFETCH(QString, arguments);
     QFETCH(QByteArray, job);
@@ -309,7 +309,7 @@ void tst_CliJobs::WrongJobsAreExplained()
     QVERIFY(!QFile::exists(Path(QStringLiteral("a.xml"))));
 }
 
-void tst_CliJobs::ProblemsAreToldAndCounted()
+void tst_CliJobs::problemsAreToldAndCounted()
 {
 #ifdef Q_OS_WIN
     QSKIP("A link that Qt makes there is an ordinary file unless its name ends with .lnk.");

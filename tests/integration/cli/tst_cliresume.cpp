@@ -49,17 +49,17 @@ class tst_CliResume : public QObject
 
 private Q_SLOTS:
     void init();
-    void KilledAtAnyMoment_data();
-    void KilledAtAnyMoment();
-    void KilledServer();
-    void InterruptKeepsTheRun();
-    void NothingToResume();
-    void DamagedJournal();
-    void JournalThatWasNotBegun_data();
-    void JournalThatWasNotBegun();
-    void OtherJobsAreNotResumed();
-    void LinesThatMakeNoSense();
-    void SameJobTwiceAtATime();
+    void killedAtAnyMoment_data();
+    void killedAtAnyMoment();
+    void killedServer();
+    void interruptKeepsTheRun();
+    void nothingToResume();
+    void damagedJournal();
+    void journalThatWasNotBegun_data();
+    void journalThatWasNotBegun();
+    void otherJobsAreNotResumed();
+    void linesThatMakeNoSense();
+    void sameJobTwiceAtATime();
 
 private:
     QString Path(const QString& name) const { return root->filePath(name); }
@@ -99,7 +99,7 @@ void tst_CliResume::init()
     }
 }
 
-void tst_CliResume::KilledAtAnyMoment_data()
+void tst_CliResume::killedAtAnyMoment_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<uint>("seed");
@@ -113,7 +113,7 @@ void tst_CliResume::KilledAtAnyMoment_data()
 
 // The two parts of a run together write what an undisturbed run writes, byte for byte. Runs spend most of their time
 // waiting, so several run at a time, each in a folder of its own.
-void tst_CliResume::KilledAtAnyMoment()
+void tst_CliResume::killedAtAnyMoment()
 {
     QFETCH(QString, options);
     QFETCH(uint, seed);
@@ -183,7 +183,7 @@ void tst_CliResume::KilledAtAnyMoment()
     QVERIFY2(resumed >= leastResumed, qPrintable(QString::number(resumed)));
 }
 
-void tst_CliResume::KilledServer()
+void tst_CliResume::killedServer()
 {
     const QString arguments =
         QStringLiteral("run a b -o out --effect blur:sigma=4 --on-name-exists rename --workers 1");
@@ -211,7 +211,7 @@ void tst_CliResume::KilledServer()
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), undisturbed);
 }
 
-void tst_CliResume::InterruptKeepsTheRun()
+void tst_CliResume::interruptKeepsTheRun()
 {
     QProcess process;
     Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=4 --workers 1 --json"));
@@ -239,7 +239,7 @@ void tst_CliResume::InterruptKeepsTheRun()
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 11);
 }
 
-void tst_CliResume::NothingToResume()
+void tst_CliResume::nothingToResume()
 {
     const CliRun none = Run(QStringLiteral("run --resume -o out"));
     QCOMPARE(none.exitCode, 2);
@@ -251,7 +251,7 @@ void tst_CliResume::NothingToResume()
     QCOMPARE(Run(QStringLiteral("run a --resume -o out")).exitCode, 2);
 }
 
-void tst_CliResume::DamagedJournal()
+void tst_CliResume::damagedJournal()
 {
     QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
     QFile journal(Path(QStringLiteral("out/.velkora-batch-0123456789abcdef.journal")));
@@ -263,7 +263,7 @@ void tst_CliResume::DamagedJournal()
     QVERIFY2(run.err.contains(".journal is damaged"), run.err.constData());
 }
 
-void tst_CliResume::JournalThatWasNotBegun_data()
+void tst_CliResume::journalThatWasNotBegun_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("empty") << QByteArray();
@@ -271,7 +271,7 @@ void tst_CliResume::JournalThatWasNotBegun_data()
 }
 
 // A run that died while it wrote the first line of its journal had not begun, and leaves nothing.
-void tst_CliResume::JournalThatWasNotBegun()
+void tst_CliResume::journalThatWasNotBegun()
 {
     QFETCH(QByteArray, text);
     QVERIFY(QDir(root->path()).mkdir(QStringLiteral("out")));
@@ -287,7 +287,7 @@ void tst_CliResume::JournalThatWasNotBegun()
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).keys(), QStringList());
 }
 
-void tst_CliResume::OtherJobsAreNotResumed()
+void tst_CliResume::otherJobsAreNotResumed()
 {
     QProcess process;
     Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
@@ -304,7 +304,7 @@ void tst_CliResume::OtherJobsAreNotResumed()
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
 }
 
-void tst_CliResume::LinesThatMakeNoSense()
+void tst_CliResume::linesThatMakeNoSense()
 {
     QProcess process;
     Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
@@ -330,7 +330,7 @@ void tst_CliResume::LinesThatMakeNoSense()
     QCOMPARE(FilesBelow(out.path()).size(), 12);
 }
 
-void tst_CliResume::SameJobTwiceAtATime()
+void tst_CliResume::sameJobTwiceAtATime()
 {
     QProcess first;
     Start(first, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));

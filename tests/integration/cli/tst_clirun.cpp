@@ -17,32 +17,32 @@ class tst_CliRun : public QObject
 
 private Q_SLOTS:
     void init();
-    void PicturesAreWritten();
-    void SavedJobsAreRun();
-    void FailuresAreToldAndCounted();
-    void PoliciesAreWords_data();
-    void PoliciesAreWords();
-    void NobodyToAskIsSaid();
-    void SettingsHoldPolicies();
-    void QuietSaysProblemsOnly();
-    void EventsAreJson();
-    void ReportsListEveryInput();
-    void PlanTellsWhatRunDoes();
-    void PlanMarksTrouble();
-    void WrongOptionsEndBeforeAnything_data();
-    void WrongOptionsEndBeforeAnything();
-    void RunsSideBySide();
-    void NoServer();
-    void NoTemporaryFolder();
-    void SettingsWithoutMeaning();
-    void NothingIsLeftBehind();
+    void picturesAreWritten();
+    void savedJobsAreRun();
+    void failuresAreToldAndCounted();
+    void policiesAreWords_data();
+    void policiesAreWords();
+    void nobodyToAskIsSaid();
+    void settingsHoldPolicies();
+    void quietSaysProblemsOnly();
+    void eventsAreJson();
+    void reportsListEveryInput();
+    void planTellsWhatRunDoes();
+    void planMarksTrouble();
+    void wrongOptionsEndBeforeAnything_data();
+    void wrongOptionsEndBeforeAnything();
+    void runsSideBySide();
+    void noServer();
+    void noTemporaryFolder();
+    void settingsWithoutMeaning();
+    void nothingIsLeftBehind();
 #ifdef Q_OS_UNIX
-    void NamesStayInTheirLine();
-    void LostOutputIsTold_data();
-    void LostOutputIsTold();
-    void ClosedChannelsHarmNoFile();
-    void ReadersMayLeave();
-    void PlanLooksAtTheFolder();
+    void namesStayInTheirLine();
+    void lostOutputIsTold_data();
+    void lostOutputIsTold();
+    void closedChannelsHarmNoFile();
+    void readersMayLeave();
+    void planLooksAtTheFolder();
 #endif
 
 private:
@@ -97,7 +97,7 @@ void tst_CliRun::init()
     }
 }
 
-void tst_CliRun::PicturesAreWritten()
+void tst_CliRun::picturesAreWritten()
 {
     const CliRun run = Run(QStringLiteral("run photos -o out --size 32 --effect invert --suffix number --format png"));
     QVERIFY2(run.exitCode == 0, run.err.constData());
@@ -111,7 +111,7 @@ void tst_CliRun::PicturesAreWritten()
     QVERIFY2(!run.err.contains('\r') && !run.err.contains('\033'), run.err.constData());
 }
 
-void tst_CliRun::SavedJobsAreRun()
+void tst_CliRun::savedJobsAreRun()
 {
     QCOMPARE(Run(QStringLiteral("create job.xml photos -o other --size 32")).exitCode, 0);
     const CliRun run = Run(QStringLiteral("run job.xml -o out --size 16"));
@@ -121,7 +121,7 @@ void tst_CliRun::SavedJobsAreRun()
     QVERIFY(!QFile::exists(Path(QStringLiteral("other"))));
 }
 
-void tst_CliRun::FailuresAreToldAndCounted()
+void tst_CliRun::failuresAreToldAndCounted()
 {
     PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     const CliRun run = Run(QStringLiteral("run photos -o out"));
@@ -131,7 +131,7 @@ void tst_CliRun::FailuresAreToldAndCounted()
     QVERIFY2(run.err.contains("Failed              1  Error reading file: 1"), run.err.constData());
 }
 
-void tst_CliRun::PoliciesAreWords_data()
+void tst_CliRun::policiesAreWords_data()
 {
     QTest::addColumn<QString>("word");
     QTest::addColumn<int>("exitCode");
@@ -145,7 +145,7 @@ void tst_CliRun::PoliciesAreWords_data()
     QTest::newRow("rename") << QStringLiteral("Rename") << 0 << renamed << false;
 }
 
-void tst_CliRun::PoliciesAreWords()
+void tst_CliRun::policiesAreWords()
 {
     QFETCH(QString, word);
     QFETCH(int, exitCode);
@@ -162,7 +162,7 @@ void tst_CliRun::PoliciesAreWords()
     QCOMPARE(QFileInfo(Path(QStringLiteral("out/1.jpg"))).size() != 3, isReplaced);
 }
 
-void tst_CliRun::NobodyToAskIsSaid()
+void tst_CliRun::nobodyToAskIsSaid()
 {
     const CliRun run = Run(QStringLiteral("run photos -o out --on-input-error stop"));
     QCOMPARE(run.exitCode, 0);
@@ -171,7 +171,7 @@ void tst_CliRun::NobodyToAskIsSaid()
     QVERIFY2(!run.err.contains("--on-input-error"), run.err.constData());
 }
 
-void tst_CliRun::SettingsHoldPolicies()
+void tst_CliRun::settingsHoldPolicies()
 {
     const QString file = Path(QStringLiteral("settings/BatchExceptionPolicy.ini"));
     QVERIFY(QDir(root->path()).mkdir(QStringLiteral("settings")));
@@ -188,7 +188,7 @@ void tst_CliRun::SettingsHoldPolicies()
     QVERIFY(QDir(Path(QStringLiteral("home"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
-void tst_CliRun::QuietSaysProblemsOnly()
+void tst_CliRun::quietSaysProblemsOnly()
 {
     const CliRun good = Run(QStringLiteral("run photos -o out -q"));
     QCOMPARE(good.exitCode, 0);
@@ -200,7 +200,7 @@ void tst_CliRun::QuietSaysProblemsOnly()
     QVERIFY2(bad.err.startsWith("failed "), bad.err.constData());
 }
 
-void tst_CliRun::EventsAreJson()
+void tst_CliRun::eventsAreJson()
 {
     PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
     const CliRun run = Run(QStringLiteral("run photos -o out --json"));
@@ -234,7 +234,7 @@ void tst_CliRun::EventsAreJson()
     }
 }
 
-void tst_CliRun::ReportsListEveryInput()
+void tst_CliRun::reportsListEveryInput()
 {
     const QString odd = QStringLiteral("photos/a \"quoted\", name.jpg");
     PictureFiles::WriteJpeg(Path(odd));
@@ -259,7 +259,7 @@ void tst_CliRun::ReportsListEveryInput()
     QCOMPARE(entries[3].toObject().value(QStringLiteral("input")).toString(), Path(odd));
 }
 
-void tst_CliRun::PlanTellsWhatRunDoes()
+void tst_CliRun::planTellsWhatRunDoes()
 {
     for (int i = 1; i <= 3; ++i) {
         PictureFiles::WriteJpeg(Path(QStringLiteral("more/%1.jpg").arg(i)), 10 + i);
@@ -293,7 +293,7 @@ void tst_CliRun::PlanTellsWhatRunDoes()
     }
 }
 
-void tst_CliRun::PlanMarksTrouble()
+void tst_CliRun::planMarksTrouble()
 {
     PictureFiles::WriteJpeg(Path(QStringLiteral("more/1.jpg")), 10);
     PictureFiles::WriteJpeg(Path(QStringLiteral("out/3.jpg")), 10);
@@ -309,7 +309,7 @@ void tst_CliRun::PlanMarksTrouble()
     QCOMPARE(source.out.count("is a source of this job]"), 3);
 }
 
-void tst_CliRun::WrongOptionsEndBeforeAnything_data()
+void tst_CliRun::wrongOptionsEndBeforeAnything_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("wanted");
@@ -332,7 +332,7 @@ void tst_CliRun::WrongOptionsEndBeforeAnything_data()
     row("plan photos -o out --workers 2", "unknown option --workers");
 }
 
-void tst_CliRun::WrongOptionsEndBeforeAnything()
+void tst_CliRun::wrongOptionsEndBeforeAnything()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, wanted);
@@ -343,7 +343,7 @@ void tst_CliRun::WrongOptionsEndBeforeAnything()
     QVERIFY(!QFile::exists(Path(QStringLiteral("out"))));
 }
 
-void tst_CliRun::RunsSideBySide()
+void tst_CliRun::runsSideBySide()
 {
     constexpr int count = 3;
     std::array<QProcess, count> processes;
@@ -362,7 +362,7 @@ void tst_CliRun::RunsSideBySide()
     }
 }
 
-void tst_CliRun::NoServer()
+void tst_CliRun::noServer()
 {
     const QString lonely = Path(QStringLiteral("lonely"));
     QVERIFY(QFile::copy(QStringLiteral(VELKORA_BATCH), lonely));
@@ -376,7 +376,7 @@ void tst_CliRun::NoServer()
     QVERIFY2(err.contains("the server cannot be started; VelkoraBatchProcessing belongs beside "), err.constData());
 }
 
-void tst_CliRun::NoTemporaryFolder()
+void tst_CliRun::noTemporaryFolder()
 {
 #ifdef Q_OS_WIN
     QSKIP("Every user has a temporary folder there.");
@@ -389,7 +389,7 @@ void tst_CliRun::NoTemporaryFolder()
     QVERIFY(Results().isEmpty());
 }
 
-void tst_CliRun::SettingsWithoutMeaning()
+void tst_CliRun::settingsWithoutMeaning()
 {
     QVERIFY(QDir(root->path()).mkdir(QStringLiteral("settings")));
     QSettings settings(Path(QStringLiteral("settings/BatchExceptionPolicy.ini")), QSettings::IniFormat);
@@ -404,7 +404,7 @@ void tst_CliRun::SettingsWithoutMeaning()
     QVERIFY2(right.exitCode == 0, right.err.constData());
 }
 
-void tst_CliRun::NothingIsLeftBehind()
+void tst_CliRun::nothingIsLeftBehind()
 {
     QCOMPARE(Run(QStringLiteral("run photos -o out")).exitCode, 0);
     QVERIFY(QDir(Path(QStringLiteral("tmp"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
@@ -413,7 +413,7 @@ void tst_CliRun::NothingIsLeftBehind()
 
 #ifdef Q_OS_UNIX
 
-void tst_CliRun::NamesStayInTheirLine()
+void tst_CliRun::namesStayInTheirLine()
 {
     PictureFiles::WriteJpeg(Path(QStringLiteral("odd/a\nb%1.jpg")));
     PictureFiles::WriteJpeg(Path(QStringLiteral("odd/\x7F.jpg")));
@@ -434,7 +434,7 @@ void tst_CliRun::NamesStayInTheirLine()
     QVERIFY2(told.err.contains("/odd/bell\\x07.jpg -> "), told.err.constData());
 }
 
-void tst_CliRun::LostOutputIsTold_data()
+void tst_CliRun::lostOutputIsTold_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("channel");
@@ -456,7 +456,7 @@ void tst_CliRun::LostOutputIsTold_data()
     row("run photos -o out --json");
 }
 
-void tst_CliRun::LostOutputIsTold()
+void tst_CliRun::lostOutputIsTold()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, channel);
@@ -469,7 +469,7 @@ void tst_CliRun::LostOutputIsTold()
 }
 
 // Output to a closed channel must not end up in a file that was opened in its place.
-void tst_CliRun::ClosedChannelsHarmNoFile()
+void tst_CliRun::closedChannelsHarmNoFile()
 {
     const CliRun run =
         Shell(QStringLiteral("\"$VELKORA\" run photos -o out --verbose --json --report r.json <&- >&- 2>&-"));
@@ -482,7 +482,7 @@ void tst_CliRun::ClosedChannelsHarmNoFile()
     QCOMPARE(error.error, QJsonParseError::NoError);
 }
 
-void tst_CliRun::ReadersMayLeave()
+void tst_CliRun::readersMayLeave()
 {
     const CliRun events =
         Shell(QStringLiteral("{ \"$VELKORA\" run photos -o out --json; echo \"ends with $?\" >&2; } | head -n 1"));
@@ -500,7 +500,7 @@ void tst_CliRun::ReadersMayLeave()
     QCOMPARE(QDir(Path(QStringLiteral("out2"))).entryList(QDir::Files | QDir::Hidden).size(), 3);
 }
 
-void tst_CliRun::PlanLooksAtTheFolder()
+void tst_CliRun::planLooksAtTheFolder()
 {
     const CliRun file = Run(QStringLiteral("plan photos -o photos/1.jpg/below"));
     QCOMPARE(file.exitCode, 1);

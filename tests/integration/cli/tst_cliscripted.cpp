@@ -13,17 +13,17 @@ class tst_CliScripted : public QObject
 
 private Q_SLOTS:
     void init();
-    void ResultsAreTold();
-    void QuietSaysProblemsOnly();
-    void EventsAreJson();
-    void ReportsListEveryInput();
-    void RefusedJobs();
-    void QuestionsWithoutATerminal();
-    void ServersThatEnd_data();
-    void ServersThatEnd();
-    void ServerThatEndsFirstThing();
-    void NoServer();
-    void SecondRunAtATime();
+    void resultsAreTold();
+    void quietSaysProblemsOnly();
+    void eventsAreJson();
+    void reportsListEveryInput();
+    void refusedJobs();
+    void questionsWithoutATerminal();
+    void serversThatEnd_data();
+    void serversThatEnd();
+    void serverThatEndsFirstThing();
+    void noServer();
+    void secondRunAtATime();
 
 private:
     QString Field(const QString& name) const { return QStringLiteral("s:") + Encoded(stage->Path(name)); }
@@ -66,7 +66,7 @@ QStringList tst_CliScripted::ThreeResults() const
     return {QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))};
 }
 
-void tst_CliScripted::ResultsAreTold()
+void tst_CliScripted::resultsAreTold()
 {
     stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
@@ -89,7 +89,7 @@ void tst_CliScripted::ResultsAreTold()
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList());
 }
 
-void tst_CliScripted::QuietSaysProblemsOnly()
+void tst_CliScripted::quietSaysProblemsOnly()
 {
     stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out -q"));
@@ -97,7 +97,7 @@ void tst_CliScripted::QuietSaysProblemsOnly()
     QVERIFY2(run.err.startsWith("failed ") && run.err.count('\n') == 2, run.err.constData());
 }
 
-void tst_CliScripted::EventsAreJson()
+void tst_CliScripted::eventsAreJson()
 {
     stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --json -q"));
@@ -117,7 +117,7 @@ void tst_CliScripted::EventsAreJson()
     QCOMPARE(end.value(QStringLiteral("notProcessed")).toInt(), 0);
 }
 
-void tst_CliScripted::ReportsListEveryInput()
+void tst_CliScripted::reportsListEveryInput()
 {
     stage->Play(ThreeResults());
     QCOMPARE(stage->Run(QStringLiteral("run photos -o out -q --report r.csv")).exitCode, 1);
@@ -129,7 +129,7 @@ void tst_CliScripted::ReportsListEveryInput()
     QVERIFY2(lines[3].contains("/out/3.jpg\",\"skipped\",11,\""), lines[3].constData());
 }
 
-void tst_CliScripted::RefusedJobs()
+void tst_CliScripted::refusedJobs()
 {
     const QString reason = Encoded(QStringLiteral("The job is refused: Effect 1 is unheard of."));
     stage->Play({QStringLiteral("start: open"),
@@ -139,7 +139,7 @@ void tst_CliScripted::RefusedJobs()
     QVERIFY2(run.err.contains("velkora-batch: Effect 1 is unheard of\n"), run.err.constData());
 }
 
-void tst_CliScripted::QuestionsWithoutATerminal()
+void tst_CliScripted::questionsWithoutATerminal()
 {
     stage->Play(ThreeResults());
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --on-input-error stop"));
@@ -147,7 +147,7 @@ void tst_CliScripted::QuestionsWithoutATerminal()
     QVERIFY2(run.err.contains("--on-name-exists") && !run.err.contains("--on-input-error"), run.err.constData());
 }
 
-void tst_CliScripted::ServersThatEnd_data()
+void tst_CliScripted::serversThatEnd_data()
 {
     QTest::addColumn<QString>("end");
     QTest::newRow("crash") << QStringLiteral("crash");
@@ -156,7 +156,7 @@ void tst_CliScripted::ServersThatEnd_data()
     QTest::newRow("exit code 0") << QStringLiteral("exit 0");
 }
 
-void tst_CliScripted::ServersThatEnd()
+void tst_CliScripted::serversThatEnd()
 {
     QFETCH(QString, end);
     stage->Play({QStringLiteral("start: open"), QStringLiteral("5: ") + end});
@@ -171,7 +171,7 @@ void tst_CliScripted::ServersThatEnd()
     QCOMPARE(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).size(), 1);
 }
 
-void tst_CliScripted::ServerThatEndsFirstThing()
+void tst_CliScripted::serverThatEndsFirstThing()
 {
     stage->PlayNext(ThreeResults());
     stage->Play({QStringLiteral("start: next; exit 7")});
@@ -182,7 +182,7 @@ void tst_CliScripted::ServerThatEndsFirstThing()
     QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).isEmpty());
 }
 
-void tst_CliScripted::NoServer()
+void tst_CliScripted::noServer()
 {
     stage = std::make_unique<CliStage>(CliStage::Server::Missing);
     stage->Write(QStringLiteral("photos/1.jpg"), "a picture");
@@ -193,7 +193,7 @@ void tst_CliScripted::NoServer()
     QCOMPARE(run.err.count("a new one goes on"), 0);
 }
 
-void tst_CliScripted::SecondRunAtATime()
+void tst_CliScripted::secondRunAtATime()
 {
     stage->Play(
         {QStringLiteral("start: open"), QStringLiteral("5: send 8 id ") + Field(QStringLiteral("photos/1.jpg"))});

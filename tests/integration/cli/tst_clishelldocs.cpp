@@ -17,16 +17,16 @@ class tst_CliShellDocs : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void BashCompletes_data();
-    void BashCompletes();
-    void BashKnowsEveryOption();
-    void BashAtTheTerminal();
-    void ZshKnowsEveryOption();
-    void ZshOffersEveryWord();
-    void FishKnowsEveryOption();
-    void ManualPageHasEveryOption();
-    void ManualPageIsSound_data();
-    void ManualPageIsSound();
+    void bashCompletes_data();
+    void bashCompletes();
+    void bashKnowsEveryOption();
+    void bashAtTheTerminal();
+    void zshKnowsEveryOption();
+    void zshOffersEveryWord();
+    void fishKnowsEveryOption();
+    void manualPageHasEveryOption();
+    void manualPageIsSound_data();
+    void manualPageIsSound();
 
 private:
     QString Path(const char* name) const { return QStringLiteral(SHELL_DOCS "/") + QLatin1String(name); }
@@ -126,7 +126,7 @@ QStringList tst_CliShellDocs::HelpOptions(const QString& command) const
     return options;
 }
 
-void tst_CliShellDocs::BashCompletes_data()
+void tst_CliShellDocs::bashCompletes_data()
 {
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QStringList>("offered");
@@ -158,7 +158,7 @@ void tst_CliShellDocs::BashCompletes_data()
     row("nonsense --", "");
 }
 
-void tst_CliShellDocs::BashCompletes()
+void tst_CliShellDocs::bashCompletes()
 {
     QFETCH(QStringList, words);
     QFETCH(QStringList, offered);
@@ -172,7 +172,7 @@ void tst_CliShellDocs::BashCompletes()
     QCOMPARE(Sorted(Bash(words)), Sorted(offered));
 }
 
-void tst_CliShellDocs::BashKnowsEveryOption()
+void tst_CliShellDocs::bashKnowsEveryOption()
 {
     if (!IsThere("bash")) {
         QSKIP("bash is not installed.");
@@ -194,7 +194,7 @@ void tst_CliShellDocs::BashKnowsEveryOption()
 }
 
 // Splitting a line into words is up to readline.
-void tst_CliShellDocs::BashAtTheTerminal()
+void tst_CliShellDocs::bashAtTheTerminal()
 {
     if (!IsThere("bash")) {
         QSKIP("bash is not installed.");
@@ -209,7 +209,7 @@ void tst_CliShellDocs::BashAtTheTerminal()
     QVERIFY2(terminal.WaitFor("off:sepia "), terminal.Output().constData());
 }
 
-void tst_CliShellDocs::ZshKnowsEveryOption()
+void tst_CliShellDocs::zshKnowsEveryOption()
 {
     if (!IsThere("zsh")) {
         QSKIP("zsh is not installed.");
@@ -233,7 +233,7 @@ void tst_CliShellDocs::ZshKnowsEveryOption()
     }
 }
 
-void tst_CliShellDocs::ZshOffersEveryWord()
+void tst_CliShellDocs::zshOffersEveryWord()
 {
     if (!IsThere("zsh")) {
         QSKIP("zsh is not installed.");
@@ -281,7 +281,7 @@ void tst_CliShellDocs::ZshOffersEveryWord()
              terminal.Output().constData());
 }
 
-void tst_CliShellDocs::FishKnowsEveryOption()
+void tst_CliShellDocs::fishKnowsEveryOption()
 {
     if (!IsThere("fish")) {
         QSKIP("fish is not installed.");
@@ -304,7 +304,7 @@ void tst_CliShellDocs::FishKnowsEveryOption()
     QCOMPARE(Fish(QStringLiteral("run --on-name-exists=re")), QStringList{QStringLiteral("--on-name-exists=rename")});
 }
 
-void tst_CliShellDocs::ManualPageHasEveryOption()
+void tst_CliShellDocs::manualPageHasEveryOption()
 {
     if (!IsThere("groff")) {
         QSKIP("groff is not installed.");
@@ -325,7 +325,7 @@ void tst_CliShellDocs::ManualPageHasEveryOption()
     }
 }
 
-void tst_CliShellDocs::ManualPageIsSound_data()
+void tst_CliShellDocs::manualPageIsSound_data()
 {
     QTest::addColumn<QStringList>("command");
     QTest::newRow("groff") << QStringList{QStringLiteral("groff"), QStringLiteral("-man"), QStringLiteral("-ww"),
@@ -335,7 +335,7 @@ void tst_CliShellDocs::ManualPageIsSound_data()
                                         QStringLiteral("-T"),  Path("velkora-batch.1")};
 }
 
-void tst_CliShellDocs::ManualPageIsSound()
+void tst_CliShellDocs::manualPageIsSound()
 {
     QFETCH(QStringList, command);
     const QString program = command.takeFirst();

@@ -14,22 +14,22 @@ class tst_CliStandIn : public QObject
 
 private Q_SLOTS:
     void init();
-    void FilesAreWritten();
-    void SavedJobsAreRun();
-    void BrokenWorkersCostOneFile();
-    void NoWorker();
-    void NamesThatAreTaken_data();
-    void NamesThatAreTaken();
-    void NotesNameWholeFiles();
-    void PlanTellsWhatRunDoes_data();
-    void PlanTellsWhatRunDoes();
-    void PlanMarksTrouble();
-    void PlanReportsFilesThatWorkersEndOver_data();
-    void PlanReportsFilesThatWorkersEndOver();
-    void PlanFailsWithoutWorkers();
-    void KilledRunsGoOn();
-    void KilledServersAreReplaced();
-    void FilesThatServersDieOverAreLeftOut();
+    void filesAreWritten();
+    void savedJobsAreRun();
+    void brokenWorkersCostOneFile();
+    void noWorker();
+    void namesThatAreTaken_data();
+    void namesThatAreTaken();
+    void notesNameWholeFiles();
+    void planTellsWhatRunDoes_data();
+    void planTellsWhatRunDoes();
+    void planMarksTrouble();
+    void planReportsFilesThatWorkersEndOver_data();
+    void planReportsFilesThatWorkersEndOver();
+    void planFailsWithoutWorkers();
+    void killedRunsGoOn();
+    void killedServersAreReplaced();
+    void filesThatServersDieOverAreLeftOut();
 
 private:
     void Start(QProcess& process, const QString& arguments) const;
@@ -67,7 +67,7 @@ bool tst_CliStandIn::WaitForOutput(QProcess& process, const QByteArray& text, in
     return true;
 }
 
-void tst_CliStandIn::FilesAreWritten()
+void tst_CliStandIn::filesAreWritten()
 {
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --suffix number --format png"));
     QVERIFY2(run.exitCode == 0, run.err.constData());
@@ -77,7 +77,7 @@ void tst_CliStandIn::FilesAreWritten()
     QVERIFY2(run.err.contains("[3/3] ") && run.err.contains("Written             3"), run.err.constData());
 }
 
-void tst_CliStandIn::SavedJobsAreRun()
+void tst_CliStandIn::savedJobsAreRun()
 {
     QCOMPARE(stage->Run(QStringLiteral("create job.xml photos -o other --format png")).exitCode, 0);
     const CliRun run = stage->Run(QStringLiteral("run job.xml -o out"));
@@ -86,7 +86,7 @@ void tst_CliStandIn::SavedJobsAreRun()
     QVERIFY(!QFileInfo::exists(stage->Path(QStringLiteral("other"))));
 }
 
-void tst_CliStandIn::BrokenWorkersCostOneFile()
+void tst_CliStandIn::brokenWorkersCostOneFile()
 {
     const QString bad = stage->Write(QStringLiteral("photos/2.jpg"), "crash");
     const CliRun run = stage->Run(QStringLiteral("run photos -o out --format png"));
@@ -96,7 +96,7 @@ void tst_CliStandIn::BrokenWorkersCostOneFile()
 }
 
 // The run can be resumed as soon as there is a worker.
-void tst_CliStandIn::NoWorker()
+void tst_CliStandIn::noWorker()
 {
     stage = std::make_unique<CliStage>(CliStage::Server::WithoutWorker);
     stage->Write(QStringLiteral("photos/1.jpg"), "1");
@@ -111,7 +111,7 @@ void tst_CliStandIn::NoWorker()
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1x.png")}));
 }
 
-void tst_CliStandIn::NamesThatAreTaken_data()
+void tst_CliStandIn::namesThatAreTaken_data()
 {
     QTest::addColumn<QString>("word");
     QTest::addColumn<int>("exitCode");
@@ -125,7 +125,7 @@ void tst_CliStandIn::NamesThatAreTaken_data()
     QTest::newRow("rename") << QStringLiteral("rename") << 0 << renamed << QByteArray("old");
 }
 
-void tst_CliStandIn::NamesThatAreTaken()
+void tst_CliStandIn::namesThatAreTaken()
 {
     QFETCH(QString, word);
     QFETCH(int, exitCode);
@@ -139,7 +139,7 @@ void tst_CliStandIn::NamesThatAreTaken()
 }
 
 /// A note about a result quotes the log of the server, whatever the names look like.
-void tst_CliStandIn::NotesNameWholeFiles()
+void tst_CliStandIn::notesNameWholeFiles()
 {
     const QString name = QStringLiteral("a; b (naming policy).jpg");
     stage->Write(QStringLiteral("odd/") + name, "1");
@@ -157,7 +157,7 @@ void tst_CliStandIn::NotesNameWholeFiles()
     QCOMPARE(texts, QStringList{QStringLiteral("written as \"%1\" (naming policy)").arg(renamed)});
 }
 
-void tst_CliStandIn::PlanTellsWhatRunDoes_data()
+void tst_CliStandIn::planTellsWhatRunDoes_data()
 {
     QTest::addColumn<QString>("options");
     for (const char* options : {"--structure input", "--name text:x --suffix number:9:2",
@@ -166,7 +166,7 @@ void tst_CliStandIn::PlanTellsWhatRunDoes_data()
     }
 }
 
-void tst_CliStandIn::PlanTellsWhatRunDoes()
+void tst_CliStandIn::planTellsWhatRunDoes()
 {
     QFETCH(QString, options);
     const QString arguments = QStringLiteral(" photos -o out --format png --json -q ") + options;
@@ -192,7 +192,7 @@ void tst_CliStandIn::PlanTellsWhatRunDoes()
     QCOMPARE(written, planned);
 }
 
-void tst_CliStandIn::PlanMarksTrouble()
+void tst_CliStandIn::planMarksTrouble()
 {
     stage->Write(QStringLiteral("more/1.jpg"), "1");
     stage->Write(QStringLiteral("out/3.jpg"), "3");
@@ -208,7 +208,7 @@ void tst_CliStandIn::PlanMarksTrouble()
     QVERIFY2(source.out.count("is a source of this job]") == 3, source.out.constData());
 }
 
-void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver_data()
+void tst_CliStandIn::planReportsFilesThatWorkersEndOver_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("reason");
@@ -217,7 +217,7 @@ void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver_data()
     QTest::newRow("memory") << QByteArray("eatprobe") << QByteArray("it takes more memory than the limit of 128 MiB");
 }
 
-void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver()
+void tst_CliStandIn::planReportsFilesThatWorkersEndOver()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, reason);
@@ -239,7 +239,7 @@ void tst_CliStandIn::PlanReportsFilesThatWorkersEndOver()
     QVERIFY2(lines.at(2).contains("20240501.png"), plan.out.constData());
 }
 
-void tst_CliStandIn::PlanFailsWithoutWorkers()
+void tst_CliStandIn::planFailsWithoutWorkers()
 {
     stage = std::make_unique<CliStage>(CliStage::Server::WithoutWorker);
     stage->Write(QStringLiteral("photos/1.jpg"), "1");
@@ -249,7 +249,7 @@ void tst_CliStandIn::PlanFailsWithoutWorkers()
     QVERIFY2(plan.out.isEmpty(), plan.out.constData());
 }
 
-void tst_CliStandIn::KilledRunsGoOn()
+void tst_CliStandIn::killedRunsGoOn()
 {
     const QString gate = stage->Path(QStringLiteral("gate"));
     stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
@@ -273,7 +273,7 @@ void tst_CliStandIn::KilledRunsGoOn()
     QCOMPARE(stage->Content(QStringLiteral("out/3.png")), QByteArray("old"));
 }
 
-void tst_CliStandIn::KilledServersAreReplaced()
+void tst_CliStandIn::killedServersAreReplaced()
 {
     const QString gate = stage->Path(QStringLiteral("gate"));
     stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
@@ -300,7 +300,7 @@ void tst_CliStandIn::KilledServersAreReplaced()
              QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
 }
 
-void tst_CliStandIn::FilesThatServersDieOverAreLeftOut()
+void tst_CliStandIn::filesThatServersDieOverAreLeftOut()
 {
     stage->Write(QStringLiteral("photos/2.jpg"), "hang");
     QProcess process;

@@ -17,19 +17,19 @@ class tst_CliTerminal : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void ProgressIsOneLine();
-    void NarrowTerminal();
-    void NoColour();
-    void QuestionsAreAsked_data();
-    void QuestionsAreAsked();
-    void WrongAnswersAreAskedAgain();
-    void EndOfInputMeansSkipping();
-    void StopEndsTheRun();
-    void InterruptCancels();
-    void SecondInterruptEndsAtOnce();
-    void InterruptDuringQuestion();
-    void AnswersOutliveTheProgram();
-    void DumbTerminal();
+    void progressIsOneLine();
+    void narrowTerminal();
+    void noColour();
+    void questionsAreAsked_data();
+    void questionsAreAsked();
+    void wrongAnswersAreAskedAgain();
+    void endOfInputMeansSkipping();
+    void stopEndsTheRun();
+    void interruptCancels();
+    void secondInterruptEndsAtOnce();
+    void interruptDuringQuestion();
+    void answersOutliveTheProgram();
+    void dumbTerminal();
 
 private:
     QString Path(const QString& name) const { return root->filePath(name); }
@@ -76,7 +76,7 @@ void tst_CliTerminal::cleanup()
     qputenv("TMPDIR", temporaryBefore);
 }
 
-void tst_CliTerminal::ProgressIsOneLine()
+void tst_CliTerminal::progressIsOneLine()
 {
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
     QCOMPARE(terminal.ExitCode(), 0);
@@ -88,7 +88,7 @@ void tst_CliTerminal::ProgressIsOneLine()
     QCOMPARE(Results().size(), 3);
 }
 
-void tst_CliTerminal::NarrowTerminal()
+void tst_CliTerminal::narrowTerminal()
 {
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")), 40);
     QCOMPARE(terminal.ExitCode(), 0);
@@ -101,7 +101,7 @@ void tst_CliTerminal::NarrowTerminal()
     }
 }
 
-void tst_CliTerminal::NoColour()
+void tst_CliTerminal::noColour()
 {
     qputenv("NO_COLOR", "1");
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
@@ -110,7 +110,7 @@ void tst_CliTerminal::NoColour()
     QVERIFY2(!terminal.Output().contains("\033[3"), terminal.Output().constData());
 }
 
-void tst_CliTerminal::QuestionsAreAsked_data()
+void tst_CliTerminal::questionsAreAsked_data()
 {
     QTest::addColumn<QByteArray>("answers");
     QTest::addColumn<int>("questions");
@@ -122,7 +122,7 @@ void tst_CliTerminal::QuestionsAreAsked_data()
     QTest::newRow("all, short") << QByteArray("S a\n") << 1 << 1 << 3;
 }
 
-void tst_CliTerminal::QuestionsAreAsked()
+void tst_CliTerminal::questionsAreAsked()
 {
     QFETCH(QByteArray, answers);
     QFETCH(int, questions);
@@ -139,7 +139,7 @@ void tst_CliTerminal::QuestionsAreAsked()
     QCOMPARE(Results().size(), results);
 }
 
-void tst_CliTerminal::WrongAnswersAreAskedAgain()
+void tst_CliTerminal::wrongAnswersAreAskedAgain()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos/1.jpg -o out")));
@@ -151,7 +151,7 @@ void tst_CliTerminal::WrongAnswersAreAskedAgain()
     QVERIFY(Results().contains(QStringLiteral("1 (2).jpg")));
 }
 
-void tst_CliTerminal::EndOfInputMeansSkipping()
+void tst_CliTerminal::endOfInputMeansSkipping()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
@@ -162,7 +162,7 @@ void tst_CliTerminal::EndOfInputMeansSkipping()
     QCOMPARE(Results().size(), 3);
 }
 
-void tst_CliTerminal::StopEndsTheRun()
+void tst_CliTerminal::stopEndsTheRun()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
@@ -172,7 +172,7 @@ void tst_CliTerminal::StopEndsTheRun()
     QVERIFY(terminal.Output().contains("Cancelled."));
 }
 
-void tst_CliTerminal::InterruptCancels()
+void tst_CliTerminal::interruptCancels()
 {
     WriteMany();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run many -o out --effect blur:sigma=5 --workers 1")));
@@ -189,7 +189,7 @@ void tst_CliTerminal::InterruptCancels()
     QVERIFY(QDir(root->path()).entryList({QStringLiteral("velkora-batch-*")}).isEmpty());
 }
 
-void tst_CliTerminal::SecondInterruptEndsAtOnce()
+void tst_CliTerminal::secondInterruptEndsAtOnce()
 {
     WriteMany();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run many -o out --effect blur:sigma=5 --workers 1")));
@@ -198,7 +198,7 @@ void tst_CliTerminal::SecondInterruptEndsAtOnce()
     QCOMPARE(terminal.ExitCode(), 4);
 }
 
-void tst_CliTerminal::InterruptDuringQuestion()
+void tst_CliTerminal::interruptDuringQuestion()
 {
     WriteTaken();
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
@@ -210,7 +210,7 @@ void tst_CliTerminal::InterruptDuringQuestion()
 
 // One file is skipped by an answer of its own, all others are renamed: a resumed run gives them the names of an
 // undisturbed run.
-void tst_CliTerminal::AnswersOutliveTheProgram()
+void tst_CliTerminal::answersOutliveTheProgram()
 {
     WriteTaken();
     for (const char* folder : {"a", "b", "c"}) {
@@ -232,7 +232,7 @@ void tst_CliTerminal::AnswersOutliveTheProgram()
                                      QStringLiteral("2.jpg")}));
 }
 
-void tst_CliTerminal::DumbTerminal()
+void tst_CliTerminal::dumbTerminal()
 {
     qputenv("TERM", "dumb");
     PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));

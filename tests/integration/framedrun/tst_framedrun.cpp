@@ -13,9 +13,9 @@ class TestFramedRun : public QObject
 private Q_SLOTS:
     void initTestCase() { StartPictures(); }
 
-    void ThePictureStandsInItsFrame();
-    void TransparencyBecomesWhiteWhereItMust();
-    void ADamagedBackgroundIsNotThePicturesFault();
+    void thePictureStandsInItsFrame();
+    void transparencyBecomesWhiteWhereItMust();
+    void aDamagedBackgroundIsNotThePicturesFault();
 };
 
 namespace {
@@ -50,7 +50,7 @@ QString FramedJob(ServerRun& run, const QString& format, const Settings::Transfo
 
 } // namespace
 
-void TestFramedRun::ThePictureStandsInItsFrame()
+void TestFramedRun::thePictureStandsInItsFrame()
 {
     ServerRun run(ServerRun::Worker::Real);
     Settings::Transformation framing = Turned();
@@ -67,7 +67,7 @@ void TestFramedRun::ThePictureStandsInItsFrame()
     QVERIFY(framed.getpoint(100, 75) != framed.getpoint(1, 1));
 }
 
-void TestFramedRun::TransparencyBecomesWhiteWhereItMust()
+void TestFramedRun::transparencyBecomesWhiteWhereItMust()
 {
     ServerRun run(ServerRun::Worker::Real);
     QVERIFY(run.Start());
@@ -78,7 +78,7 @@ void TestFramedRun::TransparencyBecomesWhiteWhereItMust()
     QVERIFY(framed.getpoint(1, 1)[0] >= 253);
 }
 
-void TestFramedRun::ADamagedBackgroundIsNotThePicturesFault()
+void TestFramedRun::aDamagedBackgroundIsNotThePicturesFault()
 {
     ServerRun run(ServerRun::Worker::Real);
     Settings::Transformation framing = Turned();

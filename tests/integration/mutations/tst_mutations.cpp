@@ -17,8 +17,8 @@ class TestMutations : public QObject
 private Q_SLOTS:
     void initTestCase() { StartPictures(); }
 
-    void EveryPictureIsWrittenOrReported_data();
-    void EveryPictureIsWrittenOrReported();
+    void everyPictureIsWrittenOrReported_data();
+    void everyPictureIsWrittenOrReported();
 };
 
 namespace {
@@ -66,7 +66,7 @@ QStringList OpenFiles(qint64 process)
 
 } // namespace
 
-void TestMutations::EveryPictureIsWrittenOrReported_data()
+void TestMutations::everyPictureIsWrittenOrReported_data()
 {
     QTest::addColumn<unsigned>("seed");
     QTest::newRow("the usual damage") << 20240607U;
@@ -78,7 +78,7 @@ void TestMutations::EveryPictureIsWrittenOrReported_data()
     }
 }
 
-void TestMutations::EveryPictureIsWrittenOrReported()
+void TestMutations::everyPictureIsWrittenOrReported()
 {
     QFETCH(unsigned, seed);
     ServerRun run(ServerRun::Worker::Real);
