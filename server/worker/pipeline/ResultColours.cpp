@@ -29,7 +29,8 @@ Picture ResultColours::Of(const Picture& picture, QStringList& warnings) const
 {
     if (!job.profile.isEmpty()) {
         if (!format.metadata.holdsProfile) {
-            warnings.append(QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name));
+            warnings.append(
+                QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name));
             return InPlainSrgb(picture, warnings);
         }
         return ConvertedTo(job.profile, picture, warnings);
