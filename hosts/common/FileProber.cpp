@@ -29,9 +29,9 @@ ServerLimits LimitsFor(int files)
 class ProbeRun
 {
 public:
-    ProbeRun(const QVector<FileProber::File>& files, const QString& settings, const FileProber::Taker& take)
+    ProbeRun(const QVector<FileProber::File>& files, const QString& settings, const FileProber::ReportHandler& onReport)
         : limits(LimitsFor(files.size()))
-        , take(take)
+        , onReport(onReport)
         , open(files.size())
         , pool(WorkerProgram(), limits)
     {
@@ -88,14 +88,14 @@ private:
 
     void Settle(const Report& report)
     {
-        take(report);
+        onReport(report);
         if (--open == 0) {
             loop.quit();
         }
     }
 
     const ServerLimits limits;
-    const FileProber::Taker& take;
+    const FileProber::ReportHandler& onReport;
     int open; ///< files that are not reported yet
     QQueue<Assignment> waiting;
     QString problem;
@@ -105,9 +105,9 @@ private:
 
 } // namespace
 
-void FileProber::Probe(const QVector<File>& files, const QString& settings, const Taker& take)
+void FileProber::Probe(const QVector<File>& files, const QString& settings, const ReportHandler& onReport)
 {
-    const QString problem = ProbeRun(files, settings, take).Execute();
+    const QString problem = ProbeRun(files, settings, onReport).Execute();
     if (!problem.isEmpty()) {
         throw RequestError{QStringLiteral("no worker can be started to look at the pictures: %1").arg(problem)};
     }

@@ -20,11 +20,11 @@ public:
     };
 
     /// Called once for each file, in any order. A file that could not be probed comes with a failure.
-    using Taker = std::function<void(const BatchProtocol::Report&)>;
+    using ReportHandler = std::function<void(const BatchProtocol::Report&)>;
 
     /// Probes `files` and returns when all are reported. `settings` is the text of the job without inputs. Throws
     /// RequestError when no worker can be started.
-    static void Probe(const QVector<File>& files, const QString& settings, const Taker& take);
+    static void Probe(const QVector<File>& files, const QString& settings, const ReportHandler& onReport);
 };
 
 } // namespace BatchHost

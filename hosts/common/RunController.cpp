@@ -23,10 +23,10 @@ namespace {
 using Session = ZTBatchManager::ZTBatchSession;
 
 /// How many servers are started for a run.
-constexpr int mostLives = 10;
+constexpr int mostServers = 10;
 
 /// How many servers in a row may die before they have begun with a picture.
-constexpr int mostIdleLives = 3;
+constexpr int mostIdleServers = 3;
 
 } // namespace
 
@@ -67,8 +67,8 @@ void RunController::Start()
 
 void RunController::StartServer()
 {
-    ++lives;
-    settledInThisLife = 0;
+    ++serversStarted;
+    settledByThisServer = 0;
     manager->Start();
 }
 
@@ -247,7 +247,7 @@ void RunController::Settle(const FileResult& result)
     if (!Count(result)) {
         return;
     }
-    ++settledInThisLife;
+    ++settledByThisServer;
     const int done = end.written + end.skipped + end.failed;
     for (RunObserver* const observer : observers) {
         observer->OnResult(result, done, end.files);
@@ -281,16 +281,13 @@ bool RunController::Count(const FileResult& result, int index)
 
 QVector<QPair<int, FileResult>> RunController::JournaledResults() const
 {
-    using Kind = BatchJob::JournalState::Result::Kind;
     QVector<QPair<int, FileResult>> results;
     const std::optional<BatchJob::JournalState> state = BatchJob::ReadJournal(order.journalPath);
     for (int i = 0; state && i < order.inputs.files.size(); ++i) {
         const auto found = state->results.constFind(i);
         if (found != state->results.constEnd()) {
-            const FileResult::Kind kind = found->kind == Kind::Written   ? FileResult::Kind::Written
-                                          : found->kind == Kind::Skipped ? FileResult::Kind::Skipped
-                                                                         : FileResult::Kind::Failed;
-            results.append({i, {order.inputs.files.at(i), found->output, kind, found->errorCode, found->reason}});
+            results.append(
+                {i, {order.inputs.files.at(i), found->output, found->kind, found->errorCode, found->reason}});
         }
     }
     return results;
@@ -346,9 +343,9 @@ void RunController::OnServerGone()
     const QStringList lost = inWork;
     inWork.clear();
     NoteLoss(lost);
-    idleLives = settledInThisLife > 0 || !lost.isEmpty() ? 0 : idleLives + 1;
-    const bool goesOn =
-        !order.journalPath.isEmpty() && IsServerInstalled() && lives < mostLives && idleLives < mostIdleLives;
+    idleServers = settledByThisServer > 0 || !lost.isEmpty() ? 0 : idleServers + 1;
+    const bool goesOn = !order.journalPath.isEmpty() && IsServerInstalled() && serversStarted < mostServers &&
+                        idleServers < mostIdleServers;
     for (RunObserver* const observer : observers) {
         observer->OnServerLost(lost, goesOn);
     }

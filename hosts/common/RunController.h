@@ -95,9 +95,9 @@ private:
     QString lastLog;
     FileResult asked; ///< what the open question is about
     std::optional<BatchJob::PolicyKind> question;
-    int lives = 0; ///< how many servers were started
-    int settledInThisLife = 0;
-    int idleLives = 0; ///< how many of the last servers in a row died before they had begun with a picture
+    int serversStarted = 0; ///< how many servers were started
+    int settledByThisServer = 0;
+    int idleServers = 0; ///< how many of the last servers in a row died before they had begun with a picture
 };
 
 } // namespace BatchHost

@@ -4,19 +4,6 @@
 
 namespace BatchHost {
 
-QString ResultWord(FileResult::Kind kind)
-{
-    switch (kind) {
-    case FileResult::Kind::Written:
-        return QStringLiteral("written");
-    case FileResult::Kind::Skipped:
-        return QStringLiteral("skipped");
-    case FileResult::Kind::Failed:
-        return QStringLiteral("failed");
-    }
-    return {};
-}
-
 RunOutcome RunEnd::Outcome() const
 {
     switch (jobErrorCode) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/values/ResultKind.h"
+
 #include <QString>
 
 namespace BatchHost {
@@ -7,7 +9,7 @@ namespace BatchHost {
 /// What became of one input.
 struct FileResult
 {
-    enum class Kind { Written, Skipped, Failed };
+    using Kind = BatchJob::ResultKind;
 
     QString input;
     QString output;
@@ -15,9 +17,6 @@ struct FileResult
     int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
     QString reason;    ///< one sentence; empty when it was written
 };
-
-/// The word of `kind`: "written", "skipped", "failed".
-QString ResultWord(FileResult::Kind kind);
 
 enum class RunOutcome {
     Complete,   ///< every picture was written

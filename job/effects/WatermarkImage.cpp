@@ -24,8 +24,7 @@ QString PictureFileProblem(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return QStringLiteral("\"file\": %1 cannot be read: %2").arg(path, file.errorString());
     }
-    constexpr int headSize = 64;
-    return FormatOfFile(file.read(headSize), info.suffix()).isEmpty()
+    return FormatOfFile(file.read(formatHeadSize), info.suffix()).isEmpty()
                ? QStringLiteral("\"file\": %1 is not a picture of a known format").arg(path)
                : QString();
 }

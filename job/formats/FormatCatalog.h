@@ -30,9 +30,12 @@ const FormatSchema* FindReadableFormat(const QString& name);
 /// written with it.
 const FormatSchema* FindFormatByExtension(const QString& extension);
 
+/// How many of its first bytes tell the format of a file.
+constexpr int formatHeadSize = 64;
+
 /// The name of the format of a file whose first bytes are `head`, such as "JPEG" or "RAW"; empty when the server reads
-/// no such files. 64 bytes are enough. The bytes decide; the extension counts only where formats begin alike, as TIFF
-/// and many camera RAW files do.
+/// no such files. The first formatHeadSize bytes are enough. The bytes decide; the extension counts only where formats
+/// begin alike, as TIFF and many camera RAW files do.
 QString FormatOfFile(const QByteArray& head, const QString& extension);
 
 /// The extensions, lower case and without dot, of all files that the server reads.

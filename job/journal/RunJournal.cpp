@@ -18,19 +18,6 @@ QString Key(const char* name)
     return QString::fromLatin1(name);
 }
 
-const char* WordOf(Kind kind)
-{
-    switch (kind) {
-    case Kind::Written:
-        return "written";
-    case Kind::Skipped:
-        return "skipped";
-    case Kind::Failed:
-        return "failed";
-    }
-    return "";
-}
-
 bool ReadHeader(const QJsonObject& line, JournalState& state)
 {
     const QJsonArray policies = line.value(Key("policies")).toArray();
@@ -48,7 +35,7 @@ void ReadLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
     for (const Kind kind : {Kind::Written, Kind::Skipped, Kind::Failed}) {
-        const int index = line.value(Key(WordOf(kind))).toInt(-1);
+        const int index = line.value(ResultWord(kind)).toInt(-1);
         if (index >= 0) {
             state.results.insert(index,
                                  {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString()});
@@ -142,7 +129,7 @@ void RunJournal::Begin(int index, const JournalState::Beginning& beginning)
 
 void RunJournal::Settle(int index, const JournalState::Result& result)
 {
-    QJsonObject line{{Key(WordOf(result.kind)), index}, {Key("output"), result.output}};
+    QJsonObject line{{ResultWord(result.kind), index}, {Key("output"), result.output}};
     if (result.kind != Kind::Written) {
         line.insert(Key("code"), result.errorCode);
         line.insert(Key("reason"), result.reason);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/values/ResultKind.h"
+
 #include <QFile>
 #include <QHash>
 #include <QMap>
@@ -24,7 +26,7 @@ struct JournalState
 {
     struct Result
     {
-        enum class Kind { Written, Skipped, Failed };
+        using Kind = ResultKind;
 
         Kind kind = Kind::Written;
         QString output;

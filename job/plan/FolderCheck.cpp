@@ -11,7 +11,7 @@ QString WhyNotWritable(const QString& folder)
         existing.setFile(existing.path());
     }
     if (!existing.isDir()) {
-        return QStringLiteral("%1 is no folder").arg(existing.filePath());
+        return QStringLiteral("%1 is not a folder").arg(existing.filePath());
     }
     return existing.isWritable() ? QString() : QStringLiteral("%1 cannot be written").arg(existing.filePath());
 }

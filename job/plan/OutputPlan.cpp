@@ -13,8 +13,6 @@ namespace {
 
 using Settings = ZTBatchOutputSettings;
 
-constexpr int formatHeadSize = 64;
-
 QString ReadFormat(const QString& path)
 {
     const QFileInfo info(path);

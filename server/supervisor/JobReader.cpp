@@ -24,7 +24,7 @@ JobReader::Job ReadHere(const QString& text)
 {
     ZTBatchDocument document;
     if (!document.Deserialize(text)) {
-        return {{ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job is no batch document")}, {}, {}};
+        return {{ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job is not a batch document")}, {}, {}};
     }
     JobReader::Job job;
     job.refusal = CheckJob(document).refusal;

@@ -259,10 +259,11 @@ void Run::Examine(int file)
     }
     constexpr int mostLosses = 2;
     if (losses.value(file) >= mostLosses) {
-        HandleTrouble(file, {PolicyKind::Processing,
-                             ZTBatchMessage::ApplyAdjustmentError,
-                             QStringLiteral("the server has died over it %1 times").arg(losses.value(file)),
-                             {}});
+        HandleTrouble(
+            file, {PolicyKind::Processing,
+                   ZTBatchMessage::ApplyAdjustmentError,
+                   QStringLiteral("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
+                   {}});
         return;
     }
     const Trouble trouble = plan.TroubleOf(file);
@@ -425,8 +426,9 @@ void Run::Answer(ZTBatchMessage::Message question, int policy, bool isForTheRest
     }
     const QString policyName = Policies::Name(answer.policy);
     if (answer.meaning == Meaning::Invalid) {
-        host.Log(
-            QStringLiteral("%1 is no answer to the question about %2: it stays open.").arg(policy).arg(policyName));
+        host.Log(QStringLiteral("%1 is not an answer to the question about %2, which stays open.")
+                     .arg(policy)
+                     .arg(policyName));
         return;
     }
     if (isForTheRest) {
@@ -449,7 +451,7 @@ void Run::Resolve(int file, const Trouble& trouble, Decision decision)
     switch (decision) {
     case Decision::Stop:
         decisions.Wait(file, trouble);
-        Stop(QStringLiteral("the %1 policy says so").arg(Policies::Name(trouble.kind)));
+        Stop(QStringLiteral("as the %1 policy requires").arg(Policies::Name(trouble.kind)));
         break;
     case Decision::Overwrite:
     case Decision::Rename:

@@ -124,7 +124,7 @@ private:
     QList<int> ready; ///< files to hand out before that
     QList<BatchProtocol::Assignment> returned;
     QSet<int> inWork;
-    bool isDeciding = false; ///< a loop over decisions is running, which goes on with what comes up meanwhile
+    bool isDeciding = false; ///< a loop over decisions is running; it also handles those that arise meanwhile
     QSet<QString> madeFolders;
 
     const QString journalPath;

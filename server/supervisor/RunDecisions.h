@@ -10,7 +10,7 @@
 
 namespace BatchSupervisor {
 
-/// The troubles of a run that are not decided yet: whose turn it is, which question is open, what an answer means.
+/// The troubles of a run that are not decided yet: which is decided next, which question is open, what an answer means.
 ///
 /// Troubles that need an answer or an order are decided one at a time in the document's order, each when every file
 /// before it is done. So nothing depends on which worker is faster.
@@ -53,7 +53,7 @@ public:
     void Wait(int file, const BatchJob::Trouble& trouble) { waiting.insert(file, trouble); }
     bool HasWaiting() const { return !waiting.isEmpty(); }
 
-    /// The trouble whose turn it is. Nothing while a question is open, and while a file before it is not done.
+    /// The trouble that is decided next. Nothing while a question is open, and while a file before it is not done.
     std::optional<FileTrouble> TakeNext();
 
     /// All that is undecided, the open question included, in the document's order.
@@ -74,7 +74,7 @@ private:
     QMap<int, BatchJob::Trouble> waiting;
     std::optional<FileTrouble> question;
     std::vector<bool> done;
-    int firstNotDone = 0; ///< or a file before it: it only grows
+    int firstNotDone = 0; ///< a lower bound; it never decreases
 };
 
 } // namespace BatchSupervisor

@@ -141,7 +141,7 @@ void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const
     if (message == ZTBatchMessage::MsgCloseSession) {
         CloseSession(id);
     } else if (!session->run) {
-        HostLink(pipe, id).Log(QStringLiteral("There is no run under way: the command is ignored."));
+        HostLink(pipe, id).Log(QStringLiteral("No run is active: the command is ignored."));
     } else if (message == ZTBatchMessage::MsgPause) {
         session->run->Pause();
     } else if (message == ZTBatchMessage::MsgResume) {
@@ -211,7 +211,7 @@ void Server::Answer(ZTPipeSession* pipe, ZTBatchMessage::Message message, const 
     if (session->run) {
         session->run->Answer(message, answer.policy, answer.flag);
     } else {
-        HostLink(pipe, answer.sessionId).Log(QStringLiteral("There is no run under way: the answer is ignored."));
+        HostLink(pipe, answer.sessionId).Log(QStringLiteral("No run is active: the answer is ignored."));
     }
 }
 

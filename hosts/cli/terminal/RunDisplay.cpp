@@ -67,7 +67,7 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.bytesDone += bytes.value(result.input);
     progress.inWork.removeOne(result.input);
     if (result.kind != FileResult::Kind::Written) {
-        Write(QStringLiteral("%1 %2: %3").arg(ResultWord(result.kind), result.input, result.reason));
+        Write(QStringLiteral("%1 %2: %3").arg(BatchJob::ResultWord(result.kind), result.input, result.reason));
     } else if (!line.IsShown() && detail != Detail::Quiet) {
         Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }

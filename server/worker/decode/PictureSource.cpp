@@ -55,7 +55,7 @@ const FormatSchema* IdentifiedFormat(const QString& file, const QString& extensi
     const FileDescriptor descriptor(file);
     QFile head;
     head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
-    const QByteArray bytes = head.read(64);
+    const QByteArray bytes = head.read(formatHeadSize);
     if (bytes.isEmpty()) {
         throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
     }

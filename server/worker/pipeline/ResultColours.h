@@ -12,7 +12,7 @@ namespace BatchWorker {
 class ResultColours
 {
 public:
-    /// Both outlive this object. `keep` are the kinds of metadata that results keep.
+    /// `job` and `format` must outlive this object. `keep` are the kinds of metadata that results keep.
     ResultColours(const BatchJob::JobSettings& job, const BatchJob::FormatSchema& format, const QStringList& keep);
 
     /// Whether a source of inks stays one on its way through the stages.

@@ -30,7 +30,7 @@ private Q_SLOTS:
 private:
     QByteArray WithFiles(const QString& id, const QByteArray& parameters) const;
 
-    QTemporaryDir m_folder;
+    QTemporaryDir folder;
 };
 
 namespace {
@@ -161,8 +161,8 @@ void tst_EffectProperties::initTestCase()
     QVERIFY(VIPS_INIT("tst_effectproperties") == 0);
     const PictureForm rgba{3, 8, true};
     FromValues(rgba, 2, 1, {255, 0, 0, 255, 0, 0, 255, 128})
-        .write_to_file(qPrintable(m_folder.filePath(QStringLiteral("mark.png"))));
-    QFile cube(m_folder.filePath(QStringLiteral("warm.cube")));
+        .write_to_file(qPrintable(folder.filePath(QStringLiteral("mark.png"))));
+    QFile cube(folder.filePath(QStringLiteral("warm.cube")));
     QVERIFY(cube.open(QIODevice::WriteOnly));
     cube.write("LUT_3D_SIZE 2\n0.1 0 0\n1 0 0\n0 1 0\n1 0.9 0\n0 0 1\n1 0 1\n0 1 1\n1 1 0.8\n");
 }
@@ -170,10 +170,10 @@ void tst_EffectProperties::initTestCase()
 QByteArray tst_EffectProperties::WithFiles(const QString& id, const QByteArray& parameters) const
 {
     if (id == QLatin1String("lut")) {
-        return EffectCalls::WithFile(m_folder.filePath(QStringLiteral("warm.cube")), parameters);
+        return EffectCalls::WithFile(folder.filePath(QStringLiteral("warm.cube")), parameters);
     }
     if (id == QLatin1String("watermark-image")) {
-        return EffectCalls::WithFile(m_folder.filePath(QStringLiteral("mark.png")), parameters);
+        return EffectCalls::WithFile(folder.filePath(QStringLiteral("mark.png")), parameters);
     }
     return parameters;
 }
@@ -293,7 +293,7 @@ void tst_EffectProperties::readsFromTopToBottom()
     const EffectSchema& effect = *FindEffect(id);
     const QJsonObject complete = CheckEffect(effect, parameters).values;
 
-    const QString path = m_folder.filePath(QStringLiteral("tall.png"));
+    const QString path = folder.filePath(QStringLiteral("tall.png"));
     if (!QFile::exists(path)) {
         Noise({3, 8, false}, 40, 2500).write_to_file(qPrintable(path), Picture::option()->set("compression", 1));
     }

@@ -18,7 +18,7 @@ private Q_SLOTS:
     void agrees();
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir folder;
 };
 
 void tst_EffectsAgainstMagick::initTestCase()
@@ -29,9 +29,9 @@ void tst_EffectsAgainstMagick::initTestCase()
         QSKIP("needs the packages mate-backgrounds and imagemagick");
     }
     Picture::thumbnail(photo, 333)
-        .pngsave(qPrintable(m_folder.filePath(QStringLiteral("photo.png"))), Picture::option()->set("strip", true));
+        .pngsave(qPrintable(folder.filePath(QStringLiteral("photo.png"))), Picture::option()->set("strip", true));
     const PictureForm rgba{3, 8, true};
-    Noise(rgba, 25, 18).write_to_file(qPrintable(m_folder.filePath(QStringLiteral("mark.png"))));
+    Noise(rgba, 25, 18).write_to_file(qPrintable(folder.filePath(QStringLiteral("mark.png"))));
 }
 
 void tst_EffectsAgainstMagick::agrees_data()
@@ -76,8 +76,8 @@ void tst_EffectsAgainstMagick::agrees()
     QFETCH(QString, operation);
     QFETCH(int, tolerance);
 
-    const QString photo = m_folder.filePath(QStringLiteral("photo.png"));
-    const QString mark = m_folder.filePath(QStringLiteral("mark.png"));
+    const QString photo = folder.filePath(QStringLiteral("photo.png"));
+    const QString mark = folder.filePath(QStringLiteral("mark.png"));
     // The library remembers files by their names, so each row has its own.
     const QTemporaryDir folder;
     const QString theirs = folder.filePath(QStringLiteral("theirs.png"));

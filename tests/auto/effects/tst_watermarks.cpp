@@ -26,7 +26,7 @@ private Q_SLOTS:
 private:
     QString Mark(const QVector<int>& values, int width, int height, bool hasAlpha = false) const;
 
-    QTemporaryDir m_folder;
+    QTemporaryDir folder;
 };
 
 namespace {
@@ -66,7 +66,7 @@ void tst_Watermarks::initTestCase()
 
 QString tst_Watermarks::Mark(const QVector<int>& values, int width, int height, bool hasAlpha) const
 {
-    const QString path = m_folder.filePath(QStringLiteral("mark [a].png"));
+    const QString path = folder.filePath(QStringLiteral("mark [a].png"));
     VipsBlob* const png = FromValues(hasAlpha ? rgba8 : rgb8, width, height, values).pngsave_buffer();
     size_t size = 0;
     const void* const bytes = vips_blob_get(png, &size);
@@ -179,7 +179,7 @@ void tst_Watermarks::namesAFileThatCannotBeRead()
 {
     QFETCH(QByteArray, bytes);
 
-    const QString path = m_folder.filePath(QStringLiteral("broken.png"));
+    const QString path = folder.filePath(QStringLiteral("broken.png"));
     QFile::remove(path);
     if (!bytes.isEmpty()) {
         QFile file(path);
@@ -189,9 +189,9 @@ void tst_Watermarks::namesAFileThatCannotBeRead()
     const QByteArray parameters = EffectCalls::WithFile(path, R"({"size": 10, "unit": "pixels", "opacity": 100})");
     const QString failure = EffectCalls::Failure(QStringLiteral("watermark-image"), parameters, Black(20, 20));
     QVERIFY2(failure.startsWith(QStringLiteral("the file %1 cannot be read: ").arg(path)), qPrintable(failure));
-    QCOMPARE(EffectCalls::Failure(QStringLiteral("lut"), EffectCalls::WithFile(m_folder.filePath(QStringLiteral("no"))),
+    QCOMPARE(EffectCalls::Failure(QStringLiteral("lut"), EffectCalls::WithFile(folder.filePath(QStringLiteral("no"))),
                                   Black(1, 1)),
-             m_folder.filePath(QStringLiteral("no")) + QStringLiteral(" does not exist"));
+             folder.filePath(QStringLiteral("no")) + QStringLiteral(" does not exist"));
 }
 
 void tst_Watermarks::writesText()

@@ -193,7 +193,7 @@ void tst_RunForecast::foldersThatCannotBeMade()
     settings.outputFolder = input + QStringLiteral("/below");
     const RunForecast forecast(Plan({input}), With(PolicyKind::Output, ZTBatchManager::OutputStop));
     QVERIFY(forecast.Of(0).decision == Decision::Stop);
-    QCOMPARE(forecast.Of(0).trouble.reason, input + QStringLiteral(" is no folder"));
+    QCOMPARE(forecast.Of(0).trouble.reason, input + QStringLiteral(" is not a folder"));
     QVERIFY(WhyNotWritable(Path(QStringLiteral("new/and/deep"))).isEmpty());
 }
 

@@ -504,7 +504,7 @@ void tst_CliRun::planLooksAtTheFolder()
 {
     const CliRun file = Run(QStringLiteral("plan photos -o photos/1.jpg/below"));
     QCOMPARE(file.exitCode, 1);
-    QVERIFY2(file.out.count("photos/1.jpg is no folder]") == 3, file.out.constData());
+    QVERIFY2(file.out.count("photos/1.jpg is not a folder]") == 3, file.out.constData());
     const CliRun good = Run(QStringLiteral("plan photos -o photos/below/further"));
     QCOMPARE(good.exitCode, 0);
 }

@@ -316,7 +316,7 @@ void tst_CliStandIn::filesThatServersDieOverAreLeftOut()
     output += process.readAllStandardOutput();
     QVERIFY2(process.exitCode() == 1, process.readAllStandardError().constData());
     QCOMPARE(output.count("\"server-lost\""), 2);
-    QVERIFY2(output.contains("the server has died over it 2 times"), output.constData());
+    QVERIFY2(output.contains("the server crashed 2 times while it worked on the file"), output.constData());
     QCOMPARE(stage->Names(QStringLiteral("out")), QStringList({QStringLiteral("1.png"), QStringLiteral("3.png")}));
 }
 

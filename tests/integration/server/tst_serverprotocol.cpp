@@ -92,7 +92,7 @@ void tst_ServerProtocol::commandsWithoutARun()
     const QByteArray payload =
         isAnswer ? ZTBatchPayload::Pack(ZTBatchPayload::Answer{run.session, 0, true}) : SessionPayload(run.session);
     run.SendRaw(ZTBatchMessage::Message(message), payload);
-    QVERIFY2(run.WaitFor(QStringLiteral("log There is no run under way: the %1 is ignored.")
+    QVERIFY2(run.WaitFor(QStringLiteral("log No run is active: the %1 is ignored.")
                              .arg(isAnswer ? QStringLiteral("answer") : QStringLiteral("command"))),
              qPrintable(run.Report()));
     run.Process(run.Job({run.Write(QStringLiteral("in/a.jpg"), "a")}));
@@ -100,7 +100,7 @@ void tst_ServerProtocol::commandsWithoutARun()
     const int known = run.lines.size();
     run.SendRaw(ZTBatchMessage::Message(message), payload);
     QVERIFY2(QTest::qWaitFor([&] { return run.lines.size() > known; }, 30000), qPrintable(run.Report()));
-    QVERIFY2(run.lines.last().startsWith(QStringLiteral("log There is no run under way")), qPrintable(run.Report()));
+    QVERIFY2(run.lines.last().startsWith(QStringLiteral("log No run is active")), qPrintable(run.Report()));
     QVERIFY2(Works(run), qPrintable(run.Report()));
 }
 

@@ -152,8 +152,8 @@ void tst_ServerQuestions::unansweredQuestionsKeepTheRunWaiting()
     run.Send<ZTBatchMessage::MsgInputQuestion>(2, false);
     run.Send<ZTBatchMessage::MsgInputQuestion>(77, true);
     run.Send<ZTBatchMessage::MsgOutputQuestion>(0, true);
-    QVERIFY(run.WaitFor(QStringLiteral("log 2 is no answer to the question about input: it stays open.")));
-    QVERIFY(run.WaitFor(QStringLiteral("log 77 is no answer to the question about input: it stays open.")));
+    QVERIFY(run.WaitFor(QStringLiteral("log 2 is not an answer to the question about input, which stays open.")));
+    QVERIFY(run.WaitFor(QStringLiteral("log 77 is not an answer to the question about input, which stays open.")));
     QVERIFY(run.WaitFor(QStringLiteral("log There is no such question: the answer is ignored.")));
     QCOMPARE(run.Count(QStringLiteral("finished")), 0);
     run.Send<ZTBatchMessage::MsgCancel>();

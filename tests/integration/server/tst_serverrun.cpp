@@ -96,7 +96,7 @@ void tst_ServerRun::refusedJobs_data()
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no XML") << "text" << 5 << "The job is refused: The job is no batch document.";
+    QTest::newRow("no XML") << "text" << 5 << "The job is refused: The job is not a batch document.";
     QTest::newRow("no files") << "empty" << 5 << "The job is refused: The job has no files.";
     QTest::newRow("no output folder") << "folder" << 6 << "The job is refused: The output folder is \"\"";
     QTest::newRow("effect") << "effect" << 8 << "The job is refused: Effect 1, \"no such effect\", does not exist";
