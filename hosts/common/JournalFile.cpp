@@ -7,6 +7,13 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QSysInfo>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+
+#include <cerrno>
+#endif
 
 namespace BatchHost {
 
@@ -37,6 +44,21 @@ QStringList JournalsIn(const QDir& folder, const QString& end)
     return names;
 }
 
+/// Whether `lock` names a process of this machine that has ended.
+bool HasHolderEnded(const QLockFile& lock)
+{
+#ifdef Q_OS_UNIX
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.getLockInfo(&process, &host, &program) && host == QSysInfo::machineHostName() &&
+           kill(pid_t(process), 0) != 0 && errno == ESRCH;
+#else
+    Q_UNUSED(lock)
+    return false; // No other process can inherit a lock.
+#endif
+}
+
 } // namespace
 
 JournalFile::JournalFile(const QString& path)
@@ -45,6 +67,11 @@ JournalFile::JournalFile(const QString& path)
 {
     lock.setStaleLockTime(0); // A run may take days: the lock is stale only when its holder has ended.
     isHeld = lock.tryLock();
+    if (!isHeld && HasHolderEnded(lock)) {
+        // A server that was just being started when its host was killed keeps the lock until it runs its own program.
+        constexpr int timeout = 5'000; // ms
+        isHeld = lock.tryLock(timeout);
+    }
 }
 
 JournalFile::~JournalFile() = default;

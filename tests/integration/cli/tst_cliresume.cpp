@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <sys/file.h>
 #include <sys/types.h>
 
 namespace {
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void damagedJournal();
     void journalThatWasNotBegun_data();
     void journalThatWasNotBegun();
+    void lockThatOutlivesItsHolder();
     void otherJobsAreNotResumed();
     void linesThatMakeNoSense();
     void sameJobTwiceAtATime();
@@ -285,6 +287,30 @@ void tst_CliResume::journalThatWasNotBegun()
     QCOMPARE(run.exitCode, 2);
     QVERIFY2(run.err.contains("there is no interrupted run in "), run.err.constData());
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).keys(), QStringList());
+}
+
+// A child that was just forked when its parent was killed keeps the descriptor of the lock until it becomes the server.
+void tst_CliResume::lockThatOutlivesItsHolder()
+{
+    QProcess killed;
+    Start(killed, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+    QVERIFY(killed.waitForReadyRead(60'000));
+    killed.kill();
+    QVERIFY(killed.waitForFinished());
+    const QDir out(Path(QStringLiteral("out")));
+    const QStringList locks =
+        out.entryList({QStringLiteral(".velkora-batch-*.journal.lock")}, QDir::Files | QDir::Hidden);
+    QCOMPARE(locks.size(), 1);
+    QFile lock(out.filePath(locks.first()));
+    QVERIFY(lock.open(QIODevice::ReadOnly));
+    QTRY_COMPARE(flock(lock.handle(), LOCK_EX | LOCK_NB), 0);
+    QProcess resumed;
+    Start(resumed, QStringLiteral("run --resume -o out -q"));
+    QVERIFY2(!resumed.waitForFinished(500), resumed.readAllStandardError().constData());
+    lock.close();
+    QVERIFY(resumed.waitForFinished(120'000));
+    QVERIFY2(resumed.exitCode() == 0, resumed.readAllStandardError().constData());
+    QCOMPARE(FilesBelow(out.path()).size(), 12);
 }
 
 void tst_CliResume::otherJobsAreNotResumed()
