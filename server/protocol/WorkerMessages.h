@@ -3,6 +3,7 @@
 #include "ServerLimits.h"
 
 #include "job/values/PolicyValues.h"
+#include "job/values/Warning.h"
 
 #include "ZTBatchMessage.h"
 
@@ -10,7 +11,6 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <variant>
@@ -67,7 +67,7 @@ struct Report
     BatchJob::PolicyKind failure = BatchJob::PolicyKind::None; ///< the policy that decides; None: the task is done
     qint32 errorCode = ZTBatchMessage::NoError;                ///< a ZTBatchMessage::Error
     QString reason;                                            ///< for the log: what is wrong, and where
-    QStringList warnings;                                      ///< for the log, of tasks that were done
+    BatchJob::Warnings warnings;                               ///< of tasks that were done
     QString nearestFormat;                                     ///< for WriteToFormat, and of a probe: a format that can
                                                                ///< hold the picture, one of Formats()
     QString inputFormat;                                       ///< of a probe: as FormatOfFile() names it

@@ -72,7 +72,7 @@ void WritePatterns(const QString& path)
         ZTBatchOutputSettings::Transformation framing;
         framing.backgroundType = int(BatchJob::BackgroundType::Pattern);
         framing.backgroundPattern = {pattern, 100, 0};
-        QStringList warnings;
+        BatchJob::Warnings warnings;
         squares.push_back(MakeBackground(framing, std::nullopt, size, grey, warnings).extract_band(0));
     }
     Picture::arrayjoin(squares, Picture::option()->set("across", count)->set("shim", gap)->set("background", 255.0))

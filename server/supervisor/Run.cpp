@@ -521,8 +521,8 @@ void Run::FinishPicture(int file, const Report& report)
     const OutputPlan& names = plan.Names();
     const QString input = names.Input(file);
     const QString output = names.Output(file);
-    for (const QString& warning : report.warnings) {
-        host.Log(QStringLiteral("%1: warning: %2").arg(input, warning));
+    for (const Warning& warning : report.warnings) {
+        host.Log(QStringLiteral("%1: warning: %2").arg(input, warning.text));
     }
     if (plan.HasOtherFormat(file)) {
         ReportResult(file, Action::WrittenInAnotherFormat, ZTBatchMessage::UnsupportedOutputFormat,

@@ -6,6 +6,8 @@
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/VipsText.h"
 
+using namespace BatchJob;
+
 namespace BatchWorker {
 
 namespace {
@@ -42,15 +44,16 @@ Picture Transformed(const Picture& picture, const char* profile)
     return hasAlpha ? changed.bandjoin(AlphaOf(picture)) : changed;
 }
 
-Picture FittingProfile(const Picture& picture, QStringList& warnings)
+Picture FittingProfile(const Picture& picture, Warnings& warnings)
 {
     const QByteArray profile = ProfileOf(picture);
     const std::optional<ColourKind> kind = KindOfProfile(profile);
     if (profile.isEmpty() || kind == KindOf(picture)) {
         return picture;
     }
-    warnings.append(kind ? QStringLiteral("the embedded colour profile does not fit the picture and is not used")
-                         : QStringLiteral("the embedded colour profile is damaged and is not used"));
+    warnings.append({WarningKind::ProfileUnused,
+                     kind ? QStringLiteral("the embedded colour profile does not fit the picture and is not used")
+                          : QStringLiteral("the embedded colour profile is damaged and is not used")});
     return WithProfile(picture, {});
 }
 
@@ -61,7 +64,7 @@ bool IsCmyk(const Picture& picture)
     return picture.interpretation() == VIPS_INTERPRETATION_CMYK && picture.bands() >= 4;
 }
 
-Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings)
+Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, Warnings& warnings)
 {
     if (!IsCmyk(decoded)) {
         // What floating-point values mean depends on the profile.
@@ -72,23 +75,25 @@ Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& wa
     return keepsCmyk ? inks : Transformed(inks, builtInSrgb);
 }
 
-Picture ConvertedTo(const QByteArray& profile, const Picture& picture, QStringList& warnings)
+Picture ConvertedTo(const QByteArray& profile, const Picture& picture, Warnings& warnings)
 {
     if (KindOfProfile(profile)) {
         const ProfileFile file(profile);
         try {
             return Transformed(picture, file.Name().constData());
         } catch (const vips::VError& problem) {
-            warnings.append(QStringLiteral("the colour profile cannot be used: %1").arg(TextOf(problem)));
+            warnings.append({WarningKind::ProfileUnused,
+                             QStringLiteral("the colour profile cannot be used: %1").arg(TextOf(problem))});
             return picture;
         }
     }
     warnings.append(
-        QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted"));
+        {WarningKind::ProfileUnused,
+         QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted")});
     return picture;
 }
 
-Picture InPlainSrgb(const Picture& picture, QStringList& warnings)
+Picture InPlainSrgb(const Picture& picture, Warnings& warnings)
 {
     const QByteArray profile = ProfileOf(picture);
     if (!IsCmyk(picture) && (profile.isEmpty() || IsSrgb(profile))) {
@@ -103,12 +108,13 @@ Picture InPlainSrgb(const Picture& picture, QStringList& warnings)
         const Picture grey = plain.extract_band(0);
         return InWorkingForm(picture.has_alpha() ? grey.bandjoin(AlphaOf(plain)) : grey);
     } catch (const vips::VError& problem) {
-        warnings.append(QStringLiteral("the colours cannot be converted to sRGB: %1").arg(TextOf(problem)));
+        warnings.append({WarningKind::ProfileUnused,
+                         QStringLiteral("the colours cannot be converted to sRGB: %1").arg(TextOf(problem))});
         return WithProfile(picture, {});
     }
 }
 
-Picture AsCmyk(const QByteArray& profile, const Picture& picture, QStringList& warnings)
+Picture AsCmyk(const QByteArray& profile, const Picture& picture, Warnings& warnings)
 {
     if (!profile.isEmpty()) {
         return ConvertedTo(profile, picture, warnings);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "job/values/Warning.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
-#include <QStringList>
 
 /// Colours on their way into the stages and out of them. Warnings, for users, are appended to the list given.
 namespace BatchWorker {
@@ -15,17 +15,17 @@ bool IsCmyk(const Picture& picture);
 /// `decoded` in the form that the stages expect, with its profile if that fits. A profile that does not fit is removed,
 /// with a warning: sRGB, or a common set of inks, is used instead. A picture of inks stays one with `keepsCmyk`; else
 /// it becomes sRGB.
-Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, QStringList& warnings);
+Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, BatchJob::Warnings& warnings);
 
 /// `picture`, of the form that stages hand on or of inks, converted to `profile` (relative colorimetric with black
 /// point compensation), which it carries then. If that profile cannot be used, the picture stays as it is, with a
 /// warning.
-Picture ConvertedTo(const QByteArray& profile, const Picture& picture, QStringList& warnings);
+Picture ConvertedTo(const QByteArray& profile, const Picture& picture, BatchJob::Warnings& warnings);
 
 /// `picture` converted to sRGB where its profile is another, without any profile. Grey stays grey.
-Picture InPlainSrgb(const Picture& picture, QStringList& warnings);
+Picture InPlainSrgb(const Picture& picture, BatchJob::Warnings& warnings);
 
 /// `picture`, which is RGB or grey, as inks: those of `profile`, or of a common set when it is empty.
-Picture AsCmyk(const QByteArray& profile, const Picture& picture, QStringList& warnings);
+Picture AsCmyk(const QByteArray& profile, const Picture& picture, BatchJob::Warnings& warnings);
 
 } // namespace BatchWorker

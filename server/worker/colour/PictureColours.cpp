@@ -85,12 +85,12 @@ Picture AsRgb(const Picture& picture)
         return picture;
     }
     // A profile that cannot be used was reported when the picture was read.
-    QStringList warnings;
+    BatchJob::Warnings warnings;
     const Picture rgb = InPlainSrgb(picture, warnings).colourspace(KindOf(false, DepthOf(picture)));
     return ProfileOf(picture).isEmpty() ? rgb : WithProfile(rgb, SrgbProfile());
 }
 
-Picture InSpaceOf(const Picture& picture, const Picture& other, QStringList& warnings)
+Picture InSpaceOf(const Picture& picture, const Picture& other, BatchJob::Warnings& warnings)
 {
     const int depth = DepthOf(picture);
     const Picture deep = WithDepth(other, depth);
@@ -100,7 +100,7 @@ Picture InSpaceOf(const Picture& picture, const Picture& other, QStringList& war
                                    : ConvertedTo(profile, deep, warnings));
 }
 
-std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour, QStringList& warnings)
+std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour, BatchJob::Warnings& warnings)
 {
     const std::vector<double> values{double(colour.red()), double(colour.green()), double(colour.blue())};
     const Picture pixel = (Picture::black(1, 1) + values)
@@ -122,7 +122,7 @@ PaintablePicture PaintableWith(const QColor& colour, const Picture& picture)
 {
     PaintablePicture paintable{HasColour(colour) ? AsRgb(picture) : picture, {}};
     // A profile that cannot be used was reported when the picture was read.
-    QStringList warnings;
+    BatchJob::Warnings warnings;
     paintable.paint = ColourInSpaceOf(paintable.picture, colour, warnings);
     if (colour.alpha() < 255) {
         paintable.picture = WithAlpha(paintable.picture);

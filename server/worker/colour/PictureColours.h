@@ -1,9 +1,9 @@
 #pragma once
 
+#include "job/values/Warning.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QColor>
-#include <QStringList>
 
 #include <vector>
 
@@ -24,11 +24,11 @@ Picture AsRgb(const Picture& picture);
 /// `other`, whose values are sRGB or grey with sRGB's tone curve, in the channels, depth and profile of `picture`. Its
 /// alpha channel, straight, is kept. It brings no metadata along. Colour is lost when `picture` is grey. With a profile
 /// that nothing can be converted to, the values stay, with a warning.
-Picture InSpaceOf(const Picture& picture, const Picture& other, QStringList& warnings);
+Picture InSpaceOf(const Picture& picture, const Picture& other, BatchJob::Warnings& warnings);
 
 /// The values of `colour`, which is sRGB, in the colour channels of `picture`. Values that the profile of `picture`
 /// changes by at most two of 255 steps, which is what rounding does, stay as they are.
-std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour, QStringList& warnings);
+std::vector<double> ColourInSpaceOf(const Picture& picture, const QColor& colour, BatchJob::Warnings& warnings);
 
 /// A picture that can hold a colour, and the colour in its values, one for each band.
 struct PaintablePicture

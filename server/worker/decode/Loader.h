@@ -1,6 +1,9 @@
 #pragma once
 
 #include "job/formats/FormatSchema.h"
+#include "job/values/Warning.h"
+#include "server/protocol/ServerLimits.h"
+#include "server/worker/pixels/Picture.h"
 
 namespace BatchWorker {
 
@@ -11,12 +14,18 @@ enum class LoaderShrink {
     ByScale   ///< argument "scale": 1/2, 1/4 or 1/8
 };
 
-/// How the imaging library reads a format.
+/// How a format is read: by an operation of the imaging library, by `read`, or, with neither, by RawFile.
 struct Loader
 {
-    /// The library's operation that reads from a source; null for camera RAW, which RawFile reads.
+    /// The library's operation that reads from a source.
     const char* operation = nullptr;
     LoaderShrink shrink = LoaderShrink::None;
+
+    /// Reads what the library's operation cannot read well. The result has the header with its metadata at once and
+    /// pixels that are decoded when they flow, `shrink` times smaller. `descriptor` stays open for the length of the
+    /// call only; `warnings` live as long as the pixels. Throws PictureFailure and vips::VError.
+    Picture (*read)(int descriptor, int shrink, const BatchProtocol::ServerLimits& limits,
+                    BatchJob::Warnings& warnings) = nullptr;
 };
 
 /// The loader of `format`. It is named and never left to the library, which would look for options in the file's name

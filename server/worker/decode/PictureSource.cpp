@@ -62,9 +62,18 @@ const FormatSchema* IdentifiedFormat(const QString& file, const QString& extensi
     return FindReadableFormat(FormatOfFile(bytes, extension));
 }
 
-Picture Read(const QString& file, const Loader& loader, int shrink)
+bool IsRaw(const FormatSchema& format)
+{
+    const Loader& loader = LoaderOf(format);
+    return !loader.operation && !loader.read;
+}
+
+Picture Read(const QString& file, const Loader& loader, int shrink, const ServerLimits& limits, Warnings& warnings)
 {
     const FileDescriptor descriptor(file);
+    if (loader.read) {
+        return loader.read(descriptor.Value(), shrink, limits, warnings);
+    }
     vips::VOption* options = Picture::option()
                                  ->set("source", vips::VSource::new_from_descriptor(descriptor.Value()))
                                  ->set("access", VIPS_ACCESS_SEQUENTIAL)
@@ -89,7 +98,7 @@ PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
     if (!format) {
         throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
     }
-    if (!LoaderOf(*format).operation) {
+    if (IsRaw(*format)) {
         OpenRaw();
     }
     if (!raw) {
@@ -156,7 +165,7 @@ Picture PictureSource::Load(int shrink)
         isHeaderRead = true;
         return header;
     }
-    return Read(file, LoaderOf(*format), shrink);
+    return Read(file, LoaderOf(*format), shrink, limits, warnings);
 }
 
 void PictureSource::OpenRaw()
@@ -170,7 +179,7 @@ void PictureSource::OpenRaw()
     }
     // Some files with the extension of camera files are plain TIFF files.
     format = IdentifiedFormat(file, {});
-    if (!format || !LoaderOf(*format).operation) {
+    if (!format || IsRaw(*format)) {
         throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));
     }
 }
@@ -178,7 +187,7 @@ void PictureSource::OpenRaw()
 void PictureSource::OpenWithLoader()
 {
     try {
-        header = Read(file, LoaderOf(*format), 1);
+        header = Read(file, LoaderOf(*format), 1, limits, warnings);
     } catch (const vips::VError& problem) {
         const QString text = TextOf(problem);
         throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);

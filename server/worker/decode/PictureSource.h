@@ -2,6 +2,7 @@
 
 #include "job/formats/FormatSchema.h"
 #include "job/formats/NearestFormat.h"
+#include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
 
@@ -50,6 +51,9 @@ public:
     /// visible difference in a result that is `reduction` times smaller: 1, 2, 4 or 8.
     int PossibleShrink(double reduction) const;
 
+    /// What decoders say of the file. Complete when the pixels have been read.
+    const BatchJob::Warnings& DecoderWarnings() const { return warnings; }
+
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
     /// sizes rounded as the decoder rounds them. Each call reads the file again.
     Picture Load(int shrink = 1);
@@ -65,6 +69,7 @@ private:
     const BatchJob::FormatSchema* format = nullptr;
     QSize storedSize;
     int orientation = 1;
+    BatchJob::Warnings warnings;
     Picture header;
     bool isHeaderRead = false; ///< its pixels are read already
     std::unique_ptr<RawFile> raw;

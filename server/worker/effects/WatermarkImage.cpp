@@ -24,7 +24,7 @@ Picture ImageAt(const QString& path, int width)
         const Picture scaled = Picture::thumbnail_source(
             source, width, Picture::option()->set("height", VIPS_MAX_COORD)->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
         // Warnings about a logo's profile do not belong into the report on a picture.
-        QStringList warnings;
+        BatchJob::Warnings warnings;
         const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
         return AsRgb(WithDepth(plain, 8)).copy_memory();
     } catch (const vips::VError& problem) {
@@ -36,7 +36,7 @@ Picture ImageAt(const QString& path, int width)
 Overlay MarkOf(const Picture& image, const Picture& picture)
 {
     // A profile that cannot be used was reported when the picture was read.
-    QStringList warnings;
+    BatchJob::Warnings warnings;
     const Picture colours = IsGrey(picture) ? image : WithDepth(InSpaceOf(picture, image, warnings), 8);
     return {image.width(), image.height(), BytesOf(WithAlpha(colours))};
 }

@@ -80,7 +80,7 @@ Picture PatternPicture(const ZTBatchOutputSettings::Transformation& framing, con
 }
 
 Picture BackgroundColours(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
-                          const QSize& size, const Picture& like, QStringList& warnings)
+                          const QSize& size, const Picture& like, Warnings& warnings)
 {
     switch (BackgroundType(framing.backgroundType)) {
     case BackgroundType::None:
@@ -95,7 +95,7 @@ Picture BackgroundColours(const ZTBatchOutputSettings::Transformation& framing, 
     return Filled(std::vector<double>(IsGrey(like) ? 1 : 3, 0.0), size, like);
 }
 
-Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits& limits, QStringList& warnings)
+Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits& limits, Warnings& warnings)
 {
     PictureSource source(file, limits);
     const int orientation = source.Orientation();
@@ -118,7 +118,7 @@ PictureFailure Unreadable(const QString& file, const QString& reason)
 } // namespace
 
 std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
-                                          const ServerLimits& limits, QStringList& warnings)
+                                          const ServerLimits& limits, Warnings& warnings)
 {
     if (framing.backgroundType != int(BackgroundType::Image)) {
         return std::nullopt;
@@ -133,7 +133,7 @@ std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transform
 }
 
 Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
-                       const QSize& size, const Picture& like, QStringList& warnings)
+                       const QSize& size, const Picture& like, Warnings& warnings)
 {
     const Picture background = BackgroundColours(framing, file, size, like, warnings);
     const bool isNone = framing.backgroundType == int(BackgroundType::None);

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
 
 #include "ZTBatchOutputSettings.h"
 
 #include <QSize>
-#include <QStringList>
 
 #include <optional>
 
@@ -16,12 +16,12 @@ namespace BatchWorker {
 /// sRGB or grey, held in memory. Nothing when the background is no file. Throws PictureFailure, with the file's name,
 /// when it cannot be read whole, or is beyond `limits`.
 std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
-                                          const BatchProtocol::ServerLimits& limits, QStringList& warnings);
+                                          const BatchProtocol::ServerLimits& limits, BatchJob::Warnings& warnings);
 
 /// The background of a frame of `size`, its opacity applied: in the kind, depth and profile of `like`, with an alpha
 /// channel. `file` is what ReadBackgroundFile() gave.
 Picture MakeBackground(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file,
-                       const QSize& size, const Picture& like, QStringList& warnings);
+                       const QSize& size, const Picture& like, BatchJob::Warnings& warnings);
 
 /// Whether nothing can be seen through the background.
 bool IsBackgroundOpaque(const ZTBatchOutputSettings::Transformation& framing, const std::optional<Picture>& file);

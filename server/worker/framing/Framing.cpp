@@ -13,6 +13,7 @@
 #include "server/worker/pixels/RandomAccess.h"
 #include "server/worker/pixels/WeightedFilter.h"
 
+using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace BatchWorker {
@@ -73,7 +74,7 @@ Picture Placed(const Picture& picture, const FramePlacement& placement)
 }
 
 Picture WithShadow(const Picture& background, const Picture& placed, const Picture& coverage,
-                   const FramePlacement& placement, const Transformation& framing, QStringList& warnings)
+                   const FramePlacement& placement, const Transformation& framing, Warnings& warnings)
 {
     const Picture shade =
         placed.has_alpha() ? ShadowOfAlpha(placed, coverage, framing) : ShadowOfRectangle(placement, framing);
@@ -84,12 +85,13 @@ Picture WithShadow(const Picture& background, const Picture& placed, const Pictu
 } // namespace
 
 Picture FramePicture(const Picture& original, const Transformation& framing, const ServerLimits& limits,
-                     QStringList& warnings)
+                     Warnings& warnings)
 {
     const FramePlacement placement(QSize(original.width(), original.height()), framing);
     CheckFrame(placement.frame, limits.pixels);
     if (!placement.hasRoom) {
-        warnings.append(QStringLiteral("the margins leave nothing of the frame free and have no effect"));
+        warnings.append(
+            {WarningKind::Framing, QStringLiteral("the margins leave nothing of the frame free and have no effect")});
     }
     const std::optional<Picture> backgroundFile = ReadBackgroundFile(framing, placement.frame, limits, warnings);
     const Picture picture = BringsColour(framing, backgroundFile) ? AsRgb(original) : original;

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
 
 #include "ZTBatchOutputSettings.h"
-
-#include <QStringList>
 
 namespace BatchWorker {
 
@@ -33,6 +32,6 @@ namespace BatchWorker {
 /// and when the background file cannot be read, with the name of the file; vips::VError for what the library reports of
 /// the picture.
 Picture FramePicture(const Picture& original, const ZTBatchOutputSettings::Transformation& framing,
-                     const BatchProtocol::ServerLimits& limits, QStringList& warnings);
+                     const BatchProtocol::ServerLimits& limits, BatchJob::Warnings& warnings);
 
 } // namespace BatchWorker

@@ -108,7 +108,7 @@ Metadata::~Metadata() = default;
 Metadata::Metadata(Metadata&& other) noexcept = default;
 Metadata& Metadata::operator=(Metadata&& other) noexcept = default;
 
-Metadata Metadata::Of(const QString& file, const PictureSource& source, QStringList& warnings)
+Metadata Metadata::Of(const QString& file, const PictureSource& source, BatchJob::Warnings& warnings)
 {
     Metadata metadata;
     static_cast<MetadataBlocks&>(*metadata.d) = ReadMetadata(file, source, warnings);

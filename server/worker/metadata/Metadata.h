@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/values/Warning.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QSize>
@@ -24,7 +26,7 @@ public:
     Metadata& operator=(Metadata&& other) noexcept;
 
     /// The metadata of `file`, whose header `source` has read. What cannot be read is left out, with a warning.
-    static Metadata Of(const QString& file, const PictureSource& source, QStringList& warnings);
+    static Metadata Of(const QString& file, const PictureSource& source, BatchJob::Warnings& warnings);
 
     /// The ICC profile of a file whose decoder does not hand it over (MetadataSupport::isProfileInDecoder); else empty.
     QByteArray Profile() const;

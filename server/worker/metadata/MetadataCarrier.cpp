@@ -61,7 +61,7 @@ QByteArray IptcResource(const QByteArray& records)
 
 } // namespace
 
-Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadata& metadata, QStringList& warnings)
+Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadata& metadata, Warnings& warnings)
 {
     const MetadataSupport& support = format.metadata;
     if (!support.holdsIptc && support.holdsXmp) {
@@ -73,7 +73,8 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     const QByteArray iptc = metadata.Iptc();
     const bool hasAny = !exif.isEmpty() || !xmp.isEmpty() || !iptc.isEmpty();
     if (hasAny && support.writing == MetadataWriting::None) {
-        warnings.append(QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name));
+        warnings.append({WarningKind::MetadataLost,
+                         QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name)});
     }
     if (support.writing != MetadataWriting::ByEncoder) {
         return carrier;
@@ -82,10 +83,11 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
         if (support.longestBlock == 0 || block.size() <= support.longestBlock) {
             return true;
         }
-        warnings.append(QStringLiteral("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
-                            .arg(QLatin1String(what))
-                            .arg(block.size())
-                            .arg(format.name));
+        warnings.append({WarningKind::MetadataLost,
+                         QStringLiteral("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
+                             .arg(QLatin1String(what))
+                             .arg(block.size())
+                             .arg(format.name)});
         return false;
     };
     if (!exif.isEmpty() && fits(exif, "EXIF")) {
@@ -129,12 +131,12 @@ QByteArray BytesBefore(const FormatSchema& format, const Metadata& metadata)
 }
 
 void CompleteFile(const QString& fileName, const FormatSchema& format, const Metadata& metadata,
-                  const QByteArray& profile, QStringList& warnings)
+                  const QByteArray& profile, Warnings& warnings)
 {
     const MetadataSupport& support = format.metadata;
     const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
     if (isCutOut && !RemoveExifFromWebp(fileName)) {
-        warnings.append(QStringLiteral("EXIF cannot be removed from the result"));
+        warnings.append({WarningKind::MetadataLost, QStringLiteral("EXIF cannot be removed from the result")});
     }
     const bool isStripped = IsStripped(format, metadata);
     const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();
@@ -145,13 +147,15 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     constexpr qint64 largestInMemory = qint64(256) << 20;
     if (QFileInfo(fileName).size() > largestInMemory) {
         warnings.append(
-            QStringLiteral("the result is too large for all of its metadata to be added; some is left out"));
+            {WarningKind::MetadataLost,
+             QStringLiteral("the result is too large for all of its metadata to be added; some is left out")});
         return;
     }
     try {
         metadata.WriteInto(fileName, needsProfile, profile);
     } catch (const std::exception& problem) {
-        warnings.append(QStringLiteral("metadata cannot be written: %1").arg(QString::fromUtf8(problem.what())));
+        warnings.append({WarningKind::MetadataLost,
+                         QStringLiteral("metadata cannot be written: %1").arg(QString::fromUtf8(problem.what()))});
     }
 }
 

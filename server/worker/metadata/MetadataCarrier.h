@@ -3,10 +3,10 @@
 #include "Metadata.h"
 
 #include "job/formats/FormatSchema.h"
+#include "job/values/Warning.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
-#include <QStringList>
 
 /// How metadata get into results. What a format holds, and at which step of writing it gets there, is in its record.
 namespace BatchWorker {
@@ -14,13 +14,13 @@ namespace BatchWorker {
 /// `picture` with nothing but its profile and the blocks of `metadata` that the encoder of `format` writes. Each block
 /// that the format cannot hold gives a warning; IPTC becomes XMP in formats that hold XMP only.
 Picture WithMetadata(const Picture& picture, const BatchJob::FormatSchema& format, Metadata& metadata,
-                     QStringList& warnings);
+                     BatchJob::Warnings& warnings);
 
 /// The bytes of the result that come before what the encoder of `format` writes; for most formats none.
 QByteArray BytesBefore(const BatchJob::FormatSchema& format, const Metadata& metadata);
 
 /// Adds to the written file `fileName` the metadata that its encoder leaves out. `profile` is that of the picture.
 void CompleteFile(const QString& fileName, const BatchJob::FormatSchema& format, const Metadata& metadata,
-                  const QByteArray& profile, QStringList& warnings);
+                  const QByteArray& profile, BatchJob::Warnings& warnings);
 
 } // namespace BatchWorker

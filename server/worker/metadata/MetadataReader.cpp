@@ -126,13 +126,14 @@ MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
 // The metadata library refuses a whole file over a damaged profile, so the blocks are read past the profile. The
 // warning about the profile comes from where colours are read, except where the profile is read here.
 MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source,
-                            QStringList& warnings)
+                            Warnings& warnings)
 {
     if (!source.Format().metadata.isProfileInDecoder) {
         const QByteArray boxes = WithoutHeader(file);
         const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
         MetadataBlocks blocks = BlocksOf(*image);
-        warnings.append(QStringLiteral("the embedded colour profile is damaged and is not used"));
+        warnings.append(
+            {WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile is damaged and is not used")});
         return blocks;
     }
     if (problem.code() == Exiv2::kerInvalidIccProfile) {
@@ -148,7 +149,7 @@ bool HasTruncatedProfile(const PictureSource& source)
     return size > 0 && size < shortest;
 }
 
-MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, QStringList& warnings)
+MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, Warnings& warnings)
 {
     if (source.Format().metadata.reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
@@ -162,13 +163,14 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source,
 
 } // namespace
 
-MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, QStringList& warnings)
+MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
 {
     try {
         return BlocksOfAnyFile(file, source, warnings);
     } catch (const Exiv2::AnyError& problem) {
         warnings.append(
-            QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what())));
+            {WarningKind::MetadataLost,
+             QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});
         return {};
     }
 }

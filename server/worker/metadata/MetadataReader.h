@@ -1,8 +1,9 @@
 #pragma once
 
+#include "job/values/Warning.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 #include <exiv2/exiv2.hpp>
 
@@ -21,6 +22,6 @@ struct MetadataBlocks
 
 /// Reads `file`, whose header `source` has read. What cannot be read is left out, with a warning. A damaged colour
 /// profile does not affect the other blocks.
-MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, QStringList& warnings);
+MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, BatchJob::Warnings& warnings);
 
 } // namespace BatchWorker

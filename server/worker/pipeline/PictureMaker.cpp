@@ -103,6 +103,7 @@ MadePicture PictureRun::Make()
         throw CauseOf(problem, source, IsProcessed(), format);
     }
     KeepFileTime();
+    made.warnings += source.DecoderWarnings();
     struct stat status;
     made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
     return std::move(made);
@@ -113,9 +114,10 @@ void PictureRun::WarnOfOtherPages()
     const int pages = source.Pages();
     if (pages > 1) {
         const bool hasMain = source.Format().pages == FormatPages::Items;
-        made.warnings.append(QStringLiteral("it has %1 pages; only the %2 is used")
-                                 .arg(pages)
-                                 .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first")));
+        made.warnings.append(
+            {WarningKind::OtherPages, QStringLiteral("it has %1 pages; only the %2 is used")
+                                          .arg(pages)
+                                          .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first"))});
     }
 }
 

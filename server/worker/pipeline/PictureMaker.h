@@ -1,10 +1,9 @@
 #pragma once
 
 #include "job/settings/JobCheck.h"
+#include "job/values/Warning.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerMessages.h"
-
-#include <QStringList>
 
 #include <memory>
 
@@ -15,7 +14,7 @@ struct MadePicture
 {
     std::unique_ptr<BatchProtocol::TemporaryFile> file;
     qint64 bytes = 0;
-    QStringList warnings;
+    BatchJob::Warnings warnings;
 };
 
 /// Makes the result of `task` in a temporary file: decode, upright, crop, size, effects, framing, colour, encode.

@@ -25,12 +25,13 @@ void ResultColours::NoteSource(const Picture& decoded)
     inks = hasInks ? ProfileOf(decoded) : QByteArray();
 }
 
-Picture ResultColours::Of(const Picture& picture, QStringList& warnings) const
+Picture ResultColours::Of(const Picture& picture, Warnings& warnings) const
 {
     if (!job.profile.isEmpty()) {
         if (!format.metadata.holdsProfile) {
             warnings.append(
-                QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name));
+                {WarningKind::ColoursConverted,
+                 QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name)});
             return InPlainSrgb(picture, warnings);
         }
         return ConvertedTo(job.profile, picture, warnings);
@@ -39,7 +40,7 @@ Picture ResultColours::Of(const Picture& picture, QStringList& warnings) const
         if (format.holdsCmyk && keepsProfile && !picture.has_alpha()) {
             return AsCmyk(inks, picture, warnings);
         }
-        warnings.append(QStringLiteral("the result is sRGB instead of CMYK"));
+        warnings.append({WarningKind::ColoursConverted, QStringLiteral("the result is sRGB instead of CMYK")});
     }
     return keepsProfile ? picture : InPlainSrgb(picture, warnings);
 }

@@ -2,6 +2,7 @@
 
 #include "job/formats/FormatSchema.h"
 #include "job/settings/JobCheck.h"
+#include "job/values/Warning.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QStringList>
@@ -22,7 +23,7 @@ public:
     void NoteSource(const Picture& decoded);
 
     /// `picture`, as the stages give it, in the colours of the result. Warnings are appended.
-    Picture Of(const Picture& picture, QStringList& warnings) const;
+    Picture Of(const Picture& picture, BatchJob::Warnings& warnings) const;
 
 private:
     const BatchJob::JobSettings& job;

@@ -16,7 +16,7 @@ Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
     Report report;
     report.inputFormat = source.Format().name;
     report.nearestFormat = BatchJob::NearestFormat(source.Format().name, NeedsOf(source)).name;
-    QStringList warnings; // reported when the picture is made
+    BatchJob::Warnings warnings; // reported when the picture is made
     report.captured = Metadata::Of(task.inputFile, source, warnings).Captured();
     if (!report.captured.isValid()) {
         report.captured = QFileInfo(task.inputFile).lastModified();

@@ -14,6 +14,7 @@
 #include <new>
 #include <unistd.h>
 
+using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace BatchWorker {
@@ -21,7 +22,7 @@ namespace BatchWorker {
 namespace {
 
 std::mutex warningsMutex;
-QStringList warnings;
+Warnings warnings;
 
 void NoteWarning(const char* message)
 {
@@ -31,8 +32,9 @@ void NoteWarning(const char* message)
     if (text.contains(QLatin1String("ignoring nclx profile"))) {
         return; // said of every file that has an ICC profile too, which is used
     }
-    if (warnings.size() < most && !warnings.contains(text)) {
-        warnings.append(text);
+    const Warning warning{WarningKind::Decoder, text};
+    if (warnings.size() < most && !warnings.contains(warning)) {
+        warnings.append(warning);
     }
 }
 
@@ -78,12 +80,12 @@ void AllowKnownFormatsOnly()
     vips_block_untrusted_set(TRUE);
     vips_operation_block_set("VipsForeignLoad", TRUE);
     vips_operation_block_set("VipsForeignSave", TRUE);
-    for (const BatchJob::FormatSchema& format : BatchJob::ReadableFormats()) {
+    for (const FormatSchema& format : ReadableFormats()) {
         if (const char* const loader = LoaderOf(format).operation) {
             Allow(loader);
         }
     }
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+    for (const FormatSchema& format : Formats()) {
         Allow(EncoderOf(format).operation);
     }
 }
@@ -104,10 +106,10 @@ bool StartImagingLibrary(const char* program)
     return true;
 }
 
-QStringList TakeLibraryWarnings()
+Warnings TakeLibraryWarnings()
 {
     const std::lock_guard<std::mutex> lock(warningsMutex);
-    QStringList taken;
+    Warnings taken;
     taken.swap(warnings);
     return taken;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringList>
+#include "job/values/Warning.h"
 
 namespace BatchWorker {
 
@@ -12,6 +12,6 @@ namespace BatchWorker {
 bool StartImagingLibrary(const char* program);
 
 /// What the library has warned of since the last call, each warning once. Safe on any thread.
-QStringList TakeLibraryWarnings();
+BatchJob::Warnings TakeLibraryWarnings();
 
 } // namespace BatchWorker

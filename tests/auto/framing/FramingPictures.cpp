@@ -22,7 +22,7 @@ Picture FramePicture(const Picture& picture, const ZTBatchOutputSettings::Transf
 {
     BatchProtocol::ServerLimits limits;
     limits.pixels = pixelLimit;
-    QStringList warnings;
+    BatchJob::Warnings warnings;
     return BatchWorker::FramePicture(picture, framing, limits, warnings).copy_memory();
 }
 

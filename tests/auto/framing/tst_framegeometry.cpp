@@ -88,7 +88,7 @@ private Q_SLOTS:
         framing.backgroundType = int(BatchJob::BackgroundType::Colour);
         framing.backgroundColor = QColor(250, 250, 250);
 
-        QStringList warnings;
+        BatchJob::Warnings warnings;
         const QImage framed = ToImage(BatchWorker::FramePicture(FromImage(picture), framing, {}, warnings));
         const BatchWorker::FramePlacement placement(size, framing);
         const QTransform onWholePixels = QTransform::fromScale(placement.drawn.width() / double(size.width()),

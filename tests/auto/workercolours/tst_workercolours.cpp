@@ -153,7 +153,7 @@ void tst_WorkerColours::readsFloatingPoint()
     WritePicture(hasProfile ? WithProfile(plain, BuiltIn("p3")) : plain, bench->Path(Text("in.tif")));
     const Report report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     QCOMPARE(result.format(), VIPS_FORMAT_USHORT);
     QCOMPARE(ProfileOf(result).isEmpty(), !hasProfile);
@@ -202,7 +202,7 @@ void tst_WorkerColours::convertsToTheProfileOfTheJob()
     const Report report = bench->Make(Text("in.png"), Text("out.png"), Text("PNG"), {},
                                       [&wanted](ZTBatchOutputSettings& output) { output.SetICCProfile(wanted); });
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     QCOMPARE(ProfileOf(result), wanted);
     QCOMPARE(result.format(), isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR);
@@ -274,7 +274,8 @@ void tst_WorkerColours::fallsBackFromBrokenProfiles()
         });
     QCOMPARE(report.reason, QString());
     QVERIFY(!report.warnings.isEmpty());
-    QVERIFY2(report.warnings.join(QLatin1Char('\n')).contains(Text("profile")), qPrintable(report.warnings.first()));
+    QVERIFY2(BatchJob::TextsOf(report.warnings).join(QLatin1Char('\n')).contains(Text("profile")),
+             qPrintable(report.warnings.first().text));
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     QVERIFY(ProfileOf(result).isEmpty());
     QCOMPARE(LargestDifference(result, Patches()), 0.0);
@@ -308,7 +309,7 @@ void tst_WorkerColours::keepsInks()
     WritePicture(hasProfile ? WithProfile(black, BuiltIn("cmyk")) : black, bench->Path(Text("in.tif")));
     const Report report = bench->Make(Text("in.tif"), name, format, options);
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     const Picture result = ReadPicture(bench->Path(name));
     QCOMPARE(result.interpretation(), VIPS_INTERPRETATION_CMYK);
     QCOMPARE(ProfileOf(result), hasProfile ? BuiltIn("cmyk") : QByteArray());

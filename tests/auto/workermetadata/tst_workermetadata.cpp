@@ -295,7 +295,7 @@ void tst_WorkerMetadata::leavesTheWholeBlockOut()
     QVERIFY(isBlockThere());
     const Report report = make(keep);
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     QVERIFY(!isBlockThere());
     const Found found = Read(*bench, format);
     QCOMPARE(found.Xmp("Xmp.dc.creator"), keep.contains(Text("xmp")) ? Text("A. Photographer") : QString());
@@ -385,7 +385,7 @@ void tst_WorkerMetadata::readsPackedBoxes()
     bench->WriteBytes(Text("packed.jxl"), file);
     const Report report = bench->Make(Text("packed.jxl"), Text("out.jpg"), Text("JPEG"));
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     const Found found = Read(*bench, Text("JPEG"));
     QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
     QCOMPARE(found.Exif("Exif.Photo.DateTimeOriginal"), Text("2019:07:06 05:04:03"));
@@ -471,7 +471,7 @@ void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles()
     }
     const Report report = bench->Make(name, Text("out.jpg"), Text("JPEG"));
     QCOMPARE(report.reason, QString());
-    const QString warnings = report.warnings.join(QLatin1Char('\n'));
+    const QString warnings = BatchJob::TextsOf(report.warnings).join(QLatin1Char('\n'));
     QVERIFY2(warnings.contains(Text("colour profile is damaged")), qPrintable(warnings));
     QVERIFY2(report.warnings.size() == 1, qPrintable(warnings));
     const Found found = Read(*bench, Text("JPEG"));
@@ -497,7 +497,7 @@ void tst_WorkerMetadata::leavesOutWhatAJpegCannotHold()
     const Report report = bench->Make(Text("in.tif"), Text("out.jpg"), Text("JPEG"));
     QCOMPARE(report.reason, QString());
     QCOMPARE(report.warnings.size(), 1);
-    QVERIFY2(report.warnings.first().contains(Text("XMP")), qPrintable(report.warnings.first()));
+    QVERIFY2(report.warnings.first().text.contains(Text("XMP")), qPrintable(report.warnings.first().text));
     QCOMPARE(Read(*bench, Text("JPEG")).Exif("Exif.Image.Artist"), Text("A. Photographer"));
 }
 

@@ -171,7 +171,7 @@ void tst_WorkerPictures::writesEveryFormat()
     WritePicture(chart, bench->Path(Text("in.png")));
     const Report report = bench->Make(Text("in.png"), NameIn(format), format, Finest(format));
     QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings, QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
     const Picture result = ReadPicture(bench->Path(NameIn(format)));
     const double difference = LargestDifference(Colours(result), chart);
     QVERIFY2(difference <= Tolerance(format), qPrintable(QString::number(difference)));
@@ -459,7 +459,7 @@ void tst_WorkerPictures::tellsOfFurtherPages()
     const Report report = bench->Make(name, Text("out.png"), Text("PNG"));
     QCOMPARE(report.reason, QString());
     // Of large files the metadata cannot be read, which is said too.
-    QCOMPARE(report.warnings.filter(Text("pages")), warnings);
+    QCOMPARE(BatchJob::TextsOf(report.warnings).filter(Text("pages")), warnings);
     const Picture first = ReadPicture(bench->Path(name));
     QCOMPARE(first.height(), warnings.isEmpty() ? 90 : 30);
     QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), first), 0.0);

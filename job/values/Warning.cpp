@@ -1,0 +1,51 @@
+#include "Warning.h"
+
+namespace BatchJob {
+
+QDataStream& operator<<(QDataStream& stream, const Warning& warning)
+{
+    return stream << qint32(warning.kind) << warning.text;
+}
+
+QDataStream& operator>>(QDataStream& stream, Warning& warning)
+{
+    qint32 kind = 0;
+    stream >> kind >> warning.text;
+    const bool isKnown = kind >= 0 && kind < qint32(WarningKind::Decoder);
+    warning.kind = isKnown ? WarningKind(kind) : WarningKind::Decoder;
+    return stream;
+}
+
+QStringList TextsOf(const Warnings& warnings)
+{
+    QStringList texts;
+    for (const Warning& warning : warnings) {
+        texts.append(warning.text);
+    }
+    return texts;
+}
+
+QString WarningWord(WarningKind kind)
+{
+    switch (kind) {
+    case WarningKind::OtherPages:
+        return QStringLiteral("other-pages");
+    case WarningKind::Incomplete:
+        return QStringLiteral("incomplete");
+    case WarningKind::ProfileUnused:
+        return QStringLiteral("profile-unused");
+    case WarningKind::ColoursConverted:
+        return QStringLiteral("colours-converted");
+    case WarningKind::MetadataLost:
+        return QStringLiteral("metadata-lost");
+    case WarningKind::GainMapLost:
+        return QStringLiteral("gain-map-lost");
+    case WarningKind::Framing:
+        return QStringLiteral("framing");
+    case WarningKind::Decoder:
+        break;
+    }
+    return QStringLiteral("decoder");
+}
+
+} // namespace BatchJob

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDataStream>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace BatchJob {
+
+/// What a warning is about. Summaries count warnings by kind.
+enum class WarningKind {
+    OtherPages,       ///< the file has further pages or frames, which are left out
+    Incomplete,       ///< the file lacks its last bytes, but no pixels
+    ProfileUnused,    ///< a colour profile of the file or of the job is not used
+    ColoursConverted, ///< the colours are not those of the file: no profile, format or screen holds them as they are
+    MetadataLost,     ///< the result lacks metadata of the file
+    GainMapLost,      ///< the result lacks the map that makes the picture brighter on a screen that can show it
+    Framing,          ///< a part of the framing has no effect
+    Decoder           ///< what a decoder says of the file
+};
+
+/// Something about a picture that was written, but that is not as its user may expect.
+struct Warning
+{
+    WarningKind kind = WarningKind::Decoder;
+    QString text; ///< for users, one line
+
+    bool operator==(const Warning& other) const { return kind == other.kind && text == other.text; }
+};
+
+QDataStream& operator<<(QDataStream& stream, const Warning& warning);
+QDataStream& operator>>(QDataStream& stream, Warning& warning); ///< an unknown kind becomes Decoder
+
+using Warnings = QVector<Warning>;
+
+/// The texts of `warnings`, in their order.
+QStringList TextsOf(const Warnings& warnings);
+
+/// The word of `kind`: "other-pages", "incomplete" and so on. Logs, reports and events use it.
+QString WarningWord(WarningKind kind);
+
+} // namespace BatchJob
