@@ -1,19 +1,19 @@
 #include "Colour.h"
 
 #include "ColourProfile.h"
+#include "ColourTransform.h"
+#include "GeneratedProfile.h"
 #include "WorkingForm.h"
 
 #include "server/worker/pixels/PixelForms.h"
-#include "server/worker/pixels/VipsText.h"
+
+#include <optional>
 
 using namespace BatchJob;
 
 namespace BatchWorker {
 
 namespace {
-
-constexpr const char* builtInSrgb = "srgb";
-constexpr const char* builtInCmyk = "cmyk";
 
 ColourKind KindOf(const Picture& picture)
 {
@@ -23,38 +23,70 @@ ColourKind KindOf(const Picture& picture)
     return IsGrey(picture) ? ColourKind::Grey : ColourKind::Rgb;
 }
 
-// From the profile that the picture carries, or the built-in one of its kind, to `profile`, a file or a built-in one.
-Picture Transformed(const Picture& picture, const char* profile)
+QByteArray BuiltInProfileFor(const Picture& picture)
+{
+    return IsCmyk(picture) ? BuiltInCmyk() : BuiltInSrgb();
+}
+
+// From the profile that the picture carries, or the built-in one of its kind, to `profile`, which the result carries.
+// Nothing when the profiles cannot be used.
+std::optional<Picture> Transformed(const Picture& picture, const QByteArray& profile)
 {
     const bool hasAlpha = picture.has_alpha();
     Picture colours = hasAlpha ? WithoutAlpha(picture) : picture;
-    const bool hasProfile = !ProfileOf(picture).isEmpty();
-    if (!hasProfile && KindOf(picture) == ColourKind::Grey) {
+    const QByteArray own = ProfileOf(picture);
+    if (own.isEmpty() && KindOf(picture) == ColourKind::Grey) {
         colours = colours.colourspace(HasSixteenBits(picture) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
     }
-    vips::VOption* options = Picture::option()
-                                 ->set("intent", VIPS_INTENT_RELATIVE)
-                                 ->set("black_point_compensation", true)
-                                 ->set("depth", HasSixteenBits(picture) ? 16 : 8)
-                                 ->set("embedded", hasProfile);
-    if (!hasProfile) {
-        options->set("input_profile", IsCmyk(picture) ? builtInCmyk : builtInSrgb);
+    const std::optional<Picture> changed =
+        ConvertedByProfiles(colours, own.isEmpty() ? BuiltInProfileFor(picture) : own, profile);
+    if (!changed) {
+        return std::nullopt;
     }
-    const Picture changed = colours.icc_transform(profile, options);
-    return hasAlpha ? changed.bandjoin(AlphaOf(picture)) : changed;
+    return WithProfile(hasAlpha ? changed->bandjoin(AlphaOf(picture)) : *changed, profile);
+}
+
+// The profile, made from `profile`, for a picture of another kind whose values mean the same. Empty if there is none.
+QByteArray ProfileForKind(ColourKind wanted, ColourKind kind, const QByteArray& profile)
+{
+    if (wanted == ColourKind::Grey && kind == ColourKind::Rgb) {
+        return GreyProfileFor(profile);
+    }
+    return wanted == ColourKind::Rgb && kind == ColourKind::Grey ? RgbProfileFor(profile) : QByteArray();
 }
 
 Picture FittingProfile(const Picture& picture, Warnings& warnings)
 {
     const QByteArray profile = ProfileOf(picture);
-    const std::optional<ColourKind> kind = KindOfProfile(profile);
-    if (profile.isEmpty() || kind == KindOf(picture)) {
+    if (profile.isEmpty()) {
         return picture;
     }
-    warnings.append({WarningKind::ProfileUnused,
-                     kind ? QStringLiteral("the embedded colour profile does not fit the picture and is not used")
-                          : QStringLiteral("the embedded colour profile is damaged and is not used")});
-    return WithProfile(picture, {});
+    const std::optional<ColourKind> kind = KindOfProfile(profile);
+    if (!kind || !IsReadable(profile)) {
+        warnings.append(
+            {WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile is damaged and is not used")});
+        return WithProfile(picture, {});
+    }
+    if (kind == KindOf(picture)) {
+        return picture;
+    }
+    const QByteArray other = ProfileForKind(KindOf(picture), *kind, profile);
+    if (other.isEmpty()) {
+        warnings.append({WarningKind::ProfileUnused,
+                         QStringLiteral("the embedded colour profile does not fit the picture and is not used")});
+    }
+    return WithProfile(picture, other);
+}
+
+// Effects, and most programs, take equal values of red, green and blue for a grey.
+Picture InUsualRgb(const Picture& picture, Warnings& warnings)
+{
+    if (ProfileOf(picture).isEmpty() || KindOf(picture) != ColourKind::Rgb || HasNeutralGreys(ProfileOf(picture))) {
+        return picture;
+    }
+    warnings.append({WarningKind::ColoursConverted,
+                     QStringLiteral("its colour profile is one for storing colours only; the result is sRGB")});
+    return InPlainSrgb(picture, warnings);
 }
 
 } // namespace
@@ -69,28 +101,26 @@ Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, Warnings& warni
     if (!IsCmyk(decoded)) {
         // What floating-point values mean depends on the profile.
         const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
-        return FittingProfile(InWorkingForm(known), warnings);
+        return InUsualRgb(FittingProfile(InWorkingForm(known), warnings), warnings);
     }
     const Picture inks = FittingProfile(decoded, warnings);
-    return keepsCmyk ? inks : Transformed(inks, builtInSrgb);
+    return keepsCmyk ? inks : *Transformed(inks, BuiltInSrgb());
 }
 
 Picture ConvertedTo(const QByteArray& profile, const Picture& picture, Warnings& warnings)
 {
-    if (KindOfProfile(profile)) {
-        const ProfileFile file(profile);
-        try {
-            return Transformed(picture, file.Name().constData());
-        } catch (const vips::VError& problem) {
-            warnings.append({WarningKind::ProfileUnused,
-                             QStringLiteral("the colour profile cannot be used: %1").arg(TextOf(problem))});
-            return picture;
-        }
+    if (!KindOfProfile(profile)) {
+        warnings.append(
+            {WarningKind::ProfileUnused,
+             QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted")});
+        return picture;
     }
-    warnings.append(
-        {WarningKind::ProfileUnused,
-         QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted")});
-    return picture;
+    const std::optional<Picture> changed = Transformed(picture, profile);
+    if (!changed) {
+        warnings.append({WarningKind::ProfileUnused,
+                         QStringLiteral("the colour profile cannot be used; the colours are not converted")});
+    }
+    return changed.value_or(picture);
 }
 
 Picture InPlainSrgb(const Picture& picture, Warnings& warnings)
@@ -99,19 +129,35 @@ Picture InPlainSrgb(const Picture& picture, Warnings& warnings)
     if (!IsCmyk(picture) && (profile.isEmpty() || IsSrgb(profile))) {
         return WithProfile(picture, {});
     }
-    try {
-        const bool isGrey = KindOf(picture) == ColourKind::Grey;
-        const Picture plain = WithProfile(Transformed(picture, builtInSrgb), {});
-        if (!isGrey) {
-            return plain;
-        }
-        const Picture grey = plain.extract_band(0);
-        return InWorkingForm(picture.has_alpha() ? grey.bandjoin(AlphaOf(plain)) : grey);
-    } catch (const vips::VError& problem) {
-        warnings.append({WarningKind::ProfileUnused,
-                         QStringLiteral("the colours cannot be converted to sRGB: %1").arg(TextOf(problem))});
+    const std::optional<Picture> changed = Transformed(picture, BuiltInSrgb());
+    if (!changed) {
+        warnings.append(
+            {WarningKind::ProfileUnused,
+             QStringLiteral("the colours cannot be converted to sRGB; their values are taken for sRGB as they are")});
         return WithProfile(picture, {});
     }
+    const Picture plain = WithProfile(*changed, {});
+    if (KindOf(picture) != ColourKind::Grey) {
+        return plain;
+    }
+    const Picture grey = plain.extract_band(0);
+    return InWorkingForm(picture.has_alpha() ? grey.bandjoin(AlphaOf(plain)) : grey);
+}
+
+Picture AsRgbWithItsCurve(const Picture& grey)
+{
+    const QByteArray profile = ProfileOf(grey);
+    const Picture rgb = grey.colourspace(HasSixteenBits(grey) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
+    return profile.isEmpty() ? rgb : WithProfile(rgb, RgbProfileFor(profile));
+}
+
+Picture WithCurveForEightBits(const Picture& picture)
+{
+    const QByteArray profile = ProfileOf(picture);
+    if (profile.isEmpty() || IsCmyk(picture) || !IsNearlyLinear(profile)) {
+        return picture;
+    }
+    return Transformed(picture, WithSrgbCurve(profile)).value_or(picture);
 }
 
 Picture AsCmyk(const QByteArray& profile, const Picture& picture, Warnings& warnings)
@@ -119,7 +165,7 @@ Picture AsCmyk(const QByteArray& profile, const Picture& picture, Warnings& warn
     if (!profile.isEmpty()) {
         return ConvertedTo(profile, picture, warnings);
     }
-    return WithProfile(Transformed(picture, builtInCmyk), {});
+    return WithProfile(*Transformed(picture, BuiltInCmyk()), {});
 }
 
 } // namespace BatchWorker

@@ -1,26 +1,18 @@
 #include "ColourProfile.h"
 
-#include <lcms2.h>
+#include "IccHandles.h"
+#include "RenderingIntent.h"
 
+#include <vips/vips8>
+
+#include <algorithm>
 #include <array>
-#include <memory>
-#include <sys/mman.h>
-#include <unistd.h>
+#include <cmath>
+#include <vector>
 
 namespace BatchWorker {
 
 namespace {
-
-struct CloseProfile
-{
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, CloseProfile>;
-
-Profile Open(const QByteArray& bytes)
-{
-    return Profile(cmsOpenProfileFromMem(bytes.constData(), cmsUInt32Number(bytes.size())));
-}
 
 bool DescribesPictures(cmsHPROFILE profile)
 {
@@ -35,11 +27,60 @@ bool DescribesPictures(cmsHPROFILE profile)
     }
 }
 
+IccTransform ToLab(const IccProfile& profile)
+{
+    const IccProfile lab(cmsCreateLab4Profile(nullptr));
+    const cmsUInt32Number space = cmsUInt32Number(_cmsLCMScolorSpace(cmsGetColorSpace(profile.get())));
+    const cmsUInt32Number layout = FLOAT_SH(1U) | COLORSPACE_SH(space) |
+                                   CHANNELS_SH(cmsChannelsOf(cmsGetColorSpace(profile.get()))) | BYTES_SH(4U);
+    return IccTransform(cmsCreateTransform(profile.get(), layout, lab.get(), TYPE_Lab_DBL,
+                                           IntentOf(profile.get(), IccUse::Source),
+                                           cmsFLAGS_NOCACHE | cmsFLAGS_NOOPTIMIZE));
+}
+
+using Rgb = std::array<float, 3>;
+
+// Empty when `profile` cannot be used.
+std::vector<cmsCIELab> LabOf(const IccProfile& profile, const std::vector<Rgb>& colours)
+{
+    const IccTransform transform = profile ? ToLab(profile) : nullptr;
+    if (!transform) {
+        return {};
+    }
+    std::vector<cmsCIELab> lab(colours.size());
+    cmsDoTransform(transform.get(), colours.data(), lab.data(), cmsUInt32Number(colours.size()));
+    return lab;
+}
+
+std::vector<Rgb> EvenlySpread()
+{
+    constexpr int steps = 5;
+    std::vector<Rgb> colours;
+    for (int i = 0; i < steps * steps * steps; ++i) {
+        const auto level = [](int step) { return float(step) / (steps - 1); };
+        colours.push_back({level(i % steps), level(i / steps % steps), level(i / steps / steps)});
+    }
+    return colours;
+}
+
+QByteArray BuiltIn(const char* name)
+{
+    VipsBlob* blob = nullptr;
+    if (vips_profile_load(name, &blob, nullptr) != 0) {
+        throw vips::VError();
+    }
+    std::size_t size = 0;
+    const void* const bytes = vips_blob_get(blob, &size);
+    const QByteArray profile(static_cast<const char*>(bytes), int(size));
+    vips_area_unref(VIPS_AREA(blob));
+    return profile;
+}
+
 } // namespace
 
 std::optional<ColourKind> KindOfProfile(const QByteArray& profile)
 {
-    const Profile opened = Open(profile);
+    const IccProfile opened = OpenIccProfile(profile);
     if (!opened || !DescribesPictures(opened.get())) {
         return std::nullopt;
     }
@@ -55,30 +96,45 @@ std::optional<ColourKind> KindOfProfile(const QByteArray& profile)
     }
 }
 
+bool IsReadable(const QByteArray& profile)
+{
+    const IccProfile opened = OpenIccProfile(profile);
+    return opened && ToLab(opened);
+}
+
 bool IsSrgb(const QByteArray& profile)
 {
-    const Profile opened = Open(profile);
+    const IccProfile opened = OpenIccProfile(profile);
     if (!opened || cmsGetColorSpace(opened.get()) != cmsSigRgbData) {
         return false;
     }
-    std::array<char, 256> text{};
-    cmsGetProfileInfoASCII(opened.get(), cmsInfoDescription, "en", "US", text.data(), cmsUInt32Number(text.size()));
-    return QByteArray(text.data()).contains("sRGB");
+    const std::vector<Rgb> colours = EvenlySpread();
+    const std::vector<cmsCIELab> own = LabOf(opened, colours);
+    const std::vector<cmsCIELab> srgb = LabOf(IccProfile(cmsCreate_sRGBProfile()), colours);
+    constexpr double visible = 1.0;
+    return std::equal(own.begin(), own.end(), srgb.begin(), srgb.end(),
+                      [](const cmsCIELab& a, const cmsCIELab& b) { return cmsDeltaE(&a, &b) < visible; });
 }
 
-ProfileFile::ProfileFile(const QByteArray& profile)
-    : descriptor(memfd_create("profile", MFD_CLOEXEC))
+bool HasNeutralGreys(const QByteArray& profile)
 {
-    if (descriptor >= 0 && write(descriptor, profile.constData(), std::size_t(profile.size())) == profile.size()) {
-        name = "/proc/self/fd/" + QByteArray::number(descriptor);
-    }
+    constexpr double mostOfCameras = 40.0; // how colourful a grey may be, in Lab
+    const std::vector<cmsCIELab> greys =
+        LabOf(OpenIccProfile(profile), {{0.25F, 0.25F, 0.25F}, {0.5F, 0.5F, 0.5F}, {0.75F, 0.75F, 0.75F}});
+    return std::all_of(greys.begin(), greys.end(),
+                       [](const cmsCIELab& grey) { return std::hypot(grey.a, grey.b) < mostOfCameras; });
 }
 
-ProfileFile::~ProfileFile()
+QByteArray BuiltInSrgb()
 {
-    if (descriptor >= 0) {
-        close(descriptor);
-    }
+    static const QByteArray profile = BuiltIn("srgb");
+    return profile;
+}
+
+QByteArray BuiltInCmyk()
+{
+    static const QByteArray profile = BuiltIn("cmyk");
+    return profile;
 }
 
 } // namespace BatchWorker

@@ -13,25 +13,18 @@ enum class ColourKind { Grey, Rgb, Cmyk };
 /// pictures.
 std::optional<ColourKind> KindOfProfile(const QByteArray& profile);
 
-/// Whether `profile` calls itself sRGB.
+/// Whether colours can be converted from `profile`, which has a kind.
+bool IsReadable(const QByteArray& profile);
+
+/// Whether `profile` shows the colours that sRGB shows. Its name does not matter: that of linear light in the primaries
+/// of sRGB says "sRGB", too.
 bool IsSrgb(const QByteArray& profile);
 
-/// A profile under a file name, which is all that the imaging library accepts. The file is in memory and exists as long
-/// as this object.
-class ProfileFile
-{
-public:
-    explicit ProfileFile(const QByteArray& profile);
-    ~ProfileFile();
+/// Whether `profile`, of RGB, shows equal values of red, green and blue as a grey, or as what a camera makes of one.
+bool HasNeutralGreys(const QByteArray& profile);
 
-    /// Empty when the file could not be made.
-    const QByteArray& Name() const { return name; }
-
-private:
-    Q_DISABLE_COPY(ProfileFile)
-
-    int descriptor;
-    QByteArray name;
-};
+/// The profiles for pictures that carry none.
+QByteArray BuiltInSrgb();
+QByteArray BuiltInCmyk();
 
 } // namespace BatchWorker

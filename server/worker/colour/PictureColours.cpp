@@ -36,19 +36,6 @@ Picture WithoutMetadata(const Picture& picture)
     return result;
 }
 
-QByteArray SrgbProfile()
-{
-    VipsBlob* blob = nullptr;
-    if (vips_profile_load("srgb", &blob, nullptr) != 0) {
-        throw vips::VError();
-    }
-    std::size_t size = 0;
-    const void* const bytes = vips_blob_get(blob, &size);
-    const QByteArray profile(static_cast<const char*>(bytes), int(size));
-    vips_area_unref(VIPS_AREA(blob));
-    return profile;
-}
-
 // Whether two colours differ by more than rounding in a conversion does.
 bool AreFarApart(const std::vector<double>& one, const std::vector<double>& other, double largest)
 {
@@ -87,7 +74,7 @@ Picture AsRgb(const Picture& picture)
     // A profile that cannot be used was reported when the picture was read.
     BatchJob::Warnings warnings;
     const Picture rgb = InPlainSrgb(picture, warnings).colourspace(KindOf(false, DepthOf(picture)));
-    return ProfileOf(picture).isEmpty() ? rgb : WithProfile(rgb, SrgbProfile());
+    return ProfileOf(picture).isEmpty() ? rgb : WithProfile(rgb, BuiltInSrgb());
 }
 
 Picture InSpaceOf(const Picture& picture, const Picture& other, BatchJob::Warnings& warnings)

@@ -1,5 +1,8 @@
 #include "Loader.h"
 
+#include "HeifColours.h"
+#include "PngColours.h"
+
 #include <array>
 
 namespace BatchWorker {
@@ -10,11 +13,11 @@ namespace Loaders {
 
 constexpr Loader Raw{nullptr, LoaderShrink::None};
 constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor};
-constexpr Loader Png{"pngload_source", LoaderShrink::None};
+constexpr Loader Png{"pngload_source", LoaderShrink::None, nullptr, ReadPngColours};
 constexpr Loader Tiff{"tiffload_source", LoaderShrink::None};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
-constexpr Loader Heif{"heifload_source", LoaderShrink::None};
-constexpr Loader Avif{"heifload_source", LoaderShrink::None};
+constexpr Loader Heif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
+constexpr Loader Avif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
 constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
 constexpr Loader Jpeg2000{"jp2kload_source", LoaderShrink::None};
 constexpr Loader Gif{"gifload_source", LoaderShrink::None};

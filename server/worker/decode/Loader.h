@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileColours.h"
+
 #include "job/formats/FormatSchema.h"
 #include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
@@ -26,6 +28,9 @@ struct Loader
     /// call only; `warnings` live as long as the pixels. Throws PictureFailure and vips::VError.
     Picture (*read)(int descriptor, int shrink, const BatchProtocol::ServerLimits& limits,
                     BatchJob::Warnings& warnings) = nullptr;
+
+    /// What files of the format say of their colours where `operation` does not tell; null where it tells all.
+    FileColours (*readColours)(const QString& path) = nullptr;
 };
 
 /// The loader of `format`. It is named and never left to the library, which would look for options in the file's name

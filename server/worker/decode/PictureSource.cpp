@@ -68,6 +68,15 @@ bool IsRaw(const FormatSchema& format)
     return !loader.operation && !loader.read;
 }
 
+// The library moves values of 10 and 12 bits to the upper end of 16 bits, which leaves white short of the largest
+// value.
+Picture WithWholeRange(const Picture& picture)
+{
+    constexpr const char* bitsOfHeif = "heif-bitdepth";
+    const bool isDeep = picture.format() == VIPS_FORMAT_USHORT && picture.get_typeof(bitsOfHeif) != 0;
+    return isDeep ? picture | (picture >> picture.get_int(bitsOfHeif)) : picture;
+}
+
 Picture Read(const QString& file, const Loader& loader, int shrink, const ServerLimits& limits, Warnings& warnings)
 {
     const FileDescriptor descriptor(file);
@@ -85,7 +94,7 @@ Picture Read(const QString& file, const Loader& loader, int shrink, const Server
     }
     Picture picture;
     Picture::call(loader.operation, options->set("out", &picture));
-    return picture;
+    return WithWholeRange(picture);
 }
 
 } // namespace
@@ -163,9 +172,9 @@ Picture PictureSource::Load(int shrink)
     }
     if (shrink == 1 && !isHeaderRead) {
         isHeaderRead = true;
-        return header;
+        return WithColoursOfFile(header, colours, warnings);
     }
-    return Read(file, LoaderOf(*format), shrink, limits, warnings);
+    return WithColoursOfFile(Read(file, LoaderOf(*format), shrink, limits, warnings), colours, warnings);
 }
 
 void PictureSource::OpenRaw()
@@ -191,6 +200,9 @@ void PictureSource::OpenWithLoader()
     } catch (const vips::VError& problem) {
         const QString text = TextOf(problem);
         throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+    }
+    if (LoaderOf(*format).readColours) {
+        colours = LoaderOf(*format).readColours(file);
     }
     storedSize = QSize(header.width(), header.height());
     orientation = OrientationOf(header);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileColours.h"
+
 #include "job/formats/FormatSchema.h"
 #include "job/formats/NearestFormat.h"
 #include "job/values/Warning.h"
@@ -55,7 +57,8 @@ public:
     const BatchJob::Warnings& DecoderWarnings() const { return warnings; }
 
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
-    /// sizes rounded as the decoder rounds them. Each call reads the file again.
+    /// sizes rounded as the decoder rounds them, with the profile that the file gives them; HDR is mapped to common
+    /// screens. Each call reads the file again.
     Picture Load(int shrink = 1);
 
 private:
@@ -69,6 +72,7 @@ private:
     const BatchJob::FormatSchema* format = nullptr;
     QSize storedSize;
     int orientation = 1;
+    FileColours colours;
     BatchJob::Warnings warnings;
     Picture header;
     bool isHeaderRead = false; ///< its pixels are read already
