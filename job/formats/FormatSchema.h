@@ -86,6 +86,8 @@ struct MetadataSupport
 
     /// The decoder and the encoder handle the colour profile. If not, the metadata library does.
     bool isProfileInDecoder = true;
+
+    bool isProfileRewritten = false; ///< files hold what a profile says in a form of their own, not its bytes
 };
 
 /// The capabilities of one format. The defaults are those of most formats.

@@ -16,6 +16,7 @@ FormatSchema JpegXlFormat()
     format.bitDepths = {8, 16};
     format.longestSide = 1'000'000;
     format.pages = FormatPages::Frames;
+    format.metadata.isProfileRewritten = true;
     format.metadata.reading = MetadataReading::FromBoxes;
     format.metadata.writing = MetadataWriting::BeforePixels;
     format.options =

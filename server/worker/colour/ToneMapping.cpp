@@ -202,8 +202,8 @@ Picture FromHdr(const Picture& picture, const CodedColours& colours, Warnings& w
     const Primaries primaries = PrimariesOf(isSaid ? colours.primaries : bt2100).value_or(*PrimariesOf(bt2100));
     const bool isGrey = IsGrey(picture);
     const auto mapping = std::make_shared<const Mapping>(colours, primaries);
-    const Picture mapped = MapColours(
-        WithDepth(picture, 16), [mapping, isGrey](std::array<double, 3>& colour) { mapping->Apply(colour, isGrey); });
+    const Picture mapped =
+        MapColours(picture, [mapping, isGrey](std::array<double, 3>& colour) { mapping->Apply(colour, isGrey); });
     return WithProfile(mapped, isGrey ? GreyProfileOf(SrgbCurve()) : ProfileOf(primaries, SrgbCurve()));
 }
 

@@ -7,9 +7,9 @@
 
 namespace BatchWorker {
 
-/// `picture`, whose values are PQ or HLG (`colours.IsHdr()`), for a screen that shows no more than white: 16 bits a
-/// channel, in the same primaries, with the curve of sRGB and the profile of both. Grey or RGB of 8 or 16 bits, 0 to
-/// the largest value; alpha stays. A warning says that it happened, once for each list of warnings.
+/// `picture`, whose values are PQ or HLG (`colours.IsHdr()`), for a screen that shows no more than white: in the same
+/// primaries, with the curve of sRGB and the profile of both. Grey or RGB of 8 or 16 bits, 0 to the largest value;
+/// depth and alpha stay. A warning says that it happened, once for each list of warnings.
 ///
 /// The light of the values is that of a screen of 1000 cd/m2: PQ says it directly (Rec. ITU-R BT.2100, table 4), HLG by
 /// its system gamma of 1.2 (table 5). 203 cd/m2, the white of Report ITU-R BT.2408, becomes the white of the result.

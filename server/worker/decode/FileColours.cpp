@@ -71,7 +71,7 @@ FileColours ColoursOf(const CodedColours& coded)
 
 Picture WithColoursOfFile(const Picture& picture, const FileColours& colours, Warnings& warnings)
 {
-    if (colours.isUnusable) {
+    if (colours.isUnusable && ProfileOf(picture).isEmpty()) {
         AppendOnce({WarningKind::ProfileUnused,
                     QStringLiteral("what the file says of its colours is damaged or unknown and is not used")},
                    warnings);
@@ -80,7 +80,7 @@ Picture WithColoursOfFile(const Picture& picture, const FileColours& colours, Wa
     if (colours.hdr) {
         return FromHdr(InWorkingForm(shown), *colours.hdr, warnings);
     }
-    return colours.profile.isEmpty() ? shown : WithProfile(shown, colours.profile);
+    return colours.isSrgb || !colours.profile.isEmpty() ? WithProfile(shown, colours.profile) : shown;
 }
 
 } // namespace BatchWorker

@@ -6,6 +6,7 @@
 #include "job/formats/NearestFormat.h"
 #include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
+#include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
@@ -48,6 +49,9 @@ public:
 
     /// The header as the imaging library reads it, with its metadata; empty for camera RAW.
     const Picture& Header() const { return header; }
+
+    /// The ICC profile that the file carries or describes; empty if neither, or if only the metadata library finds it.
+    QByteArray Profile() const { return colours.profile.isEmpty() ? ProfileOf(header) : colours.profile; }
 
     /// How many times smaller than stored, in each direction, the decoder can load the picture at less cost without
     /// visible difference in a result that is `reduction` times smaller: 1, 2, 4 or 8.

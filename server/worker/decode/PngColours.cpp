@@ -122,6 +122,7 @@ std::optional<FileColours> ColoursOfNumbers(const QByteArray& cicp)
     if (colours.isUnusable) {
         return std::nullopt;
     }
+    colours.isSrgb = !colours.hdr && colours.profile.isEmpty();
     colours.isNarrow = cicp[3] == 0;
     return colours;
 }

@@ -5,6 +5,7 @@
 #include "ResultTarget.h"
 
 #include "job/formats/FormatOptions.h"
+#include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 
@@ -62,8 +63,11 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
             bool withoutExif, int descriptor)
 {
     const FormatEncoder& encoder = EncoderOf(format);
-    const ResultTarget result(descriptor, before);
-    vips::VOption* arguments = Picture::option()->set("in", picture)->set("target", result.Target());
+    const QByteArray profile = encoder.profileBytes ? ProfileOf(picture) : QByteArray();
+    const bool isAdded = !profile.isEmpty();
+    const ResultTarget result(descriptor, isAdded ? encoder.profileBytes(profile) : AddedBytes{before, 0});
+    const Picture bare = isAdded ? WithProfile(picture, {}) : picture;
+    vips::VOption* arguments = Picture::option()->set("in", bare)->set("target", result.Target());
     encoder.setArguments(arguments, options, picture);
     if (withoutExif && MustStrip(format, picture)) {
         arguments->set("strip", true);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ResultTarget.h"
+
 #include "job/formats/FormatSchema.h"
 #include "server/worker/pixels/Picture.h"
 
@@ -18,6 +20,10 @@ struct FormatEncoder
 
     /// Some versions of this encoder end the process for some depths above 8 bits, instead of failing.
     bool mayCrashWhenDeep = false;
+
+    /// The bytes in which a file carries `profile`, where the library's own way of writing it may lose it; null where
+    /// that does not happen.
+    AddedBytes (*profileBytes)(const QByteArray& profile) = nullptr;
 };
 
 /// The encoder of `format`, which is one of Formats().

@@ -1,14 +1,15 @@
 #include "ResultTarget.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <unistd.h>
 
 namespace BatchWorker {
 
-ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
+ResultTarget::ResultTarget(int descriptor, const AddedBytes& added)
     : target(VIPS_TARGET(vips_target_custom_new()), vips::STEAL)
     , descriptor(descriptor)
-    , lengthBefore(before.size())
+    , added(added)
 {
     VipsTarget* object = target.get_target();
     const auto write = [](VipsTargetCustom*, const void* data, gint64 length, gpointer self) {
@@ -26,28 +27,45 @@ ResultTarget::ResultTarget(int descriptor, const QByteArray& before)
     g_signal_connect(object, "write", G_CALLBACK(static_cast<WriteHandler>(write)), this);
     g_signal_connect(object, "read", G_CALLBACK(static_cast<ReadHandler>(read)), this);
     g_signal_connect(object, "seek", G_CALLBACK(static_cast<SeekHandler>(seek)), this);
-    Write(before.constData(), lengthBefore);
+    Write(nullptr, 0);
 }
 
-// Reports success even after a failure: not every encoder survives a target that fails.
 gint64 ResultTarget::Write(const char* data, gint64 length)
 {
-    for (gint64 done = 0; done < length && problem == 0;) {
-        const ssize_t written = ::write(descriptor, data + done, size_t(length - done));
-        if (written >= 0) {
-            done += written;
+    if (isAdded) {
+        WriteToFile(data, length);
+        return length;
+    }
+    const gint64 before = std::min(length, added.place - done);
+    WriteToFile(data, before);
+    done += before;
+    if (done == added.place) {
+        isAdded = true;
+        WriteToFile(added.bytes.constData(), added.bytes.size());
+        WriteToFile(data + before, length - before);
+    }
+    return length;
+}
+
+// Goes on after a failure: not every encoder survives a target that fails.
+void ResultTarget::WriteToFile(const char* data, gint64 length)
+{
+    for (gint64 written = 0; written < length && problem == 0;) {
+        const ssize_t now = ::write(descriptor, data + written, size_t(length - written));
+        if (now >= 0) {
+            written += now;
         } else if (errno != EINTR) {
             problem = errno;
         }
     }
-    return length;
 }
 
 // The library counts from its own first byte.
 gint64 ResultTarget::Seek(gint64 offset, int whence)
 {
-    const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + lengthBefore : offset, whence);
-    return place < 0 ? place : place - lengthBefore;
+    const gint64 before = added.bytes.size();
+    const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + before : offset, whence);
+    return place < 0 ? place : place - before;
 }
 
 } // namespace BatchWorker

@@ -4,6 +4,7 @@
 #include "EffectStage.h"
 #include "FailureCause.h"
 #include "FormatCheck.h"
+#include "ResultCheck.h"
 #include "ResultColours.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -20,6 +21,7 @@
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
 #include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/RandomAccess.h"
 
 #include <QFile>
@@ -67,6 +69,7 @@ public:
     MadePicture Make();
 
 private:
+    void MakeFile();
     void WarnOfOtherPages();
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
@@ -85,14 +88,35 @@ private:
     ResultColours colours;
     PictureSource source;
     Metadata metadata;
+    QByteArray profile; ///< of the result
     MadePicture made;
 };
 
 MadePicture PictureRun::Make()
 {
+    const Warnings ofReading = made.warnings;
+    MakeFile();
+    if (!profile.isEmpty() && !CarriesProfile(made.file->FileName(), profile, limits)) {
+        made.warnings = ofReading;
+        made.warnings.append(
+            {WarningKind::ColoursConverted,
+             QStringLiteral("the colour profile does not fit into the %1 file; the result is sRGB").arg(format.name)});
+        colours.ForgoProfile();
+        MakeFile();
+    }
+    KeepFileTime();
+    made.warnings += source.DecoderWarnings();
+    struct stat status;
+    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
+    return std::move(made);
+}
+
+void PictureRun::MakeFile()
+{
     try {
         const Picture framed = Framed(WithEffects(Sized(), job.effects));
-        const Picture ready = colours.Of(framed, made.warnings);
+        const int bits = ResultDepth(format, options, HasSixteenBits(framed));
+        const Picture ready = colours.Of(framed, bits, made.warnings);
         RequireFormatHolds(format, options, ready, source.Format().name);
         made.file = std::make_unique<TemporaryFile>(task.outputFile);
         if (!made.file->Create()) {
@@ -102,11 +126,6 @@ MadePicture PictureRun::Make()
     } catch (const vips::VError& problem) {
         throw CauseOf(problem, source, IsProcessed(), format);
     }
-    KeepFileTime();
-    made.warnings += source.DecoderWarnings();
-    struct stat status;
-    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
-    return std::move(made);
 }
 
 void PictureRun::WarnOfOtherPages()
@@ -165,7 +184,7 @@ Picture PictureRun::Framed(const Picture& picture)
 
 void PictureRun::Write(const Picture& picture)
 {
-    const QByteArray profile = ProfileOf(picture);
+    profile = ProfileOf(picture);
     metadata.KeepOnly(keep);
     metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));

@@ -1,6 +1,7 @@
 #include "ResultColours.h"
 
 #include "server/worker/colour/Colour.h"
+#include "server/worker/pixels/PixelForms.h"
 
 using namespace BatchJob;
 
@@ -9,14 +10,14 @@ namespace BatchWorker {
 ResultColours::ResultColours(const JobSettings& job, const FormatSchema& format, const QStringList& keep)
     : job(job)
     , format(format)
-    , keepsProfile(keep.contains(QLatin1String("icc")) && format.metadata.holdsProfile)
+    , wantsProfile(keep.contains(QLatin1String("icc")) && format.metadata.holdsProfile)
 {
 }
 
 // Inks that nothing touches but crop and size stay what they are. To go by RGB would turn black into a mix of all four.
 bool ResultColours::KeepsInks() const
 {
-    return job.effects.isEmpty() && !job.framing.state && job.profile.isEmpty() && format.holdsCmyk && keepsProfile;
+    return job.effects.isEmpty() && !job.framing.state && job.profile.isEmpty() && format.holdsCmyk && KeepsProfile();
 }
 
 void ResultColours::NoteSource(const Picture& decoded)
@@ -25,9 +26,22 @@ void ResultColours::NoteSource(const Picture& decoded)
     inks = hasInks ? ProfileOf(decoded) : QByteArray();
 }
 
-Picture ResultColours::Of(const Picture& picture, Warnings& warnings) const
+bool ResultColours::KeepsProfile() const
 {
-    if (!job.profile.isEmpty()) {
+    return wantsProfile && !isForgone;
+}
+
+Picture ResultColours::Of(const Picture& picture, int bits, Warnings& warnings) const
+{
+    const Picture coloured = InColours(picture, warnings);
+    const bool isReduced = HasSixteenBits(coloured) && bits == 8 && job.profile.isEmpty();
+    const Picture curved = isReduced ? WithCurveForEightBits(coloured) : coloured;
+    return IsGrey(curved) && !format.holdsGrey ? AsRgbWithItsCurve(curved) : curved;
+}
+
+Picture ResultColours::InColours(const Picture& picture, Warnings& warnings) const
+{
+    if (!job.profile.isEmpty() && !isForgone) {
         if (!format.metadata.holdsProfile) {
             warnings.append(
                 {WarningKind::ColoursConverted,
@@ -37,12 +51,12 @@ Picture ResultColours::Of(const Picture& picture, Warnings& warnings) const
         return ConvertedTo(job.profile, picture, warnings);
     }
     if (hasInks && !IsCmyk(picture)) {
-        if (format.holdsCmyk && keepsProfile && !picture.has_alpha()) {
+        if (format.holdsCmyk && KeepsProfile() && !picture.has_alpha()) {
             return AsCmyk(inks, picture, warnings);
         }
         warnings.append({WarningKind::ColoursConverted, QStringLiteral("the result is sRGB instead of CMYK")});
     }
-    return keepsProfile ? picture : InPlainSrgb(picture, warnings);
+    return KeepsProfile() ? picture : InPlainSrgb(picture, warnings);
 }
 
 } // namespace BatchWorker

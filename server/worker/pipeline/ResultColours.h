@@ -19,16 +19,24 @@ public:
     /// Whether a source of inks stays one on its way through the stages.
     bool KeepsInks() const;
 
+    /// Makes all further results sRGB without a profile, for a file that turned out not to hold it.
+    void ForgoProfile() { isForgone = true; }
+
     /// Tells of `decoded`, before any stage, what the result may have to go back to.
     void NoteSource(const Picture& decoded);
 
-    /// `picture`, as the stages give it, in the colours of the result. Warnings are appended.
-    Picture Of(const Picture& picture, BatchJob::Warnings& warnings) const;
+    /// `picture`, as the stages give it, in the colours of the result, which has `bits` a channel. Warnings are
+    /// appended.
+    Picture Of(const Picture& picture, int bits, BatchJob::Warnings& warnings) const;
 
 private:
+    bool KeepsProfile() const;
+    Picture InColours(const Picture& picture, BatchJob::Warnings& warnings) const;
+
     const BatchJob::JobSettings& job;
     const BatchJob::FormatSchema& format;
-    bool keepsProfile;
+    bool wantsProfile; ///< job and format
+    bool isForgone = false;
     bool hasInks = false; ///< whether the source has
     QByteArray inks;      ///< their profile; empty when it carries none
 };

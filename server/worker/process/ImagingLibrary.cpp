@@ -7,6 +7,7 @@
 
 #include <vips/vips8>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -24,13 +25,22 @@ namespace {
 std::mutex warningsMutex;
 Warnings warnings;
 
+// Of what the worker reads itself, and better: the colours that HEIF and PNG files describe.
+bool IsOfColours(const QString& text)
+{
+    const QStringList chunks{QStringLiteral("iCCP: "), QStringLiteral("sRGB: "), QStringLiteral("gAMA: "),
+                             QStringLiteral("cHRM: ")};
+    return text.contains(QLatin1String("ignoring nclx profile")) ||
+           std::any_of(chunks.begin(), chunks.end(), [&text](const QString& chunk) { return text.startsWith(chunk); });
+}
+
 void NoteWarning(const char* message)
 {
     constexpr int most = 5;
     const std::lock_guard<std::mutex> lock(warningsMutex);
     const QString text = QString::fromLocal8Bit(message);
-    if (text.contains(QLatin1String("ignoring nclx profile"))) {
-        return; // said of every file that has an ICC profile too, which is used
+    if (IsOfColours(text)) {
+        return;
     }
     const Warning warning{WarningKind::Decoder, text};
     if (warnings.size() < most && !warnings.contains(warning)) {
