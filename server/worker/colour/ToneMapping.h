@@ -13,8 +13,8 @@ namespace BatchWorker {
 ///
 /// The light of the values is that of a screen of 1000 cd/m2: PQ says it directly (Rec. ITU-R BT.2100, table 4), HLG by
 /// its system gamma of 1.2 (table 5). 203 cd/m2, the white of Report ITU-R BT.2408, becomes the white of the result.
-/// What is brighter is compressed by the curve of Report ITU-R BT.2390, section 5.4.1 (EETF): up to about 90 cd/m2
-/// nothing changes, 203 cd/m2 become 158, 1000 and more become 203. The curve is applied to the largest of red, green
+/// What is brighter is compressed by the curve of Report ITU-R BT.2390, section 5.4.1 (EETF): up to 88 cd/m2
+/// nothing changes, 203 cd/m2 become 159, 1000 and more become 203. The curve is applied to the largest of red, green
 /// and blue, and all three are scaled alike, so that hues stay.
 Picture FromHdr(const Picture& picture, const CodedColours& colours, BatchJob::Warnings& warnings);
 
