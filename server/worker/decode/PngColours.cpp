@@ -17,7 +17,8 @@ namespace {
 
 // Source of the layout: W3C, Portable Network Graphics (3rd edition), chapters 5 and 11.
 constexpr int signatureSize = 8;
-constexpr int fieldSize = 4; // of length, type and checksum
+constexpr int fieldSize = 4;  // of length, type and checksum
+constexpr int headerSize = 8; // of a chunk: length and type
 constexpr int largestProfile = 16 << 20;
 
 struct Chunks
@@ -63,9 +64,9 @@ Chunks ReadChunks(const QString& path)
     }
     file.seek(signatureSize);
     while (true) {
-        const QByteArray header = file.read(2 * fieldSize);
+        const QByteArray header = file.read(headerSize);
         const QByteArray type = header.mid(fieldSize);
-        if (header.size() < 2 * fieldSize || type == "IDAT" || type == "IEND") {
+        if (header.size() < headerSize || type == "IDAT" || type == "IEND") {
             return chunks;
         }
         const qint64 length = qFromBigEndian<quint32>(header.constData());
