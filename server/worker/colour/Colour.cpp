@@ -15,6 +15,8 @@ namespace BatchWorker {
 
 namespace {
 
+constexpr int inkBands = 4;
+
 ColourKind KindOf(const Picture& picture)
 {
     if (IsCmyk(picture)) {
@@ -33,7 +35,8 @@ QByteArray BuiltInProfileFor(const Picture& picture)
 std::optional<Picture> Transformed(const Picture& picture, const QByteArray& profile)
 {
     const bool hasAlpha = picture.has_alpha();
-    Picture colours = hasAlpha ? WithoutAlpha(picture) : picture;
+    const int bands = IsCmyk(picture) ? inkBands : ColourBands(picture);
+    Picture colours = hasAlpha ? picture.extract_band(0, Picture::option()->set("n", bands)) : picture;
     const QByteArray own = ProfileOf(picture);
     if (own.isEmpty() && KindOf(picture) == ColourKind::Grey) {
         colours = colours.colourspace(HasSixteenBits(picture) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
@@ -43,7 +46,7 @@ std::optional<Picture> Transformed(const Picture& picture, const QByteArray& pro
     if (!changed) {
         return std::nullopt;
     }
-    return WithProfile(hasAlpha ? changed->bandjoin(AlphaOf(picture)) : *changed, profile);
+    return WithProfile(hasAlpha ? changed->bandjoin(picture.extract_band(bands)) : *changed, profile);
 }
 
 // The profile, made from `profile`, for a picture of another kind whose values mean the same. Empty if there is none.
@@ -78,6 +81,31 @@ Picture FittingProfile(const Picture& picture, Warnings& warnings)
     return WithProfile(picture, other);
 }
 
+// Inks of 8 or 16 bits.
+Picture InWorkingInks(const Picture& decoded)
+{
+    switch (decoded.format()) {
+    case VIPS_FORMAT_UCHAR:
+    case VIPS_FORMAT_USHORT:
+        return decoded;
+    case VIPS_FORMAT_FLOAT:
+    case VIPS_FORMAT_DOUBLE:
+        return decoded.linear(65535, 0.5).cast(VIPS_FORMAT_USHORT);
+    default:
+        return decoded.cast(VIPS_FORMAT_USHORT, Picture::option()->set("shift", true));
+    }
+}
+
+// With the profile of sRGB.
+Picture InksInSrgb(const Picture& inks, Warnings& warnings)
+{
+    if (const std::optional<Picture> changed = Transformed(inks, BuiltInSrgb())) {
+        return *changed;
+    }
+    warnings.append({WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile cannot be used")});
+    return Transformed(WithProfile(inks, {}), BuiltInSrgb()).value();
+}
+
 // Effects, and most programs, take equal values of red, green and blue for a grey.
 Picture InUsualRgb(const Picture& picture, Warnings& warnings)
 {
@@ -103,8 +131,8 @@ Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, Warnings& warni
         const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
         return InUsualRgb(FittingProfile(InWorkingForm(known), warnings), warnings);
     }
-    const Picture inks = FittingProfile(decoded, warnings);
-    return keepsCmyk ? inks : *Transformed(inks, BuiltInSrgb());
+    const Picture inks = FittingProfile(InWorkingInks(decoded), warnings);
+    return keepsCmyk ? inks : InksInSrgb(inks, warnings);
 }
 
 Picture ConvertedTo(const QByteArray& profile, const Picture& picture, Warnings& warnings)
@@ -165,7 +193,7 @@ Picture AsCmyk(const QByteArray& profile, const Picture& picture, Warnings& warn
     if (!profile.isEmpty()) {
         return ConvertedTo(profile, picture, warnings);
     }
-    return WithProfile(*Transformed(picture, BuiltInCmyk()), {});
+    return WithProfile(Transformed(picture, BuiltInCmyk()).value(), {});
 }
 
 } // namespace BatchWorker

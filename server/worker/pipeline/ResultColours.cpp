@@ -15,14 +15,17 @@ ResultColours::ResultColours(const JobSettings& job, const FormatSchema& format,
 }
 
 // Inks that nothing touches but crop and size stay what they are. To go by RGB would turn black into a mix of all four.
+// What lies under transparency is a colour, which inks would have to be mixed for.
 bool ResultColours::KeepsInks() const
 {
-    return job.effects.isEmpty() && !job.framing.state && job.profile.isEmpty() && format.holdsCmyk && KeepsProfile();
+    return (format.holdsTransparency || !isTransparent) && job.effects.isEmpty() && !job.framing.state &&
+           job.profile.isEmpty() && format.holdsCmyk && KeepsProfile();
 }
 
 void ResultColours::NoteSource(const Picture& decoded)
 {
     hasInks = IsCmyk(decoded);
+    isTransparent = decoded.has_alpha();
     inks = hasInks ? ProfileOf(decoded) : QByteArray();
 }
 

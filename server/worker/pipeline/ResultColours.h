@@ -37,8 +37,9 @@ private:
     const BatchJob::FormatSchema& format;
     bool wantsProfile; ///< job and format
     bool isForgone = false;
-    bool hasInks = false; ///< whether the source has
-    QByteArray inks;      ///< their profile; empty when it carries none
+    bool hasInks = false;       ///< whether the source has
+    bool isTransparent = false; ///< the source
+    QByteArray inks;            ///< profile of the inks; empty when the source carries none
 };
 
 } // namespace BatchWorker

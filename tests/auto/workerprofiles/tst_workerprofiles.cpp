@@ -67,6 +67,8 @@ private Q_SLOTS:
     void writesTheProfileIntoEachFormat_data();
     void writesTheProfileIntoEachFormat();
     void convertsWhatAFileCannotCarry();
+    void readsInksOfAnyForm_data();
+    void readsInksOfAnyForm();
 
 private:
     void WriteTiff(const QVector<Colour>& patches, const QByteArray& profile, int bits = 8, int channels = 3);
@@ -284,6 +286,57 @@ void tst_WorkerProfiles::convertsWhatAFileCannotCarry()
     QVERIFY(!bench->Bytes(Text("out.jpg")).contains("acsp"));
     const double difference = LargestDeltaE(own, Patches(), {}, Found("out.jpg", Patches().size()));
     QVERIFY2(difference < 2.0, qPrintable(QString::number(difference)));
+}
+
+void tst_WorkerProfiles::readsInksOfAnyForm_data()
+{
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<int>("vipsFormat");
+    QTest::newRow("8 bits") << 4 << int(VIPS_FORMAT_UCHAR);
+    QTest::newRow("8 bits with alpha") << 5 << int(VIPS_FORMAT_UCHAR);
+    QTest::newRow("8 bits with two spot colours") << 6 << int(VIPS_FORMAT_UCHAR);
+    QTest::newRow("16 bits") << 4 << int(VIPS_FORMAT_USHORT);
+    QTest::newRow("32 bits") << 4 << int(VIPS_FORMAT_UINT);
+    QTest::newRow("floating point") << 4 << int(VIPS_FORMAT_FLOAT);
+}
+
+void tst_WorkerProfiles::readsInksOfAnyForm()
+{
+    QFETCH(const int, channels);
+    QFETCH(const int, vipsFormat);
+
+    const std::vector<double> inks{0.0, 0.8, 0.6, 0.2, 1.0, 0.5};
+    const QHash<int, double> largest{{VIPS_FORMAT_UCHAR, 255.0},
+                                     {VIPS_FORMAT_USHORT, 65'535.0},
+                                     {VIPS_FORMAT_UINT, 4'294'967'295.0},
+                                     {VIPS_FORMAT_FLOAT, 1.0}};
+    std::vector<double> values(inks.begin(), inks.begin() + channels);
+    for (double& value : values) {
+        value *= largest[vipsFormat];
+    }
+    using BatchWorker::Picture;
+    const Picture picture = (Picture::black(16, 16, Picture::option()->set("bands", channels)) + values)
+                                .cast(VipsBandFormat(vipsFormat))
+                                .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_CMYK));
+    WritePicture(picture, bench->Path(Text("in.tif")));
+    report = bench->Make(Text("in.tif"), Text("out.jpg"), Text("JPEG"), {{Text("quality"), 100}});
+    QCOMPARE(report.reason, QString());
+    report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
+    QCOMPARE(report.reason, QString());
+    const Colour found = Found("out.png", 1).first();
+    const Picture plain =
+        picture.extract_band(0, Picture::option()->set("n", 4)).linear(255 / largest[vipsFormat], 0.5);
+    const std::vector<double> expected = plain.cast(VIPS_FORMAT_UCHAR)
+                                             .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_CMYK))
+                                             .icc_transform("srgb", Picture::option()
+                                                                        ->set("input_profile", "cmyk")
+                                                                        ->set("intent", VIPS_INTENT_RELATIVE)
+                                                                        ->set("black_point_compensation", true))
+                                             .getpoint(8, 8);
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+        QVERIFY2(qAbs(found[channel] * 255 - expected[channel]) < 3,
+                 qPrintable(QStringLiteral("%1 instead of %2").arg(found[channel] * 255).arg(expected[channel])));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerProfiles)
