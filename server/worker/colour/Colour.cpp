@@ -3,6 +3,7 @@
 #include "ColourProfile.h"
 #include "WorkingForm.h"
 
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/VipsText.h"
 
@@ -70,6 +71,9 @@ Picture InWorkingColours(const Picture& decoded, bool keepsCmyk, Warnings& warni
         // What floating-point values mean depends on the profile.
         const Picture known = IsFloatingPoint(decoded) ? FittingProfile(decoded, warnings) : decoded;
         return FittingProfile(InWorkingForm(known), warnings);
+    }
+    if (decoded.format() != VIPS_FORMAT_UCHAR && decoded.format() != VIPS_FORMAT_USHORT) {
+        throw UnknownFormat(QStringLiteral("only inks of 8 or 16 bits can be read"));
     }
     const Picture inks = FittingProfile(decoded, warnings);
     return keepsCmyk ? inks : Transformed(inks, builtInSrgb);
