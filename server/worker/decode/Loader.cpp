@@ -1,5 +1,7 @@
 #include "Loader.h"
 
+#include "TiffFile.h"
+
 #include <array>
 
 namespace BatchWorker {
@@ -11,7 +13,7 @@ namespace Loaders {
 constexpr Loader Raw{nullptr, LoaderShrink::None};
 constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor};
 constexpr Loader Png{"pngload_source", LoaderShrink::None};
-constexpr Loader Tiff{"tiffload_source", LoaderShrink::None};
+constexpr Loader Tiff{nullptr, LoaderShrink::None, ReadTiff};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
 constexpr Loader Heif{"heifload_source", LoaderShrink::None};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None};
