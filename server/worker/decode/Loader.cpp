@@ -1,5 +1,7 @@
 #include "Loader.h"
 
+#include "GifFile.h"
+#include "JpegFile.h"
 #include "TiffFile.h"
 
 #include <array>
@@ -11,7 +13,7 @@ namespace {
 namespace Loaders {
 
 constexpr Loader Raw{nullptr, LoaderShrink::None};
-constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor};
+constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor, ReadJpeg};
 constexpr Loader Png{"pngload_source", LoaderShrink::None};
 constexpr Loader Tiff{nullptr, LoaderShrink::None, ReadTiff};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
@@ -19,7 +21,7 @@ constexpr Loader Heif{"heifload_source", LoaderShrink::None};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None};
 constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
 constexpr Loader Jpeg2000{"jp2kload_source", LoaderShrink::None};
-constexpr Loader Gif{"gifload_source", LoaderShrink::None};
+constexpr Loader Gif{"gifload_source", LoaderShrink::None, ReadGif};
 
 } // namespace Loaders
 
