@@ -1,7 +1,5 @@
 #include "RawPicture.h"
 
-#include "TiffDirectory.h"
-
 #include <cmath>
 
 const QVector<QVector<double>>& RawPicture::Patches()
@@ -16,7 +14,14 @@ int RawPicture::PatchAt(int x, int y)
     return (x >= width / 2 ? 1 : 0) + (y >= height / 2 ? 2 : 0);
 }
 
-QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
+using namespace RawPicture;
+
+namespace {
+
+constexpr quint32 header = 8;
+
+// `pixels`: where they begin in the file.
+TiffDirectory Directory(int orientation, const QVector<double>& neutral, quint32 pixels)
 {
     TiffDirectory directory;
     directory.AddLong(254, 0);
@@ -27,8 +32,7 @@ QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
     directory.AddShort(262, 32803); // colour filters
     directory.AddText(271, "Maker");
     directory.AddText(272, "Camera");
-    constexpr quint32 header = 8;
-    directory.AddLong(273, header);
+    directory.AddLong(273, pixels);
     directory.AddShort(274, quint16(orientation));
     directory.AddShort(277, 1);
     directory.AddLong(278, height);
@@ -44,6 +48,11 @@ QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
     directory.AddFractions(50721, 10, {3.2404, -1.5371, -0.4985, -0.9693, 1.8760, 0.0416, 0.0556, -0.2040, 1.0572});
     directory.AddFractions(50728, 5, neutral);
     directory.AddShort(50778, 21); // daylight
+    return directory;
+}
+
+QByteArray Pixels(const QVector<double>& neutral)
+{
     QByteArray pixels;
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
@@ -52,6 +61,25 @@ QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
             pixels += LittleEndian(quint16(std::lround(light * 65'535)));
         }
     }
+    return pixels;
+}
+
+} // namespace
+
+QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
+{
+    const QByteArray pixels = Pixels(neutral);
     const quint32 start = header + quint32(pixels.size());
-    return QByteArray("II*\0", 4) + LittleEndian(start) + pixels + directory.Bytes(start);
+    return QByteArray("II*\0", 4) + LittleEndian(start) + pixels + Directory(orientation, neutral, header).Bytes(start);
+}
+
+QByteArray RawPicture::DngWithPixelsLast(int orientation, const std::function<void(TiffDirectory&)>& edit)
+{
+    const QVector<double> neutral{1, 1, 1};
+    const quint32 pixels = header + quint32(Directory(orientation, neutral, 0).Bytes(header).size());
+    TiffDirectory directory = Directory(orientation, neutral, pixels);
+    if (edit) {
+        edit(directory);
+    }
+    return QByteArray("II*\0", 4) + LittleEndian(header) + directory.Bytes(header) + Pixels(neutral);
 }
