@@ -64,6 +64,77 @@ QByteArray Pixels(const QVector<double>& neutral)
     return pixels;
 }
 
+/// Bits as JPEG streams have them. Source: ITU-T T.81, F.1.2.3 and annex H.
+class JpegBits
+{
+public:
+    void Add(quint32 value, int count)
+    {
+        for (int bit = count - 1; bit >= 0; --bit) {
+            last = (last << 1) | ((value >> bit) & 1U);
+            if (++filled == 8) {
+                bytes += char(last);
+                bytes += last == 0xFF ? QByteArray(1, '\0') : QByteArray();
+                last = 0;
+                filled = 0;
+            }
+        }
+    }
+
+    // How long a number is, then its bits; those of negative ones less one.
+    void AddDifference(int difference)
+    {
+        constexpr int lengthOfCode = 5;
+        int size = 0;
+        while (std::abs(difference) >> size != 0) {
+            ++size;
+        }
+        Add(quint32(size), lengthOfCode);
+        if (size < 16) {
+            Add(quint32(difference < 0 ? difference - 1 : difference), size);
+        }
+    }
+
+    QByteArray Finished()
+    {
+        while (filled != 0) {
+            Add(1, 1);
+        }
+        return bytes;
+    }
+
+private:
+    QByteArray bytes;
+    quint32 last = 0;
+    int filled = 0;
+};
+
+QByteArray LosslessJpeg(const QByteArray& pixels)
+{
+    const auto big = [](int word) { return QByteArray(1, char(word >> 8)) + char(word); };
+    constexpr int sizes = 17; // of differences; all codes have five bits
+    QByteArray table = QByteArray(5, '\0') + QByteArray(12, '\0');
+    table[5] = sizes;
+    for (int size = 0; size < sizes; ++size) {
+        table += char(size);
+    }
+    const QByteArray frame = QByteArray(1, 16) + big(height) + big(width) + QByteArray("\1\1\x11\0", 4);
+    const QByteArray scan("\1\1\0\1\0\0", 6); // each pixel is predicted by the one on its left
+    JpegBits bits;
+    const auto at = [&](int x, int y) {
+        return int(qFromLittleEndian<quint16>(pixels.constData() + (y * width + x) * 2));
+    };
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const int predicted = x > 0 ? at(x - 1, y) : y > 0 ? at(0, y - 1) : 1 << 15;
+            const int difference = (at(x, y) - predicted) & 0xFFFF;
+            bits.AddDifference(difference > 32'768 ? difference - 65'536 : difference);
+        }
+    }
+    return QByteArray("\xFF\xD8\xFF\xC4", 4) + big(table.size() + 2) + table + "\xFF\xC3" + big(frame.size() + 2) +
+           frame + "\xFF\xDA" + big(scan.size() + 2) + scan + bits.Finished() + "\xFF\xD9";
+}
+
 } // namespace
 
 QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
@@ -82,4 +153,15 @@ QByteArray RawPicture::DngWithPixelsLast(int orientation, const std::function<vo
         edit(directory);
     }
     return QByteArray("II*\0", 4) + LittleEndian(header) + directory.Bytes(header) + Pixels(neutral);
+}
+
+QByteArray RawPicture::CompressedDng()
+{
+    const QVector<double> neutral{1, 1, 1};
+    const QByteArray stream = LosslessJpeg(Pixels(neutral));
+    const quint32 pixels = header + quint32(Directory(1, neutral, 0).Bytes(header).size());
+    TiffDirectory directory = Directory(1, neutral, pixels);
+    directory.AddShort(259, 7);
+    directory.AddLong(279, quint32(stream.size()));
+    return QByteArray("II*\0", 4) + LittleEndian(header) + directory.Bytes(header) + stream;
 }

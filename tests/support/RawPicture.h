@@ -23,4 +23,7 @@ QByteArray Dng(int orientation = 1, const QVector<double>& neutral = {1, 1, 1});
 /// The same with its directory in front of the pixels, as cameras write it. `edit` may change the directory.
 QByteArray DngWithPixelsLast(int orientation = 1, const std::function<void(TiffDirectory&)>& edit = {});
 
+/// The same with its pixels compressed as lossless JPEG.
+QByteArray CompressedDng();
+
 } // namespace RawPicture

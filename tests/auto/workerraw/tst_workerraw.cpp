@@ -44,6 +44,7 @@ private Q_SLOTS:
     void reportsDamage();
     void refusesFilesWithoutTheirData_data();
     void refusesFilesWithoutTheirData();
+    void readsCompressedFiles();
     void readsFilesWithWrongCounts();
     void readsPlainTiffFilesUnderTheName();
     void probes();
@@ -175,6 +176,12 @@ void tst_WorkerRaw::refusesFilesWithoutTheirData_data()
     QTest::newRow("the data at the very end") << edited(273, quint32(whole.size()));
     const QByteArray empty = edited(279, 0);
     QTest::newRow("no data") << empty.left(empty.size() - pixels);
+    const QByteArray lossless = CompressedDng();
+    const int front = whole.size() - pixels;
+    for (const int percent : {0, 30, 60, 90, 99}) {
+        QTest::addRow("%d %% of compressed data", percent)
+            << lossless.left(front + (lossless.size() - front) * percent / 100);
+    }
     const QByteArray compressed =
         DngWithPixelsLast(1, [](TiffDirectory& directory) { directory.AddShort(259, 7); }); // lossless JPEG
     QTest::newRow("compressed, cut off") << compressed.left(compressed.size() - pixels);
@@ -203,6 +210,17 @@ void tst_WorkerRaw::refusesFilesWithoutTheirData()
         QVERIFY(!report.reason.isEmpty());
         QVERIFY(!QFile::exists(bench.Path(Text("cut.tif"))));
     }
+}
+
+void tst_WorkerRaw::readsCompressedFiles()
+{
+    WorkerBench bench;
+    bench.WriteBytes(Text("plain.dng"), DngWithPixelsLast());
+    bench.WriteBytes(Text("in.dng"), CompressedDng());
+    QCOMPARE(bench.Make(Text("plain.dng"), Text("plain.png"), Text("PNG")).reason, QString());
+    QCOMPARE(bench.Make(Text("in.dng"), Text("out.png"), Text("PNG")).reason, QString());
+    QCOMPARE(LargestDifference(ReadPicture(bench.Path(Text("out.png"))), ReadPicture(bench.Path(Text("plain.png")))),
+             0.0);
 }
 
 void tst_WorkerRaw::readsFilesWithWrongCounts()
