@@ -21,7 +21,7 @@ void SkipPalette(FileBytes& file, int flags)
     constexpr int hasPalette = 0x80;
     constexpr int sizeBits = 7;
     if ((flags & hasPalette) != 0) {
-        file.Skip(3 * (2 << (flags & sizeBits)));
+        file.Skip(qint64(3) * (2 << (flags & sizeBits)));
     }
 }
 

@@ -27,7 +27,7 @@ int RawStream::read(void* target, size_t size, size_t count)
     constexpr qint64 smallestBlock = 4096;
     const int got = LibRaw_bigfile_datastream::read(target, size, count);
     if (got == 0) {
-        const qint64 wanted = qint64(size * count);
+        const qint64 wanted = qint64(size) * qint64(count);
         (wanted >= smallestBlock ? bytesInBlocks : bytesAlone) += wanted;
     }
     return got;

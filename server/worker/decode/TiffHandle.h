@@ -11,9 +11,9 @@ namespace BatchWorker {
 class TiffHandle
 {
 public:
-    /// Opens the file of `descriptor`, which may be closed then. The decoder takes at most `largestAllocation` bytes at
-    /// once. Throws DamagedFile.
-    TiffHandle(int descriptor, qint64 largestAllocation);
+    /// Opens the file of the descriptor `source`, which may be closed then. The decoder takes at most
+    /// `largestAllocation` bytes at once. Throws DamagedFile.
+    TiffHandle(int source, qint64 largestAllocation);
     ~TiffHandle();
 
     TIFF* Get() const { return tiff; }
@@ -42,7 +42,8 @@ private:
     static toff_t Seek(thandle_t self, toff_t offset, int whence);
     static int Close(thandle_t);
     static toff_t Size(thandle_t self);
-    static int NoteError(TIFF*, void* self, const char*, const char* format, va_list values);
+    static int NoteError(TIFF*, void* self, const char*, const char* format, va_list values)
+        __attribute__((format(printf, 4, 0)));
     static int IgnoreWarning(TIFF*, void*, const char*, const char*, va_list);
 
     int descriptor;

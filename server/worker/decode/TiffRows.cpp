@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <numeric>
 
 using namespace BatchJob;
 
@@ -17,10 +18,8 @@ constexpr int bytesOfRgb = 3;
 // The planes of `layout` that are used.
 std::vector<int> PlanesOf(const TiffLayout& layout)
 {
-    std::vector<int> planes;
-    for (int i = 0; i < layout.colourSamples; ++i) {
-        planes.push_back(i);
-    }
+    std::vector<int> planes(std::size_t(layout.colourSamples));
+    std::iota(planes.begin(), planes.end(), 0);
     if (layout.alpha != TiffAlpha::None) {
         planes.push_back(layout.alphaSample);
     }
