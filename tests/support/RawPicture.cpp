@@ -1,71 +1,6 @@
 #include "RawPicture.h"
 
-#include <QMap>
-#include <QtEndian>
-
 #include <cmath>
-
-namespace {
-
-template<typename Number>
-QByteArray Little(Number number)
-{
-    QByteArray bytes(sizeof(Number), '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
-
-/// Makes a TIFF directory with its values behind it.
-class Directory
-{
-public:
-    void Add(quint16 tag, quint16 type, quint32 count, const QByteArray& value)
-    {
-        entries.insert(tag, {type, count, value});
-    }
-    void AddShort(quint16 tag, quint16 value) { Add(tag, 3, 1, Little(value)); }
-    void AddLong(quint16 tag, quint32 value) { Add(tag, 4, 1, Little(value)); }
-    void AddText(quint16 tag, const QByteArray& text) { Add(tag, 2, quint32(text.size() + 1), text + '\0'); }
-    void AddFractions(quint16 tag, quint16 type, const QVector<double>& values)
-    {
-        constexpr int denominator = 10'000;
-        QByteArray bytes;
-        for (const double value : values) {
-            bytes += Little(qint32(std::lround(value * denominator))) + Little(qint32(denominator));
-        }
-        Add(tag, type, quint32(values.size()), bytes);
-    }
-
-    /// `start`: where the directory stands in the file.
-    QByteArray Bytes(quint32 start) const
-    {
-        QByteArray directory = Little(quint16(entries.size()));
-        QByteArray values;
-        const quint32 valuesStart = start + 2 + quint32(entries.size()) * 12 + 4;
-        for (auto it = entries.begin(); it != entries.end(); ++it) {
-            const Entry& entry = it.value();
-            directory += Little(it.key()) + Little(entry.type) + Little(entry.count);
-            if (entry.value.size() <= 4) {
-                directory += entry.value.leftJustified(4, '\0');
-            } else {
-                directory += Little(valuesStart + quint32(values.size()));
-                values += entry.value + QByteArray(entry.value.size() % 2, '\0');
-            }
-        }
-        return directory + Little(quint32(0)) + values;
-    }
-
-private:
-    struct Entry
-    {
-        quint16 type = 0;
-        quint32 count = 0;
-        QByteArray value;
-    };
-    QMap<quint16, Entry> entries;
-};
-
-} // namespace
 
 const QVector<QVector<double>>& RawPicture::Patches()
 {
@@ -79,9 +14,16 @@ int RawPicture::PatchAt(int x, int y)
     return (x >= width / 2 ? 1 : 0) + (y >= height / 2 ? 2 : 0);
 }
 
-QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
+using namespace RawPicture;
+
+namespace {
+
+constexpr quint32 header = 8;
+
+// `pixels`: where they begin in the file.
+TiffDirectory Directory(int orientation, const QVector<double>& neutral, quint32 pixels)
 {
-    Directory directory;
+    TiffDirectory directory;
     directory.AddLong(254, 0);
     directory.AddLong(256, width);
     directory.AddLong(257, height);
@@ -90,14 +32,13 @@ QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
     directory.AddShort(262, 32803); // colour filters
     directory.AddText(271, "Maker");
     directory.AddText(272, "Camera");
-    constexpr quint32 header = 8;
-    directory.AddLong(273, header);
+    directory.AddLong(273, pixels);
     directory.AddShort(274, quint16(orientation));
     directory.AddShort(277, 1);
     directory.AddLong(278, height);
     directory.AddLong(279, width * height * 2);
     directory.AddShort(284, 1);
-    directory.Add(33421, 3, 2, Little(quint16(2)) + Little(quint16(2)));
+    directory.Add(33421, 3, 2, LittleEndian(quint16(2)) + LittleEndian(quint16(2)));
     directory.Add(33422, 1, 4, QByteArray("\0\1\1\2", 4));
     directory.Add(50706, 1, 4, QByteArray("\1\4\0\0", 4));
     directory.Add(50707, 1, 4, QByteArray("\1\1\0\0", 4));
@@ -107,14 +48,120 @@ QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
     directory.AddFractions(50721, 10, {3.2404, -1.5371, -0.4985, -0.9693, 1.8760, 0.0416, 0.0556, -0.2040, 1.0572});
     directory.AddFractions(50728, 5, neutral);
     directory.AddShort(50778, 21); // daylight
+    return directory;
+}
+
+QByteArray Pixels(const QVector<double>& neutral)
+{
     QByteArray pixels;
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const int channel = (y % 2) + (x % 2);
             const double light = Patches()[PatchAt(x, y)][channel] * neutral[channel];
-            pixels += Little(quint16(std::lround(light * 65'535)));
+            pixels += LittleEndian(quint16(std::lround(light * 65'535)));
         }
     }
+    return pixels;
+}
+
+/// Bits as JPEG streams have them. Source: ITU-T T.81, F.1.2.3 and annex H.
+class JpegBits
+{
+public:
+    void Add(quint32 value, int count)
+    {
+        for (int bit = count - 1; bit >= 0; --bit) {
+            last = (last << 1) | ((value >> bit) & 1U);
+            if (++filled == 8) {
+                bytes += char(last);
+                bytes += last == 0xFF ? QByteArray(1, '\0') : QByteArray();
+                last = 0;
+                filled = 0;
+            }
+        }
+    }
+
+    // How long a number is, then its bits; those of negative ones less one.
+    void AddDifference(int difference)
+    {
+        constexpr int lengthOfCode = 5;
+        int size = 0;
+        while (std::abs(difference) >> size != 0) {
+            ++size;
+        }
+        Add(quint32(size), lengthOfCode);
+        if (size < 16) {
+            Add(quint32(difference < 0 ? difference - 1 : difference), size);
+        }
+    }
+
+    QByteArray Finished()
+    {
+        while (filled != 0) {
+            Add(1, 1);
+        }
+        return bytes;
+    }
+
+private:
+    QByteArray bytes;
+    quint32 last = 0;
+    int filled = 0;
+};
+
+QByteArray LosslessJpeg(const QByteArray& pixels)
+{
+    const auto big = [](int word) { return QByteArray(1, char(word >> 8)) + char(word); };
+    constexpr int sizes = 17; // of differences; all codes have five bits
+    QByteArray table = QByteArray(5, '\0') + QByteArray(12, '\0');
+    table[5] = sizes;
+    for (int size = 0; size < sizes; ++size) {
+        table += char(size);
+    }
+    const QByteArray frame = QByteArray(1, 16) + big(height) + big(width) + QByteArray("\1\1\x11\0", 4);
+    const QByteArray scan("\1\1\0\1\0\0", 6); // each pixel is predicted by the one on its left
+    JpegBits bits;
+    const auto at = [&](int x, int y) {
+        return int(qFromLittleEndian<quint16>(pixels.constData() + (y * width + x) * 2));
+    };
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const int predicted = x > 0 ? at(x - 1, y) : y > 0 ? at(0, y - 1) : 1 << 15;
+            const int difference = (at(x, y) - predicted) & 0xFFFF;
+            bits.AddDifference(difference > 32'768 ? difference - 65'536 : difference);
+        }
+    }
+    return QByteArray("\xFF\xD8\xFF\xC4", 4) + big(table.size() + 2) + table + "\xFF\xC3" + big(frame.size() + 2) +
+           frame + "\xFF\xDA" + big(scan.size() + 2) + scan + bits.Finished() + "\xFF\xD9";
+}
+
+} // namespace
+
+QByteArray RawPicture::Dng(int orientation, const QVector<double>& neutral)
+{
+    const QByteArray pixels = Pixels(neutral);
     const quint32 start = header + quint32(pixels.size());
-    return QByteArray("II*\0", 4) + Little(start) + pixels + directory.Bytes(start);
+    return QByteArray("II*\0", 4) + LittleEndian(start) + pixels + Directory(orientation, neutral, header).Bytes(start);
+}
+
+QByteArray RawPicture::DngWithPixelsLast(int orientation, const std::function<void(TiffDirectory&)>& edit)
+{
+    const QVector<double> neutral{1, 1, 1};
+    const quint32 pixels = header + quint32(Directory(orientation, neutral, 0).Bytes(header).size());
+    TiffDirectory directory = Directory(orientation, neutral, pixels);
+    if (edit) {
+        edit(directory);
+    }
+    return QByteArray("II*\0", 4) + LittleEndian(header) + directory.Bytes(header) + Pixels(neutral);
+}
+
+QByteArray RawPicture::CompressedDng()
+{
+    const QVector<double> neutral{1, 1, 1};
+    const QByteArray stream = LosslessJpeg(Pixels(neutral));
+    const quint32 pixels = header + quint32(Directory(1, neutral, 0).Bytes(header).size());
+    TiffDirectory directory = Directory(1, neutral, pixels);
+    directory.AddShort(259, 7);
+    directory.AddLong(279, quint32(stream.size()));
+    return QByteArray("II*\0", 4) + LittleEndian(header) + directory.Bytes(header) + stream;
 }

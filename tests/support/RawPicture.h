@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QByteArray>
-#include <QVector>
+#include "TiffDirectory.h"
+
+#include <functional>
 
 /// A camera RAW file (DNG) of a camera whose filters are those of sRGB. It shows four patches, two above two.
 namespace RawPicture {
@@ -18,5 +19,11 @@ int PatchAt(int x, int y);
 /// The bytes of the file. `orientation`: by EXIF, 1 to 8. `neutral`: how strong the camera sees red, green and blue of
 /// white.
 QByteArray Dng(int orientation = 1, const QVector<double>& neutral = {1, 1, 1});
+
+/// The same with its directory in front of the pixels, as cameras write it. `edit` may change the directory.
+QByteArray DngWithPixelsLast(int orientation = 1, const std::function<void(TiffDirectory&)>& edit = {});
+
+/// The same with its pixels compressed as lossless JPEG.
+QByteArray CompressedDng();
 
 } // namespace RawPicture

@@ -5,6 +5,7 @@
 #include "GeneratedProfile.h"
 #include "WorkingForm.h"
 
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 
 #include <optional>

@@ -1,15 +1,19 @@
 #include "WorkingForm.h"
 
+#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/VipsText.h"
+
 namespace BatchWorker {
 
 namespace {
 
-bool IsGrey(VipsInterpretation interpretation)
+bool IsGreyKind(VipsInterpretation interpretation)
 {
     return interpretation == VIPS_INTERPRETATION_B_W || interpretation == VIPS_INTERPRETATION_GREY16;
 }
 
-bool IsRgb(VipsInterpretation interpretation)
+bool IsRgbKind(VipsInterpretation interpretation)
 {
     return interpretation == VIPS_INTERPRETATION_sRGB || interpretation == VIPS_INTERPRETATION_RGB16;
 }
@@ -55,30 +59,87 @@ Picture FromFloatingPoint(const Picture& decoded)
     return Plain(whole, colours == 1);
 }
 
+bool HasPlainColours(const Picture& decoded)
+{
+    const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
+    return decoded.coding() == VIPS_CODING_NONE &&
+           (IsGreyKind(kind) || IsRgbKind(kind) || kind == VIPS_INTERPRETATION_MULTIBAND);
+}
+
+// Whole numbers of other kinds: the smallest becomes 0, the largest the largest of 8 or 16 bits.
+Picture InPlainDepth(const Picture& decoded)
+{
+    constexpr double toSixteenBits = 65535.0 / 4294967295.0;
+    switch (decoded.format()) {
+    case VIPS_FORMAT_UCHAR:
+    case VIPS_FORMAT_USHORT:
+        return decoded;
+    case VIPS_FORMAT_CHAR:
+        return decoded.linear(1, 128).cast(VIPS_FORMAT_UCHAR);
+    case VIPS_FORMAT_SHORT:
+        return decoded.linear(1, 32768).cast(VIPS_FORMAT_USHORT);
+    case VIPS_FORMAT_UINT:
+        return decoded.linear(toSixteenBits, 0.5).cast(VIPS_FORMAT_USHORT);
+    case VIPS_FORMAT_INT:
+        return decoded.linear(toSixteenBits, 32768).cast(VIPS_FORMAT_USHORT);
+    default:
+        throw UnknownFormat(QStringLiteral("its values are complex numbers, which are no colours"));
+    }
+}
+
+// The largest alpha that the library expects beside colours of `kind`.
+double LargestAlpha(VipsInterpretation kind)
+{
+    return kind == VIPS_INTERPRETATION_scRGB ? 1.0 : 255.0;
+}
+
+// What the library converts to RGB: device-independent colours, and models of RGB. Its conversion ignores what an alpha
+// channel means, which goes another way.
+Picture FromOtherColours(const Picture& decoded)
+{
+    constexpr int colours = 3;
+    constexpr double largest = 65535;
+    const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
+    const bool isPacked = decoded.coding() != VIPS_CODING_NONE;
+    Picture converted;
+    try {
+        const bool hasAlpha = !isPacked && decoded.bands() > colours;
+        const Picture known =
+            Named(hasAlpha ? decoded.extract_band(0, Picture::option()->set("n", colours)) : decoded, kind);
+        converted = known.colourspace(VIPS_INTERPRETATION_RGB16);
+        if (hasAlpha) {
+            const Picture alpha =
+                decoded.extract_band(colours).linear(largest / LargestAlpha(kind), 0.5).cast(VIPS_FORMAT_USHORT);
+            converted = converted.bandjoin(alpha);
+        }
+    } catch (const vips::VError& problem) {
+        throw UnknownFormat(QStringLiteral("its kind of colours is not supported: %1").arg(TextOf(problem)));
+    }
+    if (!HasPlainColours(converted) || converted.format() != VIPS_FORMAT_USHORT) {
+        throw UnknownFormat(QStringLiteral("its kind of colours is not supported"));
+    }
+    return converted;
+}
+
 } // namespace
 
 bool IsFloatingPoint(const Picture& decoded)
 {
     const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
-    const bool isKnown =
-        IsGrey(kind) || IsRgb(kind) || kind == VIPS_INTERPRETATION_scRGB || kind == VIPS_INTERPRETATION_MULTIBAND;
+    const bool isKnown = IsGreyKind(kind) || IsRgbKind(kind) || kind == VIPS_INTERPRETATION_scRGB ||
+                         kind == VIPS_INTERPRETATION_MULTIBAND;
     return isKnown && (decoded.format() == VIPS_FORMAT_FLOAT || decoded.format() == VIPS_FORMAT_DOUBLE);
 }
 
 Picture InWorkingForm(const Picture& decoded)
 {
-    const VipsInterpretation kind = vips_image_guess_interpretation(decoded.get_image());
-    const bool hasPlainDepth = decoded.format() == VIPS_FORMAT_UCHAR || decoded.format() == VIPS_FORMAT_USHORT;
-    const bool isPlain = hasPlainDepth && (IsGrey(kind) || IsRgb(kind) || kind == VIPS_INTERPRETATION_MULTIBAND);
     if (IsFloatingPoint(decoded)) {
         return FromFloatingPoint(decoded);
     }
-    if (!isPlain) {
-        return InWorkingForm(Named(decoded, kind).colourspace(VIPS_INTERPRETATION_RGB16));
-    }
-    const int colours = decoded.bands() < 3 ? 1 : 3;
+    const Picture plain = HasPlainColours(decoded) ? InPlainDepth(decoded) : FromOtherColours(decoded);
+    const int colours = ColourBands(plain);
     const Picture lean =
-        decoded.bands() <= colours + 1 ? decoded : decoded.extract_band(0, Picture::option()->set("n", colours + 1));
+        plain.bands() <= colours + 1 ? plain : plain.extract_band(0, Picture::option()->set("n", colours + 1));
     return Plain(lean, colours == 1);
 }
 

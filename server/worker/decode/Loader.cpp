@@ -1,7 +1,10 @@
 #include "Loader.h"
 
+#include "GifFile.h"
 #include "HeifColours.h"
+#include "JpegFile.h"
 #include "PngColours.h"
+#include "TiffFile.h"
 
 #include <array>
 
@@ -12,15 +15,15 @@ namespace {
 namespace Loaders {
 
 constexpr Loader Raw{nullptr, LoaderShrink::None};
-constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor};
+constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor, ReadJpeg};
 constexpr Loader Png{"pngload_source", LoaderShrink::None, nullptr, ReadPngColours};
-constexpr Loader Tiff{"tiffload_source", LoaderShrink::None};
+constexpr Loader Tiff{nullptr, LoaderShrink::None, ReadTiff};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
 constexpr Loader Heif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
 constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
 constexpr Loader Jpeg2000{"jp2kload_source", LoaderShrink::None};
-constexpr Loader Gif{"gifload_source", LoaderShrink::None};
+constexpr Loader Gif{"gifload_source", LoaderShrink::None, ReadGif};
 
 } // namespace Loaders
 

@@ -16,7 +16,8 @@ enum class LoaderShrink {
     ByScale   ///< argument "scale": 1/2, 1/4 or 1/8
 };
 
-/// How a format is read: by an operation of the imaging library, by `read`, or, with neither, by RawFile.
+/// How a format is read: by an operation of the imaging library, by `read`, or, with neither, by RawFile. `read` may
+/// use the operation too.
 struct Loader
 {
     /// The library's operation that reads from a source.

@@ -1,5 +1,6 @@
 #include "PictureSource.h"
 
+#include "LibraryLoader.h"
 #include "Loader.h"
 #include "RawFile.h"
 #include "TiffPages.h"
@@ -83,18 +84,8 @@ Picture Read(const QString& file, const Loader& loader, int shrink, const Server
     if (loader.read) {
         return loader.read(descriptor.Value(), shrink, limits, warnings);
     }
-    vips::VOption* options = Picture::option()
-                                 ->set("source", vips::VSource::new_from_descriptor(descriptor.Value()))
-                                 ->set("access", VIPS_ACCESS_SEQUENTIAL)
-                                 ->set("fail_on", VIPS_FAIL_ON_ERROR);
-    if (shrink > 1 && loader.shrink == LoaderShrink::ByFactor) {
-        options->set("shrink", shrink);
-    } else if (shrink > 1 && loader.shrink == LoaderShrink::ByScale) {
-        options->set("scale", 1.0 / shrink);
-    }
-    Picture picture;
-    Picture::call(loader.operation, options->set("out", &picture));
-    return WithWholeRange(picture);
+    return WithWholeRange(LoadWithLibrary(loader.operation, vips::VSource::new_from_descriptor(descriptor.Value()),
+                                          loader.shrink, shrink));
 }
 
 } // namespace

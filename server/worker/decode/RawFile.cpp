@@ -1,10 +1,13 @@
 #include "RawFile.h"
 
+#include "DngData.h"
+#include "RawStream.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <QFile>
 
-#include <libraw/libraw.h>
+#include <array>
 
 namespace BatchWorker {
 
@@ -36,13 +39,15 @@ Picture Wrapped(libraw_processed_image_t* image)
 } // namespace
 
 RawFile::RawFile(const QString& file, qint64 memoryLimit)
-    : raw(std::make_unique<LibRaw>())
+    : file(file)
+    , stream(std::make_unique<RawStream>(file))
+    , raw(std::make_unique<LibRaw>())
 {
     constexpr qint64 mebibyte = 1 << 20;
     raw->imgdata.params.max_raw_memory_mb = unsigned(memoryLimit / mebibyte);
     const auto noteDamage = [](void* isDamaged, const char*, int) { *static_cast<bool*>(isDamaged) = true; };
     raw->set_dataerror_handler(noteDamage, &isDamaged);
-    const int result = raw->open_file(QFile::encodeName(file).constData());
+    const int result = raw->open_datastream(stream.get());
     isKnown = result != LIBRAW_FILE_UNSUPPORTED && result != LIBRAW_NO_THUMBNAIL;
     if (isKnown) {
         Check(result);
@@ -58,16 +63,9 @@ QSize RawFile::Size() const
 
 int RawFile::Orientation() const
 {
-    switch (raw->imgdata.sizes.flip) {
-    case 3:
-        return 3;
-    case 5:
-        return 8;
-    case 6:
-        return 6;
-    default:
-        return 1;
-    }
+    // The decoder's flags: 1 mirrors left and right, 2 up and down, 4 exchanges rows and columns, after that.
+    constexpr std::array orientations{1, 2, 4, 3, 5, 8, 6, 7};
+    return orientations[std::size_t(raw->imgdata.sizes.flip) % orientations.size()];
 }
 
 Picture RawFile::Develop(bool isHalf)
@@ -82,9 +80,11 @@ Picture RawFile::Develop(bool isHalf)
     params.adjust_maximum_thr = 0;
     params.half_size = isHalf ? 1 : 0;
     params.user_flip = 0; // as stored: it is turned with the others, after scaling
+    RequireData();
+    stream->BeginCount();
     Check(raw->unpack());
-    if (isDamaged) {
-        throw DamagedFile(QStringLiteral("picture data are missing or damaged"));
+    if (isDamaged || stream->LacksData()) {
+        throw DamagedFile(QStringLiteral("the file ends before its picture data does, or the data is damaged"));
     }
     Check(raw->dcraw_process());
     int result = LIBRAW_SUCCESS;
@@ -92,6 +92,14 @@ Picture RawFile::Develop(bool isHalf)
     Check(result);
     raw->recycle();
     return Wrapped(image);
+}
+
+// Decoders of some kinds of data read nothing without a word.
+void RawFile::RequireData() const
+{
+    if (raw->get_internal_data_pointer()->unpacker_data.data_offset >= stream->size() || LacksDngData(file)) {
+        throw DamagedFile(QStringLiteral("the file lacks picture data: it is cut off, or has been emptied"));
+    }
 }
 
 void RawFile::Check(int result) const

@@ -11,6 +11,8 @@ class LibRaw;
 
 namespace BatchWorker {
 
+class RawStream;
+
 /// A camera RAW file: the sensor data, developed with the white balance that the camera recorded, into sRGB of 16 bits
 /// a channel. Brightness is that of the exposure, so that pictures of a series match.
 class RawFile
@@ -37,7 +39,10 @@ private:
     Q_DISABLE_COPY(RawFile)
 
     void Check(int result) const;
+    void RequireData() const;
 
+    QString file;
+    std::unique_ptr<RawStream> stream; ///< outlives the decoder that reads it
     std::unique_ptr<LibRaw> raw;
     bool isKnown = false;
     bool isDamaged = false;

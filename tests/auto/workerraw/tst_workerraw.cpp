@@ -38,9 +38,14 @@ private Q_SLOTS:
     void initTestCase();
     void developsPictures_data();
     void developsPictures();
+    void turnsPicturesUpright_data();
     void turnsPicturesUpright();
     void keepsTheDepth();
     void reportsDamage();
+    void refusesFilesWithoutTheirData_data();
+    void refusesFilesWithoutTheirData();
+    void readsCompressedFiles();
+    void readsFilesWithWrongCounts();
     void readsPlainTiffFilesUnderTheName();
     void probes();
 };
@@ -95,16 +100,41 @@ void tst_WorkerRaw::developsPictures()
     }
 }
 
+void tst_WorkerRaw::turnsPicturesUpright_data()
+{
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<QVector<int>>("patches"); // top left, top right, bottom left, bottom right
+    using Patches = QVector<int>;
+    // Source: CIPA DC-008 (EXIF), tag 274.
+    QTest::newRow("as it is") << 1 << Patches{0, 1, 2, 3};
+    QTest::newRow("mirrored") << 2 << Patches{1, 0, 3, 2};
+    QTest::newRow("upside down") << 3 << Patches{3, 2, 1, 0};
+    QTest::newRow("mirrored, upside down") << 4 << Patches{2, 3, 0, 1};
+    QTest::newRow("mirrored at the diagonal") << 5 << Patches{0, 2, 1, 3};
+    QTest::newRow("by a quarter to the right") << 6 << Patches{2, 0, 3, 1};
+    QTest::newRow("mirrored at the other diagonal") << 7 << Patches{3, 1, 2, 0};
+    QTest::newRow("by a quarter to the left") << 8 << Patches{1, 3, 0, 2};
+}
+
 void tst_WorkerRaw::turnsPicturesUpright()
 {
+    QFETCH(const int, orientation);
+    QFETCH(const QVector<int>, patches);
+
     WorkerBench bench;
-    bench.WriteBytes(Text("in.dng"), Dng(6, {1, 1, 1}));
+    bench.WriteBytes(Text("in.dng"), Dng(orientation, {1, 1, 1}));
     QCOMPARE(bench.Make(Text("in.dng"), Text("out.png"), Text("PNG"), {{Text("bitDepth"), 8}}).reason, QString());
     const Picture result = ReadPicture(bench.Path(Text("out.png")));
-    QCOMPARE(result.width(), height);
-    QCOMPARE(result.height(), width);
-    // By a quarter to the right: what was at the bottom left is at the top left now.
-    QVERIFY(std::abs(result.getpoint(height / 4, width / 4)[1] - Encoded(Patches()[2][1])) <= 2.0);
+    QCOMPARE(result.width(), orientation < 5 ? width : height);
+    QCOMPARE(result.height(), orientation < 5 ? height : width);
+    for (int place = 0; place < 4; ++place) {
+        const int x = result.width() * ((place % 2) * 2 + 1) / 4;
+        const int y = result.height() * ((place / 2) * 2 + 1) / 4;
+        for (int channel = 0; channel < 3; ++channel) {
+            const double expected = Encoded(Patches()[patches[place]][channel]);
+            QVERIFY(std::abs(result.getpoint(x, y)[std::size_t(channel)] - expected) <= 2.0);
+        }
+    }
 }
 
 void tst_WorkerRaw::keepsTheDepth()
@@ -128,6 +158,84 @@ void tst_WorkerRaw::reportsDamage()
     QCOMPARE(nonsense.failure, PolicyKind::Input);
     QVERIFY(!nonsense.reason.isEmpty());
     QVERIFY(!QFile::exists(bench.Path(Text("out.tif"))));
+}
+
+void tst_WorkerRaw::refusesFilesWithoutTheirData_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray whole = DngWithPixelsLast();
+    const int pixels = width * height * 2;
+    for (const int percent : {0, 30, 60, 90, 99}) {
+        QTest::addRow("%d %% of the data", percent) << whole.left(whole.size() - pixels + pixels * percent / 100);
+    }
+    QTest::newRow("two bytes missing") << whole.left(whole.size() - 2);
+    const auto edited = [](quint16 tag, quint32 value) {
+        return DngWithPixelsLast(1, [tag, value](TiffDirectory& directory) { directory.AddLong(tag, value); });
+    };
+    QTest::newRow("the data behind the end") << edited(273, 1'000'000);
+    QTest::newRow("the data at the very end") << edited(273, quint32(whole.size()));
+    const QByteArray empty = edited(279, 0);
+    QTest::newRow("no data") << empty.left(empty.size() - pixels);
+    const QByteArray lossless = CompressedDng();
+    const int front = whole.size() - pixels;
+    for (const int percent : {0, 30, 60, 90, 99}) {
+        QTest::addRow("%d %% of compressed data", percent)
+            << lossless.left(front + (lossless.size() - front) * percent / 100);
+    }
+    const QByteArray compressed =
+        DngWithPixelsLast(1, [](TiffDirectory& directory) { directory.AddShort(259, 7); }); // lossless JPEG
+    QTest::newRow("compressed, cut off") << compressed.left(compressed.size() - pixels);
+    QTest::newRow("nothing but zeros, compressed")
+        << compressed.left(compressed.size() - pixels) + QByteArray(pixels, '\0');
+}
+
+void tst_WorkerRaw::refusesFilesWithoutTheirData()
+{
+    QFETCH(const QByteArray, bytes);
+
+    WorkerBench bench;
+    bench.WriteBytes(Text("whole.dng"), DngWithPixelsLast());
+    QCOMPARE(bench.Make(Text("whole.dng"), Text("out.tif"), Text("TIFF")).reason, QString());
+    bench.WriteBytes(Text("in.dng"), bytes);
+    for (const double size : {1.0, 0.25}) {
+        const auto edit = [size](ZTBatchOutputSettings& output) {
+            ZTBatchOutputSettings::ImageSize reduced;
+            reduced.restriction = int(BatchJob::SizeRestriction::Fit);
+            reduced.size = int(width * size);
+            output.SetImageSizeSettings(reduced);
+        };
+        const Report report = bench.Make(Text("in.dng"), Text("cut.tif"), Text("TIFF"), {}, edit);
+        QCOMPARE(report.failure, PolicyKind::Input);
+        QCOMPARE(report.errorCode, ZTBatchMessage::ReadFileError);
+        QVERIFY(!report.reason.isEmpty());
+        QVERIFY(!QFile::exists(bench.Path(Text("cut.tif"))));
+    }
+}
+
+void tst_WorkerRaw::readsCompressedFiles()
+{
+    WorkerBench bench;
+    bench.WriteBytes(Text("plain.dng"), DngWithPixelsLast());
+    bench.WriteBytes(Text("in.dng"), CompressedDng());
+    QCOMPARE(bench.Make(Text("plain.dng"), Text("plain.png"), Text("PNG")).reason, QString());
+    QCOMPARE(bench.Make(Text("in.dng"), Text("out.png"), Text("PNG")).reason, QString());
+    QCOMPARE(LargestDifference(ReadPicture(bench.Path(Text("out.png"))), ReadPicture(bench.Path(Text("plain.png")))),
+             0.0);
+}
+
+void tst_WorkerRaw::readsFilesWithWrongCounts()
+{
+    WorkerBench bench;
+    bench.WriteBytes(Text("whole.dng"), DngWithPixelsLast());
+    QCOMPARE(bench.Make(Text("whole.dng"), Text("whole.png"), Text("PNG")).reason, QString());
+    for (const quint32 count : {0U, 100U, 100'000'000U}) {
+        bench.WriteBytes(Text("in.dng"),
+                         DngWithPixelsLast(1, [count](TiffDirectory& directory) { directory.AddLong(279, count); }));
+        QCOMPARE(bench.Make(Text("in.dng"), Text("out.png"), Text("PNG")).reason, QString());
+        QCOMPARE(
+            LargestDifference(ReadPicture(bench.Path(Text("out.png"))), ReadPicture(bench.Path(Text("whole.png")))),
+            0.0);
+    }
 }
 
 void tst_WorkerRaw::readsPlainTiffFilesUnderTheName()

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Loader.h"
+
+namespace BatchWorker {
+
+/// The picture of `source` by an operation of the imaging library, `factor` times smaller as `shrink` says.
+Picture LoadWithLibrary(const char* operation, const vips::VSource& source, LoaderShrink shrink = LoaderShrink::None,
+                        int factor = 1);
+
+} // namespace BatchWorker

@@ -1,0 +1,106 @@
+#include "TiffHandle.h"
+
+#include "server/worker/pixels/PictureFailure.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace BatchWorker {
+
+TiffHandle::TiffHandle(int source, qint64 largestAllocation)
+    : descriptor(fcntl(source, F_DUPFD_CLOEXEC, 0))
+{
+    const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
+                                                                                   TIFFOpenOptionsFree);
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), largestAllocation);
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), NoteError, this);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), IgnoreWarning, this);
+    // Not mapped: a file that shrinks meanwhile would end the process.
+    tiff = TIFFClientOpenExt("picture", "rm", this, Read, Write, Seek, Close, Size, nullptr, nullptr, options.get());
+    if (!tiff) {
+        close(descriptor);
+        throw DamagedFile(problem.isEmpty() ? QStringLiteral("its header cannot be read")
+                                            : QStringLiteral("its header cannot be read: %1").arg(problem));
+    }
+}
+
+TiffHandle::~TiffHandle()
+{
+    TIFFClose(tiff);
+    close(descriptor);
+}
+
+qint64 TiffHandle::FileSize() const
+{
+    struct stat status;
+    return fstat(descriptor, &status) == 0 ? qint64(status.st_size) : 0;
+}
+
+tmsize_t TiffHandle::Read(thandle_t self, void* bytes, tmsize_t count)
+{
+    auto* const handle = static_cast<TiffHandle*>(self);
+    tmsize_t done = 0;
+    while (done < count) {
+        const ssize_t step =
+            pread(handle->descriptor, static_cast<char*>(bytes) + done, std::size_t(count - done), handle->position);
+        if (step == 0 || (step < 0 && errno != EINTR)) {
+            break;
+        }
+        const ssize_t taken = step > 0 ? step : 0;
+        done += taken;
+        handle->position += taken;
+    }
+    return done;
+}
+
+tmsize_t TiffHandle::Write(thandle_t, void*, tmsize_t)
+{
+    return 0;
+}
+
+toff_t TiffHandle::Seek(thandle_t self, toff_t offset, int whence)
+{
+    auto* const handle = static_cast<TiffHandle*>(self);
+    const qint64 start = whence == SEEK_CUR ? handle->position : whence == SEEK_END ? handle->FileSize() : 0;
+    qint64 target = 0;
+    if (__builtin_add_overflow(start, qint64(offset), &target) || target < 0) {
+        errno = EINVAL;
+        return toff_t(-1);
+    }
+    handle->position = target;
+    return toff_t(target);
+}
+
+int TiffHandle::Close(thandle_t)
+{
+    return 0;
+}
+
+toff_t TiffHandle::Size(thandle_t self)
+{
+    return toff_t(static_cast<TiffHandle*>(self)->FileSize());
+}
+
+int TiffHandle::NoteError(TIFF*, void* self, const char*, const char* format, va_list values)
+{
+    auto* const handle = static_cast<TiffHandle*>(self);
+    if (handle->problem.isEmpty()) {
+        std::array<char, 300> text{};
+        std::vsnprintf(text.data(), text.size(), format, values);
+        handle->problem = QString::fromLocal8Bit(text.data());
+    }
+    return 1; // the decoder does nothing more about it
+}
+
+// They are about fields that the decoder does not know, or that it repairs.
+int TiffHandle::IgnoreWarning(TIFF*, void*, const char*, const char*, va_list)
+{
+    return 1;
+}
+
+} // namespace BatchWorker
