@@ -1,5 +1,7 @@
 #include "Loader.h"
 
+#include "Jpeg2000File.h"
+
 #include <array>
 
 namespace BatchWorker {
@@ -16,7 +18,7 @@ constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
 constexpr Loader Heif{"heifload_source", LoaderShrink::None};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None};
 constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
-constexpr Loader Jpeg2000{"jp2kload_source", LoaderShrink::None};
+constexpr Loader Jpeg2000{nullptr, LoaderShrink::None, ReadJpeg2000};
 constexpr Loader Gif{"gifload_source", LoaderShrink::None};
 
 } // namespace Loaders
