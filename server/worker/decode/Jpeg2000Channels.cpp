@@ -1,5 +1,7 @@
 #include "Jpeg2000Channels.h"
 
+#include "DecoderWarnings.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <algorithm>
@@ -256,15 +258,17 @@ Jpeg2000Channels ChannelsOf(const Jpeg2000Boxes& boxes, const Jpeg2000Codestream
     const int count = CountOf(result.colours);
     result.channels = assignment.ColourChannels(count);
     const auto [opacity, isMultiplied] = assignment.Opacity(count);
-    if (opacity >= 0) {
+    if (opacity >= 0 && result.colours == Colours::Cmyk) {
+        WarnOnce(warnings, WarningKind::Decoder, QStringLiteral("the transparency of a CMYK picture is left out"));
+    } else if (opacity >= 0) {
         result.channels.append(all[opacity]);
         result.hasOpacity = true;
         result.isMultiplied = isMultiplied;
     }
-    if (all.size() > result.channels.size()) {
-        warnings.append({WarningKind::Decoder, QStringLiteral("it has %1 channels; only the first %2 are used")
-                                                   .arg(all.size())
-                                                   .arg(result.channels.size())});
+    const int used = opacity >= 0 ? count + 1 : count;
+    if (all.size() > used) {
+        WarnOnce(warnings, WarningKind::Decoder,
+                 QStringLiteral("it has %1 channels; only the first %2 are used").arg(all.size()).arg(used));
     }
     return result;
 }

@@ -402,8 +402,11 @@ void Jpeg2000Codestream::ReadTileParts(const FileBytes& file, qint64 end)
         throw EndsEarly(present / tiles);
     }
     lacksEnd = !isEndMarked;
-    std::stable_sort(parts.begin(), parts.end(),
-                     [](const TilePart& one, const TilePart& other) { return one.tile < other.tile; });
+    const auto isBefore = [](const TilePart& one, const TilePart& other) { return one.tile < other.tile; };
+    if (hasPackedHeaders && !std::is_sorted(parts.begin(), parts.end(), isBefore)) {
+        throw Unsupported(QStringLiteral("packed headers of tiles that are not in order"));
+    }
+    std::stable_sort(parts.begin(), parts.end(), isBefore);
 }
 
 void Jpeg2000Codestream::ReadTilePartHeader(const FileBytes& file, const TilePart& part)

@@ -1,5 +1,6 @@
 #include "Jpeg2000Decoder.h"
 
+#include "DecoderWarnings.h"
 #include "Jpeg2000Stream.h"
 
 #include "server/worker/pixels/PictureFailure.h"
@@ -238,7 +239,7 @@ Jpeg2000Memory MemoryFor(const Jpeg2000Codestream& codestream)
     for (const Jpeg2000Codestream::Component& component : codestream.Components()) {
         const Area inTile = SamplesIn(tile, component.dx, component.dy);
         const qint64 samples = inTile.Width() * inTile.Height();
-        tileBytes += samples * (bytesOfSample + bytesOfBlock / codestream.SmallestBlock());
+        tileBytes += samples * bytesOfSample + samples * bytesOfBlock / codestream.SmallestBlock();
         memory.band += image.Width() / component.dx * inTile.Height() * rows * BytesOfSample(component.bits);
     }
     const qint64 tiles = qint64(codestream.TileColumns()) * rows;
@@ -271,10 +272,7 @@ Jpeg2000Band DecodeBand(const FileBytes& file, const Jpeg2000Codestream& codestr
         band.tiles.push_back(std::move(tile));
     }
     for (const QString& warning : reader.Warnings()) {
-        const Warning known{WarningKind::Decoder, warning};
-        if (!warnings.contains(known)) {
-            warnings.append(known);
-        }
+        WarnOnce(warnings, WarningKind::Decoder, warning);
     }
     return band;
 }

@@ -1,5 +1,6 @@
 #include "Jpeg2000File.h"
 
+#include "DecoderWarnings.h"
 #include "Jpeg2000Boxes.h"
 #include "Jpeg2000Channels.h"
 #include "Jpeg2000Codestream.h"
@@ -39,12 +40,12 @@ public:
         , warnings(warnings)
     {
         if (boxes.codestreams > 1) {
-            warnings.append({WarningKind::OtherPages,
-                             QStringLiteral("it has %1 pages; only the first is used").arg(boxes.codestreams)});
+            WarnOnce(warnings, WarningKind::OtherPages,
+                     QStringLiteral("it has %1 pages; only the first is used").arg(boxes.codestreams));
         }
         if (codestream.LacksEnd()) {
-            warnings.append({WarningKind::Incomplete,
-                             QStringLiteral("the file lacks its last bytes, but all of the picture is there")});
+            WarnOnce(warnings, WarningKind::Incomplete,
+                     QStringLiteral("the file lacks its last bytes, but all of the picture is there"));
         }
     }
 

@@ -6,7 +6,6 @@
 #include <QSize>
 
 #include <functional>
-#include <list>
 #include <vector>
 
 namespace BatchWorker {
@@ -51,7 +50,7 @@ private:
     std::vector<Place> PlacesAlong(int count, qint64 begin, int step, int spacing, double shift, qint64 first,
                                    qint64 end, bool isWhole) const;
     std::vector<double> SamplesOfLine(int component, qint64 y);
-    void FillChannel(int channel, int y);
+    void FillChannel(int index, int y);
 
     const Jpeg2000Codestream& codestream;
     const Jpeg2000Channels& channels;

@@ -129,6 +129,9 @@ MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file,
 {
     if (!source.Format().metadata.isProfileInDecoder) {
         const QByteArray boxes = WithoutHeader(file);
+        if (boxes.isEmpty()) {
+            return {}; // a codestream alone, which has no place for metadata
+        }
         const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
         return BlocksOf(*image);
     }

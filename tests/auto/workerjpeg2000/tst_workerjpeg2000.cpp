@@ -2,6 +2,7 @@
 #include "Jpeg2000Patterns.h"
 #include "WorkerBench.h"
 
+#include "job/values/JobValues.h"
 #include "server/worker/decode/PictureSource.h"
 #include "server/worker/metadata/BoxFile.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
@@ -221,8 +222,6 @@ void tst_WorkerJpeg2000::readsEveryValue_data()
         File(four, Colour(srgb) + Definitions({{0, 1, 0}, {1, 0, 1}, {2, 0, 2}, {3, 0, 3}})), 4,
         [plain](int channel, int x, int y) { return plain((channel + 1) % 4, x, y); });
     add("grey and opacity", File(Codestream(CodingOf(PatternPlanes(2, 8))), Colour(grey)), 2, plain);
-    add("a channel that is no opacity",
-        File(four, Colour(srgb) + Definitions({{0, 0, 1}, {1, 0, 2}, {2, 0, 3}, {3, 65535, 65535}})), 3, plain);
     add("colours multiplied with opacity",
         File(Codestream(CodingOf({{[](int x, int) { return x; }}, {[](int, int) { return 51; }}})),
              Colour(grey) + Definitions({{0, 0, 1}, {1, 2, 0}})),
@@ -247,6 +246,7 @@ void tst_WorkerJpeg2000::readsEveryValue()
     bench->WriteBytes(Text("in.jp2"), file);
     const Report report = bench->Make(Text("in.jp2"), Text("out.png"), Text("PNG"));
     QCOMPARE(report.reason, QString());
+    QCOMPARE(TextsOf(report.warnings), QStringList());
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     const double difference = Difference(result, QSize(width, height), bands, expected);
     QVERIFY2(difference == 0.0, qPrintable(QString::number(difference)));
@@ -336,6 +336,12 @@ void tst_WorkerJpeg2000::keepsInks()
     const Picture result = ReadPicture(bench->Path(Text("out.tif")));
     QCOMPARE(result.interpretation(), VIPS_INTERPRETATION_CMYK);
     QCOMPARE(Difference(result, QSize(width, height), 4, PatternPixel(8, 255)), 0.0);
+
+    bench->WriteBytes(Text("in.jp2"), File(Codestream(CodingOf(PatternPlanes(5, 8))), Colour(cmyk)));
+    const Report report = bench->Make(Text("in.jp2"), Text("out.tif"), Text("TIFF"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(TextsOf(report.warnings), QStringList{Text("the transparency of a CMYK picture is left out")});
+    QCOMPARE(Difference(ReadPicture(bench->Path(Text("out.tif"))), QSize(width, height), 4, PatternPixel(8, 255)), 0.0);
 }
 
 void tst_WorkerJpeg2000::readsHighThroughputCoding_data()
@@ -501,8 +507,10 @@ void tst_WorkerJpeg2000::warns_data()
     QTest::newRow("the mark of the end is missing")
         << File(rgb.left(rgb.size() - 2), Colour(srgb)) << Text("lacks its last bytes");
     QTest::newRow("two pictures") << boxed + Box("jp2c", rgb) << Text("it has 2 pages; only the first is used");
+    const QByteArray four = Codestream(CodingOf(PatternPlanes(4, 8)));
     QTest::newRow("a channel that is no opacity")
-        << File(Codestream(CodingOf(PatternPlanes(5, 8))), Colour(srgb)) << Text("it has 5 channels");
+        << File(four, Colour(srgb) + Definitions({{0, 0, 1}, {1, 0, 2}, {2, 0, 3}, {3, 65535, 65535}}))
+        << Text("it has 4 channels; only the first 3 are used");
 }
 
 void tst_WorkerJpeg2000::warns()
@@ -517,6 +525,15 @@ void tst_WorkerJpeg2000::warns()
     QVERIFY2(warnings.contains(words), qPrintable(warnings));
     QCOMPARE(report.warnings.size(), 1);
     QCOMPARE(Difference(ReadPicture(bench->Path(Text("out.png"))), QSize(width, height), 3, PatternPixel(8, 255)), 0.0);
+    // For this crop the file is read twice.
+    const auto trim = [](ZTBatchOutputSettings& output) {
+        ZTBatchOutputSettings::Crop crop;
+        crop.type = int(BatchJob::CropType::Trim);
+        output.SetCropSettings(crop);
+    };
+    const Report trimmed = bench->Make(Text("in.jp2"), Text("out.png"), Text("PNG"), {}, trim);
+    QCOMPARE(trimmed.reason, QString());
+    QCOMPARE(trimmed.warnings.size(), 1);
 }
 
 void tst_WorkerJpeg2000::refusesWhatTakesTooMuchMemory()
