@@ -279,10 +279,11 @@ void Jpeg2000Codestream::ReadRegistration(const QByteArray& segment)
 {
     constexpr double unitsOfCell = 65536;
     constexpr int entrySize = 4;
-    for (int i = 0; i < components.size(); ++i) {
-        const int place = 2 * markerSize + i * entrySize;
-        components[i].shiftX = Number(segment, place, 2) / unitsOfCell;
-        components[i].shiftY = Number(segment, place + 2, 2) / unitsOfCell;
+    int place = 2 * markerSize;
+    for (Component& component : components) {
+        component.shiftX = Number(segment, place, 2) / unitsOfCell;
+        component.shiftY = Number(segment, place + 2, 2) / unitsOfCell;
+        place += entrySize;
     }
 }
 

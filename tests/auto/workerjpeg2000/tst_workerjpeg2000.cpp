@@ -226,6 +226,13 @@ void tst_WorkerJpeg2000::readsEveryValue_data()
         File(Codestream(CodingOf({{[](int x, int) { return x; }}, {[](int, int) { return 51; }}})),
              Colour(grey) + Definitions({{0, 0, 1}, {1, 2, 0}})),
         2, [](int channel, int x, int) { return channel == 0 ? std::min(255.0, x * 5.0) : 51.0; });
+    const QByteArray fewer =
+        Codestream(CodingOf({PatternPlane(0, 8), {[](int x, int) { return 16 * x; }, 8, false, 4, 1}}));
+    add("opacity four times narrower", fewer, 2, [plain](int channel, int x, int y) {
+        return channel == 0 ? plain(0, x, y) : std::clamp(4.0 * x - 6, 0.0, 240.0);
+    });
+    add("samples where the file says, not in the middle", WithSegment(fewer, Bytes({0xFF63, 10, 0, 0, 0, 0}, 2)), 2,
+        [plain](int channel, int x, int y) { return channel == 0 ? plain(0, x, y) : 4.0 * x; });
     add("several kinds of colour, the first unknown", File(rgb, Colour(14) + Colour(srgb)), 3, plain);
     add("sYCC, as large as luma", File(Codestream(CodingOf(YccPlanes(1, 1))), Colour(sycc)), 3,
         [](int channel, int x, int y) {
