@@ -1,57 +1,48 @@
 #include "FileBytes.h"
 
+#include "server/worker/pixels/PictureFailure.h"
+
 #include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace BatchWorker {
 
-FileBytes::FileBytes(int descriptor, qint64 start)
-    : descriptor(descriptor)
-    , nextBlock(start)
+FileBytes::FileBytes(int descriptor)
+    : file(fcntl(descriptor, F_DUPFD_CLOEXEC, 0))
 {
-}
-
-int FileBytes::Next()
-{
-    return taken < filled || Fill() ? block[std::size_t(taken++)] : -1;
-}
-
-int FileBytes::NextWord()
-{
-    const int high = Next();
-    const int low = Next();
-    return low < 0 ? -1 : high * 256 + low;
-}
-
-int FileBytes::NextLittleWord()
-{
-    const int low = Next();
-    const int high = Next();
-    return high < 0 ? -1 : high * 256 + low;
-}
-
-void FileBytes::Skip(qint64 count)
-{
-    const qint64 left = filled - taken;
-    if (count <= left) {
-        taken += int(count);
-        return;
+    struct stat status;
+    if (file < 0 || fstat(file, &status) != 0) {
+        throw DamagedFile(qt_error_string(errno));
     }
-    nextBlock += count - left;
-    taken = filled;
+    size = status.st_size;
 }
 
-bool FileBytes::Fill()
+FileBytes::~FileBytes()
 {
-    ssize_t count = 0;
-    do {
-        count = pread(descriptor, block.data(), block.size(), nextBlock);
-    } while (count < 0 && errno == EINTR);
-    filled = int(count > 0 ? count : 0);
-    taken = 0;
-    nextBlock += filled;
-    isAtEnd = filled == 0;
-    return !isAtEnd;
+    close(file);
+}
+
+qint64 FileBytes::Read(qint64 offset, void* target, qint64 length) const
+{
+    qint64 done = 0;
+    while (done < length) {
+        const ssize_t count = pread(file, static_cast<char*>(target) + done, std::size_t(length - done), offset + done);
+        if (count > 0) {
+            done += count;
+        } else if (count == 0 || errno != EINTR) {
+            break;
+        }
+    }
+    return done;
+}
+
+QByteArray FileBytes::At(qint64 offset, int length) const
+{
+    QByteArray bytes(length, '\0');
+    bytes.truncate(int(Read(offset, bytes.data(), length)));
+    return bytes;
 }
 
 } // namespace BatchWorker

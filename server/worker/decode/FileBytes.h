@@ -1,41 +1,30 @@
 #pragma once
 
-#include <QtGlobal>
-
-#include <array>
-#include <cstdint>
+#include <QByteArray>
 
 namespace BatchWorker {
 
-/// The bytes of a file, one after the other, past the position that its descriptor has.
+/// The bytes of an open file by their places. Several users of one file do not disturb each other.
 class FileBytes
 {
 public:
-    explicit FileBytes(int descriptor, qint64 start = 0);
+    /// Reads from a duplicate of `descriptor`. Throws PictureFailure when there is none to be had.
+    explicit FileBytes(int descriptor);
+    ~FileBytes();
 
-    /// -1 at the end.
-    int Next();
+    qint64 Size() const { return size; }
 
-    /// Two bytes, the higher one first; -1 at the end.
-    int NextWord();
+    /// Copies up to `length` bytes from `offset` on; returns how many there were before the end or an error.
+    qint64 Read(qint64 offset, void* target, qint64 length) const;
 
-    /// Two bytes, the lower one first; -1 at the end.
-    int NextLittleWord();
-
-    void Skip(qint64 count);
-
-    bool IsAtEnd() const { return isAtEnd; }
+    /// The same as a byte array, shorter where the file ends.
+    QByteArray At(qint64 offset, int length) const;
 
 private:
-    bool Fill();
+    Q_DISABLE_COPY(FileBytes)
 
-    static constexpr int blockSize = 64 << 10;
-    int descriptor;
-    qint64 nextBlock; ///< where it begins in the file
-    std::array<std::uint8_t, blockSize> block{};
-    int filled = 0;
-    int taken = 0;
-    bool isAtEnd = false;
+    int file;
+    qint64 size = 0;
 };
 
 } // namespace BatchWorker

@@ -1,6 +1,6 @@
 #include "GifFile.h"
 
-#include "FileBytes.h"
+#include "ByteScanner.h"
 #include "LibraryLoader.h"
 
 #include "server/worker/pixels/PixelForms.h"
@@ -16,7 +16,7 @@ namespace BatchWorker {
 
 namespace {
 
-void SkipPalette(FileBytes& file, int flags)
+void SkipPalette(ByteScanner& file, int flags)
 {
     constexpr int hasPalette = 0x80;
     constexpr int sizeBits = 7;
@@ -25,7 +25,7 @@ void SkipPalette(FileBytes& file, int flags)
     }
 }
 
-void SkipExtension(FileBytes& file)
+void SkipExtension(ByteScanner& file)
 {
     file.Next(); // its kind
     for (int size = file.Next(); size > 0; size = file.Next()) {
@@ -41,7 +41,7 @@ std::optional<QRect> FirstFrame(int descriptor)
     constexpr int backgroundAndAspect = 2;
     constexpr int extension = 0x21;
     constexpr int frame = 0x2C;
-    FileBytes file(descriptor);
+    ByteScanner file(descriptor);
     file.Skip(signatureAndCanvas);
     const int flags = file.Next();
     file.Skip(backgroundAndAspect);

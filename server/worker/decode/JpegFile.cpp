@@ -1,6 +1,6 @@
 #include "JpegFile.h"
 
-#include "FileBytes.h"
+#include "ByteScanner.h"
 #include "JpegTrial.h"
 #include "LibraryLoader.h"
 
@@ -65,7 +65,7 @@ void RequireKnownFrame(int marker, int bits)
 // Reads marker by marker, and in scans for markers. False when there is no end marker.
 bool HasEnd(int descriptor, bool isSurelyThere)
 {
-    FileBytes file(descriptor);
+    ByteScanner file(descriptor);
     for (int byte = file.Next(); byte >= 0; byte = file.Next()) {
         if (byte != fill) {
             continue;

@@ -5,13 +5,18 @@ namespace BatchWorker {
 
 namespace {
 
+// The library ends the process over anything but three bands, and writes noise into the last column or line of colours
+// where a side is odd.
+bool CanSubsample(const Picture& picture)
+{
+    return picture.bands() == 3 && picture.width() % 2 == 0 && picture.height() % 2 == 0;
+}
+
 void SetArguments(vips::VOption* arguments, const QJsonObject& options, const Picture& picture)
 {
-    // The library ends the process over anything but three bands to be subsampled.
-    const bool isColourOnly = picture.bands() == 3;
     arguments->set("Q", IntegerOption(options, "quality"))
         ->set("lossless", TruthOption(options, "lossless"))
-        ->set("subsample_mode", isColourOnly ? Subsampling(options) : VIPS_FOREIGN_SUBSAMPLE_OFF);
+        ->set("subsample_mode", CanSubsample(picture) ? Subsampling(options) : VIPS_FOREIGN_SUBSAMPLE_OFF);
 }
 
 } // namespace

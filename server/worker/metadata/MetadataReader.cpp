@@ -124,17 +124,16 @@ MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
 }
 
 // The metadata library refuses a whole file over a damaged profile, so the blocks are read past the profile. The
-// warning about the profile comes from where colours are read, except where the profile is read here.
-MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source,
-                            Warnings& warnings)
+// warning about the profile comes from where colours are read.
+MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source)
 {
     if (!source.Format().metadata.isProfileInDecoder) {
         const QByteArray boxes = WithoutHeader(file);
+        if (boxes.isEmpty()) {
+            return {}; // a codestream alone, which has no place for metadata
+        }
         const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
-        MetadataBlocks blocks = BlocksOf(*image);
-        warnings.append(
-            {WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile is damaged and is not used")});
-        return blocks;
+        return BlocksOf(*image);
     }
     if (problem.code() == Exiv2::kerInvalidIccProfile) {
         return BlocksOfDecoder(file, source);
@@ -149,7 +148,7 @@ bool HasTruncatedProfile(const PictureSource& source)
     return size > 0 && size < shortest;
 }
 
-MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, Warnings& warnings)
+MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source)
 {
     if (source.Format().metadata.reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
@@ -157,7 +156,7 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source,
     try {
         return BlocksOfFile(file, source);
     } catch (const Exiv2::AnyError& problem) {
-        return BlocksAround(problem, file, source, warnings);
+        return BlocksAround(problem, file, source);
     }
 }
 
@@ -166,7 +165,7 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source,
 MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
 {
     try {
-        return BlocksOfAnyFile(file, source, warnings);
+        return BlocksOfAnyFile(file, source);
     } catch (const Exiv2::AnyError& problem) {
         warnings.append(
             {WarningKind::MetadataLost,

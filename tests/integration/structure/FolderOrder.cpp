@@ -77,13 +77,13 @@ bool FolderOrder::MayUse(const QString& part, const QString& usedPart)
 
 bool FolderOrder::IsImagingHeader(const QString& include)
 {
-    return StartsWithOneOf(include, {Text("vips/"), Text("libraw/"), Text("exiv2/"), Text("lcms2")});
+    return StartsWithOneOf(include, {Text("vips/"), Text("libraw/"), Text("exiv2/"), Text("lcms2"), Text("openjpeg")});
 }
 
 bool FolderOrder::IsImagingTarget(const QString& target)
 {
     return StartsWithOneOf(target, {Text("PkgConfig::vips"), Text("PkgConfig::libraw"), Text("PkgConfig::exiv2"),
-                                    Text("PkgConfig::lcms2")});
+                                    Text("PkgConfig::lcms2"), Text("PkgConfig::openjpeg")});
 }
 
 bool FolderOrder::MayUseImaging(const QString& part)
