@@ -36,6 +36,17 @@ bool MustStrip(const FormatSchema& format, const Picture& picture)
     return false;
 }
 
+void Operate(const FormatEncoder& encoder, const Picture& picture, const QJsonObject& options, bool isStripped,
+             const vips::VTarget& target)
+{
+    vips::VOption* arguments = Picture::option()->set("in", picture)->set("target", target);
+    encoder.setArguments(arguments, options, picture);
+    if (isStripped) {
+        arguments->set("strip", true);
+    }
+    Picture::call(encoder.operation, arguments);
+}
+
 } // namespace
 
 int ResultDepth(const FormatSchema& format, const QJsonObject& options, bool isDeep)
@@ -62,12 +73,7 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
             bool withoutExif, int descriptor)
 {
     const FormatEncoder& encoder = EncoderOf(format);
-    const ResultTarget result(descriptor, before);
-    vips::VOption* arguments = Picture::option()->set("in", picture)->set("target", result.Target());
-    encoder.setArguments(arguments, options, picture);
-    if (withoutExif && MustStrip(format, picture)) {
-        arguments->set("strip", true);
-    }
+    const ResultTarget result(descriptor, encoder.write ? QByteArray() : before);
     const auto checkFile = [&result] {
         if (result.Problem() != 0) {
             vips_error_clear();
@@ -75,7 +81,11 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
         }
     };
     try {
-        Picture::call(encoder.operation, arguments);
+        if (encoder.write) {
+            encoder.write(picture, options, before, result.Target());
+        } else {
+            Operate(encoder, picture, options, withoutExif && MustStrip(format, picture), result.Target());
+        }
     } catch (const vips::VError&) {
         checkFile();
         throw;

@@ -7,7 +7,7 @@
 
 namespace BatchWorker {
 
-/// How the imaging library writes a format.
+/// How a format is written: by an operation of the imaging library, or by `write`.
 struct FormatEncoder
 {
     /// The library's operation that writes to a target.
@@ -18,6 +18,11 @@ struct FormatEncoder
 
     /// Some versions of this encoder end the process for some depths above 8 bits, instead of failing.
     bool mayCrashWhenDeep = false;
+
+    /// Writes what the library's operation cannot write well: `picture`, which is ready to be written, after `before`
+    /// (see Encode()). `options` are complete. Throws PictureFailure and vips::VError.
+    void (*write)(const Picture& picture, const QJsonObject& options, const QByteArray& before,
+                  const vips::VTarget& target) = nullptr;
 };
 
 /// The encoder of `format`, which is one of Formats().

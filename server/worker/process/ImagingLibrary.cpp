@@ -86,7 +86,9 @@ void AllowKnownFormatsOnly()
         }
     }
     for (const FormatSchema& format : Formats()) {
-        Allow(EncoderOf(format).operation);
+        if (const char* const encoder = EncoderOf(format).operation) {
+            Allow(encoder);
+        }
     }
 }
 
