@@ -1,5 +1,7 @@
 #include "Loader.h"
 
+#include "JpegXlFile.h"
+
 #include <array>
 
 namespace BatchWorker {
@@ -15,7 +17,7 @@ constexpr Loader Tiff{"tiffload_source", LoaderShrink::None};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
 constexpr Loader Heif{"heifload_source", LoaderShrink::None};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None};
-constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
+constexpr Loader JpegXl{nullptr, LoaderShrink::None, ReadJpegXl};
 constexpr Loader Jpeg2000{"jp2kload_source", LoaderShrink::None};
 constexpr Loader Gif{"gifload_source", LoaderShrink::None};
 
