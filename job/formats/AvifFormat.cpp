@@ -19,7 +19,7 @@ FormatSchema AvifFormat()
     format.metadata.exifRemoval = ExifRemoval::StripIfAlone;
     format.metadata.hasXmpWrapper = false;
     format.options = WithCommonOptions({Quality(65), Lossless("keep every pixel, but for a last step of rounding"),
-                                        Effort(4), ChromaSubsampling(), BitDepth(format.bitDepths)});
+                                        Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

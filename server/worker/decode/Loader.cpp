@@ -4,6 +4,7 @@
 #include "HeifColours.h"
 #include "Jpeg2000File.h"
 #include "JpegFile.h"
+#include "JpegXlFile.h"
 #include "PngColours.h"
 #include "TiffFile.h"
 
@@ -22,7 +23,7 @@ constexpr Loader Tiff{nullptr, LoaderShrink::None, ReadTiff};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
 constexpr Loader Heif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
 constexpr Loader Avif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
-constexpr Loader JpegXl{"jxlload_source", LoaderShrink::None};
+constexpr Loader JpegXl{nullptr, LoaderShrink::None, ReadJpegXl};
 constexpr Loader Jpeg2000{nullptr, LoaderShrink::None, ReadJpeg2000};
 constexpr Loader Gif{"gifload_source", LoaderShrink::None, ReadGif};
 

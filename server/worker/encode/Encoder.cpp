@@ -37,6 +37,17 @@ bool MustStrip(const FormatSchema& format, const Picture& picture)
     return false;
 }
 
+void Operate(const FormatEncoder& encoder, const Picture& picture, const QJsonObject& options, bool isStripped,
+             const vips::VTarget& target)
+{
+    vips::VOption* arguments = Picture::option()->set("in", picture)->set("target", target);
+    encoder.setArguments(arguments, options, picture);
+    if (isStripped) {
+        arguments->set("strip", true);
+    }
+    Picture::call(encoder.operation, arguments);
+}
+
 } // namespace
 
 int ResultDepth(const FormatSchema& format, const QJsonObject& options, bool isDeep)
@@ -64,14 +75,9 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
 {
     const FormatEncoder& encoder = EncoderOf(format);
     const QByteArray profile = encoder.profileBytes ? ProfileOf(picture) : QByteArray();
-    const bool isAdded = !profile.isEmpty();
-    const ResultTarget result(descriptor, isAdded ? encoder.profileBytes(profile) : AddedBytes{before, 0});
-    const Picture bare = isAdded ? WithProfile(picture, {}) : picture;
-    vips::VOption* arguments = Picture::option()->set("in", bare)->set("target", result.Target());
-    encoder.setArguments(arguments, options, picture);
-    if (withoutExif && MustStrip(format, picture)) {
-        arguments->set("strip", true);
-    }
+    const AddedBytes start{encoder.write ? QByteArray() : before, 0};
+    const ResultTarget result(descriptor, profile.isEmpty() ? start : encoder.profileBytes(profile));
+    const Picture bare = profile.isEmpty() ? picture : WithProfile(picture, {});
     const auto checkFile = [&result] {
         if (result.Problem() != 0) {
             vips_error_clear();
@@ -79,7 +85,11 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
         }
     };
     try {
-        Picture::call(encoder.operation, arguments);
+        if (encoder.write) {
+            encoder.write(picture, options, before, result.Target());
+        } else {
+            Operate(encoder, bare, options, withoutExif && MustStrip(format, picture), result.Target());
+        }
     } catch (const vips::VError&) {
         checkFile();
         throw;

@@ -35,7 +35,12 @@ bool TryToWrite(const FormatSchema& format, const QJsonObject& options, bool isD
                                   .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
         const Picture ready = WithDepth(black, isDeep ? 16 : 8);
         const FormatEncoder& encoder = EncoderOf(format);
-        vips::VOption* arguments = Picture::option()->set("in", ready)->set("target", vips::VTarget::new_to_memory());
+        const vips::VTarget target = vips::VTarget::new_to_memory();
+        if (encoder.write) {
+            encoder.write(ready, options, {}, target);
+            return true;
+        }
+        vips::VOption* arguments = Picture::option()->set("in", ready)->set("target", target);
         encoder.setArguments(arguments, options, ready);
         Picture::call(encoder.operation, arguments);
         return true;

@@ -9,7 +9,7 @@
 
 namespace BatchWorker {
 
-/// How the imaging library writes a format.
+/// How a format is written: by an operation of the imaging library, or by `write`.
 struct FormatEncoder
 {
     /// The library's operation that writes to a target.
@@ -24,6 +24,11 @@ struct FormatEncoder
     /// The bytes in which a file carries `profile`, where the library's own way of writing it may lose it; null where
     /// that does not happen.
     AddedBytes (*profileBytes)(const QByteArray& profile) = nullptr;
+
+    /// Writes what the library's operation cannot write well: `picture`, which is ready to be written, after `before`
+    /// (see Encode()). `options` are complete. Throws PictureFailure and vips::VError.
+    void (*write)(const Picture& picture, const QJsonObject& options, const QByteArray& before,
+                  const vips::VTarget& target) = nullptr;
 };
 
 /// The encoder of `format`, which is one of Formats().

@@ -96,7 +96,9 @@ void AllowKnownFormatsOnly()
         }
     }
     for (const FormatSchema& format : Formats()) {
-        Allow(EncoderOf(format).operation);
+        if (const char* const encoder = EncoderOf(format).operation) {
+            Allow(encoder);
+        }
     }
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace BatchWorker {
+
+/// How many bytes this process may still take, by the limit that it was given; very many without a limit. Libraries
+/// that end the process where memory is short are asked for no more than this.
+qint64 FreeMemory();
+
+} // namespace BatchWorker
