@@ -32,6 +32,9 @@ void NoteWarning(const char* message)
     if (text.contains(QLatin1String("ignoring nclx profile"))) {
         return; // said of every file that has an ICC profile too, which is used
     }
+    if (text.contains(QLatin1String("unknown field with tag"), Qt::CaseInsensitive)) {
+        return; // said of every tag of makers and programs that the library does not list; none concerns the pixels
+    }
     const Warning warning{WarningKind::Decoder, text};
     if (warnings.size() < most && !warnings.contains(warning)) {
         warnings.append(warning);
