@@ -36,6 +36,9 @@ public:
     /// The EXIF orientation, 1 to 8: how the stored picture has to be turned to be upright.
     int Orientation() const { return orientation; }
 
+    /// For an orientation that the decoder does not see.
+    void SetOrientation(int known) { orientation = known; }
+
     /// Whether a channel has more than 8 bits.
     bool IsDeep() const;
 

@@ -120,6 +120,13 @@ QByteArray Metadata::Profile() const
     return d->profile;
 }
 
+std::optional<int> Metadata::Orientation() const
+{
+    const auto found = d->exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+    const long orientation = found == d->exif.end() || found->count() == 0 ? 0 : found->toLong();
+    return orientation >= 1 && orientation <= 8 ? std::optional<int>(int(orientation)) : std::nullopt;
+}
+
 QDateTime Metadata::Captured() const
 {
     // "2024:05:31 17:08:09", without a time zone: the clock of the camera.

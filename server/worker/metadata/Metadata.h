@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace BatchWorker {
 
@@ -30,6 +31,9 @@ public:
 
     /// The ICC profile of a file whose decoder does not hand it over (MetadataSupport::isProfileInDecoder); else empty.
     QByteArray Profile() const;
+
+    /// The EXIF orientation, 1 to 8; nothing if there is none.
+    std::optional<int> Orientation() const;
 
     /// The EXIF original time, by the camera's clock; invalid if there is none.
     QDateTime Captured() const;

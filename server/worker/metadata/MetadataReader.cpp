@@ -2,6 +2,7 @@
 
 #include "BoxFile.h"
 #include "JxlBoxes.h"
+#include "PngChunks.h"
 
 #include "server/worker/decode/PictureSource.h"
 
@@ -90,6 +91,14 @@ QByteArray WithoutHeader(const QString& path)
     return kept;
 }
 
+// Not the file itself: the library would read every block of a kind, and the pixels.
+MetadataBlocks BlocksOfChunks(const QString& file)
+{
+    const QByteArray chunks = PngWithoutPixels(file);
+    const auto image = Exiv2::ImageFactory::open(Data(chunks), long(chunks.size()));
+    return BlocksOf(*image);
+}
+
 // The decoder hands over a block of Photoshop resources, one of which holds the records of IPTC.
 void ReadIptc(QByteArray block, Exiv2::IptcData& iptc)
 {
@@ -151,7 +160,11 @@ bool HasTruncatedProfile(const PictureSource& source)
 
 MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source, Warnings& warnings)
 {
-    if (source.Format().metadata.reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
+    const MetadataReading reading = source.Format().metadata.reading;
+    if (reading == MetadataReading::FromChunks) {
+        return BlocksOfChunks(file);
+    }
+    if (reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
     }
     try {

@@ -62,6 +62,9 @@ public:
     {
         WarnOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
+        if (!source.Format().metadata.isOrientationInDecoder) {
+            source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
+        }
     }
 
     MadePicture Make();
