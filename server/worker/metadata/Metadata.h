@@ -38,15 +38,15 @@ public:
     /// The EXIF original time, by the camera's clock; invalid if there is none.
     QDateTime Captured() const;
 
-    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" positions are removed from XMP,
-    /// too.
+    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" all places are removed from the
+    /// others, too, see Places.h.
     void KeepOnly(const QStringList& kinds);
 
     /// Whether the result must have no EXIF block: EXIF is not kept, and no GPS positions are left in it.
     bool GoWithoutExif() const;
 
     /// Makes the entries that describe the pixels fit the result: upright, `size` pixels, `dotsPerInch`. Removes the
-    /// preview of the source and the entries that describe how its pixels are stored.
+    /// previews of the source and the entries that describe how it is stored, see SourceTraces.h.
     void DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb);
 
     /// Moves the captions and keywords of IPTC to XMP, for formats that cannot hold IPTC.
