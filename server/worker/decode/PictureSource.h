@@ -7,6 +7,7 @@
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QSize>
 #include <QString>
 
@@ -38,6 +39,9 @@ public:
 
     /// For an orientation that the decoder does not see.
     void SetOrientation(int known) { orientation = known; }
+
+    /// When the picture was taken, as the decoder of camera RAW says; invalid for others.
+    QDateTime Captured() const;
 
     /// Whether a channel has more than 8 bits.
     bool IsDeep() const;

@@ -6,6 +6,8 @@
 
 #include <libraw/libraw.h>
 
+#include <ctime>
+
 namespace BatchWorker {
 
 namespace {
@@ -68,6 +70,12 @@ int RawFile::Orientation() const
     default:
         return 1;
     }
+}
+
+QDateTime RawFile::Captured() const
+{
+    const std::time_t time = raw->imgdata.other.timestamp;
+    return time > 0 ? QDateTime::fromSecsSinceEpoch(time) : QDateTime();
 }
 
 Picture RawFile::Develop(bool isHalf)

@@ -1,5 +1,6 @@
 #include "Metadata.h"
 
+#include "CaptureTime.h"
 #include "MetadataReader.h"
 #include "Places.h"
 #include "RemoveEntries.h"
@@ -22,6 +23,7 @@ void StartExiv2()
 {
     static const bool isStarted = [] {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(); // for camera RAW that is built of boxes
         return Exiv2::XmpParser::initialize();
     }();
     Q_UNUSED(isStarted)
@@ -77,14 +79,7 @@ std::optional<int> Metadata::Orientation() const
 
 QDateTime Metadata::Captured() const
 {
-    // "2024:05:31 17:08:09", without a time zone: the clock of the camera.
-    const auto found = d->exif.findKey(Exiv2::ExifKey("Exif.Photo.DateTimeOriginal"));
-    if (found == d->exif.end()) {
-        return {};
-    }
-    constexpr int length = 19;
-    return QDateTime::fromString(QString::fromStdString(found->toString()).left(length),
-                                 QStringLiteral("yyyy:MM:dd HH:mm:ss"));
+    return CaptureTime(*d);
 }
 
 void Metadata::KeepOnly(const QStringList& kinds)

@@ -35,7 +35,7 @@ public:
     /// The EXIF orientation, 1 to 8; nothing if there is none.
     std::optional<int> Orientation() const;
 
-    /// The EXIF original time, by the camera's clock; invalid if there is none.
+    /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.
     QDateTime Captured() const;
 
     /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" all places are removed from the

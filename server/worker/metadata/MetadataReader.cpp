@@ -1,6 +1,7 @@
 #include "MetadataReader.h"
 
 #include "BoxFile.h"
+#include "ItemBoxes.h"
 #include "JxlBoxes.h"
 #include "PngChunks.h"
 
@@ -174,9 +175,7 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source,
     }
 }
 
-} // namespace
-
-MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
+MetadataBlocks BlocksOrWarning(const QString& file, const PictureSource& source, Warnings& warnings)
 {
     try {
         return BlocksOfAnyFile(file, source, warnings);
@@ -186,6 +185,16 @@ MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Wa
              QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});
         return {};
     }
+}
+
+} // namespace
+
+MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
+{
+    MetadataBlocks blocks = BlocksOrWarning(file, source, warnings);
+    const QDateTime inBoxes = ReadItemBoxes(file).created;
+    blocks.created = inBoxes.isValid() ? inBoxes : source.Captured();
+    return blocks;
 }
 
 } // namespace BatchWorker
