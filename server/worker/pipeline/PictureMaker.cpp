@@ -17,6 +17,7 @@
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
+#include "server/worker/metadata/GainMap.h"
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -65,12 +66,14 @@ public:
         if (!source.Format().metadata.isOrientationInDecoder) {
             source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
         }
+        WarnOfGainMap();
     }
 
     MadePicture Make();
 
 private:
     void WarnOfOtherPages();
+    void WarnOfGainMap();
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
     Picture Decoded(int shrink);
@@ -121,6 +124,15 @@ void PictureRun::WarnOfOtherPages()
             {WarningKind::OtherPages, QStringLiteral("it has %1 pages; only the %2 is used")
                                           .arg(pages)
                                           .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first"))});
+    }
+}
+
+void PictureRun::WarnOfGainMap()
+{
+    if (HasGainMap(task.inputFile)) {
+        made.warnings.append({WarningKind::GainMapLost,
+                              QStringLiteral("it has a gain map, which the result lacks: highlights are no longer "
+                                             "brighter on HDR screens")});
     }
 }
 
