@@ -51,7 +51,8 @@ enum class FormatPages {
 enum class MetadataReading {
     FromFile,    ///< the metadata library reads the file
     FromDecoder, ///< the decoder hands over the blocks
-    FromBoxes    ///< the worker finds the blocks in the boxes of the file
+    FromBoxes,   ///< the worker finds the blocks in the boxes of the file
+    FromChunks   ///< the worker finds the blocks in the chunks of the file
 };
 
 /// How the worker writes metadata.
@@ -80,9 +81,14 @@ struct MetadataSupport
     MetadataReading reading = MetadataReading::FromFile;
     MetadataWriting writing = MetadataWriting::ByEncoder;
     ExifRemoval exifRemoval = ExifRemoval::NotNeeded;
-    int longestBlock = 0;      ///< bytes; 0: no limit
-    int shortestProfile = 0;   ///< bytes; after a shorter profile the metadata library finds nothing
-    bool hasXmpWrapper = true; ///< readers expect XMP in a packet
+    bool isExifRepeated = false; ///< the encoder writes the EXIF block twice; the second one is cut out
+    int longestBlock = 0;        ///< bytes; 0: no limit
+    int shortestProfile = 0;     ///< bytes; after a shorter profile the metadata library finds nothing
+    bool hasXmpWrapper = true;   ///< readers expect XMP in a packet
+
+    /// The decoder tells the orientation or has turned the picture. If not, the EXIF block says it, which the decoder
+    /// does not see everywhere in the file.
+    bool isOrientationInDecoder = true;
 
     /// The decoder and the encoder handle the colour profile. If not, the metadata library does.
     bool isProfileInDecoder = true;

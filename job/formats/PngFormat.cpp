@@ -16,6 +16,9 @@ FormatSchema PngFormat()
     format.bitDepths = {8, 16};
     format.longestSide = 1'000'000;
     format.loss = FormatLoss::Never;
+    format.metadata.reading = MetadataReading::FromChunks;
+    format.metadata.isOrientationInDecoder = false;
+    format.metadata.isExifRepeated = true;
     const ParameterSchema compressionLevel{QStringLiteral("compressionLevel"),
                                            ParameterType::Integer,
                                            6,

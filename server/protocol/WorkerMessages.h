@@ -71,7 +71,7 @@ struct Report
     QString nearestFormat;                                     ///< for WriteToFormat, and of a probe: a format that can
                                                                ///< hold the picture, one of Formats()
     QString inputFormat;                                       ///< of a probe: as FormatOfFile() names it
-    QDateTime captured;                                        ///< of a probe: EXIF original time, else the file's time
+    QDateTime captured;                                        ///< of a probe: what the file says, else the file's time
     qint64 outputBytes = 0;                                    ///< of a picture that was written
 };
 

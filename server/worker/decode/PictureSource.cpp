@@ -115,6 +115,11 @@ PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
 
 PictureSource::~PictureSource() = default;
 
+QDateTime PictureSource::Captured() const
+{
+    return raw ? raw->Captured() : QDateTime();
+}
+
 bool PictureSource::IsDeep() const
 {
     return raw != nullptr || header.format() != VIPS_FORMAT_UCHAR;

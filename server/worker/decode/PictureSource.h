@@ -10,6 +10,7 @@
 #include "server/worker/pixels/Picture.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QSize>
 #include <QString>
 
@@ -38,6 +39,12 @@ public:
 
     /// The EXIF orientation, 1 to 8: how the stored picture has to be turned to be upright.
     int Orientation() const { return orientation; }
+
+    /// For an orientation that the decoder does not see.
+    void SetOrientation(int known) { orientation = known; }
+
+    /// When the picture was taken, as the decoder of camera RAW says; invalid for others.
+    QDateTime Captured() const;
 
     /// Whether a channel has more than 8 bits.
     bool IsDeep() const;

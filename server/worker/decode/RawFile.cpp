@@ -9,6 +9,8 @@
 
 #include <array>
 
+#include <ctime>
+
 namespace BatchWorker {
 
 namespace {
@@ -66,6 +68,12 @@ int RawFile::Orientation() const
     // The decoder's flags: 1 mirrors left and right, 2 up and down, 4 exchanges rows and columns, after that.
     constexpr std::array orientations{1, 2, 4, 3, 5, 8, 6, 7};
     return orientations[std::size_t(raw->imgdata.sizes.flip) % orientations.size()];
+}
+
+QDateTime RawFile::Captured() const
+{
+    const std::time_t time = raw->imgdata.other.timestamp;
+    return time > 0 ? QDateTime::fromSecsSinceEpoch(time) : QDateTime();
 }
 
 Picture RawFile::Develop(bool isHalf)

@@ -2,6 +2,7 @@
 
 #include "server/worker/pixels/Picture.h"
 
+#include <QDateTime>
 #include <QSize>
 #include <QString>
 
@@ -30,6 +31,9 @@ public:
 
     /// EXIF orientation, 1 to 8.
     int Orientation() const;
+
+    /// By the camera's clock; invalid if the file does not say it.
+    QDateTime Captured() const;
 
     /// Develops the picture. With `isHalf` four sensor elements make one pixel, which takes a quarter of time and
     /// memory. To be called once. Throws PictureFailure when the file is damaged.

@@ -7,23 +7,33 @@ namespace BatchWorker {
 namespace {
 
 constexpr int headerSize = 8;
+constexpr int longSize = 8;
+
+// Instead of sizes.
+constexpr int sizeUpToEnd = 0;
+constexpr int sizeBehindType = 1;
 
 } // namespace
 
-std::optional<BoxHeader> NextBox(QFile& file)
+std::optional<BoxHeader> NextBox(QIODevice& file)
 {
     const QByteArray header = file.read(headerSize);
     if (header.size() < headerSize) {
         return std::nullopt;
     }
     qint64 size = qFromBigEndian<quint32>(header.constData());
-    if (size == 0) {
-        size = headerSize + file.size() - file.pos(); // up to the file's end
+    qint64 read = headerSize;
+    if (size == sizeUpToEnd) {
+        size = read + file.size() - file.pos();
+    } else if (size == sizeBehindType) {
+        const QByteArray longer = file.read(longSize);
+        size = longer.size() < longSize ? 0 : qFromBigEndian<qint64>(longer.constData());
+        read += longSize;
     }
-    if (size < headerSize || size - headerSize > file.size() - file.pos()) {
+    if (size < read || size - read > file.size() - file.pos()) {
         return std::nullopt;
     }
-    return BoxHeader{header.mid(boxTypeSize), size - headerSize};
+    return BoxHeader{header.mid(boxTypeSize), size - read};
 }
 
 QByteArray Box(const QByteArray& type, const QByteArray& content)

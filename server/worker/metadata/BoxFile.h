@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QFile>
+#include <QIODevice>
 
 #include <optional>
 
-/// Files that consist of boxes, such as JPEG 2000 and JPEG XL. The header of a box holds its size and its type.
+/// Files that consist of boxes, such as JPEG 2000, JPEG XL and HEIF. The header of a box holds its size and its type.
 namespace BatchWorker {
 
 constexpr int boxTypeSize = 4;
@@ -17,8 +17,8 @@ struct BoxHeader
 };
 
 /// Reads the header of the box at the position of `file`, up to the box's content. Nothing at the end of the file and
-/// for a malformed box. Sizes of 64 bits are not supported.
-std::optional<BoxHeader> NextBox(QFile& file);
+/// for a malformed box.
+std::optional<BoxHeader> NextBox(QIODevice& file);
 
 /// A box of `type` that holds `content`.
 QByteArray Box(const QByteArray& type, const QByteArray& content);

@@ -1,12 +1,14 @@
 #include "Metadata.h"
 
+#include "CaptureTime.h"
 #include "MetadataReader.h"
+#include "Places.h"
+#include "RemoveEntries.h"
+#include "SourceTraces.h"
 
 #include <QFile>
 
 #include <exiv2/exiv2.hpp>
-
-#include <algorithm>
 
 namespace BatchWorker {
 
@@ -21,62 +23,10 @@ void StartExiv2()
 {
     static const bool isStarted = [] {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(); // for camera RAW that is built of boxes
         return Exiv2::XmpParser::initialize();
     }();
     Q_UNUSED(isStarted)
-}
-
-bool IsAmong(int tag, std::initializer_list<std::pair<int, int>> ranges)
-{
-    return std::any_of(ranges.begin(), ranges.end(),
-                       [tag](const std::pair<int, int>& range) { return tag >= range.first && tag <= range.second; });
-}
-
-// Entries that say how pixels are stored in TIFF files and files built like them, or where other blocks begin.
-bool DescribesStorage(const Exiv2::Exifdatum& entry)
-{
-    const std::string group = entry.groupName();
-    if (group.rfind("SubImage", 0) == 0 || group.rfind("SubThumb", 0) == 0 || group == "Thumbnail" ||
-        group == "PanasonicRaw" || group == "Image2" || group == "Image3") {
-        return true;
-    }
-    constexpr int firstOfNegatives = 0xc612;
-    constexpr int lastOfNegatives = 0xc7ff;
-    return group == "Image" && IsAmong(entry.tag(), {{0x0fe, 0x107},
-                                                     {0x10a, 0x10a},
-                                                     {0x111, 0x111},
-                                                     {0x115, 0x119},
-                                                     {0x11c, 0x11c},
-                                                     {0x122, 0x125},
-                                                     {0x13d, 0x13d},
-                                                     {0x140, 0x145},
-                                                     {0x14a, 0x14a},
-                                                     {0x152, 0x15b},
-                                                     {0x200, 0x214},
-                                                     {0x2bc, 0x2bc},
-                                                     {0x828d, 0x828f},
-                                                     {0x83bb, 0x83bb},
-                                                     {0x8649, 0x8649},
-                                                     {0x8773, 0x8773},
-                                                     {firstOfNegatives, lastOfNegatives}});
-}
-
-template<typename Data, typename Predicate>
-void RemoveIf(Data& data, const Predicate& isUnwanted)
-{
-    for (auto entry = data.begin(); entry != data.end();) {
-        entry = isUnwanted(*entry) ? data.erase(entry) : std::next(entry);
-    }
-}
-
-bool IsPosition(const Exiv2::Exifdatum& entry)
-{
-    return entry.groupName() == "GPSInfo" || entry.key() == "Exif.Image.GPSTag";
-}
-
-bool IsPositionInXmp(const Exiv2::Xmpdatum& entry)
-{
-    return entry.groupName() == "exif" && entry.tagName().rfind("GPS", 0) == 0;
 }
 
 QByteArray Bytes(const Exiv2::Blob& blob)
@@ -120,32 +70,36 @@ QByteArray Metadata::Profile() const
     return d->profile;
 }
 
+std::optional<int> Metadata::Orientation() const
+{
+    const auto found = d->exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+    const long orientation = found == d->exif.end() || found->count() == 0 ? 0 : found->toLong();
+    return orientation >= 1 && orientation <= 8 ? std::optional<int>(int(orientation)) : std::nullopt;
+}
+
 QDateTime Metadata::Captured() const
 {
-    // "2024:05:31 17:08:09", without a time zone: the clock of the camera.
-    const auto found = d->exif.findKey(Exiv2::ExifKey("Exif.Photo.DateTimeOriginal"));
-    if (found == d->exif.end()) {
-        return {};
-    }
-    constexpr int length = 19;
-    return QDateTime::fromString(QString::fromStdString(found->toString()).left(length),
-                                 QStringLiteral("yyyy:MM:dd HH:mm:ss"));
+    return CaptureTime(*d);
 }
 
 void Metadata::KeepOnly(const QStringList& kinds)
 {
     const bool keepsExif = kinds.contains(QLatin1String("exif"));
-    const bool keepsPositions = kinds.contains(QLatin1String("gps"));
+    const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
     d->keepsExif = keepsExif;
-    RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) { return IsPosition(entry) ? !keepsPositions : !keepsExif; });
+    if (!keepsExif) {
+        RemoveIf(d->exif, [](const Exiv2::Exifdatum& entry) { return !IsPosition(entry); });
+    }
     if (!kinds.contains(QLatin1String("iptc"))) {
         d->iptc.clear();
     }
     if (!kinds.contains(QLatin1String("xmp"))) {
         d->xmp.clear();
     }
-    if (!keepsPositions) {
-        RemoveIf(d->xmp, IsPositionInXmp);
+    if (!keepsPlaces) {
+        RemovePlaces(d->exif);
+        RemovePlaces(d->iptc);
+        RemovePlaces(d->xmp);
     }
 }
 
@@ -156,14 +110,9 @@ bool Metadata::GoWithoutExif() const
 
 void Metadata::DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb)
 {
-    RemoveIf(d->exif, DescribesStorage);
-    RemoveIf(d->xmp, [](const Exiv2::Xmpdatum& entry) {
-        const std::string key = entry.key();
-        return key == "Xmp.tiff.ImageWidth" || key == "Xmp.tiff.ImageLength" || key == "Xmp.exif.PixelXDimension" ||
-               key == "Xmp.exif.PixelYDimension" || key == "Xmp.tiff.Orientation" || key == "Xmp.tiff.XResolution" ||
-               key == "Xmp.tiff.YResolution" || key == "Xmp.tiff.ResolutionUnit" ||
-               key.rfind("Xmp.xmp.Thumbnails", 0) == 0;
-    });
+    RemoveSourceTraces(d->exif);
+    RemoveSourceTraces(d->iptc);
+    RemoveSourceTraces(d->xmp);
     if (d->exif.empty()) {
         return;
     }
@@ -206,11 +155,7 @@ QByteArray Metadata::Exif(int longest) const
         return all;
     }
     Exiv2::ExifData shorter = d->exif;
-    RemoveIf(shorter, [](const Exiv2::Exifdatum& entry) {
-        const std::string group = entry.groupName();
-        const bool isStandard = group == "Image" || group == "Photo" || group == "GPSInfo" || group == "Iop";
-        return !isStandard || entry.key() == "Exif.Photo.MakerNote";
-    });
+    RemoveIf(shorter, IsMakerNote);
     return Encoded(shorter);
 }
 

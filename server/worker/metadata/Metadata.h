@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace BatchWorker {
 
@@ -31,18 +32,21 @@ public:
     /// The ICC profile of a file whose decoder does not hand it over (MetadataSupport::isProfileInDecoder); else empty.
     QByteArray Profile() const;
 
-    /// The EXIF original time, by the camera's clock; invalid if there is none.
+    /// The EXIF orientation, 1 to 8; nothing if there is none.
+    std::optional<int> Orientation() const;
+
+    /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.
     QDateTime Captured() const;
 
-    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" positions are removed from XMP,
-    /// too.
+    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" all places are removed from the
+    /// others, too, see Places.h.
     void KeepOnly(const QStringList& kinds);
 
     /// Whether the result must have no EXIF block: EXIF is not kept, and no GPS positions are left in it.
     bool GoWithoutExif() const;
 
     /// Makes the entries that describe the pixels fit the result: upright, `size` pixels, `dotsPerInch`. Removes the
-    /// preview of the source and the entries that describe how its pixels are stored.
+    /// previews of the source and the entries that describe how it is stored, see SourceTraces.h.
     void DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb);
 
     /// Moves the captions and keywords of IPTC to XMP, for formats that cannot hold IPTC.

@@ -1,6 +1,7 @@
 #include "MetadataCarrier.h"
 
 #include "BoxFile.h"
+#include "PngChunks.h"
 #include "WebpExif.h"
 
 #include <QFileInfo>
@@ -137,6 +138,9 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
     if (isCutOut && !RemoveExifFromWebp(fileName)) {
         warnings.append({WarningKind::MetadataLost, QStringLiteral("EXIF cannot be removed from the result")});
+    }
+    if (support.isExifRepeated && !RemoveRepeatedExifFromPng(fileName)) {
+        warnings.append({WarningKind::MetadataLost, QStringLiteral("the result may have its EXIF block twice")});
     }
     const bool isStripped = IsStripped(format, metadata);
     const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();

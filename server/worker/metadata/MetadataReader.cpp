@@ -1,7 +1,9 @@
 #include "MetadataReader.h"
 
 #include "BoxFile.h"
+#include "ItemBoxes.h"
 #include "JxlBoxes.h"
+#include "PngChunks.h"
 
 #include "server/worker/decode/PictureSource.h"
 
@@ -90,6 +92,14 @@ QByteArray WithoutHeader(const QString& path)
     return kept;
 }
 
+// Not the file itself: the library would read every block of a kind, and the pixels.
+MetadataBlocks BlocksOfChunks(const QString& file)
+{
+    const QByteArray chunks = PngWithoutPixels(file);
+    const auto image = Exiv2::ImageFactory::open(Data(chunks), long(chunks.size()));
+    return BlocksOf(*image);
+}
+
 // The decoder hands over a block of Photoshop resources, one of which holds the records of IPTC.
 void ReadIptc(QByteArray block, Exiv2::IptcData& iptc)
 {
@@ -150,7 +160,11 @@ bool HasTruncatedProfile(const PictureSource& source)
 
 MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source)
 {
-    if (source.Format().metadata.reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
+    const MetadataReading reading = source.Format().metadata.reading;
+    if (reading == MetadataReading::FromChunks) {
+        return BlocksOfChunks(file);
+    }
+    if (reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
     }
     try {
@@ -160,9 +174,7 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source)
     }
 }
 
-} // namespace
-
-MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
+MetadataBlocks BlocksOrWarning(const QString& file, const PictureSource& source, Warnings& warnings)
 {
     try {
         return BlocksOfAnyFile(file, source);
@@ -172,6 +184,16 @@ MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Wa
              QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});
         return {};
     }
+}
+
+} // namespace
+
+MetadataBlocks ReadMetadata(const QString& file, const PictureSource& source, Warnings& warnings)
+{
+    MetadataBlocks blocks = BlocksOrWarning(file, source, warnings);
+    const QDateTime inBoxes = ReadItemBoxes(file).created;
+    blocks.created = inBoxes.isValid() ? inBoxes : source.Captured();
+    return blocks;
 }
 
 } // namespace BatchWorker

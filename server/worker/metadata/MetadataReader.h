@@ -3,6 +3,7 @@
 #include "job/values/Warning.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 #include <exiv2/exiv2.hpp>
@@ -18,6 +19,7 @@ struct MetadataBlocks
     Exiv2::IptcData iptc;
     Exiv2::XmpData xmp;
     QByteArray profile; ///< see Metadata::Profile()
+    QDateTime created;  ///< as something else in the file says; often invalid
 };
 
 /// Reads `file`, whose header `source` has read. What cannot be read is left out, with a warning. A damaged colour

@@ -18,6 +18,7 @@
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
+#include "server/worker/metadata/GainMap.h"
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -64,6 +65,10 @@ public:
     {
         WarnOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
+        if (!source.Format().metadata.isOrientationInDecoder) {
+            source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
+        }
+        WarnOfGainMap();
     }
 
     MadePicture Make();
@@ -71,6 +76,7 @@ public:
 private:
     void MakeFile();
     void WarnOfOtherPages();
+    void WarnOfGainMap();
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
     Picture Decoded(int shrink);
@@ -137,6 +143,15 @@ void PictureRun::WarnOfOtherPages()
             {WarningKind::OtherPages, QStringLiteral("it has %1 pages; only the %2 is used")
                                           .arg(pages)
                                           .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first"))});
+    }
+}
+
+void PictureRun::WarnOfGainMap()
+{
+    if (HasGainMap(task.inputFile)) {
+        made.warnings.append({WarningKind::GainMapLost,
+                              QStringLiteral("it has a gain map, which the result lacks: highlights are no longer "
+                                             "brighter on HDR screens")});
     }
 }
 

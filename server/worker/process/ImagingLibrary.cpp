@@ -42,6 +42,9 @@ void NoteWarning(const char* message)
     if (IsOfColours(text)) {
         return;
     }
+    if (text.contains(QLatin1String("unknown field with tag"), Qt::CaseInsensitive)) {
+        return; // said of every tag of makers and programs that the library does not list; none concerns the pixels
+    }
     const Warning warning{WarningKind::Decoder, text};
     if (warnings.size() < most && !warnings.contains(warning)) {
         warnings.append(warning);

@@ -166,6 +166,7 @@ private Q_SLOTS:
     void readsMetadataBesideBrokenProfiles_data();
     void readsMetadataBesideBrokenProfiles();
     void leavesOutWhatAJpegCannotHold();
+    void saysNothingOfTagsThatItDoesNotKnow();
     void keepsTheFileTime_data();
     void keepsTheFileTime();
 
@@ -499,6 +500,25 @@ void tst_WorkerMetadata::leavesOutWhatAJpegCannotHold()
     QCOMPARE(report.warnings.size(), 1);
     QVERIFY2(report.warnings.first().text.contains(Text("XMP")), qPrintable(report.warnings.first().text));
     QCOMPARE(Read(*bench, Text("JPEG")).Exif("Exif.Image.Artist"), Text("A. Photographer"));
+}
+
+/// Every maker and every program has some of its own.
+void tst_WorkerMetadata::saysNothingOfTagsThatItDoesNotKnow()
+{
+    WritePicture(Chart(40, 30), bench->Path(Text("in.tif")));
+    {
+        const auto image = Exiv2::ImageFactory::open(bench->Path(Text("in.tif")).toStdString());
+        image->readMetadata();
+        image->exifData()["Exif.Image.0xfdab"] = std::uint16_t(1);
+        image->exifData()["Exif.Image.0xfdac"] = "A text";
+        image->exifData()["Exif.Photo.0xfdad"] = std::uint16_t(2);
+        image->writeMetadata();
+    }
+    bench->Worker().ErrorOutput();
+    const Report report = bench->Make(Text("in.tif"), Text("out.tif"), Text("TIFF"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(BatchJob::TextsOf(report.warnings).join(QLatin1Char('\n')), QString());
+    QCOMPARE(bench->Worker().ErrorOutput(), QByteArray());
 }
 
 void tst_WorkerMetadata::keepsTheFileTime_data()

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+namespace BatchWorker {
+
+/// What the boxes of a HEIF or AVIF file say beside the pictures. Nothing for files of other kinds.
+struct ItemBoxes
+{
+    QDateTime created; ///< of the main picture or of the film in the file, in local time; invalid if unknown
+    bool hasGainMap = false;
+};
+
+ItemBoxes ReadItemBoxes(const QString& path);
+
+} // namespace BatchWorker
