@@ -1,11 +1,13 @@
 #include "PictureSource.h"
 
+#include "FileEnd.h"
 #include "Loader.h"
 #include "RawFile.h"
 #include "TiffPages.h"
 
 #include "job/formats/FormatCatalog.h"
 #include "server/worker/geometry/Orientation.h"
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/VipsText.h"
 
@@ -190,10 +192,22 @@ void PictureSource::OpenWithLoader()
         header = Read(file, LoaderOf(*format), 1, limits, warnings);
     } catch (const vips::VError& problem) {
         const QString text = TextOf(problem);
-        throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+        throw Damage(text, {});
     }
     storedSize = QSize(header.width(), header.height());
     orientation = OrientationOf(header);
+}
+
+PictureFailure PictureSource::Damage(const QString& libraryText, std::optional<int> percent) const
+{
+    if (IsOutOfMemory(libraryText)) {
+        return NotEnoughMemory(libraryText);
+    }
+    DamageKind kind = DamageKindOf(libraryText);
+    if (kind == DamageKind::Damaged && IsCutOff(file)) {
+        kind = DamageKind::CutOff;
+    }
+    return DamagedFile(percent ? DamageText(kind, *percent) : HeaderDamageText(kind), libraryText);
 }
 
 FormatNeeds NeedsOf(const PictureSource& source)

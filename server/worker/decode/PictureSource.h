@@ -5,12 +5,14 @@
 #include "job/values/Warning.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/Picture.h"
+#include "server/worker/pixels/PictureFailure.h"
 
 #include <QByteArray>
 #include <QSize>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace BatchWorker {
 
@@ -57,6 +59,10 @@ public:
     /// The pixels as they are stored, to be read once from top to bottom, `shrink` times smaller in each direction,
     /// sizes rounded as the decoder rounds them. Each call reads the file again.
     Picture Load(int shrink = 1);
+
+    /// What `libraryText` says of the file, in words, as a failure. `percent` of the pixels could be read; nothing when
+    /// the header could not.
+    PictureFailure Damage(const QString& libraryText, std::optional<int> percent) const;
 
 private:
     Q_DISABLE_COPY(PictureSource)

@@ -7,6 +7,8 @@
 
 #include <vips/vips8>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -24,13 +26,28 @@ namespace {
 std::mutex warningsMutex;
 Warnings warnings;
 
+/// Whether `text` says nothing of the picture. Cameras and scanners write private fields into TIFF files, and the
+/// library names each of them, in every file.
+bool IsHarmless(const QString& text)
+{
+    constexpr std::array harmless{
+        "ignoring nclx profile",     // of every file that has an ICC profile too, which is used
+        "Unknown field with tag",    // TIFF: a private field
+        "tags are not sorted",       // TIFF: all are found nevertheless
+        "does not end in null byte", // TIFF: a text without its end mark
+        "Nonstandard tile",          // TIFF: sizes that are unusual, and read
+    };
+    return std::any_of(harmless.begin(), harmless.end(),
+                       [&text](const char* words) { return text.contains(QLatin1String(words)); });
+}
+
 void NoteWarning(const char* message)
 {
     constexpr int most = 5;
     const std::lock_guard<std::mutex> lock(warningsMutex);
     const QString text = QString::fromLocal8Bit(message);
-    if (text.contains(QLatin1String("ignoring nclx profile"))) {
-        return; // said of every file that has an ICC profile too, which is used
+    if (IsHarmless(text)) {
+        return;
     }
     const Warning warning{WarningKind::Decoder, text};
     if (warnings.size() < most && !warnings.contains(warning)) {
@@ -104,6 +121,12 @@ bool StartImagingLibrary(const char* program)
     vips_cache_set_max(0);
     AllowKnownFormatsOnly();
     return true;
+}
+
+void ForgetLibraryTexts()
+{
+    vips_error_clear();
+    TakeLibraryWarnings();
 }
 
 Warnings TakeLibraryWarnings()
