@@ -2,6 +2,7 @@
 
 #include "FileEnd.h"
 #include "Loader.h"
+#include "MpfIndex.h"
 #include "RawFile.h"
 #include "TiffPages.h"
 
@@ -129,8 +130,13 @@ bool PictureSource::HasAlpha() const
 
 int PictureSource::Pages() const
 {
-    if (raw) {
-        return 1;
+    switch (raw ? FormatPages::One : format->pages) {
+    case FormatPages::One:
+        return 1; // what the library calls pages of JPEG 2000 are its sizes
+    case FormatPages::Listed:
+        return CountListedPictures(file);
+    default:
+        break;
     }
     const int pages = vips_image_get_n_pages(header.get_image());
     const bool hasSeveral = pages > 1;
