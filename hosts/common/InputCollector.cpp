@@ -133,6 +133,9 @@ void InputCollector::Add(const QStringList& paths)
     for (Node* const node : loose) {
         Insert(std::unique_ptr<Node>(node));
     }
+    // A file that is named beside its folder is an input.
+    const auto isTaken = [this](const LeftOutFile& file) { return taken.contains(file.path); };
+    leftOut.erase(std::remove_if(leftOut.begin(), leftOut.end(), isTaken), leftOut.end());
 }
 
 void InputCollector::AddFolder(const QString& path)
@@ -209,6 +212,7 @@ void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPat
         folderPath.endsWith(QLatin1Char('/')) ? folderPath + entry.name : folderPath + QLatin1Char('/') + entry.name;
     const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
     if (isFolder ? !filter.subfolders : !IsWanted(entry.name)) {
+        LookAt(entry, path);
         return;
     }
     if (!entry.hasName) {
@@ -249,6 +253,19 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
 bool InputCollector::IsWanted(const QString& name) const
 {
     return only.isEmpty() ? extensions.contains(QFileInfo(name).suffix().toLower()) : MatchesAny(only, name);
+}
+
+/// Notes a file that is not wanted for its extension alone.
+void InputCollector::LookAt(const FolderEntry& entry, const QString& path)
+{
+    const bool isReadable = entry.kind == FolderEntry::Kind::File && entry.hasName && !entry.isDangling;
+    if (!isReadable || !only.isEmpty()) {
+        return;
+    }
+    const QString format = FormatOfUnknownFile(path);
+    if (!format.isEmpty()) {
+        leftOut.append({path, format});
+    }
 }
 
 void InputCollector::Insert(std::unique_ptr<Node> node)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FolderReader.h"
+#include "LeftOutFiles.h"
 
 #include "ZTBatchInputModel.h"
 
@@ -50,6 +51,10 @@ public:
     /// What was named or found more than once, one sentence each. It is in the job once.
     const QStringList& Repetitions() const { return repetitions; }
 
+    /// Files of the folders that begin like pictures, but whose extensions are not those of pictures. Empty with a
+    /// filter that says which names to take.
+    const LeftOutFiles& LeftOut() const { return leftOut; }
+
 private:
     using Node = TreeNode<BatchNodeData>;
 
@@ -58,6 +63,7 @@ private:
     void AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
     bool IsFirst(Node& folder, const BatchJob::FileIdentity& identity);
     bool IsWanted(const QString& name) const;
+    void LookAt(const FolderEntry& entry, const QString& path);
     void Insert(std::unique_ptr<Node> node);
 
     ZTBatchDocument& job;
@@ -70,6 +76,7 @@ private:
     QHash<BatchJob::FileIdentity, QString> foldersTaken; ///< and their paths
     QStringList problems;
     QStringList repetitions;
+    LeftOutFiles leftOut;
     int folderCount = 0;
     int fileCount = 0;
 };

@@ -51,16 +51,18 @@ JobRun::~JobRun()
 }
 
 std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, JournaledJob& journaled,
-                                               const BatchJob::PolicyValues& policies,
+                                               const Circumstances& circumstances,
                                                const QVector<RunObserver*>& observers)
 {
-    const QString journalPath = journaled.BeginJournal(policies);
+    const QString journalPath = journaled.BeginJournal(circumstances.policies);
     // The server, which inherits the environment, continues the journal.
     qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
-    return std::make_unique<RunController>(RunController::Order{journaled.Document(), InputsOf(job),
-                                                                job.GetOutputSettings()->GetPath(), policies,
-                                                                journalPath},
-                                           observers);
+    RunInputs inputs = InputsOf(job);
+    inputs.leftOut = circumstances.leftOut;
+    return std::make_unique<RunController>(
+        RunController::Order{journaled.Document(), inputs, job.GetOutputSettings()->GetPath(), circumstances.policies,
+                             journalPath, circumstances.isStrict},
+        observers);
 }
 
 } // namespace BatchHost

@@ -33,10 +33,17 @@ public:
     Obstacle WhatPrevents() const { return obstacle; }
     QString TemporaryFolderError() const { return temporary.Error(); }
 
+    /// What a run needs to know beside its job.
+    struct Circumstances
+    {
+        BatchJob::PolicyValues policies{};
+        bool isStrict = false; ///< see RunController::Order
+        LeftOutFiles leftOut = {};
+    };
+
     /// The run of `job`, ready to start. It must end before this object.
     std::unique_ptr<RunController> Prepare(const ZTBatchDocument& job, JournaledJob& journaled,
-                                           const BatchJob::PolicyValues& policies,
-                                           const QVector<RunObserver*>& observers);
+                                           const Circumstances& circumstances, const QVector<RunObserver*>& observers);
 
 private:
     Q_DISABLE_COPY(JobRun)

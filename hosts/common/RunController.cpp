@@ -5,6 +5,7 @@
 #include "job/journal/RunJournal.h"
 #include "job/plan/Trouble.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/WarningLine.h"
 #include "job/values/JobValues.h"
 
 #include "ZTBatchMessage.h"
@@ -27,6 +28,9 @@ constexpr int mostServers = 10;
 
 /// How many servers in a row may die before they have begun with a picture.
 constexpr int mostIdleServers = 3;
+
+/// How many lines of the log are kept for the next message. More warnings belong to no picture.
+constexpr int mostLogs = 100;
 
 } // namespace
 
@@ -55,7 +59,8 @@ void RunController::Start()
     for (RunObserver* const observer : observers) {
         observer->OnStart(order.inputs, end.outputFolder);
     }
-    for (const auto& [index, result] : JournaledResults()) {
+    for (const auto& [index, journaled] : JournaledResults()) {
+        const FileResult result = Judged(journaled);
         if (Count(result, index)) {
             for (RunObserver* const observer : observers) {
                 observer->OnEarlierResult(result);
@@ -137,7 +142,13 @@ void RunController::OnFileInProgress(const QString& input)
 
 void RunController::OnFileProcessed(const QString& input, const QString& output)
 {
-    Settle({input, output, FileResult::Kind::Written, ZTBatchMessage::NoError, {}});
+    FileResult result{input, output, FileResult::Kind::Written, ZTBatchMessage::NoError, {}};
+    for (const QString& text : std::exchange(logs, {})) {
+        if (const std::optional<WarningLine> line = WarningLine::Parse(text, input)) {
+            result.warnings.append(line->warning);
+        }
+    }
+    Settle(result);
 }
 
 void RunController::OnProcessError(const QString& input, const QString& output, int action, int errorCode)
@@ -171,7 +182,10 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
 
 void RunController::OnLog(const QString& text)
 {
-    lastLog = text;
+    if (logs.size() == mostLogs) {
+        logs.removeFirst();
+    }
+    logs.append(text);
     for (RunObserver* const observer : observers) {
         observer->OnLog(text);
     }
@@ -181,7 +195,8 @@ void RunController::OnLog(const QString& text)
 /// description of the error.
 QString RunController::ReasonOfError(const QString& input, BatchJob::Action action, int errorCode)
 {
-    const QString log = std::exchange(lastLog, {});
+    const QString log = logs.isEmpty() ? QString() : logs.last();
+    logs.clear();
     if (input.isEmpty()) {
         if (const std::optional<RefusalLine> refusal = RefusalLine::Parse(log)) {
             return refusal->message;
@@ -241,8 +256,14 @@ void RunController::Answer(int value, bool isForTheRest)
     }
 }
 
-void RunController::Settle(const FileResult& result)
+FileResult RunController::Judged(const FileResult& result) const
 {
+    return order.isStrict ? StrictResult(result) : result;
+}
+
+void RunController::Settle(const FileResult& settled)
+{
+    const FileResult result = Judged(settled);
     inWork.removeOne(result.input);
     if (!Count(result)) {
         return;
@@ -276,6 +297,9 @@ bool RunController::Count(const FileResult& result, int index)
         ++end.failed;
         break;
     }
+    for (const Warning& warning : result.warnings) {
+        ++end.warnings[warning.kind];
+    }
     return true;
 }
 
@@ -286,8 +310,9 @@ QVector<QPair<int, FileResult>> RunController::JournaledResults() const
     for (int i = 0; state && i < order.inputs.files.size(); ++i) {
         const auto found = state->results.constFind(i);
         if (found != state->results.constEnd()) {
-            results.append(
-                {i, {order.inputs.files.at(i), found->output, found->kind, found->errorCode, found->reason}});
+            results.append({i,
+                            {order.inputs.files.at(i), found->output, found->kind, found->errorCode, found->reason,
+                             found->warnings}});
         }
     }
     return results;

@@ -36,6 +36,8 @@ public:
         /// The results that the journal holds already are taken over. Without a journal, an empty path, the run ends
         /// with its server.
         QString journalPath;
+
+        bool isStrict = false; ///< pictures with warnings count as failed
     };
 
     RunController(const Order& order, const QVector<RunObserver*>& observers);
@@ -75,12 +77,13 @@ private:
     void OnQuestion(BatchJob::PolicyKind kind);
     void OnSessionOver();
     void OnServerGone();
-    void Settle(const FileResult& result);
+    void Settle(const FileResult& settled);
     bool Count(const FileResult& result, int index = -1);
     QVector<QPair<int, FileResult>> JournaledResults() const;
     void NoteLoss(const QStringList& lost) const;
     void End(bool isCancelled, bool isServerLost);
     QString ReasonOfError(const QString& input, BatchJob::Action action, int errorCode);
+    FileResult Judged(const FileResult& result) const;
 
     const Order order;
     const QVector<RunObserver*> observers;
@@ -92,7 +95,7 @@ private:
     RunEnd end;
     QHash<QString, QVector<int>> open; ///< inputs without a result, and their places in the job
     QStringList inWork;
-    QString lastLog;
+    QStringList logs; ///< the last lines of the log, since a file was processed or an error reported
     FileResult asked; ///< what the open question is about
     std::optional<BatchJob::PolicyKind> question;
     int serversStarted = 0; ///< how many servers were started

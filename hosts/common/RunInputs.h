@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LeftOutFiles.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -14,6 +16,7 @@ struct RunInputs
     QStringList files;
     QVector<qint64> bytes;
     qint64 allBytes = 0;
+    LeftOutFiles leftOut; ///< found beside the inputs when they were collected
 };
 
 RunInputs InputsOf(const ZTBatchDocument& job);

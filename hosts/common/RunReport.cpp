@@ -14,16 +14,30 @@ namespace BatchHost {
 
 namespace {
 
-QString WordOf(const FileResult& result, bool isDone)
-{
-    return isDone ? ResultWord(result.kind) : QStringLiteral("not processed");
-}
-
 QString Quoted(const QString& text)
 {
     QString doubled = text;
     doubled.replace(QLatin1Char('"'), QStringLiteral("\"\""));
     return QLatin1Char('"') + doubled + QLatin1Char('"');
+}
+
+QString TextOf(const Warnings& warnings)
+{
+    QStringList texts;
+    for (const Warning& warning : warnings) {
+        texts.append(QStringLiteral("%1: %2").arg(WarningWord(warning.kind), warning.text));
+    }
+    return texts.join(QStringLiteral("; "));
+}
+
+QJsonArray JsonOf(const Warnings& warnings)
+{
+    QJsonArray array;
+    for (const Warning& warning : warnings) {
+        array.append(
+            QJsonObject{{QStringLiteral("kind"), WarningWord(warning.kind)}, {QStringLiteral("text"), warning.text}});
+    }
+    return array;
 }
 
 } // namespace
@@ -50,13 +64,21 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
     for (int i = entries.size() - 1; i >= 0; --i) {
         open.insert(inputs.files.at(i), i); // find() gives the one that was inserted last.
     }
+    for (const LeftOutFile& file : inputs.leftOut) {
+        Entry entry;
+        entry.result.input = file.path;
+        entry.result.reason =
+            QStringLiteral("it begins like a %1 file, but its extension is not known").arg(file.format);
+        entry.word = QStringLiteral("left out");
+        entries.append(entry);
+    }
 }
 
 void RunReport::OnResult(const FileResult& result, int, int)
 {
     const auto entry = open.find(result.input);
     if (entry != open.end()) {
-        entries[*entry] = {result, true};
+        entries[*entry] = {result, ResultWord(result.kind)};
         open.erase(entry);
     }
 }
@@ -71,12 +93,12 @@ void RunReport::OnEnd(const RunEnd&)
 
 QByteArray RunReport::Csv() const
 {
-    QString text = QStringLiteral("input,output,result,code,reason\r\n");
+    QString text = QStringLiteral("input,output,result,code,reason,warnings\r\n");
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        text += QStringLiteral("%1,%2,%3,%4,%5\r\n")
-                    .arg(Quoted(result.input), Quoted(result.output), Quoted(WordOf(result, entry.isDone)),
-                         QString::number(result.errorCode), Quoted(result.reason));
+        text += QStringLiteral("%1,%2,%3,%4,%5,%6\r\n")
+                    .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word),
+                         QString::number(result.errorCode), Quoted(result.reason), Quoted(TextOf(result.warnings)));
     }
     return text.toUtf8();
 }
@@ -88,9 +110,10 @@ QByteArray RunReport::Json() const
         const FileResult& result = entry.result;
         array.append(QJsonObject{{QStringLiteral("input"), result.input},
                                  {QStringLiteral("output"), result.output},
-                                 {QStringLiteral("result"), WordOf(result, entry.isDone)},
+                                 {QStringLiteral("result"), entry.word},
                                  {QStringLiteral("code"), result.errorCode},
-                                 {QStringLiteral("reason"), result.reason}});
+                                 {QStringLiteral("reason"), result.reason},
+                                 {QStringLiteral("warnings"), JsonOf(result.warnings)}});
     }
     return QJsonDocument(array).toJson(QJsonDocument::Indented);
 }

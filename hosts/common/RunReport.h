@@ -7,7 +7,8 @@
 
 namespace BatchHost {
 
-/// Writes a CSV or JSON file with one entry for each input of the job, in the job's order.
+/// Writes a CSV or JSON file with one entry for each input of the job, in the job's order, and then one for each file
+/// that was left out.
 class RunReport : public RunObserver
 {
 public:
@@ -26,7 +27,7 @@ private:
     struct Entry
     {
         FileResult result;
-        bool isDone = false;
+        QString word = QStringLiteral("not processed"); ///< what became of the file
     };
 
     QByteArray Csv() const;

@@ -2,7 +2,25 @@
 
 #include "ZTBatchMessage.h"
 
+#include <numeric>
+
 namespace BatchHost {
+
+FileResult StrictResult(const FileResult& result)
+{
+    FileResult strict = result;
+    if (result.kind == FileResult::Kind::Written && !result.warnings.isEmpty()) {
+        strict.kind = FileResult::Kind::Failed;
+        strict.reason = QStringLiteral("written with a warning: %1")
+                            .arg(BatchJob::TextsOf(result.warnings).join(QStringLiteral("; ")));
+    }
+    return strict;
+}
+
+int RunEnd::WarningCount() const
+{
+    return std::accumulate(warnings.begin(), warnings.end(), 0);
+}
 
 RunOutcome RunEnd::Outcome() const
 {

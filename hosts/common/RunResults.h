@@ -1,7 +1,9 @@
 #pragma once
 
 #include "job/values/ResultKind.h"
+#include "job/values/Warning.h"
 
+#include <QMap>
 #include <QString>
 
 namespace BatchHost {
@@ -16,7 +18,12 @@ struct FileResult
     Kind kind = Kind::Written;
     int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
     QString reason;    ///< one sentence; empty when it was written
+    BatchJob::Warnings warnings = {};
 };
+
+/// `result` as a strict run counts it: a picture with warnings has failed, although its file is there. The error code
+/// stays 0.
+FileResult StrictResult(const FileResult& result);
 
 enum class RunOutcome {
     Complete,   ///< every picture was written
@@ -34,6 +41,7 @@ struct RunEnd
     int written = 0;
     int skipped = 0;
     int failed = 0;
+    QMap<BatchJob::WarningKind, int> warnings; ///< how many there are of each kind
     double seconds = 0;
     bool isCancelled = false;
     bool isServerLost = false;
@@ -43,6 +51,8 @@ struct RunEnd
 
     int Processed() const { return written + skipped + failed; }
     int NotProcessed() const { return files - Processed(); }
+
+    int WarningCount() const;
 
     RunOutcome Outcome() const;
 

@@ -10,7 +10,7 @@ FormatSchema AvifFormat()
     format.id = FormatId::Avif;
     format.name = QStringLiteral("AVIF");
     format.description = QStringLiteral("very small files for the web in up to 12 bits, slow to write");
-    format.extensions = QStringList{QStringLiteral("avif")};
+    format.extensions = QStringList{QStringLiteral("avif"), QStringLiteral("avifs")};
     format.signatures = {{{{4, "ftypavif"}}}, {{{4, "ftypavis"}}}};
     format.bitDepths = {8, 10, 12};
     format.longestSide = 16'384;

@@ -44,7 +44,8 @@ enum class FormatPages {
     One,
     Frames,      ///< of an animation; the first is used
     Directories, ///< pages and smaller copies of pages; the first page is used
-    Items        ///< pictures, one of which is the main one, which is used
+    Items,       ///< pictures, one of which is the main one, which is used
+    Listed       ///< pictures behind the first one, which is used, and an index of them
 };
 
 /// How the worker reads the metadata of a file.

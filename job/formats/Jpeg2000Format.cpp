@@ -10,7 +10,8 @@ FormatSchema Jpeg2000Format()
     format.id = FormatId::Jpeg2000;
     format.name = QStringLiteral("JPEG 2000");
     format.description = QStringLiteral("archives and films, in up to 16 bits, also without loss");
-    format.extensions = QStringList{QStringLiteral("jp2"), QStringLiteral("j2k"), QStringLiteral("jpx")};
+    format.extensions = QStringList{QStringLiteral("jp2"), QStringLiteral("j2k"), QStringLiteral("jpx"),
+                                    QStringLiteral("jpf"), QStringLiteral("j2c"), QStringLiteral("jph")};
     format.signatures = {{{{4, "jP  \r\n\x87\n"}}}, {{{0, "\xFF\x4F\xFF\x51"}}}};
     format.holdsGrey = true;
     format.bitDepths = {8, 16};

@@ -10,14 +10,15 @@ FormatSchema JpegFormat()
     format.id = FormatId::Jpeg;
     format.name = QStringLiteral("JPEG");
     format.description = QStringLiteral("small files of photos, which every program reads");
-    format.extensions =
-        QStringList{QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("jpe"), QStringLiteral("jfif")};
+    format.extensions = QStringList{QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("jpe"),
+                                    QStringLiteral("jfif"), QStringLiteral("mpo")};
     format.signatures = {{{{0, "\xFF\xD8\xFF"}}}};
     format.holdsTransparency = false;
     format.holdsCmyk = true;
     format.holdsGrey = true;
     format.longestSide = 65'500;
     format.loss = FormatLoss::Always;
+    format.pages = FormatPages::Listed;
     format.metadata.holdsIptc = true;
     format.metadata.exifRemoval = ExifRemoval::Strip;
     format.metadata.longestBlock = 65'000; // what one segment holds, less its headers

@@ -9,7 +9,7 @@ FormatSchema RawFormat()
     format.name = QStringLiteral("RAW");
     format.description = QStringLiteral("what the sensor of a camera saw, in the formats of many makers");
     for (const char* extension :
-         {"3fr", "ari", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "iiq", "k25", "kdc", "mef",
+         {"3fr", "ari", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "gpr", "iiq", "k25", "kdc", "mef",
           "mos", "mrw", "nef", "nrw", "orf", "pef", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw", "x3f"}) {
         format.extensions.append(QString::fromLatin1(extension));
     }

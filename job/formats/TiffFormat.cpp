@@ -12,7 +12,10 @@ FormatSchema TiffFormat()
     format.description =
         QStringLiteral("every pixel as it is, also CMYK and very large; for printing and for archives");
     format.extensions = QStringList{QStringLiteral("tif"), QStringLiteral("tiff")};
-    format.signatures = {{{{0, "II*"}}}, {{{0, "MM"}}}, {{{0, "II+"}}}};
+    constexpr int length = 4;
+    for (const char* start : {"II*\0", "MM\0*", "II+\0", "MM\0+"}) {
+        format.signatures.append({{{0, QByteArray(start, length)}}});
+    }
     format.holdsCmyk = true;
     format.holdsGrey = true;
     format.bitDepths = {8, 16};

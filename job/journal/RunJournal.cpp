@@ -31,6 +31,25 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     return true;
 }
 
+Warnings ReadWarnings(const QJsonArray& array)
+{
+    Warnings warnings;
+    for (const QJsonValue value : array) {
+        const QJsonObject warning = value.toObject();
+        warnings.append({WarningKindOf(warning.value(Key("kind")).toString()), warning.value(Key("text")).toString()});
+    }
+    return warnings;
+}
+
+QJsonArray JsonOf(const Warnings& warnings)
+{
+    QJsonArray array;
+    for (const Warning& warning : warnings) {
+        array.append(QJsonObject{{Key("kind"), WarningWord(warning.kind)}, {Key("text"), warning.text}});
+    }
+    return array;
+}
+
 void ReadLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
@@ -38,7 +57,8 @@ void ReadLine(const QJsonObject& line, JournalState& state)
         const int index = line.value(ResultWord(kind)).toInt(-1);
         if (index >= 0) {
             state.results.insert(index,
-                                 {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString()});
+                                 {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString(),
+                                  ReadWarnings(line.value(Key("warnings")).toArray())});
             state.begun.remove(index);
             state.losses.remove(index);
         }
@@ -133,6 +153,9 @@ void RunJournal::Settle(int index, const JournalState::Result& result)
     if (result.kind != Kind::Written) {
         line.insert(Key("code"), result.errorCode);
         line.insert(Key("reason"), result.reason);
+    }
+    if (!result.warnings.isEmpty()) {
+        line.insert(Key("warnings"), JsonOf(result.warnings));
     }
     Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "job/values/ResultKind.h"
+#include "job/values/Warning.h"
 
 #include <QFile>
 #include <QHash>
@@ -32,6 +33,7 @@ struct JournalState
         QString output;
         int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
         QString reason;
+        Warnings warnings = {}; ///< about a picture that was written
     };
 
     QString document;              ///< the text of the job

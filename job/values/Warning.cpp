@@ -48,4 +48,36 @@ QString WarningWord(WarningKind kind)
     return QStringLiteral("decoder");
 }
 
+WarningKind WarningKindOf(const QString& word)
+{
+    int kind = 0;
+    while (kind < int(WarningKind::Decoder) && WarningWord(WarningKind(kind)) != word) {
+        ++kind;
+    }
+    return WarningKind(kind);
+}
+
+QString WarningTitle(WarningKind kind)
+{
+    switch (kind) {
+    case WarningKind::OtherPages:
+        return QStringLiteral("only the first page");
+    case WarningKind::Incomplete:
+        return QStringLiteral("the file lacks its end");
+    case WarningKind::ProfileUnused:
+        return QStringLiteral("colour profile not used");
+    case WarningKind::ColoursConverted:
+        return QStringLiteral("colours converted");
+    case WarningKind::MetadataLost:
+        return QStringLiteral("metadata lost");
+    case WarningKind::GainMapLost:
+        return QStringLiteral("gain map lost");
+    case WarningKind::Framing:
+        return QStringLiteral("framing without effect");
+    case WarningKind::Decoder:
+        break;
+    }
+    return QStringLiteral("the decoder found a fault");
+}
+
 } // namespace BatchJob

@@ -39,4 +39,10 @@ QStringList TextsOf(const Warnings& warnings);
 /// The word of `kind`: "other-pages", "incomplete" and so on. Logs, reports and events use it.
 QString WarningWord(WarningKind kind);
 
+/// The kind with this word; Decoder for a word that is unknown, as another version of the server may have written it.
+WarningKind WarningKindOf(const QString& word);
+
+/// What warnings of `kind` say, in a few words for summaries: "only the first page".
+QString WarningTitle(WarningKind kind);
+
 } // namespace BatchJob

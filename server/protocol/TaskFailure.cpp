@@ -8,6 +8,7 @@ namespace BatchProtocol {
 namespace {
 
 constexpr int longestReason = 1000;
+constexpr int mostWarnings = 20;
 
 bool IsCodeOf(BatchJob::PolicyKind kind, int code)
 {
@@ -57,9 +58,19 @@ Report CheckedFailure(const Report& report)
 {
     Report checked = report;
     checked.reason = OneLine(report.reason);
+    checked.detail = OneLine(report.detail);
     if (!IsCodeOf(report.failure, report.errorCode)) {
         checked = ProcessingFailure(QStringLiteral("the worker's report is invalid: %1").arg(checked.reason));
         checked.number = report.number;
+    }
+    return checked;
+}
+
+BatchJob::Warnings CheckedWarnings(const Report& report)
+{
+    BatchJob::Warnings checked;
+    for (const BatchJob::Warning& warning : report.warnings.mid(0, mostWarnings)) {
+        checked.append({warning.kind, OneLine(warning.text)});
     }
     return checked;
 }

@@ -7,8 +7,12 @@
 namespace BatchProtocol {
 
 /// `report`, a worker's report of a failure, as far as it can be trusted: a case without a matching error code becomes
-/// a failure of the processing, and the reason becomes one line of limited length.
+/// a failure of the processing, and the texts become one line
+/// of limited length each.
 Report CheckedFailure(const Report& report);
+
+/// The warnings of `report`, as far as they can be trusted: some, each on one line of limited length.
+BatchJob::Warnings CheckedWarnings(const Report& report);
 
 /// The failure of a task over which its worker has ended. `text` is what is known of the end; `limits` are those of the
 /// worker.

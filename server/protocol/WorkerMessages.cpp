@@ -46,7 +46,7 @@ auto Fields(Record& record)
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {
-        return std::tie(record.number, record.failure, record.errorCode, record.reason, record.warnings,
+        return std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
                         record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
     }
 }

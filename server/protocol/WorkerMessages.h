@@ -66,7 +66,8 @@ struct Report
     qint32 number = 0;
     BatchJob::PolicyKind failure = BatchJob::PolicyKind::None; ///< the policy that decides; None: the task is done
     qint32 errorCode = ZTBatchMessage::NoError;                ///< a ZTBatchMessage::Error
-    QString reason;                                            ///< for the log: what is wrong, and where
+    QString reason;                                            ///< for users: what is wrong, and where
+    QString detail;                                            ///< for the log: what a library says of it; may be empty
     BatchJob::Warnings warnings;                               ///< of tasks that were done
     QString nearestFormat;                                     ///< for WriteToFormat, and of a probe: a format that can
                                                                ///< hold the picture, one of Formats()

@@ -2,6 +2,7 @@
 
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/WarningLine.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
 
@@ -284,6 +285,7 @@ void Run::OnBegun(const Assignment& task)
 void Run::OnReported(const Assignment& task, const Report& report)
 {
     inWork.remove(task.file);
+    LogDetail(task.file, report);
     if (std::holds_alternative<ProbeTask>(task.task)) {
         if (report.failure == PolicyKind::None) {
             plan.SetProbe(task.file, ProbeResultOf(report));
@@ -324,6 +326,15 @@ void Run::OnReturned(const Assignment& task)
     }
     returned.append(task);
     Q_EMIT HasTasks();
+}
+
+/// Logs what a library says of a failure. The reason, in words, follows when the failure is decided about.
+void Run::LogDetail(int file, const Report& report)
+{
+    const QString detail = CheckedFailure(report).detail;
+    if (report.failure != PolicyKind::None && !detail.isEmpty()) {
+        host.Log(DetailLine{plan.Names().Input(file), detail}.Text());
+    }
 }
 
 /// Results are whole or absent. If the worker had written the result and only its report is missing, the file is done:
@@ -511,7 +522,8 @@ void Run::GiveUp(int file, const Trouble& trouble, Action action)
     ++(isSkipped ? skipped : failed);
     if (action != Action::RunStopped) { // A resumed run tries what a stop has left.
         journal.Settle(
-            file, {isSkipped ? Kind::Skipped : Kind::Failed, plan.Names().Output(file), trouble.code, trouble.reason});
+            file,
+            {isSkipped ? Kind::Skipped : Kind::Failed, plan.Names().Output(file), trouble.code, trouble.reason, {}});
     }
     OnFileDone(file);
 }
@@ -521,9 +533,7 @@ void Run::FinishPicture(int file, const Report& report)
     const OutputPlan& names = plan.Names();
     const QString input = names.Input(file);
     const QString output = names.Output(file);
-    for (const Warning& warning : report.warnings) {
-        host.Log(QStringLiteral("%1: warning: %2").arg(input, warning.text));
-    }
+    const Warnings warnings = CheckedWarnings(report);
     if (plan.HasOtherFormat(file)) {
         ReportResult(file, Action::WrittenInAnotherFormat, ZTBatchMessage::UnsupportedOutputFormat,
                      names.Format(file)->name);
@@ -533,7 +543,10 @@ void Run::FinishPicture(int file, const Report& report)
     } else if (plan.IsRenamed(file)) {
         ReportResult(file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
     }
-    journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}});
+    journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, warnings});
+    for (const Warning& warning : warnings) {
+        host.Log(WarningLine{input, warning}.Text());
+    }
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
     OnFileDone(file);

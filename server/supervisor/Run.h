@@ -78,6 +78,7 @@ private:
     void OnReported(const BatchProtocol::Assignment& task, const BatchProtocol::Report& report);
     void OnLost(const BatchProtocol::Assignment& task, BatchProtocol::WorkerEnd reason, const QString& text);
     void OnReturned(const BatchProtocol::Assignment& task);
+    void LogDetail(int file, const BatchProtocol::Report& report);
     bool FinishUnreported(const BatchProtocol::Assignment& task);
     void OnBroken(const QString& reason);
     void OnDropped();

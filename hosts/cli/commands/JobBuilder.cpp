@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/JobOptions.h"
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InputCollector.h"
 #include "hosts/common/JobDefaults.h"
@@ -45,7 +46,8 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
 
 } // namespace
 
-int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob, const QStringList& inputs)
+InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
+                     const QStringList& inputs)
 {
     SetJobDefaults(job);
     if (!savedJob.isEmpty()) {
@@ -70,7 +72,22 @@ int BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QStri
     for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
     }
-    return collector.Problems().size();
+    if (arguments.Has(QStringLiteral("--verbose"))) {
+        for (const LeftOutFile& file : collector.LeftOut()) {
+            WriteErrorLine(
+                QStringLiteral("velkora-batch: %1 is left out: it begins like a %2 file, but its extension is "
+                               "not known.")
+                    .arg(file.path, file.format));
+        }
+    }
+    return {collector.Problems().size(), collector.LeftOut()};
+}
+
+void TellLeftOut(const LeftOutFiles& files, const ParsedArguments& arguments)
+{
+    if (!files.isEmpty() && !arguments.Has(QStringLiteral("--quiet"))) {
+        WriteErrorLine(LeftOutText(files.size()));
+    }
 }
 
 QString TakeSavedJob(QStringList& inputs)

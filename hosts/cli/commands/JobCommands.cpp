@@ -44,7 +44,8 @@ ExitCode CreateJob(const ParsedArguments& arguments)
                 .arg(path)};
     }
     ZTBatchDocument job;
-    const int problems = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
+    const InputLosses losses = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
+    TellLeftOut(losses.leftOut, arguments);
     // A job without inputs may be meant for pictures to come; inputs without a picture are a mistake.
     if (inputs.isEmpty()) {
         RequireUsableSettings(job);
@@ -59,7 +60,7 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     if (!arguments.Has(QStringLiteral("--quiet")) && path != QLatin1String("-")) {
         WriteErrorLine(QStringLiteral("%1: %2.").arg(path, PicturesText(job.GetInputModel()->GetFileNodesCount())));
     }
-    return problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
+    return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }
 
 ExitCode ShowJob(const ParsedArguments& arguments)
@@ -67,9 +68,10 @@ ExitCode ShowJob(const ParsedArguments& arguments)
     QStringList inputs = arguments.inputs;
     const QString savedJob = TakeSavedJob(inputs);
     ZTBatchDocument job;
-    const int problems = BuildJob(job, arguments, savedJob, inputs);
+    const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
+    TellLeftOut(losses.leftOut, arguments);
     WriteOut(JobListing(job));
-    return problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
+    return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }
 
 } // namespace BatchCli

@@ -7,6 +7,7 @@
 #include "hosts/common/FileProber.h"
 #include "hosts/common/JobRequirements.h"
 #include "job/plan/RunForecast.h"
+#include "job/plan/WarningLine.h"
 #include "server/protocol/TaskFailure.h"
 
 #include "ZTBatchDocument.h"
@@ -31,7 +32,7 @@ QString JobSettingsText(const ZTBatchDocument& job)
     return settings.Serialize(nullptr);
 }
 
-void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line)
+void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line, bool isVerbose)
 {
     QVector<FileProber::File> files;
     for (const int index : plan.Names().FilesToProbe()) {
@@ -48,17 +49,21 @@ void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line)
             plan.SetProbe(report.number, BatchProtocol::ProbeResultOf(report));
         } else {
             plan.SetProbeFailure(report.number, BatchProtocol::TroubleOf(report));
+            if (isVerbose && !report.detail.isEmpty()) {
+                line.Clear();
+                WriteErrorLine(DetailLine{plan.Names().Input(report.number), report.detail}.Text());
+            }
         }
     });
 }
 
-RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, bool isQuiet)
+RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, const ParsedArguments& arguments)
 {
     RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), CheckSettings(job).settings));
-    StatusLine line(!isQuiet);
+    StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
     plan.ReadInputs();
-    Probe(plan, job, line);
+    Probe(plan, job, line, arguments.Has(QStringLiteral("--verbose")));
     return {plan, Policies(policies)};
 }
 
@@ -120,12 +125,12 @@ ExitCode PlanJob(const ParsedArguments& arguments)
                           ZTBatchManager::NamingAsk, ZTBatchManager::WriteToFormatAsk};
     ApplyPolicies(arguments, policies);
     ZTBatchDocument job;
-    const int problems = BuildJob(job, arguments, savedJob, inputs);
+    const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
     RequireRunnableJob(job);
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));
-    const RunForecast forecast = Forecast(job, policies, isQuiet);
+    const RunForecast forecast = Forecast(job, policies, arguments);
     const int count = forecast.Names().Count();
     int clear = 0;
     int unclear = 0;
@@ -142,7 +147,8 @@ ExitCode PlanJob(const ParsedArguments& arguments)
                            .arg(clear)
                            .arg(unclear));
     }
-    return problems == 0 && unclear == 0 ? ExitCode::Done : ExitCode::Incomplete;
+    TellLeftOut(losses.leftOut, arguments);
+    return losses.problems == 0 && unclear == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }
 
 } // namespace BatchCli

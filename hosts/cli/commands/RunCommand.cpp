@@ -84,7 +84,7 @@ ExitCode RunJob(const ParsedArguments& arguments)
     QStringList inputs = arguments.inputs;
     const QString savedJob = TakeSavedJob(inputs);
     ZTBatchDocument job;
-    const int problems = BuildJob(job, arguments, savedJob, inputs);
+    const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
     JournaledJob journaled = JournaledJobOf(job, arguments);
 
     RunEnd end;
@@ -95,14 +95,15 @@ ExitCode RunJob(const ParsedArguments& arguments)
             return ExitCode::ServerLost;
         }
         const BatchJob::PolicyValues policies = PoliciesOfRun(arguments, journaled, settingsFolder);
-        const auto controller = run.Prepare(job, journaled, policies, output.Observers());
+        const auto controller = run.Prepare(
+            job, journaled, {policies, arguments.Has(QStringLiteral("--strict")), losses.leftOut}, output.Observers());
         end = RunInteractively(*controller, output.Display());
     }
     journaled.End(end);
     TellHowToResume(journaled, end, output.IsQuiet());
     TellTroubleOfServer(end);
     const bool isReportMissing = !output.WriteReportError();
-    return CodeOf(end.Outcome(), problems, isReportMissing);
+    return CodeOf(end.Outcome(), losses.problems, isReportMissing);
 }
 
 } // namespace BatchCli

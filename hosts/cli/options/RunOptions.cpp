@@ -46,6 +46,8 @@ QVector<OptionInfo> RunOptionInfos()
         {QStringLiteral("--resume"), QString(),
          QStringLiteral("resumes the run that was interrupted in the output folder, with its job and its policies"),
          run},
+        {QStringLiteral("--strict"), QString(),
+         QStringLiteral("counts a picture with a warning as failed; its result is kept"), run},
         {QStringLiteral("--json"), QString(),
          QStringLiteral("prints each event of the run to standard output, as one line of JSON"), run},
         {QStringLiteral("--settings"), QStringLiteral("DIR"),

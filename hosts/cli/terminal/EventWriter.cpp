@@ -28,6 +28,28 @@ void Write(const char* event, QJsonObject object)
     WriteOut(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n'));
 }
 
+/// The warnings about a picture, as events of their own. `isEarlier` as in OnEarlierResult().
+void WriteWarnings(const FileResult& result, bool isEarlier)
+{
+    for (const Warning& warning : result.warnings) {
+        QJsonObject object{
+            {Key("input"), result.input}, {Key("kind"), WarningWord(warning.kind)}, {Key("text"), warning.text}};
+        if (isEarlier) {
+            object.insert(Key("earlier"), true);
+        }
+        Write("warning", object);
+    }
+}
+
+QJsonObject CountsOf(const QMap<WarningKind, int>& warnings)
+{
+    QJsonObject object;
+    for (auto it = warnings.begin(); it != warnings.end(); ++it) {
+        object.insert(WarningWord(it.key()), *it);
+    }
+    return object;
+}
+
 QJsonObject ResultObject(const FileResult& result)
 {
     QJsonObject object{{Key("input"), result.input}};
@@ -53,11 +75,13 @@ void EventWriter::OnStart(const RunInputs& inputs, const QString& outputFolder)
     Write("start", {{Key("version"), schemaVersion},
                     {Key("files"), inputs.files.size()},
                     {Key("bytes"), double(inputs.allBytes)},
-                    {Key("output"), outputFolder}});
+                    {Key("output"), outputFolder},
+                    {Key("leftOut"), inputs.leftOut.size()}});
 }
 
 void EventWriter::OnEarlierResult(const FileResult& result)
 {
+    WriteWarnings(result, true);
     QJsonObject object = ResultObject(result);
     object.insert(Key("earlier"), true);
     Write(qPrintable(ResultWord(result.kind)), object);
@@ -70,6 +94,7 @@ void EventWriter::OnInWork(const QStringList&, const QString& begun)
 
 void EventWriter::OnResult(const FileResult& result, int done, int files)
 {
+    WriteWarnings(result, false);
     QJsonObject object = ResultObject(result);
     object.insert(Key("done"), done);
     object.insert(Key("files"), files);
@@ -108,10 +133,10 @@ void EventWriter::OnCancelling()
 
 void EventWriter::OnEnd(const RunEnd& end)
 {
-    QJsonObject object{{Key("written"), end.written},        {Key("skipped"), end.skipped},
-                       {Key("failed"), end.failed},          {Key("notProcessed"), end.NotProcessed()},
-                       {Key("seconds"), end.seconds},        {Key("cancelled"), end.isCancelled},
-                       {Key("serverLost"), end.isServerLost}};
+    QJsonObject object{{Key("written"), end.written},         {Key("skipped"), end.skipped},
+                       {Key("failed"), end.failed},           {Key("notProcessed"), end.NotProcessed()},
+                       {Key("seconds"), end.seconds},         {Key("cancelled"), end.isCancelled},
+                       {Key("serverLost"), end.isServerLost}, {Key("warnings"), CountsOf(end.warnings)}};
     if (end.jobErrorCode != 0) {
         object.insert(Key("code"), end.jobErrorCode);
         object.insert(Key("reason"), end.jobError);

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMap>
 
+using namespace BatchJob;
 using namespace BatchHost;
 
 namespace BatchCli {
@@ -32,8 +33,12 @@ QString Row(const QString& word, int count, const QString& more, Colour colour)
     return head + QStringLiteral("%1%2\n").arg(count, 7).arg(more);
 }
 
+/// What all failures with `errorCode` have in common. The strict ones have none.
 QString DescriptionOf(int errorCode)
 {
+    if (errorCode == ZTBatchMessage::NoError) {
+        return QStringLiteral("Written with a warning");
+    }
     QString text = ZTBatchMessage::ErrorDescription(ZTBatchMessage::Error(errorCode));
     return text.endsWith(QLatin1Char('.')) ? text.chopped(1) : text;
 }
@@ -54,6 +59,19 @@ QString TimeTaken(double seconds)
 
 } // namespace
 
+QString LeftOutText(int count)
+{
+    const QString hint = QStringLiteral("--verbose names them, --include takes them.");
+    return count == 1 ? QStringLiteral("1 file with another extension was left out, but begins like a picture; ") + hint
+                      : QStringLiteral("%1 files with other extensions were left out, but begin like pictures; %2")
+                            .arg(QString::number(count), hint);
+}
+
+void RunSummary::OnStart(const RunInputs& inputs, const QString&)
+{
+    leftOut = inputs.leftOut.size();
+}
+
 void RunSummary::OnEarlierResult(const FileResult& result)
 {
     OnResult(result, 0, 0);
@@ -66,6 +84,11 @@ void RunSummary::OnResult(const FileResult& result, int, int)
 {
     if (result.kind != FileResult::Kind::Written) {
         unwritten.append(result);
+    }
+    for (const Warning& warning : result.warnings) {
+        if (!examples.contains(warning.kind)) {
+            examples.insert(warning.kind, QStringLiteral("%1: %2").arg(result.input, warning.text));
+        }
     }
 }
 
@@ -88,6 +111,28 @@ void RunSummary::OnEnd(const RunEnd& end)
     Write(FileResult::Kind::Failed, end.failed);
     if (end.NotProcessed() > 0) {
         WriteError(Row(QStringLiteral("Not processed"), end.NotProcessed(), QString(), Colour::Red));
+    }
+    WriteWarnings(end);
+    if (leftOut > 0) {
+        WriteErrorLine(LeftOutText(leftOut));
+    }
+}
+
+/// "5 warnings: 3 × only the first page, 2 × metadata lost", then a line with an example for each kind.
+void RunSummary::WriteWarnings(const RunEnd& end) const
+{
+    const int count = end.WarningCount();
+    if (count == 0) {
+        return;
+    }
+    QStringList kinds;
+    for (auto it = end.warnings.begin(); it != end.warnings.end(); ++it) {
+        kinds.append(QStringLiteral("%1 \u00d7 %2").arg(QString::number(*it), WarningTitle(it.key())));
+    }
+    const QString head = count == 1 ? QStringLiteral("1 warning: ") : QStringLiteral("%1 warnings: ").arg(count);
+    WriteError(Coloured(head, Colour::Yellow) + kinds.join(QStringLiteral(", ")) + QLatin1Char('\n'));
+    for (const QString& example : examples) {
+        WriteErrorLine(QStringLiteral("    ") + example);
     }
 }
 

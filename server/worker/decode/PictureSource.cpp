@@ -1,12 +1,15 @@
 #include "PictureSource.h"
 
+#include "FileEnd.h"
 #include "LibraryLoader.h"
 #include "Loader.h"
+#include "MpfIndex.h"
 #include "RawFile.h"
 #include "TiffPages.h"
 
 #include "job/formats/FormatCatalog.h"
 #include "server/worker/geometry/Orientation.h"
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/VipsText.h"
 
@@ -132,8 +135,13 @@ bool PictureSource::HasAlpha() const
 
 int PictureSource::Pages() const
 {
-    if (raw) {
-        return 1;
+    switch (raw ? FormatPages::One : format->pages) {
+    case FormatPages::One:
+        return 1; // what the library calls pages of JPEG 2000 are its sizes
+    case FormatPages::Listed:
+        return CountListedPictures(file);
+    default:
+        break;
     }
     const int pages = vips_image_get_n_pages(header.get_image());
     const bool hasSeveral = pages > 1;
@@ -195,13 +203,25 @@ void PictureSource::OpenWithLoader()
         header = Read(file, LoaderOf(*format), 1, limits, warnings);
     } catch (const vips::VError& problem) {
         const QString text = TextOf(problem);
-        throw IsOutOfMemory(text) ? TooLarge(text) : DamagedFile(text);
+        throw Damage(text, {});
     }
     if (LoaderOf(*format).readColours) {
         colours = LoaderOf(*format).readColours(file);
     }
     storedSize = QSize(header.width(), header.height());
     orientation = OrientationOf(header);
+}
+
+PictureFailure PictureSource::Damage(const QString& libraryText, std::optional<int> percent) const
+{
+    if (IsOutOfMemory(libraryText)) {
+        return NotEnoughMemory(libraryText);
+    }
+    DamageKind kind = DamageKindOf(libraryText);
+    if (kind == DamageKind::Damaged && IsCutOff(file)) {
+        kind = DamageKind::CutOff;
+    }
+    return DamagedFile(percent ? DamageText(kind, *percent) : HeaderDamageText(kind), libraryText);
 }
 
 FormatNeeds NeedsOf(const PictureSource& source)

@@ -8,6 +8,7 @@
 #include "server/protocol/ServerLimits.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/Picture.h"
+#include "server/worker/pixels/PictureFailure.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -15,6 +16,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace BatchWorker {
 
@@ -71,6 +73,10 @@ public:
     /// sizes rounded as the decoder rounds them, with the profile that the file gives them; HDR is mapped to common
     /// screens. Each call reads the file again.
     Picture Load(int shrink = 1);
+
+    /// What `libraryText` says of the file, in words, as a failure. `percent` of the pixels could be read; nothing when
+    /// the header could not.
+    PictureFailure Damage(const QString& libraryText, std::optional<int> percent) const;
 
 private:
     Q_DISABLE_COPY(PictureSource)

@@ -3,6 +3,7 @@
 #include "DngData.h"
 #include "RawStream.h"
 
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <QFile>
@@ -117,9 +118,10 @@ void RawFile::Check(int result) const
         return;
     case LIBRAW_UNSUFFICIENT_MEMORY:
     case LIBRAW_TOO_BIG:
-        throw TooLarge(QStringLiteral("the decoder needs more memory than a worker may use"));
+        throw NotEnoughMemory(QString::fromLocal8Bit(libraw_strerror(result)));
     default:
-        throw DamagedFile(QString::fromLocal8Bit(libraw_strerror(result)));
+        throw DamagedFile(DamageText(result == LIBRAW_IO_ERROR ? DamageKind::CutOff : DamageKind::Damaged),
+                          QString::fromLocal8Bit(libraw_strerror(result)));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "server/worker/colour/Colour.h"
 #include "server/worker/colour/PictureColours.h"
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/VipsText.h"
@@ -19,6 +20,7 @@ namespace {
 /// The file as sRGB of 8 bits, upright, scaled to `width`.
 Picture ImageAt(const QString& path, int width)
 {
+    vips_error_clear(); // what was said of the picture says nothing of this file
     try {
         const vips::VSource source = vips::VSource::new_from_file(QFile::encodeName(path).constData());
         const Picture scaled = Picture::thumbnail_source(
@@ -28,7 +30,9 @@ Picture ImageAt(const QString& path, int width)
         const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
         return AsRgb(WithDepth(plain, 8)).copy_memory();
     } catch (const vips::VError& problem) {
-        throw ProcessingFailed(QStringLiteral("the file %1 cannot be read: %2").arg(path, TextOf(problem)));
+        const QString text = TextOf(problem);
+        throw ProcessingFailed(
+            QStringLiteral("the picture %1 cannot be read: %2").arg(path, HeaderDamageText(DamageKindOf(text))), text);
     }
 }
 

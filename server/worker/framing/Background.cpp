@@ -9,6 +9,7 @@
 #include "server/worker/geometry/Geometry.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
@@ -110,9 +111,9 @@ Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits&
     return InPlainSrgb(TurnedUpright(WithRandomAccess(covering), orientation), warnings);
 }
 
-PictureFailure Unreadable(const QString& file, const QString& reason)
+PictureFailure Unreadable(const QString& file, const QString& reason, const QString& detail)
 {
-    return ProcessingFailed(QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason));
+    return ProcessingFailed(QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason), detail);
 }
 
 } // namespace
@@ -123,12 +124,14 @@ std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transform
     if (framing.backgroundType != int(BackgroundType::Image)) {
         return std::nullopt;
     }
+    vips_error_clear(); // what was said of the picture says nothing of this file
     try {
         return CoveringFile(framing.backgroundImage, size, limits, warnings).copy_memory();
     } catch (const PictureFailure& failure) {
-        throw Unreadable(framing.backgroundImage, failure.reason);
+        throw Unreadable(framing.backgroundImage, failure.reason, failure.detail);
     } catch (const vips::VError& error) {
-        throw Unreadable(framing.backgroundImage, TextOf(error));
+        const QString text = TextOf(error);
+        throw Unreadable(framing.backgroundImage, DamageText(DamageKindOf(text)), text);
     }
 }
 

@@ -13,15 +13,15 @@ namespace {
 
 Picture Applied(const JobEffect& effect, const Picture& picture)
 {
-    const auto failed = [&effect](const QString& text) {
-        return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.schema->id, text));
+    const auto failed = [&effect](const QString& reason, const QString& detail) {
+        return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.schema->id, reason), detail);
     };
     try {
         return ApplyEffect(*effect.schema, effect.parameters, picture);
     } catch (const PictureFailure& problem) {
-        throw failed(problem.reason);
+        throw failed(problem.reason, problem.detail);
     } catch (const vips::VError& problem) {
-        throw failed(TextOf(problem));
+        throw failed(QStringLiteral("it cannot be applied to the picture"), TextOf(problem));
     }
 }
 

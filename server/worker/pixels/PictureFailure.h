@@ -20,9 +20,10 @@ public:
         OutputFailed      ///< the result cannot be written
     };
 
-    PictureFailure(Kind kind, const QString& reason, const QString& nearestFormat = {})
+    PictureFailure(Kind kind, const QString& reason, const QString& detail = {}, const QString& nearestFormat = {})
         : kind(kind)
         , reason(reason)
+        , detail(detail)
         , nearestFormat(nearestFormat)
         , text(reason.toUtf8())
     {
@@ -31,16 +32,17 @@ public:
     const char* what() const noexcept override { return text.constData(); }
 
     Kind kind;
-    QString reason;        ///< for users
+    QString reason;        ///< for users, in their words
+    QString detail;        ///< what a library says of it, for those who look for the cause; may be empty
     QString nearestFormat; ///< for FormatCannotHold: one that can hold the picture
 
 private:
     QByteArray text;
 };
 
-inline PictureFailure DamagedFile(const QString& reason)
+inline PictureFailure DamagedFile(const QString& reason, const QString& detail = {})
 {
-    return {PictureFailure::Kind::DamagedFile, reason};
+    return {PictureFailure::Kind::DamagedFile, reason, detail};
 }
 
 inline PictureFailure UnknownFormat(const QString& reason)
@@ -48,19 +50,25 @@ inline PictureFailure UnknownFormat(const QString& reason)
     return {PictureFailure::Kind::UnknownFormat, reason};
 }
 
-inline PictureFailure TooLarge(const QString& reason)
+inline PictureFailure TooLarge(const QString& reason, const QString& detail = {})
 {
-    return {PictureFailure::Kind::TooLarge, reason};
+    return {PictureFailure::Kind::TooLarge, reason, detail};
 }
 
-inline PictureFailure ProcessingFailed(const QString& reason)
+inline PictureFailure ProcessingFailed(const QString& reason, const QString& detail = {})
 {
-    return {PictureFailure::Kind::ProcessingFailed, reason};
+    return {PictureFailure::Kind::ProcessingFailed, reason, detail};
 }
 
-inline PictureFailure FormatCannotHold(const QString& reason, const QString& nearestFormat)
+/// Whatever a library, as `detail` says, had no memory for.
+inline PictureFailure NotEnoughMemory(const QString& detail = {})
 {
-    return {PictureFailure::Kind::FormatCannotHold, reason, nearestFormat};
+    return TooLarge(QStringLiteral("it needs more memory than a worker may use"), detail);
+}
+
+inline PictureFailure FormatCannotHold(const QString& reason, const QString& nearestFormat, const QString& detail = {})
+{
+    return {PictureFailure::Kind::FormatCannotHold, reason, detail, nearestFormat};
 }
 
 inline PictureFailure OutputFailed(const QString& reason)

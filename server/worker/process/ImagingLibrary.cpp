@@ -8,6 +8,7 @@
 #include <vips/vips8>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -25,13 +26,23 @@ namespace {
 std::mutex warningsMutex;
 Warnings warnings;
 
-// Of what the worker reads itself, and better: the colours that HEIF and PNG files describe.
-bool IsOfColours(const QString& text)
+/// Whether `text` says nothing of the picture that the worker does not know better. Cameras and scanners write private
+/// fields into TIFF files, and the library names each of them, in every file.
+bool IsHarmless(const QString& text)
 {
-    const QStringList chunks{QStringLiteral("iCCP: "), QStringLiteral("sRGB: "), QStringLiteral("gAMA: "),
-                             QStringLiteral("cHRM: ")};
-    return text.contains(QLatin1String("ignoring nclx profile")) ||
-           std::any_of(chunks.begin(), chunks.end(), [&text](const QString& chunk) { return text.startsWith(chunk); });
+    constexpr std::array harmless{
+        "ignoring nclx profile",     // HEIF: the worker reads what files say of their colours itself
+        "iCCP: ",                    // PNG: the same
+        "sRGB: ",                    // PNG
+        "gAMA: ",                    // PNG
+        "cHRM: ",                    // PNG
+        "nknown field with tag",     // TIFF: a private field
+        "tags are not sorted",       // TIFF: all are found nevertheless
+        "does not end in null byte", // TIFF: a text without its end mark
+        "Nonstandard tile",          // TIFF: sizes that are unusual, and read
+    };
+    return std::any_of(harmless.begin(), harmless.end(),
+                       [&text](const char* words) { return text.contains(QLatin1String(words)); });
 }
 
 void NoteWarning(const char* message)
@@ -39,11 +50,8 @@ void NoteWarning(const char* message)
     constexpr int most = 5;
     const std::lock_guard<std::mutex> lock(warningsMutex);
     const QString text = QString::fromLocal8Bit(message);
-    if (IsOfColours(text)) {
+    if (IsHarmless(text)) {
         return;
-    }
-    if (text.contains(QLatin1String("unknown field with tag"), Qt::CaseInsensitive)) {
-        return; // said of every tag of makers and programs that the library does not list; none concerns the pixels
     }
     const Warning warning{WarningKind::Decoder, text};
     if (warnings.size() < most && !warnings.contains(warning)) {
@@ -119,6 +127,12 @@ bool StartImagingLibrary(const char* program)
     vips_cache_set_max(0);
     AllowKnownFormatsOnly();
     return true;
+}
+
+void ForgetLibraryTexts()
+{
+    vips_error_clear();
+    TakeLibraryWarnings();
 }
 
 Warnings TakeLibraryWarnings()

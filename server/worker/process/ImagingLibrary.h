@@ -11,6 +11,10 @@ namespace BatchWorker {
 /// would abort otherwise.
 bool StartImagingLibrary(const char* program);
 
+/// Forgets the errors and warnings of earlier tasks. The library collects errors in one buffer, also those that it
+/// recovers from, and never clears it.
+void ForgetLibraryTexts();
+
 /// What the library has warned of since the last call, each warning once. Safe on any thread.
 BatchJob::Warnings TakeLibraryWarnings();
 

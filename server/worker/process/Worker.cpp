@@ -20,12 +20,13 @@ namespace BatchWorker {
 
 namespace {
 
-Report Failure(PolicyKind failure, ZTBatchMessage::Error error, const QString& reason)
+Report Failure(PolicyKind failure, ZTBatchMessage::Error error, const QString& reason, const QString& detail = {})
 {
     Report report;
     report.failure = failure;
     report.errorCode = error;
     report.reason = reason;
+    report.detail = detail;
     return report;
 }
 
@@ -33,7 +34,7 @@ Report ReportOf(const PictureFailure& problem)
 {
     using Kind = PictureFailure::Kind;
     const auto failed = [&problem](PolicyKind failure, ZTBatchMessage::Error error) {
-        Report report = Failure(failure, error, problem.reason);
+        Report report = Failure(failure, error, problem.reason, problem.detail);
         report.nearestFormat = problem.nearestFormat;
         return report;
     };
@@ -63,10 +64,30 @@ Report Guarded(const Work& work)
     } catch (const PictureFailure& problem) {
         return ReportOf(problem);
     } catch (const std::bad_alloc&) {
-        return ReportOf(TooLarge(QStringLiteral("it needs more memory than a worker may use")));
+        return ReportOf(NotEnoughMemory());
     } catch (const std::exception& problem) {
-        return ReportOf(ProcessingFailed(QString::fromLocal8Bit(problem.what())));
+        return ReportOf(ProcessingFailed(QStringLiteral("the picture cannot be processed"),
+                                         QString::fromLocal8Bit(problem.what())));
     }
+}
+
+/// The same for a task about a picture. What libraries say of one picture is in its report, and in no other.
+template<typename Work>
+Report ReportOnPicture(const Work& work)
+{
+    ForgetLibraryTexts();
+    Report report = Guarded(work);
+    const Warnings warnings = TakeLibraryWarnings();
+    if (report.failure == PolicyKind::None) {
+        report.warnings += warnings;
+    } else {
+        QStringList texts = TextsOf(warnings);
+        if (!report.detail.isEmpty()) {
+            texts.prepend(report.detail);
+        }
+        report.detail = texts.join(QStringLiteral("; "));
+    }
+    return report;
 }
 
 } // namespace
@@ -138,7 +159,8 @@ Report Worker::Read(const Job& job)
 void Worker::Probe(const ProbeTask& task)
 {
     reports.Begin(task.number);
-    Report report = Guarded([this, &task] { return ProbeFile(task, limits); });
+    Report report = ReportOnPicture([this, &task] { return ProbeFile(task, limits); });
+    report.warnings.clear(); // reported when the picture is made
     report.number = task.number;
     reports.Send(report);
 }
@@ -147,13 +169,12 @@ void Worker::Make(const PictureTask& task)
 {
     reports.Begin(task.number);
     MadePicture made;
-    TakeLibraryWarnings(); // discards those of earlier tasks
-    Report report = Guarded([this, &task, &made] {
+    Report report = ReportOnPicture([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
             made = MakePicture(*settings, limits, task);
             done.outputBytes = made.bytes;
-            done.warnings = made.warnings + TakeLibraryWarnings();
+            done.warnings = made.warnings;
         }
         return done;
     });

@@ -307,7 +307,8 @@ void tst_FormatCatalog::listsReadableExtensions()
 
     QVERIFY(std::is_sorted(extensions.begin(), extensions.end()));
     QCOMPARE(QSet<QString>(extensions.begin(), extensions.end()).size(), extensions.size());
-    for (const char* extension : {"jpg", "tiff", "heic", "dng", "nef", "jxl"}) {
+    for (const char* extension :
+         {"jpg", "tiff", "heic", "dng", "nef", "jxl", "hif", "mpo", "jpf", "j2c", "jph", "avifs", "gpr"}) {
         QVERIFY2(extensions.contains(QLatin1String(extension)), extension);
     }
     QVERIFY(!extensions.contains(QStringLiteral("txt")));

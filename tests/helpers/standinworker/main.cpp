@@ -9,6 +9,8 @@
 //     wait PATH                                  waits for the file PATH
 //     input CODE | output CODE | ...             reports a failure of that case with the error code
 //     format NAME                                can write this format only
+//     warn KIND TEXT                             writes the result, with a warning
+//     detail TEXT                                reports a damaged file, with what a library says of it
 //     crashprobe | hangprobe | eatprobe          does as crash, hang and eat when the file is probed
 //
 // With a file "start.script" beside the executable it ends at once, with "job.script" when it gets a job.
@@ -186,7 +188,17 @@ Report Make(const PictureTask& task)
     if (kind > 0) {
         return Failure(BatchJob::PolicyKind(kind - 1), argument.toInt());
     }
-    return WriteResult(task, content);
+    if (command == "detail") {
+        Report report = Failure(BatchJob::PolicyKind::Input, ZTBatchMessage::ReadFileError);
+        report.detail = QString::fromUtf8(content.mid(command.size() + 1));
+        return report;
+    }
+    Report report = WriteResult(task, content);
+    if (command == "warn") {
+        report.warnings.append({BatchJob::WarningKindOf(QString::fromUtf8(argument)),
+                                QString::fromUtf8(content.mid(command.size() + argument.size() + 2))});
+    }
+    return report;
 }
 
 Report Probe(const ProbeTask& task)

@@ -20,6 +20,9 @@ private Q_SLOTS:
     void picturesAreWritten();
     void savedJobsAreRun();
     void failuresAreToldAndCounted();
+    void damageIsToldInWords();
+    void plansTellDamageInWords();
+    void warningsAreCounted();
     void policiesAreWords_data();
     void policiesAreWords();
     void nobodyToAskIsSaid();
@@ -129,6 +132,57 @@ void tst_CliRun::failuresAreToldAndCounted()
     QCOMPARE(Results(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("3.jpg")}));
     QVERIFY2(run.err.contains("failed " + Path(QStringLiteral("photos/2.jpg")).toUtf8() + ": "), run.err.constData());
     QVERIFY2(run.err.contains("Failed              1  Error reading file: 1"), run.err.constData());
+}
+
+void tst_CliRun::damageIsToldInWords()
+{
+    const QString bad = Path(QStringLiteral("photos/2.jpg"));
+    PictureFiles::WriteTruncated(bad);
+    const QRegularExpression words(QStringLiteral("\nfailed %1: the file ends after (3|4|5)[0-9] % of the picture\n")
+                                       .arg(QRegularExpression::escape(bad)));
+    const CliRun run = Run(QStringLiteral("run photos -o out"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(words.match(run.Err()).hasMatch(), run.err.constData());
+    QVERIFY2(!run.err.contains("Jpeg"), run.err.constData());
+    // The library's own text is there for those who want it.
+    const CliRun verbose = Run(QStringLiteral("run photos -o more --verbose"));
+    QVERIFY2(words.match(verbose.Err()).hasMatch(), verbose.err.constData());
+    QVERIFY2(verbose.err.contains("\nlog: " + bad.toUtf8() + ": detail: VipsJpeg: Premature end"),
+             verbose.err.constData());
+}
+
+void tst_CliRun::plansTellDamageInWords()
+{
+    const QString bad = Path(QStringLiteral("photos/2.jpg"));
+    PictureFiles::WriteTruncated(bad);
+    QVERIFY(QFile::resize(bad, 100));
+    const CliRun plan = Run(QStringLiteral("plan photos -o out --name date"));
+    QVERIFY2(plan.out.contains("[ask: the file ends before the picture is complete]\n"), plan.out.constData());
+    QVERIFY2(!plan.err.contains("Jpeg"), plan.err.constData());
+    const CliRun verbose = Run(QStringLiteral("plan photos -o out --name date --verbose"));
+    QVERIFY2(verbose.err.contains(bad.toUtf8() + ": detail: VipsJpeg: "), verbose.err.constData());
+}
+
+void tst_CliRun::warningsAreCounted()
+{
+    const QString pages = Path(QStringLiteral("photos/pages.tif"));
+    QVERIFY(QFile::copy(QStringLiteral(PAGES_DATA "/two-pages.tif"), pages));
+    QVERIFY(QFile::copy(pages, Path(QStringLiteral("photos/pages2.tif"))));
+    const CliRun run = Run(QStringLiteral("run photos -o out --workers 1 --json --report r.json"));
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    const QString summary = QStringLiteral("\n2 warnings: 2 \u00d7 only the first page\n"
+                                           "    %1: it has 2 pages; only the first is used\n")
+                                .arg(pages);
+    QVERIFY2(run.Err().endsWith(summary), run.err.constData());
+    QCOMPARE(run.out.count("\"event\":\"warning\""), 2);
+    QFile report(Path(QStringLiteral("r.json")));
+    QVERIFY(report.open(QIODevice::ReadOnly));
+    QCOMPARE(report.readAll().count("\"kind\": \"other-pages\""), 2);
+    const CliRun strict = Run(QStringLiteral("run photos -o strict --format png --strict"));
+    QCOMPARE(strict.exitCode, 1);
+    QVERIFY2(strict.err.contains("Written             3") && strict.err.contains("Failed              2"),
+             strict.err.constData());
+    QCOMPARE(QImage(Path(QStringLiteral("strict/pages.png"))).pixelColor(1, 1), QColor(Qt::red));
 }
 
 void tst_CliRun::policiesAreWords_data()
@@ -246,8 +300,8 @@ void tst_CliRun::reportsListEveryInput()
     QVERIFY(csv.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = csv.readAll().split('\n');
     QCOMPARE(lines.size(), 6);
-    QCOMPARE(lines[0], QByteArray("input,output,result,code,reason\r"));
-    QVERIFY2(lines[1].endsWith("/out/1.jpg\",\"written\",0,\"\"\r"), lines[1].constData());
+    QCOMPARE(lines[0], QByteArray("input,output,result,code,reason,warnings\r"));
+    QVERIFY2(lines[1].endsWith("/out/1.jpg\",\"written\",0,\"\",\"\"\r"), lines[1].constData());
     QVERIFY2(lines[2].contains(",\"failed\",2,\""), lines[2].constData());
     QVERIFY2(lines[4].contains("/a \"\"quoted\"\", name.jpg\","), lines[4].constData());
 

@@ -1,0 +1,76 @@
+#include "DamageText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace BatchWorker {
+
+namespace {
+
+struct Sign
+{
+    const char* words; ///< part of a message, lower case
+    DamageKind kind;
+};
+
+/// The messages of the libraries by which a kind of damage is known, in the order in which they count. Others mean that
+/// the file is damaged.
+constexpr std::array signs{
+    Sign{"unsupported", DamageKind::NotSupported},
+    Sign{"not supported", DamageKind::NotSupported},
+    Sign{"not implemented", DamageKind::NotSupported},
+    Sign{"not configured", DamageKind::NotSupported},           // libtiff: a compression
+    Sign{"premature end", DamageKind::CutOff},                  // libjpeg
+    Sign{"unexpected end", DamageKind::CutOff},                 // GIF, libheif
+    Sign{"outside of file bounds", DamageKind::CutOff},         // libheif
+    Sign{"bad seek", DamageKind::CutOff},                       // libvips: behind the end
+    Sign{"seek error", DamageKind::CutOff},                     // libtiff: the same
+    Sign{"can not read tiff directory", DamageKind::CutOff},    // libtiff
+    Sign{"bytes, expected", DamageKind::CutOff},                // libtiff: "got 3520 bytes, expected 7200"
+    Sign{"inconsistent with stream length", DamageKind::CutOff} // OpenJPEG
+};
+
+QString NotSupportedText()
+{
+    return QStringLiteral("the file is stored in a way that its decoder cannot read");
+}
+
+} // namespace
+
+DamageKind DamageKindOf(const QString& libraryText)
+{
+    const QString text = libraryText.toLower();
+    const auto sign = std::find_if(signs.begin(), signs.end(),
+                                   [&text](const Sign& one) { return text.contains(QLatin1String(one.words)); });
+    return sign == signs.end() ? DamageKind::Damaged : sign->kind;
+}
+
+QString DamageText(DamageKind kind, int percent)
+{
+    switch (kind) {
+    case DamageKind::NotSupported:
+        return NotSupportedText();
+    case DamageKind::CutOff:
+        return percent > 0 ? QStringLiteral("the file ends after %1 % of the picture").arg(percent)
+                           : QStringLiteral("the file ends before the picture is complete");
+    case DamageKind::Damaged:
+        break;
+    }
+    return percent > 0 ? QStringLiteral("the file is damaged after %1 % of the picture").arg(percent)
+                       : QStringLiteral("the file is damaged; no part of the picture can be read");
+}
+
+QString HeaderDamageText(DamageKind kind)
+{
+    switch (kind) {
+    case DamageKind::NotSupported:
+        return NotSupportedText();
+    case DamageKind::CutOff:
+        return QStringLiteral("the file ends before the picture is complete");
+    case DamageKind::Damaged:
+        break;
+    }
+    return QStringLiteral("the file is damaged; its header cannot be read");
+}
+
+} // namespace BatchWorker
