@@ -133,6 +133,9 @@ void SetFields(TIFF* tiff, const TiffPicture& picture)
     if (picture.inkSet != 1) {
         TIFFSetField(tiff, TIFFTAG_INKSET, picture.inkSet);
     }
+    if (picture.compression == COMPRESSION_SGILOG) {
+        TIFFSetField(tiff, TIFFTAG_SGILOGDATAFMT, SGILOGDATAFMT_FLOAT);
+    }
     if (picture.predictor != 1) {
         TIFFSetField(tiff, TIFFTAG_PREDICTOR, picture.predictor);
     }

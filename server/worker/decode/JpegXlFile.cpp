@@ -79,7 +79,7 @@ private:
         constexpr qint64 ofDecoder = 6; // bytes for each value, seen with libjxl 0.7, beside those of the result
         const qint64 values = qint64(header.size.width()) * header.size.height() * header.Bands();
         if (values * (ofDecoder + header.bits / 8) > FreeMemory()) {
-            throw TooLarge(QStringLiteral("decoding %1 x %2 pixels of JPEG XL needs more memory than a worker may use")
+            throw TooLarge(QStringLiteral("out of memory: decoding %1 x %2 pixels takes more than a worker may use")
                                .arg(header.size.width())
                                .arg(header.size.height()));
         }

@@ -10,7 +10,22 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace BatchJob;
+
 namespace BatchWorker {
+
+namespace {
+
+QString Text(const char* format, va_list values) __attribute__((format(printf, 1, 0)));
+
+QString Text(const char* format, va_list values)
+{
+    std::array<char, 300> text{};
+    std::vsnprintf(text.data(), text.size(), format, values);
+    return QString::fromLocal8Bit(text.data());
+}
+
+} // namespace
 
 TiffHandle::TiffHandle(int source, qint64 largestAllocation)
     : descriptor(fcntl(source, F_DUPFD_CLOEXEC, 0))
@@ -19,7 +34,7 @@ TiffHandle::TiffHandle(int source, qint64 largestAllocation)
                                                                                    TIFFOpenOptionsFree);
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), largestAllocation);
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), NoteError, this);
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), IgnoreWarning, this);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), NoteWarning, this);
     // Not mapped: a file that shrinks meanwhile would end the process.
     tiff = TIFFClientOpenExt("picture", "rm", this, Read, Write, Seek, Close, Size, nullptr, nullptr, options.get());
     if (!tiff) {
@@ -90,16 +105,23 @@ int TiffHandle::NoteError(TIFF*, void* self, const char*, const char* format, va
 {
     auto* const handle = static_cast<TiffHandle*>(self);
     if (handle->problem.isEmpty()) {
-        std::array<char, 300> text{};
-        std::vsnprintf(text.data(), text.size(), format, values);
-        handle->problem = QString::fromLocal8Bit(text.data());
+        handle->problem = Text(format, values);
     }
     return 1; // the decoder does nothing more about it
 }
 
-// They are about fields that the decoder does not know, or that it repairs.
-int TiffHandle::IgnoreWarning(TIFF*, void*, const char*, const char*, va_list)
+int TiffHandle::NoteWarning(TIFF*, void* self, const char*, const char* format, va_list values)
 {
+    constexpr int most = 5;
+    Warnings* const warnings = static_cast<TiffHandle*>(self)->warnings;
+    if (!warnings || warnings->size() >= most) {
+        return 1;
+    }
+    const Warning warning{WarningKind::Decoder, Text(format, values)};
+    const bool isAdvice = warning.text.contains(QLatin1String("notify vendor")); // about JPEG data of an old kind
+    if (!isAdvice && !warnings->contains(warning)) {
+        warnings->append(warning);
+    }
     return 1;
 }
 

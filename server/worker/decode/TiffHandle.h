@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/values/Warning.h"
+
 #include <QString>
 
 #include <tiffio.h>
@@ -26,6 +28,9 @@ public:
     /// The first error, as the decoder says it; empty when there was none.
     const QString& Problem() const { return problem; }
 
+    /// From now on, what the decoder repairs is appended to `list`. Before, it speaks of fields that it does not know.
+    void WarnTo(BatchJob::Warnings& list) { warnings = &list; }
+
     /// The value of a field that always has one; `fallback` when it lacks.
     template<typename Value>
     Value Field(quint32 tag, Value fallback) const
@@ -44,11 +49,13 @@ private:
     static toff_t Size(thandle_t self);
     static int NoteError(TIFF*, void* self, const char*, const char* format, va_list values)
         __attribute__((format(printf, 4, 0)));
-    static int IgnoreWarning(TIFF*, void*, const char*, const char*, va_list);
+    static int NoteWarning(TIFF*, void* self, const char*, const char* format, va_list values)
+        __attribute__((format(printf, 4, 0)));
 
     int descriptor;
     qint64 position = 0;
     QString problem;
+    BatchJob::Warnings* warnings = nullptr;
     TIFF* tiff = nullptr;
 };
 

@@ -50,6 +50,9 @@ TiffRows::TiffRows(int descriptor, qint64 memory, Warnings& warnings)
         OpenPlanes(descriptor, memory);
     }
     Reserve(memory);
+    for (const std::unique_ptr<TiffHandle>& file : files) {
+        file->WarnTo(warnings);
+    }
 }
 
 TiffRows::~TiffRows()

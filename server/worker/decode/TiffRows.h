@@ -15,8 +15,8 @@ namespace BatchWorker {
 class TiffRows
 {
 public:
-    /// Opens the file of `descriptor`, which may be closed then. Throws PictureFailure for what cannot be read, and for
-    /// a file that needs more than `memory` bytes.
+    /// Opens the file of `descriptor`, which may be closed then. `warnings` live as long as this. Throws PictureFailure
+    /// for what cannot be read, and for a file that needs more than `memory` bytes.
     TiffRows(int descriptor, qint64 memory, BatchJob::Warnings& warnings);
     ~TiffRows();
 

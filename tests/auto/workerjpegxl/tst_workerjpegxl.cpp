@@ -136,6 +136,7 @@ private Q_SLOTS:
     void bringsHdrToCommonScreens();
     void refusesTruncatedFiles_data();
     void refusesTruncatedFiles();
+    void refusesToReadWithoutMemory();
 
     void writesAtEveryEffort_data();
     void writesAtEveryEffort();
@@ -430,6 +431,22 @@ void tst_WorkerJpegXl::refusesTruncatedFiles()
     QVERIFY(!QFile::exists(bench->Path(Text("out.bin"))));
 }
 
+void tst_WorkerJpegXl::refusesToReadWithoutMemory()
+{
+    if (isSanitized) {
+        QSKIP("memory has no limit under sanitizers");
+    }
+    JxlFile file = FileOf([](int, int, int) { return 0.5; });
+    file.size = QSize(3000, 2000);
+    bench = std::make_unique<WorkerBench>();
+    bench->WriteBytes(Text("in.jxl"), file.Bytes());
+    constexpr int mebibytes = 128;
+    report = bench->Make(Text("in.jxl"), Text("out.png"), Text("PNG"), JobWithin({}, mebibytes));
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::ImageTooLarge));
+    QVERIFY2(report.reason.contains(Text("3000 x 2000 pixels")), qPrintable(report.reason));
+    QCOMPARE(bench->Names(), QStringList(Text("in.jxl")));
+}
+
 void tst_WorkerJpegXl::writesAtEveryEffort_data()
 {
     QTest::addColumn<int>("effort");
@@ -480,7 +497,9 @@ void tst_WorkerJpegXl::takesLittleMemory()
     }
 
     bench = std::make_unique<WorkerBench>();
-    Picture photo = Photo(3000, 2000);
+    constexpr int width = 2400; // above what gets the highest effort
+    constexpr int height = 1800;
+    Picture photo = Photo(width, height);
     if (bits == 16) {
         photo = photo.linear(257, 0)
                     .cast(VIPS_FORMAT_USHORT)
@@ -490,7 +509,7 @@ void tst_WorkerJpegXl::takesLittleMemory()
     report = bench->Make(Text("in.tif"), Text("out.jxl"), Text("JPEG XL"), JobOf(Text("JPEG XL"), options));
     QCOMPARE(report.reason, QString());
     const double peak = PeakMemory(bench->Worker().ProcessId());
-    const double ofPixels = (1536 - 100) * 6.0 / 24 * (hasAlpha ? 4.0 / 3 : 1);
+    const double ofPixels = (1536 - 100) * (width * height / 24e6) * (hasAlpha ? 4.0 / 3 : 1);
     QVERIFY2(peak <= 100 + ofPixels, qPrintable(QString::number(peak)));
 }
 

@@ -135,6 +135,7 @@ private Q_SLOTS:
     void readsOldJpeg();
     void readsLab_data();
     void readsLab();
+    void readsLight();
     void readsGreyThatBeginsWithWhite_data();
     void readsGreyThatBeginsWithWhite();
     void readsPalettes_data();
@@ -344,7 +345,9 @@ void tst_WorkerTiff::readsOldJpeg()
     const quint32 start = header + quint32(stream.size() + stream.size() % 2);
     bench->WriteBytes(Text("in.tif"), QByteArray("II*\0", 4) + LittleEndian(start) +
                                           stream.leftJustified(int(start - header), '\0') + directory.Bytes(start));
-    QCOMPARE(bench->Make(Text("in.tif"), Text("out.png"), Text("PNG")).reason, QString());
+    const Report report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.warnings, Warnings());
     const Picture result = ReadPicture(bench->Path(Text("out.png")));
     QVERIFY(MeanDifference(result, ReadPicture(bench->Path(Text("whole.jpg")))) < 3);
 }
@@ -392,6 +395,25 @@ void tst_WorkerTiff::readsLab()
     const double difference =
         LargestDifferenceTo(result, [&](int, int, int s) { return s == 3 ? alpha : expected[std::size_t(s)]; });
     QVERIFY2(difference <= 0.006, qPrintable(QString::number(difference)));
+}
+
+// Compressed as the logarithm of light.
+void tst_WorkerTiff::readsLight()
+{
+    TiffPicture picture;
+    picture.bits = 32;
+    picture.numbers = TiffPicture::Floating;
+    picture.compression = 34676;
+    const auto lightAt = [](int x, int, int) { return 0.05 + x / 50.0; };
+    for (const bool isGrey : {false, true}) {
+        picture.samples = isGrey ? 1 : 3;
+        picture.photometric = isGrey ? 32844 : 32845; // brightness; X, Y and Z, of which white has the same
+        const Picture result = Made(picture, lightAt);
+        QCOMPARE(result.bands(), picture.samples);
+        const double difference =
+            LargestDifferenceTo(result, [&](int x, int y, int s) { return ToSrgb(lightAt(x, y, s)); });
+        QVERIFY2(difference < 0.01, qPrintable(QString::number(difference)));
+    }
 }
 
 void tst_WorkerTiff::readsGreyThatBeginsWithWhite_data()

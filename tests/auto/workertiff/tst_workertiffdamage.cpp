@@ -72,6 +72,7 @@ private Q_SLOTS:
     void initTestCase();
     void saysHowMuchIsThere_data();
     void saysHowMuchIsThere();
+    void tellsOfWhatWasRepaired();
     void bearsHostileSizes_data();
     void bearsHostileSizes();
     void bearsAnyBytes_data();
@@ -124,6 +125,20 @@ void tst_WorkerTiffDamage::saysHowMuchIsThere()
                  qPrintable(report.reason));
         QVERIFY(!QFile::exists(bench->Path(Text("out.tif"))));
     }
+}
+
+void tst_WorkerTiffDamage::tellsOfWhatWasRepaired()
+{
+    TiffPicture picture;
+    picture.compression = 7; // JPEG
+    picture.rowsOfStrip = 40;
+    picture.Write(bench->Path(Text("in.tif")), ChartAt);
+    QByteArray bytes = bench->Bytes(Text("in.tif"));
+    const int scan = bytes.indexOf("\xFF\xDA");
+    QVERIFY(scan > 0);
+    bench->WriteBytes(Text("in.tif"), bytes.replace(scan + 100, 2, "\xFF\xD9"));
+    const Report report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
+    QVERIFY(!report.reason.isEmpty() || !report.warnings.isEmpty());
 }
 
 void tst_WorkerTiffDamage::bearsHostileSizes_data()
