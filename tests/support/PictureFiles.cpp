@@ -5,7 +5,9 @@
 #include <QFileInfo>
 #include <QImage>
 
-void PictureFiles::WriteJpeg(const QString& path, int seed, int width, int height)
+namespace {
+
+void Write(const QString& path, const char* format, int seed, int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y) {
@@ -13,14 +15,21 @@ void PictureFiles::WriteJpeg(const QString& path, int seed, int width, int heigh
             image.setPixel(x, y, qRgb((x * 7 + seed * 31) % 256, (y * 5 + seed * 17) % 256, (x + y + seed) % 256));
         }
     }
-    if (!QDir().mkpath(QFileInfo(path).path()) || !image.save(path, "JPG", 90)) {
+    if (!QDir().mkpath(QFileInfo(path).path()) || !image.save(path, format, 90)) {
         qFatal("The picture %s cannot be written.", qUtf8Printable(path));
     }
 }
 
+} // namespace
+
+void PictureFiles::WriteJpeg(const QString& path, int seed, int width, int height)
+{
+    Write(path, "JPG", seed, width, height);
+}
+
 void PictureFiles::WriteTruncated(const QString& path)
 {
-    WriteJpeg(path, 1, 200, 200);
+    Write(path, nullptr, 1, 200, 200);
     QFile file(path);
     if (!file.resize(file.size() / 2)) {
         qFatal("The picture %s cannot be truncated.", qUtf8Printable(path));

@@ -8,7 +8,7 @@ namespace PictureFiles {
 /// Writes a JPEG of `width` x `height` pixels, and the folders above it. Each `seed` gives other pixels.
 void WriteJpeg(const QString& path, int seed = 0, int width = 64, int height = 48);
 
-/// Writes a JPEG that ends in its middle.
+/// Writes a picture, of the format that the extension says, that ends in its middle.
 void WriteTruncated(const QString& path);
 
 } // namespace PictureFiles

@@ -7,6 +7,7 @@
 #include "Jpeg2000Decoder.h"
 #include "Jpeg2000Rows.h"
 
+#include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -146,15 +147,7 @@ private:
 
 int Generate(VipsRegion* region, void*, void*, void* client, gboolean*)
 {
-    try {
-        static_cast<Jpeg2000File*>(client)->Fill(region);
-        return 0;
-    } catch (const PictureFailure& problem) {
-        vips_error(nullptr, "%s", problem.what());
-    } catch (const std::bad_alloc&) {
-        vips_error(nullptr, "out of memory");
-    }
-    return -1;
+    return ResultOfFilling([client, region] { static_cast<Jpeg2000File*>(client)->Fill(region); });
 }
 
 void DeleteFile(gpointer file)

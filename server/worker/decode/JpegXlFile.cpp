@@ -2,6 +2,7 @@
 
 #include "JpegXlDecoder.h"
 
+#include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/FreeMemory.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -79,7 +80,7 @@ private:
         constexpr qint64 ofDecoder = 6; // bytes for each value, seen with libjxl 0.7, beside those of the result
         const qint64 values = qint64(header.size.width()) * header.size.height() * header.Bands();
         if (values * (ofDecoder + header.bits / 8) > FreeMemory()) {
-            throw TooLarge(QStringLiteral("out of memory: decoding %1 x %2 pixels takes more than a worker may use")
+            throw TooLarge(QStringLiteral("decoding %1 x %2 pixels takes more than a worker may use")
                                .arg(header.size.width())
                                .arg(header.size.height()));
         }
@@ -94,15 +95,7 @@ private:
 
 int Generate(VipsRegion* region, void*, void* client, void*, gboolean*)
 {
-    try {
-        static_cast<JpegXlFile*>(client)->Fill(region);
-        return 0;
-    } catch (const PictureFailure& problem) {
-        vips_error(nullptr, "%s", problem.what());
-    } catch (const std::bad_alloc&) {
-        vips_error(nullptr, "out of memory");
-    }
-    return -1;
+    return ResultOfFilling([client, region] { static_cast<JpegXlFile*>(client)->Fill(region); });
 }
 
 void DeleteFile(gpointer file)

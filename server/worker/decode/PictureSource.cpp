@@ -9,6 +9,7 @@
 
 #include "job/formats/FormatCatalog.h"
 #include "server/worker/geometry/Orientation.h"
+#include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/VipsText.h"
@@ -214,6 +215,9 @@ void PictureSource::OpenWithLoader()
 
 PictureFailure PictureSource::Damage(const QString& libraryText, std::optional<int> percent) const
 {
+    if (const std::optional<PictureFailure> carried = TakeCarriedFailure()) {
+        return *carried;
+    }
     if (IsOutOfMemory(libraryText)) {
         return NotEnoughMemory(libraryText);
     }

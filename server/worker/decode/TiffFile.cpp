@@ -2,6 +2,7 @@
 
 #include "TiffRows.h"
 
+#include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 
 #include <algorithm>
@@ -18,13 +19,11 @@ int GenerateRows(VipsRegion* target, void*, void* client, void*, gboolean*)
 {
     auto* const rows = static_cast<TiffRows*>(client);
     const VipsRect& area = target->valid;
-    for (int y = area.top; y < area.top + area.height; ++y) {
-        if (!rows->Copy(area.left, y, area.width, PixelAt<std::uint8_t>(target, area.left, y))) {
-            vips_error(nullptr, "%s", qUtf8Printable(rows->Problem()));
-            return -1;
+    return ResultOfFilling([rows, target, &area] {
+        for (int y = area.top; y < area.top + area.height; ++y) {
+            rows->Copy(area.left, y, area.width, PixelAt<std::uint8_t>(target, area.left, y));
         }
-    }
-    return 0;
+    });
 }
 
 void DeleteRows(gpointer rows)

@@ -1,5 +1,6 @@
 #include "TiffHandle.h"
 
+#include "server/worker/pixels/DamageText.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <array>
@@ -39,8 +40,7 @@ TiffHandle::TiffHandle(int source, qint64 largestAllocation)
     tiff = TIFFClientOpenExt("picture", "rm", this, Read, Write, Seek, Close, Size, nullptr, nullptr, options.get());
     if (!tiff) {
         close(descriptor);
-        throw DamagedFile(problem.isEmpty() ? QStringLiteral("its header cannot be read")
-                                            : QStringLiteral("its header cannot be read: %1").arg(problem));
+        throw DamagedFile(HeaderDamageText(DamageKindOf(problem)), problem);
     }
 }
 

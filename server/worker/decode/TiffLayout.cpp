@@ -200,13 +200,10 @@ void ReadExtraSamples(const TiffHandle& file, TiffLayout& layout, Warnings& warn
     }
 }
 
-void RequireInks(const TiffHandle& file, const TiffLayout& layout)
+void RequireInks(const TiffHandle& file)
 {
     if (file.Field<quint16>(TIFFTAG_INKSET, INKSET_CMYK) != INKSET_CMYK) {
         throw UnknownFormat(QStringLiteral("it has inks of its own; only cyan, magenta, yellow and black can be read"));
-    }
-    if (layout.numbers == TiffNumbers::Floating) {
-        throw UnknownFormat(QStringLiteral("inks in floating point are not supported"));
     }
 }
 
@@ -226,7 +223,7 @@ void RequireMeaning(const TiffHandle& file, const TiffLayout& layout)
         throw UnknownFormat(QStringLiteral("palettes of %1 bits are not supported").arg(layout.bits));
     }
     if (layout.colours == TiffColours::Cmyk) {
-        RequireInks(file, layout);
+        RequireInks(file);
     }
     const quint16 compression = file.Field<quint16>(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     if (layout.colours == TiffColours::Converted && layout.isTiled && compression == COMPRESSION_NONE) {

@@ -1,6 +1,6 @@
 #include "TiffRows.h"
 
-#include "server/worker/pixels/PictureFailure.h"
+#include "server/worker/pixels/DamageText.h"
 
 #include <algorithm>
 #include <cstring>
@@ -112,18 +112,17 @@ void TiffRows::Reserve(qint64 memory)
     }
 }
 
-bool TiffRows::Copy(int left, int y, int count, std::uint8_t* target)
+void TiffRows::Copy(int left, int y, int count, std::uint8_t* target)
 {
     const std::lock_guard<std::mutex> lock(mutex);
     const bool isInMemory = y >= firstRow && y < firstRow + rowCount;
     if (!isInMemory && (hasFailed || !LoadBand(y))) {
         hasFailed = true;
-        return false;
+        throw Failure();
     }
     const std::size_t pixelSize = std::size_t(PixelSize());
     const std::size_t first = std::size_t(y - firstRow) * std::size_t(layout.width) + std::size_t(left);
     std::memcpy(target, &band[first * pixelSize], std::size_t(count) * pixelSize);
-    return true;
 }
 
 bool TiffRows::LoadBand(int y)
@@ -228,7 +227,7 @@ bool TiffRows::LoadConverted(int y)
 }
 
 // Says how much of the picture is there.
-QString TiffRows::Problem() const
+PictureFailure TiffRows::Failure() const
 {
     const int percent = int(qint64(firstRow) * 100 / layout.height);
     QString detail;
@@ -242,10 +241,9 @@ QString TiffRows::Problem() const
         }
     }
     if (end > files.front()->FileSize()) {
-        return QStringLiteral("the file ends after %1 % of the picture").arg(percent);
+        return DamagedFile(QStringLiteral("the file ends after %1 % of the picture").arg(percent), detail);
     }
-    const QString text = QStringLiteral("its picture data is damaged after %1 % of the picture").arg(percent);
-    return detail.isEmpty() ? text : text + QStringLiteral(": ") + detail;
+    return DamagedFile(DamageText(DamageKind::Damaged, percent), detail);
 }
 
 } // namespace BatchWorker

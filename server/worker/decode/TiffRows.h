@@ -2,7 +2,7 @@
 
 #include "TiffSamples.h"
 
-#include <QString>
+#include "server/worker/pixels/PictureFailure.h"
 
 #include <memory>
 #include <mutex>
@@ -25,17 +25,15 @@ public:
     TIFF* File() const { return files.front()->Get(); }
     int PixelSize() const;
 
-    /// Copies the pixels from `left` on of row `y`. False when they cannot be decoded; Problem() says why.
-    bool Copy(int left, int y, int count, std::uint8_t* target);
-
-    /// For users.
-    QString Problem() const;
+    /// Copies the pixels from `left` on of row `y`. Throws PictureFailure when they cannot be decoded.
+    void Copy(int left, int y, int count, std::uint8_t* target);
 
 private:
     Q_DISABLE_COPY(TiffRows)
 
     void OpenPlanes(int descriptor, qint64 memory);
     void Reserve(qint64 memory);
+    PictureFailure Failure() const;
     bool LoadBand(int y);
     bool LoadRow(int y);
     bool DecodeRow(int y);

@@ -1,14 +1,11 @@
 #include "EffectFunctions.h"
 #include "WatermarkPlacement.h"
 
-#include "server/worker/colour/Colour.h"
+#include "job/values/JobValues.h"
 #include "server/worker/colour/PictureColours.h"
-#include "server/worker/pixels/DamageText.h"
+#include "server/worker/decode/JobPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
-#include "server/worker/pixels/VipsText.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <cmath>
@@ -20,19 +17,17 @@ namespace {
 /// The file as sRGB of 8 bits, upright, scaled to `width`.
 Picture ImageAt(const QString& path, int width)
 {
-    vips_error_clear(); // what was said of the picture says nothing of this file
+    ZTBatchOutputSettings::ImageSize size;
+    size.restriction = int(BatchJob::SizeRestriction::Fit);
+    size.side = int(BatchJob::SizeSide::Width);
+    size.size = width;
+    // Warnings about a logo's profile do not belong into the report on a picture.
+    BatchJob::Warnings warnings;
     try {
-        const vips::VSource source = vips::VSource::new_from_file(QFile::encodeName(path).constData());
-        const Picture scaled = Picture::thumbnail_source(
-            source, width, Picture::option()->set("height", VIPS_MAX_COORD)->set("fail_on", VIPS_FAIL_ON_TRUNCATED));
-        // Warnings about a logo's profile do not belong into the report on a picture.
-        BatchJob::Warnings warnings;
-        const Picture plain = InPlainSrgb(InWorkingColours(scaled, false, warnings), warnings);
-        return AsRgb(WithDepth(plain, 8)).copy_memory();
-    } catch (const vips::VError& problem) {
-        const QString text = TextOf(problem);
-        throw ProcessingFailed(
-            QStringLiteral("the picture %1 cannot be read: %2").arg(path, HeaderDamageText(DamageKindOf(text))), text);
+        return AsRgb(WithDepth(ReadJobPicture(path, {}, size, {}, warnings), 8));
+    } catch (const PictureFailure& failure) {
+        throw ProcessingFailed(QStringLiteral("the picture %1 cannot be read: %2").arg(path, failure.reason),
+                               failure.detail);
     }
 }
 

@@ -5,16 +5,10 @@
 #include "job/values/JobValues.h"
 #include "server/worker/colour/Colour.h"
 #include "server/worker/colour/PictureColours.h"
-#include "server/worker/decode/PictureSource.h"
-#include "server/worker/geometry/Geometry.h"
-#include "server/worker/geometry/Orientation.h"
-#include "server/worker/geometry/Resampling.h"
-#include "server/worker/pixels/DamageText.h"
+#include "server/worker/decode/JobPicture.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
-#include "server/worker/pixels/RandomAccess.h"
-#include "server/worker/pixels/VipsText.h"
 
 #include <cmath>
 #include <vector>
@@ -96,26 +90,6 @@ Picture BackgroundColours(const ZTBatchOutputSettings::Transformation& framing, 
     return Filled(std::vector<double>(IsGrey(like) ? 1 : 3, 0.0), size, like);
 }
 
-Picture CoveringFile(const QString& file, const QSize& size, const ServerLimits& limits, Warnings& warnings)
-{
-    PictureSource source(file, limits);
-    const int orientation = source.Orientation();
-    const QSize upright = TurnedSize(source.StoredSize(), orientation);
-    ZTBatchOutputSettings::Crop crop;
-    crop.type = int(BatchJob::CropType::Fill);
-    crop.size = size;
-    const Geometry geometry = PlanGeometry(upright, crop, ZTBatchOutputSettings::ImageSize());
-    const double reduction = double(upright.width()) / geometry.scaledSize.width();
-    const Picture loaded = InWorkingColours(source.Load(source.PossibleShrink(reduction)), false, warnings);
-    const Picture covering = Resampled(loaded, source.StoredSize(), StoredGeometry(geometry, upright, orientation));
-    return InPlainSrgb(TurnedUpright(WithRandomAccess(covering), orientation), warnings);
-}
-
-PictureFailure Unreadable(const QString& file, const QString& reason, const QString& detail)
-{
-    return ProcessingFailed(QStringLiteral("the background picture %1 cannot be read: %2").arg(file, reason), detail);
-}
-
 } // namespace
 
 std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transformation& framing, const QSize& size,
@@ -124,14 +98,15 @@ std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transform
     if (framing.backgroundType != int(BackgroundType::Image)) {
         return std::nullopt;
     }
-    vips_error_clear(); // what was said of the picture says nothing of this file
+    ZTBatchOutputSettings::Crop covering;
+    covering.type = int(CropType::Fill);
+    covering.size = size;
     try {
-        return CoveringFile(framing.backgroundImage, size, limits, warnings).copy_memory();
+        return ReadJobPicture(framing.backgroundImage, covering, {}, limits, warnings);
     } catch (const PictureFailure& failure) {
-        throw Unreadable(framing.backgroundImage, failure.reason, failure.detail);
-    } catch (const vips::VError& error) {
-        const QString text = TextOf(error);
-        throw Unreadable(framing.backgroundImage, DamageText(DamageKindOf(text)), text);
+        throw ProcessingFailed(
+            QStringLiteral("the background picture %1 cannot be read: %2").arg(framing.backgroundImage, failure.reason),
+            failure.detail);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "FailureCause.h"
 
 #include "job/formats/NearestFormat.h"
+#include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/VipsText.h"
 
 #include <memory>
@@ -46,6 +47,9 @@ PictureFailure CauseOf(const vips::VError& problem, PictureSource& source, bool 
                        const BatchJob::FormatSchema& format)
 {
     const QString text = TextOf(problem);
+    if (const std::optional<PictureFailure> carried = TakeCarriedFailure()) {
+        return *carried;
+    }
     if (IsOutOfMemory(text)) {
         return NotEnoughMemory(text);
     }

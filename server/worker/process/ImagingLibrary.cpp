@@ -4,6 +4,7 @@
 #include "server/protocol/WorkerMessages.h"
 #include "server/worker/decode/Loader.h"
 #include "server/worker/encode/FormatEncoder.h"
+#include "server/worker/pixels/CarriedFailure.h"
 
 #include <vips/vips8>
 
@@ -132,6 +133,7 @@ bool StartImagingLibrary(const char* program)
 void ForgetLibraryTexts()
 {
     vips_error_clear();
+    TakeCarriedFailure();
     TakeLibraryWarnings();
 }
 

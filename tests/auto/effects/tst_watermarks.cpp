@@ -188,7 +188,7 @@ void tst_Watermarks::namesAFileThatCannotBeRead()
     }
     const QByteArray parameters = EffectCalls::WithFile(path, R"({"size": 10, "unit": "pixels", "opacity": 100})");
     const QString failure = EffectCalls::Failure(QStringLiteral("watermark-image"), parameters, Black(20, 20));
-    QVERIFY2(failure.startsWith(QStringLiteral("the file %1 cannot be read: ").arg(path)), qPrintable(failure));
+    QVERIFY2(failure.startsWith(QStringLiteral("the picture %1 cannot be read: ").arg(path)), qPrintable(failure));
     QCOMPARE(EffectCalls::Failure(QStringLiteral("lut"), EffectCalls::WithFile(folder.filePath(QStringLiteral("no"))),
                                   Black(1, 1)),
              folder.filePath(QStringLiteral("no")) + QStringLiteral(" does not exist"));

