@@ -1,7 +1,5 @@
 #include "MpfIndex.h"
 
-#include <QByteArray>
-#include <QFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -10,99 +8,87 @@ namespace BatchWorker {
 
 namespace {
 
-/// The content of the first segment with the index of pictures, behind its identifier; empty when there is none. Source
-/// of the layout: CIPA DC-007 "Multi-Picture Format", section 5.
-QByteArray IndexOf(QFile& file)
-{
-    constexpr int header = 4;
-    constexpr char startOfScan = '\xDA';
-    constexpr char application2 = '\xE2';
-    const QByteArray identifier("MPF\0", 4);
-    file.seek(2); // behind the start of the picture
-    for (;;) {
-        const QByteArray head = file.read(header);
-        if (head.size() < header || head[0] != '\xFF' || head[1] == startOfScan) {
-            return {};
-        }
-        const int length = qFromBigEndian<quint16>(head.constData() + 2) - 2; // the length counts itself
-        if (head[1] != application2) {
-            if (length < 0 || !file.seek(file.pos() + length)) {
-                return {};
-            }
-            continue;
-        }
-        const QByteArray content = file.read(std::max(0, length));
-        if (content.startsWith(identifier)) {
-            return content.mid(identifier.size());
-        }
-    }
-}
-
-/// An index, which is built like a TIFF directory.
-class MpfIndex
+/// The index: numbers in a block that is built like a TIFF file. Source of the layout: CIPA DC-007 "Multi-Picture
+/// Format", section 5.
+class Index
 {
 public:
-    explicit MpfIndex(const QByteArray& bytes)
-        : bytes(bytes)
-        , isLittleEndian(bytes.startsWith("II"))
+    /// `start` is the place of `block` in the file.
+    Index(const QByteArray& block, qint64 start)
+        : block(block)
+        , start(start)
+        , isLittleEndian(block.startsWith("II"))
     {
     }
 
-    /// The attributes of all pictures, the first one included.
-    QVector<quint32> Attributes() const
+    QVector<ListedPicture> Pictures() const
     {
-        constexpr quint32 pictureEntries = 0xB002;
-        constexpr int field = 12;
-        constexpr int entry = 16;
-        const qint64 directory = Number(4, 4);
-        const int fields = int(Number(directory, 2));
-        QVector<quint32> attributes;
+        constexpr int fieldSize = 12;
+        constexpr quint32 listOfPictures = 0xb002;
+        const qint64 directory = Number<quint32>(4);
+        const int fields = Number<quint16>(directory);
         for (int i = 0; i < fields; ++i) {
-            const qint64 at = directory + 2 + i * field;
-            if (Number(at, 2) != pictureEntries) {
-                continue;
+            const qint64 field = directory + 2 + qint64(i) * fieldSize;
+            if (Number<quint16>(field) == listOfPictures) {
+                return Entries(Number<quint32>(field + 8), Number<quint32>(field + 4));
             }
-            const qint64 start = Number(at + 8, 4);
-            const qint64 end = std::min<qint64>(start + Number(at + 4, 4), bytes.size());
-            for (qint64 place = start; place + entry <= end; place += entry) {
-                attributes.append(Number(place, 4));
-            }
-            break;
         }
-        return attributes;
+        return {};
     }
 
 private:
-    // 0 outside the index.
-    quint32 Number(qint64 at, int size) const
+    // The first entry is the first picture of the file.
+    QVector<ListedPicture> Entries(qint64 place, qint64 size) const
     {
-        quint32 number = 0;
-        for (int i = 0; i < size && at >= 0 && at < bytes.size() - size + 1; ++i) {
-            const qint64 place = isLittleEndian ? at + size - 1 - i : at + i;
-            number = (number << 8U) | quint8(bytes[int(place)]);
+        constexpr int entrySize = 16;
+        constexpr int most = 64; // a damaged index must not make readers go through a file again and again
+        const qint64 end = std::min<qint64>(place + std::min<qint64>(size, most * entrySize), block.size());
+        QVector<ListedPicture> pictures;
+        for (qint64 entry = place + entrySize; entry + entrySize <= end; entry += entrySize) {
+            constexpr quint32 typeMask = 0xff'0000;
+            constexpr quint32 multiFrame = 0x02'0000; // panorama, disparity, multi-angle
+            const bool isView = (Number<quint32>(entry) & typeMask) == multiFrame;
+            pictures.append({start + Number<quint32>(entry + 8), isView});
         }
-        return number;
+        return pictures;
     }
 
-    QByteArray bytes;
+    // 0 outside the block.
+    template<typename Size>
+    Size Number(qint64 place) const
+    {
+        if (place < 0 || place + qint64(sizeof(Size)) > block.size()) {
+            return 0;
+        }
+        const char* bytes = block.constData() + place;
+        return isLittleEndian ? qFromLittleEndian<Size>(bytes) : qFromBigEndian<Size>(bytes);
+    }
+
+    QByteArray block;
+    qint64 start;
     bool isLittleEndian;
 };
 
-bool IsFurtherView(quint32 attribute)
-{
-    constexpr quint32 typeMask = 0xFFFFFF;
-    constexpr quint32 multiFrame = 2; // panorama, disparity, multi-angle
-    return (attribute & typeMask) >> 16U == multiFrame;
-}
-
 } // namespace
 
-int CountListedPictures(const QString& path)
+QVector<ListedPicture> FurtherPictures(const QVector<JpegSegment>& segments)
+{
+    constexpr uchar app2 = 0xe2;
+    const QByteArray name("MPF\0", 4);
+    const auto found = std::find_if(segments.begin(), segments.end(), [&name](const JpegSegment& segment) {
+        return segment.marker == app2 && segment.content.startsWith(name);
+    });
+    return found == segments.end() ? QVector<ListedPicture>()
+                                   : Index(found->content.mid(name.size()), found->place + name.size()).Pictures();
+}
+
+int CountViews(const QString& path)
 {
     QFile file(path);
     file.open(QIODevice::ReadOnly);
-    const QVector<quint32> attributes = MpfIndex(IndexOf(file)).Attributes();
-    return 1 + int(std::count_if(attributes.begin() + std::min(1, attributes.size()), attributes.end(), IsFurtherView));
+    const QVector<ListedPicture> pictures = FurtherPictures(JpegSegmentsAt(file, 0));
+    return 1 + int(std::count_if(pictures.begin(), pictures.end(),
+                                 [](const ListedPicture& picture) { return picture.isView; }));
 }
 
 } // namespace BatchWorker

@@ -1,11 +1,22 @@
 #pragma once
 
+#include "JpegSegments.h"
+
 #include <QString>
 
 namespace BatchWorker {
 
-/// How many pictures of its own the JPEG file `path` has by its index: the first one, and the further views of a
-/// panorama or of a stereo camera. Previews and gain maps behind the first picture do not count.
-int CountListedPictures(const QString& path);
+/// A further picture of a JPEG file, as the file's index lists it.
+struct ListedPicture
+{
+    qint64 place = 0;    ///< where it begins in the file
+    bool isView = false; ///< of a panorama or a stereo pair; otherwise a preview, a gain map or the like
+};
+
+/// The pictures behind the first one, which has `segments`.
+QVector<ListedPicture> FurtherPictures(const QVector<JpegSegment>& segments);
+
+/// How many views the JPEG file `path` has, the first picture included.
+int CountViews(const QString& path);
 
 } // namespace BatchWorker

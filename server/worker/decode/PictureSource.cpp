@@ -140,7 +140,7 @@ int PictureSource::Pages() const
     case FormatPages::One:
         return 1; // what the library calls pages of JPEG 2000 are its sizes
     case FormatPages::Listed:
-        return CountListedPictures(file);
+        return CountViews(file);
     default:
         break;
     }

@@ -1,5 +1,7 @@
 #include "PngColours.h"
 
+#include "PngChunks.h"
+
 #include "server/worker/colour/GeneratedProfile.h"
 
 #include <QFile>
@@ -15,10 +17,8 @@ namespace BatchWorker {
 
 namespace {
 
-// Source of the layout: W3C, Portable Network Graphics (3rd edition), chapters 5 and 11.
-constexpr int signatureSize = 8;
-constexpr int fieldSize = 4;  // of length, type and checksum
-constexpr int headerSize = 8; // of a chunk: length and type
+// Source of the contents: W3C, Portable Network Graphics (3rd edition), chapter 11.
+constexpr int fieldSize = 4; // of a number
 constexpr int largestProfile = 16 << 20;
 
 struct Chunks
@@ -34,7 +34,7 @@ struct Chunks
 bool IsWhole(const QByteArray& typeAndContent, const QByteArray& checksum)
 {
     const auto* bytes = reinterpret_cast<const Bytef*>(typeAndContent.constData());
-    return checksum.size() == fieldSize &&
+    return checksum.size() == PngChunk::checksumSize &&
            crc32(0, bytes, uInt(typeAndContent.size())) == qFromBigEndian<quint32>(checksum.constData());
 }
 
@@ -62,26 +62,22 @@ Chunks ReadChunks(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return chunks;
     }
-    file.seek(signatureSize);
-    while (true) {
-        const QByteArray header = file.read(headerSize);
-        const QByteArray type = header.mid(fieldSize);
-        if (header.size() < headerSize || type == "IDAT" || type == "IEND") {
-            return chunks;
+    file.seek(pngSignatureSize);
+    while (const std::optional<PngChunk> chunk = NextPngChunk(file)) {
+        if (chunk->type == "IDAT" || chunk->type == "IEND") {
+            break;
         }
-        const qint64 length = qFromBigEndian<quint32>(header.constData());
-        const qint64 next = file.pos() + length + fieldSize;
-        chunks.hasProfile = chunks.hasProfile || type == "iCCP";
-        if (length <= largestProfile) {
-            const QByteArray content = file.read(length);
-            if (IsWhole(type + content, file.read(fieldSize))) {
-                Keep(type, content, chunks);
+        const qint64 next = file.pos() + chunk->RestSize();
+        chunks.hasProfile = chunks.hasProfile || chunk->type == "iCCP";
+        if (chunk->size <= largestProfile) {
+            const QByteArray content = file.read(chunk->size);
+            if (IsWhole(chunk->type + content, file.read(PngChunk::checksumSize))) {
+                Keep(chunk->type, content, chunks);
             }
         }
-        if (!file.seek(next)) {
-            return chunks;
-        }
+        file.seek(next);
     }
+    return chunks;
 }
 
 QByteArray Inflated(const QByteArray& packed)

@@ -2,7 +2,8 @@
 
 #include "BoxFile.h"
 #include "ItemBoxes.h"
-#include "JpegSegments.h"
+
+#include "server/worker/decode/MpfIndex.h"
 
 #include <QFile>
 
@@ -33,9 +34,9 @@ bool HasJpegGainMap(QFile& file)
     if (std::any_of(first.begin(), first.end(), SaysGainMap)) {
         return true;
     }
-    const QVector<qint64> places = FurtherPictures(first);
-    return std::any_of(places.begin(), places.end(), [&file](qint64 place) {
-        const QVector<JpegSegment> segments = JpegSegmentsAt(file, place);
+    const QVector<ListedPicture> pictures = FurtherPictures(first);
+    return std::any_of(pictures.begin(), pictures.end(), [&file](const ListedPicture& picture) {
+        const QVector<JpegSegment> segments = JpegSegmentsAt(file, picture.place);
         return std::any_of(segments.begin(), segments.end(), SaysGainMap);
     });
 }

@@ -1,7 +1,7 @@
 #include "MetadataCarrier.h"
 
 #include "BoxFile.h"
-#include "PngChunks.h"
+#include "PngMetadata.h"
 #include "WebpExif.h"
 
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "BoxFile.h"
 #include "ItemBoxes.h"
 #include "JxlBoxes.h"
-#include "PngChunks.h"
+#include "PngMetadata.h"
 
 #include "server/worker/decode/PictureSource.h"
 

@@ -17,7 +17,4 @@ struct JpegSegment
 /// The segments before the pixels of the JPEG picture that begins at `place` of `file`.
 QVector<JpegSegment> JpegSegmentsAt(QFile& file, qint64 place);
 
-/// Where the further pictures of the file begin whose first picture has `segments`, as its index (CIPA DC-007) says.
-QVector<qint64> FurtherPictures(const QVector<JpegSegment>& segments);
-
 } // namespace BatchWorker

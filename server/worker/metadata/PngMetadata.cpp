@@ -1,20 +1,14 @@
-#include "PngChunks.h"
+#include "PngMetadata.h"
+
+#include "server/worker/decode/PngChunks.h"
 
 #include <QFile>
 #include <QSet>
-#include <QtEndian>
-
-#include <optional>
 
 namespace BatchWorker {
 
 namespace {
 
-// Source of the layout: W3C, "Portable Network Graphics": size, type, content, checksum.
-constexpr int signatureSize = 8;
-constexpr int sizeSize = 4;
-constexpr int typeSize = 4;
-constexpr int checksumSize = 4;
 constexpr int longestKeyword = 79;
 constexpr qint64 largestChunk = qint64(64) << 20;
 
@@ -40,28 +34,6 @@ QByteArray KindOf(const QByteArray& type, const QByteArray& start)
     return keyword == "Raw profile type iptc" ? keyword : QByteArray();
 }
 
-/// A chunk, without its content and its checksum.
-struct ChunkHeader
-{
-    QByteArray header; ///< size and type
-    QByteArray type;
-    qint64 rest = 0; ///< what comes behind the header: content and checksum
-};
-
-// The chunk at the position of `file`, up to its content. Nothing behind the last one and for one that is not whole.
-std::optional<ChunkHeader> NextChunk(QFile& file)
-{
-    const QByteArray header = file.read(sizeSize + typeSize);
-    if (header.size() < sizeSize + typeSize) {
-        return std::nullopt;
-    }
-    const qint64 rest = qint64(qFromBigEndian<quint32>(header.constData())) + checksumSize;
-    if (rest > file.size() - file.pos()) {
-        return std::nullopt;
-    }
-    return ChunkHeader{header, header.mid(sizeSize), rest};
-}
-
 } // namespace
 
 QByteArray PngWithoutPixels(const QString& path)
@@ -70,33 +42,33 @@ QByteArray PngWithoutPixels(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    QByteArray kept = file.read(signatureSize);
+    QByteArray kept = file.read(pngSignatureSize);
     QByteArray exifAsText;
     QSet<QByteArray> kinds;
-    while (const std::optional<ChunkHeader> chunk = NextChunk(file)) {
-        const qint64 end = file.pos() + chunk->rest;
-        const QByteArray kind = KindOf(chunk->type, file.peek(qMin<qint64>(chunk->rest, longestKeyword + 1)));
-        if (!kind.isEmpty() && !kinds.contains(kind) && chunk->rest <= largestChunk) {
+    while (const std::optional<PngChunk> chunk = NextPngChunk(file)) {
+        const qint64 end = file.pos() + chunk->RestSize();
+        const QByteArray kind = KindOf(chunk->type, file.peek(qMin<qint64>(chunk->RestSize(), longestKeyword + 1)));
+        if (!kind.isEmpty() && !kinds.contains(kind) && chunk->RestSize() <= largestChunk) {
             kinds.insert(kind);
-            (kind == "EXIF as text" ? exifAsText : kept) += chunk->header + file.read(chunk->rest);
+            (kind == "EXIF as text" ? exifAsText : kept) += chunk->header + file.read(chunk->RestSize());
         }
         if (!file.seek(end)) {
             break;
         }
     }
-    const QByteArray lastChunk = QByteArray(sizeSize, '\0') + "IEND" + QByteArray::fromHex("ae426082");
+    const QByteArray lastChunk = QByteArray(4, '\0') + "IEND" + QByteArray::fromHex("ae426082");
     return kept + (kinds.contains("eXIf") ? QByteArray() : exifAsText) + lastChunk;
 }
 
 bool RemoveRepeatedExifFromPng(const QString& fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !file.seek(signatureSize)) {
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !file.seek(pngSignatureSize)) {
         return false;
     }
     int blocks = 0;
-    while (const std::optional<ChunkHeader> chunk = NextChunk(file)) {
-        const qint64 end = file.pos() + chunk->rest;
+    while (const std::optional<PngChunk> chunk = NextPngChunk(file)) {
+        const qint64 end = file.pos() + chunk->RestSize();
         blocks += chunk->type == "eXIf" ? 1 : 0;
         if (blocks > 1) {
             const qint64 start = file.pos() - chunk->header.size();
