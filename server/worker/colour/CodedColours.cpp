@@ -86,4 +86,15 @@ std::optional<ToneCurve> ToneCurveOf(int transfer)
     }
 }
 
+std::optional<HdrColours> HdrColoursOf(const CodedColours& coded)
+{
+    constexpr int bt2100 = 9;
+    if (coded.transfer != CodedColours::perceptualQuantizer && coded.transfer != CodedColours::hybridLogGamma) {
+        return std::nullopt;
+    }
+    const bool isSaid = coded.primaries != CodedColours::unspecified;
+    const std::optional<Primaries> primaries = PrimariesOf(isSaid ? coded.primaries : bt2100);
+    return HdrColours{primaries ? *primaries : *PrimariesOf(bt2100), coded.transfer == CodedColours::hybridLogGamma};
+}
+
 } // namespace BatchWorker

@@ -2,7 +2,8 @@
 
 #include <optional>
 
-/// Colours that a file describes by numbers instead of an ICC profile: "nclx" of HEIF and AVIF, "cICP" of PNG.
+/// Colours that a file describes by numbers instead of an ICC profile: "nclx" of HEIF and AVIF, "cICP" of PNG, and what
+/// JPEG XL codes instead of one.
 namespace BatchWorker {
 
 /// A point in the CIE 1931 chromaticity diagram.
@@ -47,14 +48,22 @@ struct CodedColours
 
     int primaries = unspecified;
     int transfer = unspecified;
+};
 
-    /// Whether the values say how bright a screen shines that can show more than white: PQ and HLG.
-    bool IsHdr() const { return transfer == perceptualQuantizer || transfer == hybridLogGamma; }
+/// Colours of values that say how bright a screen shines that can show more than white.
+struct HdrColours
+{
+    Primaries primaries;
+    bool isHlg = false; ///< else PQ
 };
 
 /// What `primaries` and `transfer` of CodedColours stand for; nothing for numbers that are reserved or that describe
 /// what pictures do not use. Unspecified means sRGB.
 std::optional<Primaries> PrimariesOf(int primaries);
 std::optional<ToneCurve> ToneCurveOf(int transfer);
+
+/// The colours of PQ or HLG that `coded` stands for; nothing for other transfers. Primaries that are not told, or not
+/// known, are those of Rec. ITU-R BT.2100.
+std::optional<HdrColours> HdrColoursOf(const CodedColours& coded);
 
 } // namespace BatchWorker

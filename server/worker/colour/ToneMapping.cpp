@@ -126,9 +126,9 @@ std::array<double, 3> LuminanceOf(const Primaries& primaries)
 class Mapping
 {
 public:
-    explicit Mapping(const CodedColours& colours, const Primaries& primaries)
-        : isHlg(colours.transfer == CodedColours::hybridLogGamma)
-        , luminance(LuminanceOf(primaries))
+    explicit Mapping(const HdrColours& colours)
+        : isHlg(colours.isHlg)
+        , luminance(LuminanceOf(colours.primaries))
         , decoded(EvenTable(isHlg ? SceneOfHlg : PeaksOfPq))
         , systemGain([](double scene) { return std::pow(scene, 0.2); })
         , compression(
@@ -194,17 +194,14 @@ void Note(Warnings& warnings)
 
 } // namespace
 
-Picture FromHdr(const Picture& picture, const CodedColours& colours, Warnings& warnings)
+Picture FromHdr(const Picture& picture, const HdrColours& colours, Warnings& warnings)
 {
-    constexpr int bt2100 = 9;
     Note(warnings);
-    const bool isSaid = colours.primaries != CodedColours::unspecified;
-    const Primaries primaries = PrimariesOf(isSaid ? colours.primaries : bt2100).value_or(*PrimariesOf(bt2100));
     const bool isGrey = IsGrey(picture);
-    const auto mapping = std::make_shared<const Mapping>(colours, primaries);
+    const auto mapping = std::make_shared<const Mapping>(colours);
     const Picture mapped =
         MapColours(picture, [mapping, isGrey](std::array<double, 3>& colour) { mapping->Apply(colour, isGrey); });
-    return WithProfile(mapped, isGrey ? GreyProfileOf(SrgbCurve()) : ProfileOf(primaries, SrgbCurve()));
+    return WithProfile(mapped, isGrey ? GreyProfileOf(SrgbCurve()) : ProfileOf(colours.primaries, SrgbCurve()));
 }
 
 } // namespace BatchWorker

@@ -7,7 +7,7 @@
 
 namespace BatchWorker {
 
-/// `picture`, whose values are PQ or HLG (`colours.IsHdr()`), for a screen that shows no more than white: in the same
+/// `picture`, whose values are PQ or HLG of these `colours`, for a screen that shows no more than white: in the same
 /// primaries, with the curve of sRGB and the profile of both. Grey or RGB of 8 or 16 bits, 0 to the largest value;
 /// depth and alpha stay. A warning says that it happened, once for each list of warnings.
 ///
@@ -16,6 +16,6 @@ namespace BatchWorker {
 /// What is brighter is compressed by the curve of Report ITU-R BT.2390, section 5.4.1 (EETF): up to 88 cd/m2
 /// nothing changes, 203 cd/m2 become 159, 1000 and more become 203. The curve is applied to the largest of red, green
 /// and blue, and all three are scaled alike, so that hues stay.
-Picture FromHdr(const Picture& picture, const CodedColours& colours, BatchJob::Warnings& warnings);
+Picture FromHdr(const Picture& picture, const HdrColours& colours, BatchJob::Warnings& warnings);
 
 } // namespace BatchWorker

@@ -53,11 +53,8 @@ void AppendOnce(const Warning& warning, Warnings& warnings)
 FileColours ColoursOf(const CodedColours& coded)
 {
     FileColours colours;
-    if (coded.IsHdr()) {
-        colours.hdr = coded;
-        return colours;
-    }
-    if (IsSrgbByNumber(coded)) {
+    colours.hdr = HdrColoursOf(coded);
+    if (colours.hdr || IsSrgbByNumber(coded)) {
         return colours;
     }
     const std::optional<Primaries> primaries = PrimariesOf(coded.primaries);

@@ -13,11 +13,11 @@ namespace BatchWorker {
 /// What a file says of its colours where the imaging library does not tell.
 struct FileColours
 {
-    QByteArray profile;              ///< an ICC profile, of the file or made from what it says
-    std::optional<CodedColours> hdr; ///< PQ or HLG
-    bool isSrgb = false;             ///< sRGB by numbers that count more than a profile
-    bool isNarrow = false;           ///< values of television, where black and white lie within the range
-    bool isUnusable = false;         ///< the file describes its colours, but in a damaged or unknown way
+    QByteArray profile;            ///< an ICC profile, of the file or made from what it says
+    std::optional<HdrColours> hdr; ///< PQ or HLG
+    bool isSrgb = false;           ///< sRGB by numbers that count more than a profile
+    bool isNarrow = false;         ///< values of television, where black and white lie within the range
+    bool isUnusable = false;       ///< the file describes its colours, but in a damaged or unknown way
 };
 
 /// The colours that `coded` stands for. Those of sRGB need no profile.

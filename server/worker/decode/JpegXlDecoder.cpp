@@ -3,7 +3,6 @@
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <jxl/decode.h>
-#include <jxl/encode.h>
 
 #include <algorithm>
 #include <cstring>
@@ -26,10 +25,16 @@ bool IsSrgb(const JxlColorEncoding& colours)
            colours.transfer_function == JXL_TRANSFER_FUNCTION_SRGB;
 }
 
-bool IsHdr(const JxlColorEncoding& colours)
+// The codec has names for a few primaries and white points and fills in the points of all of them.
+std::optional<HdrColours> HdrOf(const JxlColorEncoding& colours)
 {
-    return colours.transfer_function == JXL_TRANSFER_FUNCTION_PQ ||
-           colours.transfer_function == JXL_TRANSFER_FUNCTION_HLG;
+    std::optional<HdrColours> hdr = HdrColoursOf({CodedColours::unspecified, int(colours.transfer_function)});
+    if (hdr && colours.color_space == JXL_COLOR_SPACE_RGB) {
+        const auto point = [](const double(&xy)[2]) { return Chromaticity{xy[0], xy[1]}; };
+        hdr->primaries = {point(colours.primaries_red_xy), point(colours.primaries_green_xy),
+                          point(colours.primaries_blue_xy), point(colours.white_point_xy)};
+    }
+    return hdr;
 }
 
 QByteArray IccProfileOf(const JxlDecoder* decoder)
@@ -73,7 +78,6 @@ JpegXlHeader HeaderOf(const JxlDecoder* decoder)
     header.hasAlpha = info.alpha_bits > 0;
     header.black = BlackChannel(decoder, info.num_extra_channels);
     header.isAnimation = info.have_animation == JXL_TRUE;
-    header.isAnyProfilePossible = info.uses_original_profile == JXL_FALSE;
     // Inks are used in 8 bits everywhere.
     header.bits = info.bits_per_sample > 8 && !header.black ? 16 : 8;
     return header;
@@ -86,8 +90,6 @@ struct JpegXlDecoder::Canvas
 {
     explicit Canvas(const JpegXlHeader& header)
         : size(header.size)
-        , isGrey(header.isGrey)
-        , becomesSrgb(header.isHdr && header.isAnyProfilePossible)
         , black(header.black)
         , form{std::uint32_t(header.Bands() - (header.black ? 1 : 0)),
                header.bits == 8 ? JXL_TYPE_UINT8 : JXL_TYPE_UINT16, JXL_NATIVE_ENDIAN, 0}
@@ -150,8 +152,6 @@ struct JpegXlDecoder::Canvas
     }
 
     QSize size;
-    bool isGrey;
-    bool becomesSrgb;
     std::optional<int> black;
     JxlPixelFormat form;
     std::size_t pixelSize;
@@ -236,9 +236,17 @@ void JpegXlDecoder::ReadColours(JpegXlHeader& header) const
     JxlColorEncoding colours;
     const bool isCoded = JxlDecoderGetColorAsEncodedProfile(decoder.get(), &anyForm, JXL_COLOR_PROFILE_TARGET_DATA,
                                                             &colours) == JXL_DEC_SUCCESS;
-    header.isHdr = isCoded && IsHdr(colours);
-    const bool isShownAsSrgb = (isCoded && IsSrgb(colours)) || (header.isHdr && header.isAnyProfilePossible);
-    header.profile = isShownAsSrgb ? QByteArray() : IccProfileOf(decoder.get());
+    if (isCoded) {
+        header.colours.hdr = HdrOf(colours);
+    }
+    JxlBasicInfo info;
+    JxlDecoderGetBasicInfo(decoder.get(), &info);
+    if (header.colours.hdr && info.uses_original_profile == JXL_FALSE) {
+        header.bits = 16; // the file has more than it says, and PQ and HLG need them
+    }
+    if (!header.colours.hdr && !(isCoded && IsSrgb(colours))) {
+        header.colours.profile = IccProfileOf(decoder.get());
+    }
 }
 
 int JpegXlDecoder::CountFrames()
@@ -266,17 +274,6 @@ std::vector<std::uint8_t> JpegXlDecoder::ReadPixels(const JpegXlHeader& header)
     return header.black ? canvas.Inks() : std::move(canvas.values);
 }
 
-void JpegXlDecoder::ChooseColours(const Canvas& canvas)
-{
-    if (canvas.becomesSrgb) {
-        constexpr float ofCommonScreens = 255; // cd/m2, which the codec takes for white
-        JxlColorEncoding srgb;
-        JxlColorEncodingSetToSRGB(&srgb, canvas.isGrey ? JXL_TRUE : JXL_FALSE);
-        JxlDecoderSetPreferredColorProfile(decoder.get(), &srgb);
-        JxlDecoderSetDesiredIntensityTarget(decoder.get(), ofCommonScreens);
-    }
-}
-
 void JpegXlDecoder::Receive(Canvas& canvas)
 {
     if (canvas.isWhole) {
@@ -295,13 +292,11 @@ void JpegXlDecoder::Receive(Canvas& canvas)
 // picture several times. False when a layer does anything else.
 bool JpegXlDecoder::ReadLayers(Canvas& canvas)
 {
-    Begin(JXL_DEC_COLOR_ENCODING | JXL_DEC_FRAME | JXL_DEC_FULL_IMAGE);
+    Begin(JXL_DEC_FRAME | JXL_DEC_FULL_IMAGE);
     JxlDecoderSetCoalescing(decoder.get(), JXL_FALSE);
     std::uint32_t kept = 0;
     for (int event = Next(); event != JXL_DEC_SUCCESS; event = Next()) {
-        if (event == JXL_DEC_COLOR_ENCODING) {
-            ChooseColours(canvas);
-        } else if (event == JXL_DEC_FRAME) {
+        if (event == JXL_DEC_FRAME) {
             JxlFrameHeader frame;
             JxlDecoderGetFrameHeader(decoder.get(), &frame);
             if (!canvas.Takes(frame, kept)) {
@@ -318,14 +313,12 @@ bool JpegXlDecoder::ReadLayers(Canvas& canvas)
 // The picture as the decoder puts it together; of an animation, the first one.
 void JpegXlDecoder::ReadWhole(Canvas& canvas)
 {
-    Begin(JXL_DEC_COLOR_ENCODING | JXL_DEC_FULL_IMAGE);
+    Begin(JXL_DEC_FULL_IMAGE);
     for (int event = Next(); event != JXL_DEC_FULL_IMAGE; event = Next()) {
         if (event == JXL_DEC_SUCCESS) {
             throw DamagedFile(QStringLiteral("the file is damaged: it has no picture"));
         }
-        if (event == JXL_DEC_COLOR_ENCODING) {
-            ChooseColours(canvas);
-        } else if (event == JXL_DEC_NEED_IMAGE_OUT_BUFFER) {
+        if (event == JXL_DEC_NEED_IMAGE_OUT_BUFFER) {
             Receive(canvas);
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include "FileColours.h"
+
 #include <QSize>
 
 #include <cstdint>
@@ -23,9 +24,7 @@ struct JpegXlHeader
     bool hasAlpha = false;
     std::optional<int> black; ///< the extra channel of black ink: the colours are cyan, magenta and yellow then
     bool isAnimation = false;
-    bool isHdr = false;                ///< PQ or HLG: for screens that are brighter than white
-    bool isAnyProfilePossible = false; ///< the decoder can give the values in other colours than they are stored in
-    QByteArray profile;                ///< of the decoded values; empty for sRGB
+    FileColours colours; ///< of the decoded values
 
     int Bands() const { return (isGrey ? 1 : 3) + (black ? 1 : 0) + (hasAlpha ? 1 : 0); }
 };
@@ -46,7 +45,7 @@ public:
     /// How many pictures the file shows one after the other.
     int CountFrames();
 
-    /// The first picture, that for bright screens as sRGB if any profile is possible: lines from top to bottom, the
+    /// The first picture: lines from top to bottom, the
     /// channels of a pixel together. Full ink is the largest value.
     std::vector<std::uint8_t> ReadPixels(const JpegXlHeader& header);
 
@@ -59,7 +58,6 @@ private:
     int Next();
     void Feed();
     void ReadColours(JpegXlHeader& header) const;
-    void ChooseColours(const Canvas& canvas);
     void Receive(Canvas& canvas);
     bool ReadLayers(Canvas& canvas);
     void ReadWhole(Canvas& canvas);

@@ -3,7 +3,6 @@
 #include "JpegXlDecoder.h"
 
 #include "server/worker/pixels/CarriedFailure.h"
-#include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/FreeMemory.h"
 #include "server/worker/pixels/PictureFailure.h"
 
@@ -114,25 +113,12 @@ VipsInterpretation KindOf(const JpegXlHeader& header)
     return header.bits == 16 ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
 }
 
-void WarnOfHdr(const JpegXlHeader& header, Warnings& warnings)
-{
-    const Warning warning{
-        WarningKind::ColoursConverted,
-        header.isAnyProfilePossible
-            ? QStringLiteral("it is made for screens brighter than white (HDR); the result is sRGB")
-            : QStringLiteral("it is made for screens brighter than white (HDR); others show it dark")};
-    if (header.isHdr && !warnings.contains(warning)) {
-        warnings.append(warning);
-    }
-}
-
 } // namespace
 
 Picture ReadJpegXl(int descriptor, int, const ServerLimits&, Warnings& warnings)
 {
     auto file = std::make_unique<JpegXlFile>(descriptor);
     const JpegXlHeader header = file->Header();
-    WarnOfHdr(header, warnings);
     VipsImage* const image = vips_image_new();
     const Picture result(image);
     vips_image_set_int(image, VIPS_META_N_PAGES, file->Frames());
@@ -148,7 +134,7 @@ Picture ReadJpegXl(int descriptor, int, const ServerLimits&, Warnings& warnings)
     if (vips_image_generate(image, nullptr, Generate, nullptr, client, nullptr) != 0) {
         throw vips::VError();
     }
-    return WithProfile(result, header.profile);
+    return WithColoursOfFile(result, header.colours, warnings);
 }
 
 } // namespace BatchWorker

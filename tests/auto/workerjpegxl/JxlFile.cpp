@@ -2,6 +2,7 @@
 
 #include <jxl/encode.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -26,6 +27,15 @@ void SetColours(JxlEncoder* encoder, const JxlFile& file)
     JxlColorEncodingSetToSRGB(&colours, file.isGrey ? JXL_TRUE : JXL_FALSE);
     colours.transfer_function = file.transfer;
     colours.primaries = file.primaries;
+    if (!file.points.isEmpty()) {
+        colours.white_point = JXL_WHITE_POINT_CUSTOM;
+        colours.primaries = JXL_PRIMARIES_CUSTOM;
+        const double* const point = file.points.constData();
+        std::copy_n(point, 2, colours.white_point_xy);
+        std::copy_n(point + 2, 2, colours.primaries_red_xy);
+        std::copy_n(point + 4, 2, colours.primaries_green_xy);
+        std::copy_n(point + 6, 2, colours.primaries_blue_xy);
+    }
     Require(JxlEncoderSetColorEncoding(encoder, &colours));
 }
 
@@ -121,6 +131,9 @@ QByteArray JxlFile::Bytes() const
         }
         info.uses_original_profile = isLossless ? JXL_TRUE : JXL_FALSE;
         info.orientation = JxlOrientation(orientation);
+        if (brightest > 0) {
+            info.intensity_target = brightest;
+        }
         if (isAnimation) {
             info.have_animation = JXL_TRUE;
             info.animation.tps_numerator = 10;

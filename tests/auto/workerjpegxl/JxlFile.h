@@ -36,7 +36,9 @@ struct JxlFile
     bool isAnimation = false;
     JxlTransferFunction transfer = JXL_TRANSFER_FUNCTION_SRGB;
     JxlPrimaries primaries = JXL_PRIMARIES_SRGB;
-    QByteArray profile; ///< in place of the two
+    QVector<double> points; ///< in place of `primaries`: x and y of white, red, green and blue
+    QByteArray profile;     ///< in place of all of them
+    float brightest = 0;    ///< cd/m2 of a screen that the picture is made for; 0: not said
     QVector<JxlExtraChannelType> extras;
     QVector<JxlLayer> layers;
 

@@ -132,8 +132,6 @@ private Q_SLOTS:
     void putsLayersTogether_data();
     void putsLayersTogether();
     void takesTheFirstOfAnAnimation();
-    void bringsHdrToCommonScreens_data();
-    void bringsHdrToCommonScreens();
     void refusesTruncatedFiles_data();
     void refusesTruncatedFiles();
     void refusesToReadWithoutMemory();
@@ -373,41 +371,6 @@ void tst_WorkerJpegXl::takesTheFirstOfAnAnimation()
     QCOMPARE(report.warnings.size(), 1);
     QCOMPARE(report.warnings.first().kind, WarningKind::OtherPages);
     QVERIFY(report.warnings.first().text.contains(Text("3 pages")));
-}
-
-void tst_WorkerJpegXl::bringsHdrToCommonScreens_data()
-{
-    QTest::addColumn<int>("transfer");
-    QTest::addColumn<bool>("isLossless");
-    QTest::newRow("PQ") << int(JXL_TRANSFER_FUNCTION_PQ) << false;
-    QTest::newRow("HLG") << int(JXL_TRANSFER_FUNCTION_HLG) << false;
-    QTest::newRow("PQ, lossless") << int(JXL_TRANSFER_FUNCTION_PQ) << true;
-}
-
-// Nobody gets such numbers as if they were sRGB, in silence.
-void tst_WorkerJpegXl::bringsHdrToCommonScreens()
-{
-    QFETCH(const int, transfer);
-    QFETCH(const bool, isLossless);
-
-    // 100 cd/m2 in PQ, and as bright in HLG.
-    const double grey = transfer == int(JXL_TRANSFER_FUNCTION_PQ) ? 0.508 : 0.6;
-    JxlFile file = FileOf([grey](int, int, int) { return grey; });
-    file.bits = 16;
-    file.isLossless = isLossless;
-    file.transfer = JxlTransferFunction(transfer);
-    file.primaries = JXL_PRIMARIES_2100;
-    const Picture result = Result(file.Bytes());
-    QCOMPARE(report.reason, QString());
-    QCOMPARE(report.warnings.size(), 1);
-    QCOMPARE(report.warnings.first().kind, WarningKind::ColoursConverted);
-    const double shown = result.avg() / 65'535;
-    if (isLossless) {
-        // The numbers stay, with the profile that says what they mean.
-        QVERIFY(result.get_typeof(VIPS_META_ICC_NAME) != 0);
-    } else {
-        QVERIFY2(shown > 0.35 && shown < 0.95, qPrintable(QString::number(shown)));
-    }
 }
 
 void tst_WorkerJpegXl::refusesTruncatedFiles_data()
