@@ -1,5 +1,8 @@
 #include "CodedColours.h"
 
+#include <algorithm>
+#include <array>
+
 namespace BatchWorker {
 
 namespace {
@@ -11,7 +14,25 @@ constexpr Chromaticity dciWhite{0.314, 0.351};
 // Light of the camera's curves of television, solved for the light.
 constexpr ToneCurve television{1.0 / 0.45, 1.0 / 1.099, 0.099 / 1.099, 1.0 / 4.5, 0.081};
 
+bool IsInside(const Chromaticity& point, const Chromaticity& a, const Chromaticity& b, const Chromaticity& c)
+{
+    const auto side = [&point](const Chromaticity& from, const Chromaticity& to) {
+        return (to.x - from.x) * (point.y - from.y) - (to.y - from.y) * (point.x - from.x);
+    };
+    return (side(a, b) > 0 && side(b, c) > 0 && side(c, a) > 0) || (side(a, b) < 0 && side(b, c) < 0 && side(c, a) < 0);
+}
+
 } // namespace
+
+bool MakeSense(const Primaries& primaries)
+{
+    const std::array<Chromaticity, 4> points{primaries.red, primaries.green, primaries.blue, primaries.white};
+    const bool areInDiagram = std::all_of(points.begin(), points.end(), [](const Chromaticity& point) {
+        constexpr double rounding = 0.0001;
+        return point.y > 0.0 && point.x + point.y <= 1.0 + rounding;
+    });
+    return areInDiagram && IsInside(primaries.white, primaries.red, primaries.green, primaries.blue);
+}
 
 ToneCurve SrgbCurve()
 {

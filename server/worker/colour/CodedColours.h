@@ -22,6 +22,9 @@ struct Primaries
     Chromaticity white;
 };
 
+/// Whether all of these are points of the diagram, and white lies between red, green and blue.
+bool MakeSense(const Primaries& primaries);
+
 /// The curve from a value to its light, both 0 to 1: (a * value + b) ^ exponent from `start` on, c * value below.
 struct ToneCurve
 {

@@ -31,8 +31,9 @@ std::optional<HdrColours> HdrOf(const JxlColorEncoding& colours)
     std::optional<HdrColours> hdr = HdrColoursOf({CodedColours::unspecified, int(colours.transfer_function)});
     if (hdr && colours.color_space == JXL_COLOR_SPACE_RGB) {
         const auto point = [](const double(&xy)[2]) { return Chromaticity{xy[0], xy[1]}; };
-        hdr->primaries = {point(colours.primaries_red_xy), point(colours.primaries_green_xy),
-                          point(colours.primaries_blue_xy), point(colours.white_point_xy)};
+        const Primaries primaries{point(colours.primaries_red_xy), point(colours.primaries_green_xy),
+                                  point(colours.primaries_blue_xy), point(colours.white_point_xy)};
+        hdr->primaries = MakeSense(primaries) ? primaries : hdr->primaries;
     }
     return hdr;
 }

@@ -45,8 +45,8 @@ public:
     /// How many pictures the file shows one after the other.
     int CountFrames();
 
-    /// The first picture: lines from top to bottom, the
-    /// channels of a pixel together. Full ink is the largest value.
+    /// The first picture: lines from top to bottom, the channels of a pixel together. Full ink is the largest
+    /// value.
     std::vector<std::uint8_t> ReadPixels(const JpegXlHeader& header);
 
 private:

@@ -134,14 +134,6 @@ std::optional<double> Exponent(const QByteArray& gama)
     return stored >= least && stored <= most ? std::optional<double>(1.0 / stored) : std::nullopt;
 }
 
-bool IsInside(const Chromaticity& point, const Chromaticity& a, const Chromaticity& b, const Chromaticity& c)
-{
-    const auto side = [&point](const Chromaticity& from, const Chromaticity& to) {
-        return (to.x - from.x) * (point.y - from.y) - (to.y - from.y) * (point.x - from.x);
-    };
-    return (side(a, b) > 0 && side(b, c) > 0 && side(c, a) > 0) || (side(a, b) < 0 && side(b, c) < 0 && side(c, a) < 0);
-}
-
 std::optional<Primaries> PrimariesIn(const QByteArray& chrm)
 {
     std::array<Chromaticity, 4> points{};
@@ -151,16 +143,11 @@ std::optional<Primaries> PrimariesIn(const QByteArray& chrm)
     const auto number = [&chrm](std::size_t index) {
         return qFromBigEndian<quint32>(chrm.constData() + index * fieldSize) / unit;
     };
-    constexpr double rounding = 0.0001;
     for (std::size_t i = 0; i < points.size(); ++i) {
         points[i] = {number(2 * i), number(2 * i + 1)};
-        if (points[i].y <= 0.0 || points[i].x + points[i].y > 1.0 + rounding) {
-            return std::nullopt;
-        }
     }
     const Primaries primaries{points[1], points[2], points[3], points[0]};
-    const bool makesSense = IsInside(primaries.white, primaries.red, primaries.green, primaries.blue);
-    return makesSense ? std::optional<Primaries>(primaries) : std::nullopt;
+    return MakeSense(primaries) ? std::optional<Primaries>(primaries) : std::nullopt;
 }
 
 bool AreAlike(const Primaries& one, const Primaries& other)
