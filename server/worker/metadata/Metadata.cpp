@@ -46,6 +46,17 @@ const Exiv2::byte* Data(const QByteArray& bytes)
     return reinterpret_cast<const Exiv2::byte*>(bytes.constData());
 }
 
+template<typename Encode>
+bool IsWritable(const Encode& encode)
+{
+    try {
+        encode();
+        return true;
+    } catch (const Exiv2::AnyError&) {
+        return false;
+    }
+}
+
 } // namespace
 
 Metadata::Metadata()
@@ -143,6 +154,31 @@ void Metadata::MoveIptcToXmp()
 void Metadata::RemoveXmp()
 {
     d->xmp.clear();
+}
+
+void Metadata::RemoveUnwritable(BatchJob::Warnings& warnings)
+{
+    const auto warn = [&warnings](const char* what) {
+        warnings.append({BatchJob::WarningKind::MetadataLost,
+                         QStringLiteral("%1 cannot be written and are left out").arg(QLatin1String(what))});
+    };
+    const auto encodeExif = [this] { Encoded(d->exif); };
+    if (!IsWritable(encodeExif)) {
+        RemoveIf(d->exif, IsMakerNote);
+        const bool isRestWritable = IsWritable(encodeExif);
+        if (!isRestWritable) {
+            d->exif.clear();
+        }
+        warn(isRestWritable ? "the notes of the camera's maker" : "EXIF metadata");
+    }
+    if (!IsWritable([this] { Iptc(); })) {
+        d->iptc.clear();
+        warn("IPTC metadata");
+    }
+    if (!IsWritable([this] { Xmp(); }) || (!d->xmp.empty() && Xmp().isEmpty())) {
+        d->xmp.clear();
+        warn("XMP metadata");
+    }
 }
 
 QByteArray Metadata::Exif(int longest) const

@@ -54,6 +54,9 @@ public:
 
     void RemoveXmp();
 
+    /// Removes what the metadata library has read but cannot write, with a warning.
+    void RemoveUnwritable(BatchJob::Warnings& warnings);
+
     /// A whole EXIF block, beginning with its TIFF header; empty if there is no EXIF. A block of more than `longest`
     /// bytes is written without the maker's notes; 0 means no limit.
     QByteArray Exif(int longest = 0) const;

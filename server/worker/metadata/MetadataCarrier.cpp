@@ -69,17 +69,20 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
         metadata.MoveIptcToXmp();
     }
     const Picture carrier = WithoutMetadata(picture);
-    const QByteArray exif = metadata.Exif(support.longestBlock);
-    const QByteArray xmp = metadata.Xmp(support.hasXmpWrapper);
-    const QByteArray iptc = metadata.Iptc();
-    const bool hasAny = !exif.isEmpty() || !xmp.isEmpty() || !iptc.isEmpty();
-    if (hasAny && support.writing == MetadataWriting::None) {
-        warnings.append({WarningKind::MetadataLost,
-                         QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name)});
+    if (support.writing == MetadataWriting::None) {
+        if (!metadata.IsEmpty()) {
+            warnings.append({WarningKind::MetadataLost,
+                             QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name)});
+        }
+        return carrier;
     }
+    metadata.RemoveUnwritable(warnings);
     if (support.writing != MetadataWriting::ByEncoder) {
         return carrier;
     }
+    const QByteArray exif = metadata.Exif(support.longestBlock);
+    const QByteArray xmp = metadata.Xmp(support.hasXmpWrapper);
+    const QByteArray iptc = metadata.Iptc();
     const auto fits = [&](const QByteArray& block, const char* what) {
         if (support.longestBlock == 0 || block.size() <= support.longestBlock) {
             return true;

@@ -12,7 +12,8 @@
 namespace BatchWorker {
 
 /// `picture` with nothing but its profile and the blocks of `metadata` that the encoder of `format` writes. Each block
-/// that the format cannot hold gives a warning; IPTC becomes XMP in formats that hold XMP only.
+/// that the format cannot hold, and what the library cannot write, gives a warning; IPTC becomes XMP in formats that
+/// hold XMP only.
 Picture WithMetadata(const Picture& picture, const BatchJob::FormatSchema& format, Metadata& metadata,
                      BatchJob::Warnings& warnings);
 
