@@ -18,10 +18,10 @@ FormatSchema HeifFormat()
     format.longestSide = 16'384;
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
-    format.metadata.exifRemoval = ExifRemoval::StripIfAlone;
     format.metadata.hasXmpWrapper = false;
-    format.options = WithCommonOptions({Quality(80), Lossless("keep every pixel, but for a last step of rounding"),
-                                        ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options =
+        WithCommonOptions({Quality(80), Lossless("keep every pixel, but for a last step of rounding"),
+                           Effort(0, "higher is slower and better"), ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

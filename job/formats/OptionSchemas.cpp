@@ -18,9 +18,9 @@ ParameterSchema Quality(int standard)
     return {Text("quality"), ParameterType::Integer, standard, Text("higher is better and larger"), 1, 100, {}, {}};
 }
 
-ParameterSchema Effort(int standard)
+ParameterSchema Effort(int standard, const char* meaning)
 {
-    return {Text("effort"), ParameterType::Integer, standard, Text("higher is slower and smaller"), 0, 9, {}, {}};
+    return {Text("effort"), ParameterType::Integer, standard, Text(meaning), 0, 9, {}, {}};
 }
 
 ParameterSchema Lossless(const char* meaning)

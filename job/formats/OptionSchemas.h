@@ -8,7 +8,7 @@
 namespace BatchJob::OptionSchemas {
 
 ParameterSchema Quality(int standard);
-ParameterSchema Effort(int standard);
+ParameterSchema Effort(int standard, const char* meaning = "higher is slower and smaller");
 
 /// `meaning` says what is kept: no two formats mean quite the same.
 ParameterSchema Lossless(const char* meaning);

@@ -2,6 +2,7 @@
 #include "FormatEncoder.h"
 #include "JxlPlan.h"
 #include "JxlWriter.h"
+#include "RowReader.h"
 
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/FreeMemory.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
 #include <vector>
 
 /// The library's own operation takes five times the memory and cannot divide a picture.
@@ -88,43 +88,18 @@ private:
     bool isJoined = false;
 };
 
-/// Reads a picture once from top to bottom.
-class RowReader
+// The next `rows` of a picture, line by line.
+std::vector<std::uint8_t> NextSamples(RowReader& reader, const Picture& picture, int rows)
 {
-public:
-    explicit RowReader(const Picture& picture)
-        : picture(picture)
-        , region(vips_region_new(picture.get_image()), g_object_unref)
-    {
-        if (!region) {
-            throw vips::VError();
-        }
-    }
-
-    std::vector<std::uint8_t> Next(int rows)
-    {
-        const std::size_t lineSize = VIPS_IMAGE_SIZEOF_LINE(picture.get_image());
-        std::vector<std::uint8_t> samples(lineSize * std::size_t(rows));
-        constexpr int rowsAtOnce = 64;
-        for (int done = 0; done < rows; done += rowsAtOnce) {
-            const VipsRect area{0, next + done, picture.width(), std::min(rowsAtOnce, rows - done)};
-            if (vips_region_prepare(region.get(), &area) != 0) {
-                throw vips::VError();
-            }
-            for (int y = 0; y < area.height; ++y) {
-                std::memcpy(&samples[lineSize * std::size_t(done + y)], VIPS_REGION_ADDR(region.get(), 0, area.top + y),
-                            lineSize);
-            }
-        }
-        next += rows;
-        return samples;
-    }
-
-private:
-    Picture picture;
-    std::unique_ptr<VipsRegion, void (*)(gpointer)> region;
-    int next = 0;
-};
+    const std::size_t lineSize = VIPS_IMAGE_SIZEOF_LINE(picture.get_image());
+    std::vector<std::uint8_t> samples(lineSize * std::size_t(rows));
+    std::uint8_t* place = samples.data();
+    reader.Next(rows, [&place, lineSize](int, const std::uint8_t* line) {
+        std::memcpy(place, line, lineSize);
+        place += lineSize;
+    });
+    return samples;
+}
 
 JxlPlan PlanFor(const JxlPicture& picture, int effort)
 {
@@ -152,7 +127,7 @@ void WriteJpegXl(const Picture& picture, const QJsonObject& options, const QByte
     RowReader reader(picture);
     for (int row = 0; row < shape.height; row += plan.frameHeight) {
         const int rows = std::min(plan.frameHeight, shape.height - row);
-        writer.AddFrame(reader.Next(rows), rows);
+        writer.AddFrame(NextSamples(reader, picture, rows), rows);
         writer.Flush();
     }
     joint.Finish();

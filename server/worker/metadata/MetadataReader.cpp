@@ -6,6 +6,7 @@
 #include "PngMetadata.h"
 
 #include "server/worker/decode/PictureSource.h"
+#include "server/worker/pixels/EmbeddedBlock.h"
 
 #include <QFile>
 
@@ -22,27 +23,17 @@ const Exiv2::byte* Data(const QByteArray& bytes)
     return reinterpret_cast<const Exiv2::byte*>(bytes.constData());
 }
 
-QByteArray Block(const Picture& header, const char* name)
-{
-    if (header.get_typeof(name) == 0) {
-        return {};
-    }
-    std::size_t size = 0;
-    const void* bytes = header.get_blob(name, &size);
-    return {static_cast<const char*>(bytes), int(size)};
-}
-
 // The imaging library does not recognise XMP with a packet wrapper in HEIF files and hands it over under another name.
 QByteArray XmpBlock(const Picture& header)
 {
-    const QByteArray known = Block(header, VIPS_META_XMP_NAME);
+    const QByteArray known = BlockOf(header, VIPS_META_XMP_NAME);
     if (!known.isEmpty()) {
         return known;
     }
     const std::unique_ptr<gchar*, decltype(&g_strfreev)> fields(vips_image_get_fields(header.get_image()), g_strfreev);
     for (gchar** field = fields.get(); *field; ++field) {
         if (QByteArray(*field).startsWith("heif-mime")) {
-            const QByteArray block = Block(header, *field);
+            const QByteArray block = BlockOf(header, *field);
             if (block.startsWith("<?xpacket")) {
                 return block;
             }
@@ -119,7 +110,7 @@ MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
     const bool isInBoxes = source.Format().metadata.reading == MetadataReading::FromBoxes;
     const JxlMetadata boxes = isInBoxes ? ReadJxlMetadata(file) : JxlMetadata();
     MetadataBlocks blocks;
-    QByteArray exif = isInBoxes ? boxes.exif : Block(source.Header(), VIPS_META_EXIF_NAME);
+    QByteArray exif = isInBoxes ? boxes.exif : BlockOf(source.Header(), VIPS_META_EXIF_NAME);
     const QByteArray start("Exif\0\0", 6);
     exif = exif.startsWith(start) ? exif.mid(start.size()) : exif;
     if (!exif.isEmpty()) {
@@ -129,7 +120,7 @@ MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
     if (!xmp.isEmpty()) {
         Exiv2::XmpParser::decode(blocks.xmp, xmp.toStdString());
     }
-    ReadIptc(Block(source.Header(), VIPS_META_IPTC_NAME), blocks.iptc);
+    ReadIptc(BlockOf(source.Header(), VIPS_META_IPTC_NAME), blocks.iptc);
     return blocks;
 }
 
@@ -154,7 +145,7 @@ MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file,
 bool HasTruncatedProfile(const PictureSource& source)
 {
     const int shortest = source.Format().metadata.shortestProfile;
-    const int size = shortest > 0 ? Block(source.Header(), VIPS_META_ICC_NAME).size() : 0;
+    const int size = shortest > 0 ? BlockOf(source.Header(), VIPS_META_ICC_NAME).size() : 0;
     return size > 0 && size < shortest;
 }
 

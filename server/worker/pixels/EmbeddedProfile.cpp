@@ -1,15 +1,12 @@
 #include "EmbeddedProfile.h"
 
+#include "EmbeddedBlock.h"
+
 namespace BatchWorker {
 
 QByteArray ProfileOf(const Picture& picture)
 {
-    if (picture.get_typeof(VIPS_META_ICC_NAME) == 0) {
-        return {};
-    }
-    std::size_t size = 0;
-    const void* bytes = picture.get_blob(VIPS_META_ICC_NAME, &size);
-    return {static_cast<const char*>(bytes), int(size)};
+    return BlockOf(picture, VIPS_META_ICC_NAME);
 }
 
 Picture WithProfile(const Picture& picture, const QByteArray& profile)

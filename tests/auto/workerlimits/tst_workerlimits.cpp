@@ -81,6 +81,8 @@ private Q_SLOTS:
     void leavesNothingOnAFullDisk();
     void goesOnAfterAFullDisk();
     void boundsItsMemory();
+    void refusesHeifBeforeItsEncoderFails_data();
+    void refusesHeifBeforeItsEncoderFails();
     void staysSmall_data();
     void staysSmall();
     void keepsNoNamedFilesForItself();
@@ -149,6 +151,48 @@ void tst_WorkerLimits::boundsItsMemory()
     const bool isEnded = bench.Worker().ExitCode() == workerOutOfMemory;
     QVERIFY2(isReported || isEnded, qPrintable(report.reason));
     QVERIFY(!QFile::exists(bench.Path(Text("out.jpg"))));
+}
+
+void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails_data()
+{
+    QTest::addColumn<QByteArray>("options");
+    QTest::addColumn<bool>("isDeep");
+    QTest::newRow("defaults") << QByteArray("{}") << false;
+    QTest::newRow("the most memory") << QByteArray("{\"lossless\":true}") << true;
+}
+
+/// The encoder ends the process where memory is short. However much there is, the picture is written or refused.
+void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails()
+{
+    QFETCH(const QByteArray, options);
+    QFETCH(const bool, isDeep);
+    if (isSanitized) {
+        QSKIP("memory has no limit under sanitizers");
+    }
+
+    int refused = 0;
+    int written = 0;
+    for (const int mebibytes : {96, 192, 320, 400, 560}) {
+        WorkerBench bench;
+        const Picture photo = Noise(500, 500).replicate(5, 4);
+        const Picture alpha = photo.extract_band(0);
+        WritePicture(isDeep ? (photo.bandjoin(alpha) * 257).cast(VIPS_FORMAT_USHORT) : photo,
+                     bench.Path(Text("in.tif")));
+        Job job = JobOf(Text("HEIF"), options);
+        job.limits.workerMemory = qint64(mebibytes) << 20;
+        const Report report = bench.Make(Text("in.tif"), Text("out.heic"), Text("HEIF"), job);
+        if (report.reason.isEmpty()) {
+            ++written;
+            continue;
+        }
+        ++refused;
+        QVERIFY2(report.reason.contains(Text("needs more memory than a worker may use")),
+                 qPrintable(QStringLiteral("%1 MiB: %2; %3").arg(mebibytes).arg(report.reason, report.detail)));
+        QCOMPARE(report.errorCode, qint32(ZTBatchMessage::ImageTooLarge));
+        QCOMPARE(bench.Names(), QStringList(Text("in.tif")));
+    }
+    QVERIFY(refused > 0);
+    QVERIFY(written > 0);
 }
 
 void tst_WorkerLimits::staysSmall_data()

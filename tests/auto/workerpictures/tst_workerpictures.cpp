@@ -69,6 +69,14 @@ Picture Deep(const Picture& picture)
         .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_RGB16));
 }
 
+// The library moves values of 10 and 12 bits to the upper end of 16, which leaves white short of the largest value.
+Picture WithWholeRange(const Picture& picture)
+{
+    constexpr const char* bitsOfFile = "heif-bitdepth";
+    const bool isMoved = picture.format() == VIPS_FORMAT_USHORT && picture.get_typeof(bitsOfFile) != 0;
+    return isMoved ? picture | (picture >> picture.get_int(bitsOfFile)) : picture;
+}
+
 Picture Grey(const Picture& picture)
 {
     return picture.extract_band(0).copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_B_W));
@@ -371,7 +379,7 @@ void tst_WorkerPictures::losesNothingWithoutLoss()
     WritePicture(whole, bench->Path(Text("in.png")));
     const Report report = bench->Make(Text("in.png"), NameIn(format), format, {{Text("lossless"), true}});
     QCOMPARE(report.reason, QString());
-    const Picture result = ReadPicture(bench->Path(NameIn(format)));
+    const Picture result = WithWholeRange(ReadPicture(bench->Path(NameIn(format))));
     QCOMPARE(result.bands(), whole.bands());
     const int seen = isDeep ? 96 : 64; // what is right of that cannot be seen
     const auto visible = [seen](const Picture& picture) { return picture.crop(0, 0, seen, picture.height()); };
@@ -553,6 +561,7 @@ void tst_WorkerPictures::obeysOptions_data()
     row("WebP effort", "WebP", {{effort, 0}}, {{effort, 9}});
     row("AVIF quality", "AVIF", {{quality, 90}, {effort, 1}}, {{quality, 30}, {effort, 1}});
     row("HEIF quality", "HEIF", {{quality, 90}}, {{quality, 30}});
+    row("HEIF effort", "HEIF", {{effort, 0}}, {{effort, 9}});
     row("JPEG XL quality", "JPEG XL", {{quality, 95}}, {{quality, 40}});
     row("JPEG XL lossless", "JPEG XL", {{Text("lossless"), true}}, {{quality, 40}});
     row("JPEG 2000 quality", "JPEG 2000", {{quality, 95}}, {{quality, 30}});
