@@ -40,8 +40,8 @@ private:
     // The first entry is the first picture of the file.
     QVector<ListedPicture> Entries(qint64 place, qint64 size) const
     {
-        constexpr int entrySize = 16;
-        constexpr int most = 64; // a damaged index must not make readers go through a file again and again
+        constexpr qint64 entrySize = 16;
+        constexpr qint64 most = 64; // a damaged index must not make readers go through a file again and again
         const qint64 end = std::min<qint64>(place + std::min<qint64>(size, most * entrySize), block.size());
         QVector<ListedPicture> pictures;
         for (qint64 entry = place + entrySize; entry + entrySize <= end; entry += entrySize) {
