@@ -5,7 +5,7 @@
 
 namespace BatchHost {
 
-/// A file of a folder that begins like a picture, but was left out because its extension is none of a picture.
+/// A file of a folder that begins like a picture, but was left out because of its extension.
 struct LeftOutFile
 {
     QString path;

@@ -25,7 +25,7 @@ public:
     void AddText(quint16 tag, const QByteArray& text) { Add(tag, 2, quint32(text.size() + 1), text + '\0'); }
     void AddFractions(quint16 tag, quint16 type, const QVector<double>& values);
 
-    /// `start`: where the directory stands in the file.
+    /// `start`: the position of the directory in the file.
     QByteArray Bytes(quint32 start) const;
 
 private:

@@ -50,7 +50,8 @@ std::optional<Picture> Transformed(const Picture& picture, const QByteArray& pro
     return WithProfile(hasAlpha ? changed->bandjoin(picture.extract_band(bands)) : *changed, profile);
 }
 
-// The profile, made from `profile`, for a picture of another kind whose values mean the same. Empty if there is none.
+// A profile for grey or RGB, whichever `profile` is not for, in which the values mean the same. Empty if none can be
+// made.
 QByteArray ProfileForKind(ColourKind wanted, ColourKind kind, const QByteArray& profile)
 {
     if (wanted == ColourKind::Grey && kind == ColourKind::Rgb) {

@@ -13,7 +13,7 @@ namespace BatchWorker {
 
 namespace {
 
-// Source of the numbers: Adobe, Digital Negative Specification.
+// Source of the numbers: Adobe, "Digital Negative (DNG)", version 1.6.
 constexpr quint16 linearRaw = 34892; // of photometric interpretation
 constexpr quint16 lossyJpeg = 34892; // of compression
 

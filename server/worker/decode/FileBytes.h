@@ -8,7 +8,7 @@ namespace BatchWorker {
 class FileBytes
 {
 public:
-    /// Reads from a duplicate of `descriptor`. Throws PictureFailure when there is none to be had.
+    /// Reads from a duplicate of `descriptor`. Throws PictureFailure if it cannot be duplicated.
     explicit FileBytes(int descriptor);
     ~FileBytes();
 

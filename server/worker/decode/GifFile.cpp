@@ -33,8 +33,8 @@ void SkipExtension(ByteScanner& file)
     }
 }
 
-// Where the first frame is on the canvas; nothing when there is none. Source of the layout: CompuServe, Graphics
-// Interchange Format, Version 89a.
+// The place of the first frame on the canvas. Nothing if the file has no frame. Source of the layout: CompuServe,
+// Graphics Interchange Format, Version 89a.
 std::optional<QRect> FirstFrame(int descriptor)
 {
     constexpr int signatureAndCanvas = 6 + 4;

@@ -26,7 +26,7 @@ PictureFailure DamagedHeader()
     return DamagedFile(QStringLiteral("the file's header is damaged"));
 }
 
-// The box at `offset` of what ends at `end`; nothing when there is none.
+// The box at `offset`. Nothing if `end` leaves no room for its header.
 std::optional<Box> BoxAt(const FileBytes& file, qint64 offset, qint64 end)
 {
     constexpr int shortHeader = 8;

@@ -51,7 +51,7 @@ private:
 
     static void GiveUp(j_common_ptr decoder) { std::longjmp(Of(decoder).givingUp, 1); }
 
-    // The entropy decoder says this once when it needs bits of a block and there are none.
+    // The entropy decoder says this once when the file has no more bits for a block.
     static void NoteMessage(j_common_ptr decoder, int)
     {
         JpegTrial& self = Of(decoder);

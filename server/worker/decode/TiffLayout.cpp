@@ -10,7 +10,7 @@ namespace BatchWorker {
 
 namespace {
 
-// Photometric interpretation of DNG; source: Adobe, Digital Negative Specification.
+// Photometric interpretation of DNG; source: Adobe, "Digital Negative (DNG)", version 1.6.
 constexpr quint16 linearRaw = 34892;
 
 // What the imaging library can hold.

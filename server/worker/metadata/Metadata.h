@@ -32,7 +32,7 @@ public:
     /// The ICC profile of a file whose decoder does not hand it over (MetadataSupport::isProfileInDecoder); else empty.
     QByteArray Profile() const;
 
-    /// The EXIF orientation, 1 to 8; nothing if there is none.
+    /// The EXIF orientation, 1 to 8. Nothing if the file does not give one.
     std::optional<int> Orientation() const;
 
     /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.

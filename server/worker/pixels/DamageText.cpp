@@ -16,18 +16,15 @@ struct Sign
 /// The messages of the libraries by which a kind of damage is known, in the order in which they count. Others mean that
 /// the file is damaged.
 constexpr std::array signs{
-    Sign{"unsupported", DamageKind::NotSupported},
-    Sign{"not supported", DamageKind::NotSupported},
-    Sign{"not implemented", DamageKind::NotSupported},
-    Sign{"not configured", DamageKind::NotSupported},           // libtiff: a compression
-    Sign{"premature end", DamageKind::CutOff},                  // libjpeg
-    Sign{"unexpected end", DamageKind::CutOff},                 // GIF, libheif
-    Sign{"outside of file bounds", DamageKind::CutOff},         // libheif
-    Sign{"bad seek", DamageKind::CutOff},                       // libvips: behind the end
-    Sign{"seek error", DamageKind::CutOff},                     // libtiff: the same
-    Sign{"can not read tiff directory", DamageKind::CutOff},    // libtiff
-    Sign{"bytes, expected", DamageKind::CutOff},                // libtiff: "got 3520 bytes, expected 7200"
-    Sign{"inconsistent with stream length", DamageKind::CutOff} // OpenJPEG
+    Sign{"unsupported", DamageKind::NotSupported},          // libheif: "Unsupported feature"
+    Sign{"not supported", DamageKind::NotSupported},        // libjpeg: "Backing store not supported"
+    Sign{"not implemented", DamageKind::NotSupported},      // libjpeg: "CCIR601 sampling not implemented yet"
+    Sign{"premature end", DamageKind::CutOff},              // libjpeg, libwebp
+    Sign{"unexpected end", DamageKind::CutOff},             // GIF, libheif
+    Sign{"outside of file bounds", DamageKind::CutOff},     // libheif
+    Sign{"bad seek", DamageKind::CutOff},                   // libvips: behind the end
+    Sign{"seek error", DamageKind::CutOff},                 // libtiff: of the directory
+    Sign{"can not read tiff directory", DamageKind::CutOff} // libtiff
 };
 
 QString NotSupportedText()

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -19,11 +20,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QByteArray BuiltIn(const char* name)
 {

@@ -1,4 +1,7 @@
+#include "Text.h"
 #include "WorkerBench.h"
+
+#include "server/worker/pixels/DamageText.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
@@ -11,11 +14,6 @@ using namespace BatchWorker;
 using BatchJob::PolicyKind;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 /// Pixels that no encoder can make small: a place in the file is the same place in the picture.
 Picture Grain(int width, int height)
@@ -81,6 +79,8 @@ private Q_SLOTS:
     void privateFieldsAreNoWarnings_data();
     void privateFieldsAreNoWarnings();
     void effectsNameTheirFile();
+    void knowsMessagesOfLibraries_data();
+    void knowsMessagesOfLibraries();
 
 private:
     /// Writes "broken.EXTENSION": a picture whose bytes from `at`, a part of the whole, are missing or damaged.
@@ -261,6 +261,30 @@ void tst_WorkerMessagesOfDamage::effectsNameTheirFile()
     QVERIFY2(report.reason.contains(logo), qPrintable(report.reason));
     QVERIFY2(report.reason.contains(Text("the file ends before the picture is complete")), qPrintable(report.reason));
     QVERIFY(!report.detail.isEmpty());
+}
+
+void tst_WorkerMessagesOfDamage::knowsMessagesOfLibraries_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("kind");
+    const auto add = [](const char* text, DamageKind kind) { QTest::newRow(text) << Text(text) << int(kind); };
+    add("heif: Unsupported feature: Unsupported codec (4.3000)", DamageKind::NotSupported);
+    add("VipsJpeg: Backing store not supported", DamageKind::NotSupported);
+    add("VipsJpeg: CCIR601 sampling not implemented yet", DamageKind::NotSupported);
+    add("VipsJpeg: Premature end of JPEG file", DamageKind::CutOff);
+    add("gifload_source: Unexpected end of GIF source data", DamageKind::CutOff);
+    add("heif: Invalid input: Extent in iloc box references data outside of file bounds", DamageKind::CutOff);
+    add("source: bad seek to 4711", DamageKind::CutOff);
+    add("picture: Seek error accessing TIFF directory", DamageKind::CutOff);
+    add("picture: Can not read TIFF directory count", DamageKind::CutOff);
+    add("VipsPng: libpng read error", DamageKind::Damaged);
+}
+
+void tst_WorkerMessagesOfDamage::knowsMessagesOfLibraries()
+{
+    QFETCH(const QString, text);
+    QFETCH(const int, kind);
+    QCOMPARE(int(DamageKindOf(text)), kind);
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerMessagesOfDamage)

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QtEndian>
@@ -7,11 +8,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 template<typename Number>
 void Append(QByteArray& bytes, Number number, bool isLittleEndian)

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -16,11 +17,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 ZTBatchOutputSettings::ImageSize Size(SizeRestriction restriction, SizeSide side, SizeUnit unit, double length,
                                       int resolution = 300)

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "TiffDirectory.h"
 #include "WorkerBench.h"
 
@@ -5,15 +6,6 @@
 
 using namespace BatchProtocol;
 using namespace BatchWorker;
-
-namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
-
-} // namespace
 
 /// GIF files whose first frame leaves a part of the canvas free.
 class tst_WorkerGif : public QObject

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -13,11 +14,6 @@ using namespace BatchWorker;
 namespace {
 
 const char* const incomplete = "the file lacks its last bytes; the picture is whole";
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 Picture Photo(int colours)
 {

@@ -1,5 +1,6 @@
 #include "Jpeg2000Maker.h"
 #include "Jpeg2000Patterns.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -31,11 +32,6 @@ constexpr int grey = 17;
 constexpr int srgb = 16;
 constexpr int sycc = 18;
 constexpr int cmyk = 12;
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QByteArray Data(const QString& name)
 {

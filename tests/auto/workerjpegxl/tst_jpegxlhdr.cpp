@@ -2,6 +2,7 @@
 #include "HdrAnchors.h"
 #include "JxlFile.h"
 #include "PngParts.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QTest>
@@ -21,11 +22,6 @@ enum class Space {
 };
 
 constexpr Points ofItsOwn{0.3457, 0.3585, 0.68, 0.31, 0.21, 0.72, 0.14, 0.05};
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // The patches one beside the other, large enough that each has its colour whatever an encoder does at edges.
 JxlFile FileOf(const QVector<Anchor>& anchors, JxlTransferFunction transfer, Space space)

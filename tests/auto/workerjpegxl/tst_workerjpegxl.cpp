@@ -1,4 +1,6 @@
 #include "JxlFile.h"
+#include "Sanitizers.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -13,17 +15,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // Every place differs; channel by channel another slope. Floating point of few bits holds each value.
 double Slope(int x, int y, int channel)

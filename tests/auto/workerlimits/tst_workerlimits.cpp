@@ -1,3 +1,5 @@
+#include "Sanitizers.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -22,17 +24,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // A line of the system's account of a process, such as "VmHWM".
 QByteArray StatusOf(qint64 process, const char* line)

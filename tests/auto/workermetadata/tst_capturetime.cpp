@@ -1,5 +1,6 @@
 #include "PlantedMetadata.h"
 #include "RawPicture.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QDateTime>
@@ -20,13 +21,8 @@ struct Source
     const char* name;
     const char* time; ///< as it is read
     Plant plant;
-    Plant spoil; ///< with a date that is none
+    Plant spoil; ///< with a date that does not exist
 };
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 Plant Exif(const char* key, const char* time)
 {

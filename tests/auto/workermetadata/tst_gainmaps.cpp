@@ -1,4 +1,5 @@
 #include "PlantedMetadata.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -11,11 +12,6 @@ using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QByteArray BigEndian(quint32 number, int size = 4)
 {

@@ -1,4 +1,5 @@
 #include "PlantedMetadata.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QDateTime>
@@ -7,11 +8,6 @@
 using namespace BatchProtocol;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QByteArray ExifChunk(int orientation, const char* artist)
 {

@@ -1,5 +1,6 @@
 #include "PlantedMetadata.h"
 #include "PlantedPlaces.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -12,11 +13,6 @@ using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString NameIn(const QString& base, const QString& format)
 {

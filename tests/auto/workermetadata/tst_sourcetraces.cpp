@@ -1,4 +1,5 @@
 #include "PlantedMetadata.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -14,11 +15,6 @@ using namespace BatchProtocol;
 namespace {
 
 using Plant = std::function<void(PlantedMetadata::Blocks&)>;
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString NameIn(const QString& base, const QString& format)
 {

@@ -1,4 +1,5 @@
 #include "PlantedMetadata.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QTest>
@@ -8,11 +9,6 @@ using namespace BatchJob;
 using namespace BatchProtocol;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // The metadata library reads the entries of both blocks and cannot write notes that have an array twice.
 QByteArray WithRepeatedExif(QByteArray webp)

@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/formats/FormatCatalog.h"
@@ -17,11 +18,6 @@ using namespace BatchProtocol;
 using namespace BatchWorker;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString NameIn(const QString& format)
 {

@@ -1,6 +1,7 @@
 #include "ColourJudge.h"
 #include "HdrAnchors.h"
 #include "PngParts.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include <QFile>
@@ -12,11 +13,6 @@ using namespace ColourJudge;
 using namespace HdrAnchors;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QByteArray Stored(const char* name)
 {

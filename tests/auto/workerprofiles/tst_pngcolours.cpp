@@ -1,5 +1,6 @@
 #include "ColourJudge.h"
 #include "PngParts.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "server/worker/pixels/EmbeddedProfile.h"
@@ -15,11 +16,6 @@ using namespace BatchProtocol;
 using namespace ColourJudge;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // Exact in 8 bits.
 QVector<Colour> Patches()

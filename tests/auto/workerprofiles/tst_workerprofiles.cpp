@@ -1,5 +1,6 @@
 #include "ColourJudge.h"
 #include "PngParts.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "server/worker/pixels/EmbeddedProfile.h"
@@ -12,11 +13,6 @@ using namespace BatchProtocol;
 using namespace ColourJudge;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // Away from the limits of sRGB when they are read as Display P3.
 QVector<Colour> Patches()

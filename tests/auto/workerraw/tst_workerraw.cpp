@@ -1,4 +1,5 @@
 #include "RawPicture.h"
+#include "Text.h"
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
@@ -16,11 +17,6 @@ using namespace BatchWorker;
 using namespace RawPicture;
 
 namespace {
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 double Encoded(double light)
 {

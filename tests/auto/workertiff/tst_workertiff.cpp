@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "TiffDirectory.h"
 #include "TiffPicture.h"
 #include "WorkerBench.h"
@@ -34,11 +35,6 @@ constexpr int deflate = 8;
 constexpr quint16 unspecified = 0;
 constexpr quint16 premultiplied = 1;
 constexpr quint16 straight = 2;
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 // Every place differs: red grows to the right, green downwards, blue is a chequerboard.
 double ChartAt(int x, int y, int s)

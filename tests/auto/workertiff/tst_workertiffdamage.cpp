@@ -1,3 +1,4 @@
+#include "Text.h"
 #include "TiffDirectory.h"
 #include "TiffPicture.h"
 #include "WorkerBench.h"
@@ -21,11 +22,6 @@ namespace {
 constexpr int minIsBlack = 1;
 constexpr int lzw = 5;
 constexpr int deflate = 8;
-
-QString Text(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 double ChartAt(int x, int y, int s)
 {

@@ -78,6 +78,15 @@ private:
         process.start(QStringLiteral(VELKORA_BATCH), Arguments(arguments));
         QVERIFY(process.waitForStarted());
     }
+    /// Kills a run as soon as it has begun.
+    void KillRun() const
+    {
+        QProcess run;
+        Start(run, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
+        QVERIFY(run.waitForReadyRead(60'000));
+        run.kill();
+        QVERIFY(run.waitForFinished());
+    }
     void MakeOutput(const QString& folder = QStringLiteral("out")) const
     {
         QVERIFY(QDir(Path(folder)).removeRecursively());
@@ -292,11 +301,7 @@ void tst_CliResume::journalThatWasNotBegun()
 // A child that was just forked when its parent was killed keeps the descriptor of the lock until it becomes the server.
 void tst_CliResume::lockThatOutlivesItsHolder()
 {
-    QProcess killed;
-    Start(killed, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
-    QVERIFY(killed.waitForReadyRead(60'000));
-    killed.kill();
-    QVERIFY(killed.waitForFinished());
+    KillRun();
     const QDir out(Path(QStringLiteral("out")));
     const QStringList locks =
         out.entryList({QStringLiteral(".velkora-batch-*.journal.lock")}, QDir::Files | QDir::Hidden);
@@ -315,11 +320,7 @@ void tst_CliResume::lockThatOutlivesItsHolder()
 
 void tst_CliResume::otherJobsAreNotResumed()
 {
-    QProcess process;
-    Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
-    QVERIFY(process.waitForReadyRead(60'000));
-    process.kill();
-    QVERIFY(process.waitForFinished());
+    KillRun();
     for (const char* other : {"a", "a b --structure input", "--size 10", "--no-inputs"}) {
         const CliRun run = Run(QStringLiteral("run --resume -o out ") + QLatin1String(other));
         QCOMPARE(run.exitCode, 2);
@@ -332,11 +333,7 @@ void tst_CliResume::otherJobsAreNotResumed()
 
 void tst_CliResume::linesThatMakeNoSense()
 {
-    QProcess process;
-    Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
-    QVERIFY(process.waitForReadyRead(60'000));
-    process.kill();
-    QVERIFY(process.waitForFinished());
+    KillRun();
     const QDir out(Path(QStringLiteral("out")));
     const QStringList journals =
         out.entryList({QStringLiteral(".velkora-batch-*.journal")}, QDir::Files | QDir::Hidden);

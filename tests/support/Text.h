@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// Tests have many short texts of ASCII characters.
+inline QString Text(const char* text)
+{
+    return QString::fromLatin1(text);
+}
