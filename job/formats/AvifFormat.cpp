@@ -16,7 +16,6 @@ FormatSchema AvifFormat()
     format.longestSide = 16'384;
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
-    format.metadata.exifRemoval = ExifRemoval::StripIfAlone;
     format.metadata.hasXmpWrapper = false;
     format.options = WithCommonOptions({Quality(65), Lossless("keep every pixel, but for a last step of rounding"),
                                         Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)});

@@ -68,7 +68,6 @@ enum class MetadataWriting {
 enum class ExifRemoval {
     NotNeeded,
     Strip,        ///< the encoder writes no metadata at all; the other blocks are added to the finished file
-    StripIfAlone, ///< the encoder writes no metadata at all if there are no other blocks; else the made-up block stays
     CutOut        ///< the block is cut out of the finished file
 };
 

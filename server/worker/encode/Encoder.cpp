@@ -17,26 +17,6 @@ namespace BatchWorker {
 
 namespace {
 
-bool CarriesBlocks(const Picture& picture)
-{
-    return picture.get_typeof(VIPS_META_ICC_NAME) != 0 || picture.get_typeof(VIPS_META_XMP_NAME) != 0;
-}
-
-// To leave out everything is the only way to keep some encoders from making EXIF up.
-bool MustStrip(const FormatSchema& format, const Picture& picture)
-{
-    switch (format.metadata.exifRemoval) {
-    case ExifRemoval::Strip:
-        return true;
-    case ExifRemoval::StripIfAlone:
-        return !CarriesBlocks(picture);
-    case ExifRemoval::NotNeeded:
-    case ExifRemoval::CutOut:
-        break;
-    }
-    return false;
-}
-
 void Operate(const FormatEncoder& encoder, const Picture& picture, const QJsonObject& options, bool isStripped,
              const vips::VTarget& target)
 {
@@ -75,6 +55,8 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
 {
     const FormatEncoder& encoder = EncoderOf(format);
     const QByteArray profile = encoder.profileBytes ? ProfileOf(picture) : QByteArray();
+    // To leave out everything is the only way to keep some encoders from making EXIF up.
+    const bool mustStrip = withoutExif && format.metadata.exifRemoval == ExifRemoval::Strip;
     const AddedBytes start{encoder.write ? QByteArray() : before, 0};
     const ResultTarget result(descriptor, profile.isEmpty() ? start : encoder.profileBytes(profile));
     const Picture bare = profile.isEmpty() ? picture : WithProfile(picture, {});
@@ -88,7 +70,7 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
         if (encoder.write) {
             encoder.write(picture, options, before, result.Target());
         } else {
-            Operate(encoder, bare, options, withoutExif && MustStrip(format, picture), result.Target());
+            Operate(encoder, bare, options, mustStrip, result.Target());
         }
     } catch (const vips::VError&) {
         checkFile();

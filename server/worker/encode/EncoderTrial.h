@@ -6,10 +6,6 @@
 
 namespace BatchWorker {
 
-/// Tries the encoder of `format` if it may end the process. To be called before the pixels of a picture are read: the
-/// trial takes long in a process in which the imaging library has threads.
-void PrepareEncoder(const BatchJob::FormatSchema& format);
-
 /// Whether this installation can write `format` with `options`, which are complete, for pictures of more than 8 bits a
 /// channel if `isDeep`: the imaging library may lack an encoder, and some versions of encoders fail at some depths. A
 /// few pixels are written once to find out.

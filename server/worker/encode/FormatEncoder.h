@@ -18,8 +18,9 @@ struct FormatEncoder
     /// Sets the arguments of `operation` for `picture`, which is ready to be written. `options` are complete.
     void (*setArguments)(vips::VOption* arguments, const QJsonObject& options, const Picture& picture) = nullptr;
 
-    /// Some versions of this encoder end the process for some depths above 8 bits, instead of failing.
-    bool mayCrashWhenDeep = false;
+    /// Whether it can be asked for `bits` of a channel; null where every depth of the format can be asked for. Some
+    /// versions of encoders end the process instead of failing.
+    bool (*canWriteDepth)(int bits) = nullptr;
 
     /// The bytes in which a file carries `profile`, where the library's own way of writing it may lose it; null where
     /// that does not happen.

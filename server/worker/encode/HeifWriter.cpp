@@ -1,12 +1,15 @@
 #include "HeifWriter.h"
 
+#include "EncoderOptions.h"
 #include "RowReader.h"
 
 #include "server/worker/pixels/EmbeddedBlock.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
+#include "server/worker/pixels/FreeMemory.h"
+#include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 
-#include <libheif/heif.h>
+#include <QThread>
 
 #include <array>
 #include <memory>
@@ -29,15 +32,40 @@ void Check(const heif_error& error)
     }
 }
 
+void CheckMemory(const Picture& picture, const HeifSettings& settings)
+{
+    constexpr qint64 mebibyte = qint64(1) << 20;
+    constexpr qint64 ofPipeline = 48 * mebibyte;
+    constexpr qint64 ofThread = 10 * mebibyte; // its stack, and what it works on
+    const qint64 available = FreeMemory() - ofPipeline - QThread::idealThreadCount() * ofThread;
+    const qint64 pixels = qint64(picture.width()) * picture.height();
+    if (double(pixels) * settings.bytesOfPixel > double(available)) {
+        throw TooLarge(QStringLiteral("writing %1 x %2 pixels as %3 needs more memory than a worker may use")
+                           .arg(picture.width())
+                           .arg(picture.height())
+                           .arg(QLatin1String(settings.formatName)));
+    }
+}
+
+void SetParameter(heif_encoder* encoder, const QByteArray& name, const QByteArray& value)
+{
+    const heif_error error = heif_encoder_set_parameter(encoder, name.constData(), value.constData());
+    if (error.subcode != heif_suberror_Unsupported_parameter) {
+        Check(error);
+    }
+}
+
 Encoder NewEncoder(heif_context* context, const HeifSettings& settings)
 {
     heif_encoder* found = nullptr;
-    Check(heif_context_get_encoder_for_format(context, heif_compression_HEVC, &found));
+    Check(heif_context_get_encoder_for_format(context, settings.compression, &found));
     Encoder encoder(found, heif_encoder_release);
     Check(heif_encoder_set_lossy_quality(found, settings.quality));
     Check(heif_encoder_set_lossless(found, settings.isLossless ? 1 : 0));
     Check(heif_encoder_set_parameter_string(found, "chroma", settings.keepsFineColour ? "444" : "420"));
-    Check(heif_encoder_set_parameter_string(found, "preset", settings.preset));
+    for (const auto& [name, value] : settings.parameters) {
+        SetParameter(found, name, value);
+    }
     return encoder;
 }
 
@@ -143,8 +171,20 @@ heif_error PassOn(heif_context*, const void* bytes, std::size_t size, void* targ
 
 } // namespace
 
+HeifSettings HeifSettingsOf(const QJsonObject& options, const Picture& picture)
+{
+    constexpr int mostBits = 12;
+    HeifSettings settings;
+    settings.quality = IntegerOption(options, "quality");
+    settings.isLossless = TruthOption(options, "lossless");
+    settings.keepsFineColour = Subsampling(options) == VIPS_FOREIGN_SUBSAMPLE_OFF;
+    settings.bits = HasSixteenBits(picture) ? options[QLatin1String("bitDepth")].toInt(mostBits) : 8;
+    return settings;
+}
+
 void WriteHeif(const Picture& picture, const HeifSettings& settings, const vips::VTarget& target)
 {
+    CheckMemory(picture, settings);
     const Context context(heif_context_alloc(), heif_context_free);
     const Handle coded = Coded(context.get(), picture, settings);
     const QByteArray exif = BlockOf(picture, VIPS_META_EXIF_NAME);

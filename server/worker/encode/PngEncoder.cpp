@@ -43,7 +43,7 @@ AddedBytes ProfileBytes(const QByteArray& profile)
 
 FormatEncoder PngEncoder()
 {
-    return {"pngsave_target", SetArguments, false, ProfileBytes};
+    return {"pngsave_target", SetArguments, nullptr, ProfileBytes};
 }
 
 } // namespace BatchWorker

@@ -14,7 +14,6 @@
 #include "server/worker/colour/ColourProfile.h"
 #include "server/worker/decode/PictureSource.h"
 #include "server/worker/encode/Encoder.h"
-#include "server/worker/encode/EncoderTrial.h"
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
@@ -226,7 +225,6 @@ MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, cons
     if (!format) {
         throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
     }
-    PrepareEncoder(*format);
     BeginMemoryAccount();
     return PictureRun(job, limits, task, *format).Make();
 }

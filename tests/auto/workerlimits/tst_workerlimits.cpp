@@ -72,8 +72,9 @@ private Q_SLOTS:
     void leavesNothingOnAFullDisk();
     void goesOnAfterAFullDisk();
     void boundsItsMemory();
-    void refusesHeifBeforeItsEncoderFails_data();
-    void refusesHeifBeforeItsEncoderFails();
+    void refusesBeforeEncodersFail_data();
+    void refusesBeforeEncodersFail();
+    void writesSmoothPhotosAsAvif();
     void staysSmall_data();
     void staysSmall();
     void keepsNoNamedFilesForItself();
@@ -144,17 +145,24 @@ void tst_WorkerLimits::boundsItsMemory()
     QVERIFY(!QFile::exists(bench.Path(Text("out.jpg"))));
 }
 
-void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails_data()
+void tst_WorkerLimits::refusesBeforeEncodersFail_data()
 {
+    QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("options");
     QTest::addColumn<bool>("isDeep");
-    QTest::newRow("defaults") << QByteArray("{}") << false;
-    QTest::newRow("the most memory") << QByteArray("{\"lossless\":true}") << true;
+    for (const char* format : {"HEIF", "AVIF"}) {
+        const auto row = [format](const char* what) -> QTestData& {
+            return QTest::addRow("%s, %s", format, what) << Text(format);
+        };
+        row("defaults") << QByteArray("{}") << false;
+        row("the most memory") << QByteArray("{\"lossless\":true}") << true;
+    }
 }
 
-/// The encoder ends the process where memory is short. However much there is, the picture is written or refused.
-void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails()
+/// Encoders end the process where memory is short. However much there is, the picture is written or refused.
+void tst_WorkerLimits::refusesBeforeEncodersFail()
 {
+    QFETCH(const QString, format);
     QFETCH(const QByteArray, options);
     QFETCH(const bool, isDeep);
     if (isSanitized) {
@@ -163,15 +171,15 @@ void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails()
 
     int refused = 0;
     int written = 0;
-    for (const int mebibytes : {96, 192, 320, 400, 560}) {
+    for (const int mebibytes : {96, 192, 320, 400, 640}) {
         WorkerBench bench;
         const Picture photo = Noise(500, 500).replicate(5, 4);
         const Picture alpha = photo.extract_band(0);
         WritePicture(isDeep ? (photo.bandjoin(alpha) * 257).cast(VIPS_FORMAT_USHORT) : photo,
                      bench.Path(Text("in.tif")));
-        Job job = JobOf(Text("HEIF"), options);
+        Job job = JobOf(format, options);
         job.limits.workerMemory = qint64(mebibytes) << 20;
-        const Report report = bench.Make(Text("in.tif"), Text("out.heic"), Text("HEIF"), job);
+        const Report report = bench.Make(Text("in.tif"), Text("out"), format, job);
         if (report.reason.isEmpty()) {
             ++written;
             continue;
@@ -184,6 +192,20 @@ void tst_WorkerLimits::refusesHeifBeforeItsEncoderFails()
     }
     QVERIFY(refused > 0);
     QVERIFY(written > 0);
+}
+
+/// The encoder takes smooth photos for screenshots, and searching those for repeats takes four times the memory.
+void tst_WorkerLimits::writesSmoothPhotosAsAvif()
+{
+    if (isSanitized) {
+        QSKIP("memory has no limit under sanitizers");
+    }
+
+    WorkerBench bench;
+    WritePicture(Noise(60, 40).resize(50), bench.Path(Text("in.png")));
+    Job job = JobOf(Text("AVIF"), "{}");
+    job.limits.workerMemory = qint64(400) << 20;
+    QCOMPARE(bench.Make(Text("in.png"), Text("out.avif"), Text("AVIF"), job).reason, QString());
 }
 
 void tst_WorkerLimits::staysSmall_data()

@@ -106,7 +106,6 @@ private Q_SLOTS:
     void turnsPicturesUpright();
     void keepsDepth_data();
     void keepsDepth();
-    void triesEncodersBeforePixelsAreRead();
     void losesNothingWithoutLoss_data();
     void losesNothingWithoutLoss();
     void keepsGrey_data();
@@ -322,21 +321,6 @@ void tst_WorkerPictures::keepsDepth()
     QCOMPARE(result.format(), isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR);
     const double difference = LargestDifference(result, isDeep ? Deep(chart) : chart);
     QVERIFY2(difference <= tolerance, qPrintable(QString::number(difference)));
-}
-
-/// A turned picture is read while the pipeline is built; the trial of the encoder must not come after that.
-void tst_WorkerPictures::triesEncodersBeforePixelsAreRead()
-{
-    const auto make = [](int orientation, int bits) {
-        WorkerBench fresh;
-        Picture picture = Deep(Chart(64, 40));
-        picture.set(VIPS_META_ORIENTATION, orientation);
-        WritePicture(picture, fresh.Path(Text("in.tif")));
-        return fresh.Make(Text("in.tif"), NameIn(Text("HEIF")), Text("HEIF"), {{Text("bitDepth"), bits}}).reason;
-    };
-    for (const int bits : {10, 12}) {
-        QCOMPARE(make(6, bits), make(1, bits));
-    }
 }
 
 void tst_WorkerPictures::losesNothingWithoutLoss_data()
