@@ -202,7 +202,10 @@ void tst_WorkerLimits::writesSmoothPhotosAsAvif()
     }
 
     WorkerBench bench;
-    WritePicture(Noise(60, 40).resize(50), bench.Path(Text("in.png")));
+    const Picture soft = Noise(300, 200).cast(VIPS_FORMAT_FLOAT).gaussblur(8);
+    const Picture smooth = ((soft - 127.5) * 15 + 127.5).cast(VIPS_FORMAT_UCHAR).resize(10);
+    WritePicture(smooth.copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB)),
+                 bench.Path(Text("in.png")));
     Job job = JobOf(Text("AVIF"), "{}");
     job.limits.workerMemory = qint64(400) << 20;
     QCOMPARE(bench.Make(Text("in.png"), Text("out.avif"), Text("AVIF"), job).reason, QString());
