@@ -50,7 +50,7 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
     });
     clock.start(startTime);
     process.setProcessEnvironment(EnvironmentOfWorkers());
-    process.start(program, QStringList());
+    process.Launch(program, QStringList());
 }
 
 WorkerProcess::~WorkerProcess()
