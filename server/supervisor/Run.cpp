@@ -1,5 +1,6 @@
 #include "Run.h"
 
+#include "job/plan/CommandLog.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -78,6 +79,7 @@ void Run::StartInBackground(std::function<void(const BackgroundTask::Cancelled&)
         background->wait();
         background.reset();
         if (phase == Phase::Cancelling) {
+            plan = std::move(preparation->plan);
             pool.Drop(number);
         } else {
             (this->*next)();
@@ -588,7 +590,7 @@ void Run::Pause()
 void Run::Resume()
 {
     if (!isPaused || phase == Phase::Over || phase == Phase::Cancelling) {
-        host.Log(QStringLiteral("There is nothing to resume."));
+        host.Log(CommandLog::NotPaused());
         return;
     }
     isPaused = false;

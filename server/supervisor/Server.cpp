@@ -2,6 +2,7 @@
 
 #include "HostLink.h"
 
+#include "job/plan/CommandLog.h"
 #include "job/settings/JobCheck.h"
 
 #include <QCoreApplication>
@@ -134,6 +135,9 @@ void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const
         CreateSession(pipe, id);
         return;
     }
+    if (message == ZTBatchMessage::MsgCloseSession && !sessions.contains(id)) {
+        return; // It ended with an earlier connection of its host.
+    }
     Session* const session = SessionOf(pipe, id, message);
     if (!session) {
         return;
@@ -141,7 +145,7 @@ void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const
     if (message == ZTBatchMessage::MsgCloseSession) {
         CloseSession(id);
     } else if (!session->run) {
-        HostLink(pipe, id).Log(QStringLiteral("No run is active: the command is ignored."));
+        HostLink(pipe, id).Log(BatchJob::CommandLog::NoRun());
     } else if (message == ZTBatchMessage::MsgPause) {
         session->run->Pause();
     } else if (message == ZTBatchMessage::MsgResume) {

@@ -22,13 +22,15 @@ private Q_SLOTS:
     void serversThatEnd_data();
     void serversThatEnd();
     void serverThatEndsFirstThing();
+    void connectionsThatAreLost();
+    void serversThatEndByThemselves();
     void noServer();
     void secondRunAtATime();
 
 private:
     QString Field(const QString& name) const { return QStringLiteral("s:") + Encoded(stage->Path(name)); }
     static QString Encoded(const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
-    QStringList ThreeResults() const;
+    QStringList ThreeResults(const QString& trigger = QStringLiteral("5")) const;
 
     std::unique_ptr<CliStage> stage;
 };
@@ -42,7 +44,7 @@ void tst_CliScripted::init()
 }
 
 /// The first is written, the second cannot be read, the name of the third is taken.
-QStringList tst_CliScripted::ThreeResults() const
+QStringList tst_CliScripted::ThreeResults(const QString& trigger) const
 {
     const QString first = Field(QStringLiteral("photos/1.jpg"));
     const QString second = Field(QStringLiteral("photos/2.jpg"));
@@ -63,7 +65,7 @@ QStringList tst_CliScripted::ThreeResults() const
         QStringLiteral("send 7 id i:3"),
         QStringLiteral("send 6 id"),
     };
-    return {QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))};
+    return {QStringLiteral("start: open"), QStringLiteral("%1: %2").arg(trigger, actions.join(QStringLiteral("; ")))};
 }
 
 void tst_CliScripted::resultsAreTold()
@@ -180,6 +182,29 @@ void tst_CliScripted::serverThatEndsFirstThing()
     QCOMPARE(run.err.count("the server ended unexpectedly"), 1);
     QVERIFY2(run.err.contains("Written             1"), run.err.constData());
     QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).isEmpty());
+}
+
+// The host may connect to a killed server that its last child keeps alive for a moment. Its order is lost with that
+// connection, and the next one leads to the new server.
+void tst_CliScripted::connectionsThatAreLost()
+{
+    stage->Play(ThreeResults(QStringLiteral("5@2")) << QStringLiteral("5@1: disconnect"));
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QVERIFY2(run.err.contains("Written             1"), run.err.constData());
+}
+
+// Nobody cancelled the run: somebody has asked the server to end.
+void tst_CliScripted::serversThatEndByThemselves()
+{
+    stage->PlayNext(ThreeResults());
+    stage->Play(
+        {QStringLiteral("start: open"),
+         QStringLiteral("5: next; send 8 id %1; send 14 id; exit 0").arg(Field(QStringLiteral("photos/1.jpg")))});
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one continues.\n"), 1);
+    QVERIFY2(run.err.contains("Written             1") && !run.err.contains("Not processed"), run.err.constData());
 }
 
 void tst_CliScripted::noServer()
