@@ -108,6 +108,14 @@ void BeginsOther(qint32 number)
     Stall();
 }
 
+void BeginsOtherAndCrashes(qint32 number)
+{
+    Begin(number);
+    Begin(number + 1);
+    CrashQuietly();
+    Crash();
+}
+
 void Ready(qint32 number)
 {
     Begin(number);
@@ -232,6 +240,7 @@ const std::vector<Lie>& Lies()
         {"twice", "reports twice, then stalls", &Twice},
         {"other", "reports for the next file, then stalls", &OtherFile},
         {"begins-other", "begins files that it was not given, then stalls", &BeginsOther},
+        {"begins-crash", "begins the next file, then crashes", &BeginsOtherAndCrashes},
         {"ready", "says once more that it is ready, then stalls", &Ready},
         {"half", "sends half a message, then stalls", &HalfAFrame},
         {"half-end", "sends half a message, then ends with exit code 0", &HalfAFrameAndEnd},
