@@ -66,7 +66,7 @@ private:
     const BatchProtocol::ServerLimits limits;
     Listener listener;
     BatchProtocol::WorkerPool pool;
-    QVector<ZTPipeSession*> pipes; ///< the oldest first
+    QVector<ZTPipeSession*> pipes;           ///< the oldest first
     QHash<ZTPipeSession*, qint64> processes; ///< those at the other ends of the pipes
     QHash<QString, Session> sessions;
     QVector<Run*> runs; ///< the first one hands out the next task

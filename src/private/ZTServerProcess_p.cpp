@@ -56,8 +56,8 @@ void ZTServerProcess::Launch(const QString& program, const QStringList& argument
 {
     start(program, arguments, QIODevice::ReadWrite);
 #ifdef Q_OS_UNIX
-    // If the process was gone before Qt knew its number, the system's signal found nothing. At each such signal Qt looks
-    // at all processes that it knows.
+    // If the process was gone before Qt knew its number, the system's signal found nothing. At each such signal Qt
+    // looks at all processes that it knows.
     std::raise(SIGCHLD);
 #endif
 }
