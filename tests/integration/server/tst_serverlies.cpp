@@ -154,7 +154,11 @@ void tst_ServerLies::runsOfLiesCanBeCancelled()
     run.Process(run.Job(run.inputs), policies);
     QVERIFY2(run.WaitFor(QStringLiteral("file [in/bad.jpg]")), qPrintable(run.Report()));
     run.Send<ZTBatchMessage::MsgCancel>();
-    QVERIFY2(run.WaitFor(QStringLiteral("cancelled")), qPrintable(run.Report()));
+    // A run whose lies cost no time may be over.
+    QVERIFY2(QTest::qWaitFor(
+                 [&run] { return run.Count(QStringLiteral("cancelled")) + run.Count(QStringLiteral("finished")) == 1; },
+                 30000),
+             qPrintable(run.Report()));
     QVERIFY2(run.PeakMemory() < mostMemory, QByteArray::number(run.PeakMemory()));
 }
 
