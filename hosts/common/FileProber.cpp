@@ -81,7 +81,8 @@ private:
 
     void HandOut()
     {
-        while (!waiting.isEmpty() && pool.HasRoom(waiting.size())) {
+        while (!waiting.isEmpty() &&
+               (waiting.head().isSecondTry ? pool.HasIdleWorker() : pool.HasRoom(waiting.size()))) {
             pool.Give(waiting.dequeue());
         }
     }

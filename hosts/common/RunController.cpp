@@ -3,6 +3,7 @@
 #include "ManagerPolicies.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/plan/CommandLog.h"
 #include "job/plan/Trouble.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -44,6 +45,8 @@ RunController::RunController(const Order& order, const QVector<RunObserver*>& ob
     for (int i = 0; i < order.inputs.files.size(); ++i) {
         open[order.inputs.files.at(i)].append(i);
     }
+    connect(&watch, &ServerWatch::Quiet, this, &RunController::OnServerQuiet);
+    connect(&watch, &ServerWatch::Lost, this, &RunController::OnServerLost);
     sessionOver.setSingleShot(true);
     connect(&sessionOver, &QTimer::timeout, this, [this] { End(phase == Phase::Cancelling, false); });
     connect(manager, &ZTBatchManager::ConnectionEstablished, this, &RunController::BeginSession);
@@ -72,19 +75,34 @@ void RunController::Start()
 
 void RunController::StartServer()
 {
+    if (phase != Phase::Running) {
+        return;
+    }
     ++serversStarted;
     settledByThisServer = 0;
+    isAskedForLife = false;
+    watch.Start();
     manager->Start();
 }
 
+/// The connection is made, or was lost and is made again. A session ends with its connection: the server at the other
+/// end may even be another one, as a killed server answers until its last child has ended.
 void RunController::BeginSession()
 {
-    if (session || phase != Phase::Running) {
+    if (phase != Phase::Running) {
         return;
     }
+    if (session) {
+        delete session;
+        question.reset();
+        inWork.clear();
+        SettleFromJournal();
+    }
+    isAskedForLife = false;
+    watch.Start();
     session = manager->CreateBatchSession();
     if (!session) {
-        return;
+        return; // The connection is lost again. It returns, or the watch ends the server.
     }
     ConnectSession();
     // The manager saves its policies as the user's settings; those of this run are for this run only.
@@ -106,7 +124,9 @@ void RunController::ConnectSession()
     connect(session, &Session::NamingQuestion, this, [this] { OnQuestion(PolicyKind::Naming); });
     connect(session, &Session::WriteToFormatQuestion, this, [this] { OnQuestion(PolicyKind::WriteToFormat); });
     connect(session, &Session::Finished, this, &RunController::OnSessionOver);
-    connect(session, &Session::Cancelled, this, &RunController::OnSessionOver);
+    connect(session, &Session::Cancelled, this, &RunController::OnSessionCancelled);
+    connect(session, QOverload<int>::of(&Session::Progress), &watch, &ServerWatch::Heard);
+    connect(session, &Session::ProgressRange, &watch, &ServerWatch::Heard);
 }
 
 void RunController::Cancel()
@@ -115,6 +135,7 @@ void RunController::Cancel()
         return;
     }
     phase = Phase::Cancelling;
+    watch.ExpectEnd();
     for (RunObserver* const observer : observers) {
         observer->OnCancelling();
     }
@@ -127,6 +148,9 @@ void RunController::Cancel()
 
 void RunController::EndAtOnce()
 {
+    if (phase == Phase::Over) {
+        return;
+    }
     phase = Phase::Cancelling;
     manager->Stop();
     End(true, false);
@@ -134,7 +158,11 @@ void RunController::EndAtOnce()
 
 void RunController::OnFileInProgress(const QString& input)
 {
-    inWork.append(input);
+    watch.Heard();
+    // A file whose name was taken meanwhile is begun once more.
+    if (inWork.count(input) < open.value(input).size()) {
+        inWork.append(input);
+    }
     for (RunObserver* const observer : observers) {
         observer->OnInWork(inWork, input);
     }
@@ -142,6 +170,7 @@ void RunController::OnFileInProgress(const QString& input)
 
 void RunController::OnFileProcessed(const QString& input, const QString& output)
 {
+    watch.Heard();
     FileResult result{input, output, FileResult::Kind::Written, ZTBatchMessage::NoError, {}};
     for (const QString& text : std::exchange(logs, {})) {
         if (const std::optional<WarningLine> line = WarningLine::Parse(text, input)) {
@@ -153,6 +182,7 @@ void RunController::OnFileProcessed(const QString& input, const QString& output)
 
 void RunController::OnProcessError(const QString& input, const QString& output, int action, int errorCode)
 {
+    watch.Heard();
     const QString reason = ReasonOfError(input, BatchJob::Action(action), errorCode);
     if (input.isEmpty()) {
         end.jobErrorCode = errorCode;
@@ -182,6 +212,15 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
 
 void RunController::OnLog(const QString& text)
 {
+    if (isAskedForLife && text == CommandLog::NoRun()) {
+        OnServerLost();
+        return;
+    }
+    watch.Heard();
+    if (isAskedForLife && text == CommandLog::NotPaused()) {
+        isAskedForLife = false;
+        return;
+    }
     if (logs.size() == mostLogs) {
         logs.removeFirst();
     }
@@ -219,6 +258,7 @@ void RunController::OnQuestion(PolicyKind kind)
         return;
     }
     question = kind;
+    watch.Stop(); // The server waits, as long as the user takes.
     for (RunObserver* const observer : observers) {
         observer->OnQuestion(kind, asked.input, asked.reason);
     }
@@ -232,6 +272,7 @@ void RunController::Answer(int value, bool isForTheRest)
     }
     const PolicyKind kind = *question;
     question.reset();
+    watch.Start();
     for (RunObserver* const observer : observers) {
         observer->OnAnswer(kind, PolicyWord(kind, value), isForTheRest);
     }
@@ -347,20 +388,60 @@ void RunController::OnSessionOver()
     }
 }
 
-void RunController::OnServerGone()
+/// Nobody cancelled the run if the host did not: the server is ending, as somebody has asked it to.
+void RunController::OnSessionCancelled()
 {
-    sessionOver.stop();
-    if (phase == Phase::Over) {
+    if (phase == Phase::Cancelling) {
+        OnSessionOver();
         return;
     }
-    delete session;
     question.reset();
-    // The server may have written results to the journal that it could not report any more.
+    inWork.clear(); // They were put back. No picture is to blame for the end of the server.
+    watch.ExpectEnd();
+}
+
+/// Any server that is alive answers a command in the log of the session, also when the command changes nothing.
+void RunController::OnServerQuiet()
+{
+    if (session && !isAskedForLife) {
+        isAskedForLife = true;
+        session->Resume();
+    }
+}
+
+void RunController::OnServerLost()
+{
+    if (phase == Phase::Cancelling) {
+        EndAtOnce();
+    } else if (manager->IsStarted()) {
+        OnLog(QStringLiteral("The server does not answer any more: it is killed."));
+        watch.Start();
+        manager->Stop();
+    } else {
+        OnServerGone();
+    }
+}
+
+/// The server may have written results to the journal that it could not report any more.
+void RunController::SettleFromJournal()
+{
     for (const auto& [index, result] : JournaledResults()) {
         if (open.value(result.input).contains(index)) {
             Settle(result);
         }
     }
+}
+
+void RunController::OnServerGone()
+{
+    sessionOver.stop();
+    watch.Stop();
+    if (phase == Phase::Over) {
+        return;
+    }
+    delete session;
+    question.reset();
+    SettleFromJournal();
     if (phase == Phase::Cancelling || open.isEmpty() || end.jobErrorCode != ZTBatchMessage::NoError) {
         End(phase == Phase::Cancelling, false);
         return;
@@ -388,6 +469,7 @@ void RunController::End(bool isCancelled, bool isServerLost)
         return;
     }
     phase = Phase::Over;
+    watch.Stop();
     delete session;
     end.isCancelled = isCancelled && !open.isEmpty();
     end.isServerLost = isServerLost;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RunObserver.h"
+#include "ServerWatch.h"
 
 #include "job/values/JobValues.h"
 
@@ -20,7 +21,8 @@ class ZTBatchDocument;
 namespace BatchHost {
 
 /// One run of a job through the batch manager: starts the server, records the result of every input, asks questions,
-/// and resumes the run with a new server when one dies. Needs an instance of the manager.
+/// and resumes the run with a new server when one dies, ends without need, or no longer answers. Needs an instance of
+/// the manager.
 class RunController : public QObject
 {
     Q_OBJECT
@@ -45,7 +47,7 @@ public:
 
     void Start();
 
-    /// Asks the server to end the run. Ended() follows.
+    /// Asks the server to end the run. Ended() follows, even if the server does not answer.
     void Cancel();
 
     /// Kills the server. Emits Ended() before it returns.
@@ -76,7 +78,11 @@ private:
     void OnLog(const QString& text);
     void OnQuestion(BatchJob::PolicyKind kind);
     void OnSessionOver();
+    void OnSessionCancelled();
+    void OnServerQuiet();
+    void OnServerLost();
     void OnServerGone();
+    void SettleFromJournal();
     void Settle(const FileResult& settled);
     bool Count(const FileResult& result, int index = -1);
     QVector<QPair<int, FileResult>> JournaledResults() const;
@@ -89,7 +95,9 @@ private:
     const QVector<RunObserver*> observers;
     ZTBatchManager* const manager;
     QPointer<ZTBatchManager::ZTBatchSession> session;
-    QTimer sessionOver; ///< fires after the end of a session if its server still runs
+    ServerWatch watch;
+    bool isAskedForLife = false; ///< the server was asked whether it is still there, and has not answered yet
+    QTimer sessionOver;          ///< fires after the end of a session if its server still runs
     QElapsedTimer time;
     Phase phase = Phase::Idle;
     RunEnd end;

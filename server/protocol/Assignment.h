@@ -20,7 +20,9 @@ struct Assignment
 
     /// The file in the place of the result. Another one there means that the result is finished, reported or not.
     std::optional<BatchJob::FileIdentity> before;
-    bool isSecondTry = false; ///< a worker has ended before it began the task
+
+    /// A worker has ended, and it was not clear whether over this task. Now it gets a worker for itself.
+    bool isSecondTry = false;
 };
 
 } // namespace BatchProtocol

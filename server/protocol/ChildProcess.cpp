@@ -1,7 +1,9 @@
 #include "ChildProcess.h"
 
-#ifdef Q_OS_LINUX
+#ifdef Q_OS_UNIX
 #include <csignal>
+#endif
+#ifdef Q_OS_LINUX
 #include <pthread.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -80,5 +82,15 @@ ChildProcess::ChildProcess(QObject* parent)
 void ChildProcess::setupChildProcess() {}
 
 #endif
+
+void ChildProcess::Launch(const QString& program, const QStringList& arguments)
+{
+    start(program, arguments);
+#ifdef Q_OS_UNIX
+    // If the process was gone before Qt knew its number, the system's signal found nothing. At each such signal Qt
+    // looks at all processes that it knows.
+    std::raise(SIGCHLD);
+#endif
+}
 
 } // namespace BatchProtocol

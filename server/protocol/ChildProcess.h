@@ -19,6 +19,9 @@ class ChildProcess : public QProcess
 public:
     explicit ChildProcess(QObject* parent = nullptr);
 
+    /// Starts the process. QProcess misses the end of a process that is killed before its program runs; this does not.
+    void Launch(const QString& program, const QStringList& arguments);
+
 protected:
     void setupChildProcess() override;
 };

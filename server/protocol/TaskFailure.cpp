@@ -1,5 +1,7 @@
 #include "TaskFailure.h"
 
+#include "job/formats/FormatCatalog.h"
+
 #include <algorithm>
 #include <initializer_list>
 
@@ -84,6 +86,9 @@ Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& l
     case WorkerEnd::Hung:
         return ProcessingFailure(
             QStringLiteral("it takes longer than the limit of %1 seconds").arg(limits.pictureSeconds));
+    case WorkerEnd::Noisy:
+        return ProcessingFailure(
+            QStringLiteral("the worker wrote more than %1 MiB of messages").arg(mostErrorsOfTask >> 20));
     case WorkerEnd::Garbage:
         return ProcessingFailure(QStringLiteral("the worker sent an invalid answer"));
     default:
@@ -93,13 +98,18 @@ Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& l
 
 BatchJob::ProbeResult ProbeResultOf(const Report& report)
 {
-    return {report.captured, report.inputFormat, report.nearestFormat};
+    // A year of more digits would become a part of names.
+    const int year = report.captured.date().year();
+    const bool isYear = year >= 1 && year <= 9999;
+    return {isYear ? report.captured : QDateTime(), OneLine(report.inputFormat),
+            BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString()};
 }
 
 BatchJob::Trouble TroubleOf(const Report& failure)
 {
     const Report checked = CheckedFailure(failure);
-    return {checked.failure, checked.errorCode, checked.reason, checked.nearestFormat, true};
+    const bool isFormat = BatchJob::FindFormat(checked.nearestFormat) != nullptr;
+    return {checked.failure, checked.errorCode, checked.reason, isFormat ? checked.nearestFormat : QString(), true};
 }
 
 } // namespace BatchProtocol

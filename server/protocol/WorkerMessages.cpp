@@ -19,6 +19,24 @@ constexpr quint32 maximumReport = 1U << 20;
 // On the wire 0 is no failure, and the policies count from 1.
 constexpr int firstPolicy = 1;
 
+// More than any picture has. The count comes before the warnings, and Qt would take memory for all of them.
+constexpr quint32 mostWarnings = 1000;
+
+QDataStream& operator>>(QDataStream& stream, BatchJob::Warnings& warnings)
+{
+    quint32 count = 0;
+    stream >> count;
+    if (count > mostWarnings) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return stream;
+    }
+    warnings.resize(int(count));
+    for (BatchJob::Warning& warning : warnings) {
+        stream >> warning;
+    }
+    return stream;
+}
+
 QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
 {
     return stream << qint32(int(kind) + firstPolicy);
@@ -29,6 +47,27 @@ QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
     qint32 value = 0;
     stream >> value;
     kind = BatchJob::PolicyKind(qint64(value) - firstPolicy);
+    return stream;
+}
+
+/// On the wire a time has no zone: Qt looks for the file of a zone wherever its name leads.
+template<typename Time>
+struct LocalTime
+{
+    Time& time;
+};
+
+QDataStream& operator<<(QDataStream& stream, const LocalTime<const QDateTime>& local)
+{
+    return stream << local.time.date() << local.time.time();
+}
+
+QDataStream& operator>>(QDataStream& stream, const LocalTime<QDateTime>& local)
+{
+    QDate date;
+    QTime time;
+    stream >> date >> time;
+    local.time = QDateTime(date, time);
     return stream;
 }
 
@@ -46,8 +85,11 @@ auto Fields(Record& record)
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {
-        return std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
-                        record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
+        return std::tuple_cat(
+            std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
+                     record.nearestFormat, record.inputFormat),
+            std::make_tuple(LocalTime<std::remove_reference_t<decltype((record.captured))>>{record.captured}),
+            std::tie(record.outputBytes));
     }
 }
 
@@ -61,7 +103,7 @@ template<typename Record>
 std::optional<Record> Read(QDataStream& stream)
 {
     Record record;
-    std::apply([&stream](auto&... fields) { ((stream >> fields), ...); }, Fields(record));
+    std::apply([&stream](auto&&... fields) { ((stream >> fields), ...); }, Fields(record));
     return stream.status() == QDataStream::Ok && stream.atEnd() ? std::optional(record) : std::nullopt;
 }
 

@@ -31,6 +31,9 @@ constexpr qint32 workerIsReady = -1;
 /// The exit code of a worker that runs out of memory and cannot report it.
 constexpr int workerOutOfMemory = 10;
 
+/// What a worker may write to standard error for one task, in bytes. A worker that writes more is ended.
+constexpr qint64 mostErrorsOfTask = 16 << 20;
+
 /// The settings of all pictures of a run. A later job replaces the previous one.
 struct Job
 {

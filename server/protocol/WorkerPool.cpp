@@ -14,6 +14,14 @@ namespace {
 constexpr auto memoryInterval = 250ms;
 constexpr int tasksAhead = 2;
 
+/// Whether the worker can take a task, when none may have more than `most`.
+bool CanTake(const WorkerProcess& worker, int most)
+{
+    const QList<Assignment>& tasks = worker.Tasks();
+    const bool isForItself = !tasks.isEmpty() && tasks.last().isSecondTry;
+    return worker.IsReady() && tasks.size() < most && !isForItself;
+}
+
 } // namespace
 
 WorkerPool::WorkerPool(const QString& program, const ServerLimits& limits, QObject* parent)
@@ -44,16 +52,15 @@ void WorkerPool::Start()
 bool WorkerPool::HasRoom(int left) const
 {
     const int most = left > workers.size() ? tasksAhead : 1;
-    return std::any_of(workers.begin(), workers.end(), [most](const WorkerProcess* worker) {
-        return worker->IsReady() && worker->Tasks().size() < most;
-    });
+    return std::any_of(workers.begin(), workers.end(),
+                       [most](const WorkerProcess* worker) { return CanTake(*worker, most); });
 }
 
 void WorkerPool::Give(const Assignment& task)
 {
     WorkerProcess* freest = nullptr;
     for (WorkerProcess* worker : qAsConst(workers)) {
-        if (worker->IsReady() && (!freest || worker->Tasks().size() < freest->Tasks().size())) {
+        if (CanTake(*worker, tasksAhead) && (!freest || worker->Tasks().size() < freest->Tasks().size())) {
             freest = worker;
         }
     }
@@ -114,6 +121,9 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
 
 void WorkerPool::GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd reason, const QString& text)
 {
+    // A worker begins a task while it finishes the one before. Which of them it ended over is not known, as a picture
+    // that has taken it over may make it begin others.
+    const bool isUnclear = culprit > 0 && !tasks[culprit].isSecondTry;
     for (int i = 0; i < tasks.size(); ++i) {
         Assignment task = tasks[i];
         if (drops.contains(task.run)) {
@@ -122,14 +132,15 @@ void WorkerPool::GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd
         // A worker that ends between two tasks ended for another reason, or over the next task before it could report
         // its beginning. The next task gets a second try; if that ends the same way, it is blamed.
         const bool isNext = i == culprit + 1;
-        const bool isBlamed = i == culprit || (culprit < 0 && isNext && task.isSecondTry);
+        const bool isBlamed = (i == culprit && !isUnclear) || (culprit < 0 && isNext && task.isSecondTry);
         if (isBlamed && reason != WorkerEnd::Dropped) {
             if (i > 0) {
                 Q_EMIT Begun(task); // Emitted late, as earlier tasks were not reported yet.
             }
             Q_EMIT Lost(task, reason, text);
         } else {
-            task.isSecondTry = task.isSecondTry || (culprit < 0 && isNext && reason != WorkerEnd::Dropped);
+            const bool isSuspect = (culprit < 0 && isNext) || (isUnclear && i <= culprit);
+            task.isSecondTry = task.isSecondTry || (isSuspect && reason != WorkerEnd::Dropped);
             Q_EMIT Returned(task);
         }
     }

@@ -27,7 +27,10 @@ public:
     /// idle worker, instead of queueing behind another task.
     bool HasRoom(int left) const;
 
-    /// Hands a task to a worker. HasRoom() must be true.
+    /// Whether a worker can take a task that gets a worker for itself.
+    bool HasIdleWorker() const { return HasRoom(0); }
+
+    /// Hands a task to a worker. HasRoom() must be true, and HasIdleWorker() for a second try.
     void Give(const Assignment& task);
 
     /// Ends the workers that have tasks of `run`. Always followed by Dropped() when they are gone, never from inside

@@ -50,7 +50,7 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
     });
     clock.start(startTime);
     process.setProcessEnvironment(EnvironmentOfWorkers());
-    process.start(program, QStringList());
+    process.Launch(program, QStringList());
 }
 
 WorkerProcess::~WorkerProcess()
@@ -97,7 +97,11 @@ int WorkerProcess::Culprit() const
 
 void WorkerProcess::ReadReports()
 {
-    reader.Append(process.readAllStandardOutput());
+    const QByteArray bytes = process.readAllStandardOutput();
+    if (end) {
+        return;
+    }
+    reader.Append(bytes);
     const QPointer<WorkerProcess> self(this);
     while (self && !end) {
         const std::optional<FromWorker> message = reader.NextFromWorker();
@@ -133,6 +137,7 @@ void WorkerProcess::OnReport(const Report& report)
     }
     const Assignment task = tasks.takeFirst();
     --begun;
+    errorBytes = 0;
     if (tasks.isEmpty()) {
         clock.stop();
     } else {
@@ -157,8 +162,12 @@ void WorkerProcess::OnBeginning(qint32 number)
 
 void WorkerProcess::NoteErrors()
 {
-    lastErrors += process.readAllStandardError();
-    lastErrors = lastErrors.right(keptErrors);
+    const QByteArray bytes = process.readAllStandardError();
+    lastErrors = (lastErrors + bytes.right(keptErrors)).right(keptErrors);
+    errorBytes += bytes.size();
+    if (errorBytes > mostErrorsOfTask) {
+        End(WorkerEnd::Noisy);
+    }
 }
 
 void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)

@@ -18,6 +18,7 @@ enum class WorkerEnd {
     OutOfMemory, ///< reported by itself, or because it exceeded its limit
     Hung,        ///< a task exceeded its time limit
     Garbage,     ///< it sent an invalid answer
+    Noisy,       ///< it wrote too much to standard error
     Dropped      ///< its tasks are no longer wanted
 };
 
@@ -78,6 +79,7 @@ private:
     bool isReady = false;
     std::optional<WorkerEnd> end;
     QByteArray lastErrors;
+    qint64 errorBytes = 0; ///< since the last report
     QString exitText;
 };
 

@@ -76,7 +76,7 @@ JobReader::Job JobReader::Read(QString text, const std::function<bool()>& isCanc
 {
     ChildProcess reader;
     reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    reader.start(QCoreApplication::applicationFilePath(), {QLatin1String(argument)});
+    reader.Launch(QCoreApplication::applicationFilePath(), {QLatin1String(argument)});
     reader.write(text.toUtf8());
     text.clear();
     reader.closeWriteChannel();

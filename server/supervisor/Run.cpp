@@ -1,5 +1,6 @@
 #include "Run.h"
 
+#include "job/plan/CommandLog.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -78,6 +79,7 @@ void Run::StartInBackground(std::function<void(const BackgroundTask::Cancelled&)
         background->wait();
         background.reset();
         if (phase == Phase::Cancelling) {
+            plan = std::move(preparation->plan);
             pool.Drop(number);
         } else {
             (this->*next)();
@@ -175,6 +177,9 @@ bool Run::HandOut()
         return false;
     }
     if (!returned.isEmpty()) {
+        if (returned.first().isSecondTry && !pool.HasIdleWorker()) {
+            return false;
+        }
         Give(returned.takeFirst());
         return true;
     }
@@ -293,11 +298,31 @@ void Run::OnReported(const Assignment& task, const Report& report)
             plan.SetProbeFailure(task.file, TroubleOf(report));
         }
         FinishProbe();
-    } else if (report.failure == PolicyKind::None) {
+    } else if (report.failure != PolicyKind::None) {
+        HandleTrouble(task.file, TroubleOfReport(task.file, report));
+    } else if (IdentityOf(plan.Names().Output(task.file))) {
         FinishPicture(task.file, report);
     } else {
-        HandleTrouble(task.file, TroubleOf(report));
+        HandleTrouble(task.file, {PolicyKind::Processing,
+                                  ZTBatchMessage::ApplyAdjustmentError,
+                                  QStringLiteral("the worker reported a result that is not there"),
+                                  {},
+                                  true});
     }
+}
+
+/// Another program may take a name after it was planned, even a few times. A worker that says so for ever is lying.
+Trouble Run::TroubleOfReport(int file, const Report& report)
+{
+    constexpr int mostTakenNames = 20;
+    Trouble trouble = TroubleOf(report);
+    if (trouble.kind == PolicyKind::Naming && ++takenNames[file] > mostTakenNames) {
+        trouble.kind = PolicyKind::Output;
+        trouble.code = ZTBatchMessage::WriteOutputFormatError;
+        trouble.reason =
+            QStringLiteral("each of %1 names for the result was taken when it was to be written").arg(takenNames[file]);
+    }
+    return trouble;
 }
 
 void Run::OnLost(const Assignment& task, WorkerEnd reason, const QString& text)
@@ -588,7 +613,7 @@ void Run::Pause()
 void Run::Resume()
 {
     if (!isPaused || phase == Phase::Over || phase == Phase::Cancelling) {
-        host.Log(QStringLiteral("There is nothing to resume."));
+        host.Log(CommandLog::NotPaused());
         return;
     }
     isPaused = false;

@@ -83,6 +83,7 @@ private:
     void OnBroken(const QString& reason);
     void OnDropped();
 
+    BatchJob::Trouble TroubleOfReport(int file, const BatchProtocol::Report& report);
     void HandleTrouble(int file, const BatchJob::Trouble& trouble);
     void DecideWaiting();
     void Ask(const RunDecisions::FileTrouble& about);
@@ -127,6 +128,7 @@ private:
     QSet<int> inWork;
     bool isDeciding = false; ///< a loop over decisions is running; it also handles those that arise meanwhile
     QSet<QString> madeFolders;
+    QHash<int, int> takenNames; ///< how often a worker has found the name of a result taken
 
     const QString journalPath;
     std::unique_ptr<QLockFile> journalLock;

@@ -22,8 +22,13 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     }
     ZTBatchDocument withoutInputs;
     withoutInputs.Deserialize(job.settings);
+    const CheckedSettings checked = CheckSettings(withoutInputs);
+    if (!checked.IsAccepted()) {
+        refusal = checked.refusal; // A file that the settings name may have changed since the job was read.
+        return;
+    }
     settings = job.settings;
-    plan = RunPlan(OutputPlan(job.files, CheckSettings(withoutInputs).settings));
+    plan = RunPlan(OutputPlan(job.files, checked.settings));
     EnterEarlierResults();
     plan.ReadInputs(isCancelled);
 }

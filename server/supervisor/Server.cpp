@@ -1,12 +1,15 @@
 #include "Server.h"
 
 #include "HostLink.h"
+#include "PeerProcess.h"
 
+#include "job/plan/CommandLog.h"
 #include "job/settings/JobCheck.h"
 
 #include <QCoreApplication>
 #include <QLocalSocket>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace BatchProtocol;
@@ -22,6 +25,10 @@ constexpr auto hostTime = 30s;
 
 /// How long the server waits for its runs when it ends. A file system that does not answer may hold a run for ever.
 constexpr auto endTime = 10s;
+
+/// How many connections there may be. Each takes a thread and some of the files that a process may have open; when
+/// these are used up, Qt stops to listen.
+constexpr int mostPipes = 32;
 
 } // namespace
 
@@ -77,15 +84,50 @@ void Server::End()
 
 void Server::Accept(QLocalSocket* socket)
 {
+    if (pipes.size() >= mostPipes && !MakeRoom()) {
+        qWarning("A connection was refused: there are %d, each with a session.", mostPipes);
+        socket->abort();
+        socket->deleteLater();
+        return;
+    }
     hostTimeout.stop();
+    const qint64 process = PeerProcess(*socket);
     auto* const pipe = new ZTPipeSession(socket, nullptr);
     pipes.append(pipe);
+    processes.insert(pipe, process);
     connect(pipe, &ZTPipeSession::IncomingMessage, this,
             [this, pipe](const QString& name, const QByteArray& payload) { Handle(pipe, name, payload); });
     connect(pipe, &ZTPipeSession::SessionDown, this, [this, pipe] { LosePipe(pipe); });
     if (!pipe->IsConnected()) {
         LosePipe(pipe); // It was lost before the signal was connected.
     }
+}
+
+/// Ends the oldest connection without a session, of the process that has most connections. So a crowd of connections
+/// does not push out a host that has not begun its session yet. False when there is none.
+bool Server::MakeRoom()
+{
+    QHash<qint64, int> counts;
+    for (const qint64 process : qAsConst(processes)) {
+        ++counts[process];
+    }
+    ZTPipeSession* victim = nullptr;
+    for (ZTPipeSession* pipe : qAsConst(pipes)) {
+        const auto countOf = [&](ZTPipeSession* of) { return counts.value(processes.value(of)); };
+        if (!HasSession(pipe) && (!victim || countOf(pipe) > countOf(victim))) {
+            victim = pipe;
+        }
+    }
+    if (victim) {
+        LosePipe(victim);
+    }
+    return victim != nullptr;
+}
+
+bool Server::HasSession(ZTPipeSession* pipe) const
+{
+    return std::any_of(sessions.begin(), sessions.end(),
+                       [pipe](const Session& session) { return session.pipe == pipe; });
 }
 
 void Server::Handle(ZTPipeSession* pipe, const QString& name, const QByteArray& payload)
@@ -134,6 +176,9 @@ void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const
         CreateSession(pipe, id);
         return;
     }
+    if (message == ZTBatchMessage::MsgCloseSession && !sessions.contains(id)) {
+        return; // It ended with an earlier connection of its host.
+    }
     Session* const session = SessionOf(pipe, id, message);
     if (!session) {
         return;
@@ -141,7 +186,7 @@ void Server::Command(ZTPipeSession* pipe, ZTBatchMessage::Message message, const
     if (message == ZTBatchMessage::MsgCloseSession) {
         CloseSession(id);
     } else if (!session->run) {
-        HostLink(pipe, id).Log(QStringLiteral("No run is active: the command is ignored."));
+        HostLink(pipe, id).Log(BatchJob::CommandLog::NoRun());
     } else if (message == ZTBatchMessage::MsgPause) {
         session->run->Pause();
     } else if (message == ZTBatchMessage::MsgResume) {
@@ -237,6 +282,7 @@ void Server::LosePipe(ZTPipeSession* pipe)
     if (!pipes.removeOne(pipe)) {
         return;
     }
+    processes.remove(pipe);
     pipe->disconnect(this);
     pipe->deleteLater();
     bool hadSession = false;

@@ -47,6 +47,8 @@ private:
     };
 
     void Accept(QLocalSocket* socket);
+    bool MakeRoom();
+    bool HasSession(ZTPipeSession* pipe) const;
     void Handle(ZTPipeSession* pipe, const QString& name, const QByteArray& payload);
     void CreateSession(ZTPipeSession* pipe, const QString& id);
     void CloseSession(const QString& id);
@@ -64,7 +66,8 @@ private:
     const BatchProtocol::ServerLimits limits;
     Listener listener;
     BatchProtocol::WorkerPool pool;
-    QVector<ZTPipeSession*> pipes;
+    QVector<ZTPipeSession*> pipes;           ///< the oldest first
+    QHash<ZTPipeSession*, qint64> processes; ///< those at the other ends of the pipes
     QHash<QString, Session> sessions;
     QVector<Run*> runs; ///< the first one hands out the next task
     quint64 lastRun = 0;

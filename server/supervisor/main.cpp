@@ -2,18 +2,34 @@
 #include "ProcessSetup.h"
 #include "Server.h"
 
+#include "job/values/VisibleText.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/protocol/WorkerProgram.h"
 
 #include <QCoreApplication>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace BatchSupervisor;
+
+namespace {
+
+/// Standard error is the host's terminal, and a line may quote a worker.
+void WriteLine(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    std::fprintf(stderr, "%s\n", BatchJob::VisibleText(text).toUtf8().constData());
+    if (type == QtFatalMsg) {
+        std::abort();
+    }
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     ProcessSetup::Prepare();
+    qInstallMessageHandler(&WriteLine);
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.size() != 1 || arguments[0].isEmpty()) {

@@ -116,8 +116,7 @@ void ZTBatchManager::Private::StartServerProcess()
     serverProcess = new ZTServerProcess(manager);
     connect(serverProcess, SIGNAL(error(QProcess::ProcessError)), manager, SLOT(OnServerError(QProcess::ProcessError)));
     connect(serverProcess, SIGNAL(finished(int)), manager, SLOT(OnServerFinished(int)));
-    serverProcess->start(QCoreApplication::applicationDirPath() + QDir::separator() + serverBaseName, {pipeName},
-                         QIODevice::ReadWrite);
+    serverProcess->Launch(QCoreApplication::applicationDirPath() + QDir::separator() + serverBaseName, {pipeName});
 }
 
 void ZTBatchManager::Private::ConnectPipe()

@@ -1,5 +1,9 @@
 #include "ZTServerProcess_p.h"
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#endif
+
 /// Delays the deletion of a released process until a call of it has returned. Otherwise, if the call was not made from
 /// an event loop, the first event loop that a slot runs would delete the process.
 class ZTServerProcess::Call
@@ -46,6 +50,16 @@ ZTServerProcess::~ZTServerProcess()
 bool ZTServerProcess::HasEnded() const
 {
     return state() == QProcess::NotRunning || exitStatus() == QProcess::CrashExit;
+}
+
+void ZTServerProcess::Launch(const QString& program, const QStringList& arguments)
+{
+    start(program, arguments, QIODevice::ReadWrite);
+#ifdef Q_OS_UNIX
+    // If the process was gone before Qt knew its number, the system's signal found nothing. At each such signal Qt
+    // looks at all processes that it knows.
+    std::raise(SIGCHLD);
+#endif
 }
 
 void ZTServerProcess::Close()

@@ -15,6 +15,9 @@ public:
     /// is still Running: a wait for such a process would time out.
     bool HasEnded() const;
 
+    /// Starts the process. QProcess misses the end of a process that is killed before its program runs; this does not.
+    void Launch(const QString& program, const QStringList& arguments);
+
     /// Kills the process and returns when it has ended.
     void Close();
 

@@ -52,9 +52,10 @@ ServerRun::ServerRun(Worker worker)
 {
     Place(BuiltProgram(QStringLiteral("VelkoraBatchProcessing")), Path(serverFile));
     if (worker != Worker::Missing) {
-        Place(BuiltProgram(worker == Worker::Real ? QStringLiteral("VelkoraBatchWorker")
-                                                  : QStringLiteral("standinworker")),
-              Path(workerFile));
+        const QString name = worker == Worker::Real      ? QStringLiteral("VelkoraBatchWorker")
+                             : worker == Worker::StandIn ? QStringLiteral("standinworker")
+                                                         : QStringLiteral("lyingworker");
+        Place(BuiltProgram(name), Path(workerFile));
     }
     environment.insert(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("2"));
     connect(&server, &QProcess::readyReadStandardError, this,

@@ -25,6 +25,7 @@ public:
     enum class Worker {
         Real,
         StandIn, ///< see tests/helpers/standinworker
+        Lying,   ///< see tests/helpers/lyingworker
         Missing
     };
 

@@ -1,7 +1,7 @@
 #include "JobListing.h"
 
 #include "hosts/cli/options/JobOptions.h"
-#include "hosts/cli/terminal/Console.h"
+#include "job/values/VisibleText.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -44,7 +44,7 @@ QString InputListing(const ZTBatchInputModel& model)
     while (!rows.isEmpty()) {
         const Row row = rows.takeLast();
         const BatchNodeData& data = *model.getNodeData(row.index);
-        text += QString(2 * row.depth, QLatin1Char(' ')) + Visible(NameOf(data, row.depth == 1));
+        text += QString(2 * row.depth, QLatin1Char(' ')) + BatchJob::VisibleText(NameOf(data, row.depth == 1));
         if (data.type == Folder) {
             text += QStringLiteral("/ (%1)").arg(data.fileNodesCount);
             addRows(row.index, row.depth + 1);
@@ -66,7 +66,7 @@ QString JobListing(const ZTBatchDocument& job)
                 group = option.info.group;
                 text += QLatin1Char('\n') + group + QStringLiteral(":\n");
             }
-            text += QStringLiteral("  %1 %2\n").arg(option.info.name.mid(2), -20).arg(Visible(value));
+            text += QStringLiteral("  %1 %2\n").arg(option.info.name.mid(2), -20).arg(BatchJob::VisibleText(value));
         }
     }
     return text;

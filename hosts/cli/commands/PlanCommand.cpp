@@ -8,6 +8,7 @@
 #include "hosts/common/JobRequirements.h"
 #include "job/plan/RunForecast.h"
 #include "job/plan/WarningLine.h"
+#include "job/values/VisibleText.h"
 #include "server/protocol/TaskFailure.h"
 
 #include "ZTBatchDocument.h"
@@ -100,7 +101,7 @@ QString Line(const RunForecast& forecast, int index)
     if (prospect.decision) {
         line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), prospect.trouble.reason);
     }
-    return Visible(line) + QLatin1Char('\n');
+    return VisibleText(line) + QLatin1Char('\n');
 }
 
 QString JsonLine(const RunForecast& forecast, int index)
@@ -112,7 +113,7 @@ QString JsonLine(const RunForecast& forecast, int index)
     if (prospect.decision) {
         object.insert(QStringLiteral("reason"), prospect.trouble.reason);
     }
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n');
+    return QString::fromUtf8(VisibleJson(QJsonDocument(object).toJson(QJsonDocument::Compact))) + QLatin1Char('\n');
 }
 
 } // namespace

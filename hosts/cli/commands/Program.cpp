@@ -35,7 +35,7 @@ bool isVerbose = false;
 void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtDebugMsg || isVerbose) {
-        WriteError(text + QLatin1Char('\n'));
+        WriteErrorLine(text);
     }
     if (type == QtFatalMsg) {
         std::abort();

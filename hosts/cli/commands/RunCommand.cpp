@@ -85,8 +85,10 @@ ExitCode RunJob(const ParsedArguments& arguments)
     const QString savedJob = TakeSavedJob(inputs);
     ZTBatchDocument job;
     const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
-    JournaledJob journaled = JournaledJobOf(job, arguments);
 
+    // From the first lock and folder to the last.
+    InterruptWatcher interrupts;
+    JournaledJob journaled = JournaledJobOf(job, arguments);
     RunEnd end;
     {
         JobRun run(settingsFolder);
@@ -97,13 +99,15 @@ ExitCode RunJob(const ParsedArguments& arguments)
         const BatchJob::PolicyValues policies = PoliciesOfRun(arguments, journaled, settingsFolder);
         const auto controller = run.Prepare(
             job, journaled, {policies, arguments.Has(QStringLiteral("--strict")), losses.leftOut}, output.Observers());
-        end = RunInteractively(*controller, output.Display());
+        end = RunInteractively(*controller, output.Display(), interrupts);
     }
     journaled.End(end);
     TellHowToResume(journaled, end, output.IsQuiet());
     TellTroubleOfServer(end);
     const bool isReportMissing = !output.WriteReportError();
-    return CodeOf(end.Outcome(), losses.problems, isReportMissing);
+    const ExitCode code = CodeOf(end.Outcome(), losses.problems, isReportMissing);
+    interrupts.Finish(code);
+    return code;
 }
 
 } // namespace BatchCli

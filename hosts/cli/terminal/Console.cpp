@@ -1,11 +1,15 @@
 #include "Console.h"
 
+#include "job/values/VisibleText.h"
+
 #include <QVector>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+
+using namespace BatchJob;
 
 namespace BatchCli {
 
@@ -87,22 +91,12 @@ void WriteError(const QString& text)
 
 void WriteErrorLine(const QString& text)
 {
-    WriteError(Visible(text) + QLatin1Char('\n'));
+    WriteError(VisibleText(text) + QLatin1Char('\n'));
 }
 
-QString Visible(const QString& text)
+void WriteJson(const QByteArray& json)
 {
-    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
-    if (std::none_of(text.begin(), text.end(), isControl)) {
-        return text;
-    }
-    QString visible;
-    for (const QChar character : text) {
-        visible += isControl(character)
-                       ? QStringLiteral("\\x%1").arg(uint(character.unicode()), 2, 16, QLatin1Char('0'))
-                       : QString(character);
-    }
-    return visible;
+    WriteOut(QString::fromUtf8(VisibleJson(json)));
 }
 
 int Terminal::WidthOf(const QString& text)
@@ -118,7 +112,7 @@ QString Terminal::Shortened(const QString& text, int columns)
 {
     QVector<uint> characters = text.toUcs4();
     for (uint& character : characters) {
-        if (QChar::category(character) == QChar::Other_Control) {
+        if (IsControl(character)) {
             character = '?';
         }
     }

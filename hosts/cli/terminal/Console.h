@@ -14,11 +14,11 @@ QString OutputError();
 /// Writes to standard error: problems, progress, questions. Failures are ignored.
 void WriteError(const QString& text);
 
-/// Writes one line to standard error, see Visible().
+/// Writes one line to standard error, see BatchJob::VisibleText().
 void WriteErrorLine(const QString& text);
 
-/// `text` with control characters as \xNN, so that no file name can break a line or control the terminal.
-QString Visible(const QString& text);
+/// Writes JSON to standard output, see BatchJob::VisibleJson().
+void WriteJson(const QByteArray& json);
 
 /// What depends on the terminal.
 namespace Terminal {

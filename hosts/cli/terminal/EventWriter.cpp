@@ -25,7 +25,7 @@ QString Key(const char* name)
 void Write(const char* event, QJsonObject object)
 {
     object.insert(Key("event"), Key(event));
-    WriteOut(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + QLatin1Char('\n'));
+    WriteJson(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
 /// The warnings about a picture, as events of their own. `isEarlier` as in OnEarlierResult().

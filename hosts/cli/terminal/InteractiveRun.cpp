@@ -1,6 +1,5 @@
 #include "InteractiveRun.h"
 
-#include "InterruptWatcher.h"
 #include "Questioner.h"
 
 #include <QEventLoop>
@@ -9,13 +8,12 @@ using namespace BatchHost;
 
 namespace BatchCli {
 
-RunEnd RunInteractively(RunController& controller, RunDisplay& display)
+RunEnd RunInteractively(RunController& controller, RunDisplay& display, InterruptWatcher& interrupts)
 {
     RunEnd result;
     bool isOver = false;
     QEventLoop loop;
     Questioner questioner;
-    InterruptWatcher interrupts;
     bool isInterrupted = false;
     const auto stop = [&] {
         display.Resume();

@@ -1,7 +1,5 @@
 #include "InterruptWatcher.h"
 
-#include "ExitCode.h"
-
 #include <QSocketNotifier>
 
 #include <array>
@@ -13,7 +11,8 @@ namespace BatchCli {
 
 namespace {
 
-constexpr std::array watched{SIGINT, SIGTERM, SIGHUP};
+constexpr std::array watched{SIGINT, SIGTERM, SIGHUP, SIGALRM};
+std::array<struct sigaction, watched.size()> actionsBefore{};
 
 // A signal handler may do little more than write to a pipe, which the event loop reads.
 std::array<int, 2> channel{-1, -1};
@@ -22,12 +21,19 @@ std::array<int, 2> channel{-1, -1};
 constexpr int patience = 3;
 volatile std::sig_atomic_t unanswered = 0;
 
-void Handle(int)
+/// The same after one interrupt and this time. A run is cancelled, or its server killed, within half of it.
+constexpr unsigned lastMoment = 60; // s
+
+volatile std::sig_atomic_t exitCode = int(ExitCode::Cancelled);
+volatile std::sig_atomic_t isOver = 0;
+
+void Handle(int number)
 {
     unanswered = unanswered + 1;
-    if (unanswered >= patience) {
-        _exit(int(ExitCode::Cancelled));
+    if (isOver != 0 || number == SIGALRM || unanswered >= patience) {
+        _exit(exitCode);
     }
+    alarm(lastMoment);
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = write(channel[1], &byte, 1);
 }
@@ -54,24 +60,34 @@ InterruptWatcher::InterruptWatcher(QObject* parent)
     struct sigaction action = {};
     action.sa_handler = &Handle;
     action.sa_flags = SA_RESTART;
-    for (const int number : watched) {
-        struct sigaction before = {};
-        sigaction(number, nullptr, &before);
-        if (before.sa_handler != SIG_IGN) { // nohup has it ignored.
-            sigaction(number, &action, nullptr);
+    for (std::size_t i = 0; i < watched.size(); ++i) {
+        sigaction(watched[i], nullptr, &actionsBefore[i]);
+        if (actionsBefore[i].sa_handler != SIG_IGN || watched[i] == SIGALRM) { // nohup has SIGHUP ignored.
+            sigaction(watched[i], &action, nullptr);
         }
     }
 }
 
 InterruptWatcher::~InterruptWatcher()
 {
-    for (const int number : watched) {
-        std::signal(number, SIG_DFL);
+    if (isFinished || channel[0] < 0) {
+        return;
+    }
+    alarm(0);
+    for (std::size_t i = 0; i < watched.size(); ++i) {
+        sigaction(watched[i], &actionsBefore[i], nullptr);
     }
     for (int& end : channel) {
         close(end);
         end = -1;
     }
+}
+
+void InterruptWatcher::Finish(ExitCode code)
+{
+    isFinished = true;
+    exitCode = int(code);
+    isOver = 1;
 }
 
 } // namespace BatchCli

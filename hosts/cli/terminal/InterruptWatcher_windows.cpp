@@ -1,7 +1,5 @@
 #include "InterruptWatcher.h"
 
-#include "ExitCode.h"
-
 #include <atomic>
 #include <qt_windows.h>
 
@@ -9,21 +7,24 @@ namespace BatchCli {
 
 namespace {
 
-InterruptWatcher* watcher = nullptr;
+std::atomic<InterruptWatcher*> watcher{nullptr};
 
 /// After so many interrupts without an answer the event loop must be stuck: the process ends itself.
 constexpr int patience = 3;
 std::atomic<int> unanswered{0};
 
+std::atomic<int> exitCode{int(ExitCode::Cancelled)};
+std::atomic<bool> isOver{false};
+
 /// The system calls this on a thread of its own.
 BOOL WINAPI Handle(DWORD event)
 {
-    if (++unanswered >= patience) {
-        ExitProcess(UINT(ExitCode::Cancelled));
+    if (isOver || ++unanswered >= patience) {
+        ExitProcess(UINT(exitCode));
     }
     const auto tell = [] {
         unanswered = 0;
-        Q_EMIT watcher->Interrupted();
+        Q_EMIT watcher.load()->Interrupted();
     };
     QMetaObject::invokeMethod(watcher, tell, Qt::QueuedConnection);
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) {
@@ -45,8 +46,17 @@ InterruptWatcher::InterruptWatcher(QObject* parent)
 
 InterruptWatcher::~InterruptWatcher()
 {
-    SetConsoleCtrlHandler(&Handle, FALSE);
-    watcher = nullptr;
+    if (!isFinished) {
+        SetConsoleCtrlHandler(&Handle, FALSE);
+        watcher = nullptr;
+    }
+}
+
+void InterruptWatcher::Finish(ExitCode code)
+{
+    isFinished = true;
+    exitCode = int(code);
+    isOver = true;
 }
 
 } // namespace BatchCli

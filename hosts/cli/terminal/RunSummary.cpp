@@ -3,6 +3,8 @@
 #include "Console.h"
 #include "ProgressText.h"
 
+#include "job/values/VisibleText.h"
+
 #include "ZTBatchMessage.h"
 
 #include <QFileInfo>
@@ -100,7 +102,7 @@ void RunSummary::OnEnd(const RunEnd& end)
     const double rate = end.seconds > 0 ? end.written / end.seconds : 0;
     WriteError(Row(QStringLiteral("Written"), end.written,
                    QStringLiteral("  to %1, in %2 (%3 a second)")
-                       .arg(end.outputFolder, TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
+                       .arg(VisibleText(end.outputFolder), TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
                    Colour::Green));
     if (!gone.isEmpty()) {
         WriteErrorLine(QStringLiteral("    %1 of them, written before the interruption, %2 missing now: %3")

@@ -36,6 +36,8 @@ void PrepareProcess()
 {
     FillStandardChannels();
     BatchProtocol::EndForkedCopiesWithThisProcess();
+    // A file that grows beyond the system's limit is a failed write, such as one to a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     // Qt opens files in the locale's encoding. In the C locale of scripts and containers, neither this process nor the
     // server could open a file whose name has an accent.
     std::setlocale(LC_ALL, "");

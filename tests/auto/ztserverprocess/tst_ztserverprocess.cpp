@@ -6,6 +6,13 @@
 #include <cstdio>
 #include <string>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <pthread.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 constexpr int megabyte = 1 << 20;
@@ -28,9 +35,31 @@ int RunHost(int& argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     ZTServerProcess server(nullptr);
-    server.start(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
+    server.Launch(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
     return server.WaitForEnd(30'000) ? 0 : 1;
 }
+
+#ifdef Q_OS_UNIX
+bool isEarlyEndWanted = false;
+
+/// Kills forked copies of this process at once, and delays their parent until they are gone.
+void KillForkedCopies()
+{
+    pthread_atfork(
+        nullptr,
+        [] {
+            siginfo_t information = {};
+            if (isEarlyEndWanted) {
+                ::waitid(P_ALL, 0, &information, WEXITED | WNOWAIT);
+            }
+        },
+        [] {
+            if (isEarlyEndWanted) {
+                ::kill(::getpid(), SIGKILL);
+            }
+        });
+}
+#endif
 
 } // namespace
 
@@ -42,7 +71,7 @@ private Q_SLOTS:
     void standardOutputIsNotKept()
     {
         ZTServerProcess server(nullptr);
-        server.start(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
+        server.Launch(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
         QVERIFY(server.WaitForEnd(30'000));
         QCOMPARE(server.exitCode(), 0);
         QCOMPARE(server.readAllStandardOutput(), QByteArray());
@@ -57,6 +86,19 @@ private Q_SLOTS:
         QCOMPARE(host.readAllStandardOutput(), QByteArray());
         QCOMPARE(host.readAllStandardError().trimmed(), QByteArray("a word from the server"));
     }
+
+#ifdef Q_OS_UNIX
+    void endsBeforeTheProgramRuns()
+    {
+        KillForkedCopies();
+        ZTServerProcess server(nullptr);
+        isEarlyEndWanted = true;
+        server.Launch(QCoreApplication::applicationFilePath(), {QStringLiteral("chatter")});
+        isEarlyEndWanted = false;
+        QTRY_COMPARE_WITH_TIMEOUT(server.state(), QProcess::NotRunning, 10'000);
+        QCOMPARE(server.exitStatus(), QProcess::CrashExit);
+    }
+#endif
 };
 
 int main(int argc, char** argv)

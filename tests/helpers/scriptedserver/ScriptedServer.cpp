@@ -136,11 +136,11 @@ void ScriptedServer::OnBytes(QLocalSocket* socket, int number)
     QString name;
     QByteArray payload;
     while (Wire::TakeFrame(stream, name, payload)) {
-        OnMessage(name, payload);
+        OnMessage(name, payload, number);
     }
 }
 
-void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
+void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload, int number)
 {
     Note(QStringLiteral("message ") + name);
     if (name == QLatin1String("0")) {
@@ -151,6 +151,7 @@ void ScriptedServer::OnMessage(const QString& name, const QByteArray& payload)
         EndAtOnce(0);
     }
     Trigger(name);
+    Trigger(QStringLiteral("%1@%2").arg(name).arg(number));
 }
 
 void ScriptedServer::Write(const QByteArray& bytes)

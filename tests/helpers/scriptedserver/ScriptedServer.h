@@ -44,7 +44,7 @@ private:
     void Open();
     void OnConnection();
     void OnBytes(QLocalSocket* socket, int number);
-    void OnMessage(const QString& name, const QByteArray& payload);
+    void OnMessage(const QString& name, const QByteArray& payload, int number);
     void Write(const QByteArray& bytes);
     void Flood(int count);
     void Note(const QString& event);

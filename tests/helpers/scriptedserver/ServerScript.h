@@ -8,7 +8,8 @@
 ///
 ///     trigger: action; action; ...
 ///
-/// where the trigger is "start", "connect" or the name of a received message.
+/// where the trigger is "start", "connect", the name of a received message, or, on the n-th connection only, that name
+/// with "@n".
 class ServerScript
 {
 public:

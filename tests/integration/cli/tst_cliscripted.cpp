@@ -22,13 +22,16 @@ private Q_SLOTS:
     void serversThatEnd_data();
     void serversThatEnd();
     void serverThatEndsFirstThing();
+    void connectionsThatAreLost();
+    void controlsDoNotReachTheTerminal();
+    void serversThatEndByThemselves();
     void noServer();
     void secondRunAtATime();
 
 private:
     QString Field(const QString& name) const { return QStringLiteral("s:") + Encoded(stage->Path(name)); }
     static QString Encoded(const QString& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); }
-    QStringList ThreeResults() const;
+    QStringList ThreeResults(const QString& trigger = QStringLiteral("5")) const;
 
     std::unique_ptr<CliStage> stage;
 };
@@ -42,7 +45,7 @@ void tst_CliScripted::init()
 }
 
 /// The first is written, the second cannot be read, the name of the third is taken.
-QStringList tst_CliScripted::ThreeResults() const
+QStringList tst_CliScripted::ThreeResults(const QString& trigger) const
 {
     const QString first = Field(QStringLiteral("photos/1.jpg"));
     const QString second = Field(QStringLiteral("photos/2.jpg"));
@@ -63,7 +66,7 @@ QStringList tst_CliScripted::ThreeResults() const
         QStringLiteral("send 7 id i:3"),
         QStringLiteral("send 6 id"),
     };
-    return {QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; "))};
+    return {QStringLiteral("start: open"), QStringLiteral("%1: %2").arg(trigger, actions.join(QStringLiteral("; ")))};
 }
 
 void tst_CliScripted::resultsAreTold()
@@ -180,6 +183,60 @@ void tst_CliScripted::serverThatEndsFirstThing()
     QCOMPARE(run.err.count("the server ended unexpectedly"), 1);
     QVERIFY2(run.err.contains("Written             1"), run.err.constData());
     QVERIFY(stage->Names(QStringLiteral("out")).filter(QStringLiteral(".journal")).isEmpty());
+}
+
+// The host may connect to a killed server that its last child keeps alive for a moment. Its order is lost with that
+// connection, and the next one leads to the new server.
+void tst_CliScripted::connectionsThatAreLost()
+{
+    stage->Play(ThreeResults(QStringLiteral("5@2")) << QStringLiteral("5@1: disconnect"));
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QVERIFY2(run.err.contains("Written             1"), run.err.constData());
+}
+
+// Whatever names and reasons hold: standard error shows codes, and JSON writes them as JSON can.
+void tst_CliScripted::controlsDoNotReachTheTerminal()
+{
+    const QString controls = QStringLiteral("\u202Egpj.\u2066\u2028\u061C\u200F\u009B31m");
+    const QString name = QStringLiteral("photos/%1.jpg").arg(controls);
+    stage->Write(name, "a picture");
+    const QString line = QStringLiteral("%1: it %2 ends; skipped (input policy)").arg(stage->Path(name), controls);
+    stage->Play({QStringLiteral("start: open"),
+                 QStringLiteral("5: send 8 id %1; send 10 id s:%2; send 15 id %1 s:x i:1 i:2; send 6 id")
+                     .arg(Field(name), Encoded(line))});
+    const QString shown = QStringLiteral("\\u202egpj.\\u2066\\u2028\\u061c\\u200f\\x9b31m");
+    const QString out = QStringLiteral("out\u202E");
+    for (const char* options : {"", " --verbose", " --json"}) {
+        const CliRun run = stage->Run(QStringLiteral("run photos -o %1%2").arg(out, QLatin1String(options)));
+        QVERIFY2(run.Err().contains(QStringLiteral("it %1 ends").arg(shown)), run.err.constData());
+        QVERIFY2(run.Err().contains(QStringLiteral("photos/%1.jpg").arg(shown)), run.err.constData());
+        const QString all = run.Err() + QString::fromUtf8(run.out);
+        for (const QChar control : QStringLiteral("\u202E\u2066\u2028\u061C\u200F\u009B")) {
+            QVERIFY2(!all.contains(control), qPrintable(all));
+        }
+    }
+    const CliRun plan = stage->Run(QStringLiteral("plan photos -o x --format png --json -q"));
+    QVERIFY2(plan.out.contains("\\u202egpj.") && !plan.out.contains("\u202E"), plan.out.constData());
+    bool isNamed = false;
+    for (const QByteArray& one : plan.out.trimmed().split('\n')) {
+        const QJsonObject object = QJsonDocument::fromJson(one).object();
+        isNamed = isNamed || object.value(QStringLiteral("input")).toString() == stage->Path(name);
+    }
+    QVERIFY(isNamed);
+}
+
+// Nobody cancelled the run: somebody has asked the server to end.
+void tst_CliScripted::serversThatEndByThemselves()
+{
+    stage->PlayNext(ThreeResults());
+    stage->Play(
+        {QStringLiteral("start: open"),
+         QStringLiteral("5: next; send 8 id %1; send 14 id; exit 0").arg(Field(QStringLiteral("photos/1.jpg")))});
+    const CliRun run = stage->Run(QStringLiteral("run photos -o out"));
+    QVERIFY2(run.exitCode == 1, run.err.constData());
+    QCOMPARE(run.err.count("velkora-batch: the server ended unexpectedly; a new one continues.\n"), 1);
+    QVERIFY2(run.err.contains("Written             1") && !run.err.contains("Not processed"), run.err.constData());
 }
 
 void tst_CliScripted::noServer()

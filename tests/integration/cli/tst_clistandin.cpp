@@ -7,6 +7,10 @@
 #include <QProcess>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#endif
+
 /// Whole runs of the command with the real server, whose workers copy files instead of making pictures.
 class tst_CliStandIn : public QObject
 {
@@ -29,6 +33,9 @@ private Q_SLOTS:
     void planFailsWithoutWorkers();
     void killedRunsGoOn();
     void killedServersAreReplaced();
+#ifdef Q_OS_UNIX
+    void terminatedServersAreReplaced();
+#endif
     void filesThatServersDieOverAreLeftOut();
 
 private:
@@ -299,6 +306,28 @@ void tst_CliStandIn::killedServersAreReplaced()
     QCOMPARE(stage->Names(QStringLiteral("out")),
              QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
 }
+
+#ifdef Q_OS_UNIX
+void tst_CliStandIn::terminatedServersAreReplaced()
+{
+    const QString gate = stage->Path(QStringLiteral("gate"));
+    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
+    QProcess process;
+    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
+    QVERIFY2(WaitForOutput(process, "\"begin\"", 2), output.constData());
+    const QList<qint64> servers = ChildrenOf(process.processId());
+    QCOMPARE(servers.size(), 1);
+    QCOMPARE(::kill(pid_t(servers.first()), SIGTERM), 0);
+    QVERIFY2(WaitForOutput(process, "\"server-lost\""), output.constData());
+    stage->Write(QStringLiteral("gate"), {});
+    QVERIFY(process.waitForFinished(120'000));
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(process.exitCode() == 0, errors.constData());
+    QVERIFY2(errors.contains("the server ended unexpectedly; a new one continues.\n"), errors.constData());
+    QCOMPARE(stage->Names(QStringLiteral("out")),
+             QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
+}
+#endif
 
 void tst_CliStandIn::filesThatServersDieOverAreLeftOut()
 {

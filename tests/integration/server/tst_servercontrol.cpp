@@ -14,6 +14,7 @@ class tst_ServerControl : public QObject
 private Q_SLOTS:
     void pauseAndResume();
     void pauseWhileLookingAtPictures();
+    void cancelledWhileNamesAreMade();
     void cancelled_data();
     void cancelled();
 };
@@ -62,6 +63,24 @@ void tst_ServerControl::pauseWhileLookingAtPictures()
     run.Send<ZTBatchMessage::MsgResume>();
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
     QCOMPARE(run.Names(QStringLiteral("out")), QStringList{QStringLiteral("20240501a.jpg")});
+}
+
+// The plan is elsewhere then. The totals count its files nevertheless.
+void tst_ServerControl::cancelledWhileNamesAreMade()
+{
+    ServerRun run(ServerRun::Worker::StandIn);
+    QStringList inputs;
+    for (int i = 0; i < 50'000; ++i) {
+        inputs.append(run.Path(QStringLiteral("in/%1.jpg").arg(i)));
+    }
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs));
+    QVERIFY2(run.WaitFor(QStringLiteral("range 0 50000")), qPrintable(run.Report()));
+    run.Send<ZTBatchMessage::MsgCancel>();
+    QVERIFY2(run.WaitFor(QStringLiteral("cancelled")), qPrintable(run.Report()));
+    const QStringList totals = run.Lines(QStringLiteral("log Cancelled: "));
+    QCOMPARE(totals.size(), 1);
+    QVERIFY2(totals.first().endsWith(QStringLiteral(" not processed.")), qPrintable(totals.first()));
 }
 
 void tst_ServerControl::cancelled_data()

@@ -6,6 +6,7 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <pwd.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void unknownSessions_data();
     void unknownSessions();
     void repeatedCommands();
+    void manyConnections_data();
+    void manyConnections();
     void aSessionHasOneRun();
     void closedSessionsCancelTheirRun();
     void foreignSessionsAreUnknown();
@@ -48,6 +51,8 @@ private Q_SLOTS:
 
 namespace {
 
+const QString pipeName = QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
+
 QByteArray SessionPayload(const QString& id)
 {
     return ZTBatchPayload::Pack(ZTBatchPayload::Session{id});
@@ -55,8 +60,37 @@ QByteArray SessionPayload(const QString& id)
 
 QString PipePath(const ServerRun& run)
 {
-    return run.Path(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    return run.Path(pipeName);
 }
+
+/// How many files a process may have open, for this process and those that it starts.
+class FileLimit
+{
+public:
+    explicit FileLimit(unsigned count)
+    {
+#ifdef Q_OS_UNIX
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit now{count, before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &now);
+#else
+        Q_UNUSED(count)
+#endif
+    }
+    ~FileLimit()
+    {
+#ifdef Q_OS_UNIX
+        ::setrlimit(RLIMIT_NOFILE, &before);
+#endif
+    }
+
+private:
+    Q_DISABLE_COPY(FileLimit)
+
+#ifdef Q_OS_UNIX
+    rlimit before = {};
+#endif
+};
 
 /// Whether the server still runs a job.
 bool Works(ServerRun& run)
@@ -107,7 +141,7 @@ void tst_ServerProtocol::commandsWithoutARun()
 void tst_ServerProtocol::unknownSessions_data()
 {
     QTest::addColumn<int>("message");
-    for (int message = ZTBatchMessage::MsgCloseSession; message <= ZTBatchMessage::MsgProcess; ++message) {
+    for (int message = ZTBatchMessage::MsgPause; message <= ZTBatchMessage::MsgProcess; ++message) {
         QTest::addRow("message %d", message) << message;
     }
     QTest::addRow("message 18") << int(ZTBatchMessage::MsgProcessingQuestion);
@@ -128,6 +162,46 @@ void tst_ServerProtocol::unknownSessions()
     QVERIFY2(Works(run), qPrintable(run.Report()));
     QVERIFY2(run.Report().contains(QStringLiteral("Message %1 was ignored: its session is unknown.").arg(message)),
              qPrintable(run.Report()));
+}
+
+void tst_ServerProtocol::manyConnections_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("a few") << 5;
+    QTest::newRow("more than the server takes") << 100;
+    QTest::newRow("more than a process may have open") << 512;
+}
+
+// They keep no host away: neither the one that has a session, nor one that comes later.
+void tst_ServerProtocol::manyConnections()
+{
+    QFETCH(int, count);
+    ServerRun run(ServerRun::Worker::StandIn);
+    const FileLimit limit(1024); // as most systems have it
+    QVERIFY(run.Start());
+    QVERIFY2(Works(run), qPrintable(run.Report()));
+    std::vector<std::unique_ptr<QLocalSocket>> sockets;
+    for (int i = 0; i < count; ++i) {
+        sockets.push_back(std::make_unique<QLocalSocket>());
+        QLocalSocket& socket = *sockets.back();
+        // While the server is busy there may be no room in its queue.
+        QVERIFY(QTest::qWaitFor(
+            [&socket] {
+                socket.abort();
+                socket.connectToServer(pipeName);
+                return socket.waitForConnected(1000);
+            },
+            30000));
+    }
+    run.Send<ZTBatchMessage::MsgPause>();
+    QVERIFY2(run.WaitFor(QStringLiteral("log No run is active")), qPrintable(run.Report()));
+    ZTPipeSession late(pipeName, nullptr);
+    QVERIFY(late.WaitForConnected(30000));
+    QSignalSpy answers(&late, &ZTPipeSession::IncomingMessage);
+    const QByteArray session = SessionPayload(QStringLiteral("late"));
+    late.Send(ZTBatchMessage::Name(ZTBatchMessage::MsgCreateSession), session);
+    late.Send(ZTBatchMessage::Name(ZTBatchMessage::MsgPause), session);
+    QTRY_COMPARE_WITH_TIMEOUT(answers.size(), 1, 30000);
 }
 
 void tst_ServerProtocol::repeatedCommands()
@@ -252,7 +326,7 @@ void tst_ServerProtocol::malformedFrames()
     ServerRun run(ServerRun::Worker::StandIn);
     QVERIFY(run.Start());
     QLocalSocket socket;
-    socket.connectToServer(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    socket.connectToServer(pipeName);
     QVERIFY(socket.waitForConnected());
     socket.write(bytes);
     QVERIFY(QTest::qWaitFor([&] { return socket.state() == QLocalSocket::UnconnectedState; }, 30000));

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QtGlobal>
+
+class QLocalSocket;
+
+namespace BatchSupervisor {
+
+/// The number of the process that opened the other end of `socket`, an accepted connection; 0 when it is not known.
+qint64 PeerProcess(const QLocalSocket& socket);
+
+} // namespace BatchSupervisor

@@ -1,0 +1,198 @@
+#include "OwnFolder.h"
+#include "ServerStage.h"
+
+#include "hosts/common/RunController.h"
+#include "hosts/common/ServerWatch.h"
+
+#include "ZTBatchManager.h"
+
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QtTest>
+
+using namespace BatchHost;
+
+/// Every state of a run has a next event or a deadline, whatever the server does or leaves undone.
+class tst_RunController : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void serversThatSayNothing_data();
+    void serversThatSayNothing();
+    void serversThatAreSlow();
+    void serversThatDoNotCancel_data();
+    void serversThatDoNotCancel();
+    void filesBegunAgain();
+    void requestsAfterTheEnd();
+
+private:
+    struct Notes : RunObserver
+    {
+        void OnInWork(const QStringList& names, const QString&) override { inWork.append(names); }
+        void OnLog(const QString& text) override { logs.append(text); }
+        void OnServerLost(const QStringList&, bool) override { ++losses; }
+        void OnEnd(const RunEnd& newEnd) override { end = newEnd; }
+
+        QVector<QStringList> inWork;
+        QStringList logs;
+        int losses = 0;
+        std::optional<RunEnd> end;
+    };
+
+    void Begin(const QStringList& rules);
+    bool WaitForEnd();
+    bool WaitForEvents(const QString& event, int count);
+
+    std::unique_ptr<QTemporaryDir> settings;
+    std::unique_ptr<ServerStage> server;
+    std::unique_ptr<Notes> notes;
+    std::unique_ptr<RunController> run;
+};
+
+// More than a second, which the manager takes to connect.
+void tst_RunController::initTestCase()
+{
+    ServerWatch::Times::InUse().tick = 400;
+}
+
+void tst_RunController::init()
+{
+    settings = std::make_unique<QTemporaryDir>();
+    server = std::make_unique<ServerStage>();
+    notes = std::make_unique<Notes>();
+    ZTBatchManager::InitInstance(settings->path());
+}
+
+void tst_RunController::cleanup()
+{
+    run.reset();
+    for (const qint64 process : server->LivingServers()) {
+        qInfo("Server %lld is still alive.", process);
+        ZTBatchManager::Instance()->Stop();
+    }
+    ZTBatchManager::ReleaseInstance();
+    server.reset();
+}
+
+void tst_RunController::Begin(const QStringList& rules)
+{
+    server->SetRules(rules);
+    RunController::Order order;
+    order.document = QStringLiteral("a job");
+    order.inputs.files = QStringList{QStringLiteral("a"), QStringLiteral("b")};
+    order.inputs.bytes = {1, 1};
+    run = std::make_unique<RunController>(order, QVector<RunObserver*>{notes.get()});
+    run->Start();
+}
+
+bool tst_RunController::WaitForEnd()
+{
+    constexpr int patience = 60'000;
+    return QTest::qWaitFor([this] { return notes->end.has_value(); }, patience);
+}
+
+bool tst_RunController::WaitForEvents(const QString& event, int count)
+{
+    constexpr int patience = 60'000;
+    return QTest::qWaitFor([&] { return server->Count(event) >= count; }, patience);
+}
+
+void tst_RunController::serversThatSayNothing_data()
+{
+    QTest::addColumn<QStringList>("rules");
+    const auto row = [](const char* name, const QStringList& rules) {
+        QTest::newRow(name) << QStringList{QStringLiteral("start: open")} + rules;
+    };
+    row("from the beginning", {});
+    row("after a file was begun", {QStringLiteral("5: send 8 id s:a")});
+    row("hangs", {QStringLiteral("5: hang")});
+    row("closes the connection", {QStringLiteral("connect: disconnect")});
+    row("closes the connection and the pipe", {QStringLiteral("5: close; disconnect")});
+    row("cancels the run and stays", {QStringLiteral("5: send 14 id")});
+    row("has forgotten the run",
+        {QStringLiteral("3: send 10 id s:") +
+         QString::fromLatin1(QUrl::toPercentEncoding(QStringLiteral("No run is active: the command is ignored.")))});
+}
+
+void tst_RunController::serversThatSayNothing()
+{
+    QFETCH(QStringList, rules);
+    Begin(rules);
+    QVERIFY(WaitForEnd());
+    QVERIFY(notes->end->isServerLost);
+    QCOMPARE(notes->losses, 1);
+    QCOMPARE(notes->end->NotProcessed(), 2);
+    QTRY_COMPARE(server->LivingServers().size(), 0);
+}
+
+// A picture may take minutes. The server answers meanwhile, and the log does not show that it was asked.
+void tst_RunController::serversThatAreSlow()
+{
+    const QString alive = QString::fromLatin1(QUrl::toPercentEncoding(QStringLiteral("There is nothing to resume.")));
+    Begin({QStringLiteral("start: open"), QStringLiteral("5: send 8 id s:a"),
+           QStringLiteral("3: send 10 id s:") + alive, QStringLiteral("4: send 14 id")});
+    constexpr int longer = 4; // than a server that says nothing lives
+    QVERIFY(WaitForEvents(QStringLiteral("message 3"), longer));
+    QCOMPARE(notes->losses, 0);
+    QCOMPARE(notes->logs, QStringList());
+    run->Cancel();
+    QVERIFY(WaitForEnd());
+    QVERIFY(notes->end->isCancelled);
+}
+
+void tst_RunController::serversThatDoNotCancel_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::newRow("silent") << QString();
+    QTest::newRow("talkative") << QStringLiteral("4: flood 1000; wait 300; flood 1000; wait 300; flood 1000; wait "
+                                                 "300; flood 1000; wait 300; flood 1000; wait 60000");
+    QTest::newRow("hung") << QStringLiteral("4: hang");
+}
+
+void tst_RunController::serversThatDoNotCancel()
+{
+    QFETCH(QString, rule);
+    Begin({QStringLiteral("start: open"), QStringLiteral("5: send 8 id s:a"), rule});
+    QVERIFY(WaitForEvents(QStringLiteral("message 5"), 1));
+    run->Cancel();
+    QVERIFY(WaitForEnd());
+    QVERIFY(notes->end->isCancelled);
+    QCOMPARE(notes->losses, 0);
+    QTRY_COMPARE(server->LivingServers().size(), 0);
+}
+
+// Its name was taken meanwhile, any number of times.
+void tst_RunController::filesBegunAgain()
+{
+    QStringList actions;
+    for (int i = 0; i < 1000; ++i) {
+        actions.append(QStringLiteral("send 8 id s:a"));
+    }
+    Begin({QStringLiteral("start: open"), QStringLiteral("5: ") + actions.join(QStringLiteral("; ")) +
+                                              QStringLiteral("; send 9 id s:a s:x; send 6 id")});
+    QVERIFY(WaitForEnd());
+    QCOMPARE(notes->inWork.size(), 1000);
+    for (const QStringList& names : qAsConst(notes->inWork)) {
+        QCOMPARE(names, QStringList{QStringLiteral("a")});
+    }
+}
+
+void tst_RunController::requestsAfterTheEnd()
+{
+    Begin({QStringLiteral("start: open"), QStringLiteral("5: send 6 id")});
+    QVERIFY(WaitForEnd());
+    const RunEnd end = *notes->end;
+    notes->end.reset();
+    run->Cancel();
+    run->EndAtOnce();
+    QCoreApplication::processEvents();
+    QVERIFY(!notes->end);
+    QVERIFY(!end.isCancelled);
+}
+
+OWN_FOLDER_TEST_MAIN(tst_RunController)
+#include "tst_runcontroller.moc"
