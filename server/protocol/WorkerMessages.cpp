@@ -21,7 +21,7 @@ constexpr int firstPolicy = 1;
 
 QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
 {
-    return stream << qint32(int(kind) + firstPolicy);
+    return stream << qint32(qint64(kind) + firstPolicy);
 }
 
 QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
@@ -30,6 +30,47 @@ QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
     stream >> value;
     kind = BatchJob::PolicyKind(qint64(value) - firstPolicy);
     return stream;
+}
+
+/// QVector's own operator takes memory for the number that is announced, which may be any.
+QDataStream& operator>>(QDataStream& stream, BatchJob::Warnings& warnings)
+{
+    quint32 count = 0;
+    stream >> count;
+    warnings.clear();
+    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        BatchJob::Warning warning;
+        stream >> warning;
+        warnings.append(warning);
+    }
+    return stream;
+}
+
+template<typename Field>
+void WriteField(QDataStream& stream, const Field& field)
+{
+    stream << field;
+}
+
+template<typename Field>
+void ReadField(QDataStream& stream, Field& field)
+{
+    stream >> field;
+}
+
+/// Times are those of the local clock. To read a time zone would open a file that the sender names.
+void WriteField(QDataStream& stream, const QDateTime& time)
+{
+    const QDateTime local = time.toLocalTime();
+    stream << local.date() << local.time();
+}
+
+void ReadField(QDataStream& stream, QDateTime& time)
+{
+    QDate date;
+    QTime clock;
+    stream >> date >> clock;
+    time = date.isValid() && clock.isValid() ? QDateTime(date, clock) : QDateTime();
 }
 
 template<typename Record>
@@ -54,14 +95,14 @@ auto Fields(Record& record)
 template<typename Record>
 void Write(QDataStream& stream, const Record& record)
 {
-    std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Fields(record));
+    std::apply([&stream](const auto&... fields) { (WriteField(stream, fields), ...); }, Fields(record));
 }
 
 template<typename Record>
 std::optional<Record> Read(QDataStream& stream)
 {
     Record record;
-    std::apply([&stream](auto&... fields) { ((stream >> fields), ...); }, Fields(record));
+    std::apply([&stream](auto&... fields) { (ReadField(stream, fields), ...); }, Fields(record));
     return stream.status() == QDataStream::Ok && stream.atEnd() ? std::optional(record) : std::nullopt;
 }
 

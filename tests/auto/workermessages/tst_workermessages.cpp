@@ -1,7 +1,10 @@
 #include "server/protocol/WorkerMessages.h"
 
+#include <QTimeZone>
 #include <QtEndian>
 #include <QtTest>
+
+#include <limits>
 
 using namespace BatchJob;
 using namespace BatchProtocol;
@@ -14,7 +17,19 @@ class tst_WorkerMessages : public QObject
 private Q_SLOTS:
     void policiesOnTheWire_data();
     void policiesOnTheWire();
+    void unknownPolicyIsKept_data();
+    void unknownPolicyIsKept();
+    void countOfWarningsIsNotBelieved_data();
+    void countOfWarningsIsNotBelieved();
+    void timesComeWithoutTheirZone();
 };
+
+namespace {
+
+// Behind the length, the kind of message and the number of the task.
+constexpr int placeOfPolicy = 4 + 1 + 4;
+
+} // namespace
 
 void tst_WorkerMessages::policiesOnTheWire_data()
 {
@@ -35,16 +50,78 @@ void tst_WorkerMessages::policiesOnTheWire()
 {
     QFETCH(int, policy);
     QFETCH(int, number);
-    constexpr int place = 4 + 1 + 4; // behind the length, the kind of message and the number of the task
     Report report;
     report.failure = PolicyKind(policy);
     const QByteArray frame = FrameFromWorker(report);
-    QCOMPARE(qFromBigEndian<qint32>(frame.constData() + place), number);
+    QCOMPARE(qFromBigEndian<qint32>(frame.constData() + placeOfPolicy), number);
     FrameReader reader;
     reader.Append(frame);
     const std::optional<FromWorker> message = reader.NextFromWorker();
     QVERIFY(message && std::holds_alternative<Report>(*message));
     QVERIFY(std::get<Report>(*message).failure == report.failure);
+}
+
+void tst_WorkerMessages::unknownPolicyIsKept_data()
+{
+    QTest::addColumn<qint32>("number");
+    QTest::newRow("behind the last") << 6;
+    QTest::newRow("below none") << -1;
+    QTest::newRow("highest") << std::numeric_limits<qint32>::max();
+    QTest::newRow("lowest") << std::numeric_limits<qint32>::min();
+}
+
+void tst_WorkerMessages::unknownPolicyIsKept()
+{
+    QFETCH(qint32, number);
+    QByteArray frame = FrameFromWorker(Report());
+    qToBigEndian(number, frame.data() + placeOfPolicy);
+    FrameReader reader;
+    reader.Append(frame);
+    const std::optional<FromWorker> message = reader.NextFromWorker();
+    QVERIFY(message);
+    QCOMPARE(FrameFromWorker(*message), frame);
+}
+
+void tst_WorkerMessages::countOfWarningsIsNotBelieved_data()
+{
+    QTest::addColumn<quint32>("count");
+    QTest::newRow("one") << quint32(1);
+    QTest::newRow("a thousand million") << quint32(1'000'000'000);
+    QTest::newRow("highest that is positive with a sign") << quint32(0x7FFFFFFF);
+    QTest::newRow("lowest that is negative with a sign") << quint32(0x80000000);
+    QTest::newRow("highest") << quint32(0xFFFFFFFF);
+}
+
+void tst_WorkerMessages::countOfWarningsIsNotBelieved()
+{
+    QFETCH(quint32, count);
+    constexpr int emptyText = 4;
+    constexpr int placeOfCount = placeOfPolicy + 4 + 4 + 2 * emptyText; // behind policy, code and two texts
+    Report report;
+    report.reason = report.detail = QStringLiteral("");
+    QByteArray frame = FrameFromWorker(report);
+    QCOMPARE(qFromBigEndian<quint32>(frame.constData() + placeOfCount), quint32(0));
+    qToBigEndian(count, frame.data() + placeOfCount);
+    FrameReader reader;
+    reader.Append(frame);
+    QVERIFY(!reader.NextFromWorker());
+    QVERIFY(reader.IsBroken());
+}
+
+// The zone would be a file that the worker names and the supervisor opens.
+void tst_WorkerMessages::timesComeWithoutTheirZone()
+{
+    const QDateTime time(QDate(2024, 5, 1), QTime(10, 20, 30), QTimeZone("Asia/Tokyo"));
+    QVERIFY(time.isValid());
+    Report report;
+    report.captured = time;
+    FrameReader reader;
+    reader.Append(FrameFromWorker(report));
+    const std::optional<FromWorker> message = reader.NextFromWorker();
+    QVERIFY(message);
+    const QDateTime captured = std::get<Report>(*message).captured;
+    QCOMPARE(captured.timeSpec(), Qt::LocalTime);
+    QCOMPARE(captured, time);
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerMessages)
