@@ -64,11 +64,11 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
     for (int i = entries.size() - 1; i >= 0; --i) {
         open.insert(inputs.files.at(i), i); // find() gives the one that was inserted last.
     }
-    for (const LeftOutFile& file : inputs.leftOut) {
+    for (const LeftOutFile& leftOut : inputs.leftOut) {
         Entry entry;
-        entry.result.input = file.path;
+        entry.result.input = leftOut.path;
         entry.result.reason =
-            QStringLiteral("it begins like a %1 file, but its extension is not known").arg(file.format);
+            QStringLiteral("it begins like a %1 file, but its extension is not known").arg(leftOut.format);
         entry.word = QStringLiteral("left out");
         entries.append(entry);
     }

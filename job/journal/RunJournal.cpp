@@ -11,7 +11,6 @@ namespace {
 using Kind = JournalState::Result::Kind;
 
 constexpr int version = 1;
-constexpr qint64 longestLine = qint64(1) << 30;
 
 QString Key(const char* name)
 {
@@ -72,7 +71,10 @@ void ReadLine(const QJsonObject& line, JournalState& state)
         state.answers.insert(answer, line.value(Key("value")).toInt());
     }
     for (const QJsonValue lost : line.value(Key("lost")).toArray()) {
-        ++state.losses[lost.toInt()];
+        const int index = lost.toInt(-1);
+        if (index >= 0 && !state.results.contains(index)) {
+            ++state.losses[index];
+        }
     }
 }
 
@@ -87,7 +89,7 @@ std::optional<JournalState> ReadJournal(const QString& path)
     JournalState state;
     bool hasHeader = false;
     while (!file.atEnd()) {
-        const QByteArray line = file.readLine(longestLine);
+        const QByteArray line = file.readLine();
         const QJsonDocument document = QJsonDocument::fromJson(line);
         const bool isWhole = line.endsWith('\n') && document.isObject();
         if (!hasHeader) {
@@ -105,7 +107,7 @@ std::optional<JournalState> ReadJournal(const QString& path)
 bool HasJournalBegun(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.readLine(longestLine).endsWith('\n');
+    return file.open(QIODevice::ReadOnly) && file.readLine().endsWith('\n');
 }
 
 bool RunJournal::Create(const QString& path, const QString& document, const std::array<int, 5>& policies)

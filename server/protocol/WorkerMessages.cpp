@@ -19,9 +19,23 @@ constexpr quint32 maximumReport = 1U << 20;
 // On the wire 0 is no failure, and the policies count from 1.
 constexpr int firstPolicy = 1;
 
-// More than any picture has. The count comes before the warnings, and Qt would take memory for all of them.
+// More than any picture has.
 constexpr quint32 mostWarnings = 1000;
 
+QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
+{
+    return stream << qint32(qint64(kind) + firstPolicy);
+}
+
+QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
+{
+    qint32 value = 0;
+    stream >> value;
+    kind = BatchJob::PolicyKind(qint64(value) - firstPolicy);
+    return stream;
+}
+
+/// The count comes before the warnings, and QVector's own operator would take memory for any.
 QDataStream& operator>>(QDataStream& stream, BatchJob::Warnings& warnings)
 {
     quint32 count = 0;
@@ -37,38 +51,31 @@ QDataStream& operator>>(QDataStream& stream, BatchJob::Warnings& warnings)
     return stream;
 }
 
-QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
+template<typename Field>
+void WriteField(QDataStream& stream, const Field& field)
 {
-    return stream << qint32(int(kind) + firstPolicy);
+    stream << field;
 }
 
-QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
+template<typename Field>
+void ReadField(QDataStream& stream, Field& field)
 {
-    qint32 value = 0;
-    stream >> value;
-    kind = BatchJob::PolicyKind(qint64(value) - firstPolicy);
-    return stream;
+    stream >> field;
 }
 
-/// On the wire a time has no zone: Qt looks for the file of a zone wherever its name leads.
-template<typename Time>
-struct LocalTime
+/// Times are those of the local clock. To read a time zone would open a file that the sender names.
+void WriteField(QDataStream& stream, const QDateTime& time)
 {
-    Time& time;
-};
-
-QDataStream& operator<<(QDataStream& stream, const LocalTime<const QDateTime>& local)
-{
-    return stream << local.time.date() << local.time.time();
+    const QDateTime local = time.toLocalTime();
+    stream << local.date() << local.time();
 }
 
-QDataStream& operator>>(QDataStream& stream, const LocalTime<QDateTime>& local)
+void ReadField(QDataStream& stream, QDateTime& time)
 {
     QDate date;
-    QTime time;
-    stream >> date >> time;
-    local.time = QDateTime(date, time);
-    return stream;
+    QTime clock;
+    stream >> date >> clock;
+    time = date.isValid() && clock.isValid() ? QDateTime(date, clock) : QDateTime();
 }
 
 template<typename Record>
@@ -85,25 +92,22 @@ auto Fields(Record& record)
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {
-        return std::tuple_cat(
-            std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
-                     record.nearestFormat, record.inputFormat),
-            std::make_tuple(LocalTime<std::remove_reference_t<decltype((record.captured))>>{record.captured}),
-            std::tie(record.outputBytes));
+        return std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
+                        record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
     }
 }
 
 template<typename Record>
 void Write(QDataStream& stream, const Record& record)
 {
-    std::apply([&stream](const auto&... fields) { ((stream << fields), ...); }, Fields(record));
+    std::apply([&stream](const auto&... fields) { (WriteField(stream, fields), ...); }, Fields(record));
 }
 
 template<typename Record>
 std::optional<Record> Read(QDataStream& stream)
 {
     Record record;
-    std::apply([&stream](auto&&... fields) { ((stream >> fields), ...); }, Fields(record));
+    std::apply([&stream](auto&... fields) { (ReadField(stream, fields), ...); }, Fields(record));
     return stream.status() == QDataStream::Ok && stream.atEnd() ? std::optional(record) : std::nullopt;
 }
 

@@ -1,7 +1,10 @@
 #include "server/protocol/WorkerMessages.h"
 
+#include <QTimeZone>
 #include <QtEndian>
 #include <QtTest>
+
+#include <limits>
 
 using namespace BatchJob;
 using namespace BatchProtocol;
@@ -14,11 +17,19 @@ class tst_WorkerMessages : public QObject
 private Q_SLOTS:
     void policiesOnTheWire_data();
     void policiesOnTheWire();
-    void timesOnTheWire_data();
-    void timesOnTheWire();
-    void warningsThatAreNotThere_data();
-    void warningsThatAreNotThere();
+    void unknownPolicyIsKept_data();
+    void unknownPolicyIsKept();
+    void countOfWarningsIsNotBelieved_data();
+    void countOfWarningsIsNotBelieved();
+    void timesComeWithoutTheirZone();
 };
+
+namespace {
+
+// Behind the length, the kind of message and the number of the task.
+constexpr int placeOfPolicy = 4 + 1 + 4;
+
+} // namespace
 
 void tst_WorkerMessages::policiesOnTheWire_data()
 {
@@ -39,11 +50,10 @@ void tst_WorkerMessages::policiesOnTheWire()
 {
     QFETCH(int, policy);
     QFETCH(int, number);
-    constexpr int place = 4 + 1 + 4; // behind the length, the kind of message and the number of the task
     Report report;
     report.failure = PolicyKind(policy);
     const QByteArray frame = FrameFromWorker(report);
-    QCOMPARE(qFromBigEndian<qint32>(frame.constData() + place), number);
+    QCOMPARE(qFromBigEndian<qint32>(frame.constData() + placeOfPolicy), number);
     FrameReader reader;
     reader.Append(frame);
     const std::optional<FromWorker> message = reader.NextFromWorker();
@@ -51,53 +61,67 @@ void tst_WorkerMessages::policiesOnTheWire()
     QVERIFY(std::get<Report>(*message).failure == report.failure);
 }
 
-void tst_WorkerMessages::timesOnTheWire_data()
+void tst_WorkerMessages::unknownPolicyIsKept_data()
 {
-    QTest::addColumn<QDateTime>("captured");
-    QTest::addColumn<QDateTime>("expected");
-    const QDate date(2019, 7, 6);
-    const QTime time(5, 4, 3, 2);
-    QTest::newRow("local") << QDateTime(date, time) << QDateTime(date, time);
-    QTest::newRow("none") << QDateTime() << QDateTime();
-    QTest::newRow("universal") << QDateTime(date, time, Qt::UTC) << QDateTime(date, time);
+    QTest::addColumn<qint32>("number");
+    QTest::newRow("behind the last") << 6;
+    QTest::newRow("below none") << -1;
+    QTest::newRow("highest") << std::numeric_limits<qint32>::max();
+    QTest::newRow("lowest") << std::numeric_limits<qint32>::min();
 }
 
-void tst_WorkerMessages::timesOnTheWire()
+void tst_WorkerMessages::unknownPolicyIsKept()
 {
-    QFETCH(QDateTime, captured);
-    QFETCH(QDateTime, expected);
-    Report report;
-    report.captured = captured;
+    QFETCH(qint32, number);
+    QByteArray frame = FrameFromWorker(Report());
+    qToBigEndian(number, frame.data() + placeOfPolicy);
     FrameReader reader;
-    reader.Append(FrameFromWorker(report));
+    reader.Append(frame);
     const std::optional<FromWorker> message = reader.NextFromWorker();
     QVERIFY(message);
-    QCOMPARE(std::get<Report>(*message).captured, expected);
-    QCOMPARE(std::get<Report>(*message).captured.timeSpec(), Qt::LocalTime);
+    QCOMPARE(FrameFromWorker(*message), frame);
 }
 
-void tst_WorkerMessages::warningsThatAreNotThere_data()
+void tst_WorkerMessages::countOfWarningsIsNotBelieved_data()
 {
     QTest::addColumn<quint32>("count");
-    for (const quint32 count : {2U, 1000U, 1001U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
-        QTest::addRow("%u", count) << count;
-    }
+    QTest::newRow("one") << quint32(1);
+    QTest::newRow("a thousand million") << quint32(1'000'000'000);
+    QTest::newRow("highest that is positive with a sign") << quint32(0x7FFFFFFF);
+    QTest::newRow("lowest that is negative with a sign") << quint32(0x80000000);
+    QTest::newRow("highest") << quint32(0xFFFFFFFF);
 }
 
-// The count of warnings comes before them. Whatever it says, no memory is taken for what does not follow.
-void tst_WorkerMessages::warningsThatAreNotThere()
+void tst_WorkerMessages::countOfWarningsIsNotBelieved()
 {
     QFETCH(quint32, count);
+    constexpr int emptyText = 4;
+    constexpr int placeOfCount = placeOfPolicy + 4 + 4 + 2 * emptyText; // behind policy, code and two texts
     Report report;
-    report.warnings.append({WarningKind::Decoder, QStringLiteral("beware")});
+    report.reason = report.detail = QStringLiteral("");
     QByteArray frame = FrameFromWorker(report);
-    constexpr int place = 4 + 1 + 3 * 4 + 2 * 4; // behind three numbers and two texts that are null
-    QCOMPARE(qFromBigEndian<quint32>(frame.constData() + place), 1U);
-    qToBigEndian(count, frame.data() + place);
+    QCOMPARE(qFromBigEndian<quint32>(frame.constData() + placeOfCount), quint32(0));
+    qToBigEndian(count, frame.data() + placeOfCount);
     FrameReader reader;
     reader.Append(frame);
     QVERIFY(!reader.NextFromWorker());
     QVERIFY(reader.IsBroken());
+}
+
+// The zone would be a file that the worker names and the supervisor opens.
+void tst_WorkerMessages::timesComeWithoutTheirZone()
+{
+    const QDateTime time(QDate(2024, 5, 1), QTime(10, 20, 30), QTimeZone("Asia/Tokyo"));
+    QVERIFY(time.isValid());
+    Report report;
+    report.captured = time;
+    FrameReader reader;
+    reader.Append(FrameFromWorker(report));
+    const std::optional<FromWorker> message = reader.NextFromWorker();
+    QVERIFY(message);
+    const QDateTime captured = std::get<Report>(*message).captured;
+    QCOMPARE(captured.timeSpec(), Qt::LocalTime);
+    QCOMPARE(captured, time);
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerMessages)
