@@ -214,7 +214,7 @@ void tst_RunPreparation::filesThatTheJobDoesNotHave()
 
 void tst_RunPreparation::unfinishedFilesAreRemoved()
 {
-    const QString unfinished = NewTemporaryName(Path(QStringLiteral("out")));
+    const QString unfinished = Path(QStringLiteral("out/") + NewTemporaryName());
     Write(QDir(folder->path()).relativeFilePath(unfinished));
     Write(QStringLiteral("out/other.txt"));
     RunPreparation preparation;
@@ -227,7 +227,7 @@ void tst_RunPreparation::unfinishedFilesAreRemoved()
 
 void tst_RunPreparation::cancelledNamesRemoveNothing()
 {
-    const QString unfinished = NewTemporaryName(Path(QStringLiteral("out")));
+    const QString unfinished = Path(QStringLiteral("out/") + NewTemporaryName());
     Write(QDir(folder->path()).relativeFilePath(unfinished));
     RunPreparation preparation;
     preparation.plan = Plan(2);
