@@ -115,10 +115,9 @@ const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, 
             RequestError::Kind::OtherRunInterrupted};
     }
     if (runs.size() > 1 && !same) {
-        throw RequestError{QStringLiteral("%1 runs were interrupted in %2, none of them of this job")
-                               .arg(runs.size())
-                               .arg(folder),
-                           RequestError::Kind::SeveralRunsInterrupted};
+        throw RequestError{
+            QStringLiteral("%1 runs were interrupted in %2, none of them of this job").arg(runs.size()).arg(folder),
+            RequestError::Kind::SeveralRunsInterrupted};
     }
     const Run& chosen = same ? *same : runs.front();
     if (!chosen.state) {

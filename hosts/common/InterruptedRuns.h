@@ -19,7 +19,7 @@ class InterruptedRuns
 public:
     struct Run
     {
-        QString journal;                                   ///< path
+        QString journal;                                  ///< path
         std::optional<BatchJob::JournalState> state = {}; ///< nothing if the journal is damaged
     };
 

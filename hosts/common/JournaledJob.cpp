@@ -30,7 +30,8 @@ JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRu
     journaled.document = run.state->document;
     journaled.policies = run.state->policies;
     if (!journaled.file->Exists()) { // The run was still going on when it was chosen, and is finished now.
-        throw RequestError{QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
+        throw RequestError{
+            QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
     }
     job.Deserialize(journaled.document);
     return journaled;

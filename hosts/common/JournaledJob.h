@@ -24,8 +24,8 @@ public:
     /// A run of `job` from its beginning. Throws RequestError when the job cannot be used, or is already running.
     static JournaledJob New(const ZTBatchDocument& job);
 
-    /// One of `runs`, which were interrupted in the output folder of `job`. It becomes `job`; with `isThisJob` it has to
-    /// be the same one already. Throws RequestError when there is no such run.
+    /// One of `runs`, which were interrupted in the output folder of `job`. It becomes `job`; with `isThisJob` it has
+    /// to be the same one already. Throws RequestError when there is no such run.
     static JournaledJob Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs, bool isThisJob);
 
     /// The text of the job.

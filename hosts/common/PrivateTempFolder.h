@@ -9,8 +9,8 @@
 namespace BatchHost {
 
 /// A temporary folder for this process and its server only, which becomes TMPDIR. The pipe between them has a fixed
-/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object, or
-/// by the next object of another process if this process is killed.
+/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object,
+/// or by the next object of another process if this process is killed.
 class PrivateTempFolder
 {
 public:

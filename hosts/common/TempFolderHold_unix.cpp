@@ -84,8 +84,7 @@ void TempFolderHold::Sweep(const QString& parent, const QString& start)
     if (!entries) {
         return;
     }
-    const QRegularExpression form(
-        QStringLiteral("\\A%1[A-Za-z0-9]{6}\\z").arg(QRegularExpression::escape(start)));
+    const QRegularExpression form(QStringLiteral("\\A%1[A-Za-z0-9]{6}\\z").arg(QRegularExpression::escape(start)));
     while (const dirent* const entry = readdir(entries)) {
         if (form.match(QFile::decodeName(entry->d_name)).hasMatch()) {
             RemoveIfLeft(folder, entry->d_name);

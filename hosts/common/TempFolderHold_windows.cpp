@@ -45,8 +45,7 @@ void TempFolderHold::Sweep(const QString& parent, const QString& start)
     // The temporary folder belongs to the user here. A killed process leaves its folder without the file that holds it;
     // one that is just being made lacks that file too, so that a folder has to be of some age.
     constexpr int age = 60; // s
-    const QRegularExpression form(
-        QStringLiteral("\\A%1[A-Za-z0-9]{6}\\z").arg(QRegularExpression::escape(start)));
+    const QRegularExpression form(QStringLiteral("\\A%1[A-Za-z0-9]{6}\\z").arg(QRegularExpression::escape(start)));
     const QFileInfoList folders =
         QDir(parent).entryInfoList({start + QLatin1Char('*')}, QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QFileInfo& folder : folders) {

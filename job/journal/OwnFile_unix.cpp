@@ -63,8 +63,7 @@ bool Open(QFile& file, const QString& path, int flags, QIODevice::OpenMode mode,
         return false;
     }
     problem = ProblemWithOpen(descriptor);
-    if (!problem.isEmpty() ||
-        !file.open(descriptor, mode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+    if (!problem.isEmpty() || !file.open(descriptor, mode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
         problem = problem.isEmpty() ? file.errorString() : problem;
         close(descriptor);
         return false;

@@ -86,8 +86,8 @@ bool Open(QFile& file, const QString& path, DWORD disposition, QIODevice::OpenMo
         CloseHandle(handle);
         return false;
     }
-    const int flags = _O_BINARY | (isWritten ? _O_RDWR : _O_RDONLY) |
-                      (mode.testFlag(QIODevice::Append) ? _O_APPEND : 0);
+    const int flags =
+        _O_BINARY | (isWritten ? _O_RDWR : _O_RDONLY) | (mode.testFlag(QIODevice::Append) ? _O_APPEND : 0);
     const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(handle), flags);
     if (!file.open(descriptor, mode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
         problem = file.errorString();

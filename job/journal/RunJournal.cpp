@@ -20,8 +20,8 @@ using Kind = JournalState::Result::Kind;
 constexpr int version = 1;
 constexpr qint64 longestLine = qint64(1) << 30;
 
-/// A header begins like this, then a digit, so that an incomplete journal can be marked on a full disk: a byte is changed
-/// in its place.
+/// A header begins like this, then a digit, so that an incomplete journal can be marked on a full disk: a byte is
+/// changed in its place.
 constexpr char headerBegin[] = "{\"complete\":";
 constexpr qint64 markPosition = sizeof(headerBegin) - 1;
 
@@ -134,11 +134,12 @@ bool RunJournal::Create(const QString& newPath, const QString& document, const s
     for (const int policy : policies) {
         values.append(policy);
     }
-    const QByteArray rest = QJsonDocument(QJsonObject{{Key("journal"), version},
-                                                      {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
-                                                      {Key("document"), document},
-                                                      {Key("policies"), values}})
-                                .toJson(QJsonDocument::Compact);
+    const QByteArray rest =
+        QJsonDocument(QJsonObject{{Key("journal"), version},
+                                  {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
+                                  {Key("document"), document},
+                                  {Key("policies"), values}})
+            .toJson(QJsonDocument::Compact);
     const QByteArray header = headerBegin + QByteArray("1,") + rest.mid(1) + '\n';
     if (created->write(header) != header.size()) {
         problem = created->errorString();

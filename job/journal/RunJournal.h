@@ -63,8 +63,8 @@ struct JournalState
     QMap<int, int> answers;
 };
 
-/// Reads the journal `path`. Nothing when there is none, or the file is something else; a file that OpenOwnFile() refuses
-/// is something else. A truncated last line is ignored.
+/// Reads the journal `path`. Nothing when there is none, or the file is something else; a file that OpenOwnFile()
+/// refuses is something else. A truncated last line is ignored.
 std::optional<JournalState> ReadJournal(const QString& path);
 
 /// Whether the run of the journal `path` has started, which is when the first line, the header, is whole. False for a
@@ -106,9 +106,9 @@ private:
     std::unique_ptr<QFile> file;
     QString path;
     QString problem;
-    QByteArray pending;           ///< lines that are not written yet
-    bool isMarked = false;        ///< as incomplete
-    bool isWithinLine = false;    ///< the last attempt wrote a part
+    QByteArray pending;        ///< lines that are not written yet
+    bool isMarked = false;     ///< as incomplete
+    bool isWithinLine = false; ///< the last attempt wrote a part
     bool isFailureKnown = false;
 };
 

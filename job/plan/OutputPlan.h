@@ -86,9 +86,9 @@ public:
     const FormatSchema* Format(int index) const { return entries[index].format; }
 
     QString OutputFolder() const { return outputFolder; } ///< of the job; results go there and below it
-    QString Folder(int index) const;     ///< where the result goes; absolute
-    QString OutputName(int index) const; ///< empty as long as there is no format
-    QString Output(int index) const;     ///< folder and name; empty as long as there is no format
+    QString Folder(int index) const;                      ///< where the result goes; absolute
+    QString OutputName(int index) const;                  ///< empty as long as there is no format
+    QString Output(int index) const;                      ///< folder and name; empty as long as there is no format
 
     Clash ClashOf(int index) const { return entries[index].clash; }
 
@@ -151,8 +151,8 @@ private:
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;
-    QHash<Place, int> takers;        ///< the file that has a name
-    QSet<QString> keptPaths;         ///< files that an earlier part of this run has written
+    QHash<Place, int> takers; ///< the file that has a name
+    QSet<QString> keptPaths;  ///< files that an earlier part of this run has written
     std::optional<qint64> newResultsSince;
     QHash<Place, int> nextAdditions; ///< the first number behind a stem that may be free
     QStringList sharedSources;

@@ -29,7 +29,10 @@ public:
 
 #ifdef Q_OS_UNIX
     /// The open folder, for openat() and its like; this object closes it.
-    int Descriptor() const { return descriptor; }
+    int Descriptor() const
+    {
+        return descriptor;
+    }
 #endif
 
 private:

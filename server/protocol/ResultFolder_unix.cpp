@@ -31,8 +31,8 @@ bool IsLink(int folder, const QByteArray& name)
     return fstatat(folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
 }
 
-/// Opens a folder below `root` in one step. -1 where the system or a filter of system calls does not know that step, and
-/// on failure, whose reason is found step by step.
+/// Opens a folder below `root` in one step. -1 where the system or a filter of system calls does not know that step,
+/// and on failure, whose reason is found step by step.
 int OpenBelow(int root, const QByteArray& path)
 {
 #ifdef SYS_openat2
@@ -121,7 +121,8 @@ bool ResultFolder::Enter(const QString& folder, const QString& name, Missing mis
     if (next < 0) {
         const int problem = errno;
         error = IsLink(descriptor, nativeName)
-                    ? QStringLiteral("%1 is a link; results are not written through it unless links are followed").arg(folder)
+                    ? QStringLiteral("%1 is a link; results are not written through it unless links are followed")
+                          .arg(folder)
                     : QStringLiteral("%1: %2").arg(folder, qt_error_string(problem));
         return false;
     }

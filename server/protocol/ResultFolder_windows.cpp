@@ -88,7 +88,8 @@ bool ResultFolder::Enter(const QString& folder, const QString&, Missing missing)
     }
     handles.push_back(handle);
     if (IsLink(handle)) {
-        error = QStringLiteral("%1 is a link; results are not written through it unless links are followed").arg(folder);
+        error =
+            QStringLiteral("%1 is a link; results are not written through it unless links are followed").arg(folder);
         return false;
     }
     return true;

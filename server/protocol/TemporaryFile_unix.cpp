@@ -64,8 +64,7 @@ bool SweepFile(int folder, const char* name)
     if (file < 0) {
         return false;
     }
-    const bool isSwept =
-        flock(file, LOCK_EX | LOCK_NB) == 0 && IsStillThere(file) && unlinkat(folder, name, 0) == 0;
+    const bool isSwept = flock(file, LOCK_EX | LOCK_NB) == 0 && IsStillThere(file) && unlinkat(folder, name, 0) == 0;
     close(file);
     return isSwept;
 }
@@ -104,8 +103,8 @@ bool TemporaryFile::Create()
     for (int attempt = 0; attempt < 100; ++attempt) {
         const QString newName = NewTemporaryName();
         const QByteArray native = QFile::encodeName(newName);
-        const int file = openat(folder.Descriptor(), native.constData(),
-                                O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+        const int file =
+            openat(folder.Descriptor(), native.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
         if (file < 0) {
             if (errno == EEXIST) {
                 continue;

@@ -106,7 +106,8 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
 {
     const HANDLE file = HandleOf(descriptor);
     // Only the temporary file is hidden, not the result.
-    const bool isReady = FlushFileBuffers(file) && SetFileAttributesW(Native(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
+    const bool isReady =
+        FlushFileBuffers(file) && SetFileAttributesW(Native(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
     const DWORD problem = isReady ? Rename(file, finalName, replaceExisting) : GetLastError();
     if (problem != ERROR_SUCCESS) {
         Fail(static_cast<int>(problem));

@@ -153,8 +153,9 @@ void Run::AdoptUnjournaledResults()
 {
     for (const int file : qAsConst(preparation->unjournaled)) {
         const QString output = plan.Names().Output(file);
-        host.Log(QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
-                     .arg(plan.Names().Input(file), output));
+        host.Log(
+            QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
+                .arg(plan.Names().Input(file), output));
         journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}});
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), output);
         ++written;
@@ -264,7 +265,8 @@ bool Run::GivePicture(int file)
     const QString output = names.Output(file);
     const std::optional<FileIdentity> before = IdentityOf(output);
     journal.Begin(file, {output, before ? before->Text() : QString()});
-    const PictureTask task{file, names.Input(file), output, outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
+    const PictureTask task{file,       names.Input(file),        output,
+                           outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
     Give({number, file, job, task, before, false});
     return true;
 }

@@ -128,7 +128,7 @@ private:
     QList<BatchProtocol::Assignment> returned;
     QSet<int> inWork;
     bool isDeciding = false; ///< a loop over decisions is running; it also handles those that arise meanwhile
-    QString outputRoot; ///< of PictureTasks
+    QString outputRoot;      ///< of PictureTasks
     QSet<QString> madeFolders;
 
     const QString journalPath;

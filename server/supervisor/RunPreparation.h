@@ -22,8 +22,8 @@ struct RunPreparation
     /// Reads the job and the journal at `journalPath`, which may be empty, and makes the plan, without names yet.
     void ReadJob(QString document, const QString& journalPath, const Cancelled& isCancelled);
 
-    /// Locks the journal, opens it and reads it. A journal of another job than `document` is ignored. One that cannot be
-    /// used is refused: without it, results could be made twice.
+    /// Locks the journal, opens it and reads it. A journal of another job than `document` is ignored. One that cannot
+    /// be used is refused: without it, results could be made twice.
     void OpenJournal(const QString& path, const QString& document);
 
     /// Enters the results of an earlier part of the run in the plan. A result that the journal only announced counts as
@@ -47,7 +47,7 @@ struct RunPreparation
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
     QString outputRoot;       ///< of PictureTasks; known before the names
-    int removedFiles = 0;    ///< unfinished files of earlier runs
+    int removedFiles = 0;     ///< unfinished files of earlier runs
 };
 
 /// The files of a run that are still to be probed, or whose probe is not over.

@@ -20,6 +20,9 @@ private Q_SLOTS:
     void noJournal();
     void journalsAreLocked();
     void journalsOfOtherJobsAreIgnored();
+    void unusableJournalsAreRefused_data();
+    void unusableJournalsAreRefused();
+    void journalsReplaceNothing();
     void answersToUnknownPoliciesAreIgnored();
     void journaledResultsKeepTheirNames();
     void finishedResultsAreFound_data();
@@ -122,6 +125,44 @@ void tst_RunPreparation::journalsOfOtherJobsAreIgnored()
     RunPreparation preparation;
     preparation.OpenJournal(Path(QStringLiteral("journal")), QStringLiteral("<other/>"));
     QVERIFY(!preparation.earlier);
+}
+
+void tst_RunPreparation::unusableJournalsAreRefused_data()
+{
+    QTest::addColumn<QString>("trap");
+    QTest::newRow("link") << QStringLiteral("journal");
+    QTest::newRow("link as lock") << QStringLiteral("journal") + QLatin1String(journalHoldEnd);
+}
+
+// The run would begin anew and make results twice.
+void tst_RunPreparation::unusableJournalsAreRefused()
+{
+    QFETCH(QString, trap);
+    RunJournal journal;
+    StartJournal(journal);
+    if (!QFile::rename(Path(trap), Path(QStringLiteral("elsewhere")))) {
+        Write(QStringLiteral("elsewhere"));
+    }
+    QVERIFY(QFile::link(Path(QStringLiteral("elsewhere")), Path(trap)));
+    RunPreparation preparation;
+    preparation.OpenJournal(Path(QStringLiteral("journal")), Document());
+    QVERIFY(!preparation.earlier);
+    QCOMPARE(preparation.refusal.code, ZTBatchMessage::WriteOutputFormatError);
+    QVERIFY2(preparation.refusal.message.endsWith(QStringLiteral("it is a link")),
+             qPrintable(preparation.refusal.message));
+}
+
+void tst_RunPreparation::journalsReplaceNothing()
+{
+    Write(QStringLiteral("precious"), "precious");
+    QVERIFY(QFile::link(Path(QStringLiteral("precious")), Path(QStringLiteral("journal"))));
+    RunJournal journal;
+    QVERIFY(!journal.Create(Path(QStringLiteral("journal")), Document(), {}));
+    QVERIFY(!journal.IsOpen());
+    QVERIFY(!journal.Problem().isEmpty());
+    QCOMPARE(QFileInfo(Path(QStringLiteral("precious"))).size(), qint64(8));
+    QVERIFY(!journal.Create(Path(QStringLiteral("precious")), Document(), {}));
+    QCOMPARE(QFileInfo(Path(QStringLiteral("precious"))).size(), qint64(8));
 }
 
 void tst_RunPreparation::answersToUnknownPoliciesAreIgnored()

@@ -90,7 +90,8 @@ void tst_CliJournal::Limit(qint64 server, qint64 bytes) const
 
 QString tst_CliJournal::Journal() const
 {
-    const QStringList journals = stage->Names(QStringLiteral("out")).filter(QRegularExpression(QStringLiteral("journal$")));
+    const QStringList journals =
+        stage->Names(QStringLiteral("out")).filter(QRegularExpression(QStringLiteral("journal$")));
     return journals.size() == 1 ? stage->Path(QStringLiteral("out/") + journals.first()) : QString();
 }
 
@@ -110,7 +111,8 @@ void tst_CliJournal::journalThatCannotBeWritten()
     stage->Write(QStringLiteral("out/3.jpg"), "old");
     HeldRun held(*stage, QStringLiteral("run photos -o out --format jpeg --on-name-exists rename"));
     QVERIFY(held.WaitFor("/photos/1.jpg"));
-    QTRY_VERIFY(QFileInfo(Journal()).size() > 0 && stage->Content(QStringLiteral("out/") + QFileInfo(Journal()).fileName()).contains("\"begin\":1"));
+    QTRY_VERIFY(QFileInfo(Journal()).size() > 0 &&
+                stage->Content(QStringLiteral("out/") + QFileInfo(Journal()).fileName()).contains("\"begin\":1"));
     Limit(held.Server(), QFileInfo(Journal()).size() + room);
     stage->Write(QStringLiteral("first"), {});
     QVERIFY(held.WaitFor("\"event\":\"written\"", 3));

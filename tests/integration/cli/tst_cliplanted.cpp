@@ -63,13 +63,14 @@ void tst_CliPlanted::plantedJournalsAreIgnored_data()
     QTest::addColumn<QString>("reason");
     const QString shared = QStringLiteral("shared");
     const QString secret = QStringLiteral("private");
-    QTest::newRow("of another user") << shared << QStringLiteral("chown") << QStringLiteral("it belongs to another user");
+    QTest::newRow("of another user") << shared << QStringLiteral("chown")
+                                     << QStringLiteral("it belongs to another user");
     QTest::newRow("of another user, for another folder")
         << secret << QStringLiteral("chown") << QStringLiteral("it belongs to another user");
     QTest::newRow("that others may write")
         << shared << QStringLiteral("chmod") << QStringLiteral("other users may write it");
-    QTest::newRow("with a second name")
-        << shared << QStringLiteral("hard link") << QStringLiteral("it has more than one name");
+    QTest::newRow("with a second name") << shared << QStringLiteral("hard link")
+                                        << QStringLiteral("it has more than one name");
     QTest::newRow("behind a link") << shared << QStringLiteral("link") << QStringLiteral("it is a link");
     QTest::newRow("named pipe") << shared << QStringLiteral("pipe") << QStringLiteral("it is not a file");
     QTest::newRow("for another folder") << secret << QString() << QStringLiteral("its results go to ");
