@@ -242,7 +242,8 @@ void RunJournal::Mark(bool isComplete)
 {
     QFile marked;
     QString ignored;
-    if (OpenOwnFile(marked, path, OwnFileUse::Change, ignored) && marked.seek(markPosition)) {
+    // The header of another host may begin differently.
+    if (OpenOwnFile(marked, path, OwnFileUse::Change, ignored) && marked.read(markPosition) == headerBegin) {
         marked.write(isComplete ? "1" : "0");
     }
 }

@@ -114,7 +114,8 @@ void RunPreparation::FindUnjournaledResults()
         return;
     }
     for (int i = 0; i < plan.Count(); ++i) {
-        if (earlier->results.contains(i) || plan.TroubleOf(i).kind != PolicyKind::None) {
+        const bool isKnown = earlier->results.contains(i) || earlier->begun.contains(i);
+        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
             continue;
         }
         const std::optional<qint64> changed = ChangeTimeOf(plan.Names().Output(i));

@@ -26,6 +26,7 @@ private:
     QString Gate(const QString& name) const { return stage->Path(name); }
     void Limit(qint64 server, qint64 bytes) const;
     QString Journal() const;
+    QByteArray Content() const { return stage->Content(QStringLiteral("out/") + QFileInfo(Journal()).fileName()); }
 
     std::unique_ptr<CliStage> stage;
 };
@@ -111,8 +112,7 @@ void tst_CliJournal::journalThatCannotBeWritten()
     stage->Write(QStringLiteral("out/3.jpg"), "old");
     HeldRun held(*stage, QStringLiteral("run photos -o out --format jpeg --on-name-exists rename"));
     QVERIFY(held.WaitFor("/photos/1.jpg"));
-    QTRY_VERIFY(QFileInfo(Journal()).size() > 0 &&
-                stage->Content(QStringLiteral("out/") + QFileInfo(Journal()).fileName()).contains("\"begin\":1"));
+    QTRY_VERIFY(QFileInfo(Journal()).size() > 0 && Content().contains("\"begin\":1"));
     Limit(held.Server(), QFileInfo(Journal()).size() + room);
     stage->Write(QStringLiteral("first"), {});
     QVERIFY(held.WaitFor("\"event\":\"written\"", 3));
@@ -135,15 +135,23 @@ void tst_CliJournal::journalThatCanBeWrittenAgain()
 {
     stage->Write(QStringLiteral("photos/1.jpg"), "wait " + Gate(QStringLiteral("first")).toUtf8());
     stage->Write(QStringLiteral("photos/3.jpg"), "wait " + Gate(QStringLiteral("second")).toUtf8());
+    stage->Write(QStringLiteral("photos/4.jpg"), "wait " + Gate(QStringLiteral("third")).toUtf8());
     HeldRun held(*stage, QStringLiteral("run photos -o out --format jpeg"));
     QVERIFY(held.WaitFor("/photos/1.jpg"));
-    QTRY_VERIFY(stage->Content(QStringLiteral("out/") + QFileInfo(Journal()).fileName()).contains("\"begin\":1"));
+    QTRY_VERIFY(Content().contains("\"begin\":1"));
     Limit(held.Server(), QFileInfo(Journal()).size() + 5);
     stage->Write(QStringLiteral("first"), {});
     QVERIFY(held.WaitFor("\"event\":\"written\"", 2));
+    QVERIFY(Content().startsWith("{\"complete\":0,"));
     Limit(held.Server(), -1);
     stage->Write(QStringLiteral("second"), {});
     QVERIFY(held.WaitFor("\"event\":\"written\"", 3));
+    QVERIFY(Content().startsWith("{\"complete\":1,"));
+    for (const char* line :
+         {"\n{\"output\":", "\"written\":0}\n", "\"written\":1}\n", "\"written\":2}\n", "\"begin\":3,"}) {
+        QVERIFY2(Content().contains(line), Content().constData());
+    }
+    stage->Write(QStringLiteral("third"), {});
     QCOMPARE(held.End(), 0);
     QVERIFY2(held.Err().count("cannot be written") == 1, held.Err().constData());
     QCOMPARE(stage->Names(QStringLiteral("out")).size(), 4);
