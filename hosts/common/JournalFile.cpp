@@ -4,9 +4,13 @@
 
 #include "job/journal/RunJournal.h"
 
+#include "job/journal/OwnFile.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSysInfo>
 
 #ifdef Q_OS_UNIX
@@ -23,25 +27,24 @@ const QString nameStart = QStringLiteral(".velkora-batch-");
 const QString nameEnd = QStringLiteral(".journal");
 const QString lockEnd = QStringLiteral(".lock");
 
-QString PathOf(const QString& outputFolder, const QString& document)
+/// How the names of all journals of a job begin.
+QString NameStartOf(const QString& document)
 {
     constexpr int digits = 16;
     const QByteArray hash = QCryptographicHash::hash(document.toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QDir(outputFolder).filePath(nameStart + QString::fromLatin1(hash.left(digits)) + nameEnd);
+    return nameStart + QString::fromLatin1(hash.left(digits)) + QLatin1Char('-');
 }
 
-/// The names of the journals in `folder` that hold a run; with `end`, that of a lock, of all that have a lock.
-QStringList JournalsIn(const QDir& folder, const QString& end)
+/// The paths of the files in `folder` whose names have this start and end. A link to nothing counts, too.
+QStringList FilesNamed(const QString& folder, const QString& start, const QString& end)
 {
-    QStringList names;
+    const QDir dir(folder);
+    QStringList paths;
     for (const QString& name :
-         folder.entryList({nameStart + QLatin1Char('*') + nameEnd + end}, QDir::Files | QDir::Hidden, QDir::Name)) {
-        const QString journal = name.chopped(end.size());
-        if (!end.isEmpty() || BatchJob::HasJournalBegun(folder.filePath(journal))) {
-            names.append(journal);
-        }
+         dir.entryList({start + QLatin1Char('*') + end}, QDir::Files | QDir::Hidden | QDir::System, QDir::Name)) {
+        paths.append(dir.filePath(name));
     }
-    return names;
+    return paths;
 }
 
 /// Whether `lock` names a process of this machine that has ended.
@@ -65,67 +68,84 @@ JournalFile::JournalFile(const QString& path)
     : path(path)
     , lock(path + lockEnd)
 {
+    // Only a file of this user can be a lock; the server's is looked at here because its host can say what is wrong.
+    for (const QString& lockPath : {path + lockEnd, path + QLatin1String(BatchJob::journalHoldEnd)}) {
+        const QString ofLock = BatchJob::WhyNotOwnLock(lockPath);
+        if (!ofLock.isEmpty()) {
+            problem = QStringLiteral("%1: %2").arg(lockPath, ofLock);
+            return;
+        }
+    }
     lock.setStaleLockTime(0); // A run may take days: the lock is stale only when its holder has ended.
-    isHeld = lock.tryLock();
+    bool isHeld = lock.tryLock();
     if (!isHeld && HasHolderEnded(lock)) {
         // A server that was just being started when its host was killed keeps the lock until it runs its own program.
         constexpr int timeout = 5'000; // ms
         isHeld = lock.tryLock(timeout);
     }
+    if (!isHeld) {
+        problem = IsInUse() ? QStringLiteral("it is still running") : QStringLiteral("the folder cannot be written");
+    }
 }
 
 JournalFile::~JournalFile() = default;
 
-std::unique_ptr<JournalFile> JournalFile::ForJob(const QString& outputFolder, const QString& document)
+std::unique_ptr<JournalFile> JournalFile::New(const QString& outputFolder, const QString& document)
 {
     QDir().mkpath(outputFolder);
-    std::unique_ptr<JournalFile> journal(new JournalFile(PathOf(outputFolder, document)));
-    if (!journal->isHeld && journal->lock.error() == QLockFile::LockFailedError) {
-        throw RequestError{QStringLiteral("the same job is already running into %1").arg(outputFolder)};
-    }
-    return journal;
+    const quint64 number = QRandomGenerator::system()->generate64();
+    const QString name = NameStartOf(document) + QStringLiteral("%1").arg(number, 16, 16, QLatin1Char('0')) + nameEnd;
+    return std::unique_ptr<JournalFile>(new JournalFile(QDir(outputFolder).filePath(name)));
 }
 
-std::unique_ptr<JournalFile> JournalFile::Interrupted(const QString& outputFolder, const QString& document,
-                                                      bool isThisJob)
+std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
 {
-    const QDir folder(outputFolder);
-    RemoveUnbegun(folder);
-    const QStringList names = JournalsIn(folder, QString());
-    if (names.isEmpty()) {
-        throw RequestError{QStringLiteral("there is no interrupted run in %1").arg(outputFolder)};
+    // Of two processes that begin at once, at least one sees the other: each has its lock before it looks.
+    const QFileInfo own(path);
+    const QString start = own.fileName().left(own.fileName().lastIndexOf(QLatin1Char('-')) + 1);
+    std::vector<std::unique_ptr<JournalFile>> others;
+    QStringList journals = FilesNamed(own.path(), start, nameEnd);
+    for (const QString& lockPath : FilesNamed(own.path(), start, nameEnd + lockEnd)) {
+        journals.append(lockPath.chopped(lockEnd.size()));
     }
-    const QString ofJob = PathOf(outputFolder, document);
-    const bool isOfJob = BatchJob::HasJournalBegun(ofJob);
-    if (isThisJob && !isOfJob) {
+    journals.removeDuplicates();
+    for (const QString& journalPath : qAsConst(journals)) {
+        if (journalPath == path) {
+            continue;
+        }
+        std::unique_ptr<JournalFile> other(new JournalFile(journalPath));
+        if (other->IsInUse()) {
+            throw RequestError{QStringLiteral("the same job is already running into %1").arg(own.path())};
+        }
+        if (other->problem.isEmpty() && other->Exists()) {
+            others.push_back(std::move(other));
+        }
+    }
+    return others;
+}
+
+std::unique_ptr<JournalFile> JournalFile::Take(const QString& path)
+{
+    std::unique_ptr<JournalFile> journal(new JournalFile(path));
+    if (!journal->problem.isEmpty()) {
         throw RequestError{
-            QStringLiteral("the run that was interrupted in %1 is of another job: its inputs, options or "
-                           "files differ")
-                .arg(outputFolder),
-            RequestError::Kind::OtherRunInterrupted};
-    }
-    if (names.size() > 1 && !isOfJob) {
-        throw RequestError{QStringLiteral("%1 runs were interrupted in %2, none of them of this job")
-                               .arg(names.size())
-                               .arg(outputFolder),
-                           RequestError::Kind::SeveralRunsInterrupted};
-    }
-    std::unique_ptr<JournalFile> journal(new JournalFile(names.size() > 1 ? ofJob : folder.filePath(names.first())));
-    if (!journal->isHeld) {
-        const bool isUnderWay = journal->lock.error() == QLockFile::LockFailedError;
-        throw RequestError{QStringLiteral("the run in %1 cannot be resumed: %2")
-                               .arg(outputFolder, isUnderWay ? QStringLiteral("it is still running")
-                                                             : QStringLiteral("the folder cannot be written"))};
+            QStringLiteral("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem)};
     }
     return journal;
 }
 
-/// Removes what processes have left that died before their run began.
-void JournalFile::RemoveUnbegun(const QDir& folder)
+QStringList JournalFile::In(const QString& outputFolder)
 {
-    for (const QString& name : JournalsIn(folder, lockEnd)) {
-        JournalFile journal(folder.filePath(name));
-        if (journal.isHeld && !journal.Exists()) { // Else its run is just starting.
+    return FilesNamed(outputFolder, nameStart, nameEnd);
+}
+
+void JournalFile::RemoveUnbegun(const QString& outputFolder)
+{
+    for (const QString& lockPath : FilesNamed(outputFolder, nameStart, nameEnd + lockEnd)) {
+        const QString journalPath = lockPath.chopped(lockEnd.size());
+        JournalFile journal(journalPath);
+        const bool isOwn = BatchJob::WhyNotOwnLock(journalPath).isEmpty();
+        if (isOwn && journal.problem.isEmpty() && !journal.Exists()) { // Else its run is just starting.
             journal.Remove();
         }
     }

@@ -1,31 +1,40 @@
 #pragma once
 
-#include <QDir>
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
+#include <vector>
 
 namespace BatchHost {
 
 /// The journal of a run: a hidden file in its output folder, which exists until the run is finished. Only one process
-/// at a time holds it.
+/// at a time holds it. Nobody can foresee its name.
 class JournalFile
 {
 public:
-    /// The journal for a new run of the job with the text `document`. An earlier journal of that job is replaced when
-    /// this one is written. IsHeld() is false when the folder cannot be made or written.
-    static std::unique_ptr<JournalFile> ForJob(const QString& outputFolder, const QString& document);
+    /// The journal for a new run of the job with the text `document`. Problem() says whether the folder cannot be made
+    /// or written.
+    static std::unique_ptr<JournalFile> New(const QString& outputFolder, const QString& document);
 
-    /// The journal of the run that was interrupted in `outputFolder`. Where there are several, or with `isThisJob`, it
-    /// has to be a run of the job `document`. Throws RequestError when there is no such run, or when it is still
-    /// running.
-    static std::unique_ptr<JournalFile> Interrupted(const QString& outputFolder, const QString& document,
-                                                    bool isThisJob);
+    /// The journals of interrupted runs of the job with the text `document`, without this one. Throws RequestError if
+    /// such a run is not interrupted but running.
+    std::vector<std::unique_ptr<JournalFile>> OthersOfItsJob() const;
+
+    /// The journal at `path`, to resume its run. Throws RequestError if the run is still running.
+    static std::unique_ptr<JournalFile> Take(const QString& path);
+
+    /// The paths of all files in `outputFolder` that are called like journals, whatever they are.
+    static QStringList In(const QString& outputFolder);
+
+    /// Removes what processes have left in `outputFolder` that died before their run began.
+    static void RemoveUnbegun(const QString& outputFolder);
 
     ~JournalFile();
 
-    bool IsHeld() const { return isHeld; }
+    /// Why this process does not hold the journal, for users; empty if it holds it.
+    QString Problem() const { return problem; }
     QString Path() const { return path; }
 
     /// Whether a run has begun to write it.
@@ -37,11 +46,12 @@ public:
 private:
     explicit JournalFile(const QString& path);
 
-    static void RemoveUnbegun(const QDir& folder);
+    /// Whether another process holds the journal.
+    bool IsInUse() const { return lock.error() == QLockFile::LockFailedError; }
 
     QString path;
     QLockFile lock;
-    bool isHeld = false;
+    QString problem;
 };
 
 } // namespace BatchHost

@@ -17,32 +17,44 @@ JournaledJob JournaledJob::New(const ZTBatchDocument& job)
     RequireRunnableJob(job);
     JournaledJob journaled;
     journaled.document = job.Serialize(nullptr);
-    journaled.file = JournalFile::ForJob(job.GetOutputSettings()->GetPath(), journaled.document);
+    journaled.file = JournalFile::New(job.GetOutputSettings()->GetPath(), journaled.document);
+    journaled.replaced = journaled.file->OthersOfItsJob();
     return journaled;
 }
 
-JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, bool isThisJob)
+JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs, bool isThisJob)
 {
-    const QString folder = job.GetOutputSettings()->GetPath();
-    if (folder.isEmpty()) {
-        throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
-    }
+    const InterruptedRuns::Run& run = runs.Choose(job, isThisJob);
     JournaledJob journaled;
-    journaled.file = JournalFile::Interrupted(folder, job.Serialize(nullptr), isThisJob);
-    const std::optional<JournalState> state = ReadJournal(journaled.file->Path());
-    if (!state || !job.Deserialize(state->document)) {
+    journaled.file = JournalFile::Take(run.journal);
+    journaled.document = run.state->document;
+    journaled.policies = run.state->policies;
+    if (!journaled.file->Exists()) { // The run was still going on when it was chosen, and is finished now.
         throw RequestError{
-            QStringLiteral("%1 is damaged; remove it to start the run anew").arg(journaled.file->Path())};
+            QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
     }
-    journaled.document = state->document;
-    journaled.policies = state->policies;
+    job.Deserialize(journaled.document);
     return journaled;
 }
 
 QString JournaledJob::BeginJournal(const PolicyValues& newPolicies)
 {
-    const bool isWritten = file->IsHeld() && (policies || RunJournal().Create(file->Path(), document, newPolicies));
-    return isWritten ? file->Path() : QString();
+    if (policies) {
+        return file->Path();
+    }
+    problem = file->Problem();
+    RunJournal journal;
+    if (problem.isEmpty() && !journal.Create(file->Path(), document, newPolicies)) {
+        problem = QStringLiteral("%1: %2").arg(file->Path(), journal.Problem());
+    }
+    if (!problem.isEmpty()) {
+        return {};
+    }
+    for (const std::unique_ptr<JournalFile>& earlier : replaced) {
+        earlier->Remove();
+    }
+    replaced.clear();
+    return file->Path();
 }
 
 void JournaledJob::End(const RunEnd& end)

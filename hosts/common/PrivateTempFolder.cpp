@@ -10,13 +10,14 @@ namespace {
 /// The path of a socket may have 107 bytes; this is left for its folder.
 constexpr int longestFolder = 70;
 
-QString Template()
+const QString nameStart = QStringLiteral("velkora-batch-");
+
+QString ParentFolder()
 {
-    const QString name = QStringLiteral("velkora-batch-XXXXXX");
-    const QString preferred = QDir::temp().filePath(name);
+    const QString preferred = QDir::tempPath();
 #ifdef Q_OS_UNIX
-    if (QFile::encodeName(preferred).size() > longestFolder) {
-        return QStringLiteral("/tmp/") + name;
+    if (QFile::encodeName(preferred).size() + nameStart.size() + 7 > longestFolder) {
+        return QStringLiteral("/tmp");
     }
 #endif
     return preferred;
@@ -25,10 +26,17 @@ QString Template()
 } // namespace
 
 PrivateTempFolder::PrivateTempFolder()
-    : folder(Template())
 {
-    if (folder.isValid()) {
-        qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    const QString parent = ParentFolder();
+    TempFolderHold::Sweep(parent, nameStart);
+    // Another process that sweeps may take the new folder for one that was left, until it is held.
+    constexpr int attempts = 10;
+    for (int attempt = 0; attempt < attempts && !(hold && hold->IsHeld()); ++attempt) {
+        folder = std::make_unique<QTemporaryDir>(parent + QLatin1Char('/') + nameStart + QStringLiteral("XXXXXX"));
+        hold = folder->isValid() ? std::make_unique<TempFolderHold>(folder->path()) : nullptr;
+    }
+    if (folder->isValid()) {
+        qputenv("TMPDIR", QFile::encodeName(folder->path()));
     }
 }
 

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "TempFolderHold.h"
+
 #include <QTemporaryDir>
+
+#include <memory>
 
 namespace BatchHost {
 
 /// A temporary folder for this process and its server only, which becomes TMPDIR. The pipe between them has a fixed
-/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object.
+/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object,
+/// or by the next object of another process if this process is killed.
 class PrivateTempFolder
 {
 public:
@@ -13,14 +18,15 @@ public:
     ~PrivateTempFolder();
 
     /// Why the folder could not be made; empty when it was. The server cannot be reached without it.
-    QString Error() const { return folder.isValid() ? QString() : folder.errorString(); }
+    QString Error() const { return folder->isValid() ? QString() : folder->errorString(); }
 
-    void Remove() { folder.remove(); }
+    void Remove() { folder->remove(); }
 
 private:
     Q_DISABLE_COPY(PrivateTempFolder)
 
-    QTemporaryDir folder;
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<TempFolderHold> hold; ///< released before the folder is removed
 };
 
 } // namespace BatchHost

@@ -374,8 +374,16 @@ void RunController::NoteLoss(const QStringList& lost) const
         indexes += open.value(input);
     }
     BatchJob::RunJournal journal;
-    if (!indexes.isEmpty() && journal.Open(order.journalPath)) {
+    if (indexes.isEmpty() || order.journalPath.isEmpty()) {
+        return;
+    }
+    journal.onFailure = [this](const QString& problem) {
+        qWarning("The journal %s cannot be written: %s.", qUtf8Printable(order.journalPath), qUtf8Printable(problem));
+    };
+    if (journal.Open(order.journalPath)) {
         journal.Lose(indexes);
+    } else {
+        journal.onFailure(journal.Problem());
     }
 }
 

@@ -1,8 +1,15 @@
 #include "RunJournal.h"
 
+#include "OwnFile.h"
+
+#include "job/values/FileIdentity.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
+#include <utility>
 
 namespace BatchJob {
 
@@ -11,6 +18,11 @@ namespace {
 using Kind = JournalState::Result::Kind;
 
 constexpr int version = 1;
+
+/// A header begins like this, then a digit, so that an incomplete journal can be marked on a full disk: a byte is
+/// changed in its place.
+constexpr char headerBegin[] = "{\"complete\":";
+constexpr qint64 markPosition = sizeof(headerBegin) - 1;
 
 QString Key(const char* name)
 {
@@ -23,6 +35,8 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     if (line.value(Key("journal")).toInt() != version || policies.size() != int(state.policies.size())) {
         return false;
     }
+    state.isComplete = line.value(Key("complete")).toInt(1) != 0;
+    state.beganAt = line.value(Key("since")).toString().toLongLong();
     state.document = line.value(Key("document")).toString();
     for (std::size_t i = 0; i < state.policies.size(); ++i) {
         state.policies[i] = policies.at(int(i)).toInt();
@@ -82,8 +96,9 @@ void ReadLine(const QJsonObject& line, JournalState& state)
 
 std::optional<JournalState> ReadJournal(const QString& path)
 {
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    QString problem;
+    if (path.isEmpty() || !OpenOwnFile(file, path, OwnFileUse::Read, problem)) {
         return std::nullopt;
     }
     JournalState state;
@@ -106,37 +121,51 @@ std::optional<JournalState> ReadJournal(const QString& path)
 
 bool HasJournalBegun(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.readLine().endsWith('\n');
+    QFile file;
+    QString problem;
+    return OpenOwnFile(file, path, OwnFileUse::Read, problem) && file.readLine().endsWith('\n');
 }
 
-bool RunJournal::Create(const QString& path, const QString& document, const std::array<int, 5>& policies)
+bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies)
 {
-    file.setFileName(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+    auto created = std::make_unique<QFile>();
+    if (!CreateOwnFile(*created, newPath, problem)) {
         return false;
     }
     QJsonArray values;
     for (const int policy : policies) {
         values.append(policy);
     }
-    Write(QJsonDocument(QJsonObject{{Key("journal"), version}, {Key("document"), document}, {Key("policies"), values}})
-              .toJson(QJsonDocument::Compact));
-    return file.error() == QFileDevice::NoError;
+    const QByteArray rest =
+        QJsonDocument(QJsonObject{{Key("journal"), version},
+                                  {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
+                                  {Key("document"), document},
+                                  {Key("policies"), values}})
+            .toJson(QJsonDocument::Compact);
+    const QByteArray header = headerBegin + QByteArray("1,") + rest.mid(1) + '\n';
+    if (created->write(header) != header.size()) {
+        problem = created->errorString();
+        created.reset();
+        QFile::remove(newPath);
+        return false;
+    }
+    file = std::move(created);
+    path = newPath;
+    return true;
 }
 
-bool RunJournal::Open(const QString& path)
+bool RunJournal::Open(const QString& existingPath)
 {
-    file.setFileName(path);
+    auto opened = std::make_unique<QFile>();
     // For appending: host and server write in turn.
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered | QIODevice::ExistingOnly)) {
+    if (!OpenOwnFile(*opened, existingPath, OwnFileUse::Append, problem)) {
         return false;
     }
     // A truncated line must not swallow the next one.
-    file.seek(std::max<qint64>(0, file.size() - 1));
-    if (file.read(1) != "\n") {
-        file.write("\n");
-    }
+    opened->seek(std::max<qint64>(0, opened->size() - 1));
+    isWithinLine = opened->read(1) != "\n";
+    file = std::move(opened);
+    path = existingPath;
     return true;
 }
 
@@ -178,8 +207,46 @@ void RunJournal::Lose(const QVector<int>& indexes)
 
 void RunJournal::Write(const QByteArray& line)
 {
-    if (file.isOpen()) {
-        file.write(line + '\n');
+    if (!file) {
+        return;
+    }
+    pending += line + '\n';
+    if (WritePending()) {
+        if (std::exchange(isMarked, false)) {
+            Mark(true);
+        }
+        return;
+    }
+    if (!std::exchange(isMarked, true)) {
+        Mark(false);
+    }
+    if (!std::exchange(isFailureKnown, true) && onFailure) {
+        onFailure(problem);
+    }
+}
+
+/// Repeats whole lines where an earlier attempt ended within them, which changes nothing for their reader.
+bool RunJournal::WritePending()
+{
+    const QByteArray bytes = isWithinLine ? '\n' + pending : pending;
+    const qint64 written = file->write(bytes);
+    if (written == bytes.size()) {
+        pending.clear();
+        isWithinLine = false;
+        return true;
+    }
+    problem = file->errorString();
+    isWithinLine = isWithinLine || written > 0;
+    return false;
+}
+
+void RunJournal::Mark(bool isComplete)
+{
+    QFile marked;
+    QString ignored;
+    // The header of another host may begin differently.
+    if (OpenOwnFile(marked, path, OwnFileUse::Change, ignored) && marked.read(markPosition) == headerBegin) {
+        marked.write(isComplete ? "1" : "0");
     }
 }
 

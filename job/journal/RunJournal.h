@@ -10,6 +10,8 @@
 #include <QVector>
 
 #include <array>
+#include <functional>
+#include <memory>
 #include <optional>
 
 /// What a run has done so far, in a file that outlives the run. A resumed run repeats nothing, loses nothing, and gives
@@ -36,6 +38,12 @@ struct JournalState
         Warnings warnings = {}; ///< about a picture that was written
     };
 
+    /// When the run began, by the clock of the file system: a ChangeTimeOf(). 0 if that is not known.
+    qint64 beganAt = 0;
+
+    /// False if lines could not be written: files may be done without a line.
+    bool isComplete = true;
+
     QString document;              ///< the text of the job
     std::array<int, 5> policies{}; ///< input, output, processing, naming, write-to-format
 
@@ -55,24 +63,32 @@ struct JournalState
     QMap<int, int> answers;
 };
 
-/// Reads the journal `path`. Nothing when there is none, or the file is something else. A truncated last line is
-/// ignored.
+/// Reads the journal `path`. Nothing when there is none, or the file is something else; a file that OpenOwnFile()
+/// refuses is something else. A truncated last line is ignored.
 std::optional<JournalState> ReadJournal(const QString& path);
 
-/// Whether the run of the journal `path` has started, which is when the first line, the header, is whole.
+/// Whether the run of the journal `path` has started, which is when the first line, the header, is whole. False for a
+/// file that OpenOwnFile() refuses.
 bool HasJournalBegun(const QString& path);
 
-/// Writes a journal. Each line goes to the system at once: it survives the process, not the machine.
+/// Writes a journal. Each line goes to the system at once: it survives the process, not the machine. Lines that cannot
+/// be written are kept and written with the next one; until then the journal is marked as incomplete.
 class RunJournal
 {
 public:
-    /// Starts a new journal at `path`, replacing any other. False when it cannot be written.
+    /// Starts a new journal at `path`, where there must be no file. False when it cannot be written, see Problem().
     bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies);
 
-    /// Continues the journal at `path`. False when there is none, or it cannot be written.
+    /// Continues the journal at `path`. False when there is none, or it cannot be written, see Problem().
     bool Open(const QString& path);
 
-    bool IsOpen() const { return file.isOpen(); }
+    bool IsOpen() const { return file != nullptr; }
+
+    /// What went wrong last, for users.
+    QString Problem() const { return problem; }
+
+    /// Called once, when a line cannot be written for the first time.
+    std::function<void(const QString& problem)> onFailure;
 
     /// A worker is about to make the result of `index`.
     void Begin(int index, const JournalState::Beginning& beginning);
@@ -84,8 +100,16 @@ public:
 
 private:
     void Write(const QByteArray& line);
+    bool WritePending();
+    void Mark(bool isComplete);
 
-    QFile file;
+    std::unique_ptr<QFile> file;
+    QString path;
+    QString problem;
+    QByteArray pending;        ///< lines that are not written yet
+    bool isMarked = false;     ///< as incomplete
+    bool isWithinLine = false; ///< the last attempt wrote a part
+    bool isFailureKnown = false;
 };
 
 } // namespace BatchJob

@@ -279,13 +279,19 @@ const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
         QDirIterator names(target.path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
         while (names.hasNext()) {
             names.next();
-            if (keptPaths.contains(target.path + QLatin1Char('/') + names.fileName())) {
+            const QString path = target.path + QLatin1Char('/') + names.fileName();
+            if (keptPaths.contains(path) || IsNewResult(path)) {
                 continue;
             }
             target.onDisk.insert(NameKey(names.fileName()), names.fileName());
         }
     }
     return target.onDisk;
+}
+
+bool OutputPlan::IsNewResult(const QString& path) const
+{
+    return newResultsSince && QFileInfo(path).isFile() && ChangeTimeOf(path).value_or(0) >= *newResultsSince;
 }
 
 /// The path of the file on the disk whose name equals that of the result; letter case may differ.

@@ -14,6 +14,7 @@
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace BatchJob {
 
@@ -66,6 +67,10 @@ public:
     /// with itself and needs no probe. To be called before MakeNames().
     void KeepResult(int index, const QString& path);
 
+    /// Files in the folders of results that have changed since `time`, a ChangeTimeOf(), are not in the way: an earlier
+    /// part of this run has written them, which nothing else tells. To be called before MakeNames().
+    void ExpectResultsSince(qint64 time) { newResultsSince = time; }
+
     bool IsKept(int index) const { return entries[index].isKept; }
 
     /// Names the results of all files whose format is known, and finds their clashes. False when it was cancelled.
@@ -80,9 +85,10 @@ public:
     /// neither format nor name until ChangeFormat().
     const FormatSchema* Format(int index) const { return entries[index].format; }
 
-    QString Folder(int index) const;     ///< where the result goes; absolute
-    QString OutputName(int index) const; ///< empty as long as there is no format
-    QString Output(int index) const;     ///< folder and name; empty as long as there is no format
+    QString OutputFolder() const { return outputFolder; } ///< of the job; results go there and below it
+    QString Folder(int index) const;                      ///< where the result goes; absolute
+    QString OutputName(int index) const;                  ///< empty as long as there is no format
+    QString Output(int index) const;                      ///< folder and name; empty as long as there is no format
 
     Clash ClashOf(int index) const { return entries[index].clash; }
 
@@ -129,6 +135,7 @@ private:
     void SetName(int index, const QString& addition);
     void PlaceKeptResult(int index);
     void FindClash(int index);
+    bool IsNewResult(const QString& path) const;
     bool IsTaken(int folder, const QString& key);
     const QHash<QString, QString>& OnDisk(int folder);
     QString OnDiskPath(int index);
@@ -144,8 +151,9 @@ private:
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;
-    QHash<Place, int> takers;        ///< the file that has a name
-    QSet<QString> keptPaths;         ///< files that an earlier part of this run has written
+    QHash<Place, int> takers; ///< the file that has a name
+    QSet<QString> keptPaths;  ///< files that an earlier part of this run has written
+    std::optional<qint64> newResultsSince;
     QHash<Place, int> nextAdditions; ///< the first number behind a stem that may be free
     QStringList sharedSources;
     bool areSourcesNoted = false;

@@ -38,6 +38,9 @@ public:
     /// policies leave it under that name.
     void KeepWithoutResult(int file, const QString& path) { givenUp.insert(file, path); }
 
+    /// See OutputPlan::ExpectResultsSince().
+    void ExpectResultsSince(qint64 time) { plan.ExpectResultsSince(time); }
+
     void SetProbe(int file, const ProbeResult& result);
 
     /// A file that cannot be probed cannot be processed either.

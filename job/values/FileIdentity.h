@@ -28,4 +28,8 @@ inline uint qHash(const FileIdentity& identity, uint seed = 0)
 /// The identity of the file at `path`; nothing if there is no file. Safe on any thread.
 std::optional<FileIdentity> IdentityOf(const QString& path);
 
+/// When the file at `path`, a link itself, was last created, renamed or changed in any way, in nanoseconds by the clock
+/// of its file system. A program cannot set that time. Nothing if there is no file. Safe on any thread.
+std::optional<qint64> ChangeTimeOf(const QString& path);
+
 } // namespace BatchJob

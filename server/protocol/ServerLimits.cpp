@@ -34,6 +34,7 @@ ServerLimits ServerLimits::FromEnvironment()
     limits.pixels = ValueOf(megapixelsLimit, megapixel, defaults.pixels);
     limits.workerMemory = ValueOf(workerMemoryLimit, mebibyte, defaults.workerMemory);
     limits.pictureSeconds = ValueOf(pictureTimeLimit, 1, defaults.pictureSeconds);
+    limits.followsLinks = ValueOf(followLinksLimit, 1, 0) != 0;
     return limits;
 }
 

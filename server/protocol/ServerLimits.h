@@ -19,6 +19,7 @@ constexpr ServerLimit workersLimit{"VELKORA_BATCH_WORKERS", 1, 256};
 constexpr ServerLimit megapixelsLimit{"VELKORA_BATCH_MAX_MEGAPIXELS", 1, 100'000};
 constexpr ServerLimit workerMemoryLimit{"VELKORA_BATCH_WORKER_MIB", 128, 1 << 20};
 constexpr ServerLimit pictureTimeLimit{"VELKORA_BATCH_PICTURE_SECONDS", 1, 86'400};
+constexpr ServerLimit followLinksLimit{"VELKORA_BATCH_FOLLOW_LINKS", 0, 1};
 
 /// How much a run may take. The supervisor reads the limits from its environment once, when it starts, and passes them
 /// on to its workers. A variable that is missing, not a number or out of range gives the default.
@@ -28,6 +29,7 @@ struct ServerLimits
     qint64 pixels = 400'000'000;
     qint64 workerMemory = qint64(2) << 30; ///< bytes
     int pictureSeconds = 300;              ///< time for one picture
+    bool followsLinks = false; ///< results go through links to folders below the output folder; only for the supervisor
 
     static ServerLimits FromEnvironment();
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ResultFolder.h"
+
 #include <QString>
 
 /// Files in the making: a result is complete under its final name, or absent.
@@ -20,7 +22,9 @@ public:
         Failed     ///< see Error()
     };
 
-    explicit TemporaryFile(const QString& finalName);
+    /// A file for the result `finalName`, whose folder exists and is `root` or lies below it. No link below `root` is
+    /// followed, whenever it appeared; with an empty root all are, see ResultFolder.
+    explicit TemporaryFile(const QString& finalName, const QString& root = {});
 
     /// Removes the file, unless Place() was successful.
     ~TemporaryFile();
@@ -31,8 +35,13 @@ public:
     /// The open file, for reading and writing at any position; -1 before Create(). This object closes it.
     int Descriptor() const { return descriptor; }
 
-    /// The path of the file; empty before Create().
-    QString FileName() const { return fileName; }
+    /// Where the file was created; empty before Create() and after Place(). Only for people: its folder may have been
+    /// replaced since.
+    QString FileName() const;
+
+    /// A path by which this process opens the file once more. It leads to this very file, where the system has such
+    /// paths.
+    QString OpenPath() const;
 
     /// Flushes the file to disk, renames it to its final name, and flushes the folder. A file of that name is replaced
     /// with `replaceExisting`, else it is never touched, whenever it appeared. After anything but Done the destructor
@@ -42,9 +51,9 @@ public:
     /// What went wrong, for users.
     QString Error() const { return error; }
 
-    /// Removes the temporary files in `folder` that no process is writing. Returns their number. May be called on any
-    /// thread, while other processes do the same.
-    static int Sweep(const QString& folder);
+    /// Removes the temporary files in the folder `path` that no process is writing. Returns their number. May be called
+    /// on any thread, while other processes do the same. Links are treated as in the constructor.
+    static int Sweep(const QString& path, const QString& root = {});
 
 private:
     Q_DISABLE_COPY(TemporaryFile)
@@ -52,7 +61,9 @@ private:
     bool Fail(int errorNumber);
 
     QString finalName;
-    QString fileName;
+    QString root;
+    ResultFolder folder;
+    QString name; ///< in the folder
     QString error;
     int descriptor = -1;
 };

@@ -2,13 +2,14 @@
 
 #include "TemporaryName.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,11 +18,6 @@ namespace BatchProtocol {
 
 namespace {
 
-QString FolderOf(const QString& fileName)
-{
-    return QFileInfo(fileName).path();
-}
-
 bool IsStillThere(int descriptor)
 {
     struct stat status;
@@ -29,58 +25,86 @@ bool IsStillThere(int descriptor)
 }
 
 // Renames without replacing. Not every file system supports this flag of renameat2(), and not every one hard links.
-int RenameToFreeName(const QByteArray& from, const QByteArray& to)
+int RenameToFreeName(int folder, const QByteArray& from, const QByteArray& to)
 {
 #ifdef RENAME_NOREPLACE
-    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
+    if (renameat2(folder, from.constData(), folder, to.constData(), RENAME_NOREPLACE) == 0) {
         return 0;
     }
     if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) {
         return errno;
     }
 #endif
-    if (link(from.constData(), to.constData()) != 0) {
+    if (linkat(folder, from.constData(), folder, to.constData(), 0) != 0) {
         return errno;
     }
-    unlink(from.constData());
+    unlinkat(folder, from.constData(), 0);
     return 0;
 }
 
-// Failure is no error: the file itself is on disk, and not every file system can flush folders.
-void FlushFolder(const QString& folder)
+/// Opens the folder anew, to read it or to flush it.
+int OpenForReading(int folder)
 {
-    const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+// Failure is no error: the file itself is on disk, and not every file system can flush folders.
+void FlushFolder(int folder)
+{
+    const int descriptor = OpenForReading(folder);
     if (descriptor >= 0) {
         fsync(descriptor);
         close(descriptor);
     }
 }
 
+bool SweepFile(int folder, const char* name)
+{
+    const int file = openat(folder, name, O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0) {
+        return false;
+    }
+    const bool isSwept = flock(file, LOCK_EX | LOCK_NB) == 0 && IsStillThere(file) && unlinkat(folder, name, 0) == 0;
+    close(file);
+    return isSwept;
+}
+
 } // namespace
 
-TemporaryFile::TemporaryFile(const QString& finalName)
+TemporaryFile::TemporaryFile(const QString& finalName, const QString& root)
     : finalName(finalName)
+    , root(root)
 {
 }
 
 TemporaryFile::~TemporaryFile()
 {
     if (descriptor >= 0) {
-        if (!fileName.isEmpty()) {
-            unlink(QFile::encodeName(fileName).constData());
+        if (!name.isEmpty()) {
+            unlinkat(folder.Descriptor(), QFile::encodeName(name).constData(), 0);
         }
         close(descriptor);
     }
 }
 
+QString TemporaryFile::FileName() const
+{
+    return name.isEmpty() ? QString() : QFileInfo(finalName).path() + QLatin1Char('/') + name;
+}
+
 bool TemporaryFile::Create()
 {
     Q_ASSERT(descriptor < 0);
+    if (!folder.Open(root, QFileInfo(finalName).path(), ResultFolder::Missing::Fail)) {
+        error = folder.Error();
+        return false;
+    }
     // A sweep of another process may lock or remove the file before it is locked here; then try again.
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const QString name = NewTemporaryName(FolderOf(finalName));
-        const QByteArray path = QFile::encodeName(name);
-        const int file = open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+        const QString newName = NewTemporaryName();
+        const QByteArray native = QFile::encodeName(newName);
+        const int file =
+            openat(folder.Descriptor(), native.constData(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
         if (file < 0) {
             if (errno == EEXIST) {
                 continue;
@@ -90,13 +114,23 @@ bool TemporaryFile::Create()
         const bool isHeldByOther = flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
         if (!isHeldByOther && IsStillThere(file)) {
             descriptor = file;
-            fileName = name;
+            name = newName;
             return true;
         }
-        unlink(path.constData());
+        unlinkat(folder.Descriptor(), native.constData(), 0);
         close(file);
     }
     return Fail(EBUSY);
+}
+
+QString TemporaryFile::OpenPath() const
+{
+    const QString path = QStringLiteral("/proc/self/fd/%1").arg(descriptor);
+    struct stat here;
+    struct stat there;
+    const bool isSame = fstat(descriptor, &here) == 0 && stat(QFile::encodeName(path).constData(), &there) == 0 &&
+                        here.st_dev == there.st_dev && here.st_ino == there.st_ino;
+    return isSame ? path : FileName();
 }
 
 TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
@@ -105,41 +139,41 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
         Fail(errno);
         return Placement::Failed;
     }
-    const QByteArray from = QFile::encodeName(fileName);
-    const QByteArray to = QFile::encodeName(finalName);
+    const QByteArray from = QFile::encodeName(name);
+    const QByteArray to = QFile::encodeName(QFileInfo(finalName).fileName());
     int problem = 0;
     if (!replaceExisting) {
-        problem = RenameToFreeName(from, to);
-    } else if (rename(from.constData(), to.constData()) != 0) {
+        problem = RenameToFreeName(folder.Descriptor(), from, to);
+    } else if (renameat(folder.Descriptor(), from.constData(), folder.Descriptor(), to.constData()) != 0) {
         problem = errno;
     }
     if (problem != 0) {
         Fail(problem);
         return problem == EEXIST ? Placement::NameTaken : Placement::Failed;
     }
-    fileName.clear();
-    FlushFolder(FolderOf(finalName));
+    name.clear();
+    FlushFolder(folder.Descriptor());
     return Placement::Done;
 }
 
-int TemporaryFile::Sweep(const QString& folder)
+int TemporaryFile::Sweep(const QString& path, const QString& root)
 {
+    ResultFolder folder;
+    if (!folder.Open(root, path, ResultFolder::Missing::Fail)) {
+        return 0;
+    }
+    const int readable = OpenForReading(folder.Descriptor());
+    DIR* const entries = readable < 0 ? nullptr : fdopendir(readable);
+    if (!entries) {
+        return 0;
+    }
     int count = 0;
-    const QStringList names = QDir(folder).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
-        if (!IsTemporaryName(name)) {
-            continue;
-        }
-        const QByteArray path = QFile::encodeName(folder + QLatin1Char('/') + name);
-        const int file = open(path.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-        if (file < 0) {
-            continue;
-        }
-        if (flock(file, LOCK_EX | LOCK_NB) == 0 && IsStillThere(file) && unlink(path.constData()) == 0) {
+    while (const dirent* const entry = readdir(entries)) {
+        if (IsTemporaryName(QFile::decodeName(entry->d_name)) && SweepFile(folder.Descriptor(), entry->d_name)) {
             ++count;
         }
-        close(file);
     }
+    closedir(entries);
     return count;
 }
 

@@ -53,8 +53,9 @@ DWORD Rename(HANDLE file, const QString& to, bool replaceExisting)
 
 } // namespace
 
-TemporaryFile::TemporaryFile(const QString& finalName)
+TemporaryFile::TemporaryFile(const QString& finalName, const QString& root)
     : finalName(finalName)
+    , root(root)
 {
 }
 
@@ -62,50 +63,71 @@ TemporaryFile::~TemporaryFile()
 {
     if (descriptor >= 0) {
         _close(descriptor);
-        if (!fileName.isEmpty()) {
-            DeleteFileW(Native(fileName).c_str());
+        if (!name.isEmpty()) {
+            DeleteFileW(Native(FileName()).c_str());
         }
     }
+}
+
+QString TemporaryFile::FileName() const
+{
+    return name.isEmpty() ? QString() : QFileInfo(finalName).path() + QLatin1Char('/') + name;
 }
 
 bool TemporaryFile::Create()
 {
     Q_ASSERT(descriptor < 0);
+    // While the folder is open, it cannot be replaced, so that its path leads to it.
+    if (!folder.Open(root, QFileInfo(finalName).path(), ResultFolder::Missing::Fail)) {
+        error = folder.Error();
+        return false;
+    }
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const QString name = NewTemporaryName(QFileInfo(finalName).path());
-        descriptor = OpenLocked(name);
+        name = NewTemporaryName();
+        descriptor = OpenLocked(FileName());
         if (descriptor >= 0) {
-            fileName = name;
             return true;
         }
-        if (GetLastError() != ERROR_FILE_EXISTS) {
-            break;
+        const DWORD problem = GetLastError();
+        name.clear();
+        if (problem != ERROR_FILE_EXISTS) {
+            return Fail(static_cast<int>(problem));
         }
     }
-    return Fail(static_cast<int>(GetLastError()));
+    return Fail(ERROR_FILE_EXISTS);
+}
+
+QString TemporaryFile::OpenPath() const
+{
+    return FileName();
 }
 
 TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
 {
     const HANDLE file = HandleOf(descriptor);
     // Only the temporary file is hidden, not the result.
-    const bool isReady = FlushFileBuffers(file) && SetFileAttributesW(Native(fileName).c_str(), FILE_ATTRIBUTE_NORMAL);
+    const bool isReady =
+        FlushFileBuffers(file) && SetFileAttributesW(Native(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
     const DWORD problem = isReady ? Rename(file, finalName, replaceExisting) : GetLastError();
     if (problem != ERROR_SUCCESS) {
         Fail(static_cast<int>(problem));
         const bool isTaken = problem == ERROR_ALREADY_EXISTS || problem == ERROR_FILE_EXISTS;
         return isTaken ? Placement::NameTaken : Placement::Failed;
     }
-    fileName.clear();
+    name.clear();
     return Placement::Done;
 }
 
-int TemporaryFile::Sweep(const QString& folder)
+int TemporaryFile::Sweep(const QString& path, const QString& root)
 {
+    ResultFolder folder;
+    if (!folder.Open(root, path, ResultFolder::Missing::Fail)) {
+        return 0;
+    }
     int count = 0;
-    const QStringList names = QDir(folder).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
+    const QStringList names = QDir(path).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
-        if (IsTemporaryName(name) && DeleteFileW(Native(folder + QLatin1Char('/') + name).c_str())) {
+        if (IsTemporaryName(name) && DeleteFileW(Native(path + QLatin1Char('/') + name).c_str())) {
             ++count;
         }
     }

@@ -5,10 +5,10 @@
 
 namespace BatchProtocol {
 
-QString NewTemporaryName(const QString& folder)
+QString NewTemporaryName()
 {
     const quint64 number = QRandomGenerator::system()->generate64();
-    return QStringLiteral("%1/.velkora-%2.tmp").arg(folder).arg(number, 16, 16, QLatin1Char('0'));
+    return QStringLiteral(".velkora-%1.tmp").arg(number, 16, 16, QLatin1Char('0'));
 }
 
 bool IsTemporaryName(const QString& name)

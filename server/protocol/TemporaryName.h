@@ -4,8 +4,8 @@
 
 namespace BatchProtocol {
 
-/// A path in `folder` for a new temporary file.
-QString NewTemporaryName(const QString& folder);
+/// A name for a new temporary file.
+QString NewTemporaryName();
 
 /// Whether `name`, without a folder, is that of a temporary file.
 bool IsTemporaryName(const QString& name);

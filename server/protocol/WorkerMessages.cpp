@@ -88,7 +88,8 @@ auto Fields(Record& record)
     } else if constexpr (std::is_same_v<Plain, ProbeTask>) {
         return std::tie(record.number, record.inputFile);
     } else if constexpr (std::is_same_v<Plain, PictureTask>) {
-        return std::tie(record.number, record.inputFile, record.outputFile, record.format, record.replaceExisting);
+        return std::tie(record.number, record.inputFile, record.outputFile, record.outputRoot, record.format,
+                        record.replaceExisting);
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {

@@ -54,6 +54,7 @@ struct PictureTask
     qint32 number = 0; ///< repeated in the answers
     QString inputFile;
     QString outputFile;           ///< the final name; its folder exists
+    QString outputRoot;           ///< no link below this folder is followed; empty: all are, see ResultFolder
     QString format;               ///< one of Formats(), never "Original"
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
 };

@@ -1,6 +1,6 @@
 #include "Listener.h"
 
-#include "PeerUser.h"
+#include "ZTPipePeer.h"
 
 #include <QLocalSocket>
 #include <QThread>
@@ -52,7 +52,7 @@ bool Listener::Listen(const QString& pipeName)
 void Listener::Accept()
 {
     while (QLocalSocket* const socket = server.nextPendingConnection()) {
-        if (IsPeerOfThisUser(*socket)) {
+        if (ZTPipePeer::IsOfThisUser(*socket)) {
             socket->setParent(nullptr);
             Q_EMIT Connected(socket);
         } else {

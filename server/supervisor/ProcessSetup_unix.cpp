@@ -38,7 +38,7 @@ void ProcessSetup::Prepare()
     ::setsid(); // Fails for the leader of a process group, which is detached already.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN); // A file that has grown too large is an error of writing it.
 }
 
 void ProcessSetup::OnEndRequest(const std::function<void()>& end)

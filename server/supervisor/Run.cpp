@@ -95,6 +95,8 @@ void Run::OnJobRead()
         return;
     }
     plan = std::move(preparation->plan);
+    outputRoot = limits.followsLinks ? QString() : plan.Names().OutputFolder();
+    preparation->outputRoot = outputRoot;
     job = FrameToWorker(Job{preparation->settings, limits});
     decisions.SetFiles(plan.Count());
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
@@ -113,9 +115,11 @@ void Run::OnJobRead()
 
 void Run::AdoptEarlierPart()
 {
-    if (!preparation->earlier || !journal.Open(journalPath)) {
+    if (!preparation->earlier) {
         return;
     }
+    journal = std::move(preparation->journal);
+    journal.onFailure = [this](const QString& problem) { TellJournalFailure(problem); };
     journalLock = std::move(preparation->journalLock);
     const JournalState& earlier = *preparation->earlier;
     losses = earlier.losses;
@@ -146,6 +150,34 @@ void Run::AdoptEarlierPart()
     host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
 }
 
+/// The results that the journal does not know, because it could not be written, are done too.
+void Run::AdoptUnjournaledResults()
+{
+    for (const int file : qAsConst(preparation->unjournaled)) {
+        const QString output = plan.Names().Output(file);
+        host.Log(
+            QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
+                .arg(plan.Names().Input(file), output));
+        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}});
+        host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), output);
+        ++written;
+        decisions.SetDone(file);
+    }
+    if (!preparation->unjournaled.isEmpty()) {
+        host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
+    }
+}
+
+/// On standard error too, which hosts show to their users.
+void Run::TellJournalFailure(const QString& problem) const
+{
+    const QString text = QStringLiteral("The journal %1 cannot be written: %2. The run goes on, but if it is "
+                                        "interrupted now, the run cannot be resumed safely.")
+                             .arg(journalPath, problem);
+    host.Log(text);
+    qWarning("%s", qUtf8Printable(text));
+}
+
 void Run::BeginNaming()
 {
     phase = Phase::Naming;
@@ -163,6 +195,7 @@ void Run::BeginWork()
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
+    AdoptUnjournaledResults();
     preparation.reset();
     pool.Start();
     Q_EMIT HasTasks();
@@ -229,32 +262,33 @@ bool Run::GivePicture(int file)
 {
     const OutputPlan& names = plan.Names();
     const QString folder = names.Folder(file);
-    if (!MakeFolder(folder)) {
-        const QString reason = WhyNotWritable(folder);
-        HandleTrouble(file, {PolicyKind::Output,
-                             ZTBatchMessage::WriteOutputFormatError,
-                             reason.isEmpty() ? QStringLiteral("the folder \"%1\" cannot be made").arg(folder) : reason,
-                             {}});
+    const QString problem = MakeFolder(folder);
+    if (!problem.isEmpty()) {
+        HandleTrouble(file, {PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError, problem, {}});
         return false;
     }
     const QString output = names.Output(file);
     const std::optional<FileIdentity> before = IdentityOf(output);
     journal.Begin(file, {output, before ? before->Text() : QString()});
-    const PictureTask task{file, names.Input(file), output, names.Format(file)->name, plan.IsOverwriting(file)};
+    const PictureTask task{file,       names.Input(file),        output,
+                           outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
     Give({number, file, job, task, before, false});
     return true;
 }
 
-bool Run::MakeFolder(const QString& folder)
+/// Makes the folder unless it exists. Returns why results cannot go there; empty if they can.
+QString Run::MakeFolder(const QString& folder)
 {
     if (madeFolders.contains(folder)) {
-        return true;
+        return {};
     }
-    if (!QDir().mkpath(folder)) {
-        return false;
+    ResultFolder made;
+    if (!made.Open(outputRoot, folder, ResultFolder::Missing::Make)) {
+        const QString reason = WhyNotWritable(folder);
+        return reason.isEmpty() ? made.Error() : reason;
     }
     madeFolders.insert(folder);
-    return true;
+    return {};
 }
 
 /// Hands a file on to the workers, or its trouble to the policies.
@@ -370,7 +404,7 @@ bool Run::FinishUnreported(const Assignment& task)
     if (!picture) {
         return false;
     }
-    TemporaryFile::Sweep(plan.Names().Folder(task.file));
+    TemporaryFile::Sweep(plan.Names().Folder(task.file), outputRoot);
     const std::optional<FileIdentity> now = IdentityOf(picture->outputFile);
     if (!now || now == task.before) {
         return false;
@@ -408,7 +442,7 @@ void Run::OnDropped()
         }
     }
     for (const QString& folder : qAsConst(folders)) {
-        TemporaryFile::Sweep(folder);
+        TemporaryFile::Sweep(folder, outputRoot);
     }
     LogTotals(QStringLiteral("Cancelled"));
     host.Tell<ZTBatchMessage::MsgCancelled>();

@@ -66,12 +66,14 @@ private:
     void StartInBackground(std::function<void(const BackgroundTask::Cancelled&)> work, void (Run::*next)());
     void OnJobRead();
     void AdoptEarlierPart();
+    void AdoptUnjournaledResults();
+    void TellJournalFailure(const QString& problem) const;
     void BeginNaming();
     void BeginWork();
 
     void Give(const BatchProtocol::Assignment& task);
     bool GivePicture(int file);
-    bool MakeFolder(const QString& folder);
+    QString MakeFolder(const QString& folder);
     void Examine(int file);
 
     void OnBegun(const BatchProtocol::Assignment& task);
@@ -127,6 +129,7 @@ private:
     QList<BatchProtocol::Assignment> returned;
     QSet<int> inWork;
     bool isDeciding = false; ///< a loop over decisions is running; it also handles those that arise meanwhile
+    QString outputRoot;      ///< of PictureTasks
     QSet<QString> madeFolders;
     QHash<int, int> takenNames; ///< how often a worker has found the name of a result taken
 

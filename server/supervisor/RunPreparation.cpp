@@ -2,9 +2,13 @@
 
 #include "JobReader.h"
 
+#include "job/journal/OwnFile.h"
+#include "job/values/FileIdentity.h"
 #include "server/protocol/TemporaryFile.h"
 
 #include "ZTBatchDocument.h"
+
+#include <QFileInfo>
 
 #include <utility>
 
@@ -15,6 +19,9 @@ namespace BatchSupervisor {
 void RunPreparation::ReadJob(QString document, const QString& journalPath, const Cancelled& isCancelled)
 {
     OpenJournal(journalPath, document);
+    if (refusal.code != ZTBatchMessage::NoError) {
+        return;
+    }
     const JobReader::Job job = JobReader::Read(std::exchange(document, {}), isCancelled);
     refusal = job.refusal;
     if (isCancelled() || refusal.code != ZTBatchMessage::NoError) {
@@ -35,18 +42,35 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
 
 void RunPreparation::OpenJournal(const QString& path, const QString& document)
 {
-    if (path.isEmpty()) {
+    if (path.isEmpty() || !QFileInfo::exists(path)) {
+        return;
+    }
+    const auto refuse = [this, &path](const QString& reason) {
+        refusal = {ZTBatchMessage::WriteOutputFormatError,
+                   QStringLiteral("the journal %1 cannot be used: %2").arg(path, reason)};
+    };
+    const QString lockPath = path + QLatin1String(journalHoldEnd);
+    const QString problemOfLock = WhyNotOwnLock(lockPath);
+    if (!problemOfLock.isEmpty()) {
+        refuse(QStringLiteral("%1: %2").arg(lockPath, problemOfLock));
         return;
     }
     // The server of a host that was killed may still be cleaning up.
     constexpr int lockTimeout = 15'000; // ms
-    journalLock = std::make_unique<QLockFile>(path + QLatin1String(journalHoldEnd));
+    journalLock = std::make_unique<QLockFile>(lockPath);
     journalLock->setStaleLockTime(0); // Only the end of its holder makes a lock stale, not its age.
-    if (journalLock->tryLock(lockTimeout)) {
-        earlier = ReadJournal(path);
+    if (!journalLock->tryLock(lockTimeout)) {
+        refuse(QStringLiteral("%1 cannot be locked; another server may be at work").arg(lockPath));
+        return;
     }
-    if (earlier && earlier->document != document) {
+    if (!journal.Open(path)) {
+        refuse(journal.Problem());
+        return;
+    }
+    earlier = ReadJournal(path);
+    if (!earlier || earlier->document != document) {
         earlier.reset();
+        journal = {};
     }
 }
 
@@ -77,11 +101,32 @@ void RunPreparation::EnterEarlierResults()
 
 void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCancelled)
 {
+    if (earlier && !earlier->isComplete) {
+        plan.ExpectResultsSince(earlier->beganAt);
+    }
     if (!plan.MakeNames(policies, isCancelled)) {
         return;
     }
+    FindUnjournaledResults();
     for (const QString& folder : plan.Folders()) {
-        removedFiles += isCancelled() ? 0 : BatchProtocol::TemporaryFile::Sweep(folder);
+        removedFiles += isCancelled() ? 0 : BatchProtocol::TemporaryFile::Sweep(folder, outputRoot);
+    }
+}
+
+void RunPreparation::FindUnjournaledResults()
+{
+    if (!earlier || earlier->isComplete) {
+        return;
+    }
+    for (int i = 0; i < plan.Count(); ++i) {
+        const bool isKnown = earlier->results.contains(i) || earlier->begun.contains(i);
+        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
+            continue;
+        }
+        const std::optional<qint64> changed = ChangeTimeOf(plan.Names().Output(i));
+        if (changed && *changed >= earlier->beganAt) {
+            unjournaled.append(i);
+        }
     }
 }
 

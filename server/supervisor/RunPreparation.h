@@ -22,23 +22,32 @@ struct RunPreparation
     /// Reads the job and the journal at `journalPath`, which may be empty, and makes the plan, without names yet.
     void ReadJob(QString document, const QString& journalPath, const Cancelled& isCancelled);
 
-    /// Locks the journal and reads it. A journal of another job than `document` is ignored.
+    /// Locks the journal, opens it and reads it. A journal of another job than `document` is ignored. One that cannot
+    /// be used is refused: without it, results could be made twice.
     void OpenJournal(const QString& path, const QString& document);
 
     /// Enters the results of an earlier part of the run in the plan. A result that the journal only announced counts as
     /// written if its file has changed since: results are whole or absent.
     void EnterEarlierResults();
 
-    /// Makes the names and removes what an earlier run has left unfinished in the folders of the results.
+    /// Makes the names and removes what an earlier run has left unfinished in the folders of the results. Finds results
+    /// that are missing in an incomplete journal.
     void MakeNames(const BatchJob::Policies& policies, const Cancelled& isCancelled);
+
+    /// Where the journal lacks lines, a file under the name of a result that is newer than the run counts as that
+    /// result. To be called with names.
+    void FindUnjournaledResults();
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
     QString settings;          ///< the job without its inputs
     BatchJob::RunPlan plan;
     std::unique_ptr<QLockFile> journalLock; ///< keeps other servers away from the journal
+    BatchJob::RunJournal journal;           ///< open if there is an earlier part of the run
     std::optional<BatchJob::JournalState> earlier;
-    QVector<int> unreported; ///< files whose results were finished, but not journaled
-    int removedFiles = 0;    ///< unfinished files of earlier runs
+    QVector<int> unreported;  ///< files whose results were finished, but not journaled
+    QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
+    QString outputRoot;       ///< of PictureTasks; known before the names
+    int removedFiles = 0;     ///< unfinished files of earlier runs
 };
 
 /// The files of a run that are still to be probed, or whose probe is not over.

@@ -1,6 +1,7 @@
 #include "ZTPipeSession_p.h"
 
 #include "ZTDiagnostics_p.h"
+#include "ZTPipePeer.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -349,6 +350,13 @@ void ZTPipeSession::Private::DeliverMessages()
 
 void ZTPipeSession::Private::OnConnected()
 {
+    if (socket->state() == QLocalSocket::ConnectedState && !ZTPipePeer::IsOfThisUser(*socket)) {
+        // As if nobody listened: neither a connection nor its end is reported.
+        diagnostics.Log(QStringLiteral("The pipe belongs to another user."));
+        const QSignalBlocker blocker(socket);
+        socket->abort();
+        return;
+    }
     if (socket->state() == QLocalSocket::ConnectedState) {
         const QWriteLocker locker(&stateLock);
         connectionState = QLocalSocket::ConnectedState;

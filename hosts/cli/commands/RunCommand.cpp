@@ -9,8 +9,10 @@
 #include "hosts/cli/terminal/Startup.h"
 #include "hosts/common/JobRun.h"
 #include "hosts/common/JournaledJob.h"
+#include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
+#include "ZTBatchOutputSettings.h"
 
 #include <algorithm>
 
@@ -33,10 +35,16 @@ bool IsJobGiven(const ParsedArguments& arguments)
 JournaledJob JournaledJobOf(ZTBatchDocument& job, const ParsedArguments& arguments)
 {
     if (arguments.Has(QStringLiteral("--resume"))) {
-        return JournaledJob::Interrupted(job, IsJobGiven(arguments));
+        const QString folder = job.GetOutputSettings()->GetPath();
+        if (folder.isEmpty()) {
+            throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
+        }
+        const InterruptedRuns runs(folder);
+        TellIgnoredJournals(runs);
+        return JournaledJob::Interrupted(job, runs, IsJobGiven(arguments));
     }
     JournaledJob journaled = JournaledJob::New(job);
-    if (journaled.CanBeResumed()) {
+    if (journaled.StartsAnew()) {
         TellOfInterruptedRun();
     }
     return journaled;
@@ -99,6 +107,7 @@ ExitCode RunJob(const ParsedArguments& arguments)
         const BatchJob::PolicyValues policies = PoliciesOfRun(arguments, journaled, settingsFolder);
         const auto controller = run.Prepare(
             job, journaled, {policies, arguments.Has(QStringLiteral("--strict")), losses.leftOut}, output.Observers());
+        TellMissingJournal(journaled);
         end = RunInteractively(*controller, output.Display(), interrupts);
     }
     journaled.End(end);

@@ -38,6 +38,20 @@ void TellOfInterruptedRun()
                         "an interrupted run."));
 }
 
+void TellIgnoredJournals(const InterruptedRuns& runs)
+{
+    for (const QString& text : runs.Ignored()) {
+        Tell(text + QLatin1Char('.'));
+    }
+}
+
+void TellMissingJournal(const JournaledJob& job)
+{
+    if (!job.Problem().isEmpty()) {
+        Tell(QStringLiteral("should it be interrupted, the run cannot be resumed: %1.").arg(job.Problem()));
+    }
+}
+
 void TellObstacle(const JobRun& run)
 {
     switch (run.WhatPrevents()) {

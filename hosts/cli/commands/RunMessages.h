@@ -8,6 +8,12 @@ namespace BatchCli {
 /// A new run replaces an interrupted one of the same job.
 void TellOfInterruptedRun();
 
+/// The journals in the output folder that are not taken up, and why.
+void TellIgnoredJournals(const BatchHost::InterruptedRuns& runs);
+
+/// Why the run has no journal, if it has none.
+void TellMissingJournal(const BatchHost::JournaledJob& job);
+
 /// Why the run cannot start.
 void TellObstacle(const BatchHost::JobRun& run);
 

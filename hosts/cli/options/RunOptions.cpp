@@ -34,6 +34,8 @@ constexpr std::array limitOptions{
     LimitOption{"--picture-time", "SECONDS", "time that one picture may take; default: 300", pictureTimeLimit},
 };
 
+const QString followLinks = QStringLiteral("--follow-links");
+
 } // namespace
 
 QVector<OptionInfo> RunOptionInfos()
@@ -54,6 +56,10 @@ QVector<OptionInfo> RunOptionInfos()
          QStringLiteral("the folder with BatchExceptionPolicy.ini, which holds the default policies"), run, false,
          Completion::Folders},
     };
+    infos.append({followLinks, QString(),
+                  QStringLiteral("lets results go through links to folders below the output folder; otherwise such a "
+                                 "link is an error of output"),
+                  run});
     for (const LimitOption& option : limitOptions) {
         infos.append({QString::fromLatin1(option.name), QString::fromLatin1(option.valueName),
                       QString::fromLatin1(option.help), QStringLiteral("Limits")});
@@ -73,6 +79,9 @@ void ApplyServerLimits(const ParsedArguments& arguments)
         } catch (const RequestError& error) {
             throw error.In(name);
         }
+    }
+    if (arguments.Has(followLinks)) {
+        followLinksLimit.Set(1);
     }
 }
 

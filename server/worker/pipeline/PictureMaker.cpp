@@ -101,7 +101,7 @@ MadePicture PictureRun::Make()
 {
     const Warnings ofReading = made.warnings;
     MakeFile();
-    if (!profile.isEmpty() && !CarriesProfile(made.file->FileName(), profile, limits)) {
+    if (!profile.isEmpty() && !CarriesProfile(made.file->OpenPath(), profile, limits)) {
         made.warnings = ofReading;
         made.warnings.append(
             {WarningKind::ColoursConverted,
@@ -123,7 +123,7 @@ void PictureRun::MakeFile()
         const int bits = ResultDepth(format, options, HasSixteenBits(framed));
         const Picture ready = colours.Of(framed, bits, made.warnings);
         RequireFormatHolds(format, options, ready, source.Format().name);
-        made.file = std::make_unique<TemporaryFile>(task.outputFile);
+        made.file = std::make_unique<TemporaryFile>(task.outputFile, task.outputRoot);
         if (!made.file->Create()) {
             throw OutputFailed(made.file->Error());
         }
@@ -204,7 +204,7 @@ void PictureRun::Write(const Picture& picture)
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
     Encode(carrier, format, options, BytesBefore(format, metadata), metadata.GoWithoutExif(), made.file->Descriptor());
-    CompleteFile(made.file->FileName(), format, metadata, profile, made.warnings);
+    CompleteFile(made.file->OpenPath(), format, metadata, profile, made.warnings);
 }
 
 void PictureRun::KeepFileTime() const

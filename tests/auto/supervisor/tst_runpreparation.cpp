@@ -20,6 +20,9 @@ private Q_SLOTS:
     void noJournal();
     void journalsAreLocked();
     void journalsOfOtherJobsAreIgnored();
+    void unusableJournalsAreRefused_data();
+    void unusableJournalsAreRefused();
+    void journalsReplaceNothing();
     void answersToUnknownPoliciesAreIgnored();
     void journaledResultsKeepTheirNames();
     void finishedResultsAreFound_data();
@@ -124,6 +127,44 @@ void tst_RunPreparation::journalsOfOtherJobsAreIgnored()
     QVERIFY(!preparation.earlier);
 }
 
+void tst_RunPreparation::unusableJournalsAreRefused_data()
+{
+    QTest::addColumn<QString>("trap");
+    QTest::newRow("link") << QStringLiteral("journal");
+    QTest::newRow("link as lock") << QStringLiteral("journal") + QLatin1String(journalHoldEnd);
+}
+
+// The run would begin anew and make results twice.
+void tst_RunPreparation::unusableJournalsAreRefused()
+{
+    QFETCH(QString, trap);
+    RunJournal journal;
+    StartJournal(journal);
+    if (!QFile::rename(Path(trap), Path(QStringLiteral("elsewhere")))) {
+        Write(QStringLiteral("elsewhere"));
+    }
+    QVERIFY(QFile::link(Path(QStringLiteral("elsewhere")), Path(trap)));
+    RunPreparation preparation;
+    preparation.OpenJournal(Path(QStringLiteral("journal")), Document());
+    QVERIFY(!preparation.earlier);
+    QCOMPARE(preparation.refusal.code, ZTBatchMessage::WriteOutputFormatError);
+    QVERIFY2(preparation.refusal.message.endsWith(QStringLiteral("it is a link")),
+             qPrintable(preparation.refusal.message));
+}
+
+void tst_RunPreparation::journalsReplaceNothing()
+{
+    Write(QStringLiteral("precious"), "precious");
+    QVERIFY(QFile::link(Path(QStringLiteral("precious")), Path(QStringLiteral("journal"))));
+    RunJournal journal;
+    QVERIFY(!journal.Create(Path(QStringLiteral("journal")), Document(), {}));
+    QVERIFY(!journal.IsOpen());
+    QVERIFY(!journal.Problem().isEmpty());
+    QCOMPARE(QFileInfo(Path(QStringLiteral("precious"))).size(), qint64(8));
+    QVERIFY(!journal.Create(Path(QStringLiteral("precious")), Document(), {}));
+    QCOMPARE(QFileInfo(Path(QStringLiteral("precious"))).size(), qint64(8));
+}
+
 void tst_RunPreparation::answersToUnknownPoliciesAreIgnored()
 {
     RunJournal journal;
@@ -214,7 +255,7 @@ void tst_RunPreparation::filesThatTheJobDoesNotHave()
 
 void tst_RunPreparation::unfinishedFilesAreRemoved()
 {
-    const QString unfinished = NewTemporaryName(Path(QStringLiteral("out")));
+    const QString unfinished = Path(QStringLiteral("out/") + NewTemporaryName());
     Write(QDir(folder->path()).relativeFilePath(unfinished));
     Write(QStringLiteral("out/other.txt"));
     RunPreparation preparation;
@@ -227,7 +268,7 @@ void tst_RunPreparation::unfinishedFilesAreRemoved()
 
 void tst_RunPreparation::cancelledNamesRemoveNothing()
 {
-    const QString unfinished = NewTemporaryName(Path(QStringLiteral("out")));
+    const QString unfinished = Path(QStringLiteral("out/") + NewTemporaryName());
     Write(QDir(folder->path()).relativeFilePath(unfinished));
     RunPreparation preparation;
     preparation.plan = Plan(2);

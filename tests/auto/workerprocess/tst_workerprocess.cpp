@@ -47,6 +47,7 @@ private Q_SLOTS:
     void leavesATakenNameAlone();
     void replacesOnRequest();
     void reportsAnUnusableFolder();
+    void followsNoLinkBelowTheRoot();
     void probesFiles();
     void scalesAPicture();
 
@@ -257,6 +258,26 @@ void tst_WorkerProcess::reportsAnUnusableFolder()
     QCOMPARE(report.failure, BatchJob::PolicyKind::Output);
     QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
     QVERIFY(!report.reason.isEmpty());
+}
+
+void tst_WorkerProcess::followsNoLinkBelowTheRoot()
+{
+    WritePicture(Chart(30, 20), Path(QStringLiteral("in.png")));
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("private")));
+    QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("out")));
+    QVERIFY(QFile::link(Path(QStringLiteral("private")), Path(QStringLiteral("out/link"))));
+    PictureTask task = Task(QStringLiteral("in.png"), QStringLiteral("out/link/out.jpg"));
+    task.outputRoot = Path(QStringLiteral("out"));
+    WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    const Report report = worker.Do(task);
+    QCOMPARE(report.failure, BatchJob::PolicyKind::Output);
+    QCOMPARE(report.errorCode, qint32(ZTBatchMessage::WriteOutputFormatError));
+    QVERIFY2(report.reason.contains(QStringLiteral("/out/link is a link; ")), qUtf8Printable(report.reason));
+    QVERIFY(QDir(Path(QStringLiteral("private"))).isEmpty());
+    task.outputRoot.clear();
+    QCOMPARE(worker.Do(task).reason, QString());
+    QVERIFY(QFile::exists(Path(QStringLiteral("private/out.jpg"))));
 }
 
 void tst_WorkerProcess::probesFiles()

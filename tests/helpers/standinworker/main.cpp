@@ -109,11 +109,13 @@ int ReadInput(char* buffer, unsigned size)
 
 Report WriteResult(const PictureTask& task, const QByteArray& content)
 {
-    TemporaryFile file(task.outputFile);
+    TemporaryFile file(task.outputFile, task.outputRoot);
     QFile bytes;
     if (!file.Create() || !bytes.open(file.Descriptor(), QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         bytes.write(content) != content.size()) {
-        return Failure(BatchJob::PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError);
+        Report report = Failure(BatchJob::PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError);
+        report.reason = file.Error();
+        return report;
     }
     switch (file.Place(task.replaceExisting)) {
     case TemporaryFile::Placement::NameTaken:
@@ -135,7 +137,7 @@ void Misbehave(const QByteArray& command, const PictureTask& task)
     if (!endings.contains(command)) {
         return;
     }
-    TemporaryFile half(task.outputFile);
+    TemporaryFile half(task.outputFile, task.outputRoot);
     half.Create();
     if (command == "crash") {
         CrashQuietly();

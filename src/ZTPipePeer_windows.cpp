@@ -1,11 +1,9 @@
-#include "PeerUser.h"
+#include "ZTPipePeer.h"
 
 #include <QByteArray>
 #include <QLocalSocket>
 
 #include <qt_windows.h>
-
-namespace BatchSupervisor {
 
 namespace {
 
@@ -30,11 +28,16 @@ QByteArray UserOf(HANDLE process)
 
 } // namespace
 
-bool IsPeerOfThisUser(const QLocalSocket& socket)
+bool ZTPipePeer::IsOfThisUser(const QLocalSocket& socket)
 {
     const auto pipe = reinterpret_cast<HANDLE>(socket.socketDescriptor());
+    DWORD flags = 0;
     ULONG peerId = 0;
-    if (!GetNamedPipeClientProcessId(pipe, &peerId)) {
+    if (!GetNamedPipeInfo(pipe, &flags, nullptr, nullptr, nullptr)) {
+        return false;
+    }
+    const bool isServer = (flags & PIPE_SERVER_END) != 0;
+    if (!(isServer ? GetNamedPipeClientProcessId(pipe, &peerId) : GetNamedPipeServerProcessId(pipe, &peerId))) {
         return false;
     }
     const HANDLE peer = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, peerId);
@@ -45,5 +48,3 @@ bool IsPeerOfThisUser(const QLocalSocket& socket)
     CloseHandle(peer);
     return !user.isEmpty() && user == UserOf(GetCurrentProcess());
 }
-
-} // namespace BatchSupervisor

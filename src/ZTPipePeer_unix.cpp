@@ -1,4 +1,4 @@
-#include "PeerUser.h"
+#include "ZTPipePeer.h"
 
 #include <QLocalSocket>
 
@@ -6,9 +6,7 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-namespace BatchSupervisor {
-
-bool IsPeerOfThisUser(const QLocalSocket& socket)
+bool ZTPipePeer::IsOfThisUser(const QLocalSocket& socket)
 {
     const int descriptor = int(socket.socketDescriptor());
 #ifdef SO_PEERCRED
@@ -21,5 +19,3 @@ bool IsPeerOfThisUser(const QLocalSocket& socket)
     return ::getpeereid(descriptor, &user, &group) == 0 && user == ::geteuid();
 #endif
 }
-
-} // namespace BatchSupervisor

@@ -1,0 +1,98 @@
+#include "ResultFolder.h"
+
+#include <QDir>
+
+#include <qt_windows.h>
+
+namespace BatchProtocol {
+
+namespace {
+
+/// Opens a folder so that it can be neither renamed nor removed meanwhile.
+HANDLE OpenFolder(const QString& path, DWORD flags)
+{
+    return CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), FILE_LIST_DIRECTORY,
+                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags,
+                       nullptr);
+}
+
+/// Whether the open folder stands for another one. Folders of clouds are reparse points too, but no links.
+bool IsLink(HANDLE folder)
+{
+    FILE_ATTRIBUTE_TAG_INFO found = {};
+    return GetFileInformationByHandleEx(folder, FileAttributeTagInfo, &found, sizeof(found)) &&
+           (found.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(found.ReparseTag);
+}
+
+} // namespace
+
+ResultFolder::~ResultFolder()
+{
+    for (void* const handle : handles) {
+        CloseHandle(handle);
+    }
+}
+
+bool ResultFolder::Open(const QString& root, const QString& path, Missing missing)
+{
+    const QString cleanPath = QDir::cleanPath(path);
+    const QString cleanRoot = root.isEmpty() ? cleanPath : QDir::cleanPath(root);
+    const QString below = QDir(cleanRoot).relativeFilePath(cleanPath);
+    if (below.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(below)) {
+        error = QStringLiteral("%1 does not lie in the output folder %2").arg(path, root);
+        return false;
+    }
+    if (!OpenRoot(cleanRoot, missing)) {
+        return false;
+    }
+    QString folder = cleanRoot;
+    for (const QString& name : below.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        if (name == QLatin1String(".")) {
+            continue;
+        }
+        folder += (folder.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/")) + name;
+        if (!Enter(folder, name, missing)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ResultFolder::OpenRoot(const QString& root, Missing missing)
+{
+    if (missing == Missing::Make) {
+        QDir().mkpath(root);
+    }
+    const HANDLE handle = OpenFolder(root, 0);
+    if (handle == INVALID_HANDLE_VALUE) {
+        error = QStringLiteral("%1: %2").arg(root, qt_error_string(int(GetLastError())));
+        return false;
+    }
+    handles.push_back(handle);
+    return true;
+}
+
+/// Goes into the folder `folder`. Its parent is open and cannot be replaced.
+bool ResultFolder::Enter(const QString& folder, const QString&, Missing missing)
+{
+    if (missing == Missing::Make &&
+        !CreateDirectoryW(QDir::toNativeSeparators(folder).toStdWString().c_str(), nullptr) &&
+        GetLastError() != ERROR_ALREADY_EXISTS) {
+        error = QStringLiteral("the folder %1 cannot be made: %2").arg(folder, qt_error_string(int(GetLastError())));
+        return false;
+    }
+    const HANDLE handle = OpenFolder(folder, FILE_FLAG_OPEN_REPARSE_POINT);
+    if (handle == INVALID_HANDLE_VALUE) {
+        error = QStringLiteral("%1: %2").arg(folder, qt_error_string(int(GetLastError())));
+        return false;
+    }
+    handles.push_back(handle);
+    if (IsLink(handle)) {
+        error =
+            QStringLiteral("%1 is a link; results are not written through it unless links are followed").arg(folder);
+        return false;
+    }
+    return true;
+}
+
+} // namespace BatchProtocol

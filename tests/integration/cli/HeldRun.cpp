@@ -1,0 +1,62 @@
+#include "HeldRun.h"
+
+#include "ProcessEnd.h"
+
+#include <QTest>
+
+#include <csignal>
+
+namespace {
+
+constexpr int patience = 60'000; // ms
+
+} // namespace
+
+void HeldRun::Process::setupChildProcess()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+HeldRun::HeldRun(const CliStage& stage, const QString& arguments)
+{
+    process.setProcessEnvironment(stage.Environment());
+    process.setWorkingDirectory(stage.Folder());
+    process.start(stage.Program(), stage.Arguments(arguments + QStringLiteral(" --workers 1 --json")));
+}
+
+bool HeldRun::WaitFor(const QByteArray& text, int count)
+{
+    while (out.count(text) < count) {
+        if (!process.waitForReadyRead(patience)) {
+            return false;
+        }
+        out += process.readAllStandardOutput();
+    }
+    return true;
+}
+
+qint64 HeldRun::Server() const
+{
+    return ChildrenOf(process.processId()).value(0);
+}
+
+bool HeldRun::Kill()
+{
+    const qint64 server = Server();
+    process.kill();
+    return process.waitForFinished(patience) && server != 0 &&
+           QTest::qWaitFor([server] { return !IsProcessAlive(server); }, patience);
+}
+
+int HeldRun::End()
+{
+    const bool hasEnded = process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit;
+    out += process.readAllStandardOutput();
+    return hasEnded ? process.exitCode() : -1;
+}
+
+QByteArray HeldRun::Err()
+{
+    err += process.readAllStandardError();
+    return err;
+}
