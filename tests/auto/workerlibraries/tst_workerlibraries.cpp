@@ -76,10 +76,10 @@ void tst_WorkerLibraries::decodersOfTheImagingLibrarysModulesWork()
     QVERIFY(picture.save(source));
     WorkerProcess worker;
     worker.Send(JobOf(QStringLiteral("HEIF")));
-    const Report written = worker.Do(PictureTask{1, source, between, QStringLiteral("HEIF"), false});
+    const Report written = worker.Do(PictureTask{1, source, between, {}, QStringLiteral("HEIF"), false});
     QVERIFY2(written.failure == PolicyKind::None, qPrintable(written.reason));
     worker.Send(JobOf(QStringLiteral("PNG")));
-    const Report read = worker.Do(PictureTask{2, between, last, QStringLiteral("PNG"), false});
+    const Report read = worker.Do(PictureTask{2, between, last, {}, QStringLiteral("PNG"), false});
     QVERIFY2(read.failure == PolicyKind::None, qPrintable(read.reason));
     QCOMPARE(QImage(last).size(), picture.size());
 }
