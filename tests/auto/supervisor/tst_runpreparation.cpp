@@ -138,6 +138,9 @@ void tst_RunPreparation::unusableJournalsAreRefused_data()
 void tst_RunPreparation::unusableJournalsAreRefused()
 {
     QFETCH(QString, trap);
+#ifdef Q_OS_WIN
+    QSKIP("Qt makes shortcuts here, which are files.");
+#endif
     RunJournal journal;
     StartJournal(journal);
     if (!QFile::rename(Path(trap), Path(QStringLiteral("elsewhere")))) {
