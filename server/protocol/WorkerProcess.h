@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <optional>
@@ -32,6 +33,13 @@ public:
     ~WorkerProcess() override;
 
     bool IsReady() const { return isReady && !end; }
+
+    /// Whether it may get tasks, now or when it is ready.
+    bool IsStaying() const { return !isLeaving && !end; }
+
+    /// The framed job of its tasks, to which it is confined. Empty before the first task.
+    const QByteArray& CurrentJob() const { return currentJob; }
+
     qint64 ProcessId() const { return process.processId(); }
 
     /// The tasks that are not reported yet, also after the end of the worker.
@@ -41,8 +49,11 @@ public:
     /// results of earlier tasks may be finished though they are not reported; later tasks were not begun.
     int Culprit() const;
 
-    /// Hands over a task, to be done after the earlier ones.
+    /// Hands over a task, to be done after the earlier ones. All tasks of a worker have the same job.
     void Give(const Assignment& task);
+
+    /// Ends the worker when all its tasks are reported; now when it has none.
+    void Leave();
 
     /// Kills the worker for `reason`. Ended() follows when it is gone.
     void End(WorkerEnd reason);
@@ -68,7 +79,8 @@ private:
     void Finish(int exitCode, QProcess::ExitStatus status);
     void FailToStart();
 
-    const int taskTime; ///< ms
+    const int taskTime;            ///< ms
+    QTemporaryDir temporaryFolder; ///< the worker's own: it may write there
     ChildProcess process;
     QTimer clock; ///< runs while an answer is due
     FrameReader reader;
@@ -76,6 +88,7 @@ private:
     QList<Assignment> tasks;
     int begun = 0; ///< how many of the tasks the worker has begun
     bool isReady = false;
+    bool isLeaving = false;
     std::optional<WorkerEnd> end;
     QByteArray lastErrors;
     QString exitText;

@@ -3,6 +3,7 @@
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
+#include "server/protocol/SystemProtection.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
 
@@ -93,10 +94,14 @@ void Run::OnJobRead()
         return;
     }
     plan = std::move(preparation->plan);
-    job = FrameToWorker(Job{preparation->settings, limits});
+    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToProbe});
     decisions.SetFiles(plan.Count());
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
     host.Log(QStringLiteral("The job has %1 files.").arg(plan.Count()));
+    const QStringList missing = SystemProtection::OfThisSystem().Missing();
+    for (const QString& line : missing) {
+        host.Log(line);
+    }
     AdoptEarlierPart();
     probes = ProbeQueue(plan.Names().FilesToProbe());
     if (probes.Count() == 0) {
@@ -161,9 +166,16 @@ void Run::BeginWork()
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
+    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToMake});
     preparation.reset();
     pool.Start();
     Q_EMIT HasTasks();
+}
+
+bool Run::HasWork() const
+{
+    const bool isHandingOut = phase == Phase::Probing || phase == Phase::Working;
+    return isHandingOut && !isPaused && !isStopping && TasksLeft() > 0;
 }
 
 bool Run::HandOut()

@@ -3,8 +3,11 @@
 #include "JobReader.h"
 
 #include "server/protocol/TemporaryFile.h"
+#include "server/protocol/WorkerFiles.h"
 
 #include "ZTBatchDocument.h"
+
+#include <QFileInfo>
 
 #include <utility>
 
@@ -23,7 +26,14 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     ZTBatchDocument withoutInputs;
     withoutInputs.Deserialize(job.settings);
     settings = job.settings;
-    plan = RunPlan(OutputPlan(job.files, CheckSettings(withoutInputs).settings));
+    const JobSettings checked = CheckSettings(withoutInputs).settings;
+    // Where the output folder exists, workers that have probed files can go on to make pictures.
+    rightsToProbe = BatchProtocol::RightsToRead(checked, job.files);
+    rightsToMake = BatchProtocol::RightsToWrite(rightsToProbe, checked);
+    if (QFileInfo(checked.outputFolder).isDir()) {
+        rightsToProbe = rightsToMake;
+    }
+    plan = RunPlan(OutputPlan(job.files, checked));
     EnterEarlierResults();
     plan.ReadInputs(isCancelled);
 }

@@ -3,6 +3,7 @@
 #include "job/journal/RunJournal.h"
 #include "job/plan/RunPlan.h"
 #include "job/settings/JobCheck.h"
+#include "server/protocol/WorkerMessages.h"
 
 #include <QLockFile>
 #include <QString>
@@ -34,6 +35,8 @@ struct RunPreparation
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
     QString settings;          ///< the job without its inputs
+    BatchProtocol::WorkerRights rightsToProbe;
+    BatchProtocol::WorkerRights rightsToMake;
     BatchJob::RunPlan plan;
     std::unique_ptr<QLockFile> journalLock; ///< keeps other servers away from the journal
     std::optional<BatchJob::JournalState> earlier;
