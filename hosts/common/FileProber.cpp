@@ -4,8 +4,11 @@
 
 #include "server/protocol/ServerLimits.h"
 #include "server/protocol/TaskFailure.h"
+#include "server/protocol/WorkerFiles.h"
 #include "server/protocol/WorkerPool.h"
 #include "server/protocol/WorkerProgram.h"
+
+#include "ZTBatchDocument.h"
 
 #include <QEventLoop>
 #include <QQueue>
@@ -25,6 +28,17 @@ ServerLimits LimitsFor(int files)
     return limits;
 }
 
+WorkerRights RightsToProbe(const QVector<FileProber::File>& files, const QString& settings)
+{
+    ZTBatchDocument document;
+    document.Deserialize(settings);
+    QVector<BatchJob::JobFile> jobFiles;
+    for (const FileProber::File& file : files) {
+        jobFiles.append({file.path, QString()});
+    }
+    return RightsToRead(BatchJob::CheckSettings(document).settings, jobFiles);
+}
+
 /// The files that are still to be probed, and the workers that do it.
 class ProbeRun
 {
@@ -35,7 +49,7 @@ public:
         , open(files.size())
         , pool(WorkerProgram(), limits)
     {
-        const QByteArray job = FrameToWorker(BatchProtocol::Job{settings, limits});
+        job = FrameToWorker(BatchProtocol::Job{settings, limits, RightsToProbe(files, settings)});
         for (const FileProber::File& file : files) {
             Assignment task;
             task.file = file.number;
@@ -67,6 +81,7 @@ public:
     QString Execute()
     {
         pool.Start();
+        pool.Serve({job});
         if (open > 0) {
             loop.exec();
         }
@@ -82,7 +97,7 @@ private:
     void HandOut()
     {
         while (!waiting.isEmpty() &&
-               (waiting.head().isSecondTry ? pool.HasIdleWorker() : pool.HasRoom(waiting.size()))) {
+               (waiting.head().isSecondTry ? pool.HasIdleWorker(job) : pool.HasRoom(job, waiting.size()))) {
             pool.Give(waiting.dequeue());
         }
     }
@@ -98,6 +113,7 @@ private:
     const ServerLimits limits;
     const FileProber::ReportHandler& onReport;
     int open; ///< files that are not reported yet
+    QByteArray job;
     QQueue<Assignment> waiting;
     QString problem;
     QEventLoop loop;

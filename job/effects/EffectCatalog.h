@@ -28,6 +28,8 @@ struct EffectSchema
     /// refused, or nothing. It may open files. Null when there is nothing more to check.
     QString (*extraProblem)(const QJsonObject& parameters) = nullptr;
 
+    bool usesFonts = false; ///< whether it writes text
+
     /// See NeedsRandomAccess(). Null when the effect never does.
     bool (*randomAccess)(const QJsonObject& parameters) = nullptr;
 

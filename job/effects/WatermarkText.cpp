@@ -39,6 +39,7 @@ EffectSchema WatermarkTextEffect()
                        "picture for a colour that is not grey.");
     effect.example = QByteArrayLiteral(R"({"text": "Sample", "size": 14, "position": "centre"})");
     effect.extraProblem = PlacementProblem;
+    effect.usesFonts = true;
     return effect;
 }
 

@@ -4,6 +4,7 @@
 #include <csignal>
 #endif
 #ifdef Q_OS_LINUX
+#include <fcntl.h>
 #include <pthread.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -18,6 +19,9 @@ namespace BatchProtocol {
 namespace {
 
 pid_t parentId = 0;
+
+constexpr int closeOnExec = 1 << 2;   // CLOSE_RANGE_CLOEXEC of linux/close_range.h, since Linux 5.11
+constexpr int mostDescriptors = 4096; // that are looked for on older kernels
 
 void EndWithParent()
 {
@@ -47,6 +51,12 @@ ChildProcess::ChildProcess(QObject* parent)
 void ChildProcess::setupChildProcess()
 {
     EndWithParent();
+    // This process may have been given open files by its own parent.
+    if (close_range(STDERR_FILENO + 1, ~0U, closeOnExec) != 0) {
+        for (int descriptor = STDERR_FILENO + 1; descriptor < mostDescriptors; ++descriptor) {
+            fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+        }
+    }
 }
 
 #else

@@ -11,7 +11,7 @@ namespace BatchProtocol {
 void EndForkedCopiesWithThisProcess();
 
 /// A process that the system ends together with this one, where it can (Linux and Windows). Elsewhere a worker notices
-/// the end of its input.
+/// the end of its input. It inherits its three standard streams and no other open file.
 class ChildProcess : public QProcess
 {
     Q_OBJECT

@@ -84,7 +84,8 @@ auto Fields(Record& record)
     using Plain = std::remove_const_t<Record>;
     if constexpr (std::is_same_v<Plain, Job>) {
         return std::tie(record.document, record.limits.workers, record.limits.pixels, record.limits.workerMemory,
-                        record.limits.pictureSeconds);
+                        record.limits.pictureSeconds, record.rights.readable, record.rights.writable,
+                        record.rights.usesFonts);
     } else if constexpr (std::is_same_v<Plain, ProbeTask>) {
         return std::tie(record.number, record.inputFile);
     } else if constexpr (std::is_same_v<Plain, PictureTask>) {

@@ -11,6 +11,7 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <variant>
@@ -18,10 +19,11 @@
 /// The messages between a worker and its client, over the worker's standard input and output.
 ///
 /// When it is ready, and before it reads anything, a worker sends a Report with the number workerIsReady. Then it gets
-/// a Job and tasks, and answers each task with one Beginning and one Report. Both come in the order of the tasks, but a
-/// worker may begin a task before the previous one is reported, while the result of that one is being flushed to disk.
-/// So the last Beginning of a worker that ends names the task over which it ended. The client may send the next task
-/// before the last one is reported. The end of its input ends a worker.
+/// a Job, which confines it to the files of this job for the rest of its life, and tasks, and answers each task with
+/// one Beginning and one Report. Both come in the order of the tasks, but a worker may begin a task before the previous
+/// one is reported, while the result of that one is being flushed to disk. So the last Beginning of a worker that ends
+/// names the task over which it ended. The client may send the next task before the last one is reported. The end of
+/// its input ends a worker.
 namespace BatchProtocol {
 
 /// The number of a worker's first report. A worker that ends without it could not start, which is no picture's
@@ -34,11 +36,21 @@ constexpr int workerOutOfMemory = 10;
 /// What a worker may write to standard error for one task, in bytes. A worker that writes more is ended.
 constexpr qint64 mostErrorsOfTask = 16 << 20;
 
-/// The settings of all pictures of a run. A later job replaces the previous one.
+/// What a worker may open. Paths are absolute, and what is below a folder belongs to it.
+struct WorkerRights
+{
+    QStringList readable;   ///< files and folders
+    QStringList writable;   ///< folders; they can also be read
+    bool usesFonts = false; ///< fonts of the user and of the system
+};
+
+/// The settings of all pictures of a run. A later job replaces the settings of the previous one. Its limits and rights
+/// change nothing: what a worker has given up is gone.
 struct Job
 {
     QString document; ///< the XML text of the job without its inputs: output settings and style
     ServerLimits limits;
+    WorkerRights rights;
 };
 
 /// Look at a file for the plan of a run. Nothing is written.

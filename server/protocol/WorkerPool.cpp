@@ -44,28 +44,117 @@ WorkerPool::~WorkerPool()
 void WorkerPool::Start()
 {
     failures = 0;
+    for (WorkerProcess* worker : qAsConst(workers)) {
+        if (!worker->CurrentJob().isEmpty() && worker->Tasks().isEmpty() && !served.contains(worker->CurrentJob())) {
+            worker->Leave();
+        }
+    }
     while (workers.size() < limits.workers) {
         StartWorker();
     }
 }
 
-bool WorkerPool::HasRoom(int left) const
+void WorkerPool::Serve(const QVector<QByteArray>& jobs)
 {
-    const int most = left > workers.size() ? tasksAhead : 1;
-    return std::any_of(workers.begin(), workers.end(),
-                       [most](const WorkerProcess* worker) { return CanTake(*worker, most); });
+    const auto isOver = [&jobs](const QByteArray& job) { return !jobs.contains(job); };
+    served.erase(std::remove_if(served.begin(), served.end(), isOver), served.end());
+    int coming = workers.size();
+    for (const WorkerProcess* worker : qAsConst(workers)) {
+        coming -= worker->IsStaying() && !worker->CurrentJob().isEmpty() ? 1 : 0;
+    }
+    for (const QByteArray& job : jobs) {
+        if (!served.contains(job)) {
+            served.append(job);
+        }
+    }
+    for (const QByteArray& job : qAsConst(served)) {
+        if (CountOf(job) >= Share()) {
+            continue;
+        }
+        if (coming > 0) {
+            --coming;
+        } else if (WorkerProcess* const worker = WorkerToGiveAway(job)) {
+            worker->Leave();
+        }
+    }
+}
+
+bool WorkerPool::HasRoom(const QByteArray& job, int left) const
+{
+    return WorkerFor(job, left > workers.size() ? tasksAhead : 1) != nullptr;
 }
 
 void WorkerPool::Give(const Assignment& task)
 {
+    WorkerProcess* const worker = WorkerFor(task.job, tasksAhead);
+    Q_ASSERT(worker);
+    if (worker->CurrentJob().isEmpty() && served.removeOne(task.job)) {
+        served.append(task.job);
+    }
+    worker->Give(task);
+}
+
+/// The worker with the fewest tasks, below `mostTasks`, that can take one of `job`; null when there is none.
+WorkerProcess* WorkerPool::WorkerFor(const QByteArray& job, int mostTasks) const
+{
+    const bool mayTakeNew = IsFirstInLine(job);
     WorkerProcess* freest = nullptr;
-    for (WorkerProcess* worker : qAsConst(workers)) {
-        if (CanTake(*worker, tasksAhead) && (!freest || worker->Tasks().size() < freest->Tasks().size())) {
+    int fewest = mostTasks;
+    for (WorkerProcess* worker : workers) {
+        const bool isRight = worker->CurrentJob().isEmpty() ? mayTakeNew : worker->CurrentJob() == job;
+        if (isRight && worker->IsStaying() && CanTake(*worker, fewest)) {
             freest = worker;
+            fewest = worker->Tasks().size();
         }
     }
-    Q_ASSERT(freest);
-    freest->Give(task);
+    return freest;
+}
+
+/// A worker of another job than `job` that should make room for it; null when none should.
+WorkerProcess* WorkerPool::WorkerToGiveAway(const QByteArray& job) const
+{
+    const bool hasNone = CountOf(job) == 0;
+    WorkerProcess* chosen = nullptr;
+    int mostOfJob = 0;
+    for (WorkerProcess* worker : workers) {
+        const QByteArray& other = worker->CurrentJob();
+        if (!worker->IsStaying() || other.isEmpty() || other == job) {
+            continue;
+        }
+        if (!served.contains(other)) {
+            if (worker->Tasks().isEmpty()) {
+                return worker;
+            }
+            continue; // It is free soon.
+        }
+        const int count = CountOf(other);
+        if ((hasNone || count > Share()) && count > mostOfJob) {
+            chosen = worker;
+            mostOfJob = count;
+        }
+    }
+    return chosen;
+}
+
+/// Whether the next worker without a job is for `job`: the served job that has the fewest, and has waited longest.
+bool WorkerPool::IsFirstInLine(const QByteArray& job) const
+{
+    const auto first = std::min_element(served.begin(), served.end(), [this](const auto& left, const auto& right) {
+        return CountOf(left) < CountOf(right);
+    });
+    return first != served.end() && *first == job;
+}
+
+int WorkerPool::CountOf(const QByteArray& job) const
+{
+    return int(std::count_if(workers.begin(), workers.end(), [&job](const WorkerProcess* worker) {
+        return worker->IsStaying() && worker->CurrentJob() == job;
+    }));
+}
+
+int WorkerPool::Share() const
+{
+    return std::max(1, limits.workers / std::max(1, served.size()));
 }
 
 void WorkerPool::Drop(quint64 run)
@@ -104,7 +193,7 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
     const QList<Assignment> tasks = worker->Tasks();
     const int culprit = worker->Culprit();
     const QString text = worker->EndText();
-    if (tasks.isEmpty()) {
+    if (tasks.isEmpty() && reason != WorkerEnd::Dropped) {
         ++failures;
         qWarning("A worker %s.", qUtf8Printable(text));
     }

@@ -10,8 +10,11 @@
 
 namespace BatchProtocol {
 
-/// A number of workers that are started in advance and reused for many tasks and runs. A worker that ends is replaced.
-/// Each gets its next task before it has finished the last, so that it never waits.
+/// A number of workers that are started in advance and reused for many tasks. A worker that ends is replaced. Each gets
+/// its next task before it has finished the last, so that it never waits.
+///
+/// The first task confines a worker to the files of its job. A worker of one job never gets a task of another: it ends,
+/// and a new one takes its place.
 class WorkerPool : public QObject
 {
     Q_OBJECT
@@ -20,17 +23,23 @@ public:
     WorkerPool(const QString& program, const ServerLimits& limits, QObject* parent = nullptr);
     ~WorkerPool() override;
 
-    /// Starts the missing workers, even if earlier ones failed to start.
+    /// Starts the missing workers, even if earlier ones failed to start, and replaces those whose job has no more
+    /// tasks.
     void Start();
 
-    /// Whether a worker can take a task of a run with `left` tasks to hand out. The last tasks of a run wait for an
-    /// idle worker, instead of queueing behind another task.
-    bool HasRoom(int left) const;
+    /// Divides the workers among `jobs`, the framed jobs that have tasks to hand out. Each gets its share, as soon as
+    /// other jobs have finished the tasks of the workers that they have to give away; if there are more jobs than
+    /// workers, they take turns.
+    void Serve(const QVector<QByteArray>& jobs);
 
-    /// Whether a worker can take a task that gets a worker for itself.
-    bool HasIdleWorker() const { return HasRoom(0); }
+    /// Whether a worker can take a task of `job`, one of those that are served, of which `left` tasks are to be handed
+    /// out. The last tasks wait for an idle worker, instead of queueing behind another task.
+    bool HasRoom(const QByteArray& job, int left) const;
 
-    /// Hands a task to a worker. HasRoom() must be true, and HasIdleWorker() for a second try.
+    /// Whether a worker can take a task of `job` that gets a worker for itself.
+    bool HasIdleWorker(const QByteArray& job) const { return HasRoom(job, 0); }
+
+    /// Hands a task to a worker. HasRoom() must be true for its job, and HasIdleWorker() for a second try.
     void Give(const Assignment& task);
 
     /// Ends the workers that have tasks of `run`. Always followed by Dropped() when they are gone, never from inside
@@ -56,6 +65,11 @@ Q_SIGNALS:
     void Broken(const QString& reason);
 
 private:
+    WorkerProcess* WorkerFor(const QByteArray& job, int mostTasks) const;
+    WorkerProcess* WorkerToGiveAway(const QByteArray& job) const;
+    bool IsFirstInLine(const QByteArray& job) const;
+    int CountOf(const QByteArray& job) const;
+    int Share() const;
     void StartWorker();
     void Remove(WorkerProcess* worker, WorkerEnd reason);
     void GiveBack(const QList<Assignment>& tasks, int culprit, WorkerEnd reason, const QString& text);
@@ -66,6 +80,7 @@ private:
     const QString program;
     const ServerLimits limits;
     QVector<WorkerProcess*> workers;
+    QVector<QByteArray> served; ///< jobs; those that have waited longest for a new worker come first
     QSet<quint64> drops;
     QTimer memoryWatch;
     int failures = 0; ///< workers that ended without a task since the last report

@@ -1,5 +1,6 @@
 #include "WorkerProcess.h"
 
+#include <QDir>
 #include <QPointer>
 
 #include <chrono>
@@ -16,10 +17,11 @@ constexpr int keptErrors = 1000; // bytes
 
 // There is a worker for each core, so further threads would only compete. OpenMP reads the variable when its library is
 // loaded, before a worker could set it.
-QProcessEnvironment EnvironmentOfWorkers()
+QProcessEnvironment EnvironmentOfWorkers(const QString& temporaryFolder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
+    environment.insert(QStringLiteral("TMPDIR"), temporaryFolder);
     return environment;
 }
 
@@ -37,6 +39,7 @@ QString CrashText(int exitCode)
 WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent)
     : QObject(parent)
     , taskTime(limits.pictureSeconds * 1000)
+    , temporaryFolder(QDir::temp().filePath(QStringLiteral("velkora-worker-XXXXXX")))
 {
     clock.setSingleShot(true);
     connect(&clock, &QTimer::timeout, this, [this] { End(isReady ? WorkerEnd::Hung : WorkerEnd::FailedToStart); });
@@ -49,7 +52,7 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
         }
     });
     clock.start(startTime);
-    process.setProcessEnvironment(EnvironmentOfWorkers());
+    process.setProcessEnvironment(EnvironmentOfWorkers(temporaryFolder.path()));
     process.Launch(program, QStringList());
 }
 
@@ -62,15 +65,24 @@ WorkerProcess::~WorkerProcess()
 
 void WorkerProcess::Give(const Assignment& task)
 {
-    if (currentJob != task.job) {
+    if (currentJob.isEmpty()) {
         currentJob = task.job;
         process.write(currentJob);
     }
+    Q_ASSERT(currentJob == task.job);
     process.write(FrameToWorker(task.task));
     tasks.append(task);
     if (tasks.size() == 1) {
         clock.start(taskTime);
         Q_EMIT Begun(task);
+    }
+}
+
+void WorkerProcess::Leave()
+{
+    isLeaving = true;
+    if (tasks.isEmpty()) {
+        End(WorkerEnd::Dropped);
     }
 }
 
@@ -146,8 +158,13 @@ void WorkerProcess::OnReport(const Report& report)
     const QPointer<WorkerProcess> self(this);
     const bool hasNext = !tasks.isEmpty();
     Q_EMIT Reported(task, report);
-    if (self && !end && hasNext) {
+    if (!self || end) {
+        return;
+    }
+    if (hasNext) {
         Q_EMIT Begun(tasks.first());
+    } else if (isLeaving) {
+        End(WorkerEnd::Dropped);
     }
 }
 

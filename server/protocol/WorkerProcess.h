@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <optional>
@@ -33,6 +34,13 @@ public:
     ~WorkerProcess() override;
 
     bool IsReady() const { return isReady && !end; }
+
+    /// Whether it may get tasks, now or when it is ready.
+    bool IsStaying() const { return !isLeaving && !end; }
+
+    /// The framed job of its tasks, to which it is confined. Empty before the first task.
+    const QByteArray& CurrentJob() const { return currentJob; }
+
     qint64 ProcessId() const { return process.processId(); }
 
     /// The tasks that are not reported yet, also after the end of the worker.
@@ -42,8 +50,11 @@ public:
     /// results of earlier tasks may be finished though they are not reported; later tasks were not begun.
     int Culprit() const;
 
-    /// Hands over a task, to be done after the earlier ones.
+    /// Hands over a task, to be done after the earlier ones. All tasks of a worker have the same job.
     void Give(const Assignment& task);
+
+    /// Ends the worker when all its tasks are reported; now when it has none.
+    void Leave();
 
     /// Kills the worker for `reason`. Ended() follows when it is gone.
     void End(WorkerEnd reason);
@@ -69,7 +80,8 @@ private:
     void Finish(int exitCode, QProcess::ExitStatus status);
     void FailToStart();
 
-    const int taskTime; ///< ms
+    const int taskTime;            ///< ms
+    QTemporaryDir temporaryFolder; ///< the worker's own: it may write there
     ChildProcess process;
     QTimer clock; ///< runs while an answer is due
     FrameReader reader;
@@ -77,6 +89,7 @@ private:
     QList<Assignment> tasks;
     int begun = 0; ///< how many of the tasks the worker has begun
     bool isReady = false;
+    bool isLeaving = false;
     std::optional<WorkerEnd> end;
     QByteArray lastErrors;
     qint64 errorBytes = 0; ///< since the last report

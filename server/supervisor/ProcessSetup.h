@@ -8,7 +8,8 @@ namespace BatchSupervisor {
 namespace ProcessSetup {
 
 /// Detaches the process from the terminal of its host: Ctrl-C there is for the host, which decides what to cancel.
-/// Makes file names UTF-8 in any locale, on systems that leave this to programs. To be called before anything else.
+/// Closes its memory to other processes of its user, where the system can. Makes file names UTF-8 in any locale, on
+/// systems that leave this to programs. To be called before anything else.
 void Prepare();
 
 /// Calls `end` on this thread, from its event loop, when the system asks the process to end.

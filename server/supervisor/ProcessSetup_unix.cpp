@@ -34,6 +34,8 @@ void ProcessSetup::Prepare()
     // The host may have set it for the time until the server runs. From here on the server ends itself: when it loses
     // the connection it removes unfinished files first.
     ::prctl(PR_SET_PDEATHSIG, 0);
+    // A worker that a picture has taken over is a process of the same user. It must not reach this one through /proc.
+    ::prctl(PR_SET_DUMPABLE, 0);
 #endif
     ::setsid(); // Fails for the leader of a process group, which is detached already.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

@@ -4,8 +4,10 @@
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
+#include "server/protocol/SystemProtection.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
+#include "server/protocol/WorkerFiles.h"
 
 #include <QDir>
 
@@ -97,10 +99,14 @@ void Run::OnJobRead()
     plan = std::move(preparation->plan);
     outputRoot = limits.followsLinks ? QString() : plan.Names().OutputFolder();
     preparation->outputRoot = outputRoot;
-    job = FrameToWorker(Job{preparation->settings, limits});
+    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToProbe});
     decisions.SetFiles(plan.Count());
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
     host.Log(QStringLiteral("The job has %1 files.").arg(plan.Count()));
+    const QStringList missing = SystemProtection::OfThisSystem().Missing();
+    for (const QString& line : missing) {
+        host.Log(line);
+    }
     AdoptEarlierPart();
     probes = ProbeQueue(plan.Names().FilesToProbe());
     if (probes.Count() == 0) {
@@ -196,9 +202,19 @@ void Run::BeginWork()
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
     AdoptUnjournaledResults();
+    if (limits.followsLinks) {
+        preparation->rightsToMake.writable += LinkedFolders(plan.Names());
+    }
+    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToMake});
     preparation.reset();
     pool.Start();
     Q_EMIT HasTasks();
+}
+
+bool Run::HasWork() const
+{
+    const bool isHandingOut = phase == Phase::Probing || phase == Phase::Working;
+    return isHandingOut && !isPaused && !isStopping && TasksLeft() > 0;
 }
 
 bool Run::HandOut()
@@ -210,7 +226,7 @@ bool Run::HandOut()
         return false;
     }
     if (!returned.isEmpty()) {
-        if (returned.first().isSecondTry && !pool.HasIdleWorker()) {
+        if (returned.first().isSecondTry && !pool.HasIdleWorker(job)) {
             return false;
         }
         Give(returned.takeFirst());

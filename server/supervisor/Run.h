@@ -45,6 +45,12 @@ public:
     /// The greatest number of tasks that may still be handed out.
     int TasksLeft() const;
 
+    /// Whether there may be a task to hand out now.
+    bool HasWork() const;
+
+    /// The framed job of the tasks that are handed out now.
+    const QByteArray& CurrentJob() const { return job; }
+
     bool IsOver() const { return phase == Phase::Over; }
 
     /// Commands of the host. Commands that are invalid in the current state are logged and ignored.

@@ -5,6 +5,7 @@
 #include "job/journal/OwnFile.h"
 #include "job/values/FileIdentity.h"
 #include "server/protocol/TemporaryFile.h"
+#include "server/protocol/WorkerFiles.h"
 
 #include "ZTBatchDocument.h"
 
@@ -35,6 +36,12 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
         return;
     }
     settings = job.settings;
+    // Where the output folder exists, workers that have probed files can go on to make pictures.
+    rightsToProbe = BatchProtocol::RightsToRead(checked.settings, job.files);
+    rightsToMake = BatchProtocol::RightsToWrite(rightsToProbe, checked.settings);
+    if (QFileInfo(checked.settings.outputFolder).isDir()) {
+        rightsToProbe = rightsToMake;
+    }
     plan = RunPlan(OutputPlan(job.files, checked.settings));
     EnterEarlierResults();
     plan.ReadInputs(isCancelled);

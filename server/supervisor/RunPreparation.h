@@ -3,6 +3,7 @@
 #include "job/journal/RunJournal.h"
 #include "job/plan/RunPlan.h"
 #include "job/settings/JobCheck.h"
+#include "server/protocol/WorkerMessages.h"
 
 #include <QLockFile>
 #include <QString>
@@ -40,6 +41,8 @@ struct RunPreparation
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
     QString settings;          ///< the job without its inputs
+    BatchProtocol::WorkerRights rightsToProbe;
+    BatchProtocol::WorkerRights rightsToMake;
     BatchJob::RunPlan plan;
     std::unique_ptr<QLockFile> journalLock; ///< keeps other servers away from the journal
     BatchJob::RunJournal journal;           ///< open if there is an earlier part of the run

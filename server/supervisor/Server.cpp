@@ -239,6 +239,7 @@ void Server::Process(ZTPipeSession* pipe, const QByteArray& payload)
     connect(run, &Run::HasTasks, this, &Server::ScheduleHandOut);
     connect(run, &Run::Over, this, [this, run] { OnRunOver(run); });
     run->Begin();
+    pool.Start(); // Workers of earlier runs make room while the job is read.
 }
 
 void Server::Answer(ZTPipeSession* pipe, ZTBatchMessage::Message message, const QByteArray& payload)
@@ -316,11 +317,18 @@ void Server::ScheduleHandOut()
 void Server::HandOut()
 {
     isHandOutScheduled = false;
+    QVector<QByteArray> jobs;
+    for (const Run* run : qAsConst(runs)) {
+        if (run->HasWork() && !jobs.contains(run->CurrentJob())) {
+            jobs.append(run->CurrentJob());
+        }
+    }
+    pool.Serve(jobs);
     // The runs hand out in turn.
     int idle = 0;
     while (idle < runs.size()) {
         Run* const run = runs.first();
-        const bool hasGiven = pool.HasRoom(run->TasksLeft()) && run->HandOut();
+        const bool hasGiven = pool.HasRoom(run->CurrentJob(), run->TasksLeft()) && run->HandOut();
         idle = hasGiven ? 0 : idle + 1;
         if (!runs.isEmpty() && runs.first() == run) {
             runs.append(runs.takeFirst());

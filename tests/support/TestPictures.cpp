@@ -21,6 +21,7 @@ bool HaveSameForm(const Picture& left, const Picture& right)
 
 void StartPictures()
 {
+    qputenv("ORC_CODE", QByteArrayLiteral("emulate")); // as in the worker
     if (VIPS_INIT("test") != 0) {
         qFatal("The imaging library does not start: %s", vips_error_buffer());
     }

@@ -50,3 +50,9 @@ Report WorkerBench::Make(const QString& input, const QString& output, const QStr
     task.replaceExisting = true;
     return worker.Do(task);
 }
+
+Report WorkerBench::Probe(const QString& input)
+{
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    return worker.Do(ProbeTask{1, Path(input)});
+}

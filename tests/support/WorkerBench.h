@@ -31,6 +31,9 @@ public:
     BatchProtocol::Report Make(const QString& input, const QString& output, const QString& format,
                                const BatchProtocol::Job& job);
 
+    /// Has the worker look at `input`, a name in the folder.
+    BatchProtocol::Report Probe(const QString& input);
+
     WorkerProcess& Worker() { return worker; }
 
 private:

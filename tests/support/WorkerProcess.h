@@ -18,7 +18,10 @@ class WorkerProcess
 {
 public:
     /// Starts the worker and takes its first report; IsReady() tells whether that came.
-    explicit WorkerProcess(const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+    ///
+    /// The worker gets a temporary folder of its own, as from its supervisor, unless `environment` has another than
+    /// this process.
+    explicit WorkerProcess(QProcessEnvironment environment = QProcessEnvironment::systemEnvironment());
 
     /// Ends the worker, when it is still there.
     ~WorkerProcess();
@@ -44,6 +47,7 @@ public:
     qint64 ProcessId() const { return process.processId(); }
 
 private:
+    QTemporaryDir temporaryFolder; ///< the worker's own
     QProcess process;
     BatchProtocol::FrameReader reader;
     QVector<int> begun;

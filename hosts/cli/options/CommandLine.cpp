@@ -5,6 +5,7 @@
 
 #include "hosts/common/JobFile.h"
 #include "hosts/common/RequestError.h"
+#include "server/protocol/SystemProtection.h"
 
 #include <QCoreApplication>
 
@@ -113,6 +114,16 @@ void CheckFirstArgument(const QStringList& arguments)
     }
 }
 
+QString VersionText(bool isVerbose)
+{
+    QString text = QStringLiteral("velkora-batch %1\n").arg(QCoreApplication::applicationVersion());
+    if (isVerbose) {
+        text +=
+            BatchProtocol::SystemProtection::OfThisSystem().Description().join(QLatin1Char('\n')) + QLatin1Char('\n');
+    }
+    return text;
+}
+
 void CheckTexts(const QStringList& arguments)
 {
     for (int i = 0; i < arguments.size(); ++i) {
@@ -186,7 +197,7 @@ ParsedArguments ParseArguments(const QStringList& arguments)
     CheckFirstArgument(arguments);
     ParsedArguments parsed;
     if (arguments.first() == QLatin1String("--version")) {
-        parsed.message = QStringLiteral("velkora-batch %1\n").arg(QCoreApplication::applicationVersion());
+        parsed.message = VersionText(arguments.contains(QStringLiteral("--verbose")));
         return parsed;
     }
     if (arguments.first().startsWith(QLatin1Char('-'))) {

@@ -56,7 +56,9 @@ QString ProgramHelp()
     text += QStringLiteral("\nOptions:\n");
     text += Entry(QStringLiteral("-h, --help"),
                   QStringLiteral("prints this text; after a command, the help of that command"));
-    text += Entry(QStringLiteral("    --version"), QStringLiteral("prints the version"));
+    text += Entry(QStringLiteral("    --version"),
+                  QStringLiteral("prints the version; with --verbose, also how this system confines the processes "
+                                 "that read pictures"));
     return text;
 }
 

@@ -1,8 +1,10 @@
 #include "FreeMemory.h"
 
-#include <QFile>
+#include <QByteArray>
+#include <QList>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <limits>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -11,18 +13,30 @@ namespace BatchWorker {
 
 namespace {
 
+// Open from the first call on: later a worker cannot open it.
+int OwnAccount()
+{
+    static const int account = open("/proc/self/statm", O_RDONLY | O_CLOEXEC);
+    return account;
+}
+
 // What counts against the limit: data and stacks, in pages, are the sixth of seven numbers.
 qint64 TakenMemory()
 {
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
     constexpr int placeOfData = 5;
-    return file.readAll().split(' ').value(placeOfData).toLongLong() * sysconf(_SC_PAGESIZE);
+    constexpr int longest = 200;
+    QByteArray line(longest, '\0');
+    const ssize_t size = pread(OwnAccount(), line.data(), std::size_t(line.size()), 0);
+    return line.left(int(std::max<ssize_t>(size, 0))).split(' ').value(placeOfData).toLongLong() *
+           sysconf(_SC_PAGESIZE);
 }
 
 } // namespace
+
+void OpenMemoryAccount()
+{
+    OwnAccount();
+}
 
 qint64 FreeMemory()
 {

@@ -8,4 +8,7 @@ namespace BatchWorker {
 /// that end the process where memory is short are asked for no more than this.
 qint64 FreeMemory();
 
+/// Opens what FreeMemory() reads, for a process that cannot open it later.
+void OpenMemoryAccount();
+
 } // namespace BatchWorker

@@ -1,10 +1,21 @@
 #include "Confinement.h"
 
-#include "SystemCallFilter.h"
+#include "FileRights.h"
+#include "FontFiles.h"
 
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
 #include <csignal>
-#include <sys/prctl.h>
+#include <cstdio>
+#include <cstring>
 #include <sys/resource.h>
+#include <sys/stat.h>
+
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
 
 using namespace BatchProtocol;
 
@@ -13,10 +24,16 @@ namespace BatchWorker {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool canBoundMemory = false;
+constexpr bool isSanitized = true;
 #else
-constexpr bool canBoundMemory = true;
+constexpr bool isSanitized = false;
 #endif
+
+// What libraries read while they work: modules of character sets, time zones, profiles.
+constexpr std::initializer_list<const char*> systemPlaces{
+    "/lib",       "/lib32",           "/lib64",         "/usr/lib",       "/usr/lib32", "/usr/lib64",
+    "/usr/share", "/usr/local/share", "/usr/local/lib", "/etc/localtime", "/dev/null",  "/dev/urandom",
+};
 
 void Bound(__rlimit_resource resource, qint64 value)
 {
@@ -28,29 +45,80 @@ void Bound(__rlimit_resource resource, qint64 value)
     }
 }
 
-} // namespace
-
-void GiveUpRights()
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    Bound(RLIMIT_CORE, 0);
-    // A file that exceeds its limit and a supervisor that has ended are reported by the calls; signals would end the
-    // process.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
-    FilterSystemCalls();
-}
-
 void BoundResources(const ServerLimits& limits)
 {
     // The largest file: four channels in floating point, in a temporary file.
     constexpr qint64 bytesOfPixel = 16;
     constexpr qint64 metadata = qint64(64) << 20;
     Bound(RLIMIT_FSIZE, limits.pixels * bytesOfPixel + metadata);
-    if (canBoundMemory) {
+    // Sanitizers reserve more address space than any limit.
+    if (!isSanitized) {
         Bound(RLIMIT_DATA, limits.workerMemory);
     }
+}
+
+bool RestrictFiles(const WorkerRights& rights)
+{
+    FileRights files;
+    for (const char* place : systemPlaces) {
+        files.AllowReading(place);
+    }
+    if (rights.usesFonts) {
+        for (const QByteArray& place : FontFiles()) {
+            files.AllowReading(place);
+        }
+    }
+    for (const QString& path : rights.readable) {
+        files.AllowReading(QFile::encodeName(path));
+    }
+    for (const QString& path : rights.writable) {
+        files.AllowWriting(QFile::encodeName(path));
+    }
+    // The supervisor gives each worker a temporary folder of its own.
+    files.AllowWriting(QFile::encodeName(QDir::tempPath()));
+    if (isSanitized) {
+        files.AllowReading("/proc"); // Their reports name threads and places in libraries.
+    }
+    return files.Restrict();
+}
+
+// The restrictions of files hold for one thread and those that it starts.
+bool HasOneThread()
+{
+#ifdef Q_OS_LINUX
+    constexpr nlink_t linksOfFolder = 2;
+    struct stat threads;
+    if (stat("/proc/self/task", &threads) == 0 && threads.st_nlink != linksOfFolder + 1) {
+        errno = EBUSY;
+        return false;
+    }
+#endif
+    return true;
+}
+
+} // namespace
+
+Confinement::Confinement()
+{
+#ifdef Q_OS_LINUX
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+#endif
+    Bound(RLIMIT_CORE, 0);
+    // A file that exceeds its limit and a supervisor that has ended are reported by the calls; signals would end the
+    // process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+bool Confinement::Confine(const WorkerRights& rights, const ServerLimits& limits)
+{
+    BoundResources(limits);
+    if (HasOneThread() && RestrictFiles(rights) && filter.Load()) {
+        return true;
+    }
+    std::fprintf(stderr, "VelkoraBatchWorker: the process cannot be confined: %s\n", std::strerror(errno));
+    return false;
 }
 
 } // namespace BatchWorker

@@ -51,7 +51,6 @@ void Place(const MadePicture& made, bool replaceExisting, Report& report)
 
 ReportQueue::ReportQueue(int output)
     : output(output)
-    , thread([this] { SendAll(); })
 {
 }
 
@@ -62,12 +61,16 @@ ReportQueue::~ReportQueue()
         isEnding = true;
     }
     changed.notify_all();
-    thread.join();
+    if (thread.joinable()) {
+        thread.join();
+    }
 }
 
-void ReportQueue::Begin(qint32 number)
+void ReportQueue::SendNow(const FromWorker& message)
 {
-    Write(Beginning{number});
+    const QByteArray bytes = FrameFromWorker(message);
+    const std::lock_guard<std::mutex> lock(outputMutex);
+    WriteAll(output, bytes);
 }
 
 void ReportQueue::Send(const Report& report)
@@ -82,6 +85,9 @@ void ReportQueue::FinishAndSend(MadePicture made, bool replaceExisting, const Re
 
 void ReportQueue::Append(Item item)
 {
+    if (!thread.joinable()) {
+        thread = std::thread([this] { SendAll(); });
+    }
     std::unique_lock<std::mutex> lock(mutex);
     changed.wait(lock, [this] { return items.size() < longestQueue; });
     items.push_back(std::move(item));
@@ -108,15 +114,8 @@ void ReportQueue::SendAll()
             Place(*item->made, item->replaceExisting, item->report);
             item->made.reset();
         }
-        Write(item->report);
+        SendNow(item->report);
     }
-}
-
-void ReportQueue::Write(const FromWorker& message)
-{
-    const QByteArray bytes = FrameFromWorker(message);
-    const std::lock_guard<std::mutex> lock(outputMutex);
-    WriteAll(output, bytes);
 }
 
 } // namespace BatchWorker

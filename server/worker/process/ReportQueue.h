@@ -13,7 +13,8 @@
 namespace BatchWorker {
 
 /// Sends reports in order. The report on a result is sent once the result is complete on disk under its final name;
-/// that happens on a thread of its own, while the next picture is being made.
+/// that happens on a thread of its own, while the next picture is being made. The thread starts with the first report
+/// that is queued.
 class ReportQueue
 {
 public:
@@ -23,8 +24,8 @@ public:
     /// Sends what is still queued.
     ~ReportQueue();
 
-    /// Reports at once, ahead of queued reports, that the worker begins the task `number`.
-    void Begin(qint32 number);
+    /// Sends `message` at once, ahead of queued reports.
+    void SendNow(const BatchProtocol::FromWorker& message);
 
     /// Sends `report` after those before it. Waits while two reports are queued already: a slow disk slows the work
     /// down, instead of filling the memory.
@@ -46,7 +47,6 @@ private:
     void Append(Item item);
     std::optional<Item> Next();
     void SendAll();
-    void Write(const BatchProtocol::FromWorker& message);
 
     int output;
     std::mutex outputMutex;

@@ -1,6 +1,5 @@
 #include "Worker.h"
 
-#include "Confinement.h"
 #include "FileProbe.h"
 #include "ImagingLibrary.h"
 
@@ -10,6 +9,7 @@
 #include "ZTBatchDocument.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <new>
 #include <unistd.h>
 
@@ -92,10 +92,10 @@ Report ReportOnPicture(const Work& work)
 
 } // namespace
 
-Worker::Worker(ReportQueue& reports)
+Worker::Worker(ReportQueue& reports, Confinement& confinement)
     : reports(reports)
+    , confinement(confinement)
 {
-    jobProblem = ReportOf(ProcessingFailed(QStringLiteral("there is no job yet")));
 }
 
 bool Worker::Run(int input)
@@ -113,31 +113,43 @@ bool Worker::Run(int input)
         }
         reader.Append(piece.left(int(count)));
         while (const std::optional<ToWorker> message = reader.NextToWorker()) {
-            Handle(*message);
+            if (!Handle(*message)) {
+                return false;
+            }
         }
         if (reader.IsBroken()) {
+            std::fprintf(stderr, "VelkoraBatchWorker: the supervisor sent an invalid message.\n");
             return false;
         }
     }
 }
 
-void Worker::Handle(const ToWorker& message)
+bool Worker::Handle(const ToWorker& message)
 {
     if (const Job* job = std::get_if<Job>(&message)) {
-        Accept(*job);
-    } else if (const ProbeTask* probe = std::get_if<ProbeTask>(&message)) {
+        return Accept(*job);
+    }
+    if (!isConfined) {
+        std::fprintf(stderr, "VelkoraBatchWorker: the supervisor sent a task before its job.\n");
+        return false;
+    }
+    if (const ProbeTask* probe = std::get_if<ProbeTask>(&message)) {
         Probe(*probe);
     } else {
         Make(std::get<PictureTask>(message));
     }
+    return true;
 }
 
-void Worker::Accept(const Job& job)
+bool Worker::Accept(const Job& job)
 {
     limits = job.limits;
-    BoundResources(limits);
     settings.reset();
-    jobProblem = Guarded([this, &job] { return Read(job); });
+    isConfined = isConfined || confinement.Confine(job.rights, limits);
+    if (isConfined) {
+        jobProblem = Guarded([this, &job] { return Read(job); });
+    }
+    return isConfined;
 }
 
 // The supervisor has checked the job; a file that the job names may have changed since.
@@ -158,7 +170,7 @@ Report Worker::Read(const Job& job)
 
 void Worker::Probe(const ProbeTask& task)
 {
-    reports.Begin(task.number);
+    reports.SendNow(Beginning{task.number});
     Report report = ReportOnPicture([this, &task] { return ProbeFile(task, limits); });
     report.warnings.clear(); // reported when the picture is made
     report.number = task.number;
@@ -167,7 +179,7 @@ void Worker::Probe(const ProbeTask& task)
 
 void Worker::Make(const PictureTask& task)
 {
-    reports.Begin(task.number);
+    reports.SendNow(Beginning{task.number});
     MadePicture made;
     Report report = ReportOnPicture([this, &task, &made] {
         Report done = jobProblem;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Confinement.h"
 #include "ReportQueue.h"
 
 #include "job/settings/JobCheck.h"
@@ -13,20 +14,24 @@ namespace BatchWorker {
 class Worker
 {
 public:
-    /// Reports go through `reports`, which outlives this object.
-    explicit Worker(ReportQueue& reports);
+    /// Reports go through `reports`. The first job says what `confinement` leaves to this process. Both outlive this
+    /// object.
+    Worker(ReportQueue& reports, Confinement& confinement);
 
-    /// Reads messages from the open file `input` until its end. False when the input is not valid.
+    /// Reads messages from the open file `input` until its end. False, with the reason on standard error, when the
+    /// input is not valid, or the process cannot be confined.
     bool Run(int input);
 
 private:
-    void Handle(const BatchProtocol::ToWorker& message);
-    void Accept(const BatchProtocol::Job& job);
+    bool Handle(const BatchProtocol::ToWorker& message);
+    bool Accept(const BatchProtocol::Job& job);
     BatchProtocol::Report Read(const BatchProtocol::Job& job);
     void Probe(const BatchProtocol::ProbeTask& task);
     void Make(const BatchProtocol::PictureTask& task);
 
     ReportQueue& reports;
+    Confinement& confinement;
+    bool isConfined = false;
     BatchProtocol::ServerLimits limits;            ///< of the last job
     std::optional<BatchJob::JobSettings> settings; ///< of the last job, if it can be done
     BatchProtocol::Report jobProblem;              ///< what is wrong with the job when there are no settings

@@ -1,4 +1,5 @@
 #include "Confinement.h"
+#include "EarlyLoading.h"
 #include "ImagingLibrary.h"
 #include "ReportQueue.h"
 #include "Worker.h"
@@ -32,21 +33,22 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing and takes no arguments.\n");
         return EXIT_FAILURE;
     }
-    GiveUpRights();
+    Confinement confinement;
+    ForbidGeneratedCode();
     if (!StartImagingLibrary(argv[0])) {
         return EXIT_FAILURE;
     }
+    LoadWhatWorkNeeds();
     bool isUnderstood = false;
     {
         ReportQueue reports(output);
         Report ready;
         ready.number = workerIsReady;
-        reports.Send(ready);
-        isUnderstood = Worker(reports).Run(STDIN_FILENO);
+        reports.SendNow(ready);
+        isUnderstood = Worker(reports, confinement).Run(STDIN_FILENO);
     }
     vips_shutdown();
     if (!isUnderstood) {
-        std::fprintf(stderr, "VelkoraBatchWorker: the supervisor sent an invalid message.\n");
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;

@@ -124,7 +124,7 @@ QDateTime tst_CaptureTime::Probed(const QString& name)
         qFatal("The file has no time.");
     }
     file.close();
-    return bench->Worker().Do(ProbeTask{1, bench->Path(name)}).captured;
+    return bench->Probe(name).captured;
 }
 
 QDateTime tst_CaptureTime::ProbedWith(const QVector<Plant>& plants, const QString& name)

@@ -83,7 +83,7 @@ void tst_PngExif::turnsPicturesUpright()
     const BatchWorker::Picture result = ReadPicture(bench->Path(Text("out.png")));
     QCOMPARE(LargestDifference(result, expected.autorot()), 0.0);
     QVERIFY(bench->Bytes(Text("out.png")).contains("A. Photographer"));
-    const Report probe = bench->Worker().Do(ProbeTask{1, bench->Path(Text("in.png"))});
+    const Report probe = bench->Probe(Text("in.png"));
     QCOMPARE(probe.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 

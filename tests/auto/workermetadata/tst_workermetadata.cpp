@@ -359,7 +359,7 @@ void tst_WorkerMetadata::takesMetadataOutOfOtherFormats()
     QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
     QVERIFY(found.hasProfile);
-    const Report probe = bench->Worker().Do(ProbeTask{1, bench->Path(middle)});
+    const Report probe = bench->Probe(middle);
     QCOMPARE(probe.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 
@@ -475,8 +475,7 @@ void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles()
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
     QCOMPARE(found.Iptc("Iptc.Application2.Caption"), HoldsIptc(format) ? Text("A caption") : QString());
     QVERIFY(!found.hasProfile);
-    QCOMPARE(bench->Worker().Do(ProbeTask{1, bench->Path(name)}).captured,
-             QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
+    QCOMPARE(bench->Probe(name).captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 
 void tst_WorkerMetadata::leavesOutWhatAJpegCannotHold()

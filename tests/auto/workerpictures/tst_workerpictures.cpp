@@ -200,7 +200,7 @@ void tst_WorkerPictures::readsEveryFormat()
     QVERIFY(QFile::rename(bench->Path(NameIn(format)), bench->Path(Text("in.txt"))));
     QCOMPARE(bench->Make(Text("in.txt"), Text("out.png"), Text("PNG")).reason, QString());
     QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), expected), 0.0);
-    const Report probe = bench->Worker().Do(ProbeTask{1, bench->Path(Text("in.txt"))});
+    const Report probe = bench->Probe(Text("in.txt"));
     QCOMPARE(probe.inputFormat, format);
 }
 

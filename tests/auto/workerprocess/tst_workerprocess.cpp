@@ -2,6 +2,7 @@
 #include "WorkerProcess.h"
 
 #include "job/values/JobValues.h"
+#include "server/protocol/SystemProtection.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void init();
     void endsWithItsInput();
     void refusesWhatIsNoMessage();
+    void refusesTasksBeforeItsJob();
+    void opensFilesOfItsJobOnly();
     void reportsARefusedJob();
     void writesAPicture();
     void reportsInOrder();
@@ -108,6 +111,46 @@ void tst_WorkerProcess::refusesWhatIsNoMessage()
     QCOMPARE(worker.NextReport().has_value(), false);
     QCOMPARE(worker.ExitCode(), 1);
     QVERIFY(worker.ErrorOutput().contains("an invalid message"));
+}
+
+/// Its job says what it may open: before that it is not confined.
+void tst_WorkerProcess::refusesTasksBeforeItsJob()
+{
+    WritePicture(Chart(30, 20), Path(QStringLiteral("in.jpg")));
+    WorkerProcess worker;
+    worker.Send(ProbeTask{1, Path(QStringLiteral("in.jpg"))});
+    QCOMPARE(worker.NextReport().has_value(), false);
+    QCOMPARE(worker.ExitCode(), 1);
+    QVERIFY(worker.ErrorOutput().contains("a task before its job"));
+}
+
+void tst_WorkerProcess::opensFilesOfItsJobOnly()
+{
+    if (SystemProtection::OfThisSystem().fileAccess == 0) {
+        QSKIP("this kernel does not restrict the access to files");
+    }
+    for (const char* name : {"of the job", "of another", "results"}) {
+        QVERIFY(QDir(folder->path()).mkdir(QLatin1String(name)));
+    }
+    WritePicture(Chart(30, 20), Path(QStringLiteral("of the job/in.jpg")));
+    WritePicture(Chart(30, 20), Path(QStringLiteral("of another/in.jpg")));
+    Job job = JobOf(QStringLiteral("JPEG"));
+    job.rights.readable = QStringList(Path(QStringLiteral("of the job")));
+    job.rights.writable = QStringList(Path(QStringLiteral("results")));
+    WorkerProcess worker;
+    worker.Send(job);
+    const PictureTask good = Task(QStringLiteral("of the job/in.jpg"), QStringLiteral("results/out.jpg"));
+    QCOMPARE(worker.Do(good).reason, QString());
+    const Report unread = worker.Do(Task(QStringLiteral("of another/in.jpg"), QStringLiteral("results/two.jpg")));
+    QCOMPARE(unread.failure, BatchJob::PolicyKind::Input);
+    QCOMPARE(unread.errorCode, qint32(ZTBatchMessage::ReadFileError));
+    const Report unwritten = worker.Do(Task(QStringLiteral("of the job/in.jpg"), QStringLiteral("of another/out.jpg")));
+    QCOMPARE(unwritten.failure, BatchJob::PolicyKind::Output);
+
+    // A later job opens nothing more.
+    worker.Send(JobOf(QStringLiteral("JPEG")));
+    QCOMPARE(worker.Do(ProbeTask{1, Path(QStringLiteral("of another/in.jpg"))}).failure, BatchJob::PolicyKind::Input);
+    QCOMPARE(worker.Do(ProbeTask{1, Path(QStringLiteral("of the job/in.jpg"))}).reason, QString());
 }
 
 void tst_WorkerProcess::reportsARefusedJob()
@@ -287,6 +330,7 @@ void tst_WorkerProcess::probesFiles()
     WritePicture(picture, Path(QStringLiteral("dated.jpg")));
     WritePicture(Chart(30, 20), Path(QStringLiteral("plain.png")));
     WorkerProcess worker;
+    worker.Send(JobOf(QStringLiteral("JPEG")));
     const Report dated = worker.Do(ProbeTask{1, Path(QStringLiteral("dated.jpg"))});
     QCOMPARE(dated.reason, QString());
     QCOMPARE(dated.inputFormat, QStringLiteral("JPEG"));

@@ -247,7 +247,7 @@ void tst_WorkerRaw::probes()
 {
     WorkerBench bench;
     bench.WriteBytes(Text("in.dng"), Dng(1, {1, 1, 1}));
-    const Report probe = bench.Worker().Do(ProbeTask{1, bench.Path(Text("in.dng"))});
+    const Report probe = bench.Probe(Text("in.dng"));
     QCOMPARE(probe.reason, QString());
     QCOMPARE(probe.inputFormat, Text("RAW"));
     QCOMPARE(probe.nearestFormat, Text("TIFF"));

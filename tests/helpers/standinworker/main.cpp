@@ -11,6 +11,8 @@
 //     format NAME                                can write this format only
 //     warn KIND TEXT                             writes the result, with a warning
 //     detail TEXT                                reports a damaged file, with what a library says of it
+//     describe                                   writes a result with its process id, its temporary folder, and the
+//                                                numbers of its open files, a line each
 //     crashprobe | hangprobe | eatprobe          does as crash, hang and eat when the file is probed
 //
 // With a file "start.script" beside the executable it ends at once, with "job.script" when it gets a job.
@@ -35,6 +37,7 @@
 #include <io.h>
 #include <qt_windows.h>
 #else
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -105,6 +108,20 @@ int ReadInput(char* buffer, unsigned size)
         eaten.emplace_back(step, 'x');
         QThread::msleep(5);
     }
+}
+
+QByteArray Description()
+{
+    QByteArrayList numbers;
+#ifdef Q_OS_LINUX
+    for (int number = 0; number < 1000; ++number) {
+        if (fcntl(number, F_GETFD) >= 0) {
+            numbers.append(QByteArray::number(number));
+        }
+    }
+#endif
+    return QByteArray::number(QCoreApplication::applicationPid()) + '\n' + QFile::encodeName(QDir::tempPath()) + '\n' +
+           numbers.join(' ') + '\n';
 }
 
 Report WriteResult(const PictureTask& task, const QByteArray& content)
@@ -195,7 +212,7 @@ Report Make(const PictureTask& task)
         report.detail = QString::fromUtf8(content.mid(command.size() + 1));
         return report;
     }
-    Report report = WriteResult(task, content);
+    Report report = WriteResult(task, command == "describe" ? Description() : content);
     if (command == "warn") {
         report.warnings.append({BatchJob::WarningKindOf(QString::fromUtf8(argument)),
                                 QString::fromUtf8(content.mid(command.size() + argument.size() + 2))});

@@ -67,6 +67,12 @@ void tst_CliJobs::versionAndHelp()
     const CliRun version = Run({QStringLiteral("--version")});
     QCOMPARE(version.exitCode, 0);
     QCOMPARE(version.out.split(' ').value(0), QByteArray("velkora-batch"));
+    QCOMPARE(version.out.count('\n'), 1);
+    const CliRun verbose = Run({QStringLiteral("--version"), QStringLiteral("--verbose")});
+    QCOMPARE(verbose.exitCode, 0);
+    QVERIFY(verbose.out.startsWith(version.out));
+    QVERIFY2(verbose.out.contains("\nfiles of workers: ") || verbose.out.contains("\nworkers: not confined"),
+             verbose.out.constData());
     for (const char* arguments : {"--help", "-h", "create --help", "show -h", "effects --help", "formats --help"}) {
         const CliRun help = Run(QString::fromLatin1(arguments).split(QLatin1Char(' ')));
         QCOMPARE(help.exitCode, 0);

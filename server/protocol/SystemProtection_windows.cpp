@@ -1,0 +1,10 @@
+#include "SystemProtection.h"
+
+namespace BatchProtocol {
+
+SystemProtection SystemProtection::OfThisSystem()
+{
+    return {};
+}
+
+} // namespace BatchProtocol

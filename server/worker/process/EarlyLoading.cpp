@@ -1,0 +1,41 @@
+#include "EarlyLoading.h"
+
+#include "server/worker/pixels/FreeMemory.h"
+
+#include <QByteArray>
+
+#include <ctime>
+#include <iconv.h>
+
+namespace BatchWorker {
+
+namespace {
+
+// A conversion loads the modules of its character sets, which stay as long as it is open. The sets are those of texts
+// in metadata.
+void LoadCharacterSets()
+{
+    for (const char* set : {"ISO-8859-1", "UCS-2LE", "UCS-2BE"}) {
+        iconv_open("UTF-8", set);
+        iconv_open(set, "UTF-8");
+    }
+}
+
+} // namespace
+
+void ForbidGeneratedCode()
+{
+    // The imaging library compiles loops with Orc for each picture, and has loops of its own where Orc refuses. Without
+    // this, Orc would try, and end the process.
+    qputenv("ORC_CODE", QByteArrayLiteral("emulate"));
+    qputenv("QT_ENABLE_REGEXP_JIT", QByteArrayLiteral("0"));
+}
+
+void LoadWhatWorkNeeds()
+{
+    LoadCharacterSets();
+    tzset();
+    OpenMemoryAccount();
+}
+
+} // namespace BatchWorker
