@@ -5,8 +5,8 @@ namespace BatchWorker {
 /// Has libraries generate no code: a confined worker cannot execute it. To be called before the imaging library starts.
 void ForbidGeneratedCode();
 
-/// Has libraries load now what they would load while pictures are made: a confined worker cannot load code. To be called
-/// after the imaging library has started.
+/// Has libraries load now what they would load while pictures are made: a confined worker cannot load code. To be
+/// called after the imaging library has started.
 void LoadWhatWorkNeeds();
 
 } // namespace BatchWorker
