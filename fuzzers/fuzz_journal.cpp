@@ -68,6 +68,7 @@ void SetContent(const QString& path, const QByteArray& content)
 
 void WriteJournal(const QString& path, const JournalState& state)
 {
+    QFile::remove(path);
     RunJournal journal;
     Require(journal.Create(path, state.document, state.policies));
     for (auto it = state.answers.begin(); it != state.answers.end(); ++it) {
