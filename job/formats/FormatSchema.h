@@ -50,10 +50,11 @@ enum class FormatPages {
 
 /// How the worker reads the metadata of a file.
 enum class MetadataReading {
-    FromFile,    ///< the metadata library reads the file
-    FromDecoder, ///< the decoder hands over the blocks
-    FromBoxes,   ///< the worker finds the blocks in the boxes of the file
-    FromChunks   ///< the worker finds the blocks in the chunks of the file
+    FromFile,            ///< the metadata library reads the file
+    FromDecoder,         ///< the decoder hands over the blocks
+    FromBoxes,           ///< the worker finds the blocks in the boxes of the file
+    FromIdentifiedBoxes, ///< the same; what a box holds is known by an id in it, and the first of each id counts
+    FromChunks           ///< the worker finds the blocks in the chunks of the file
 };
 
 /// How the worker writes metadata.

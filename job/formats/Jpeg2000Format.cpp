@@ -17,6 +17,7 @@ FormatSchema Jpeg2000Format()
     format.bitDepths = {8, 16};
     format.longestSide = 1'000'000;
     format.metadata.holdsIptc = true;
+    format.metadata.reading = MetadataReading::FromIdentifiedBoxes;
     format.metadata.writing = MetadataWriting::AfterEncoding;
     format.metadata.isProfileInDecoder = false;
     format.options = WithCommonOptions(

@@ -14,6 +14,7 @@ FormatSchema WebpFormat()
     format.signatures = {{{{0, "RIFF"}, {8, "WEBP"}}}};
     format.longestSide = 16'383;
     format.pages = FormatPages::Frames;
+    format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.exifRemoval = ExifRemoval::CutOut;
     format.options = WithCommonOptions({Quality(80), Lossless("keep every pixel that can be seen"), Effort(4)});
     return format;

@@ -1,13 +1,14 @@
 #include "Metadata.h"
 
 #include "CaptureTime.h"
-#include "MetadataReader.h"
+#include "MetadataEncoder.h"
 #include "Places.h"
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
 
 #include <QFile>
 
+#include <exception>
 #include <exiv2/exiv2.hpp>
 
 namespace BatchWorker {
@@ -15,6 +16,21 @@ namespace BatchWorker {
 struct Metadata::Private : MetadataBlocks
 {
     bool keepsExif = true;
+    QString problem; ///< why everything was left out; empty if it was not
+
+    // Calls `change`. What it leaves half done when the metadata library fails must not reach a result.
+    template<typename Change>
+    void OrNothing(const Change& change)
+    {
+        try {
+            change();
+        } catch (const std::exception& failure) {
+            problem = QString::fromUtf8(failure.what());
+            exif.clear();
+            iptc.clear();
+            xmp.clear();
+        }
+    }
 };
 
 namespace {
@@ -29,32 +45,23 @@ void StartExiv2()
     Q_UNUSED(isStarted)
 }
 
-QByteArray Bytes(const Exiv2::Blob& blob)
-{
-    return {reinterpret_cast<const char*>(blob.data()), int(blob.size())};
-}
-
-QByteArray Encoded(const Exiv2::ExifData& exif)
-{
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, exif);
-    return Bytes(blob);
-}
-
 const Exiv2::byte* Data(const QByteArray& bytes)
 {
     return reinterpret_cast<const Exiv2::byte*>(bytes.constData());
 }
 
-template<typename Encode>
-bool IsWritable(const Encode& encode)
+void DescribePixels(Exiv2::ExifData& exif, const QSize& size, int dotsPerInch, bool isSrgb)
 {
-    try {
-        encode();
-        return true;
-    } catch (const Exiv2::AnyError&) {
-        return false;
-    }
+    constexpr std::uint16_t inches = 2;
+    constexpr std::uint16_t srgb = 1;
+    constexpr std::uint16_t otherColours = 0xffff;
+    exif["Exif.Image.Orientation"] = std::uint16_t(1);
+    exif["Exif.Image.XResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
+    exif["Exif.Image.YResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
+    exif["Exif.Image.ResolutionUnit"] = inches;
+    exif["Exif.Photo.PixelXDimension"] = std::uint32_t(size.width());
+    exif["Exif.Photo.PixelYDimension"] = std::uint32_t(size.height());
+    exif["Exif.Photo.ColorSpace"] = isSrgb ? srgb : otherColours;
 }
 
 } // namespace
@@ -98,20 +105,22 @@ void Metadata::KeepOnly(const QStringList& kinds)
     const bool keepsExif = kinds.contains(QLatin1String("exif"));
     const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
     d->keepsExif = keepsExif;
-    if (!keepsExif) {
-        RemoveIf(d->exif, [](const Exiv2::Exifdatum& entry) { return !IsPosition(entry); });
-    }
     if (!kinds.contains(QLatin1String("iptc"))) {
         d->iptc.clear();
     }
     if (!kinds.contains(QLatin1String("xmp"))) {
         d->xmp.clear();
     }
-    if (!keepsPlaces) {
-        RemovePlaces(d->exif);
-        RemovePlaces(d->iptc);
-        RemovePlaces(d->xmp);
-    }
+    d->OrNothing([&] {
+        if (!keepsExif) {
+            RemoveIf(d->exif, [](const Exiv2::Exifdatum& entry) { return !IsPosition(entry); });
+        }
+        if (!keepsPlaces) {
+            RemovePlaces(d->exif);
+            RemovePlaces(d->iptc);
+            RemovePlaces(d->xmp);
+        }
+    });
 }
 
 bool Metadata::GoWithoutExif() const
@@ -121,34 +130,28 @@ bool Metadata::GoWithoutExif() const
 
 void Metadata::DescribeResult(const QSize& size, int dotsPerInch, bool isSrgb)
 {
-    RemoveSourceTraces(d->exif);
-    RemoveSourceTraces(d->iptc);
-    RemoveSourceTraces(d->xmp);
-    if (d->exif.empty()) {
-        return;
-    }
-    constexpr std::uint16_t inches = 2;
-    constexpr std::uint16_t srgb = 1;
-    constexpr std::uint16_t otherColours = 0xffff;
-    d->exif["Exif.Image.Orientation"] = std::uint16_t(1);
-    d->exif["Exif.Image.XResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
-    d->exif["Exif.Image.YResolution"] = Exiv2::URational(std::uint32_t(dotsPerInch), 1);
-    d->exif["Exif.Image.ResolutionUnit"] = inches;
-    d->exif["Exif.Photo.PixelXDimension"] = std::uint32_t(size.width());
-    d->exif["Exif.Photo.PixelYDimension"] = std::uint32_t(size.height());
-    d->exif["Exif.Photo.ColorSpace"] = isSrgb ? srgb : otherColours;
+    d->OrNothing([&] {
+        RemoveSourceTraces(d->exif);
+        RemoveSourceTraces(d->iptc);
+        RemoveSourceTraces(d->xmp);
+        if (!d->exif.empty()) {
+            DescribePixels(d->exif, size, dotsPerInch, isSrgb);
+        }
+    });
 }
 
 void Metadata::MoveIptcToXmp()
 {
-    Exiv2::XmpData fromIptc;
-    Exiv2::copyIptcToXmp(d->iptc, fromIptc);
-    for (const Exiv2::Xmpdatum& entry : fromIptc) {
-        if (d->xmp.findKey(Exiv2::XmpKey(entry.key())) == d->xmp.end()) {
-            d->xmp.add(entry);
+    d->OrNothing([this] {
+        Exiv2::XmpData fromIptc;
+        Exiv2::copyIptcToXmp(d->iptc, fromIptc);
+        for (const Exiv2::Xmpdatum& entry : fromIptc) {
+            if (d->xmp.findKey(Exiv2::XmpKey(entry.key())) == d->xmp.end()) {
+                d->xmp.add(entry);
+            }
         }
-    }
-    d->iptc.clear();
+        d->iptc.clear();
+    });
 }
 
 void Metadata::RemoveXmp()
@@ -158,34 +161,15 @@ void Metadata::RemoveXmp()
 
 void Metadata::RemoveUnwritable(BatchJob::Warnings& warnings)
 {
-    const auto warn = [&warnings](const char* what) {
-        warnings.append({BatchJob::WarningKind::MetadataLost,
-                         QStringLiteral("%1 cannot be written and are left out").arg(QLatin1String(what))});
-    };
-    const auto encodeExif = [this] { Encoded(d->exif); };
-    if (!IsWritable(encodeExif)) {
-        RemoveIf(d->exif, IsMakerNote);
-        const bool isRestWritable = IsWritable(encodeExif);
-        if (!isRestWritable) {
-            d->exif.clear();
-        }
-        warn(isRestWritable ? "the notes of the camera's maker" : "EXIF metadata");
+    if (!d->problem.isEmpty()) {
+        warnings.append(
+            {BatchJob::WarningKind::MetadataLost, QStringLiteral("metadata is left out: %1").arg(d->problem)});
     }
-    if (!IsWritable([this] { Iptc(); })) {
-        d->iptc.clear();
-        warn("IPTC metadata");
-    }
-    if (!IsWritable([this] { Xmp(); }) || (!d->xmp.empty() && Xmp().isEmpty())) {
-        d->xmp.clear();
-        warn("XMP metadata");
-    }
+    BatchWorker::RemoveUnwritable(*d, warnings);
 }
 
 QByteArray Metadata::Exif(int longest) const
 {
-    if (d->exif.empty()) {
-        return {};
-    }
     const QByteArray all = Encoded(d->exif);
     if (longest <= 0 || all.size() <= longest) {
         return all;
@@ -197,22 +181,12 @@ QByteArray Metadata::Exif(int longest) const
 
 QByteArray Metadata::Iptc() const
 {
-    if (d->iptc.empty()) {
-        return {};
-    }
-    const Exiv2::DataBuf encoded = Exiv2::IptcParser::encode(d->iptc);
-    return {reinterpret_cast<const char*>(encoded.pData_), int(encoded.size_)};
+    return Encoded(d->iptc);
 }
 
 QByteArray Metadata::Xmp(bool withWrapper) const
 {
-    if (d->xmp.empty()) {
-        return {};
-    }
-    const std::uint16_t form =
-        Exiv2::XmpParser::useCompactFormat | (withWrapper ? 0 : Exiv2::XmpParser::omitPacketWrapper);
-    std::string packet;
-    return Exiv2::XmpParser::encode(packet, d->xmp, form) == 0 ? QByteArray::fromStdString(packet) : QByteArray();
+    return Encoded(d->xmp, withWrapper);
 }
 
 void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const

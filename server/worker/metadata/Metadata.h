@@ -54,7 +54,8 @@ public:
 
     void RemoveXmp();
 
-    /// Removes what the metadata library has read but cannot write, with a warning.
+    /// Removes what the metadata library has read but cannot write, with a warning. Warns also if it failed while the
+    /// metadata were changed, after which there are none.
     void RemoveUnwritable(BatchJob::Warnings& warnings);
 
     /// A whole EXIF block, beginning with its TIFF header; empty if there is no EXIF. A block of more than `longest`

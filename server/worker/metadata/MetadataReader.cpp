@@ -9,7 +9,9 @@
 #include "server/worker/pixels/EmbeddedBlock.h"
 
 #include <QFile>
+#include <QSet>
 
+#include <exception>
 #include <memory>
 
 using namespace BatchJob;
@@ -52,28 +54,34 @@ MetadataBlocks BlocksOf(Exiv2::Image& image)
     return blocks;
 }
 
-MetadataBlocks BlocksOfFile(const QString& file, const PictureSource& source)
+MetadataBlocks BlocksOfFile(const QString& file)
 {
     const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
-    MetadataBlocks blocks = BlocksOf(*image);
-    if (!source.Format().metadata.isProfileInDecoder && image->iccProfileDefined()) {
-        const Exiv2::DataBuf& profile = *image->iccProfile();
-        blocks.profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
-    }
-    return blocks;
+    return BlocksOf(*image);
 }
 
-// The boxes of a JPEG 2000 file, without the pixels and without the header, which holds the profile.
-QByteArray WithoutHeader(const QString& path)
+enum class Header { Kept, LeftOut };
+
+// The boxes of a JPEG 2000 file without the pixels, of boxes with an id the first of each. The library would read every
+// one, and cannot write makers' notes that came twice. The header holds the profile.
+QByteArray BoxesOf(const QString& path, Header header)
 {
     constexpr qint64 largest = qint64(64) << 20; // far more than metadata are
+    constexpr qint64 idSize = 16;
+    constexpr int sizeBehindHeader = 16; // the library refuses a header that has less behind it
     QFile file(path);
     file.open(QIODevice::ReadOnly);
     QByteArray kept;
+    QSet<QByteArray> ids;
     while (const std::optional<BoxHeader> box = NextBox(file)) {
         const qint64 end = file.pos() + box->size;
-        const bool isKept = box->type != "jp2h" && box->type != "jp2c" && kept.size() + box->size <= largest;
-        if (isKept) {
+        const QByteArray id = box->type == "uuid" ? file.peek(qMin(idSize, box->size)) : QByteArray();
+        const bool isNew = id.isEmpty() || !ids.contains(id);
+        const bool isUnwanted = box->type == "jp2h" && header == Header::LeftOut;
+        if (box->type == "jp2c") {
+            kept += Box(box->type, QByteArray(sizeBehindHeader, '\0'));
+        } else if (isNew && !isUnwanted && kept.size() + box->size <= largest) {
+            ids.insert(id);
             kept += Box(box->type, file.read(box->size));
         }
         if (!file.seek(end)) {
@@ -89,6 +97,30 @@ MetadataBlocks BlocksOfChunks(const QString& file)
     const QByteArray chunks = PngWithoutPixels(file);
     const auto image = Exiv2::ImageFactory::open(Data(chunks), long(chunks.size()));
     return BlocksOf(*image);
+}
+
+MetadataBlocks BlocksOfBoxes(const QByteArray& boxes)
+{
+    if (boxes.isEmpty()) {
+        return {}; // a codestream alone, which has no place for metadata
+    }
+    const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
+    MetadataBlocks blocks = BlocksOf(*image);
+    if (image->iccProfileDefined()) {
+        const Exiv2::DataBuf& profile = *image->iccProfile();
+        blocks.profile = QByteArray(reinterpret_cast<const char*>(profile.pData_), int(profile.size_));
+    }
+    return blocks;
+}
+
+// The library refuses a whole file over a damaged profile. The warning about it comes from where colours are read.
+MetadataBlocks BlocksOfJpeg2000(const QString& file)
+{
+    try {
+        return BlocksOfBoxes(BoxesOf(file, Header::Kept));
+    } catch (const Exiv2::AnyError&) {
+        return BlocksOfBoxes(BoxesOf(file, Header::LeftOut));
+    }
 }
 
 // The decoder hands over a block of Photoshop resources, one of which holds the records of IPTC.
@@ -124,24 +156,6 @@ MetadataBlocks BlocksOfDecoder(const QString& file, const PictureSource& source)
     return blocks;
 }
 
-// The metadata library refuses a whole file over a damaged profile, so the blocks are read past the profile. The
-// warning about the profile comes from where colours are read.
-MetadataBlocks BlocksAround(const Exiv2::AnyError& problem, const QString& file, const PictureSource& source)
-{
-    if (!source.Format().metadata.isProfileInDecoder) {
-        const QByteArray boxes = WithoutHeader(file);
-        if (boxes.isEmpty()) {
-            return {}; // a codestream alone, which has no place for metadata
-        }
-        const auto image = Exiv2::ImageFactory::open(Data(boxes), long(boxes.size()));
-        return BlocksOf(*image);
-    }
-    if (problem.code() == Exiv2::kerInvalidIccProfile) {
-        return BlocksOfDecoder(file, source);
-    }
-    throw;
-}
-
 bool HasTruncatedProfile(const PictureSource& source)
 {
     const int shortest = source.Format().metadata.shortestProfile;
@@ -155,13 +169,20 @@ MetadataBlocks BlocksOfAnyFile(const QString& file, const PictureSource& source)
     if (reading == MetadataReading::FromChunks) {
         return BlocksOfChunks(file);
     }
+    if (reading == MetadataReading::FromIdentifiedBoxes) {
+        return BlocksOfJpeg2000(file);
+    }
     if (reading != MetadataReading::FromFile || HasTruncatedProfile(source)) {
         return BlocksOfDecoder(file, source);
     }
     try {
-        return BlocksOfFile(file, source);
+        return BlocksOfFile(file);
     } catch (const Exiv2::AnyError& problem) {
-        return BlocksAround(problem, file, source);
+        if (problem.code() != Exiv2::kerInvalidIccProfile) {
+            throw;
+        }
+        // The library refuses a whole file over a damaged profile, see BlocksOfJpeg2000().
+        return BlocksOfDecoder(file, source);
     }
 }
 
@@ -169,7 +190,7 @@ MetadataBlocks BlocksOrWarning(const QString& file, const PictureSource& source,
 {
     try {
         return BlocksOfAnyFile(file, source);
-    } catch (const Exiv2::AnyError& problem) {
+    } catch (const std::exception& problem) { // also those of the standard library, which metadata out of range cause
         warnings.append(
             {WarningKind::MetadataLost,
              QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});

@@ -589,7 +589,11 @@ void tst_WorkerJpegXl::plansFrames_data()
     QTest::newRow("24 megapixels at the highest effort") << QSize(6000, 4000) << 3 << 2000 << 9 << 7 << 4000;
     QTest::newRow("little effort") << QSize(6000, 4000) << 3 << 2000 << 0 << 1 << 4000;
     QTest::newRow("61 megapixels") << QSize(9504, 6336) << 3 << 2000 << 7 << 7 << 2304;
-    QTest::newRow("alpha") << QSize(6000, 4000) << 4 << 2000 << 7 << 7 << 2048;
+    // Detailed alpha takes twice the time from 5 to 7.
+    QTest::newRow("alpha") << QSize(6000, 4000) << 4 << 2000 << 7 << 5 << 2048;
+    QTest::newRow("grey with alpha") << QSize(6000, 4000) << 2 << 2000 << 9 << 5 << 2048;
+    QTest::newRow("alpha with little effort") << QSize(6000, 4000) << 4 << 2000 << 3 << 3 << 2048;
+    QTest::newRow("little alpha") << QSize(1600, 1200) << 4 << 2000 << 7 << 7 << 1200;
     QTest::newRow("little memory") << QSize(1000, 800) << 3 << 100 << 9 << 7 << 800;
     QTest::newRow("very little memory") << QSize(1000, 800) << 3 << 20 << 9 << 7 << 256;
     QTest::newRow("very wide") << QSize(1'000'000, 400) << 3 << 2000 << 7 << 7 << 24;
