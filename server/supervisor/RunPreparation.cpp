@@ -67,7 +67,9 @@ void RunPreparation::OpenJournal(const QString& path, const QString& document)
     journalLock = std::make_unique<QLockFile>(lockPath);
     journalLock->setStaleLockTime(0); // Only the end of its holder makes a lock stale, not its age.
     if (!journalLock->tryLock(lockTimeout)) {
-        refuse(QStringLiteral("%1 cannot be locked; another server may be at work").arg(lockPath));
+        const bool isHeld = journalLock->error() == QLockFile::LockFailedError;
+        refuse(isHeld ? QStringLiteral("another server holds %1").arg(lockPath)
+                      : QStringLiteral("%1 cannot be written; the disk may be full").arg(lockPath));
         return;
     }
     if (!journal.Open(path)) {
