@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <array>
 #include <ctime>
 #include <iconv.h>
 
@@ -15,9 +16,15 @@ namespace {
 // in metadata.
 void LoadCharacterSets()
 {
-    for (const char* set : {"ISO-8859-1", "UCS-2LE", "UCS-2BE"}) {
-        iconv_open("UTF-8", set);
-        iconv_open(set, "UTF-8");
+    struct Conversions
+    {
+        iconv_t from;
+        iconv_t to;
+    };
+    static std::array<Conversions, 3> opened; // Kept until the end of the process.
+    constexpr std::array sets{"ISO-8859-1", "UCS-2LE", "UCS-2BE"};
+    for (std::size_t i = 0; i < sets.size(); ++i) {
+        opened[i] = {iconv_open("UTF-8", sets[i]), iconv_open(sets[i], "UTF-8")};
     }
 }
 
