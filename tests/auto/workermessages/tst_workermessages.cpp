@@ -4,6 +4,7 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <array>
 #include <limits>
 
 using namespace BatchJob;
@@ -28,6 +29,13 @@ namespace {
 
 // Behind the length, the kind of message and the number of the task.
 constexpr int placeOfPolicy = 4 + 1 + 4;
+
+void Put(QByteArray& frame, int place, quint32 number)
+{
+    std::array<char, sizeof(number)> bytes{};
+    qToBigEndian(number, bytes.data());
+    frame.replace(place, int(bytes.size()), bytes.data(), int(bytes.size()));
+}
 
 } // namespace
 
@@ -74,7 +82,7 @@ void tst_WorkerMessages::unknownPolicyIsKept()
 {
     QFETCH(qint32, number);
     QByteArray frame = FrameFromWorker(Report());
-    qToBigEndian(number, frame.data() + placeOfPolicy);
+    Put(frame, placeOfPolicy, quint32(number));
     FrameReader reader;
     reader.Append(frame);
     const std::optional<FromWorker> message = reader.NextFromWorker();
@@ -101,7 +109,7 @@ void tst_WorkerMessages::countOfWarningsIsNotBelieved()
     report.reason = report.detail = QStringLiteral("");
     QByteArray frame = FrameFromWorker(report);
     QCOMPARE(qFromBigEndian<quint32>(frame.constData() + placeOfCount), quint32(0));
-    qToBigEndian(count, frame.data() + placeOfCount);
+    Put(frame, placeOfCount, count);
     FrameReader reader;
     reader.Append(frame);
     QVERIFY(!reader.NextFromWorker());
