@@ -183,16 +183,15 @@ void OutputPlan::ChangeFormat(int index, const FormatSchema& format)
 void OutputPlan::Rename(int index)
 {
     Entry& entry = entries[index];
-    const Place wanted(folders[entry.folder].keyId,
-                       NameKey(FileName(entry.stem, {}, entry.format->extensions.first())));
-    int& next = nextAdditions[wanted];
+    const int folder = folders[entry.folder].keyId;
+    int& next = nextAdditions[{folder, FileName(entry.stem, {}, entry.format->extensions.first())}];
     next = std::max(next, 2);
     do {
         SetName(index, Numbered(next++));
     } while (IsTaken(entry.folder, NameKey(entry.name)));
     entry.clash = Clash::None;
     entry.other = -1;
-    takers.insert({wanted.first, NameKey(entry.name)}, index);
+    takers.insert({folder, NameKey(entry.name)}, index);
 }
 
 QString OutputPlan::SubFolder(int index) const

@@ -154,7 +154,7 @@ private:
     QHash<Place, int> takers; ///< the file that has a name
     QSet<QString> keptPaths;  ///< files that an earlier part of this run has written
     std::optional<qint64> newResultsSince;
-    QHash<Place, int> nextAdditions; ///< the first number behind a stem that may be free
+    QHash<Place, int> nextAdditions; ///< the first number that may be free, by the name without one as it is spelled
     QStringList sharedSources;
     bool areSourcesNoted = false;
     QHash<FileIdentity, int> sourceCounts; ///< the number of inputs and shared sources that are the same file

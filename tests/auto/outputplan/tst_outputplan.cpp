@@ -43,6 +43,7 @@ private Q_SLOTS:
     void renamedNamesAreFree();
     void changedFormatsAreCheckedAgain();
     void namesAtTheLimitAreRenamed();
+    void spellingsAtTheLimitAreNumberedOnTheirOwn();
     void givenUp();
     void manyFiles_data();
     void manyFiles();
@@ -440,6 +441,29 @@ void tst_OutputPlan::namesAtTheLimitAreRenamed()
         Write(QStringLiteral("out/") + plan.OutputName(i));
     }
     QVERIFY(plan.OutputName(1).endsWith(QStringLiteral("a (2).png")));
+}
+
+/// Two spellings of one name may be cut at different places to make room for a number. Then a number that the one has
+/// taken is free for the other, whether the first was renamed by this part of the run or by an earlier one.
+void tst_OutputPlan::spellingsAtTheLimitAreNumberedOnTheirOwn()
+{
+    const QString rest(100, QChar(0x4E00)); // three bytes each
+    const QString composed = QStringLiteral("/in/aa") + QChar(0xE9) + rest;
+    const QString decomposed = QStringLiteral("/in/aae") + QChar(0x301) + rest;
+    OutputPlan plan = Plan({composed, decomposed, composed});
+    plan.Rename(1);
+    plan.Rename(2);
+    for (const int file : {1, 2}) {
+        QVERIFY2(plan.OutputName(file).endsWith(QStringLiteral(" (2).png")), qPrintable(plan.OutputName(file)));
+    }
+    QVERIFY(NameKey(plan.OutputName(1)) != NameKey(plan.OutputName(2)));
+
+    OutputPlan resumed(AsFiles({composed, decomposed, composed}), settings);
+    resumed.KeepResult(1, plan.Output(1));
+    resumed.ReadInputs();
+    resumed.MakeNames();
+    resumed.Rename(2);
+    QCOMPARE(OutputNames(resumed), OutputNames(plan));
 }
 
 void tst_OutputPlan::givenUp()
