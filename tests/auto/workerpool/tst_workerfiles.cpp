@@ -78,6 +78,9 @@ void tst_WorkerFiles::foldersOfTheJobAreReadableAsAWhole()
 /// A folder of the job may hold links to files elsewhere, which the user means to be read.
 void tst_WorkerFiles::linksLeadToWhatTheyName()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Qt's links are files there");
+#endif
     QVERIFY(QDir(folder->path()).mkpath(Text("trip")));
     QFile real(Path(Text("elsewhere.jpg")));
     QVERIFY(real.open(QIODevice::WriteOnly));
