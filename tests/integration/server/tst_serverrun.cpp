@@ -1,6 +1,8 @@
 #include "RawPicture.h"
 #include "ServerRun.h"
 
+#include "server/protocol/SystemProtection.h"
+
 #include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 #include "ZTStyle.h"
@@ -49,9 +51,11 @@ void tst_ServerRun::messagesOfARun()
     QVERIFY(run.Start());
     run.Process(run.Job({good, bad}));
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
-    const QStringList expected{
-        QStringLiteral("range 0 2"),
-        QStringLiteral("log The job has 2 files."),
+    QStringList expected{QStringLiteral("range 0 2"), QStringLiteral("log The job has 2 files.")};
+    for (const QString& missing : BatchProtocol::SystemProtection::OfThisSystem().Missing()) {
+        expected.append(QStringLiteral("log ") + missing);
+    }
+    expected += QStringList{
         QStringLiteral("file [in/good.jpg]"),
         QStringLiteral("processed [in/good.jpg] [out/good.jpg]"),
         QStringLiteral("progress 1"),
