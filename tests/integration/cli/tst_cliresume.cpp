@@ -187,7 +187,11 @@ void tst_CliResume::killedAtAnyMoment()
                 continue;
             }
             resumed += hadNothingToDo ? 0 : 1;
-            QVERIFY2(files.keys() == undisturbed.keys(), qPrintable(files.keys().join(QLatin1Char(' '))));
+            QVERIFY2(files.keys() == undisturbed.keys(),
+                     QStringLiteral("exit code %1, %2: %3")
+                         .arg(run.exitCode())
+                         .arg(files.keys().join(QLatin1Char(' ')), QString::fromUtf8(err))
+                         .toUtf8());
             QVERIFY2(files == undisturbed, "A result differs from that of the undisturbed run.");
         }
     }
