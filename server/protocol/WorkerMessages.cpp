@@ -16,11 +16,11 @@ constexpr quint32 maximumPayload = 256U << 20;
 // A report is a few lines. A worker that a malicious picture has taken over must not fill the memory of its client.
 constexpr quint32 maximumReport = 1U << 20;
 
+// More than any picture has.
+constexpr int mostWarnings = 1000;
+
 // On the wire 0 is no failure, and the policies count from 1.
 constexpr int firstPolicy = 1;
-
-// More than any picture has.
-constexpr quint32 mostWarnings = 1000;
 
 QDataStream& operator<<(QDataStream& stream, BatchJob::PolicyKind kind)
 {
@@ -35,22 +35,6 @@ QDataStream& operator>>(QDataStream& stream, BatchJob::PolicyKind& kind)
     return stream;
 }
 
-/// The count comes before the warnings, and QVector's own operator would take memory for any.
-QDataStream& operator>>(QDataStream& stream, BatchJob::Warnings& warnings)
-{
-    quint32 count = 0;
-    stream >> count;
-    if (count > mostWarnings) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return stream;
-    }
-    warnings.resize(int(count));
-    for (BatchJob::Warning& warning : warnings) {
-        stream >> warning;
-    }
-    return stream;
-}
-
 template<typename Field>
 void WriteField(QDataStream& stream, const Field& field)
 {
@@ -61,6 +45,32 @@ template<typename Field>
 void ReadField(QDataStream& stream, Field& field)
 {
     stream >> field;
+}
+
+/// The count comes first, and Qt's own operators would take memory for any.
+template<typename List>
+void ReadList(QDataStream& stream, List& list)
+{
+    quint32 count = 0;
+    stream >> count;
+    for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        typename List::value_type item;
+        stream >> item;
+        list.append(item);
+    }
+}
+
+void ReadField(QDataStream& stream, QStringList& texts)
+{
+    ReadList(stream, texts);
+}
+
+void ReadField(QDataStream& stream, BatchJob::Warnings& warnings)
+{
+    ReadList(stream, warnings);
+    if (warnings.size() > mostWarnings) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+    }
 }
 
 /// Times are those of the local clock. To read a time zone would open a file that the sender names.

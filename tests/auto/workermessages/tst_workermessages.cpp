@@ -22,6 +22,8 @@ private Q_SLOTS:
     void unknownPolicyIsKept();
     void countOfWarningsIsNotBelieved_data();
     void countOfWarningsIsNotBelieved();
+    void countOfFilesIsNotBelieved_data();
+    void countOfFilesIsNotBelieved();
     void timesComeWithoutTheirZone();
 };
 
@@ -35,6 +37,17 @@ void Put(QByteArray& frame, int place, quint32 number)
     std::array<char, sizeof(number)> bytes{};
     qToBigEndian(number, bytes.data());
     frame.replace(place, int(bytes.size()), bytes.data(), int(bytes.size()));
+}
+
+void AddHighCounts()
+{
+    QTest::addColumn<quint32>("count");
+    QTest::newRow("one") << quint32(1);
+    QTest::newRow("a thousand million") << quint32(1'000'000'000);
+    QTest::newRow("a quarter of the highest") << quint32(0x40000000);
+    QTest::newRow("highest that is positive with a sign") << quint32(0x7FFFFFFF);
+    QTest::newRow("lowest that is negative with a sign") << quint32(0x80000000);
+    QTest::newRow("highest") << quint32(0xFFFFFFFF);
 }
 
 } // namespace
@@ -92,12 +105,7 @@ void tst_WorkerMessages::unknownPolicyIsKept()
 
 void tst_WorkerMessages::countOfWarningsIsNotBelieved_data()
 {
-    QTest::addColumn<quint32>("count");
-    QTest::newRow("one") << quint32(1);
-    QTest::newRow("a thousand million") << quint32(1'000'000'000);
-    QTest::newRow("highest that is positive with a sign") << quint32(0x7FFFFFFF);
-    QTest::newRow("lowest that is negative with a sign") << quint32(0x80000000);
-    QTest::newRow("highest") << quint32(0xFFFFFFFF);
+    AddHighCounts();
 }
 
 void tst_WorkerMessages::countOfWarningsIsNotBelieved()
@@ -113,6 +121,25 @@ void tst_WorkerMessages::countOfWarningsIsNotBelieved()
     FrameReader reader;
     reader.Append(frame);
     QVERIFY(!reader.NextFromWorker());
+    QVERIFY(reader.IsBroken());
+}
+
+void tst_WorkerMessages::countOfFilesIsNotBelieved_data()
+{
+    AddHighCounts();
+}
+
+void tst_WorkerMessages::countOfFilesIsNotBelieved()
+{
+    QFETCH(quint32, count);
+    constexpr int behindReadable = 4 + 1; // the count of writable files and whether fonts are used
+    QByteArray frame = FrameToWorker(Job());
+    const int placeOfCount = frame.size() - behindReadable - 4;
+    QCOMPARE(qFromBigEndian<quint32>(frame.constData() + placeOfCount), quint32(0));
+    Put(frame, placeOfCount, count);
+    FrameReader reader;
+    reader.Append(frame);
+    QVERIFY(!reader.NextToWorker());
     QVERIFY(reader.IsBroken());
 }
 
