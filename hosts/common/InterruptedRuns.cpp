@@ -21,15 +21,6 @@ namespace BatchHost {
 
 namespace {
 
-/// The text of `job` without its inputs.
-QString SettingsOf(const ZTBatchDocument& job)
-{
-    ZTBatchDocument settings;
-    settings.Deserialize(job.Serialize(nullptr));
-    settings.GetInputModel()->removeRows(0, settings.GetInputModel()->rowCount());
-    return settings.Serialize(nullptr);
-}
-
 /// The results that an interrupted run may have written.
 QSet<FileIdentity> ResultsOf(const JournalState& state)
 {
@@ -65,7 +56,7 @@ bool IsSame(const ZTBatchDocument& job, const ZTBatchDocument& interrupted, cons
             return false;
         }
     }
-    return expected == before.end() && SettingsOf(job) == SettingsOf(interrupted);
+    return expected == before.end() && SettingsTextOf(job) == SettingsTextOf(interrupted);
 }
 
 } // namespace

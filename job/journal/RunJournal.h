@@ -63,8 +63,8 @@ struct JournalState
     QMap<int, int> answers;
 };
 
-/// Reads the journal `path`. Nothing when there is none, or the file is something else; a file that OpenOwnFile()
-/// refuses is something else. A truncated last line is ignored.
+/// Reads the journal `path`. Returns nothing if the file is missing, is not a journal, or is refused by OpenOwnFile().
+/// A truncated last line is ignored.
 std::optional<JournalState> ReadJournal(const QString& path);
 
 /// Whether the run of the journal `path` has started, which is when the first line, the header, is whole. False for a
@@ -79,7 +79,7 @@ public:
     /// Starts a new journal at `path`, where there must be no file. False when it cannot be written, see Problem().
     bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies);
 
-    /// Continues the journal at `path`. False when there is none, or it cannot be written, see Problem().
+    /// Continues the journal at `path`. False if it is missing or cannot be written, see Problem().
     bool Open(const QString& path);
 
     bool IsOpen() const { return file != nullptr; }

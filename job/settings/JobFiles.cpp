@@ -2,6 +2,7 @@
 
 #include "OutputNaming.h"
 
+#include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
 
 namespace BatchJob {
@@ -43,6 +44,14 @@ QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input)
         }
     }
     return files;
+}
+
+QString SettingsTextOf(const ZTBatchDocument& job)
+{
+    ZTBatchDocument settings;
+    settings.Deserialize(job.Serialize(nullptr));
+    settings.GetInputModel()->removeRows(0, settings.GetInputModel()->rowCount());
+    return settings.Serialize(nullptr);
 }
 
 } // namespace BatchJob

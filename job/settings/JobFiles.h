@@ -3,6 +3,7 @@
 #include <QString>
 #include <QVector>
 
+class ZTBatchDocument;
 class ZTBatchInputModel;
 
 namespace BatchJob {
@@ -19,5 +20,8 @@ struct JobFile
 /// The files of a job in the document's order: from top to bottom of the tree with all folders expanded. Trees of any
 /// depth are walked without recursion.
 QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input);
+
+/// The text of `job` without its inputs.
+QString SettingsTextOf(const ZTBatchDocument& job);
 
 } // namespace BatchJob

@@ -39,6 +39,10 @@ private:
     Q_DISABLE_COPY(ResultFolder)
 
     bool OpenRoot(const QString& root, Missing missing);
+
+    /// Enters the folder `below` in one step. False where the system does not know that step, and on failure, whose
+    /// reason is found step by step.
+    bool EnterAtOnce(const QString& below);
     bool Enter(const QString& folder, const QString& name, Missing missing);
 
     QString error;

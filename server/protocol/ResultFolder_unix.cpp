@@ -31,8 +31,6 @@ bool IsLink(int folder, const QByteArray& name)
     return fstatat(folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
 }
 
-/// Opens a folder below `root` in one step. -1 where the system or a filter of system calls does not know that step,
-/// and on failure, whose reason is found step by step.
 int OpenBelow(int root, const QByteArray& path)
 {
 #ifdef SYS_openat2
@@ -47,16 +45,6 @@ int OpenBelow(int root, const QByteArray& path)
 #endif
 }
 
-/// `path` relative to `root`, both cleaned; null when it does not lie there.
-QString PathBelow(const QString& root, const QString& path)
-{
-    if (path == root) {
-        return QStringLiteral("");
-    }
-    const QString start = root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/');
-    return path.startsWith(start) ? path.mid(start.size()) : QString();
-}
-
 } // namespace
 
 ResultFolder::~ResultFolder()
@@ -64,37 +52,6 @@ ResultFolder::~ResultFolder()
     if (descriptor >= 0) {
         close(descriptor);
     }
-}
-
-bool ResultFolder::Open(const QString& root, const QString& path, Missing missing)
-{
-    Q_ASSERT(descriptor < 0);
-    const QString cleanPath = QDir::cleanPath(path);
-    const QString cleanRoot = root.isEmpty() ? cleanPath : QDir::cleanPath(root);
-    const QString below = PathBelow(cleanRoot, cleanPath);
-    if (below.isNull()) {
-        error = QStringLiteral("%1 does not lie in the output folder %2").arg(path, root);
-        return false;
-    }
-    if (!OpenRoot(cleanRoot, missing)) {
-        return false;
-    }
-    if (below.isEmpty()) {
-        return true;
-    }
-    const int opened = OpenBelow(descriptor, QFile::encodeName(below));
-    if (opened >= 0) {
-        close(std::exchange(descriptor, opened));
-        return true;
-    }
-    QString folder = cleanRoot;
-    for (const QString& name : below.split(QLatin1Char('/'))) {
-        folder += (folder.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/")) + name;
-        if (!Enter(folder, name, missing)) {
-            return false;
-        }
-    }
-    return true;
 }
 
 bool ResultFolder::OpenRoot(const QString& root, Missing missing)
@@ -107,6 +64,15 @@ bool ResultFolder::OpenRoot(const QString& root, Missing missing)
         error = QStringLiteral("%1: %2").arg(root, qt_error_string(errno));
     }
     return descriptor >= 0;
+}
+
+bool ResultFolder::EnterAtOnce(const QString& below)
+{
+    const int opened = OpenBelow(descriptor, QFile::encodeName(below));
+    if (opened >= 0) {
+        close(std::exchange(descriptor, opened));
+    }
+    return opened >= 0;
 }
 
 /// Goes from the open folder into its folder `name`, whose path is `folder`.

@@ -33,31 +33,6 @@ ResultFolder::~ResultFolder()
     }
 }
 
-bool ResultFolder::Open(const QString& root, const QString& path, Missing missing)
-{
-    const QString cleanPath = QDir::cleanPath(path);
-    const QString cleanRoot = root.isEmpty() ? cleanPath : QDir::cleanPath(root);
-    const QString below = QDir(cleanRoot).relativeFilePath(cleanPath);
-    if (below.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(below)) {
-        error = QStringLiteral("%1 does not lie in the output folder %2").arg(path, root);
-        return false;
-    }
-    if (!OpenRoot(cleanRoot, missing)) {
-        return false;
-    }
-    QString folder = cleanRoot;
-    for (const QString& name : below.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
-        if (name == QLatin1String(".")) {
-            continue;
-        }
-        folder += (folder.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/")) + name;
-        if (!Enter(folder, name, missing)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 bool ResultFolder::OpenRoot(const QString& root, Missing missing)
 {
     if (missing == Missing::Make) {
@@ -70,6 +45,11 @@ bool ResultFolder::OpenRoot(const QString& root, Missing missing)
     }
     handles.push_back(handle);
     return true;
+}
+
+bool ResultFolder::EnterAtOnce(const QString&)
+{
+    return false;
 }
 
 /// Goes into the folder `folder`. Its parent is open and cannot be replaced.

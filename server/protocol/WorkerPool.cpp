@@ -94,7 +94,7 @@ void WorkerPool::Give(const Assignment& task)
     worker->Give(task);
 }
 
-/// The worker with the fewest tasks, below `mostTasks`, that can take one of `job`; null when there is none.
+/// The worker with the fewest tasks, below `mostTasks`, that can take one of `job`; null if no worker can.
 WorkerProcess* WorkerPool::WorkerFor(const QByteArray& job, int mostTasks) const
 {
     const bool mayTakeNew = IsFirstInLine(job);

@@ -92,6 +92,10 @@ void WorkerProcess::End(WorkerEnd reason)
         end = reason;
         clock.stop();
         process.kill();
+        // Qt reads ahead, and some systems take a while to end a process that never stops writing. Later, because a
+        // channel cannot be closed while it reports that it can be read.
+        QMetaObject::invokeMethod(
+            this, [this] { process.closeReadChannel(QProcess::StandardOutput); }, Qt::QueuedConnection);
     }
 }
 

@@ -104,7 +104,7 @@ void Server::Accept(QLocalSocket* socket)
 }
 
 /// Ends the oldest connection without a session, of the process that has most connections. So a crowd of connections
-/// does not push out a host that has not begun its session yet. False when there is none.
+/// does not push out a host that has not begun its session yet. False if every connection has a session.
 bool Server::MakeRoom()
 {
     QHash<qint64, int> counts;

@@ -25,14 +25,6 @@ namespace BatchCli {
 
 namespace {
 
-QString JobSettingsText(const ZTBatchDocument& job)
-{
-    ZTBatchDocument settings;
-    settings.Deserialize(job.Serialize(nullptr));
-    settings.GetInputModel()->removeRows(0, settings.GetInputModel()->rowCount());
-    return settings.Serialize(nullptr);
-}
-
 void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line, bool isVerbose)
 {
     QVector<FileProber::File> files;
@@ -43,7 +35,7 @@ void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line, bool isV
         return;
     }
     int done = 0;
-    FileProber::Probe(files, JobSettingsText(job), [&](const BatchProtocol::Report& report) {
+    FileProber::Probe(files, SettingsTextOf(job), [&](const BatchProtocol::Report& report) {
         ++done;
         line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
         if (report.failure == PolicyKind::None) {

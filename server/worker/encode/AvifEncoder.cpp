@@ -11,14 +11,7 @@ namespace BatchWorker {
 namespace {
 
 // As measured with libaom 3.6, and a little more.
-double BytesOfPixel(const HeifSettings& settings, bool hasAlpha)
-{
-    const double ofColours = settings.keepsFineColour ? 44 : 27;
-    const double ofLossless = settings.isLossless ? 8 : 0;
-    const double ofAlpha = hasAlpha ? 5 : 0;
-    const double deepFactor = settings.bits > 8 ? 1.6 : 1;
-    return (ofColours + ofLossless + ofAlpha) * deepFactor;
-}
+constexpr EncoderMemory memory{44, 27, 8, 5};
 
 void Write(const Picture& picture, const QJsonObject& options, const QByteArray&, const vips::VTarget& target)
 {
@@ -29,7 +22,7 @@ void Write(const Picture& picture, const QJsonObject& options, const QByteArray&
     settings.parameters = {{"speed", QByteArray::number(fastest - IntegerOption(options, "effort"))},
                            {"threads", QByteArray::number(QThread::idealThreadCount())},
                            {"aom:enable-intrabc", "0"}};
-    settings.bytesOfPixel = BytesOfPixel(settings, picture.bands() > 3);
+    settings.memory = memory;
     WriteHeif(picture, settings, target);
 }
 

@@ -14,14 +14,7 @@ constexpr std::array presets{"ultrafast", "superfast", "veryfast", "faster", "fa
                              "medium",    "slow",      "slow",     "slower", "veryslow"};
 
 // As measured with x265 3.5, and a little more.
-double BytesOfPixel(const HeifSettings& settings, bool hasAlpha)
-{
-    const double ofColours = settings.keepsFineColour ? 25 : 18;
-    const double ofLossless = settings.isLossless ? 10 : 0;
-    const double ofAlpha = hasAlpha ? 4 : 0;
-    const double deepFactor = settings.bits > 8 ? 1.6 : 1;
-    return (ofColours + ofLossless + ofAlpha) * deepFactor;
-}
+constexpr EncoderMemory memory{25, 18, 10, 4};
 
 void Write(const Picture& picture, const QJsonObject& options, const QByteArray&, const vips::VTarget& target)
 {
@@ -29,7 +22,7 @@ void Write(const Picture& picture, const QJsonObject& options, const QByteArray&
     settings.formatName = "HEIF";
     settings.compression = heif_compression_HEVC;
     settings.parameters = {{"preset", presets.at(std::size_t(IntegerOption(options, "effort")))}};
-    settings.bytesOfPixel = BytesOfPixel(settings, picture.bands() > 3);
+    settings.memory = memory;
     WriteHeif(picture, settings, target);
 }
 

@@ -32,6 +32,16 @@ void Check(const heif_error& error)
     }
 }
 
+double BytesOfPixel(const HeifSettings& settings, bool hasAlpha)
+{
+    const EncoderMemory& memory = settings.memory;
+    const double ofColours = settings.keepsFineColour ? memory.fineColours : memory.coarseColours;
+    const double ofLossless = settings.isLossless ? memory.lossless : 0;
+    const double ofAlpha = hasAlpha ? memory.alpha : 0;
+    const double deepFactor = settings.bits > 8 ? 1.6 : 1;
+    return (ofColours + ofLossless + ofAlpha) * deepFactor;
+}
+
 void CheckMemory(const Picture& picture, const HeifSettings& settings)
 {
     constexpr qint64 mebibyte = qint64(1) << 20;
@@ -39,7 +49,7 @@ void CheckMemory(const Picture& picture, const HeifSettings& settings)
     constexpr qint64 ofThread = 10 * mebibyte; // its stack, and what it works on
     const qint64 available = FreeMemory() - ofPipeline - QThread::idealThreadCount() * ofThread;
     const qint64 pixels = qint64(picture.width()) * picture.height();
-    if (double(pixels) * settings.bytesOfPixel > double(available)) {
+    if (double(pixels) * BytesOfPixel(settings, picture.bands() > 3) > double(available)) {
         throw TooLarge(QStringLiteral("writing %1 x %2 pixels as %3 needs more memory than a worker may use")
                            .arg(picture.width())
                            .arg(picture.height())

@@ -11,6 +11,15 @@
 
 namespace BatchWorker {
 
+/// The bytes that an encoder holds of a pixel of 8 bits at its peak.
+struct EncoderMemory
+{
+    double fineColours = 0; ///< with as many pixels as brightness
+    double coarseColours = 0;
+    double lossless = 0; ///< in addition
+    double alpha = 0;    ///< in addition
+};
+
 /// How a picture is coded into the file format that HEIF and AVIF share.
 struct HeifSettings
 {
@@ -25,7 +34,7 @@ struct HeifSettings
     /// been built with another encoder.
     QVector<QPair<QByteArray, QByteArray>> parameters;
 
-    double bytesOfPixel = 0; ///< what the encoder holds of a pixel at its peak
+    EncoderMemory memory;
 };
 
 /// What `options` and the depth of `picture` say; the rest is for the caller to set.

@@ -10,6 +10,8 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <libheif/heif.h>
+
 using namespace BatchJob;
 using namespace BatchProtocol;
 using namespace BatchWorker;
@@ -311,10 +313,12 @@ void tst_WorkerPictures::keepsDepth()
         options.insert(Text("bitDepth"), wanted);
     }
     const Report report = bench->Make(Text("in.png"), NameIn(format), format, options);
-    if (wanted == 10 && report.failure == PolicyKind::WriteToFormat) {
+    constexpr quint32 brokenVersion = 0x010f; // libheif 1.15, whose AVIF of 10 bits ends the process
+    if (format == Text("AVIF") && wanted == 10 && heif_get_version_number() >> 16U == brokenVersion) {
+        QVERIFY(report.failure == PolicyKind::WriteToFormat);
         QVERIFY(report.reason.contains(Text("depth")));
         QCOMPARE(report.nearestFormat, Text("TIFF"));
-        QSKIP("this encoder falls over at 10 bits; the worker has said so and lives");
+        return;
     }
     QCOMPARE(report.reason, QString());
     const Picture result = Colours(ReadPicture(bench->Path(NameIn(format))));

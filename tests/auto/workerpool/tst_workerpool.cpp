@@ -270,7 +270,7 @@ void tst_WorkerPool::passesNoOpenFilesOn()
 #ifndef Q_OS_LINUX
     QSKIP("only Linux tells which files are open");
 #else
-    // Such files may come from whoever started this process: they do not close by themselves.
+    // Opened without O_CLOEXEC, as a parent process may have passed them on.
     const int file = open("/dev/null", O_RDWR);
     const int high = fcntl(file, F_DUPFD, 500);
     QVERIFY(high >= 500);

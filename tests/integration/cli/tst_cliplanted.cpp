@@ -158,7 +158,7 @@ void tst_CliPlanted::locksOfOthersAreNamed_data()
     QTest::newRow("of the server") << QStringLiteral(".server");
 }
 
-// A named pipe: whoever opens it to read waits for ever.
+// The lock is a named pipe; opening that to read blocks.
 void tst_CliPlanted::locksOfOthersAreNamed()
 {
     QFETCH(QString, end);

@@ -41,7 +41,9 @@ private Q_SLOTS:
 private:
     void Start(QProcess& process, const QString& arguments) const;
     bool WaitForOutput(QProcess& process, const QByteArray& text, int count = 1);
+    void StartHeld(QProcess& process, qint64& server);
 
+    const QString gate = QStringLiteral("gate");
     std::unique_ptr<CliStage> stage;
     QByteArray output;
 };
@@ -72,6 +74,17 @@ bool tst_CliStandIn::WaitForOutput(QProcess& process, const QByteArray& text, in
         output += process.readAllStandardOutput();
     }
     return true;
+}
+
+/// Starts a run that waits over its second file until `gate` exists. `server` stays 0 when that fails.
+void tst_CliStandIn::StartHeld(QProcess& process, qint64& server)
+{
+    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + stage->Path(gate).toUtf8());
+    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
+    if (WaitForOutput(process, "\"begin\"", 2)) {
+        const QList<qint64> servers = ChildrenOf(process.processId());
+        server = servers.size() == 1 ? servers.first() : 0;
+    }
 }
 
 void tst_CliStandIn::filesAreWritten()
@@ -282,19 +295,16 @@ void tst_CliStandIn::killedRunsGoOn()
 
 void tst_CliStandIn::killedServersAreReplaced()
 {
-    const QString gate = stage->Path(QStringLiteral("gate"));
-    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
     QProcess process;
-    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
-    QVERIFY2(WaitForOutput(process, "\"begin\"", 2), output.constData());
-    const QList<qint64> servers = ChildrenOf(process.processId());
-    QCOMPARE(servers.size(), 1);
-    const QList<qint64> workers = ChildrenOf(servers.first());
+    qint64 server = 0;
+    StartHeld(process, server);
+    QVERIFY2(server != 0, output.constData());
+    const QList<qint64> workers = ChildrenOf(server);
     QCOMPARE(workers.size(), 1);
-    KillProcess(servers.first());
+    KillProcess(server);
     // A worker does not outlive its server.
     QTRY_VERIFY_WITH_TIMEOUT(!IsProcessAlive(workers.first()), 60'000);
-    stage->Write(QStringLiteral("gate"), {});
+    stage->Write(gate, {});
     QVERIFY(process.waitForFinished(120'000));
     output += process.readAllStandardOutput();
     const QByteArray errors = process.readAllStandardError();
@@ -310,16 +320,13 @@ void tst_CliStandIn::killedServersAreReplaced()
 #ifdef Q_OS_UNIX
 void tst_CliStandIn::terminatedServersAreReplaced()
 {
-    const QString gate = stage->Path(QStringLiteral("gate"));
-    stage->Write(QStringLiteral("photos/2.jpg"), "wait " + gate.toUtf8());
     QProcess process;
-    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
-    QVERIFY2(WaitForOutput(process, "\"begin\"", 2), output.constData());
-    const QList<qint64> servers = ChildrenOf(process.processId());
-    QCOMPARE(servers.size(), 1);
-    QCOMPARE(::kill(pid_t(servers.first()), SIGTERM), 0);
+    qint64 server = 0;
+    StartHeld(process, server);
+    QVERIFY2(server != 0, output.constData());
+    QCOMPARE(::kill(pid_t(server), SIGTERM), 0);
     QVERIFY2(WaitForOutput(process, "\"server-lost\""), output.constData());
-    stage->Write(QStringLiteral("gate"), {});
+    stage->Write(gate, {});
     QVERIFY(process.waitForFinished(120'000));
     const QByteArray errors = process.readAllStandardError();
     QVERIFY2(process.exitCode() == 0, errors.constData());

@@ -44,11 +44,7 @@ const QStringList goodResults{QStringLiteral("0.jpg"), QStringLiteral("1.jpg"), 
                               QStringLiteral("4.jpg")};
 
 /// More than a supervisor needs for these runs, less than a second of a flood.
-#ifdef Q_OS_WIN
-constexpr qint64 mostMemory = qint64(1) << 30; // Qt reads pipes ahead there, as much as there is.
-#else
 constexpr qint64 mostMemory = (isSanitized ? 300 : 100) << 20;
-#endif
 
 } // namespace
 
