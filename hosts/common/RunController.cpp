@@ -48,7 +48,10 @@ RunController::RunController(const Order& order, const QVector<RunObserver*>& ob
     connect(&watch, &ServerWatch::Quiet, this, &RunController::OnServerQuiet);
     connect(&watch, &ServerWatch::Lost, this, &RunController::OnServerLost);
     sessionOver.setSingleShot(true);
-    connect(&sessionOver, &QTimer::timeout, this, [this] { End(phase == Phase::Cancelling, false); });
+    connect(&sessionOver, &QTimer::timeout, this, [this] {
+        SettleFromJournal();
+        End(phase == Phase::Cancelling, false);
+    });
     connect(manager, &ZTBatchManager::ConnectionEstablished, this, &RunController::BeginSession);
     connect(manager, &ZTBatchManager::ConnectionFailed, this, &RunController::OnServerGone);
 }
@@ -430,9 +433,13 @@ void RunController::OnServerLost()
     }
 }
 
-/// The server may have written results to the journal that it could not report any more.
+/// A server may have written results to the journal that it could not report: it was killed, or its host was, and this
+/// run had already started.
 void RunController::SettleFromJournal()
 {
+    if (open.isEmpty()) {
+        return;
+    }
     for (const auto& [index, result] : JournaledResults()) {
         if (open.value(result.input).contains(index)) {
             Settle(result);

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void journalThatWasNotBegun_data();
     void journalThatWasNotBegun();
     void lockThatOutlivesItsHolder();
+    void serverThatOutlivesItsHost();
     void otherJobsAreNotResumed();
     void linesThatMakeNoSense();
     void sameJobTwiceAtATime();
@@ -319,6 +320,43 @@ void tst_CliResume::lockThatOutlivesItsHolder()
     lock.close();
     QVERIFY(resumed.waitForFinished(120'000));
     QVERIFY2(resumed.exitCode() == 0, resumed.readAllStandardError().constData());
+    QCOMPARE(FilesBelow(out.path()).size(), 12);
+}
+
+// The server of a host that was killed writes one more result while the resumed run already waits for it to end.
+void tst_CliResume::serverThatOutlivesItsHost()
+{
+    KillRun();
+    const QDir out(Path(QStringLiteral("out")));
+    const QStringList journals =
+        out.entryList({QStringLiteral(".velkora-batch-*.journal")}, QDir::Files | QDir::Hidden);
+    QCOMPARE(journals.size(), 1);
+    const QString journal = out.filePath(journals.first());
+    QLockFile server(journal + QStringLiteral(".server"));
+    server.setStaleLockTime(0);
+    QVERIFY(server.tryLock(60'000));
+    const auto settle = [&](int index, const QString& output) {
+        PictureFiles::WriteJpeg(out.filePath(output), 77);
+        QFile file(journal);
+        QVERIFY(file.open(QIODevice::Append));
+        const QString line =
+            QStringLiteral("{\"written\":%1,\"output\":\"%2\"}\n").arg(index).arg(out.filePath(output));
+        QVERIFY(file.write(line.toUtf8()) > 0);
+    };
+    settle(10, QStringLiteral("b/5.jpg"));
+    QProcess resumed;
+    Start(resumed, QStringLiteral("run --resume -o out --json"));
+    QByteArray events;
+    while (!events.contains("b/5.jpg")) {
+        QVERIFY2(resumed.waitForReadyRead(60'000), resumed.readAllStandardError().constData());
+        events += resumed.readAllStandardOutput();
+    }
+    settle(11, QStringLiteral("b/6.jpg"));
+    server.unlock();
+    QVERIFY(resumed.waitForFinished(120'000));
+    events += resumed.readAllStandardOutput();
+    QVERIFY2(resumed.exitCode() == 0, events + resumed.readAllStandardError());
+    QCOMPARE(events.count("\"event\":\"written\""), 12);
     QCOMPARE(FilesBelow(out.path()).size(), 12);
 }
 
