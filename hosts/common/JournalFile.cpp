@@ -153,7 +153,7 @@ std::unique_ptr<JournalFile> JournalFile::Take(const QString& path)
 
 bool JournalFile::IsRunning(const QString& path)
 {
-    return JournalFile(path).IsInUse();
+    return QFileInfo::exists(path + lockEnd) && JournalFile(path).IsInUse();
 }
 
 QStringList JournalFile::In(const QString& outputFolder)

@@ -1,8 +1,13 @@
 #include "SharedNames.h"
 
-#include <QStringList>
-
 namespace BatchJob {
+
+namespace {
+
+const QString countEnd = QStringLiteral(": ");
+const QString exampleEnd = QStringLiteral("; ");
+
+} // namespace
 
 Refusal RefusalOfSharedNames(const RunPlan& plan)
 {
@@ -23,8 +28,16 @@ Refusal RefusalOfSharedNames(const RunPlan& plan)
     const QString count = shared.size() == 1
                               ? QStringLiteral("1 result would get the name of another")
                               : QStringLiteral("%1 results would get the names of others").arg(shared.size());
-    return {ZTBatchMessage::FileNameAlreadyExists,
-            QStringLiteral("%1: %2").arg(count, examples.join(QStringLiteral("; ")))};
+    return {ZTBatchMessage::FileNameAlreadyExists, count + countEnd + examples.join(exampleEnd)};
+}
+
+QStringList LinesOfSharedNames(const QString& message)
+{
+    const int end = message.indexOf(countEnd);
+    if (end < 0) {
+        return {message};
+    }
+    return QStringList{message.left(end)} + message.mid(end + countEnd.size()).split(exampleEnd);
 }
 
 } // namespace BatchJob

@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/PolicyOptions.h"
 #include "hosts/cli/terminal/Console.h"
+#include "job/plan/SharedNames.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchMessage.h"
@@ -136,8 +137,14 @@ void TellTroubleOfServer(const RunEnd& end)
     if (outcome == RunOutcome::NoWorkers) {
         Tell(QStringLiteral("no worker can be started; VelkoraBatchWorker belongs beside %1.").arg(program));
     } else if (outcome == RunOutcome::Refused) {
-        Tell(end.jobError);
-        if (end.jobErrorCode == ZTBatchMessage::FileNameAlreadyExists) {
+        if (end.jobErrorCode != ZTBatchMessage::FileNameAlreadyExists) {
+            Tell(end.jobError);
+        } else {
+            const QStringList lines = LinesOfSharedNames(end.jobError);
+            Tell(lines.first() + QLatin1Char(':'));
+            for (const QString& line : lines.mid(1)) {
+                WriteErrorLine(QStringLiteral("    ") + line);
+            }
             WriteErrorLine(
                 QStringLiteral("No picture was processed. --structure input keeps the folders of the inputs, "
                                "--on-name-exists rename numbers such names, and another --name, --prefix or "
