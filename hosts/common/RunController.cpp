@@ -73,6 +73,7 @@ void RunController::Start()
             }
         }
     }
+    end.unwrittenBefore = end.unwritten;
     StartServer();
 }
 
@@ -203,6 +204,7 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
         break;
     }
     default: {
+        end.renamed += BatchJob::Action(action) == BatchJob::Action::WrittenUnderAnotherName ? 1 : 0;
         const BatchJob::Word* const word = BatchJob::FindWord(BatchJob::ActionWords, action);
         const QString what = word == nullptr ? QString::number(action) : QString::fromLatin1(word->word);
         for (RunObserver* const observer : observers) {
@@ -340,6 +342,9 @@ bool RunController::Count(const FileResult& result, int index)
     case FileResult::Kind::Failed:
         ++end.failed;
         break;
+    }
+    if (result.kind != FileResult::Kind::Written) {
+        ++end.unwritten[PolicyOfError(result.errorCode)];
     }
     for (const Warning& warning : result.warnings) {
         ++end.warnings[warning.kind];

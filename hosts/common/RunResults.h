@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job/values/PolicyValues.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
 
@@ -42,6 +43,13 @@ struct RunEnd
     int skipped = 0;
     int failed = 0;
     QMap<BatchJob::WarningKind, int> warnings; ///< how many there are of each kind
+
+    /// The skipped and failed files by the policies that decide about them; None for those that were written, but with
+    /// warnings.
+    QMap<BatchJob::PolicyKind, int> unwritten;
+
+    QMap<BatchJob::PolicyKind, int> unwrittenBefore; ///< those of them that an earlier part of the run has left
+    int renamed = 0; ///< results under other names than planned, in this part of the run
     double seconds = 0;
     bool isCancelled = false;
     bool isServerLost = false;

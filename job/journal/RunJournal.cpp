@@ -38,6 +38,7 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     state.isComplete = line.value(Key("complete")).toInt(1) != 0;
     state.beganAt = line.value(Key("since")).toString().toLongLong();
     state.document = line.value(Key("document")).toString();
+    state.isInPlace = line.value(Key("inPlace")).toInt() == 1;
     for (std::size_t i = 0; i < state.policies.size(); ++i) {
         state.policies[i] = policies.at(int(i)).toInt();
     }
@@ -126,7 +127,8 @@ bool HasJournalBegun(const QString& path)
     return OpenOwnFile(file, path, OwnFileUse::Read, problem) && file.readLine().endsWith('\n');
 }
 
-bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies)
+bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies,
+                        bool isInPlace)
 {
     auto created = std::make_unique<QFile>();
     if (!CreateOwnFile(*created, newPath, problem)) {
@@ -136,12 +138,14 @@ bool RunJournal::Create(const QString& newPath, const QString& document, const s
     for (const int policy : policies) {
         values.append(policy);
     }
-    const QByteArray rest =
-        QJsonDocument(QJsonObject{{Key("journal"), version},
-                                  {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
-                                  {Key("document"), document},
-                                  {Key("policies"), values}})
-            .toJson(QJsonDocument::Compact);
+    QJsonObject object{{Key("journal"), version},
+                       {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
+                       {Key("document"), document},
+                       {Key("policies"), values}};
+    if (isInPlace) {
+        object.insert(Key("inPlace"), 1);
+    }
+    const QByteArray rest = QJsonDocument(object).toJson(QJsonDocument::Compact);
     const QByteArray header = headerBegin + QByteArray("1,") + rest.mid(1) + '\n';
     if (created->write(header) != header.size()) {
         problem = created->errorString();

@@ -46,6 +46,7 @@ struct JournalState
 
     QString document;              ///< the text of the job
     std::array<int, 5> policies{}; ///< input, output, processing, naming, write-to-format
+    bool isInPlace = false;        ///< results may take the places of their own originals
 
     /// A worker was about to make a result.
     struct Beginning
@@ -77,7 +78,8 @@ class RunJournal
 {
 public:
     /// Starts a new journal at `path`, where there must be no file. False when it cannot be written, see Problem().
-    bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies);
+    bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies,
+                bool isInPlace = false);
 
     /// Continues the journal at `path`. False if it is missing or cannot be written, see Problem().
     bool Open(const QString& path);

@@ -21,7 +21,7 @@ RunForecast::RunForecast(const RunPlan& plan, const Policies& policies)
 RunForecast::Prospect RunForecast::Foresee(int file)
 {
     plan.SettleFormat(file, policies);
-    Prospect prospect{plan.TroubleOf(file), {}};
+    Prospect prospect{plan.TroubleOf(file), {}, plan.IsInPlace(file)};
     if (prospect.trouble.kind != PolicyKind::None) {
         prospect.decision = policies.Of(prospect.trouble.kind);
         if (*prospect.decision != Decision::Overwrite && *prospect.decision != Decision::Rename) {

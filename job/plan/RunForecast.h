@@ -18,6 +18,7 @@ public:
     {
         Trouble trouble;                  ///< the trouble that decides; none when the file is written as planned
         std::optional<Decision> decision; ///< what is done about it: Skip, Stop, Ask, Overwrite or Rename
+        bool isInPlace = false;           ///< without trouble: the result replaces its own original
     };
 
     /// `plan` has read the inputs and got the probes' results, but has no names yet.

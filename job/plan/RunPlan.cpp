@@ -33,7 +33,9 @@ void RunPlan::Settle(int first, const Policies& policies)
 {
     const Decision format = policies.Of(PolicyKind::WriteToFormat);
     const Decision naming = policies.Of(PolicyKind::Naming);
-    if (format != Decision::Nearest && naming != Decision::Rename && naming != Decision::Overwrite) {
+    const bool canDecide =
+        format == Decision::Nearest || naming == Decision::Rename || naming == Decision::Overwrite || replacesOriginals;
+    if (!canDecide) {
         return;
     }
     for (int i = first; i < plan.Count(); ++i) {
@@ -52,7 +54,13 @@ void RunPlan::SettleFormat(int file, const Policies& policies)
 void RunPlan::SettleName(int file, const Policies& policies)
 {
     const bool isTaken = plan.Format(file) && plan.ClashOf(file) != OutputPlan::Clash::None && !IsOverwriting(file);
-    if (isTaken && !IsSettled(file) && SafeDecision(file, policies.Of(PolicyKind::Naming)) == Decision::Rename) {
+    if (!isTaken || IsSettled(file)) {
+        return;
+    }
+    if (replacesOriginals && plan.OwnerOfName(file) == file) {
+        marks[std::size_t(file)].isOverwriting = true;
+        marks[std::size_t(file)].isInPlace = true;
+    } else if (SafeDecision(file, policies.Of(PolicyKind::Naming)) == Decision::Rename) {
         Rename(file);
     }
 }
@@ -119,10 +127,14 @@ Decision RunPlan::ResolveName(int file, Decision decision)
     return safe;
 }
 
-/// A user who lets results be overwritten does not mean pictures that are still to be read.
+/// A user who lets files be overwritten means results, not originals.
 Decision RunPlan::SafeDecision(int file, Decision decision)
 {
-    return decision == Decision::Overwrite && plan.IsAnothersSource(file) ? Decision::Rename : decision;
+    if (decision != Decision::Overwrite) {
+        return decision;
+    }
+    const bool isSafe = replacesOriginals ? !plan.IsAnothersSource(file) : !plan.IsSource(file);
+    return isSafe ? Decision::Overwrite : Decision::Rename;
 }
 
 void RunPlan::Rename(int file)
@@ -140,6 +152,23 @@ bool RunPlan::ChangeFormat(int file, const QString& format)
     plan.ChangeFormat(file, *schema);
     marks[std::size_t(file)].hasOtherFormat = true;
     return true;
+}
+
+QVector<RunPlan::SharedName> RunPlan::SharedNames() const
+{
+    QVector<SharedName> shared;
+    for (int i = 0; i < plan.Count(); ++i) {
+        if (!plan.Format(i) || IsOverwriting(i) || IsSettled(i)) {
+            continue;
+        }
+        const int owner = plan.OwnerOfName(i);
+        if (owner >= 0 && IsInPlace(owner)) {
+            shared.append({owner, i});
+        } else if (plan.ClashOf(i) == OutputPlan::Clash::Result) {
+            shared.append({plan.ClashesWith(i), i});
+        }
+    }
+    return shared;
 }
 
 QStringList RunPlan::Folders() const

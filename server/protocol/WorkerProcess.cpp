@@ -40,11 +40,12 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
     : QObject(parent)
     , taskTime(limits.pictureSeconds * 1000)
     , temporaryFolder(QDir::temp().filePath(QStringLiteral("velkora-worker-XXXXXX")))
+    , streams(process)
 {
     clock.setSingleShot(true);
     connect(&clock, &QTimer::timeout, this, [this] { End(isReady ? WorkerEnd::Hung : WorkerEnd::FailedToStart); });
-    connect(&process, &QProcess::readyReadStandardOutput, this, &WorkerProcess::ReadReports);
-    connect(&process, &QProcess::readyReadStandardError, this, &WorkerProcess::NoteErrors);
+    connect(&streams, &WorkerStreams::OutputArrived, this, [this] { ReadReports(streams.TakeOutput()); });
+    connect(&streams, &WorkerStreams::ErrorsArrived, this, [this] { NoteErrors(streams.TakeErrors()); });
     connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &WorkerProcess::Finish);
     connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
@@ -54,6 +55,7 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
     clock.start(startTime);
     process.setProcessEnvironment(EnvironmentOfWorkers(temporaryFolder.path()));
     process.Launch(program, QStringList());
+    streams.AfterLaunch();
 }
 
 WorkerProcess::~WorkerProcess()
@@ -92,10 +94,6 @@ void WorkerProcess::End(WorkerEnd reason)
         end = reason;
         clock.stop();
         process.kill();
-        // Qt reads ahead, and some systems take a while to end a process that never stops writing. Later, because a
-        // channel cannot be closed while it reports that it can be read.
-        QMetaObject::invokeMethod(
-            this, [this] { process.closeReadChannel(QProcess::StandardOutput); }, Qt::QueuedConnection);
     }
 }
 
@@ -111,9 +109,8 @@ int WorkerProcess::Culprit() const
     return end == WorkerEnd::Hung ? 0 : begun - 1;
 }
 
-void WorkerProcess::ReadReports()
+void WorkerProcess::ReadReports(const QByteArray& bytes)
 {
-    const QByteArray bytes = process.readAllStandardOutput();
     if (end) {
         return;
     }
@@ -181,9 +178,8 @@ void WorkerProcess::OnBeginning(qint32 number)
     ++begun;
 }
 
-void WorkerProcess::NoteErrors()
+void WorkerProcess::NoteErrors(const QByteArray& bytes)
 {
-    const QByteArray bytes = process.readAllStandardError();
     lastErrors = (lastErrors + bytes.right(keptErrors)).right(keptErrors);
     errorBytes += bytes.size();
     if (errorBytes > mostErrorsOfTask) {
@@ -194,8 +190,8 @@ void WorkerProcess::NoteErrors()
 void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)
 {
     // Messages from before the end still count.
-    ReadReports();
-    NoteErrors();
+    ReadReports(streams.TakeRestOfOutput());
+    NoteErrors(streams.TakeRestOfErrors());
     clock.stop();
     exitText =
         status == QProcess::CrashExit ? CrashText(exitCode) : QStringLiteral("ended with exit code %1").arg(exitCode);

@@ -2,6 +2,7 @@
 
 #include "Assignment.h"
 #include "ChildProcess.h"
+#include "WorkerStreams.h"
 
 #include <QList>
 #include <QObject>
@@ -73,16 +74,17 @@ Q_SIGNALS:
     void Ended(WorkerEnd reason);
 
 private:
-    void ReadReports();
+    void ReadReports(const QByteArray& bytes);
     void OnReport(const Report& report);
     void OnBeginning(qint32 number);
-    void NoteErrors();
+    void NoteErrors(const QByteArray& bytes);
     void Finish(int exitCode, QProcess::ExitStatus status);
     void FailToStart();
 
     const int taskTime;            ///< ms
     QTemporaryDir temporaryFolder; ///< the worker's own: it may write there
     ChildProcess process;
+    WorkerStreams streams;
     QTimer clock; ///< runs while an answer is due
     FrameReader reader;
     QByteArray currentJob;

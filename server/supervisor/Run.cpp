@@ -66,6 +66,8 @@ void Run::Begin()
         return;
     }
     preparation = std::make_shared<RunPreparation>();
+    preparation->replacesOriginals = limits.replacesOriginals;
+    preparation->refusesSharedNames = limits.refusesSharedNames;
     StartInBackground(
         [preparation = preparation, path = journalPath,
          text = std::exchange(document, {})](const BackgroundTask::Cancelled& isCancelled) mutable {
@@ -196,8 +198,12 @@ void Run::BeginNaming()
 
 void Run::BeginWork()
 {
-    phase = Phase::Working;
     plan = std::move(preparation->plan);
+    if (preparation->refusal.code != ZTBatchMessage::NoError) {
+        Refuse(preparation->refusal);
+        return;
+    }
+    phase = Phase::Working;
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }

@@ -3,6 +3,7 @@
 #include "JobReader.h"
 
 #include "job/journal/OwnFile.h"
+#include "job/plan/SharedNames.h"
 #include "job/values/FileIdentity.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerFiles.h"
@@ -43,6 +44,9 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
         rightsToProbe = rightsToMake;
     }
     plan = RunPlan(OutputPlan(job.files, checked.settings));
+    if (replacesOriginals) {
+        plan.ReplaceOriginals();
+    }
     EnterEarlierResults();
     plan.ReadInputs(isCancelled);
 }
@@ -114,6 +118,12 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
         plan.ExpectResultsSince(earlier->beganAt);
     }
     if (!plan.MakeNames(policies, isCancelled)) {
+        return;
+    }
+    if (refusesSharedNames && policies.Of(PolicyKind::Naming) == Decision::Skip) {
+        refusal = RefusalOfSharedNames(plan);
+    }
+    if (refusal.code != ZTBatchMessage::NoError) {
         return;
     }
     FindUnjournaledResults();

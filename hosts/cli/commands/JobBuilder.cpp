@@ -4,12 +4,15 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
+#include "hosts/common/InPlaceOutput.h"
 #include "hosts/common/InputCollector.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
+#include "hosts/common/JobRequirements.h"
 #include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 
 #include <QLocale>
@@ -42,6 +45,34 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
     filter.hidden = arguments.Has(QStringLiteral("--hidden"));
     filter.outputFolder = job.GetOutputSettings()->GetPath();
     return filter;
+}
+
+/// Lets results go to the folders of their originals.
+void StayInPlace(ZTBatchDocument& job, const ParsedArguments& arguments)
+{
+    const QString structure = QStringLiteral("--structure");
+    if (arguments.Has(structure)) {
+        throw RequestError{
+            QStringLiteral("%1 cannot be used with --in-place without --output: results go to the folders "
+                           "of their originals")
+                .arg(structure)};
+    }
+    SetOutputInPlace(job);
+}
+
+RequestError NoPictures(const ParsedArguments& arguments)
+{
+    QStringList wildcards;
+    for (const QString& wildcard : arguments.Values(QStringLiteral("--include"))) {
+        wildcards.append(QStringLiteral("--include \"%1\"").arg(wildcard));
+    }
+    if (wildcards.isEmpty()) {
+        return {QStringLiteral("no pictures"), RequestError::Kind::NoPictures};
+    }
+    return {QStringLiteral("no pictures: %1 %2 nothing")
+                .arg(wildcards.join(QStringLiteral(" and ")),
+                     wildcards.size() == 1 ? QStringLiteral("matches") : QStringLiteral("match")),
+            RequestError::Kind::NothingMatches};
 }
 
 } // namespace
@@ -80,7 +111,32 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
                     .arg(file.path, file.format));
         }
     }
+    if (arguments.Has(QStringLiteral("--in-place")) && job.GetOutputSettings()->GetPath().isEmpty()) {
+        StayInPlace(job, arguments);
+    }
     return {collector.Problems().size(), collector.LeftOut()};
+}
+
+bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, const QStringList& inputs)
+{
+    if (job.GetInputModel()->GetFileNodesCount() > 0) {
+        return true;
+    }
+    if (inputs.isEmpty()) {
+        throw RequestError{QStringLiteral("no inputs"), RequestError::Kind::NoInputs};
+    }
+    const RequestError error = NoPictures(arguments);
+    if (!arguments.Has(QStringLiteral("--allow-empty"))) {
+        throw error;
+    }
+    const bool needsNoFolder = arguments.Has(QStringLiteral("--in-place")); // That is the folder of the pictures.
+    if (!needsNoFolder || !job.GetOutputSettings()->GetPath().isEmpty()) {
+        RequireUsableSettings(job);
+    }
+    if (!arguments.Has(QStringLiteral("--quiet"))) {
+        WriteErrorLine(QStringLiteral("velkora-batch: %1.").arg(error.text));
+    }
+    return false;
 }
 
 void TellLeftOut(const LeftOutFiles& files, const ParsedArguments& arguments)

@@ -20,6 +20,10 @@ struct InputLosses
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
 
+/// Whether the job that was built with `inputs` has pictures. Without any, throws RequestError unless `arguments` allow
+/// that, and then says so.
+bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, const QStringList& inputs);
+
 /// Writes how many files were left out to standard error, if there are any and the options do not ask for silence.
 void TellLeftOut(const BatchHost::LeftOutFiles& files, const ParsedArguments& arguments);
 

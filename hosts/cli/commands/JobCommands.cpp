@@ -50,7 +50,8 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     if (inputs.isEmpty()) {
         RequireUsableSettings(job);
     } else {
-        RequireRunnableJob(job);
+        HasPictures(job, arguments, inputs);
+        RequireUsableSettings(job);
     }
     if (path == QLatin1String("-")) {
         WriteOut(job.Serialize(nullptr));

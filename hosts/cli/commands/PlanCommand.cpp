@@ -53,6 +53,9 @@ void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line, bool isV
 RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, const ParsedArguments& arguments)
 {
     RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), CheckSettings(job).settings));
+    if (arguments.Has(QStringLiteral("--in-place"))) {
+        plan.ReplaceOriginals();
+    }
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
     plan.ReadInputs();
@@ -63,7 +66,7 @@ RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, c
 QString ProspectWord(const RunForecast::Prospect& prospect)
 {
     if (!prospect.decision) {
-        return QStringLiteral("write");
+        return prospect.isInPlace ? QStringLiteral("replace") : QStringLiteral("write");
     }
     switch (*prospect.decision) {
     case Decision::Skip:
@@ -92,6 +95,8 @@ QString Line(const RunForecast& forecast, int index)
     }
     if (prospect.decision) {
         line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), prospect.trouble.reason);
+    } else if (prospect.isInPlace) {
+        line += QStringLiteral("  [replaces the original]");
     }
     return VisibleText(line) + QLatin1Char('\n');
 }
@@ -119,7 +124,10 @@ ExitCode PlanJob(const ParsedArguments& arguments)
     ApplyPolicies(arguments, policies);
     ZTBatchDocument job;
     const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
-    RequireRunnableJob(job);
+    if (!HasPictures(job, arguments, inputs)) {
+        return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
+    }
+    RequireUsableSettings(job);
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));

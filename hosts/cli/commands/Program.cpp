@@ -67,6 +67,7 @@ ExitCode WithOutput(ExitCode code)
 QString RemedyFor(RequestError::Kind kind)
 {
     switch (kind) {
+    case RequestError::Kind::NoInputs:
     case RequestError::Kind::NoPictures:
         return QStringLiteral(": name files, or folders with pictures that can be read");
     case RequestError::Kind::NoOutputFolder:
@@ -77,11 +78,30 @@ QString RemedyFor(RequestError::Kind kind)
         return QStringLiteral(". Use --resume with --output alone to resume that run, or run this job without "
                               "--resume");
     case RequestError::Kind::SeveralRunsInterrupted:
-        return QStringLiteral("; use --resume with the inputs and options of the run to resume");
+    case RequestError::Kind::NoSuchRun:
+        return QStringLiteral("; use --resume --run NAME with one of these names");
+    case RequestError::Kind::NothingMatches:
+    case RequestError::Kind::NothingToResume:
+    case RequestError::Kind::AlreadyRunning:
     case RequestError::Kind::Other:
         break;
     }
     return {};
+}
+
+ExitCode CodeFor(RequestError::Kind kind)
+{
+    switch (kind) {
+    case RequestError::Kind::NoPictures:
+    case RequestError::Kind::NothingMatches:
+        return ExitCode::NoPictures;
+    case RequestError::Kind::AlreadyRunning:
+        return ExitCode::AlreadyRunning;
+    case RequestError::Kind::NothingToResume:
+        return ExitCode::NothingToResume;
+    default:
+        return ExitCode::Usage;
+    }
 }
 
 } // namespace
@@ -106,8 +126,12 @@ ExitCode Report(const RequestError& error)
 {
     const QString text = error.text + RemedyFor(error.kind);
     const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
-    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, isWhole ? QString() : QStringLiteral(".")));
-    return ExitCode::Usage;
+    const QString end = isWhole ? QString() : error.choices.isEmpty() ? QStringLiteral(".") : QStringLiteral(":");
+    WriteErrorLine(QStringLiteral("velkora-batch: ") + text + end);
+    for (const QString& choice : error.choices) {
+        WriteErrorLine(QStringLiteral("    ") + choice);
+    }
+    return CodeFor(error.kind);
 }
 
 } // namespace BatchCli

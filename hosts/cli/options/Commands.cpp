@@ -87,9 +87,12 @@ QVector<CommandInfo> MakeCommands()
         ofJobs;
     return {
         {Text("run"), Text("[JOB.xml] [INPUT...]"),
-         Text("processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
-              "pictures were written, 1 when some were skipped or failed, 2 for wrong arguments or a wrong job, 3 when "
-              "the server could not be started or was lost, 4 when the run was cancelled"),
+         Text(
+             "processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
+             "pictures were written, or left out by a policy that an option names; 1 when some failed or were left out "
+             "otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 "
+             "when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on "
+             "already; 7 when there is nothing to resume"),
          OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          Text("writes a job with these inputs and options to a file, or to standard output for \"-\""), ofCreate,
@@ -100,7 +103,7 @@ QVector<CommandInfo> MakeCommands()
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
          Text("prints every input with its output, and writes nothing. A problem is printed in brackets, with what "
               "the policy would do about it. Exit status: 1 when there are problems"),
-         OptionsOfJobs() + PolicyOptionInfos() +
+         OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
                  {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
              GeneralOptions(),

@@ -35,8 +35,23 @@ constexpr std::array limitOptions{
 };
 
 const QString followLinks = QStringLiteral("--follow-links");
+const QString inPlace = QStringLiteral("--in-place");
 
 } // namespace
+
+QVector<OptionInfo> PlanOptionInfos()
+{
+    const QString run = QStringLiteral("Run");
+    return {
+        {inPlace, QString(),
+         QStringLiteral(
+             "lets results replace their own originals. Without --output, results go to the folders of their "
+             "originals. Without this option no original is ever replaced"),
+         run},
+        {QStringLiteral("--allow-empty"), QString(),
+         QStringLiteral("ends with 0, not with 5, when there is no picture among the inputs"), run},
+    };
+}
 
 QVector<OptionInfo> RunOptionInfos()
 {
@@ -48,6 +63,8 @@ QVector<OptionInfo> RunOptionInfos()
         {QStringLiteral("--resume"), QString(),
          QStringLiteral("resumes the run that was interrupted in the output folder, with its job and its policies"),
          run},
+        {QStringLiteral("--run"), QStringLiteral("NAME"),
+         QStringLiteral("says which run to resume if several were interrupted; --resume lists their names"), run},
         {QStringLiteral("--strict"), QString(),
          QStringLiteral("counts a picture with a warning as failed; its result is kept"), run},
         {QStringLiteral("--json"), QString(),
@@ -64,7 +81,7 @@ QVector<OptionInfo> RunOptionInfos()
         infos.append({QString::fromLatin1(option.name), QString::fromLatin1(option.valueName),
                       QString::fromLatin1(option.help), QStringLiteral("Limits")});
     }
-    return infos;
+    return infos + PlanOptionInfos();
 }
 
 void ApplyServerLimits(const ParsedArguments& arguments)
@@ -82,6 +99,9 @@ void ApplyServerLimits(const ParsedArguments& arguments)
     }
     if (arguments.Has(followLinks)) {
         followLinksLimit.Set(1);
+    }
+    if (arguments.Has(inPlace)) {
+        inPlaceLimit.Set(1);
     }
 }
 

@@ -7,6 +7,9 @@ namespace BatchCli {
 /// The options of "run" other than those of jobs and policies.
 QVector<OptionInfo> RunOptionInfos();
 
+/// Those of them that "plan" has, too.
+QVector<OptionInfo> PlanOptionInfos();
+
 /// Puts the limits in `arguments` into the environment, which the server inherits. Throws RequestError.
 void ApplyServerLimits(const ParsedArguments& arguments);
 

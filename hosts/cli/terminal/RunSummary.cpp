@@ -96,6 +96,9 @@ void RunSummary::OnResult(const FileResult& result, int, int)
 
 void RunSummary::OnEnd(const RunEnd& end)
 {
+    if (end.Outcome() == RunOutcome::Refused) {
+        return; // Nothing was done; the command says why.
+    }
     if (end.isCancelled) {
         WriteError(QStringLiteral("Cancelled.\n"));
     }

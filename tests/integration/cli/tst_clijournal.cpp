@@ -43,7 +43,7 @@ void tst_CliJournal::sameCommandInPlace_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<int>("files");
-    QTest::newRow("overwrite") << QStringLiteral("-o photos --on-name-exists overwrite") << 4;
+    QTest::newRow("in place") << QStringLiteral("-o photos --in-place") << 4;
     QTest::newRow("rename") << QStringLiteral("-o photos --on-name-exists rename") << 8;
     QTest::newRow("below") << QStringLiteral("-o photos --structure input") << 4;
 }

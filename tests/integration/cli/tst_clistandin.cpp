@@ -140,7 +140,7 @@ void tst_CliStandIn::namesThatAreTaken_data()
     const QStringList same{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")};
     const QStringList renamed{QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
                               QStringLiteral("3.jpg")};
-    QTest::newRow("skip") << QStringLiteral("skip") << 1 << same << QByteArray("old");
+    QTest::newRow("skip") << QStringLiteral("skip") << 0 << same << QByteArray("old");
     QTest::newRow("overwrite") << QStringLiteral("overwrite") << 0 << same << QByteArray("1");
     QTest::newRow("rename") << QStringLiteral("rename") << 0 << renamed << QByteArray("old");
 }
