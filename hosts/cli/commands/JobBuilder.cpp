@@ -1,5 +1,6 @@
 #include "JobBuilder.h"
 
+#include "hosts/cli/options/Contradictions.h"
 #include "hosts/cli/options/JobOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
@@ -49,6 +50,7 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs)
 {
+    CheckContradictions(arguments);
     SetJobDefaults(job);
     if (!savedJob.isEmpty()) {
         LoadJob(job, savedJob);
