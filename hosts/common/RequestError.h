@@ -13,6 +13,7 @@ struct RequestError
         Other,
         NoPictures,
         NoOutputFolder,
+        SavedJobAmongInputs,
         FileExists,            ///< and was not to be replaced
         OtherRunInterrupted,   ///< the interrupted run is of another job
         SeveralRunsInterrupted ///< and none of them is of this job

@@ -53,7 +53,9 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
     CheckContradictions(arguments);
     SetJobDefaults(job);
     if (!savedJob.isEmpty()) {
-        LoadJob(job, savedJob);
+        for (const QString& warning : LoadJob(job, savedJob)) {
+            WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(warning));
+        }
     }
     if (arguments.Has(QStringLiteral("--no-inputs"))) {
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
@@ -94,7 +96,9 @@ void TellLeftOut(const LeftOutFiles& files, const ParsedArguments& arguments)
 
 QString TakeSavedJob(QStringList& inputs)
 {
-    return inputs.value(0).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) ? inputs.takeFirst() : QString();
+    const QString first = inputs.value(0);
+    const bool isJob = first.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) || IsSavedJob(first);
+    return isJob ? inputs.takeFirst() : QString();
 }
 
 } // namespace BatchCli
