@@ -143,7 +143,8 @@ void CheckSwitches(const QStringList& arguments, const CommandInfo& command)
         if (option.valueName.isEmpty()) {
             switches.append(option.name);
         } else {
-            namesWithValue.append({option.name, option.shortName});
+            namesWithValue.append(option.name);
+            namesWithValue.append(option.shortName.isEmpty() ? option.name : option.shortName);
         }
     }
     for (int i = 1; i < arguments.size() && arguments.at(i) != QLatin1String("--"); ++i) {
