@@ -118,6 +118,11 @@ void InputCollector::Add(const QStringList& paths)
             qDeleteAll(loose);
             throw RequestError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
         }
+        if (IsSavedJob(path)) {
+            qDeleteAll(loose);
+            throw RequestError{QStringLiteral("%1 is a saved job, not a picture").arg(path),
+                               RequestError::Kind::SavedJobAmongInputs};
+        }
         if (taken.contains(path)) {
             repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
         } else if (info.isDir()) {
@@ -227,6 +232,8 @@ void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPat
         if (!isOutput && !taken.contains(path)) {
             folders.append(MakeNode(path, Folder).release());
         }
+    } else if (entry.kind == FolderEntry::Kind::File && !IsReadable(entry.name) && IsSavedJob(path)) {
+        problems.append(QStringLiteral("%1 is a saved job, not a picture; it is left out.").arg(path));
     } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {
         taken.insert(path);
         files.append(MakeNode(path, File).release());
@@ -250,9 +257,14 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
     return false;
 }
 
+bool InputCollector::IsReadable(const QString& name) const
+{
+    return extensions.contains(QFileInfo(name).suffix().toLower());
+}
+
 bool InputCollector::IsWanted(const QString& name) const
 {
-    return only.isEmpty() ? extensions.contains(QFileInfo(name).suffix().toLower()) : MatchesAny(only, name);
+    return only.isEmpty() ? IsReadable(name) : MatchesAny(only, name);
 }
 
 /// Notes a file that is not wanted for its extension alone.

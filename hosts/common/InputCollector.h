@@ -45,7 +45,7 @@ public:
     void Add(const QStringList& paths);
 
     /// What was left out unexpectedly, one sentence each: folders that cannot be read, circular or dangling links,
-    /// names that a QString or a job cannot hold.
+    /// saved jobs, names that a QString or a job cannot hold.
     const QStringList& Problems() const { return problems; }
 
     /// What was named or found more than once, one sentence each. It is in the job once.
@@ -62,6 +62,7 @@ private:
     void ReadInto(Node& folder, QVector<Node*>& found);
     void AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
     bool IsFirst(Node& folder, const BatchJob::FileIdentity& identity);
+    bool IsReadable(const QString& name) const;
     bool IsWanted(const QString& name) const;
     void LookAt(const FolderEntry& entry, const QString& path);
     void Insert(std::unique_ptr<Node> node);

@@ -2,6 +2,8 @@
 
 #include "RequestError.h"
 
+#include "job/settings/UnknownParts.h"
+
 #include "ZTBatchDocument.h"
 
 #include <QFile>
@@ -41,6 +43,23 @@ QString NameOf(const QString& text)
     return reader.attributes().value(QLatin1String("name")).toString();
 }
 
+QStringList WarningsAbout(const QString& text, const QString& path)
+{
+    constexpr int most = 10;
+    const QVector<BatchJob::UnknownPart> parts = BatchJob::UnknownParts(text);
+    QStringList warnings;
+    for (const BatchJob::UnknownPart& part : parts.mid(0, most)) {
+        warnings.append(QStringLiteral("%1, line %2: this version does not know %3, and ignores it.")
+                            .arg(path, QString::number(part.line), part.Text()));
+    }
+    if (parts.size() > most) {
+        warnings.append(
+            QStringLiteral("%1: this version does not know %2 other elements and attributes, and ignores them.")
+                .arg(path, QString::number(parts.size() - most)));
+    }
+    return warnings;
+}
+
 } // namespace
 
 bool CanBeSaved(const QString& text)
@@ -58,7 +77,22 @@ bool CanBeSaved(const QString& text)
     return true;
 }
 
-void LoadJob(ZTBatchDocument& job, const QString& path)
+bool IsSavedJob(const QString& path)
+{
+    constexpr qint64 headSize = 4096;
+    QFile file(path);
+    // Opening a named pipe would wait for its other end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    QXmlStreamReader reader(file.read(headSize));
+    while (!reader.atEnd() && !reader.isDTD() && !reader.isStartElement()) {
+        reader.readNext();
+    }
+    return reader.isDTD() && reader.dtdName() == QLatin1String("batch");
+}
+
+QStringList LoadJob(ZTBatchDocument& job, const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -80,6 +114,7 @@ void LoadJob(ZTBatchDocument& job, const QString& path)
     }
     job.SetDocumentName(NameOf(text));
     job.SetFileName(path);
+    return WarningsAbout(text, path);
 }
 
 void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisting)

@@ -16,6 +16,7 @@ struct RequestError
         NoPictures,     ///< among the inputs
         NothingMatches, ///< the wildcards that say which files of folders to take
         NoOutputFolder,
+        SavedJobAmongInputs,
         FileExists,             ///< and was not to be replaced
         OtherRunInterrupted,    ///< the interrupted run is of another job
         SeveralRunsInterrupted, ///< and none of them is of this job

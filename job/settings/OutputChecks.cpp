@@ -96,7 +96,7 @@ void CheckImageSize(ValueChecks& checks, const Settings::ImageSize& size)
 void CheckCrop(ValueChecks& checks, const Settings::Crop& crop)
 {
     checks.OneOf("The crop's type", crop.type, CropTypeWords);
-    if (crop.type == int(CropType::None) || crop.type == int(CropType::Trim)) {
+    if (!HasCropSize(crop.type)) {
         return;
     }
     checks.Range("The crop's width", crop.size.width(), 1, longestSide);

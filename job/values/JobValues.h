@@ -24,14 +24,16 @@ enum class SizeSide : int { Width = 0, Height = 1, LongSide = 2, ShortSide = 3 }
 /// ZTBatchOutputSettings::ImageSize::unit. Lengths become pixels by the record's resolution in dots per inch.
 enum class SizeUnit : int { Pixels = 0, Percent = 1, Inches = 2, Centimetres = 3, Millimetres = 4 };
 
-/// ZTBatchOutputSettings::Crop::type. The alignment places the frame for Ratio, Fill and Exact.
+/// ZTBatchOutputSettings::Crop::type. The alignment places the frame for Ratio, TurningRatio, Fill and Exact.
 enum class CropType : int {
     None = 0,
-    Ratio = 1,       ///< the largest frame of the ratio width : height
-    Trim = 2,        ///< a border of one colour is cut off
-    Interesting = 3, ///< the most interesting frame of that ratio
-    Fill = 4,        ///< scaled to cover width x height, then cut to it
-    Exact = 5        ///< width x height pixels, clipped to the picture
+    Ratio = 1,             ///< the largest frame of the ratio width : height
+    Trim = 2,              ///< a border of one colour is cut off
+    Interesting = 3,       ///< the most interesting frame of that ratio
+    Fill = 4,              ///< scaled to cover width x height, then cut to it
+    Exact = 5,             ///< width x height pixels, clipped to the picture
+    TurningRatio = 6,      ///< as Ratio; an upright picture gets an upright frame, a lying picture a lying one
+    TurningInteresting = 7 ///< as Interesting, turned like TurningRatio
 };
 
 /// How many patterns are built in; they are numbered from 0.
@@ -119,11 +121,14 @@ inline constexpr std::array SizeUnitWords{
 
 inline constexpr std::array CropTypeWords{
     Word{int(CropType::None), "none", "no crop"},
-    Word{int(CropType::Ratio), "ratio", "the largest frame of the ratio width : height"},
+    Word{int(CropType::Ratio), "fixed-ratio", "the largest frame of the ratio width : height"},
     Word{int(CropType::Trim), "trim", "cut off a border of one colour"},
-    Word{int(CropType::Interesting), "interesting", "the frame of the ratio that draws the eye"},
+    Word{int(CropType::Interesting), "fixed-interesting", "the frame of the ratio that draws the eye"},
     Word{int(CropType::Fill), "fill", "scale to cover width x height, then cut"},
     Word{int(CropType::Exact), "exact", "width x height pixels"},
+    Word{int(CropType::TurningRatio), "ratio", "the largest frame of the ratio, turned with the picture"},
+    Word{int(CropType::TurningInteresting), "interesting",
+         "the frame of the ratio that draws the eye, turned with the picture"},
 };
 
 /// Of ZTBatchOutputSettings::Crop::alignment, which may hold any Qt alignment flags.
@@ -162,6 +167,18 @@ inline constexpr std::array ShadowModeWords{
     Word{int(ShadowMode::Drop), "drop", "a drop shadow"},
     Word{int(ShadowMode::ContactGlow), "glow", "a glow around the picture, without offset"},
 };
+
+/// Whether a crop of `type` has a width and a height.
+constexpr bool HasCropSize(int type)
+{
+    return type != int(CropType::None) && type != int(CropType::Trim);
+}
+
+/// Whether the alignment places the frame of a crop of `type`.
+constexpr bool HasCropAlignment(int type)
+{
+    return HasCropSize(type) && type != int(CropType::Interesting) && type != int(CropType::TurningInteresting);
+}
 
 /// For the input, output and processing policies.
 inline constexpr std::array FilePolicyWords{

@@ -1,5 +1,7 @@
 #include "ParameterSchema.h"
 
+#include "ColourNames.h"
+
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -151,6 +153,10 @@ QJsonValue ChoiceListFromText(const QString& text, const QStringList& choices)
 QJsonValue ColourFromText(const QString& text)
 {
     const QString colour = text.trimmed();
+    const QString named = ColourOfName(colour);
+    if (!named.isEmpty()) {
+        return named;
+    }
     return colour.startsWith(QLatin1Char('#')) ? colour : QLatin1Char('#') + colour;
 }
 
@@ -217,6 +223,18 @@ QString UnknownName(const QString& name, const QVector<ParameterSchema>& schema)
         error += QStringLiteral("; known are %1").arg(known.join(QStringLiteral(", ")));
     }
     return error;
+}
+
+QString NearestText(const ParameterSchema& parameter, const QString& text)
+{
+    switch (parameter.type) {
+    case ParameterType::Choice:
+        return NearestWord(text, parameter.choices);
+    case ParameterType::Colour:
+        return NearestColourName(text);
+    default:
+        return {};
+    }
 }
 
 int EditDistance(const QString& from, const QString& to)
@@ -291,8 +309,8 @@ ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString
         return {value, {}};
     }
     QString error = QStringLiteral("\"%1\" is %2; it must be %3")
-                        .arg(parameter.name, ValueText(QJsonValue(text)), AllowedValues(parameter));
-    const QString nearest = parameter.type == ParameterType::Choice ? NearestWord(text, parameter.choices) : QString();
+                        .arg(parameter.name, ValueText(QJsonValue(text)), AllowedTexts(parameter));
+    const QString nearest = NearestText(parameter, text);
     if (!nearest.isEmpty()) {
         error += QStringLiteral("; did you mean %1?").arg(nearest);
     }
@@ -325,6 +343,22 @@ QString AllowedValues(const ParameterSchema& parameter)
             .arg(RangeText(parameter));
     }
     return {};
+}
+
+QString AllowedTexts(const ParameterSchema& parameter)
+{
+    switch (parameter.type) {
+    case ParameterType::Colour:
+        return QStringLiteral("a colour: #rrggbb, #rrggbbaa, or a name such as white");
+    case ParameterType::ChoiceList:
+        return parameter.choices.join(QStringLiteral(", ")) + QStringLiteral(", joined with +, or none");
+    case ParameterType::Points:
+        return QStringLiteral("2 to %1 points x:y with ascending x, joined with +, numbers %2")
+            .arg(maximumPoints)
+            .arg(RangeText(parameter));
+    default:
+        return AllowedValues(parameter);
+    }
 }
 
 QString NearestWord(const QString& word, const QStringList& words)

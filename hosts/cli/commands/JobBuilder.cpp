@@ -1,5 +1,6 @@
 #include "JobBuilder.h"
 
+#include "hosts/cli/options/Contradictions.h"
 #include "hosts/cli/options/JobOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
@@ -80,9 +81,12 @@ RequestError NoPictures(const ParsedArguments& arguments)
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs)
 {
+    CheckContradictions(arguments);
     SetJobDefaults(job);
     if (!savedJob.isEmpty()) {
-        LoadJob(job, savedJob);
+        for (const QString& warning : LoadJob(job, savedJob)) {
+            WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(warning));
+        }
     }
     if (arguments.Has(QStringLiteral("--no-inputs"))) {
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
@@ -148,7 +152,9 @@ void TellLeftOut(const LeftOutFiles& files, const ParsedArguments& arguments)
 
 QString TakeSavedJob(QStringList& inputs)
 {
-    return inputs.value(0).endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) ? inputs.takeFirst() : QString();
+    const QString first = inputs.value(0);
+    const bool isJob = first.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) || IsSavedJob(first);
+    return isJob ? inputs.takeFirst() : QString();
 }
 
 } // namespace BatchCli

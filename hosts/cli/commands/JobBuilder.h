@@ -27,8 +27,8 @@ bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, c
 /// Writes how many files were left out to standard error, if there are any and the options do not ask for silence.
 void TellLeftOut(const BatchHost::LeftOutFiles& files, const ParsedArguments& arguments);
 
-/// Removes the saved job from `inputs`, the first one if its name ends with ".xml", and returns it; empty when there is
-/// none.
+/// Removes the saved job from `inputs`, the first one if its name ends with ".xml" or it holds a job, and returns it;
+/// empty when there is none.
 QString TakeSavedJob(QStringList& inputs);
 
 } // namespace BatchCli

@@ -72,6 +72,9 @@ QString RemedyFor(RequestError::Kind kind)
         return QStringLiteral(": name files, or folders with pictures that can be read");
     case RequestError::Kind::NoOutputFolder:
         return QStringLiteral(": use --output DIR");
+    case RequestError::Kind::SavedJobAmongInputs:
+        return QStringLiteral(". One saved job may be given: as the first argument of run, plan and show, or to "
+                              "create with --from");
     case RequestError::Kind::FileExists:
         return QStringLiteral("; use --force to replace it");
     case RequestError::Kind::OtherRunInterrupted:

@@ -134,6 +134,29 @@ void CheckTexts(const QStringList& arguments)
     }
 }
 
+/// "--json=no" looks like the opposite of --json, and the parser has its own idea of what such a value means.
+void CheckSwitches(const QStringList& arguments, const CommandInfo& command)
+{
+    QStringList switches;
+    QStringList namesWithValue;
+    for (const OptionInfo& option : command.options) {
+        if (option.valueName.isEmpty()) {
+            switches.append(option.name);
+        } else {
+            namesWithValue.append(option.name);
+            namesWithValue.append(option.shortName.isEmpty() ? option.name : option.shortName);
+        }
+    }
+    for (int i = 1; i < arguments.size() && arguments.at(i) != QLatin1String("--"); ++i) {
+        const QString name = arguments.at(i).section(QLatin1Char('='), 0, 0);
+        const bool isValue = namesWithValue.contains(arguments.at(i - 1));
+        if (name != arguments.at(i) && switches.contains(name) && !isValue) {
+            throw RequestError{
+                QStringLiteral("%1 is a switch and takes no value; type %1 alone, or leave it out").arg(name)};
+        }
+    }
+}
+
 /// An empty name is a mistake, such as an unset variable in a script; it must not mean the current folder.
 void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
 {
@@ -208,6 +231,7 @@ ParsedArguments ParseArguments(const QStringList& arguments)
         return known.name == arguments.first();
     });
 
+    CheckSwitches(arguments, command);
     CLI::App app;
     app.set_help_flag();
     app.allow_extras();

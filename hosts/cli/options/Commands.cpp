@@ -1,10 +1,10 @@
 #include "CommandLine.h"
+#include "FormatNames.h"
 #include "JobOptions.h"
 #include "PolicyOptions.h"
 #include "RunOptions.h"
 
 #include "job/effects/EffectCatalog.h"
-#include "job/formats/FormatCatalog.h"
 
 namespace BatchCli {
 
@@ -64,15 +64,6 @@ QStringList EffectIds()
         ids.append(effect.id);
     }
     return ids;
-}
-
-QStringList FormatNames()
-{
-    QStringList names;
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
-        names.append(format.name);
-    }
-    return names;
 }
 
 QVector<CommandInfo> MakeCommands()

@@ -30,8 +30,12 @@ QRect AlignedRect(const QSize& frame, const QSize& size, int alignment);
 /// The largest size of the aspect ratio of `ratio` within `size`; at least 1 x 1.
 QSize LargestOfRatio(const QSize& ratio, const QSize& size);
 
-/// The geometry of crop and size for a picture of `size` pixels. For the crop types Trim and Interesting, which depend
-/// on the pixels, `found` is the frame that they have found; the others ignore it.
+/// The aspect ratio of `crop` for a picture of `size` pixels: of a turning crop, that which lies or stands as the
+/// picture does. A square picture turns nothing.
+QSize RatioFor(const QSize& size, const ZTBatchOutputSettings::Crop& crop);
+
+/// The geometry of crop and size for a picture of `size` pixels. For the crop types Trim, Interesting and
+/// TurningInteresting, which depend on the pixels, `found` is the frame that they have found; the others ignore it.
 Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found = {});
 
