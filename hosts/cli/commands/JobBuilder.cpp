@@ -1,17 +1,21 @@
 #include "JobBuilder.h"
 
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InputCollector.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
+#include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/UserPath.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
 
+#include <QDir>
 #include <QLocale>
 
 using namespace BatchHost;
@@ -33,6 +37,15 @@ void ApplyOptions(ZTBatchDocument& job, const ParsedArguments& arguments)
     }
 }
 
+/// A preset or a job may say where results go relative to where it is run.
+void ResolveOutputFolder(ZTBatchOutputSettings& output)
+{
+    const QString folder = output.GetPath();
+    if (!folder.isEmpty() && QDir::isRelativePath(folder)) {
+        output.SetPath(AbsolutePath(folder));
+    }
+}
+
 InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job)
 {
     InputFilter filter;
@@ -46,17 +59,30 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
 
 } // namespace
 
-InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
-                     const QStringList& inputs)
+void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob)
 {
+    const QString preset = QStringLiteral("--preset");
     SetJobDefaults(job);
-    if (!savedJob.isEmpty()) {
+    if (arguments.Has(preset)) {
+        if (!savedJob.isEmpty()) {
+            throw RequestError{QStringLiteral("%1 and --preset exclude each other: give one of them to start from")
+                                   .arg(arguments.Has(QStringLiteral("--from")) ? QStringLiteral("--from") : savedJob)};
+        }
+        Presets(SettingsFolder(arguments)).Load(job, arguments.Value(preset));
+    } else if (!savedJob.isEmpty()) {
         LoadJob(job, savedJob);
     }
     if (arguments.Has(QStringLiteral("--no-inputs"))) {
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
     }
     ApplyOptions(job, arguments);
+}
+
+InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
+                     const QStringList& inputs)
+{
+    BuildSettings(job, arguments, savedJob);
+    ResolveOutputFolder(*job.GetOutputSettings());
 
     InputCollector collector(job, FilterOf(arguments, job));
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));

@@ -3,6 +3,7 @@
 #include "Catalogues.h"
 #include "CommandFunctions.h"
 
+#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/RequestError.h"
 
@@ -49,7 +50,8 @@ const QHash<QString, Command>& CommandFunctions()
     static const QHash<QString, Command> functions{
         {QStringLiteral("create"), &CreateJob},    {QStringLiteral("show"), &ShowJob},
         {QStringLiteral("plan"), &PlanJob},        {QStringLiteral("run"), &RunJob},
-        {QStringLiteral("effects"), &ListEffects}, {QStringLiteral("formats"), &ListFormats}};
+        {QStringLiteral("presets"), &KeepPresets}, {QStringLiteral("effects"), &ListEffects},
+        {QStringLiteral("formats"), &ListFormats}};
     return functions;
 }
 
@@ -104,9 +106,7 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode Report(const RequestError& error)
 {
-    const QString text = error.text + RemedyFor(error.kind);
-    const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
-    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, isWhole ? QString() : QStringLiteral(".")));
+    WriteErrorLine(QStringLiteral("velkora-batch: ") + WithFullStop(error.text + RemedyFor(error.kind)));
     return ExitCode::Usage;
 }
 
