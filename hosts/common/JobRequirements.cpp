@@ -6,18 +6,39 @@
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QDir>
 
 namespace BatchHost {
+
+namespace {
+
+void RequireAccepted(const BatchJob::CheckedSettings& checked)
+{
+    if (!checked.IsAccepted()) {
+        throw RequestError{checked.refusal.message};
+    }
+}
+
+} // namespace
 
 void RequireUsableSettings(const ZTBatchDocument& job)
 {
     if (job.GetOutputSettings()->GetPath().isEmpty()) {
         throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
     }
+    RequireAccepted(BatchJob::CheckSettings(job));
+}
+
+void RequireUsableSettingsButFolder(ZTBatchDocument& job)
+{
+    ZTBatchOutputSettings& output = *job.GetOutputSettings();
+    const QString folder = output.GetPath();
+    output.SetPath(QDir::rootPath()); // any that passes the check
     const BatchJob::CheckedSettings checked = BatchJob::CheckSettings(job);
-    if (!checked.IsAccepted()) {
-        throw RequestError{checked.refusal.message};
-    }
+    output.SetPath(folder);
+    RequireAccepted(checked);
 }
 
 void RequireRunnableJob(const ZTBatchDocument& job)

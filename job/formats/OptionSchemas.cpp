@@ -71,15 +71,16 @@ ParameterSchema BitDepth(const QVector<int>& depths)
 
 QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
 {
+    // "copyright" is a part of the others.
     const QStringList kinds{Text("exif"), Text("gps"), Text("iptc"), Text("xmp"), Text("icc")};
     own.append({Text("keep"),
                 ParameterType::ChoiceList,
                 QJsonArray::fromStringList(kinds),
-                Text("which metadata is kept"),
+                Text("which metadata is kept; copyright is creator and rights from all of it"),
                 0,
                 0,
                 {},
-                kinds});
+                kinds + QStringList(Text("copyright"))});
     own.append({Text("background"),
                 ParameterType::Colour,
                 Text("#ffffff"),

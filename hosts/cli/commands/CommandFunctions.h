@@ -10,5 +10,6 @@ ExitCode CreateJob(const ParsedArguments& arguments);
 ExitCode ShowJob(const ParsedArguments& arguments);
 ExitCode PlanJob(const ParsedArguments& arguments);
 ExitCode RunJob(const ParsedArguments& arguments);
+ExitCode KeepPresets(const ParsedArguments& arguments);
 
 } // namespace BatchCli

@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/Contradictions.h"
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
@@ -10,12 +11,15 @@
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/JobRequirements.h"
+#include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/UserPath.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 
+#include <QDir>
 #include <QLocale>
 
 using namespace BatchHost;
@@ -34,6 +38,15 @@ void ApplyOptions(ZTBatchDocument& job, const ParsedArguments& arguments)
                 throw error.In(option.info.name);
             }
         }
+    }
+}
+
+/// A preset or a job may say where results go relative to where it is run.
+void ResolveOutputFolder(ZTBatchOutputSettings& output)
+{
+    const QString folder = output.GetPath();
+    if (!folder.isEmpty() && QDir::isRelativePath(folder)) {
+        output.SetPath(AbsolutePath(folder));
     }
 }
 
@@ -78,20 +91,35 @@ RequestError NoPictures(const ParsedArguments& arguments)
 
 } // namespace
 
-InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
-                     const QStringList& inputs)
+void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob)
 {
+    const QString preset = QStringLiteral("--preset");
     CheckContradictions(arguments);
     SetJobDefaults(job);
-    if (!savedJob.isEmpty()) {
-        for (const QString& warning : LoadJob(job, savedJob)) {
-            WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(warning));
+    QStringList warnings;
+    if (arguments.Has(preset)) {
+        if (!savedJob.isEmpty()) {
+            throw RequestError{QStringLiteral("%1 and --preset exclude each other: give one of them to start from")
+                                   .arg(arguments.Has(QStringLiteral("--from")) ? QStringLiteral("--from") : savedJob)};
         }
+        warnings = Presets(SettingsFolder(arguments)).Load(job, arguments.Value(preset));
+    } else if (!savedJob.isEmpty()) {
+        warnings = LoadJob(job, savedJob);
+    }
+    for (const QString& warning : qAsConst(warnings)) {
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(warning));
     }
     if (arguments.Has(QStringLiteral("--no-inputs"))) {
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
     }
     ApplyOptions(job, arguments);
+}
+
+InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
+                     const QStringList& inputs)
+{
+    BuildSettings(job, arguments, savedJob);
+    ResolveOutputFolder(*job.GetOutputSettings());
 
     InputCollector collector(job, FilterOf(arguments, job));
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));

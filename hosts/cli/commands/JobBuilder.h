@@ -14,9 +14,12 @@ struct InputLosses
     BatchHost::LeftOutFiles leftOut;
 };
 
-/// Builds the job that `arguments` describe: the saved job in the file `savedJob`, if that is not empty, with the
-/// options applied and `inputs` added. Writes problems with folders to standard error; with --verbose, files that were
-/// left out too. Shows progress on a terminal. Throws RequestError.
+/// Builds the job that `arguments` describe without adding inputs: the preset that they name or the saved job in the
+/// file `savedJob`, if that is not empty, with the options applied. Throws RequestError.
+void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob);
+
+/// The same with `inputs` added; a relative output folder starts at the current folder. Writes problems with folders to
+/// standard error; with --verbose, files that were left out too. Shows progress on a terminal. Throws RequestError.
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
 

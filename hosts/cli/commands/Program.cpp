@@ -3,6 +3,7 @@
 #include "Catalogues.h"
 #include "CommandFunctions.h"
 
+#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/RequestError.h"
 
@@ -49,7 +50,8 @@ const QHash<QString, Command>& CommandFunctions()
     static const QHash<QString, Command> functions{
         {QStringLiteral("create"), &CreateJob},    {QStringLiteral("show"), &ShowJob},
         {QStringLiteral("plan"), &PlanJob},        {QStringLiteral("run"), &RunJob},
-        {QStringLiteral("effects"), &ListEffects}, {QStringLiteral("formats"), &ListFormats}};
+        {QStringLiteral("presets"), &KeepPresets}, {QStringLiteral("effects"), &ListEffects},
+        {QStringLiteral("formats"), &ListFormats}};
     return functions;
 }
 
@@ -128,9 +130,8 @@ ExitCode RunProgram(const QStringList& arguments)
 ExitCode Report(const RequestError& error)
 {
     const QString text = error.text + RemedyFor(error.kind);
-    const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
-    const QString end = isWhole ? QString() : error.choices.isEmpty() ? QStringLiteral(".") : QStringLiteral(":");
-    WriteErrorLine(QStringLiteral("velkora-batch: ") + text + end);
+    WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                   (error.choices.isEmpty() ? WithFullStop(text) : text + QLatin1Char(':')));
     for (const QString& choice : error.choices) {
         WriteErrorLine(QStringLiteral("    ") + choice);
     }

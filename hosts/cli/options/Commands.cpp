@@ -2,6 +2,7 @@
 #include "FormatNames.h"
 #include "JobOptions.h"
 #include "PolicyOptions.h"
+#include "PresetOptions.h"
 #include "RunOptions.h"
 
 #include "job/effects/EffectCatalog.h"
@@ -68,14 +69,10 @@ QStringList EffectIds()
 
 QVector<CommandInfo> MakeCommands()
 {
-    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + GeneralOptions();
+    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + QVector<OptionInfo>{SettingsOptionInfo()} + GeneralOptions();
     const QVector<OptionInfo> ofLists =
         QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
-    const QVector<OptionInfo> ofCreate =
-        QVector<OptionInfo>{{Text("--from"), Text("JOB.xml"), Text("starts from a saved job"), Text("Inputs"), false,
-                             Completion::Files},
-                            {Text("--force"), QString(), Text("replaces an existing file"), Text("General")}} +
-        ofJobs;
+    const QVector<OptionInfo> ofCreate = QVector<OptionInfo>{FromOptionInfo(), ForceOptionInfo()} + ofJobs;
     return {
         {Text("run"), Text("[JOB.xml] [INPUT...]"),
          Text(
@@ -96,7 +93,8 @@ QVector<CommandInfo> MakeCommands()
               "the policy would do about it. Exit status: 1 when there are problems"),
          OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
-                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
+                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")},
+                 SettingsOptionInfo()} +
              GeneralOptions(),
          Completion::Files},
         {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
@@ -104,6 +102,7 @@ QVector<CommandInfo> MakeCommands()
         {Text("formats"), Text("[NAME...]"),
          Text("lists the output formats with their options, and the files that can be read"), ofLists,
          Completion::Words, FormatNames()},
+        PresetsCommandInfo(JobOptionInfos(), GeneralOptions()),
     };
 }
 
@@ -111,7 +110,7 @@ QVector<CommandInfo> MakeCommands()
 
 QVector<OptionInfo> OptionsOfJobs()
 {
-    return InputOptions() + JobOptionInfos();
+    return QVector<OptionInfo>{PresetOptionInfo()} + InputOptions() + JobOptionInfos();
 }
 
 const QVector<CommandInfo>& Commands()

@@ -1,5 +1,6 @@
 #include "RunOptions.h"
 
+#include "PresetOptions.h"
 #include "ValueTexts.h"
 
 #include "hosts/common/RequestError.h"
@@ -7,7 +8,6 @@
 #include "server/protocol/ServerLimits.h"
 
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <array>
 
@@ -69,9 +69,7 @@ QVector<OptionInfo> RunOptionInfos()
          QStringLiteral("counts a picture with a warning as failed; its result is kept"), run},
         {QStringLiteral("--json"), QString(),
          QStringLiteral("prints each event of the run to standard output, as one line of JSON"), run},
-        {QStringLiteral("--settings"), QStringLiteral("DIR"),
-         QStringLiteral("the folder with BatchExceptionPolicy.ini, which holds the default policies"), run, false,
-         Completion::Folders},
+        SettingsOptionInfo(),
     };
     infos.append({followLinks, QString(),
                   QStringLiteral("lets results go through links to folders below the output folder; otherwise such a "
@@ -109,7 +107,7 @@ QString SettingsFolder(const ParsedArguments& arguments)
 {
     const QString option = QStringLiteral("--settings");
     if (!arguments.Has(option)) {
-        return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+        return UserSettingsFolder();
     }
     const QString folder = AbsolutePath(arguments.Value(option));
     if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) {

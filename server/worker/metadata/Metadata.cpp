@@ -1,6 +1,7 @@
 #include "Metadata.h"
 
 #include "CaptureTime.h"
+#include "Copyright.h"
 #include "MetadataEncoder.h"
 #include "Places.h"
 #include "RemoveEntries.h"
@@ -64,6 +65,18 @@ void DescribePixels(Exiv2::ExifData& exif, const QSize& size, int dotsPerInch, b
     exif["Exif.Photo.ColorSpace"] = isSrgb ? srgb : otherColours;
 }
 
+QString LostNoticeText(const CopyrightNotice& notice)
+{
+    constexpr int longest = 100;
+    const bool isShort = notice.text.size() <= longest;
+    const QString groups = notice.groups.size() == 1
+                               ? notice.groups.first() + QStringLiteral(", which is")
+                               : notice.groups.mid(0, notice.groups.size() - 1).join(QStringLiteral(", ")) +
+                                     QStringLiteral(" and ") + notice.groups.last() + QStringLiteral(", which are");
+    return QStringLiteral("the copyright notice \"%1\" is only in %2 not kept; keep=copyright keeps it")
+        .arg(isShort ? notice.text : notice.text.left(longest) + QStringLiteral("..."), groups);
+}
+
 } // namespace
 
 Metadata::Metadata()
@@ -100,25 +113,32 @@ QDateTime Metadata::Captured() const
     return CaptureTime(*d);
 }
 
-void Metadata::KeepOnly(const QStringList& kinds)
+void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)
 {
-    const bool keepsExif = kinds.contains(QLatin1String("exif"));
     const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
-    d->keepsExif = keepsExif;
-    if (!kinds.contains(QLatin1String("iptc"))) {
-        d->iptc.clear();
-    }
-    if (!kinds.contains(QLatin1String("xmp"))) {
-        d->xmp.clear();
-    }
+    const bool keepsCopyright = kinds.contains(QLatin1String("copyright"));
+    d->keepsExif = kinds.contains(QLatin1String("exif"));
     d->OrNothing([&] {
-        if (!keepsExif) {
-            RemoveIf(d->exif, [](const Exiv2::Exifdatum& entry) { return !IsPosition(entry); });
+        const CopyrightNotice notice = NoticeIn(*d);
+        if (!d->keepsExif) {
+            RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) {
+                return !IsPosition(entry) && !(keepsCopyright && IsOfCopyright(entry));
+            });
+        }
+        if (!kinds.contains(QLatin1String("iptc"))) {
+            keepsCopyright ? KeepCopyright(d->iptc) : d->iptc.clear();
+        }
+        if (!kinds.contains(QLatin1String("xmp"))) {
+            keepsCopyright ? KeepCopyright(d->xmp) : d->xmp.clear();
         }
         if (!keepsPlaces) {
             RemovePlaces(d->exif);
             RemovePlaces(d->iptc);
             RemovePlaces(d->xmp);
+        }
+        // Who keeps nothing has said so.
+        if (!kinds.isEmpty() && !notice.groups.isEmpty() && NoticeIn(*d).groups.isEmpty()) {
+            warnings.append({BatchJob::WarningKind::MetadataLost, LostNoticeText(notice)});
         }
     });
 }

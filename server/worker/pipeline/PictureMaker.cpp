@@ -68,6 +68,7 @@ public:
             source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
         }
         WarnOfGainMap();
+        metadata.KeepOnly(keep, made.warnings);
     }
 
     MadePicture Make();
@@ -199,7 +200,6 @@ Picture PictureRun::Framed(const Picture& picture)
 void PictureRun::Write(const Picture& picture)
 {
     profile = ProfileOf(picture);
-    metadata.KeepOnly(keep);
     metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);

@@ -271,7 +271,6 @@ void tst_CliJobs::wrongJobsAreExplained_data()
     row("no arguments", "", none, "no command: use one of");
     row("no file", "create", none, "JOB.xml INPUT...");
     row("no job's name", "create photos -ox", none, "a name that ends with .xml");
-    row("no output", "create a.xml photos", none, "no output folder: use --output DIR");
     row("missing input", "create a.xml nothing.jpg -ox", none, "nothing.jpg does not exist");
     row("missing job", "show nothing.xml", none, "nothing.xml cannot be read");
     row("folder as job", "show folder.xml", none, "folder.xml cannot be read");

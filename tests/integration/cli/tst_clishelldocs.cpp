@@ -134,7 +134,7 @@ void tst_CliShellDocs::bashCompletes_data()
         QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '))
                              << QString::fromLatin1(offered).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
-    row("", "run|create|show|plan|effects|formats|--help|--version");
+    row("", "run|create|show|plan|presets|effects|formats|--help|--version");
     row("s", "show");
     row("--v", "--version");
     row("run --on-in", "--on-input-error");
@@ -153,6 +153,7 @@ void tst_CliShellDocs::bashCompletes_data()
     row("run --size p", "");
     row("create --from j", "job.xml");
     row("run --quiet p", "photos|photo.jpg");
+    row("presets s", "save");
     row("effects se", "sepia");
     row("formats W", "WebP");
     row("nonsense --", "");
