@@ -1,6 +1,7 @@
 #include "JobBuilder.h"
 
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/options/OrderOption.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
@@ -8,6 +9,7 @@
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/UserPath.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -44,6 +46,17 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
     return filter;
 }
 
+void Sort(ZTBatchDocument& job, InputOrder order, const QStringList& inputs, StatusLine& line)
+{
+    QStringList paths;
+    for (const QString& input : inputs) {
+        paths.append(AbsolutePath(input));
+    }
+    SortInputs(job, order, paths, [&line](int done, int files) {
+        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files); });
+    });
+}
+
 } // namespace
 
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
@@ -57,6 +70,7 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
     }
     ApplyOptions(job, arguments);
+    const std::optional<InputOrder> order = OrderIn(arguments);
 
     InputCollector collector(job, FilterOf(arguments, job));
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
@@ -67,6 +81,9 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
         });
     };
     collector.Add(inputs);
+    if (order) {
+        Sort(job, *order, inputs, line);
+    }
     line.Clear();
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {

@@ -1,10 +1,12 @@
 #include "CommandLine.h"
 #include "JobOptions.h"
+#include "OrderOption.h"
 #include "PolicyOptions.h"
 #include "RunOptions.h"
 
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
+#include "job/values/JobValues.h"
 
 namespace BatchCli {
 
@@ -28,6 +30,11 @@ QVector<OptionInfo> InputOptions()
          Text("leaves out files and folders whose names match, inside the given folders"), group, true},
         {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
         {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
+        {orderOption, Text("WORD"),
+         Text("the order of the pictures, which numbers in names follow: taken, by capture time, and by the file's own "
+              "time where there is none; name, folder by folder; given, as the command line names them. The default is "
+              "name, or the order of the saved job"),
+         group, false, Completion::Words, BatchJob::AllWords(BatchHost::inputOrderWords)},
     };
 }
 
