@@ -32,8 +32,8 @@ QRect InterestingFrame(PictureSource& source, const QSize& uprightRatio)
 
 } // namespace
 
-Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
-                         const ZTBatchOutputSettings::ImageSize& size)
+BatchJob::Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
+                                   const ZTBatchOutputSettings::ImageSize& size)
 {
     QRect found;
     if (crop.type == int(BatchJob::CropType::Trim)) {
@@ -41,7 +41,7 @@ Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Cro
     } else if (crop.type == int(BatchJob::CropType::Interesting)) {
         found = UprightRect(InterestingFrame(source, crop.size), source.StoredSize(), source.Orientation());
     }
-    return PlanGeometry(TurnedSize(source.StoredSize(), source.Orientation()), crop, size, found);
+    return BatchJob::PlanGeometry(TurnedSize(source.StoredSize(), source.Orientation()), crop, size, found);
 }
 
 } // namespace BatchWorker

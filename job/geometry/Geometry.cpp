@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace BatchWorker {
+namespace BatchJob {
 
 namespace {
 
@@ -145,4 +145,4 @@ Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop
     return geometry;
 }
 
-} // namespace BatchWorker
+} // namespace BatchJob

@@ -6,7 +6,7 @@
 #include <QSize>
 
 /// Sizes and frames of crop and size, in whole pixels of upright pictures. No pixels are touched here.
-namespace BatchWorker {
+namespace BatchJob {
 
 /// How the pixels of a source become those of a result: a part of the source is scaled, and a part of that is cut out.
 struct Geometry
@@ -35,4 +35,4 @@ QSize LargestOfRatio(const QSize& ratio, const QSize& size);
 Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found = {});
 
-} // namespace BatchWorker
+} // namespace BatchJob
