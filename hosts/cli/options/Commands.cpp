@@ -105,10 +105,14 @@ QVector<CommandInfo> MakeCommands()
          Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
          Completion::Files},
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints every input with its output, and writes nothing. A problem is printed in brackets, with what "
+         Text("prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
+              "brackets, with what "
               "the policy would do about it. Exit status: 1 when there are problems"),
          OptionsOfJobs() + PolicyOptionInfos() +
              QVector<OptionInfo>{
+                 {Text("--no-sizes"), QString(),
+                  Text("does not look at every picture for its size in pixels, which takes time for many"),
+                  Text("General")},
                  {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
              GeneralOptions(),
          Completion::Files},
