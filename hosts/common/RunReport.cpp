@@ -1,6 +1,7 @@
 #include "RunReport.h"
 
 #include "RequestError.h"
+#include "ResultFields.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,6 +29,19 @@ QString TextOf(const Warnings& warnings)
         texts.append(QStringLiteral("%1: %2").arg(WarningWord(warning.kind), warning.text));
     }
     return texts.join(QStringLiteral("; "));
+}
+
+/// The columns of FactFieldNames(); empty where a field is not known.
+QString FactColumnsOf(const FileResult& result)
+{
+    constexpr int precision = 15; // As many digits as a whole number of bytes may have.
+    const QJsonObject fields = FactFieldsOf(result);
+    QStringList columns;
+    for (const QString& name : FactFieldNames()) {
+        const QJsonValue value = fields.value(name);
+        columns.append(value.isDouble() ? QString::number(value.toDouble(), 'g', precision) : value.toString());
+    }
+    return columns.join(QLatin1Char(','));
 }
 
 QJsonArray JsonOf(const Warnings& warnings)
@@ -59,6 +73,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
     for (const QString& input : inputs.files) {
         Entry entry;
         entry.result.input = input;
+        entry.result.inputBytes = inputs.bytes.at(entries.size());
         entries.append(entry);
     }
     for (int i = entries.size() - 1; i >= 0; --i) {
@@ -93,12 +108,14 @@ void RunReport::OnEnd(const RunEnd&)
 
 QByteArray RunReport::Csv() const
 {
-    QString text = QStringLiteral("input,output,result,code,reason,warnings\r\n");
+    const QString facts = FactFieldNames().join(QLatin1Char(','));
+    QString text = QStringLiteral("input,output,result,code,reason,warnings,%1\r\n").arg(facts);
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        text += QStringLiteral("%1,%2,%3,%4,%5,%6\r\n")
-                    .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word),
-                         QString::number(result.errorCode), Quoted(result.reason), Quoted(TextOf(result.warnings)));
+        text +=
+            QStringLiteral("%1,%2,%3,%4,%5,%6,%7\r\n")
+                .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word), QString::number(result.errorCode),
+                     Quoted(result.reason), Quoted(TextOf(result.warnings)), FactColumnsOf(result));
     }
     return text.toUtf8();
 }
@@ -108,12 +125,14 @@ QByteArray RunReport::Json() const
     QJsonArray array;
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        array.append(QJsonObject{{QStringLiteral("input"), result.input},
-                                 {QStringLiteral("output"), result.output},
-                                 {QStringLiteral("result"), entry.word},
-                                 {QStringLiteral("code"), result.errorCode},
-                                 {QStringLiteral("reason"), result.reason},
-                                 {QStringLiteral("warnings"), JsonOf(result.warnings)}});
+        QJsonObject object = FactFieldsOf(result);
+        object.insert(QStringLiteral("input"), result.input);
+        object.insert(QStringLiteral("output"), result.output);
+        object.insert(QStringLiteral("result"), entry.word);
+        object.insert(QStringLiteral("code"), result.errorCode);
+        object.insert(QStringLiteral("reason"), result.reason);
+        object.insert(QStringLiteral("warnings"), JsonOf(result.warnings));
+        array.append(object);
     }
     return QJsonDocument(array).toJson(QJsonDocument::Indented);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "job/values/PictureFacts.h"
 #include "job/values/PolicyValues.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
 
+#include <QDateTime>
 #include <QMap>
 #include <QString>
 
@@ -20,6 +22,9 @@ struct FileResult
     int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
     QString reason;    ///< one sentence; empty when it was written
     BatchJob::Warnings warnings = {};
+    BatchJob::PictureFacts facts = {}; ///< of a picture that was written
+    QDateTime finished = {};           ///< invalid if it is not known
+    qint64 inputBytes = -1;            ///< when the run began; negative for an input that did not exist
 };
 
 /// `result` as a strict run counts it: a picture with warnings has failed, although its file is there. The error code

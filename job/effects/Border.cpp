@@ -1,5 +1,6 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
+#include "EffectSizes.h"
 
 namespace BatchJob {
 
@@ -32,6 +33,7 @@ EffectSchema BorderEffect()
     effect.example =
         QByteArrayLiteral(R"({"left": 4, "top": 4, "right": 4, "bottom": 12, "unit": "percent", "colour": "#f4f0e8"})");
     effect.extraProblem = SideProblem;
+    effect.changedSize = SizeWithBorder;
     return effect;
 }
 

@@ -1,7 +1,6 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
-
-#include <cmath>
+#include "EffectSizes.h"
 
 namespace BatchJob {
 
@@ -9,7 +8,7 @@ namespace {
 
 bool Turns(const QJsonObject& parameters)
 {
-    return std::fmod(parameters[QLatin1String("angle")].toDouble(), 360.0) != 0.0;
+    return TurnOf(parameters) != 0.0;
 }
 
 } // namespace
@@ -28,6 +27,7 @@ EffectSchema RotateEffect()
                        "grey picture becomes a colour picture for a background with colour.");
     effect.example = QByteArrayLiteral(R"({"angle": 12, "background": "#202020"})");
     effect.randomAccess = Turns;
+    effect.changedSize = TurnedCanvas;
     return effect;
 }
 

@@ -104,4 +104,12 @@ QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options
     return isCompressedAsJpeg ? QVector<int>{8} : format.bitDepths;
 }
 
+int QualityUsed(const QJsonObject& complete)
+{
+    const QString compression = complete[QLatin1String("compression")].toString();
+    const bool usesQuality = compression.isEmpty() || compression == QLatin1String("jpeg");
+    const bool isLossless = complete[QLatin1String("lossless")].toBool();
+    return usesQuality && !isLossless ? complete[QLatin1String("quality")].toInt() : 0;
+}
+
 } // namespace BatchJob

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "job/values/PictureFacts.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QHash>
 #include <QMap>
@@ -35,7 +37,9 @@ struct JournalState
         QString output;
         int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
         QString reason;
-        Warnings warnings = {}; ///< about a picture that was written
+        Warnings warnings = {};  ///< about a picture that was written
+        PictureFacts facts = {}; ///< of a picture that was written
+        QDateTime finished = {}; ///< invalid if it is not known
     };
 
     /// When the run began, by the clock of the file system: a ChangeTimeOf(). 0 if that is not known.

@@ -6,9 +6,10 @@
 
 namespace BatchJob {
 
-RunForecast::RunForecast(const RunPlan& plan, const Policies& policies)
+RunForecast::RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable)
     : plan(plan)
     , policies(policies)
+    , unreadable(unreadable)
 {
     // No policy settles a name yet: what it does about a file is to be seen file by file.
     this->plan.MakeNames(Policies());
@@ -47,7 +48,7 @@ Trouble RunForecast::TroubleOfFiles(int file)
     if (!QFileInfo::exists(plan.Names().Input(file))) {
         return {PolicyKind::Input, ZTBatchMessage::ReadFileError, QStringLiteral("it does not exist"), {}};
     }
-    return {};
+    return unreadable.value(file);
 }
 
 } // namespace BatchJob

@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QHash>
+#include <QSize>
 
 #include <vector>
 
@@ -17,6 +18,7 @@ struct ProbeResult
     QDateTime captured;    ///< invalid when it is not known
     QString inputFormat;   ///< as FormatOfFile() names it; empty when it is not known
     QString nearestFormat; ///< a format that can hold the picture; empty when it is not known
+    QSize size = {};       ///< in pixels, upright; empty when it is not known
 };
 
 /// The plan of a run, with what was decided about its files. Use it on one thread at a time.

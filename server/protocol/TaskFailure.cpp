@@ -77,6 +77,11 @@ BatchJob::Warnings CheckedWarnings(const Report& report)
     return checked;
 }
 
+BatchJob::PictureFacts CheckedFacts(const Report& report)
+{
+    return BatchJob::PossibleFacts(report.facts);
+}
+
 Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& limits)
 {
     switch (reason) {
@@ -102,7 +107,8 @@ BatchJob::ProbeResult ProbeResultOf(const Report& report)
     const int year = report.captured.date().year();
     const bool isYear = year >= 1 && year <= 9999;
     return {isYear ? report.captured : QDateTime(), OneLine(report.inputFormat),
-            BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString()};
+            BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString(),
+            CheckedFacts(report).inputSize};
 }
 
 BatchJob::Trouble TroubleOf(const Report& failure)

@@ -1,6 +1,7 @@
 #include "Run.h"
 
 #include "job/plan/CommandLog.h"
+#include "job/plan/FactsLine.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -9,7 +10,9 @@
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerFiles.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -24,6 +27,15 @@ namespace {
 
 /// Files that are examined in one go, before the event loop continues.
 constexpr int filesAtOnce = 256;
+
+/// What is known of the result `output`: how many bytes it has says the disk, the rest `report`.
+PictureFacts FactsOf(const QString& output, const Report& report)
+{
+    PictureFacts facts = CheckedFacts(report);
+    const QFileInfo file(output);
+    facts.outputBytes = file.exists() ? file.size() : -1;
+    return facts;
+}
 
 } // namespace
 
@@ -152,7 +164,9 @@ void Run::AdoptEarlierPart()
     host.Log(QStringLiteral("An earlier part of this run has settled %1 files.").arg(earlier.results.size()));
     for (const int file : qAsConst(preparation->unreported)) {
         const JournalState::Result& result = earlier.results[file];
-        journal.Settle(file, result);
+        const PictureFacts facts = FactsOf(result.output, Report());
+        journal.Settle(file, {result.kind, result.output, 0, {}, result.warnings, facts, {}});
+        LogFacts(plan.Names().Input(file), facts);
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), result.output);
     }
     host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
@@ -166,7 +180,9 @@ void Run::AdoptUnjournaledResults()
         host.Log(
             QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
                 .arg(plan.Names().Input(file), output));
-        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}});
+        const PictureFacts facts = FactsOf(output, Report());
+        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}, facts, {}});
+        LogFacts(plan.Names().Input(file), facts);
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), output);
         ++written;
         decisions.SetDone(file);
@@ -602,9 +618,13 @@ void Run::GiveUp(int file, const Trouble& trouble, Action action)
     const bool isSkipped = CountsAsSkipped(action, trouble.code);
     ++(isSkipped ? skipped : failed);
     if (action != Action::RunStopped) { // A resumed run tries what a stop has left.
-        journal.Settle(
-            file,
-            {isSkipped ? Kind::Skipped : Kind::Failed, plan.Names().Output(file), trouble.code, trouble.reason, {}});
+        journal.Settle(file, {isSkipped ? Kind::Skipped : Kind::Failed,
+                              plan.Names().Output(file),
+                              trouble.code,
+                              trouble.reason,
+                              {},
+                              {},
+                              QDateTime::currentDateTimeUtc()});
     }
     OnFileDone(file);
 }
@@ -624,13 +644,24 @@ void Run::FinishPicture(int file, const Report& report)
     } else if (plan.IsRenamed(file)) {
         ReportResult(file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
     }
-    journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, warnings});
+    const PictureFacts facts = FactsOf(output, report);
+    journal.Settle(
+        file, {JournalState::Result::Kind::Written, output, 0, {}, warnings, facts, QDateTime::currentDateTimeUtc()});
     for (const Warning& warning : warnings) {
         host.Log(WarningLine{input, warning}.Text());
     }
+    LogFacts(input, facts);
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
     OnFileDone(file);
+}
+
+void Run::LogFacts(const QString& input, const PictureFacts& facts)
+{
+    const QString line = FactsLine{input, facts}.Text();
+    if (!line.isEmpty()) {
+        host.Log(line);
+    }
 }
 
 /// Reports that a result was not written as planned; see ResultLine.

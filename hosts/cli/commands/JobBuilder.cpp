@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/Contradictions.h"
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/options/OrderOption.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
@@ -59,6 +60,17 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
     filter.hidden = arguments.Has(QStringLiteral("--hidden"));
     filter.outputFolder = job.GetOutputSettings()->GetPath();
     return filter;
+}
+
+void Sort(ZTBatchDocument& job, InputOrder order, const QStringList& inputs, StatusLine& line)
+{
+    QStringList paths;
+    for (const QString& input : inputs) {
+        paths.append(AbsolutePath(input));
+    }
+    SortInputs(job, order, paths, [&line](int done, int files) {
+        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files); });
+    });
 }
 
 /// Lets results go to the folders of their originals.
@@ -120,6 +132,7 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
 {
     BuildSettings(job, arguments, savedJob);
     ResolveOutputFolder(*job.GetOutputSettings());
+    const std::optional<InputOrder> order = OrderIn(arguments);
 
     InputCollector collector(job, FilterOf(arguments, job));
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
@@ -130,6 +143,9 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
         });
     };
     collector.Add(inputs);
+    if (order) {
+        Sort(job, *order, inputs, line);
+    }
     line.Clear();
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {

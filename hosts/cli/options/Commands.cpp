@@ -1,11 +1,13 @@
 #include "CommandLine.h"
 #include "FormatNames.h"
 #include "JobOptions.h"
+#include "OrderOption.h"
 #include "PolicyOptions.h"
 #include "PresetOptions.h"
 #include "RunOptions.h"
 
 #include "job/effects/EffectCatalog.h"
+#include "job/values/JobValues.h"
 
 namespace BatchCli {
 
@@ -29,6 +31,11 @@ QVector<OptionInfo> InputOptions()
          Text("leaves out files and folders whose names match, inside the given folders"), group, true},
         {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
         {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
+        {orderOption, Text("WORD"),
+         Text("the order of the pictures, which numbers in names follow: taken, by capture time, and by the file's own "
+              "time where there is none; name, folder by folder; given, as the command line names them. The default is "
+              "name, or the order of the saved job"),
+         group, false, Completion::Words, BatchJob::AllWords(BatchHost::inputOrderWords)},
     };
 }
 
@@ -89,10 +96,14 @@ QVector<CommandInfo> MakeCommands()
          Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
          Completion::Files},
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints every input with its output, and writes nothing. A problem is printed in brackets, with what "
+         Text("prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
+              "brackets, with what "
               "the policy would do about it. Exit status: 1 when there are problems"),
          OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
+                 {Text("--no-sizes"), QString(),
+                  Text("does not look at every picture for its size in pixels, which takes time for many"),
+                  Text("General")},
                  {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")},
                  SettingsOptionInfo()} +
              GeneralOptions(),

@@ -2,6 +2,8 @@
 
 #include "Console.h"
 
+#include <algorithm>
+
 using namespace BatchHost;
 
 namespace BatchCli {
@@ -38,7 +40,7 @@ void RunDisplay::OnStart(const RunInputs& inputs, const QString&)
     progress.files = inputs.files.size();
     progress.allBytes = inputs.allBytes;
     for (int i = 0; i < inputs.files.size(); ++i) {
-        bytes.insert(inputs.files.at(i), inputs.bytes.at(i));
+        bytes.insert(inputs.files.at(i), std::max<qint64>(0, inputs.bytes.at(i)));
     }
     time.start();
     if (line.IsShown()) {

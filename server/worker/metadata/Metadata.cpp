@@ -7,6 +7,8 @@
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
 
+#include "server/worker/decode/PictureSource.h"
+
 #include <QFile>
 
 #include <exception>
@@ -228,6 +230,13 @@ void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray
 bool Metadata::IsEmpty() const
 {
     return d->exif.empty() && d->iptc.empty() && d->xmp.empty();
+}
+
+void OrientBy(const Metadata& metadata, PictureSource& source)
+{
+    if (!source.Format().metadata.isOrientationInDecoder) {
+        source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
+    }
 }
 
 } // namespace BatchWorker

@@ -82,4 +82,7 @@ private:
     std::unique_ptr<Private> d;
 };
 
+/// Gives `source` the orientation that `metadata` state, where its decoder does not see it.
+void OrientBy(const Metadata& metadata, PictureSource& source);
+
 } // namespace BatchWorker

@@ -32,8 +32,8 @@ QRect InterestingFrame(PictureSource& source, const QSize& uprightRatio)
 
 } // namespace
 
-Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
-                         const ZTBatchOutputSettings::ImageSize& size)
+BatchJob::Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
+                                   const ZTBatchOutputSettings::ImageSize& size)
 {
     const QSize upright = TurnedSize(source.StoredSize(), source.Orientation());
     QRect found;
@@ -41,10 +41,10 @@ Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Cro
         found = UprightRect(TrimmedFrame(source), source.StoredSize(), source.Orientation());
     } else if (crop.type == int(BatchJob::CropType::Interesting) ||
                crop.type == int(BatchJob::CropType::TurningInteresting)) {
-        const QRect frame = InterestingFrame(source, RatioFor(upright, crop));
+        const QRect frame = InterestingFrame(source, BatchJob::RatioFor(upright, crop));
         found = UprightRect(frame, source.StoredSize(), source.Orientation());
     }
-    return PlanGeometry(upright, crop, size, found);
+    return BatchJob::PlanGeometry(upright, crop, size, found);
 }
 
 } // namespace BatchWorker

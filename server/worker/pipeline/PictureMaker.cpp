@@ -64,9 +64,9 @@ public:
     {
         WarnOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
-        if (!source.Format().metadata.isOrientationInDecoder) {
-            source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
-        }
+        OrientBy(metadata, source);
+        made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
+        made.facts.quality = QualityUsed(options);
         WarnOfGainMap();
         metadata.KeepOnly(keep, made.warnings);
     }
@@ -112,8 +112,6 @@ MadePicture PictureRun::Make()
     }
     KeepFileTime();
     made.warnings += source.DecoderWarnings();
-    struct stat status;
-    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
     return std::move(made);
 }
 
@@ -200,7 +198,8 @@ Picture PictureRun::Framed(const Picture& picture)
 void PictureRun::Write(const Picture& picture)
 {
     profile = ProfileOf(picture);
-    metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
+    made.facts.outputSize = QSize(picture.width(), picture.height());
+    metadata.DescribeResult(made.facts.outputSize, std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
     Encode(carrier, format, options, BytesBefore(format, metadata), metadata.GoWithoutExif(), made.file->Descriptor());

@@ -8,6 +8,8 @@
 
 #include "ZTBatchDocument.h"
 
+#include <QElapsedTimer>
+
 #include <cerrno>
 #include <cstdio>
 #include <new>
@@ -180,17 +182,20 @@ void Worker::Probe(const ProbeTask& task)
 void Worker::Make(const PictureTask& task)
 {
     reports.SendNow(Beginning{task.number});
+    QElapsedTimer time;
+    time.start();
     MadePicture made;
     Report report = ReportOnPicture([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
             made = MakePicture(*settings, limits, task);
-            done.outputBytes = made.bytes;
+            done.facts = made.facts;
             done.warnings = made.warnings;
         }
         return done;
     });
     report.number = task.number;
+    report.facts.milliseconds = int(time.elapsed());
     if (made.file) {
         reports.FinishAndSend(std::move(made), task.replaceExisting, report);
     } else {

@@ -1,8 +1,8 @@
 #include "Text.h"
 #include "WorkerBench.h"
 
+#include "job/geometry/Geometry.h"
 #include "job/values/JobValues.h"
-#include "server/worker/geometry/Geometry.h"
 #include "server/worker/geometry/Orientation.h"
 
 #include <QTest>

@@ -148,7 +148,7 @@ void tst_CliJournal::journalThatCanBeWrittenAgain()
     QVERIFY(held.WaitFor("\"event\":\"written\"", 3));
     QVERIFY(Content().startsWith("{\"complete\":1,"));
     for (const char* line :
-         {"\n{\"output\":", "\"written\":0}\n", "\"written\":1}\n", "\"written\":2}\n", "\"begin\":3,"}) {
+         {"\n{\"bytes\":", "\"written\":0}\n", "\"written\":1}\n", "\"written\":2}\n", "\"begin\":3,"}) {
         QVERIFY2(Content().contains(line), Content().constData());
     }
     stage->Write(QStringLiteral("third"), {});

@@ -255,7 +255,7 @@ void tst_CliStandIn::planReportsFilesThatWorkersEndOver()
     const QList<QByteArray> lines = plan.out.trimmed().split('\n');
     QCOMPARE(lines.size(), 3);
     QVERIFY2(lines.at(1).startsWith(bad.toUtf8()) && lines.at(1).contains("[ask: " + reason), plan.out.constData());
-    QVERIFY2(lines.at(0).endsWith("20240501.png"), plan.out.constData());
+    QVERIFY2(lines.at(0).endsWith("20240501.png  64 x 48 px"), plan.out.constData());
     QVERIFY2(lines.at(2).contains("20240501.png"), plan.out.constData());
 }
 

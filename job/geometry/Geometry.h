@@ -6,7 +6,7 @@
 #include <QSize>
 
 /// Sizes and frames of crop and size, in whole pixels of upright pictures. No pixels are touched here.
-namespace BatchWorker {
+namespace BatchJob {
 
 /// How the pixels of a source become those of a result: a part of the source is scaled, and a part of that is cut out.
 struct Geometry
@@ -39,4 +39,4 @@ QSize RatioFor(const QSize& size, const ZTBatchOutputSettings::Crop& crop);
 Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found = {});
 
-} // namespace BatchWorker
+} // namespace BatchJob

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace BatchWorker {
+namespace BatchJob {
 
 namespace {
 
@@ -143,4 +143,4 @@ Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop
     return geometry;
 }
 
-} // namespace BatchWorker
+} // namespace BatchJob
