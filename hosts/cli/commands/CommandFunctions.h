@@ -11,4 +11,7 @@ ExitCode ShowJob(const ParsedArguments& arguments);
 ExitCode PlanJob(const ParsedArguments& arguments);
 ExitCode RunJob(const ParsedArguments& arguments);
 
+/// "run" with --dry-run: what PlanJob() prints for the same arguments.
+ExitCode DryRun(const ParsedArguments& arguments);
+
 } // namespace BatchCli

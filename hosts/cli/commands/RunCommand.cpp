@@ -82,6 +82,9 @@ ExitCode CodeOf(RunOutcome outcome, int problems, bool isReportMissing)
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    if (arguments.Has(QStringLiteral("--dry-run"))) {
+        return DryRun(arguments);
+    }
     OutliveReaders();
     // Wrong options are reported before folders are read, which may take long.
     CheckPolicyOptions(arguments);

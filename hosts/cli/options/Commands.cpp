@@ -75,6 +75,20 @@ QStringList FormatNames()
     return names;
 }
 
+QVector<CommandInfo> WithHelp(QVector<CommandInfo> commands)
+{
+    CommandInfo help{QStringLiteral("help"),
+                     Text("[COMMAND]"),
+                     Text("prints the help of a command"),
+                     {GeneralOptions().last()},
+                     Completion::Words};
+    for (const CommandInfo& command : qAsConst(commands)) {
+        help.words.append(command.name);
+    }
+    commands.append(help);
+    return commands;
+}
+
 QVector<CommandInfo> MakeCommands()
 {
     const QVector<OptionInfo> ofJobs = OptionsOfJobs() + GeneralOptions();
@@ -122,7 +136,7 @@ QVector<OptionInfo> OptionsOfJobs()
 
 const QVector<CommandInfo>& Commands()
 {
-    static const QVector<CommandInfo> commands = MakeCommands();
+    static const QVector<CommandInfo> commands = WithHelp(MakeCommands());
     return commands;
 }
 

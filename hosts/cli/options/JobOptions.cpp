@@ -1,6 +1,7 @@
 #include "JobOptions.h"
 
 #include "ParameterTexts.h"
+#include "QualityOption.h"
 #include "ValueTexts.h"
 #include "Words.h"
 
@@ -197,7 +198,7 @@ QVector<JobOption> OutputOptions()
         {{Text("--format"), Text("FORMAT"),
           Text("the format of results, by name or extension; Original keeps that of each input. Changing the format "
                "of a saved job drops its format options"),
-          group, false, Completion::Words, FormatNames()},
+          group, false, Completion::Words, FormatNames(), Text("-f")},
          SetFormat,
          [](const ZTBatchDocument& job) {
              QString format;
@@ -214,6 +215,7 @@ QVector<JobOption> OutputOptions()
              Output(job).GetFormat(format, options);
              return FormatOptionTexts(options);
          }},
+        QualityOption(),
         {{Text("--icc"), Text("FILE"),
           Text("an ICC profile to convert results to and to embed; none keeps each input's own"), group, false,
           Completion::Files},
@@ -277,9 +279,14 @@ QVector<JobOption> SizeOptions()
 {
     const QString group = Text("Size and crop");
     return {
-        {{Text("--size"), Text("LENGTH"),
+        {{Text("--size"),
+          Text("LENGTH"),
           Text("scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size"),
-          group},
+          group,
+          false,
+          Completion::Nothing,
+          {},
+          Text("-s")},
          ChangeImageSize(SetSize),
          [](const ZTBatchDocument& job) {
              const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();

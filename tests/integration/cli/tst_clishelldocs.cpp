@@ -115,7 +115,7 @@ QStringList tst_CliShellDocs::Fish(const QString& line) const
 /// The long names of the options that the real help of a command lists.
 QStringList tst_CliShellDocs::HelpOptions(const QString& command) const
 {
-    static const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z], )?(--[a-z-]+)"),
+    static const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z0-9], )?(--[a-z-]+)"),
                                           QRegularExpression::MultilineOption);
     QStringList options;
     auto found =
@@ -134,7 +134,7 @@ void tst_CliShellDocs::bashCompletes_data()
         QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '))
                              << QString::fromLatin1(offered).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
-    row("", "run|create|show|plan|effects|formats|--help|--version");
+    row("", "run|create|show|plan|effects|formats|help|--help|--version");
     row("s", "show");
     row("--v", "--version");
     row("run --on-in", "--on-input-error");
@@ -155,6 +155,7 @@ void tst_CliShellDocs::bashCompletes_data()
     row("run --quiet p", "photos|photo.jpg");
     row("effects se", "sepia");
     row("formats W", "WebP");
+    row("help cr", "create");
     row("nonsense --", "");
 }
 
@@ -179,7 +180,7 @@ void tst_CliShellDocs::bashKnowsEveryOption()
     }
     for (const CommandInfo& command : Commands()) {
         const QStringList options = HelpOptions(command.name);
-        QVERIFY(options.size() > 1);
+        QVERIFY(!options.isEmpty());
         QCOMPARE(Sorted(Bash({command.name, QStringLiteral("--")})), Sorted(options));
         for (const OptionInfo& option : command.options) {
             if (option.completion == Completion::Words) {
@@ -316,9 +317,9 @@ void tst_CliShellDocs::manualPageHasEveryOption()
     for (const CommandInfo& command : Commands()) {
         QVERIFY2(page.contains(QStringLiteral("velkora-batch ") + command.name), qPrintable(command.name));
         const QStringList options = HelpOptions(command.name);
-        QVERIFY(options.size() > 1);
+        QVERIFY(!options.isEmpty());
         for (const QString& option : options) {
-            const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z], )?%1(?: |$)").arg(option),
+            const QRegularExpression entry(QStringLiteral("^ +(?:-[a-z0-9], )?%1(?: |$)").arg(option),
                                            QRegularExpression::MultilineOption);
             QVERIFY2(entry.match(page).hasMatch(), qPrintable(option));
         }
