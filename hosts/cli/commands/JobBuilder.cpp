@@ -5,13 +5,16 @@
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InputCollector.h"
+#include "hosts/common/InputList.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/WildcardInputs.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 using namespace BatchHost;
@@ -44,6 +47,33 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
     return filter;
 }
 
+void CheckForStandardInput(const QStringList& inputs)
+{
+    if (inputs.contains(QStringLiteral("-")) && !QFileInfo::exists(QStringLiteral("-"))) {
+        throw RequestError{
+            QStringLiteral("there is no file \"-\"; to read names from standard input, use --files-from -")};
+    }
+}
+
+/// The names in the list of --files-from.
+QStringList ListedInputs(const ParsedArguments& arguments)
+{
+    const QString filesFrom = QStringLiteral("--files-from");
+    const bool isNulSeparated = arguments.Has(QStringLiteral("--null"));
+    if (!arguments.Has(filesFrom)) {
+        if (isNulSeparated) {
+            throw RequestError{QStringLiteral("--null needs %1").arg(filesFrom)};
+        }
+        return {};
+    }
+    const QString list = arguments.Value(filesFrom);
+    if (list == QLatin1String("-") && Terminal::IsInputTerminal()) {
+        throw RequestError{
+            QStringLiteral("%1 -: standard input is a terminal; pipe a list into it, or name a file").arg(filesFrom)};
+    }
+    return ReadInputList(list, isNulSeparated);
+}
+
 } // namespace
 
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
@@ -58,7 +88,11 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
     }
     ApplyOptions(job, arguments);
 
-    InputCollector collector(job, FilterOf(arguments, job));
+    const InputFilter filter = FilterOf(arguments, job);
+    InputCollector collector(job, filter);
+    CheckForStandardInput(inputs);
+    const QStringList listed = ListedInputs(arguments);
+    const ExpandedInputs named = ExpandWildcards(inputs, filter);
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     collector.onProgress = [&line](int folders, int files, const QString& folder) {
         line.Show([&] {
@@ -66,10 +100,11 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
                 .arg(QLocale::c().toString(folders), QLocale::c().toString(files), folder);
         });
     };
-    collector.Add(inputs);
+    collector.Add(named.paths + listed);
     line.Clear();
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
-    for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {
+    const QStringList problems = named.problems + collector.Problems();
+    for (const QString& text : isQuiet ? problems : collector.Repetitions() + problems) {
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
     }
     if (arguments.Has(QStringLiteral("--verbose"))) {
@@ -80,7 +115,7 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
                     .arg(file.path, file.format));
         }
     }
-    return {collector.Problems().size(), collector.LeftOut()};
+    return {problems.size(), collector.LeftOut()};
 }
 
 void TellLeftOut(const LeftOutFiles& files, const ParsedArguments& arguments)

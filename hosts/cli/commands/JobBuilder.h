@@ -15,8 +15,9 @@ struct InputLosses
 };
 
 /// Builds the job that `arguments` describe: the saved job in the file `savedJob`, if that is not empty, with the
-/// options applied and `inputs` added. Writes problems with folders to standard error; with --verbose, files that were
-/// left out too. Shows progress on a terminal. Throws RequestError.
+/// options applied and `inputs`, which may have wildcards, and those of --files-from added. Writes problems with
+/// folders to standard error; with --verbose, files that were left out too. Shows progress on a terminal. Throws
+/// RequestError.
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
 

@@ -47,7 +47,7 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     const InputLosses losses = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
     TellLeftOut(losses.leftOut, arguments);
     // A job without inputs may be meant for pictures to come; inputs without a picture are a mistake.
-    if (inputs.isEmpty()) {
+    if (inputs.isEmpty() && !arguments.Has(QStringLiteral("--files-from"))) {
         RequireUsableSettings(job);
     } else {
         RequireRunnableJob(job);

@@ -18,6 +18,8 @@ constexpr std::array rows{
     Row{"run", "Names by capture date, in a folder for each day",
         "photos -o sorted --structure date --prefix date --prefix-separator _"},
     Row{"run", "A saved job over other pictures", "web.xml holiday -o web --on-name-exists rename"},
+    Row{"run", "Files that another program lists", "-o web -f webp --files-from list.txt"},
+    Row{"run", "Camera RAW files in all subfolders", "\"photos/**/*.{nef,cr2}\" -o out -f tiff"},
     Row{"run", "What would be written", "photos -o web -f jpeg --dry-run"},
     Row{"run", "A run that was interrupted", "--resume -o web"},
     Row{"create", "A job for pictures to come", "web.xml -o web -s 1600 -f jpeg --effect sharpen:amount=80"},
