@@ -173,7 +173,9 @@ QVector<JobOption> OutputOptions()
          }},
         {{Text("--output"),
           Text("DIR"),
-          Text("the folder for the results; it is created when it does not exist"),
+          Text("the folder for the results; it is created when it does not exist, and a relative one starts at the "
+               "current "
+               "folder"),
           group,
           false,
           Completion::Folders,
@@ -187,8 +189,10 @@ QVector<JobOption> OutputOptions()
          },
          [](const ZTBatchDocument& job) { return QStringList{Output(job).GetPath()}; }},
         {{Text("--structure"), Text("WORD"),
-          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date"), group, false,
-          Completion::Words, AllWords(BatchJob::FolderStructureWords)},
+          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file "
+               "where "
+               "a picture has none"),
+          group, false, Completion::Words, AllWords(BatchJob::FolderStructureWords)},
          [](ZTBatchDocument& job, const QString& text) {
              Output(job).SetFolderStructure(Settings::FolderStructure(ValueOf(BatchJob::FolderStructureWords, text)));
          },
@@ -242,9 +246,10 @@ QVector<JobOption> NameOptions()
     const QString group = Text("Names of results");
     return {
         NamePart("--prefix", Settings::PartPrefix, Text("what a name begins with; PART is the same as for --name")),
-        NamePart("--name", Settings::PartMiddle,
-                 Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
-                      "date; time; text:TEXT; nothing")),
+        NamePart(
+            "--name", Settings::PartMiddle,
+            Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
+                 "date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing")),
         NamePart("--suffix", Settings::PartSuffix, Text("what a name ends with")),
         {{Text("--prefix-separator"), Text("TEXT"), Text("the text between prefix and middle"), group},
          [](ZTBatchDocument& job, const QString& text) { Output(job).SetPrefixSeparator(text); },
