@@ -25,13 +25,19 @@ QString TitleOf(const QString& path)
     return path == QLatin1String("-") ? QStringLiteral("standard input") : path;
 }
 
+/// Behind "the list".
+QString ListName(const QString& path)
+{
+    return path == QLatin1String("-") ? QStringLiteral("on standard input") : path;
+}
+
 QByteArray BytesOf(const QString& path)
 {
     QFile file(path);
     const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)
                                                    : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(path, file.errorString())};
+        throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(ListName(path), file.errorString())};
     }
     QByteArray bytes;
     constexpr int piece = 1 << 16;
@@ -43,11 +49,11 @@ QByteArray BytesOf(const QString& path)
         bytes += more;
         if (bytes.size() > largestList) {
             throw RequestError{QStringLiteral("the list %1 is larger than %2 MiB; divide it")
-                                   .arg(TitleOf(path), QString::number(largestList >> 20))};
+                                   .arg(ListName(path), QString::number(largestList >> 20))};
         }
     }
     if (file.error() != QFileDevice::NoError) {
-        throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(TitleOf(path), file.errorString())};
+        throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(ListName(path), file.errorString())};
     }
     return bytes;
 }
@@ -106,7 +112,7 @@ QStringList ReadInputList(const QString& path, bool isNulSeparated)
 {
     QByteArray bytes = BytesOf(path);
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) {
-        throw RequestError{QStringLiteral("the list %1 is UTF-16 text; save it as UTF-8").arg(TitleOf(path))};
+        throw RequestError{QStringLiteral("the list %1 is UTF-16 text; save it as UTF-8").arg(ListName(path))};
     }
     if (bytes.startsWith("\xEF\xBB\xBF")) {
         bytes.remove(0, 3);

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <CLI/CLI.hpp>
 
@@ -134,6 +135,9 @@ RequestError UnknownCommand(const QString& text)
     if (info.exists()) {
         return {QStringLiteral("%1 is a %2, not a command; did you mean \"velkora-batch run %1\"?")
                     .arg(text, info.isDir() ? QStringLiteral("folder") : QStringLiteral("file"))};
+    }
+    if (text.contains(QRegularExpression(QStringLiteral("[/\\\\*?]")))) {
+        return {QStringLiteral("%1 is no command; did you mean \"velkora-batch run %1\"?").arg(text)};
     }
     const QString advice = AdviceForCommand(text);
     if (!advice.isEmpty()) {

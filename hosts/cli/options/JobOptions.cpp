@@ -13,6 +13,7 @@
 #include "ZTStyle.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <limits>
 
@@ -280,6 +281,17 @@ void SetSize(Settings::ImageSize& imageSize, const QString& text)
     }
 }
 
+/// In other programs --resize takes a size.
+int RestrictionFromText(const QString& text)
+{
+    if (!text.isEmpty() && text.at(0).isDigit()) {
+        const QString side = text.section(QRegularExpression(QStringLiteral("[xX]")), 0, 0);
+        throw RequestError{QStringLiteral("\"%1\" is a size, and this option says which pictures change; use --size %2")
+                               .arg(text, side)};
+    }
+    return ValueOf(BatchJob::SizeRestrictionWords, text);
+}
+
 QVector<JobOption> SizeOptions()
 {
     const QString group = Text("Size and crop");
@@ -310,7 +322,7 @@ QVector<JobOption> SizeOptions()
                "both; none"),
           group, false, Completion::Words, AllWords(BatchJob::SizeRestrictionWords)},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
-             imageSize.restriction = ValueOf(BatchJob::SizeRestrictionWords, text);
+             imageSize.restriction = RestrictionFromText(text);
          }),
          ShowImageSize([](const Settings::ImageSize& imageSize) {
              return WordOf(BatchJob::SizeRestrictionWords, imageSize.restriction);

@@ -227,6 +227,9 @@ void tst_CliHabits::foreignWordsGetAHint_data()
     row("run photos -o x --width=800", "use --size 800 --side width");
     row("run photos -o x --height 600", "use --size 600 --side height");
     row("run photos -o x --width", "use --size LENGTH --side width");
+    row("run photos -o x --resize 800x600",
+        "\"800x600\" is a size, and this option says which pictures change; use --size 800");
+    row("run photos -o x --resize 50%", "use --size 50%");
     row("run photos -o x --overwrite", "use --on-name-exists overwrite");
     row("run photos --output-dir x", "use --output x");
     row("run photos --dest=x", "use --output x");
@@ -242,6 +245,7 @@ void tst_CliHabits::foreignWordsGetAHint_data()
     row("plan photos -o x --workers 2", "unknown option --workers; it is an option of run");
     row("photos -o out", "photos is a folder, not a command; did you mean \"velkora-batch run photos\"?");
     row("photos/1.jpg", "photos/1.jpg is a file, not a command; did you mean \"velkora-batch run photos/1.jpg\"?");
+    row("nowhere/*.jpg -o out", "nowhere/*.jpg is no command; did you mean \"velkora-batch run nowhere/*.jpg\"?");
     row("-o out photos", "is not allowed before the command");
     row("convert photos", "did you mean \"velkora-batch run\"?");
     row("resize photos", "did you mean \"velkora-batch run\"?");
