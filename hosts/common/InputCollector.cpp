@@ -23,20 +23,18 @@ namespace {
 /// A job with deeper folders could not be read back.
 constexpr int deepestFolder = 900;
 
-QVector<QRegularExpression> Expressions(const QStringList& wildcards)
+QVector<Wildcard> Wildcards(const QStringList& patterns)
 {
-    QVector<QRegularExpression> expressions;
-    for (const QString& wildcard : wildcards) {
-        expressions.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(wildcard),
-                                              QRegularExpression::CaseInsensitiveOption));
+    QVector<Wildcard> wildcards;
+    for (const QString& pattern : patterns) {
+        wildcards.append(Wildcard(QDir::fromNativeSeparators(pattern)));
     }
-    return expressions;
+    return wildcards;
 }
 
-bool MatchesAny(const QVector<QRegularExpression>& expressions, const QString& name)
+QString WithSlash(const QString& folder)
 {
-    return std::any_of(expressions.begin(), expressions.end(),
-                       [&name](const QRegularExpression& expression) { return expression.match(name).hasMatch(); });
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
 std::unique_ptr<TreeNode<BatchNodeData>> MakeNode(const QString& path, BatchNodeType type)
@@ -85,8 +83,8 @@ InputCollector::InputCollector(ZTBatchDocument& job, const InputFilter& filter)
     : job(job)
     , filter(filter)
     , outputFolder(IdentityOf(filter.outputFolder))
-    , only(Expressions(filter.only))
-    , except(Expressions(filter.except))
+    , only(Wildcards(filter.only))
+    , except(Wildcards(filter.except))
     , extensions(BatchJob::ReadableExtensions().begin(), BatchJob::ReadableExtensions().end())
 {
     const ZTBatchInputModel& model = *job.GetInputModel();
@@ -146,6 +144,7 @@ void InputCollector::Add(const QStringList& paths)
 void InputCollector::AddFolder(const QString& path)
 {
     std::unique_ptr<Node> top = MakeNode(path, Folder);
+    topFolder = WithSlash(path);
     // Folders are read in the order in which they are found, but links last: a folder that is found directly and by a
     // link gets its own path.
     QVector<Node*> folders{top.get()};
@@ -210,13 +209,12 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
 void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
                               QVector<Node*>& folders)
 {
-    if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, entry.name)) {
+    const QString path = WithSlash(folderPath) + entry.name;
+    if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, path)) {
         return;
     }
-    const QString path =
-        folderPath.endsWith(QLatin1Char('/')) ? folderPath + entry.name : folderPath + QLatin1Char('/') + entry.name;
     const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
-    if (isFolder ? !filter.subfolders : !IsWanted(entry.name)) {
+    if (isFolder ? !filter.subfolders : !IsWanted(path)) {
         LookAt(entry, path);
         return;
     }
@@ -262,9 +260,18 @@ bool InputCollector::IsReadable(const QString& name) const
     return extensions.contains(QFileInfo(name).suffix().toLower());
 }
 
-bool InputCollector::IsWanted(const QString& name) const
+bool InputCollector::IsWanted(const QString& path) const
 {
-    return only.isEmpty() ? IsReadable(name) : MatchesAny(only, name);
+    return only.isEmpty() ? IsReadable(path) : MatchesAny(only, path);
+}
+
+/// `path` lies below the top folder.
+bool InputCollector::MatchesAny(const QVector<Wildcard>& wildcards, const QString& path) const
+{
+    const QString below = path.mid(topFolder.size());
+    const QString name = path.section(QLatin1Char('/'), -1);
+    return std::any_of(wildcards.begin(), wildcards.end(),
+                       [&](const Wildcard& wildcard) { return wildcard.Matches(wildcard.IsOfPath() ? below : name); });
 }
 
 /// Notes a file that is not wanted for its extension alone.

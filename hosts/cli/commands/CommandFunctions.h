@@ -12,4 +12,7 @@ ExitCode PlanJob(const ParsedArguments& arguments);
 ExitCode RunJob(const ParsedArguments& arguments);
 ExitCode KeepPresets(const ParsedArguments& arguments);
 
+/// "run" with --dry-run: what PlanJob() prints for the same arguments.
+ExitCode DryRun(const ParsedArguments& arguments);
+
 } // namespace BatchCli

@@ -9,18 +9,21 @@
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InPlaceOutput.h"
 #include "hosts/common/InputCollector.h"
+#include "hosts/common/InputList.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/JobRequirements.h"
 #include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
+#include "hosts/common/WildcardInputs.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchOutputSettings.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 
 using namespace BatchHost;
@@ -60,6 +63,33 @@ InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& jo
     filter.hidden = arguments.Has(QStringLiteral("--hidden"));
     filter.outputFolder = job.GetOutputSettings()->GetPath();
     return filter;
+}
+
+void CheckForStandardInput(const QStringList& inputs)
+{
+    if (inputs.contains(QStringLiteral("-")) && !QFileInfo::exists(QStringLiteral("-"))) {
+        throw RequestError{
+            QStringLiteral("there is no file \"-\"; to read names from standard input, use --files-from -")};
+    }
+}
+
+/// The names in the list of --files-from.
+QStringList ListedInputs(const ParsedArguments& arguments)
+{
+    const QString filesFrom = QStringLiteral("--files-from");
+    const bool isNulSeparated = arguments.Has(QStringLiteral("--null"));
+    if (!arguments.Has(filesFrom)) {
+        if (isNulSeparated) {
+            throw RequestError{QStringLiteral("--null needs %1").arg(filesFrom)};
+        }
+        return {};
+    }
+    const QString list = arguments.Value(filesFrom);
+    if (list == QLatin1String("-") && Terminal::IsInputTerminal()) {
+        throw RequestError{
+            QStringLiteral("%1 -: standard input is a terminal; pipe a list into it, or name a file").arg(filesFrom)};
+    }
+    return ReadInputList(list, isNulSeparated);
 }
 
 void Sort(ZTBatchDocument& job, InputOrder order, const QStringList& inputs, StatusLine& line)
@@ -134,7 +164,11 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
     ResolveOutputFolder(*job.GetOutputSettings());
     const std::optional<InputOrder> order = OrderIn(arguments);
 
-    InputCollector collector(job, FilterOf(arguments, job));
+    const InputFilter filter = FilterOf(arguments, job);
+    InputCollector collector(job, filter);
+    CheckForStandardInput(inputs);
+    const QStringList listed = ListedInputs(arguments);
+    const ExpandedInputs named = ExpandWildcards(inputs, filter);
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     collector.onProgress = [&line](int folders, int files, const QString& folder) {
         line.Show([&] {
@@ -142,13 +176,15 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
                 .arg(QLocale::c().toString(folders), QLocale::c().toString(files), folder);
         });
     };
-    collector.Add(inputs);
+    const QStringList paths = named.paths + listed;
+    collector.Add(paths);
     if (order) {
-        Sort(job, *order, inputs, line);
+        Sort(job, *order, paths, line);
     }
     line.Clear();
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
-    for (const QString& text : isQuiet ? collector.Problems() : collector.Repetitions() + collector.Problems()) {
+    const QStringList problems = named.problems + collector.Problems();
+    for (const QString& text : isQuiet ? problems : collector.Repetitions() + problems) {
         WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
     }
     if (arguments.Has(QStringLiteral("--verbose"))) {
@@ -162,7 +198,7 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
     if (arguments.Has(QStringLiteral("--in-place")) && job.GetOutputSettings()->GetPath().isEmpty()) {
         StayInPlace(job, arguments);
     }
-    return {collector.Problems().size(), collector.LeftOut()};
+    return {problems.size(), collector.LeftOut()};
 }
 
 bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, const QStringList& inputs)
@@ -170,7 +206,7 @@ bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, c
     if (job.GetInputModel()->GetFileNodesCount() > 0) {
         return true;
     }
-    if (inputs.isEmpty()) {
+    if (inputs.isEmpty() && !arguments.Has(QStringLiteral("--files-from"))) {
         throw RequestError{QStringLiteral("no inputs"), RequestError::Kind::NoInputs};
     }
     const RequestError error = NoPictures(arguments);

@@ -18,8 +18,9 @@ struct InputLosses
 /// file `savedJob`, if that is not empty, with the options applied. Throws RequestError.
 void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob);
 
-/// The same with `inputs` added; a relative output folder starts at the current folder. Writes problems with folders to
-/// standard error; with --verbose, files that were left out too. Shows progress on a terminal. Throws RequestError.
+/// The same with `inputs`, which may have wildcards, and those of --files-from added; a relative output folder starts at
+/// the current folder. Writes problems with folders to standard error; with --verbose, files that were left out too.
+/// Shows progress on a terminal. Throws RequestError.
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
 

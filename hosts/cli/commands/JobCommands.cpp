@@ -50,7 +50,7 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     const InputLosses losses = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
     TellLeftOut(losses.leftOut, arguments);
     // A job without inputs may be meant for pictures to come; inputs without a picture are a mistake.
-    if (!inputs.isEmpty()) {
+    if (!inputs.isEmpty() || arguments.Has(QStringLiteral("--files-from"))) {
         HasPictures(job, arguments, inputs);
     }
     RequireUsableSettingsButFolder(job);

@@ -114,8 +114,12 @@ ExitCode CodeFor(RequestError::Kind kind)
 ExitCode RunProgram(const QStringList& arguments)
 {
     qInstallMessageHandler(&HandleMessage);
+    if (arguments.isEmpty()) {
+        WriteError(ShortHelp(Terminal::Columns()));
+        return ExitCode::Usage;
+    }
     try {
-        const ParsedArguments parsed = ParseArguments(arguments);
+        const ParsedArguments parsed = ParseArguments(arguments, Terminal::OutputColumns());
         isVerbose = parsed.Has(QStringLiteral("--verbose"));
         if (!parsed.message.isEmpty()) {
             WriteOut(parsed.message);

@@ -127,6 +127,9 @@ ExitCode CodeOf(const RunEnd& end, const ParsedArguments& arguments, int problem
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    if (arguments.Has(QStringLiteral("--dry-run"))) {
+        return DryRun(arguments);
+    }
     OutliveReaders();
     // Wrong options are reported before folders are read, which may take long.
     CheckPolicyOptions(arguments);

@@ -23,12 +23,25 @@ QVector<OptionInfo> InputOptions()
     const QString group = Text("Inputs");
     return {
         {Text("--no-inputs"), QString(), Text("drops the inputs of the saved job first"), group},
+        {Text("--files-from"), Text("FILE"),
+         Text("also takes the files and folders that a file names, one a line, or standard input for \"-\". Relative "
+              "names start at the current folder"),
+         group, false, Completion::Files},
+        {Text("--null"),
+         QString(),
+         Text("the names of --files-from are separated by NUL, not by line ends"),
+         group,
+         false,
+         Completion::Nothing,
+         {},
+         Text("-0")},
         {Text("--include"), Text("WILDCARD"),
-         Text("takes only files whose names match, such as \"*.nef\"; default: all that can be read. Files that are "
-              "given by name are always taken"),
+         Text(
+             "takes only files whose names match, such as \"*.{nef,cr2}\", or whose paths in the given folders match, "
+             "such as \"2024/**/*.jpg\"; default: all that can be read. Files that are given by name are always taken"),
          group, true},
         {Text("--exclude"), Text("WILDCARD"),
-         Text("leaves out files and folders whose names match, inside the given folders"), group, true},
+         Text("leaves out files and folders whose names or paths match, inside the given folders"), group, true},
         {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
         {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
         {orderOption, Text("WORD"),
@@ -72,6 +85,20 @@ QStringList EffectIds()
         ids.append(effect.id);
     }
     return ids;
+}
+
+QVector<CommandInfo> WithHelp(QVector<CommandInfo> commands)
+{
+    CommandInfo help{QStringLiteral("help"),
+                     Text("[COMMAND]"),
+                     Text("prints the help of a command"),
+                     {GeneralOptions().last()},
+                     Completion::Words};
+    for (const CommandInfo& command : qAsConst(commands)) {
+        help.words.append(command.name);
+    }
+    commands.append(help);
+    return commands;
 }
 
 QVector<CommandInfo> MakeCommands()
@@ -126,7 +153,7 @@ QVector<OptionInfo> OptionsOfJobs()
 
 const QVector<CommandInfo>& Commands()
 {
-    static const QVector<CommandInfo> commands = MakeCommands();
+    static const QVector<CommandInfo> commands = WithHelp(MakeCommands());
     return commands;
 }
 

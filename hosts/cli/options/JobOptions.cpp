@@ -4,6 +4,7 @@
 #include "FormatNames.h"
 #include "LengthTexts.h"
 #include "ParameterTexts.h"
+#include "QualityOption.h"
 #include "ValueTexts.h"
 #include "Words.h"
 
@@ -14,6 +15,7 @@
 #include "ZTStyle.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <limits>
 
@@ -173,7 +175,9 @@ QVector<JobOption> OutputOptions()
          }},
         {{Text("--output"),
           Text("DIR"),
-          Text("the folder for the results; it is created when it does not exist"),
+          Text("the folder for the results; it is created when it does not exist, and a relative one starts at the "
+               "current "
+               "folder"),
           group,
           false,
           Completion::Folders,
@@ -187,8 +191,10 @@ QVector<JobOption> OutputOptions()
          },
          [](const ZTBatchDocument& job) { return QStringList{Output(job).GetPath()}; }},
         {{Text("--structure"), Text("WORD"),
-          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date"), group, false,
-          Completion::Words, AllWords(BatchJob::FolderStructureWords)},
+          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file "
+               "where "
+               "a picture has none"),
+          group, false, Completion::Words, AllWords(BatchJob::FolderStructureWords)},
          [](ZTBatchDocument& job, const QString& text) {
              Output(job).SetFolderStructure(Settings::FolderStructure(ValueOf(BatchJob::FolderStructureWords, text)));
          },
@@ -198,7 +204,7 @@ QVector<JobOption> OutputOptions()
         {{Text("--format"), Text("FORMAT"),
           Text("the format of results, by name or extension; Original keeps that of each input. Changing the format "
                "of a saved job drops its format options"),
-          group, false, Completion::Words, FormatNames()},
+          group, false, Completion::Words, FormatNames(), Text("-f")},
          SetFormat,
          [](const ZTBatchDocument& job) {
              QString format;
@@ -215,6 +221,7 @@ QVector<JobOption> OutputOptions()
              Output(job).GetFormat(format, options);
              return FormatOptionTexts(options);
          }},
+        QualityOption(),
         {{Text("--icc"), Text("FILE"),
           Text("an ICC profile to convert results to and to embed; none keeps each input's own"), group, false,
           Completion::Files},
@@ -246,9 +253,10 @@ QVector<JobOption> NameOptions()
     const QString group = Text("Names of results");
     return {
         NamePart("--prefix", Settings::PartPrefix, Text("what a name begins with; PART is the same as for --name")),
-        NamePart("--name", Settings::PartMiddle,
-                 Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
-                      "date; time; text:TEXT; nothing")),
+        NamePart(
+            "--name", Settings::PartMiddle,
+            Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
+                 "date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing")),
         NamePart("--suffix", Settings::PartSuffix, Text("what a name ends with")),
         {{Text("--prefix-separator"), Text("TEXT"), Text("the text between prefix and middle"), group},
          [](ZTBatchDocument& job, const QString& text) {
@@ -287,13 +295,29 @@ void SetSize(Settings::ImageSize& imageSize, const QString& text)
     }
 }
 
+/// In other programs --resize takes a size.
+int RestrictionFromText(const QString& text)
+{
+    if (!text.isEmpty() && text.at(0).isDigit()) {
+        const QString side = text.section(QRegularExpression(QStringLiteral("[xX]")), 0, 0);
+        throw RequestError{QStringLiteral("\"%1\" is a size, and this option says which pictures change; use --size %2")
+                               .arg(text, side)};
+    }
+    return ValueOf(BatchJob::SizeRestrictionWords, text);
+}
+
 QVector<JobOption> SizeOptions()
 {
     const QString group = Text("Size and crop");
     return {
-        {{Text("--size"), Text("LENGTH"),
+        {{Text("--size"),
+          Text("LENGTH"),
           Text("scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size"),
-          group},
+          group,
+          false,
+          Completion::Nothing,
+          {},
+          Text("-s")},
          ChangeImageSize(SetSize),
          [](const ZTBatchDocument& job) {
              const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
@@ -312,7 +336,7 @@ QVector<JobOption> SizeOptions()
                "both; none"),
           group, false, Completion::Words, AllWords(BatchJob::SizeRestrictionWords)},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
-             const int restriction = ValueOf(BatchJob::SizeRestrictionWords, text);
+             const int restriction = RestrictionFromText(text);
              const bool isScaling = restriction != int(BatchJob::SizeRestriction::None);
              Need(IsScaled(imageSize) || !isScaling, text, "a size", "--size");
              imageSize.restriction = restriction;

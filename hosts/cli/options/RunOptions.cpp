@@ -24,11 +24,12 @@ struct LimitOption
     const char* valueName;
     const char* help;
     ServerLimit limit;
+    const char* shortName = "";
 };
 
 constexpr std::array limitOptions{
     LimitOption{"--workers", "NUMBER", "how many pictures are processed at a time; default: one for each core",
-                workersLimit},
+                workersLimit, "-j"},
     LimitOption{"--max-megapixels", "NUMBER", "larger pictures are not read; default: 400", megapixelsLimit},
     LimitOption{"--worker-memory", "MIB", "memory that one picture may take; default: 2048", workerMemoryLimit},
     LimitOption{"--picture-time", "SECONDS", "time that one picture may take; default: 300", pictureTimeLimit},
@@ -57,6 +58,14 @@ QVector<OptionInfo> RunOptionInfos()
 {
     const QString run = QStringLiteral("Run");
     QVector<OptionInfo> infos{
+        {QStringLiteral("--dry-run"),
+         QString(),
+         QStringLiteral("prints what the run would write, as \"velkora-batch plan\" does, and writes nothing"),
+         run,
+         false,
+         Completion::Nothing,
+         {},
+         QStringLiteral("-n")},
         {QStringLiteral("--report"), QStringLiteral("FILE"),
          QStringLiteral("writes the result of every input to a file, as CSV or JSON by the extension of its name"), run,
          false, Completion::Files},
@@ -76,8 +85,14 @@ QVector<OptionInfo> RunOptionInfos()
                                  "link is an error of output"),
                   run});
     for (const LimitOption& option : limitOptions) {
-        infos.append({QString::fromLatin1(option.name), QString::fromLatin1(option.valueName),
-                      QString::fromLatin1(option.help), QStringLiteral("Limits")});
+        infos.append({QString::fromLatin1(option.name),
+                      QString::fromLatin1(option.valueName),
+                      QString::fromLatin1(option.help),
+                      QStringLiteral("Limits"),
+                      false,
+                      Completion::Nothing,
+                      {},
+                      QString::fromLatin1(option.shortName)});
     }
     return infos + PlanOptionInfos();
 }
