@@ -6,6 +6,7 @@
 #include "job/journal/OwnFile.h"
 #include "job/settings/JobFiles.h"
 #include "job/values/FileIdentity.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -66,7 +67,7 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
 {
     JournalFile::RemoveUnbegun(folder);
     const auto ignore = [this](const QString& path, const QString& reason) {
-        ignored.append(QStringLiteral("%1 is ignored: %2").arg(path, reason));
+        ignored.append(Phrase::English("%1 is ignored: %2").arg(path, reason));
     };
     for (const QString& path : JournalFile::In(folder)) {
         QFile file;
@@ -87,7 +88,7 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
         if (IdentityOf(target) == IdentityOf(folder)) {
             runs.push_back(run);
         } else {
-            ignore(path, QStringLiteral("its results go to %1").arg(target));
+            ignore(path, Phrase::English("its results go to %1").arg(target));
         }
     }
 }
@@ -95,24 +96,24 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
 const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, bool isThisJob) const
 {
     if (runs.empty()) {
-        throw RequestError{QStringLiteral("there is no interrupted run in %1").arg(folder)};
+        throw RequestError{Phrase::English("there is no interrupted run in %1").arg(folder)};
     }
     const Run* const same = RunOf(job);
     if (isThisJob && !same) {
         throw RequestError{
-            QStringLiteral("the run that was interrupted in %1 is of another job: its inputs, options or "
-                           "files differ")
+            Phrase::English("the run that was interrupted in %1 is of another job: its inputs, options or "
+                            "files differ")
                 .arg(folder),
             RequestError::Kind::OtherRunInterrupted};
     }
     if (runs.size() > 1 && !same) {
         throw RequestError{
-            QStringLiteral("%1 runs were interrupted in %2, none of them of this job").arg(runs.size()).arg(folder),
+            Phrase::English("%1 runs were interrupted in %2, none of them of this job").arg(runs.size()).arg(folder),
             RequestError::Kind::SeveralRunsInterrupted};
     }
     const Run& chosen = same ? *same : runs.front();
     if (!chosen.state) {
-        throw RequestError{QStringLiteral("%1 is damaged; remove it to start the run anew").arg(chosen.journal)};
+        throw RequestError{Phrase::English("%1 is damaged; remove it to start the run anew").arg(chosen.journal)};
     }
     return chosen;
 }

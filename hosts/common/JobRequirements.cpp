@@ -3,6 +3,7 @@
 #include "RequestError.h"
 
 #include "job/settings/JobCheck.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -12,7 +13,7 @@ namespace BatchHost {
 void RequireUsableSettings(const ZTBatchDocument& job)
 {
     if (job.GetOutputSettings()->GetPath().isEmpty()) {
-        throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
+        throw RequestError{BatchJob::Phrase::English("no output folder"), RequestError::Kind::NoOutputFolder};
     }
     const BatchJob::CheckedSettings checked = BatchJob::CheckSettings(job);
     if (!checked.IsAccepted()) {
@@ -23,7 +24,7 @@ void RequireUsableSettings(const ZTBatchDocument& job)
 void RequireRunnableJob(const ZTBatchDocument& job)
 {
     if (job.GetInputModel()->GetFileNodesCount() == 0) {
-        throw RequestError{QStringLiteral("no pictures"), RequestError::Kind::NoPictures};
+        throw RequestError{BatchJob::Phrase::English("no pictures"), RequestError::Kind::NoPictures};
     }
     RequireUsableSettings(job);
 }

@@ -4,6 +4,7 @@
 #include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -31,7 +32,7 @@ JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRu
     journaled.policies = run.state->policies;
     if (!journaled.file->Exists()) { // The run was still going on when it was chosen, and is finished now.
         throw RequestError{
-            QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
+            Phrase::English("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
     }
     job.Deserialize(journaled.document);
     return journaled;

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -17,7 +19,7 @@ EffectSchema AutoLevelsEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("auto-levels");
-    effect.description = QStringLiteral("Spreads the values that a picture has from black to white");
+    effect.description = Phrase::English("Spreads the values that a picture has from black to white");
     effect.parameters = {
         NumberParameter("clip", 0.1, 0, 10, "percent", "how many of the darkest and of the brightest pixels may clip"),
         ChoiceParameter("channels", {QStringLiteral("together"), QStringLiteral("each")},

@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema BlurEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("blur");
-    effect.description = QStringLiteral("Blurs evenly");
+    effect.description = Phrase::English("Blurs evenly");
     effect.parameters = {
         NumberParameter("sigma", 2, 0, 200, "pixels", "standard deviation of the blur in the result; 0 does nothing")};
     effect.definition =

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -17,7 +19,7 @@ EffectSchema BorderEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("border");
-    effect.description = QStringLiteral("Adds a border around a picture");
+    effect.description = Phrase::English("Adds a border around a picture");
     effect.parameters = {
         NumberParameter("left", 0, 0, 10'000, "", "width on the left"),
         NumberParameter("top", 0, 0, 10'000, "", "height at the top"),

@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema BrightnessContrastEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("brightness-contrast");
-    effect.description = QStringLiteral("Shifts all values, then spreads them around the middle");
+    effect.description = Phrase::English("Shifts all values, then spreads them around the middle");
     effect.parameters = {
         NumberParameter("brightness", 0, -100, 100, "percent", "shift of every value; 100 turns black into white"),
         NumberParameter("contrast", 0, -100, 100, "percent", "-100 is flat grey, 50 doubles all differences")};

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -18,7 +20,7 @@ EffectSchema ClarityEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("clarity");
     effect.description =
-        QStringLiteral("Raises or lowers the contrast of larger structures, mostly in the middle tones");
+        Phrase::English("Raises or lowers the contrast of larger structures, mostly in the middle tones");
     effect.parameters = {NumberParameter("amount", 30, -100, 100, "percent", "below 0 softens"),
                          NumberParameter("sigma", 40, 5, 500, "pixels", "size of the structures in the result")};
     effect.definition =

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 #include <QJsonArray>
 
 namespace BatchJob {
@@ -13,7 +15,7 @@ ParameterSchema CurvePoints()
     points.name = QStringLiteral("points");
     points.type = ParameterType::Points;
     points.defaultValue = QJsonArray{QJsonArray{0, 0}, QJsonArray{100, 100}};
-    points.description = QStringLiteral(
+    points.description = Phrase::English(
         "input and output, from black to white; between them the curve never turns, beyond them it is level");
     points.maximum = 100;
     points.unit = QStringLiteral("percent");
@@ -26,7 +28,7 @@ EffectSchema CurveEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("curve");
-    effect.description = QStringLiteral("Maps values along a smooth curve through points");
+    effect.description = Phrase::English("Maps values along a smooth curve through points");
     effect.parameters = {
         CurvePoints(),
         ChoiceParameter("channel",

@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema DenoiseEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("denoise");
-    effect.description = QStringLiteral("Smooths noise and keeps edges");
+    effect.description = Phrase::English("Smooths noise and keeps edges");
     effect.parameters = {
         NumberParameter("strength", 10, 0, 100, "percent", "differences of this size begin to count as edges"),
         NumberParameter("sigma", 1.5, 0.5, 5, "pixels", "how far neighbours are taken in, in the result")};

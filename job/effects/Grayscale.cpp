@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema GrayscaleEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("grayscale");
-    effect.description = QStringLiteral("Takes all colour away");
+    effect.description = Phrase::English("Takes all colour away");
     effect.parameters = {
         ChoiceParameter("method", {QStringLiteral("luminance"), QStringLiteral("luma"), QStringLiteral("average")},
                         "luminance weighs the light, luma the stored values, average is their plain mean")};

@@ -2,6 +2,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -19,7 +21,7 @@ EffectSchema LutEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("lut");
     effect.description =
-        QStringLiteral("Maps colours by the table of a .cube file; a grey picture becomes a colour picture");
+        Phrase::English("Maps colours by the table of a .cube file; a grey picture becomes a colour picture");
     effect.parameters = {FileParameter("file", "the .cube file, with a table of one or three dimensions"),
                          NumberParameter("strength", 100, 0, 100, "percent", "0 leaves the picture as it is"),
                          ChoiceParameter("interpolation", {QStringLiteral("tetrahedral"), QStringLiteral("trilinear")},

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 #include <cmath>
 
 namespace BatchJob {
@@ -18,7 +20,7 @@ EffectSchema RotateEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("rotate");
-    effect.description = QStringLiteral("Turns a picture clockwise; the result is as large as it needs");
+    effect.description = Phrase::English("Turns a picture clockwise; the result is as large as it needs");
     effect.parameters = {NumberParameter("angle", 0, -360, 360, "degrees", "multiples of 90 keep every pixel as it is"),
                          ColourParameter("background", "#ffffff",
                                          "fills the corners; with transparency the result has an alpha channel")};

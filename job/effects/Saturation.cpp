@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema SaturationEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("saturation");
-    effect.description = QStringLiteral("Makes all colours stronger or weaker");
+    effect.description = Phrase::English("Makes all colours stronger or weaker");
     effect.parameters = {
         NumberParameter("amount", 0, -100, 100, "percent", "-100 leaves grey, 100 doubles the strength")};
     effect.definition =

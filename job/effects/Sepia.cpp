@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema SepiaEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("sepia");
-    effect.description = QStringLiteral("Tones a picture brown; a grey picture becomes a colour picture");
+    effect.description = Phrase::English("Tones a picture brown; a grey picture becomes a colour picture");
     effect.parameters = {NumberParameter("amount", 100, 0, 100, "percent", "0 leaves the picture as it is")};
     effect.definition =
         QStringLiteral("The matrix of sepia() in the Filter Effects Module Level 1 of the W3C: red is 0.393 R + "

@@ -2,6 +2,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -18,7 +20,7 @@ EffectSchema SharpenEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("sharpen");
-    effect.description = QStringLiteral("Sharpens edges by an unsharp mask");
+    effect.description = Phrase::English("Sharpens edges by an unsharp mask");
     effect.parameters = {
         NumberParameter("sigma", 1, 0.1, 20, "pixels", "standard deviation of the mask in the result"),
         NumberParameter("amount", 60, 0, 500, "percent", "how much of the difference to the mask is added"),

@@ -1,13 +1,15 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema VignetteEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("vignette");
-    effect.description = QStringLiteral("Darkens or brightens towards the corners");
+    effect.description = Phrase::English("Darkens or brightens towards the corners");
     effect.parameters = {
         NumberParameter("amount", -40, -100, 100, "percent", "of the corners; -100 is black, 100 is white"),
         NumberParameter("start", 40, 0, 100, "percent", "where it begins on the way from the centre to a corner"),

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 EffectSchema WhiteBalanceEffect()
@@ -8,7 +10,7 @@ EffectSchema WhiteBalanceEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("white-balance");
     effect.description =
-        QStringLiteral("Makes a picture warmer or cooler, greener or more magenta; greys keep their luminance");
+        Phrase::English("Makes a picture warmer or cooler, greener or more magenta; greys keep their luminance");
     effect.parameters = {NumberParameter("temperature", 0, -100, 100, "percent", "above 0 warmer, below 0 cooler"),
                          NumberParameter("tint", 0, -100, 100, "percent", "above 0 more magenta, below 0 greener")};
     effect.definition =

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema AvifFormat()
@@ -9,7 +11,7 @@ FormatSchema AvifFormat()
     FormatSchema format;
     format.id = FormatId::Avif;
     format.name = QStringLiteral("AVIF");
-    format.description = QStringLiteral("very small files for the web in up to 12 bits, slow to write");
+    format.description = Phrase::English("very small files for the web in up to 12 bits, slow to write");
     format.extensions = QStringList{QStringLiteral("avif"), QStringLiteral("avifs")};
     format.signatures = {{{{4, "ftypavif"}}}, {{{4, "ftypavis"}}}};
     format.bitDepths = {8, 10, 12};

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema JpegXlFormat()
@@ -9,7 +11,7 @@ FormatSchema JpegXlFormat()
     FormatSchema format;
     format.id = FormatId::JpegXl;
     format.name = QStringLiteral("JPEG XL");
-    format.description = QStringLiteral("small files of photos in up to 16 bits, also without loss");
+    format.description = Phrase::English("small files of photos in up to 16 bits, also without loss");
     format.extensions = QStringList{QStringLiteral("jxl")};
     format.signatures = {{{{0, "\xFF\x0A"}}}, {{{4, "JXL \r\n\x87\n"}}}};
     format.holdsGrey = true;

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema WebpFormat()
@@ -9,7 +11,7 @@ FormatSchema WebpFormat()
     FormatSchema format;
     format.id = FormatId::Webp;
     format.name = QStringLiteral("WebP");
-    format.description = QStringLiteral("small files for the web, with transparency");
+    format.description = Phrase::English("small files for the web, with transparency");
     format.extensions = QStringList{QStringLiteral("webp")};
     format.signatures = {{{{0, "RIFF"}, {8, "WEBP"}}}};
     format.longestSide = 16'383;

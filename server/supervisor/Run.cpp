@@ -4,6 +4,7 @@
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
@@ -318,7 +319,7 @@ void Run::Examine(int file)
         HandleTrouble(
             file, {PolicyKind::Processing,
                    ZTBatchMessage::ApplyAdjustmentError,
-                   QStringLiteral("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
+                   Phrase::English("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
                    {}});
         return;
     }
@@ -355,7 +356,7 @@ void Run::OnReported(const Assignment& task, const Report& report)
     } else {
         HandleTrouble(task.file, {PolicyKind::Processing,
                                   ZTBatchMessage::ApplyAdjustmentError,
-                                  QStringLiteral("the worker reported a result that is not there"),
+                                  Phrase::English("the worker reported a result that is not there"),
                                   {},
                                   true});
     }
@@ -369,8 +370,8 @@ Trouble Run::TroubleOfReport(int file, const Report& report)
     if (trouble.kind == PolicyKind::Naming && ++takenNames[file] > mostTakenNames) {
         trouble.kind = PolicyKind::Output;
         trouble.code = ZTBatchMessage::WriteOutputFormatError;
-        trouble.reason =
-            QStringLiteral("each of %1 names for the result was taken when it was to be written").arg(takenNames[file]);
+        trouble.reason = Phrase::English("each of %1 names for the result was taken when it was to be written")
+                             .arg(takenNames[file]);
     }
     return trouble;
 }
