@@ -4,6 +4,7 @@
 #include "CommandFunctions.h"
 
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 
 #include <algorithm>
@@ -104,7 +105,7 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode Report(const RequestError& error)
 {
-    const QString text = error.text + RemedyFor(error.kind);
+    const QString text = Translated(error.text) + RemedyFor(error.kind);
     const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
     WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, isWhole ? QString() : QStringLiteral(".")));
     return ExitCode::Usage;
