@@ -1526,5 +1526,265 @@
         <source>Too many levels of symbolic links</source>
         <translation>Zu viele symbolische Links hintereinander</translation>
     </message>
+    <message>
+        <source>percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>how many of the darkest and of the brightest pixels may clip</source>
+        <translation>wie viele der dunkelsten und hellsten Pixel beschnitten werden dürfen</translation>
+    </message>
+    <message>
+        <source>together keeps colours as they are; each for itself removes a cast</source>
+        <translation>together erhält die Farben; each entfernt einen Farbstich</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>standard deviation of the blur in the result; 0 does nothing</source>
+        <translation>Standardabweichung der Unschärfe im Ergebnis; 0 bewirkt nichts</translation>
+    </message>
+    <message>
+        <source>width on the left</source>
+        <translation>Breite links</translation>
+    </message>
+    <message>
+        <source>height at the top</source>
+        <translation>Höhe oben</translation>
+    </message>
+    <message>
+        <source>width on the right</source>
+        <translation>Breite rechts</translation>
+    </message>
+    <message>
+        <source>height at the bottom</source>
+        <translation>Höhe unten</translation>
+    </message>
+    <message>
+        <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
+        <translation>der vier; percent bezieht sich auf die kurze Bildseite, höchstens 100</translation>
+    </message>
+    <message>
+        <source>of the border; with transparency the result has an alpha channel</source>
+        <translation>des Randes; mit Transparenz hat das Ergebnis einen Alphakanal</translation>
+    </message>
+    <message>
+        <source>shift of every value; 100 turns black into white</source>
+        <translation>Verschiebung aller Werte; 100 macht Schwarz zu Weiß</translation>
+    </message>
+    <message>
+        <source>-100 is flat grey, 50 doubles all differences</source>
+        <translation>-100 ist einheitliches Grau, 50 verdoppelt alle Unterschiede</translation>
+    </message>
+    <message>
+        <source>below 0 softens</source>
+        <translation>unter 0 wird das Bild weicher</translation>
+    </message>
+    <message>
+        <source>size of the structures in the result</source>
+        <translation>Größe der Strukturen im Ergebnis</translation>
+    </message>
+    <message>
+        <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
+        <translation>welche Werte abgebildet werden; ein Graustufenbild hat keine einzelnen Farben und bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>differences of this size begin to count as edges</source>
+        <translation>ab dieser Größe gelten Unterschiede als Kanten</translation>
+    </message>
+    <message>
+        <source>how far neighbours are taken in, in the result</source>
+        <translation>wie weit Nachbarpixel einbezogen werden, im Ergebnis</translation>
+    </message>
+    <message>
+        <source>stops</source>
+        <translation>Blendenstufen</translation>
+    </message>
+    <message>
+        <source>how much; 1 doubles the light</source>
+        <translation>wie viel; 1 verdoppelt das Licht</translation>
+    </message>
+    <message>
+        <source>horizontal swaps left and right</source>
+        <translation>horizontal vertauscht links und rechts</translation>
+    </message>
+    <message>
+        <source>luminance weighs the light, luma the stored values, average is their plain mean</source>
+        <translation>luminance gewichtet das Licht, luma die gespeicherten Werte, average ist ihr einfacher Mittelwert</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>120 turns red towards green</source>
+        <translation>120 dreht Rot nach Grün</translation>
+    </message>
+    <message>
+        <source>this value and those below become black</source>
+        <translation>dieser und niedrigere Werte werden schwarz</translation>
+    </message>
+    <message>
+        <source>this value and those above become white</source>
+        <translation>dieser und höhere Werte werden weiß</translation>
+    </message>
+    <message>
+        <source>above 1 brightens the tones between them</source>
+        <translation>über 1 hellt die Töne dazwischen auf</translation>
+    </message>
+    <message>
+        <source>the .cube file, with a table of one or three dimensions</source>
+        <translation>die .cube-Datei mit einer ein- oder dreidimensionalen Tabelle</translation>
+    </message>
+    <message>
+        <source>0 leaves the picture as it is</source>
+        <translation>0 lässt das Bild unverändert</translation>
+    </message>
+    <message>
+        <source>between the entries of a table of three dimensions</source>
+        <translation>zwischen den Einträgen einer dreidimensionalen Tabelle</translation>
+    </message>
+    <message>
+        <source>levels</source>
+        <translation>Stufen</translation>
+    </message>
+    <message>
+        <source>steps from black to white</source>
+        <translation>Stufen von Schwarz bis Weiß</translation>
+    </message>
+    <message>
+        <source>multiples of 90 keep every pixel as it is</source>
+        <translation>Vielfache von 90 erhalten jedes Pixel unverändert</translation>
+    </message>
+    <message>
+        <source>fills the corners; with transparency the result has an alpha channel</source>
+        <translation>füllt die Ecken; mit Transparenz hat das Ergebnis einen Alphakanal</translation>
+    </message>
+    <message>
+        <source>-100 leaves grey, 100 doubles the strength</source>
+        <translation>-100 lässt nur Grau übrig, 100 verdoppelt die Sättigung</translation>
+    </message>
+    <message>
+        <source>standard deviation of the mask in the result</source>
+        <translation>Standardabweichung der Maske im Ergebnis</translation>
+    </message>
+    <message>
+        <source>how much of the difference to the mask is added</source>
+        <translation>wie viel vom Unterschied zur Maske hinzukommt</translation>
+    </message>
+    <message>
+        <source>differences below stay as they are</source>
+        <translation>kleinere Unterschiede bleiben unverändert</translation>
+    </message>
+    <message>
+        <source>how much the weakest colours change</source>
+        <translation>wie stark sich die schwächsten Farben ändern</translation>
+    </message>
+    <message>
+        <source>of the corners; -100 is black, 100 is white</source>
+        <translation>der Ecken; -100 ist schwarz, 100 ist weiß</translation>
+    </message>
+    <message>
+        <source>where it begins on the way from the centre to a corner</source>
+        <translation>wo sie auf dem Weg von der Mitte zur Ecke beginnt</translation>
+    </message>
+    <message>
+        <source>length of the transition on the same way</source>
+        <translation>Länge des Übergangs auf demselben Weg</translation>
+    </message>
+    <message>
+        <source>the picture that is laid over, best with transparency</source>
+        <translation>das Bild, das darübergelegt wird, am besten mit Transparenz</translation>
+    </message>
+    <message>
+        <source>width of the mark; in percent of the picture&apos;s width</source>
+        <translation>Breite des Wasserzeichens; in Prozent der Bildbreite</translation>
+    </message>
+    <message>
+        <source>space to the sides of the picture, and between tiles</source>
+        <translation>Abstand zu den Bildrändern und zwischen Wiederholungen</translation>
+    </message>
+    <message>
+        <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
+        <translation>von size und margin; margin in Prozent bezieht sich auf die kurze Bildseite; höchstens 100 Prozent</translation>
+    </message>
+    <message>
+        <source>0 is invisible</source>
+        <translation>0 ist unsichtbar</translation>
+    </message>
+    <message>
+        <source>where the mark stands</source>
+        <translation>wo das Wasserzeichen steht</translation>
+    </message>
+    <message>
+        <source>repeats the mark over the whole picture</source>
+        <translation>wiederholt das Wasserzeichen über das ganze Bild</translation>
+    </message>
+    <message>
+        <source>of the letters</source>
+        <translation>der Buchstaben</translation>
+    </message>
+    <message>
+        <source>height of a line of text; in percent of the picture&apos;s short side</source>
+        <translation>Höhe einer Textzeile; in Prozent der kurzen Bildseite</translation>
+    </message>
+    <message>
+        <source>above 0 warmer, below 0 cooler</source>
+        <translation>über 0 wärmer, unter 0 kühler</translation>
+    </message>
+    <message>
+        <source>above 0 more magenta, below 0 greener</source>
+        <translation>über 0 mehr Magenta, unter 0 grüner</translation>
+    </message>
+    <message>
+        <source>keep every pixel, but for a last step of rounding</source>
+        <translation>jedes Pixel bis auf eine letzte Rundung erhalten</translation>
+    </message>
+    <message>
+        <source>higher is slower and better</source>
+        <translation>höher ist langsamer und besser</translation>
+    </message>
+    <message>
+        <source>keep every pixel as it is</source>
+        <translation>jedes Pixel unverändert erhalten</translation>
+    </message>
+    <message>
+        <source>higher is better and larger</source>
+        <translation>höher ist besser und größer</translation>
+    </message>
+    <message>
+        <source>shows a coarse picture first while it loads</source>
+        <translation>zeigt beim Laden zuerst ein grobes Bild</translation>
+    </message>
+    <message>
+        <source>resolution of colour; auto is 4:4:4 from quality 90</source>
+        <translation>Auflösung der Farbe; auto ist 4:4:4 ab Qualität 90</translation>
+    </message>
+    <message>
+        <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
+        <translation>Bit pro Kanal; Standard sind die der Eingabe, soweit das Format sie kennt: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>which metadata is kept</source>
+        <translation>welche Metadaten erhalten bleiben</translation>
+    </message>
+    <message>
+        <source>colour under transparency that the format cannot hold</source>
+        <translation>Farbe unter Transparenz, die das Format nicht speichern kann</translation>
+    </message>
+    <message>
+        <source>gives the result the input&apos;s modification time</source>
+        <translation>gibt dem Ergebnis das Änderungsdatum der Eingabe</translation>
+    </message>
+    <message>
+        <source>keep every pixel that can be seen</source>
+        <translation>jedes sichtbare Pixel erhalten</translation>
+    </message>
 </context>
 </TS>

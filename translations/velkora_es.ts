@@ -1526,5 +1526,265 @@
         <source>Too many levels of symbolic links</source>
         <translation>Demasiados niveles de enlaces simbólicos</translation>
     </message>
+    <message>
+        <source>percent</source>
+        <translation>por ciento</translation>
+    </message>
+    <message>
+        <source>how many of the darkest and of the brightest pixels may clip</source>
+        <translation>cuántos de los píxeles más oscuros y más claros pueden recortarse</translation>
+    </message>
+    <message>
+        <source>together keeps colours as they are; each for itself removes a cast</source>
+        <translation>together conserva los colores; each elimina una dominante</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>píxeles</translation>
+    </message>
+    <message>
+        <source>standard deviation of the blur in the result; 0 does nothing</source>
+        <translation>desviación estándar del desenfoque en el resultado; 0 no hace nada</translation>
+    </message>
+    <message>
+        <source>width on the left</source>
+        <translation>ancho a la izquierda</translation>
+    </message>
+    <message>
+        <source>height at the top</source>
+        <translation>alto arriba</translation>
+    </message>
+    <message>
+        <source>width on the right</source>
+        <translation>ancho a la derecha</translation>
+    </message>
+    <message>
+        <source>height at the bottom</source>
+        <translation>alto abajo</translation>
+    </message>
+    <message>
+        <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
+        <translation>de los cuatro; percent se refiere al lado corto de la imagen, como máximo 100</translation>
+    </message>
+    <message>
+        <source>of the border; with transparency the result has an alpha channel</source>
+        <translation>del borde; con transparencia el resultado tiene canal alfa</translation>
+    </message>
+    <message>
+        <source>shift of every value; 100 turns black into white</source>
+        <translation>desplazamiento de cada valor; 100 convierte el negro en blanco</translation>
+    </message>
+    <message>
+        <source>-100 is flat grey, 50 doubles all differences</source>
+        <translation>-100 es gris uniforme, 50 duplica todas las diferencias</translation>
+    </message>
+    <message>
+        <source>below 0 softens</source>
+        <translation>por debajo de 0 suaviza</translation>
+    </message>
+    <message>
+        <source>size of the structures in the result</source>
+        <translation>tamaño de las estructuras en el resultado</translation>
+    </message>
+    <message>
+        <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
+        <translation>qué valores se transforman; una imagen en escala de grises no tiene colores separados y queda igual</translation>
+    </message>
+    <message>
+        <source>differences of this size begin to count as edges</source>
+        <translation>las diferencias de este tamaño empiezan a contar como bordes</translation>
+    </message>
+    <message>
+        <source>how far neighbours are taken in, in the result</source>
+        <translation>hasta dónde se incluyen los píxeles vecinos, en el resultado</translation>
+    </message>
+    <message>
+        <source>stops</source>
+        <translation>pasos</translation>
+    </message>
+    <message>
+        <source>how much; 1 doubles the light</source>
+        <translation>cuánto; 1 duplica la luz</translation>
+    </message>
+    <message>
+        <source>horizontal swaps left and right</source>
+        <translation>horizontal intercambia izquierda y derecha</translation>
+    </message>
+    <message>
+        <source>luminance weighs the light, luma the stored values, average is their plain mean</source>
+        <translation>luminance pondera la luz, luma los valores guardados, average es su media simple</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>grados</translation>
+    </message>
+    <message>
+        <source>120 turns red towards green</source>
+        <translation>120 gira el rojo hacia el verde</translation>
+    </message>
+    <message>
+        <source>this value and those below become black</source>
+        <translation>este valor y los inferiores se vuelven negros</translation>
+    </message>
+    <message>
+        <source>this value and those above become white</source>
+        <translation>este valor y los superiores se vuelven blancos</translation>
+    </message>
+    <message>
+        <source>above 1 brightens the tones between them</source>
+        <translation>por encima de 1 aclara los tonos intermedios</translation>
+    </message>
+    <message>
+        <source>the .cube file, with a table of one or three dimensions</source>
+        <translation>el archivo .cube, con una tabla de una o tres dimensiones</translation>
+    </message>
+    <message>
+        <source>0 leaves the picture as it is</source>
+        <translation>0 deja la imagen tal cual</translation>
+    </message>
+    <message>
+        <source>between the entries of a table of three dimensions</source>
+        <translation>entre las entradas de una tabla de tres dimensiones</translation>
+    </message>
+    <message>
+        <source>levels</source>
+        <translation>niveles</translation>
+    </message>
+    <message>
+        <source>steps from black to white</source>
+        <translation>niveles de negro a blanco</translation>
+    </message>
+    <message>
+        <source>multiples of 90 keep every pixel as it is</source>
+        <translation>los múltiplos de 90 conservan cada píxel tal cual</translation>
+    </message>
+    <message>
+        <source>fills the corners; with transparency the result has an alpha channel</source>
+        <translation>rellena las esquinas; con transparencia el resultado tiene canal alfa</translation>
+    </message>
+    <message>
+        <source>-100 leaves grey, 100 doubles the strength</source>
+        <translation>-100 deja solo gris, 100 duplica la intensidad</translation>
+    </message>
+    <message>
+        <source>standard deviation of the mask in the result</source>
+        <translation>desviación estándar de la máscara en el resultado</translation>
+    </message>
+    <message>
+        <source>how much of the difference to the mask is added</source>
+        <translation>cuánto se suma de la diferencia con la máscara</translation>
+    </message>
+    <message>
+        <source>differences below stay as they are</source>
+        <translation>las diferencias menores no cambian</translation>
+    </message>
+    <message>
+        <source>how much the weakest colours change</source>
+        <translation>cuánto cambian los colores más débiles</translation>
+    </message>
+    <message>
+        <source>of the corners; -100 is black, 100 is white</source>
+        <translation>de las esquinas; -100 es negro, 100 es blanco</translation>
+    </message>
+    <message>
+        <source>where it begins on the way from the centre to a corner</source>
+        <translation>dónde empieza en el recorrido del centro a una esquina</translation>
+    </message>
+    <message>
+        <source>length of the transition on the same way</source>
+        <translation>longitud de la transición en el mismo recorrido</translation>
+    </message>
+    <message>
+        <source>the picture that is laid over, best with transparency</source>
+        <translation>la imagen que se superpone, mejor con transparencia</translation>
+    </message>
+    <message>
+        <source>width of the mark; in percent of the picture&apos;s width</source>
+        <translation>ancho de la marca; en porcentaje del ancho de la imagen</translation>
+    </message>
+    <message>
+        <source>space to the sides of the picture, and between tiles</source>
+        <translation>espacio hasta los lados de la imagen y entre repeticiones</translation>
+    </message>
+    <message>
+        <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
+        <translation>de size y margin; margin en porcentaje se refiere al lado corto de la imagen; percent es como máximo 100</translation>
+    </message>
+    <message>
+        <source>0 is invisible</source>
+        <translation>0 es invisible</translation>
+    </message>
+    <message>
+        <source>where the mark stands</source>
+        <translation>dónde está la marca</translation>
+    </message>
+    <message>
+        <source>repeats the mark over the whole picture</source>
+        <translation>repite la marca por toda la imagen</translation>
+    </message>
+    <message>
+        <source>of the letters</source>
+        <translation>de las letras</translation>
+    </message>
+    <message>
+        <source>height of a line of text; in percent of the picture&apos;s short side</source>
+        <translation>altura de una línea de texto; en porcentaje del lado corto de la imagen</translation>
+    </message>
+    <message>
+        <source>above 0 warmer, below 0 cooler</source>
+        <translation>por encima de 0 más cálido, por debajo más frío</translation>
+    </message>
+    <message>
+        <source>above 0 more magenta, below 0 greener</source>
+        <translation>por encima de 0 más magenta, por debajo más verde</translation>
+    </message>
+    <message>
+        <source>keep every pixel, but for a last step of rounding</source>
+        <translation>conservar cada píxel, salvo un último redondeo</translation>
+    </message>
+    <message>
+        <source>higher is slower and better</source>
+        <translation>más alto es más lento y mejor</translation>
+    </message>
+    <message>
+        <source>keep every pixel as it is</source>
+        <translation>conservar cada píxel tal cual</translation>
+    </message>
+    <message>
+        <source>higher is better and larger</source>
+        <translation>más alto es mejor y más grande</translation>
+    </message>
+    <message>
+        <source>shows a coarse picture first while it loads</source>
+        <translation>muestra primero una imagen aproximada mientras se carga</translation>
+    </message>
+    <message>
+        <source>resolution of colour; auto is 4:4:4 from quality 90</source>
+        <translation>resolución del color; auto es 4:4:4 a partir de calidad 90</translation>
+    </message>
+    <message>
+        <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
+        <translation>bits por canal; por omisión los de la entrada, si el formato los admite: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>bits</translation>
+    </message>
+    <message>
+        <source>which metadata is kept</source>
+        <translation>qué metadatos se conservan</translation>
+    </message>
+    <message>
+        <source>colour under transparency that the format cannot hold</source>
+        <translation>color bajo la transparencia que el formato no admite</translation>
+    </message>
+    <message>
+        <source>gives the result the input&apos;s modification time</source>
+        <translation>da al resultado la fecha de modificación de la entrada</translation>
+    </message>
+    <message>
+        <source>keep every pixel that can be seen</source>
+        <translation>conservar cada píxel visible</translation>
+    </message>
 </context>
 </TS>

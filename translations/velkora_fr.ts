@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>No more input: this file and all that follow with questions are skipped.</source>
-        <translation>Plus d’entrée : ce fichier et les suivants qui posent une question sont ignorés.</translation>
+        <translation>Plus d’entrée&#xa0;: ce fichier et les suivants qui posent une question sont ignorés.</translation>
     </message>
     <message>
         <source>%1? (add &quot;all&quot; for all that follow)</source>
-        <translation>%1 ? (ajoutez « all » pour tous les suivants)</translation>
+        <translation>%1&#x202f;? (ajoutez «&#xa0;all&#xa0;» pour tous les suivants)</translation>
     </message>
     <message>
         <source>the server ended unexpectedly; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue ; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue&#x202f;; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1 ; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1&#x202f;; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1.</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Cancelling; interrupt again to end at once.</source>
-        <translation>Annulation en cours ; interrompez à nouveau pour quitter immédiatement.</translation>
+        <translation>Annulation en cours&#x202f;; interrompez à nouveau pour quitter immédiatement.</translation>
     </message>
     <message>
         <source>Cancelling</source>
@@ -69,11 +69,11 @@
     </message>
     <message>
         <source>1 file with another extension was left out, but begins like a picture; --verbose names them, --include takes them.</source>
-        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image ; --verbose les nomme, --include les prend.</translation>
+        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image&#x202f;; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>%1 files with other extensions were left out, but begin like pictures; --verbose names them, --include takes them.</source>
-        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images ; --verbose les nomme, --include les prend.</translation>
+        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images&#x202f;; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -85,23 +85,23 @@
     </message>
     <message>
         <source>%1 of them, written before the interruption, is missing now: %2</source>
-        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent : %2</translation>
+        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 of them, written before the interruption, are missing now: %2</source>
-        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent : %2</translation>
+        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent&#xa0;: %2</translation>
     </message>
     <message>
         <source>1 warning:</source>
-        <translation>1 avertissement :</translation>
+        <translation>1 avertissement&#xa0;:</translation>
     </message>
     <message>
         <source>%1 warnings:</source>
-        <translation>%1 avertissements :</translation>
+        <translation>%1 avertissements&#xa0;:</translation>
     </message>
     <message>
         <source>and %1 more; use --report FILE for all</source>
-        <translation>et %1 autres ; --report FILE les donne toutes</translation>
+        <translation>et %1 autres&#x202f;; --report FILE les donne toutes</translation>
     </message>
 </context>
 <context>
@@ -128,23 +128,23 @@
     </message>
     <message>
         <source>a second size; one table is needed, of one or of three dimensions</source>
-        <translation>une deuxième taille ; il faut une seule table, à une ou à trois dimensions</translation>
+        <translation>une deuxième taille&#x202f;; il faut une seule table, à une ou à trois dimensions</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs a whole number from 2 to %3</source>
-        <translation>« %1 » ; %2 demande un nombre entier de 2 à %3</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande un nombre entier de 2 à %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs three numbers</source>
-        <translation>« %1 » ; %2 demande trois nombres</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande trois nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs two numbers</source>
-        <translation>« %1 » ; %2 demande deux nombres</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande deux nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; three numbers or a known keyword are needed</source>
-        <translation>« %1 » ; il faut trois nombres ou un mot-clé connu</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; il faut trois nombres ou un mot-clé connu</translation>
     </message>
     <message>
         <source>an entry before LUT_1D_SIZE or LUT_3D_SIZE</source>
@@ -156,7 +156,7 @@
     </message>
     <message>
         <source>no LUT_1D_SIZE and no LUT_3D_SIZE; this is not a .cube file</source>
-        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE ; ce n’est pas un fichier .cube</translation>
+        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE&#x202f;; ce n’est pas un fichier .cube</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2 entries</source>
@@ -168,7 +168,7 @@
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation>%1, ligne %2 : %3</translation>
+        <translation>%1, ligne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1 does not exist</source>
@@ -180,11 +180,11 @@
     </message>
     <message>
         <source>%1 has %2 bytes; a .cube file has at most %3</source>
-        <translation>%1 fait %2 octets ; un fichier .cube en fait au plus %3</translation>
+        <translation>%1 fait %2 octets&#x202f;; un fichier .cube en fait au plus %3</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>longer than %1 bytes</source>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>input and output, from black to white; between them the curve never turns, beyond them it is level</source>
-        <translation>entrée et sortie, du noir au blanc ; entre les points, la courbe ne change jamais de sens ; au-delà, elle est horizontale</translation>
+        <translation>entrée et sortie, du noir au blanc&#x202f;; entre les points, la courbe ne change jamais de sens&#x202f;; au-delà, elle est horizontale</translation>
     </message>
     <message>
         <source>Maps values along a smooth curve through points</source>
@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is %2 percent; it must be at most 100, or the unit pixels</source>
-        <translation>« %1 » vaut %2 pour cent ; 100 au maximum, ou l’unité pixels</translation>
+        <translation>«&#xa0;%1&#xa0;» vaut %2 pour cent&#x202f;; 100 au maximum, ou l’unité pixels</translation>
     </message>
     <message>
         <source>Brightens or darkens as a longer or shorter exposure would</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>&quot;black&quot; is %1 and &quot;white&quot; is %2; black must be less than white</source>
-        <translation>« black » vaut %1 et « white » vaut %2 ; black doit être inférieur à white</translation>
+        <translation>«&#xa0;black&#xa0;» vaut %1 et «&#xa0;white&#xa0;» vaut %2&#x202f;; black doit être inférieur à white</translation>
     </message>
     <message>
         <source>Sets what becomes black, what becomes white, and the tone between them</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Maps colours by the table of a .cube file; a grey picture becomes a colour picture</source>
-        <translation>Transforme les couleurs selon la table d’un fichier .cube ; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Transforme les couleurs selon la table d’un fichier .cube&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Leaves few steps of each colour</source>
@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>Turns a picture clockwise; the result is as large as it needs</source>
-        <translation>Fait pivoter l’image dans le sens horaire ; le résultat est aussi grand que nécessaire</translation>
+        <translation>Fait pivoter l’image dans le sens horaire&#x202f;; le résultat est aussi grand que nécessaire</translation>
     </message>
     <message>
         <source>Makes all colours stronger or weaker</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>Tones a picture brown; a grey picture becomes a colour picture</source>
-        <translation>Donne à l’image une teinte brune ; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Donne à l’image une teinte brune&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Sharpens edges by an unsharp mask</source>
@@ -268,19 +268,19 @@
     </message>
     <message>
         <source>&quot;file&quot;: %1 does not exist</source>
-        <translation>« file » : %1 n’existe pas</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’existe pas</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a file</source>
-        <translation>« file » : %1 n’est pas un fichier</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas un fichier</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 cannot be read: %2</source>
-        <translation>« file » : impossible de lire %1 : %2</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a picture of a known format</source>
-        <translation>« file » : %1 n’est pas une image d’un format connu</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas une image d’un format connu</translation>
     </message>
     <message>
         <source>Lays another picture, such as a logo, over a picture</source>
@@ -288,11 +288,11 @@
     </message>
     <message>
         <source>what is written; it may have several lines</source>
-        <translation>ce qui est écrit ; plusieurs lignes sont possibles</translation>
+        <translation>ce qui est écrit&#x202f;; plusieurs lignes sont possibles</translation>
     </message>
     <message>
         <source>family and style, without a size; a family that is missing is replaced</source>
-        <translation>famille et style, sans taille ; une famille absente est remplacée</translation>
+        <translation>famille et style, sans taille&#x202f;; une famille absente est remplacée</translation>
     </message>
     <message>
         <source>Writes a text over a picture</source>
@@ -300,7 +300,7 @@
     </message>
     <message>
         <source>Makes a picture warmer or cooler, greener or more magenta; greys keep their luminance</source>
-        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta ; les gris gardent leur luminance</translation>
+        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta&#x202f;; les gris gardent leur luminance</translation>
     </message>
     <message>
         <source>very small files for the web in up to 12 bits, slow to write</source>
@@ -308,19 +308,19 @@
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; %2 takes %3</source>
-        <translation>« bitDepth » vaut %1 ; %2 accepte %3</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; %2 accepte %3</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; it must be 8, 10, 12 or 16</source>
-        <translation>« bitDepth » vaut %1 ; valeurs possibles : 8, 10, 12 ou 16</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; valeurs possibles&#xa0;: 8, 10, 12 ou 16</translation>
     </message>
     <message>
         <source>the format &quot;%1&quot; is unknown</source>
-        <translation>le format « %1 » est inconnu</translation>
+        <translation>le format «&#xa0;%1&#xa0;» est inconnu</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; &quot;compression&quot; jpeg takes 8</source>
-        <translation>« bitDepth » vaut %1 ; « compression » jpeg accepte 8</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; «&#xa0;compression&#xa0;» jpeg accepte 8</translation>
     </message>
     <message>
         <source>at most 256 colours, each pixel opaque or transparent</source>
@@ -344,11 +344,11 @@
     </message>
     <message>
         <source>every pixel as it is, with transparency; for graphics and for editing</source>
-        <translation>chaque pixel tel quel, avec transparence ; pour les graphiques et la retouche</translation>
+        <translation>chaque pixel tel quel, avec transparence&#x202f;; pour les graphiques et la retouche</translation>
     </message>
     <message>
         <source>higher is slower and smaller</source>
-        <translation>plus élevé : plus lent et plus petit</translation>
+        <translation>plus élevé&#xa0;: plus lent et plus petit</translation>
     </message>
     <message>
         <source>what the sensor of a camera saw, in the formats of many makers</source>
@@ -356,7 +356,7 @@
     </message>
     <message>
         <source>every pixel as it is, also CMYK and very large; for printing and for archives</source>
-        <translation>chaque pixel tel quel, aussi en CMJN et très grand ; pour l’impression et les archives</translation>
+        <translation>chaque pixel tel quel, aussi en CMJN et très grand&#x202f;; pour l’impression et les archives</translation>
     </message>
     <message>
         <source>how the pixels are compressed</source>
@@ -408,23 +408,23 @@
     </message>
     <message>
         <source>&quot;%1&quot; exists already</source>
-        <translation>« %1 » existe déjà</translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a source of this job</source>
-        <translation>« %1 » est une source de ce travail</translation>
+        <translation>«&#xa0;%1&#xa0;» est une source de ce travail</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the result of &quot;%2&quot;</source>
-        <translation>« %1 » est le résultat de « %2 »</translation>
+        <translation>«&#xa0;%1&#xa0;» est le résultat de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>written as &quot;%1&quot; (naming policy)</source>
-        <translation>écrit sous le nom « %1 » (règle des noms)</translation>
+        <translation>écrit sous le nom «&#xa0;%1&#xa0;» (règle des noms)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was overwritten (naming policy)</source>
-        <translation>« %1 » a été remplacé (règle des noms)</translation>
+        <translation>«&#xa0;%1&#xa0;» a été remplacé (règle des noms)</translation>
     </message>
     <message>
         <source>written as %1 (write-to-format policy)</source>
@@ -440,23 +440,23 @@
     </message>
     <message>
         <source>The options of the format %1: %2</source>
-        <translation>Les options du format %1 : %2</translation>
+        <translation>Les options du format %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;, does not exist</source>
-        <translation>L’effet %1, « %2 », n’existe pas</translation>
+        <translation>L’effet %1, «&#xa0;%2&#xa0;», n’existe pas</translation>
     </message>
     <message>
         <source>; there are %1</source>
-        <translation> ; il y a %1</translation>
+        <translation>&#x202f;; il y a %1</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation> ; vouliez-vous dire « %1 » ?</translation>
+        <translation>&#x202f;; vouliez-vous dire «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;: %3</source>
-        <translation>Effet %1, « %2 » : %3</translation>
+        <translation>Effet %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
         <source>The job has no files</source>
@@ -636,7 +636,7 @@
     </message>
     <message>
         <source>%1 is %2; it must be %3</source>
-        <translation>%1 vaut %2 ; valeur attendue : %3</translation>
+        <translation>%1 vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
     </message>
     <message>
         <source>renamed</source>
@@ -656,19 +656,19 @@
     </message>
     <message>
         <source>&quot;%1&quot; is unknown</source>
-        <translation>« %1 » est inconnu</translation>
+        <translation>«&#xa0;%1&#xa0;» est inconnu</translation>
     </message>
     <message>
         <source>; none is taken here</source>
-        <translation> ; aucun n’est accepté ici</translation>
+        <translation>&#x202f;; aucun n’est accepté ici</translation>
     </message>
     <message>
         <source>; known are %1</source>
-        <translation> ; sont connus : %1</translation>
+        <translation>&#x202f;; sont connus&#xa0;: %1</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
-        <translation>JSON invalide à l’octet %1 : %2</translation>
+        <translation>JSON invalide à l’octet %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>a JSON object is needed, such as {&quot;name&quot;: value}</source>
@@ -676,15 +676,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is missing; it must be %2</source>
-        <translation>« %1 » manque ; valeur attendue : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» manque&#x202f;; valeur attendue&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2; it must be %3</source>
-        <translation>« %1 » vaut %2 ; valeur attendue : %3</translation>
+        <translation>«&#xa0;%1&#xa0;» vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
     </message>
     <message>
         <source>; did you mean %1?</source>
-        <translation> ; vouliez-vous dire %1 ?</translation>
+        <translation>&#x202f;; vouliez-vous dire %1&#x202f;?</translation>
     </message>
     <message>
         <source>a number %1</source>
@@ -764,15 +764,15 @@
     </message>
     <message>
         <source>the folder %1 cannot be made: %2</source>
-        <translation>impossible de créer le dossier %1 : %2</translation>
+        <translation>impossible de créer le dossier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is a link; results are not written through it unless links are followed</source>
-        <translation>%1 est un lien ; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
+        <translation>%1 est un lien&#x202f;; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
     </message>
     <message>
         <source>the worker&apos;s report is invalid: %1</source>
-        <translation>le rapport du processus de traitement est invalide : %1</translation>
+        <translation>le rapport du processus de traitement est invalide&#xa0;: %1</translation>
     </message>
     <message>
         <source>it takes more memory than the limit of %1 MiB</source>
@@ -796,7 +796,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be started: %2</source>
-        <translation>impossible de lancer « %1 » : %2</translation>
+        <translation>impossible de lancer «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>ended by exception 0x%1</source>
@@ -808,7 +808,7 @@
     </message>
     <message>
         <source>%1; its last output: %2</source>
-        <translation>%1 ; sa dernière sortie : %2</translation>
+        <translation>%1&#x202f;; sa dernière sortie&#xa0;: %2</translation>
     </message>
     <message>
         <source>ended with exit code %1</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>The job cannot be read: its reader failed</source>
-        <translation>Impossible de lire le travail : son lecteur a échoué</translation>
+        <translation>Impossible de lire le travail&#xa0;: son lecteur a échoué</translation>
     </message>
     <message>
         <source>the server crashed %1 times while it worked on the file</source>
@@ -836,7 +836,7 @@
     </message>
     <message>
         <source>the journal %1 cannot be used: %2</source>
-        <translation>le journal %1 ne peut pas être utilisé : %2</translation>
+        <translation>le journal %1 ne peut pas être utilisé&#xa0;: %2</translation>
     </message>
     <message>
         <source>another server holds %1</source>
@@ -844,7 +844,7 @@
     </message>
     <message>
         <source>%1 cannot be written; the disk may be full</source>
-        <translation>impossible d’écrire %1 ; le disque est peut-être plein</translation>
+        <translation>impossible d’écrire %1&#x202f;; le disque est peut-être plein</translation>
     </message>
     <message>
         <source>the embedded colour profile is damaged and is not used</source>
@@ -860,23 +860,23 @@
     </message>
     <message>
         <source>its colour profile is one for storing colours only; the result is sRGB</source>
-        <translation>son profil de couleurs ne sert qu’à stocker des couleurs ; le résultat est en sRGB</translation>
+        <translation>son profil de couleurs ne sert qu’à stocker des couleurs&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the job&apos;s colour profile does not describe pictures; the colours are not converted</source>
-        <translation>le profil de couleurs du travail ne décrit pas d’images ; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs du travail ne décrit pas d’images&#x202f;; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colour profile cannot be used; the colours are not converted</source>
-        <translation>le profil de couleurs ne peut pas être utilisé ; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs ne peut pas être utilisé&#x202f;; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colours cannot be converted to sRGB; their values are taken for sRGB as they are</source>
-        <translation>les couleurs ne peuvent pas être converties en sRGB ; leurs valeurs sont prises telles quelles comme sRGB</translation>
+        <translation>les couleurs ne peuvent pas être converties en sRGB&#x202f;; leurs valeurs sont prises telles quelles comme sRGB</translation>
     </message>
     <message>
         <source>the file is HDR; the result has the brightness of common screens</source>
-        <translation>le fichier est en HDR ; le résultat a la luminosité des écrans courants</translation>
+        <translation>le fichier est en HDR&#x202f;; le résultat a la luminosité des écrans courants</translation>
     </message>
     <message>
         <source>its values are complex numbers, which are no colours</source>
@@ -884,7 +884,7 @@
     </message>
     <message>
         <source>its kind of colours is not supported: %1</source>
-        <translation>son type de couleurs n’est pas pris en charge : %1</translation>
+        <translation>son type de couleurs n’est pas pris en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>its kind of colours is not supported</source>
@@ -928,7 +928,7 @@
     </message>
     <message>
         <source>it has %1 channels; only the first %2 are used</source>
-        <translation>il a %1 canaux ; seuls les %2 premiers sont utilisés</translation>
+        <translation>il a %1 canaux&#x202f;; seuls les %2 premiers sont utilisés</translation>
     </message>
     <message>
         <source>the header of the picture data is damaged</source>
@@ -936,7 +936,7 @@
     </message>
     <message>
         <source>it uses %1, which is not supported</source>
-        <translation>non pris en charge : %1</translation>
+        <translation>non pris en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>the file ends after %1 % of the picture</source>
@@ -992,7 +992,7 @@
     </message>
     <message>
         <source>it has %1 pages; only the first is used</source>
-        <translation>il a %1 pages ; seule la première est utilisée</translation>
+        <translation>il a %1 pages&#x202f;; seule la première est utilisée</translation>
     </message>
     <message>
         <source>the file lacks its last bytes, but all of the picture is there</source>
@@ -1000,7 +1000,7 @@
     </message>
     <message>
         <source>decoding takes %1 MiB of memory%2; a worker may use %3 MiB</source>
-        <translation>le décodage demande %1 Mio de mémoire%2 ; un processus de traitement peut en utiliser %3 Mio</translation>
+        <translation>le décodage demande %1 Mio de mémoire%2&#x202f;; un processus de traitement peut en utiliser %3 Mio</translation>
     </message>
     <message>
         <source>, because the picture is not divided into tiles</source>
@@ -1012,7 +1012,7 @@
     </message>
     <message>
         <source>it is a JPEG file of %1 bits a channel; only 8 are supported</source>
-        <translation>c’est un fichier JPEG de %1 bits par canal ; seuls 8 sont pris en charge</translation>
+        <translation>c’est un fichier JPEG de %1 bits par canal&#x202f;; seuls 8 sont pris en charge</translation>
     </message>
     <message>
         <source>the file ends before all details of the picture</source>
@@ -1024,7 +1024,7 @@
     </message>
     <message>
         <source>the file lacks its last bytes; the picture is whole</source>
-        <translation>il manque les derniers octets du fichier ; l’image est entière</translation>
+        <translation>il manque les derniers octets du fichier&#x202f;; l’image est entière</translation>
     </message>
     <message>
         <source>the picture has more pixels than any limit</source>
@@ -1032,7 +1032,7 @@
     </message>
     <message>
         <source>the file is damaged: its picture cannot be decoded</source>
-        <translation>le fichier est endommagé : l’image ne peut pas être décodée</translation>
+        <translation>le fichier est endommagé&#xa0;: l’image ne peut pas être décodée</translation>
     </message>
     <message>
         <source>the file ends before its picture is complete</source>
@@ -1040,7 +1040,7 @@
     </message>
     <message>
         <source>the file is damaged: it has no picture</source>
-        <translation>le fichier est endommagé : il ne contient pas d’image</translation>
+        <translation>le fichier est endommagé&#xa0;: il ne contient pas d’image</translation>
     </message>
     <message>
         <source>decoding %1 x %2 pixels takes more than a worker may use</source>
@@ -1072,7 +1072,7 @@
     </message>
     <message>
         <source>the file lacks picture data: it is cut off, or has been emptied</source>
-        <translation>il manque des données d’image dans le fichier : il est tronqué ou a été vidé</translation>
+        <translation>il manque des données d’image dans le fichier&#xa0;: il est tronqué ou a été vidé</translation>
     </message>
     <message>
         <source>its header gives no size of the picture</source>
@@ -1104,7 +1104,7 @@
     </message>
     <message>
         <source>it holds undeveloped data of a camera; such files are read under the name .dng</source>
-        <translation>il contient des données brutes d’appareil photo ; ces fichiers se lisent avec l’extension .dng</translation>
+        <translation>il contient des données brutes d’appareil photo&#x202f;; ces fichiers se lisent avec l’extension .dng</translation>
     </message>
     <message>
         <source>its kind of colours (number %1) is not supported</source>
@@ -1112,11 +1112,11 @@
     </message>
     <message>
         <source>it has %1 channels beside its colours and its transparency, which are left out</source>
-        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence ; ils sont omis</translation>
+        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence&#x202f;; ils sont omis</translation>
     </message>
     <message>
         <source>it has inks of its own; only cyan, magenta, yellow and black can be read</source>
-        <translation>il utilise ses propres encres ; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
+        <translation>il utilise ses propres encres&#x202f;; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
     </message>
     <message>
         <source>it has fewer channels than its kind of colours needs</source>
@@ -1136,7 +1136,7 @@
     </message>
     <message>
         <source>its way of storing colours is not supported: %1</source>
-        <translation>sa façon de stocker les couleurs n’est pas prise en charge : %1</translation>
+        <translation>sa façon de stocker les couleurs n’est pas prise en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>its strips or tiles have no size that makes sense</source>
@@ -1152,7 +1152,7 @@
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image %1 : %2</translation>
+        <translation>impossible de lire l’image %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the text would be too large at a size of %1 pixels</source>
@@ -1172,7 +1172,7 @@
     </message>
     <message>
         <source>the background picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image de fond %1 : %2</translation>
+        <translation>impossible de lire l’image de fond %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the frame of %1 x %2 pixels is above the limit of %3 pixels</source>
@@ -1184,11 +1184,11 @@
     </message>
     <message>
         <source>metadata is left out: %1</source>
-        <translation>les métadonnées sont omises : %1</translation>
+        <translation>les métadonnées sont omises&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 files cannot hold metadata; it is left out</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées ; elles sont omises</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées&#x202f;; elles sont omises</translation>
     </message>
     <message>
         <source>%1 metadata of %2 bytes does not fit into a %3 file and is left out</source>
@@ -1204,15 +1204,15 @@
     </message>
     <message>
         <source>the result is too large for all of its metadata to be added; some is left out</source>
-        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées ; certaines sont omises</translation>
+        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées&#x202f;; certaines sont omises</translation>
     </message>
     <message>
         <source>metadata cannot be written: %1</source>
-        <translation>impossible d’écrire les métadonnées : %1</translation>
+        <translation>impossible d’écrire les métadonnées&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 cannot be written and are left out</source>
-        <translation>impossible à écrire, donc omis : %1</translation>
+        <translation>impossible à écrire, donc omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>the notes of the camera&apos;s maker</source>
@@ -1232,11 +1232,11 @@
     </message>
     <message>
         <source>metadata cannot be read and is left out: %1</source>
-        <translation>les métadonnées sont illisibles et donc omises : %1</translation>
+        <translation>les métadonnées sont illisibles et donc omises&#xa0;: %1</translation>
     </message>
     <message>
         <source>effect &quot;%1&quot;: %2</source>
-        <translation>effet « %1 » : %2</translation>
+        <translation>effet «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>it cannot be applied to the picture</source>
@@ -1260,19 +1260,19 @@
     </message>
     <message>
         <source>%1 x %2 pixels: %3 holds at most %4 on a side</source>
-        <translation>%1 x %2 pixels : %3 accepte au plus %4 par côté</translation>
+        <translation>%1 x %2 pixels&#xa0;: %3 accepte au plus %4 par côté</translation>
     </message>
     <message>
         <source>the colour profile does not fit into the %1 file; the result is sRGB</source>
-        <translation>le profil de couleurs ne tient pas dans le fichier %1 ; le résultat est en sRGB</translation>
+        <translation>le profil de couleurs ne tient pas dans le fichier %1&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>it has %1 pages; only the main one is used</source>
-        <translation>il a %1 pages ; seule la principale est utilisée</translation>
+        <translation>il a %1 pages&#x202f;; seule la principale est utilisée</translation>
     </message>
     <message>
         <source>it has a gain map, which the result lacks: highlights are no longer brighter on HDR screens</source>
-        <translation>il a une carte de gain que le résultat n’a pas : les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
+        <translation>il a une carte de gain que le résultat n’a pas&#xa0;: les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
     </message>
     <message>
         <source>the result of %1 x %2 pixels would be above the limit of %3 megapixels</source>
@@ -1280,7 +1280,7 @@
     </message>
     <message>
         <source>%1 files cannot hold a colour profile; the result is sRGB</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs ; le résultat est en sRGB</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the result is sRGB instead of CMYK</source>
@@ -1300,11 +1300,11 @@
     </message>
     <message>
         <source>the file is damaged; no part of the picture can be read</source>
-        <translation>le fichier est endommagé ; aucune partie de l’image n’est lisible</translation>
+        <translation>le fichier est endommagé&#x202f;; aucune partie de l’image n’est lisible</translation>
     </message>
     <message>
         <source>the file is damaged; its header cannot be read</source>
-        <translation>le fichier est endommagé ; son en-tête est illisible</translation>
+        <translation>le fichier est endommagé&#x202f;; son en-tête est illisible</translation>
     </message>
     <message>
         <source>it needs more memory than a worker may use</source>
@@ -1324,7 +1324,7 @@
     </message>
     <message>
         <source>no worker can be started to look at the pictures: %1</source>
-        <translation>impossible de lancer un processus de traitement pour examiner les images : %1</translation>
+        <translation>impossible de lancer un processus de traitement pour examiner les images&#xa0;: %1</translation>
     </message>
     <message>
         <source>the folder cannot be opened</source>
@@ -1348,11 +1348,11 @@
     </message>
     <message>
         <source>%1 has a name that is not valid UTF-8; rename it to use it.</source>
-        <translation>%1 a un nom qui n’est pas en UTF-8 valide ; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom qui n’est pas en UTF-8 valide&#x202f;; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 has a name with a character that a job cannot hold; rename it to use it.</source>
-        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir ; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir&#x202f;; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 is a dangling link.</source>
@@ -1360,7 +1360,7 @@
     </message>
     <message>
         <source>%1 leads back to %2; it is not followed.</source>
-        <translation>%1 ramène à %2 ; il n’est pas suivi.</translation>
+        <translation>%1 ramène à %2&#x202f;; il n’est pas suivi.</translation>
     </message>
     <message>
         <source>%1 is the folder %2, which is in the job already.</source>
@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>%1 is ignored: %2</source>
-        <translation>%1 est ignoré : %2</translation>
+        <translation>%1 est ignoré&#xa0;: %2</translation>
     </message>
     <message>
         <source>its results go to %1</source>
@@ -1380,7 +1380,7 @@
     </message>
     <message>
         <source>the run that was interrupted in %1 is of another job: its inputs, options or files differ</source>
-        <translation>l’exécution interrompue dans %1 est celle d’un autre travail : ses entrées, options ou fichiers diffèrent</translation>
+        <translation>l’exécution interrompue dans %1 est celle d’un autre travail&#xa0;: ses entrées, options ou fichiers diffèrent</translation>
     </message>
     <message>
         <source>%1 runs were interrupted in %2, none of them of this job</source>
@@ -1388,11 +1388,11 @@
     </message>
     <message>
         <source>%1 is damaged; remove it to start the run anew</source>
-        <translation>%1 est endommagé ; supprimez-le pour recommencer l’exécution</translation>
+        <translation>%1 est endommagé&#x202f;; supprimez-le pour recommencer l’exécution</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation>ligne %1, colonne %2 : %3</translation>
+        <translation>ligne %1, colonne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>its XML is nested too deeply, or declares what a job must not declare</source>
@@ -1404,7 +1404,7 @@
     </message>
     <message>
         <source>the job %1 cannot be read: %2</source>
-        <translation>impossible de lire le travail %1 : %2</translation>
+        <translation>impossible de lire le travail %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the job %1 is larger than %2 MiB</source>
@@ -1412,11 +1412,11 @@
     </message>
     <message>
         <source>%1 is not a batch job: it is not UTF-8 text</source>
-        <translation>%1 n’est pas un travail par lots : ce n’est pas du texte UTF-8</translation>
+        <translation>%1 n’est pas un travail par lots&#xa0;: ce n’est pas du texte UTF-8</translation>
     </message>
     <message>
         <source>%1 is not a batch job: %2</source>
-        <translation>%1 n’est pas un travail par lots : %2</translation>
+        <translation>%1 n’est pas un travail par lots&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 exists</source>
@@ -1424,7 +1424,7 @@
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation>impossible d’écrire %1 : %2</translation>
+        <translation>impossible d’écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>no output folder</source>
@@ -1452,11 +1452,11 @@
     </message>
     <message>
         <source>the run in %1 cannot be resumed: %2</source>
-        <translation>impossible de reprendre l’exécution dans %1 : %2</translation>
+        <translation>impossible de reprendre l’exécution dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; must end with .csv or .json</source>
-        <translation>le nom « %1 » doit se terminer par .csv ou .json</translation>
+        <translation>le nom «&#xa0;%1&#xa0;» doit se terminer par .csv ou .json</translation>
     </message>
     <message>
         <source>it begins like a %1 file, but its extension is not known</source>
@@ -1464,11 +1464,11 @@
     </message>
     <message>
         <source>the report %1 cannot be written: %2</source>
-        <translation>impossible d’écrire le rapport %1 : %2</translation>
+        <translation>impossible d’écrire le rapport %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>written with a warning: %1</source>
-        <translation>écrit avec un avertissement : %1</translation>
+        <translation>écrit avec un avertissement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -1525,6 +1525,266 @@
     <message>
         <source>Too many levels of symbolic links</source>
         <translation>Trop de niveaux de liens symboliques</translation>
+    </message>
+    <message>
+        <source>percent</source>
+        <translation>pour cent</translation>
+    </message>
+    <message>
+        <source>how many of the darkest and of the brightest pixels may clip</source>
+        <translation>combien de pixels les plus sombres et les plus clairs peuvent être écrêtés</translation>
+    </message>
+    <message>
+        <source>together keeps colours as they are; each for itself removes a cast</source>
+        <translation>together conserve les couleurs&#x202f;; each retire une dominante</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>standard deviation of the blur in the result; 0 does nothing</source>
+        <translation>écart-type du flou dans le résultat&#x202f;; 0 ne fait rien</translation>
+    </message>
+    <message>
+        <source>width on the left</source>
+        <translation>largeur à gauche</translation>
+    </message>
+    <message>
+        <source>height at the top</source>
+        <translation>hauteur en haut</translation>
+    </message>
+    <message>
+        <source>width on the right</source>
+        <translation>largeur à droite</translation>
+    </message>
+    <message>
+        <source>height at the bottom</source>
+        <translation>hauteur en bas</translation>
+    </message>
+    <message>
+        <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
+        <translation>des quatre&#x202f;; percent se rapporte au petit côté de l’image, au plus 100</translation>
+    </message>
+    <message>
+        <source>of the border; with transparency the result has an alpha channel</source>
+        <translation>de la bordure&#x202f;; avec transparence, le résultat a un canal alpha</translation>
+    </message>
+    <message>
+        <source>shift of every value; 100 turns black into white</source>
+        <translation>décalage de chaque valeur&#x202f;; 100 change le noir en blanc</translation>
+    </message>
+    <message>
+        <source>-100 is flat grey, 50 doubles all differences</source>
+        <translation>-100 donne un gris uniforme, 50 double toutes les différences</translation>
+    </message>
+    <message>
+        <source>below 0 softens</source>
+        <translation>au-dessous de 0, adoucit</translation>
+    </message>
+    <message>
+        <source>size of the structures in the result</source>
+        <translation>taille des structures dans le résultat</translation>
+    </message>
+    <message>
+        <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
+        <translation>quelles valeurs sont transformées&#x202f;; une image en niveaux de gris n’a pas de couleurs séparées et reste telle quelle</translation>
+    </message>
+    <message>
+        <source>differences of this size begin to count as edges</source>
+        <translation>à partir de cette taille, les différences comptent comme des contours</translation>
+    </message>
+    <message>
+        <source>how far neighbours are taken in, in the result</source>
+        <translation>jusqu’où les pixels voisins comptent, dans le résultat</translation>
+    </message>
+    <message>
+        <source>stops</source>
+        <translation>IL</translation>
+    </message>
+    <message>
+        <source>how much; 1 doubles the light</source>
+        <translation>de combien&#x202f;; 1 double la lumière</translation>
+    </message>
+    <message>
+        <source>horizontal swaps left and right</source>
+        <translation>horizontal échange gauche et droite</translation>
+    </message>
+    <message>
+        <source>luminance weighs the light, luma the stored values, average is their plain mean</source>
+        <translation>luminance pondère la lumière, luma les valeurs stockées, average est leur simple moyenne</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>degrés</translation>
+    </message>
+    <message>
+        <source>120 turns red towards green</source>
+        <translation>120 fait passer le rouge au vert</translation>
+    </message>
+    <message>
+        <source>this value and those below become black</source>
+        <translation>cette valeur et celles au-dessous deviennent noires</translation>
+    </message>
+    <message>
+        <source>this value and those above become white</source>
+        <translation>cette valeur et celles au-dessus deviennent blanches</translation>
+    </message>
+    <message>
+        <source>above 1 brightens the tones between them</source>
+        <translation>au-dessus de 1, éclaircit les tons intermédiaires</translation>
+    </message>
+    <message>
+        <source>the .cube file, with a table of one or three dimensions</source>
+        <translation>le fichier .cube, avec une table à une ou trois dimensions</translation>
+    </message>
+    <message>
+        <source>0 leaves the picture as it is</source>
+        <translation>0 laisse l’image telle quelle</translation>
+    </message>
+    <message>
+        <source>between the entries of a table of three dimensions</source>
+        <translation>entre les entrées d’une table à trois dimensions</translation>
+    </message>
+    <message>
+        <source>levels</source>
+        <translation>niveaux</translation>
+    </message>
+    <message>
+        <source>steps from black to white</source>
+        <translation>niveaux du noir au blanc</translation>
+    </message>
+    <message>
+        <source>multiples of 90 keep every pixel as it is</source>
+        <translation>les multiples de 90 conservent chaque pixel tel quel</translation>
+    </message>
+    <message>
+        <source>fills the corners; with transparency the result has an alpha channel</source>
+        <translation>remplit les coins&#x202f;; avec transparence, le résultat a un canal alpha</translation>
+    </message>
+    <message>
+        <source>-100 leaves grey, 100 doubles the strength</source>
+        <translation>-100 ne laisse que du gris, 100 double l’intensité</translation>
+    </message>
+    <message>
+        <source>standard deviation of the mask in the result</source>
+        <translation>écart-type du masque dans le résultat</translation>
+    </message>
+    <message>
+        <source>how much of the difference to the mask is added</source>
+        <translation>quelle part de la différence avec le masque est ajoutée</translation>
+    </message>
+    <message>
+        <source>differences below stay as they are</source>
+        <translation>les différences inférieures restent telles quelles</translation>
+    </message>
+    <message>
+        <source>how much the weakest colours change</source>
+        <translation>de combien changent les couleurs les plus faibles</translation>
+    </message>
+    <message>
+        <source>of the corners; -100 is black, 100 is white</source>
+        <translation>des coins&#x202f;; -100 est noir, 100 est blanc</translation>
+    </message>
+    <message>
+        <source>where it begins on the way from the centre to a corner</source>
+        <translation>où cela commence sur le trajet du centre à un coin</translation>
+    </message>
+    <message>
+        <source>length of the transition on the same way</source>
+        <translation>longueur de la transition sur le même trajet</translation>
+    </message>
+    <message>
+        <source>the picture that is laid over, best with transparency</source>
+        <translation>l’image superposée, de préférence avec transparence</translation>
+    </message>
+    <message>
+        <source>width of the mark; in percent of the picture&apos;s width</source>
+        <translation>largeur de la marque&#x202f;; en pour cent de la largeur de l’image</translation>
+    </message>
+    <message>
+        <source>space to the sides of the picture, and between tiles</source>
+        <translation>espace jusqu’aux bords de l’image et entre les répétitions</translation>
+    </message>
+    <message>
+        <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
+        <translation>de size et margin&#x202f;; margin en pour cent se rapporte au petit côté de l’image&#x202f;; percent est au plus 100</translation>
+    </message>
+    <message>
+        <source>0 is invisible</source>
+        <translation>0 est invisible</translation>
+    </message>
+    <message>
+        <source>where the mark stands</source>
+        <translation>où se place la marque</translation>
+    </message>
+    <message>
+        <source>repeats the mark over the whole picture</source>
+        <translation>répète la marque sur toute l’image</translation>
+    </message>
+    <message>
+        <source>of the letters</source>
+        <translation>des lettres</translation>
+    </message>
+    <message>
+        <source>height of a line of text; in percent of the picture&apos;s short side</source>
+        <translation>hauteur d’une ligne de texte&#x202f;; en pour cent du petit côté de l’image</translation>
+    </message>
+    <message>
+        <source>above 0 warmer, below 0 cooler</source>
+        <translation>au-dessus de 0 plus chaud, au-dessous plus froid</translation>
+    </message>
+    <message>
+        <source>above 0 more magenta, below 0 greener</source>
+        <translation>au-dessus de 0 plus magenta, au-dessous plus vert</translation>
+    </message>
+    <message>
+        <source>keep every pixel, but for a last step of rounding</source>
+        <translation>conserver chaque pixel, à un dernier arrondi près</translation>
+    </message>
+    <message>
+        <source>higher is slower and better</source>
+        <translation>plus élevé&#xa0;: plus lent et meilleur</translation>
+    </message>
+    <message>
+        <source>keep every pixel as it is</source>
+        <translation>conserver chaque pixel tel quel</translation>
+    </message>
+    <message>
+        <source>higher is better and larger</source>
+        <translation>plus élevé&#xa0;: meilleur et plus gros</translation>
+    </message>
+    <message>
+        <source>shows a coarse picture first while it loads</source>
+        <translation>affiche d’abord une image grossière pendant le chargement</translation>
+    </message>
+    <message>
+        <source>resolution of colour; auto is 4:4:4 from quality 90</source>
+        <translation>résolution de la couleur&#x202f;; auto vaut 4:4:4 à partir de la qualité 90</translation>
+    </message>
+    <message>
+        <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
+        <translation>bits par canal&#x202f;; par défaut ceux de l’entrée, si le format les accepte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>bits</translation>
+    </message>
+    <message>
+        <source>which metadata is kept</source>
+        <translation>quelles métadonnées sont conservées</translation>
+    </message>
+    <message>
+        <source>colour under transparency that the format cannot hold</source>
+        <translation>couleur sous la transparence que le format ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>gives the result the input&apos;s modification time</source>
+        <translation>donne au résultat la date de modification de l’entrée</translation>
+    </message>
+    <message>
+        <source>keep every pixel that can be seen</source>
+        <translation>conserver chaque pixel visible</translation>
     </message>
 </context>
 </TS>

@@ -1526,5 +1526,265 @@
         <source>Too many levels of symbolic links</source>
         <translation>シンボリックリンクの階層が多すぎます</translation>
     </message>
+    <message>
+        <source>percent</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>how many of the darkest and of the brightest pixels may clip</source>
+        <translation>最も暗い画素と明るい画素のうち、切り捨ててよい割合</translation>
+    </message>
+    <message>
+        <source>together keeps colours as they are; each for itself removes a cast</source>
+        <translation>together は色を保ち、each は色かぶりを取り除きます</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>standard deviation of the blur in the result; 0 does nothing</source>
+        <translation>結果でのぼかしの標準偏差。0 では何もしません</translation>
+    </message>
+    <message>
+        <source>width on the left</source>
+        <translation>左の幅</translation>
+    </message>
+    <message>
+        <source>height at the top</source>
+        <translation>上の高さ</translation>
+    </message>
+    <message>
+        <source>width on the right</source>
+        <translation>右の幅</translation>
+    </message>
+    <message>
+        <source>height at the bottom</source>
+        <translation>下の高さ</translation>
+    </message>
+    <message>
+        <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
+        <translation>4 つの値の単位。percent は画像の短辺が基準で、最大 100</translation>
+    </message>
+    <message>
+        <source>of the border; with transparency the result has an alpha channel</source>
+        <translation>縁の色。透明度があると結果にアルファチャンネルが付きます</translation>
+    </message>
+    <message>
+        <source>shift of every value; 100 turns black into white</source>
+        <translation>全値のずらし量。100 で黒が白になります</translation>
+    </message>
+    <message>
+        <source>-100 is flat grey, 50 doubles all differences</source>
+        <translation>-100 で一様なグレー、50 ですべての差が 2 倍</translation>
+    </message>
+    <message>
+        <source>below 0 softens</source>
+        <translation>0 より小さいと柔らかくなります</translation>
+    </message>
+    <message>
+        <source>size of the structures in the result</source>
+        <translation>結果での構造の大きさ</translation>
+    </message>
+    <message>
+        <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
+        <translation>変換する値。グレースケール画像には個別の色がないため変わりません</translation>
+    </message>
+    <message>
+        <source>differences of this size begin to count as edges</source>
+        <translation>この大きさの差から輪郭とみなします</translation>
+    </message>
+    <message>
+        <source>how far neighbours are taken in, in the result</source>
+        <translation>周辺画素を取り込む範囲（結果の画素）</translation>
+    </message>
+    <message>
+        <source>stops</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>how much; 1 doubles the light</source>
+        <translation>量。1 で光が 2 倍</translation>
+    </message>
+    <message>
+        <source>horizontal swaps left and right</source>
+        <translation>horizontal で左右を入れ替えます</translation>
+    </message>
+    <message>
+        <source>luminance weighs the light, luma the stored values, average is their plain mean</source>
+        <translation>luminance は光、luma は保存値に重みを付け、average は単純平均です</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>度</translation>
+    </message>
+    <message>
+        <source>120 turns red towards green</source>
+        <translation>120 で赤が緑になります</translation>
+    </message>
+    <message>
+        <source>this value and those below become black</source>
+        <translation>この値以下は黒になります</translation>
+    </message>
+    <message>
+        <source>this value and those above become white</source>
+        <translation>この値以上は白になります</translation>
+    </message>
+    <message>
+        <source>above 1 brightens the tones between them</source>
+        <translation>1 より大きいと中間調が明るくなります</translation>
+    </message>
+    <message>
+        <source>the .cube file, with a table of one or three dimensions</source>
+        <translation>1 次元または 3 次元の表を持つ .cube ファイル</translation>
+    </message>
+    <message>
+        <source>0 leaves the picture as it is</source>
+        <translation>0 では画像は変わりません</translation>
+    </message>
+    <message>
+        <source>between the entries of a table of three dimensions</source>
+        <translation>3 次元の表の値の間の補間</translation>
+    </message>
+    <message>
+        <source>levels</source>
+        <translation>段階</translation>
+    </message>
+    <message>
+        <source>steps from black to white</source>
+        <translation>黒から白までの段階数</translation>
+    </message>
+    <message>
+        <source>multiples of 90 keep every pixel as it is</source>
+        <translation>90 の倍数では画素はそのまま保たれます</translation>
+    </message>
+    <message>
+        <source>fills the corners; with transparency the result has an alpha channel</source>
+        <translation>四隅を埋めます。透明度があると結果にアルファチャンネルが付きます</translation>
+    </message>
+    <message>
+        <source>-100 leaves grey, 100 doubles the strength</source>
+        <translation>-100 でグレー、100 で強さが 2 倍</translation>
+    </message>
+    <message>
+        <source>standard deviation of the mask in the result</source>
+        <translation>結果でのマスクの標準偏差</translation>
+    </message>
+    <message>
+        <source>how much of the difference to the mask is added</source>
+        <translation>マスクとの差を加える量</translation>
+    </message>
+    <message>
+        <source>differences below stay as they are</source>
+        <translation>これより小さい差は変わりません</translation>
+    </message>
+    <message>
+        <source>how much the weakest colours change</source>
+        <translation>最も弱い色の変化量</translation>
+    </message>
+    <message>
+        <source>of the corners; -100 is black, 100 is white</source>
+        <translation>四隅の量。-100 で黒、100 で白</translation>
+    </message>
+    <message>
+        <source>where it begins on the way from the centre to a corner</source>
+        <translation>中心から隅までのどこから始まるか</translation>
+    </message>
+    <message>
+        <source>length of the transition on the same way</source>
+        <translation>同じ経路上での移行部の長さ</translation>
+    </message>
+    <message>
+        <source>the picture that is laid over, best with transparency</source>
+        <translation>重ねる画像。透明度付きが最適です</translation>
+    </message>
+    <message>
+        <source>width of the mark; in percent of the picture&apos;s width</source>
+        <translation>重ねる画像の幅。画像の幅に対するパーセント</translation>
+    </message>
+    <message>
+        <source>space to the sides of the picture, and between tiles</source>
+        <translation>画像の端との間隔、および繰り返しの間隔</translation>
+    </message>
+    <message>
+        <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
+        <translation>size と margin の単位。パーセントの margin は画像の短辺が基準で、最大 100</translation>
+    </message>
+    <message>
+        <source>0 is invisible</source>
+        <translation>0 で見えなくなります</translation>
+    </message>
+    <message>
+        <source>where the mark stands</source>
+        <translation>配置する位置</translation>
+    </message>
+    <message>
+        <source>repeats the mark over the whole picture</source>
+        <translation>画像全体に繰り返します</translation>
+    </message>
+    <message>
+        <source>of the letters</source>
+        <translation>文字の色</translation>
+    </message>
+    <message>
+        <source>height of a line of text; in percent of the picture&apos;s short side</source>
+        <translation>1 行の高さ。画像の短辺に対するパーセント</translation>
+    </message>
+    <message>
+        <source>above 0 warmer, below 0 cooler</source>
+        <translation>0 より大きいと暖かく、小さいと冷たく</translation>
+    </message>
+    <message>
+        <source>above 0 more magenta, below 0 greener</source>
+        <translation>0 より大きいとマゼンタ寄り、小さいと緑寄り</translation>
+    </message>
+    <message>
+        <source>keep every pixel, but for a last step of rounding</source>
+        <translation>最後の丸めを除き、すべての画素を保ちます</translation>
+    </message>
+    <message>
+        <source>higher is slower and better</source>
+        <translation>大きいほど遅く、高画質</translation>
+    </message>
+    <message>
+        <source>keep every pixel as it is</source>
+        <translation>すべての画素をそのまま保ちます</translation>
+    </message>
+    <message>
+        <source>higher is better and larger</source>
+        <translation>大きいほど高画質で大きなファイル</translation>
+    </message>
+    <message>
+        <source>shows a coarse picture first while it loads</source>
+        <translation>読み込み中にまず粗い画像を表示します</translation>
+    </message>
+    <message>
+        <source>resolution of colour; auto is 4:4:4 from quality 90</source>
+        <translation>色の解像度。auto は品質 90 以上で 4:4:4</translation>
+    </message>
+    <message>
+        <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
+        <translation>チャンネルあたりのビット数。既定は入力と同じ（形式が対応する範囲）: %1</translation>
+    </message>
+    <message>
+        <source>bits</source>
+        <translation>ビット</translation>
+    </message>
+    <message>
+        <source>which metadata is kept</source>
+        <translation>残すメタデータ</translation>
+    </message>
+    <message>
+        <source>colour under transparency that the format cannot hold</source>
+        <translation>形式が透明度を保存できないときの背景色</translation>
+    </message>
+    <message>
+        <source>gives the result the input&apos;s modification time</source>
+        <translation>結果の更新日時を入力と同じにします</translation>
+    </message>
+    <message>
+        <source>keep every pixel that can be seen</source>
+        <translation>見える画素をすべて保ちます</translation>
+    </message>
 </context>
 </TS>

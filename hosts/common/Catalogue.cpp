@@ -102,9 +102,10 @@ int Catalogue::Pattern::Length() const
     return length;
 }
 
-bool Catalogue::Pattern::IsQuoted(int argument) const
+bool Catalogue::Pattern::IsBetween(int argument, char before, char after) const
 {
-    return literals.at(argument).endsWith(QLatin1Char('"')) && literals.at(argument + 1).startsWith(QLatin1Char('"'));
+    return literals.at(argument).endsWith(QLatin1Char(before)) &&
+           literals.at(argument + 1).startsWith(QLatin1Char(after));
 }
 
 QString Catalogue::Exact(const QString& english) const
@@ -128,7 +129,8 @@ QString Catalogue::Filled(const QString& english) const
     }
     // "HEAD: TEXT", where TEXT is known.
     for (int end = english.indexOf(HeadEnd()); end >= 0; end = english.indexOf(HeadEnd(), end + 1)) {
-        if (FindWhole(english.mid(end + HeadEnd().size()), found)) {
+        const QString text = english.mid(end + HeadEnd().size());
+        if (text.contains(QLatin1Char(' ')) && FindWhole(text, found)) {
             return Argument(english.left(end)) + HeadEnd() + found;
         }
     }
@@ -185,7 +187,10 @@ QString Catalogue::FilledIn(const Pattern& pattern, const QStringList& arguments
     QHash<int, QString> values;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
-        values.insert(pattern.numbers.at(i), pattern.IsQuoted(i) ? argument : Argument(argument));
+        // Units are words in parentheses.
+        values.insert(pattern.numbers.at(i), pattern.IsBetween(i, '"', '"')   ? argument
+                                             : pattern.IsBetween(i, '(', ')') ? Filled(argument)
+                                                                              : Argument(argument));
     }
     QString text;
     Split(
@@ -194,10 +199,10 @@ QString Catalogue::FilledIn(const Pattern& pattern, const QStringList& arguments
     return text;
 }
 
-/// A path is never a text, whatever its file is called.
+/// A path is never a text, whatever its file is called, and a single word may be one of an option.
 QString Catalogue::Argument(const QString& text) const
 {
-    return QDir::isAbsolutePath(text) ? text : Filled(text);
+    return QDir::isAbsolutePath(text) || !text.contains(QLatin1Char(' ')) ? text : Filled(text);
 }
 
 /// The parts of a list that are known, in this language. A text may be made for its place behind another: "; TEXT".

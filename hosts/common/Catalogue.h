@@ -34,7 +34,7 @@ private:
         QString translation;
 
         int Length() const;
-        bool IsQuoted(int argument) const;
+        bool IsBetween(int argument, char before, char after) const;
     };
 
     void AddMessage(const QString& context, const QString& source, const QString& translation);

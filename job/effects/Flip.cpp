@@ -22,7 +22,7 @@ EffectSchema FlipEffect()
     effect.description = Phrase::English("Mirrors a picture");
     effect.parameters = {
         ChoiceParameter("direction", {QStringLiteral("horizontal"), QStringLiteral("vertical"), QStringLiteral("both")},
-                        "horizontal swaps left and right")};
+                        Phrase::Marked("horizontal swaps left and right"))};
     effect.definition = QStringLiteral("Every pixel keeps its value.");
     effect.example = QByteArrayLiteral(R"({"direction": "horizontal"})");
     effect.randomAccess = SwapsLines;

@@ -10,7 +10,8 @@ EffectSchema VibranceEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("vibrance");
     effect.description = Phrase::English("Makes weak colours stronger or weaker, and spares those that are strong");
-    effect.parameters = {NumberParameter("amount", 0, -100, 100, "percent", "how much the weakest colours change")};
+    effect.parameters = {NumberParameter("amount", 0, -100, 100, Phrase::Marked("percent"),
+                                         Phrase::Marked("how much the weakest colours change"))};
     effect.definition =
         QStringLiteral("As saturation, with the amount multiplied by 1 - (max - min) of the three channels.");
     effect.example = QByteArrayLiteral(R"({"amount": 80})");

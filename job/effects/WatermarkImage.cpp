@@ -44,8 +44,9 @@ EffectSchema WatermarkImageEffect()
     effect.id = QStringLiteral("watermark-image");
     effect.description = Phrase::English("Lays another picture, such as a logo, over a picture");
     effect.parameters =
-        QVector<ParameterSchema>{FileParameter("file", "the picture that is laid over, best with transparency")} +
-        PlacementParameters(20, "width of the mark; in percent of the picture's width", 100);
+        QVector<ParameterSchema>{
+            FileParameter("file", Phrase::Marked("the picture that is laid over, best with transparency"))} +
+        PlacementParameters(20, Phrase::Marked("width of the mark; in percent of the picture's width"), 100);
     effect.definition =
         QStringLiteral("Scaled to its width, with its own proportions, then laid over by the operator \"over\" of "
                        "Porter and Duff. Its colours are converted to the profile of the picture.");

@@ -24,7 +24,7 @@ QVector<ParameterSchema> TextParameters()
     font.description = Phrase::English("family and style, without a size; a family that is missing is replaced");
     font.maximum = 200;
 
-    return {text, font, ColourParameter("colour", "#ffffff", "of the letters")};
+    return {text, font, ColourParameter("colour", "#ffffff", Phrase::Marked("of the letters"))};
 }
 
 } // namespace
@@ -34,8 +34,9 @@ EffectSchema WatermarkTextEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("watermark-text");
     effect.description = Phrase::English("Writes a text over a picture");
-    effect.parameters = TextParameters() +
-                        PlacementParameters(5, "height of a line of text; in percent of the picture's short side", 60);
+    effect.parameters =
+        TextParameters() +
+        PlacementParameters(5, Phrase::Marked("height of a line of text; in percent of the picture's short side"), 60);
     effect.definition =
         QStringLiteral("Laid over by the operator \"over\" of Porter and Duff. A grey picture becomes a colour "
                        "picture for a colour that is not grey.");

@@ -21,9 +21,9 @@ FormatSchema HeifFormat()
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;
-    format.options =
-        WithCommonOptions({Quality(80), Lossless("keep every pixel, but for a last step of rounding"),
-                           Effort(0, "higher is slower and better"), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions(
+        {Quality(80), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
+         Effort(0, Phrase::Marked("higher is slower and better")), ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

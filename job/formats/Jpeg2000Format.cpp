@@ -22,8 +22,8 @@ FormatSchema Jpeg2000Format()
     format.metadata.reading = MetadataReading::FromIdentifiedBoxes;
     format.metadata.writing = MetadataWriting::AfterEncoding;
     format.metadata.isProfileInDecoder = false;
-    format.options = WithCommonOptions(
-        {Quality(85), Lossless("keep every pixel as it is"), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions({Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")),
+                                        ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 
