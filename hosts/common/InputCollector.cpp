@@ -6,6 +6,7 @@
 #include "UserPath.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 
@@ -109,12 +110,12 @@ void InputCollector::Add(const QStringList& paths)
         const QFileInfo info(path);
         if (!info.exists()) {
             qDeleteAll(loose);
-            throw RequestError{info.isSymLink() ? QStringLiteral("%1 is a dangling link").arg(path)
-                                                : QStringLiteral("%1 does not exist").arg(path)};
+            throw RequestError{info.isSymLink() ? Phrase::English("%1 is a dangling link").arg(path)
+                                                : Phrase::English("%1 does not exist").arg(path)};
         }
         if (!info.isDir() && !info.isFile()) {
             qDeleteAll(loose);
-            throw RequestError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
+            throw RequestError{Phrase::English("%1 is neither a file nor a folder").arg(path)};
         }
         if (IsSavedJob(path)) {
             qDeleteAll(loose);
@@ -122,7 +123,7 @@ void InputCollector::Add(const QStringList& paths)
                                RequestError::Kind::SavedJobAmongInputs};
         }
         if (taken.contains(path)) {
-            repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
+            repetitions.append(Phrase::English("%1 is in the job already.").arg(path));
         } else if (info.isDir()) {
             AddFolder(path);
         } else {
@@ -179,13 +180,13 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     const QString path = folder.data.fileName;
     const FolderContent content = ReadFolder(path);
     if (!content.error.isEmpty()) {
-        problems.append(QStringLiteral("%1 cannot be read: %2").arg(path, content.error));
+        problems.append(Phrase::English("%1 cannot be read: %2").arg(path, content.error));
     }
     if (content.identity && !IsFirst(folder, *content.identity)) {
         return;
     }
     if (DepthOf(&folder) > deepestFolder) {
-        problems.append(QStringLiteral("%1 is nested too deeply for a job.").arg(path));
+        problems.append(Phrase::English("%1 is nested too deeply for a job.").arg(path));
         return;
     }
     ++folderCount;
@@ -219,12 +220,12 @@ void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPat
         return;
     }
     if (!entry.hasName) {
-        problems.append(QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
+        problems.append(Phrase::English("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
     } else if (!CanBeSaved(entry.name)) {
         problems.append(
-            QStringLiteral("%1 has a name with a character that a job cannot hold; rename it to use it.").arg(path));
+            Phrase::English("%1 has a name with a character that a job cannot hold; rename it to use it.").arg(path));
     } else if (entry.isDangling) {
-        problems.append(QStringLiteral("%1 is a dangling link.").arg(path));
+        problems.append(Phrase::English("%1 is a dangling link.").arg(path));
     } else if (isFolder) {
         const bool isOutput = outputFolder && entry.identity == outputFolder;
         if (!isOutput && !taken.contains(path)) {
@@ -248,9 +249,9 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
         return true;
     }
     if (path.startsWith(*known + QLatin1Char('/'))) {
-        problems.append(QStringLiteral("%1 leads back to %2; it is not followed.").arg(path, *known));
+        problems.append(Phrase::English("%1 leads back to %2; it is not followed.").arg(path, *known));
     } else {
-        repetitions.append(QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
+        repetitions.append(Phrase::English("%1 is the folder %2, which is in the job already.").arg(path, *known));
     }
     return false;
 }

@@ -6,6 +6,7 @@
 #include "job/journal/OwnFile.h"
 #include "job/settings/JobFiles.h"
 #include "job/values/FileIdentity.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -82,7 +83,7 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
 {
     JournalFile::RemoveUnbegun(folder);
     const auto ignore = [this](const QString& path, const QString& reason) {
-        ignored.append(QStringLiteral("%1 is ignored: %2").arg(path, reason));
+        ignored.append(Phrase::English("%1 is ignored: %2").arg(path, reason));
     };
     for (const QString& path : JournalFile::In(folder)) {
         QFile file;
@@ -103,7 +104,7 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
         if (IdentityOf(target) == IdentityOf(folder)) {
             runs.push_back(run);
         } else {
-            ignore(path, QStringLiteral("its results go to %1").arg(target));
+            ignore(path, Phrase::English("its results go to %1").arg(target));
         }
     }
     std::sort(runs.begin(), runs.end(), [](const Run& a, const Run& b) {
@@ -119,7 +120,7 @@ int InterruptedRuns::Count() const
 const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, const Wanted& wanted) const
 {
     if (runs.empty()) {
-        throw RequestError{QStringLiteral("there is no interrupted run in %1").arg(folder),
+        throw RequestError{Phrase::English("there is no interrupted run in %1").arg(folder),
                            RequestError::Kind::NothingToResume};
     }
     if (!wanted.name.isEmpty()) {
@@ -128,13 +129,13 @@ const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, 
     const Run* chosen = RunOf(job);
     if (wanted.isThisJob && !chosen) {
         throw RequestError{
-            QStringLiteral("the run that was interrupted in %1 is of another job: its inputs, options or "
-                           "files differ")
+            Phrase::English("the run that was interrupted in %1 is of another job: its inputs, options or "
+                            "files differ")
                 .arg(folder),
             RequestError::Kind::OtherRunInterrupted};
     }
     if (!chosen && Count() > 1) {
-        throw RequestError{QStringLiteral("%1 runs were interrupted in %2").arg(Count()).arg(folder),
+        throw RequestError{Phrase::English("%1 runs were interrupted in %2").arg(Count()).arg(folder),
                            RequestError::Kind::SeveralRunsInterrupted, Descriptions()};
     }
     if (!chosen) {
@@ -142,7 +143,7 @@ const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, 
         chosen = interrupted == runs.end() ? &runs.front() : &*interrupted; // Taking a running one tells what it is.
     }
     if (!chosen->state) {
-        throw RequestError{QStringLiteral("%1 is damaged; remove it to start the run anew").arg(chosen->journal)};
+        throw RequestError{Phrase::English("%1 is damaged; remove it to start the run anew").arg(chosen->journal)};
     }
     return *chosen;
 }
@@ -151,11 +152,11 @@ const InterruptedRuns::Run& InterruptedRuns::ChooseByName(const QString& name) c
 {
     const auto found = std::find_if(runs.begin(), runs.end(), [&name](const Run& run) { return run.Name() == name; });
     if (found == runs.end()) {
-        throw RequestError{QStringLiteral("no run in %1 is called \"%2\"").arg(folder, name),
+        throw RequestError{Phrase::English("no run in %1 is called \"%2\"").arg(folder, name),
                            RequestError::Kind::NoSuchRun, Descriptions()};
     }
     if (!found->state) {
-        throw RequestError{QStringLiteral("%1 is damaged; remove it to start the run anew").arg(found->journal)};
+        throw RequestError{Phrase::English("%1 is damaged; remove it to start the run anew").arg(found->journal)};
     }
     return *found;
 }

@@ -1,5 +1,7 @@
 #include "JobFile.h"
 
+#include "job/values/Phrase.h"
+
 #include "RequestError.h"
 
 #include "job/settings/UnknownParts.h"
@@ -26,13 +28,13 @@ QString Reason(const QString& text)
         hasType = hasType || (reader.isDTD() && reader.dtdName() == QLatin1String("batch"));
     }
     if (reader.hasError()) {
-        return QStringLiteral("line %1, column %2: %3")
+        return BatchJob::Phrase::English("line %1, column %2: %3")
             .arg(reader.lineNumber())
             .arg(reader.columnNumber())
             .arg(reader.errorString());
     }
-    return hasType ? QStringLiteral("its XML is nested too deeply, or declares what a job must not declare")
-                   : QStringLiteral("it does not begin with <!DOCTYPE batch>");
+    return hasType ? BatchJob::Phrase::English("its XML is nested too deeply, or declares what a job must not declare")
+                   : BatchJob::Phrase::English("it does not begin with <!DOCTYPE batch>");
 }
 
 /// The name that the job carries. Reading a document does not set it.
@@ -96,21 +98,21 @@ QStringList LoadJob(ZTBatchDocument& job, const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw RequestError{QStringLiteral("the job %1 cannot be read: %2").arg(path, file.errorString())};
+        throw RequestError{BatchJob::Phrase::English("the job %1 cannot be read: %2").arg(path, file.errorString())};
     }
     constexpr qint64 largestJob = 512 << 20;
     if (file.size() > largestJob) {
         throw RequestError{
-            QStringLiteral("the job %1 is larger than %2 MiB").arg(path, QString::number(largestJob >> 20))};
+            BatchJob::Phrase::English("the job %1 is larger than %2 MiB").arg(path, QString::number(largestJob >> 20))};
     }
     QTextCodec::ConverterState state;
     const QByteArray bytes = file.readAll();
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0) {
-        throw RequestError{QStringLiteral("%1 is not a batch job: it is not UTF-8 text").arg(path)};
+        throw RequestError{BatchJob::Phrase::English("%1 is not a batch job: it is not UTF-8 text").arg(path)};
     }
     if (!job.Deserialize(text)) {
-        throw RequestError{QStringLiteral("%1 is not a batch job: %2").arg(path, Reason(text))};
+        throw RequestError{BatchJob::Phrase::English("%1 is not a batch job: %2").arg(path, Reason(text))};
     }
     job.SetDocumentName(NameOf(text));
     job.SetFileName(path);
@@ -121,12 +123,12 @@ void SaveJob(const ZTBatchDocument& job, const QString& path, bool replaceExisti
 {
     const QString text = job.Serialize(nullptr);
     if (!replaceExisting && QFileInfo::exists(path)) {
-        throw RequestError{QStringLiteral("%1 exists").arg(path), RequestError::Kind::FileExists};
+        throw RequestError{BatchJob::Phrase::English("%1 exists").arg(path), RequestError::Kind::FileExists};
     }
     QSaveFile file(path);
     const QByteArray bytes = text.toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        throw RequestError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{BatchJob::Phrase::English("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 

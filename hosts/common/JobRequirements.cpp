@@ -3,6 +3,7 @@
 #include "RequestError.h"
 
 #include "job/settings/JobCheck.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -26,7 +27,7 @@ void RequireAccepted(const BatchJob::CheckedSettings& checked)
 void RequireUsableSettings(const ZTBatchDocument& job)
 {
     if (job.GetOutputSettings()->GetPath().isEmpty()) {
-        throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
+        throw RequestError{BatchJob::Phrase::English("no output folder"), RequestError::Kind::NoOutputFolder};
     }
     RequireAccepted(BatchJob::CheckSettings(job));
 }
@@ -44,7 +45,7 @@ void RequireUsableSettingsButFolder(ZTBatchDocument& job)
 void RequireRunnableJob(const ZTBatchDocument& job)
 {
     if (job.GetInputModel()->GetFileNodesCount() == 0) {
-        throw RequestError{QStringLiteral("no pictures"), RequestError::Kind::NoPictures};
+        throw RequestError{BatchJob::Phrase::English("no pictures"), RequestError::Kind::NoPictures};
     }
     RequireUsableSettings(job);
 }

@@ -5,6 +5,7 @@
 #include "job/journal/RunJournal.h"
 
 #include "job/journal/OwnFile.h"
+#include "job/values/Phrase.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -96,7 +97,8 @@ JournalFile::JournalFile(const QString& path)
         isHeld = lock.tryLock(timeout);
     }
     if (!isHeld) {
-        problem = IsInUse() ? QStringLiteral("it is still running") : QStringLiteral("the folder cannot be written");
+        problem = IsInUse() ? BatchJob::Phrase::English("it is still running")
+                            : BatchJob::Phrase::English("the folder cannot be written");
     }
 }
 
@@ -130,7 +132,7 @@ std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
         }
         std::unique_ptr<JournalFile> other(new JournalFile(journalPath));
         if (other->IsInUse()) {
-            throw RequestError{QStringLiteral("the same job is already running into %1").arg(own.path()),
+            throw RequestError{BatchJob::Phrase::English("the same job is already running into %1").arg(own.path()),
                                RequestError::Kind::AlreadyRunning};
         }
         if (other->problem.isEmpty() && other->Exists()) {
@@ -145,7 +147,7 @@ std::unique_ptr<JournalFile> JournalFile::Take(const QString& path)
     std::unique_ptr<JournalFile> journal(new JournalFile(path));
     if (!journal->problem.isEmpty()) {
         throw RequestError{
-            QStringLiteral("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem),
+            BatchJob::Phrase::English("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem),
             journal->IsInUse() ? RequestError::Kind::AlreadyRunning : RequestError::Kind::Other};
     }
     return journal;

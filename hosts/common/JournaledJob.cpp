@@ -4,6 +4,7 @@
 #include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -33,7 +34,7 @@ JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRu
     journaled.isInPlace = run.state->isInPlace;
     if (!journaled.file->Exists()) { // The run was still going on when it was chosen, and is finished now.
         throw RequestError{
-            QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath()),
+            Phrase::English("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath()),
             RequestError::Kind::NothingToResume};
     }
     job.Deserialize(journaled.document);

@@ -1,5 +1,7 @@
 #include "RunReport.h"
 
+#include "job/values/Phrase.h"
+
 #include "RequestError.h"
 #include "ResultFields.h"
 
@@ -61,10 +63,10 @@ RunReport::RunReport(const QString& path)
     , isJson(path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
 {
     if (!isJson && !path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
-        throw RequestError{QStringLiteral("the name \"%1\" must end with .csv or .json").arg(path)};
+        throw RequestError{Phrase::English("the name \"%1\" must end with .csv or .json").arg(path)};
     }
     if (!file.open(QIODevice::WriteOnly)) {
-        throw RequestError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{Phrase::English("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 
@@ -83,7 +85,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
         Entry entry;
         entry.result.input = leftOut.path;
         entry.result.reason =
-            QStringLiteral("it begins like a %1 file, but its extension is not known").arg(leftOut.format);
+            Phrase::English("it begins like a %1 file, but its extension is not known").arg(leftOut.format);
         entry.word = QStringLiteral("left out");
         entries.append(entry);
     }
@@ -102,7 +104,7 @@ void RunReport::OnEnd(const RunEnd&)
 {
     const QByteArray bytes = isJson ? Json() : Csv();
     if (file.write(bytes) != bytes.size() || !file.commit()) {
-        error = QStringLiteral("the report %1 cannot be written: %2").arg(file.fileName(), file.errorString());
+        error = Phrase::English("the report %1 cannot be written: %2").arg(file.fileName(), file.errorString());
     }
 }
 

@@ -2,6 +2,8 @@
 #include "EffectRecords.h"
 #include "EffectSizes.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -17,10 +19,12 @@ EffectSchema RotateEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("rotate");
-    effect.description = QStringLiteral("Turns a picture clockwise; the result is as large as it needs");
-    effect.parameters = {NumberParameter("angle", 0, -360, 360, "degrees", "multiples of 90 keep every pixel as it is"),
-                         ColourParameter("background", "#ffffff",
-                                         "fills the corners; with transparency the result has an alpha channel")};
+    effect.description = Phrase::English("Turns a picture clockwise; the result is as large as it needs");
+    effect.parameters = {
+        NumberParameter("angle", 0, -360, 360, Phrase::Marked("degrees"),
+                        Phrase::Marked("multiples of 90 keep every pixel as it is")),
+        ColourParameter("background", "#ffffff",
+                        Phrase::Marked("fills the corners; with transparency the result has an alpha channel"))};
     effect.definition =
         QStringLiteral("Bicubic interpolation around the middle, weighted by opacity; borders are smooth by the "
                        "share of each pixel that they cover. The canvas is the smallest that holds the picture. A "

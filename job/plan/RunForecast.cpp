@@ -1,5 +1,7 @@
 #include "RunForecast.h"
 
+#include "job/values/Phrase.h"
+
 #include "FolderCheck.h"
 
 #include <QFileInfo>
@@ -46,7 +48,7 @@ Trouble RunForecast::TroubleOfFiles(int file)
         return {PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError, folderProblem, {}};
     }
     if (!QFileInfo::exists(plan.Names().Input(file))) {
-        return {PolicyKind::Input, ZTBatchMessage::ReadFileError, QStringLiteral("it does not exist"), {}};
+        return {PolicyKind::Input, ZTBatchMessage::ReadFileError, Phrase::English("it does not exist"), {}};
     }
     return unreadable.value(file);
 }

@@ -1,6 +1,7 @@
 #include "RunPlan.h"
 
 #include "job/formats/NearestFormat.h"
+#include "job/values/Phrase.h"
 
 #include <QSet>
 
@@ -86,8 +87,8 @@ Trouble RunPlan::TroubleOf(int file) const
     if (!plan.Format(file)) {
         const QString format = plan.InputFormat(file);
         return {PolicyKind::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat,
-                format.isEmpty() ? QStringLiteral("its own format cannot be written")
-                                 : QStringLiteral("its own format, %1, cannot be written").arg(format),
+                format.isEmpty() ? Phrase::English("its own format cannot be written")
+                                 : Phrase::English("its own format, %1, cannot be written").arg(format),
                 NearestFormat(file)};
     }
     if (IsOverwriting(file)) {
@@ -100,17 +101,17 @@ Trouble RunPlan::TroubleOf(int file) const
     case OutputPlan::Clash::Disk:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" exists already").arg(output),
+                Phrase::English("\"%1\" exists already").arg(output),
                 {}};
     case OutputPlan::Clash::Source:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" is a source of this job").arg(output),
+                Phrase::English("\"%1\" is a source of this job").arg(output),
                 {}};
     case OutputPlan::Clash::Result:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" is the result of \"%2\"").arg(output, plan.Input(plan.ClashesWith(file))),
+                Phrase::English("\"%1\" is the result of \"%2\"").arg(output, plan.Input(plan.ClashesWith(file))),
                 {}};
     }
     return {};

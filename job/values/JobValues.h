@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Phrase.h"
+
 #include "ZTBatchManager.h"
 #include "ZTBatchOutputSettings.h"
 
@@ -205,9 +207,9 @@ inline constexpr std::array ActionWords{
     Word{int(Action::ReportedOnly), "reported", "reported only"},
     Word{int(Action::FileSkipped), "skipped", "the file was skipped"},
     Word{int(Action::RunStopped), "stopped", "the run was stopped"},
-    Word{int(Action::WrittenUnderAnotherName), "renamed", "written under another name"},
-    Word{int(Action::ExistingFileOverwritten), "overwritten", "an existing file was overwritten"},
-    Word{int(Action::WrittenInAnotherFormat), "converted", "written in another format"},
+    Word{int(Action::WrittenUnderAnotherName), Phrase::Marked("renamed"), "written under another name"},
+    Word{int(Action::ExistingFileOverwritten), Phrase::Marked("overwritten"), "an existing file was overwritten"},
+    Word{int(Action::WrittenInAnotherFormat), Phrase::Marked("converted"), "written in another format"},
 };
 
 /// The word of `value` in `words`; null for a value that the server does not know.

@@ -5,6 +5,7 @@
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
@@ -340,7 +341,7 @@ void Run::Examine(int file)
         HandleTrouble(
             file, {PolicyKind::Processing,
                    ZTBatchMessage::ApplyAdjustmentError,
-                   QStringLiteral("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
+                   Phrase::English("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
                    {}});
         return;
     }
@@ -377,7 +378,7 @@ void Run::OnReported(const Assignment& task, const Report& report)
     } else {
         HandleTrouble(task.file, {PolicyKind::Processing,
                                   ZTBatchMessage::ApplyAdjustmentError,
-                                  QStringLiteral("the worker reported a result that is not there"),
+                                  Phrase::English("the worker reported a result that is not there"),
                                   {},
                                   true});
     }
@@ -391,8 +392,8 @@ Trouble Run::TroubleOfReport(int file, const Report& report)
     if (trouble.kind == PolicyKind::Naming && ++takenNames[file] > mostTakenNames) {
         trouble.kind = PolicyKind::Output;
         trouble.code = ZTBatchMessage::WriteOutputFormatError;
-        trouble.reason =
-            QStringLiteral("each of %1 names for the result was taken when it was to be written").arg(takenNames[file]);
+        trouble.reason = Phrase::English("each of %1 names for the result was taken when it was to be written")
+                             .arg(takenNames[file]);
     }
     return trouble;
 }

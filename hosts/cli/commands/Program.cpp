@@ -5,6 +5,7 @@
 
 #include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 
 #include <algorithm>
@@ -133,7 +134,7 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode Report(const RequestError& error)
 {
-    const QString text = error.text + RemedyFor(error.kind);
+    const QString text = Translated(error.text) + RemedyFor(error.kind);
     WriteErrorLine(QStringLiteral("velkora-batch: ") +
                    (error.choices.isEmpty() ? WithFullStop(text) : text + QLatin1Char(':')));
     for (const QString& choice : error.choices) {

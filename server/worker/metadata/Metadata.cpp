@@ -1,5 +1,7 @@
 #include "Metadata.h"
 
+#include "job/values/Phrase.h"
+
 #include "CaptureTime.h"
 #include "Copyright.h"
 #include "MetadataEncoder.h"
@@ -184,8 +186,8 @@ void Metadata::RemoveXmp()
 void Metadata::RemoveUnwritable(BatchJob::Warnings& warnings)
 {
     if (!d->problem.isEmpty()) {
-        warnings.append(
-            {BatchJob::WarningKind::MetadataLost, QStringLiteral("metadata is left out: %1").arg(d->problem)});
+        warnings.append({BatchJob::WarningKind::MetadataLost,
+                         BatchJob::Phrase::English("metadata is left out: %1").arg(d->problem)});
     }
     BatchWorker::RemoveUnwritable(*d, warnings);
 }

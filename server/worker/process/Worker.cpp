@@ -1,5 +1,7 @@
 #include "Worker.h"
 
+#include "job/values/Phrase.h"
+
 #include "FileProbe.h"
 #include "ImagingLibrary.h"
 
@@ -68,7 +70,7 @@ Report Guarded(const Work& work)
     } catch (const std::bad_alloc&) {
         return ReportOf(NotEnoughMemory());
     } catch (const std::exception& problem) {
-        return ReportOf(ProcessingFailed(QStringLiteral("the picture cannot be processed"),
+        return ReportOf(ProcessingFailed(Phrase::English("the picture cannot be processed"),
                                          QString::fromLocal8Bit(problem.what())));
     }
 }
@@ -160,7 +162,7 @@ Report Worker::Read(const Job& job)
     ZTBatchDocument document;
     if (!document.Deserialize(job.document)) {
         return Failure(PolicyKind::Processing, ZTBatchMessage::ReadOutputSettingsError,
-                       QStringLiteral("the job cannot be read"));
+                       Phrase::English("the job cannot be read"));
     }
     const CheckedSettings checked = CheckSettings(document);
     if (!checked.IsAccepted()) {
