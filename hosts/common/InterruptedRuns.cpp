@@ -76,6 +76,20 @@ bool IsSame(const ZTBatchDocument& job, const ZTBatchDocument& interrupted, cons
     return expected == before.end() && SettingsTextOf(job) == SettingsTextOf(interrupted);
 }
 
+bool IsOf(const InterruptedRuns::Run& run, const ZTBatchDocument& job)
+{
+    ZTBatchDocument interrupted;
+    return run.state && interrupted.Deserialize(run.state->document) && IsSame(job, interrupted, *run.state);
+}
+
+RequestError OtherJob(const QString& folder)
+{
+    return {Phrase::English("the run that was interrupted in %1 is of another job: its inputs, options or "
+                            "files differ")
+                .arg(folder),
+            RequestError::Kind::OtherRunInterrupted};
+}
+
 } // namespace
 
 InterruptedRuns::InterruptedRuns(const QString& outputFolder)
@@ -124,15 +138,15 @@ const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, 
                            RequestError::Kind::NothingToResume};
     }
     if (!wanted.name.isEmpty()) {
-        return ChooseByName(wanted.name);
+        const Run& named = ChooseByName(wanted.name);
+        if (wanted.isThisJob && !IsOf(named, job)) {
+            throw OtherJob(folder);
+        }
+        return named;
     }
     const Run* chosen = RunOf(job);
     if (wanted.isThisJob && !chosen) {
-        throw RequestError{
-            Phrase::English("the run that was interrupted in %1 is of another job: its inputs, options or "
-                            "files differ")
-                .arg(folder),
-            RequestError::Kind::OtherRunInterrupted};
+        throw OtherJob(folder);
     }
     if (!chosen && Count() > 1) {
         throw RequestError{Phrase::English("%1 runs were interrupted in %2").arg(Count()).arg(folder),
@@ -199,13 +213,9 @@ const InterruptedRuns::Run* InterruptedRuns::RunOf(const ZTBatchDocument& job) c
 {
     const QString text = job.Serialize(nullptr);
     const auto isEqual = [&text](const Run& run) { return run.state && run.state->document == text; };
-    const auto isSame = [&job](const Run& run) {
-        ZTBatchDocument interrupted;
-        return run.state && interrupted.Deserialize(run.state->document) && IsSame(job, interrupted, *run.state);
-    };
     auto found = std::find_if(runs.begin(), runs.end(), isEqual);
     if (found == runs.end()) {
-        found = std::find_if(runs.begin(), runs.end(), isSame);
+        found = std::find_if(runs.begin(), runs.end(), [&job](const Run& run) { return IsOf(run, job); });
     }
     return found == runs.end() ? nullptr : &*found;
 }

@@ -254,7 +254,6 @@ void OutputPlan::PlaceKeptResult(int index)
 void OutputPlan::FindClash(int index)
 {
     Entry& entry = entries[index];
-    const QString key = NameKey(entry.name);
     const Place place = PlaceOf(index);
     const auto taker = takers.constFind(place);
     entry.clash = Clash::None;
@@ -265,7 +264,7 @@ void OutputPlan::FindClash(int index)
         return;
     }
     takers.insert(place, index);
-    if (!OnDisk(entry.folder).contains(key)) {
+    if (!OnDisk(entry.folder).contains(place.second)) {
         return;
     }
     const Source source = SourceAt(OnDiskPath(index));

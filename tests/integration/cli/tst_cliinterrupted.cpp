@@ -80,6 +80,9 @@ void tst_CliInterrupted::chosenRunsAreResumed()
     const QStringList names = ListedNames(stage->Run(QStringLiteral("run --resume -o out")));
     QCOMPARE(names.size(), 2);
     stage->PlaceWorker();
+    // The given job is not the one of that name.
+    const CliRun other = stage->Run(QStringLiteral("run a --format jpeg --resume -o out --run ") + names.last());
+    QVERIFY2(other.exitCode == 2 && other.err.contains(" is of another job: "), other.err.constData());
     const CliRun second = stage->Run(QStringLiteral("run --resume -o out --run ") + names.last());
     QVERIFY2(second.exitCode == 0, second.err.constData());
     QVERIFY(QFileInfo::exists(stage->Path(QStringLiteral("out/3.jpg"))));
