@@ -1,5 +1,7 @@
 #include "EffectSizes.h"
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 

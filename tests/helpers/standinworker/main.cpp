@@ -31,7 +31,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
 #include <vector>
 
 #ifdef Q_OS_WIN
@@ -223,7 +222,7 @@ Report Make(const PictureTask& task)
                                 QString::fromUtf8(content.mid(command.size() + argument.size() + 2))});
     }
     if (command == "claim") {
-        report.facts = {QSize(-5, 7), QSize(std::numeric_limits<int>::max(), 1), 0, 101, -1'000'000};
+        report.facts = {QSize(-5, 7), QSize(2'000'000'000, 1), 0, 101, -1'000'000};
     }
     return report;
 }
