@@ -1,0 +1,18 @@
+#include "hosts/common/Language.h"
+#include "hosts/desktop/window/MainWindow.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    BatchHost::UseLanguageOfUser();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("velkora-batch-desktop"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
+    BatchDesktop::MainWindow window;
+    window.show();
+    return QApplication::exec();
+}
