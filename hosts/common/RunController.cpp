@@ -115,6 +115,9 @@ void RunController::BeginSession()
     SetPoliciesOfManager(order.policies);
     session->Process(order.document);
     SetPoliciesOfManager(saved);
+    if (isPaused) {
+        session->Pause();
+    }
 }
 
 void RunController::ConnectSession()
@@ -128,10 +131,54 @@ void RunController::ConnectSession()
     connect(session, &Session::ProcessingQuestion, this, [this] { OnQuestion(PolicyKind::Processing); });
     connect(session, &Session::NamingQuestion, this, [this] { OnQuestion(PolicyKind::Naming); });
     connect(session, &Session::WriteToFormatQuestion, this, [this] { OnQuestion(PolicyKind::WriteToFormat); });
+    connect(session, &Session::Paused, this, &RunController::OnPaused);
+    connect(session, &Session::Resumed, this, &RunController::OnResumed);
     connect(session, &Session::Finished, this, &RunController::OnSessionOver);
     connect(session, &Session::Cancelled, this, &RunController::OnSessionCancelled);
     connect(session, QOverload<int>::of(&Session::Progress), &watch, &ServerWatch::Heard);
     connect(session, &Session::ProgressRange, &watch, &ServerWatch::Heard);
+}
+
+void RunController::Pause()
+{
+    if (phase != Phase::Running || isPaused) {
+        return;
+    }
+    isPaused = true;
+    if (session) {
+        session->Pause();
+    }
+}
+
+void RunController::Resume()
+{
+    if (phase != Phase::Running || !isPaused) {
+        return;
+    }
+    isPaused = false;
+    if (session) {
+        session->Resume();
+    }
+    if (!question) {
+        watch.Start();
+    }
+}
+
+void RunController::OnPaused()
+{
+    isAskedForLife = false;
+    if (isPaused && phase == Phase::Running) {
+        watch.Stop(); // The server has nothing to say, as long as the user likes.
+        Q_EMIT Paused();
+    }
+}
+
+void RunController::OnResumed()
+{
+    watch.Heard();
+    if (!isPaused && phase == Phase::Running) {
+        Q_EMIT Resumed();
+    }
 }
 
 void RunController::Cancel()
@@ -284,7 +331,9 @@ void RunController::Answer(int value, bool isForTheRest)
     }
     const PolicyKind kind = *question;
     question.reset();
-    watch.Start();
+    if (!isPaused) {
+        watch.Start();
+    }
     for (RunObserver* const observer : observers) {
         observer->OnAnswer(kind, PolicyWord(kind, value), isForTheRest);
     }
@@ -431,7 +480,7 @@ void RunController::OnServerQuiet()
 {
     if (session && !isAskedForLife) {
         isAskedForLife = true;
-        session->Resume();
+        isPaused ? session->Pause() : session->Resume();
     }
 }
 

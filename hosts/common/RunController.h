@@ -47,6 +47,11 @@ public:
 
     void Start();
 
+    /// Lets the server begin with no further file until Resume(). Files in work are still finished. A server that takes
+    /// the place of another one is paused too.
+    void Pause();
+    void Resume();
+
     /// Asks the server to end the run. Ended() follows, even if the server does not answer.
     void Cancel();
 
@@ -63,6 +68,10 @@ Q_SIGNALS:
     /// The server waits for Answer().
     void Question(BatchJob::PolicyKind kind, const QString& input, const QString& output, const QString& reason);
 
+    /// The server has paused the run, or goes on with it.
+    void Paused();
+    void Resumed();
+
     /// The run is over. Emitted once.
     void Ended(const RunEnd& end);
 
@@ -77,6 +86,8 @@ private:
     void OnProcessError(const QString& input, const QString& output, int action, int errorCode);
     void OnLog(const QString& text);
     void OnQuestion(BatchJob::PolicyKind kind);
+    void OnPaused();
+    void OnResumed();
     void OnSessionOver();
     void OnSessionCancelled();
     void OnServerQuiet();
@@ -99,6 +110,7 @@ private:
     QPointer<ZTBatchManager::ZTBatchSession> session;
     ServerWatch watch;
     bool isAskedForLife = false; ///< the server was asked whether it is still there, and has not answered yet
+    bool isPaused = false;        ///< the user wants it
     QTimer sessionOver;          ///< fires after the end of a session if its server still runs
     QElapsedTimer time;
     Phase phase = Phase::Idle;

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void serversThatDoNotCancel();
     void filesBegunAgain();
     void requestsAfterTheEnd();
+    void pausedRunsStayPaused();
+    void aPauseOutlivesItsServer();
 
 private:
     struct Notes : RunObserver
@@ -43,7 +45,7 @@ private:
         std::optional<RunEnd> end;
     };
 
-    void Begin(const QStringList& rules);
+    void Begin(const QStringList& rules, const QString& journal = QString());
     bool WaitForEnd();
     bool WaitForEvents(const QString& event, int count);
 
@@ -78,13 +80,14 @@ void tst_RunController::cleanup()
     server.reset();
 }
 
-void tst_RunController::Begin(const QStringList& rules)
+void tst_RunController::Begin(const QStringList& rules, const QString& journal)
 {
     server->SetRules(rules);
     RunController::Order order;
     order.document = QStringLiteral("a job");
     order.inputs.files = QStringList{QStringLiteral("a"), QStringLiteral("b")};
     order.inputs.bytes = {1, 1};
+    order.journalPath = journal;
     run = std::make_unique<RunController>(order, QVector<RunObserver*>{notes.get()});
     run->Start();
 }
@@ -192,6 +195,42 @@ void tst_RunController::requestsAfterTheEnd()
     QCoreApplication::processEvents();
     QVERIFY(!notes->end);
     QVERIFY(!end.isCancelled);
+}
+
+// The server has nothing to say meanwhile, and nobody asks it.
+void tst_RunController::pausedRunsStayPaused()
+{
+    Begin({QStringLiteral("start: open"), QStringLiteral("5: send 8 id s:a"), QStringLiteral("2: send 12 id"),
+           QStringLiteral("3: send 13 id; send 9 id s:a s:x; send 9 id s:b s:y; send 6 id")});
+    QVERIFY(WaitForEvents(QStringLiteral("message 5"), 1));
+    QSignalSpy paused(run.get(), &RunController::Paused);
+    QSignalSpy resumed(run.get(), &RunController::Resumed);
+    run->Pause();
+    run->Pause();
+    QVERIFY(paused.wait());
+    constexpr int longerThanALostServer = 4'000;
+    QVERIFY(!QTest::qWaitFor([this] { return notes->end || notes->losses > 0; }, longerThanALostServer));
+    QCOMPARE(server->Count(QStringLiteral("message 3")), 0);
+    run->Resume();
+    QVERIFY(WaitForEnd());
+    QCOMPARE(paused.size(), 1);
+    QCOMPARE(resumed.size(), 1);
+    QCOMPARE(server->Count(QStringLiteral("message 2")), 1);
+    QCOMPARE(notes->end->written, 2);
+}
+
+void tst_RunController::aPauseOutlivesItsServer()
+{
+    Begin({QStringLiteral("start: open"), QStringLiteral("2: send 12 id"), QStringLiteral("2@1: send 12 id; exit 0"),
+           QStringLiteral("3: send 13 id; send 6 id")},
+          settings->filePath(QStringLiteral("no journal")));
+    QVERIFY(WaitForEvents(QStringLiteral("message 5"), 1));
+    QSignalSpy paused(run.get(), &RunController::Paused);
+    run->Pause();
+    QTRY_COMPARE_WITH_TIMEOUT(paused.size(), 2, 60'000);
+    QCOMPARE(notes->losses, 1);
+    run->Cancel();
+    QVERIFY(WaitForEnd());
 }
 
 OWN_FOLDER_TEST_MAIN(tst_RunController)
