@@ -62,6 +62,26 @@ QString JournaledJob::BeginJournal(const PolicyValues& newPolicies, bool mayRepl
     return problem.isEmpty() ? file->Path() : QString();
 }
 
+int JournaledJob::RetryFailed()
+{
+    const std::optional<JournalState> state = ReadJournal(file->Path());
+    RunJournal journal;
+    if (!state || !journal.Open(file->Path())) {
+        return 0;
+    }
+    QVector<int> failed;
+    for (auto it = state->results.constBegin(); it != state->results.constEnd(); ++it) {
+        if (it->kind == ResultKind::Failed) {
+            failed.append(it.key());
+        }
+    }
+    if (!failed.isEmpty()) {
+        policies = state->policies;
+        journal.Retry(failed);
+    }
+    return failed.size();
+}
+
 void JournaledJob::End(const RunEnd& end)
 {
     const bool isRefused = end.Outcome() == RunOutcome::Refused;

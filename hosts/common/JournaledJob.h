@@ -55,6 +55,11 @@ public:
     /// Why the run has no journal, for users.
     QString Problem() const { return problem; }
 
+    /// The run has ended, but its failed pictures are to be tried again, with the names and numbers that they have in
+    /// this run: it can be prepared once more. Returns how many pictures that are; 0 when none has failed, or the
+    /// journal cannot be read and written.
+    int RetryFailed();
+
     /// The run has ended: removes the journal unless something is left to resume.
     void End(const RunEnd& end);
 

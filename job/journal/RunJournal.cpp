@@ -133,6 +133,12 @@ void ReadLine(const QJsonObject& line, JournalState& state)
     if (answer >= 0 && answer < int(state.policies.size())) {
         state.answers.insert(answer, line.value(Key("value")).toInt());
     }
+    for (const QJsonValue again : line.value(Key("retry")).toArray()) {
+        const auto result = state.results.constFind(again.toInt(-1));
+        if (result != state.results.constEnd() && result->kind != Kind::Written) {
+            state.results.erase(result);
+        }
+    }
     for (const QJsonValue lost : line.value(Key("lost")).toArray()) {
         const int index = lost.toInt(-1);
         if (index >= 0 && !state.results.contains(index)) {
@@ -254,11 +260,21 @@ void RunJournal::Answer(int policy, int value)
 
 void RunJournal::Lose(const QVector<int>& indexes)
 {
-    QJsonArray lost;
+    WriteList("lost", indexes);
+}
+
+void RunJournal::Retry(const QVector<int>& indexes)
+{
+    WriteList("retry", indexes);
+}
+
+void RunJournal::WriteList(const char* key, const QVector<int>& indexes)
+{
+    QJsonArray list;
     for (const int index : indexes) {
-        lost.append(index);
+        list.append(index);
     }
-    Write(QJsonDocument(QJsonObject{{Key("lost"), lost}}).toJson(QJsonDocument::Compact));
+    Write(QJsonDocument(QJsonObject{{Key(key), list}}).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Write(const QByteArray& line)

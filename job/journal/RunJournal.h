@@ -104,7 +104,11 @@ public:
     /// The server died while these files were in work.
     void Lose(const QVector<int>& indexes);
 
+    /// These files are to be tried again when the run is resumed. Results that were written stay.
+    void Retry(const QVector<int>& indexes);
+
 private:
+    void WriteList(const char* key, const QVector<int>& indexes);
     void Write(const QByteArray& line);
     bool WritePending();
     void Mark(bool isComplete);

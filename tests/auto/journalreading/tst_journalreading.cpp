@@ -13,6 +13,7 @@ class tst_JournalReading : public QObject
 private Q_SLOTS:
     void lossesAreThoseOfFilesWithoutResult_data();
     void lossesAreThoseOfFilesWithoutResult();
+    void retriedFilesHaveNoResult();
 };
 
 void tst_JournalReading::lossesAreThoseOfFilesWithoutResult_data()
@@ -48,6 +49,35 @@ void tst_JournalReading::lossesAreThoseOfFilesWithoutResult()
     const std::optional<JournalState> state = ReadJournal(path);
     QVERIFY(state);
     QCOMPARE(state->losses, losses);
+}
+
+void tst_JournalReading::retriedFilesHaveNoResult()
+{
+    using Kind = JournalState::Result::Kind;
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("journal"));
+    const QString output = QStringLiteral("/a");
+    {
+        RunJournal journal;
+        QVERIFY(journal.Create(path, QStringLiteral("<root/>"), {}));
+        journal.Settle(0, {Kind::Written, output, 0, {}});
+        journal.Settle(1, {Kind::Failed, output, 9, QStringLiteral("broken")});
+        journal.Settle(2, {Kind::Skipped, output, 9, QStringLiteral("taken")});
+        journal.Settle(3, {Kind::Failed, output, 9, QStringLiteral("broken")});
+        journal.Retry({0, 1, 2, 4, -1});
+    }
+    std::optional<JournalState> state = ReadJournal(path);
+    QVERIFY(state);
+    QCOMPARE(state->results.size(), 2);
+    QVERIFY(state->results.contains(0) && state->results.contains(3));
+    {
+        RunJournal journal;
+        QVERIFY(journal.Open(path));
+        journal.Settle(1, {Kind::Written, output, 0, {}});
+    }
+    state = ReadJournal(path);
+    QVERIFY(state);
+    QCOMPARE(state->results.value(1).kind, Kind::Written);
 }
 
 QTEST_GUILESS_MAIN(tst_JournalReading)
