@@ -55,6 +55,9 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
                                                const Circumstances& circumstances,
                                                const QVector<RunObserver*>& observers)
 {
+    if (ZTBatchManager::Instance()->IsStarted()) {
+        ZTBatchManager::KillExistingBatchProcess(true); // It has the journal and the limits of an earlier run.
+    }
     const bool isInPlace = journaled.IsInPlace() || BatchProtocol::ServerLimits::FromEnvironment().replacesOriginals;
     BatchProtocol::inPlaceLimit.Set(isInPlace ? 1 : 0);
     const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace);
