@@ -22,7 +22,4 @@ struct Progress
 /// work as fit. The time left is estimated from the bytes done, as large pictures take longer than small ones.
 QString ProgressText(const Progress& progress, int columns);
 
-/// "0:07", "1:02:03".
-QString DurationText(double seconds);
-
 } // namespace BatchCli

@@ -3,6 +3,7 @@
 #include "Console.h"
 #include "ProgressText.h"
 
+#include "hosts/common/DurationText.h"
 #include "hosts/common/Language.h"
 
 #include "job/values/VisibleText.h"
