@@ -62,6 +62,15 @@ CheckedParameters CheckOptionsOfOriginals(const QByteArray& options)
 
 } // namespace
 
+QVector<ParameterSchema> OptionsTakenBy(const QString& format)
+{
+    if (format == ZTBatchOutputSettings::GetOriginalFormat()) {
+        return OptionsOfAllFormats();
+    }
+    const FormatSchema* const schema = FindFormat(format);
+    return schema ? schema->options : QVector<ParameterSchema>();
+}
+
 CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& options)
 {
     if (format == ZTBatchOutputSettings::GetOriginalFormat()) {

@@ -10,6 +10,10 @@
 /// The options of formats, as jobs give them. Everything here is safe on any thread.
 namespace BatchJob {
 
+/// The options that a job with format `format` may give. For "Original" they are those of all formats, without
+/// defaults, because each format has its own. Nothing for an unknown format.
+QVector<ParameterSchema> OptionsTakenBy(const QString& format);
+
 /// Checks the options of a job with format `format`. The format may be "Original": then every option that some format
 /// takes is accepted, no default is filled in, and OptionsFor() picks those of each picture's format.
 CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& options);

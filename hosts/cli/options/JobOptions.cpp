@@ -8,13 +8,13 @@
 #include "ValueTexts.h"
 #include "Words.h"
 
+#include "hosts/common/ProfileFile.h"
 #include "hosts/common/UserPath.h"
 #include "job/effects/EffectCatalog.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 #include <limits>
@@ -151,17 +151,7 @@ void SetProfile(ZTBatchDocument& job, const QString& text)
         Output(job).SetICCProfile(QByteArray());
         return;
     }
-    QFile file(text);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw RequestError{QStringLiteral("%1 cannot be read: %2").arg(text, file.errorString())};
-    }
-    constexpr qint64 largestProfile = 64 << 20;
-    constexpr int signaturePosition = 36;
-    const QByteArray profile = file.read(largestProfile);
-    if (profile.mid(signaturePosition, 4) != "acsp") {
-        throw RequestError{QStringLiteral("%1 is not an ICC profile").arg(text)};
-    }
-    Output(job).SetICCProfile(profile);
+    Output(job).SetICCProfile(ReadProfile(text));
 }
 
 QVector<JobOption> OutputOptions()
