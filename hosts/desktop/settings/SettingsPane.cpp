@@ -1,0 +1,91 @@
+#include "SettingsPane.h"
+
+#include "effects/EffectsSection.h"
+#include "parameters/ParameterForm.h"
+#include "sections/CropSection.h"
+#include "sections/ErrorsSection.h"
+#include "sections/FolderSection.h"
+#include "sections/FormatSection.h"
+#include "sections/FrameSection.h"
+#include "sections/MetadataSection.h"
+#include "sections/NamesSection.h"
+#include "sections/ProfileSection.h"
+#include "sections/SizeSection.h"
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace BatchDesktop {
+
+SettingsPane::SettingsPane(EditedJob& job, QWidget* parent, Choosers wanted)
+    : QWidget(parent)
+    , choosers(std::move(wanted))
+{
+    auto* const area = new QScrollArea(this);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* const content = new QWidget(area);
+    sections.append(new SizeSection(job, choosers, content));
+    sections.append(new CropSection(job, choosers, content));
+    sections.append(effects = new EffectsSection(job, choosers, content));
+    sections.append(new FrameSection(job, choosers, content));
+    sections.append(names = new NamesSection(job, choosers, content));
+    sections.append(new FormatSection(job, choosers, content));
+    sections.append(new MetadataSection(job, choosers, content));
+    sections.append(new ProfileSection(job, choosers, content));
+    sections.append(new ErrorsSection(job, choosers, content));
+    sections.append(new FolderSection(job, choosers, content));
+    auto* const column = new QVBoxLayout(content);
+    for (SettingsSection* const section : qAsConst(sections)) {
+        column->addWidget(section);
+    }
+    column->addStretch();
+    area->setWidget(content);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(area);
+    const auto forms = findChildren<ParameterForm*>();
+    for (const ParameterForm* const form : forms) {
+        connect(form, &ParameterForm::Rebuilt, this, &SettingsPane::OrderTabs);
+    }
+    OrderTabs();
+}
+
+SettingsPane::~SettingsPane() = default;
+
+// Sections are made in the order of the screen, and so is what they contain.
+void SettingsPane::OrderTabs()
+{
+    QWidget* before = nullptr;
+    for (const SettingsSection* const section : qAsConst(sections)) {
+        const auto widgets = section->findChildren<QWidget*>();
+        for (QWidget* const widget : widgets) {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy() && widget->window() == window()) {
+                if (before) {
+                    setTabOrder(before, widget);
+                }
+                before = widget;
+            }
+        }
+    }
+}
+
+void SettingsPane::SetExample(const QString& file, int position, const QDateTime& captured)
+{
+    names->SetExample(file, position, captured);
+}
+
+QMenu* SettingsPane::AddEffectMenu() const
+{
+    return effects->AddMenu();
+}
+
+QList<QAction*> SettingsPane::EffectActions() const
+{
+    return effects->ChainActions();
+}
+
+} // namespace BatchDesktop

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "FormSection.h"
+
+namespace BatchDesktop {
+
+/// What is cut off.
+class CropSection : public FormSection
+{
+    Q_OBJECT
+
+public:
+    CropSection(EditedJob& job, const Choosers& choosers, QWidget* parent);
+
+protected:
+    QVector<BoundParameter> Parameters() const override;
+    QString State() const override;
+    QString Problem() const override;
+};
+
+} // namespace BatchDesktop

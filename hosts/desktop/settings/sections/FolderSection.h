@@ -1,0 +1,21 @@
+#pragma once
+
+#include "FormSection.h"
+
+namespace BatchDesktop {
+
+/// Where results go.
+class FolderSection : public FormSection
+{
+    Q_OBJECT
+
+public:
+    FolderSection(EditedJob& job, const Choosers& choosers, QWidget* parent);
+
+protected:
+    QVector<BoundParameter> Parameters() const override;
+    QString State() const override;
+    QString Problem() const override;
+};
+
+} // namespace BatchDesktop

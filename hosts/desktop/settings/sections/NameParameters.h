@@ -1,0 +1,10 @@
+#pragma once
+
+#include "BoundParameter.h"
+
+namespace BatchDesktop {
+
+/// The parts of names, what separates them, and the folders of results.
+QVector<BoundParameter> NameParameters();
+
+} // namespace BatchDesktop
