@@ -17,6 +17,7 @@ ChoiceEditor::ChoiceEditor(const ParameterRow& row, QWidget* parent)
     layout->addWidget(box);
     for (const ShownChoice& choice : choices) {
         box->addItem(choice.text);
+        box->setItemData(box->count() - 1, choice.text, Qt::ToolTipRole);
     }
     // A long text must not make the pane wide.
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
