@@ -1,36 +1,18 @@
 #include "ControlKeys.h"
+#include "PaneStage.h"
 
-#include "hosts/desktop/job/EditedJob.h"
-#include "hosts/desktop/settings/SettingsPane.h"
-#include "hosts/desktop/settings/effects/EffectsSection.h"
-#include "hosts/desktop/settings/parameters/ParameterField.h"
-#include "job/effects/EffectCatalog.h"
-#include "job/formats/FormatCatalog.h"
-#include "job/formats/FormatOptions.h"
 #include "job/settings/JobCheck.h"
 #include "job/values/JobValues.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QImage>
-#include <QJsonDocument>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QPushButton>
 #include <QSlider>
-#include <QTemporaryDir>
 #include <QToolButton>
-#include <QtTest>
 
 using namespace BatchDesktop;
 using namespace BatchJob;
 
-using Output = ZTBatchOutputSettings;
-
-/// The pane of the settings with its real widgets, by keys and mouse.
+/// The pane of the settings with its real widgets, by keys and mouse: headings, steps, names, tab order.
 class tst_SettingsPane : public QObject
 {
     Q_OBJECT
@@ -41,76 +23,11 @@ private Q_SLOTS:
     void headingsFoldByKeys();
     void aChoiceIsAStep();
     void aSliderIsOneStep();
-    void problemsAreSaidBesideTheirField_data();
-    void problemsAreSaidBesideTheirField();
-    void eachFormatShowsItsOptions_data();
-    void eachFormatShowsItsOptions();
-    void anotherFormatDropsWhatItDoesNotTake();
-    void depthsAreThoseOfTheFormat();
-    void namesHaveALiveExample();
-    void profilesAreReadAndRefused();
     void everythingHasANameAndIsReachedByTab();
     void randomKeysCanBeUndone();
 };
 
 namespace {
-
-struct Stage
-{
-    Stage()
-        : pane(job, nullptr, FakeChoosers())
-    {
-        Settings settings = job.CurrentSettings();
-        settings.outputFolder = QStringLiteral("/results");
-        job.Change(settings, QStringLiteral("Start"));
-        job.History().clear();
-        pane.resize(500, 900);
-        pane.show();
-        pane.activateWindow();
-        isReady = QTest::qWaitForWindowActive(&pane);
-    }
-
-    template<typename Control>
-    Control& The(const char* name)
-    {
-        auto* const found = pane.findChild<Control*>(QString::fromLatin1(name));
-        if (!found) {
-            qFatal("No %s", name);
-        }
-        return *found;
-    }
-
-    SettingsSection& Section(const char* id) { return The<SettingsSection>(id); }
-
-    template<typename Function>
-    void Set(Function change)
-    {
-        Settings settings = job.CurrentSettings();
-        change(settings);
-        job.Change(settings, QStringLiteral("Test"));
-    }
-
-    void Unfold()
-    {
-        for (SettingsSection* const section : pane.Sections()) {
-            section->SetFolded(false);
-        }
-    }
-
-    Choosers FakeChoosers()
-    {
-        const auto path = [this](QWidget*, const QString&, const QString&) { return chosenPath; };
-        return {path, path,
-                [](QWidget*, const QString&, const QColor&, const std::function<void(const QColor&)>& chosen) {
-                    chosen(QColor(1, 2, 3));
-                }};
-    }
-
-    QString chosenPath;
-    EditedJob job;
-    SettingsPane pane;
-    bool isReady = false;
-};
 
 using Change = std::function<void(Settings&)>;
 
@@ -176,7 +93,7 @@ void tst_SettingsPane::foldedSectionsSayTheirState()
     QFETCH(const Change, change);
     QFETCH(const QByteArray, section);
     QFETCH(const QString, state);
-    Stage stage;
+    PaneStage stage;
     const QString before = stage.Section(section.constData()).StateText();
     stage.Set(change);
     QVERIFY(stage.Section(section.constData()).IsFolded());
@@ -190,7 +107,7 @@ void tst_SettingsPane::foldedSectionsSayTheirState()
 
 void tst_SettingsPane::headingsFoldByKeys()
 {
-    Stage stage;
+    PaneStage stage;
     auto& heading = stage.The<QToolButton>("crop.heading");
     auto& type = stage.The<QComboBox>("crop.type");
     QVERIFY(!type.isVisible());
@@ -202,7 +119,7 @@ void tst_SettingsPane::headingsFoldByKeys()
 
 void tst_SettingsPane::aChoiceIsAStep()
 {
-    Stage stage;
+    PaneStage stage;
     stage.Unfold();
     auto& type = stage.The<QComboBox>("crop.type");
     auto& width = stage.The<QDoubleSpinBox>("crop.width");
@@ -227,7 +144,7 @@ void tst_SettingsPane::aChoiceIsAStep()
 
 void tst_SettingsPane::aSliderIsOneStep()
 {
-    Stage stage;
+    PaneStage stage;
     QVERIFY(stage.isReady);
     stage.Unfold();
     stage.Set([](Settings& settings) { settings.format = QStringLiteral("JPEG"); });
@@ -252,217 +169,9 @@ void tst_SettingsPane::aSliderIsOneStep()
     QCOMPARE(stage.job.CurrentSettings().formatOptions, QByteArray());
 }
 
-void tst_SettingsPane::problemsAreSaidBesideTheirField_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QByteArray>("section");
-    QTest::addColumn<QByteArray>("field");
-    const auto row = [](const char* section, const char* field, const Change& change) {
-        QTest::newRow(field) << change << QByteArray(section) << QByteArray(field);
-    };
-    const auto scaled = [](Settings& settings) { settings.imageSize.restriction = int(SizeRestriction::Fit); };
-    row("size", "size.length", [scaled](Settings& settings) {
-        scaled(settings);
-        settings.imageSize.size = 2'000'000;
-    });
-    row("size", "size.side", [scaled](Settings& settings) {
-        scaled(settings);
-        settings.imageSize.side = 9;
-    });
-    row("size", "size.resolution", [scaled](Settings& settings) {
-        scaled(settings);
-        settings.imageSize.unit = int(SizeUnit::Inches);
-        settings.imageSize.resolution = 0;
-    });
-    row("crop", "crop.height", [](Settings& settings) {
-        settings.crop = {Qt::AlignCenter, QSize(10, 0), int(CropType::Exact)};
-    });
-    row("frame", "frame.image", [](Settings& settings) {
-        settings.framing.state = true;
-        settings.framing.backgroundType = int(BackgroundType::Image);
-        settings.framing.backgroundImage = QStringLiteral("/no/such.png");
-    });
-    row("frame", "frame.opacity", [](Settings& settings) {
-        settings.framing.state = true;
-        settings.framing.opacity = 1.5;
-    });
-    row("names", "names.suffixDigits", [](Settings& settings) {
-        settings.nameParts[Output::PartSuffix] = {Output::TemplateNumber, {}, 1, 65};
-    });
-    row("format", "format.quality", [](Settings& settings) {
-        settings.format = QStringLiteral("JPEG");
-        settings.formatOptions = R"({"quality":101})";
-    });
-    row("metadata", "metadata.keep", [](Settings& settings) {
-        settings.format = QStringLiteral("JPEG");
-        settings.formatOptions = R"({"keep":["all"]})";
-    });
-    row("folder", "folder.path", [](Settings& settings) { settings.outputFolder = QStringLiteral("results"); });
-}
-
-void tst_SettingsPane::problemsAreSaidBesideTheirField()
-{
-    QFETCH(const Change, change);
-    QFETCH(const QByteArray, section);
-    QFETCH(const QByteArray, field);
-    Stage stage;
-    stage.Unfold();
-    stage.Set(change);
-    const QString problem = CheckSettings(stage.job.Document()).refusal.message;
-    QVERIFY(!problem.isEmpty());
-    auto& label = stage.The<ProblemLabel>((field + ".problem").constData());
-    QVERIFY(label.isVisible());
-    const QString said = label.text().mid(2); // behind the sign
-    QVERIFY2(problem.endsWith(said), qPrintable(said + QLatin1Char('\n') + problem));
-    QVERIFY(stage.Section(section.constData()).StateText().endsWith(said));
-    const auto labels = stage.pane.findChildren<ProblemLabel*>();
-    for (ProblemLabel* const other : labels) {
-        QVERIFY(other == &label || other->text().isEmpty());
-    }
-    stage.job.History().undo();
-    QVERIFY(stage.The<ProblemLabel>((field + ".problem").constData()).text().isEmpty());
-}
-
-void tst_SettingsPane::eachFormatShowsItsOptions_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::newRow("Original") << Output::GetOriginalFormat();
-    for (const FormatSchema& format : Formats()) {
-        QTest::newRow(qPrintable(format.name)) << format.name;
-    }
-}
-
-void tst_SettingsPane::eachFormatShowsItsOptions()
-{
-    QFETCH(const QString, format);
-    Stage stage;
-    stage.Unfold();
-    stage.Set([&format](Settings& settings) { settings.format = format; });
-    QSet<QString> expected{QStringLiteral("format.format")};
-    for (const ParameterSchema& option : OptionsTakenBy(format)) {
-        const bool isMetadata = option.name.startsWith(QStringLiteral("keep"));
-        expected.insert((isMetadata ? QStringLiteral("metadata.") : QStringLiteral("format.")) + option.name);
-    }
-    QSet<QString> shown;
-    for (const char* const section : {"format", "metadata"}) {
-        const auto labels = stage.Section(section).findChildren<ProblemLabel*>();
-        for (const ProblemLabel* const label : labels) {
-            if (label->parentWidget()->isVisible() && !label->objectName().isEmpty()) {
-                shown.insert(label->objectName().chopped(int(qstrlen(".problem"))));
-            }
-        }
-    }
-    QCOMPARE(shown, expected);
-    QVERIFY(CheckSettings(stage.job.Document()).IsAccepted());
-}
-
-void tst_SettingsPane::anotherFormatDropsWhatItDoesNotTake()
-{
-    Stage stage;
-    stage.Unfold();
-    auto& formats = stage.The<QComboBox>("format.format");
-    stage.Set([](Settings& settings) {
-        settings.format = QStringLiteral("JPEG");
-        settings.formatOptions = R"({"background":"#102030","chromaSubsampling":"4:4:4","keep":["icc"],"quality":70})";
-    });
-    for (int i = 0; i < formats.count() - 1; ++i) {
-        QTest::keyClick(&formats, Qt::Key_Down);
-        QVERIFY2(CheckSettings(stage.job.Document()).IsAccepted(), qPrintable(formats.currentText()));
-        const QJsonObject options = QJsonDocument::fromJson(stage.job.CurrentSettings().formatOptions).object();
-        QCOMPARE(options.value(QStringLiteral("keep")).toArray().size(), 1);
-    }
-    while (stage.job.History().count() > 0 && stage.job.History().index() > 1) {
-        stage.job.History().undo();
-    }
-    QVERIFY(stage.job.CurrentSettings().formatOptions.contains("4:4:4"));
-}
-
-void tst_SettingsPane::depthsAreThoseOfTheFormat()
-{
-    Stage stage;
-    stage.Unfold();
-    const auto texts = [&stage] {
-        QStringList shown;
-        const auto& box = stage.The<QComboBox>("format.bitDepth");
-        for (int i = 0; i < box.count(); ++i) {
-            shown.append(box.itemText(i));
-        }
-        return shown.join(QLatin1Char('|'));
-    };
-    stage.Set([](Settings& settings) { settings.format = QStringLiteral("PNG"); });
-    QCOMPARE(texts(), QStringLiteral("As the format has it|8|16"));
-    QTest::keyClick(&stage.The<QComboBox>("format.bitDepth"), Qt::Key_End);
-    QCOMPARE(stage.job.CurrentSettings().formatOptions, QByteArray(R"({"bitDepth":16})"));
-    QTest::keyClick(&stage.The<QComboBox>("format.bitDepth"), Qt::Key_Home);
-    QCOMPARE(stage.job.CurrentSettings().formatOptions, QByteArray());
-    stage.Set([](Settings& settings) {
-        settings.format = QStringLiteral("TIFF");
-        settings.formatOptions = R"({"compression":"jpeg"})";
-    });
-    QCOMPARE(texts(), QStringLiteral("As the format has it|8"));
-}
-
-void tst_SettingsPane::namesHaveALiveExample()
-{
-    Stage stage;
-    stage.Unfold();
-    auto& example = stage.The<QLabel>("names.example");
-    stage.pane.SetExample(QStringLiteral("/in/DSC 7.JPEG"), 41);
-    QCOMPARE(example.text(), QStringLiteral("Example: DSC 7.jpg"));
-    stage.Set([](Settings& settings) {
-        settings.format = QStringLiteral("PNG");
-        settings.nameParts[Output::PartSuffix] = {Output::TemplateNumber, {}, 1, 4};
-    });
-    QTest::keyClicks(&stage.The<QLineEdit>("names.suffixSeparator"), QStringLiteral("-"));
-    QCOMPARE(example.text(), QStringLiteral("Example: DSC 7-0042.png"));
-    stage.Set([](Settings& settings) { settings.nameParts[Output::PartPrefix].kind = Output::TemplateCaptureDate; });
-    QCOMPARE(example.text(), QStringLiteral("Example, as if it had been taken on 2024-07-31 at 14:05:09: "
-                                            "20240731DSC 7-0042.png"));
-    stage.pane.SetExample(QStringLiteral("/in/DSC 7.JPEG"), 41, QDateTime(QDate(2021, 2, 3), QTime(4, 5, 6)));
-    QCOMPARE(example.text(), QStringLiteral("Example: 20210203DSC 7-0042.png"));
-    QCOMPARE(stage.Section("names").StateText(), QStringLiteral("20210203DSC 7-0042.png"));
-}
-
-void tst_SettingsPane::profilesAreReadAndRefused()
-{
-    const QTemporaryDir folder;
-    const auto write = [&folder](const char* name, const QByteArray& bytes) {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
-    };
-    QByteArray profile(200, '\0');
-    profile.replace(36, 4, "acsp");
-    profile.replace(128, 20,
-                    QByteArray::fromHex("00000001"
-                                        "64657363"
-                                        "00000094"
-                                        "00000020"
-                                        "64657363"));
-    profile.replace(148, 4, "desc");
-    profile.replace(156, 4, QByteArray::fromHex("0000000A"));
-    profile.replace(160, 10, QByteArray("Wide RGB!\0", 10));
-
-    Stage stage;
-    stage.Unfold();
-    auto& problem = stage.The<ProblemLabel>("profile.problem");
-    stage.chosenPath = write("no.icc", "no profile");
-    QTest::mouseClick(&stage.The<QPushButton>("profile.choose"), Qt::LeftButton);
-    QVERIFY(problem.text().contains(QStringLiteral("is not an ICC profile")));
-    QCOMPARE(stage.job.History().count(), 0);
-    stage.chosenPath = write("wide.icc", profile);
-    QTest::mouseClick(&stage.The<QPushButton>("profile.choose"), Qt::LeftButton);
-    QVERIFY(problem.text().isEmpty());
-    QCOMPARE(stage.job.CurrentSettings().profile, profile);
-    QCOMPARE(stage.Section("profile").StateText(), QStringLiteral("Wide RGB!"));
-    QTest::mouseClick(&stage.The<QPushButton>("profile.remove"), Qt::LeftButton);
-    QVERIFY(stage.job.CurrentSettings().profile.isEmpty());
-    stage.job.History().undo();
-    QCOMPARE(stage.job.CurrentSettings().profile, profile);
-}
-
 void tst_SettingsPane::everythingHasANameAndIsReachedByTab()
 {
-    Stage stage;
+    PaneStage stage;
     QVERIFY(stage.isReady);
     stage.Unfold();
     stage.Set([](Settings& settings) {
@@ -505,7 +214,7 @@ void tst_SettingsPane::everythingHasANameAndIsReachedByTab()
 void tst_SettingsPane::randomKeysCanBeUndone()
 {
     QRandomGenerator random(20226);
-    Stage stage;
+    PaneStage stage;
     QVERIFY(stage.isReady);
     stage.Unfold();
     stage.Set([](Settings& settings) {
