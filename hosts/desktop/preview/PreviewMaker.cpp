@@ -59,6 +59,7 @@ void PreviewMaker::Stop()
     making.reset();
     isMaking = false;
     isUpdating = false;
+    workshop.spares.Prepare(spareWorkers);
 }
 
 /// A preview that nobody wants any more is ended as soon as another worker can begin at once, or it ends by itself.
