@@ -13,7 +13,7 @@ namespace BatchDesktop {
 
 namespace {
 
-/// A slider that moves asks for a preview with each step.
+/// A slider that moves asks for a preview with each step: all but the first wait for the end of the movement.
 constexpr auto delayTime = 120ms;
 
 /// One for the result, one for the picture before.
@@ -27,7 +27,6 @@ PreviewMaker::PreviewMaker(const QString& program, const BatchProtocol::ServerLi
     , workshop(program, limits, displayProfile)
 {
     delay.setSingleShot(true);
-    delay.setInterval(delayTime);
     connect(&delay, &QTimer::timeout, this, &PreviewMaker::BeginWhenPossible);
     connect(&workshop.spares, &SpareWorkers::Changed, this, &PreviewMaker::BeginWhenPossible);
     workshop.spares.Prepare(spareWorkers);
@@ -45,7 +44,7 @@ void PreviewMaker::Show(const QString& file, const Settings& settings)
 {
     next = PreviewMaking::Order{file, settings, {}};
     next->since.start();
-    delay.start();
+    delay.start(isMaking || delay.isActive() ? delayTime : 0ms);
     if (!isUpdating) {
         isUpdating = true;
         Q_EMIT Updating();
