@@ -10,7 +10,6 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QSignalSpy>
-#include <QToolButton>
 #include <QWheelEvent>
 #include <QtTest>
 
