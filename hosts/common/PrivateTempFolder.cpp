@@ -26,17 +26,10 @@ QString ParentFolder()
 } // namespace
 
 PrivateTempFolder::PrivateTempFolder()
+    : folder(ParentFolder(), nameStart)
 {
-    const QString parent = ParentFolder();
-    TempFolderHold::Sweep(parent, nameStart);
-    // Another process that sweeps may take the new folder for one that was left, until it is held.
-    constexpr int attempts = 10;
-    for (int attempt = 0; attempt < attempts && !(hold && hold->IsHeld()); ++attempt) {
-        folder = std::make_unique<QTemporaryDir>(parent + QLatin1Char('/') + nameStart + QStringLiteral("XXXXXX"));
-        hold = folder->isValid() ? std::make_unique<TempFolderHold>(folder->path()) : nullptr;
-    }
-    if (folder->isValid()) {
-        qputenv("TMPDIR", QFile::encodeName(folder->path()));
+    if (folder.Error().isEmpty()) {
+        qputenv("TMPDIR", QFile::encodeName(folder.Path()));
     }
 }
 

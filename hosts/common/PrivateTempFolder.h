@@ -1,10 +1,6 @@
 #pragma once
 
-#include "TempFolderHold.h"
-
-#include <QTemporaryDir>
-
-#include <memory>
+#include "HeldFolder.h"
 
 namespace BatchHost {
 
@@ -18,15 +14,14 @@ public:
     ~PrivateTempFolder();
 
     /// Why the folder could not be made; empty when it was. The server cannot be reached without it.
-    QString Error() const { return folder->isValid() ? QString() : folder->errorString(); }
+    QString Error() const { return folder.Error(); }
 
-    void Remove() { folder->remove(); }
+    void Remove() { folder.Remove(); }
 
 private:
     Q_DISABLE_COPY(PrivateTempFolder)
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<TempFolderHold> hold; ///< released before the folder is removed
+    HeldFolder folder;
 };
 
 } // namespace BatchHost

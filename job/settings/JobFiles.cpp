@@ -50,8 +50,13 @@ QString SettingsTextOf(const ZTBatchDocument& job)
 {
     ZTBatchDocument settings;
     settings.Deserialize(job.Serialize(nullptr));
-    settings.GetInputModel()->removeRows(0, settings.GetInputModel()->rowCount());
-    return settings.Serialize(nullptr);
+    return TakeSettingsText(settings);
+}
+
+QString TakeSettingsText(ZTBatchDocument& job)
+{
+    job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());
+    return job.Serialize(nullptr);
 }
 
 } // namespace BatchJob

@@ -24,4 +24,7 @@ QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input);
 /// The text of `job` without its inputs.
 QString SettingsTextOf(const ZTBatchDocument& job);
 
+/// The same of a job that was read from its text; removes its inputs.
+QString TakeSettingsText(ZTBatchDocument& job);
+
 } // namespace BatchJob

@@ -2,7 +2,6 @@
 
 #include "job/values/Phrase.h"
 
-#include <QDir>
 #include <QPointer>
 
 #include <chrono>
@@ -38,10 +37,11 @@ QString CrashText(int exitCode)
 
 } // namespace
 
-WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent)
+WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent,
+                             const QString& temporaryParent)
     : QObject(parent)
     , taskTime(limits.pictureSeconds * 1000)
-    , temporaryFolder(QDir::temp().filePath(QStringLiteral("velkora-worker-XXXXXX")))
+    , temporaryFolder(QDir(temporaryParent).filePath(QStringLiteral("velkora-worker-XXXXXX")))
     , streams(process)
 {
     clock.setSingleShot(true);

@@ -4,6 +4,7 @@
 #include "ChildProcess.h"
 #include "WorkerStreams.h"
 
+#include <QDir>
 #include <QList>
 #include <QObject>
 #include <QTemporaryDir>
@@ -30,8 +31,9 @@ class WorkerProcess : public QObject
     Q_OBJECT
 
 public:
-    /// Starts the worker. Ready() follows.
-    WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent);
+    /// Starts the worker. Ready() follows. The worker's own temporary folder is made in `temporaryParent`.
+    WorkerProcess(const QString& program, const ServerLimits& limits, QObject* parent,
+                  const QString& temporaryParent = QDir::tempPath());
     ~WorkerProcess() override;
 
     bool IsReady() const { return isReady && !end; }

@@ -5,7 +5,6 @@
 #include "server/protocol/ChildProcess.h"
 
 #include "ZTBatchDocument.h"
-#include "ZTBatchInputModel.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -32,8 +31,7 @@ JobReader::Job ReadHere(const QString& text)
     job.refusal = CheckJob(document).refusal;
     if (job.refusal.code == ZTBatchMessage::NoError) {
         job.files = FilesOfJob(*document.GetInputModel());
-        document.GetInputModel()->removeRows(0, document.GetInputModel()->rowCount());
-        job.settings = document.Serialize(nullptr);
+        job.settings = TakeSettingsText(document);
     }
     return job;
 }

@@ -7,9 +7,7 @@
 #include "job/values/FileIdentity.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/TemporaryFile.h"
-#include "server/protocol/WorkerFiles.h"
-
-#include "ZTBatchDocument.h"
+#include "server/protocol/WorkerJob.h"
 
 #include <QFileInfo>
 
@@ -30,21 +28,17 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     if (isCancelled() || refusal.code != ZTBatchMessage::NoError) {
         return;
     }
-    ZTBatchDocument withoutInputs;
-    withoutInputs.Deserialize(job.settings);
-    const CheckedSettings checked = CheckSettings(withoutInputs);
-    if (!checked.IsAccepted()) {
-        refusal = checked.refusal; // A file that the settings name may have changed since the job was read.
+    const BatchProtocol::WorkerJob ofWorkers = BatchProtocol::WorkerJob::Of(job.settings, job.files);
+    refusal = ofWorkers.refusal; // A file that the settings name may have changed since the job was read.
+    if (refusal.code != ZTBatchMessage::NoError) {
         return;
     }
-    settings = job.settings;
+    settings = ofWorkers.document;
     // Where the output folder exists, workers that have probed files can go on to make pictures.
-    rightsToProbe = BatchProtocol::RightsToRead(checked.settings, job.files);
-    rightsToMake = BatchProtocol::RightsToWrite(rightsToProbe, checked.settings);
-    if (QFileInfo(checked.settings.outputFolder).isDir()) {
-        rightsToProbe = rightsToMake;
-    }
-    plan = RunPlan(OutputPlan(job.files, checked.settings));
+    const bool hasFolder = QFileInfo(ofWorkers.settings.outputFolder).isDir();
+    rightsToProbe = hasFolder ? ofWorkers.rightsToMake : ofWorkers.rightsToRead;
+    rightsToMake = ofWorkers.rightsToMake;
+    plan = RunPlan(OutputPlan(job.files, ofWorkers.settings));
     if (replacesOriginals) {
         plan.ReplaceOriginals();
     }

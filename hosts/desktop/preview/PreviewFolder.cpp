@@ -1,0 +1,37 @@
+#include "PreviewFolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+namespace BatchDesktop {
+
+namespace {
+
+/// Enough for some large results.
+constexpr qint64 roomInMemory = qint64(1) << 30; // bytes
+
+const QString nameStart = QStringLiteral("velkora-preview-");
+
+QString ParentOfFiles()
+{
+    const QString ofUser = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const bool isUsable = QDir::isAbsolutePath(ofUser) && QFileInfo(ofUser).isWritable() &&
+                          QStorageInfo(ofUser).bytesAvailable() >= roomInMemory;
+    return isUsable ? ofUser : QDir::tempPath();
+}
+
+} // namespace
+
+PreviewFolder::PreviewFolder()
+    : files(ParentOfFiles(), nameStart)
+    , temporary(QDir::tempPath(), nameStart)
+{
+}
+
+QString PreviewFolder::Error() const
+{
+    return files.Error().isEmpty() ? temporary.Error() : files.Error();
+}
+
+} // namespace BatchDesktop

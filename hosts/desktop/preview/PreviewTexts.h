@@ -1,0 +1,18 @@
+#pragma once
+
+#include "PreviewPictures.h"
+
+#include <QString>
+
+namespace BatchDesktop {
+
+/// A number of bytes in three digits at most, such as "312 kB".
+QString ByteText(qint64 bytes);
+
+/// What becomes of the picture: sizes in pixels and bytes, before and after.
+QString FactsText(const PreviewPictures& pictures);
+
+/// How exact that is, and how long it took.
+QString ExactnessText(const PreviewPictures& pictures);
+
+} // namespace BatchDesktop

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "WorkerMessages.h"
+
+#include "job/settings/JobCheck.h"
+#include "job/settings/JobFiles.h"
+
+#include <QString>
+#include <QVector>
+
+namespace BatchProtocol {
+
+/// A job as its workers get it, and what has to be known of it to give it to them. Whoever wants the bytes that a run
+/// would write makes the job with these functions.
+struct WorkerJob
+{
+    BatchJob::Refusal refusal; ///< if there is one, the rest is empty
+    QString document;          ///< the text of the job without its inputs
+    BatchJob::JobSettings settings;
+    WorkerRights rightsToRead;
+    WorkerRights rightsToMake; ///< the output folder has to exist when the first worker starts with them
+
+    /// `document` is the text of a job without inputs, `files` are the inputs. Asks the file system about each file.
+    static WorkerJob Of(const QString& document, const QVector<BatchJob::JobFile>& files);
+};
+
+} // namespace BatchProtocol
