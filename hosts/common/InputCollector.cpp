@@ -205,6 +205,9 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     if (onProgress) {
         onProgress(folderCount, fileCount, path);
     }
+    if (onFolder) {
+        onFolder(folder);
+    }
 }
 
 void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
