@@ -117,16 +117,16 @@ std::optional<QModelIndex> InputAdder::ParentOf(const InputScan::Branch& branch)
     return parent;
 }
 
-void InputAdder::End(const QStringList& problems)
+/// `problems` are a copy, as those of the scan go with it.
+void InputAdder::End(QStringList problems)
 {
     work.Cancel();
     scan.reset();
     control.reset();
-    QStringList shown;
-    for (const QString& problem : problems) {
-        shown.append(BatchHost::Translated(problem));
+    for (QString& problem : problems) {
+        problem = BatchHost::Translated(problem);
     }
-    Q_EMIT Ended(shown);
+    Q_EMIT Ended(problems);
     if (!scan && !waiting.isEmpty()) {
         Begin();
     }

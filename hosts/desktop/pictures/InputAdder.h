@@ -47,7 +47,7 @@ private:
     void Drain();
     std::unique_ptr<AddInputsStep> NextPortion();
     std::optional<QModelIndex> ParentOf(const InputScan::Branch& branch);
-    void End(const QStringList& problems);
+    void End(QStringList problems);
 
     EditedJob& job;
     const InputPaths& inputs;

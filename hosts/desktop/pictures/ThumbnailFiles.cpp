@@ -49,10 +49,11 @@ QByteArray PngText(const QString& path, const QByteArray& key)
     return {};
 }
 
+/// The name of a thumbnail tells the picture; the URI in it is compared if it is not compressed.
 bool IsOf(const QString& thumbnail, const QByteArray& uri, qint64 modified)
 {
-    return PngText(thumbnail, "Thumb::MTime") == QByteArray::number(modified) &&
-           PngText(thumbnail, "Thumb::URI") == uri;
+    const QByteArray text = PngText(thumbnail, "Thumb::URI");
+    return PngText(thumbnail, "Thumb::MTime") == QByteArray::number(modified) && (text.isEmpty() || text == uri);
 }
 
 } // namespace
