@@ -45,7 +45,6 @@ void SetDelay(QTimer& timer, std::chrono::milliseconds delay)
     timer.setInterval(delay);
 }
 
-/// Starts a timer that is not running; one that is running keeps its time.
 void Begin(QTimer& timer)
 {
     if (!timer.isActive()) {
@@ -114,7 +113,11 @@ PicturesPane::PicturesPane(EditedJob& job, const ThumbnailFiles& thumbnailFiles,
     UpdateHead();
 }
 
-PicturesPane::~PicturesPane() = default;
+PicturesPane::~PicturesPane()
+{
+    delete views;
+    delete addingLine;
+}
 
 void PicturesPane::MakeHead()
 {
@@ -331,7 +334,6 @@ void PicturesPane::UpdateCurrent()
     Q_EMIT CurrentChanged(current);
 }
 
-/// The views offer the actions in their context menus, and their keys work in the whole pane.
 void PicturesPane::UpdateActions()
 {
     const ZTBatchManager* const manager = ZTBatchManager::Instance();
