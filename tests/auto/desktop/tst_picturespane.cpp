@@ -355,11 +355,11 @@ void tst_PicturesPane::thumbnailsComeForWhatIsSeen()
     }
     WritePictures(names);
     Add({Path(QStringLiteral("in"))});
-    QTRY_VERIFY(!pane->Pictures().Of(Path(QStringLiteral("in/0.jpg"))).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!pane->Pictures().Of(Path(QStringLiteral("in/0.jpg"))).isNull(), 60'000);
     QVERIFY(pane->Pictures().MadeCount() < 100);
     QVERIFY(pane->Pictures().Of(Path(QStringLiteral("in/299.jpg"))).isNull());
     pane->Select(Path(QStringLiteral("in/299.jpg")));
-    QTRY_VERIFY(!pane->Pictures().Of(Path(QStringLiteral("in/299.jpg"))).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!pane->Pictures().Of(Path(QStringLiteral("in/299.jpg"))).isNull(), 60'000);
 }
 
 void tst_PicturesPane::undoingEndsTheScan()

@@ -68,7 +68,7 @@ void tst_Thumbnails::aWorkerMakesThem()
     const QString small = Picture(QStringLiteral("in/small.jpg"), 40, 30);
     Thumbnails thumbnails(Files());
     thumbnails.Want({large, small});
-    QTRY_VERIFY(!thumbnails.Of(large).isNull() && !thumbnails.Of(small).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(large).isNull() && !thumbnails.Of(small).isNull(), 60'000);
     QCOMPARE(thumbnails.Of(large).size(), QSize(256, 192));
     QCOMPARE(thumbnails.Of(small).size(), QSize(40, 30));
     QCOMPARE(thumbnails.MadeCount(), 2);
@@ -80,11 +80,11 @@ void tst_Thumbnails::theyComeFromTheDiskLater()
     {
         Thumbnails thumbnails(Files());
         thumbnails.Want({picture});
-        QTRY_VERIFY(!thumbnails.Of(picture).isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(picture).isNull(), 60'000);
     }
     Thumbnails thumbnails(Files());
     thumbnails.Want({picture});
-    QTRY_VERIFY(!thumbnails.Of(picture).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(picture).isNull(), 60'000);
     QCOMPARE(thumbnails.MadeCount(), 0);
 }
 
@@ -95,7 +95,7 @@ void tst_Thumbnails::theDesktopsAreUsed()
     WriteDesktopThumbnail(picture, QFileInfo(picture).lastModified().toSecsSinceEpoch(), Qt::green);
     Thumbnails thumbnails(Files());
     thumbnails.Want({picture});
-    QTRY_VERIFY(!thumbnails.Of(picture).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(picture).isNull(), 60'000);
     QCOMPARE(thumbnails.Of(picture).size(), QSize(128, 96));
     QCOMPARE(thumbnails.Of(picture).toImage().pixelColor(64, 48), QColor(Qt::green));
 }
@@ -106,7 +106,7 @@ void tst_Thumbnails::outdatedOnesOfTheDesktopAreNotUsed()
     WriteDesktopThumbnail(picture, QFileInfo(picture).lastModified().toSecsSinceEpoch() - 1, Qt::green);
     Thumbnails thumbnails(Files());
     thumbnails.Want({picture});
-    QTRY_VERIFY(!thumbnails.Of(picture).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(picture).isNull(), 60'000);
     QCOMPARE(thumbnails.Of(picture).size(), QSize(256, 192));
 }
 
@@ -117,13 +117,13 @@ void tst_Thumbnails::picturesOfOtherFoldersFollow()
     const QString second = Picture(QStringLiteral("two/a.jpg"));
     Thumbnails thumbnails(Files());
     thumbnails.Want({first});
-    QTRY_VERIFY(!thumbnails.Of(first).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(first).isNull(), 60'000);
     thumbnails.Want({second});
-    QTRY_VERIFY(!thumbnails.Of(second).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(second).isNull(), 60'000);
     thumbnails.Forget(first);
     QVERIFY(thumbnails.Of(first).isNull());
     thumbnails.Want({first});
-    QTRY_VERIFY(!thumbnails.Of(first).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(first).isNull(), 60'000);
 }
 
 void tst_Thumbnails::aBrokenFileIsTriedOnce()
@@ -137,14 +137,14 @@ void tst_Thumbnails::aBrokenFileIsTriedOnce()
     {
         Thumbnails thumbnails(Files());
         thumbnails.Want({broken, good});
-        QTRY_VERIFY(thumbnails.IsBroken(broken) && !thumbnails.Of(good).isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(thumbnails.IsBroken(broken) && !thumbnails.Of(good).isNull(), 60'000);
         QCOMPARE(thumbnails.MadeCount(), 2);
         thumbnails.Want({broken, good});
         QCOMPARE(thumbnails.MadeCount(), 2);
     }
     Thumbnails later(Files());
     later.Want({broken});
-    QTRY_VERIFY(later.IsBroken(broken));
+    QTRY_VERIFY_WITH_TIMEOUT(later.IsBroken(broken), 60'000);
     QCOMPARE(later.MadeCount(), 0);
 }
 
@@ -167,7 +167,7 @@ void tst_Thumbnails::onlyWhatIsWantedIsMade()
     Thumbnails thumbnails(Files());
     thumbnails.Want(many);
     thumbnails.Want({many.last()});
-    QTRY_VERIFY(!thumbnails.Of(many.last()).isNull());
+    QTRY_VERIFY_WITH_TIMEOUT(!thumbnails.Of(many.last()).isNull(), 60'000);
     QVERIFY2(thumbnails.MadeCount() <= 4, qPrintable(QString::number(thumbnails.MadeCount())));
 }
 
