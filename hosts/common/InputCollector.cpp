@@ -41,7 +41,7 @@ QString WithSlash(const QString& folder)
 std::unique_ptr<TreeNode<BatchNodeData>> MakeNode(const QString& path, BatchNodeType type)
 {
     auto node = std::make_unique<TreeNode<BatchNodeData>>();
-    const QString name = QFileInfo(path).fileName();
+    const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
     node->data.inputText = name.isEmpty() ? path : name;
     node->data.fileName = path;
     node->data.type = type;
@@ -205,6 +205,9 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     if (onProgress) {
         onProgress(folderCount, fileCount, path);
     }
+    if (onFolder) {
+        onFolder(folder);
+    }
 }
 
 void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
@@ -269,6 +272,9 @@ bool InputCollector::IsWanted(const QString& path) const
 /// `path` lies below the top folder.
 bool InputCollector::MatchesAny(const QVector<Wildcard>& wildcards, const QString& path) const
 {
+    if (wildcards.isEmpty()) {
+        return false;
+    }
     const QString below = path.mid(topFolder.size());
     const QString name = path.section(QLatin1Char('/'), -1);
     return std::any_of(wildcards.begin(), wildcards.end(),

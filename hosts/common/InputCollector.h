@@ -42,6 +42,13 @@ public:
     /// Called for each folder that has been read, with the numbers so far.
     std::function<void(int folders, int files, const QString& folder)> onProgress;
 
+    /// Called for each folder that has been read, with its node and what was found directly in it. It is not in the job
+    /// yet. What is thrown here ends Add(), and the folder that it was adding stays out of the job.
+    std::function<void(const TreeNode<BatchNodeData>& folder)> onFolder;
+
+    /// The files and folders `paths` count as added already.
+    void Take(const QSet<QString>& paths) { taken += paths; }
+
     /// Adds the files and folders `paths` to the job. Throws RequestError when one of them does not exist or cannot be
     /// an input.
     void Add(const QStringList& paths);

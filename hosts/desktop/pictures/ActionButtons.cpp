@@ -1,0 +1,46 @@
+#include "ActionButtons.h"
+
+#include "ZTBatchManager.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace BatchDesktop {
+
+ActionButtons::ActionButtons(QWidget* parent)
+    : QWidget(parent)
+    , row(new QHBoxLayout(this))
+{
+    row->setContentsMargins(0, 0, 0, 0);
+    if (const ZTBatchManager* const manager = ZTBatchManager::Instance()) {
+        connect(manager, &ZTBatchManager::InputActionRegistered, this, &ActionButtons::Rebuild);
+        connect(manager, &ZTBatchManager::InputActionUnregistered, this, &ActionButtons::Rebuild);
+    }
+    Rebuild();
+}
+
+void ActionButtons::Rebuild()
+{
+    while (QLayoutItem* const item = row->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    const ZTBatchManager* const manager = ZTBatchManager::Instance();
+    const QList<QAction*> actions = manager ? manager->GetInputActions() : QList<QAction*>();
+    for (QAction* const action : actions) {
+        auto* const button = new QToolButton;
+        button->setDefaultAction(action);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setObjectName(action->objectName() + QStringLiteral("Button"));
+        button->setAccessibleName(action->iconText());
+        connect(action, &QObject::destroyed, button, &QObject::deleteLater); // The manager gives no signal then.
+        row->addWidget(button);
+    }
+    row->addStretch();
+    Q_EMIT ActionsChanged();
+}
+
+} // namespace BatchDesktop

@@ -1,0 +1,156 @@
+#include "PictureList.h"
+
+#include "hosts/common/Language.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScrollBar>
+
+using BatchHost::Messages;
+
+namespace BatchDesktop {
+
+namespace {
+
+bool IsPicture(const QAbstractItemModel& model, const QModelIndex& index)
+{
+    const auto& filter = static_cast<const PictureFilter&>(model); // The list has no other model.
+    return PictureTexts::IsFile(*NodeOf(filter.mapToSource(index)));
+}
+
+/// The row after `index`, or before it, in a tree with all folders open. Invalid at the end.
+QModelIndex RowBeside(const QAbstractItemModel& model, const QModelIndex& index, int step)
+{
+    const auto lastBelow = [&model](QModelIndex at) {
+        while (model.rowCount(at) > 0) {
+            at = model.index(model.rowCount(at) - 1, 0, at);
+        }
+        return at;
+    };
+    if (!index.isValid()) {
+        return step > 0 ? model.index(0, 0) : lastBelow(QModelIndex());
+    }
+    if (step < 0) {
+        return index.row() == 0 ? index.parent() : lastBelow(index.sibling(index.row() - 1, 0));
+    }
+    if (model.rowCount(index) > 0) {
+        return model.index(0, 0, index);
+    }
+    QModelIndex at = index;
+    while (at.isValid() && at.row() + 1 >= model.rowCount(at.parent())) {
+        at = at.parent();
+    }
+    return at.isValid() ? at.sibling(at.row() + 1, 0) : QModelIndex();
+}
+
+} // namespace
+
+PictureList::PictureList(PictureFilter& filter, QWidget* parent)
+    : QTreeView(parent)
+    , filter(filter)
+{
+    setObjectName(QStringLiteral("pictureList"));
+    setAccessibleName(Messages::tr("List of pictures"));
+    setUniformRowHeights(true); // Else each row is asked for its height.
+    setSelectionMode(ExtendedSelection);
+    setAllColumnsShowFocus(true);
+    setAcceptDrops(false); // The pane takes them.
+    viewport()->setAcceptDrops(false);
+    setModel(&filter);
+    setTreePosition(PictureColumns::NameColumn);
+    header()->setStretchLastSection(true);
+    header()->setSectionsMovable(false);
+    connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::OpenFolders);
+    connect(&filter, &QAbstractItemModel::modelReset, this,
+            [this] { OpenFolders(QModelIndex(), 0, model()->rowCount() - 1); });
+    connect(&filter, &QAbstractItemModel::layoutChanged, this, &PictureList::SightChanged);
+    connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::SightChanged);
+    connect(&filter, &QAbstractItemModel::rowsRemoved, this, &PictureList::SightChanged);
+    connect(&filter, &QAbstractItemModel::modelReset, this, &PictureList::SightChanged);
+    connect(this, &QTreeView::expanded, this, &PictureList::SightChanged);
+    connect(this, &QTreeView::collapsed, this, &PictureList::SightChanged);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &PictureList::SightChanged);
+    FitIcons();
+    OpenFolders(QModelIndex(), 0, filter.rowCount() - 1);
+}
+
+QStringList PictureList::PicturesInSight() const
+{
+    const QModelIndex first = indexAt(QPoint(0, 0));
+    const int height = first.isValid() ? rowHeight(first) : 0;
+    if (height <= 0) {
+        return {};
+    }
+    const int page = viewport()->height() / height + 1;
+    QStringList paths;
+    const auto note = [&](const QModelIndex& index) {
+        if (IsPicture(filter, index)) {
+            paths.append(NodeOf(filter.mapToSource(index))->data.fileName);
+        }
+    };
+    QModelIndex at = first;
+    for (int i = 0; i < 2 * page && at.isValid(); ++i) {
+        note(at);
+        at = indexBelow(at);
+    }
+    at = indexAbove(first);
+    for (int i = 0; i < page && at.isValid(); ++i) {
+        note(at);
+        at = indexAbove(at);
+    }
+    return paths;
+}
+
+QModelIndex PictureList::Neighbour(const QModelIndex& from, int step) const
+{
+    QModelIndex at = RowBeside(filter, from.siblingAtColumn(0), step);
+    while (at.isValid() && !IsPicture(filter, at)) {
+        at = RowBeside(filter, at, step);
+    }
+    return at;
+}
+
+void PictureList::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    Q_EMIT SightChanged();
+}
+
+void PictureList::changeEvent(QEvent* event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        FitIcons();
+    }
+}
+
+void PictureList::FitIcons()
+{
+    const int side = fontMetrics().height() * 2;
+    setIconSize(QSize(side * 3 / 2, side));
+    header()->resizeSection(PictureColumns::ThumbnailColumn, side * 2);
+    header()->resizeSection(PictureColumns::NameColumn, fontMetrics().averageCharWidth() * 28);
+    header()->resizeSection(PictureColumns::ResultColumn, fontMetrics().averageCharWidth() * 24);
+}
+
+/// Folders are open when they come.
+void PictureList::OpenFolders(const QModelIndex& parent, int first, int last)
+{
+    QVector<QModelIndex> open;
+    for (int row = first; row <= last; ++row) {
+        open.append(filter.index(row, 0, parent));
+    }
+    while (!open.isEmpty()) {
+        const QModelIndex folder = open.takeLast();
+        if (IsPicture(filter, folder)) {
+            continue;
+        }
+        expand(folder);
+        // Folders come before files.
+        for (int row = 0; row < filter.rowCount(folder) && !IsPicture(filter, filter.index(row, 0, folder)); ++row) {
+            open.append(filter.index(row, 0, folder));
+        }
+    }
+}
+
+} // namespace BatchDesktop
