@@ -34,8 +34,9 @@ QString ListName(const QString& path)
 QByteArray BytesOf(const QString& path)
 {
     QFile file(path);
-    const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)
-                                                   : file.open(QIODevice::ReadOnly);
+    const bool isStandardInput = path == QLatin1String("-");
+    const bool isOpen = isStandardInput ? file.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)
+                                        : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
         throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(ListName(path), file.errorString())};
     }
@@ -52,7 +53,9 @@ QByteArray BytesOf(const QString& path)
                                    .arg(ListName(path), QString::number(largestList >> 20))};
         }
     }
-    if (file.error() != QFileDevice::NoError) {
+    // On Windows the end of a pipe is an error to QFile.
+    const bool isBroken = isStandardInput ? std::ferror(stdin) != 0 : file.error() != QFileDevice::NoError;
+    if (isBroken) {
         throw RequestError{QStringLiteral("the list %1 cannot be read: %2").arg(ListName(path), file.errorString())};
     }
     return bytes;
