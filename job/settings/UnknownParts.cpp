@@ -1,5 +1,7 @@
 #include "UnknownParts.h"
 
+#include "job/values/Phrase.h"
+
 #include <QHash>
 #include <QPair>
 #include <QSet>
@@ -145,8 +147,8 @@ private:
 
 QString UnknownPart::Text() const
 {
-    return isAttribute ? QStringLiteral("the attribute \"%1\" of \"%2\"").arg(name, place)
-                       : QStringLiteral("the element \"%1\" in \"%2\"").arg(name, place);
+    return isAttribute ? Phrase::English("the attribute \"%1\" of \"%2\"").arg(name, place)
+                       : Phrase::English("the element \"%1\" in \"%2\"").arg(name, place);
 }
 
 QVector<UnknownPart> UnknownParts(const QString& text)

@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 using namespace BatchHost;
 
@@ -11,8 +12,8 @@ ExitCode DryRun(const ParsedArguments& arguments)
 {
     for (const char* option : {"--resume", "--report"}) {
         if (arguments.Has(QLatin1String(option))) {
-            throw RequestError{
-                QStringLiteral("--dry-run and %1 cannot be combined; remove one of them").arg(QLatin1String(option))};
+            throw RequestError{BatchJob::Phrase::English("--dry-run and %1 cannot be combined; remove one of them")
+                                   .arg(QLatin1String(option))};
         }
     }
     ApplyServerLimits(arguments);
