@@ -68,7 +68,7 @@ void CheckRunName(const ParsedArguments& arguments)
         throw RequestError{BatchJob::Phrase::English("%1 needs --resume").arg(runOption)};
     }
     if (arguments.Value(runOption).isEmpty()) {
-        throw RequestError{BatchJob::Phrase::English("%1: the name is empty").arg(runOption)};
+        throw RequestError{BatchJob::Phrase::English("the name is empty")}.In(runOption);
     }
 }
 

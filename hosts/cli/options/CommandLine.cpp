@@ -251,7 +251,7 @@ void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
     for (const OptionInfo& option : command.options) {
         const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
         if (isName && parsed.Values(option.name).contains(QString())) {
-            throw RequestError{BatchJob::Phrase::English("%1: the name is empty").arg(option.name)};
+            throw RequestError{BatchJob::Phrase::English("the name is empty")}.In(option.name);
         }
     }
 }

@@ -78,12 +78,13 @@ RequestError PartOfPixel(const QString& text, const TypedLength& length)
 {
     const double value = length.Value();
     const QString number = NumberText(value);
-    return {
-        BatchJob::Phrase::English("\"%1\" means %2, for a point begins the decimals, but pixels are counted in "
-                                  "whole numbers: %3, or a unit, as in %4cm")
-            .arg(text,
-                 value == 1 ? BatchJob::Phrase::English("1 pixel") : BatchJob::Phrase::English("%1 pixels").arg(number),
-                 PixelsToType(length), number)};
+    const QString meaning =
+        value == 1
+            ? BatchJob::Phrase::English("\"%1\" means %2 pixel, for a point begins the decimals, but pixels are "
+                                        "counted in whole numbers: %3, or a unit, as in %4cm")
+            : BatchJob::Phrase::English("\"%1\" means %2 pixels, for a point begins the decimals, but pixels are "
+                                        "counted in whole numbers: %3, or a unit, as in %4cm");
+    return {meaning.arg(text, number, PixelsToType(length), number)};
 }
 
 } // namespace

@@ -136,7 +136,7 @@ QString SettingsFolder(const ParsedArguments& arguments)
     }
     const QString folder = AbsolutePath(arguments.Value(option));
     if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) {
-        throw RequestError{BatchJob::Phrase::English("%1: %2 is not a folder").arg(option, folder)};
+        throw RequestError{BatchJob::Phrase::English("%1 is not a folder").arg(folder)}.In(option);
     }
     return folder;
 }
