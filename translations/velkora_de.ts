@@ -3027,10 +3027,6 @@
         <translation>die Liste %1 ist UTF-16-Text; als UTF-8 speichern</translation>
     </message>
     <message>
-        <source>; and %1 more</source>
-        <translation>; und %1 weitere</translation>
-    </message>
-    <message>
         <source>%1 runs were interrupted in %2</source>
         <translation>in %2 wurden %1 Läufe unterbrochen</translation>
     </message>
@@ -3157,6 +3153,22 @@
     <message>
         <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
         <translation>„%1“ bedeutet %2 Pixel, denn ein Punkt leitet Dezimalstellen ein, Pixel sind aber ganze Zahlen: %3, oder mit einer Einheit wie in %4cm</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, Name %2: %3 ist ein Link ohne Ziel (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, Name %2: %3 existiert nicht (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, Zeile %2: %3 ist ein Link ohne Ziel (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, Zeile %2: %3 existiert nicht (und %4 weitere)</translation>
     </message>
 </context>
 </TS>

@@ -3027,10 +3027,6 @@
         <translation>la lista %1 es texto UTF-16; guárdela como UTF-8</translation>
     </message>
     <message>
-        <source>; and %1 more</source>
-        <translation>; y %1 más</translation>
-    </message>
-    <message>
         <source>%1 runs were interrupted in %2</source>
         <translation>se interrumpieron %1 ejecuciones en %2</translation>
     </message>
@@ -3157,6 +3153,22 @@
     <message>
         <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
         <translation>«%1» significa %2 píxeles, porque el punto separa los decimales, pero los píxeles se cuentan en números enteros: %3, o una unidad, como en %4cm</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, nombre %2: %3 es un enlace sin destino (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, nombre %2: %3 no existe (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, línea %2: %3 es un enlace sin destino (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, línea %2: %3 no existe (y %4 más)</translation>
     </message>
 </context>
 </TS>

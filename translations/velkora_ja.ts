@@ -3027,10 +3027,6 @@
         <translation>一覧 %1 は UTF-16 です。UTF-8 で保存してください</translation>
     </message>
     <message>
-        <source>; and %1 more</source>
-        <translation>。ほか %1 件</translation>
-    </message>
-    <message>
         <source>%1 runs were interrupted in %2</source>
         <translation>%2 で %1 件の実行が中断されています</translation>
     </message>
@@ -3157,6 +3153,22 @@
     <message>
         <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
         <translation>「%1」は %2 ピクセルを意味します（点は小数点です）が、ピクセル数は整数です: %3、または %4cm のように単位を付けます</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1、%2 番目の名前: %3 はリンク先のないリンクです（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1、%2 番目の名前: %3 は存在しません（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1、%2 行目: %3 はリンク先のないリンクです（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1、%2 行目: %3 は存在しません（ほか %4 件）</translation>
     </message>
 </context>
 </TS>

@@ -107,8 +107,8 @@ QString NameIn(const QByteArray& bytes, bool isNulSeparated)
 struct Place
 {
     QString list;
-    int number;
-    bool isNulSeparated;
+    int number = 0;
+    bool isNulSeparated = false;
 
     /// What an error in the name itself is put behind.
     QString Text() const
@@ -118,19 +118,26 @@ struct Place
     }
 };
 
-/// Why `name` at `place` cannot be an input; empty when it can.
-QString WhatIsMissing(const QString& name, const Place& place)
+/// Why `path` at `place` cannot be an input; `more` names cannot be inputs either.
+QString MissingText(const QString& path, const Place& place, int more)
 {
-    const QString path = AbsolutePath(name);
-    const QFileInfo info(path);
-    if (info.exists()) {
-        return {};
+    const bool isLink = QFileInfo(path).isSymLink();
+    QString text;
+    if (place.isNulSeparated && more == 0) {
+        text = isLink ? BatchJob::Phrase::English("%1, name %2: %3 is a dangling link")
+                      : BatchJob::Phrase::English("%1, name %2: %3 does not exist");
+    } else if (place.isNulSeparated) {
+        text = isLink ? BatchJob::Phrase::English("%1, name %2: %3 is a dangling link (and %4 more)")
+                      : BatchJob::Phrase::English("%1, name %2: %3 does not exist (and %4 more)");
+    } else if (more == 0) {
+        text = isLink ? BatchJob::Phrase::English("%1, line %2: %3 is a dangling link")
+                      : BatchJob::Phrase::English("%1, line %2: %3 does not exist");
+    } else {
+        text = isLink ? BatchJob::Phrase::English("%1, line %2: %3 is a dangling link (and %4 more)")
+                      : BatchJob::Phrase::English("%1, line %2: %3 does not exist (and %4 more)");
     }
-    const QString ofLine = info.isSymLink() ? BatchJob::Phrase::English("%1, line %2: %3 is a dangling link")
-                                            : BatchJob::Phrase::English("%1, line %2: %3 does not exist");
-    const QString ofName = info.isSymLink() ? BatchJob::Phrase::English("%1, name %2: %3 is a dangling link")
-                                            : BatchJob::Phrase::English("%1, name %2: %3 does not exist");
-    return (place.isNulSeparated ? ofName : ofLine).arg(TitleOf(place.list), QString::number(place.number), path);
+    text = text.arg(TitleOf(place.list), QString::number(place.number), path);
+    return more == 0 ? text : text.arg(more);
 }
 
 } // namespace
@@ -147,6 +154,7 @@ QStringList ReadInputList(const QString& path, bool isNulSeparated)
     }
     QStringList names;
     QString missing;
+    Place missingPlace;
     int missingCount = 0;
     int number = 0;
     for (QByteArray part : bytes.split(isNulSeparated ? '\0' : '\n')) {
@@ -163,16 +171,14 @@ QStringList ReadInputList(const QString& path, bool isNulSeparated)
         } catch (const RequestError& error) {
             throw error.In(place.Text());
         }
-        const QString problem = WhatIsMissing(names.last(), place);
-        if (!problem.isEmpty() && ++missingCount == 1) {
-            missing = problem;
+        const QString absolute = AbsolutePath(names.last());
+        if (!QFileInfo::exists(absolute) && ++missingCount == 1) {
+            missing = absolute;
+            missingPlace = place;
         }
     }
-    if (missingCount > 1) {
-        missing += BatchJob::Phrase::English("; and %1 more").arg(missingCount - 1);
-    }
     if (missingCount > 0) {
-        throw RequestError{missing};
+        throw RequestError{MissingText(missing, missingPlace, missingCount - 1)};
     }
     return names;
 }

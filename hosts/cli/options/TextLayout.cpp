@@ -16,7 +16,7 @@ bool ClosesText(uint character)
 {
     static const QString closing =
         QStringLiteral("\u3001\u3002\uFF0C\uFF0E\u30FB\uFF1A\uFF1B\uFF1F\uFF01\u30FC\u3063\u3083"
-                       "\u3085\u3087\u30C3\u30E3\u30E5\u30E7\uFF05.,:;?!%");
+                       "\u3085\u3087\u30C3\u30E3\u30E5\u30E7\u30A1\u30A3\u30A5\u30A7\u30A9\uFF05.,:;?!%");
     const QChar::Category category = QChar::category(character);
     return category == QChar::Punctuation_Close || category == QChar::Punctuation_FinalQuote ||
            closing.contains(QString::fromUcs4(&character, 1));

@@ -188,7 +188,7 @@ void tst_CliInputLists::wrongListsAreExplained_data()
                                   << "list, line 3: ";
     QTest::newRow("missing files are counted")
         << QByteArray("photos/1.jpg\nlost.jpg\ngone.jpg\n") << "--files-from list"
-        << "lost.jpg does not exist; and 1 more";
+        << "lost.jpg does not exist (and 1 more)";
     QTest::newRow("missing file, by NUL") << QByteArray("photos/1.jpg\0lost.jpg\0", 22) << "--files-from list -0"
                                           << "list, name 2: ";
     QTest::newRow("not UTF-8") << QByteArray("photos/1.jpg\nphotos/caf\xE9.jpg\n") << "--files-from list"
