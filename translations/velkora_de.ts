@@ -3170,5 +3170,29 @@
         <source>%1, line %2: %3 does not exist (and %4 more)</source>
         <translation>%1, Zeile %2: %3 existiert nicht (und %4 weitere)</translation>
     </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>Start-Tag erwartet.</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>Start- und End-Tag passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>Vorzeitiges Ende des Dokuments.</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>Überzähliger Inhalt am Ende des Dokuments.</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>%1 erwartet, aber ‚%2‘ gefunden.</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>Bereich in einer Zeichenklasse in falscher Reihenfolge</translation>
+    </message>
 </context>
 </TS>

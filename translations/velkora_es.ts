@@ -3170,5 +3170,29 @@
         <source>%1, line %2: %3 does not exist (and %4 more)</source>
         <translation>%1, línea %2: %3 no existe (y %4 más)</translation>
     </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>Se esperaba una etiqueta de inicio.</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>Las etiquetas de inicio y de cierre no coinciden.</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>Fin prematuro del documento.</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>Contenido sobrante al final del documento.</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>Se esperaba %1, pero hay ‘%2’.</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>intervalo desordenado en una clase de caracteres</translation>
+    </message>
 </context>
 </TS>

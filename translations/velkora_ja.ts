@@ -3170,5 +3170,29 @@
         <source>%1, line %2: %3 does not exist (and %4 more)</source>
         <translation>%1、%2 行目: %3 は存在しません（ほか %4 件）</translation>
     </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>開始タグが必要です。</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>開始タグと終了タグが一致しません。</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>文書が途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>文書の末尾に余分な内容があります。</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>%1 が必要ですが、「%2」があります。</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>文字クラスの範囲の順序が逆です</translation>
+    </message>
 </context>
 </TS>

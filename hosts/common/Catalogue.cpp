@@ -11,6 +11,9 @@ namespace {
 
 constexpr int longestText = 10'000;
 
+/// Contexts in front of a text. A long text of a library, with many colons, is not worth the time.
+constexpr int mostHeads = 8;
+
 /// Placeholders of QString::arg(): '%' and a digit. Calls `onLiteral` and `onPlace` in their order; the last call is
 /// one of a literal, which may be empty.
 template<typename OnLiteral, typename OnPlace>
@@ -124,7 +127,9 @@ QString Catalogue::Filled(const QString& english) const
         return found;
     }
     // "HEAD: TEXT", where TEXT is known.
-    for (int end = english.indexOf(HeadEnd()); end >= 0; end = english.indexOf(HeadEnd(), end + 1)) {
+    int heads = 0;
+    for (int end = english.indexOf(HeadEnd()); end >= 0 && heads < mostHeads;
+         end = english.indexOf(HeadEnd(), end + 1), ++heads) {
         const QString text = english.mid(end + HeadEnd().size());
         if (text.contains(QLatin1Char(' ')) && (FindWhole(text, found) || FindList(text, found))) {
             return Argument(english.left(end)) + HeadEnd() + found;

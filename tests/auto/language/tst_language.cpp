@@ -9,6 +9,8 @@
 
 #include <QBuffer>
 #include <QDomDocument>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <clocale>
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void reportsOfWorkersAreTranslated();
     void libraryTextsAreTranslated();
     void messagesOfTheSystemAreKnown();
+    void messagesOfLibrariesAreKnown_data();
+    void messagesOfLibrariesAreKnown();
     void titlesOfPresetsAreKnown();
     void englishStaysAsItIs();
     void otherLanguagesAreEnglish();
@@ -265,6 +269,32 @@ void tst_Language::messagesOfTheSystemAreKnown()
     UseLanguage(QStringLiteral("ja"));
     for (const SystemMessage& message : systemMessages) {
         QVERIFY(Translated(QString::fromLatin1(message.text)) != QString::fromLatin1(message.text));
+    }
+}
+
+void tst_Language::messagesOfLibrariesAreKnown_data()
+{
+    QTest::addColumn<QString>("xml");
+
+    for (const char* const xml : {"x", "", "<a>", "<a></b>", "<a/><b/>", "<a b></a>"}) {
+        QTest::newRow(xml) << QString::fromLatin1(xml);
+    }
+}
+
+/// As Qt gives them, and the one about expressions that wildcards can make.
+void tst_Language::messagesOfLibrariesAreKnown()
+{
+    QFETCH(QString, xml);
+
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    const QString expression = QRegularExpression(QStringLiteral("[z-a]")).errorString();
+    for (const char* const language : {"de", "es", "fr", "ja"}) {
+        UseLanguage(QString::fromLatin1(language));
+        QVERIFY2(Translated(reader.errorString()) != reader.errorString(), qPrintable(reader.errorString()));
+        QVERIFY2(Translated(expression) != expression, qPrintable(expression));
     }
 }
 

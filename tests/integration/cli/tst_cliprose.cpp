@@ -59,7 +59,8 @@ QRegularExpression EnglishWords(const QString& locale)
 {
     const QString inAll = QStringLiteral(
         "the|is|are|and|of|not|with|without|for|has|have|does|cannot|be|to|this|that|which|it|its|from|by|when|did|you|"
-        "there|but|needs|must|takes|such|only|matches|found|invalid|already|file|folder|line|pictures|"
+        "there|but|needs|must|takes|such|only|matches|found|expected|tag|range|invalid|already|file|folder|line|"
+        "pictures|"
         "missing|unknown|exists");
     const QString words = locale.startsWith(QLatin1String("es")) ? inAll : inAll + QStringLiteral("|use");
     return QRegularExpression(QStringLiteral("(?<![\\w=:/-])(%1)(?![\\w=:/-])").arg(words));
@@ -199,7 +200,7 @@ void tst_CliProse::proseIsTranslated_data()
         "create foo fotos\ncreate job.xml fotos\nrun doppelt -o out --structure flat\n"
         "presets keep\npresets save\npresets save a b\npresets save .a\npresets save a.xml\npresets save a?b\n"
         "presets list x\npresets list --size 5\npresets remove x\npresets remove web\neffects blurr\nformats jpg2\n"
-        "run fotos -o out --order size");
+        "run fotos -o out --order size\nrun fotos -o out --include [z-a]");
     rows(2, refused.split(QLatin1Char('\n')));
     rows(5, {QStringLiteral("run leer -o out"), QStringLiteral("create made.xml leer"),
              QStringLiteral("run fotos -o out --include *.nef"),
