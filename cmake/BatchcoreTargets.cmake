@@ -57,6 +57,9 @@ function(batchcore_program target)
         batchcore_relative_rpath(${target} "${CMAKE_INSTALL_LIBDIR}")
     endif()
     install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    if(UNIX AND EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${target}.1")
+        install(FILES "${target}.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    endif()
 endfunction()
 
 # An exported shared library of the product: versioned, installed and part of the CMake package.
