@@ -18,7 +18,7 @@ using Result = JournalState::Result;
 bool AreEqual(const Result& a, const Result& b)
 {
     return a.kind == b.kind && a.output == b.output && a.errorCode == b.errorCode && a.reason == b.reason &&
-           a.warnings == b.warnings;
+           a.warnings == b.warnings && a.facts == b.facts && a.finished == b.finished;
 }
 
 bool AreEqual(const JournalState::Beginning& a, const JournalState::Beginning& b)
@@ -118,7 +118,7 @@ void RequireContinued(const QString& path, const JournalState& state, int place)
     }
 
     constexpr int next = 1'000'000'000;
-    const Result result{Result::Kind::Failed, QStringLiteral("/a/b.jpg"), 2, QStringLiteral("it is damaged"), {}};
+    const Result result{Result::Kind::Failed, QStringLiteral("/a/b.jpg"), 2, QStringLiteral("it is damaged")};
     {
         RunJournal journal;
         Require(journal.Open(path));

@@ -4,6 +4,7 @@
 #include "Fields.h"
 #include "Require.h"
 
+#include "job/plan/FactsLine.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
 
@@ -31,6 +32,7 @@ void WriteAndRead(const QString& file, const QString& text, Action action, Polic
     const WarningLine warning{file, {kind, text}};
     const std::optional<WarningLine> readWarning = WarningLine::Parse(warning.Text(), file);
     Require(readWarning && readWarning->file == file && readWarning->warning == warning.warning);
+    Require(!FactsLine::Parse(warning.Text(), file));
     const std::optional<RefusalLine> refusal = RefusalLine::Parse(RefusalLine{text}.Text());
     Require(refusal && refusal->message == text);
     Require(WarningKindOf(WarningWord(kind)) == kind);
@@ -48,6 +50,9 @@ void ReadAndWrite(const QString& line, const QString& file)
     const std::optional<WarningLine> warning = WarningLine::Parse(line, file);
     // The word of an unknown kind is not kept.
     Require(!warning || warning->warning.kind == WarningKind::Decoder || warning->Text() == line);
+    const std::optional<FactsLine> facts = FactsLine::Parse(line, file);
+    Require(!facts || (facts->Text() == line && PossibleFacts(facts->facts) == facts->facts));
+    Require(!facts || !warning);
     const std::optional<RefusalLine> refusal = RefusalLine::Parse(line);
     Require(!refusal || refusal->Text() == line);
 }

@@ -95,6 +95,12 @@ void RequireShortLine(const QString& text)
     Require(text.trimmed() == text.simplified());
 }
 
+void RequirePossible(const QSize& size)
+{
+    Require(!size.isValid() ||
+            (size.width() >= 1 && size.width() <= 10'000'000 && size.height() >= 1 && size.height() <= 10'000'000));
+}
+
 void RequireBounded(const Report& report)
 {
     const Report failure = CheckedFailure(report);
@@ -114,7 +120,12 @@ void RequireBounded(const Report& report)
     for (const BatchJob::Warning& warning : warnings) {
         RequireShortLine(warning.text);
     }
-    ProbeResultOf(report);
+    const BatchJob::PictureFacts facts = CheckedFacts(report);
+    Require(BatchJob::PossibleFacts(facts) == facts);
+    RequirePossible(facts.inputSize);
+    RequirePossible(facts.outputSize);
+    Require(facts.quality >= 0 && facts.quality <= 100 && facts.milliseconds >= -1);
+    RequirePossible(ProbeResultOf(report).size);
 }
 
 } // namespace

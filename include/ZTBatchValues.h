@@ -20,14 +20,16 @@ enum class SizeSide : int { Width = 0, Height = 1, LongSide = 2, ShortSide = 3 }
 /// ZTBatchOutputSettings::ImageSize::unit. Lengths become pixels by the record's resolution in dots per inch.
 enum class SizeUnit : int { Pixels = 0, Percent = 1, Inches = 2, Centimetres = 3, Millimetres = 4 };
 
-/// ZTBatchOutputSettings::Crop::type. The alignment places the frame for Ratio, Fill and Exact.
+/// ZTBatchOutputSettings::Crop::type. The alignment places the frame for Ratio, TurningRatio, Fill and Exact.
 enum class CropType : int {
     None = 0,
-    Ratio = 1,       ///< the largest frame of the ratio width : height
-    Trim = 2,        ///< a border of one colour is cut off
-    Interesting = 3, ///< the most interesting frame of that ratio
-    Fill = 4,        ///< scaled to cover width x height, then cut to it
-    Exact = 5        ///< width x height pixels, clipped to the picture
+    Ratio = 1,             ///< the largest frame of the ratio width : height
+    Trim = 2,              ///< a border of one colour is cut off
+    Interesting = 3,       ///< the most interesting frame of that ratio
+    Fill = 4,              ///< scaled to cover width x height, then cut to it
+    Exact = 5,             ///< width x height pixels, clipped to the picture
+    TurningRatio = 6,      ///< as Ratio; an upright picture gets an upright frame, a lying picture a lying one
+    TurningInteresting = 7 ///< as Interesting, turned like TurningRatio
 };
 
 /// How many patterns are built in; they are numbered from 0.

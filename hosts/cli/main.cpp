@@ -1,5 +1,6 @@
 #include "hosts/cli/commands/Program.h"
 #include "hosts/cli/terminal/Startup.h"
+#include "hosts/common/Language.h"
 
 #include <QCoreApplication>
 
@@ -7,6 +8,7 @@ using namespace BatchCli;
 
 int main(int argc, char** argv)
 {
+    BatchHost::UseLanguageOfUser();
     PrepareProcess();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velkora-batch"));

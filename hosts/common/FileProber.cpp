@@ -1,5 +1,7 @@
 #include "FileProber.h"
 
+#include "job/values/Phrase.h"
+
 #include "RequestError.h"
 
 #include "server/protocol/ServerLimits.h"
@@ -126,7 +128,8 @@ void FileProber::Probe(const QVector<File>& files, const QString& settings, cons
 {
     const QString problem = ProbeRun(files, settings, onReport).Execute();
     if (!problem.isEmpty()) {
-        throw RequestError{QStringLiteral("no worker can be started to look at the pictures: %1").arg(problem)};
+        throw RequestError{
+            BatchJob::Phrase::English("no worker can be started to look at the pictures: %1").arg(problem)};
     }
 }
 

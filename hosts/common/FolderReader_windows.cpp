@@ -1,5 +1,7 @@
 #include "FolderReader.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -12,7 +14,7 @@ FolderContent ReadFolder(const QString& path)
     FolderContent content;
     const QDir folder(path);
     if (!folder.exists() || !folder.isReadable()) {
-        content.error = QStringLiteral("the folder cannot be opened");
+        content.error = Phrase::English("the folder cannot be opened");
         return content;
     }
     content.identity = IdentityOf(path);

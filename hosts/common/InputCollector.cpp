@@ -6,6 +6,7 @@
 #include "UserPath.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 
@@ -23,20 +24,18 @@ namespace {
 /// A job with deeper folders could not be read back.
 constexpr int deepestFolder = 900;
 
-QVector<QRegularExpression> Expressions(const QStringList& wildcards)
+QVector<Wildcard> Wildcards(const QStringList& patterns)
 {
-    QVector<QRegularExpression> expressions;
-    for (const QString& wildcard : wildcards) {
-        expressions.append(QRegularExpression(QRegularExpression::wildcardToRegularExpression(wildcard),
-                                              QRegularExpression::CaseInsensitiveOption));
+    QVector<Wildcard> wildcards;
+    for (const QString& pattern : patterns) {
+        wildcards.append(Wildcard(QDir::fromNativeSeparators(pattern)));
     }
-    return expressions;
+    return wildcards;
 }
 
-bool MatchesAny(const QVector<QRegularExpression>& expressions, const QString& name)
+QString WithSlash(const QString& folder)
 {
-    return std::any_of(expressions.begin(), expressions.end(),
-                       [&name](const QRegularExpression& expression) { return expression.match(name).hasMatch(); });
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
 std::unique_ptr<TreeNode<BatchNodeData>> MakeNode(const QString& path, BatchNodeType type)
@@ -85,8 +84,8 @@ InputCollector::InputCollector(ZTBatchDocument& job, const InputFilter& filter)
     : job(job)
     , filter(filter)
     , outputFolder(IdentityOf(filter.outputFolder))
-    , only(Expressions(filter.only))
-    , except(Expressions(filter.except))
+    , only(Wildcards(filter.only))
+    , except(Wildcards(filter.except))
     , extensions(BatchJob::ReadableExtensions().begin(), BatchJob::ReadableExtensions().end())
 {
     const ZTBatchInputModel& model = *job.GetInputModel();
@@ -111,15 +110,20 @@ void InputCollector::Add(const QStringList& paths)
         const QFileInfo info(path);
         if (!info.exists()) {
             qDeleteAll(loose);
-            throw RequestError{info.isSymLink() ? QStringLiteral("%1 is a dangling link").arg(path)
-                                                : QStringLiteral("%1 does not exist").arg(path)};
+            throw RequestError{info.isSymLink() ? Phrase::English("%1 is a dangling link").arg(path)
+                                                : Phrase::English("%1 does not exist").arg(path)};
         }
         if (!info.isDir() && !info.isFile()) {
             qDeleteAll(loose);
-            throw RequestError{QStringLiteral("%1 is neither a file nor a folder").arg(path)};
+            throw RequestError{Phrase::English("%1 is neither a file nor a folder").arg(path)};
+        }
+        if (IsSavedJob(path)) {
+            qDeleteAll(loose);
+            throw RequestError{QStringLiteral("%1 is a saved job, not a picture").arg(path),
+                               RequestError::Kind::SavedJobAmongInputs};
         }
         if (taken.contains(path)) {
-            repetitions.append(QStringLiteral("%1 is in the job already.").arg(path));
+            repetitions.append(Phrase::English("%1 is in the job already.").arg(path));
         } else if (info.isDir()) {
             AddFolder(path);
         } else {
@@ -141,6 +145,7 @@ void InputCollector::Add(const QStringList& paths)
 void InputCollector::AddFolder(const QString& path)
 {
     std::unique_ptr<Node> top = MakeNode(path, Folder);
+    topFolder = WithSlash(path);
     // Folders are read in the order in which they are found, but links last: a folder that is found directly and by a
     // link gets its own path.
     QVector<Node*> folders{top.get()};
@@ -175,13 +180,13 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
     const QString path = folder.data.fileName;
     const FolderContent content = ReadFolder(path);
     if (!content.error.isEmpty()) {
-        problems.append(QStringLiteral("%1 cannot be read: %2").arg(path, content.error));
+        problems.append(Phrase::English("%1 cannot be read: %2").arg(path, content.error));
     }
     if (content.identity && !IsFirst(folder, *content.identity)) {
         return;
     }
     if (DepthOf(&folder) > deepestFolder) {
-        problems.append(QStringLiteral("%1 is nested too deeply for a job.").arg(path));
+        problems.append(Phrase::English("%1 is nested too deeply for a job.").arg(path));
         return;
     }
     ++folderCount;
@@ -205,28 +210,29 @@ void InputCollector::ReadInto(Node& folder, QVector<Node*>& found)
 void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files,
                               QVector<Node*>& folders)
 {
-    if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, entry.name)) {
+    const QString path = WithSlash(folderPath) + entry.name;
+    if ((!filter.hidden && entry.name.startsWith(QLatin1Char('.'))) || MatchesAny(except, path)) {
         return;
     }
-    const QString path =
-        folderPath.endsWith(QLatin1Char('/')) ? folderPath + entry.name : folderPath + QLatin1Char('/') + entry.name;
     const bool isFolder = entry.kind == FolderEntry::Kind::Folder;
-    if (isFolder ? !filter.subfolders : !IsWanted(entry.name)) {
+    if (isFolder ? !filter.subfolders : !IsWanted(path)) {
         LookAt(entry, path);
         return;
     }
     if (!entry.hasName) {
-        problems.append(QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
+        problems.append(Phrase::English("%1 has a name that is not valid UTF-8; rename it to use it.").arg(path));
     } else if (!CanBeSaved(entry.name)) {
         problems.append(
-            QStringLiteral("%1 has a name with a character that a job cannot hold; rename it to use it.").arg(path));
+            Phrase::English("%1 has a name with a character that a job cannot hold; rename it to use it.").arg(path));
     } else if (entry.isDangling) {
-        problems.append(QStringLiteral("%1 is a dangling link.").arg(path));
+        problems.append(Phrase::English("%1 is a dangling link.").arg(path));
     } else if (isFolder) {
         const bool isOutput = outputFolder && entry.identity == outputFolder;
         if (!isOutput && !taken.contains(path)) {
             folders.append(MakeNode(path, Folder).release());
         }
+    } else if (entry.kind == FolderEntry::Kind::File && !IsReadable(entry.name) && IsSavedJob(path)) {
+        problems.append(QStringLiteral("%1 is a saved job, not a picture; it is left out.").arg(path));
     } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {
         taken.insert(path);
         files.append(MakeNode(path, File).release());
@@ -243,16 +249,30 @@ bool InputCollector::IsFirst(Node& folder, const FileIdentity& identity)
         return true;
     }
     if (path.startsWith(*known + QLatin1Char('/'))) {
-        problems.append(QStringLiteral("%1 leads back to %2; it is not followed.").arg(path, *known));
+        problems.append(Phrase::English("%1 leads back to %2; it is not followed.").arg(path, *known));
     } else {
-        repetitions.append(QStringLiteral("%1 is the folder %2, which is in the job already.").arg(path, *known));
+        repetitions.append(Phrase::English("%1 is the folder %2, which is in the job already.").arg(path, *known));
     }
     return false;
 }
 
-bool InputCollector::IsWanted(const QString& name) const
+bool InputCollector::IsReadable(const QString& name) const
 {
-    return only.isEmpty() ? extensions.contains(QFileInfo(name).suffix().toLower()) : MatchesAny(only, name);
+    return extensions.contains(QFileInfo(name).suffix().toLower());
+}
+
+bool InputCollector::IsWanted(const QString& path) const
+{
+    return only.isEmpty() ? IsReadable(path) : MatchesAny(only, path);
+}
+
+/// `path` lies below the top folder.
+bool InputCollector::MatchesAny(const QVector<Wildcard>& wildcards, const QString& path) const
+{
+    const QString below = path.mid(topFolder.size());
+    const QString name = path.section(QLatin1Char('/'), -1);
+    return std::any_of(wildcards.begin(), wildcards.end(),
+                       [&](const Wildcard& wildcard) { return wildcard.Matches(wildcard.IsOfPath() ? below : name); });
 }
 
 /// Notes a file that is not wanted for its extension alone.

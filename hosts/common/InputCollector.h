@@ -2,11 +2,11 @@
 
 #include "FolderReader.h"
 #include "LeftOutFiles.h"
+#include "Wildcard.h"
 
 #include "ZTBatchInputModel.h"
 
 #include <QHash>
-#include <QRegularExpression>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -22,8 +22,9 @@ namespace BatchHost {
 /// Which files of a folder become inputs. Files that the user names are always inputs.
 struct InputFilter
 {
-    QStringList only;   ///< wildcards; empty: every format that the server reads
-    QStringList except; ///< wildcards of files and folders to leave out
+    /// Wildcards, of names, or of paths below the folder that the user names if they contain "/".
+    QStringList only;   ///< empty: every format that the server reads
+    QStringList except; ///< of files and folders to leave out
     bool subfolders = true;
     bool hidden = false;  ///< whether names that begin with a dot are included
     QString outputFolder; ///< absolute; left out where a folder contains it, as results are not inputs
@@ -33,7 +34,8 @@ struct InputFilter
 class InputCollector
 {
 public:
-    /// `job` must outlive this object. What it has already is not added again.
+    /// `job` must outlive this object. What it has already is not added again. Throws RequestError for a wildcard that
+    /// is invalid.
     InputCollector(ZTBatchDocument& job, const InputFilter& filter);
     ~InputCollector();
 
@@ -45,7 +47,7 @@ public:
     void Add(const QStringList& paths);
 
     /// What was left out unexpectedly, one sentence each: folders that cannot be read, circular or dangling links,
-    /// names that a QString or a job cannot hold.
+    /// saved jobs, names that a QString or a job cannot hold.
     const QStringList& Problems() const { return problems; }
 
     /// What was named or found more than once, one sentence each. It is in the job once.
@@ -62,15 +64,18 @@ private:
     void ReadInto(Node& folder, QVector<Node*>& found);
     void AddEntry(const FolderEntry& entry, const QString& folderPath, QVector<Node*>& files, QVector<Node*>& folders);
     bool IsFirst(Node& folder, const BatchJob::FileIdentity& identity);
-    bool IsWanted(const QString& name) const;
+    bool IsReadable(const QString& name) const;
+    bool IsWanted(const QString& path) const;
+    bool MatchesAny(const QVector<Wildcard>& wildcards, const QString& path) const;
     void LookAt(const FolderEntry& entry, const QString& path);
     void Insert(std::unique_ptr<Node> node);
 
     ZTBatchDocument& job;
     const InputFilter filter;
     const std::optional<BatchJob::FileIdentity> outputFolder;
-    QVector<QRegularExpression> only;
-    QVector<QRegularExpression> except;
+    QVector<Wildcard> only;
+    QVector<Wildcard> except;
+    QString topFolder; ///< the folder that is being added, with "/" at the end
     QSet<QString> extensions;
     QSet<QString> taken;                                 ///< the paths in the job
     QHash<BatchJob::FileIdentity, QString> foldersTaken; ///< and their paths

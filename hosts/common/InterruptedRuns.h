@@ -21,6 +21,20 @@ public:
     {
         QString journal;                                  ///< path
         std::optional<BatchJob::JournalState> state = {}; ///< nothing if the journal is damaged
+        bool isRunning = false;                           ///< in another process: the run is not interrupted
+
+        /// Tells the run from others in its folder: 8 hexadecimal digits.
+        QString Name() const;
+
+        /// One line for users: the name, when the run began, how far it got, and its inputs.
+        QString Description() const;
+    };
+
+    /// Which run is to be resumed.
+    struct Wanted
+    {
+        bool isThisJob = false; ///< the one of the given job, and no other
+        QString name = {};      ///< Run::Name(); empty for any
     };
 
     explicit InterruptedRuns(const QString& outputFolder);
@@ -28,14 +42,20 @@ public:
     /// One sentence for each journal that does not count, with the reason.
     const QStringList& Ignored() const { return ignored; }
 
-    /// The run to resume: the one of `job`; without that the only one, unless `isThisJob`. Throws RequestError.
-    const Run& Choose(const ZTBatchDocument& job, bool isThisJob) const;
+    /// How many runs are interrupted and not running.
+    int Count() const;
+
+    /// The run to resume: the one with the wanted name; without a name the one of `job`, else the only one, unless it
+    /// has to be this job. Throws RequestError.
+    const Run& Choose(const ZTBatchDocument& job, const Wanted& wanted) const;
 
 private:
+    const Run& ChooseByName(const QString& name) const;
     const Run* RunOf(const ZTBatchDocument& job) const;
+    QStringList Descriptions() const;
 
     QString folder;
-    std::vector<Run> runs;
+    std::vector<Run> runs; ///< the oldest first
     QStringList ignored;
 };
 

@@ -3,6 +3,7 @@
 #include "RunInputs.h"
 
 #include "job/journal/RunJournal.h"
+#include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
@@ -54,7 +55,9 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
                                                const Circumstances& circumstances,
                                                const QVector<RunObserver*>& observers)
 {
-    const QString journalPath = journaled.BeginJournal(circumstances.policies);
+    const bool isInPlace = journaled.IsInPlace() || BatchProtocol::ServerLimits::FromEnvironment().replacesOriginals;
+    BatchProtocol::inPlaceLimit.Set(isInPlace ? 1 : 0);
+    const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace);
     // The server, which inherits the environment, continues the journal.
     qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
     RunInputs inputs = InputsOf(job);
@@ -62,7 +65,7 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     return std::make_unique<RunController>(
         RunController::Order{journaled.Document(), inputs, job.GetOutputSettings()->GetPath(), circumstances.policies,
                              journalPath, circumstances.isStrict},
-        observers);
+        QVector<RunObserver*>{journaled.Observer()} + observers);
 }
 
 } // namespace BatchHost

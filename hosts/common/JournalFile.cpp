@@ -5,6 +5,7 @@
 #include "job/journal/RunJournal.h"
 
 #include "job/journal/OwnFile.h"
+#include "job/values/Phrase.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -47,6 +48,18 @@ QStringList FilesNamed(const QString& folder, const QString& start, const QStrin
     return paths;
 }
 
+/// The folder `path` and those above it that do not exist, the deepest first.
+QStringList MissingFolders(const QString& path)
+{
+    QStringList missing;
+    QString folder = QDir::cleanPath(path);
+    while (!QFileInfo::exists(folder) && QFileInfo(folder).path() != folder) {
+        missing.append(folder);
+        folder = QFileInfo(folder).path();
+    }
+    return missing;
+}
+
 /// Whether `lock` names a process of this machine that has ended.
 bool HasHolderEnded(const QLockFile& lock)
 {
@@ -84,7 +97,8 @@ JournalFile::JournalFile(const QString& path)
         isHeld = lock.tryLock(timeout);
     }
     if (!isHeld) {
-        problem = IsInUse() ? QStringLiteral("it is still running") : QStringLiteral("the folder cannot be written");
+        problem = IsInUse() ? BatchJob::Phrase::English("it is still running")
+                            : BatchJob::Phrase::English("the folder cannot be written");
     }
 }
 
@@ -92,10 +106,13 @@ JournalFile::~JournalFile() = default;
 
 std::unique_ptr<JournalFile> JournalFile::New(const QString& outputFolder, const QString& document)
 {
+    const QStringList missing = MissingFolders(outputFolder);
     QDir().mkpath(outputFolder);
     const quint64 number = QRandomGenerator::system()->generate64();
     const QString name = NameStartOf(document) + QStringLiteral("%1").arg(number, 16, 16, QLatin1Char('0')) + nameEnd;
-    return std::unique_ptr<JournalFile>(new JournalFile(QDir(outputFolder).filePath(name)));
+    std::unique_ptr<JournalFile> journal(new JournalFile(QDir(outputFolder).filePath(name)));
+    journal->madeFolders = missing;
+    return journal;
 }
 
 std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
@@ -115,7 +132,8 @@ std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
         }
         std::unique_ptr<JournalFile> other(new JournalFile(journalPath));
         if (other->IsInUse()) {
-            throw RequestError{QStringLiteral("the same job is already running into %1").arg(own.path())};
+            throw RequestError{BatchJob::Phrase::English("the same job is already running into %1").arg(own.path()),
+                               RequestError::Kind::AlreadyRunning};
         }
         if (other->problem.isEmpty() && other->Exists()) {
             others.push_back(std::move(other));
@@ -129,9 +147,15 @@ std::unique_ptr<JournalFile> JournalFile::Take(const QString& path)
     std::unique_ptr<JournalFile> journal(new JournalFile(path));
     if (!journal->problem.isEmpty()) {
         throw RequestError{
-            QStringLiteral("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem)};
+            BatchJob::Phrase::English("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem),
+            journal->IsInUse() ? RequestError::Kind::AlreadyRunning : RequestError::Kind::Other};
     }
     return journal;
+}
+
+bool JournalFile::IsRunning(const QString& path)
+{
+    return QFileInfo::exists(path + lockEnd) && JournalFile(path).IsInUse();
 }
 
 QStringList JournalFile::In(const QString& outputFolder)
@@ -160,6 +184,15 @@ void JournalFile::Remove()
 {
     QFile::remove(path);
     QFile::remove(path + QLatin1String(BatchJob::journalHoldEnd)); // Left by a server that died.
+}
+
+void JournalFile::RemoveWithFolders()
+{
+    Remove();
+    lock.unlock();
+    for (const QString& folder : qAsConst(madeFolders)) {
+        QDir().rmdir(folder);
+    }
 }
 
 } // namespace BatchHost

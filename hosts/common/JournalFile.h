@@ -25,6 +25,9 @@ public:
     /// The journal at `path`, to resume its run. Throws RequestError if the run is still running.
     static std::unique_ptr<JournalFile> Take(const QString& path);
 
+    /// Whether another process runs the journal at `path`.
+    static bool IsRunning(const QString& path);
+
     /// The paths of all files in `outputFolder` that are called like journals, whatever they are.
     static QStringList In(const QString& outputFolder);
 
@@ -43,6 +46,9 @@ public:
     /// For a finished run.
     void Remove();
 
+    /// For a run that has not begun: removes the folders that were made for it too, if they are empty.
+    void RemoveWithFolders();
+
 private:
     explicit JournalFile(const QString& path);
 
@@ -50,6 +56,7 @@ private:
     bool IsInUse() const { return lock.error() == QLockFile::LockFailedError; }
 
     QString path;
+    QStringList madeFolders; ///< by New(), the deepest first
     QLockFile lock;
     QString problem;
 };

@@ -4,6 +4,7 @@
 #include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -18,48 +19,55 @@ JournaledJob JournaledJob::New(const ZTBatchDocument& job)
     JournaledJob journaled;
     journaled.document = job.Serialize(nullptr);
     journaled.file = JournalFile::New(job.GetOutputSettings()->GetPath(), journaled.document);
-    journaled.replaced = journaled.file->OthersOfItsJob();
+    journaled.earlier->journals = journaled.file->OthersOfItsJob();
     return journaled;
 }
 
-JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs, bool isThisJob)
+JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs,
+                                       const InterruptedRuns::Wanted& wanted)
 {
-    const InterruptedRuns::Run& run = runs.Choose(job, isThisJob);
+    const InterruptedRuns::Run& run = runs.Choose(job, wanted);
     JournaledJob journaled;
     journaled.file = JournalFile::Take(run.journal);
     journaled.document = run.state->document;
     journaled.policies = run.state->policies;
+    journaled.isInPlace = run.state->isInPlace;
     if (!journaled.file->Exists()) { // The run was still going on when it was chosen, and is finished now.
         throw RequestError{
-            QStringLiteral("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath())};
+            Phrase::English("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath()),
+            RequestError::Kind::NothingToResume};
     }
     job.Deserialize(journaled.document);
     return journaled;
 }
 
-QString JournaledJob::BeginJournal(const PolicyValues& newPolicies)
+void JournaledJob::EarlierRuns::Forget()
+{
+    for (const std::unique_ptr<JournalFile>& journal : journals) {
+        journal->Remove();
+    }
+    journals.clear();
+}
+
+QString JournaledJob::BeginJournal(const PolicyValues& newPolicies, bool mayReplaceOriginals)
 {
     if (policies) {
         return file->Path();
     }
     problem = file->Problem();
     RunJournal journal;
-    if (problem.isEmpty() && !journal.Create(file->Path(), document, newPolicies)) {
+    if (problem.isEmpty() && !journal.Create(file->Path(), document, newPolicies, mayReplaceOriginals)) {
         problem = QStringLiteral("%1: %2").arg(file->Path(), journal.Problem());
     }
-    if (!problem.isEmpty()) {
-        return {};
-    }
-    for (const std::unique_ptr<JournalFile>& earlier : replaced) {
-        earlier->Remove();
-    }
-    replaced.clear();
-    return file->Path();
+    return problem.isEmpty() ? file->Path() : QString();
 }
 
 void JournaledJob::End(const RunEnd& end)
 {
-    if (end.IsFinished()) {
+    const bool isRefused = end.Outcome() == RunOutcome::Refused;
+    if (isRefused && !policies) {
+        file->RemoveWithFolders();
+    } else if (end.IsFinished() && !isRefused) {
         file->Remove();
     }
 }

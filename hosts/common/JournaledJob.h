@@ -2,7 +2,7 @@
 
 #include "InterruptedRuns.h"
 #include "JournalFile.h"
-#include "RunResults.h"
+#include "RunObserver.h"
 
 #include "job/values/PolicyValues.h"
 
@@ -24,9 +24,10 @@ public:
     /// A run of `job` from its beginning. Throws RequestError when the job cannot be used, or is already running.
     static JournaledJob New(const ZTBatchDocument& job);
 
-    /// One of `runs`, which were interrupted in the output folder of `job`. It becomes `job`; with `isThisJob` it has
-    /// to be the same one already. Throws RequestError when there is no such run.
-    static JournaledJob Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs, bool isThisJob);
+    /// One of `runs`, which were interrupted in the output folder of `job`: the one that `wanted` describes. It becomes
+    /// `job`. Throws RequestError when there is no such run.
+    static JournaledJob Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs,
+                                    const InterruptedRuns::Wanted& wanted);
 
     /// The text of the job.
     const QString& Document() const { return document; }
@@ -34,15 +35,22 @@ public:
     /// The policies of the interrupted run; nothing for a new one.
     const std::optional<BatchJob::PolicyValues>& Policies() const { return policies; }
 
+    /// Whether the interrupted run was allowed to replace originals.
+    bool IsInPlace() const { return isInPlace; }
+
     /// Whether the run can be resumed after its end.
     bool CanBeResumed() const { return file->Exists(); }
 
-    /// Whether this is a new run of a job that was interrupted before. BeginJournal() forgets the earlier run.
-    bool StartsAnew() const { return !replaced.empty(); }
+    /// Whether this is a new run of a job that was interrupted before. The earlier run is forgotten when this one
+    /// begins with a picture.
+    bool StartsAnew() const { return !earlier->journals.empty(); }
 
     /// Begins the journal of a new run. Returns the path of the journal; an empty one when it cannot be written, see
     /// Problem().
-    QString BeginJournal(const BatchJob::PolicyValues& newPolicies);
+    QString BeginJournal(const BatchJob::PolicyValues& newPolicies, bool mayReplaceOriginals);
+
+    /// Has to watch the run.
+    RunObserver* Observer() { return earlier.get(); }
 
     /// Why the run has no journal, for users.
     QString Problem() const { return problem; }
@@ -51,13 +59,24 @@ public:
     void End(const RunEnd& end);
 
 private:
+    /// The journals of earlier runs of the same job.
+    struct EarlierRuns : public RunObserver
+    {
+        void OnInWork(const QStringList&, const QString&) override { Forget(); }
+        void OnResult(const FileResult&, int, int) override { Forget(); }
+        void Forget();
+
+        std::vector<std::unique_ptr<JournalFile>> journals;
+    };
+
     JournaledJob() = default;
 
     std::unique_ptr<JournalFile> file;
-    std::vector<std::unique_ptr<JournalFile>> replaced; ///< journals of earlier runs of the same job
+    std::unique_ptr<EarlierRuns> earlier = std::make_unique<EarlierRuns>();
     QString document;
     QString problem;
     std::optional<BatchJob::PolicyValues> policies;
+    bool isInPlace = false;
 };
 
 } // namespace BatchHost

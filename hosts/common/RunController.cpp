@@ -4,6 +4,7 @@
 
 #include "job/journal/RunJournal.h"
 #include "job/plan/CommandLog.h"
+#include "job/plan/FactsLine.h"
 #include "job/plan/Trouble.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -73,6 +74,7 @@ void RunController::Start()
             }
         }
     }
+    end.unwrittenBefore = end.unwritten;
     StartServer();
 }
 
@@ -176,10 +178,13 @@ void RunController::OnFileProcessed(const QString& input, const QString& output)
     watch.Heard();
     FileResult result{input, output, FileResult::Kind::Written, ZTBatchMessage::NoError, {}};
     for (const QString& text : std::exchange(logs, {})) {
-        if (const std::optional<WarningLine> line = WarningLine::Parse(text, input)) {
-            result.warnings.append(line->warning);
+        if (const std::optional<WarningLine> warning = WarningLine::Parse(text, input)) {
+            result.warnings.append(warning->warning);
+        } else if (const std::optional<FactsLine> known = FactsLine::Parse(text, input)) {
+            result.facts = known->facts;
         }
     }
+    result.finished = QDateTime::currentDateTimeUtc();
     Settle(result);
 }
 
@@ -199,10 +204,14 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
     case BatchJob::Action::FileSkipped:
     case BatchJob::Action::RunStopped: {
         const bool isSkipped = CountsAsSkipped(BatchJob::Action(action), errorCode);
-        Settle({input, output, isSkipped ? FileResult::Kind::Skipped : FileResult::Kind::Failed, errorCode, reason});
+        FileResult result{input, output, isSkipped ? FileResult::Kind::Skipped : FileResult::Kind::Failed, errorCode,
+                          reason};
+        result.finished = QDateTime::currentDateTimeUtc();
+        Settle(result);
         break;
     }
     default: {
+        end.renamed += BatchJob::Action(action) == BatchJob::Action::WrittenUnderAnotherName ? 1 : 0;
         const BatchJob::Word* const word = BatchJob::FindWord(BatchJob::ActionWords, action);
         const QString what = word == nullptr ? QString::number(action) : QString::fromLatin1(word->word);
         for (RunObserver* const observer : observers) {
@@ -302,7 +311,10 @@ void RunController::Answer(int value, bool isForTheRest)
 
 FileResult RunController::Judged(const FileResult& result) const
 {
-    return order.isStrict ? StrictResult(result) : result;
+    FileResult judged = order.isStrict ? StrictResult(result) : result;
+    const QVector<int> places = open.value(result.input);
+    judged.inputBytes = places.isEmpty() ? -1 : order.inputs.bytes.at(places.first());
+    return judged;
 }
 
 void RunController::Settle(const FileResult& settled)
@@ -341,6 +353,9 @@ bool RunController::Count(const FileResult& result, int index)
         ++end.failed;
         break;
     }
+    if (result.kind != FileResult::Kind::Written) {
+        ++end.unwritten[PolicyOfError(result.errorCode)];
+    }
     for (const Warning& warning : result.warnings) {
         ++end.warnings[warning.kind];
     }
@@ -356,7 +371,7 @@ QVector<QPair<int, FileResult>> RunController::JournaledResults() const
         if (found != state->results.constEnd()) {
             results.append({i,
                             {order.inputs.files.at(i), found->output, found->kind, found->errorCode, found->reason,
-                             found->warnings}});
+                             found->warnings, found->facts, found->finished}});
         }
     }
     return results;

@@ -89,6 +89,8 @@ private:
     void NoteLoss(const QStringList& lost) const;
     void End(bool isCancelled, bool isServerLost);
     QString ReasonOfError(const QString& input, BatchJob::Action action, int errorCode);
+
+    /// As this run counts it, with what the host knows of its input. For inputs without a result.
     FileResult Judged(const FileResult& result) const;
 
     const Order order;

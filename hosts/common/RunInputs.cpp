@@ -13,8 +13,9 @@ RunInputs InputsOf(const ZTBatchDocument& job)
     RunInputs inputs;
     for (const BatchJob::JobFile& file : BatchJob::FilesOfJob(*job.GetInputModel())) {
         inputs.files.append(file.path);
-        inputs.bytes.append(QFileInfo(file.path).size());
-        inputs.allBytes += inputs.bytes.last();
+        const QFileInfo info(file.path);
+        inputs.bytes.append(info.exists() ? info.size() : -1);
+        inputs.allBytes += info.size();
     }
     return inputs;
 }

@@ -14,7 +14,7 @@ namespace BatchHost {
 struct RunInputs
 {
     QStringList files;
-    QVector<qint64> bytes;
+    QVector<qint64> bytes; ///< negative for a file that does not exist
     qint64 allBytes = 0;
     LeftOutFiles leftOut; ///< found beside the inputs when they were collected
 };

@@ -1,6 +1,9 @@
 #include "RunReport.h"
 
+#include "job/values/Phrase.h"
+
 #include "RequestError.h"
+#include "ResultFields.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,6 +33,19 @@ QString TextOf(const Warnings& warnings)
     return texts.join(QStringLiteral("; "));
 }
 
+/// The columns of FactFieldNames(); empty where a field is not known.
+QString FactColumnsOf(const FileResult& result)
+{
+    constexpr int precision = 15; // As many digits as a whole number of bytes may have.
+    const QJsonObject fields = FactFieldsOf(result);
+    QStringList columns;
+    for (const QString& name : FactFieldNames()) {
+        const QJsonValue value = fields.value(name);
+        columns.append(value.isDouble() ? QString::number(value.toDouble(), 'g', precision) : value.toString());
+    }
+    return columns.join(QLatin1Char(','));
+}
+
 QJsonArray JsonOf(const Warnings& warnings)
 {
     QJsonArray array;
@@ -47,10 +63,10 @@ RunReport::RunReport(const QString& path)
     , isJson(path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
 {
     if (!isJson && !path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
-        throw RequestError{QStringLiteral("the name \"%1\" must end with .csv or .json").arg(path)};
+        throw RequestError{Phrase::English("the name \"%1\" must end with .csv or .json").arg(path)};
     }
     if (!file.open(QIODevice::WriteOnly)) {
-        throw RequestError{QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{Phrase::English("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 
@@ -59,6 +75,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
     for (const QString& input : inputs.files) {
         Entry entry;
         entry.result.input = input;
+        entry.result.inputBytes = inputs.bytes.at(entries.size());
         entries.append(entry);
     }
     for (int i = entries.size() - 1; i >= 0; --i) {
@@ -68,7 +85,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
         Entry entry;
         entry.result.input = leftOut.path;
         entry.result.reason =
-            QStringLiteral("it begins like a %1 file, but its extension is not known").arg(leftOut.format);
+            Phrase::English("it begins like a %1 file, but its extension is not known").arg(leftOut.format);
         entry.word = QStringLiteral("left out");
         entries.append(entry);
     }
@@ -87,18 +104,20 @@ void RunReport::OnEnd(const RunEnd&)
 {
     const QByteArray bytes = isJson ? Json() : Csv();
     if (file.write(bytes) != bytes.size() || !file.commit()) {
-        error = QStringLiteral("the report %1 cannot be written: %2").arg(file.fileName(), file.errorString());
+        error = Phrase::English("the report %1 cannot be written: %2").arg(file.fileName(), file.errorString());
     }
 }
 
 QByteArray RunReport::Csv() const
 {
-    QString text = QStringLiteral("input,output,result,code,reason,warnings\r\n");
+    const QString facts = FactFieldNames().join(QLatin1Char(','));
+    QString text = QStringLiteral("input,output,result,code,reason,warnings,%1\r\n").arg(facts);
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        text += QStringLiteral("%1,%2,%3,%4,%5,%6\r\n")
-                    .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word),
-                         QString::number(result.errorCode), Quoted(result.reason), Quoted(TextOf(result.warnings)));
+        text +=
+            QStringLiteral("%1,%2,%3,%4,%5,%6,%7\r\n")
+                .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word), QString::number(result.errorCode),
+                     Quoted(result.reason), Quoted(TextOf(result.warnings)), FactColumnsOf(result));
     }
     return text.toUtf8();
 }
@@ -108,12 +127,14 @@ QByteArray RunReport::Json() const
     QJsonArray array;
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        array.append(QJsonObject{{QStringLiteral("input"), result.input},
-                                 {QStringLiteral("output"), result.output},
-                                 {QStringLiteral("result"), entry.word},
-                                 {QStringLiteral("code"), result.errorCode},
-                                 {QStringLiteral("reason"), result.reason},
-                                 {QStringLiteral("warnings"), JsonOf(result.warnings)}});
+        QJsonObject object = FactFieldsOf(result);
+        object.insert(QStringLiteral("input"), result.input);
+        object.insert(QStringLiteral("output"), result.output);
+        object.insert(QStringLiteral("result"), entry.word);
+        object.insert(QStringLiteral("code"), result.errorCode);
+        object.insert(QStringLiteral("reason"), result.reason);
+        object.insert(QStringLiteral("warnings"), JsonOf(result.warnings));
+        array.append(object);
     }
     return QJsonDocument(array).toJson(QJsonDocument::Indented);
 }

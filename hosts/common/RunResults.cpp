@@ -1,5 +1,7 @@
 #include "RunResults.h"
 
+#include "job/values/Phrase.h"
+
 #include "ZTBatchMessage.h"
 
 #include <numeric>
@@ -11,7 +13,7 @@ FileResult StrictResult(const FileResult& result)
     FileResult strict = result;
     if (result.kind == FileResult::Kind::Written && !result.warnings.isEmpty()) {
         strict.kind = FileResult::Kind::Failed;
-        strict.reason = QStringLiteral("written with a warning: %1")
+        strict.reason = BatchJob::Phrase::English("written with a warning: %1")
                             .arg(BatchJob::TextsOf(result.warnings).join(QStringLiteral("; ")));
     }
     return strict;

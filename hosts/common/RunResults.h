@@ -1,8 +1,11 @@
 #pragma once
 
+#include "job/values/PictureFacts.h"
+#include "job/values/PolicyValues.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
 
+#include <QDateTime>
 #include <QMap>
 #include <QString>
 
@@ -19,6 +22,9 @@ struct FileResult
     int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
     QString reason;    ///< one sentence; empty when it was written
     BatchJob::Warnings warnings = {};
+    BatchJob::PictureFacts facts = {}; ///< of a picture that was written
+    QDateTime finished = {};           ///< invalid if it is not known
+    qint64 inputBytes = -1;            ///< when the run began; negative for an input that did not exist
 };
 
 /// `result` as a strict run counts it: a picture with warnings has failed, although its file is there. The error code
@@ -42,6 +48,13 @@ struct RunEnd
     int skipped = 0;
     int failed = 0;
     QMap<BatchJob::WarningKind, int> warnings; ///< how many there are of each kind
+
+    /// The skipped and failed files by the policies that decide about them; None for those that were written, but with
+    /// warnings.
+    QMap<BatchJob::PolicyKind, int> unwritten;
+
+    QMap<BatchJob::PolicyKind, int> unwrittenBefore; ///< those of them that an earlier part of the run has left
+    int renamed = 0; ///< results under other names than planned, in this part of the run
     double seconds = 0;
     bool isCancelled = false;
     bool isServerLost = false;

@@ -7,4 +7,7 @@ namespace BatchHost {
 /// The absolute, clean form of a path that a user gave, resolved against the current folder.
 QString AbsolutePath(const QString& path);
 
+/// The folder with the user's policies and presets, which all hosts share.
+QString UserSettingsFolder();
+
 } // namespace BatchHost

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -17,11 +19,12 @@ EffectSchema AutoLevelsEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("auto-levels");
-    effect.description = QStringLiteral("Spreads the values that a picture has from black to white");
+    effect.description = Phrase::English("Spreads the values that a picture has from black to white");
     effect.parameters = {
-        NumberParameter("clip", 0.1, 0, 10, "percent", "how many of the darkest and of the brightest pixels may clip"),
+        NumberParameter("clip", 0.1, 0, 10, Phrase::Marked("percent"),
+                        Phrase::Marked("how many of the darkest and of the brightest pixels may clip")),
         ChoiceParameter("channels", {QStringLiteral("together"), QStringLiteral("each")},
-                        "together keeps colours as they are; each for itself removes a cast")};
+                        Phrase::Marked("together keeps colours as they are; each for itself removes a cast"))};
     effect.definition =
         QStringLiteral("Black is the lowest value that more than the clipped share of the pixels does not exceed, "
                        "white likewise from above; values are spread linearly between them. Together, the lowest "

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -18,9 +20,11 @@ EffectSchema ClarityEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("clarity");
     effect.description =
-        QStringLiteral("Raises or lowers the contrast of larger structures, mostly in the middle tones");
-    effect.parameters = {NumberParameter("amount", 30, -100, 100, "percent", "below 0 softens"),
-                         NumberParameter("sigma", 40, 5, 500, "pixels", "size of the structures in the result")};
+        Phrase::English("Raises or lowers the contrast of larger structures, mostly in the middle tones");
+    effect.parameters = {
+        NumberParameter("amount", 30, -100, 100, Phrase::Marked("percent"), Phrase::Marked("below 0 softens")),
+        NumberParameter("sigma", 40, 5, 500, Phrase::Marked("pixels"),
+                        Phrase::Marked("size of the structures in the result"))};
     effect.definition =
         QStringLiteral("Each channel changes by amount / 100 x 4 Y (1 - Y) (Y - B), where Y is the luma and B the "
                        "luma blurred as by blur.");

@@ -1,5 +1,7 @@
 #include "CubeFile.h"
 
+#include "job/values/Phrase.h"
+
 #include <QByteArrayList>
 #include <QFile>
 #include <QFileInfo>
@@ -73,13 +75,13 @@ QString CubeReader::Take(const QByteArrayList& words)
 QString CubeReader::TakeSize(const QByteArrayList& words, int dimensions)
 {
     if (table.dimensions != 0) {
-        return QStringLiteral("a second size; one table is needed, of one or of three dimensions");
+        return Phrase::English("a second size; one table is needed, of one or of three dimensions");
     }
     const int largest = dimensions == 1 ? largestCurve : largestCube;
     bool isNumber = false;
     const int size = words.size() == 2 ? words[1].toInt(&isNumber) : 0;
     if (!isNumber || size < 2 || size > largest) {
-        return QStringLiteral("\"%1\"; %2 needs a whole number from 2 to %3")
+        return Phrase::English("\"%1\"; %2 needs a whole number from 2 to %3")
             .arg(Shown(words), QString::fromLatin1(words[0]))
             .arg(largest);
     }
@@ -97,7 +99,7 @@ QString CubeReader::TakeDomain(const QByteArrayList& words, std::array<float, 3>
     }
     return areNumbers
                ? QString()
-               : QStringLiteral("\"%1\"; %2 needs three numbers").arg(Shown(words), QString::fromLatin1(words[0]));
+               : Phrase::English("\"%1\"; %2 needs three numbers").arg(Shown(words), QString::fromLatin1(words[0]));
 }
 
 QString CubeReader::TakeInputRange(const QByteArrayList& words)
@@ -105,7 +107,7 @@ QString CubeReader::TakeInputRange(const QByteArrayList& words)
     float minimum = 0;
     float maximum = 0;
     if (words.size() != 3 || !ReadNumber(words[1], minimum) || !ReadNumber(words[2], maximum)) {
-        return QStringLiteral("\"%1\"; %2 needs two numbers").arg(Shown(words), QString::fromLatin1(words[0]));
+        return Phrase::English("\"%1\"; %2 needs two numbers").arg(Shown(words), QString::fromLatin1(words[0]));
     }
     table.domainMinimum.fill(minimum);
     table.domainMaximum.fill(maximum);
@@ -120,13 +122,13 @@ QString CubeReader::TakeEntry(const QByteArrayList& words)
         areNumbers = ReadNumber(words[channel], entry[static_cast<size_t>(channel)]);
     }
     if (!areNumbers) {
-        return QStringLiteral("\"%1\"; three numbers or a known keyword are needed").arg(Shown(words));
+        return Phrase::English("\"%1\"; three numbers or a known keyword are needed").arg(Shown(words));
     }
     if (table.dimensions == 0) {
-        return QStringLiteral("an entry before LUT_1D_SIZE or LUT_3D_SIZE");
+        return Phrase::English("an entry before LUT_1D_SIZE or LUT_3D_SIZE");
     }
     if (table.values.size() == ValuesNeeded()) {
-        return QStringLiteral("one entry more than the %1 that the size says").arg(ValuesNeeded() / 3);
+        return Phrase::English("one entry more than the %1 that the size says").arg(ValuesNeeded() / 3);
     }
     table.values.insert(table.values.end(), entry.begin(), entry.end());
     return {};
@@ -141,16 +143,16 @@ size_t CubeReader::ValuesNeeded() const
 QString CubeReader::End() const
 {
     if (table.dimensions == 0) {
-        return QStringLiteral("no LUT_1D_SIZE and no LUT_3D_SIZE; this is not a .cube file");
+        return Phrase::English("no LUT_1D_SIZE and no LUT_3D_SIZE; this is not a .cube file");
     }
     if (table.values.size() != ValuesNeeded()) {
-        return QStringLiteral("the file ends after %1 of %2 entries")
+        return Phrase::English("the file ends after %1 of %2 entries")
             .arg(table.values.size() / 3)
             .arg(ValuesNeeded() / 3);
     }
     for (size_t channel = 0; channel < 3; ++channel) {
         if (!(table.domainMinimum[channel] < table.domainMaximum[channel])) {
-            return QStringLiteral("DOMAIN_MIN must be less than DOMAIN_MAX in every channel");
+            return Phrase::English("DOMAIN_MIN must be less than DOMAIN_MAX in every channel");
         }
     }
     return {};
@@ -158,7 +160,7 @@ QString CubeReader::End() const
 
 QString AtLine(const QString& name, int line, const QString& problem)
 {
-    return QStringLiteral("%1, line %2: %3").arg(name).arg(line).arg(problem);
+    return Phrase::English("%1, line %2: %3").arg(name).arg(line).arg(problem);
 }
 
 } // namespace
@@ -167,19 +169,21 @@ CubeFile ReadCubeFile(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return {{}, QStringLiteral("%1 does not exist").arg(path)};
+        return {{}, Phrase::English("%1 does not exist").arg(path)};
     }
     if (!info.isFile()) {
-        return {{}, QStringLiteral("%1 is not a file").arg(path)};
+        return {{}, Phrase::English("%1 is not a file").arg(path)};
     }
     if (info.size() > largestFile) {
-        return {
-            {},
-            QStringLiteral("%1 has %2 bytes; a .cube file has at most %3").arg(path).arg(info.size()).arg(largestFile)};
+        return {{},
+                Phrase::English("%1 has %2 bytes; a .cube file has at most %3")
+                    .arg(path)
+                    .arg(info.size())
+                    .arg(largestFile)};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString())};
+        return {{}, Phrase::English("%1 cannot be read: %2").arg(path, file.errorString())};
     }
     return ReadCube(file, path);
 }
@@ -196,7 +200,7 @@ CubeFile ReadCube(QIODevice& device, const QString& name)
             break;
         }
         if (line.size() > longestLine) {
-            return {{}, AtLine(name, number, QStringLiteral("longer than %1 bytes").arg(longestLine))};
+            return {{}, AtLine(name, number, Phrase::English("longer than %1 bytes").arg(longestLine))};
         }
         if (number == 1 && line.startsWith("\xEF\xBB\xBF")) {
             line.remove(0, 3);

@@ -5,6 +5,7 @@
 #include "job/values/ParameterSchema.h"
 
 #include <QByteArray>
+#include <QSize>
 #include <QString>
 #include <QVector>
 
@@ -32,6 +33,15 @@ struct EffectSchema
 
     /// See NeedsRandomAccess(). Null when the effect never does.
     bool (*randomAccess)(const QJsonObject& parameters) = nullptr;
+
+    /// See SizeAfter(). Null when the effect keeps sizes.
+    QSize (*changedSize)(const QSize& size, const QJsonObject& parameters) = nullptr;
+
+    /// The size in pixels that the effect, with complete parameters, makes of `size`.
+    QSize SizeAfter(const QSize& size, const QJsonObject& complete) const
+    {
+        return changedSize ? changedSize(size, complete) : size;
+    }
 
     /// Whether the effect, with complete parameters, reads its picture more than once, or not from top to bottom.
     bool NeedsRandomAccess(const QJsonObject& complete) const { return randomAccess && randomAccess(complete); }

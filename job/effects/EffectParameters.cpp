@@ -1,5 +1,7 @@
 #include "EffectParameters.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -63,7 +65,7 @@ QString PercentProblem(const QJsonObject& parameters, const QStringList& names)
     }
     for (const QString& name : names) {
         if (parameters[name].toDouble() > 100) {
-            return QStringLiteral("\"%1\" is %2 percent; it must be at most 100, or the unit pixels")
+            return Phrase::English("\"%1\" is %2 percent; it must be at most 100, or the unit pixels")
                 .arg(name)
                 .arg(parameters[name].toDouble());
         }

@@ -1,6 +1,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -17,10 +19,10 @@ EffectSchema FlipEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("flip");
-    effect.description = QStringLiteral("Mirrors a picture");
+    effect.description = Phrase::English("Mirrors a picture");
     effect.parameters = {
         ChoiceParameter("direction", {QStringLiteral("horizontal"), QStringLiteral("vertical"), QStringLiteral("both")},
-                        "horizontal swaps left and right")};
+                        Phrase::Marked("horizontal swaps left and right"))};
     effect.definition = QStringLiteral("Every pixel keeps its value.");
     effect.example = QByteArrayLiteral(R"({"direction": "horizontal"})");
     effect.randomAccess = SwapsLines;

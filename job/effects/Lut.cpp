@@ -2,6 +2,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -19,11 +21,13 @@ EffectSchema LutEffect()
     EffectSchema effect;
     effect.id = QStringLiteral("lut");
     effect.description =
-        QStringLiteral("Maps colours by the table of a .cube file; a grey picture becomes a colour picture");
-    effect.parameters = {FileParameter("file", "the .cube file, with a table of one or three dimensions"),
-                         NumberParameter("strength", 100, 0, 100, "percent", "0 leaves the picture as it is"),
-                         ChoiceParameter("interpolation", {QStringLiteral("tetrahedral"), QStringLiteral("trilinear")},
-                                         "between the entries of a table of three dimensions")};
+        Phrase::English("Maps colours by the table of a .cube file; a grey picture becomes a colour picture");
+    effect.parameters = {
+        FileParameter("file", Phrase::Marked("the .cube file, with a table of one or three dimensions")),
+        NumberParameter("strength", 100, 0, 100, Phrase::Marked("percent"),
+                        Phrase::Marked("0 leaves the picture as it is")),
+        ChoiceParameter("interpolation", {QStringLiteral("tetrahedral"), QStringLiteral("trilinear")},
+                        Phrase::Marked("between the entries of a table of three dimensions"))};
     effect.definition =
         QStringLiteral("Tables in version 1.0 of the Cube LUT format, of 2 to 65536 entries in one or 2 to 129 "
                        "along each of three dimensions; TITLE, DOMAIN_MIN, DOMAIN_MAX and comments are understood. "

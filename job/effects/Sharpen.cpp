@@ -2,6 +2,8 @@
 #include "EffectParameters.h"
 #include "EffectRecords.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 namespace {
@@ -18,11 +20,13 @@ EffectSchema SharpenEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("sharpen");
-    effect.description = QStringLiteral("Sharpens edges by an unsharp mask");
-    effect.parameters = {
-        NumberParameter("sigma", 1, 0.1, 20, "pixels", "standard deviation of the mask in the result"),
-        NumberParameter("amount", 60, 0, 500, "percent", "how much of the difference to the mask is added"),
-        NumberParameter("threshold", 0, 0, 100, "percent", "differences below stay as they are")};
+    effect.description = Phrase::English("Sharpens edges by an unsharp mask");
+    effect.parameters = {NumberParameter("sigma", 1, 0.1, 20, Phrase::Marked("pixels"),
+                                         Phrase::Marked("standard deviation of the mask in the result")),
+                         NumberParameter("amount", 60, 0, 500, Phrase::Marked("percent"),
+                                         Phrase::Marked("how much of the difference to the mask is added")),
+                         NumberParameter("threshold", 0, 0, 100, Phrase::Marked("percent"),
+                                         Phrase::Marked("differences below stay as they are"))};
     effect.definition =
         QStringLiteral("v becomes v + amount / 100 (v - m), where m is the picture blurred as by blur, and where |v "
                        "- m| reaches the threshold.");

@@ -3,6 +3,7 @@
 #include "WatermarkPlacement.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,16 +17,16 @@ QString PictureFileProblem(const QString& path)
     QFile file(path);
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("\"file\": %1 does not exist").arg(path);
+        return Phrase::English("\"file\": %1 does not exist").arg(path);
     }
     if (!info.isFile()) {
-        return QStringLiteral("\"file\": %1 is not a file").arg(path);
+        return Phrase::English("\"file\": %1 is not a file").arg(path);
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("\"file\": %1 cannot be read: %2").arg(path, file.errorString());
+        return Phrase::English("\"file\": %1 cannot be read: %2").arg(path, file.errorString());
     }
     return FormatOfFile(file.read(formatHeadSize), info.suffix()).isEmpty()
-               ? QStringLiteral("\"file\": %1 is not a picture of a known format").arg(path)
+               ? Phrase::English("\"file\": %1 is not a picture of a known format").arg(path)
                : QString();
 }
 
@@ -41,10 +42,11 @@ EffectSchema WatermarkImageEffect()
 {
     EffectSchema effect;
     effect.id = QStringLiteral("watermark-image");
-    effect.description = QStringLiteral("Lays another picture, such as a logo, over a picture");
+    effect.description = Phrase::English("Lays another picture, such as a logo, over a picture");
     effect.parameters =
-        QVector<ParameterSchema>{FileParameter("file", "the picture that is laid over, best with transparency")} +
-        PlacementParameters(20, "width of the mark; in percent of the picture's width", 100);
+        QVector<ParameterSchema>{
+            FileParameter("file", Phrase::Marked("the picture that is laid over, best with transparency"))} +
+        PlacementParameters(20, Phrase::Marked("width of the mark; in percent of the picture's width"), 100);
     effect.definition =
         QStringLiteral("Scaled to its width, with its own proportions, then laid over by the operator \"over\" of "
                        "Porter and Duff. Its colours are converted to the profile of the picture.");

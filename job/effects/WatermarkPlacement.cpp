@@ -1,5 +1,7 @@
 #include "WatermarkPlacement.h"
 
+#include "job/values/Phrase.h"
+
 #include "EffectParameters.h"
 
 namespace BatchJob {
@@ -8,17 +10,20 @@ QVector<ParameterSchema> PlacementParameters(double standardSize, const char* si
 {
     return {
         NumberParameter("size", standardSize, 0.1, 10'000, "", size),
-        NumberParameter("margin", 3, 0, 10'000, "", "space to the sides of the picture, and between tiles"),
+        NumberParameter("margin", 3, 0, 10'000, "",
+                        Phrase::Marked("space to the sides of the picture, and between tiles")),
         ChoiceParameter(
             "unit", {QStringLiteral("percent"), QStringLiteral("pixels")},
-            "of size and margin; a margin in percent is of the picture's short side; percent is at most 100"),
-        NumberParameter("opacity", standardOpacity, 0, 100, "percent", "0 is invisible"),
+            Phrase::Marked(
+                "of size and margin; a margin in percent is of the picture's short side; percent is at most 100")),
+        NumberParameter("opacity", standardOpacity, 0, 100, Phrase::Marked("percent"),
+                        Phrase::Marked("0 is invisible")),
         ChoiceParameter("position",
                         {QStringLiteral("bottom-right"), QStringLiteral("bottom"), QStringLiteral("bottom-left"),
                          QStringLiteral("right"), QStringLiteral("centre"), QStringLiteral("left"),
                          QStringLiteral("top-right"), QStringLiteral("top"), QStringLiteral("top-left")},
-                        "where the mark stands"),
-        TruthParameter("tile", false, "repeats the mark over the whole picture"),
+                        Phrase::Marked("where the mark stands")),
+        TruthParameter("tile", false, Phrase::Marked("repeats the mark over the whole picture")),
     };
 }
 

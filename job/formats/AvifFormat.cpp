@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema AvifFormat()
@@ -9,7 +11,7 @@ FormatSchema AvifFormat()
     FormatSchema format;
     format.id = FormatId::Avif;
     format.name = QStringLiteral("AVIF");
-    format.description = QStringLiteral("very small files for the web in up to 12 bits, slow to write");
+    format.description = Phrase::English("very small files for the web in up to 12 bits, slow to write");
     format.extensions = QStringList{QStringLiteral("avif"), QStringLiteral("avifs")};
     format.signatures = {{{{4, "ftypavif"}}}, {{{4, "ftypavis"}}}};
     format.bitDepths = {8, 10, 12};
@@ -17,8 +19,9 @@ FormatSchema AvifFormat()
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;
-    format.options = WithCommonOptions({Quality(65), Lossless("keep every pixel, but for a last step of rounding"),
-                                        Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options =
+        WithCommonOptions({Quality(65), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
+                           Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

@@ -1,5 +1,7 @@
 #include "FormatOptions.h"
 
+#include "job/values/Phrase.h"
+
 #include "FormatCatalog.h"
 
 #include "ZTBatchOutputSettings.h"
@@ -40,7 +42,7 @@ QString DepthError(const FormatSchema& format, int depth)
     for (const int known : format.bitDepths) {
         depths.append(QString::number(known));
     }
-    return QStringLiteral("\"bitDepth\" is %1; %2 takes %3")
+    return Phrase::English("\"bitDepth\" is %1; %2 takes %3")
         .arg(depth)
         .arg(format.name, depths.join(QStringLiteral(", ")));
 }
@@ -53,7 +55,7 @@ CheckedParameters CheckOptionsOfOriginals(const QByteArray& options)
         return format.bitDepths.contains(depth.toInt());
     });
     if (depth.isDouble() && !isKnown) {
-        return {{}, QStringLiteral("\"bitDepth\" is %1; it must be 8, 10, 12 or 16").arg(depth.toInt())};
+        return {{}, Phrase::English("\"bitDepth\" is %1; it must be 8, 10, 12 or 16").arg(depth.toInt())};
     }
     return checked;
 }
@@ -67,7 +69,7 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
     }
     const FormatSchema* schema = FindFormat(format);
     if (!schema) {
-        return {{}, QStringLiteral("the format \"%1\" is unknown").arg(format)};
+        return {{}, Phrase::English("the format \"%1\" is unknown").arg(format)};
     }
     CheckedParameters checked = CheckParameters(schema->options, options);
     const QJsonValue depth = checked.values.value(BitDepthName());
@@ -75,7 +77,7 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
         return {{}, DepthError(*schema, depth.toInt())};
     }
     if (depth.isDouble() && !BitDepthsFor(*schema, checked.values).contains(depth.toInt())) {
-        return {{}, QStringLiteral("\"bitDepth\" is %1; \"compression\" jpeg takes 8").arg(depth.toInt())};
+        return {{}, Phrase::English("\"bitDepth\" is %1; \"compression\" jpeg takes 8").arg(depth.toInt())};
     }
     return checked;
 }
@@ -102,6 +104,14 @@ QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options
 {
     const bool isCompressedAsJpeg = options.value(QStringLiteral("compression")) == QStringLiteral("jpeg");
     return isCompressedAsJpeg ? QVector<int>{8} : format.bitDepths;
+}
+
+int QualityUsed(const QJsonObject& complete)
+{
+    const QString compression = complete[QLatin1String("compression")].toString();
+    const bool usesQuality = compression.isEmpty() || compression == QLatin1String("jpeg");
+    const bool isLossless = complete[QLatin1String("lossless")].toBool();
+    return usesQuality && !isLossless ? complete[QLatin1String("quality")].toInt() : 0;
 }
 
 } // namespace BatchJob

@@ -21,4 +21,8 @@ QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted);
 /// The bits a channel, ascending, that files of `format` can have with `options`, which are checked.
 QVector<int> BitDepthsFor(const FormatSchema& format, const QJsonObject& options);
 
+/// The quality that pictures are written with by `complete`, options that are complete; 0 if their format has none, or
+/// they are written without loss.
+int QualityUsed(const QJsonObject& complete);
+
 } // namespace BatchJob

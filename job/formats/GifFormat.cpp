@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema GifFormat()
@@ -9,7 +11,7 @@ FormatSchema GifFormat()
     FormatSchema format;
     format.id = FormatId::Gif;
     format.name = QStringLiteral("GIF");
-    format.description = QStringLiteral("at most 256 colours, each pixel opaque or transparent");
+    format.description = Phrase::English("at most 256 colours, each pixel opaque or transparent");
     format.extensions = QStringList{QStringLiteral("gif")};
     format.signatures = {{{{0, "GIF87a"}}}, {{{0, "GIF89a"}}}};
     format.longestSide = 65'535;

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema HeifFormat()
@@ -9,7 +11,7 @@ FormatSchema HeifFormat()
     FormatSchema format;
     format.id = FormatId::Heif;
     format.name = QStringLiteral("HEIF");
-    format.description = QStringLiteral("small files of photos in up to 12 bits, as phones write them");
+    format.description = Phrase::English("small files of photos in up to 12 bits, as phones write them");
     format.extensions = QStringList{QStringLiteral("heic"), QStringLiteral("heif"), QStringLiteral("hif")};
     for (const char* brand : {"heic", "heix", "hevc", "hevx", "heim", "heis", "mif1", "msf1"}) {
         format.signatures.append({{{4, QByteArray("ftyp") + brand}}});
@@ -19,9 +21,9 @@ FormatSchema HeifFormat()
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;
-    format.options =
-        WithCommonOptions({Quality(80), Lossless("keep every pixel, but for a last step of rounding"),
-                           Effort(0, "higher is slower and better"), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions(
+        {Quality(80), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
+         Effort(0, Phrase::Marked("higher is slower and better")), ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

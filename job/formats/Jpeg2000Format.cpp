@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema Jpeg2000Format()
@@ -9,7 +11,7 @@ FormatSchema Jpeg2000Format()
     FormatSchema format;
     format.id = FormatId::Jpeg2000;
     format.name = QStringLiteral("JPEG 2000");
-    format.description = QStringLiteral("archives and films, in up to 16 bits, also without loss");
+    format.description = Phrase::English("archives and films, in up to 16 bits, also without loss");
     format.extensions = QStringList{QStringLiteral("jp2"), QStringLiteral("j2k"), QStringLiteral("jpx"),
                                     QStringLiteral("jpf"), QStringLiteral("j2c"), QStringLiteral("jph")};
     format.signatures = {{{{4, "jP  \r\n\x87\n"}}}, {{{0, "\xFF\x4F\xFF\x51"}}}};
@@ -20,8 +22,8 @@ FormatSchema Jpeg2000Format()
     format.metadata.reading = MetadataReading::FromIdentifiedBoxes;
     format.metadata.writing = MetadataWriting::AfterEncoding;
     format.metadata.isProfileInDecoder = false;
-    format.options = WithCommonOptions(
-        {Quality(85), Lossless("keep every pixel as it is"), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions({Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")),
+                                        ChromaSubsampling(), BitDepth(format.bitDepths)});
     return format;
 }
 

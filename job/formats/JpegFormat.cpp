@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema JpegFormat()
@@ -9,7 +11,7 @@ FormatSchema JpegFormat()
     FormatSchema format;
     format.id = FormatId::Jpeg;
     format.name = QStringLiteral("JPEG");
-    format.description = QStringLiteral("small files of photos, which every program reads");
+    format.description = Phrase::English("small files of photos, which every program reads");
     format.extensions = QStringList{QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("jpe"),
                                     QStringLiteral("jfif"), QStringLiteral("mpo")};
     format.signatures = {{{{0, "\xFF\xD8\xFF"}}}};

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema JpegXlFormat()
@@ -9,7 +11,7 @@ FormatSchema JpegXlFormat()
     FormatSchema format;
     format.id = FormatId::JpegXl;
     format.name = QStringLiteral("JPEG XL");
-    format.description = QStringLiteral("small files of photos in up to 16 bits, also without loss");
+    format.description = Phrase::English("small files of photos in up to 16 bits, also without loss");
     format.extensions = QStringList{QStringLiteral("jxl")};
     format.signatures = {{{{0, "\xFF\x0A"}}}, {{{4, "JXL \r\n\x87\n"}}}};
     format.holdsGrey = true;
@@ -19,8 +21,8 @@ FormatSchema JpegXlFormat()
     format.metadata.isProfileRewritten = true;
     format.metadata.reading = MetadataReading::FromBoxes;
     format.metadata.writing = MetadataWriting::BeforePixels;
-    format.options =
-        WithCommonOptions({Quality(85), Lossless("keep every pixel as it is"), Effort(7), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions(
+        {Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")), Effort(7), BitDepth(format.bitDepths)});
     return format;
 }
 

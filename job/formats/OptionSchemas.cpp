@@ -1,5 +1,7 @@
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 #include <QJsonArray>
 
 namespace BatchJob::OptionSchemas {
@@ -15,7 +17,14 @@ QString Text(const char* text)
 
 ParameterSchema Quality(int standard)
 {
-    return {Text("quality"), ParameterType::Integer, standard, Text("higher is better and larger"), 1, 100, {}, {}};
+    return {Text("quality"),
+            ParameterType::Integer,
+            standard,
+            Phrase::English("higher is better and larger"),
+            1,
+            100,
+            {},
+            {}};
 }
 
 ParameterSchema Effort(int standard, const char* meaning)
@@ -33,7 +42,7 @@ ParameterSchema Progressive()
     return {Text("progressive"),
             ParameterType::Truth,
             false,
-            Text("shows a coarse picture first while it loads"),
+            Phrase::English("shows a coarse picture first while it loads"),
             0,
             0,
             {},
@@ -45,7 +54,7 @@ ParameterSchema ChromaSubsampling()
     return {Text("chromaSubsampling"),
             ParameterType::Choice,
             Text("auto"),
-            Text("resolution of colour; auto is 4:4:4 from quality 90"),
+            Phrase::English("resolution of colour; auto is 4:4:4 from quality 90"),
             0,
             0,
             {},
@@ -61,29 +70,30 @@ ParameterSchema BitDepth(const QVector<int>& depths)
     return {Text("bitDepth"),
             ParameterType::Integer,
             QJsonValue(QJsonValue::Undefined),
-            Text("bits a channel; by default those of the input, as far as the format has them: ") +
-                texts.join(QStringLiteral(", ")),
+            Phrase::English("bits a channel; by default those of the input, as far as the format has them: %1")
+                .arg(texts.join(QStringLiteral(", "))),
             8,
             16,
-            Text("bits"),
+            Phrase::English("bits"),
             {}};
 }
 
 QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
 {
+    // "copyright" is a part of the others.
     const QStringList kinds{Text("exif"), Text("gps"), Text("iptc"), Text("xmp"), Text("icc")};
     own.append({Text("keep"),
                 ParameterType::ChoiceList,
                 QJsonArray::fromStringList(kinds),
-                Text("which metadata is kept"),
+                Phrase::English("which metadata is kept; copyright is creator and rights from all of it"),
                 0,
                 0,
                 {},
-                kinds});
+                kinds + QStringList(Text("copyright"))});
     own.append({Text("background"),
                 ParameterType::Colour,
                 Text("#ffffff"),
-                Text("colour under transparency that the format cannot hold"),
+                Phrase::English("colour under transparency that the format cannot hold"),
                 0,
                 0,
                 {},
@@ -91,7 +101,7 @@ QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
     own.append({Text("keepFileTime"),
                 ParameterType::Truth,
                 false,
-                Text("gives the result the input's modification time"),
+                Phrase::English("gives the result the input's modification time"),
                 0,
                 0,
                 {},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "job/values/ParameterSchema.h"
+#include "job/values/Phrase.h"
 
 #include <QVector>
 
@@ -8,7 +9,7 @@
 namespace BatchJob::OptionSchemas {
 
 ParameterSchema Quality(int standard);
-ParameterSchema Effort(int standard, const char* meaning = "higher is slower and smaller");
+ParameterSchema Effort(int standard, const char* meaning = Phrase::Marked("higher is slower and smaller"));
 
 /// `meaning` says what is kept: no two formats mean quite the same.
 ParameterSchema Lossless(const char* meaning);

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema PngFormat()
@@ -9,7 +11,7 @@ FormatSchema PngFormat()
     FormatSchema format;
     format.id = FormatId::Png;
     format.name = QStringLiteral("PNG");
-    format.description = QStringLiteral("every pixel as it is, with transparency; for graphics and for editing");
+    format.description = Phrase::English("every pixel as it is, with transparency; for graphics and for editing");
     format.extensions = QStringList{QStringLiteral("png")};
     format.signatures = {{{{0, "\x89PNG\r\n\x1A\n"}}}};
     format.holdsGrey = true;
@@ -22,7 +24,7 @@ FormatSchema PngFormat()
     const ParameterSchema compressionLevel{QStringLiteral("compressionLevel"),
                                            ParameterType::Integer,
                                            6,
-                                           QStringLiteral("higher is slower and smaller"),
+                                           Phrase::English("higher is slower and smaller"),
                                            0,
                                            9,
                                            {},

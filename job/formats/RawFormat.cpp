@@ -1,5 +1,7 @@
 #include "FormatDefinitions.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema RawFormat()
@@ -7,7 +9,7 @@ FormatSchema RawFormat()
     FormatSchema format;
     format.id = FormatId::Raw;
     format.name = QStringLiteral("RAW");
-    format.description = QStringLiteral("what the sensor of a camera saw, in the formats of many makers");
+    format.description = Phrase::English("what the sensor of a camera saw, in the formats of many makers");
     for (const char* extension :
          {"3fr", "ari", "arw", "cr2", "cr3", "crw", "dcr", "dng", "erf", "fff", "gpr", "iiq", "k25", "kdc", "mef",
           "mos", "mrw", "nef", "nrw", "orf", "pef", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw", "x3f"}) {

@@ -1,6 +1,8 @@
 #include "FormatDefinitions.h"
 #include "OptionSchemas.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 FormatSchema TiffFormat()
@@ -10,7 +12,7 @@ FormatSchema TiffFormat()
     format.id = FormatId::Tiff;
     format.name = QStringLiteral("TIFF");
     format.description =
-        QStringLiteral("every pixel as it is, also CMYK and very large; for printing and for archives");
+        Phrase::English("every pixel as it is, also CMYK and very large; for printing and for archives");
     format.extensions = QStringList{QStringLiteral("tif"), QStringLiteral("tiff")};
     constexpr int length = 4;
     for (const char* start : {"II*\0", "MM\0*", "II+\0", "MM\0+"}) {
@@ -26,7 +28,7 @@ FormatSchema TiffFormat()
     const ParameterSchema compression{QStringLiteral("compression"),
                                       ParameterType::Choice,
                                       QStringLiteral("lzw"),
-                                      QStringLiteral("how the pixels are compressed"),
+                                      Phrase::English("how the pixels are compressed"),
                                       0,
                                       0,
                                       {},

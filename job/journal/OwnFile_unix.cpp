@@ -1,5 +1,7 @@
 #include "OwnFile.h"
 
+#include "job/values/Phrase.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,15 +17,15 @@ constexpr mode_t writableByOthers = S_IWGRP | S_IWOTH;
 QString ProblemWith(const struct stat& status)
 {
     if (S_ISLNK(status.st_mode)) {
-        return QStringLiteral("it is a link");
+        return Phrase::English("it is a link");
     }
     if (!S_ISREG(status.st_mode)) {
-        return QStringLiteral("it is not a file");
+        return Phrase::English("it is not a file");
     }
     if (status.st_uid != geteuid()) {
-        return QStringLiteral("it belongs to another user");
+        return Phrase::English("it belongs to another user");
     }
-    return status.st_nlink == 1 ? QString() : QStringLiteral("it has more than one name");
+    return status.st_nlink == 1 ? QString() : Phrase::English("it has more than one name");
 }
 
 /// Whether other users may write the open file. File systems without permissions, as on memory cards, show every file
@@ -49,7 +51,7 @@ QString ProblemWithOpen(int descriptor)
     }
     const QString problem = ProblemWith(status);
     if (problem.isEmpty() && IsWritableByOthers(descriptor, status)) {
-        return QStringLiteral("other users may write it");
+        return Phrase::English("other users may write it");
     }
     return problem;
 }
@@ -59,7 +61,7 @@ bool Open(QFile& file, const QString& path, int flags, QIODevice::OpenMode mode,
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const int descriptor = open(QFile::encodeName(path).constData(), flags | safely, ownerOnly);
     if (descriptor < 0) {
-        problem = errno == ELOOP ? QStringLiteral("it is a link") : qt_error_string(errno);
+        problem = errno == ELOOP ? Phrase::English("it is a link") : qt_error_string(errno);
         return false;
     }
     problem = ProblemWithOpen(descriptor);

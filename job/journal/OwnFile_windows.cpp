@@ -1,5 +1,7 @@
 #include "OwnFile.h"
 
+#include "job/values/Phrase.h"
+
 #include <QByteArray>
 #include <QDir>
 
@@ -49,10 +51,10 @@ QString ProblemWith(HANDLE file)
         return qt_error_string(int(GetLastError()));
     }
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-        return QStringLiteral("it is a link");
+        return Phrase::English("it is a link");
     }
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        return QStringLiteral("it is not a file");
+        return Phrase::English("it is not a file");
     }
     PSID owner = nullptr;
     PSECURITY_DESCRIPTOR descriptor = nullptr;
@@ -61,9 +63,9 @@ QString ProblemWith(HANDLE file)
                        IsOfThisProcess(owner);
     LocalFree(descriptor);
     if (!isOwn && HasOwners(file)) {
-        return QStringLiteral("it belongs to another user");
+        return Phrase::English("it belongs to another user");
     }
-    return found.nNumberOfLinks == 1 ? QString() : QStringLiteral("it has more than one name");
+    return found.nNumberOfLinks == 1 ? QString() : Phrase::English("it has more than one name");
 }
 
 HANDLE OpenHandle(const QString& path, DWORD access, DWORD disposition)

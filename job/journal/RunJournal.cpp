@@ -3,6 +3,7 @@
 #include "OwnFile.h"
 
 #include "job/values/FileIdentity.h"
+#include "job/values/TimeText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -38,6 +39,7 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     state.isComplete = line.value(Key("complete")).toInt(1) != 0;
     state.beganAt = line.value(Key("since")).toString().toLongLong();
     state.document = line.value(Key("document")).toString();
+    state.isInPlace = line.value(Key("inPlace")).toInt() == 1;
     for (std::size_t i = 0; i < state.policies.size(); ++i) {
         state.policies[i] = policies.at(int(i)).toInt();
     }
@@ -63,6 +65,52 @@ QJsonArray JsonOf(const Warnings& warnings)
     return array;
 }
 
+int ReadNumber(const QJsonValue& value)
+{
+    return value.toInt(-1);
+}
+
+QSize ReadSize(const QJsonValue& value)
+{
+    const QJsonArray sides = value.toArray();
+    return {ReadNumber(sides.at(0)), ReadNumber(sides.at(1))};
+}
+
+PictureFacts ReadFacts(const QJsonObject& line)
+{
+    constexpr double largestExact = 9007199254740992.0; // 2^53
+    const double bytes = line.value(Key("bytes")).toDouble(-1);
+    PictureFacts facts;
+    facts.inputSize = ReadSize(line.value(Key("from")));
+    facts.outputSize = ReadSize(line.value(Key("to")));
+    facts.outputBytes = bytes >= 0 && bytes <= largestExact ? qint64(bytes) : -1;
+    facts.quality = ReadNumber(line.value(Key("quality")));
+    facts.milliseconds = ReadNumber(line.value(Key("milliseconds")));
+    return PossibleFacts(facts);
+}
+
+void InsertSize(QJsonObject& line, const QString& key, const QSize& size)
+{
+    if (!size.isEmpty()) {
+        line.insert(key, QJsonArray{size.width(), size.height()});
+    }
+}
+
+void Insert(QJsonObject& line, const PictureFacts& facts)
+{
+    InsertSize(line, Key("from"), facts.inputSize);
+    InsertSize(line, Key("to"), facts.outputSize);
+    if (facts.outputBytes >= 0) {
+        line.insert(Key("bytes"), double(facts.outputBytes));
+    }
+    if (facts.quality > 0) {
+        line.insert(Key("quality"), facts.quality);
+    }
+    if (facts.milliseconds >= 0) {
+        line.insert(Key("milliseconds"), facts.milliseconds);
+    }
+}
+
 void ReadLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
@@ -71,7 +119,8 @@ void ReadLine(const QJsonObject& line, JournalState& state)
         if (index >= 0) {
             state.results.insert(index,
                                  {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString(),
-                                  ReadWarnings(line.value(Key("warnings")).toArray())});
+                                  ReadWarnings(line.value(Key("warnings")).toArray()), ReadFacts(line),
+                                  TimeOfText(line.value(Key("finished")).toString())});
             state.begun.remove(index);
             state.losses.remove(index);
         }
@@ -126,7 +175,8 @@ bool HasJournalBegun(const QString& path)
     return OpenOwnFile(file, path, OwnFileUse::Read, problem) && file.readLine().endsWith('\n');
 }
 
-bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies)
+bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies,
+                        bool isInPlace)
 {
     auto created = std::make_unique<QFile>();
     if (!CreateOwnFile(*created, newPath, problem)) {
@@ -136,12 +186,14 @@ bool RunJournal::Create(const QString& newPath, const QString& document, const s
     for (const int policy : policies) {
         values.append(policy);
     }
-    const QByteArray rest =
-        QJsonDocument(QJsonObject{{Key("journal"), version},
-                                  {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
-                                  {Key("document"), document},
-                                  {Key("policies"), values}})
-            .toJson(QJsonDocument::Compact);
+    QJsonObject object{{Key("journal"), version},
+                       {Key("since"), QString::number(ChangeTimeOf(newPath).value_or(0))},
+                       {Key("document"), document},
+                       {Key("policies"), values}};
+    if (isInPlace) {
+        object.insert(Key("inPlace"), 1);
+    }
+    const QByteArray rest = QJsonDocument(object).toJson(QJsonDocument::Compact);
     const QByteArray header = headerBegin + QByteArray("1,") + rest.mid(1) + '\n';
     if (created->write(header) != header.size()) {
         problem = created->errorString();
@@ -187,6 +239,10 @@ void RunJournal::Settle(int index, const JournalState::Result& result)
     }
     if (!result.warnings.isEmpty()) {
         line.insert(Key("warnings"), JsonOf(result.warnings));
+    }
+    Insert(line, result.facts);
+    if (result.finished.isValid()) {
+        line.insert(Key("finished"), TimeText(result.finished));
     }
     Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }

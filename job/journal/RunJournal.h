@@ -1,8 +1,10 @@
 #pragma once
 
+#include "job/values/PictureFacts.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QHash>
 #include <QMap>
@@ -35,7 +37,9 @@ struct JournalState
         QString output;
         int errorCode = 0; ///< a ZTBatchMessage::Error; 0 when it was written
         QString reason;
-        Warnings warnings = {}; ///< about a picture that was written
+        Warnings warnings = {};  ///< about a picture that was written
+        PictureFacts facts = {}; ///< of a picture that was written
+        QDateTime finished = {}; ///< invalid if it is not known
     };
 
     /// When the run began, by the clock of the file system: a ChangeTimeOf(). 0 if that is not known.
@@ -46,6 +50,7 @@ struct JournalState
 
     QString document;              ///< the text of the job
     std::array<int, 5> policies{}; ///< input, output, processing, naming, write-to-format
+    bool isInPlace = false;        ///< results may take the places of their own originals
 
     /// A worker was about to make a result.
     struct Beginning
@@ -77,7 +82,8 @@ class RunJournal
 {
 public:
     /// Starts a new journal at `path`, where there must be no file. False when it cannot be written, see Problem().
-    bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies);
+    bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies,
+                bool isInPlace = false);
 
     /// Continues the journal at `path`. False if it is missing or cannot be written, see Problem().
     bool Open(const QString& path);

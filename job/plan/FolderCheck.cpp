@@ -1,5 +1,7 @@
 #include "FolderCheck.h"
 
+#include "job/values/Phrase.h"
+
 #include <QFileInfo>
 
 namespace BatchJob {
@@ -11,9 +13,9 @@ QString WhyNotWritable(const QString& folder)
         existing.setFile(existing.path());
     }
     if (!existing.isDir()) {
-        return QStringLiteral("%1 is not a folder").arg(existing.filePath());
+        return Phrase::English("%1 is not a folder").arg(existing.filePath());
     }
-    return existing.isWritable() ? QString() : QStringLiteral("%1 cannot be written").arg(existing.filePath());
+    return existing.isWritable() ? QString() : Phrase::English("%1 cannot be written").arg(existing.filePath());
 }
 
 } // namespace BatchJob

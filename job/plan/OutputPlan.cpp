@@ -157,15 +157,20 @@ QString OutputPlan::Output(int index) const
     return entry.name.isEmpty() ? QString() : Folder(index) + QLatin1Char('/') + entry.name;
 }
 
+bool OutputPlan::IsSource(int index)
+{
+    return sourcePlaces.contains(PlaceOf(index)) || SourceAt(OnDiskPath(index)).count > 0;
+}
+
 bool OutputPlan::IsAnothersSource(int index)
 {
-    const std::optional<FileIdentity> onDisk = IdentityOf(OnDiskPath(index));
-    if (!onDisk) {
-        return false;
+    const auto place = sourcePlaces.constFind(PlaceOf(index));
+    if (place != sourcePlaces.constEnd()) {
+        return *place != index; // The result of its owner may have replaced it meanwhile.
     }
-    NoteSources();
-    const int own = IdentityOf(entries[index].input) == onDisk ? 1 : 0;
-    return sourceCounts.value(*onDisk) > own;
+    const QString path = OnDiskPath(index);
+    const int own = IdentityOf(path) == IdentityOf(entries[index].input) ? 1 : 0;
+    return SourceAt(path).count > own;
 }
 
 void OutputPlan::ChangeFormat(int index, const FormatSchema& format)
@@ -249,8 +254,7 @@ void OutputPlan::PlaceKeptResult(int index)
 void OutputPlan::FindClash(int index)
 {
     Entry& entry = entries[index];
-    const QString key = NameKey(entry.name);
-    const Place place(folders[entry.folder].keyId, key);
+    const Place place = PlaceOf(index);
     const auto taker = takers.constFind(place);
     entry.clash = Clash::None;
     entry.other = -1;
@@ -260,9 +264,20 @@ void OutputPlan::FindClash(int index)
         return;
     }
     takers.insert(place, index);
-    if (OnDisk(entry.folder).contains(key)) {
-        entry.clash = SourcesWith(OnDiskPath(index)) > 0 ? Clash::Source : Clash::Disk;
+    if (!OnDisk(entry.folder).contains(place.second)) {
+        return;
     }
+    const Source source = SourceAt(OnDiskPath(index));
+    entry.clash = source.count > 0 ? Clash::Source : Clash::Disk;
+    if (source.count > 0) {
+        sourcePlaces.insert(place, source.count == 1 ? source.input : -1);
+    }
+}
+
+OutputPlan::Place OutputPlan::PlaceOf(int index) const
+{
+    const Entry& entry = entries[index];
+    return {folders[entry.folder].keyId, NameKey(entry.name)};
 }
 
 bool OutputPlan::IsTaken(int folder, const QString& key)
@@ -304,14 +319,14 @@ QString OutputPlan::OnDiskPath(int index)
     return Folder(index) + QLatin1Char('/') + OnDisk(entry.folder).value(NameKey(entry.name), entry.name);
 }
 
-int OutputPlan::SourcesWith(const QString& path)
+OutputPlan::Source OutputPlan::SourceAt(const QString& path)
 {
     const std::optional<FileIdentity> identity = IdentityOf(path);
     if (!identity) {
-        return 0;
+        return {};
     }
     NoteSources();
-    return sourceCounts.value(*identity);
+    return sources.value(*identity);
 }
 
 void OutputPlan::NoteSources()
@@ -320,17 +335,18 @@ void OutputPlan::NoteSources()
         return;
     }
     areSourcesNoted = true;
-    const auto note = [this](const QString& source) {
-        const std::optional<FileIdentity> identity = IdentityOf(source);
-        if (identity) {
-            ++sourceCounts[*identity];
+    const auto note = [this](const QString& path, int input) {
+        if (const std::optional<FileIdentity> identity = IdentityOf(path)) {
+            Source& source = sources[*identity];
+            ++source.count;
+            source.input = input;
         }
     };
-    for (const Entry& entry : qAsConst(entries)) {
-        note(entry.input);
+    for (int i = 0; i < entries.size(); ++i) {
+        note(entries[i].input, i);
     }
-    for (const QString& source : qAsConst(sharedSources)) {
-        note(source);
+    for (const QString& path : qAsConst(sharedSources)) {
+        note(path, -1);
     }
 }
 

@@ -95,9 +95,16 @@ public:
     /// For Clash::Result: the file whose result has the name.
     int ClashesWith(int index) const { return entries[index].other; }
 
-    /// For Clash::Source: whether the planned name is that of a source other than the file itself, even if it is that
-    /// of the file too. Overwriting would then destroy another source of the job.
+    /// Whether the planned name is that of a source of the job: it was when the names were made, or it is now.
+    bool IsSource(int index);
+
+    /// The same of a source other than the file itself, even if it is that of the file too. Overwriting would then
+    /// destroy another source of the job, or the result that has taken its place.
     bool IsAnothersSource(int index);
+
+    /// The only input that had the planned name when the names were made, if no effect and no framing reads it; else
+    /// -1.
+    int OwnerOfName(int index) const { return sourcePlaces.value(PlaceOf(index), -1); }
 
     /// Gives a file another format, and its name the extension of that format. The new name may clash.
     void ChangeFormat(int index, const FormatSchema& format);
@@ -130,6 +137,13 @@ private:
 
     using Place = QPair<int, QString>; ///< key of a folder, key of a name
 
+    /// A file that the job reads.
+    struct Source
+    {
+        int count = 0;  ///< of inputs and shared sources that are this file
+        int input = -1; ///< the last of the inputs
+    };
+
     QString SubFolder(int index) const;
     int FolderOf(const QString& subFolder);
     void SetName(int index, const QString& addition);
@@ -139,8 +153,9 @@ private:
     bool IsTaken(int folder, const QString& key);
     const QHash<QString, QString>& OnDisk(int folder);
     QString OnDiskPath(int index);
-    int SourcesWith(const QString& path);
+    Source SourceAt(const QString& path);
     void NoteSources();
+    Place PlaceOf(int index) const;
 
     QString outputFolder;
     ZTBatchOutputSettings::FolderStructure structure = ZTBatchOutputSettings::StructureFlat;
@@ -151,13 +166,14 @@ private:
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;
-    QHash<Place, int> takers; ///< the file that has a name
-    QSet<QString> keptPaths;  ///< files that an earlier part of this run has written
+    QHash<Place, int> takers;       ///< the file that has a name
+    QHash<Place, int> sourcePlaces; ///< names that sources had when the names were made, with OwnerOfName()
+    QSet<QString> keptPaths;        ///< files that an earlier part of this run has written
     std::optional<qint64> newResultsSince;
     QHash<Place, int> nextAdditions; ///< the first number that may be free, by the name without one as it is spelled
     QStringList sharedSources;
     bool areSourcesNoted = false;
-    QHash<FileIdentity, int> sourceCounts; ///< the number of inputs and shared sources that are the same file
+    QHash<FileIdentity, Source> sources;
 };
 
 } // namespace BatchJob

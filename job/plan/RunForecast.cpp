@@ -1,14 +1,17 @@
 #include "RunForecast.h"
 
+#include "job/values/Phrase.h"
+
 #include "FolderCheck.h"
 
 #include <QFileInfo>
 
 namespace BatchJob {
 
-RunForecast::RunForecast(const RunPlan& plan, const Policies& policies)
+RunForecast::RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable)
     : plan(plan)
     , policies(policies)
+    , unreadable(unreadable)
 {
     // No policy settles a name yet: what it does about a file is to be seen file by file.
     this->plan.MakeNames(Policies());
@@ -21,7 +24,7 @@ RunForecast::RunForecast(const RunPlan& plan, const Policies& policies)
 RunForecast::Prospect RunForecast::Foresee(int file)
 {
     plan.SettleFormat(file, policies);
-    Prospect prospect{plan.TroubleOf(file), {}};
+    Prospect prospect{plan.TroubleOf(file), {}, plan.IsInPlace(file)};
     if (prospect.trouble.kind != PolicyKind::None) {
         prospect.decision = policies.Of(prospect.trouble.kind);
         if (*prospect.decision != Decision::Overwrite && *prospect.decision != Decision::Rename) {
@@ -45,9 +48,9 @@ Trouble RunForecast::TroubleOfFiles(int file)
         return {PolicyKind::Output, ZTBatchMessage::WriteOutputFormatError, folderProblem, {}};
     }
     if (!QFileInfo::exists(plan.Names().Input(file))) {
-        return {PolicyKind::Input, ZTBatchMessage::ReadFileError, QStringLiteral("it does not exist"), {}};
+        return {PolicyKind::Input, ZTBatchMessage::ReadFileError, Phrase::English("it does not exist"), {}};
     }
-    return {};
+    return unreadable.value(file);
 }
 
 } // namespace BatchJob

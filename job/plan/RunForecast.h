@@ -18,10 +18,12 @@ public:
     {
         Trouble trouble;                  ///< the trouble that decides; none when the file is written as planned
         std::optional<Decision> decision; ///< what is done about it: Skip, Stop, Ask, Overwrite or Rename
+        bool isInPlace = false;           ///< without trouble: the result replaces its own original
     };
 
-    /// `plan` has read the inputs and got the probes' results, but has no names yet.
-    RunForecast(const RunPlan& plan, const Policies& policies);
+    /// `plan` has read the inputs and got the probes' results, but has no names yet. `unreadable` are files whose
+    /// trouble is known, but that a run notices only when it processes them, so it does not change any name.
+    RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable = {});
 
     const OutputPlan& Names() const { return plan.Names(); }
     const Prospect& Of(int file) const { return prospects[file]; }
@@ -32,6 +34,7 @@ private:
 
     RunPlan plan;
     const Policies policies;
+    const QHash<int, Trouble> unreadable;
     QVector<Prospect> prospects;
     QHash<QString, QString> folderProblems;
 };

@@ -1,6 +1,7 @@
 #include "RunPlan.h"
 
 #include "job/formats/NearestFormat.h"
+#include "job/values/Phrase.h"
 
 #include <QSet>
 
@@ -33,7 +34,9 @@ void RunPlan::Settle(int first, const Policies& policies)
 {
     const Decision format = policies.Of(PolicyKind::WriteToFormat);
     const Decision naming = policies.Of(PolicyKind::Naming);
-    if (format != Decision::Nearest && naming != Decision::Rename && naming != Decision::Overwrite) {
+    const bool canDecide =
+        format == Decision::Nearest || naming == Decision::Rename || naming == Decision::Overwrite || replacesOriginals;
+    if (!canDecide) {
         return;
     }
     for (int i = first; i < plan.Count(); ++i) {
@@ -52,7 +55,13 @@ void RunPlan::SettleFormat(int file, const Policies& policies)
 void RunPlan::SettleName(int file, const Policies& policies)
 {
     const bool isTaken = plan.Format(file) && plan.ClashOf(file) != OutputPlan::Clash::None && !IsOverwriting(file);
-    if (isTaken && !IsSettled(file) && SafeDecision(file, policies.Of(PolicyKind::Naming)) == Decision::Rename) {
+    if (!isTaken || IsSettled(file)) {
+        return;
+    }
+    if (replacesOriginals && plan.OwnerOfName(file) == file) {
+        marks[std::size_t(file)].isOverwriting = true;
+        marks[std::size_t(file)].isInPlace = true;
+    } else if (SafeDecision(file, policies.Of(PolicyKind::Naming)) == Decision::Rename) {
         Rename(file);
     }
 }
@@ -78,8 +87,8 @@ Trouble RunPlan::TroubleOf(int file) const
     if (!plan.Format(file)) {
         const QString format = plan.InputFormat(file);
         return {PolicyKind::WriteToFormat, ZTBatchMessage::UnsupportedOutputFormat,
-                format.isEmpty() ? QStringLiteral("its own format cannot be written")
-                                 : QStringLiteral("its own format, %1, cannot be written").arg(format),
+                format.isEmpty() ? Phrase::English("its own format cannot be written")
+                                 : Phrase::English("its own format, %1, cannot be written").arg(format),
                 NearestFormat(file)};
     }
     if (IsOverwriting(file)) {
@@ -92,17 +101,17 @@ Trouble RunPlan::TroubleOf(int file) const
     case OutputPlan::Clash::Disk:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" exists already").arg(output),
+                Phrase::English("\"%1\" exists already").arg(output),
                 {}};
     case OutputPlan::Clash::Source:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" is a source of this job").arg(output),
+                Phrase::English("\"%1\" is a source of this job").arg(output),
                 {}};
     case OutputPlan::Clash::Result:
         return {PolicyKind::Naming,
                 ZTBatchMessage::FileNameAlreadyExists,
-                QStringLiteral("\"%1\" is the result of \"%2\"").arg(output, plan.Input(plan.ClashesWith(file))),
+                Phrase::English("\"%1\" is the result of \"%2\"").arg(output, plan.Input(plan.ClashesWith(file))),
                 {}};
     }
     return {};
@@ -119,10 +128,14 @@ Decision RunPlan::ResolveName(int file, Decision decision)
     return safe;
 }
 
-/// A user who lets results be overwritten does not mean pictures that are still to be read.
+/// A user who lets files be overwritten means results, not originals.
 Decision RunPlan::SafeDecision(int file, Decision decision)
 {
-    return decision == Decision::Overwrite && plan.IsAnothersSource(file) ? Decision::Rename : decision;
+    if (decision != Decision::Overwrite) {
+        return decision;
+    }
+    const bool isSafe = replacesOriginals ? !plan.IsAnothersSource(file) : !plan.IsSource(file);
+    return isSafe ? Decision::Overwrite : Decision::Rename;
 }
 
 void RunPlan::Rename(int file)
@@ -140,6 +153,23 @@ bool RunPlan::ChangeFormat(int file, const QString& format)
     plan.ChangeFormat(file, *schema);
     marks[std::size_t(file)].hasOtherFormat = true;
     return true;
+}
+
+QVector<RunPlan::SharedName> RunPlan::SharedNames() const
+{
+    QVector<SharedName> shared;
+    for (int i = 0; i < plan.Count(); ++i) {
+        if (!plan.Format(i) || IsOverwriting(i) || IsSettled(i)) {
+            continue;
+        }
+        const int owner = plan.OwnerOfName(i);
+        if (owner >= 0 && IsInPlace(owner)) {
+            shared.append({owner, i});
+        } else if (plan.ClashOf(i) == OutputPlan::Clash::Result) {
+            shared.append({plan.ClashesWith(i), i});
+        }
+    }
+    return shared;
 }
 
 QStringList RunPlan::Folders() const

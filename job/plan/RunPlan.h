@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QHash>
+#include <QSize>
 
 #include <vector>
 
@@ -17,6 +18,7 @@ struct ProbeResult
     QDateTime captured;    ///< invalid when it is not known
     QString inputFormat;   ///< as FormatOfFile() names it; empty when it is not known
     QString nearestFormat; ///< a format that can hold the picture; empty when it is not known
+    QSize size = {};       ///< in pixels, upright; empty when it is not known
 };
 
 /// The plan of a run, with what was decided about its files. Use it on one thread at a time.
@@ -37,6 +39,10 @@ public:
     /// An earlier part of the run has given the file up under the name `path`, which is empty if it had none yet. The
     /// policies leave it under that name.
     void KeepWithoutResult(int file, const QString& path) { givenUp.insert(file, path); }
+
+    /// Results take the places of their own originals, whatever the naming policy is. Without this, no result takes the
+    /// place of a source of the job. To be called before MakeNames().
+    void ReplaceOriginals() { replacesOriginals = true; }
 
     /// See OutputPlan::ExpectResultsSince().
     void ExpectResultsSince(qint64 time) { plan.ExpectResultsSince(time); }
@@ -60,8 +66,8 @@ public:
     /// The trouble with a file that is known before the file is touched; its kind is None when there is none.
     Trouble TroubleOf(int file) const;
 
-    /// Overwrites or renames, as `decision` says, a file whose name is taken. An overwriting that would destroy another
-    /// input of the job becomes a renaming. Returns what was done.
+    /// Overwrites or renames, as `decision` says, a file whose name is taken. An overwriting that would destroy a
+    /// source of the job becomes a renaming. Returns what was done.
     Decision ResolveName(int file, Decision decision);
 
     /// Gives a file another format. False when that has been done before, or there is no such format.
@@ -70,6 +76,17 @@ public:
     bool IsRenamed(int file) const { return marks[std::size_t(file)].isRenamed; }
     bool IsOverwriting(int file) const { return marks[std::size_t(file)].isOverwriting; }
     bool HasOtherFormat(int file) const { return marks[std::size_t(file)].hasOtherFormat; }
+
+    /// Whether the result is to take the place of its own original; see ReplaceOriginals().
+    bool IsInPlace(int file) const { return marks[std::size_t(file)].isInPlace; }
+
+    /// Two files whose results would have one name, about which nothing is decided.
+    struct SharedName
+    {
+        int first = 0; ///< has the name
+        int second = 0;
+    };
+    QVector<SharedName> SharedNames() const;
 
     /// Every folder of results, once.
     QStringList Folders() const;
@@ -80,6 +97,7 @@ private:
         bool isRenamed = false;
         bool isOverwriting = false;
         bool hasOtherFormat = false;
+        bool isInPlace = false;
     };
 
     void Rename(int file);
@@ -90,6 +108,7 @@ private:
 
     OutputPlan plan;
     std::vector<Marks> marks;
+    bool replacesOriginals = false;
     QHash<int, QString> nearestFormats; ///< from probes
     QHash<int, Trouble> failedProbes;
     QHash<int, QString> givenUp; ///< by an earlier part of the run, and the names that the files had

@@ -19,6 +19,9 @@ struct Trouble
     bool isFromWorker = false;          ///< found at work, not by the plan
 };
 
+/// The policy that decides about a file that was not written because of `errorCode`. None for other codes.
+PolicyKind PolicyOfError(int errorCode);
+
 /// Whether a file that was not written counts as skipped; otherwise it counts as failed. A file is skipped when nothing
 /// is wrong with the picture: its name is taken, or its format cannot be written. A file that a stopped run leaves
 /// behind counts as failed.

@@ -1,5 +1,9 @@
 #include "TroubleLine.h"
 
+#include "job/values/Phrase.h"
+
+#include <QStringList>
+
 namespace BatchJob {
 
 namespace {
@@ -51,18 +55,25 @@ struct RemarkFrame
     QString end;
 };
 
-RemarkFrame RemarkFrameOf(Action action)
+/// A remark, with %1 for the result. Empty for an action without remark.
+QString RemarkOf(Action action)
 {
     switch (action) {
     case Action::WrittenUnderAnotherName:
-        return {QStringLiteral("written as \""), QLatin1Char('"') + PolicyEnd(PolicyKind::Naming)};
+        return Phrase::English("written as \"%1\" (naming policy)");
     case Action::ExistingFileOverwritten:
-        return {QStringLiteral("\""), QStringLiteral("\" was overwritten") + PolicyEnd(PolicyKind::Naming)};
+        return Phrase::English("\"%1\" was overwritten (naming policy)");
     case Action::WrittenInAnotherFormat:
-        return {QStringLiteral("written as "), PolicyEnd(PolicyKind::WriteToFormat)};
+        return Phrase::English("written as %1 (write-to-format policy)");
     default:
         return {};
     }
+}
+
+RemarkFrame RemarkFrameOf(Action action)
+{
+    const QStringList parts = RemarkOf(action).split(QStringLiteral("%1"));
+    return {parts.first(), parts.last()};
 }
 
 const QString& RefusalStart()

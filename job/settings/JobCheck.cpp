@@ -7,6 +7,7 @@
 #include "job/formats/FormatOptions.h"
 #include "job/values/JobValues.h"
 #include "job/values/ParameterSchema.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -29,14 +30,14 @@ void CheckFormat(ValueChecks& checks, const Settings& settings, JobSettings& acc
         for (const FormatSchema& format : Formats()) {
             known.append(format.name);
         }
-        checks.Refuse("The format", Quoted(accepted.format),
-                      QStringLiteral("one of ") + known.join(QStringLiteral(", ")));
+        checks.Refuse(Phrase::Marked("The format"), Quoted(accepted.format),
+                      Phrase::English("one of %1").arg(known.join(QStringLiteral(", "))));
         return;
     }
     const CheckedParameters checked = CheckFormatOptions(accepted.format, options);
     accepted.formatOptions = checked.values;
     if (!checked.IsValid()) {
-        checks.Refuse(QStringLiteral("The options of the format %1: %2").arg(accepted.format, checked.error));
+        checks.Refuse(Phrase::English("The options of the format %1: %2").arg(accepted.format, checked.error));
     }
 }
 
@@ -54,15 +55,15 @@ Refusal CheckEffects(const ZTStyle& style, QVector<JobEffect>& accepted)
                 known.append(effect.id);
             }
             const QString nearest = NearestWord(id, known);
-            QString message = QStringLiteral("Effect %1, \"%2\", does not exist").arg(i + 1).arg(id);
-            message += nearest.isEmpty() ? QStringLiteral("; there are ") + known.join(QStringLiteral(", "))
-                                         : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+            QString message = Phrase::English("Effect %1, \"%2\", does not exist").arg(i + 1).arg(id);
+            message += nearest.isEmpty() ? Phrase::English("; there are %1").arg(known.join(QStringLiteral(", ")))
+                                         : Phrase::English("; did you mean \"%1\"?").arg(nearest);
             return {ZTBatchMessage::NoAdjustment, message};
         }
         const CheckedParameters checked = CheckEffect(*schema, style.DataAt(i));
         if (!checked.IsValid()) {
             return {ZTBatchMessage::ApplyAdjustmentError,
-                    QStringLiteral("Effect %1, \"%2\": %3").arg(QString::number(i + 1), id, checked.error)};
+                    Phrase::English("Effect %1, \"%2\": %3").arg(QString::number(i + 1), id, checked.error)};
         }
         accepted.append({schema, checked.values});
     }
@@ -105,7 +106,7 @@ CheckedSettings CheckSettings(const ZTBatchDocument& job)
 CheckedSettings CheckJob(const ZTBatchDocument& job)
 {
     if (job.GetInputModel()->GetFileNodesCount() < 1) {
-        return {{}, {ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job has no files")}};
+        return {{}, {ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job has no files")}};
     }
     return CheckSettings(job);
 }
@@ -113,11 +114,11 @@ CheckedSettings CheckJob(const ZTBatchDocument& job)
 Refusal CheckPolicies(const ZTBatchPayload::Process& order)
 {
     ValueChecks checks;
-    checks.OneOf("The input policy", order.inputPolicy, FilePolicyWords);
-    checks.OneOf("The output policy", order.outputPolicy, FilePolicyWords);
-    checks.OneOf("The processing policy", order.processingPolicy, FilePolicyWords);
-    checks.OneOf("The naming policy", order.namingPolicy, NamingPolicyWords);
-    checks.OneOf("The write-to-format policy", order.writeToFormatPolicy, WriteToFormatPolicyWords);
+    checks.OneOf(Phrase::Marked("The input policy"), order.inputPolicy, FilePolicyWords);
+    checks.OneOf(Phrase::Marked("The output policy"), order.outputPolicy, FilePolicyWords);
+    checks.OneOf(Phrase::Marked("The processing policy"), order.processingPolicy, FilePolicyWords);
+    checks.OneOf(Phrase::Marked("The naming policy"), order.namingPolicy, NamingPolicyWords);
+    checks.OneOf(Phrase::Marked("The write-to-format policy"), order.writeToFormatPolicy, WriteToFormatPolicyWords);
     return OutputRefusal(checks.Error());
 }
 

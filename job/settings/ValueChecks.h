@@ -1,6 +1,7 @@
 #pragma once
 
 #include "job/values/JobValues.h"
+#include "job/values/Phrase.h"
 
 #include <QString>
 #include <QStringList>
@@ -25,7 +26,7 @@ public:
         for (const BatchJob::Word& word : words) {
             allowed.append(QStringLiteral("%1 (%2)").arg(word.value).arg(QLatin1String(word.word)));
         }
-        Refuse(field, QString::number(value), QStringLiteral("one of ") + allowed.join(QStringLiteral(", ")));
+        Refuse(field, QString::number(value), Phrase::English("one of %1").arg(allowed.join(QStringLiteral(", "))));
     }
 
     void Range(const char* field, int value, int minimum, int maximum);

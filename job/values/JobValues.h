@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Phrase.h"
+
 #include "ZTBatchManager.h"
 #include "ZTBatchOutputSettings.h"
 #include "ZTBatchValues.h"
@@ -74,11 +76,14 @@ inline constexpr std::array SizeUnitWords{
 
 inline constexpr std::array CropTypeWords{
     Word{int(CropType::None), "none", "no crop"},
-    Word{int(CropType::Ratio), "ratio", "the largest frame of the ratio width : height"},
+    Word{int(CropType::Ratio), "fixed-ratio", "the largest frame of the ratio width : height"},
     Word{int(CropType::Trim), "trim", "cut off a border of one colour"},
-    Word{int(CropType::Interesting), "interesting", "the frame of the ratio that draws the eye"},
+    Word{int(CropType::Interesting), "fixed-interesting", "the frame of the ratio that draws the eye"},
     Word{int(CropType::Fill), "fill", "scale to cover width x height, then cut"},
     Word{int(CropType::Exact), "exact", "width x height pixels"},
+    Word{int(CropType::TurningRatio), "ratio", "the largest frame of the ratio, turned with the picture"},
+    Word{int(CropType::TurningInteresting), "interesting",
+         "the frame of the ratio that draws the eye, turned with the picture"},
 };
 
 /// Of ZTBatchOutputSettings::Crop::alignment, which may hold any Qt alignment flags.
@@ -118,6 +123,18 @@ inline constexpr std::array ShadowModeWords{
     Word{int(ShadowMode::ContactGlow), "glow", "a glow around the picture, without offset"},
 };
 
+/// Whether a crop of `type` has a width and a height.
+constexpr bool HasCropSize(int type)
+{
+    return type != int(CropType::None) && type != int(CropType::Trim);
+}
+
+/// Whether the alignment places the frame of a crop of `type`.
+constexpr bool HasCropAlignment(int type)
+{
+    return HasCropSize(type) && type != int(CropType::Interesting) && type != int(CropType::TurningInteresting);
+}
+
 /// For the input, output and processing policies.
 inline constexpr std::array FilePolicyWords{
     Word{ZTBatchManager::InputSkip, "skip", "skip the file"},
@@ -143,9 +160,9 @@ inline constexpr std::array ActionWords{
     Word{int(Action::ReportedOnly), "reported", "reported only"},
     Word{int(Action::FileSkipped), "skipped", "the file was skipped"},
     Word{int(Action::RunStopped), "stopped", "the run was stopped"},
-    Word{int(Action::WrittenUnderAnotherName), "renamed", "written under another name"},
-    Word{int(Action::ExistingFileOverwritten), "overwritten", "an existing file was overwritten"},
-    Word{int(Action::WrittenInAnotherFormat), "converted", "written in another format"},
+    Word{int(Action::WrittenUnderAnotherName), Phrase::Marked("renamed"), "written under another name"},
+    Word{int(Action::ExistingFileOverwritten), Phrase::Marked("overwritten"), "an existing file was overwritten"},
+    Word{int(Action::WrittenInAnotherFormat), Phrase::Marked("converted"), "written in another format"},
 };
 
 /// The word of `value` in `words`; null for a value that the server does not know.

@@ -1,5 +1,8 @@
 #include "ParameterSchema.h"
 
+#include "ColourNames.h"
+#include "Phrase.h"
+
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,9 +29,10 @@ QString NumberText(double value)
 
 QString RangeText(const ParameterSchema& parameter)
 {
-    const QString range =
-        QStringLiteral("from %1 to %2").arg(NumberText(parameter.minimum), NumberText(parameter.maximum));
-    return parameter.unit.isEmpty() ? range : QStringLiteral("%1 (%2)").arg(range, parameter.unit);
+    const QString minimum = NumberText(parameter.minimum);
+    const QString maximum = NumberText(parameter.maximum);
+    return parameter.unit.isEmpty() ? Phrase::English("from %1 to %2").arg(minimum, maximum)
+                                    : Phrase::English("from %1 to %2 (%3)").arg(minimum, maximum, parameter.unit);
 }
 
 QString ValueText(const QJsonValue& value)
@@ -151,6 +155,10 @@ QJsonValue ChoiceListFromText(const QString& text, const QStringList& choices)
 QJsonValue ColourFromText(const QString& text)
 {
     const QString colour = text.trimmed();
+    const QString named = ColourOfName(colour);
+    if (!named.isEmpty()) {
+        return named;
+    }
     return colour.startsWith(QLatin1Char('#')) ? colour : QLatin1Char('#') + colour;
 }
 
@@ -207,16 +215,28 @@ QString UnknownName(const QString& name, const QVector<ParameterSchema>& schema)
     for (const ParameterSchema& parameter : schema) {
         known.append(parameter.name);
     }
-    QString error = QStringLiteral("\"%1\" is unknown").arg(name);
+    QString error = Phrase::English("\"%1\" is unknown").arg(name);
     const QString nearest = NearestWord(name, known);
     if (!nearest.isEmpty()) {
-        error += QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+        error += Phrase::English("; did you mean \"%1\"?").arg(nearest);
     } else if (known.isEmpty()) {
-        error += QStringLiteral("; none is taken here");
+        error += Phrase::English("; none is taken here");
     } else {
-        error += QStringLiteral("; known are %1").arg(known.join(QStringLiteral(", ")));
+        error += Phrase::English("; known are %1").arg(known.join(QStringLiteral(", ")));
     }
     return error;
+}
+
+QString NearestText(const ParameterSchema& parameter, const QString& text)
+{
+    switch (parameter.type) {
+    case ParameterType::Choice:
+        return NearestWord(text, parameter.choices);
+    case ParameterType::Colour:
+        return NearestColourName(text);
+    default:
+        return {};
+    }
 }
 
 int EditDistance(const QString& from, const QString& to)
@@ -244,10 +264,10 @@ CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const 
     QJsonParseError problem;
     const QJsonDocument document = QJsonDocument::fromJson(json, &problem);
     if (problem.error != QJsonParseError::NoError) {
-        return {{}, QStringLiteral("not valid JSON at byte %1: %2").arg(problem.offset).arg(problem.errorString())};
+        return {{}, Phrase::English("not valid JSON at byte %1: %2").arg(problem.offset).arg(problem.errorString())};
     }
     if (!document.isObject()) {
-        return {{}, QStringLiteral("a JSON object is needed, such as {\"name\": value}")};
+        return {{}, Phrase::English("a JSON object is needed, such as {\"name\": value}")};
     }
     return CheckParameters(schema, document.object());
 }
@@ -261,7 +281,7 @@ CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const 
             if (parameter.defaultValue.isNull()) {
                 return {
                     {},
-                    QStringLiteral("\"%1\" is missing; it must be %2").arg(parameter.name, AllowedValues(parameter))};
+                    Phrase::English("\"%1\" is missing; it must be %2").arg(parameter.name, AllowedValues(parameter))};
             }
             if (!parameter.defaultValue.isUndefined()) {
                 values.insert(parameter.name, parameter.defaultValue);
@@ -270,7 +290,7 @@ CheckedParameters CheckParameters(const QVector<ParameterSchema>& schema, const 
             values.insert(parameter.name, *found);
         } else {
             return {{},
-                    QStringLiteral("\"%1\" is %2; it must be %3")
+                    Phrase::English("\"%1\" is %2; it must be %3")
                         .arg(parameter.name, ValueText(*found), AllowedValues(parameter))};
         }
     }
@@ -290,11 +310,11 @@ ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString
     if (IsAllowed(value, parameter)) {
         return {value, {}};
     }
-    QString error = QStringLiteral("\"%1\" is %2; it must be %3")
-                        .arg(parameter.name, ValueText(QJsonValue(text)), AllowedValues(parameter));
-    const QString nearest = parameter.type == ParameterType::Choice ? NearestWord(text, parameter.choices) : QString();
+    QString error = Phrase::English("\"%1\" is %2; it must be %3")
+                        .arg(parameter.name, ValueText(QJsonValue(text)), AllowedTexts(parameter));
+    const QString nearest = NearestText(parameter, text);
     if (!nearest.isEmpty()) {
-        error += QStringLiteral("; did you mean %1?").arg(nearest);
+        error += Phrase::English("; did you mean %1?").arg(nearest);
     }
     return {QJsonValue(QJsonValue::Undefined), error};
 }
@@ -303,28 +323,44 @@ QString AllowedValues(const ParameterSchema& parameter)
 {
     switch (parameter.type) {
     case ParameterType::Number:
-        return QStringLiteral("a number ") + RangeText(parameter);
+        return Phrase::English("a number %1").arg(RangeText(parameter));
     case ParameterType::Integer:
-        return QStringLiteral("a whole number ") + RangeText(parameter);
+        return Phrase::English("a whole number %1").arg(RangeText(parameter));
     case ParameterType::Truth:
-        return QStringLiteral("true or false");
+        return Phrase::English("true or false");
     case ParameterType::Choice:
-        return QStringLiteral("one of ") + parameter.choices.join(QStringLiteral(", "));
+        return Phrase::English("one of %1").arg(parameter.choices.join(QStringLiteral(", ")));
     case ParameterType::ChoiceList:
-        return QStringLiteral("a list of ") + parameter.choices.join(QStringLiteral(", "));
+        return Phrase::English("a list of %1").arg(parameter.choices.join(QStringLiteral(", ")));
     case ParameterType::Colour:
-        return QStringLiteral("a colour, #rrggbb or #rrggbbaa");
+        return Phrase::English("a colour, #rrggbb or #rrggbbaa");
     case ParameterType::Text:
-        return QStringLiteral("a text of %1 to %2 characters")
+        return Phrase::English("a text of %1 to %2 characters")
             .arg(NumberText(parameter.minimum), NumberText(parameter.maximum));
     case ParameterType::File:
-        return QStringLiteral("the absolute path of a file");
+        return Phrase::English("the absolute path of a file");
     case ParameterType::Points:
-        return QStringLiteral("a list of 2 to %1 points [x, y] with ascending x, numbers %2")
+        return Phrase::English("a list of 2 to %1 points [x, y] with ascending x, numbers %2")
             .arg(maximumPoints)
             .arg(RangeText(parameter));
     }
     return {};
+}
+
+QString AllowedTexts(const ParameterSchema& parameter)
+{
+    switch (parameter.type) {
+    case ParameterType::Colour:
+        return QStringLiteral("a colour: #rrggbb, #rrggbbaa, or a name such as white");
+    case ParameterType::ChoiceList:
+        return parameter.choices.join(QStringLiteral(", ")) + QStringLiteral(", joined with +, or none");
+    case ParameterType::Points:
+        return QStringLiteral("2 to %1 points x:y with ascending x, joined with +, numbers %2")
+            .arg(maximumPoints)
+            .arg(RangeText(parameter));
+    default:
+        return AllowedValues(parameter);
+    }
 }
 
 QString NearestWord(const QString& word, const QStringList& words)

@@ -61,12 +61,16 @@ struct ParameterValue
 
 /// The JSON value of `text` from a command line, checked against `parameter`. Numbers have a decimal point in every
 /// locale. Truth is "true", "yes", "on", "1" or their opposites; letter case does not matter, nor does it for choices.
-/// A colour may lack its "#". A relative path starts at the current folder. The choices of a list are joined with "+"
-/// or ","; "none" is the empty list. Points are written x:y and joined with "+", ";" or blanks.
+/// A colour may lack its "#", or be a name, which becomes a number. A relative path starts at the current folder. The
+/// choices of a list are joined with "+" or ","; "none" is the empty list. Points are written x:y and joined with "+",
+/// ";" or blanks.
 ParameterValue ParameterFromText(const ParameterSchema& parameter, const QString& text);
 
 /// The values that `parameter` allows, in words, such as "a number from 0 to 100 (percent)".
 QString AllowedValues(const ParameterSchema& parameter);
+
+/// The same for values that are typed, as ParameterFromText() reads them.
+QString AllowedTexts(const ParameterSchema& parameter);
 
 /// The entry of `words` with the least edit distance to `word`, ignoring letter case; an empty string if the distance
 /// is more than half of the word's length.

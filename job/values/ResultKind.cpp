@@ -1,16 +1,18 @@
 #include "ResultKind.h"
 
+#include "Phrase.h"
+
 namespace BatchJob {
 
 QString ResultWord(ResultKind kind)
 {
     switch (kind) {
     case ResultKind::Written:
-        return QStringLiteral("written");
+        return Phrase::English("written");
     case ResultKind::Skipped:
-        return QStringLiteral("skipped");
+        return Phrase::English("skipped");
     case ResultKind::Failed:
-        return QStringLiteral("failed");
+        return Phrase::English("failed");
     }
     return {};
 }

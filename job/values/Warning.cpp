@@ -1,5 +1,7 @@
 #include "Warning.h"
 
+#include "job/values/Phrase.h"
+
 namespace BatchJob {
 
 QDataStream& operator<<(QDataStream& stream, const Warning& warning)
@@ -61,23 +63,23 @@ QString WarningTitle(WarningKind kind)
 {
     switch (kind) {
     case WarningKind::OtherPages:
-        return QStringLiteral("only the first page");
+        return Phrase::English("only the first page");
     case WarningKind::Incomplete:
-        return QStringLiteral("the file lacks its end");
+        return Phrase::English("the file lacks its end");
     case WarningKind::ProfileUnused:
-        return QStringLiteral("colour profile not used");
+        return Phrase::English("colour profile not used");
     case WarningKind::ColoursConverted:
-        return QStringLiteral("colours converted");
+        return Phrase::English("colours converted");
     case WarningKind::MetadataLost:
-        return QStringLiteral("metadata lost");
+        return Phrase::English("metadata lost");
     case WarningKind::GainMapLost:
-        return QStringLiteral("gain map lost");
+        return Phrase::English("gain map lost");
     case WarningKind::Framing:
-        return QStringLiteral("framing without effect");
+        return Phrase::English("framing without effect");
     case WarningKind::Decoder:
         break;
     }
-    return QStringLiteral("the decoder found a fault");
+    return Phrase::English("the decoder found a fault");
 }
 
 } // namespace BatchJob

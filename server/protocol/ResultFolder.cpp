@@ -1,5 +1,7 @@
 #include "ResultFolder.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QStringList>
 
@@ -25,7 +27,7 @@ bool ResultFolder::Open(const QString& root, const QString& path, Missing missin
     const QString cleanRoot = root.isEmpty() ? cleanPath : QDir::cleanPath(root);
     const QString below = PathBelow(cleanRoot, cleanPath);
     if (below.isNull()) {
-        error = QStringLiteral("%1 does not lie in the output folder %2").arg(path, root);
+        error = BatchJob::Phrase::English("%1 does not lie in the output folder %2").arg(path, root);
         return false;
     }
     if (!OpenRoot(cleanRoot, missing)) {

@@ -1,5 +1,7 @@
 #include "ResultFolder.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -80,14 +82,15 @@ bool ResultFolder::Enter(const QString& folder, const QString& name, Missing mis
 {
     const QByteArray nativeName = QFile::encodeName(name);
     if (missing == Missing::Make && mkdirat(descriptor, nativeName.constData(), 0777) != 0 && errno != EEXIST) {
-        error = QStringLiteral("the folder %1 cannot be made: %2").arg(folder, qt_error_string(errno));
+        error = BatchJob::Phrase::English("the folder %1 cannot be made: %2").arg(folder, qt_error_string(errno));
         return false;
     }
     const int next = openat(descriptor, nativeName.constData(), folderFlags | O_NOFOLLOW);
     if (next < 0) {
         const int problem = errno;
         error = IsLink(descriptor, nativeName)
-                    ? QStringLiteral("%1 is a link; results are not written through it unless links are followed")
+                    ? BatchJob::Phrase::English(
+                          "%1 is a link; results are not written through it unless links are followed")
                           .arg(folder)
                     : QStringLiteral("%1: %2").arg(folder, qt_error_string(problem));
         return false;

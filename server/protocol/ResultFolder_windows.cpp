@@ -1,5 +1,7 @@
 #include "ResultFolder.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 
 #include <qt_windows.h>
@@ -58,7 +60,8 @@ bool ResultFolder::Enter(const QString& folder, const QString&, Missing missing)
     if (missing == Missing::Make &&
         !CreateDirectoryW(QDir::toNativeSeparators(folder).toStdWString().c_str(), nullptr) &&
         GetLastError() != ERROR_ALREADY_EXISTS) {
-        error = QStringLiteral("the folder %1 cannot be made: %2").arg(folder, qt_error_string(int(GetLastError())));
+        error = BatchJob::Phrase::English("the folder %1 cannot be made: %2")
+                    .arg(folder, qt_error_string(int(GetLastError())));
         return false;
     }
     const HANDLE handle = OpenFolder(folder, FILE_FLAG_OPEN_REPARSE_POINT);
@@ -68,8 +71,8 @@ bool ResultFolder::Enter(const QString& folder, const QString&, Missing missing)
     }
     handles.push_back(handle);
     if (IsLink(handle)) {
-        error =
-            QStringLiteral("%1 is a link; results are not written through it unless links are followed").arg(folder);
+        error = BatchJob::Phrase::English("%1 is a link; results are not written through it unless links are followed")
+                    .arg(folder);
         return false;
     }
     return true;

@@ -35,6 +35,8 @@ ServerLimits ServerLimits::FromEnvironment()
     limits.workerMemory = ValueOf(workerMemoryLimit, mebibyte, defaults.workerMemory);
     limits.pictureSeconds = ValueOf(pictureTimeLimit, 1, defaults.pictureSeconds);
     limits.followsLinks = ValueOf(followLinksLimit, 1, 0) != 0;
+    limits.replacesOriginals = ValueOf(inPlaceLimit, 1, 0) != 0;
+    limits.refusesSharedNames = ValueOf(sharedNamesLimit, 1, 0) != 0;
     return limits;
 }
 

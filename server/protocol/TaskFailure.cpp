@@ -1,6 +1,7 @@
 #include "TaskFailure.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -62,7 +63,8 @@ Report CheckedFailure(const Report& report)
     checked.reason = OneLine(report.reason);
     checked.detail = OneLine(report.detail);
     if (!IsCodeOf(report.failure, report.errorCode)) {
-        checked = ProcessingFailure(QStringLiteral("the worker's report is invalid: %1").arg(checked.reason));
+        checked =
+            ProcessingFailure(BatchJob::Phrase::English("the worker's report is invalid: %1").arg(checked.reason));
         checked.number = report.number;
     }
     return checked;
@@ -77,22 +79,28 @@ BatchJob::Warnings CheckedWarnings(const Report& report)
     return checked;
 }
 
+BatchJob::PictureFacts CheckedFacts(const Report& report)
+{
+    return BatchJob::PossibleFacts(report.facts);
+}
+
 Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& limits)
 {
     switch (reason) {
     case WorkerEnd::OutOfMemory:
-        return Failure(BatchJob::PolicyKind::Input, ZTBatchMessage::ImageTooLarge,
-                       QStringLiteral("it takes more memory than the limit of %1 MiB").arg(limits.workerMemory >> 20U));
+        return Failure(
+            BatchJob::PolicyKind::Input, ZTBatchMessage::ImageTooLarge,
+            BatchJob::Phrase::English("it takes more memory than the limit of %1 MiB").arg(limits.workerMemory >> 20U));
     case WorkerEnd::Hung:
         return ProcessingFailure(
-            QStringLiteral("it takes longer than the limit of %1 seconds").arg(limits.pictureSeconds));
+            BatchJob::Phrase::English("it takes longer than the limit of %1 seconds").arg(limits.pictureSeconds));
     case WorkerEnd::Noisy:
         return ProcessingFailure(
-            QStringLiteral("the worker wrote more than %1 MiB of messages").arg(mostErrorsOfTask >> 20));
+            BatchJob::Phrase::English("the worker wrote more than %1 MiB of messages").arg(mostErrorsOfTask >> 20));
     case WorkerEnd::Garbage:
-        return ProcessingFailure(QStringLiteral("the worker sent an invalid answer"));
+        return ProcessingFailure(BatchJob::Phrase::English("the worker sent an invalid answer"));
     default:
-        return ProcessingFailure(QStringLiteral("the worker %1").arg(OneLine(text)));
+        return ProcessingFailure(BatchJob::Phrase::English("the worker %1").arg(OneLine(text)));
     }
 }
 
@@ -102,7 +110,8 @@ BatchJob::ProbeResult ProbeResultOf(const Report& report)
     const int year = report.captured.date().year();
     const bool isYear = year >= 1 && year <= 9999;
     return {isYear ? report.captured : QDateTime(), OneLine(report.inputFormat),
-            BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString()};
+            BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString(),
+            CheckedFacts(report).inputSize};
 }
 
 BatchJob::Trouble TroubleOf(const Report& failure)

@@ -14,6 +14,9 @@ Report CheckedFailure(const Report& report);
 /// The warnings of `report`, as far as they can be trusted: some, each on one line of limited length.
 BatchJob::Warnings CheckedWarnings(const Report& report);
 
+/// What `report` says of a picture that was written, as far as it can be true.
+BatchJob::PictureFacts CheckedFacts(const Report& report);
+
 /// The failure of a task over which its worker has ended. `text` is what is known of the end; `limits` are those of the
 /// worker.
 Report FailureOfEnd(WorkerEnd reason, const QString& text, const ServerLimits& limits);

@@ -105,7 +105,8 @@ auto Fields(Record& record)
         return std::tie(record.number);
     } else {
         return std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
-                        record.nearestFormat, record.inputFormat, record.captured, record.outputBytes);
+                        record.nearestFormat, record.inputFormat, record.captured, record.facts.inputSize,
+                        record.facts.outputSize, record.facts.quality, record.facts.milliseconds);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "ServerLimits.h"
 
+#include "job/values/PictureFacts.h"
 #include "job/values/PolicyValues.h"
 #include "job/values/Warning.h"
 
@@ -89,7 +90,8 @@ struct Report
                                                                ///< hold the picture, one of Formats()
     QString inputFormat;                                       ///< of a probe: as FormatOfFile() names it
     QDateTime captured;                                        ///< of a probe: what the file says, else the file's time
-    qint64 outputBytes = 0;                                    ///< of a picture that was written
+    BatchJob::PictureFacts facts;                              ///< of a picture that was written, but for the bytes;
+                                                               ///< of a probe: the size of the input
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;

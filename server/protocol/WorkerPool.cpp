@@ -1,5 +1,7 @@
 #include "WorkerPool.h"
 
+#include "job/values/Phrase.h"
+
 #include "ProcessMemory.h"
 
 #include <algorithm>
@@ -204,7 +206,7 @@ void WorkerPool::Remove(WorkerProcess* worker, WorkerEnd reason)
     GiveBack(tasks, culprit, reason, text);
     FinishDrops();
     if (workers.isEmpty()) {
-        Q_EMIT Broken(QStringLiteral("\"%1\" cannot be started: %2").arg(program, text));
+        Q_EMIT Broken(BatchJob::Phrase::English("\"%1\" cannot be started: %2").arg(program, text));
     }
 }
 

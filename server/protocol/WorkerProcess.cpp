@@ -1,5 +1,7 @@
 #include "WorkerProcess.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QPointer>
 
@@ -28,9 +30,9 @@ QProcessEnvironment EnvironmentOfWorkers(const QString& temporaryFolder)
 QString CrashText(int exitCode)
 {
 #ifdef Q_OS_WIN
-    return QStringLiteral("ended by exception 0x%1").arg(uint(exitCode), 8, 16, QLatin1Char('0'));
+    return BatchJob::Phrase::English("ended by exception 0x%1").arg(uint(exitCode), 8, 16, QLatin1Char('0'));
 #else
-    return QStringLiteral("ended by signal %1").arg(exitCode);
+    return BatchJob::Phrase::English("ended by signal %1").arg(exitCode);
 #endif
 }
 
@@ -100,7 +102,7 @@ void WorkerProcess::End(WorkerEnd reason)
 QString WorkerProcess::EndText() const
 {
     const QString errors = QString::fromUtf8(lastErrors).trimmed();
-    return errors.isEmpty() ? exitText : QStringLiteral("%1; its last output: %2").arg(exitText, errors);
+    return errors.isEmpty() ? exitText : BatchJob::Phrase::English("%1; its last output: %2").arg(exitText, errors);
 }
 
 int WorkerProcess::Culprit() const
@@ -193,8 +195,8 @@ void WorkerProcess::Finish(int exitCode, QProcess::ExitStatus status)
     ReadReports(streams.TakeRestOfOutput());
     NoteErrors(streams.TakeRestOfErrors());
     clock.stop();
-    exitText =
-        status == QProcess::CrashExit ? CrashText(exitCode) : QStringLiteral("ended with exit code %1").arg(exitCode);
+    exitText = status == QProcess::CrashExit ? CrashText(exitCode)
+                                             : BatchJob::Phrase::English("ended with exit code %1").arg(exitCode);
     if (!end) {
         const bool isOutOfMemory = status == QProcess::NormalExit && exitCode == workerOutOfMemory;
         end = !isReady ? WorkerEnd::FailedToStart : isOutOfMemory ? WorkerEnd::OutOfMemory : WorkerEnd::Died;

@@ -1,5 +1,7 @@
 #include "JobReader.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/protocol/ChildProcess.h"
 
 #include "ZTBatchDocument.h"
@@ -24,7 +26,7 @@ JobReader::Job ReadHere(const QString& text)
 {
     ZTBatchDocument document;
     if (!document.Deserialize(text)) {
-        return {{ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job is not a batch document")}, {}, {}};
+        return {{ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job is not a batch document")}, {}, {}};
     }
     JobReader::Job job;
     job.refusal = CheckJob(document).refusal;
@@ -91,7 +93,7 @@ JobReader::Job JobReader::Read(QString text, const std::function<bool()>& isCanc
     QDataStream stream(&reader);
     if (reader.exitStatus() != QProcess::NormalExit || reader.exitCode() != 0 || !ReadBack(stream, job)) {
         return {
-            {ZTBatchMessage::EmptyBatchDocument, QStringLiteral("The job cannot be read: its reader failed")}, {}, {}};
+            {ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job cannot be read: its reader failed")}, {}, {}};
     }
     return job;
 }

@@ -1,15 +1,19 @@
 #include "Run.h"
 
 #include "job/plan/CommandLog.h"
+#include "job/plan/FactsLine.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerFiles.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -24,6 +28,15 @@ namespace {
 
 /// Files that are examined in one go, before the event loop continues.
 constexpr int filesAtOnce = 256;
+
+/// What is known of the result `output`: how many bytes it has says the disk, the rest `report`.
+PictureFacts FactsOf(const QString& output, const Report& report)
+{
+    PictureFacts facts = CheckedFacts(report);
+    const QFileInfo file(output);
+    facts.outputBytes = file.exists() ? file.size() : -1;
+    return facts;
+}
 
 } // namespace
 
@@ -66,6 +79,8 @@ void Run::Begin()
         return;
     }
     preparation = std::make_shared<RunPreparation>();
+    preparation->replacesOriginals = limits.replacesOriginals;
+    preparation->refusesSharedNames = limits.refusesSharedNames;
     StartInBackground(
         [preparation = preparation, path = journalPath,
          text = std::exchange(document, {})](const BackgroundTask::Cancelled& isCancelled) mutable {
@@ -150,7 +165,9 @@ void Run::AdoptEarlierPart()
     host.Log(QStringLiteral("An earlier part of this run has settled %1 files.").arg(earlier.results.size()));
     for (const int file : qAsConst(preparation->unreported)) {
         const JournalState::Result& result = earlier.results[file];
-        journal.Settle(file, result);
+        const PictureFacts facts = FactsOf(result.output, Report());
+        journal.Settle(file, {result.kind, result.output, 0, {}, result.warnings, facts, {}});
+        LogFacts(plan.Names().Input(file), facts);
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), result.output);
     }
     host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
@@ -164,7 +181,9 @@ void Run::AdoptUnjournaledResults()
         host.Log(
             QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
                 .arg(plan.Names().Input(file), output));
-        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}});
+        const PictureFacts facts = FactsOf(output, Report());
+        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}, facts, {}});
+        LogFacts(plan.Names().Input(file), facts);
         host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), output);
         ++written;
         decisions.SetDone(file);
@@ -196,8 +215,12 @@ void Run::BeginNaming()
 
 void Run::BeginWork()
 {
-    phase = Phase::Working;
     plan = std::move(preparation->plan);
+    if (preparation->refusal.code != ZTBatchMessage::NoError) {
+        Refuse(preparation->refusal);
+        return;
+    }
+    phase = Phase::Working;
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
@@ -318,7 +341,7 @@ void Run::Examine(int file)
         HandleTrouble(
             file, {PolicyKind::Processing,
                    ZTBatchMessage::ApplyAdjustmentError,
-                   QStringLiteral("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
+                   Phrase::English("the server crashed %1 times while it worked on the file").arg(losses.value(file)),
                    {}});
         return;
     }
@@ -355,7 +378,7 @@ void Run::OnReported(const Assignment& task, const Report& report)
     } else {
         HandleTrouble(task.file, {PolicyKind::Processing,
                                   ZTBatchMessage::ApplyAdjustmentError,
-                                  QStringLiteral("the worker reported a result that is not there"),
+                                  Phrase::English("the worker reported a result that is not there"),
                                   {},
                                   true});
     }
@@ -369,8 +392,8 @@ Trouble Run::TroubleOfReport(int file, const Report& report)
     if (trouble.kind == PolicyKind::Naming && ++takenNames[file] > mostTakenNames) {
         trouble.kind = PolicyKind::Output;
         trouble.code = ZTBatchMessage::WriteOutputFormatError;
-        trouble.reason =
-            QStringLiteral("each of %1 names for the result was taken when it was to be written").arg(takenNames[file]);
+        trouble.reason = Phrase::English("each of %1 names for the result was taken when it was to be written")
+                             .arg(takenNames[file]);
     }
     return trouble;
 }
@@ -596,9 +619,13 @@ void Run::GiveUp(int file, const Trouble& trouble, Action action)
     const bool isSkipped = CountsAsSkipped(action, trouble.code);
     ++(isSkipped ? skipped : failed);
     if (action != Action::RunStopped) { // A resumed run tries what a stop has left.
-        journal.Settle(
-            file,
-            {isSkipped ? Kind::Skipped : Kind::Failed, plan.Names().Output(file), trouble.code, trouble.reason, {}});
+        journal.Settle(file, {isSkipped ? Kind::Skipped : Kind::Failed,
+                              plan.Names().Output(file),
+                              trouble.code,
+                              trouble.reason,
+                              {},
+                              {},
+                              QDateTime::currentDateTimeUtc()});
     }
     OnFileDone(file);
 }
@@ -618,13 +645,24 @@ void Run::FinishPicture(int file, const Report& report)
     } else if (plan.IsRenamed(file)) {
         ReportResult(file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
     }
-    journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, warnings});
+    const PictureFacts facts = FactsOf(output, report);
+    journal.Settle(
+        file, {JournalState::Result::Kind::Written, output, 0, {}, warnings, facts, QDateTime::currentDateTimeUtc()});
     for (const Warning& warning : warnings) {
         host.Log(WarningLine{input, warning}.Text());
     }
+    LogFacts(input, facts);
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
     OnFileDone(file);
+}
+
+void Run::LogFacts(const QString& input, const PictureFacts& facts)
+{
+    const QString line = FactsLine{input, facts}.Text();
+    if (!line.isEmpty()) {
+        host.Log(line);
+    }
 }
 
 /// Reports that a result was not written as planned; see ResultLine.

@@ -101,6 +101,7 @@ private:
     void ReportTrouble(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
     void GiveUp(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
     void FinishPicture(int file, const BatchProtocol::Report& report);
+    void LogFacts(const QString& input, const BatchJob::PictureFacts& facts);
     void FinishProbe();
     void ReportResult(int file, BatchJob::Action action, ZTBatchMessage::Error code, const QString& result);
     void OnFileDone(int file);

@@ -3,7 +3,9 @@
 #include "JobReader.h"
 
 #include "job/journal/OwnFile.h"
+#include "job/plan/SharedNames.h"
 #include "job/values/FileIdentity.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerFiles.h"
 
@@ -43,6 +45,9 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
         rightsToProbe = rightsToMake;
     }
     plan = RunPlan(OutputPlan(job.files, checked.settings));
+    if (replacesOriginals) {
+        plan.ReplaceOriginals();
+    }
     EnterEarlierResults();
     plan.ReadInputs(isCancelled);
 }
@@ -54,7 +59,7 @@ void RunPreparation::OpenJournal(const QString& path, const QString& document)
     }
     const auto refuse = [this, &path](const QString& reason) {
         refusal = {ZTBatchMessage::WriteOutputFormatError,
-                   QStringLiteral("the journal %1 cannot be used: %2").arg(path, reason)};
+                   Phrase::English("the journal %1 cannot be used: %2").arg(path, reason)};
     };
     const QString lockPath = path + QLatin1String(journalHoldEnd);
     const QString problemOfLock = WhyNotOwnLock(lockPath);
@@ -68,8 +73,8 @@ void RunPreparation::OpenJournal(const QString& path, const QString& document)
     journalLock->setStaleLockTime(0); // Only the end of its holder makes a lock stale, not its age.
     if (!journalLock->tryLock(lockTimeout)) {
         const bool isHeld = journalLock->error() == QLockFile::LockFailedError;
-        refuse(isHeld ? QStringLiteral("another server holds %1").arg(lockPath)
-                      : QStringLiteral("%1 cannot be written; the disk may be full").arg(lockPath));
+        refuse(isHeld ? Phrase::English("another server holds %1").arg(lockPath)
+                      : Phrase::English("%1 cannot be written; the disk may be full").arg(lockPath));
         return;
     }
     if (!journal.Open(path)) {
@@ -114,6 +119,12 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
         plan.ExpectResultsSince(earlier->beganAt);
     }
     if (!plan.MakeNames(policies, isCancelled)) {
+        return;
+    }
+    if (refusesSharedNames && policies.Of(PolicyKind::Naming) == Decision::Skip) {
+        refusal = RefusalOfSharedNames(plan);
+    }
+    if (refusal.code != ZTBatchMessage::NoError) {
         return;
     }
     FindUnjournaledResults();

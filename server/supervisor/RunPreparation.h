@@ -32,7 +32,8 @@ struct RunPreparation
     void EnterEarlierResults();
 
     /// Makes the names and removes what an earlier run has left unfinished in the folders of the results. Finds results
-    /// that are missing in an incomplete journal.
+    /// that are missing in an incomplete journal. Refuses a job with shared names if `refusesSharedNames` and the
+    /// policies would skip such files.
     void MakeNames(const BatchJob::Policies& policies, const Cancelled& isCancelled);
 
     /// Where the journal lacks lines, a file under the name of a result that is newer than the run counts as that
@@ -50,7 +51,9 @@ struct RunPreparation
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
     QString outputRoot;       ///< of PictureTasks; known before the names
-    int removedFiles = 0;     ///< unfinished files of earlier runs
+    bool replacesOriginals = false;
+    bool refusesSharedNames = false;
+    int removedFiles = 0; ///< unfinished files of earlier runs
 };
 
 /// The files of a run that are still to be probed, or whose probe is not over.

@@ -1,6 +1,8 @@
 #include "Catalogues.h"
 
+#include "hosts/cli/options/FormatNames.h"
 #include "hosts/cli/options/HelpTexts.h"
+#include "hosts/cli/options/ParameterTexts.h"
 #include "hosts/cli/options/Words.h"
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
@@ -22,35 +24,37 @@ using BatchJob::ParameterType;
 
 constexpr int columns = 100;
 
-const QString& NameOf(const EffectSchema& effect)
-{
-    return effect.id;
-}
+const QString originalDescription = QStringLiteral("the format of each input");
 
-const QString& NameOf(const FormatSchema& format)
+QVector<EffectSchema> PickEffects(const QStringList& names)
 {
-    return format.name;
-}
-
-template<typename Schema>
-QVector<Schema> Pick(const QVector<Schema>& all, const QStringList& names)
-{
-    QVector<Schema> picked;
+    QVector<EffectSchema> picked;
     for (const QString& name : names) {
-        QStringList known;
-        for (const Schema& schema : all) {
-            known.append(NameOf(schema));
-            if (NameOf(schema).compare(name, Qt::CaseInsensitive) == 0) {
-                picked.append(schema);
-                known.clear();
-                break;
+        const EffectSchema* const effect = FindEffect(name.toLower());
+        if (effect == nullptr) {
+            QStringList known;
+            for (const EffectSchema& schema : Effects()) {
+                known.append(schema.id);
             }
-        }
-        if (!known.isEmpty()) {
             throw NoSuchWord(name, known);
         }
+        picked.append(*effect);
     }
-    return names.isEmpty() ? all : picked;
+    return names.isEmpty() ? Effects() : picked;
+}
+
+/// The names as the catalogue spells them; all of them, with the original format last, if `names` is empty.
+QStringList PickFormats(const QStringList& names)
+{
+    QStringList picked;
+    for (const QString& name : names) {
+        picked.append(FormatName(name));
+    }
+    if (names.isEmpty()) {
+        picked = FormatNames();
+        picked.append(picked.takeFirst());
+    }
+    return picked;
 }
 
 QString DefaultText(const ParameterSchema& parameter)
@@ -61,12 +65,8 @@ QString DefaultText(const ParameterSchema& parameter)
     if (parameter.defaultValue.isUndefined()) {
         return QStringLiteral("optional");
     }
-    if (parameter.defaultValue.isString()) {
-        const QString text = parameter.defaultValue.toString();
-        return QStringLiteral("default ") + (text.isEmpty() ? QStringLiteral("\"\"") : text);
-    }
-    const QByteArray wrapped = QJsonDocument(QJsonArray{parameter.defaultValue}).toJson(QJsonDocument::Compact);
-    return QStringLiteral("default ") + QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
+    const QString text = TypedValue(parameter.defaultValue);
+    return QStringLiteral("default ") + (text.isEmpty() ? QStringLiteral("\"\"") : text);
 }
 
 QString ParameterListing(const QVector<ParameterSchema>& parameters)
@@ -75,7 +75,7 @@ QString ParameterListing(const QVector<ParameterSchema>& parameters)
     for (const ParameterSchema& parameter : parameters) {
         const QString line =
             QStringLiteral("%1: %2; %3, %4")
-                .arg(parameter.name, parameter.description, BatchJob::AllowedValues(parameter), DefaultText(parameter));
+                .arg(parameter.name, parameter.description, BatchJob::AllowedTexts(parameter), DefaultText(parameter));
         text += QStringLiteral("    ") + Wrapped(line, 6, columns) + QLatin1Char('\n');
     }
     return text;
@@ -146,12 +146,39 @@ QString DepthsText(const FormatSchema& format)
     return depths.join(QStringLiteral(", "));
 }
 
+QString ListingOf(const FormatSchema& format)
+{
+    const QString text =
+        QStringLiteral("%1 (.%2)\n  %3 bits a channel; transparency: %4; CMYK: %5; longest side %6 pixels\n")
+            .arg(format.name, format.extensions.join(QStringLiteral(", .")), DepthsText(format),
+                 format.holdsTransparency ? QStringLiteral("yes") : QStringLiteral("no"),
+                 format.holdsCmyk ? QStringLiteral("yes") : QStringLiteral("no"))
+            .arg(format.longestSide);
+    return text + QStringLiteral("  ") + format.description + QLatin1Char('\n') + ParameterListing(format.options);
+}
+
+QJsonObject JsonOf(const FormatSchema& format)
+{
+    QJsonArray depths;
+    for (const int depth : format.bitDepths) {
+        depths.append(depth);
+    }
+    return {{QStringLiteral("name"), format.name},
+            {QStringLiteral("description"), format.description},
+            {QStringLiteral("extensions"), QJsonArray::fromStringList(format.extensions)},
+            {QStringLiteral("transparency"), format.holdsTransparency},
+            {QStringLiteral("cmyk"), format.holdsCmyk},
+            {QStringLiteral("bitDepths"), depths},
+            {QStringLiteral("longestSide"), format.longestSide},
+            {QStringLiteral("options"), ParametersJson(format.options)}};
+}
+
 } // namespace
 
 QString EffectListing(const QStringList& names)
 {
     QString text;
-    for (const EffectSchema& effect : Pick(BatchJob::Effects(), names)) {
+    for (const EffectSchema& effect : PickEffects(names)) {
         text += effect.id + QLatin1Char('\n') + QStringLiteral("  ") + Wrapped(effect.description, 2, columns) +
                 QLatin1Char('\n') + ParameterListing(effect.parameters);
     }
@@ -161,7 +188,7 @@ QString EffectListing(const QStringList& names)
 QString EffectJson(const QStringList& names)
 {
     QJsonArray array;
-    for (const EffectSchema& effect : Pick(BatchJob::Effects(), names)) {
+    for (const EffectSchema& effect : PickEffects(names)) {
         array.append(QJsonObject{{QStringLiteral("name"), effect.id},
                                  {QStringLiteral("description"), effect.description},
                                  {QStringLiteral("parameters"), ParametersJson(effect.parameters)}});
@@ -172,16 +199,12 @@ QString EffectJson(const QStringList& names)
 QString FormatListing(const QStringList& names)
 {
     QString text;
-    for (const FormatSchema& format : Pick(BatchJob::Formats(), names)) {
-        text += QStringLiteral("%1 (.%2)\n  %3 bits a channel; transparency: %4; CMYK: %5; longest side %6 pixels\n")
-                    .arg(format.name, format.extensions.join(QStringLiteral(", .")), DepthsText(format),
-                         format.holdsTransparency ? QStringLiteral("yes") : QStringLiteral("no"),
-                         format.holdsCmyk ? QStringLiteral("yes") : QStringLiteral("no"))
-                    .arg(format.longestSide);
-        text += QStringLiteral("  ") + format.description + QLatin1Char('\n') + ParameterListing(format.options);
+    for (const QString& name : PickFormats(names)) {
+        const FormatSchema* const format = FindFormat(name);
+        text += format == nullptr ? QStringLiteral("%1\n  %2\n").arg(name, originalDescription) : ListingOf(*format);
     }
     if (names.isEmpty()) {
-        text += QStringLiteral("Original\n  the format of each input\n\nFiles that can be read: ") +
+        text += QStringLiteral("\nFiles that can be read: ") +
                 Wrapped(BatchJob::ReadableExtensions().join(QStringLiteral(", ")), 2, columns) + QLatin1Char('\n');
     }
     return text;
@@ -190,19 +213,14 @@ QString FormatListing(const QStringList& names)
 QString FormatJson(const QStringList& names)
 {
     QJsonArray array;
-    for (const FormatSchema& format : Pick(BatchJob::Formats(), names)) {
-        QJsonArray depths;
-        for (const int depth : format.bitDepths) {
-            depths.append(depth);
+    for (const QString& name : PickFormats(names)) {
+        const FormatSchema* const format = FindFormat(name);
+        if (format != nullptr) {
+            array.append(JsonOf(*format));
+        } else if (!names.isEmpty()) {
+            array.append(
+                QJsonObject{{QStringLiteral("name"), name}, {QStringLiteral("description"), originalDescription}});
         }
-        array.append(QJsonObject{{QStringLiteral("name"), format.name},
-                                 {QStringLiteral("description"), format.description},
-                                 {QStringLiteral("extensions"), QJsonArray::fromStringList(format.extensions)},
-                                 {QStringLiteral("transparency"), format.holdsTransparency},
-                                 {QStringLiteral("cmyk"), format.holdsCmyk},
-                                 {QStringLiteral("bitDepths"), depths},
-                                 {QStringLiteral("longestSide"), format.longestSide},
-                                 {QStringLiteral("options"), ParametersJson(format.options)}});
     }
     return JsonText(array);
 }

@@ -1,30 +1,21 @@
 #pragma once
 
-#include "hosts/cli/options/CommandLine.h"
-#include "hosts/common/LeftOutFiles.h"
+#include "JobInputs.h"
 
 class ZTBatchDocument;
 
 namespace BatchCli {
 
-/// What was not taken from the inputs of a job.
-struct InputLosses
-{
-    int problems = 0; ///< files and folders that could not be taken
-    BatchHost::LeftOutFiles leftOut;
-};
+/// Builds the job that `arguments` describe without adding inputs: the preset that they name or the saved job in the
+/// file `savedJob`, if that is not empty, with the options applied. Throws RequestError.
+void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob);
 
-/// Builds the job that `arguments` describe: the saved job in the file `savedJob`, if that is not empty, with the
-/// options applied and `inputs` added. Writes problems with folders to standard error; with --verbose, files that were
-/// left out too. Shows progress on a terminal. Throws RequestError.
+/// The same with inputs, see AddInputs(); a relative output folder starts at the current folder. Throws RequestError.
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
 
-/// Writes how many files were left out to standard error, if there are any and the options do not ask for silence.
-void TellLeftOut(const BatchHost::LeftOutFiles& files, const ParsedArguments& arguments);
-
-/// Removes the saved job from `inputs`, the first one if its name ends with ".xml", and returns it; empty when there is
-/// none.
+/// Removes the saved job from `inputs`, the first one if its name ends with ".xml" or it holds a job, and returns it;
+/// empty if the first input is something else.
 QString TakeSavedJob(QStringList& inputs);
 
 } // namespace BatchCli

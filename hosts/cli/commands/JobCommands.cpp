@@ -9,6 +9,7 @@
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
 
 using namespace BatchHost;
 
@@ -16,16 +17,18 @@ namespace BatchCli {
 
 namespace {
 
-QString PicturesText(int count)
+/// What the job has, and what is still to be given.
+QString JobText(const ZTBatchDocument& job)
 {
-    switch (count) {
-    case 0:
-        return QStringLiteral("a job without pictures; give them to run or plan, after the job");
-    case 1:
-        return QStringLiteral("a job of 1 picture");
-    default:
-        return QStringLiteral("a job of %1 pictures").arg(count);
+    const int count = job.GetInputModel()->GetFileNodesCount();
+    const bool hasFolder = !job.GetOutputSettings()->GetPath().isEmpty();
+    if (count == 0) {
+        return hasFolder ? QStringLiteral("a job without pictures; give them to run or plan, after the job")
+                         : QStringLiteral("a job without pictures and output folder; give them to run or plan");
     }
+    const QString pictures =
+        count == 1 ? QStringLiteral("a job of 1 picture") : QStringLiteral("a job of %1 pictures").arg(count);
+    return hasFolder ? pictures : pictures + QStringLiteral(", without an output folder; give --output to run or plan");
 }
 
 } // namespace
@@ -47,18 +50,17 @@ ExitCode CreateJob(const ParsedArguments& arguments)
     const InputLosses losses = BuildJob(job, arguments, arguments.Value(QStringLiteral("--from")), inputs);
     TellLeftOut(losses.leftOut, arguments);
     // A job without inputs may be meant for pictures to come; inputs without a picture are a mistake.
-    if (inputs.isEmpty()) {
-        RequireUsableSettings(job);
-    } else {
-        RequireRunnableJob(job);
+    if (!inputs.isEmpty() || arguments.Has(QStringLiteral("--files-from"))) {
+        HasPictures(job, arguments, inputs);
     }
+    RequireUsableSettingsButFolder(job);
     if (path == QLatin1String("-")) {
         WriteOut(job.Serialize(nullptr));
     } else {
         SaveJob(job, path, arguments.Has(QStringLiteral("--force")));
     }
     if (!arguments.Has(QStringLiteral("--quiet")) && path != QLatin1String("-")) {
-        WriteErrorLine(QStringLiteral("%1: %2.").arg(path, PicturesText(job.GetInputModel()->GetFileNodesCount())));
+        WriteErrorLine(QStringLiteral("%1: %2.").arg(path, JobText(job)));
     }
     return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }

@@ -1,15 +1,14 @@
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
+#include "PlanProbe.h"
 
 #include "hosts/cli/options/PolicyOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
-#include "hosts/common/FileProber.h"
 #include "hosts/common/JobRequirements.h"
+#include "job/geometry/ResultSize.h"
 #include "job/plan/RunForecast.h"
-#include "job/plan/WarningLine.h"
 #include "job/values/VisibleText.h"
-#include "server/protocol/TaskFailure.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -18,6 +17,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <optional>
+
 using namespace BatchJob;
 using namespace BatchHost;
 
@@ -25,45 +26,46 @@ namespace BatchCli {
 
 namespace {
 
-void Probe(RunPlan& plan, const ZTBatchDocument& job, StatusLine& line, bool isVerbose)
+/// What a run would do, and the sizes of its pictures.
+struct Outlook
 {
-    QVector<FileProber::File> files;
-    for (const int index : plan.Names().FilesToProbe()) {
-        files.append({index, plan.Names().Input(index)});
-    }
-    if (files.isEmpty()) {
-        return;
-    }
-    int done = 0;
-    FileProber::Probe(files, SettingsTextOf(job), [&](const BatchProtocol::Report& report) {
-        ++done;
-        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
-        if (report.failure == PolicyKind::None) {
-            plan.SetProbe(report.number, BatchProtocol::ProbeResultOf(report));
-        } else {
-            plan.SetProbeFailure(report.number, BatchProtocol::TroubleOf(report));
-            if (isVerbose && !report.detail.isEmpty()) {
-                line.Clear();
-                WriteErrorLine(DetailLine{plan.Names().Input(report.number), report.detail}.Text());
-            }
-        }
-    });
-}
+    RunForecast forecast;
+    PlanProbe probe;
+    JobSettings settings;
 
-RunForecast Forecast(const ZTBatchDocument& job, const PolicyValues& policies, const ParsedArguments& arguments)
+    QSize InputSize(int index) const { return probe.sizes.value(index); }
+
+    /// Empty where nothing is written, or the size is not known.
+    QSize OutputSize(int index) const
+    {
+        const std::optional<Decision> decision = forecast.Of(index).decision;
+        const QSize input = InputSize(index);
+        if (input.isEmpty() || decision == Decision::Skip || decision == Decision::Stop) {
+            return {};
+        }
+        return ResultSize(input, settings).value_or(QSize());
+    }
+};
+
+Outlook LookAhead(const ZTBatchDocument& job, const PolicyValues& policies, const ParsedArguments& arguments)
 {
-    RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), CheckSettings(job).settings));
+    const JobSettings settings = CheckSettings(job).settings;
+    RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), settings));
+    if (arguments.Has(QStringLiteral("--in-place"))) {
+        plan.ReplaceOriginals();
+    }
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
     plan.ReadInputs();
-    Probe(plan, job, line, arguments.Has(QStringLiteral("--verbose")));
-    return {plan, Policies(policies)};
+    const PlanProbe probe = ProbeInputs(plan, job, !arguments.Has(QStringLiteral("--no-sizes")),
+                                        arguments.Has(QStringLiteral("--verbose")), line);
+    return {RunForecast(plan, Policies(policies), probe.unreadable), probe, settings};
 }
 
 QString ProspectWord(const RunForecast::Prospect& prospect)
 {
     if (!prospect.decision) {
-        return QStringLiteral("write");
+        return prospect.isInPlace ? QStringLiteral("replace") : QStringLiteral("write");
     }
     switch (*prospect.decision) {
     case Decision::Skip:
@@ -82,22 +84,50 @@ QString ProspectWord(const RunForecast::Prospect& prospect)
     return {};
 }
 
-QString Line(const RunForecast& forecast, int index)
+QString SizeText(const QSize& size)
 {
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
+
+/// "6000 x 4000 -> 1600 x 1067 px"; one size where both are equal.
+QString SizesText(const QSize& input, const QSize& output)
+{
+    return QStringLiteral("%1 px").arg(input == output ? SizeText(output)
+                                                       : SizeText(input) + QStringLiteral(" -> ") + SizeText(output));
+}
+
+QString Line(const Outlook& outlook, int index)
+{
+    const RunForecast& forecast = outlook.forecast;
     const RunForecast::Prospect& prospect = forecast.Of(index);
     const QString output = forecast.Names().Output(index);
     QString line = forecast.Names().Input(index);
     if (!output.isEmpty()) {
         line += QStringLiteral(" -> ") + output;
     }
+    const QSize size = outlook.OutputSize(index);
+    if (!size.isEmpty()) {
+        line += QStringLiteral("  ") + SizesText(outlook.InputSize(index), size);
+    }
     if (prospect.decision) {
         line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), prospect.trouble.reason);
+    } else if (prospect.isInPlace) {
+        line += QStringLiteral("  [replaces the original]");
     }
     return VisibleText(line) + QLatin1Char('\n');
 }
 
-QString JsonLine(const RunForecast& forecast, int index)
+void InsertSize(QJsonObject& object, const QString& width, const QString& height, const QSize& size)
 {
+    if (!size.isEmpty()) {
+        object.insert(width, size.width());
+        object.insert(height, size.height());
+    }
+}
+
+QString JsonLine(const Outlook& outlook, int index)
+{
+    const RunForecast& forecast = outlook.forecast;
     const RunForecast::Prospect& prospect = forecast.Of(index);
     QJsonObject object{{QStringLiteral("input"), forecast.Names().Input(index)},
                        {QStringLiteral("output"), forecast.Names().Output(index)},
@@ -105,7 +135,16 @@ QString JsonLine(const RunForecast& forecast, int index)
     if (prospect.decision) {
         object.insert(QStringLiteral("reason"), prospect.trouble.reason);
     }
+    InsertSize(object, QStringLiteral("inputWidth"), QStringLiteral("inputHeight"), outlook.InputSize(index));
+    InsertSize(object, QStringLiteral("width"), QStringLiteral("height"), outlook.OutputSize(index));
     return QString::fromUtf8(VisibleJson(QJsonDocument(object).toJson(QJsonDocument::Compact))) + QLatin1Char('\n');
+}
+
+void TellMissingSizes(const PlanProbe& probe)
+{
+    if (!probe.problem.isEmpty()) {
+        WriteErrorLine(QStringLiteral("velkora-batch: sizes in pixels are not known: %1.").arg(probe.problem));
+    }
 }
 
 } // namespace
@@ -119,21 +158,26 @@ ExitCode PlanJob(const ParsedArguments& arguments)
     ApplyPolicies(arguments, policies);
     ZTBatchDocument job;
     const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
-    RequireRunnableJob(job);
+    if (!HasPictures(job, arguments, inputs)) {
+        return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
+    }
+    RequireUsableSettings(job);
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));
-    const RunForecast forecast = Forecast(job, policies, arguments);
+    const Outlook outlook = LookAhead(job, policies, arguments);
+    const RunForecast& forecast = outlook.forecast;
     const int count = forecast.Names().Count();
     int clear = 0;
     int unclear = 0;
     QString text;
     for (int i = 0; i < count; ++i) {
         ++(forecast.Of(i).decision ? unclear : clear);
-        text += isJson ? JsonLine(forecast, i) : Line(forecast, i);
+        text += isJson ? JsonLine(outlook, i) : Line(outlook, i);
     }
     WriteOut(text);
     if (!isQuiet) {
+        TellMissingSizes(outlook.probe);
         WriteErrorLine(QStringLiteral("%1 %2: %3 without trouble, %4 in brackets. Nothing was written.")
                            .arg(count)
                            .arg(count == 1 ? QStringLiteral("file") : QStringLiteral("files"))

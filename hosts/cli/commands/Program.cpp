@@ -3,7 +3,9 @@
 #include "Catalogues.h"
 #include "CommandFunctions.h"
 
+#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 
 #include <algorithm>
@@ -49,7 +51,8 @@ const QHash<QString, Command>& CommandFunctions()
     static const QHash<QString, Command> functions{
         {QStringLiteral("create"), &CreateJob},    {QStringLiteral("show"), &ShowJob},
         {QStringLiteral("plan"), &PlanJob},        {QStringLiteral("run"), &RunJob},
-        {QStringLiteral("effects"), &ListEffects}, {QStringLiteral("formats"), &ListFormats}};
+        {QStringLiteral("presets"), &KeepPresets}, {QStringLiteral("effects"), &ListEffects},
+        {QStringLiteral("formats"), &ListFormats}};
     return functions;
 }
 
@@ -67,21 +70,44 @@ ExitCode WithOutput(ExitCode code)
 QString RemedyFor(RequestError::Kind kind)
 {
     switch (kind) {
+    case RequestError::Kind::NoInputs:
     case RequestError::Kind::NoPictures:
         return QStringLiteral(": name files, or folders with pictures that can be read");
     case RequestError::Kind::NoOutputFolder:
         return QStringLiteral(": use --output DIR");
+    case RequestError::Kind::SavedJobAmongInputs:
+        return QStringLiteral(". One saved job may be given: as the first argument of run, plan and show, or to "
+                              "create with --from");
     case RequestError::Kind::FileExists:
         return QStringLiteral("; use --force to replace it");
     case RequestError::Kind::OtherRunInterrupted:
         return QStringLiteral(". Use --resume with --output alone to resume that run, or run this job without "
                               "--resume");
     case RequestError::Kind::SeveralRunsInterrupted:
-        return QStringLiteral("; use --resume with the inputs and options of the run to resume");
+    case RequestError::Kind::NoSuchRun:
+        return QStringLiteral("; use --resume --run NAME with one of these names");
+    case RequestError::Kind::NothingMatches:
+    case RequestError::Kind::NothingToResume:
+    case RequestError::Kind::AlreadyRunning:
     case RequestError::Kind::Other:
         break;
     }
     return {};
+}
+
+ExitCode CodeFor(RequestError::Kind kind)
+{
+    switch (kind) {
+    case RequestError::Kind::NoPictures:
+    case RequestError::Kind::NothingMatches:
+        return ExitCode::NoPictures;
+    case RequestError::Kind::AlreadyRunning:
+        return ExitCode::AlreadyRunning;
+    case RequestError::Kind::NothingToResume:
+        return ExitCode::NothingToResume;
+    default:
+        return ExitCode::Usage;
+    }
 }
 
 } // namespace
@@ -89,8 +115,12 @@ QString RemedyFor(RequestError::Kind kind)
 ExitCode RunProgram(const QStringList& arguments)
 {
     qInstallMessageHandler(&HandleMessage);
+    if (arguments.isEmpty()) {
+        WriteError(ShortHelp(Terminal::Columns()));
+        return ExitCode::Usage;
+    }
     try {
-        const ParsedArguments parsed = ParseArguments(arguments);
+        const ParsedArguments parsed = ParseArguments(arguments, Terminal::OutputColumns());
         isVerbose = parsed.Has(QStringLiteral("--verbose"));
         if (!parsed.message.isEmpty()) {
             WriteOut(parsed.message);
@@ -104,10 +134,13 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode Report(const RequestError& error)
 {
-    const QString text = error.text + RemedyFor(error.kind);
-    const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
-    WriteErrorLine(QStringLiteral("velkora-batch: %1%2").arg(text, isWhole ? QString() : QStringLiteral(".")));
-    return ExitCode::Usage;
+    const QString text = Translated(error.text) + RemedyFor(error.kind);
+    WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                   (error.choices.isEmpty() ? WithFullStop(text) : text + QLatin1Char(':')));
+    for (const QString& choice : error.choices) {
+        WriteErrorLine(QStringLiteral("    ") + choice);
+    }
+    return CodeFor(error.kind);
 }
 
 } // namespace BatchCli

@@ -4,6 +4,7 @@
 #include "RunOutput.h"
 #include "RunPolicies.h"
 
+#include "hosts/cli/options/PolicyOptions.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/InteractiveRun.h"
 #include "hosts/cli/terminal/Startup.h"
@@ -21,6 +22,8 @@ using namespace BatchHost;
 namespace BatchCli {
 
 namespace {
+
+const QString runOption = QStringLiteral("--run");
 
 /// Whether `arguments` describe a job, beyond where its results go.
 bool IsJobGiven(const ParsedArguments& arguments)
@@ -41,13 +44,45 @@ JournaledJob JournaledJobOf(ZTBatchDocument& job, const ParsedArguments& argumen
         }
         const InterruptedRuns runs(folder);
         TellIgnoredJournals(runs);
-        return JournaledJob::Interrupted(job, runs, IsJobGiven(arguments));
+        return JournaledJob::Interrupted(job, runs, {IsJobGiven(arguments), arguments.Value(runOption)});
     }
     JournaledJob journaled = JournaledJob::New(job);
     if (journaled.StartsAnew()) {
         TellOfInterruptedRun();
     }
+    const QString folder = job.GetOutputSettings()->GetPath();
+    const int others = InterruptedRuns(folder).Count();
+    if (others > 0 && !arguments.Has(QStringLiteral("--quiet"))) {
+        TellOfOtherRuns(folder, others);
+    }
     return journaled;
+}
+
+void CheckRunName(const ParsedArguments& arguments)
+{
+    if (!arguments.Has(runOption)) {
+        return;
+    }
+    if (!arguments.Has(QStringLiteral("--resume"))) {
+        throw RequestError{QStringLiteral("%1 needs --resume").arg(runOption)};
+    }
+    if (arguments.Value(runOption).isEmpty()) {
+        throw RequestError{QStringLiteral("%1: the name is empty").arg(runOption)};
+    }
+}
+
+/// Reports a run without pictures.
+RunEnd EmptyRun(const ZTBatchDocument& job, const InputLosses& losses, RunOutput& output)
+{
+    RunInputs inputs;
+    inputs.leftOut = losses.leftOut;
+    RunEnd end;
+    end.outputFolder = job.GetOutputSettings()->GetPath();
+    for (RunObserver* const observer : output.Observers()) {
+        observer->OnStart(inputs, end.outputFolder);
+        observer->OnEnd(end);
+    }
+    return end;
 }
 
 ExitCode CodeOf(RunOutcome outcome)
@@ -68,10 +103,20 @@ ExitCode CodeOf(RunOutcome outcome)
     return ExitCode::ServerLost;
 }
 
-/// The exit code of a run that has ended with `outcome`, when `problems` inputs could not be collected.
-ExitCode CodeOf(RunOutcome outcome, int problems, bool isReportMissing)
+/// Whether every picture was written, or left out as an option says.
+bool IsAsWanted(const RunEnd& end, const ParsedArguments& arguments)
 {
-    const ExitCode code = CodeOf(outcome);
+    const QList<BatchJob::PolicyKind> kinds = end.unwritten.keys();
+    return end.NotProcessed() == 0 && std::all_of(kinds.begin(), kinds.end(), [&arguments](BatchJob::PolicyKind kind) {
+               return kind != BatchJob::PolicyKind::None && AreLeftOut(arguments, kind);
+           });
+}
+
+/// The exit code of a run, when `problems` inputs could not be collected.
+ExitCode CodeOf(const RunEnd& end, const ParsedArguments& arguments, int problems, bool isReportMissing)
+{
+    const bool isDone = end.Outcome() == RunOutcome::Incomplete && IsAsWanted(end, arguments);
+    const ExitCode code = isDone ? ExitCode::Done : CodeOf(end.Outcome());
     if (isReportMissing) {
         return std::max(code, ExitCode::Incomplete);
     }
@@ -82,9 +127,13 @@ ExitCode CodeOf(RunOutcome outcome, int problems, bool isReportMissing)
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    if (arguments.Has(QStringLiteral("--dry-run"))) {
+        return DryRun(arguments);
+    }
     OutliveReaders();
     // Wrong options are reported before folders are read, which may take long.
     CheckPolicyOptions(arguments);
+    CheckRunName(arguments);
     ApplyServerLimits(arguments);
     const QString settingsFolder = SettingsFolder(arguments);
     RunOutput output(arguments);
@@ -93,28 +142,38 @@ ExitCode RunJob(const ParsedArguments& arguments)
     const QString savedJob = TakeSavedJob(inputs);
     ZTBatchDocument job;
     const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
+    if (!arguments.Has(QStringLiteral("--resume")) && !HasPictures(job, arguments, inputs)) {
+        const RunEnd end = EmptyRun(job, losses, output);
+        return CodeOf(end, arguments, losses.problems, !output.WriteReportError());
+    }
 
     // From the first lock and folder to the last.
     InterruptWatcher interrupts;
     JournaledJob journaled = JournaledJobOf(job, arguments);
     RunEnd end;
+    RunPolicies policies;
     {
         JobRun run(settingsFolder);
         if (run.WhatPrevents() != JobRun::Obstacle::None) {
             TellObstacle(run);
             return ExitCode::ServerLost;
         }
-        const BatchJob::PolicyValues policies = PoliciesOfRun(arguments, journaled, settingsFolder);
-        const auto controller = run.Prepare(
-            job, journaled, {policies, arguments.Has(QStringLiteral("--strict")), losses.leftOut}, output.Observers());
+        policies = PoliciesOfRun(arguments, journaled, settingsFolder);
+        const auto controller =
+            run.Prepare(job, journaled, {policies.values, arguments.Has(QStringLiteral("--strict")), losses.leftOut},
+                        output.Observers());
         TellMissingJournal(journaled);
         end = RunInteractively(*controller, output.Display(), interrupts);
     }
     journaled.End(end);
+    if (!output.IsQuiet()) {
+        TellUnasked(policies, end);
+        TellKeptSources(policies, end);
+    }
     TellHowToResume(journaled, end, output.IsQuiet());
     TellTroubleOfServer(end);
     const bool isReportMissing = !output.WriteReportError();
-    const ExitCode code = CodeOf(end.Outcome(), losses.problems, isReportMissing);
+    const ExitCode code = CodeOf(end, arguments, losses.problems, isReportMissing);
     interrupts.Finish(code);
     return code;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RunPolicies.h"
+
 #include "hosts/common/JobRun.h"
 
 /// What the run command tells the user on standard error, beside the run itself.
@@ -7,6 +9,9 @@ namespace BatchCli {
 
 /// A new run replaces an interrupted one of the same job.
 void TellOfInterruptedRun();
+
+/// Other runs were interrupted in the output folder, too.
+void TellOfOtherRuns(const QString& outputFolder, int count);
 
 /// The journals in the output folder that are not taken up, and why.
 void TellIgnoredJournals(const BatchHost::InterruptedRuns& runs);
@@ -19,6 +24,12 @@ void TellObstacle(const BatchHost::JobRun& run);
 
 /// The command that resumes the run, if something is left to do.
 void TellHowToResume(const BatchHost::JournaledJob& job, const BatchHost::RunEnd& end, bool isQuiet);
+
+/// Files that were left out because nobody could be asked about them.
+void TellUnasked(const RunPolicies& policies, const BatchHost::RunEnd& end);
+
+/// Results that were to replace files, but were renamed because these are sources of the job.
+void TellKeptSources(const RunPolicies& policies, const BatchHost::RunEnd& end);
 
 /// What was wrong with the server or the job, if anything was.
 void TellTroubleOfServer(const BatchHost::RunEnd& end);

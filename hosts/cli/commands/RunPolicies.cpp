@@ -5,6 +5,7 @@
 #include "hosts/common/JournaledJob.h"
 #include "hosts/common/ManagerPolicies.h"
 #include "hosts/common/RequestError.h"
+#include "server/protocol/ServerLimits.h"
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -28,20 +29,15 @@ void CheckSettings(const PolicyValues& policies, const QString& settingsFolder)
     }
 }
 
-void ReplaceQuestions(PolicyValues& policies, bool isQuiet)
+void ReplaceQuestions(RunPolicies& policies)
 {
-    QStringList options;
     for (int i = 0; i < policyCount; ++i) {
         const auto kind = PolicyKind(i);
-        int& value = policies[std::size_t(i)];
+        int& value = policies.values[std::size_t(i)];
         if (value == AskingPolicy(kind)) {
             value = safePolicy;
-            options.append(PolicyOption(kind));
+            policies.unasked.append(kind);
         }
-    }
-    if (!options.isEmpty() && !isQuiet) {
-        WriteErrorLine(QStringLiteral("velkora-batch: without a terminal, \"ask\" becomes \"skip\" for %1.")
-                           .arg(options.join(QStringLiteral(", "))));
     }
 }
 
@@ -53,13 +49,16 @@ void CheckPolicyOptions(const ParsedArguments& arguments)
     ApplyPolicies(arguments, values);
 }
 
-PolicyValues PoliciesOfRun(const ParsedArguments& arguments, const JournaledJob& job, const QString& settingsFolder)
+RunPolicies PoliciesOfRun(const ParsedArguments& arguments, const JournaledJob& job, const QString& settingsFolder)
 {
-    PolicyValues policies = job.Policies() ? *job.Policies() : PoliciesOfManager();
-    ApplyPolicies(arguments, policies);
-    CheckSettings(policies, settingsFolder);
+    RunPolicies policies{job.Policies() ? *job.Policies() : PoliciesOfManager(), {}};
+    ApplyPolicies(arguments, policies.values);
+    CheckSettings(policies.values, settingsFolder);
     if (!Terminal::IsInputTerminal() || !Terminal::IsErrorTerminal()) {
-        ReplaceQuestions(policies, arguments.Has(QStringLiteral("--quiet")));
+        ReplaceQuestions(policies);
+    }
+    if (policies.unasked.contains(PolicyKind::Naming)) {
+        BatchProtocol::sharedNamesLimit.Set(1);
     }
     return policies;
 }

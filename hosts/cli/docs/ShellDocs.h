@@ -5,7 +5,7 @@
 /// The manual page and the shell completions, generated from the tables of commands.
 namespace BatchCli {
 
-/// The manual page, in roff. In `frame`, "@COMMANDS@" and "@VERSION@" are replaced.
+/// The manual page, in roff. In `frame`, "@COMMANDS@", "@EXAMPLES@" and "@VERSION@" are replaced.
 QString ManualPage(const QString& frame);
 
 QString BashCompletion();

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
-#include "HelpTexts.h"
+#include "ForeignWords.h"
+#include "QualityOption.h"
 #include "Words.h"
 
 #include "hosts/common/JobFile.h"
@@ -8,6 +9,8 @@
 #include "server/protocol/SystemProtection.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 #include <CLI/CLI.hpp>
 
@@ -86,14 +89,61 @@ QStringList CommandNames()
     return names;
 }
 
-RequestError UnknownOption(const QString& text, const CommandInfo& command)
+/// The names of the commands other than `command` that have the option `name`.
+QStringList OtherCommandsWith(const QString& name, const CommandInfo& command)
+{
+    QStringList names;
+    for (const CommandInfo& other : Commands()) {
+        const bool hasOption = std::any_of(other.options.begin(), other.options.end(), [&](const OptionInfo& option) {
+            return option.name == name || (!name.isEmpty() && option.shortName == name);
+        });
+        if (hasOption && other.name != command.name) {
+            names.append(other.name);
+        }
+    }
+    return names;
+}
+
+/// The error of `text`, an option that `command` does not have. `next` is the argument after it.
+RequestError UnknownOption(const QString& text, const QString& next, const CommandInfo& command)
 {
     const QString name = text.section(QLatin1Char('='), 0, 0);
+    const bool hasValue = text.contains(QLatin1Char('='));
+    const QString value = hasValue                            ? text.section(QLatin1Char('='), 1)
+                          : next.startsWith(QLatin1Char('-')) ? QString()
+                                                              : next;
+    const QString unknown = QStringLiteral("unknown option %1; ").arg(name);
+    const QString advice = AdviceForOption(name, value, command);
+    if (!advice.isEmpty()) {
+        return {unknown + advice};
+    }
+    const QStringList others = OtherCommandsWith(name, command);
+    if (!others.isEmpty()) {
+        return {unknown + QStringLiteral("it is an option of %1; \"velkora-batch %2 --help\" lists the options")
+                              .arg(others.join(QStringLiteral(", ")), command.name)};
+    }
     const QString nearest = NearestOption(name, command);
-    return {
-        nearest.isEmpty()
-            ? QStringLiteral("unknown option %1; \"velkora-batch %2 --help\" lists the options").arg(name, command.name)
-            : QStringLiteral("unknown option %1; did you mean \"%2\"?").arg(name, nearest)};
+    return {unknown + (nearest.isEmpty()
+                           ? QStringLiteral("\"velkora-batch %1 --help\" lists the options").arg(command.name)
+                           : QStringLiteral("did you mean \"%1\"?").arg(nearest))};
+}
+
+/// The error of a first argument that is no command.
+RequestError UnknownCommand(const QString& text)
+{
+    const QFileInfo info(text);
+    if (info.exists()) {
+        return {QStringLiteral("%1 is a %2, not a command; did you mean \"velkora-batch run %1\"?")
+                    .arg(text, info.isDir() ? QStringLiteral("folder") : QStringLiteral("file"))};
+    }
+    if (text.contains(QRegularExpression(QStringLiteral("[/\\\\*?]")))) {
+        return {QStringLiteral("%1 is no command; did you mean \"velkora-batch run %1\"?").arg(text)};
+    }
+    const QString advice = AdviceForCommand(text);
+    if (!advice.isEmpty()) {
+        return {QStringLiteral("unknown command \"%1\"; did you mean \"velkora-batch %2\"?").arg(text, advice)};
+    }
+    return {QStringLiteral("unknown command: %1").arg(NoSuchWord(text, CommandNames()).text)};
 }
 
 void CheckFirstArgument(const QStringList& arguments)
@@ -104,14 +154,36 @@ void CheckFirstArgument(const QStringList& arguments)
                                .arg(CommandNames().join(QStringLiteral(", ")))};
     }
     if (first.startsWith(QLatin1Char('-'))) {
-        const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version")};
+        const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version"),
+                                QStringLiteral("-V")};
         if (!known.contains(first)) {
             throw RequestError{QStringLiteral("%1 is not allowed before the command, only %2%3")
                                    .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
         }
     } else if (!CommandNames().contains(first)) {
-        throw RequestError{QStringLiteral("unknown command: %1").arg(NoSuchWord(first, CommandNames()).text)};
+        throw UnknownCommand(first);
     }
+}
+
+const CommandInfo& CommandNamed(const QString& name)
+{
+    return *std::find_if(Commands().begin(), Commands().end(),
+                         [&name](const CommandInfo& known) { return known.name == name; });
+}
+
+/// What the command "help" prints.
+QString HelpFor(const QStringList& names, int columns)
+{
+    if (names.isEmpty()) {
+        return ProgramHelp(columns);
+    }
+    if (names.size() > 1) {
+        throw RequestError{QStringLiteral("help takes one command, but got %1").arg(names.join(QStringLiteral(", ")))};
+    }
+    if (!CommandNames().contains(names.first())) {
+        throw NoSuchWord(names.first(), CommandNames()).In(QStringLiteral("help"));
+    }
+    return CommandHelp(CommandNamed(names.first()), columns);
 }
 
 QString VersionText(bool isVerbose)
@@ -130,6 +202,29 @@ void CheckTexts(const QStringList& arguments)
         if (!CanBeSaved(arguments.at(i))) {
             throw RequestError{QStringLiteral("argument %1, \"%2\", contains a character that a job cannot hold")
                                    .arg(QString::number(i + 1), arguments.at(i))};
+        }
+    }
+}
+
+/// "--json=no" looks like the opposite of --json, and the parser has its own idea of what such a value means.
+void CheckSwitches(const QStringList& arguments, const CommandInfo& command)
+{
+    QStringList switches;
+    QStringList namesWithValue;
+    for (const OptionInfo& option : command.options) {
+        if (option.valueName.isEmpty()) {
+            switches.append(option.name);
+        } else {
+            namesWithValue.append(option.name);
+            namesWithValue.append(option.shortName.isEmpty() ? option.name : option.shortName);
+        }
+    }
+    for (int i = 1; i < arguments.size() && arguments.at(i) != QLatin1String("--"); ++i) {
+        const QString name = arguments.at(i).section(QLatin1Char('='), 0, 0);
+        const bool isValue = namesWithValue.contains(arguments.at(i - 1));
+        if (name != arguments.at(i) && switches.contains(name) && !isValue) {
+            throw RequestError{
+                QStringLiteral("%1 is a switch and takes no value; type %1 alone, or leave it out").arg(name)};
         }
     }
 }
@@ -154,11 +249,12 @@ QStringList InputsAmong(const std::vector<std::string>& rest, const CommandInfo&
 {
     QStringList inputs;
     bool areOptionsOver = false;
-    for (const std::string& text : rest) {
+    for (std::size_t i = 0; i < rest.size(); ++i) {
+        const std::string& text = rest[i];
         if (!areOptionsOver && text == "--") {
             areOptionsOver = true;
         } else if (!areOptionsOver && text.size() > 1 && text[0] == '-') {
-            throw UnknownOption(Text(text), command);
+            throw UnknownOption(Text(text), i + 1 < rest.size() ? Text(rest[i + 1]) : QString(), command);
         } else {
             inputs.append(Text(text));
         }
@@ -191,23 +287,22 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
 
 } // namespace
 
-ParsedArguments ParseArguments(const QStringList& arguments)
+ParsedArguments ParseArguments(const QStringList& arguments, int columns)
 {
     CheckTexts(arguments);
     CheckFirstArgument(arguments);
     ParsedArguments parsed;
-    if (arguments.first() == QLatin1String("--version")) {
+    if (arguments.first() == QLatin1String("--version") || arguments.first() == QLatin1String("-V")) {
         parsed.message = VersionText(arguments.contains(QStringLiteral("--verbose")));
         return parsed;
     }
     if (arguments.first().startsWith(QLatin1Char('-'))) {
-        parsed.message = ProgramHelp();
+        parsed.message = ProgramHelp(columns);
         return parsed;
     }
-    const CommandInfo& command = *std::find_if(Commands().begin(), Commands().end(), [&](const CommandInfo& known) {
-        return known.name == arguments.first();
-    });
+    const CommandInfo& command = CommandNamed(arguments.first());
 
+    CheckSwitches(arguments, command);
     CLI::App app;
     app.set_help_flag();
     app.allow_extras();
@@ -226,8 +321,11 @@ ParsedArguments ParseArguments(const QStringList& arguments)
     }
     parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
     CheckNames(parsed, command);
+    CheckQuality(parsed);
     if (parsed.Has(QStringLiteral("--help"))) {
-        parsed.message = CommandHelp(command);
+        parsed.message = CommandHelp(command, columns);
+    } else if (command.name == QLatin1String("help")) {
+        parsed.message = HelpFor(parsed.inputs, columns);
     }
     return parsed;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OptionInfo.h"
+#include "HelpTexts.h"
 
 #include <QHash>
 #include <QStringList>
@@ -27,7 +27,7 @@ const QVector<CommandInfo>& Commands();
 /// The options that describe a job, including its inputs.
 QVector<OptionInfo> OptionsOfJobs();
 
-/// Throws RequestError.
-ParsedArguments ParseArguments(const QStringList& arguments);
+/// Help texts get lines of about `columns` columns. Throws RequestError.
+ParsedArguments ParseArguments(const QStringList& arguments, int columns = defaultColumns);
 
 } // namespace BatchCli

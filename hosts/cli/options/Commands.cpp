@@ -1,10 +1,13 @@
 #include "CommandLine.h"
+#include "FormatNames.h"
 #include "JobOptions.h"
+#include "OrderOption.h"
 #include "PolicyOptions.h"
+#include "PresetOptions.h"
 #include "RunOptions.h"
 
 #include "job/effects/EffectCatalog.h"
-#include "job/formats/FormatCatalog.h"
+#include "job/values/JobValues.h"
 
 namespace BatchCli {
 
@@ -20,14 +23,32 @@ QVector<OptionInfo> InputOptions()
     const QString group = Text("Inputs");
     return {
         {Text("--no-inputs"), QString(), Text("drops the inputs of the saved job first"), group},
+        {Text("--files-from"), Text("FILE"),
+         Text("also takes the files and folders that a file names, one a line, or standard input for \"-\". Relative "
+              "names start at the current folder"),
+         group, false, Completion::Files},
+        {Text("--null"),
+         QString(),
+         Text("the names of --files-from are separated by NUL, not by line ends"),
+         group,
+         false,
+         Completion::Nothing,
+         {},
+         Text("-0")},
         {Text("--include"), Text("WILDCARD"),
-         Text("takes only files whose names match, such as \"*.nef\"; default: all that can be read. Files that are "
-              "given by name are always taken"),
+         Text(
+             "takes only files whose names match, such as \"*.{nef,cr2}\", or whose paths in the given folders match, "
+             "such as \"2024/**/*.jpg\"; default: all that can be read. Files that are given by name are always taken"),
          group, true},
         {Text("--exclude"), Text("WILDCARD"),
-         Text("leaves out files and folders whose names match, inside the given folders"), group, true},
+         Text("leaves out files and folders whose names or paths match, inside the given folders"), group, true},
         {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
         {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
+        {orderOption, Text("WORD"),
+         Text("the order of the pictures, which numbers in names follow: taken, by capture time, and by the file's own "
+              "time where there is none; name, folder by folder; given, as the command line names them. The default is "
+              "name, or the order of the saved job"),
+         group, false, Completion::Words, BatchJob::AllWords(BatchHost::inputOrderWords)},
     };
 }
 
@@ -66,30 +87,34 @@ QStringList EffectIds()
     return ids;
 }
 
-QStringList FormatNames()
+QVector<CommandInfo> WithHelp(QVector<CommandInfo> commands)
 {
-    QStringList names;
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
-        names.append(format.name);
+    CommandInfo help{QStringLiteral("help"),
+                     Text("[COMMAND]"),
+                     Text("prints the help of a command"),
+                     {GeneralOptions().last()},
+                     Completion::Words};
+    for (const CommandInfo& command : qAsConst(commands)) {
+        help.words.append(command.name);
     }
-    return names;
+    commands.append(help);
+    return commands;
 }
 
 QVector<CommandInfo> MakeCommands()
 {
-    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + GeneralOptions();
+    const QVector<OptionInfo> ofJobs = OptionsOfJobs() + QVector<OptionInfo>{SettingsOptionInfo()} + GeneralOptions();
     const QVector<OptionInfo> ofLists =
         QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
-    const QVector<OptionInfo> ofCreate =
-        QVector<OptionInfo>{{Text("--from"), Text("JOB.xml"), Text("starts from a saved job"), Text("Inputs"), false,
-                             Completion::Files},
-                            {Text("--force"), QString(), Text("replaces an existing file"), Text("General")}} +
-        ofJobs;
+    const QVector<OptionInfo> ofCreate = QVector<OptionInfo>{FromOptionInfo(), ForceOptionInfo()} + ofJobs;
     return {
         {Text("run"), Text("[JOB.xml] [INPUT...]"),
-         Text("processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
-              "pictures were written, 1 when some were skipped or failed, 2 for wrong arguments or a wrong job, 3 when "
-              "the server could not be started or was lost, 4 when the run was cancelled"),
+         Text(
+             "processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
+             "pictures were written, or left out by a policy that an option names; 1 when some failed or were left out "
+             "otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 "
+             "when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on "
+             "already; 7 when there is nothing to resume"),
          OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          Text("writes a job with these inputs and options to a file, or to standard output for \"-\""), ofCreate,
@@ -98,11 +123,16 @@ QVector<CommandInfo> MakeCommands()
          Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
          Completion::Files},
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints every input with its output, and writes nothing. A problem is printed in brackets, with what "
+         Text("prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
+              "brackets, with what "
               "the policy would do about it. Exit status: 1 when there are problems"),
-         OptionsOfJobs() + PolicyOptionInfos() +
+         OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
-                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")}} +
+                 {Text("--no-sizes"), QString(),
+                  Text("does not look at every picture for its size in pixels, which takes time for many"),
+                  Text("General")},
+                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")},
+                 SettingsOptionInfo()} +
              GeneralOptions(),
          Completion::Files},
         {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
@@ -110,6 +140,7 @@ QVector<CommandInfo> MakeCommands()
         {Text("formats"), Text("[NAME...]"),
          Text("lists the output formats with their options, and the files that can be read"), ofLists,
          Completion::Words, FormatNames()},
+        PresetsCommandInfo(JobOptionInfos(), GeneralOptions()),
     };
 }
 
@@ -117,12 +148,12 @@ QVector<CommandInfo> MakeCommands()
 
 QVector<OptionInfo> OptionsOfJobs()
 {
-    return InputOptions() + JobOptionInfos();
+    return QVector<OptionInfo>{PresetOptionInfo()} + InputOptions() + JobOptionInfos();
 }
 
 const QVector<CommandInfo>& Commands()
 {
-    static const QVector<CommandInfo> commands = MakeCommands();
+    static const QVector<CommandInfo> commands = WithHelp(MakeCommands());
     return commands;
 }
 

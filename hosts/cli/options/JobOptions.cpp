@@ -1,17 +1,21 @@
 #include "JobOptions.h"
 
+#include "CropTexts.h"
+#include "FormatNames.h"
+#include "LengthTexts.h"
 #include "ParameterTexts.h"
+#include "QualityOption.h"
 #include "ValueTexts.h"
 #include "Words.h"
 
 #include "hosts/common/UserPath.h"
 #include "job/effects/EffectCatalog.h"
-#include "job/formats/FormatCatalog.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 #include <limits>
 
@@ -34,6 +38,15 @@ QString Text(const char* text)
 Settings& Output(const ZTBatchDocument& job)
 {
     return *job.GetOutputSettings();
+}
+
+/// An option that would change nothing is a mistake: what it needs is missing, or was misspelt.
+void Need(bool isThere, const QString& text, const char* what, const char* option)
+{
+    if (!isThere) {
+        throw RequestError{QStringLiteral("\"%1\" has no effect without %2; add %3")
+                               .arg(text, QString::fromLatin1(what), QString::fromLatin1(option))};
+    }
 }
 
 // Options that change one field of a record.
@@ -70,13 +83,27 @@ auto ChangeFrame(Change change)
     };
 }
 
+/// Options about the shadow leave it to --shadow to cast one.
+template<typename Change>
+auto ChangeShadow(Change change)
+{
+    return ChangeFrame([change](Settings::Transformation& frame, const QString& text) {
+        change(frame, text);
+        Need(frame.shadowEnabled, text, "a shadow", "--shadow");
+    });
+}
+
+bool IsScaled(const Settings::ImageSize& imageSize)
+{
+    return imageSize.restriction != int(BatchJob::SizeRestriction::None);
+}
+
 template<typename Show>
 auto ShowImageSize(Show show)
 {
     return [show](const ZTBatchDocument& job) {
         const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
-        const bool isScaled = imageSize.restriction != int(BatchJob::SizeRestriction::None);
-        return isScaled ? QStringList{show(imageSize)} : QStringList();
+        return IsScaled(imageSize) ? QStringList{show(imageSize)} : QStringList();
     };
 }
 
@@ -100,36 +127,12 @@ auto ShowShadow(Show show)
 
 // Output.
 
-QStringList FormatNames()
-{
-    QStringList names{Settings::GetOriginalFormat()};
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
-        names.append(format.name);
-    }
-    return names;
-}
-
-QString FormatFromText(const QString& text)
-{
-    const QStringList names = FormatNames();
-    for (const QString& name : names) {
-        if (name.compare(text, Qt::CaseInsensitive) == 0) {
-            return name;
-        }
-    }
-    const BatchJob::FormatSchema* const format = BatchJob::FindFormatByExtension(text);
-    if (format == nullptr) {
-        throw NoSuchWord(text, names);
-    }
-    return format->name;
-}
-
 void SetFormat(ZTBatchDocument& job, const QString& text)
 {
     QString format;
     QByteArray options;
     Output(job).GetFormat(format, options);
-    const QString wanted = FormatFromText(text);
+    const QString wanted = FormatName(text);
     // Format options are valid for their format only.
     Output(job).SetFormat(wanted, wanted == format ? options : QByteArray());
 }
@@ -172,7 +175,9 @@ QVector<JobOption> OutputOptions()
          }},
         {{Text("--output"),
           Text("DIR"),
-          Text("the folder for the results; it is created when it does not exist"),
+          Text("the folder for the results; it is created when it does not exist, and a relative one starts at the "
+               "current "
+               "folder"),
           group,
           false,
           Completion::Folders,
@@ -186,8 +191,10 @@ QVector<JobOption> OutputOptions()
          },
          [](const ZTBatchDocument& job) { return QStringList{Output(job).GetPath()}; }},
         {{Text("--structure"), Text("WORD"),
-          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date"), group, false,
-          Completion::Words, AllWords(BatchJob::FolderStructureWords)},
+          Text("the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file "
+               "where "
+               "a picture has none"),
+          group, false, Completion::Words, AllWords(BatchJob::FolderStructureWords)},
          [](ZTBatchDocument& job, const QString& text) {
              Output(job).SetFolderStructure(Settings::FolderStructure(ValueOf(BatchJob::FolderStructureWords, text)));
          },
@@ -197,7 +204,7 @@ QVector<JobOption> OutputOptions()
         {{Text("--format"), Text("FORMAT"),
           Text("the format of results, by name or extension; Original keeps that of each input. Changing the format "
                "of a saved job drops its format options"),
-          group, false, Completion::Words, FormatNames()},
+          group, false, Completion::Words, FormatNames(), Text("-f")},
          SetFormat,
          [](const ZTBatchDocument& job) {
              QString format;
@@ -214,6 +221,7 @@ QVector<JobOption> OutputOptions()
              Output(job).GetFormat(format, options);
              return FormatOptionTexts(options);
          }},
+        QualityOption(),
         {{Text("--icc"), Text("FILE"),
           Text("an ICC profile to convert results to and to embed; none keeps each input's own"), group, false,
           Completion::Files},
@@ -226,6 +234,11 @@ QVector<JobOption> OutputOptions()
 }
 
 // Names.
+
+bool HasPart(const ZTBatchDocument& job, Settings::NamingPart part)
+{
+    return Output(job).GetNamingTemplate(part) != Settings::TemplateNothing;
+}
 
 JobOption NamePart(const char* name, Settings::NamingPart part, const QString& help)
 {
@@ -240,21 +253,30 @@ QVector<JobOption> NameOptions()
     const QString group = Text("Names of results");
     return {
         NamePart("--prefix", Settings::PartPrefix, Text("what a name begins with; PART is the same as for --name")),
-        NamePart("--name", Settings::PartMiddle,
-                 Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
-                      "date; time; text:TEXT; nothing")),
+        NamePart(
+            "--name", Settings::PartMiddle,
+            Text("the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
+                 "date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing")),
         NamePart("--suffix", Settings::PartSuffix, Text("what a name ends with")),
         {{Text("--prefix-separator"), Text("TEXT"), Text("the text between prefix and middle"), group},
-         [](ZTBatchDocument& job, const QString& text) { Output(job).SetPrefixSeparator(text); },
+         [](ZTBatchDocument& job, const QString& text) {
+             Need(text.isEmpty() || HasPart(job, Settings::PartPrefix), text, "a prefix", "--prefix");
+             Output(job).SetPrefixSeparator(text);
+         },
          [](const ZTBatchDocument& job) {
              const QString separator = Output(job).GetPrefixSeparator();
-             return separator.isEmpty() ? QStringList() : QStringList{separator};
+             const bool isUsed = !separator.isEmpty() && HasPart(job, Settings::PartPrefix);
+             return isUsed ? QStringList{separator} : QStringList();
          }},
         {{Text("--suffix-separator"), Text("TEXT"), Text("the text between middle and suffix"), group},
-         [](ZTBatchDocument& job, const QString& text) { Output(job).SetSuffixSeparator(text); },
+         [](ZTBatchDocument& job, const QString& text) {
+             Need(text.isEmpty() || HasPart(job, Settings::PartSuffix), text, "a suffix", "--suffix");
+             Output(job).SetSuffixSeparator(text);
+         },
          [](const ZTBatchDocument& job) {
              const QString separator = Output(job).GetSuffixSeparator();
-             return separator.isEmpty() ? QStringList() : QStringList{separator};
+             const bool isUsed = !separator.isEmpty() && HasPart(job, Settings::PartSuffix);
+             return isUsed ? QStringList{separator} : QStringList();
          }},
     };
 }
@@ -268,28 +290,44 @@ void SetSize(Settings::ImageSize& imageSize, const QString& text)
         return;
     }
     LengthFromText(text, imageSize);
-    if (imageSize.restriction == int(BatchJob::SizeRestriction::None)) {
+    if (!IsScaled(imageSize)) {
         imageSize.restriction = int(BatchJob::SizeRestriction::ReduceOnly);
     }
+}
+
+/// In other programs --resize takes a size.
+int RestrictionFromText(const QString& text)
+{
+    if (!text.isEmpty() && text.at(0).isDigit()) {
+        const QString side = text.section(QRegularExpression(QStringLiteral("[xX]")), 0, 0);
+        throw RequestError{QStringLiteral("\"%1\" is a size, and this option says which pictures change; use --size %2")
+                               .arg(text, side)};
+    }
+    return ValueOf(BatchJob::SizeRestrictionWords, text);
 }
 
 QVector<JobOption> SizeOptions()
 {
     const QString group = Text("Size and crop");
     return {
-        {{Text("--size"), Text("LENGTH"),
+        {{Text("--size"),
+          Text("LENGTH"),
           Text("scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size"),
-          group},
+          group,
+          false,
+          Completion::Nothing,
+          {},
+          Text("-s")},
          ChangeImageSize(SetSize),
          [](const ZTBatchDocument& job) {
              const Settings::ImageSize imageSize = Output(job).GetImageSizeSettings();
-             const bool isScaled = imageSize.restriction != int(BatchJob::SizeRestriction::None);
-             return QStringList{isScaled ? LengthText(imageSize) : none};
+             return QStringList{IsScaled(imageSize) ? LengthText(imageSize) : none};
          }},
         {{Text("--side"), Text("SIDE"), Text("the side that --size sets"), group, false, Completion::Words,
           AllWords(BatchJob::SizeSideWords)},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
              imageSize.side = ValueOf(BatchJob::SizeSideWords, text);
+             Need(IsScaled(imageSize), text, "a size", "--size");
          }),
          ShowImageSize(
              [](const Settings::ImageSize& imageSize) { return WordOf(BatchJob::SizeSideWords, imageSize.side); })},
@@ -298,7 +336,10 @@ QVector<JobOption> SizeOptions()
                "both; none"),
           group, false, Completion::Words, AllWords(BatchJob::SizeRestrictionWords)},
          ChangeImageSize([](Settings::ImageSize& imageSize, const QString& text) {
-             imageSize.restriction = ValueOf(BatchJob::SizeRestrictionWords, text);
+             const int restriction = RestrictionFromText(text);
+             const bool isScaling = restriction != int(BatchJob::SizeRestriction::None);
+             Need(IsScaled(imageSize) || !isScaling, text, "a size", "--size");
+             imageSize.restriction = restriction;
          }),
          ShowImageSize([](const Settings::ImageSize& imageSize) {
              return WordOf(BatchJob::SizeRestrictionWords, imageSize.restriction);
@@ -314,25 +355,37 @@ QVector<JobOption> SizeOptions()
          }},
         {{Text("--crop"), Text("CROP"),
           Text("none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of "
-               "that ratio; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600, scales to "
-               "cover, then cuts; exact:800x600, that many pixels"),
-          group, false, Completion::Words, AllWords(BatchJob::CropTypeWords)},
-         ChangeCrop([](Settings::Crop& crop, const QString& text) { CropFromText(text, crop); }),
+               "that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of "
+               "that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; "
+               "exact:800x600, that many pixels. in, cm and mm become pixels by --resolution"),
+          group, false, Completion::Words, CropWords()},
+         [](ZTBatchDocument& job, const QString& text) {
+             Settings::Crop crop = Output(job).GetCropSettings();
+             CropFromText(text, Output(job).GetImageSizeSettings(), crop);
+             Output(job).SetCropSettings(crop);
+         },
          [](const ZTBatchDocument& job) { return QStringList{CropText(Output(job).GetCropSettings())}; }},
         {{Text("--crop-position"), Text("WORD"), Text("where ratio, fill and exact place the frame in the picture"),
           group, false, Completion::Words, AllWords(BatchJob::AlignmentWords)},
          ChangeCrop([](Settings::Crop& crop, const QString& text) {
              crop.alignment = ValueOf(BatchJob::AlignmentWords, text);
+             Need(BatchJob::HasCropAlignment(crop.type), text, "--crop ratio, fill or exact", "one of them");
          }),
          [](const ZTBatchDocument& job) {
              const Settings::Crop crop = Output(job).GetCropSettings();
-             const bool isCropped = crop.type != int(BatchJob::CropType::None);
-             return isCropped ? QStringList{WordOf(BatchJob::AlignmentWords, crop.alignment)} : QStringList();
+             return BatchJob::HasCropAlignment(crop.type)
+                        ? QStringList{WordOf(BatchJob::AlignmentWords, crop.alignment)}
+                        : QStringList();
          }},
     };
 }
 
 // Frame.
+
+bool HasBackground(const Settings::Transformation& frame)
+{
+    return frame.backgroundType != int(BatchJob::BackgroundType::None);
+}
 
 QVector<JobOption> FrameOptions()
 {
@@ -385,8 +438,15 @@ QVector<JobOption> FrameOptions()
          ChangeFrame([](Frame& frame, const QString& text) { BackgroundFromText(text, frame); }),
          ShowFrame([](const Frame& frame) { return BackgroundText(frame); })},
         {{Text("--background-opacity"), Text("0..1"), Text("the opacity of the background"), group},
-         ChangeFrame([](Frame& frame, const QString& text) { frame.backgroundOpacity = NumberFromText(text, 0, 1); }),
-         ShowFrame([](const Frame& frame) { return NumberText(frame.backgroundOpacity); })},
+         ChangeFrame([](Frame& frame, const QString& text) {
+             frame.backgroundOpacity = NumberFromText(text, 0, 1);
+             Need(HasBackground(frame), text, "a background", "--background");
+         }),
+         [](const ZTBatchDocument& job) {
+             const Frame frame = Output(job).GetTransformationSettings();
+             return frame.state && HasBackground(frame) ? QStringList{NumberText(frame.backgroundOpacity)}
+                                                        : QStringList();
+         }},
         {{Text("--shadow"), Text("WORD"), Text("the shadow of the picture: drop; glow, around it; none"), group, false,
           Completion::Words, QStringList{none} + AllWords(BatchJob::ShadowModeWords)},
          ChangeFrame([](Frame& frame, const QString& text) {
@@ -399,22 +459,22 @@ QVector<JobOption> FrameOptions()
              return frame.shadowEnabled ? WordOf(BatchJob::ShadowModeWords, frame.shadowMode) : none;
          })},
         {{Text("--shadow-colour"), Text("COLOUR"), Text("#rrggbb or a name"), group},
-         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowColor = ColourFromText(text); }),
+         ChangeShadow([](Frame& frame, const QString& text) { frame.shadowColor = ColourFromText(text); }),
          ShowShadow([](const Frame& frame) { return frame.shadowColor.name(); })},
         {{Text("--shadow-opacity"), Text("0..1"), Text("the opacity of the shadow"), group},
-         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowOpacity = NumberFromText(text, 0, 1); }),
+         ChangeShadow([](Frame& frame, const QString& text) { frame.shadowOpacity = NumberFromText(text, 0, 1); }),
          ShowShadow([](const Frame& frame) { return NumberText(frame.shadowOpacity); })},
         {{Text("--shadow-angle"), Text("DEGREES"), Text("where the light comes from: 0 from the right, 90 from above"),
           group},
-         ChangeFrame(
+         ChangeShadow(
              [](Frame& frame, const QString& text) { frame.shadowAngle = IntegerFromText(text, -farthest, farthest); }),
          ShowShadow([](const Frame& frame) { return QString::number(frame.shadowAngle); })},
         {{Text("--shadow-distance"), Text("PIXELS"), Text("how far the shadow lies from the picture"), group},
-         ChangeFrame(
+         ChangeShadow(
              [](Frame& frame, const QString& text) { frame.shadowDistance = IntegerFromText(text, 0, farthest); }),
          ShowShadow([](const Frame& frame) { return QString::number(frame.shadowDistance); })},
         {{Text("--shadow-size"), Text("PIXELS"), Text("how soft the shadow is"), group},
-         ChangeFrame([](Frame& frame, const QString& text) { frame.shadowSize = IntegerFromText(text, 0, farthest); }),
+         ChangeShadow([](Frame& frame, const QString& text) { frame.shadowSize = IntegerFromText(text, 0, farthest); }),
          ShowShadow([](const Frame& frame) { return QString::number(frame.shadowSize); })},
     };
 }

@@ -4,6 +4,7 @@
 
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
+#include "job/values/ColourNames.h"
 
 #include "ZTBatchOutputSettings.h"
 #include "ZTStyle.h"
@@ -94,6 +95,23 @@ QByteArray Compact(const QJsonObject& object)
     return object.isEmpty() ? QByteArray() : QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
+/// `json` with the names of colours replaced by what jobs hold; unchanged without such names, or if it is no object.
+QByteArray WithoutColourNames(const QVector<ParameterSchema>& schema, const QByteArray& json)
+{
+    QJsonObject object = QJsonDocument::fromJson(json).object();
+    bool isChanged = false;
+    for (const ParameterSchema& parameter : schema) {
+        const QString colour = parameter.type == BatchJob::ParameterType::Colour
+                                   ? BatchJob::ColourOfName(object.value(parameter.name).toString())
+                                   : QString();
+        if (!colour.isEmpty()) {
+            object.insert(parameter.name, colour);
+            isChanged = true;
+        }
+    }
+    return isChanged ? Compact(object) : json;
+}
+
 QString ValueText(const QJsonValue& value)
 {
     if (value.isString()) {
@@ -145,7 +163,7 @@ Effect EffectFromText(const QString& text)
     effect.id = schema->id;
     const QString parameters = whole.section(QLatin1Char(':'), 1);
     if (parameters.startsWith(QLatin1Char('{'))) {
-        effect.parameters = parameters.toUtf8();
+        effect.parameters = WithoutColourNames(schema->parameters, parameters.toUtf8());
     } else if (!parameters.isEmpty()) {
         QJsonObject object;
         for (const Assignment& assignment : SplitAll(parameters)) {
@@ -202,19 +220,28 @@ QByteArray WithFormatOption(const QString& format, const QByteArray& options, co
     return Compact(object);
 }
 
+QString TypedValue(const QJsonValue& value)
+{
+    if (!value.isArray()) {
+        return ValueText(value);
+    }
+    QStringList list;
+    for (const QJsonValue element : value.toArray()) {
+        QStringList numbers;
+        for (const QJsonValue number : element.toArray()) {
+            numbers.append(ValueText(number));
+        }
+        list.append(element.isArray() ? numbers.join(QLatin1Char(':')) : ValueText(element));
+    }
+    return list.isEmpty() ? QStringLiteral("none") : list.join(QLatin1Char('+'));
+}
+
 QStringList FormatOptionTexts(const QByteArray& options)
 {
     const QJsonObject object = QJsonDocument::fromJson(options).object();
     QStringList texts;
     for (auto it = object.begin(); it != object.end(); ++it) {
-        QStringList list;
-        for (const QJsonValue value : it.value().toArray()) {
-            list.append(ValueText(value));
-        }
-        const QString value = !it.value().isArray() ? ValueText(it.value())
-                              : list.isEmpty()      ? QStringLiteral("none")
-                                                    : list.join(QLatin1Char('+'));
-        texts.append(it.key() + QLatin1Char('=') + value);
+        texts.append(it.key() + QLatin1Char('=') + TypedValue(it.value()));
     }
     return texts;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonValue>
 #include <QString>
 
 class ZTStyle;
@@ -25,6 +26,9 @@ QString EffectText(const ZTStyle& style, int index);
 
 /// The format options `options` of a job in `format`, with the one in `text`, "KEY=VALUE", set. Throws RequestError.
 QByteArray WithFormatOption(const QString& format, const QByteArray& options, const QString& text);
+
+/// `value` as users write it: the elements of a list joined with "+", points as x:y, "none" for an empty list.
+QString TypedValue(const QJsonValue& value);
 
 /// "KEY=VALUE" for each of the options, in their order.
 QStringList FormatOptionTexts(const QByteArray& options);

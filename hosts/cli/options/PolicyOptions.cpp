@@ -73,6 +73,12 @@ int PolicyValue(PolicyKind kind, const QString& word)
     }
 }
 
+bool AreLeftOut(const ParsedArguments& arguments, PolicyKind kind)
+{
+    const QString option = PolicyOption(kind);
+    return arguments.Has(option) && PolicyValue(kind, arguments.Value(option)) == safePolicy;
+}
+
 QVector<OptionInfo> PolicyOptionInfos()
 {
     QVector<OptionInfo> infos;

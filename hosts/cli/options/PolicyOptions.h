@@ -16,6 +16,9 @@ QVector<OptionInfo> PolicyOptionInfos();
 /// Sets the values for which `arguments` have an option. Throws RequestError.
 void ApplyPolicies(const ParsedArguments& arguments, BatchJob::PolicyValues& values);
 
+/// Whether an option of `arguments` says that files for which the policy `kind` decides are left out.
+bool AreLeftOut(const ParsedArguments& arguments, BatchJob::PolicyKind kind);
+
 /// The value of `word` for the policy `kind`. Throws RequestError.
 int PolicyValue(BatchJob::PolicyKind kind, const QString& word);
 

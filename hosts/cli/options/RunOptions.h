@@ -7,10 +7,13 @@ namespace BatchCli {
 /// The options of "run" other than those of jobs and policies.
 QVector<OptionInfo> RunOptionInfos();
 
+/// Those of them that "plan" has, too.
+QVector<OptionInfo> PlanOptionInfos();
+
 /// Puts the limits in `arguments` into the environment, which the server inherits. Throws RequestError.
 void ApplyServerLimits(const ParsedArguments& arguments);
 
-/// The folder with the policies: --settings, else the user's.
+/// The folder with the policies and the presets: --settings, else the user's.
 QString SettingsFolder(const ParsedArguments& arguments);
 
 } // namespace BatchCli

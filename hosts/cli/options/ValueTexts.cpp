@@ -17,7 +17,6 @@ namespace BatchCli {
 
 namespace {
 
-constexpr int largestSide = 1'000'000;
 constexpr int lastPattern = 7;
 
 using Settings = ZTBatchOutputSettings;
@@ -32,27 +31,13 @@ QString TailOf(const QString& text)
     return text.section(QLatin1Char(':'), 1);
 }
 
-struct Unit
-{
-    const char* sign;
-    BatchJob::SizeUnit unit;
-};
-
-constexpr std::array units{Unit{"px", BatchJob::SizeUnit::Pixels}, Unit{"%", BatchJob::SizeUnit::Percent},
-                           Unit{"in", BatchJob::SizeUnit::Inches}, Unit{"cm", BatchJob::SizeUnit::Centimetres},
-                           Unit{"mm", BatchJob::SizeUnit::Millimetres}};
-
-bool TakesNoSize(int cropType)
-{
-    return cropType == int(BatchJob::CropType::None) || cropType == int(BatchJob::CropType::Trim);
-}
-
 } // namespace
 
 double NumberFromText(const QString& text, double minimum, double maximum)
 {
     bool isNumber = false;
-    const double number = QLocale::c().toDouble(text, &isNumber);
+    // A locale, also that of C, takes commas for separators of thousands.
+    const double number = text.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(number) || number < minimum || number > maximum) {
         throw RequestError{
             QStringLiteral("\"%1\" is not a number from %2 to %3").arg(text, NumberText(minimum), NumberText(maximum))};
@@ -95,37 +80,6 @@ QSize SizeFromText(const QString& text)
 QString SizeText(const QSize& size)
 {
     return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-}
-
-void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
-{
-    QString number = text;
-    imageSize.unit = int(BatchJob::SizeUnit::Pixels);
-    for (const Unit& unit : units) {
-        const QLatin1String sign(unit.sign);
-        if (text.endsWith(sign, Qt::CaseInsensitive)) {
-            number.chop(sign.size());
-            imageSize.unit = int(unit.unit);
-        }
-    }
-    bool isNumber = false;
-    imageSize.size = QLocale::c().toDouble(number.trimmed(), &isNumber);
-    if (!isNumber || !(imageSize.size > 0) || imageSize.size > largestSide) {
-        throw RequestError{
-            QStringLiteral("\"%1\" is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
-                           "200mm; \"none\" keeps the size")
-                .arg(text, QString::number(largestSide))};
-    }
-}
-
-QString LengthText(const Settings::ImageSize& imageSize)
-{
-    for (const Unit& unit : units) {
-        if (imageSize.unit == int(unit.unit)) {
-            return NumberText(imageSize.size) + QLatin1String(unit.sign);
-        }
-    }
-    return QStringLiteral("%1 (unit %2)").arg(NumberText(imageSize.size)).arg(imageSize.unit);
 }
 
 QMargins MarginsFromText(const QString& text)
@@ -173,27 +127,6 @@ QColor ColourFromText(const QString& text)
                                .arg(text, NearestHint(text, QColor::colorNames()))};
     }
     return colour;
-}
-
-void CropFromText(const QString& text, Settings::Crop& crop)
-{
-    const QString size = TailOf(text);
-    crop.type = ValueOf(BatchJob::CropTypeWords, HeadOf(text));
-    if (TakesNoSize(crop.type)) {
-        if (!size.isEmpty()) {
-            throw RequestError{QStringLiteral("\"%1\" takes no size").arg(HeadOf(text))};
-        }
-    } else if (size.isEmpty()) {
-        throw RequestError{QStringLiteral("\"%1\" needs a size, such as %1:3x2").arg(text)};
-    } else {
-        crop.size = SizeFromText(size);
-    }
-}
-
-QString CropText(const Settings::Crop& crop)
-{
-    const QString word = WordOf(BatchJob::CropTypeWords, crop.type);
-    return TakesNoSize(crop.type) ? word : word + QLatin1Char(':') + SizeText(crop.size);
 }
 
 void BackgroundFromText(const QString& text, Settings::Transformation& transformation)

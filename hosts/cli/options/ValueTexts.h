@@ -7,6 +7,9 @@
 #include <QSize>
 #include <QString>
 
+/// The most pixels, centimetres or whatever that a side or a margin may have.
+constexpr int largestSide = 1'000'000;
+
 /// The values of a job's output settings as users write them. Each ...Text() writes what the matching ...FromText()
 /// reads; the latter throw RequestError for invalid text.
 namespace BatchCli {
@@ -20,20 +23,12 @@ QString NumberText(double number);
 QSize SizeFromText(const QString& text);
 QString SizeText(const QSize& size);
 
-/// A length and its unit: "1600", "1600px", "50%", "8in", "20cm", "200mm".
-void LengthFromText(const QString& text, ZTBatchOutputSettings::ImageSize& imageSize);
-QString LengthText(const ZTBatchOutputSettings::ImageSize& imageSize);
-
 /// Pixels: one number for all sides, or "left,top,right,bottom".
 QMargins MarginsFromText(const QString& text);
 QString MarginsText(const QMargins& margins);
 
 /// "#rrggbb", with or without "#", or a name such as "black".
 QColor ColourFromText(const QString& text);
-
-/// "trim", or a type with the frame's size: "ratio:3x2", "fill:800x600".
-void CropFromText(const QString& text, ZTBatchOutputSettings::Crop& crop);
-QString CropText(const ZTBatchOutputSettings::Crop& crop);
 
 /// "none", "colour:#rrggbb", "pattern:NUMBER[:PERCENT]" or "image:FILE".
 void BackgroundFromText(const QString& text, ZTBatchOutputSettings::Transformation& transformation);

@@ -10,6 +10,12 @@ QString NearestHint(const QString& text, const QStringList& words)
     return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
 }
 
+QString WithFullStop(const QString& text)
+{
+    const bool isWhole = text.endsWith(QLatin1Char('?')) || text.endsWith(QLatin1Char('.'));
+    return isWhole ? text : text + QLatin1Char('.');
+}
+
 RequestError NoSuchWord(const QString& text, const QStringList& words)
 {
     return {QStringLiteral("\"%1\" is not one of %2%3")

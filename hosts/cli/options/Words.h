@@ -12,6 +12,9 @@ namespace BatchCli {
 /// "; did you mean "X"?", or nothing when none of `words` is similar to `text`.
 QString NearestHint(const QString& text, const QStringList& words);
 
+/// `text` with a full stop, unless it has a question mark or a full stop already.
+QString WithFullStop(const QString& text);
+
 /// The error of a text that should have been one of `words`.
 BatchHost::RequestError NoSuchWord(const QString& text, const QStringList& words);
 

@@ -29,6 +29,9 @@ bool IsErrorTerminal();
 /// The columns of the terminal at standard error; 80 when unknown.
 int Columns();
 
+/// The columns of the terminal at standard output; 80 when it is none.
+int OutputColumns();
+
 /// How many columns `text` takes: none for combining characters, two for wide ones.
 int WidthOf(const QString& text);
 

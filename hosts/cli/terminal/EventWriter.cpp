@@ -3,6 +3,8 @@
 #include "Console.h"
 
 #include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/common/ResultFields.h"
+#include "job/values/TimeText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,6 +27,7 @@ QString Key(const char* name)
 void Write(const char* event, QJsonObject object)
 {
     object.insert(Key("event"), Key(event));
+    object.insert(Key("time"), TimeText(QDateTime::currentDateTimeUtc()));
     WriteJson(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
@@ -52,7 +55,8 @@ QJsonObject CountsOf(const QMap<WarningKind, int>& warnings)
 
 QJsonObject ResultObject(const FileResult& result)
 {
-    QJsonObject object{{Key("input"), result.input}};
+    QJsonObject object = FactFieldsOf(result);
+    object.insert(Key("input"), result.input);
     if (!result.output.isEmpty()) {
         object.insert(Key("output"), result.output);
     }

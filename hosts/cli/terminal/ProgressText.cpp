@@ -2,10 +2,14 @@
 
 #include "Console.h"
 
+#include "hosts/common/Language.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
+
+using namespace BatchHost;
 
 namespace BatchCli {
 
@@ -40,10 +44,11 @@ QString ProgressText(const Progress& progress, int columns)
     QString counts = QStringLiteral(" %1/%2").arg(progress.done).arg(progress.files);
     const int filesNow = progress.done - progress.earlierDone;
     if (filesNow > 0 && progress.seconds > 0) {
-        counts += QStringLiteral("  %1/s").arg(filesNow / progress.seconds, 0, 'f', 1);
-        counts += QStringLiteral("  %1 left").arg(DurationText(progress.seconds * std::max(0.0, all - done) / doneNow));
+        counts += QStringLiteral("  ") + Messages::tr("%1/s").arg(filesNow / progress.seconds, 0, 'f', 1);
+        counts += QStringLiteral("  ") +
+                  Messages::tr("%1 left").arg(DurationText(progress.seconds * std::max(0.0, all - done) / doneNow));
     }
-    const int room = columns - counts.size() - 2;
+    const int room = columns - Terminal::WidthOf(counts) - 2;
     QString line =
         room < narrowestBar ? counts.mid(1) : Bar(share, std::clamp(room / 3, narrowestBar, widestBar)) + counts;
     QStringList names;
@@ -51,7 +56,7 @@ QString ProgressText(const Progress& progress, int columns)
         names.append(QFileInfo(path).fileName());
     }
     constexpr int leastName = 12;
-    const int left = columns - line.size() - 2;
+    const int left = columns - Terminal::WidthOf(line) - 2;
     if (!names.isEmpty() && left >= leastName) {
         line += QStringLiteral("  ") + Terminal::Shortened(names.join(QStringLiteral(", ")), left);
     }

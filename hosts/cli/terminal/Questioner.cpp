@@ -2,6 +2,9 @@
 
 #include "Console.h"
 
+#include "hosts/common/Language.h"
+
+using namespace BatchHost;
 using namespace BatchJob;
 
 namespace BatchCli {
@@ -44,7 +47,9 @@ Questioner::Questioner(QObject* parent)
 {
     connect(&reader, &LineReader::Line, this, &Questioner::ReadLine);
     connect(&reader, &LineReader::Ended, this, [this] {
-        WriteError(QStringLiteral("\nNo more input: this file and all that follow with questions are skipped.\n"));
+        WriteError(QLatin1Char('\n') +
+                   Messages::tr("No more input: this file and all that follow with questions are skipped.") +
+                   QLatin1Char('\n'));
         Q_EMIT Answered({safePolicy, true});
     });
 }
@@ -52,14 +57,15 @@ Questioner::Questioner(QObject* parent)
 void Questioner::Ask(PolicyKind newKind, const QString& input, const QString& reason)
 {
     kind = newKind;
-    WriteErrorLine(QStringLiteral("%1: %2").arg(input, reason));
+    WriteErrorLine(QStringLiteral("%1: %2").arg(input, Translated(reason)));
     Prompt();
 }
 
 void Questioner::Prompt()
 {
-    WriteError(
-        QStringLiteral("  %1? (add \"all\" for all that follow) ").arg(AnswerWords(kind).join(QStringLiteral(", "))));
+    WriteError(QStringLiteral("  ") +
+               Messages::tr("%1? (add \"all\" for all that follow)").arg(AnswerWords(kind).join(QStringLiteral(", "))) +
+               QLatin1Char(' '));
     reader.Ask();
 }
 

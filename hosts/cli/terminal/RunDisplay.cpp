@@ -2,6 +2,10 @@
 
 #include "Console.h"
 
+#include "hosts/common/Language.h"
+
+#include <algorithm>
+
 using namespace BatchHost;
 
 namespace BatchCli {
@@ -9,6 +13,17 @@ namespace BatchCli {
 namespace {
 
 constexpr int refreshInterval = 500;
+
+QString LossText(const QString& inWork, bool goesOn)
+{
+    if (inWork.isEmpty()) {
+        return goesOn ? Messages::tr("the server ended unexpectedly; a new one continues.")
+                      : Messages::tr("the server ended unexpectedly.");
+    }
+    return (goesOn ? Messages::tr("the server ended unexpectedly while it worked on %1; a new one continues.")
+                   : Messages::tr("the server ended unexpectedly while it worked on %1."))
+        .arg(inWork);
+}
 
 } // namespace
 
@@ -38,11 +53,11 @@ void RunDisplay::OnStart(const RunInputs& inputs, const QString&)
     progress.files = inputs.files.size();
     progress.allBytes = inputs.allBytes;
     for (int i = 0; i < inputs.files.size(); ++i) {
-        bytes.insert(inputs.files.at(i), inputs.bytes.at(i));
+        bytes.insert(inputs.files.at(i), std::max<qint64>(0, inputs.bytes.at(i)));
     }
     time.start();
     if (line.IsShown()) {
-        line.ShowNow(QStringLiteral("Starting the server"));
+        line.ShowNow(Messages::tr("Starting the server"));
         clock.start(refreshInterval);
     }
 }
@@ -67,7 +82,8 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.bytesDone += bytes.value(result.input);
     progress.inWork.removeOne(result.input);
     if (result.kind != FileResult::Kind::Written) {
-        Write(QStringLiteral("%1 %2: %3").arg(BatchJob::ResultWord(result.kind), result.input, result.reason));
+        Write(QStringLiteral("%1 %2: %3")
+                  .arg(Translated(BatchJob::ResultWord(result.kind)), result.input, Translated(result.reason)));
     } else if (!line.IsShown() && detail != Detail::Quiet) {
         Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }
@@ -77,7 +93,7 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
 void RunDisplay::OnNote(const QString& input, const QString&, const QString& what, const QString& text)
 {
     if (detail != Detail::Quiet) {
-        Write(QStringLiteral("%1 %2: %3").arg(what, input, text));
+        Write(QStringLiteral("%1 %2: %3").arg(Translated(what), input, Translated(text)));
     }
 }
 
@@ -90,17 +106,14 @@ void RunDisplay::OnLog(const QString& text)
 
 void RunDisplay::OnServerLost(const QStringList& inWork, bool goesOn)
 {
-    const QString where =
-        inWork.isEmpty() ? QString() : QStringLiteral(" while it worked on ") + inWork.join(QStringLiteral(", "));
-    Write(QStringLiteral("velkora-batch: the server ended unexpectedly%1%2.")
-              .arg(where, goesOn ? QStringLiteral("; a new one continues") : QString()));
+    Write(QStringLiteral("velkora-batch: ") + LossText(inWork.join(QStringLiteral(", ")), goesOn));
 }
 
 void RunDisplay::OnCancelling()
 {
     isCancelling = true;
     if (detail != Detail::Quiet) {
-        Write(QStringLiteral("Cancelling; interrupt again to end at once."));
+        Write(Messages::tr("Cancelling; interrupt again to end at once."));
     }
     Refresh();
 }
@@ -118,8 +131,8 @@ void RunDisplay::Refresh()
     }
     line.Show([this] {
         progress.seconds = double(time.elapsed()) / 1000;
-        const QString start = isCancelling ? QStringLiteral("Cancelling  ") : QString();
-        return start + ProgressText(progress, Terminal::Columns() - 1 - start.size());
+        const QString start = isCancelling ? Messages::tr("Cancelling") + QStringLiteral("  ") : QString();
+        return start + ProgressText(progress, Terminal::Columns() - 1 - Terminal::WidthOf(start));
     });
 }
 

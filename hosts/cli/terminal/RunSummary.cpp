@@ -3,12 +3,16 @@
 #include "Console.h"
 #include "ProgressText.h"
 
+#include "hosts/common/Language.h"
+
 #include "job/values/VisibleText.h"
 
 #include "ZTBatchMessage.h"
 
 #include <QFileInfo>
 #include <QMap>
+
+#include <algorithm>
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -29,9 +33,21 @@ QString Coloured(const QString& text, Colour colour)
     return isWanted ? QStringLiteral("\033[%1m%2\033[0m").arg(int(colour)).arg(text) : text;
 }
 
+/// Of the column in front of the counts.
+int WidthOfWords()
+{
+    int width = 13;
+    for (const QString& word :
+         {Messages::tr("Written"), Messages::tr("Skipped"), Messages::tr("Failed"), Messages::tr("Not processed")}) {
+        width = std::max(width, Terminal::WidthOf(word));
+    }
+    return width + 1;
+}
+
 QString Row(const QString& word, int count, const QString& more, Colour colour)
 {
-    const QString head = Coloured(word.leftJustified(14), count > 0 ? colour : Colour::Green);
+    const QString padded = word + QString(WidthOfWords() - Terminal::WidthOf(word), QLatin1Char(' '));
+    const QString head = Coloured(padded, count > 0 ? colour : Colour::Green);
     return head + QStringLiteral("%1%2\n").arg(count, 7).arg(more);
 }
 
@@ -39,10 +55,11 @@ QString Row(const QString& word, int count, const QString& more, Colour colour)
 QString DescriptionOf(int errorCode)
 {
     if (errorCode == ZTBatchMessage::NoError) {
-        return QStringLiteral("Written with a warning");
+        return Messages::tr("Written with a warning");
     }
-    QString text = ZTBatchMessage::ErrorDescription(ZTBatchMessage::Error(errorCode));
-    return text.endsWith(QLatin1Char('.')) ? text.chopped(1) : text;
+    const QString text = Translated(ZTBatchMessage::ErrorDescription(ZTBatchMessage::Error(errorCode)));
+    const bool isSentence = text.endsWith(QLatin1Char('.')) || text.endsWith(QChar(0x3002)); // an ideographic full stop
+    return isSentence ? text.chopped(1) : text;
 }
 
 QString Listed(const QStringList& paths)
@@ -63,10 +80,11 @@ QString TimeTaken(double seconds)
 
 QString LeftOutText(int count)
 {
-    const QString hint = QStringLiteral("--verbose names them, --include takes them.");
-    return count == 1 ? QStringLiteral("1 file with another extension was left out, but begins like a picture; ") + hint
-                      : QStringLiteral("%1 files with other extensions were left out, but begin like pictures; %2")
-                            .arg(QString::number(count), hint);
+    return count == 1 ? Messages::tr("1 file with another extension was left out, but begins like a picture; --verbose "
+                                     "names them, --include takes them.")
+                      : Messages::tr("%1 files with other extensions were left out, but begin like pictures; --verbose "
+                                     "names them, --include takes them.")
+                            .arg(count);
 }
 
 void RunSummary::OnStart(const RunInputs& inputs, const QString&)
@@ -89,30 +107,35 @@ void RunSummary::OnResult(const FileResult& result, int, int)
     }
     for (const Warning& warning : result.warnings) {
         if (!examples.contains(warning.kind)) {
-            examples.insert(warning.kind, QStringLiteral("%1: %2").arg(result.input, warning.text));
+            examples.insert(warning.kind, QStringLiteral("%1: %2").arg(result.input, Translated(warning.text)));
         }
     }
 }
 
 void RunSummary::OnEnd(const RunEnd& end)
 {
+    if (end.Outcome() == RunOutcome::Refused) {
+        return; // Nothing was done; the command says why.
+    }
     if (end.isCancelled) {
-        WriteError(QStringLiteral("Cancelled.\n"));
+        WriteErrorLine(Messages::tr("Cancelled."));
     }
     const double rate = end.seconds > 0 ? end.written / end.seconds : 0;
-    WriteError(Row(QStringLiteral("Written"), end.written,
-                   QStringLiteral("  to %1, in %2 (%3 a second)")
-                       .arg(VisibleText(end.outputFolder), TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
+    WriteError(Row(Messages::tr("Written"), end.written,
+                   QStringLiteral("  ") +
+                       Messages::tr("to %1, in %2 (%3 a second)")
+                           .arg(VisibleText(end.outputFolder), TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
                    Colour::Green));
     if (!gone.isEmpty()) {
-        WriteErrorLine(QStringLiteral("    %1 of them, written before the interruption, %2 missing now: %3")
-                           .arg(QString::number(gone.size()),
-                                gone.size() == 1 ? QStringLiteral("is") : QStringLiteral("are"), Listed(gone)));
+        const QString text = gone.size() == 1
+                                 ? Messages::tr("%1 of them, written before the interruption, is missing now: %2")
+                                 : Messages::tr("%1 of them, written before the interruption, are missing now: %2");
+        WriteErrorLine(QStringLiteral("    ") + text.arg(QString::number(gone.size()), Listed(gone)));
     }
     Write(FileResult::Kind::Skipped, end.skipped);
     Write(FileResult::Kind::Failed, end.failed);
     if (end.NotProcessed() > 0) {
-        WriteError(Row(QStringLiteral("Not processed"), end.NotProcessed(), QString(), Colour::Red));
+        WriteError(Row(Messages::tr("Not processed"), end.NotProcessed(), QString(), Colour::Red));
     }
     WriteWarnings(end);
     if (leftOut > 0) {
@@ -129,9 +152,10 @@ void RunSummary::WriteWarnings(const RunEnd& end) const
     }
     QStringList kinds;
     for (auto it = end.warnings.begin(); it != end.warnings.end(); ++it) {
-        kinds.append(QStringLiteral("%1 \u00d7 %2").arg(QString::number(*it), WarningTitle(it.key())));
+        kinds.append(QStringLiteral("%1 \u00d7 %2").arg(QString::number(*it), Translated(WarningTitle(it.key()))));
     }
-    const QString head = count == 1 ? QStringLiteral("1 warning: ") : QStringLiteral("%1 warnings: ").arg(count);
+    const QString head =
+        (count == 1 ? Messages::tr("1 warning:") : Messages::tr("%1 warnings:").arg(count)) + QLatin1Char(' ');
     WriteError(Coloured(head, Colour::Yellow) + kinds.join(QStringLiteral(", ")) + QLatin1Char('\n'));
     for (const QString& example : examples) {
         WriteErrorLine(QStringLiteral("    ") + example);
@@ -152,16 +176,17 @@ void RunSummary::Write(FileResult::Kind kind, int count) const
         }
     }
     const QString more = reasons.isEmpty() ? QString() : QStringLiteral("  ") + reasons.join(QStringLiteral("; "));
-    WriteError(Row(isSkipped ? QStringLiteral("Skipped") : QStringLiteral("Failed"), count, more,
+    WriteError(Row(isSkipped ? Messages::tr("Skipped") : Messages::tr("Failed"), count, more,
                    isSkipped ? Colour::Yellow : Colour::Red));
     int lines = 0;
     for (const FileResult& result : unwritten) {
         if (result.kind == kind && lines++ < mostLines) {
-            WriteErrorLine(QStringLiteral("    %1: %2").arg(result.input, result.reason));
+            WriteErrorLine(QStringLiteral("    %1: %2").arg(result.input, Translated(result.reason)));
         }
     }
     if (lines > mostLines) {
-        WriteError(QStringLiteral("    and %1 more; use --report FILE for all\n").arg(lines - mostLines));
+        WriteErrorLine(QStringLiteral("    ") +
+                       Messages::tr("and %1 more; use --report FILE for all").arg(lines - mostLines));
     }
 }
 

@@ -30,6 +30,22 @@ void FillStandardChannels()
     }
 }
 
+/// Qt opens files in the locale's encoding. In the C locale of scripts and containers, neither this process nor the
+/// server could open a file whose name has an accent. With other locales the system's messages would be in their
+/// language, and would get into reports and JSON.
+void UsePlainLocale()
+{
+    std::setlocale(LC_ALL, "");
+    const bool isUtf8 = std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    const QByteArray previous = qgetenv("LC_ALL");
+    setenv("LC_ALL", "C.UTF-8", 1);
+    if (std::setlocale(LC_ALL, "") == nullptr && isUtf8) {
+        // A system without that locale.
+        qputenv("LC_ALL", previous);
+        std::setlocale(LC_ALL, "");
+    }
+}
+
 } // namespace
 
 void PrepareProcess()
@@ -38,13 +54,7 @@ void PrepareProcess()
     BatchProtocol::EndForkedCopiesWithThisProcess();
     // A file that grows beyond the system's limit is a failed write, such as one to a full disk.
     std::signal(SIGXFSZ, SIG_IGN);
-    // Qt opens files in the locale's encoding. In the C locale of scripts and containers, neither this process nor the
-    // server could open a file whose name has an accent.
-    std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
-        setenv("LC_ALL", "C.UTF-8", 1);
-        std::setlocale(LC_ALL, "");
-    }
+    UsePlainLocale();
 }
 
 void OutliveReaders()

@@ -5,6 +5,17 @@
 
 namespace BatchCli {
 
+namespace {
+
+int ColumnsOf(int channel)
+{
+    winsize size{};
+    constexpr int fallback = 80;
+    return ioctl(channel, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : fallback;
+}
+
+} // namespace
+
 bool Terminal::IsInputTerminal()
 {
     return isatty(STDIN_FILENO) == 1;
@@ -17,9 +28,12 @@ bool Terminal::IsErrorTerminal()
 
 int Terminal::Columns()
 {
-    winsize size{};
-    constexpr int fallback = 80;
-    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : fallback;
+    return ColumnsOf(STDERR_FILENO);
+}
+
+int Terminal::OutputColumns()
+{
+    return ColumnsOf(STDOUT_FILENO);
 }
 
 } // namespace BatchCli

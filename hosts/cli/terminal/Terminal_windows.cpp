@@ -35,6 +35,14 @@ private:
     bool isThere = false;
 };
 
+int ColumnsOf(DWORD channel)
+{
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    constexpr int fallback = 80;
+    return GetConsoleScreenBufferInfo(GetStdHandle(channel), &info) != 0 ? info.srWindow.Right - info.srWindow.Left + 1
+                                                                         : fallback;
+}
+
 } // namespace
 
 bool Terminal::IsInputTerminal()
@@ -51,11 +59,12 @@ bool Terminal::IsErrorTerminal()
 
 int Terminal::Columns()
 {
-    CONSOLE_SCREEN_BUFFER_INFO info;
-    constexpr int fallback = 80;
-    return GetConsoleScreenBufferInfo(GetStdHandle(STD_ERROR_HANDLE), &info) != 0
-               ? info.srWindow.Right - info.srWindow.Left + 1
-               : fallback;
+    return ColumnsOf(STD_ERROR_HANDLE);
+}
+
+int Terminal::OutputColumns()
+{
+    return ColumnsOf(STD_OUTPUT_HANDLE);
 }
 
 } // namespace BatchCli

@@ -1,5 +1,7 @@
 #include "Colour.h"
 
+#include "job/values/Phrase.h"
+
 #include "ColourProfile.h"
 #include "ColourTransform.h"
 #include "GeneratedProfile.h"
@@ -69,7 +71,7 @@ Picture FittingProfile(const Picture& picture, Warnings& warnings)
     const std::optional<ColourKind> kind = KindOfProfile(profile);
     if (!kind || !IsReadable(profile)) {
         warnings.append(
-            {WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile is damaged and is not used")});
+            {WarningKind::ProfileUnused, Phrase::English("the embedded colour profile is damaged and is not used")});
         return WithProfile(picture, {});
     }
     if (kind == KindOf(picture)) {
@@ -78,7 +80,7 @@ Picture FittingProfile(const Picture& picture, Warnings& warnings)
     const QByteArray other = ProfileForKind(KindOf(picture), *kind, profile);
     if (other.isEmpty()) {
         warnings.append({WarningKind::ProfileUnused,
-                         QStringLiteral("the embedded colour profile does not fit the picture and is not used")});
+                         Phrase::English("the embedded colour profile does not fit the picture and is not used")});
     }
     return WithProfile(picture, other);
 }
@@ -104,7 +106,7 @@ Picture InksInSrgb(const Picture& inks, Warnings& warnings)
     if (const std::optional<Picture> changed = Transformed(inks, BuiltInSrgb())) {
         return *changed;
     }
-    warnings.append({WarningKind::ProfileUnused, QStringLiteral("the embedded colour profile cannot be used")});
+    warnings.append({WarningKind::ProfileUnused, Phrase::English("the embedded colour profile cannot be used")});
     return Transformed(WithProfile(inks, {}), BuiltInSrgb()).value();
 }
 
@@ -115,7 +117,7 @@ Picture InUsualRgb(const Picture& picture, Warnings& warnings)
         return picture;
     }
     warnings.append({WarningKind::ColoursConverted,
-                     QStringLiteral("its colour profile is one for storing colours only; the result is sRGB")});
+                     Phrase::English("its colour profile is one for storing colours only; the result is sRGB")});
     return InPlainSrgb(picture, warnings);
 }
 
@@ -142,13 +144,13 @@ Picture ConvertedTo(const QByteArray& profile, const Picture& picture, Warnings&
     if (!KindOfProfile(profile)) {
         warnings.append(
             {WarningKind::ProfileUnused,
-             QStringLiteral("the job's colour profile does not describe pictures; the colours are not converted")});
+             Phrase::English("the job's colour profile does not describe pictures; the colours are not converted")});
         return picture;
     }
     const std::optional<Picture> changed = Transformed(picture, profile);
     if (!changed) {
         warnings.append({WarningKind::ProfileUnused,
-                         QStringLiteral("the colour profile cannot be used; the colours are not converted")});
+                         Phrase::English("the colour profile cannot be used; the colours are not converted")});
     }
     return changed.value_or(picture);
 }
@@ -163,7 +165,7 @@ Picture InPlainSrgb(const Picture& picture, Warnings& warnings)
     if (!changed) {
         warnings.append(
             {WarningKind::ProfileUnused,
-             QStringLiteral("the colours cannot be converted to sRGB; their values are taken for sRGB as they are")});
+             Phrase::English("the colours cannot be converted to sRGB; their values are taken for sRGB as they are")});
         return WithProfile(picture, {});
     }
     const Picture plain = WithProfile(*changed, {});

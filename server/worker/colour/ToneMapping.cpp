@@ -1,5 +1,7 @@
 #include "ToneMapping.h"
 
+#include "job/values/Phrase.h"
+
 #include "GeneratedProfile.h"
 
 #include "server/worker/pixels/EmbeddedProfile.h"
@@ -186,7 +188,7 @@ private:
 void Note(Warnings& warnings)
 {
     const Warning warning{WarningKind::ColoursConverted,
-                          QStringLiteral("the file is HDR; the result has the brightness of common screens")};
+                          Phrase::English("the file is HDR; the result has the brightness of common screens")};
     if (!warnings.contains(warning)) {
         warnings.append(warning);
     }

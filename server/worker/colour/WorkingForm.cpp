@@ -1,5 +1,7 @@
 #include "WorkingForm.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/VipsText.h"
@@ -83,7 +85,7 @@ Picture InPlainDepth(const Picture& decoded)
     case VIPS_FORMAT_INT:
         return decoded.linear(toSixteenBits, 32768).cast(VIPS_FORMAT_USHORT);
     default:
-        throw UnknownFormat(QStringLiteral("its values are complex numbers, which are no colours"));
+        throw UnknownFormat(BatchJob::Phrase::English("its values are complex numbers, which are no colours"));
     }
 }
 
@@ -113,10 +115,10 @@ Picture FromOtherColours(const Picture& decoded)
             converted = converted.bandjoin(alpha);
         }
     } catch (const vips::VError& problem) {
-        throw UnknownFormat(QStringLiteral("its kind of colours is not supported: %1").arg(TextOf(problem)));
+        throw UnknownFormat(BatchJob::Phrase::English("its kind of colours is not supported: %1").arg(TextOf(problem)));
     }
     if (!HasPlainColours(converted) || converted.format() != VIPS_FORMAT_USHORT) {
-        throw UnknownFormat(QStringLiteral("its kind of colours is not supported"));
+        throw UnknownFormat(BatchJob::Phrase::English("its kind of colours is not supported"));
     }
     return converted;
 }

@@ -1,5 +1,7 @@
 #include "FileColours.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/colour/GeneratedProfile.h"
 #include "server/worker/colour/ToneMapping.h"
 #include "server/worker/colour/WorkingForm.h"
@@ -70,7 +72,7 @@ Picture WithColoursOfFile(const Picture& picture, const FileColours& colours, Wa
 {
     if (colours.isUnusable && ProfileOf(picture).isEmpty()) {
         AppendOnce({WarningKind::ProfileUnused,
-                    QStringLiteral("what the file says of its colours is damaged or unknown and is not used")},
+                    Phrase::English("what the file says of its colours is damaged or unknown and is not used")},
                    warnings);
     }
     Picture shown = colours.isNarrow ? WithFullRange(InWorkingForm(picture)) : picture;

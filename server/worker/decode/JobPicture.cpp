@@ -2,8 +2,8 @@
 
 #include "PictureSource.h"
 
+#include "job/geometry/Geometry.h"
 #include "server/worker/colour/Colour.h"
-#include "server/worker/geometry/Geometry.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
 #include "server/worker/pixels/RandomAccess.h"
@@ -22,7 +22,7 @@ Picture ReadJobPicture(const QString& file, const ZTBatchOutputSettings::Crop& c
     try {
         const int orientation = source.Orientation();
         const QSize upright = TurnedSize(source.StoredSize(), orientation);
-        const Geometry geometry = PlanGeometry(upright, crop, size);
+        const BatchJob::Geometry geometry = BatchJob::PlanGeometry(upright, crop, size);
         const double reduction = std::min(double(geometry.part.width()) / geometry.scaledSize.width(),
                                           double(geometry.part.height()) / geometry.scaledSize.height());
         const Picture loaded = InWorkingColours(source.Load(source.PossibleShrink(reduction)), false, warnings);

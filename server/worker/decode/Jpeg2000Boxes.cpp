@@ -1,5 +1,7 @@
 #include "Jpeg2000Boxes.h"
 
+#include "job/values/Phrase.h"
+
 #include "FileBytes.h"
 
 #include "server/worker/pixels/PictureFailure.h"
@@ -23,7 +25,7 @@ struct Box
 
 PictureFailure DamagedHeader()
 {
-    return DamagedFile(QStringLiteral("the file's header is damaged"));
+    return DamagedFile(BatchJob::Phrase::English("the file's header is damaged"));
 }
 
 // The box at `offset`. Nothing if `end` leaves no room for its header.
@@ -212,7 +214,8 @@ Jpeg2000Boxes ReadJpeg2000Boxes(const FileBytes& file)
     boxes.codestreams = 0;
     ReadBoxes(file, 0, file.Size(), 0, boxes);
     if (boxes.codestreams == 0) {
-        throw DamagedFile(QStringLiteral("the file holds no picture data, or refers to another file for them"));
+        throw DamagedFile(
+            BatchJob::Phrase::English("the file holds no picture data, or refers to another file for them"));
     }
     return boxes;
 }

@@ -1,5 +1,7 @@
 #include "Jpeg2000Channels.h"
 
+#include "job/values/Phrase.h"
+
 #include "DecoderWarnings.h"
 
 #include "server/worker/pixels/PictureFailure.h"
@@ -28,7 +30,7 @@ enum EnumeratedColours {
 
 PictureFailure DamagedHeader()
 {
-    return DamagedFile(QStringLiteral("the file's header does not fit its picture"));
+    return DamagedFile(Phrase::English("the file's header does not fit its picture"));
 }
 
 Channel ChannelOf(const Jpeg2000Boxes::ChannelSource& source, const Jpeg2000Boxes& boxes,
@@ -125,8 +127,8 @@ std::optional<Colours> ColoursOf(const Jpeg2000Boxes::Colour& colour)
 
 QString NameOf(const Jpeg2000Boxes::Colour& colour)
 {
-    return colour.method == Jpeg2000Boxes::Enumerated ? QStringLiteral("colour space %1").arg(colour.enumerated)
-                                                      : QStringLiteral("colours of method %1").arg(colour.method);
+    return colour.method == Jpeg2000Boxes::Enumerated ? Phrase::English("colour space %1").arg(colour.enumerated)
+                                                      : Phrase::English("colours of method %1").arg(colour.method);
 }
 
 /// What the file says of its colours, as far as it can be used.
@@ -145,7 +147,7 @@ StatedColours Stated(const Jpeg2000Boxes& boxes)
     }
     if (!boxes.colours.isEmpty()) {
         throw DamagedFile(
-            QStringLiteral("its colours are of a kind that is not supported (%1)").arg(NameOf(boxes.colours.first())));
+            Phrase::English("its colours are of a kind that is not supported (%1)").arg(NameOf(boxes.colours.first())));
     }
     return {};
 }
@@ -154,7 +156,7 @@ Colours Guessed(int channels)
 {
     constexpr int mostWithAlpha = 4;
     if (channels > mostWithAlpha) {
-        throw DamagedFile(QStringLiteral("it has %1 channels and does not say what they are").arg(channels));
+        throw DamagedFile(Phrase::English("it has %1 channels and does not say what they are").arg(channels));
     }
     return channels < 3 ? Colours::Grey : Colours::Rgb;
 }
@@ -259,7 +261,7 @@ Jpeg2000Channels ChannelsOf(const Jpeg2000Boxes& boxes, const Jpeg2000Codestream
     result.channels = assignment.ColourChannels(count);
     const auto [opacity, isMultiplied] = assignment.Opacity(count);
     if (opacity >= 0 && result.colours == Colours::Cmyk) {
-        WarnOnce(warnings, WarningKind::Decoder, QStringLiteral("the transparency of a CMYK picture is left out"));
+        WarnOnce(warnings, WarningKind::Decoder, Phrase::English("the transparency of a CMYK picture is left out"));
     } else if (opacity >= 0) {
         result.channels.append(all[opacity]);
         result.hasOpacity = true;
@@ -268,7 +270,7 @@ Jpeg2000Channels ChannelsOf(const Jpeg2000Boxes& boxes, const Jpeg2000Codestream
     const int used = opacity >= 0 ? count + 1 : count;
     if (all.size() > used) {
         WarnOnce(warnings, WarningKind::Decoder,
-                 QStringLiteral("it has %1 channels; only the first %2 are used").arg(all.size()).arg(used));
+                 Phrase::English("it has %1 channels; only the first %2 are used").arg(all.size()).arg(used));
     }
     return result;
 }

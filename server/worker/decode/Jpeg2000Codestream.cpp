@@ -1,5 +1,7 @@
 #include "Jpeg2000Codestream.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <QtEndian>
@@ -40,12 +42,12 @@ constexpr int tilePartHeadSize = 12;
 
 PictureFailure DamagedHeader()
 {
-    return DamagedFile(QStringLiteral("the header of the picture data is damaged"));
+    return DamagedFile(BatchJob::Phrase::English("the header of the picture data is damaged"));
 }
 
 PictureFailure Unsupported(const QString& what)
 {
-    return DamagedFile(QStringLiteral("it uses %1, which is not supported").arg(what));
+    return DamagedFile(BatchJob::Phrase::English("it uses %1, which is not supported").arg(what));
 }
 
 qint64 CeilDivided(qint64 value, qint64 by)
@@ -130,7 +132,7 @@ double PartOf(const TileCompleteness& tile)
 PictureFailure EndsEarly(double part)
 {
     const int percent = std::clamp(int(part * 100), 0, 99);
-    return DamagedFile(QStringLiteral("the file ends after %1 % of the picture").arg(percent));
+    return DamagedFile(BatchJob::Phrase::English("the file ends after %1 % of the picture").arg(percent));
 }
 
 } // namespace
@@ -248,7 +250,7 @@ void Jpeg2000Codestream::ReadSegment(int marker, const QByteArray& segment, bool
     if (IsNeededByDecoder(marker)) {
         otherSegments += isInMain ? segment : QByteArray();
     } else if (!MayBeIgnored(marker)) {
-        throw Unsupported(QStringLiteral("an extension of JPEG 2000 (marker %1)").arg(marker, 4, 16));
+        throw Unsupported(BatchJob::Phrase::English("an extension of JPEG 2000 (marker %1)").arg(marker, 4, 16));
     }
 }
 
@@ -268,8 +270,9 @@ void Jpeg2000Codestream::ReadCodingStyle(const QByteArray& segment, int first)
         throw DamagedHeader();
     }
     if ((style & isMixed) != 0) {
-        throw Unsupported((style & isHighThroughput) != 0 ? QStringLiteral("two kinds of coding in one picture")
-                                                          : QStringLiteral("an unknown kind of coding"));
+        throw Unsupported((style & isHighThroughput) != 0
+                              ? BatchJob::Phrase::English("two kinds of coding in one picture")
+                              : BatchJob::Phrase::English("an unknown kind of coding"));
     }
     const int block = 1 << (width + height);
     smallestBlock = smallestBlock == 0 ? block : std::min(smallestBlock, block);
@@ -320,7 +323,7 @@ void Jpeg2000Codestream::ReadSize(const QByteArray& segment)
         throw DamagedHeader();
     }
     if (count > mostComponents) {
-        throw Unsupported(QStringLiteral("%1 channels").arg(count));
+        throw Unsupported(BatchJob::Phrase::English("%1 channels").arg(count));
     }
     for (int i = 0; i < count; ++i) {
         const int place = fixedSize + i * componentSize;
@@ -334,7 +337,7 @@ void Jpeg2000Codestream::ReadSize(const QByteArray& segment)
             throw DamagedHeader();
         }
         if (component.bits > mostBits) {
-            throw Unsupported(QStringLiteral("%1 bits a channel").arg(component.bits));
+            throw Unsupported(BatchJob::Phrase::English("%1 bits a channel").arg(component.bits));
         }
         const Area samples = SamplesIn(image, component.dx, component.dy);
         if (samples.Width() < 1 || samples.Height() < 1) {
@@ -369,11 +372,11 @@ void Jpeg2000Codestream::ReadTileParts(const FileBytes& file, qint64 end)
                           file.At(available - markerSize, markerSize) == QByteArray("\xFF\xD9", markerSize);
             part.length = available - place - (isEndMarked ? markerSize : 0);
             if (!isEndMarked) {
-                throw DamagedFile(QStringLiteral("the file ends before the picture does"));
+                throw DamagedFile(BatchJob::Phrase::English("the file ends before the picture does"));
             }
         }
         if (part.tile >= tiles || part.length < tilePartHeadSize + markerSize || found[part.tile].parts > 255) {
-            throw DamagedFile(QStringLiteral("the picture data are damaged"));
+            throw DamagedFile(BatchJob::Phrase::English("the picture data are damaged"));
         }
         TileCompleteness& tile = found[part.tile];
         ++tile.parts;
@@ -394,7 +397,8 @@ void Jpeg2000Codestream::ReadTileParts(const FileBytes& file, qint64 end)
         present += PartOf(tile);
     }
     if (!isComplete && isEndMarked) {
-        throw DamagedFile(QStringLiteral("%1 % of the picture are missing").arg(100 - int(present / tiles * 100)));
+        throw DamagedFile(
+            BatchJob::Phrase::English("%1 % of the picture are missing").arg(100 - int(present / tiles * 100)));
     }
     if (!isComplete && end > file.Size() && end > firstPart) {
         throw EndsEarly(double(file.Size() - firstPart) / double(end - firstPart));
@@ -405,7 +409,7 @@ void Jpeg2000Codestream::ReadTileParts(const FileBytes& file, qint64 end)
     lacksEnd = !isEndMarked;
     const auto isBefore = [](const TilePart& one, const TilePart& other) { return one.tile < other.tile; };
     if (hasPackedHeaders && !std::is_sorted(parts.begin(), parts.end(), isBefore)) {
-        throw Unsupported(QStringLiteral("packed headers of tiles that are not in order"));
+        throw Unsupported(BatchJob::Phrase::English("packed headers of tiles that are not in order"));
     }
     std::stable_sort(parts.begin(), parts.end(), isBefore);
 }
@@ -421,7 +425,7 @@ void Jpeg2000Codestream::ReadTilePartHeader(const FileBytes& file, const TilePar
         }
         const int length = head.size() < 2 * markerSize ? 0 : Number(head, markerSize, markerSize);
         if (length < markerSize || marker < 0xFF00 || place + markerSize + length > end) {
-            throw DamagedFile(QStringLiteral("the picture data are damaged"));
+            throw DamagedFile(BatchJob::Phrase::English("the picture data are damaged"));
         }
         constexpr int longestRead = 64;
         ReadSegment(marker, file.At(place, std::min(markerSize + length, longestRead)), false);

@@ -1,5 +1,7 @@
 #include "Jpeg2000Decoder.h"
 
+#include "job/values/Phrase.h"
+
 #include "DecoderWarnings.h"
 #include "Jpeg2000Stream.h"
 
@@ -66,13 +68,13 @@ PictureFailure FailureOf(const DecoderMessages& messages)
 {
     const QString text = (messages.errors + messages.warnings).join(QStringLiteral("; "));
     if (text.contains(QLatin1String("memory"), Qt::CaseInsensitive)) {
-        return TooLarge(QStringLiteral("out of memory while decoding (%1)").arg(text));
+        return TooLarge(Phrase::English("out of memory while decoding (%1)").arg(text));
     }
     if (text.contains(QLatin1String("not support")) || text.contains(QLatin1String("Unsupported"))) {
-        return DamagedFile(QStringLiteral("it is coded in a way that is not supported (%1)").arg(text));
+        return DamagedFile(Phrase::English("it is coded in a way that is not supported (%1)").arg(text));
     }
-    return DamagedFile(text.isEmpty() ? QStringLiteral("the picture data are damaged")
-                                      : QStringLiteral("the picture data are damaged (%1)").arg(text));
+    return DamagedFile(text.isEmpty() ? Phrase::English("the picture data are damaged")
+                                      : Phrase::English("the picture data are damaged (%1)").arg(text));
 }
 
 /// OpenJPEG over a stream of ours, from the header to the last tile.
@@ -261,12 +263,12 @@ Jpeg2000Band DecodeBand(const FileBytes& file, const Jpeg2000Codestream& codestr
         const auto next = reader.Next();
         const int number = int(band.tiles.size());
         if (!next || int(next->first) != number) {
-            throw DamagedFile(QStringLiteral("the picture data are damaged"));
+            throw DamagedFile(Phrase::English("the picture data are damaged"));
         }
         const int column = number % codestream.TileColumns();
         Jpeg2000Tile tile(codestream, codestream.Tile(column, firstRow + number / codestream.TileColumns()));
         if (tile.Bytes() != next->second) {
-            throw DamagedFile(QStringLiteral("the picture data are damaged"));
+            throw DamagedFile(Phrase::English("the picture data are damaged"));
         }
         reader.Decode(next->first, tile);
         band.tiles.push_back(std::move(tile));

@@ -1,5 +1,7 @@
 #include "Jpeg2000File.h"
 
+#include "job/values/Phrase.h"
+
 #include "DecoderWarnings.h"
 #include "Jpeg2000Boxes.h"
 #include "Jpeg2000Channels.h"
@@ -42,11 +44,11 @@ public:
     {
         if (boxes.codestreams > 1) {
             WarnOnce(warnings, WarningKind::OtherPages,
-                     QStringLiteral("it has %1 pages; only the first is used").arg(boxes.codestreams));
+                     Phrase::English("it has %1 pages; only the first is used").arg(boxes.codestreams));
         }
         if (codestream.LacksEnd()) {
             WarnOnce(warnings, WarningKind::Incomplete,
-                     QStringLiteral("the file lacks its last bytes, but all of the picture is there"));
+                     Phrase::English("the file lacks its last bytes, but all of the picture is there"));
         }
     }
 
@@ -163,9 +165,9 @@ void RequireMemory(const Jpeg2000Codestream& codestream, const ServerLimits& lim
     if (memory.all + ofOtherStages > limits.workerMemory || memory.band > std::numeric_limits<quint32>::max()) {
         const bool isOneTile = codestream.TileColumns() * codestream.TileRows() == 1;
         throw TooLarge(
-            QStringLiteral("decoding takes %1 MiB of memory%2; a worker may use %3 MiB")
+            Phrase::English("decoding takes %1 MiB of memory%2; a worker may use %3 MiB")
                 .arg((memory.all + ofOtherStages) >> mebibyte)
-                .arg(isOneTile ? QStringLiteral(", because the picture is not divided into tiles") : QString())
+                .arg(isOneTile ? Phrase::English(", because the picture is not divided into tiles") : QString())
                 .arg(limits.workerMemory >> mebibyte));
     }
 }

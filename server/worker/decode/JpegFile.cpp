@@ -1,5 +1,7 @@
 #include "JpegFile.h"
 
+#include "job/values/Phrase.h"
+
 #include "ByteScanner.h"
 #include "JpegTrial.h"
 #include "LibraryLoader.h"
@@ -55,10 +57,10 @@ void RequireKnownFrame(int marker, int bits)
 {
     constexpr int known[] = {0xC0, 0xC1, 0xC2, 0xC9, 0xCA};
     if (std::find(std::begin(known), std::end(known), marker) == std::end(known)) {
-        throw UnknownFormat(QStringLiteral("it is a lossless or hierarchical JPEG file, which is not supported"));
+        throw UnknownFormat(Phrase::English("it is a lossless or hierarchical JPEG file, which is not supported"));
     }
     if (bits >= 0 && bits != 8) {
-        throw UnknownFormat(QStringLiteral("it is a JPEG file of %1 bits a channel; only 8 are supported").arg(bits));
+        throw UnknownFormat(Phrase::English("it is a JPEG file of %1 bits a channel; only 8 are supported").arg(bits));
     }
 }
 
@@ -167,11 +169,11 @@ void RequireWhole(int descriptor, qint64 pixels)
     case JpegExtent::Whole:
         return;
     case JpegExtent::LacksRows:
-        throw DamagedFile(QStringLiteral("the file ends after %1 % of the picture").arg(extent.percent));
+        throw DamagedFile(Phrase::English("the file ends after %1 % of the picture").arg(extent.percent));
     case JpegExtent::LacksDetail:
-        throw DamagedFile(QStringLiteral("the file ends before all details of the picture"));
+        throw DamagedFile(Phrase::English("the file ends before all details of the picture"));
     case JpegExtent::Unreadable:
-        throw DamagedFile(QStringLiteral("the file ends before its picture begins"));
+        throw DamagedFile(Phrase::English("the file ends before its picture begins"));
     }
 }
 
@@ -186,7 +188,7 @@ Picture ReadJpeg(int descriptor, int shrink, const ServerLimits& limits, Warning
     }
     RequireWhole(descriptor, limits.pixels);
     const Warning warning{WarningKind::Incomplete,
-                          QStringLiteral("the file lacks its last bytes; the picture is whole")};
+                          Phrase::English("the file lacks its last bytes; the picture is whole")};
     if (!warnings.contains(warning)) {
         warnings.append(warning);
     }

@@ -1,5 +1,7 @@
 #include "JpegXlDecoder.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <jxl/decode.h>
@@ -70,7 +72,7 @@ JpegXlHeader HeaderOf(const JxlDecoder* decoder)
     JxlDecoderGetBasicInfo(decoder, &info);
     constexpr auto longest = std::uint32_t(std::numeric_limits<int>::max());
     if (info.xsize > longest || info.ysize > longest) {
-        throw TooLarge(QStringLiteral("the picture has more pixels than any limit"));
+        throw TooLarge(BatchJob::Phrase::English("the picture has more pixels than any limit"));
     }
     JpegXlHeader header;
     header.size = QSize(int(info.xsize), int(info.ysize));
@@ -191,7 +193,7 @@ int JpegXlDecoder::Next()
     for (;;) {
         const JxlDecoderStatus status = JxlDecoderProcessInput(decoder.get());
         if (status == JXL_DEC_ERROR) {
-            throw DamagedFile(QStringLiteral("the file is damaged: its picture cannot be decoded"));
+            throw DamagedFile(BatchJob::Phrase::English("the file is damaged: its picture cannot be decoded"));
         }
         if (status != JXL_DEC_NEED_MORE_INPUT) {
             return status;
@@ -210,7 +212,7 @@ void JpegXlDecoder::Feed()
     }
     const qint64 count = source(position, piece.data(), qint64(piece.size()));
     if (count <= qint64(left)) {
-        throw DamagedFile(QStringLiteral("the file ends before its picture is complete"));
+        throw DamagedFile(BatchJob::Phrase::English("the file ends before its picture is complete"));
     }
     position += count;
     JxlDecoderSetInput(decoder.get(), piece.data(), std::size_t(count));
@@ -226,7 +228,7 @@ JpegXlHeader JpegXlDecoder::ReadHeader()
         event = Next();
     }
     if (event != JXL_DEC_COLOR_ENCODING) {
-        throw DamagedFile(QStringLiteral("the file is damaged: it has no picture"));
+        throw DamagedFile(BatchJob::Phrase::English("the file is damaged: it has no picture"));
     }
     ReadColours(header);
     return header;
@@ -317,7 +319,7 @@ void JpegXlDecoder::ReadWhole(Canvas& canvas)
     Begin(JXL_DEC_FULL_IMAGE);
     for (int event = Next(); event != JXL_DEC_FULL_IMAGE; event = Next()) {
         if (event == JXL_DEC_SUCCESS) {
-            throw DamagedFile(QStringLiteral("the file is damaged: it has no picture"));
+            throw DamagedFile(BatchJob::Phrase::English("the file is damaged: it has no picture"));
         }
         if (event == JXL_DEC_NEED_IMAGE_OUT_BUFFER) {
             Receive(canvas);

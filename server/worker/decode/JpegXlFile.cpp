@@ -1,5 +1,7 @@
 #include "JpegXlFile.h"
 
+#include "job/values/Phrase.h"
+
 #include "JpegXlDecoder.h"
 
 #include "server/worker/pixels/CarriedFailure.h"
@@ -79,7 +81,7 @@ private:
         constexpr qint64 ofDecoder = 6; // bytes for each value, seen with libjxl 0.7, beside those of the result
         const qint64 values = qint64(header.size.width()) * header.size.height() * header.Bands();
         if (values * (ofDecoder + header.bits / 8) > FreeMemory()) {
-            throw TooLarge(QStringLiteral("decoding %1 x %2 pixels takes more than a worker may use")
+            throw TooLarge(Phrase::English("decoding %1 x %2 pixels takes more than a worker may use")
                                .arg(header.size.width())
                                .arg(header.size.height()));
         }

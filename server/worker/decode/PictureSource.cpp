@@ -8,6 +8,7 @@
 #include "TiffPages.h"
 
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/DamageText.h"
@@ -41,7 +42,7 @@ public:
         const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
         if (!isFile) {
             close(value);
-            throw DamagedFile(QStringLiteral("it is not a regular file"));
+            throw DamagedFile(Phrase::English("it is not a regular file"));
         }
     }
     ~FileDescriptor() { close(value); }
@@ -62,7 +63,7 @@ const FormatSchema* IdentifiedFormat(const QString& file, const QString& extensi
     head.open(descriptor.Value(), QIODevice::ReadOnly | QIODevice::Unbuffered);
     const QByteArray bytes = head.read(formatHeadSize);
     if (bytes.isEmpty()) {
-        throw DamagedFile(head.error() == QFile::NoError ? QStringLiteral("the file is empty") : head.errorString());
+        throw DamagedFile(head.error() == QFile::NoError ? Phrase::English("the file is empty") : head.errorString());
     }
     return FindReadableFormat(FormatOfFile(bytes, extension));
 }
@@ -100,7 +101,7 @@ PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
 {
     format = IdentifiedFormat(file, QFileInfo(file).suffix());
     if (!format) {
-        throw UnknownFormat(QStringLiteral("no decoder knows this kind of file"));
+        throw UnknownFormat(Phrase::English("no decoder knows this kind of file"));
     }
     if (IsRaw(*format)) {
         OpenRaw();
@@ -110,7 +111,7 @@ PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
     }
     const qint64 pixels = qint64(storedSize.width()) * storedSize.height();
     if (pixels > limits.pixels) {
-        throw TooLarge(QStringLiteral("%1 x %2 pixels are more than the limit of %3 megapixels")
+        throw TooLarge(Phrase::English("%1 x %2 pixels are more than the limit of %3 megapixels")
                            .arg(storedSize.width())
                            .arg(storedSize.height())
                            .arg(limits.pixels / 1'000'000));
@@ -194,7 +195,7 @@ void PictureSource::OpenRaw()
     // Some files with the extension of camera files are plain TIFF files.
     format = IdentifiedFormat(file, {});
     if (!format || IsRaw(*format)) {
-        throw UnknownFormat(QStringLiteral("the decoder does not know this camera's files"));
+        throw UnknownFormat(Phrase::English("the decoder does not know this camera's files"));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "RawFile.h"
 
+#include "job/values/Phrase.h"
+
 #include "DngData.h"
 #include "RawStream.h"
 
@@ -93,7 +95,8 @@ Picture RawFile::Develop(bool isHalf)
     stream->BeginCount();
     Check(raw->unpack());
     if (isDamaged || stream->LacksData()) {
-        throw DamagedFile(QStringLiteral("the file ends before its picture data does, or the data is damaged"));
+        throw DamagedFile(
+            BatchJob::Phrase::English("the file ends before its picture data does, or the data is damaged"));
     }
     Check(raw->dcraw_process());
     int result = LIBRAW_SUCCESS;
@@ -107,7 +110,7 @@ Picture RawFile::Develop(bool isHalf)
 void RawFile::RequireData() const
 {
     if (raw->get_internal_data_pointer()->unpacker_data.data_offset >= stream->size() || LacksDngData(file)) {
-        throw DamagedFile(QStringLiteral("the file lacks picture data: it is cut off, or has been emptied"));
+        throw DamagedFile(BatchJob::Phrase::English("the file lacks picture data: it is cut off, or has been emptied"));
     }
 }
 

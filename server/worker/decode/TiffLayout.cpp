@@ -1,5 +1,7 @@
 #include "TiffLayout.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <algorithm>
@@ -23,10 +25,10 @@ void ReadSize(const TiffHandle& file, TiffLayout& layout)
     TIFFGetField(file.Get(), TIFFTAG_IMAGEWIDTH, &width);
     TIFFGetField(file.Get(), TIFFTAG_IMAGELENGTH, &height);
     if (width == 0 || height == 0) {
-        throw DamagedFile(QStringLiteral("its header gives no size of the picture"));
+        throw DamagedFile(Phrase::English("its header gives no size of the picture"));
     }
     if (width > longestSide || height > longestSide) {
-        throw TooLarge(QStringLiteral("its sides of %1 and %2 pixels are too long").arg(width).arg(height));
+        throw TooLarge(Phrase::English("its sides of %1 and %2 pixels are too long").arg(width).arg(height));
     }
     layout.width = int(width);
     layout.height = int(height);
@@ -46,10 +48,10 @@ void ReadUnits(const TiffHandle& file, TiffLayout& layout)
         height = std::min(height, file.Field<quint32>(TIFFTAG_ROWSPERSTRIP, height));
     }
     if (width == 0 || height == 0) {
-        throw DamagedFile(QStringLiteral("its tiles have no size"));
+        throw DamagedFile(Phrase::English("its tiles have no size"));
     }
     if (width > longestSide || height > longestSide) {
-        throw TooLarge(QStringLiteral("its tiles are too large"));
+        throw TooLarge(Phrase::English("its tiles are too large"));
     }
     layout.unitWidth = int(width);
     layout.unitHeight = int(height);
@@ -66,7 +68,7 @@ TiffNumbers NumbersOf(quint16 format)
     case SAMPLEFORMAT_IEEEFP:
         return TiffNumbers::Floating;
     default:
-        throw UnknownFormat(QStringLiteral("its values are complex numbers, which are no colours"));
+        throw UnknownFormat(Phrase::English("its values are complex numbers, which are no colours"));
     }
 }
 
@@ -78,7 +80,7 @@ void ReadNumbers(const TiffHandle& file, TiffLayout& layout)
     const bool isWhole = layout.bits >= 1 && (layout.bits <= 32 || layout.bits == 64);
     const bool isFloating = layout.bits == 16 || layout.bits == 24 || layout.bits == 32 || layout.bits == 64;
     if (layout.samples < 1 || !(layout.numbers == TiffNumbers::Floating ? isFloating : isWhole)) {
-        throw UnknownFormat(QStringLiteral("channels of %1 bits are not supported").arg(layout.bits));
+        throw UnknownFormat(Phrase::English("channels of %1 bits are not supported").arg(layout.bits));
     }
 }
 
@@ -117,10 +119,10 @@ TiffColours ColoursOf(const TiffHandle& file, TiffLayout& layout)
 {
     const quint16 compression = file.Field<quint16>(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     if (!TIFFIsCODECConfigured(compression)) {
-        throw UnknownFormat(QStringLiteral("its compression (number %1) is not supported").arg(compression));
+        throw UnknownFormat(Phrase::English("its compression (number %1) is not supported").arg(compression));
     }
     if (compression == COMPRESSION_JPEG && layout.bits != 8) {
-        throw UnknownFormat(QStringLiteral("JPEG compression of %1 bits a channel is not supported").arg(layout.bits));
+        throw UnknownFormat(Phrase::English("JPEG compression of %1 bits a channel is not supported").arg(layout.bits));
     }
     if (compression == COMPRESSION_OJPEG) {
         return TiffColours::Converted;
@@ -154,9 +156,9 @@ TiffColours ColoursOf(const TiffHandle& file, TiffLayout& layout)
     case PHOTOMETRIC_CFA:
     case linearRaw:
         throw UnknownFormat(
-            QStringLiteral("it holds undeveloped data of a camera; such files are read under the name .dng"));
+            Phrase::English("it holds undeveloped data of a camera; such files are read under the name .dng"));
     default:
-        throw UnknownFormat(QStringLiteral("its kind of colours (number %1) is not supported").arg(photometric));
+        throw UnknownFormat(Phrase::English("its kind of colours (number %1) is not supported").arg(photometric));
     }
 }
 
@@ -194,7 +196,7 @@ void ReadExtraSamples(const TiffHandle& file, TiffLayout& layout, Warnings& warn
     const int left = extras - (layout.alpha == TiffAlpha::None ? 0 : 1);
     const Warning warning{
         WarningKind::Decoder,
-        QStringLiteral("it has %1 channels beside its colours and its transparency, which are left out").arg(left)};
+        Phrase::English("it has %1 channels beside its colours and its transparency, which are left out").arg(left)};
     if (left > 0 && !warnings.contains(warning)) {
         warnings.append(warning);
     }
@@ -203,24 +205,25 @@ void ReadExtraSamples(const TiffHandle& file, TiffLayout& layout, Warnings& warn
 void RequireInks(const TiffHandle& file)
 {
     if (file.Field<quint16>(TIFFTAG_INKSET, INKSET_CMYK) != INKSET_CMYK) {
-        throw UnknownFormat(QStringLiteral("it has inks of its own; only cyan, magenta, yellow and black can be read"));
+        throw UnknownFormat(
+            Phrase::English("it has inks of its own; only cyan, magenta, yellow and black can be read"));
     }
 }
 
 void RequireMeaning(const TiffHandle& file, const TiffLayout& layout)
 {
     if (layout.samples < layout.colourSamples && layout.colours != TiffColours::Converted) {
-        throw DamagedFile(QStringLiteral("it has fewer channels than its kind of colours needs"));
+        throw DamagedFile(Phrase::English("it has fewer channels than its kind of colours needs"));
     }
     const bool isLab = layout.colours == TiffColours::CieLab || layout.colours == TiffColours::IccLab ||
                        layout.colours == TiffColours::ItuLab;
     const bool isLabDepth = layout.bits == 8 || (layout.bits == 16 && layout.numbers != TiffNumbers::Floating) ||
                             (layout.bits == 32 && layout.numbers == TiffNumbers::Floating);
     if (isLab && !isLabDepth) {
-        throw UnknownFormat(QStringLiteral("Lab colours of %1 bits a channel are not supported").arg(layout.bits));
+        throw UnknownFormat(Phrase::English("Lab colours of %1 bits a channel are not supported").arg(layout.bits));
     }
     if (layout.colours == TiffColours::Palette && (layout.bits > 16 || layout.numbers == TiffNumbers::Floating)) {
-        throw UnknownFormat(QStringLiteral("palettes of %1 bits are not supported").arg(layout.bits));
+        throw UnknownFormat(Phrase::English("palettes of %1 bits are not supported").arg(layout.bits));
     }
     if (layout.colours == TiffColours::Cmyk) {
         RequireInks(file);
@@ -229,12 +232,12 @@ void RequireMeaning(const TiffHandle& file, const TiffLayout& layout)
     if (layout.colours == TiffColours::Converted && layout.isTiled && compression == COMPRESSION_NONE) {
         // The decoder takes the size of its buffer for that of the tile.
         throw UnknownFormat(
-            QStringLiteral("its way of storing colours (colour differences in uncompressed tiles) is not supported"));
+            Phrase::English("its way of storing colours (colour differences in uncompressed tiles) is not supported"));
     }
     char reason[1024] = "";
     if (layout.colours == TiffColours::Converted && TIFFRGBAImageOK(file.Get(), reason) == 0) {
         throw UnknownFormat(
-            QStringLiteral("its way of storing colours is not supported: %1").arg(QString::fromLocal8Bit(reason)));
+            Phrase::English("its way of storing colours is not supported: %1").arg(QString::fromLocal8Bit(reason)));
     }
 }
 

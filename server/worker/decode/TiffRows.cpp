@@ -1,5 +1,7 @@
 #include "TiffRows.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/DamageText.h"
 
 #include <algorithm>
@@ -89,10 +91,10 @@ void TiffRows::Reserve(qint64 memory)
                                          : TIFFStripSize64(File());
     const qint64 ofUnits = Product(ofUnit, qint64(files.size()));
     if (ofUnit <= 0) {
-        throw DamagedFile(QStringLiteral("its strips or tiles have no size that makes sense"));
+        throw DamagedFile(Phrase::English("its strips or tiles have no size that makes sense"));
     }
     if (ofBand > memory || ofUnits > memory - ofBand) {
-        throw TooLarge(QStringLiteral("its strips or tiles need more memory than a worker may use"));
+        throw TooLarge(Phrase::English("its strips or tiles need more memory than a worker may use"));
     }
     band.resize(std::size_t(ofBand));
     if (isConverted) {
@@ -101,7 +103,7 @@ void TiffRows::Reserve(qint64 memory)
         auto image = std::make_unique<TIFFRGBAImage>();
         if (TIFFRGBAImageBegin(image.get(), File(), 0, reason) == 0) {
             throw UnknownFormat(
-                QStringLiteral("its way of storing colours is not supported: %1").arg(QString::fromLocal8Bit(reason)));
+                Phrase::English("its way of storing colours is not supported: %1").arg(QString::fromLocal8Bit(reason)));
         }
         converter = std::move(image);
         // As stored: the picture is turned upright with all others.
@@ -241,7 +243,7 @@ PictureFailure TiffRows::Failure() const
         }
     }
     if (end > files.front()->FileSize()) {
-        return DamagedFile(QStringLiteral("the file ends after %1 % of the picture").arg(percent), detail);
+        return DamagedFile(Phrase::English("the file ends after %1 % of the picture").arg(percent), detail);
     }
     return DamagedFile(DamageText(DamageKind::Damaged, percent), detail);
 }

@@ -1,5 +1,7 @@
 #include "TiffSamples.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <algorithm>
@@ -237,7 +239,7 @@ TiffSamples::Palette TiffSamples::PaletteOf(const TiffHandle& file, const TiffLa
     quint16* green = nullptr;
     quint16* blue = nullptr;
     if (TIFFGetField(file.Get(), TIFFTAG_COLORMAP, &red, &green, &blue) != 1 || !red || !green || !blue) {
-        throw DamagedFile(QStringLiteral("its palette is missing"));
+        throw DamagedFile(BatchJob::Phrase::English("its palette is missing"));
     }
     Palette palette;
     const std::size_t entries = std::size_t(1) << layout.bits;

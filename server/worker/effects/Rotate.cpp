@@ -1,13 +1,15 @@
 #include "ColourParameter.h"
 #include "EffectFunctions.h"
 
+#include "job/effects/EffectSizes.h"
 #include "server/worker/colour/PictureColours.h"
 #include "server/worker/geometry/Coverage.h"
 #include "server/worker/geometry/Rotation.h"
 #include "server/worker/pixels/GeneratedPicture.h"
 #include "server/worker/pixels/PixelForms.h"
 
-#include <cmath>
+#include <array>
+#include <vector>
 
 namespace BatchWorker {
 
@@ -16,14 +18,9 @@ namespace {
 /// Turns a size clockwise by any angle onto the smallest canvas that holds it. Both have one middle.
 struct Turn
 {
-    Turn(const QSize& picture, double degrees)
+    Turn(const QSize& picture, const QSize& turned, double degrees)
+        : canvas(turned)
     {
-        const double c = std::abs(std::cos(degrees * M_PI / 180.0));
-        const double s = std::abs(std::sin(degrees * M_PI / 180.0));
-        // Rounding errors do not make another pixel.
-        constexpr double tolerance = 1e-6;
-        canvas = QSize(static_cast<int>(std::ceil(picture.width() * c + picture.height() * s - tolerance)),
-                       static_cast<int>(std::ceil(picture.width() * s + picture.height() * c - tolerance)));
         toCanvas = QTransform::fromTranslate(-picture.width() / 2.0, -picture.height() / 2.0) *
                    QTransform().rotate(degrees) *
                    QTransform::fromTranslate(canvas.width() / 2.0, canvas.height() / 2.0);
@@ -60,12 +57,14 @@ Picture OverPaint(const Picture& turned, const Coverage& shape, const std::vecto
     return GeneratePicture(ShapeOf(turned), {turned}, lay);
 }
 
-Picture TurnedByAnyAngle(const Picture& picture, double degrees, const QColor& background)
+Picture TurnedByAnyAngle(const Picture& picture, const QJsonObject& parameters)
 {
+    const QColor background = ColourOf(parameters[QLatin1String("background")].toString());
+    const QSize size(picture.width(), picture.height());
     PaintablePicture paintable = PaintableWith(background, picture);
     const double largest = LargestValue(paintable.picture);
     const bool hasAlpha = paintable.picture.has_alpha();
-    const Turn turn(QSize(picture.width(), picture.height()), degrees);
+    const Turn turn(size, BatchJob::TurnedCanvas(size, parameters), BatchJob::TurnOf(parameters));
 
     Picture source = paintable.picture.cast(VIPS_FORMAT_FLOAT);
     std::vector<double>& paint = paintable.paint;
@@ -90,8 +89,7 @@ Picture TurnedByAnyAngle(const Picture& picture, double degrees, const QColor& b
 // a background that is not opaque gives an alpha channel; not so at multiples of 90.
 Picture ApplyRotate(const Picture& picture, const QJsonObject& parameters)
 {
-    const double turn = std::fmod(parameters[QLatin1String("angle")].toDouble(), 360.0);
-    const double degrees = turn < 0.0 ? turn + 360.0 : turn;
+    const double degrees = BatchJob::TurnOf(parameters);
     if (degrees == 0.0) {
         return picture;
     }
@@ -104,7 +102,7 @@ Picture ApplyRotate(const Picture& picture, const QJsonObject& parameters)
     if (degrees == 270.0) {
         return picture.rot270();
     }
-    return TurnedByAnyAngle(picture, degrees, ColourOf(parameters[QLatin1String("background")].toString()));
+    return TurnedByAnyAngle(picture, parameters);
 }
 
 } // namespace BatchWorker

@@ -2,6 +2,7 @@
 #include "WatermarkPlacement.h"
 
 #include "job/values/JobValues.h"
+#include "job/values/Phrase.h"
 #include "server/worker/colour/PictureColours.h"
 #include "server/worker/decode/JobPicture.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -26,7 +27,7 @@ Picture ImageAt(const QString& path, int width)
     try {
         return AsRgb(WithDepth(ReadJobPicture(path, {}, size, {}, warnings), 8));
     } catch (const PictureFailure& failure) {
-        throw ProcessingFailed(QStringLiteral("the picture %1 cannot be read: %2").arg(path, failure.reason),
+        throw ProcessingFailed(BatchJob::Phrase::English("the picture %1 cannot be read: %2").arg(path, failure.reason),
                                failure.detail);
     }
 }

@@ -2,6 +2,8 @@
 #include "EffectFunctions.h"
 #include "WatermarkPlacement.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/colour/PictureColours.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelFilter.h"
@@ -39,7 +41,8 @@ void RequireReasonableSize(const QString& text, double height)
         longest = std::max(longest, line.size());
     }
     if (height * longest * height * 1.5 * lines.size() > mostPixels) {
-        throw ProcessingFailed(QStringLiteral("the text would be too large at a size of %1 pixels").arg(int(height)));
+        throw ProcessingFailed(
+            BatchJob::Phrase::English("the text would be too large at a size of %1 pixels").arg(int(height)));
     }
 }
 
@@ -76,7 +79,7 @@ Picture ApplyWatermarkText(const Picture& picture, const QJsonObject& parameters
 {
     const QString text = Printable(parameters[QLatin1String("text")].toString());
     if (text.trimmed().isEmpty()) {
-        throw ProcessingFailed(QStringLiteral("the text has no letters that could be drawn"));
+        throw ProcessingFailed(BatchJob::Phrase::English("the text has no letters that could be drawn"));
     }
     const double height = std::max(1.0, LengthIn(parameters, "size", std::min(picture.width(), picture.height())));
     RequireReasonableSize(text, height);

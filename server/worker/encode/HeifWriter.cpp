@@ -1,5 +1,7 @@
 #include "HeifWriter.h"
 
+#include "job/values/Phrase.h"
+
 #include "EncoderOptions.h"
 #include "RowReader.h"
 
@@ -50,7 +52,7 @@ void CheckMemory(const Picture& picture, const HeifSettings& settings)
     const qint64 available = FreeMemory() - ofPipeline - QThread::idealThreadCount() * ofThread;
     const qint64 pixels = qint64(picture.width()) * picture.height();
     if (double(pixels) * BytesOfPixel(settings, picture.bands() > 3) > double(available)) {
-        throw TooLarge(QStringLiteral("writing %1 x %2 pixels as %3 needs more memory than a worker may use")
+        throw TooLarge(BatchJob::Phrase::English("writing %1 x %2 pixels as %3 needs more memory than a worker may use")
                            .arg(picture.width())
                            .arg(picture.height())
                            .arg(QLatin1String(settings.formatName)));

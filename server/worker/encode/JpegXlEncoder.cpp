@@ -4,6 +4,8 @@
 #include "JxlWriter.h"
 #include "RowReader.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/pixels/EmbeddedProfile.h"
 #include "server/worker/pixels/FreeMemory.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -107,9 +109,10 @@ JxlPlan PlanFor(const JxlPicture& picture, int effort)
     constexpr qint64 ofPipeline = qint64(128) << 20;
     const std::optional<JxlPlan> plan = PlanJxl(picture, effort, FreeMemory() - ofPipeline);
     if (!plan) {
-        throw TooLarge(QStringLiteral("writing %1 x %2 pixels as JPEG XL needs more memory than a worker may use")
-                           .arg(picture.width)
-                           .arg(picture.height));
+        throw TooLarge(
+            BatchJob::Phrase::English("writing %1 x %2 pixels as JPEG XL needs more memory than a worker may use")
+                .arg(picture.width)
+                .arg(picture.height));
     }
     return *plan;
 }

@@ -3,6 +3,7 @@
 #include "Patterns.h"
 
 #include "job/values/JobValues.h"
+#include "job/values/Phrase.h"
 #include "server/worker/colour/Colour.h"
 #include "server/worker/colour/PictureColours.h"
 #include "server/worker/decode/JobPicture.h"
@@ -104,9 +105,9 @@ std::optional<Picture> ReadBackgroundFile(const ZTBatchOutputSettings::Transform
     try {
         return ReadJobPicture(framing.backgroundImage, covering, {}, limits, warnings);
     } catch (const PictureFailure& failure) {
-        throw ProcessingFailed(
-            QStringLiteral("the background picture %1 cannot be read: %2").arg(framing.backgroundImage, failure.reason),
-            failure.detail);
+        throw ProcessingFailed(Phrase::English("the background picture %1 cannot be read: %2")
+                                   .arg(framing.backgroundImage, failure.reason),
+                               failure.detail);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "Framing.h"
 
+#include "job/values/Phrase.h"
+
 #include "Background.h"
 #include "Blending.h"
 #include "Placement.h"
@@ -25,7 +27,7 @@ using Transformation = ZTBatchOutputSettings::Transformation;
 void CheckFrame(const QSize& frame, qint64 pixelLimit)
 {
     if (qint64(frame.width()) * frame.height() > pixelLimit) {
-        throw ProcessingFailed(QStringLiteral("the frame of %1 x %2 pixels is above the limit of %3 pixels")
+        throw ProcessingFailed(Phrase::English("the frame of %1 x %2 pixels is above the limit of %3 pixels")
                                    .arg(frame.width())
                                    .arg(frame.height())
                                    .arg(pixelLimit));
@@ -91,7 +93,7 @@ Picture FramePicture(const Picture& original, const Transformation& framing, con
     CheckFrame(placement.frame, limits.pixels);
     if (!placement.hasRoom) {
         warnings.append(
-            {WarningKind::Framing, QStringLiteral("the margins leave nothing of the frame free and have no effect")});
+            {WarningKind::Framing, Phrase::English("the margins leave nothing of the frame free and have no effect")});
     }
     const std::optional<Picture> backgroundFile = ReadBackgroundFile(framing, placement.frame, limits, warnings);
     const Picture picture = BringsColour(framing, backgroundFile) ? AsRgb(original) : original;

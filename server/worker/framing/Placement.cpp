@@ -1,5 +1,7 @@
 #include "Placement.h"
 
+#include "job/geometry/ResultSize.h"
+
 #include <QMargins>
 #include <QRectF>
 
@@ -35,7 +37,7 @@ double ScaleOf(const QTransform& transform)
 } // namespace
 
 FramePlacement::FramePlacement(const QSize& picture, const ZTBatchOutputSettings::Transformation& framing)
-    : frame(framing.backgroundCustomOutput ? framing.backgroundCustomSize : picture)
+    : frame(BatchJob::FrameSize(picture, framing))
 {
     const QSize fitted = FittedInto(picture, frame);
     const QPoint fittedCorner((frame.width() - fitted.width()) / 2, (frame.height() - fitted.height()) / 2);

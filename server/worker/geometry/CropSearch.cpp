@@ -1,6 +1,6 @@
 #include "CropSearch.h"
 
-#include "Geometry.h"
+#include "job/geometry/Geometry.h"
 
 #include "server/worker/pixels/PixelForms.h"
 
@@ -66,10 +66,10 @@ QRect FrameOfInterest(const Picture& picture, const QSize& sourceSize, const QSi
 {
     const double scale = interestSearchSide / std::max(picture.width(), picture.height());
     const Picture small = picture.resize(std::min(1.0, scale)).copy_memory();
-    const QSize smallFrame = LargestOfRatio(ratio, QSize(small.width(), small.height()));
+    const QSize smallFrame = BatchJob::LargestOfRatio(ratio, QSize(small.width(), small.height()));
     const Picture found = small.smartcrop(smallFrame.width(), smallFrame.height(),
                                           Picture::option()->set("interesting", VIPS_INTERESTING_ATTENTION));
-    const QSize frame = LargestOfRatio(ratio, sourceSize);
+    const QSize frame = BatchJob::LargestOfRatio(ratio, sourceSize);
     const auto scaled = [](int offset, int from, int to) { return int(std::lround(double(offset) * to / from)); };
     return {
         std::min(scaled(-found.xoffset(), small.width(), sourceSize.width()), sourceSize.width() - frame.width()),

@@ -56,7 +56,7 @@ QRect UprightRect(const QRect& stored, const QSize& storedSize, int orientation)
     return StoredRect(stored, storedSize, orientation == otherQuarterTurn ? quarterTurn : orientation);
 }
 
-Geometry StoredGeometry(const Geometry& upright, const QSize& uprightSize, int orientation)
+BatchJob::Geometry StoredGeometry(const BatchJob::Geometry& upright, const QSize& uprightSize, int orientation)
 {
     return {StoredRect(upright.part, uprightSize, orientation), TurnedSize(upright.scaledSize, orientation),
             StoredRect(upright.cut, upright.scaledSize, orientation)};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Geometry.h"
+#include "job/geometry/Geometry.h"
 
 #include "server/worker/pixels/Picture.h"
 
@@ -26,7 +26,7 @@ QRect StoredRect(const QRect& upright, const QSize& uprightSize, int orientation
 QRect UprightRect(const QRect& stored, const QSize& storedSize, int orientation);
 
 /// `upright`, a geometry planned for an upright picture of `uprightSize`, as it applies to the stored picture.
-Geometry StoredGeometry(const Geometry& upright, const QSize& uprightSize, int orientation);
+BatchJob::Geometry StoredGeometry(const BatchJob::Geometry& upright, const QSize& uprightSize, int orientation);
 
 /// Turns `stored` upright and sets its orientation to 1. For orientations other than 1 and 2 the picture must be one
 /// whose pixels can be read in any order.

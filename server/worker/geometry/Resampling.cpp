@@ -39,7 +39,7 @@ Picture Scaled(const Picture& picture, const QSize& size)
 
 // The frame lies between the pixels of a source that was loaded smaller: the whole is scaled, then the frame is cut
 // out. Rows and columns that the frame does not need are not computed.
-Picture CutAfterScaling(const Picture& loaded, const QSize& sourceSize, const Geometry& geometry)
+Picture CutAfterScaling(const Picture& loaded, const QSize& sourceSize, const BatchJob::Geometry& geometry)
 {
     const double horizontal = double(geometry.scaledSize.width()) / geometry.part.width();
     const double vertical = double(geometry.scaledSize.height()) / geometry.part.height();
@@ -55,7 +55,7 @@ Picture CutAfterScaling(const Picture& loaded, const QSize& sourceSize, const Ge
 
 } // namespace
 
-Picture Resampled(const Picture& loaded, const QSize& sourceSize, const Geometry& geometry)
+Picture Resampled(const Picture& loaded, const QSize& sourceSize, const BatchJob::Geometry& geometry)
 {
     const bool isWhole = geometry.part.size() == sourceSize;
     if (!isWhole && QSize(loaded.width(), loaded.height()) != sourceSize) {

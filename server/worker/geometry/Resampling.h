@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Geometry.h"
+#include "job/geometry/Geometry.h"
 
 #include "server/worker/pixels/Picture.h"
 
@@ -9,6 +9,6 @@ namespace BatchWorker {
 /// The crop and size stage for `loaded`, the pixels of an upright source, or those loaded smaller than the source is.
 /// `sourceSize` is the size of the source, which `geometry` was planned for. Alpha is weighed in: what is transparent
 /// does not colour its neighbours.
-Picture Resampled(const Picture& loaded, const QSize& sourceSize, const Geometry& geometry);
+Picture Resampled(const Picture& loaded, const QSize& sourceSize, const BatchJob::Geometry& geometry);
 
 } // namespace BatchWorker

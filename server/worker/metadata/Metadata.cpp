@@ -1,10 +1,15 @@
 #include "Metadata.h"
 
+#include "job/values/Phrase.h"
+
 #include "CaptureTime.h"
+#include "Copyright.h"
 #include "MetadataEncoder.h"
 #include "Places.h"
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
+
+#include "server/worker/decode/PictureSource.h"
 
 #include <QFile>
 
@@ -64,6 +69,18 @@ void DescribePixels(Exiv2::ExifData& exif, const QSize& size, int dotsPerInch, b
     exif["Exif.Photo.ColorSpace"] = isSrgb ? srgb : otherColours;
 }
 
+QString LostNoticeText(const CopyrightNotice& notice)
+{
+    constexpr int longest = 100;
+    const bool isShort = notice.text.size() <= longest;
+    const QString groups = notice.groups.size() == 1
+                               ? notice.groups.first() + QStringLiteral(", which is")
+                               : notice.groups.mid(0, notice.groups.size() - 1).join(QStringLiteral(", ")) +
+                                     QStringLiteral(" and ") + notice.groups.last() + QStringLiteral(", which are");
+    return QStringLiteral("the copyright notice \"%1\" is only in %2 not kept; keep=copyright keeps it")
+        .arg(isShort ? notice.text : notice.text.left(longest) + QStringLiteral("..."), groups);
+}
+
 } // namespace
 
 Metadata::Metadata()
@@ -100,25 +117,32 @@ QDateTime Metadata::Captured() const
     return CaptureTime(*d);
 }
 
-void Metadata::KeepOnly(const QStringList& kinds)
+void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)
 {
-    const bool keepsExif = kinds.contains(QLatin1String("exif"));
     const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
-    d->keepsExif = keepsExif;
-    if (!kinds.contains(QLatin1String("iptc"))) {
-        d->iptc.clear();
-    }
-    if (!kinds.contains(QLatin1String("xmp"))) {
-        d->xmp.clear();
-    }
+    const bool keepsCopyright = kinds.contains(QLatin1String("copyright"));
+    d->keepsExif = kinds.contains(QLatin1String("exif"));
     d->OrNothing([&] {
-        if (!keepsExif) {
-            RemoveIf(d->exif, [](const Exiv2::Exifdatum& entry) { return !IsPosition(entry); });
+        const CopyrightNotice notice = NoticeIn(*d);
+        if (!d->keepsExif) {
+            RemoveIf(d->exif, [&](const Exiv2::Exifdatum& entry) {
+                return !IsPosition(entry) && !(keepsCopyright && IsOfCopyright(entry));
+            });
+        }
+        if (!kinds.contains(QLatin1String("iptc"))) {
+            keepsCopyright ? KeepCopyright(d->iptc) : d->iptc.clear();
+        }
+        if (!kinds.contains(QLatin1String("xmp"))) {
+            keepsCopyright ? KeepCopyright(d->xmp) : d->xmp.clear();
         }
         if (!keepsPlaces) {
             RemovePlaces(d->exif);
             RemovePlaces(d->iptc);
             RemovePlaces(d->xmp);
+        }
+        // Who keeps nothing has said so.
+        if (!kinds.isEmpty() && !notice.groups.isEmpty() && NoticeIn(*d).groups.isEmpty()) {
+            warnings.append({BatchJob::WarningKind::MetadataLost, LostNoticeText(notice)});
         }
     });
 }
@@ -162,8 +186,8 @@ void Metadata::RemoveXmp()
 void Metadata::RemoveUnwritable(BatchJob::Warnings& warnings)
 {
     if (!d->problem.isEmpty()) {
-        warnings.append(
-            {BatchJob::WarningKind::MetadataLost, QStringLiteral("metadata is left out: %1").arg(d->problem)});
+        warnings.append({BatchJob::WarningKind::MetadataLost,
+                         BatchJob::Phrase::English("metadata is left out: %1").arg(d->problem)});
     }
     BatchWorker::RemoveUnwritable(*d, warnings);
 }
@@ -208,6 +232,13 @@ void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray
 bool Metadata::IsEmpty() const
 {
     return d->exif.empty() && d->iptc.empty() && d->xmp.empty();
+}
+
+void OrientBy(const Metadata& metadata, PictureSource& source)
+{
+    if (!source.Format().metadata.isOrientationInDecoder) {
+        source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
+    }
 }
 
 } // namespace BatchWorker

@@ -38,11 +38,13 @@ public:
     /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.
     QDateTime Captured() const;
 
-    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp". Without "gps" all places are removed from the
-    /// others, too, see Places.h.
-    void KeepOnly(const QStringList& kinds);
+    /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp", and "copyright", which is a part of the others,
+    /// see Copyright.h. Without "gps" all places are removed from the others, too, see Places.h. Warns of a copyright
+    /// notice that is lost, unless nothing at all is to be kept.
+    void KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings);
 
-    /// Whether the result must have no EXIF block: EXIF is not kept, and no GPS positions are left in it.
+    /// Whether the result must have no EXIF block: EXIF is not kept, and neither GPS positions nor a
+    /// copyright are left in it.
     bool GoWithoutExif() const;
 
     /// Makes the entries that describe the pixels fit the result: upright, `size` pixels, `dotsPerInch`. Removes the
@@ -79,5 +81,8 @@ private:
     struct Private;
     std::unique_ptr<Private> d;
 };
+
+/// Gives `source` the orientation that `metadata` state, where its decoder does not see it.
+void OrientBy(const Metadata& metadata, PictureSource& source);
 
 } // namespace BatchWorker

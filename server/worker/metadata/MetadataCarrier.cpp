@@ -1,5 +1,7 @@
 #include "MetadataCarrier.h"
 
+#include "job/values/Phrase.h"
+
 #include "BoxFile.h"
 #include "PngMetadata.h"
 #include "WebpExif.h"
@@ -72,7 +74,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     if (support.writing == MetadataWriting::None) {
         if (!metadata.IsEmpty()) {
             warnings.append({WarningKind::MetadataLost,
-                             QStringLiteral("%1 files cannot hold metadata; it is left out").arg(format.name)});
+                             Phrase::English("%1 files cannot hold metadata; it is left out").arg(format.name)});
         }
         return carrier;
     }
@@ -88,7 +90,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
             return true;
         }
         warnings.append({WarningKind::MetadataLost,
-                         QStringLiteral("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
+                         Phrase::English("%1 metadata of %2 bytes does not fit into a %3 file and is left out")
                              .arg(QLatin1String(what))
                              .arg(block.size())
                              .arg(format.name)});
@@ -140,10 +142,10 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     const MetadataSupport& support = format.metadata;
     const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
     if (isCutOut && !RemoveExifFromWebp(fileName)) {
-        warnings.append({WarningKind::MetadataLost, QStringLiteral("EXIF cannot be removed from the result")});
+        warnings.append({WarningKind::MetadataLost, Phrase::English("EXIF cannot be removed from the result")});
     }
     if (support.isExifRepeated && !RemoveRepeatedExifFromPng(fileName)) {
-        warnings.append({WarningKind::MetadataLost, QStringLiteral("the result may have its EXIF block twice")});
+        warnings.append({WarningKind::MetadataLost, Phrase::English("the result may have its EXIF block twice")});
     }
     const bool isStripped = IsStripped(format, metadata);
     const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();
@@ -155,14 +157,14 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     if (QFileInfo(fileName).size() > largestInMemory) {
         warnings.append(
             {WarningKind::MetadataLost,
-             QStringLiteral("the result is too large for all of its metadata to be added; some is left out")});
+             Phrase::English("the result is too large for all of its metadata to be added; some is left out")});
         return;
     }
     try {
         metadata.WriteInto(fileName, needsProfile, profile);
     } catch (const std::exception& problem) {
         warnings.append({WarningKind::MetadataLost,
-                         QStringLiteral("metadata cannot be written: %1").arg(QString::fromUtf8(problem.what()))});
+                         Phrase::English("metadata cannot be written: %1").arg(QString::fromUtf8(problem.what()))});
     }
 }
 

@@ -1,5 +1,7 @@
 #include "MetadataEncoder.h"
 
+#include "job/values/Phrase.h"
+
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
 
@@ -25,7 +27,7 @@ bool IsWritable(const Data& data)
 void Warn(Warnings& warnings, const char* what)
 {
     warnings.append(
-        {WarningKind::MetadataLost, QStringLiteral("%1 cannot be written and are left out").arg(QLatin1String(what))});
+        {WarningKind::MetadataLost, Phrase::English("%1 cannot be written and are left out").arg(QLatin1String(what))});
 }
 
 template<typename Data>
@@ -76,12 +78,12 @@ void RemoveUnwritable(MetadataBlocks& blocks, Warnings& warnings)
         RemoveIf(withoutNotes, IsMakerNote);
         if (IsWritable(withoutNotes)) {
             blocks.exif = withoutNotes;
-            Warn(warnings, "the notes of the camera's maker");
+            Warn(warnings, Phrase::Marked("the notes of the camera's maker"));
         }
     }
-    ClearUnwritable(blocks.exif, "EXIF metadata", warnings);
-    ClearUnwritable(blocks.iptc, "IPTC metadata", warnings);
-    ClearUnwritable(blocks.xmp, "XMP metadata", warnings);
+    ClearUnwritable(blocks.exif, Phrase::Marked("EXIF metadata"), warnings);
+    ClearUnwritable(blocks.iptc, Phrase::Marked("IPTC metadata"), warnings);
+    ClearUnwritable(blocks.xmp, Phrase::Marked("XMP metadata"), warnings);
 }
 
 } // namespace BatchWorker

@@ -1,5 +1,7 @@
 #include "MetadataReader.h"
 
+#include "job/values/Phrase.h"
+
 #include "BoxFile.h"
 #include "ItemBoxes.h"
 #include "JxlBoxes.h"
@@ -193,7 +195,7 @@ MetadataBlocks BlocksOrWarning(const QString& file, const PictureSource& source,
     } catch (const std::exception& problem) { // also those of the standard library, which metadata out of range cause
         warnings.append(
             {WarningKind::MetadataLost,
-             QStringLiteral("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});
+             Phrase::English("metadata cannot be read and is left out: %1").arg(QString::fromUtf8(problem.what()))});
         return {};
     }
 }

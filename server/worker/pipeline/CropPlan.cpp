@@ -32,16 +32,19 @@ QRect InterestingFrame(PictureSource& source, const QSize& uprightRatio)
 
 } // namespace
 
-Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
-                         const ZTBatchOutputSettings::ImageSize& size)
+BatchJob::Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
+                                   const ZTBatchOutputSettings::ImageSize& size)
 {
+    const QSize upright = TurnedSize(source.StoredSize(), source.Orientation());
     QRect found;
     if (crop.type == int(BatchJob::CropType::Trim)) {
         found = UprightRect(TrimmedFrame(source), source.StoredSize(), source.Orientation());
-    } else if (crop.type == int(BatchJob::CropType::Interesting)) {
-        found = UprightRect(InterestingFrame(source, crop.size), source.StoredSize(), source.Orientation());
+    } else if (crop.type == int(BatchJob::CropType::Interesting) ||
+               crop.type == int(BatchJob::CropType::TurningInteresting)) {
+        const QRect frame = InterestingFrame(source, BatchJob::RatioFor(upright, crop));
+        found = UprightRect(frame, source.StoredSize(), source.Orientation());
     }
-    return PlanGeometry(TurnedSize(source.StoredSize(), source.Orientation()), crop, size, found);
+    return BatchJob::PlanGeometry(upright, crop, size, found);
 }
 
 } // namespace BatchWorker

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "job/geometry/Geometry.h"
 #include "server/worker/decode/PictureSource.h"
-#include "server/worker/geometry/Geometry.h"
 
 #include "ZTBatchOutputSettings.h"
 
@@ -9,7 +9,7 @@ namespace BatchWorker {
 
 /// The crop and the size of the upright picture of `source`. Where the crop depends on the pixels they are read for it,
 /// apart from later stages. Throws what PictureSource throws, and vips::VError.
-Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
-                         const ZTBatchOutputSettings::ImageSize& size);
+BatchJob::Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSettings::Crop& crop,
+                                   const ZTBatchOutputSettings::ImageSize& size);
 
 } // namespace BatchWorker

@@ -1,5 +1,7 @@
 #include "EffectStage.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/effects/Effects.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/RandomAccess.h"
@@ -14,14 +16,14 @@ namespace {
 Picture Applied(const JobEffect& effect, const Picture& picture)
 {
     const auto failed = [&effect](const QString& reason, const QString& detail) {
-        return ProcessingFailed(QStringLiteral("effect \"%1\": %2").arg(effect.schema->id, reason), detail);
+        return ProcessingFailed(Phrase::English("effect \"%1\": %2").arg(effect.schema->id, reason), detail);
     };
     try {
         return ApplyEffect(*effect.schema, effect.parameters, picture);
     } catch (const PictureFailure& problem) {
         throw failed(problem.reason, problem.detail);
     } catch (const vips::VError& problem) {
-        throw failed(QStringLiteral("it cannot be applied to the picture"), TextOf(problem));
+        throw failed(Phrase::English("it cannot be applied to the picture"), TextOf(problem));
     }
 }
 

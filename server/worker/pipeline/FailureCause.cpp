@@ -1,6 +1,7 @@
 #include "FailureCause.h"
 
 #include "job/formats/NearestFormat.h"
+#include "job/values/Phrase.h"
 #include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/VipsText.h"
 
@@ -57,9 +58,10 @@ PictureFailure CauseOf(const vips::VError& problem, PictureSource& source, bool 
         return *damage;
     }
     if (isProcessed) {
-        return ProcessingFailed(QStringLiteral("an effect or the frame cannot be applied to the picture"), text);
+        return ProcessingFailed(BatchJob::Phrase::English("an effect or the frame cannot be applied to the picture"),
+                                text);
     }
-    return FormatCannotHold(QStringLiteral("the encoder for %1 failed").arg(format.name),
+    return FormatCannotHold(BatchJob::Phrase::English("the encoder for %1 failed").arg(format.name),
                             BatchJob::NearestFormat(source.Format().name, NeedsOf(source)).name, text);
 }
 

@@ -1,6 +1,7 @@
 #include "FormatCheck.h"
 
 #include "job/formats/NearestFormat.h"
+#include "job/values/Phrase.h"
 #include "server/worker/colour/Colour.h"
 #include "server/worker/encode/EncoderTrial.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -19,14 +20,17 @@ void RequireFormatHolds(const BatchJob::FormatSchema& format, const QJsonObject&
         BatchJob::NearestFormat(inputFormat, {isDeep, picture.has_alpha(), IsCmyk(picture), size}).name;
     if (!CanWrite(format, options, isDeep)) {
         throw FormatCannotHold(
-            QStringLiteral("this installation has no encoder for %1, or not for this depth").arg(format.name), nearest);
+            BatchJob::Phrase::English("this installation has no encoder for %1, or not for this depth")
+                .arg(format.name),
+            nearest);
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(
-            QStringLiteral("%1 cannot hold CMYK, which the job's colour profile asks for").arg(format.name), nearest);
+            BatchJob::Phrase::English("%1 cannot hold CMYK, which the job's colour profile asks for").arg(format.name),
+            nearest);
     }
     if (std::max(size.width(), size.height()) > format.longestSide) {
-        throw FormatCannotHold(QStringLiteral("%1 x %2 pixels: %3 holds at most %4 on a side")
+        throw FormatCannotHold(BatchJob::Phrase::English("%1 x %2 pixels: %3 holds at most %4 on a side")
                                    .arg(size.width())
                                    .arg(size.height())
                                    .arg(format.name)

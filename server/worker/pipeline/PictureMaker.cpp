@@ -10,6 +10,7 @@
 #include "job/formats/FormatCatalog.h"
 #include "job/formats/FormatOptions.h"
 #include "job/formats/NearestFormat.h"
+#include "job/values/Phrase.h"
 #include "server/worker/colour/Colour.h"
 #include "server/worker/colour/ColourProfile.h"
 #include "server/worker/decode/PictureSource.h"
@@ -64,10 +65,11 @@ public:
     {
         WarnOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
-        if (!source.Format().metadata.isOrientationInDecoder) {
-            source.SetOrientation(metadata.Orientation().value_or(source.Orientation()));
-        }
+        OrientBy(metadata, source);
+        made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
+        made.facts.quality = QualityUsed(options);
         WarnOfGainMap();
+        metadata.KeepOnly(keep, made.warnings);
     }
 
     MadePicture Make();
@@ -105,14 +107,12 @@ MadePicture PictureRun::Make()
         made.warnings = ofReading;
         made.warnings.append(
             {WarningKind::ColoursConverted,
-             QStringLiteral("the colour profile does not fit into the %1 file; the result is sRGB").arg(format.name)});
+             Phrase::English("the colour profile does not fit into the %1 file; the result is sRGB").arg(format.name)});
         colours.ForgoProfile();
         MakeFile();
     }
     KeepFileTime();
     made.warnings += source.DecoderWarnings();
-    struct stat status;
-    made.bytes = fstat(made.file->Descriptor(), &status) == 0 ? qint64(status.st_size) : 0;
     return std::move(made);
 }
 
@@ -139,9 +139,9 @@ void PictureRun::WarnOfOtherPages()
     if (pages > 1) {
         const bool hasMain = source.Format().pages == FormatPages::Items;
         made.warnings.append(
-            {WarningKind::OtherPages, QStringLiteral("it has %1 pages; only the %2 is used")
-                                          .arg(pages)
-                                          .arg(hasMain ? QStringLiteral("main one") : QStringLiteral("first"))});
+            {WarningKind::OtherPages, (hasMain ? Phrase::English("it has %1 pages; only the main one is used")
+                                               : Phrase::English("it has %1 pages; only the first is used"))
+                                          .arg(pages)});
     }
 }
 
@@ -149,8 +149,8 @@ void PictureRun::WarnOfGainMap()
 {
     if (HasGainMap(task.inputFile)) {
         made.warnings.append({WarningKind::GainMapLost,
-                              QStringLiteral("it has a gain map, which the result lacks: highlights are no longer "
-                                             "brighter on HDR screens")});
+                              Phrase::English("it has a gain map, which the result lacks: highlights are no longer "
+                                              "brighter on HDR screens")});
     }
 }
 
@@ -175,7 +175,7 @@ Picture PictureRun::Sized()
 void PictureRun::CheckResultSize(const QSize& size) const
 {
     if (qint64(size.width()) * size.height() > limits.pixels) {
-        throw TooLarge(QStringLiteral("the result of %1 x %2 pixels would be above the limit of %3 megapixels")
+        throw TooLarge(Phrase::English("the result of %1 x %2 pixels would be above the limit of %3 megapixels")
                            .arg(size.width())
                            .arg(size.height())
                            .arg(limits.pixels / 1'000'000));
@@ -199,8 +199,8 @@ Picture PictureRun::Framed(const Picture& picture)
 void PictureRun::Write(const Picture& picture)
 {
     profile = ProfileOf(picture);
-    metadata.KeepOnly(keep);
-    metadata.DescribeResult(QSize(picture.width(), picture.height()), std::max(1, job.imageSize.resolution),
+    made.facts.outputSize = QSize(picture.width(), picture.height());
+    metadata.DescribeResult(made.facts.outputSize, std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
     Encode(carrier, format, options, BytesBefore(format, metadata), metadata.GoWithoutExif(), made.file->Descriptor());
@@ -223,7 +223,8 @@ MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, cons
 {
     const FormatSchema* format = FindFormat(task.format);
     if (!format) {
-        throw FormatCannotHold(QStringLiteral("the format \"%1\" is unknown").arg(task.format), NearestFormat({}).name);
+        throw FormatCannotHold(Phrase::English("the format \"%1\" is unknown").arg(task.format),
+                               NearestFormat({}).name);
     }
     BeginMemoryAccount();
     return PictureRun(job, limits, task, *format).Make();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "job/settings/JobCheck.h"
+#include "job/values/PictureFacts.h"
 #include "job/values/Warning.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerMessages.h"
@@ -13,7 +14,7 @@ namespace BatchWorker {
 struct MadePicture
 {
     std::unique_ptr<BatchProtocol::TemporaryFile> file;
-    qint64 bytes = 0;
+    BatchJob::PictureFacts facts; ///< without bytes and time
     BatchJob::Warnings warnings;
 };
 

@@ -1,5 +1,7 @@
 #include "ResultColours.h"
 
+#include "job/values/Phrase.h"
+
 #include "server/worker/colour/Colour.h"
 #include "server/worker/pixels/PixelForms.h"
 
@@ -48,7 +50,7 @@ Picture ResultColours::InColours(const Picture& picture, Warnings& warnings) con
         if (!format.metadata.holdsProfile) {
             warnings.append(
                 {WarningKind::ColoursConverted,
-                 QStringLiteral("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name)});
+                 Phrase::English("%1 files cannot hold a colour profile; the result is sRGB").arg(format.name)});
             return InPlainSrgb(picture, warnings);
         }
         return ConvertedTo(job.profile, picture, warnings);
@@ -57,7 +59,7 @@ Picture ResultColours::InColours(const Picture& picture, Warnings& warnings) con
         if (format.holdsCmyk && KeepsProfile() && !picture.has_alpha()) {
             return AsCmyk(inks, picture, warnings);
         }
-        warnings.append({WarningKind::ColoursConverted, QStringLiteral("the result is sRGB instead of CMYK")});
+        warnings.append({WarningKind::ColoursConverted, Phrase::English("the result is sRGB instead of CMYK")});
     }
     return KeepsProfile() ? picture : InPlainSrgb(picture, warnings);
 }

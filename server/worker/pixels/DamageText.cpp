@@ -1,5 +1,7 @@
 #include "DamageText.h"
 
+#include "job/values/Phrase.h"
+
 #include <algorithm>
 #include <array>
 
@@ -29,7 +31,7 @@ constexpr std::array signs{
 
 QString NotSupportedText()
 {
-    return QStringLiteral("the file is stored in a way that its decoder cannot read");
+    return BatchJob::Phrase::English("the file is stored in a way that its decoder cannot read");
 }
 
 } // namespace
@@ -48,13 +50,13 @@ QString DamageText(DamageKind kind, int percent)
     case DamageKind::NotSupported:
         return NotSupportedText();
     case DamageKind::CutOff:
-        return percent > 0 ? QStringLiteral("the file ends after %1 % of the picture").arg(percent)
-                           : QStringLiteral("the file ends before the picture is complete");
+        return percent > 0 ? BatchJob::Phrase::English("the file ends after %1 % of the picture").arg(percent)
+                           : BatchJob::Phrase::English("the file ends before the picture is complete");
     case DamageKind::Damaged:
         break;
     }
-    return percent > 0 ? QStringLiteral("the file is damaged after %1 % of the picture").arg(percent)
-                       : QStringLiteral("the file is damaged; no part of the picture can be read");
+    return percent > 0 ? BatchJob::Phrase::English("the file is damaged after %1 % of the picture").arg(percent)
+                       : BatchJob::Phrase::English("the file is damaged; no part of the picture can be read");
 }
 
 QString HeaderDamageText(DamageKind kind)
@@ -63,11 +65,11 @@ QString HeaderDamageText(DamageKind kind)
     case DamageKind::NotSupported:
         return NotSupportedText();
     case DamageKind::CutOff:
-        return QStringLiteral("the file ends before the picture is complete");
+        return BatchJob::Phrase::English("the file ends before the picture is complete");
     case DamageKind::Damaged:
         break;
     }
-    return QStringLiteral("the file is damaged; its header cannot be read");
+    return BatchJob::Phrase::English("the file is damaged; its header cannot be read");
 }
 
 } // namespace BatchWorker

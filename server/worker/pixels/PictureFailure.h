@@ -1,5 +1,7 @@
 #pragma once
 
+#include "job/values/Phrase.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -63,7 +65,7 @@ inline PictureFailure ProcessingFailed(const QString& reason, const QString& det
 /// Whatever a library, as `detail` says, had no memory for.
 inline PictureFailure NotEnoughMemory(const QString& detail = {})
 {
-    return TooLarge(QStringLiteral("it needs more memory than a worker may use"), detail);
+    return TooLarge(BatchJob::Phrase::English("it needs more memory than a worker may use"), detail);
 }
 
 inline PictureFailure FormatCannotHold(const QString& reason, const QString& nearestFormat, const QString& detail = {})

@@ -1,5 +1,7 @@
 #include "VipsText.h"
 
+#include "job/values/Phrase.h"
+
 #include <QStringList>
 
 namespace BatchWorker {
@@ -11,7 +13,8 @@ QString TextOf(const vips::VError& problem)
     vips_error_clear();
     QStringList lines = all.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     lines.removeDuplicates();
-    const QString text = lines.isEmpty() ? QStringLiteral("its data make no sense") : lines.join(QStringLiteral("; "));
+    const QString text =
+        lines.isEmpty() ? BatchJob::Phrase::English("its data make no sense") : lines.join(QStringLiteral("; "));
     return text.size() <= longest ? text : text.left(longest) + QStringLiteral("...");
 }
 

@@ -1,6 +1,7 @@
 #include "FileProbe.h"
 
 #include "server/worker/decode/PictureSource.h"
+#include "server/worker/geometry/Orientation.h"
 #include "server/worker/metadata/Metadata.h"
 
 #include <QDateTime>
@@ -12,12 +13,15 @@ namespace BatchWorker {
 
 Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
 {
-    const PictureSource source(task.inputFile, limits);
+    PictureSource source(task.inputFile, limits);
     Report report;
     report.inputFormat = source.Format().name;
     report.nearestFormat = BatchJob::NearestFormat(source.Format().name, NeedsOf(source)).name;
     BatchJob::Warnings warnings; // reported when the picture is made
-    report.captured = Metadata::Of(task.inputFile, source, warnings).Captured();
+    const Metadata metadata = Metadata::Of(task.inputFile, source, warnings);
+    OrientBy(metadata, source);
+    report.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
+    report.captured = metadata.Captured();
     if (!report.captured.isValid()) {
         report.captured = QFileInfo(task.inputFile).lastModified();
     }

@@ -44,7 +44,7 @@ void Place(const MadePicture& made, bool replaceExisting, Report& report)
         break;
     }
     report.reason = made.file->Error();
-    report.outputBytes = 0;
+    report.facts = {};
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "Worker.h"
 
+#include "job/values/Phrase.h"
+
 #include "FileProbe.h"
 #include "ImagingLibrary.h"
 
@@ -7,6 +9,8 @@
 #include "server/worker/pixels/PictureFailure.h"
 
 #include "ZTBatchDocument.h"
+
+#include <QElapsedTimer>
 
 #include <cerrno>
 #include <cstdio>
@@ -66,7 +70,7 @@ Report Guarded(const Work& work)
     } catch (const std::bad_alloc&) {
         return ReportOf(NotEnoughMemory());
     } catch (const std::exception& problem) {
-        return ReportOf(ProcessingFailed(QStringLiteral("the picture cannot be processed"),
+        return ReportOf(ProcessingFailed(Phrase::English("the picture cannot be processed"),
                                          QString::fromLocal8Bit(problem.what())));
     }
 }
@@ -158,7 +162,7 @@ Report Worker::Read(const Job& job)
     ZTBatchDocument document;
     if (!document.Deserialize(job.document)) {
         return Failure(PolicyKind::Processing, ZTBatchMessage::ReadOutputSettingsError,
-                       QStringLiteral("the job cannot be read"));
+                       Phrase::English("the job cannot be read"));
     }
     const CheckedSettings checked = CheckSettings(document);
     if (!checked.IsAccepted()) {
@@ -180,17 +184,20 @@ void Worker::Probe(const ProbeTask& task)
 void Worker::Make(const PictureTask& task)
 {
     reports.SendNow(Beginning{task.number});
+    QElapsedTimer time;
+    time.start();
     MadePicture made;
     Report report = ReportOnPicture([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
             made = MakePicture(*settings, limits, task);
-            done.outputBytes = made.bytes;
+            done.facts = made.facts;
             done.warnings = made.warnings;
         }
         return done;
     });
     report.number = task.number;
+    report.facts.milliseconds = int(time.elapsed());
     if (made.file) {
         reports.FinishAndSend(std::move(made), task.replaceExisting, report);
     } else {

@@ -49,7 +49,7 @@ void Fill(ZTBatchDocument& job)
                                                           {"--side", "short"},
                                                           {"--resize", "fit"},
                                                           {"--resolution", "240"},
-                                                          {"--crop", "fill:640x480"},
+                                                          {"--crop", "fill:640x480px"},
                                                           {"--crop-position", "top-left"},
                                                           {"--frame", "1,2,3,4"},
                                                           {"--frame-size", "1000x900"},

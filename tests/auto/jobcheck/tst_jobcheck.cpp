@@ -169,10 +169,17 @@ void tst_JobCheck::values_data()
             "The image size's resolution is 0; it must be a whole number from 1");
     accepted("pixels without resolution", Size([](auto& size) { size.resolution = 0; }));
 
-    refused("crop", Crop([](auto& crop) { crop.type = 6; }), "The crop's type is 6; it must be one of 0 (none)");
+    refused("crop", Crop([](auto& crop) { crop.type = 8; }), "The crop's type is 8; it must be one of 0 (none)");
     refused("crop width", Crop([](auto& crop) { crop.size.setWidth(0); }), "The crop's width is 0; it must be");
     refused("crop height", Crop([](auto& crop) { crop.size.setHeight(-5); }), "The crop's height is -5; it must be");
     refused("alignment", Crop([](auto& crop) { crop.alignment = 0x200; }), "The crop's alignment is 512; it must be");
+    accepted("turning ratio", Crop([](auto& crop) { crop.type = 6; }));
+    accepted("turning interesting", Crop([](auto& crop) { crop.type = 7; }));
+    refused("turning crop width", Crop([](auto& crop) {
+                crop.type = 6;
+                crop.size.setWidth(0);
+            }),
+            "The crop's width is 0; it must be");
     accepted("top left", Crop([](auto& crop) { crop.alignment = Qt::AlignTop | Qt::AlignLeft; }));
 
     refused("margin", Framing([](auto& framing) { framing.margins.setTop(2'000'000); }),

@@ -143,7 +143,8 @@ void tst_FormatCatalog::checksOptions_data()
     row("JPEG", "{\"bitDepth\":8}",
         "\"bitDepth\" is unknown; known are quality, progressive, chromaSubsampling, keep, background, keepFileTime");
     row("JPEG", "{\"keep\":[\"exif\",\"icc\"],\"background\":\"#102030\",\"keepFileTime\":true}", "");
-    row("JPEG", "{\"keep\":[\"maker\"]}", "\"keep\" is [\"maker\"]; it must be a list of exif, gps, iptc, xmp, icc");
+    row("JPEG", "{\"keep\":[\"maker\"]}",
+        "\"keep\" is [\"maker\"]; it must be a list of exif, gps, iptc, xmp, icc, copyright");
     row("PNG", "{\"compressionLevel\":9,\"bitDepth\":16}", "");
     row("PNG", "{\"compressionLevel\":10}", "\"compressionLevel\" is 10; it must be a whole number from 0 to 9");
     row("PNG", "{\"bitDepth\":12}", "\"bitDepth\" is 12; PNG takes 8, 16");

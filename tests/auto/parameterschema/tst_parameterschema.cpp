@@ -317,6 +317,9 @@ void tst_ParameterSchema::readsText_data()
     row("colour", "#a0B1c2", "\"#a0B1c2\"");
     row("colour", "a0b1c2", "\"#a0b1c2\"");
     row("colour", "#a0b1c2d3", "\"#a0b1c2d3\"");
+    row("colour", "white", "\"#ffffff\"");
+    row("colour", " DarkSlateGray ", "\"#2f4f4f\"");
+    row("colour", "transparent", "\"#00000000\"");
     row("text", "a, b=", "\"a, b=\"");
     row("text", "\u00fc\u00df\u20ac", "\"\u00fc\u00df\u20ac\"");
     row("text", " x ", "\" x \"");
@@ -362,17 +365,18 @@ void tst_ParameterSchema::refusesText_data()
     row("choice", "aple", "it must be one of apple, Pear, fig; did you mean apple?");
     row("choice", "xxxxxxxx", "it must be one of apple, Pear, fig");
     for (const char* text : {"fig+", "nut", "fig+fig", "fig apple", "+"}) {
-        row("list", text, "it must be a list of apple, Pear, fig");
+        row("list", text, "it must be apple, Pear, fig, joined with +, or none");
     }
-    for (const char* text : {"", "#", "#fff", "white", "##ffffff", "#ffffffg"}) {
-        row("colour", text, "it must be a colour, #rrggbb or #rrggbbaa");
+    for (const char* text : {"", "#", "#fff", "##ffffff", "#ffffffg", "0"}) {
+        row("colour", text, "it must be a colour: #rrggbb, #rrggbbaa, or a name such as white");
     }
+    row("colour", "blakc", "it must be a colour: #rrggbb, #rrggbbaa, or a name such as white; did you mean black?");
     for (const char* text : {"", "abcdef"}) {
         row("text", text, "it must be a text of 1 to 5 characters");
     }
     row("file", "", "it must be the absolute path of a file");
     for (const char* text : {"", "0:0", "0:0+0:1", "0:0+1", "0:0+1:2:3", "0:0+1:x", "a", "0:0+1:101", "0/0 1/1"}) {
-        row("points", text, "it must be a list of 2 to 256 points [x, y] with ascending x, numbers from 0 to 100");
+        row("points", text, "it must be 2 to 256 points x:y with ascending x, joined with +, numbers from 0 to 100");
     }
 }
 

@@ -133,12 +133,23 @@ void tst_RunForecast::takenNames()
 
 void tst_RunForecast::anothersSourceIsRenamed()
 {
-    // The result of the first has the name of the second's source; the second may replace itself.
+    // The result of the first has the name of the second's source.
     const QStringList inputs{Write(QStringLiteral("in/b.png")), Write(QStringLiteral("out/b.png"))};
-    const RunForecast forecast(Plan(inputs), With(PolicyKind::Naming, ZTBatchManager::NamingOverwrite));
+    const Policies overwrite = With(PolicyKind::Naming, ZTBatchManager::NamingOverwrite);
+    const RunForecast forecast(Plan(inputs), overwrite);
     QVERIFY(forecast.Of(0).decision == Decision::Rename);
     QCOMPARE(forecast.Of(0).trouble.reason, QStringLiteral("\"%1\" is a source of this job").arg(inputs[1]));
     QCOMPARE(forecast.Names().OutputName(0), QStringLiteral("b (2).png"));
+    QVERIFY(forecast.Of(1).decision == Decision::Rename);
+    QCOMPARE(forecast.Names().OutputName(1), QStringLiteral("b (3).png"));
+    // In place, the second replaces itself.
+    RunPlan plan = Plan(inputs);
+    plan.ReplaceOriginals();
+    const RunForecast inPlace(plan, overwrite);
+    QVERIFY(inPlace.Of(0).decision == Decision::Rename);
+    QCOMPARE(inPlace.Names().OutputName(0), QStringLiteral("b (2).png"));
+    QVERIFY(!inPlace.Of(1).decision && inPlace.Of(1).isInPlace);
+    QCOMPARE(inPlace.Names().OutputName(1), QStringLiteral("b.png"));
 }
 
 void tst_RunForecast::formats_data()

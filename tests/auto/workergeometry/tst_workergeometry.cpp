@@ -1,8 +1,8 @@
 #include "Text.h"
 #include "WorkerBench.h"
 
+#include "job/geometry/Geometry.h"
 #include "job/values/JobValues.h"
-#include "server/worker/geometry/Geometry.h"
 #include "server/worker/geometry/Orientation.h"
 
 #include <QTest>
@@ -48,6 +48,8 @@ class tst_WorkerGeometry : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void turnsRatios_data();
+    void turnsRatios();
     void countsSizes_data();
     void countsSizes();
     void plansCrops_data();
@@ -124,6 +126,38 @@ void tst_WorkerGeometry::countsSizes()
     QCOMPARE(SizeAfter(size, settings), expected);
 }
 
+void tst_WorkerGeometry::turnsRatios_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QSize>("ratio");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("wanted");
+    const auto row = [](const char* name, CropType type, const QSize& ratio, const QSize& size, const QSize& wanted) {
+        QTest::newRow(name) << int(type) << ratio << size << wanted;
+    };
+    row("lying in a lying picture", CropType::TurningRatio, {3, 2}, {40, 30}, {3, 2});
+    row("lying in an upright picture", CropType::TurningRatio, {3, 2}, {30, 40}, {2, 3});
+    row("upright in a lying picture", CropType::TurningRatio, {2, 3}, {40, 30}, {3, 2});
+    row("upright in an upright picture", CropType::TurningRatio, {2, 3}, {30, 40}, {2, 3});
+    row("lying in a square picture", CropType::TurningRatio, {3, 2}, {30, 30}, {3, 2});
+    row("upright in a square picture", CropType::TurningRatio, {2, 3}, {30, 30}, {2, 3});
+    row("square", CropType::TurningRatio, {1, 1}, {30, 40}, {1, 1});
+    row("almost square", CropType::TurningRatio, {1000, 999}, {999, 1000}, {999, 1000});
+    row("interesting", CropType::TurningInteresting, {3, 2}, {30, 40}, {2, 3});
+    row("fixed ratio", CropType::Ratio, {3, 2}, {30, 40}, {3, 2});
+    row("fixed interesting", CropType::Interesting, {3, 2}, {30, 40}, {3, 2});
+    row("fill", CropType::Fill, {3, 2}, {30, 40}, {3, 2});
+}
+
+void tst_WorkerGeometry::turnsRatios()
+{
+    QFETCH(const int, type);
+    QFETCH(const QSize, ratio);
+    QFETCH(const QSize, size);
+    QFETCH(const QSize, wanted);
+    QCOMPARE(RatioFor(size, Crop(CropType(type), ratio)), wanted);
+}
+
 void tst_WorkerGeometry::plansCrops_data()
 {
     QTest::addColumn<ZTBatchOutputSettings::Crop>("crop");
@@ -145,6 +179,11 @@ void tst_WorkerGeometry::plansCrops_data()
     unscaled("wide at the top", Crop(CropType::Ratio, {4, 1}, Qt::AlignTop | Qt::AlignHCenter), {0, 0, 400, 100});
     unscaled("wide at the bottom", Crop(CropType::Ratio, {4, 1}, Qt::AlignBottom), {0, 200, 400, 100});
     unscaled("a ratio that is the picture's", Crop(CropType::Ratio, {4, 3}), {0, 0, 400, 300});
+    unscaled("lying", Crop(CropType::TurningRatio, {2, 1}), {0, 50, 400, 200});
+    unscaled("upright, turned", Crop(CropType::TurningRatio, {1, 2}), {0, 50, 400, 200});
+    unscaled("upright, turned, at the top", Crop(CropType::TurningRatio, {1, 2}, Qt::AlignTop), {0, 0, 400, 200});
+    unscaled("square that may turn", Crop(CropType::TurningRatio, {7, 7}), {50, 0, 300, 300});
+    unscaled("upright, not turned", Crop(CropType::Ratio, {1, 2}), {125, 0, 150, 300});
     unscaled("exact", Crop(CropType::Exact, {100, 80}), {150, 110, 100, 80});
     unscaled("exact in a corner", Crop(CropType::Exact, {100, 80}, Qt::AlignRight | Qt::AlignBottom),
              {300, 220, 100, 80});

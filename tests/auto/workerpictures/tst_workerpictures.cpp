@@ -563,8 +563,16 @@ void tst_WorkerPictures::obeysOptions()
     const Report small = bench->Make(Text("in.png"), Text("small"), format, smaller);
     QCOMPARE(large.reason, QString());
     QCOMPARE(small.reason, QString());
-    QVERIFY2(small.outputBytes < large.outputBytes,
-             qPrintable(QStringLiteral("%1 and %2 bytes").arg(small.outputBytes).arg(large.outputBytes)));
+    const qint64 smallBytes = QFileInfo(bench->Path(Text("small"))).size();
+    const qint64 largeBytes = QFileInfo(bench->Path(Text("large"))).size();
+    QVERIFY2(smallBytes < largeBytes, qPrintable(QStringLiteral("%1 and %2 bytes").arg(smallBytes).arg(largeBytes)));
+    // The quality that was used is reported, and that none was.
+    const QString quality = Text("quality");
+    if (larger.contains(quality) || larger.contains(Text("lossless"))) {
+        QCOMPARE(large.facts.quality, larger[quality].toInt());
+    }
+    QCOMPARE(small.facts.quality > 0,
+             smaller.contains(quality) || format == Text("JPEG") || (format != Text("PNG") && format != Text("TIFF")));
 }
 
 void tst_WorkerPictures::refusesWhatTheFormatCannotHold()

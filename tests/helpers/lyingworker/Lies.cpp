@@ -59,6 +59,7 @@ QByteArray ReportOfManyWarnings(qint32 number, quint32 count)
 
 [[noreturn]] void Flood(const QByteArray& bytes, FILE* stream)
 {
+    std::setvbuf(stream, nullptr, _IOFBF, 1 << 16); // Without a buffer, Windows takes seconds for some megabytes.
     for (;;) {
         if (std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream) == 0) {
             std::_Exit(1);

@@ -78,8 +78,8 @@ Report CopyResult(const PictureTask& task)
     }
     const QByteArray content = input.readAll();
     input.close(); // The result may replace it, which Windows allows for closed files only.
-    report.outputBytes = bytes.write(content);
-    if (result.Place(task.replaceExisting) != TemporaryFile::Placement::Done) {
+    if (bytes.write(content) != content.size() ||
+        result.Place(task.replaceExisting) != TemporaryFile::Placement::Done) {
         report.failure = BatchJob::PolicyKind::Naming;
         report.errorCode = ZTBatchMessage::FileNameAlreadyExists;
     }

@@ -10,6 +10,7 @@
 //     input CODE | output CODE | ...             reports a failure of that case with the error code
 //     format NAME                                can write this format only
 //     warn KIND TEXT                             writes the result, with a warning
+//     claim                                      writes the result, and says of it what no picture has
 //     detail TEXT                                reports a damaged file, with what a library says of it
 //     describe                                   writes a result with its process id, its temporary folder, and the
 //                                                numbers of its open files, a line each
@@ -143,7 +144,10 @@ Report WriteResult(const PictureTask& task, const QByteArray& content)
         break;
     }
     Report report;
-    report.outputBytes = content.size();
+    report.facts.inputSize = QSize(64, 48);
+    report.facts.outputSize = QSize(32, 24);
+    report.facts.quality = 85;
+    report.facts.milliseconds = 12;
     return report;
 }
 
@@ -217,6 +221,9 @@ Report Make(const PictureTask& task)
         report.warnings.append({BatchJob::WarningKindOf(QString::fromUtf8(argument)),
                                 QString::fromUtf8(content.mid(command.size() + argument.size() + 2))});
     }
+    if (command == "claim") {
+        report.facts = {QSize(-5, 7), QSize(2'000'000'000, 1), 0, 101, -1'000'000};
+    }
     return report;
 }
 
@@ -239,6 +246,7 @@ Report Probe(const ProbeTask& task)
     report.inputFormat = QStringLiteral("PSD");
     report.nearestFormat = QStringLiteral("PNG");
     report.captured = QDateTime(QDate(2024, 5, 1), QTime(10, 20, 30));
+    report.facts.inputSize = QSize(64, 48);
     return report;
 }
 

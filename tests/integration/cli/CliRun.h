@@ -12,6 +12,7 @@ struct CliRun
     QByteArray out;
     QByteArray err;
 
+    QString Out() const { return QString::fromUtf8(out); }
     QString Err() const { return QString::fromUtf8(err); }
 
     static CliRun OfProgram(const QString& program, const QStringList& arguments, const QString& folder,

@@ -43,7 +43,7 @@ void tst_CliJournal::sameCommandInPlace_data()
 {
     QTest::addColumn<QString>("options");
     QTest::addColumn<int>("files");
-    QTest::newRow("overwrite") << QStringLiteral("-o photos --on-name-exists overwrite") << 4;
+    QTest::newRow("in place") << QStringLiteral("-o photos --in-place") << 4;
     QTest::newRow("rename") << QStringLiteral("-o photos --on-name-exists rename") << 8;
     QTest::newRow("below") << QStringLiteral("-o photos --structure input") << 4;
 }
@@ -148,7 +148,7 @@ void tst_CliJournal::journalThatCanBeWrittenAgain()
     QVERIFY(held.WaitFor("\"event\":\"written\"", 3));
     QVERIFY(Content().startsWith("{\"complete\":1,"));
     for (const char* line :
-         {"\n{\"output\":", "\"written\":0}\n", "\"written\":1}\n", "\"written\":2}\n", "\"begin\":3,"}) {
+         {"\n{\"bytes\":", "\"written\":0}\n", "\"written\":1}\n", "\"written\":2}\n", "\"begin\":3,"}) {
         QVERIFY2(Content().contains(line), Content().constData());
     }
     stage->Write(QStringLiteral("third"), {});

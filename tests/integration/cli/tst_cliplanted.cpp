@@ -107,7 +107,7 @@ void tst_CliPlanted::plantedJournalsAreIgnored()
     stage->Write(QStringLiteral("private/1.jpg"), "precious");
     stage->PlaceWorker();
     const CliRun run = stage->Run(QStringLiteral("run --resume -o shared"));
-    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.exitCode, 7);
     QVERIFY2(run.Err().contains(planted + QStringLiteral(" is ignored: ") + reason), run.err.constData());
     QVERIFY2(run.err.contains("there is no interrupted run in "), run.err.constData());
     QCOMPARE(stage->Content(QStringLiteral("private/1.jpg")), QByteArray("precious"));

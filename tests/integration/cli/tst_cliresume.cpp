@@ -181,7 +181,7 @@ void tst_CliResume::killedAtAnyMoment()
             QVERIFY(run.waitForFinished(120'000));
             const Files files = FilesBelow(Path(folder(lane)));
             const QByteArray err = run.readAllStandardError();
-            const bool hadNothingToDo = run.exitCode() == 2;
+            const bool hadNothingToDo = run.exitCode() == 7;
             QVERIFY2(!hadNothingToDo || err.contains("there is no interrupted run"), err.constData());
             if (hadNothingToDo && wasKilled[std::size_t(lane)] && files.size() == 1) {
                 QCOMPARE(files.firstKey(), QStringLiteral("2.jpg")); // The run had not begun.
@@ -258,13 +258,13 @@ void tst_CliResume::interruptKeepsTheRun()
 void tst_CliResume::nothingToResume()
 {
     const CliRun none = Run(QStringLiteral("run --resume -o out"));
-    QCOMPARE(none.exitCode, 2);
+    QCOMPARE(none.exitCode, 7);
     QVERIFY2(none.err.contains("there is no interrupted run in "), none.err.constData());
     const CliRun where = Run(QStringLiteral("run --resume"));
     QCOMPARE(where.exitCode, 2);
     QVERIFY2(where.err.contains("--output DIR"), where.err.constData());
     QCOMPARE(Run(QStringLiteral("run a -o out -q")).exitCode, 0);
-    QCOMPARE(Run(QStringLiteral("run a --resume -o out")).exitCode, 2);
+    QCOMPARE(Run(QStringLiteral("run a --resume -o out")).exitCode, 7);
 }
 
 void tst_CliResume::damagedJournal()
@@ -298,7 +298,7 @@ void tst_CliResume::journalThatWasNotBegun()
         QCOMPARE(file.write(end == QByteArray("journal") ? text : lock) >= 0, true);
     }
     const CliRun run = Run(QStringLiteral("run --resume -o out"));
-    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.exitCode, 7);
     QVERIFY2(run.err.contains("there is no interrupted run in "), run.err.constData());
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).keys(), QStringList());
 }
@@ -402,9 +402,9 @@ void tst_CliResume::sameJobTwiceAtATime()
     QVERIFY(first.waitForReadyRead(60'000));
     const CliRun second =
         Run(QStringLiteral("run a b -o out --structure input --effect blur:sigma=20 --workers 1 --json"));
-    QCOMPARE(second.exitCode, 2);
+    QCOMPARE(second.exitCode, 6);
     QVERIFY2(second.err.contains("the same job is already running"), second.err.constData());
-    QCOMPARE(Run(QStringLiteral("run --resume -o out")).exitCode, 2);
+    QCOMPARE(Run(QStringLiteral("run --resume -o out")).exitCode, 6);
     first.terminate();
     QVERIFY(first.waitForFinished(60'000));
 }

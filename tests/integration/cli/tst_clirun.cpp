@@ -193,7 +193,7 @@ void tst_CliRun::policiesAreWords_data()
     const QStringList same{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")};
     const QStringList renamed{QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
                               QStringLiteral("3.jpg")};
-    QTest::newRow("skip") << QStringLiteral("skip") << 1 << same << false;
+    QTest::newRow("skip") << QStringLiteral("skip") << 0 << same << false;
     QTest::newRow("overwrite") << QStringLiteral("overwrite") << 0 << same << true;
     QTest::newRow("rename") << QStringLiteral("Rename") << 0 << renamed << false;
 }
@@ -217,9 +217,10 @@ void tst_CliRun::policiesAreWords()
 
 void tst_CliRun::nobodyToAskIsSaid()
 {
+    PictureFiles::WriteJpeg(Path(QStringLiteral("out/1.jpg")), 9);
     const CliRun run = Run(QStringLiteral("run photos -o out --on-input-error stop"));
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY2(run.err.contains("\"ask\" becomes \"skip\""), run.err.constData());
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.err.contains("nobody could be asked: 1 picture was left out"), run.err.constData());
     QVERIFY2(run.err.contains("--on-name-exists"), run.err.constData());
     QVERIFY2(!run.err.contains("--on-input-error"), run.err.constData());
 }
@@ -236,7 +237,7 @@ void tst_CliRun::settingsHoldPolicies()
     QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q")).exitCode, 0);
     QCOMPARE(Results(), QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg")}));
     // An option is for its run only.
-    QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q --on-name-exists skip")).exitCode, 1);
+    QCOMPARE(Run(QStringLiteral("run photos/1.jpg -o out --settings settings -q --on-name-exists skip")).exitCode, 0);
     QCOMPARE(QSettings(file, QSettings::IniFormat).value(QStringLiteral("NamingPolicy")).toInt(), 2);
     QVERIFY(QDir(Path(QStringLiteral("home"))).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
@@ -299,8 +300,10 @@ void tst_CliRun::reportsListEveryInput()
     QVERIFY(csv.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = csv.readAll().split('\n');
     QCOMPARE(lines.size(), 6);
-    QCOMPARE(lines[0], QByteArray("input,output,result,code,reason,warnings\r"));
-    QVERIFY2(lines[1].endsWith("/out/1.jpg\",\"written\",0,\"\",\"\"\r"), lines[1].constData());
+    QCOMPARE(lines[0],
+             QByteArray("input,output,result,code,reason,warnings,inputWidth,inputHeight,inputBytes,width,height,"
+                        "bytes,quality,seconds,finished\r"));
+    QVERIFY2(lines[1].contains("/out/1.jpg\",\"written\",0,\"\",\"\",64,48,"), lines[1].constData());
     QVERIFY2(lines[2].contains(",\"failed\",2,\""), lines[2].constData());
     QVERIFY2(lines[4].contains("/a \"\"quoted\"\", name.jpg\","), lines[4].constData());
 
@@ -370,7 +373,7 @@ void tst_CliRun::wrongOptionsEndBeforeAnything_data()
         QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(wanted);
     };
     row("run photos", "no output folder: use --output DIR");
-    row("run -o out", "no pictures: name files");
+    row("run -o out", "no inputs: name files");
     row("run nothing.xml -o out", "nothing.xml cannot be read");
     row("run photos -o out --on-name-exists replace", "is not one of skip, overwrite, rename, ask");
     row("run photos -o out --on-input-error skpi", "did you mean \"skip\"?");

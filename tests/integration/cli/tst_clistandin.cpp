@@ -140,7 +140,7 @@ void tst_CliStandIn::namesThatAreTaken_data()
     const QStringList same{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")};
     const QStringList renamed{QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg"), QStringLiteral("2.jpg"),
                               QStringLiteral("3.jpg")};
-    QTest::newRow("skip") << QStringLiteral("skip") << 1 << same << QByteArray("old");
+    QTest::newRow("skip") << QStringLiteral("skip") << 0 << same << QByteArray("old");
     QTest::newRow("overwrite") << QStringLiteral("overwrite") << 0 << same << QByteArray("1");
     QTest::newRow("rename") << QStringLiteral("rename") << 0 << renamed << QByteArray("old");
 }
@@ -255,7 +255,7 @@ void tst_CliStandIn::planReportsFilesThatWorkersEndOver()
     const QList<QByteArray> lines = plan.out.trimmed().split('\n');
     QCOMPARE(lines.size(), 3);
     QVERIFY2(lines.at(1).startsWith(bad.toUtf8()) && lines.at(1).contains("[ask: " + reason), plan.out.constData());
-    QVERIFY2(lines.at(0).endsWith("20240501.png"), plan.out.constData());
+    QVERIFY2(lines.at(0).endsWith("20240501.png  64 x 48 px"), plan.out.constData());
     QVERIFY2(lines.at(2).contains("20240501.png"), plan.out.constData());
 }
 

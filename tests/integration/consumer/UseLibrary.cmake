@@ -24,6 +24,19 @@ function(check_exports prefix)
     endif()
 endfunction()
 
+# The command finds the presets that are installed with it.
+function(check_presets prefix)
+    file(GLOB_RECURSE library "${prefix}/*/libbatchcore.so")
+    get_filename_component(libraries "${library}" DIRECTORY)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -E env "LD_LIBRARY_PATH=${libraries}"
+            "${prefix}/bin/velkora-batch" presets --settings "${prefix}/none" --json
+        OUTPUT_VARIABLE presets COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT presets MATCHES "\"${prefix}/share/velkora-batch/presets/web.xml\"")
+        message(FATAL_ERROR "The presets are: ${presets}")
+    endif()
+endfunction()
+
 # On Windows a library exports only what is marked: every exported name belongs to a public class.
 function(check_dll_exports library expected)
     execute_process(COMMAND "${OBJDUMP}" -p "${library}" OUTPUT_VARIABLE description COMMAND_ERROR_IS_FATAL ANY)
@@ -63,6 +76,7 @@ if(WAY STREQUAL "package")
         check_dll_exports("${WORK_DIR}/installed/bin/velkorautils.dll" "13ZTIDContainer12UnregisterID")
     else()
         check_exports("${WORK_DIR}/installed")
+        check_presets("${WORK_DIR}/installed")
     endif()
 else()
     list(APPEND options -D BATCHCORE_SOURCE_DIR=${SOURCE_DIR} "-D BATCHCORE_SANITIZERS=${SANITIZERS}")

@@ -15,7 +15,10 @@ class tst_ServerPolicies : public QObject
 private Q_SLOTS:
     void namingPolicies_data();
     void namingPolicies();
-    void anothersSourceIsNeverOverwritten();
+    void sourcesAreNotOverwritten_data();
+    void sourcesAreNotOverwritten();
+    void sharedNamesAreRefused_data();
+    void sharedNamesAreRefused();
     void resultsOfOneNameAreOverwrittenInOrder();
     void probedNames();
 
@@ -83,20 +86,71 @@ void tst_ServerPolicies::namingPolicies()
     QCOMPARE(files.join(QLatin1Char(' ')), out);
 }
 
-void tst_ServerPolicies::anothersSourceIsNeverOverwritten()
+void tst_ServerPolicies::sourcesAreNotOverwritten_data()
 {
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<bool>("isInPlace");
+    QTest::addColumn<QByteArray>("second"); // in its place
+    QTest::newRow("overwrite") << int(ZTBatchManager::NamingOverwrite) << false << QByteArray("describe");
+    QTest::newRow("ask") << int(ZTBatchManager::NamingAsk) << false << QByteArray("describe");
+    QTest::newRow("overwrite, in place") << int(ZTBatchManager::NamingOverwrite) << true << QByteArray();
+    QTest::newRow("ask, in place") << int(ZTBatchManager::NamingAsk) << true << QByteArray();
+}
+
+// The first result has the name of the second input. The second replaces itself only in place. "Overwrite" is the
+// answer to each question.
+void tst_ServerPolicies::sourcesAreNotOverwritten()
+{
+    QFETCH(int, policy);
+    QFETCH(bool, isInPlace);
+    QFETCH(QByteArray, second);
     ServerRun run(ServerRun::Worker::StandIn);
-    // The first result has the name of the second input. The second may replace itself.
     const QStringList inputs{run.Write(QStringLiteral("in/b.jpg"), "first"),
-                             run.Write(QStringLiteral("out/b.jpg"), "second")};
+                             run.Write(QStringLiteral("out/b.jpg"), "describe")};
     Policies policies;
-    policies.naming = ZTBatchManager::NamingOverwrite;
+    policies.naming = policy;
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_IN_PLACE"), isInPlace ? QStringLiteral("1") : QStringLiteral("0"));
+    QVERIFY(run.Start());
+    run.Process(run.Job(inputs), policies);
+    const int questions = policy == ZTBatchManager::NamingOverwrite ? 0 : isInPlace ? 1 : 2;
+    for (int i = 1; i <= questions; ++i) {
+        QVERIFY(QTest::qWaitFor([&] { return run.Count(QStringLiteral("naming question")) == i; }, 30000));
+        run.Send<ZTBatchMessage::MsgNamingQuestion>(int(ZTBatchManager::NamingOverwrite), false);
+    }
+    QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
+    QCOMPARE(run.Count(QStringLiteral("naming question")), questions);
+    QCOMPARE(run.Content(QStringLiteral("in/b.jpg")), QByteArray("first"));
+    QCOMPARE(run.Content(QStringLiteral("out/b (2).jpg")), QByteArray("first"));
+    const QByteArray found = run.Content(QStringLiteral("out/b.jpg"));
+    QVERIFY2(second.isEmpty() ? found != "describe" && !found.isEmpty() : found == second, found.constData());
+    QCOMPARE(run.Names(QStringLiteral("out")).size(), isInPlace ? 2 : 3);
+}
+
+void tst_ServerPolicies::sharedNamesAreRefused_data()
+{
+    QTest::addColumn<int>("policy");
+    QTest::addColumn<bool>("isRefused");
+    QTest::newRow("skip") << int(ZTBatchManager::NamingSkip) << true;
+    QTest::newRow("rename") << int(ZTBatchManager::NamingRename) << false;
+    QTest::newRow("overwrite") << int(ZTBatchManager::NamingOverwrite) << false;
+}
+
+void tst_ServerPolicies::sharedNamesAreRefused()
+{
+    QFETCH(int, policy);
+    QFETCH(bool, isRefused);
+    ServerRun run(ServerRun::Worker::StandIn);
+    const QStringList inputs{run.Write(QStringLiteral("in/a.jpg"), "1"), run.Write(QStringLiteral("in/x/a.jpg"), "2")};
+    Policies policies;
+    policies.naming = policy;
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_REFUSE_SHARED_NAMES"), QStringLiteral("1"));
     QVERIFY(run.Start());
     run.Process(run.Job(inputs), policies);
     QVERIFY2(run.WaitForFinished(), qPrintable(run.Report()));
-    QCOMPARE(run.Content(QStringLiteral("out/b (2).jpg")), QByteArray("first"));
-    QCOMPARE(run.Content(QStringLiteral("out/b.jpg")), QByteArray("second"));
-    QCOMPARE(run.Content(QStringLiteral("in/b.jpg")), QByteArray("first"));
+    QCOMPARE(run.Count(QStringLiteral("error [] [] 2 11")), isRefused ? 1 : 0);
+    QCOMPARE(run.Count(QStringLiteral("log The job is refused: 1 result would get the name of another: ")),
+             isRefused ? 1 : 0);
+    QCOMPARE(run.Names(QStringLiteral("out")).isEmpty(), isRefused);
 }
 
 void tst_ServerPolicies::resultsOfOneNameAreOverwrittenInOrder()

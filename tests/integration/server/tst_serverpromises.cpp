@@ -326,6 +326,7 @@ void tst_ServerPromises::finishedResultsOfLostServersCount()
     policies.naming = ZTBatchManager::NamingOverwrite;
     const QString journalPath = run.Path(QStringLiteral("journal"));
     run.SetVariable(QString::fromLatin1(BatchJob::journalVariable), journalPath);
+    run.SetVariable(QStringLiteral("VELKORA_BATCH_IN_PLACE"), QStringLiteral("1"));
     QVERIFY(BatchJob::RunJournal().Create(
         journalPath, job, {policies.input, policies.output, policies.processing, policies.naming, policies.format}));
 

@@ -57,6 +57,8 @@ void tst_ServerRun::messagesOfARun()
     }
     expected += QStringList{
         QStringLiteral("file [in/good.jpg]"),
+        QStringLiteral("log in/good.jpg: facts: from 64 x 48 pixels, to 32 x 24 pixels, 4 bytes, quality 85, "
+                       "0.012 seconds"),
         QStringLiteral("processed [in/good.jpg] [out/good.jpg]"),
         QStringLiteral("progress 1"),
         QStringLiteral("file [in/bad.jpg]"),

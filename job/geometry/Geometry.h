@@ -6,7 +6,7 @@
 #include <QSize>
 
 /// Sizes and frames of crop and size, in whole pixels of upright pictures. No pixels are touched here.
-namespace BatchWorker {
+namespace BatchJob {
 
 /// How the pixels of a source become those of a result: a part of the source is scaled, and a part of that is cut out.
 struct Geometry
@@ -30,9 +30,13 @@ QRect AlignedRect(const QSize& frame, const QSize& size, int alignment);
 /// The largest size of the aspect ratio of `ratio` within `size`; at least 1 x 1.
 QSize LargestOfRatio(const QSize& ratio, const QSize& size);
 
-/// The geometry of crop and size for a picture of `size` pixels. For the crop types Trim and Interesting, which depend
-/// on the pixels, `found` is the frame that they have found; the others ignore it.
+/// The aspect ratio of `crop` for a picture of `size` pixels: of a turning crop, that which lies or stands as the
+/// picture does. A square picture turns nothing.
+QSize RatioFor(const QSize& size, const ZTBatchOutputSettings::Crop& crop);
+
+/// The geometry of crop and size for a picture of `size` pixels. For the crop types Trim, Interesting and
+/// TurningInteresting, which depend on the pixels, `found` is the frame that they have found; the others ignore it.
 Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found = {});
 
-} // namespace BatchWorker
+} // namespace BatchJob

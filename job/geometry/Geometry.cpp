@@ -1,11 +1,12 @@
 #include "Geometry.h"
 
 #include "job/values/JobValues.h"
+#include "job/values/Length.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace BatchWorker {
+namespace BatchJob {
 
 namespace {
 
@@ -14,21 +15,6 @@ constexpr int longestSide = 10'000'000; // what the imaging library takes
 int Rounded(double length)
 {
     return int(std::lround(std::clamp(length, 1.0, double(longestSide))));
-}
-
-// The length in pixels that the settings ask for, when their unit is a length.
-double PixelsOf(const ZTBatchOutputSettings::ImageSize& settings)
-{
-    switch (BatchJob::SizeUnit(settings.unit)) {
-    case BatchJob::SizeUnit::Inches:
-        return settings.size * settings.resolution;
-    case BatchJob::SizeUnit::Centimetres:
-        return settings.size / 2.54 * settings.resolution;
-    case BatchJob::SizeUnit::Millimetres:
-        return settings.size / 25.4 * settings.resolution;
-    default:
-        return settings.size;
-    }
 }
 
 bool IsWidthGiven(const QSize& size, int side)
@@ -93,7 +79,8 @@ QSize SizeAfter(const QSize& size, const ZTBatchOutputSettings::ImageSize& setti
     const bool isWidthGiven = IsWidthGiven(size, settings.side);
     const bool isPercent = settings.unit == int(BatchJob::SizeUnit::Percent);
     const int given = isWidthGiven ? size.width() : size.height();
-    const double length = isPercent ? given * settings.size / 100 : PixelsOf(settings);
+    const double length =
+        isPercent ? given * settings.size / 100 : BatchJob::PixelsOf(settings.size, settings.unit, settings.resolution);
     const double scale = length / given;
     if (!IsAllowed(scale, settings.restriction)) {
         return size;
@@ -120,6 +107,15 @@ QSize LargestOfRatio(const QSize& ratio, const QSize& size)
                : QSize(size.width(), std::min(size.height(), Rounded(size.width() / wanted)));
 }
 
+QSize RatioFor(const QSize& size, const ZTBatchOutputSettings::Crop& crop)
+{
+    const bool isTurning =
+        crop.type == int(BatchJob::CropType::TurningRatio) || crop.type == int(BatchJob::CropType::TurningInteresting);
+    const bool isAcross = (crop.size.width() > crop.size.height() && size.width() < size.height()) ||
+                          (crop.size.width() < crop.size.height() && size.width() > size.height());
+    return isTurning && isAcross ? crop.size.transposed() : crop.size;
+}
+
 Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop,
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found)
 {
@@ -128,10 +124,12 @@ Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop
     case BatchJob::CropType::None:
         break;
     case BatchJob::CropType::Ratio:
-        geometry = Unscaled(AlignedRect(LargestOfRatio(crop.size, size), size, crop.alignment));
+    case BatchJob::CropType::TurningRatio:
+        geometry = Unscaled(AlignedRect(LargestOfRatio(RatioFor(size, crop), size), size, crop.alignment));
         break;
     case BatchJob::CropType::Trim:
     case BatchJob::CropType::Interesting:
+    case BatchJob::CropType::TurningInteresting:
         geometry = Unscaled(found);
         break;
     case BatchJob::CropType::Fill:
@@ -145,4 +143,4 @@ Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop
     return geometry;
 }
 
-} // namespace BatchWorker
+} // namespace BatchJob

@@ -1,0 +1,79 @@
+#include "PlanProbe.h"
+
+#include "hosts/cli/terminal/Console.h"
+#include "hosts/common/FileProber.h"
+#include "hosts/common/RequestError.h"
+#include "job/plan/WarningLine.h"
+#include "job/settings/JobFiles.h"
+#include "server/protocol/TaskFailure.h"
+
+#include <QSet>
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+QVector<FileProber::File> FilesToProbe(const RunPlan& plan, const QVector<int>& needed, bool withSizes)
+{
+    QVector<FileProber::File> files;
+    if (!withSizes) {
+        for (const int index : needed) {
+            files.append({index, plan.Names().Input(index)});
+        }
+        return files;
+    }
+    for (int i = 0; i < plan.Count(); ++i) {
+        files.append({i, plan.Names().Input(i)});
+    }
+    return files;
+}
+
+} // namespace
+
+PlanProbe ProbeInputs(RunPlan& plan, const ZTBatchDocument& job, bool withSizes, bool isVerbose, StatusLine& line)
+{
+    PlanProbe found;
+    const QVector<int> needed = plan.Names().FilesToProbe();
+    const QSet<int> isNeeded(needed.begin(), needed.end());
+    const QVector<FileProber::File> files = FilesToProbe(plan, needed, withSizes);
+    if (files.isEmpty()) {
+        return found;
+    }
+    int done = 0;
+    const auto note = [&](const BatchProtocol::Report& report) {
+        ++done;
+        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
+        if (report.failure == PolicyKind::None) {
+            const ProbeResult result = BatchProtocol::ProbeResultOf(report);
+            found.sizes.insert(report.number, result.size);
+            if (isNeeded.contains(report.number)) {
+                plan.SetProbe(report.number, result);
+            }
+            return;
+        }
+        const Trouble trouble = BatchProtocol::TroubleOf(report);
+        if (isNeeded.contains(report.number)) {
+            plan.SetProbeFailure(report.number, trouble);
+        } else {
+            found.unreadable.insert(report.number, trouble);
+        }
+        if (isVerbose && !report.detail.isEmpty()) {
+            line.Clear();
+            WriteErrorLine(DetailLine{plan.Names().Input(report.number), report.detail}.Text());
+        }
+    };
+    try {
+        FileProber::Probe(files, SettingsTextOf(job), note);
+    } catch (const RequestError& error) {
+        if (!needed.isEmpty()) {
+            throw;
+        }
+        found.problem = error.text;
+    }
+    return found;
+}
+
+} // namespace BatchCli

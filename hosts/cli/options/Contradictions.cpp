@@ -1,0 +1,84 @@
+#include "Contradictions.h"
+
+#include "JobOptions.h"
+
+#include "hosts/common/RequestError.h"
+
+#include <algorithm>
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+const QString none = QStringLiteral("none");
+
+/// An option as it was given, with its value if it has one.
+QString Given(const ParsedArguments& arguments, const QString& option)
+{
+    const QString value = arguments.Value(option);
+    return value.isEmpty() ? option : option + QLatin1Char(' ') + value;
+}
+
+void Exclude(const ParsedArguments& arguments, const QString& first, const QString& second)
+{
+    if (arguments.Has(second)) {
+        throw RequestError{QStringLiteral("%1 and %2 contradict each other; remove one of them")
+                               .arg(Given(arguments, first), Given(arguments, second))};
+    }
+}
+
+bool IsNone(const ParsedArguments& arguments, const QString& option)
+{
+    return arguments.Has(option) && arguments.Value(option).compare(none, Qt::CaseInsensitive) == 0;
+}
+
+void CheckSize(const ParsedArguments& arguments)
+{
+    const QString size = QStringLiteral("--size");
+    const QString resize = QStringLiteral("--resize");
+    const QString side = QStringLiteral("--side");
+    if (IsNone(arguments, size)) {
+        if (!IsNone(arguments, resize)) {
+            Exclude(arguments, size, resize);
+        }
+        Exclude(arguments, size, side);
+    } else if (IsNone(arguments, resize)) {
+        Exclude(arguments, resize, side);
+        if (arguments.Has(size)) {
+            Exclude(arguments, size, resize);
+        }
+    }
+}
+
+/// Each option about the frame adds one.
+void CheckFrame(const ParsedArguments& arguments)
+{
+    const QString frame = QStringLiteral("--frame");
+    if (!IsNone(arguments, frame)) {
+        return;
+    }
+    const QVector<JobOption>& options = JobOptions();
+    const auto isFrame = [&frame](const JobOption& option) { return option.info.name == frame; };
+    const QString group = std::find_if(options.begin(), options.end(), isFrame)->info.group;
+    for (const JobOption& option : options) {
+        if (option.info.group == group && option.info.name != frame) {
+            Exclude(arguments, frame, option.info.name);
+        }
+    }
+}
+
+} // namespace
+
+void CheckContradictions(const ParsedArguments& arguments)
+{
+    const QString quiet = QStringLiteral("--quiet");
+    if (arguments.Has(quiet)) {
+        Exclude(arguments, quiet, QStringLiteral("--verbose"));
+    }
+    CheckSize(arguments);
+    CheckFrame(arguments);
+}
+
+} // namespace BatchCli

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "CommandLine.h"
+
+namespace BatchCli {
+
+/// Throws RequestError if two options of one command line exclude each other. An option that contradicts a saved job
+/// does not: it replaces what the job says.
+void CheckContradictions(const ParsedArguments& arguments);
+
+} // namespace BatchCli

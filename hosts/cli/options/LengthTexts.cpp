@@ -1,0 +1,154 @@
+#include "LengthTexts.h"
+
+#include "ValueTexts.h"
+
+#include "hosts/common/RequestError.h"
+
+#include <QRegularExpression>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+using Settings = ZTBatchOutputSettings;
+
+struct Unit
+{
+    const char* sign;
+    SizeUnit unit;
+};
+
+constexpr std::array units{Unit{"px", SizeUnit::Pixels}, Unit{"%", SizeUnit::Percent}, Unit{"in", SizeUnit::Inches},
+                           Unit{"cm", SizeUnit::Centimetres}, Unit{"mm", SizeUnit::Millimetres}};
+
+RequestError NoLength(const QString& text)
+{
+    return {QStringLiteral("\"%1\" is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
+                           "200mm; \"none\" keeps the size")
+                .arg(text, QString::number(largestSide))};
+}
+
+RequestError WithComma(const QString& text, const TypedLength& length)
+{
+    static const QRegularExpression twoNumbers(QStringLiteral("\\A(\\d+),(\\d+)\\z"));
+    const QRegularExpressionMatch match = twoNumbers.match(length.number);
+    if (!match.hasMatch()) {
+        return {QStringLiteral("\"%1\" has a comma; a size is one length, such as 1600 or 20.5cm").arg(text)};
+    }
+    const QString before = match.captured(1);
+    const QString behind = match.captured(2);
+    const QString decimal = QStringLiteral("%1.%2%3").arg(before, behind, length.sign);
+    if (!length.IsInPixels()) {
+        return {QStringLiteral("\"%1\" has a comma; decimals are written with a point: type %2").arg(text, decimal)};
+    }
+    return {QStringLiteral("\"%1\" has a comma, which no number has: type %2%3%4 for that many pixels, %2.%3cm for "
+                           "decimals, or --crop fill:%2x%3 for a width and a height")
+                .arg(text, before, behind, length.sign)};
+}
+
+/// `length` is of pixels, and has decimals.
+RequestError PartOfPixel(const QString& text, const TypedLength& length)
+{
+    const double value = length.Value();
+    QString toType;
+    if (LooksLikeThousands(length.number)) {
+        toType =
+            QString(length.number).remove(QLatin1Char('.')) + length.sign + QStringLiteral(" for that many pixels");
+    } else if (value == std::trunc(value)) {
+        toType = NumberText(value) + length.sign + QStringLiteral(" for that");
+    } else if (value < 1) {
+        toType = QLatin1Char('1') + length.sign;
+    } else {
+        toType = QStringLiteral("%1%3 or %2%3")
+                     .arg(NumberText(std::floor(value)), NumberText(std::ceil(value)), length.sign);
+    }
+    return {QStringLiteral("\"%1\" means %2 %3, for a point begins the decimals, but pixels are counted in whole "
+                           "numbers: type %4, or a unit, as in %5cm")
+                .arg(text, NumberText(value), value == 1 ? QStringLiteral("pixel") : QStringLiteral("pixels"), toType,
+                     NumberText(value))};
+}
+
+} // namespace
+
+TypedLength TypedLength::Of(const QString& text)
+{
+    for (const Unit& unit : units) {
+        const QLatin1String sign(unit.sign);
+        if (text.endsWith(sign, Qt::CaseInsensitive)) {
+            return {text.left(text.size() - sign.size()).trimmed(), sign, unit.unit};
+        }
+    }
+    return {text.trimmed(), QString(), {}};
+}
+
+double TypedLength::Value() const
+{
+    bool isNumber = false;
+    // A locale, also that of C, takes commas for separators of thousands.
+    const double value = number.toDouble(&isNumber);
+    return isNumber ? value : std::numeric_limits<double>::quiet_NaN();
+}
+
+QString UnitSign(int unit)
+{
+    for (const Unit& known : units) {
+        if (unit == int(known.unit)) {
+            return QString::fromLatin1(known.sign);
+        }
+    }
+    return {};
+}
+
+bool LooksLikeThousands(const QString& number)
+{
+    static const QRegularExpression thousands(QStringLiteral("\\A[1-9]\\d{0,2}\\.\\d{3}\\z"));
+    return thousands.match(number).hasMatch();
+}
+
+bool HasDecimals(const QString& number)
+{
+    const double value = number.toDouble();
+    return value != std::trunc(value) || (number.contains(QLatin1Char('.')) && !number.contains(QLatin1Char('e')));
+}
+
+void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
+{
+    static const QRegularExpression twoSides(
+        QStringLiteral("\\A[\\d.,]+\\s*[xX\u00d7]\\s*[\\d.,]+\\s*(px|in|cm|mm)?\\z"));
+    if (twoSides.match(text).hasMatch()) {
+        QString sides = text;
+        sides.replace(QChar(0xd7), QLatin1Char('x')).remove(QLatin1Char(' '));
+        throw RequestError{QStringLiteral("\"%1\" is a width and a height, but a size is the length of one side: type "
+                                          "one of them, with --side to say which, or --crop fill:%2 for exactly that")
+                               .arg(text, sides.toLower())};
+    }
+    const TypedLength length = TypedLength::Of(text);
+    if (length.number.contains(QLatin1Char(','))) {
+        throw WithComma(text, length);
+    }
+    const double value = length.Value();
+    if (!(value > 0) || value > largestSide) {
+        throw NoLength(text);
+    }
+    if (length.IsInPixels() && HasDecimals(length.number)) {
+        throw PartOfPixel(text, length);
+    }
+    imageSize.size = value;
+    imageSize.unit = int(length.unit.value_or(SizeUnit::Pixels));
+}
+
+QString LengthText(const Settings::ImageSize& imageSize)
+{
+    const QString sign = UnitSign(imageSize.unit);
+    return sign.isEmpty() ? QStringLiteral("%1 (unit %2)").arg(NumberText(imageSize.size)).arg(imageSize.unit)
+                          : NumberText(imageSize.size) + sign;
+}
+
+} // namespace BatchCli

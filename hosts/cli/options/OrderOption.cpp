@@ -1,0 +1,25 @@
+#include "OrderOption.h"
+
+#include "Words.h"
+
+#include "hosts/common/RequestError.h"
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+const QString orderOption = QStringLiteral("--order");
+
+std::optional<InputOrder> OrderIn(const ParsedArguments& arguments)
+{
+    if (!arguments.Has(orderOption)) {
+        return std::nullopt;
+    }
+    try {
+        return InputOrder(ValueOf(inputOrderWords, arguments.Value(orderOption)));
+    } catch (const RequestError& error) {
+        throw error.In(orderOption);
+    }
+}
+
+} // namespace BatchCli

@@ -1,0 +1,80 @@
+#include "QualityOption.h"
+
+#include "ParameterTexts.h"
+
+#include "hosts/common/RequestError.h"
+#include "job/formats/FormatCatalog.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <algorithm>
+
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+const QString option = QStringLiteral("--quality");
+const QString formatOption = QStringLiteral("--format-option");
+const QString quality = QStringLiteral("quality");
+
+bool HasQuality(const BatchJob::FormatSchema& format)
+{
+    return std::any_of(format.options.begin(), format.options.end(),
+                       [](const BatchJob::ParameterSchema& known) { return known.name == quality; });
+}
+
+QString FormatsWithQuality()
+{
+    QStringList names;
+    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+        if (HasQuality(format)) {
+            names.append(format.name);
+        }
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+void SetQuality(ZTBatchDocument& job, const QString& text)
+{
+    QString format;
+    QByteArray options;
+    job.GetOutputSettings()->GetFormat(format, options);
+    const BatchJob::FormatSchema* const known = BatchJob::FindFormat(format);
+    if (known != nullptr && !HasQuality(*known)) {
+        throw RequestError{
+            QStringLiteral("%1 files have no quality; %2 have one").arg(known->name, FormatsWithQuality())};
+    }
+    job.GetOutputSettings()->SetFormat(format, WithFormatOption(format, options, quality + QLatin1Char('=') + text));
+}
+
+} // namespace
+
+JobOption QualityOption()
+{
+    return {{option, QStringLiteral("1..100"),
+             QStringLiteral("the quality of results in formats that have one; the same as %1 %2=N")
+                 .arg(formatOption, quality),
+             QStringLiteral("Output")},
+            SetQuality,
+            [](const ZTBatchDocument&) { return QStringList(); }}; // --format-option shows it.
+}
+
+void CheckQuality(const ParsedArguments& arguments)
+{
+    if (!arguments.Has(option)) {
+        return;
+    }
+    for (const QString& text : arguments.Values(formatOption)) {
+        const bool isQuality =
+            text.section(QLatin1Char('='), 0, 0).trimmed().compare(quality, Qt::CaseInsensitive) == 0;
+        if (isQuality && text.section(QLatin1Char('='), 1) != arguments.Value(option)) {
+            throw RequestError{QStringLiteral("%1 %2 and %3 %4 contradict each other; remove one of them")
+                                   .arg(option, arguments.Value(option), formatOption, text)};
+        }
+    }
+}
+
+} // namespace BatchCli

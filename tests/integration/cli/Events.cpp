@@ -1,0 +1,15 @@
+#include "Events.h"
+
+#include <QJsonDocument>
+
+QVector<QJsonObject> EventsOf(const QByteArray& output, const QString& kind)
+{
+    QVector<QJsonObject> events;
+    for (const QByteArray& line : output.trimmed().split('\n')) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (kind.isEmpty() || event.value(QLatin1String("event")).toString() == kind) {
+            events.append(event);
+        }
+    }
+    return events;
+}
