@@ -2,6 +2,7 @@
 
 #include "hosts/cli/options/Contradictions.h"
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
