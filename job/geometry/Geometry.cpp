@@ -19,12 +19,12 @@ int Rounded(double length)
 
 bool IsWidthGiven(const QSize& size, int side)
 {
-    switch (BatchJob::SizeSide(side)) {
-    case BatchJob::SizeSide::Width:
+    switch (SizeSide(side)) {
+    case SizeSide::Width:
         return true;
-    case BatchJob::SizeSide::Height:
+    case SizeSide::Height:
         return false;
-    case BatchJob::SizeSide::LongSide:
+    case SizeSide::LongSide:
         return size.width() >= size.height();
     default:
         return size.width() <= size.height();
@@ -33,12 +33,12 @@ bool IsWidthGiven(const QSize& size, int side)
 
 bool IsAllowed(double scale, int restriction)
 {
-    switch (BatchJob::SizeRestriction(restriction)) {
-    case BatchJob::SizeRestriction::Fit:
+    switch (SizeRestriction(restriction)) {
+    case SizeRestriction::Fit:
         return true;
-    case BatchJob::SizeRestriction::ReduceOnly:
+    case SizeRestriction::ReduceOnly:
         return scale < 1;
-    case BatchJob::SizeRestriction::EnlargeOnly:
+    case SizeRestriction::EnlargeOnly:
         return scale > 1;
     default:
         return false;
@@ -77,10 +77,10 @@ QSize SizeAfter(const QSize& size, const ZTBatchOutputSettings::ImageSize& setti
         return size;
     }
     const bool isWidthGiven = IsWidthGiven(size, settings.side);
-    const bool isPercent = settings.unit == int(BatchJob::SizeUnit::Percent);
+    const bool isPercent = settings.unit == int(SizeUnit::Percent);
     const int given = isWidthGiven ? size.width() : size.height();
     const double length =
-        isPercent ? given * settings.size / 100 : BatchJob::PixelsOf(settings.size, settings.unit, settings.resolution);
+        isPercent ? given * settings.size / 100 : PixelsOf(settings.size, settings.unit, settings.resolution);
     const double scale = length / given;
     if (!IsAllowed(scale, settings.restriction)) {
         return size;
@@ -109,8 +109,7 @@ QSize LargestOfRatio(const QSize& ratio, const QSize& size)
 
 QSize RatioFor(const QSize& size, const ZTBatchOutputSettings::Crop& crop)
 {
-    const bool isTurning =
-        crop.type == int(BatchJob::CropType::TurningRatio) || crop.type == int(BatchJob::CropType::TurningInteresting);
+    const bool isTurning = crop.type == int(CropType::TurningRatio) || crop.type == int(CropType::TurningInteresting);
     const bool isAcross = (crop.size.width() > crop.size.height() && size.width() < size.height()) ||
                           (crop.size.width() < crop.size.height() && size.width() > size.height());
     return isTurning && isAcross ? crop.size.transposed() : crop.size;
@@ -120,21 +119,21 @@ Geometry PlanGeometry(const QSize& size, const ZTBatchOutputSettings::Crop& crop
                       const ZTBatchOutputSettings::ImageSize& imageSize, const QRect& found)
 {
     Geometry geometry = Unscaled(QRect(QPoint(0, 0), size));
-    switch (BatchJob::CropType(crop.type)) {
-    case BatchJob::CropType::None:
+    switch (CropType(crop.type)) {
+    case CropType::None:
         break;
-    case BatchJob::CropType::Ratio:
-    case BatchJob::CropType::TurningRatio:
+    case CropType::Ratio:
+    case CropType::TurningRatio:
         geometry = Unscaled(AlignedRect(LargestOfRatio(RatioFor(size, crop), size), size, crop.alignment));
         break;
-    case BatchJob::CropType::Trim:
-    case BatchJob::CropType::Interesting:
-    case BatchJob::CropType::TurningInteresting:
+    case CropType::Trim:
+    case CropType::Interesting:
+    case CropType::TurningInteresting:
         geometry = Unscaled(found);
         break;
-    case BatchJob::CropType::Fill:
+    case CropType::Fill:
         return FillGeometry(size, crop, imageSize);
-    case BatchJob::CropType::Exact:
+    case CropType::Exact:
         geometry = Unscaled(AlignedRect(crop.size.expandedTo(QSize(1, 1)).boundedTo(size), size, crop.alignment));
         break;
     }

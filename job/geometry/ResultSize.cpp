@@ -10,18 +10,16 @@ namespace {
 
 std::optional<QSize> CroppedAndScaled(const QSize& size, const JobSettings& settings)
 {
-    QRect found;
-    switch (CropType(settings.crop.type)) {
-    case CropType::Trim:
+    const ZTBatchOutputSettings::Crop& crop = settings.crop;
+    if (crop.type == int(CropType::Trim)) {
         return std::nullopt;
-    case CropType::Interesting:
-        // Its place depends on the pixels, its size does not.
-        found = QRect(QPoint(0, 0), LargestOfRatio(settings.crop.size, size));
-        break;
-    default:
-        break;
     }
-    return PlanGeometry(size, settings.crop, settings.imageSize, found).ResultSize();
+    QRect found;
+    if (IsCropOfInterest(crop.type)) {
+        found =
+            QRect(QPoint(0, 0), LargestOfRatio(RatioFor(size, crop), size)); // Only its place depends on the pixels.
+    }
+    return PlanGeometry(size, crop, settings.imageSize, found).ResultSize();
 }
 
 } // namespace

@@ -129,10 +129,16 @@ constexpr bool HasCropSize(int type)
     return type != int(CropType::None) && type != int(CropType::Trim);
 }
 
+/// Whether a crop of `type` is placed by what draws the eye.
+constexpr bool IsCropOfInterest(int type)
+{
+    return type == int(CropType::Interesting) || type == int(CropType::TurningInteresting);
+}
+
 /// Whether the alignment places the frame of a crop of `type`.
 constexpr bool HasCropAlignment(int type)
 {
-    return HasCropSize(type) && type != int(CropType::Interesting) && type != int(CropType::TurningInteresting);
+    return HasCropSize(type) && !IsCropOfInterest(type);
 }
 
 /// For the input, output and processing policies.

@@ -1,7 +1,6 @@
 #include "Run.h"
 
 #include "job/plan/CommandLog.h"
-#include "job/plan/FactsLine.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
 #include "job/plan/WarningLine.h"
@@ -11,9 +10,7 @@
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerFiles.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -29,15 +26,6 @@ namespace {
 /// Files that are examined in one go, before the event loop continues.
 constexpr int filesAtOnce = 256;
 
-/// What is known of the result `output`: how many bytes it has says the disk, the rest `report`.
-PictureFacts FactsOf(const QString& output, const Report& report)
-{
-    PictureFacts facts = CheckedFacts(report);
-    const QFileInfo file(output);
-    facts.outputBytes = file.exists() ? file.size() : -1;
-    return facts;
-}
-
 } // namespace
 
 Run::Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& host, WorkerPool& pool,
@@ -50,6 +38,7 @@ Run::Run(quint64 number, const ZTBatchPayload::Process& order, const HostLink& h
     , decisions(Policies(order))
     , document(order.document)
     , journalPath(journalPath)
+    , record(host, journalPath)
 {
     const auto ofThisRun = [this](const auto& slot) {
         return [this, slot](const Assignment& task, const auto&... more) {
@@ -139,9 +128,7 @@ void Run::AdoptEarlierPart()
     if (!preparation->earlier) {
         return;
     }
-    journal = std::move(preparation->journal);
-    journal.onFailure = [this](const QString& problem) { TellJournalFailure(problem); };
-    journalLock = std::move(preparation->journalLock);
+    record.Continue(std::move(preparation->journal), std::move(preparation->journalLock));
     const JournalState& earlier = *preparation->earlier;
     losses = earlier.losses;
     for (auto it = earlier.answers.begin(); it != earlier.answers.end(); ++it) {
@@ -155,22 +142,16 @@ void Run::AdoptEarlierPart()
             continue;
         }
         decisions.SetDone(it.key());
-        ++(it->kind == JournalState::Result::Kind::Written   ? written
-           : it->kind == JournalState::Result::Kind::Skipped ? skipped
-                                                             : failed);
+        record.CountEarlier(*it);
     }
     if (earlier.results.isEmpty()) {
         return;
     }
     host.Log(QStringLiteral("An earlier part of this run has settled %1 files.").arg(earlier.results.size()));
     for (const int file : qAsConst(preparation->unreported)) {
-        const JournalState::Result& result = earlier.results[file];
-        const PictureFacts facts = FactsOf(result.output, Report());
-        journal.Settle(file, {result.kind, result.output, 0, {}, result.warnings, facts, {}});
-        LogFacts(plan.Names().Input(file), facts);
-        host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), result.output);
+        record.AddFound(file, plan.Names().Input(file), earlier.results[file].output);
     }
-    host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
+    record.TellProgress();
 }
 
 /// The results that the journal does not know, because it could not be written, are done too.
@@ -181,26 +162,13 @@ void Run::AdoptUnjournaledResults()
         host.Log(
             QStringLiteral("%1: \"%2\" counts as its result: it is newer than the run, whose journal is incomplete.")
                 .arg(plan.Names().Input(file), output));
-        const PictureFacts facts = FactsOf(output, Report());
-        journal.Settle(file, {JournalState::Result::Kind::Written, output, 0, {}, {}, facts, {}});
-        LogFacts(plan.Names().Input(file), facts);
-        host.Tell<ZTBatchMessage::MsgFileProcessed>(plan.Names().Input(file), output);
-        ++written;
+        record.AddFound(file, plan.Names().Input(file), output);
+        record.CountFound();
         decisions.SetDone(file);
     }
     if (!preparation->unjournaled.isEmpty()) {
-        host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
+        record.TellProgress();
     }
-}
-
-/// On standard error too, which hosts show to their users.
-void Run::TellJournalFailure(const QString& problem) const
-{
-    const QString text = QStringLiteral("The journal %1 cannot be written: %2. The run goes on, but if it is "
-                                        "interrupted now, the run cannot be resumed safely.")
-                             .arg(journalPath, problem);
-    host.Log(text);
-    qWarning("%s", qUtf8Printable(text));
 }
 
 void Run::BeginNaming()
@@ -308,7 +276,7 @@ bool Run::GivePicture(int file)
     }
     const QString output = names.Output(file);
     const std::optional<FileIdentity> before = IdentityOf(output);
-    journal.Begin(file, {output, before ? before->Text() : QString()});
+    record.Journal().Begin(file, {output, before ? before->Text() : QString()});
     const PictureTask task{file,       names.Input(file),        output,
                            outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
     Give({number, file, job, task, before, false});
@@ -483,7 +451,7 @@ void Run::OnDropped()
     for (const QString& folder : qAsConst(folders)) {
         TemporaryFile::Sweep(folder, outputRoot);
     }
-    LogTotals(QStringLiteral("Cancelled"));
+    record.LogTotals(QStringLiteral("Cancelled"), plan.Count());
     host.Tell<ZTBatchMessage::MsgCancelled>();
     End();
 }
@@ -521,7 +489,7 @@ void Run::DecideWaiting()
 void Run::Ask(const RunDecisions::FileTrouble& about)
 {
     decisions.Ask(about);
-    ReportTrouble(about.file, about.trouble, Action::ReportedOnly);
+    record.TellTrouble(plan.Names(), about.file, about.trouble, Action::ReportedOnly);
     host.Ask(Policies::Question(about.trouble.kind));
 }
 
@@ -542,7 +510,7 @@ void Run::Answer(ZTBatchMessage::Message question, int policy, bool isForTheRest
     }
     if (isForTheRest) {
         decisions.SetPolicy(answer.policy, answer.decision);
-        journal.Answer(int(answer.policy), policy);
+        record.Journal().Answer(int(answer.policy), policy);
         host.Log(QStringLiteral("The answer about %1 holds for the rest of the run.").arg(policyName));
     }
     isDeciding = true; // Later files are decided when their names are settled.
@@ -604,73 +572,17 @@ void Run::ResolveFormat(int file, const Trouble& trouble)
     Q_EMIT HasTasks();
 }
 
-void Run::ReportTrouble(int file, const Trouble& trouble, Action action)
-{
-    const OutputPlan& names = plan.Names();
-    host.Log(TroubleLine{names.Input(file), trouble.reason, action, trouble.kind}.Text());
-    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), trouble.code);
-}
-
 /// The file will not be written.
 void Run::GiveUp(int file, const Trouble& trouble, Action action)
 {
-    using Kind = JournalState::Result::Kind;
-    ReportTrouble(file, trouble, action);
-    const bool isSkipped = CountsAsSkipped(action, trouble.code);
-    ++(isSkipped ? skipped : failed);
-    if (action != Action::RunStopped) { // A resumed run tries what a stop has left.
-        journal.Settle(file, {isSkipped ? Kind::Skipped : Kind::Failed,
-                              plan.Names().Output(file),
-                              trouble.code,
-                              trouble.reason,
-                              {},
-                              {},
-                              QDateTime::currentDateTimeUtc()});
-    }
+    record.AddLeftOut(plan.Names(), file, trouble, action);
     OnFileDone(file);
 }
 
 void Run::FinishPicture(int file, const Report& report)
 {
-    const OutputPlan& names = plan.Names();
-    const QString input = names.Input(file);
-    const QString output = names.Output(file);
-    const Warnings warnings = CheckedWarnings(report);
-    if (plan.HasOtherFormat(file)) {
-        ReportResult(file, Action::WrittenInAnotherFormat, ZTBatchMessage::UnsupportedOutputFormat,
-                     names.Format(file)->name);
-    }
-    if (plan.IsOverwriting(file)) {
-        ReportResult(file, Action::ExistingFileOverwritten, ZTBatchMessage::FileNameAlreadyExists, output);
-    } else if (plan.IsRenamed(file)) {
-        ReportResult(file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
-    }
-    const PictureFacts facts = FactsOf(output, report);
-    journal.Settle(
-        file, {JournalState::Result::Kind::Written, output, 0, {}, warnings, facts, QDateTime::currentDateTimeUtc()});
-    for (const Warning& warning : warnings) {
-        host.Log(WarningLine{input, warning}.Text());
-    }
-    LogFacts(input, facts);
-    host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
-    ++written;
+    record.AddWritten(plan, file, report);
     OnFileDone(file);
-}
-
-void Run::LogFacts(const QString& input, const PictureFacts& facts)
-{
-    const QString line = FactsLine{input, facts}.Text();
-    if (!line.isEmpty()) {
-        host.Log(line);
-    }
-}
-
-/// Reports that a result was not written as planned; see ResultLine.
-void Run::ReportResult(int file, Action action, ZTBatchMessage::Error code, const QString& result)
-{
-    const OutputPlan& names = plan.Names();
-    host.Log(ResultLine{names.Input(file), result, action}.Text());
-    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), int(code));
 }
 
 void Run::FinishProbe()
@@ -683,7 +595,7 @@ void Run::FinishProbe()
 void Run::OnFileDone(int file)
 {
     decisions.SetDone(file);
-    host.Tell<ZTBatchMessage::MsgProgress>(FilesDone());
+    record.TellProgress();
     DecideWaiting();
     EndWhenDone();
 }
@@ -747,7 +659,7 @@ void Run::Refuse(const Refusal& refusal)
 {
     host.Log(RefusalLine{refusal.message}.Text());
     host.Tell<ZTBatchMessage::MsgError>(QString(), QString(), int(Action::RunStopped), int(refusal.code));
-    LogTotals(QStringLiteral("Finished"));
+    record.LogTotals(QStringLiteral("Finished"), plan.Count());
     host.Tell<ZTBatchMessage::MsgFinished>();
     End();
 }
@@ -760,21 +672,10 @@ void Run::EndWhenDone()
     const bool isDone = next == plan.Count() && ready.isEmpty() && returned.isEmpty() && !decisions.HasWaiting() &&
                         !decisions.IsAsking();
     if (isDone || isStopping) {
-        LogTotals(isStopping ? QStringLiteral("Stopped") : QStringLiteral("Finished"));
+        record.LogTotals(isStopping ? QStringLiteral("Stopped") : QStringLiteral("Finished"), plan.Count());
         host.Tell<ZTBatchMessage::MsgFinished>();
         End();
     }
-}
-
-void Run::LogTotals(const QString& how) const
-{
-    const int left = plan.Count() - FilesDone();
-    QString text =
-        QStringLiteral("%1: %2 written, %3 skipped, %4 failed").arg(how).arg(written).arg(skipped).arg(failed);
-    if (left > 0) {
-        text += QStringLiteral(", %1 not processed").arg(left);
-    }
-    host.Log(text + QLatin1Char('.'));
 }
 
 void Run::End()

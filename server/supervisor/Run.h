@@ -4,8 +4,8 @@
 #include "HostLink.h"
 #include "RunDecisions.h"
 #include "RunPreparation.h"
+#include "RunRecord.h"
 
-#include "job/journal/RunJournal.h"
 #include "job/plan/RunPlan.h"
 #include "job/values/JobValues.h"
 #include "server/protocol/WorkerPool.h"
@@ -73,7 +73,6 @@ private:
     void OnJobRead();
     void AdoptEarlierPart();
     void AdoptUnjournaledResults();
-    void TellJournalFailure(const QString& problem) const;
     void BeginNaming();
     void BeginWork();
 
@@ -98,19 +97,14 @@ private:
     void Resolve(int file, const BatchJob::Trouble& trouble, BatchJob::Decision decision);
     void ResolveName(int file, const BatchJob::Trouble& trouble, BatchJob::Decision decision);
     void ResolveFormat(int file, const BatchJob::Trouble& trouble);
-    void ReportTrouble(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
     void GiveUp(int file, const BatchJob::Trouble& trouble, BatchJob::Action action);
     void FinishPicture(int file, const BatchProtocol::Report& report);
-    void LogFacts(const QString& input, const BatchJob::PictureFacts& facts);
     void FinishProbe();
-    void ReportResult(int file, BatchJob::Action action, ZTBatchMessage::Error code, const QString& result);
     void OnFileDone(int file);
-    int FilesDone() const { return written + skipped + failed; }
 
     void Stop(const QString& reason);
     void Refuse(const BatchJob::Refusal& refusal);
     void EndWhenDone();
-    void LogTotals(const QString& how) const;
     void End();
 
     const quint64 number;
@@ -141,13 +135,8 @@ private:
     QHash<int, int> takenNames; ///< how often a worker has found the name of a result taken
 
     const QString journalPath;
-    std::unique_ptr<QLockFile> journalLock;
-    BatchJob::RunJournal journal;
+    RunRecord record;
     QHash<int, int> losses; ///< how often a server has died while it worked on a file
-
-    int written = 0;
-    int skipped = 0;
-    int failed = 0;
 };
 
 } // namespace BatchSupervisor

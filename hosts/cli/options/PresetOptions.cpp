@@ -12,8 +12,7 @@ OptionInfo SettingsOptionInfo()
 {
     return {QStringLiteral("--settings"),
             QStringLiteral("DIR"),
-            QStringLiteral("the folder with BatchExceptionPolicy.ini, which holds the default policies, and with the "
-                           "folder presets, which holds your presets"),
+            QStringLiteral("the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)"),
             QStringLiteral("General"),
             false,
             Completion::Folders};

@@ -39,8 +39,7 @@ BatchJob::Geometry PlannedGeometry(PictureSource& source, const ZTBatchOutputSet
     QRect found;
     if (crop.type == int(BatchJob::CropType::Trim)) {
         found = UprightRect(TrimmedFrame(source), source.StoredSize(), source.Orientation());
-    } else if (crop.type == int(BatchJob::CropType::Interesting) ||
-               crop.type == int(BatchJob::CropType::TurningInteresting)) {
+    } else if (BatchJob::IsCropOfInterest(crop.type)) {
         const QRect frame = InterestingFrame(source, BatchJob::RatioFor(upright, crop));
         found = UprightRect(frame, source.StoredSize(), source.Orientation());
     }
