@@ -16,13 +16,22 @@ set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/batchcore")
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/batchcoreConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/batchcoreConfig.cmake"
-    INSTALL_DESTINATION "${package_dir}")
+    INSTALL_DESTINATION "${package_dir}"
+    PATH_VARS CMAKE_INSTALL_BINDIR)
 write_basic_package_version_file(
     "${PROJECT_BINARY_DIR}/batchcoreConfigVersion.cmake"
-    COMPATIBILITY SameMajorVersion)
+    COMPATIBILITY SameMinorVersion)
 
 install(FILES
     "${PROJECT_BINARY_DIR}/batchcoreConfig.cmake"
     "${PROJECT_BINARY_DIR}/batchcoreConfigVersion.cmake"
+    "${CMAKE_CURRENT_LIST_DIR}/batchcorePlaceProgram.cmake"
+    "${CMAKE_CURRENT_LIST_DIR}/batchcoreServer.cmake"
     DESTINATION "${package_dir}")
+# For hosts that are built without CMake.
+set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+file(RELATIVE_PATH pc_prefix "${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir}" "${CMAKE_INSTALL_PREFIX}")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/batchcore.pc.in" "${PROJECT_BINARY_DIR}/batchcore.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/batchcore.pc" DESTINATION "${pkgconfig_dir}")
+
 install(EXPORT batchcoreTargets NAMESPACE Velkora:: DESTINATION "${package_dir}")

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <ZTBatchDocument.h>
+
+#include <QWidget>
+
+/// The window: one job, and the panels that show and run it.
+class HostWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    HostWindow();
+
+private:
+    ZTBatchDocument job;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QWidget>
+
+class ZTBatchOutputSettings;
+
+/// Where the results go, and how large they become.
+class OutputPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit OutputPanel(ZTBatchOutputSettings& output);
+};
