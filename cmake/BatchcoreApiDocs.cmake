@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The target "apidocs": the API reference as HTML, with the pages of docs/ in it. It is not part of "all", and exists only
 # with Doxygen and awk.
 find_program(BATCHCORE_DOXYGEN doxygen)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The CMake package: find_package(batchcore) gives Velkora::batchcore and what it stands on.
 
 # It can name what it stands on when that is a part of it or comes from a package. A product that builds its own sibling

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The settings that every target of the project shares.
 
 # lld links debug information in a fraction of the time. What is shipped is linked by the system's own linker.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Puts PROGRAM into FOLDER, unless it is there already.
 cmake_minimum_required(VERSION 3.25)
 

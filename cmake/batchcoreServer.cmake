@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # batchcore_place_server(HOST): puts the programs of the server beside the executable HOST whenever that is built, because
 # the library starts the server from the folder of the host's executable.
 #

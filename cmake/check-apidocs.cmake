@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Fails when the API reference lacks a header or a page of docs/, or when a link or picture of it leads nowhere.
 cmake_minimum_required(VERSION 3.25)
 

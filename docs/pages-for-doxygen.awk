@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Reads a page of docs/ as Doxygen understands it. Doxygen knows no anchors of headings, and no files but its own input:
 # headings get labels, links to headings become references to these labels, links into the sources become text. Pictures are
 # found by their names alone.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // A small host, explained step by step in docs/guide/host-tutorial.md:
 //
 //     host-tutorial FOLDER PICTURE...

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // A host with a window, built step by step in docs/guide/a-host-in-an-hour.md. Lines between "step N begins" and "step
 // N ends" come with that step; a test builds the program as it is after each.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "PlanProbe.h"
 
 #include "hosts/cli/terminal/Console.h"

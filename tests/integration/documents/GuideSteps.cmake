@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The sources of an example that grows step by step. Lines between "// step N begins" and "// step N ends" (in CMake files
 # with "#") come with step N.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Fails when a guide and the example that it explains do not agree, word for word. Only the indentation may differ: a
 # fragment begins at the left border.
 #   Every fragment is in one of the example's files, as that is after the step under whose heading the fragment is.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Follows the guide: begins with an empty folder, brings in the sources as they are after each step, and builds them with
 # the installed package. Fails when a step does not compile.
 cmake_minimum_required(VERSION 3.25)
