@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /// How the files of a job are distributed: all in one folder, or hundreds per folder and several folders per folder.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // What it costs to confine a worker: once for each worker, and for each system call from then on.
 
 #include "Stopwatch.h"

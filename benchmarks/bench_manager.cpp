@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // The rate of progress messages from a server process to the signal of a session, compared with a bare QLocalSocket and
 // a QDataStream that read the same burst. The time is from the server's first write to the last emission, on a clock
 // that both processes share. Every run checks that all messages arrive in order.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // The cost of a pipe session, compared in the same run with a bare QLocalSocket and a QDataStream on each side:
 // messages and megabytes per second, the time from a write to its signal, and the memory for one large message.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // From the end of a change to the exact preview: a JPEG of 24 megapixels, made 1600 pixels long, with three effects.
 // The baseline is a worker that has started and only makes the file of the result. The processor time is that of all
 // workers that have ended, their starts included; it depends little on other load.

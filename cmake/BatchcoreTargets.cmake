@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The settings that every target of the project shares.
 
 # lld links debug information in a fraction of the time. What is shipped is linked by the system's own linker.
@@ -42,6 +45,26 @@ function(batchcore_target_defaults target)
     endif()
 endfunction()
 
+# What a program needs to find in `folder`, a folder below the prefix, wherever the prefix is moved.
+function(batchcore_relative_rpath program folder)
+    if(UNIX AND NOT APPLE)
+        file(RELATIVE_PATH way "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_PREFIX}/${folder}")
+        set_property(TARGET ${program} APPEND PROPERTY INSTALL_RPATH "$ORIGIN/${way}")
+    endif()
+endfunction()
+
+# A program of the product: installed, and linked with the libraries beside it.
+function(batchcore_program target)
+    batchcore_target_defaults(${target})
+    if(BATCHCORE_RELOCATABLE)
+        batchcore_relative_rpath(${target} "${CMAKE_INSTALL_LIBDIR}")
+    endif()
+    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    if(UNIX AND EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${target}.1")
+        install(FILES "${target}.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    endif()
+endfunction()
+
 # An exported shared library of the product: versioned, installed and part of the CMake package.
 function(batchcore_shared_library target)
     batchcore_target_defaults(${target})
@@ -57,7 +80,7 @@ function(batchcore_shared_library target)
     if(WIN32)
         # The same name from every compiler.
         set_target_properties(${target} PROPERTIES PREFIX "")
-    elseif(UNIX AND NOT APPLE)
+    elseif(UNIX AND NOT APPLE AND BATCHCORE_RELOCATABLE)
         set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
 endfunction()

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Parses fields as the arguments of velkora-batch and applies them to a job. They are refused with a text, or the
 // options that show the job make the same job again.
 

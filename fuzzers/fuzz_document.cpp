@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Reads a text as a job. A text that is accepted can be written and read again with the same result; a text that is
 // refused changes nothing.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Feeds a stream to the frame reader in pieces, whose sizes depend on the first byte. However the stream is cut, the
 // messages are those of the whole stream, and their frames are the bytes that were read.
 

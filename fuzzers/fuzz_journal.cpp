@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Reads a file as a journal, writes what it says as a new journal, and cuts that off anywhere, as a kill does. A
 // journal that was cut off says nothing that the whole one does not say, and it can be continued.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Writes the lines of the server's log that hosts read back, with texts that look like parts of them. What is written
 // is read as it was, and a line that is read is written as it was.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Takes a text as the options of every format and as the parameters of every effect. What is accepted is complete, is
 // accepted again without a change, and becomes valid options of every format that a picture may be written in.
 

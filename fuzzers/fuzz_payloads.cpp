@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Unpacks arbitrary bytes as each kind of payload. A payload that unpacks exactly packs to the same bytes, except for
 // the flag of an answer: any value other than 0 is read as true.
 

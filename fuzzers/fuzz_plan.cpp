@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Plans the names of a job whose settings, folders and files are fields, with what probes say and with decisions about
 // files. Every result has a valid name in the output folder, no two results that are written share a name, and a run
 // that is resumed gives every result the name that it would have had.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Reads a stream as messages to a worker and as messages from one, in pieces whose sizes depend on the first byte; an
 // odd one makes the rest one frame. However the stream is cut, the messages are those of the whole stream, and a
 // message that was read can be written and read again. What a client makes of a report is bounded, and no report is

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "ZTBatchGlobal.h"
@@ -138,6 +141,11 @@ Q_SIGNALS:
 
     /// The server could not be started or has ended; the sessions have been notified. Emitted once for each started
     /// server that ends before ReleaseInstance(). A slot may call Start() again.
+    ///
+    /// The reason is not passed on. Signs of it are: whether the program exists and is executable; which of Finished()
+    /// and Aborted() a session has emitted; debug lines since Start(), such as "The pipe belongs to another user.", or
+    /// "Socket error: 2" once a second for a server that does not open its pipe; and the standard error of the server,
+    /// which is the host's. docs/reference/diagnostics.md lists all cases.
     void ConnectionFailed();
 
     void InputActionRegistered(QAction*, int index);

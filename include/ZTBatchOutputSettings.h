@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "ZTBatchGlobal.h"
@@ -17,8 +20,8 @@
 /// The output settings of a batch job: where results go and how they are named, encoded, sized, cropped and framed.
 ///
 /// The object stores values and signals changes; except where a setter says so, it does not validate them. Enumerations
-/// are stored as plain integers and any value is kept, because the server defines their meaning. Use the object only on
-/// the thread that created it. Signals are emitted from inside the setter that causes them.
+/// are stored as plain integers and any value is kept; the server defines their meaning, which ZTBatchValues.h names.
+/// Use the object only on the thread that created it. Signals are emitted from inside the setter that causes them.
 class BATCHCORE_EXPORT ZTBatchOutputSettings : public QObject
 {
     Q_OBJECT

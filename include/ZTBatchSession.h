@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "ZTBatchManager.h"
@@ -51,8 +54,8 @@ Q_SIGNALS:
     void FileInProgress(const QString& inputFileName);
     void FileProcessed(const QString& inputFileName, const QString& outputFileName);
 
-    /// A file could not be processed. `action` is what the server did about it, as a number that the server defines;
-    /// `errorCode` is a ZTBatchMessage::Error. The file names are empty for an error that concerns no file.
+    /// A file could not be processed. `action` is a ZTBatchValues::Action, `errorCode` a ZTBatchMessage::Error. The
+    /// file names are empty for an error that concerns no file.
     void ProcessError(const QString& inputFileName, const QString& outputFileName, int action, int errorCode);
 
     /// A line for the run's log.

@@ -103,6 +103,274 @@
         <source>and %1 more; use --report FILE for all</source>
         <translation>und %1 weitere; --report FILE nennt alle</translation>
     </message>
+    <message>
+        <source>required</source>
+        <translation>erforderlich</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>optional</translation>
+    </message>
+    <message>
+        <source>default %1</source>
+        <translation>Standard %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels</source>
+        <translation>%1 Bit pro Kanal; Transparenz: %2; CMYK: %3; längste Seite %4 Pixel</translation>
+    </message>
+    <message>
+        <source>Files that can be read: %1</source>
+        <translation>Lesbare Dateien: %1</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures; give them to run or plan, after the job.</source>
+        <translation>%1: ein Auftrag ohne Bilder; sie werden bei run oder plan nach dem Auftrag angegeben.</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures and output folder; give them to run or plan.</source>
+        <translation>%1: ein Auftrag ohne Bilder und ohne Ausgabeordner; beides wird bei run oder plan angegeben.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture.</source>
+        <translation>%1: ein Auftrag mit 1 Bild.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture, without an output folder; give --output to run or plan.</source>
+        <translation>%1: ein Auftrag mit 1 Bild, ohne Ausgabeordner; --output wird bei run oder plan angegeben.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures.</source>
+        <translation>%1: ein Auftrag mit %2 Bildern.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures, without an output folder; give --output to run or plan.</source>
+        <translation>%1: ein Auftrag mit %2 Bildern, ohne Ausgabeordner; --output wird bei run oder plan angegeben.</translation>
+    </message>
+    <message>
+        <source>Looking at pictures: %1 of %2</source>
+        <translation>Bilder werden geprüft: %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it begins like a %2 file, but its extension is not known.</source>
+        <translation>%1 wird ausgelassen: Die Datei beginnt wie eine %2-Datei, aber ihre Endung ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Folders read: %1, pictures found: %2, now in %3</source>
+        <translation>Gelesene Ordner: %1, gefundene Bilder: %2, jetzt in %3</translation>
+    </message>
+    <message>
+        <source>1 picture</source>
+        <translation>1 Bild</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>%1 Bilder</translation>
+    </message>
+    <message>
+        <source>Inputs: %1</source>
+        <translation>Eingaben: %1</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Planning %1 files</source>
+        <translation>%1 Dateien werden geplant</translation>
+    </message>
+    <message>
+        <source>replaces the original</source>
+        <translation>ersetzt das Original</translation>
+    </message>
+    <message>
+        <source>sizes in pixels are not known: %1.</source>
+        <translation>Größen in Pixeln sind nicht bekannt: %1.</translation>
+    </message>
+    <message>
+        <source>%1 file: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 Datei: %2 ohne Probleme, %3 in Klammern. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 files: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 Dateien: %2 ohne Probleme, %3 in Klammern. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>comes along</source>
+        <translation>mitgeliefert</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>eigene</translation>
+    </message>
+    <message>
+        <source>the preset %1 in %2 cannot be used: %3</source>
+        <translation>die Vorgabe %1 in %2 ist nicht verwendbar: %3</translation>
+    </message>
+    <message>
+        <source>%1: the preset %2.</source>
+        <translation>%1: die Vorgabe %2.</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1.</source>
+        <translation>die Standardausgabe kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>%1: name files, or folders with pictures that can be read</source>
+        <translation>%1: Dateien oder Ordner mit lesbaren Bildern angeben</translation>
+    </message>
+    <message>
+        <source>%1: use --output DIR</source>
+        <translation>%1: --output DIR verwenden</translation>
+    </message>
+    <message>
+        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
+        <translation>%1. Nur ein gespeicherter Auftrag ist möglich: als erstes Argument von run, plan und show, oder bei create mit --from</translation>
+    </message>
+    <message>
+        <source>%1; use --force to replace it</source>
+        <translation>%1; --force ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>%1. Use --resume with --output alone to resume that run, or run this job without --resume</source>
+        <translation>%1. Mit --resume und nur --output wird jener Lauf fortgesetzt; ohne --resume wird dieser Auftrag ausgeführt</translation>
+    </message>
+    <message>
+        <source>%1; use --resume --run NAME with one of these names</source>
+        <translation>%1; --resume --run NAME mit einem dieser Namen verwenden</translation>
+    </message>
+    <message>
+        <source>an earlier run of this job was interrupted; this run starts anew. Use --resume to continue an interrupted run.</source>
+        <translation>ein früherer Lauf dieses Auftrags wurde unterbrochen; dieser Lauf beginnt von vorn. --resume setzt einen unterbrochenen Lauf fort.</translation>
+    </message>
+    <message>
+        <source>1 other run was interrupted in %1; it can still be resumed: %2</source>
+        <translation>1 anderer Lauf wurde in %1 unterbrochen; er kann noch fortgesetzt werden: %2</translation>
+    </message>
+    <message>
+        <source>%3 other runs were interrupted in %1; they can still be resumed: %2</source>
+        <translation>%3 andere Läufe wurden in %1 unterbrochen; sie können noch fortgesetzt werden: %2</translation>
+    </message>
+    <message>
+        <source>should it be interrupted, the run cannot be resumed: %1.</source>
+        <translation>nach einer Unterbrechung kann der Lauf nicht fortgesetzt werden: %1.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
+        <translation>ein temporärer Ordner kann nicht angelegt werden: %1. TMPDIR auf einen anderen Ordner setzen.</translation>
+    </message>
+    <message>
+        <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
+        <translation>ein anderer Batch-Server läuft, und dieses System hat nur eine Pipe dafür; nach dem Ende jenes Laufs erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>To resume: %1</source>
+        <translation>Zum Fortsetzen: %1</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: 1 picture was left out.</source>
+        <translation>ohne Terminal konnte niemand gefragt werden: 1 Bild wurde ausgelassen.</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: %1 pictures were left out.</source>
+        <translation>ohne Terminal konnte niemand gefragt werden: %1 Bilder wurden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>%1 decides such cases.</source>
+        <translation>%1 entscheidet solche Fälle.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 decide such cases.</source>
+        <translation>%1 und %2 entscheiden solche Fälle.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because other sources of the job have such names.</source>
+        <translation>1 Ergebnis wurde umbenannt, weil andere Quellen des Auftrags so heißen.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because other sources of the job have such names.</source>
+        <translation>%1 Ergebnisse wurden umbenannt, weil andere Quellen des Auftrags so heißen.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>1 Ergebnis wurde umbenannt, weil ein Original so heißt; --in-place ersetzt Originale.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>%1 Ergebnisse wurden umbenannt, weil Originale so heißen; --in-place ersetzt Originale.</translation>
+    </message>
+    <message>
+        <source>no worker can be started; VelkoraBatchWorker belongs beside %1.</source>
+        <translation>kein Worker-Prozess kann gestartet werden; VelkoraBatchWorker gehört neben %1.</translation>
+    </message>
+    <message>
+        <source>No picture was processed. --structure input keeps the folders of the inputs, --on-name-exists rename numbers such names, and another --name, --prefix or --suffix tells them apart.</source>
+        <translation>Es wurde kein Bild verarbeitet. --structure input behält die Ordner der Eingaben, --on-name-exists rename nummeriert solche Namen, und --name, --prefix oder --suffix können sie unterscheiden.</translation>
+    </message>
+    <message>
+        <source>the server ended before it had processed anything; see its messages above.</source>
+        <translation>der Server endete, bevor er etwas verarbeitet hatte; siehe seine Meldungen oben.</translation>
+    </message>
+    <message>
+        <source>the server cannot be started; VelkoraBatchProcessing belongs beside %1.</source>
+        <translation>der Server kann nicht gestartet werden; VelkoraBatchProcessing gehört neben %1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>More: velkora-batch --help, or velkora-batch help COMMAND</source>
+        <translation>Mehr: velkora-batch --help oder velkora-batch help COMMAND</translation>
+    </message>
+    <message>
+        <source>velkora-batch %1.</source>
+        <translation>velkora-batch %1.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>prints this text; after a command, the help of that command</source>
+        <translation>gibt diesen Text aus; nach einem Befehl die Hilfe zu diesem Befehl</translation>
+    </message>
+    <message>
+        <source>prints the version; with --verbose, also how this system confines the processes that read pictures</source>
+        <translation>gibt die Version aus; mit --verbose auch, wie dieses System die Prozesse einschränkt, die Bilder lesen</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1. Values: %2</source>
+        <translation>%1. Werte: %2</translation>
+    </message>
+    <message>
+        <source>%1. May be given several times</source>
+        <translation>%1. Mehrfach verwendbar</translation>
+    </message>
+    <message>
+        <source>(%1 bytes in the job)</source>
+        <translation>(%1 Bytes im Auftrag)</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -1383,10 +1651,6 @@
         <translation>der in %1 unterbrochene Lauf gehört zu einem anderen Auftrag: Eingaben, Optionen oder Dateien sind anders</translation>
     </message>
     <message>
-        <source>%1 runs were interrupted in %2, none of them of this job</source>
-        <translation>%1 Läufe wurden in %2 unterbrochen, keiner davon gehört zu diesem Auftrag</translation>
-    </message>
-    <message>
         <source>%1 is damaged; remove it to start the run anew</source>
         <translation>%1 ist beschädigt; entfernen Sie die Datei, um den Lauf neu zu beginnen</translation>
     </message>
@@ -1771,10 +2035,6 @@
         <translation>Bit</translation>
     </message>
     <message>
-        <source>which metadata is kept</source>
-        <translation>welche Metadaten erhalten bleiben</translation>
-    </message>
-    <message>
         <source>colour under transparency that the format cannot hold</source>
         <translation>Farbe unter Transparenz, die das Format nicht speichern kann</translation>
     </message>
@@ -1785,6 +2045,1154 @@
     <message>
         <source>keep every pixel that can be seen</source>
         <translation>jedes sichtbare Pixel erhalten</translation>
+    </message>
+    <message>
+        <source>which metadata is kept; copyright is creator and rights from all of it</source>
+        <translation>welche Metadaten erhalten bleiben; copyright sind Urheber und Rechte aus allen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; would both be &quot;%3&quot;</source>
+        <translation>„%1“ und „%2“ hießen beide „%3“</translation>
+    </message>
+    <message>
+        <source>and so on</source>
+        <translation>und so weiter</translation>
+    </message>
+    <message>
+        <source>1 result would get the name of another</source>
+        <translation>1 Ergebnis bekäme den Namen eines anderen</translation>
+    </message>
+    <message>
+        <source>%1 results would get the names of others</source>
+        <translation>%1 Ergebnisse bekämen die Namen anderer</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>das Attribut „%1“ von „%2“</translation>
+    </message>
+    <message>
+        <source>the element &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>das Element „%1“ in „%2“</translation>
+    </message>
+    <message>
+        <source>a colour: #rrggbb, #rrggbbaa, or a name such as white</source>
+        <translation>eine Farbe: #rrggbb, #rrggbbaa oder ein Name wie white</translation>
+    </message>
+    <message>
+        <source>%1, joined with +, or none</source>
+        <translation>%1, verbunden durch +, oder none</translation>
+    </message>
+    <message>
+        <source>2 to %1 points x:y with ascending x, joined with +, numbers %2</source>
+        <translation>2 bis %1 Punkte x:y mit steigendem x, verbunden durch +, Zahlen %2</translation>
+    </message>
+    <message>
+        <source>workers: not confined on this system</source>
+        <translation>Worker-Prozesse: auf diesem System nicht eingeschränkt</translation>
+    </message>
+    <message>
+        <source>files of workers: not restricted, as the kernel has no Landlock</source>
+        <translation>Dateien der Worker-Prozesse: nicht eingeschränkt, da der Kernel kein Landlock hat</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, with scopes for signals and sockets</source>
+        <translation>Dateien der Worker-Prozesse: die des Auftrags, durch Landlock %1, mit Bereichen für Signale und Sockets</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, without scopes for signals and sockets</source>
+        <translation>Dateien der Worker-Prozesse: die des Auftrags, durch Landlock %1, ohne Bereiche für Signale und Sockets</translation>
+    </message>
+    <message>
+        <source>system calls of workers: a list of allowed ones, by seccomp</source>
+        <translation>Systemaufrufe der Worker-Prozesse: eine Liste erlaubter, durch seccomp</translation>
+    </message>
+    <message>
+        <source>system calls of workers: not restricted, as the kernel has no seccomp</source>
+        <translation>Systemaufrufe der Worker-Prozesse: nicht eingeschränkt, da der Kernel kein seccomp hat</translation>
+    </message>
+    <message>
+        <source>memory of the supervisor: closed to other processes of the user (not dumpable)</source>
+        <translation>Speicher des Supervisors: für andere Prozesse des Benutzers gesperrt (nicht auslesbar)</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2, which is not kept; keep=copyright keeps it</source>
+        <translation>der Copyright-Vermerk „%1“ steht nur in %2, das nicht erhalten bleibt; keep=copyright erhält ihn</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2 and %3, which are not kept; keep=copyright keeps it</source>
+        <translation>der Copyright-Vermerk „%1“ steht nur in %2 und %3, die nicht erhalten bleiben; keep=copyright erhält ihn</translation>
+    </message>
+    <message>
+        <source>the format of each input</source>
+        <translation>das Format jeder Eingabe</translation>
+    </message>
+    <message>
+        <source>--dry-run and %1 cannot be combined; remove one of them</source>
+        <translation>--dry-run und %1 sind nicht kombinierbar; eines davon entfernen</translation>
+    </message>
+    <message>
+        <source>%1 and --preset exclude each other: give one of them to start from</source>
+        <translation>%1 und --preset schließen einander aus: nur eines davon als Ausgangspunkt angeben</translation>
+    </message>
+    <message>
+        <source>no file name for the job: velkora-batch create JOB.xml INPUT...</source>
+        <translation>kein Dateiname für den Auftrag: velkora-batch create JOB.xml INPUT...</translation>
+    </message>
+    <message>
+        <source>the first argument must be the file of the job, with a name that ends with .xml, but is &quot;%1&quot;</source>
+        <translation>das erste Argument muss die Datei des Auftrags sein, mit einem Namen auf .xml, ist aber „%1“</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;-&quot;; to read names from standard input, use --files-from -</source>
+        <translation>die Datei „-“ gibt es nicht; --files-from - liest Namen von der Standardeingabe</translation>
+    </message>
+    <message>
+        <source>--null needs %1</source>
+        <translation>--null benötigt %1</translation>
+    </message>
+    <message>
+        <source>%1 -: standard input is a terminal; pipe a list into it, or name a file</source>
+        <translation>%1 -: die Standardeingabe ist ein Terminal; eine Liste hineinleiten oder eine Datei angeben</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --in-place without --output: results go to the folders of their originals</source>
+        <translation>%1 ist mit --in-place ohne --output nicht möglich: Ergebnisse kommen in die Ordner ihrer Originale</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 matches nothing</source>
+        <translation>keine Bilder: %1 trifft auf nichts zu</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 and %2 match nothing</source>
+        <translation>keine Bilder: %1 und %2 treffen auf nichts zu</translation>
+    </message>
+    <message>
+        <source>no inputs</source>
+        <translation>keine Eingaben</translation>
+    </message>
+    <message>
+        <source>%1 is not for &quot;presets %2&quot;, but for &quot;presets %3&quot;</source>
+        <translation>%1 gehört nicht zu „presets %2“, sondern zu „presets %3“</translation>
+    </message>
+    <message>
+        <source>the name of the preset is missing: velkora-batch presets %1 NAME</source>
+        <translation>der Name der Vorgabe fehlt: velkora-batch presets %1 NAME</translation>
+    </message>
+    <message>
+        <source>a preset has no inputs, but &quot;%1&quot; is given behind its name</source>
+        <translation>eine Vorgabe hat keine Eingaben, aber nach ihrem Namen steht „%1“</translation>
+    </message>
+    <message>
+        <source>one preset at a time, but &quot;%1&quot; is given behind its name</source>
+        <translation>nur eine Vorgabe auf einmal, aber nach ihrem Namen steht „%1“</translation>
+    </message>
+    <message>
+        <source>list takes no name, but &quot;%1&quot; is given; &quot;velkora-batch show --preset NAME&quot; prints a preset</source>
+        <translation>list nimmt keinen Namen, aber „%1“ ist angegeben; „velkora-batch show --preset NAME“ zeigt eine Vorgabe</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 benötigt --resume</translation>
+    </message>
+    <message>
+        <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
+        <translation>%1/BatchExceptionPolicy.ini enthält den ungültigen Wert %2; %3 hat Vorrang davor</translation>
+    </message>
+    <message>
+        <source>unknown option %1; %2</source>
+        <translation>unbekannte Option %1; %2</translation>
+    </message>
+    <message>
+        <source>it is an option of %1; &quot;velkora-batch %2 --help&quot; lists the options</source>
+        <translation>sie gehört zu %1; „velkora-batch %2 --help“ listet die Optionen auf</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch %1 --help&quot; lists the options</source>
+        <translation>„velkora-batch %1 --help“ listet die Optionen auf</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>meinten Sie „%1“?</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 ist ein Ordner und kein Befehl; meinten Sie „velkora-batch run %1“?</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 ist eine Datei und kein Befehl; meinten Sie „velkora-batch run %1“?</translation>
+    </message>
+    <message>
+        <source>%1 is no command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 ist kein Befehl; meinten Sie „velkora-batch run %1“?</translation>
+    </message>
+    <message>
+        <source>unknown command &quot;%1&quot;; did you mean &quot;velkora-batch %2&quot;?</source>
+        <translation>unbekannter Befehl „%1“; meinten Sie „velkora-batch %2“?</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>unbekannter Befehl: %1</translation>
+    </message>
+    <message>
+        <source>no command: use one of %1, or &quot;velkora-batch --help&quot;</source>
+        <translation>kein Befehl: möglich sind %1 oder „velkora-batch --help“</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed before the command, only %2</source>
+        <translation>%1 ist vor dem Befehl nicht erlaubt, nur %2</translation>
+    </message>
+    <message>
+        <source>help takes one command, but got %1</source>
+        <translation>help nimmt einen Befehl, angegeben sind aber %1</translation>
+    </message>
+    <message>
+        <source>argument %1, &quot;%2&quot;, contains a character that a job cannot hold</source>
+        <translation>Argument %1, „%2“, enthält ein Zeichen, das ein Auftrag nicht aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and takes no value; type %1 alone, or leave it out</source>
+        <translation>%1 ist ein Schalter ohne Wert; nur %1 eingeben oder weglassen</translation>
+    </message>
+    <message>
+        <source>an input of %1 has an empty name</source>
+        <translation>eine Eingabe von %1 hat einen leeren Namen</translation>
+    </message>
+    <message>
+        <source>%1 is given %2 times, but takes one value; remove &quot;%3&quot; or &quot;%4&quot;</source>
+        <translation>%1 steht %2-mal da, nimmt aber nur einen Wert; „%3“ oder „%4“ entfernen</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation>%1: der Wert %2 fehlt</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingaben</translation>
+    </message>
+    <message>
+        <source>drops the inputs of the saved job first</source>
+        <translation>verwirft zuerst die Eingaben des gespeicherten Auftrags</translation>
+    </message>
+    <message>
+        <source>also takes the files and folders that a file names, one a line, or standard input for &quot;-&quot;. Relative names start at the current folder</source>
+        <translation>nimmt auch die Dateien und Ordner, die eine Datei nennt, je Zeile einen Namen; „-“ steht für die Standardeingabe. Relative Namen beginnen beim aktuellen Ordner</translation>
+    </message>
+    <message>
+        <source>the names of --files-from are separated by NUL, not by line ends</source>
+        <translation>die Namen von --files-from sind durch NUL getrennt, nicht durch Zeilenenden</translation>
+    </message>
+    <message>
+        <source>takes only files whose names match, such as &quot;*.{nef,cr2}&quot;, or whose paths in the given folders match, such as &quot;2024/**/*.jpg&quot;; default: all that can be read. Files that are given by name are always taken</source>
+        <translation>nimmt nur Dateien mit passenden Namen wie „*.{nef,cr2}“ oder mit passenden Pfaden in den angegebenen Ordnern wie „2024/**/*.jpg“; Standard: alle lesbaren. Namentlich angegebene Dateien werden immer genommen</translation>
+    </message>
+    <message>
+        <source>leaves out files and folders whose names or paths match, inside the given folders</source>
+        <translation>lässt in den angegebenen Ordnern Dateien und Ordner mit passenden Namen oder Pfaden aus</translation>
+    </message>
+    <message>
+        <source>leaves out folders inside folders</source>
+        <translation>lässt Unterordner aus</translation>
+    </message>
+    <message>
+        <source>includes files and folders whose names begin with a dot</source>
+        <translation>nimmt auch Dateien und Ordner, deren Namen mit einem Punkt beginnen</translation>
+    </message>
+    <message>
+        <source>the order of the pictures, which numbers in names follow: taken, by capture time, and by the file&apos;s own time where there is none; name, folder by folder; given, as the command line names them. The default is name, or the order of the saved job</source>
+        <translation>die Reihenfolge der Bilder, der Nummern in Namen folgen: taken, nach Aufnahmezeit, ohne diese nach der Zeit der Datei; name, Ordner für Ordner; given, wie auf der Befehlszeile. Standard ist name oder die Reihenfolge des gespeicherten Auftrags</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>prints problems only</source>
+        <translation>gibt nur Probleme aus</translation>
+    </message>
+    <message>
+        <source>also prints details for finding faults</source>
+        <translation>gibt auch Einzelheiten zur Fehlersuche aus</translation>
+    </message>
+    <message>
+        <source>prints this text</source>
+        <translation>gibt diesen Text aus</translation>
+    </message>
+    <message>
+        <source>prints the help of a command</source>
+        <translation>gibt die Hilfe zu einem Befehl aus</translation>
+    </message>
+    <message>
+        <source>prints JSON</source>
+        <translation>gibt JSON aus</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>verarbeitet einen gespeicherten Auftrag, Dateien und Ordner oder beides; Optionen haben Vorrang vor dem Auftrag. Exit-Status: 0, wenn alle Bilder geschrieben oder durch eine Regel ausgelassen wurden, die eine Option nennt; 1, wenn welche fehlschlugen oder sonst ausgelassen wurden; 2 bei falschen Argumenten oder falschem Auftrag; 3, wenn der Server nicht gestartet werden konnte oder verloren ging; 4, wenn der Lauf abgebrochen wurde; 5, wenn unter den Eingaben kein Bild ist; 6, wenn dieser Lauf schon im Gange ist; 7, wenn es nichts fortzusetzen gibt</translation>
+    </message>
+    <message>
+        <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
+        <translation>schreibt einen Auftrag mit diesen Eingaben und Optionen in eine Datei, bei „-“ auf die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>prints a job: its inputs as a tree, its effects, and its output in the words of the options</source>
+        <translation>zeigt einen Auftrag: seine Eingaben als Baum, seine Effekte und seine Ausgabe in den Worten der Optionen</translation>
+    </message>
+    <message>
+        <source>prints every input with its output and its size in pixels, and writes nothing. A problem is printed in brackets, with what the policy would do about it. Exit status: 1 when there are problems</source>
+        <translation>zeigt jede Eingabe mit ihrer Ausgabe und ihrer Größe in Pixeln und schreibt nichts. Ein Problem steht in Klammern, mit dem, was die Regel vorsieht. Exit-Status: 1, wenn es Probleme gibt</translation>
+    </message>
+    <message>
+        <source>does not look at every picture for its size in pixels, which takes time for many</source>
+        <translation>prüft nicht jedes Bild auf seine Größe in Pixeln, was bei vielen dauert</translation>
+    </message>
+    <message>
+        <source>prints one JSON object for each input</source>
+        <translation>gibt je Eingabe ein JSON-Objekt aus</translation>
+    </message>
+    <message>
+        <source>lists the effects with their parameters</source>
+        <translation>listet die Effekte mit ihren Parametern auf</translation>
+    </message>
+    <message>
+        <source>lists the output formats with their options, and the files that can be read</source>
+        <translation>listet die Ausgabeformate mit ihren Optionen und die lesbaren Dateien auf</translation>
+    </message>
+    <message>
+        <source>%1 and %2 contradict each other; remove one of them</source>
+        <translation>%1 und %2 widersprechen einander; eines davon entfernen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm or 6x4in</source>
+        <translation>„%1“ hat nicht die Form WIDTHxHEIGHT, eventuell mit einer Einheit, wie 800x600, 15x10cm oder 6x4in</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers, such as %3; or add a unit, as in %4cm</source>
+        <translation>„%1“ bedeutet %2 Pixel, denn ein Punkt leitet Dezimalstellen ein, Pixel sind aber ganze Zahlen wie %3; oder eine Einheit anfügen wie in %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large; each side must be from 1 to %2 pixels</source>
+        <translation>„%1“ ist zu groß; jede Seite muss 1 bis %2 Pixel lang sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a resolution; add --resolution, as in --resolution 300</source>
+        <translation>„%1“ benötigt eine Auflösung; --resolution anfügen, etwa --resolution 300</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 pixels at %3 dots per inch; each side must be from 1 to %4</source>
+        <translation>„%1“ sind %2 Pixel bei %3 Punkten pro Zoll; jede Seite muss 1 bis %4 Pixel lang sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 x %3 pixels, but the size is %4: type %5 for the unit of the size, or %6 for pixels</source>
+        <translation>„%1“ sind %2 x %3 Pixel, die Größe ist aber %4: %5 für die Einheit der Größe eingeben oder %6 für Pixel</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; needs a size, such as %1:3x2%2</source>
+        <translation>„%1:%2“ benötigt eine Größe, etwa %1:3x2%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for that size</source>
+        <translation>„%1:%2“ hat eine Einheit, ein Seitenverhältnis aber nicht: %1:%3 eingeben oder fill:%2 für diese Größe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with &quot;!&quot;, but only ratio and interesting turn with the picture; remove the &quot;!&quot;</source>
+        <translation>„%1“ endet mit „!“, aber nur ratio und interesting drehen sich mit dem Bild; das „!“ entfernen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point, as in %2</source>
+        <translation>„%1“ hat ein Komma; Dezimalstellen stehen nach einem Punkt, wie in %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no size</source>
+        <translation>„%1“ nimmt keine Größe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a size, such as %1:3x2</source>
+        <translation>„%1“ benötigt eine Größe, etwa %1:3x2</translation>
+    </message>
+    <message>
+        <source>Pictures for the web, at most 1600 pixels long</source>
+        <translation>Bilder für das Web, höchstens 1600 Pixel lang</translation>
+    </message>
+    <message>
+        <source>Names by capture date, in a folder for each day</source>
+        <translation>Namen nach Aufnahmedatum, ein Ordner je Tag</translation>
+    </message>
+    <message>
+        <source>A saved job over other pictures</source>
+        <translation>Ein gespeicherter Auftrag für andere Bilder</translation>
+    </message>
+    <message>
+        <source>Files that another program lists</source>
+        <translation>Dateien, die ein anderes Programm auflistet</translation>
+    </message>
+    <message>
+        <source>Camera RAW files in all subfolders</source>
+        <translation>RAW-Dateien in allen Unterordnern</translation>
+    </message>
+    <message>
+        <source>What would be written</source>
+        <translation>Was geschrieben würde</translation>
+    </message>
+    <message>
+        <source>A preset over other pictures</source>
+        <translation>Eine Vorgabe für andere Bilder</translation>
+    </message>
+    <message>
+        <source>A run that was interrupted</source>
+        <translation>Ein unterbrochener Lauf</translation>
+    </message>
+    <message>
+        <source>A job for pictures to come</source>
+        <translation>Ein Auftrag für künftige Bilder</translation>
+    </message>
+    <message>
+        <source>A job with one value changed</source>
+        <translation>Ein Auftrag mit einem geänderten Wert</translation>
+    </message>
+    <message>
+        <source>A saved job, in the words of the options</source>
+        <translation>Ein gespeicherter Auftrag in den Worten der Optionen</translation>
+    </message>
+    <message>
+        <source>Every result&apos;s name, and what is in the way</source>
+        <translation>Der Name jedes Ergebnisses, und was im Weg steht</translation>
+    </message>
+    <message>
+        <source>The same for programs</source>
+        <translation>Dasselbe für Programme</translation>
+    </message>
+    <message>
+        <source>One effect with its parameters</source>
+        <translation>Ein Effekt mit seinen Parametern</translation>
+    </message>
+    <message>
+        <source>One format with its options</source>
+        <translation>Ein Format mit seinen Optionen</translation>
+    </message>
+    <message>
+        <source>folders are always read with their subfolders, so leave it out</source>
+        <translation>Ordner werden immer mit Unterordnern gelesen, daher weglassen</translation>
+    </message>
+    <message>
+        <source>name files and folders without an option</source>
+        <translation>Dateien und Ordner ohne Option angeben</translation>
+    </message>
+    <message>
+        <source>use --files-from FILE, or --files-from -</source>
+        <translation>--files-from FILE oder --files-from - verwenden</translation>
+    </message>
+    <message>
+        <source>use --hidden for files and folders whose names begin with a dot</source>
+        <translation>--hidden nimmt Dateien und Ordner auf, deren Namen mit einem Punkt beginnen</translation>
+    </message>
+    <message>
+        <source>use --quality N, or --format-option compression=WORD or compressionLevel=N</source>
+        <translation>--quality N oder --format-option compression=WORD oder compressionLevel=N verwenden</translation>
+    </message>
+    <message>
+        <source>metadata is kept unless --format-option keep=WORD+WORD says which</source>
+        <translation>Metadaten bleiben erhalten, wenn nicht --format-option keep=WORD+WORD sagt, welche</translation>
+    </message>
+    <message>
+        <source>use --size %1, with % for a percentage</source>
+        <translation>--size %1 verwenden, mit % für Prozent</translation>
+    </message>
+    <message>
+        <source>pictures are always turned upright, so leave it out</source>
+        <translation>Bilder werden immer aufrecht gedreht, daher weglassen</translation>
+    </message>
+    <message>
+        <source>use --effect watermark-text:text=TEXT or --effect watermark-image:file=FILE</source>
+        <translation>--effect watermark-text:text=TEXT oder --effect watermark-image:file=FILE verwenden</translation>
+    </message>
+    <message>
+        <source>use --name, --prefix and --suffix, or --on-name-exists rename for names that are taken</source>
+        <translation>--name, --prefix und --suffix verwenden, oder --on-name-exists rename für vergebene Namen</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch plan&quot; prints what a run would write</source>
+        <translation>„velkora-batch plan“ zeigt, was ein Lauf schreiben würde</translation>
+    </message>
+    <message>
+        <source>name a saved job as the first input</source>
+        <translation>einen gespeicherten Auftrag als erste Eingabe angeben</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch formats&quot;</source>
+        <translation>„velkora-batch formats“ verwenden</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch effects&quot;</source>
+        <translation>„velkora-batch effects“ verwenden</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch --version&quot;</source>
+        <translation>„velkora-batch --version“ verwenden</translation>
+    </message>
+    <message>
+        <source>use --%1</source>
+        <translation>--%1 verwenden</translation>
+    </message>
+    <message>
+        <source>use --effect %1; &quot;velkora-batch effects %1&quot; lists its parameters</source>
+        <translation>--effect %1 verwenden; „velkora-batch effects %1“ listet die Parameter auf</translation>
+    </message>
+    <message>
+        <source>processes pictures in batches: effects, size, crop, frame, format and names</source>
+        <translation>verarbeitet Bilder stapelweise: Effekte, Größe, Zuschnitt, Rahmen, Format und Namen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a shadow; add --shadow</source>
+        <translation>„%1“ bewirkt nichts ohne einen Schatten; --shadow anfügen</translation>
+    </message>
+    <message>
+        <source>%1 is not an ICC profile</source>
+        <translation>%1 ist kein ICC-Profil</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>the name of the saved job</source>
+        <translation>der Name des gespeicherten Auftrags</translation>
+    </message>
+    <message>
+        <source>the folder for the results; it is created when it does not exist, and a relative one starts at the current folder</source>
+        <translation>der Ordner für die Ergebnisse; er wird bei Bedarf angelegt, und ein relativer beginnt beim aktuellen Ordner</translation>
+    </message>
+    <message>
+        <source>the name of the folder is empty</source>
+        <translation>der Name des Ordners ist leer</translation>
+    </message>
+    <message>
+        <source>the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file where a picture has none</source>
+        <translation>die Ordner darin: flat, keine; input, wie bei den Eingaben; date, nach Aufnahmedatum, ohne dieses nach dem der Datei</translation>
+    </message>
+    <message>
+        <source>the format of results, by name or extension; Original keeps that of each input. Changing the format of a saved job drops its format options</source>
+        <translation>das Format der Ergebnisse, nach Name oder Endung; Original behält das jeder Eingabe. Ein anderes Format als im gespeicherten Auftrag verwirft dessen Formatoptionen</translation>
+    </message>
+    <message>
+        <source>an option of the format, such as quality=90; &quot;velkora-batch formats&quot; lists them</source>
+        <translation>eine Option des Formats, etwa quality=90; „velkora-batch formats“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>an ICC profile to convert results to and to embed; none keeps each input&apos;s own</source>
+        <translation>ein ICC-Profil, in das Ergebnisse umgewandelt werden und das eingebettet wird; none behält das jeder Eingabe</translation>
+    </message>
+    <message>
+        <source>Names of results</source>
+        <translation>Namen der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>what a name begins with; PART is the same as for --name</source>
+        <translation>womit ein Name beginnt; PART ist wie bei --name</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
+        <translation>die Mitte eines Namens: original, der Name der Eingabe; number, number:START oder number:START:DIGITS; date und time, die der Aufnahme, ohne diese die der Datei; text:TEXT; nothing</translation>
+    </message>
+    <message>
+        <source>what a name ends with</source>
+        <translation>womit ein Name endet</translation>
+    </message>
+    <message>
+        <source>the text between prefix and middle</source>
+        <translation>der Text zwischen Präfix und Mitte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a prefix; add --prefix</source>
+        <translation>„%1“ bewirkt nichts ohne ein Präfix; --prefix anfügen</translation>
+    </message>
+    <message>
+        <source>the text between middle and suffix</source>
+        <translation>der Text zwischen Mitte und Suffix</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a suffix; add --suffix</source>
+        <translation>„%1“ bewirkt nichts ohne ein Suffix; --suffix anfügen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a size, and this option says which pictures change; use --size %2</source>
+        <translation>„%1“ ist eine Größe, diese Option sagt aber, welche Bilder sich ändern; --size %2 verwenden</translation>
+    </message>
+    <message>
+        <source>Size and crop</source>
+        <translation>Größe und Zuschnitt</translation>
+    </message>
+    <message>
+        <source>scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size</source>
+        <translation>skaliert Bilder auf eine Seitenlänge wie 1600, 50%, 8in, 20cm oder 200mm; none behält die Größe</translation>
+    </message>
+    <message>
+        <source>the side that --size sets</source>
+        <translation>die Seite, die --size bestimmt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a size; add --size</source>
+        <translation>„%1“ bewirkt nichts ohne eine Größe; --size anfügen</translation>
+    </message>
+    <message>
+        <source>which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, both; none</source>
+        <translation>welche Bilder --size ändert: reduce, nur größere (Standard); enlarge, nur kleinere; fit, beide; none</translation>
+    </message>
+    <message>
+        <source>dots per inch, for lengths in in, cm and mm; also written into results</source>
+        <translation>Punkte pro Zoll, für Längen in in, cm und mm; auch in Ergebnisse geschrieben</translation>
+    </message>
+    <message>
+        <source>none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; exact:800x600, that many pixels. in, cm and mm become pixels by --resolution</source>
+        <translation>none; trim, schneidet einen einfarbigen Rand ab; oder mit WIDTHxHEIGHT: ratio:3x2, der größte Ausschnitt in diesem Verhältnis, bei Hochformat hochkant, oder ratio:3x2!, nie gedreht; interesting:3x2, der auffälligste Ausschnitt in diesem Verhältnis; fill:800x600 oder fill:15x10cm, skaliert füllend und schneidet dann; exact:800x600, genau so viele Pixel. in, cm und mm werden durch --resolution zu Pixeln</translation>
+    </message>
+    <message>
+        <source>where ratio, fill and exact place the frame in the picture</source>
+        <translation>wo ratio, fill und exact den Ausschnitt im Bild ansetzen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without --crop ratio, fill or exact; add one of them</source>
+        <translation>„%1“ bewirkt nichts ohne --crop ratio, fill oder exact; eines davon anfügen</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; none removes the frame. Each of the options below adds a frame</source>
+        <translation>setzt Bilder auf einen Rahmen mit Rändern in Pixeln: eine Zahl für alle Seiten oder LEFT,TOP,RIGHT,BOTTOM; none entfernt den Rahmen. Jede der folgenden Optionen fügt einen Rahmen hinzu</translation>
+    </message>
+    <message>
+        <source>the size of the frame in pixels; picture: the size of each picture</source>
+        <translation>die Größe des Rahmens in Pixeln; picture: die Größe jedes Bildes</translation>
+    </message>
+    <message>
+        <source>turns the picture on its frame, clockwise</source>
+        <translation>dreht das Bild auf seinem Rahmen, im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>the opacity of the picture</source>
+        <translation>die Deckkraft des Bildes</translation>
+    </message>
+    <message>
+        <source>how the picture is laid over its background</source>
+        <translation>wie das Bild über seinen Hintergrund gelegt wird</translation>
+    </message>
+    <message>
+        <source>the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; image:FILE</source>
+        <translation>der Hintergrund des Rahmens: none; colour:#rrggbb; pattern:0 bis pattern:7, mit :PERCENT für den Maßstab; image:FILE</translation>
+    </message>
+    <message>
+        <source>the opacity of the background</source>
+        <translation>die Deckkraft des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a background; add --background</source>
+        <translation>„%1“ bewirkt nichts ohne einen Hintergrund; --background anfügen</translation>
+    </message>
+    <message>
+        <source>the shadow of the picture: drop; glow, around it; none</source>
+        <translation>der Schatten des Bildes: drop; glow, ringsum; none</translation>
+    </message>
+    <message>
+        <source>#rrggbb or a name</source>
+        <translation>#rrggbb oder ein Name</translation>
+    </message>
+    <message>
+        <source>the opacity of the shadow</source>
+        <translation>die Deckkraft des Schattens</translation>
+    </message>
+    <message>
+        <source>where the light comes from: 0 from the right, 90 from above</source>
+        <translation>woher das Licht kommt: 0 von rechts, 90 von oben</translation>
+    </message>
+    <message>
+        <source>how far the shadow lies from the picture</source>
+        <translation>wie weit der Schatten vom Bild entfernt liegt</translation>
+    </message>
+    <message>
+        <source>how soft the shadow is</source>
+        <translation>wie weich der Schatten ist</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effekte</translation>
+    </message>
+    <message>
+        <source>drops the effects of the saved job first</source>
+        <translation>verwirft zuerst die Effekte des gespeicherten Auftrags</translation>
+    </message>
+    <message>
+        <source>adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds the effect disabled. &quot;velkora-batch effects&quot; lists all effects</source>
+        <translation>fügt nach den Effekten des Auftrags einen Effekt hinzu, etwa blur:sigma=2. Auch NAME:{JSON} ist möglich; off:NAME fügt den Effekt abgeschaltet hinzu. „velkora-batch effects“ listet alle Effekte auf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or 200mm; &quot;none&quot; keeps the size</source>
+        <translation>„%1“ ist keine Länge über 0 und bis %2, wie 1600, 50%, 8in, 20cm oder 200mm; „none“ behält die Größe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; a size is one length, such as 1600 or 20.5cm</source>
+        <translation>„%1“ hat ein Komma; eine Größe ist eine einzige Länge wie 1600 oder 20.5cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point: type %2</source>
+        <translation>„%1“ hat ein Komma; Dezimalstellen stehen nach einem Punkt: %2 eingeben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma, which no number has: type %2 for that many pixels, %3cm for decimals, or --crop fill:%4 for a width and a height</source>
+        <translation>„%1“ hat ein Komma, das in keiner Zahl steht: %2 für so viele Pixel eingeben, %3cm für Dezimalstellen oder --crop fill:%4 für Breite und Höhe</translation>
+    </message>
+    <message>
+        <source>type %1 for that many pixels</source>
+        <translation>%1 für so viele Pixel eingeben</translation>
+    </message>
+    <message>
+        <source>type %1 for that</source>
+        <translation>dafür %1 eingeben</translation>
+    </message>
+    <message>
+        <source>type 1</source>
+        <translation>1 eingeben</translation>
+    </message>
+    <message>
+        <source>type 1px</source>
+        <translation>1px eingeben</translation>
+    </message>
+    <message>
+        <source>type %1 or %2</source>
+        <translation>%1 oder %2 eingeben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a width and a height, but a size is the length of one side: type one of them, with --side to say which, or --crop fill:%2 for exactly that</source>
+        <translation>„%1“ sind Breite und Höhe, eine Größe ist aber die Länge einer Seite: eine davon eingeben, dazu --side für die Seite, oder --crop fill:%2 für genau dieses Maß</translation>
+    </message>
+    <message>
+        <source>%1 (unit %2)</source>
+        <translation>%1 (Einheit %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form KEY=VALUE</source>
+        <translation>„%1“ hat nicht die Form KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>it takes no parameters, but &quot;%1&quot; is given</source>
+        <translation>er nimmt keine Parameter, aber „%1“ ist angegeben</translation>
+    </message>
+    <message>
+        <source>unknown effect &quot;%1&quot;; the effects are %2</source>
+        <translation>unbekannter Effekt „%1“; die Effekte sind %2</translation>
+    </message>
+    <message>
+        <source>effect %1</source>
+        <translation>Effekt %1</translation>
+    </message>
+    <message>
+        <source>format %1</source>
+        <translation>Format %1</translation>
+    </message>
+    <message>
+        <source>when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask</source>
+        <translation>wenn eine Datei fehlt, beschädigt, zu groß oder kein Bild ist: skip überspringt sie, stop beendet den Lauf, ask fragt</translation>
+    </message>
+    <message>
+        <source>when a result cannot be written, because of a full disk or missing rights: skip, stop or ask</source>
+        <translation>wenn ein Ergebnis nicht geschrieben werden kann, weil der Datenträger voll ist oder Rechte fehlen: skip, stop oder ask</translation>
+    </message>
+    <message>
+        <source>when an effect fails, or a picture takes too long or crashes its worker: skip, stop or ask</source>
+        <translation>wenn ein Effekt fehlschlägt, ein Bild zu lange dauert oder seinen Worker-Prozess abstürzen lässt: skip, stop oder ask</translation>
+    </message>
+    <message>
+        <source>when a result&apos;s name is taken, on disk, by another result or by a source: skip, overwrite, rename (&quot; (2)&quot; is appended) or ask</source>
+        <translation>wenn der Name eines Ergebnisses vergeben ist, auf dem Datenträger, durch ein anderes Ergebnis oder eine Quelle: skip, overwrite, rename (hängt „ (2)“ an) oder ask</translation>
+    </message>
+    <message>
+        <source>when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write the nearest format that can hold it</source>
+        <translation>wenn ein Bild nicht im gewünschten Format geschrieben werden kann: skip, stop, ask oder nearest für das nächstliegende Format, das es aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>Exceptions</source>
+        <translation>Ausnahmen</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them</source>
+        <translation>geht von einer Vorgabe aus; „velkora-batch presets“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)</source>
+        <translation>der Ordner mit BatchExceptionPolicy.ini (Standardregeln) und presets/ (eigene Vorgaben)</translation>
+    </message>
+    <message>
+        <source>starts from a saved job</source>
+        <translation>geht von einem gespeicherten Auftrag aus</translation>
+    </message>
+    <message>
+        <source>replaces an existing file</source>
+        <translation>ersetzt eine vorhandene Datei</translation>
+    </message>
+    <message>
+        <source>prints the list as JSON</source>
+        <translation>gibt die Liste als JSON aus</translation>
+    </message>
+    <message>
+        <source>lists the presets, saves the options as a preset, or removes one. A preset is a job without inputs that run, plan, show and create take by --preset NAME; a relative --output starts where it is run. Exit status: 1 when a preset cannot be used</source>
+        <translation>listet die Vorgaben auf, speichert die Optionen als Vorgabe oder entfernt eine. Eine Vorgabe ist ein Auftrag ohne Eingaben, den run, plan, show und create mit --preset NAME nehmen; ein relatives --output beginnt dort, wo sie ausgeführt wird. Exit-Status: 1, wenn eine Vorgabe nicht verwendbar ist</translation>
+    </message>
+    <message>
+        <source>%1 files have no quality; %2 have one</source>
+        <translation>%1-Dateien haben keine Qualität; eine haben %2</translation>
+    </message>
+    <message>
+        <source>the quality of results in formats that have one; the same as %1 %2=N</source>
+        <translation>die Qualität der Ergebnisse in Formaten, die eine haben; dasselbe wie %1 %2=N</translation>
+    </message>
+    <message>
+        <source>how many pictures are processed at a time; default: one for each core</source>
+        <translation>wie viele Bilder gleichzeitig verarbeitet werden; Standard: eines je Kern</translation>
+    </message>
+    <message>
+        <source>larger pictures are not read; default: 400</source>
+        <translation>größere Bilder werden nicht gelesen; Standard: 400</translation>
+    </message>
+    <message>
+        <source>memory that one picture may take; default: 2048</source>
+        <translation>Speicher, den ein Bild belegen darf; Standard: 2048</translation>
+    </message>
+    <message>
+        <source>time that one picture may take; default: 300</source>
+        <translation>Zeit, die ein Bild brauchen darf; Standard: 300</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>lets results replace their own originals. Without --output, results go to the folders of their originals. Without this option no original is ever replaced</source>
+        <translation>lässt Ergebnisse ihre eigenen Originale ersetzen. Ohne --output kommen Ergebnisse in die Ordner ihrer Originale. Ohne diese Option wird nie ein Original ersetzt</translation>
+    </message>
+    <message>
+        <source>ends with 0, not with 5, when there is no picture among the inputs</source>
+        <translation>endet mit 0 statt 5, wenn unter den Eingaben kein Bild ist</translation>
+    </message>
+    <message>
+        <source>prints what the run would write, as &quot;velkora-batch plan&quot; does, and writes nothing</source>
+        <translation>zeigt wie „velkora-batch plan“, was der Lauf schreiben würde, und schreibt nichts</translation>
+    </message>
+    <message>
+        <source>writes the result of every input to a file, as CSV or JSON by the extension of its name</source>
+        <translation>schreibt das Ergebnis jeder Eingabe in eine Datei, je nach Endung des Namens als CSV oder JSON</translation>
+    </message>
+    <message>
+        <source>resumes the run that was interrupted in the output folder, with its job and its policies</source>
+        <translation>setzt den Lauf fort, der im Ausgabeordner unterbrochen wurde, mit seinem Auftrag und seinen Regeln</translation>
+    </message>
+    <message>
+        <source>says which run to resume if several were interrupted; --resume lists their names</source>
+        <translation>sagt, welcher Lauf fortgesetzt wird, wenn mehrere unterbrochen wurden; --resume listet ihre Namen auf</translation>
+    </message>
+    <message>
+        <source>counts a picture with a warning as failed; its result is kept</source>
+        <translation>zählt ein Bild mit Warnung als fehlgeschlagen; sein Ergebnis bleibt</translation>
+    </message>
+    <message>
+        <source>prints each event of the run to standard output, as one line of JSON</source>
+        <translation>gibt jedes Ereignis des Laufs als JSON-Zeile auf der Standardausgabe aus</translation>
+    </message>
+    <message>
+        <source>lets results go through links to folders below the output folder; otherwise such a link is an error of output</source>
+        <translation>lässt Ergebnisse durch Links auf Ordner unterhalb des Ausgabeordners; sonst ist ein solcher Link ein Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from %2 to %3</source>
+        <translation>„%1“ ist keine Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from %2 to %3</source>
+        <translation>„%1“ ist keine ganze Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600</source>
+        <translation>„%1“ hat nicht die Form WIDTHxHEIGHT mit ganzen Zahlen von 1 bis %2, wie 800x600</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; &quot;none&quot; means no frame</source>
+        <translation>„%1“ ist weder eine Anzahl Pixel wie 40 noch LEFT,TOP,RIGHT,BOTTOM; „none“ bedeutet kein Rahmen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour; use #rrggbb or a name</source>
+        <translation>„%1“ ist keine Farbe; #rrggbb oder einen Namen verwenden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is incomplete; complete it as in %2</source>
+        <translation>„%1“ ist unvollständig; ergänzen wie in %2</translation>
+    </message>
+    <message>
+        <source>; write a text of your own as text:%1</source>
+        <translation>; eigener Text wird als text:%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no value</source>
+        <translation>„%1“ nimmt keinen Wert</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>„%1“ ist keines von %2</translation>
+    </message>
+    <message>
+        <source>argument %1 (%2) is not valid UTF-8</source>
+        <translation>Argument %1 (%2) ist kein gültiges UTF-8</translation>
+    </message>
+    <message>
+        <source>the inputs do not lie in one folder: use --in-place for one folder after the other, or name the folder of the results with --output</source>
+        <translation>die Eingaben liegen nicht in einem Ordner: --in-place für einen Ordner nach dem anderen verwenden oder den Ordner der Ergebnisse mit --output angeben</translation>
+    </message>
+    <message>
+        <source>the result of %1 would not go to the folder of its original; name the folder of the results with --output</source>
+        <translation>das Ergebnis von %1 käme nicht in den Ordner seines Originals; den Ordner der Ergebnisse mit --output angeben</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture</source>
+        <translation>%1 ist ein gespeicherter Auftrag und kein Bild</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture; it is left out.</source>
+        <translation>%1 ist ein gespeicherter Auftrag und kein Bild; die Datei wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>on standard input</source>
+        <translation>auf der Standardeingabe</translation>
+    </message>
+    <message>
+        <source>the list %1 cannot be read: %2</source>
+        <translation>die Liste %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>the list %1 is larger than %2 MiB; divide it</source>
+        <translation>die Liste %1 ist größer als %2 MiB; aufteilen</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and no name is that long</source>
+        <translation>er hat %1 Bytes, so lang ist kein Name</translation>
+    </message>
+    <message>
+        <source>it contains a NUL byte; use -0 for names that are separated by NUL</source>
+        <translation>er enthält ein NUL-Byte; -0 für Namen verwenden, die durch NUL getrennt sind</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid UTF-8; rename it to use it</source>
+        <translation>„%1“ ist kein gültiges UTF-8; zur Verwendung umbenennen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job cannot hold</source>
+        <translation>„%1“ enthält ein Zeichen, das ein Auftrag nicht aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>it contains line ends; names in lines are read without -0</source>
+        <translation>er enthält Zeilenenden; Namen in Zeilen werden ohne -0 gelesen</translation>
+    </message>
+    <message>
+        <source>%1, name %2</source>
+        <translation>%1, Name %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link</source>
+        <translation>%1, Zeile %2: %3 ist ein Link ohne Ziel</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist</source>
+        <translation>%1, Zeile %2: %3 existiert nicht</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link</source>
+        <translation>%1, Name %2: %3 ist ein Link ohne Ziel</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist</source>
+        <translation>%1, Name %2: %3 existiert nicht</translation>
+    </message>
+    <message>
+        <source>the list %1 is UTF-16 text; save it as UTF-8</source>
+        <translation>die Liste %1 ist UTF-16-Text; als UTF-8 speichern</translation>
+    </message>
+    <message>
+        <source>%1 runs were interrupted in %2</source>
+        <translation>in %2 wurden %1 Läufe unterbrochen</translation>
+    </message>
+    <message>
+        <source>no run in %1 is called &quot;%2&quot;</source>
+        <translation>kein Lauf in %1 heißt „%2“</translation>
+    </message>
+    <message>
+        <source>%1  %2 is damaged</source>
+        <translation>%1  %2 ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of 1 picture  %4</source>
+        <translation>%1  %2  %3 von 1 Bild  %4</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of %4 pictures  %5</source>
+        <translation>%1  %2  %3 von %4 Bildern  %5</translation>
+    </message>
+    <message>
+        <source>%1, line %2: this version does not know %3, and ignores it.</source>
+        <translation>%1, Zeile %2: diese Version kennt %3 nicht und ignoriert es.</translation>
+    </message>
+    <message>
+        <source>%1: this version does not know %2 other elements and attributes, and ignores them.</source>
+        <translation>%1: diese Version kennt %2 weitere Elemente und Attribute nicht und ignoriert sie.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a path, but the name of a preset is needed</source>
+        <translation>„%1“ ist ein Pfad, nötig ist aber der Name einer Vorgabe</translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;</source>
+        <translation>die Vorgabe „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the name of the preset is empty</source>
+        <translation>der Name der Vorgabe ist leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a dot, which the name of a preset must not</source>
+        <translation>„%1“ beginnt mit einem Punkt, was beim Namen einer Vorgabe nicht erlaubt ist</translation>
+    </message>
+    <message>
+        <source>the name of a preset has no extension: use &quot;%1&quot;</source>
+        <translation>der Name einer Vorgabe hat keine Endung: „%1“ verwenden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a file on every system; &quot;%2&quot; would be one</source>
+        <translation>„%1“ ist nicht auf jedem System ein Dateiname; „%2“ wäre einer</translation>
+    </message>
+    <message>
+        <source>the name of the preset is longer than %1 bytes</source>
+        <translation>der Name der Vorgabe ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the preset %1</source>
+        <translation>die Vorgabe %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>the preset %1 comes with the program and cannot be removed; a preset of yours with that name is used instead of it</source>
+        <translation>die Vorgabe %1 gehört zum Programm und kann nicht entfernt werden; eine eigene Vorgabe dieses Namens hat Vorrang</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>%1 kann nicht entfernt werden: %2</translation>
+    </message>
+    <message>
+        <source>Archive: TIFF without loss, with all metadata and the time of the file</source>
+        <translation>Archiv: TIFF ohne Verlust, mit allen Metadaten und der Zeit der Datei</translation>
+    </message>
+    <message>
+        <source>Mail: small JPEG of at most 1024 pixels, sRGB, with creator and rights</source>
+        <translation>E-Mail: kleines JPEG mit höchstens 1024 Pixeln, sRGB, mit Urheber und Rechten</translation>
+    </message>
+    <message>
+        <source>Print: 15 cm long at 300 dpi, with a white border of 5 mm</source>
+        <translation>Druck: 15 cm lang bei 300 dpi, mit weißem Rand von 5 mm</translation>
+    </message>
+    <message>
+        <source>Thumbnails: squares of 256 pixels, JPEG without metadata</source>
+        <translation>Miniaturen: Quadrate von 256 Pixeln, JPEG ohne Metadaten</translation>
+    </message>
+    <message>
+        <source>Web: JPEG of at most 1600 pixels, sRGB, with creator and rights</source>
+        <translation>Web: JPEG mit höchstens 1600 Pixeln, sRGB, mit Urheber und Rechten</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be written: %2.</source>
+        <translation>Das Journal %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>the braces of a wildcard are nested too deeply</source>
+        <translation>die Klammern eines Platzhalters sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>a wildcard is longer than %1 characters: %2...</source>
+        <translation>ein Platzhalter ist länger als %1 Zeichen: %2...</translation>
+    </message>
+    <message>
+        <source>the wildcard &quot;%1&quot; is invalid: %2</source>
+        <translation>der Platzhalter „%1“ ist ungültig: %2</translation>
+    </message>
+    <message>
+        <source>the braces in &quot;%1&quot; stand for more than %2 names</source>
+        <translation>die Klammern in „%1“ stehen für mehr als %2 Namen</translation>
+    </message>
+    <message>
+        <source>%1 matches no file</source>
+        <translation>%1 trifft auf keine Datei zu</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>der Name ist leer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixel, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>„%1“ bedeutet %2 Pixel, denn ein Punkt leitet Dezimalstellen ein, Pixel sind aber ganze Zahlen: %3, oder mit einer Einheit wie in %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>„%1“ bedeutet %2 Pixel, denn ein Punkt leitet Dezimalstellen ein, Pixel sind aber ganze Zahlen: %3, oder mit einer Einheit wie in %4cm</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, Name %2: %3 ist ein Link ohne Ziel (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, Name %2: %3 existiert nicht (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, Zeile %2: %3 ist ein Link ohne Ziel (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, Zeile %2: %3 existiert nicht (und %4 weitere)</translation>
+    </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>Start-Tag erwartet.</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>Start- und End-Tag passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>Vorzeitiges Ende des Dokuments.</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>Überzähliger Inhalt am Ende des Dokuments.</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>%1 erwartet, aber ‚%2‘ gefunden.</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>Bereich in einer Zeichenklasse in falscher Reihenfolge</translation>
     </message>
 </context>
 </TS>

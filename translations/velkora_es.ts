@@ -103,6 +103,274 @@
         <source>and %1 more; use --report FILE for all</source>
         <translation>y %1 más; use --report FILE para verlas todas</translation>
     </message>
+    <message>
+        <source>required</source>
+        <translation>obligatorio</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>opcional</translation>
+    </message>
+    <message>
+        <source>default %1</source>
+        <translation>valor predeterminado %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels</source>
+        <translation>%1 bits por canal; transparencia: %2; CMYK: %3; lado más largo: %4 píxeles</translation>
+    </message>
+    <message>
+        <source>Files that can be read: %1</source>
+        <translation>Archivos que se pueden leer: %1</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures; give them to run or plan, after the job.</source>
+        <translation>%1: un trabajo sin imágenes; se indican a run o plan, después del trabajo.</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures and output folder; give them to run or plan.</source>
+        <translation>%1: un trabajo sin imágenes ni carpeta de salida; se indican a run o plan.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture.</source>
+        <translation>%1: un trabajo de 1 imagen.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture, without an output folder; give --output to run or plan.</source>
+        <translation>%1: un trabajo de 1 imagen, sin carpeta de salida; indique --output a run o plan.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures.</source>
+        <translation>%1: un trabajo de %2 imágenes.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures, without an output folder; give --output to run or plan.</source>
+        <translation>%1: un trabajo de %2 imágenes, sin carpeta de salida; indique --output a run o plan.</translation>
+    </message>
+    <message>
+        <source>Looking at pictures: %1 of %2</source>
+        <translation>Examinando imágenes: %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it begins like a %2 file, but its extension is not known.</source>
+        <translation>%1 se deja fuera: empieza como un archivo %2, pero su extensión es desconocida.</translation>
+    </message>
+    <message>
+        <source>Folders read: %1, pictures found: %2, now in %3</source>
+        <translation>Carpetas leídas: %1, imágenes encontradas: %2, ahora en %3</translation>
+    </message>
+    <message>
+        <source>1 picture</source>
+        <translation>1 imagen</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>%1 imágenes</translation>
+    </message>
+    <message>
+        <source>Inputs: %1</source>
+        <translation>Entradas: %1</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Planning %1 files</source>
+        <translation>Planificando %1 archivos</translation>
+    </message>
+    <message>
+        <source>replaces the original</source>
+        <translation>reemplaza el original</translation>
+    </message>
+    <message>
+        <source>sizes in pixels are not known: %1.</source>
+        <translation>no se conocen los tamaños en píxeles: %1.</translation>
+    </message>
+    <message>
+        <source>%1 file: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 archivo: %2 sin problemas, %3 entre corchetes. No se ha escrito nada.</translation>
+    </message>
+    <message>
+        <source>%1 files: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 archivos: %2 sin problemas, %3 entre corchetes. No se ha escrito nada.</translation>
+    </message>
+    <message>
+        <source>comes along</source>
+        <translation>incluido</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>propio</translation>
+    </message>
+    <message>
+        <source>the preset %1 in %2 cannot be used: %3</source>
+        <translation>el ajuste %1 en %2 no se puede usar: %3</translation>
+    </message>
+    <message>
+        <source>%1: the preset %2.</source>
+        <translation>%1: el ajuste %2.</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1.</source>
+        <translation>no se puede escribir en la salida estándar: %1.</translation>
+    </message>
+    <message>
+        <source>%1: name files, or folders with pictures that can be read</source>
+        <translation>%1: indique archivos o carpetas con imágenes que se puedan leer</translation>
+    </message>
+    <message>
+        <source>%1: use --output DIR</source>
+        <translation>%1: use --output DIR</translation>
+    </message>
+    <message>
+        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
+        <translation>%1. Solo se admite un trabajo guardado: como primer argumento de run, plan y show, o en create con --from</translation>
+    </message>
+    <message>
+        <source>%1; use --force to replace it</source>
+        <translation>%1; use --force para reemplazarlo</translation>
+    </message>
+    <message>
+        <source>%1. Use --resume with --output alone to resume that run, or run this job without --resume</source>
+        <translation>%1. Use --resume solo con --output para reanudar esa ejecución, o ejecute este trabajo sin --resume</translation>
+    </message>
+    <message>
+        <source>%1; use --resume --run NAME with one of these names</source>
+        <translation>%1; use --resume --run NAME con uno de estos nombres</translation>
+    </message>
+    <message>
+        <source>an earlier run of this job was interrupted; this run starts anew. Use --resume to continue an interrupted run.</source>
+        <translation>una ejecución anterior de este trabajo se interrumpió; esta empieza de nuevo. Use --resume para continuar una ejecución interrumpida.</translation>
+    </message>
+    <message>
+        <source>1 other run was interrupted in %1; it can still be resumed: %2</source>
+        <translation>1 ejecución más se interrumpió en %1; aún se puede reanudar: %2</translation>
+    </message>
+    <message>
+        <source>%3 other runs were interrupted in %1; they can still be resumed: %2</source>
+        <translation>%3 ejecuciones más se interrumpieron en %1; aún se pueden reanudar: %2</translation>
+    </message>
+    <message>
+        <source>should it be interrupted, the run cannot be resumed: %1.</source>
+        <translation>si se interrumpe, la ejecución no se podrá reanudar: %1.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
+        <translation>no se puede crear una carpeta temporal: %1. Asigne a TMPDIR otra carpeta.</translation>
+    </message>
+    <message>
+        <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
+        <translation>hay otro servidor de lotes en marcha, y este sistema solo tiene un canal para él; inténtelo de nuevo cuando termine esa ejecución.</translation>
+    </message>
+    <message>
+        <source>To resume: %1</source>
+        <translation>Para reanudar: %1</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: 1 picture was left out.</source>
+        <translation>sin un terminal no se pudo preguntar a nadie: se omitió 1 imagen.</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: %1 pictures were left out.</source>
+        <translation>sin un terminal no se pudo preguntar a nadie: se omitieron %1 imágenes.</translation>
+    </message>
+    <message>
+        <source>%1 decides such cases.</source>
+        <translation>%1 decide estos casos.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 decide such cases.</source>
+        <translation>%1 y %2 deciden estos casos.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because other sources of the job have such names.</source>
+        <translation>Se cambió el nombre de 1 resultado, porque otros originales del trabajo se llaman así.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because other sources of the job have such names.</source>
+        <translation>Se cambió el nombre de %1 resultados, porque otros originales del trabajo se llaman así.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>Se cambió el nombre de 1 resultado, porque un original se llama así; --in-place reemplaza los originales.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>Se cambió el nombre de %1 resultados, porque hay originales que se llaman así; --in-place reemplaza los originales.</translation>
+    </message>
+    <message>
+        <source>no worker can be started; VelkoraBatchWorker belongs beside %1.</source>
+        <translation>no se puede iniciar ningún proceso de trabajo; VelkoraBatchWorker debe estar junto a %1.</translation>
+    </message>
+    <message>
+        <source>No picture was processed. --structure input keeps the folders of the inputs, --on-name-exists rename numbers such names, and another --name, --prefix or --suffix tells them apart.</source>
+        <translation>No se procesó ninguna imagen. --structure input conserva las carpetas de las entradas, --on-name-exists rename numera esos nombres, y otro --name, --prefix o --suffix los distingue.</translation>
+    </message>
+    <message>
+        <source>the server ended before it had processed anything; see its messages above.</source>
+        <translation>el servidor terminó antes de procesar nada; vea sus mensajes más arriba.</translation>
+    </message>
+    <message>
+        <source>the server cannot be started; VelkoraBatchProcessing belongs beside %1.</source>
+        <translation>no se puede iniciar el servidor; VelkoraBatchProcessing debe estar junto a %1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Órdenes</translation>
+    </message>
+    <message>
+        <source>More: velkora-batch --help, or velkora-batch help COMMAND</source>
+        <translation>Más: velkora-batch --help o velkora-batch help COMMAND</translation>
+    </message>
+    <message>
+        <source>velkora-batch %1.</source>
+        <translation>velkora-batch %1.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>prints this text; after a command, the help of that command</source>
+        <translation>muestra este texto; después de una orden, la ayuda de esa orden</translation>
+    </message>
+    <message>
+        <source>prints the version; with --verbose, also how this system confines the processes that read pictures</source>
+        <translation>muestra la versión; con --verbose, también cómo limita este sistema los procesos que leen imágenes</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Ejemplos</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1. Values: %2</source>
+        <translation>%1. Valores: %2</translation>
+    </message>
+    <message>
+        <source>%1. May be given several times</source>
+        <translation>%1. Se puede indicar varias veces</translation>
+    </message>
+    <message>
+        <source>(%1 bytes in the job)</source>
+        <translation>(%1 bytes en el trabajo)</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -1383,10 +1651,6 @@
         <translation>la ejecución interrumpida en %1 es de otro trabajo: difieren sus entradas, opciones o archivos</translation>
     </message>
     <message>
-        <source>%1 runs were interrupted in %2, none of them of this job</source>
-        <translation>se interrumpieron %1 ejecuciones en %2, ninguna de este trabajo</translation>
-    </message>
-    <message>
         <source>%1 is damaged; remove it to start the run anew</source>
         <translation>%1 está dañado; elimínelo para empezar la ejecución de nuevo</translation>
     </message>
@@ -1428,7 +1692,7 @@
     </message>
     <message>
         <source>no output folder</source>
-        <translation>falta la carpeta de salida</translation>
+        <translation>no hay carpeta de salida</translation>
     </message>
     <message>
         <source>no pictures</source>
@@ -1771,10 +2035,6 @@
         <translation>bits</translation>
     </message>
     <message>
-        <source>which metadata is kept</source>
-        <translation>qué metadatos se conservan</translation>
-    </message>
-    <message>
         <source>colour under transparency that the format cannot hold</source>
         <translation>color bajo la transparencia que el formato no admite</translation>
     </message>
@@ -1785,6 +2045,1154 @@
     <message>
         <source>keep every pixel that can be seen</source>
         <translation>conservar cada píxel visible</translation>
+    </message>
+    <message>
+        <source>which metadata is kept; copyright is creator and rights from all of it</source>
+        <translation>qué metadatos se conservan; copyright es el autor y los derechos de todos ellos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; would both be &quot;%3&quot;</source>
+        <translation>«%1» y «%2» serían ambos «%3»</translation>
+    </message>
+    <message>
+        <source>and so on</source>
+        <translation>etcétera</translation>
+    </message>
+    <message>
+        <source>1 result would get the name of another</source>
+        <translation>1 resultado recibiría el nombre de otro</translation>
+    </message>
+    <message>
+        <source>%1 results would get the names of others</source>
+        <translation>%1 resultados recibirían los nombres de otros</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>el atributo «%1» de «%2»</translation>
+    </message>
+    <message>
+        <source>the element &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>el elemento «%1» en «%2»</translation>
+    </message>
+    <message>
+        <source>a colour: #rrggbb, #rrggbbaa, or a name such as white</source>
+        <translation>un color: #rrggbb, #rrggbbaa o un nombre como white</translation>
+    </message>
+    <message>
+        <source>%1, joined with +, or none</source>
+        <translation>%1, unidos con +, o none</translation>
+    </message>
+    <message>
+        <source>2 to %1 points x:y with ascending x, joined with +, numbers %2</source>
+        <translation>de 2 a %1 puntos x:y con x ascendente, unidos con +, números %2</translation>
+    </message>
+    <message>
+        <source>workers: not confined on this system</source>
+        <translation>procesos de trabajo: sin restricciones en este sistema</translation>
+    </message>
+    <message>
+        <source>files of workers: not restricted, as the kernel has no Landlock</source>
+        <translation>archivos de los procesos de trabajo: sin restricciones, pues el núcleo no tiene Landlock</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, with scopes for signals and sockets</source>
+        <translation>archivos de los procesos de trabajo: los del trabajo, mediante Landlock %1, con ámbitos para señales y sockets</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, without scopes for signals and sockets</source>
+        <translation>archivos de los procesos de trabajo: los del trabajo, mediante Landlock %1, sin ámbitos para señales y sockets</translation>
+    </message>
+    <message>
+        <source>system calls of workers: a list of allowed ones, by seccomp</source>
+        <translation>llamadas al sistema de los procesos de trabajo: una lista de permitidas, mediante seccomp</translation>
+    </message>
+    <message>
+        <source>system calls of workers: not restricted, as the kernel has no seccomp</source>
+        <translation>llamadas al sistema de los procesos de trabajo: sin restricciones, pues el núcleo no tiene seccomp</translation>
+    </message>
+    <message>
+        <source>memory of the supervisor: closed to other processes of the user (not dumpable)</source>
+        <translation>memoria del supervisor: cerrada a otros procesos del usuario (no volcable)</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2, which is not kept; keep=copyright keeps it</source>
+        <translation>el aviso de copyright «%1» solo está en %2, que no se conserva; keep=copyright lo conserva</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2 and %3, which are not kept; keep=copyright keeps it</source>
+        <translation>el aviso de copyright «%1» solo está en %2 y %3, que no se conservan; keep=copyright lo conserva</translation>
+    </message>
+    <message>
+        <source>the format of each input</source>
+        <translation>el formato de cada entrada</translation>
+    </message>
+    <message>
+        <source>--dry-run and %1 cannot be combined; remove one of them</source>
+        <translation>--dry-run y %1 no se pueden combinar; quite uno de los dos</translation>
+    </message>
+    <message>
+        <source>%1 and --preset exclude each other: give one of them to start from</source>
+        <translation>%1 y --preset se excluyen: indique solo uno como punto de partida</translation>
+    </message>
+    <message>
+        <source>no file name for the job: velkora-batch create JOB.xml INPUT...</source>
+        <translation>falta el nombre de archivo del trabajo: velkora-batch create JOB.xml INPUT...</translation>
+    </message>
+    <message>
+        <source>the first argument must be the file of the job, with a name that ends with .xml, but is &quot;%1&quot;</source>
+        <translation>el primer argumento debe ser el archivo del trabajo, con un nombre terminado en .xml, pero es «%1»</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;-&quot;; to read names from standard input, use --files-from -</source>
+        <translation>no existe el archivo «-»; para leer nombres de la entrada estándar, use --files-from -</translation>
+    </message>
+    <message>
+        <source>--null needs %1</source>
+        <translation>--null requiere %1</translation>
+    </message>
+    <message>
+        <source>%1 -: standard input is a terminal; pipe a list into it, or name a file</source>
+        <translation>%1 -: la entrada estándar es un terminal; envíele una lista o indique un archivo</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --in-place without --output: results go to the folders of their originals</source>
+        <translation>%1 no se puede usar con --in-place sin --output: los resultados van a las carpetas de sus originales</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 matches nothing</source>
+        <translation>no hay imágenes: %1 no coincide con nada</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 and %2 match nothing</source>
+        <translation>no hay imágenes: %1 y %2 no coinciden con nada</translation>
+    </message>
+    <message>
+        <source>no inputs</source>
+        <translation>no hay entradas</translation>
+    </message>
+    <message>
+        <source>%1 is not for &quot;presets %2&quot;, but for &quot;presets %3&quot;</source>
+        <translation>%1 no es de «presets %2», sino de «presets %3»</translation>
+    </message>
+    <message>
+        <source>the name of the preset is missing: velkora-batch presets %1 NAME</source>
+        <translation>falta el nombre del ajuste: velkora-batch presets %1 NAME</translation>
+    </message>
+    <message>
+        <source>a preset has no inputs, but &quot;%1&quot; is given behind its name</source>
+        <translation>un ajuste no tiene entradas, pero tras su nombre se indica «%1»</translation>
+    </message>
+    <message>
+        <source>one preset at a time, but &quot;%1&quot; is given behind its name</source>
+        <translation>un solo ajuste cada vez, pero tras su nombre se indica «%1»</translation>
+    </message>
+    <message>
+        <source>list takes no name, but &quot;%1&quot; is given; &quot;velkora-batch show --preset NAME&quot; prints a preset</source>
+        <translation>list no admite nombres, pero se indica «%1»; «velkora-batch show --preset NAME» muestra un ajuste</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 requiere --resume</translation>
+    </message>
+    <message>
+        <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
+        <translation>%1/BatchExceptionPolicy.ini contiene el valor %2, que no es válido; use %3 en su lugar</translation>
+    </message>
+    <message>
+        <source>unknown option %1; %2</source>
+        <translation>opción desconocida %1; %2</translation>
+    </message>
+    <message>
+        <source>it is an option of %1; &quot;velkora-batch %2 --help&quot; lists the options</source>
+        <translation>es una opción de %1; «velkora-batch %2 --help» muestra las opciones</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch %1 --help&quot; lists the options</source>
+        <translation>«velkora-batch %1 --help» muestra las opciones</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>¿quiso decir «%1»?</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 es una carpeta, no una orden; ¿quiso decir «velkora-batch run %1»?</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 es un archivo, no una orden; ¿quiso decir «velkora-batch run %1»?</translation>
+    </message>
+    <message>
+        <source>%1 is no command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 no es una orden; ¿quiso decir «velkora-batch run %1»?</translation>
+    </message>
+    <message>
+        <source>unknown command &quot;%1&quot;; did you mean &quot;velkora-batch %2&quot;?</source>
+        <translation>orden desconocida «%1»; ¿quiso decir «velkora-batch %2»?</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>orden desconocida: %1</translation>
+    </message>
+    <message>
+        <source>no command: use one of %1, or &quot;velkora-batch --help&quot;</source>
+        <translation>falta la orden: use una de %1, o «velkora-batch --help»</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed before the command, only %2</source>
+        <translation>%1 no se admite antes de la orden, solo %2</translation>
+    </message>
+    <message>
+        <source>help takes one command, but got %1</source>
+        <translation>help admite una orden, pero recibió %1</translation>
+    </message>
+    <message>
+        <source>argument %1, &quot;%2&quot;, contains a character that a job cannot hold</source>
+        <translation>el argumento %1, «%2», contiene un carácter que un trabajo no puede guardar</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and takes no value; type %1 alone, or leave it out</source>
+        <translation>%1 es un interruptor y no admite valor; escriba solo %1, u omítalo</translation>
+    </message>
+    <message>
+        <source>an input of %1 has an empty name</source>
+        <translation>una entrada de %1 tiene el nombre vacío</translation>
+    </message>
+    <message>
+        <source>%1 is given %2 times, but takes one value; remove &quot;%3&quot; or &quot;%4&quot;</source>
+        <translation>%1 se indica %2 veces, pero admite un solo valor; quite «%3» o «%4»</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation>%1: falta el valor %2</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>drops the inputs of the saved job first</source>
+        <translation>descarta primero las entradas del trabajo guardado</translation>
+    </message>
+    <message>
+        <source>also takes the files and folders that a file names, one a line, or standard input for &quot;-&quot;. Relative names start at the current folder</source>
+        <translation>toma también los archivos y carpetas que nombra un archivo, uno por línea; «-» es la entrada estándar. Los nombres relativos parten de la carpeta actual</translation>
+    </message>
+    <message>
+        <source>the names of --files-from are separated by NUL, not by line ends</source>
+        <translation>los nombres de --files-from están separados por NUL, no por finales de línea</translation>
+    </message>
+    <message>
+        <source>takes only files whose names match, such as &quot;*.{nef,cr2}&quot;, or whose paths in the given folders match, such as &quot;2024/**/*.jpg&quot;; default: all that can be read. Files that are given by name are always taken</source>
+        <translation>toma solo archivos cuyo nombre coincide, como «*.{nef,cr2}», o cuya ruta en las carpetas indicadas coincide, como «2024/**/*.jpg»; valor predeterminado: todos los que se pueden leer. Los archivos indicados por su nombre se toman siempre</translation>
+    </message>
+    <message>
+        <source>leaves out files and folders whose names or paths match, inside the given folders</source>
+        <translation>deja fuera, en las carpetas indicadas, los archivos y carpetas cuyo nombre o ruta coincide</translation>
+    </message>
+    <message>
+        <source>leaves out folders inside folders</source>
+        <translation>deja fuera las subcarpetas</translation>
+    </message>
+    <message>
+        <source>includes files and folders whose names begin with a dot</source>
+        <translation>incluye archivos y carpetas cuyo nombre empieza por un punto</translation>
+    </message>
+    <message>
+        <source>the order of the pictures, which numbers in names follow: taken, by capture time, and by the file&apos;s own time where there is none; name, folder by folder; given, as the command line names them. The default is name, or the order of the saved job</source>
+        <translation>el orden de las imágenes, que siguen los números de los nombres: taken, por la hora de la toma, y si no la hay, por la del archivo; name, carpeta por carpeta; given, como en la línea de órdenes. El valor predeterminado es name, o el orden del trabajo guardado</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>prints problems only</source>
+        <translation>muestra solo los problemas</translation>
+    </message>
+    <message>
+        <source>also prints details for finding faults</source>
+        <translation>muestra también detalles para buscar fallos</translation>
+    </message>
+    <message>
+        <source>prints this text</source>
+        <translation>muestra este texto</translation>
+    </message>
+    <message>
+        <source>prints the help of a command</source>
+        <translation>muestra la ayuda de una orden</translation>
+    </message>
+    <message>
+        <source>prints JSON</source>
+        <translation>muestra JSON</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>procesa un trabajo guardado, archivos y carpetas, o ambas cosas; las opciones prevalecen sobre el trabajo. Código de salida: 0 si todas las imágenes se escribieron o se omitieron por una regla indicada en una opción; 1 si alguna falló o se omitió por otra causa; 2 si los argumentos o el trabajo son incorrectos; 3 si el servidor no se pudo iniciar o se perdió; 4 si la ejecución se canceló; 5 si no hay ninguna imagen entre las entradas; 6 si esta ejecución ya está en marcha; 7 si no hay nada que reanudar</translation>
+    </message>
+    <message>
+        <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
+        <translation>escribe un trabajo con estas entradas y opciones en un archivo, o en la salida estándar con «-»</translation>
+    </message>
+    <message>
+        <source>prints a job: its inputs as a tree, its effects, and its output in the words of the options</source>
+        <translation>muestra un trabajo: sus entradas en árbol, sus efectos y su salida en las palabras de las opciones</translation>
+    </message>
+    <message>
+        <source>prints every input with its output and its size in pixels, and writes nothing. A problem is printed in brackets, with what the policy would do about it. Exit status: 1 when there are problems</source>
+        <translation>muestra cada entrada con su salida y su tamaño en píxeles, y no escribe nada. Un problema se muestra entre corchetes, con lo que la regla haría. Código de salida: 1 si hay problemas</translation>
+    </message>
+    <message>
+        <source>does not look at every picture for its size in pixels, which takes time for many</source>
+        <translation>no examina cada imagen para conocer su tamaño en píxeles, lo que tarda si son muchas</translation>
+    </message>
+    <message>
+        <source>prints one JSON object for each input</source>
+        <translation>muestra un objeto JSON por entrada</translation>
+    </message>
+    <message>
+        <source>lists the effects with their parameters</source>
+        <translation>muestra los efectos con sus parámetros</translation>
+    </message>
+    <message>
+        <source>lists the output formats with their options, and the files that can be read</source>
+        <translation>muestra los formatos de salida con sus opciones, y los archivos que se pueden leer</translation>
+    </message>
+    <message>
+        <source>%1 and %2 contradict each other; remove one of them</source>
+        <translation>%1 y %2 se contradicen; quite uno de los dos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm or 6x4in</source>
+        <translation>«%1» no tiene la forma WIDTHxHEIGHT con una unidad opcional, como 800x600, 15x10cm o 6x4in</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers, such as %3; or add a unit, as in %4cm</source>
+        <translation>«%1» significa %2 píxeles, porque el punto separa los decimales, pero los píxeles se cuentan en números enteros, como %3; o añada una unidad, como en %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large; each side must be from 1 to %2 pixels</source>
+        <translation>«%1» es demasiado grande; cada lado debe tener de 1 a %2 píxeles</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a resolution; add --resolution, as in --resolution 300</source>
+        <translation>«%1» requiere una resolución; añada --resolution, como en --resolution 300</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 pixels at %3 dots per inch; each side must be from 1 to %4</source>
+        <translation>«%1» son %2 píxeles a %3 puntos por pulgada; cada lado debe tener de 1 a %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 x %3 pixels, but the size is %4: type %5 for the unit of the size, or %6 for pixels</source>
+        <translation>«%1» son %2 x %3 píxeles, pero el tamaño es %4: escriba %5 para la unidad del tamaño, o %6 para píxeles</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; needs a size, such as %1:3x2%2</source>
+        <translation>«%1:%2» requiere un tamaño, como %1:3x2%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for that size</source>
+        <translation>«%1:%2» tiene una unidad, pero una proporción no la tiene: escriba %1:%3, o fill:%2 para ese tamaño</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with &quot;!&quot;, but only ratio and interesting turn with the picture; remove the &quot;!&quot;</source>
+        <translation>«%1» termina en «!», pero solo ratio e interesting giran con la imagen; quite el «!»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point, as in %2</source>
+        <translation>«%1» tiene una coma; los decimales se escriben con punto, como en %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no size</source>
+        <translation>«%1» no admite tamaño</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a size, such as %1:3x2</source>
+        <translation>«%1» requiere un tamaño, como %1:3x2</translation>
+    </message>
+    <message>
+        <source>Pictures for the web, at most 1600 pixels long</source>
+        <translation>Imágenes para la web, de 1600 píxeles de largo como máximo</translation>
+    </message>
+    <message>
+        <source>Names by capture date, in a folder for each day</source>
+        <translation>Nombres por fecha de la toma, una carpeta por día</translation>
+    </message>
+    <message>
+        <source>A saved job over other pictures</source>
+        <translation>Un trabajo guardado sobre otras imágenes</translation>
+    </message>
+    <message>
+        <source>Files that another program lists</source>
+        <translation>Archivos que enumera otro programa</translation>
+    </message>
+    <message>
+        <source>Camera RAW files in all subfolders</source>
+        <translation>Archivos RAW de cámara en todas las subcarpetas</translation>
+    </message>
+    <message>
+        <source>What would be written</source>
+        <translation>Lo que se escribiría</translation>
+    </message>
+    <message>
+        <source>A preset over other pictures</source>
+        <translation>Un ajuste sobre otras imágenes</translation>
+    </message>
+    <message>
+        <source>A run that was interrupted</source>
+        <translation>Una ejecución interrumpida</translation>
+    </message>
+    <message>
+        <source>A job for pictures to come</source>
+        <translation>Un trabajo para imágenes futuras</translation>
+    </message>
+    <message>
+        <source>A job with one value changed</source>
+        <translation>Un trabajo con un valor cambiado</translation>
+    </message>
+    <message>
+        <source>A saved job, in the words of the options</source>
+        <translation>Un trabajo guardado, en las palabras de las opciones</translation>
+    </message>
+    <message>
+        <source>Every result&apos;s name, and what is in the way</source>
+        <translation>El nombre de cada resultado, y lo que lo impide</translation>
+    </message>
+    <message>
+        <source>The same for programs</source>
+        <translation>Lo mismo para programas</translation>
+    </message>
+    <message>
+        <source>One effect with its parameters</source>
+        <translation>Un efecto con sus parámetros</translation>
+    </message>
+    <message>
+        <source>One format with its options</source>
+        <translation>Un formato con sus opciones</translation>
+    </message>
+    <message>
+        <source>folders are always read with their subfolders, so leave it out</source>
+        <translation>las carpetas siempre se leen con sus subcarpetas, así que omítala</translation>
+    </message>
+    <message>
+        <source>name files and folders without an option</source>
+        <translation>indique archivos y carpetas sin opción</translation>
+    </message>
+    <message>
+        <source>use --files-from FILE, or --files-from -</source>
+        <translation>use --files-from FILE o --files-from -</translation>
+    </message>
+    <message>
+        <source>use --hidden for files and folders whose names begin with a dot</source>
+        <translation>use --hidden para archivos y carpetas cuyo nombre empieza por un punto</translation>
+    </message>
+    <message>
+        <source>use --quality N, or --format-option compression=WORD or compressionLevel=N</source>
+        <translation>use --quality N, o --format-option compression=WORD o compressionLevel=N</translation>
+    </message>
+    <message>
+        <source>metadata is kept unless --format-option keep=WORD+WORD says which</source>
+        <translation>los metadatos se conservan, salvo que --format-option keep=WORD+WORD diga cuáles</translation>
+    </message>
+    <message>
+        <source>use --size %1, with % for a percentage</source>
+        <translation>use --size %1, con % para un porcentaje</translation>
+    </message>
+    <message>
+        <source>pictures are always turned upright, so leave it out</source>
+        <translation>las imágenes siempre se enderezan, así que omítala</translation>
+    </message>
+    <message>
+        <source>use --effect watermark-text:text=TEXT or --effect watermark-image:file=FILE</source>
+        <translation>use --effect watermark-text:text=TEXT o --effect watermark-image:file=FILE</translation>
+    </message>
+    <message>
+        <source>use --name, --prefix and --suffix, or --on-name-exists rename for names that are taken</source>
+        <translation>use --name, --prefix y --suffix, o --on-name-exists rename para nombres ocupados</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch plan&quot; prints what a run would write</source>
+        <translation>«velkora-batch plan» muestra lo que escribiría una ejecución</translation>
+    </message>
+    <message>
+        <source>name a saved job as the first input</source>
+        <translation>indique un trabajo guardado como primera entrada</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch formats&quot;</source>
+        <translation>use «velkora-batch formats»</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch effects&quot;</source>
+        <translation>use «velkora-batch effects»</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch --version&quot;</source>
+        <translation>use «velkora-batch --version»</translation>
+    </message>
+    <message>
+        <source>use --%1</source>
+        <translation>use --%1</translation>
+    </message>
+    <message>
+        <source>use --effect %1; &quot;velkora-batch effects %1&quot; lists its parameters</source>
+        <translation>use --effect %1; «velkora-batch effects %1» muestra sus parámetros</translation>
+    </message>
+    <message>
+        <source>processes pictures in batches: effects, size, crop, frame, format and names</source>
+        <translation>procesa imágenes por lotes: efectos, tamaño, recorte, marco, formato y nombres</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a shadow; add --shadow</source>
+        <translation>«%1» no tiene efecto sin una sombra; añada --shadow</translation>
+    </message>
+    <message>
+        <source>%1 is not an ICC profile</source>
+        <translation>%1 no es un perfil ICC</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>the name of the saved job</source>
+        <translation>el nombre del trabajo guardado</translation>
+    </message>
+    <message>
+        <source>the folder for the results; it is created when it does not exist, and a relative one starts at the current folder</source>
+        <translation>la carpeta de los resultados; se crea si no existe, y una relativa parte de la carpeta actual</translation>
+    </message>
+    <message>
+        <source>the name of the folder is empty</source>
+        <translation>el nombre de la carpeta está vacío</translation>
+    </message>
+    <message>
+        <source>the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file where a picture has none</source>
+        <translation>las carpetas dentro de ella: flat, ninguna; input, como en las entradas; date, por fecha de la toma, o la del archivo si una imagen no la tiene</translation>
+    </message>
+    <message>
+        <source>the format of results, by name or extension; Original keeps that of each input. Changing the format of a saved job drops its format options</source>
+        <translation>el formato de los resultados, por nombre o extensión; Original conserva el de cada entrada. Al cambiar el formato de un trabajo guardado se descartan sus opciones de formato</translation>
+    </message>
+    <message>
+        <source>an option of the format, such as quality=90; &quot;velkora-batch formats&quot; lists them</source>
+        <translation>una opción del formato, como quality=90; «velkora-batch formats» las muestra</translation>
+    </message>
+    <message>
+        <source>an ICC profile to convert results to and to embed; none keeps each input&apos;s own</source>
+        <translation>un perfil ICC al que convertir los resultados y que incrustar; none conserva el de cada entrada</translation>
+    </message>
+    <message>
+        <source>Names of results</source>
+        <translation>Nombres de los resultados</translation>
+    </message>
+    <message>
+        <source>what a name begins with; PART is the same as for --name</source>
+        <translation>con qué empieza un nombre; PART es como en --name</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
+        <translation>el centro de un nombre: original, el nombre de la entrada; number, number:START o number:START:DIGITS; date y time, los de la toma, o los del archivo si una imagen no los tiene; text:TEXT; nothing</translation>
+    </message>
+    <message>
+        <source>what a name ends with</source>
+        <translation>con qué termina un nombre</translation>
+    </message>
+    <message>
+        <source>the text between prefix and middle</source>
+        <translation>el texto entre el prefijo y el centro</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a prefix; add --prefix</source>
+        <translation>«%1» no tiene efecto sin un prefijo; añada --prefix</translation>
+    </message>
+    <message>
+        <source>the text between middle and suffix</source>
+        <translation>el texto entre el centro y el sufijo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a suffix; add --suffix</source>
+        <translation>«%1» no tiene efecto sin un sufijo; añada --suffix</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a size, and this option says which pictures change; use --size %2</source>
+        <translation>«%1» es un tamaño, y esta opción dice qué imágenes cambian; use --size %2</translation>
+    </message>
+    <message>
+        <source>Size and crop</source>
+        <translation>Tamaño y recorte</translation>
+    </message>
+    <message>
+        <source>scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size</source>
+        <translation>escala las imágenes a una longitud de un lado, como 1600, 50%, 8in, 20cm o 200mm; none conserva el tamaño</translation>
+    </message>
+    <message>
+        <source>the side that --size sets</source>
+        <translation>el lado que fija --size</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a size; add --size</source>
+        <translation>«%1» no tiene efecto sin un tamaño; añada --size</translation>
+    </message>
+    <message>
+        <source>which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, both; none</source>
+        <translation>qué imágenes cambia --size: reduce, solo las más grandes (predeterminado); enlarge, solo las más pequeñas; fit, ambas; none</translation>
+    </message>
+    <message>
+        <source>dots per inch, for lengths in in, cm and mm; also written into results</source>
+        <translation>puntos por pulgada, para longitudes en in, cm y mm; también se escribe en los resultados</translation>
+    </message>
+    <message>
+        <source>none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; exact:800x600, that many pixels. in, cm and mm become pixels by --resolution</source>
+        <translation>none; trim, corta un borde de un solo color; o con WIDTHxHEIGHT: ratio:3x2, el mayor encuadre de esa proporción, vertical en imágenes verticales, o ratio:3x2!, nunca girado; interesting:3x2, el encuadre de esa proporción que atrae la vista; fill:800x600 o fill:15x10cm, escala hasta cubrir y luego corta; exact:800x600, esa cantidad de píxeles. in, cm y mm pasan a píxeles según --resolution</translation>
+    </message>
+    <message>
+        <source>where ratio, fill and exact place the frame in the picture</source>
+        <translation>dónde colocan ratio, fill y exact el encuadre en la imagen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without --crop ratio, fill or exact; add one of them</source>
+        <translation>«%1» no tiene efecto sin --crop ratio, fill o exact; añada uno de ellos</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Marco</translation>
+    </message>
+    <message>
+        <source>puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; none removes the frame. Each of the options below adds a frame</source>
+        <translation>coloca las imágenes en un marco con márgenes en píxeles: un número para todos los lados, o LEFT,TOP,RIGHT,BOTTOM; none quita el marco. Cada una de las opciones siguientes añade un marco</translation>
+    </message>
+    <message>
+        <source>the size of the frame in pixels; picture: the size of each picture</source>
+        <translation>el tamaño del marco en píxeles; picture: el tamaño de cada imagen</translation>
+    </message>
+    <message>
+        <source>turns the picture on its frame, clockwise</source>
+        <translation>gira la imagen sobre su marco, en sentido horario</translation>
+    </message>
+    <message>
+        <source>the opacity of the picture</source>
+        <translation>la opacidad de la imagen</translation>
+    </message>
+    <message>
+        <source>how the picture is laid over its background</source>
+        <translation>cómo se superpone la imagen a su fondo</translation>
+    </message>
+    <message>
+        <source>the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; image:FILE</source>
+        <translation>el fondo del marco: none; colour:#rrggbb; pattern:0 a pattern:7, con :PERCENT para su escala; image:FILE</translation>
+    </message>
+    <message>
+        <source>the opacity of the background</source>
+        <translation>la opacidad del fondo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a background; add --background</source>
+        <translation>«%1» no tiene efecto sin un fondo; añada --background</translation>
+    </message>
+    <message>
+        <source>the shadow of the picture: drop; glow, around it; none</source>
+        <translation>la sombra de la imagen: drop; glow, alrededor; none</translation>
+    </message>
+    <message>
+        <source>#rrggbb or a name</source>
+        <translation>#rrggbb o un nombre</translation>
+    </message>
+    <message>
+        <source>the opacity of the shadow</source>
+        <translation>la opacidad de la sombra</translation>
+    </message>
+    <message>
+        <source>where the light comes from: 0 from the right, 90 from above</source>
+        <translation>de dónde viene la luz: 0 desde la derecha, 90 desde arriba</translation>
+    </message>
+    <message>
+        <source>how far the shadow lies from the picture</source>
+        <translation>a qué distancia de la imagen está la sombra</translation>
+    </message>
+    <message>
+        <source>how soft the shadow is</source>
+        <translation>lo suave que es la sombra</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Efectos</translation>
+    </message>
+    <message>
+        <source>drops the effects of the saved job first</source>
+        <translation>descarta primero los efectos del trabajo guardado</translation>
+    </message>
+    <message>
+        <source>adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds the effect disabled. &quot;velkora-batch effects&quot; lists all effects</source>
+        <translation>añade un efecto tras los del trabajo, como blur:sigma=2. También sirve NAME:{JSON}; off:NAME añade el efecto desactivado. «velkora-batch effects» muestra todos los efectos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or 200mm; &quot;none&quot; keeps the size</source>
+        <translation>«%1» no es una longitud mayor que 0 y hasta %2, como 1600, 50%, 8in, 20cm o 200mm; «none» conserva el tamaño</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; a size is one length, such as 1600 or 20.5cm</source>
+        <translation>«%1» tiene una coma; un tamaño es una sola longitud, como 1600 o 20.5cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point: type %2</source>
+        <translation>«%1» tiene una coma; los decimales se escriben con punto: escriba %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma, which no number has: type %2 for that many pixels, %3cm for decimals, or --crop fill:%4 for a width and a height</source>
+        <translation>«%1» tiene una coma, que ningún número lleva: escriba %2 para esa cantidad de píxeles, %3cm para decimales, o --crop fill:%4 para un ancho y un alto</translation>
+    </message>
+    <message>
+        <source>type %1 for that many pixels</source>
+        <translation>escriba %1 para esa cantidad de píxeles</translation>
+    </message>
+    <message>
+        <source>type %1 for that</source>
+        <translation>escriba %1 para eso</translation>
+    </message>
+    <message>
+        <source>type 1</source>
+        <translation>escriba 1</translation>
+    </message>
+    <message>
+        <source>type 1px</source>
+        <translation>escriba 1px</translation>
+    </message>
+    <message>
+        <source>type %1 or %2</source>
+        <translation>escriba %1 o %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a width and a height, but a size is the length of one side: type one of them, with --side to say which, or --crop fill:%2 for exactly that</source>
+        <translation>«%1» es un ancho y un alto, pero un tamaño es la longitud de un lado: escriba uno de ellos, con --side para decir cuál, o --crop fill:%2 para exactamente eso</translation>
+    </message>
+    <message>
+        <source>%1 (unit %2)</source>
+        <translation>%1 (unidad %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form KEY=VALUE</source>
+        <translation>«%1» no tiene la forma KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>it takes no parameters, but &quot;%1&quot; is given</source>
+        <translation>no admite parámetros, pero se indica «%1»</translation>
+    </message>
+    <message>
+        <source>unknown effect &quot;%1&quot;; the effects are %2</source>
+        <translation>efecto desconocido «%1»; los efectos son %2</translation>
+    </message>
+    <message>
+        <source>effect %1</source>
+        <translation>efecto %1</translation>
+    </message>
+    <message>
+        <source>format %1</source>
+        <translation>formato %1</translation>
+    </message>
+    <message>
+        <source>when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask</source>
+        <translation>si un archivo falta, está dañado, es demasiado grande o no es una imagen: skip lo omite, stop detiene la ejecución, ask pregunta</translation>
+    </message>
+    <message>
+        <source>when a result cannot be written, because of a full disk or missing rights: skip, stop or ask</source>
+        <translation>si un resultado no se puede escribir por falta de espacio o de permisos: skip, stop o ask</translation>
+    </message>
+    <message>
+        <source>when an effect fails, or a picture takes too long or crashes its worker: skip, stop or ask</source>
+        <translation>si un efecto falla, o una imagen tarda demasiado o hace caer su proceso de trabajo: skip, stop o ask</translation>
+    </message>
+    <message>
+        <source>when a result&apos;s name is taken, on disk, by another result or by a source: skip, overwrite, rename (&quot; (2)&quot; is appended) or ask</source>
+        <translation>si el nombre de un resultado está ocupado, en el disco, por otro resultado o por un original: skip, overwrite, rename (se añade « (2)») o ask</translation>
+    </message>
+    <message>
+        <source>when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write the nearest format that can hold it</source>
+        <translation>si una imagen no se puede escribir en el formato deseado: skip, stop, ask, o nearest, para escribir el formato más próximo que la admita</translation>
+    </message>
+    <message>
+        <source>Exceptions</source>
+        <translation>Excepciones</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them</source>
+        <translation>parte de un ajuste; «velkora-batch presets» los muestra</translation>
+    </message>
+    <message>
+        <source>the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)</source>
+        <translation>la carpeta con BatchExceptionPolicy.ini (reglas predeterminadas) y presets/ (ajustes propios)</translation>
+    </message>
+    <message>
+        <source>starts from a saved job</source>
+        <translation>parte de un trabajo guardado</translation>
+    </message>
+    <message>
+        <source>replaces an existing file</source>
+        <translation>reemplaza un archivo existente</translation>
+    </message>
+    <message>
+        <source>prints the list as JSON</source>
+        <translation>muestra la lista como JSON</translation>
+    </message>
+    <message>
+        <source>lists the presets, saves the options as a preset, or removes one. A preset is a job without inputs that run, plan, show and create take by --preset NAME; a relative --output starts where it is run. Exit status: 1 when a preset cannot be used</source>
+        <translation>muestra los ajustes, guarda las opciones como ajuste, o quita uno. Un ajuste es un trabajo sin entradas que run, plan, show y create toman con --preset NAME; un --output relativo parte de donde se ejecuta. Código de salida: 1 si un ajuste no se puede usar</translation>
+    </message>
+    <message>
+        <source>%1 files have no quality; %2 have one</source>
+        <translation>los archivos %1 no tienen calidad; la tienen %2</translation>
+    </message>
+    <message>
+        <source>the quality of results in formats that have one; the same as %1 %2=N</source>
+        <translation>la calidad de los resultados en los formatos que la tienen; lo mismo que %1 %2=N</translation>
+    </message>
+    <message>
+        <source>how many pictures are processed at a time; default: one for each core</source>
+        <translation>cuántas imágenes se procesan a la vez; valor predeterminado: una por núcleo</translation>
+    </message>
+    <message>
+        <source>larger pictures are not read; default: 400</source>
+        <translation>las imágenes mayores no se leen; valor predeterminado: 400</translation>
+    </message>
+    <message>
+        <source>memory that one picture may take; default: 2048</source>
+        <translation>memoria que puede ocupar una imagen; valor predeterminado: 2048</translation>
+    </message>
+    <message>
+        <source>time that one picture may take; default: 300</source>
+        <translation>tiempo que puede tardar una imagen; valor predeterminado: 300</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ejecución</translation>
+    </message>
+    <message>
+        <source>lets results replace their own originals. Without --output, results go to the folders of their originals. Without this option no original is ever replaced</source>
+        <translation>permite que los resultados reemplacen sus propios originales. Sin --output, los resultados van a las carpetas de sus originales. Sin esta opción nunca se reemplaza un original</translation>
+    </message>
+    <message>
+        <source>ends with 0, not with 5, when there is no picture among the inputs</source>
+        <translation>termina con 0, no con 5, si no hay ninguna imagen entre las entradas</translation>
+    </message>
+    <message>
+        <source>prints what the run would write, as &quot;velkora-batch plan&quot; does, and writes nothing</source>
+        <translation>muestra lo que escribiría la ejecución, como «velkora-batch plan», y no escribe nada</translation>
+    </message>
+    <message>
+        <source>writes the result of every input to a file, as CSV or JSON by the extension of its name</source>
+        <translation>escribe el resultado de cada entrada en un archivo, como CSV o JSON según la extensión de su nombre</translation>
+    </message>
+    <message>
+        <source>resumes the run that was interrupted in the output folder, with its job and its policies</source>
+        <translation>reanuda la ejecución que se interrumpió en la carpeta de salida, con su trabajo y sus reglas</translation>
+    </message>
+    <message>
+        <source>says which run to resume if several were interrupted; --resume lists their names</source>
+        <translation>dice qué ejecución reanudar si se interrumpieron varias; --resume muestra sus nombres</translation>
+    </message>
+    <message>
+        <source>counts a picture with a warning as failed; its result is kept</source>
+        <translation>cuenta como fallida una imagen con advertencia; su resultado se conserva</translation>
+    </message>
+    <message>
+        <source>prints each event of the run to standard output, as one line of JSON</source>
+        <translation>muestra cada evento de la ejecución en la salida estándar, como una línea de JSON</translation>
+    </message>
+    <message>
+        <source>lets results go through links to folders below the output folder; otherwise such a link is an error of output</source>
+        <translation>permite que los resultados pasen por enlaces a carpetas dentro de la carpeta de salida; si no, ese enlace es un error de salida</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Límites</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from %2 to %3</source>
+        <translation>«%1» no es un número de %2 a %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from %2 to %3</source>
+        <translation>«%1» no es un número entero de %2 a %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600</source>
+        <translation>«%1» no tiene la forma WIDTHxHEIGHT, con números enteros de 1 a %2, como 800x600</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; &quot;none&quot; means no frame</source>
+        <translation>«%1» no es un número de píxeles, como 40, ni LEFT,TOP,RIGHT,BOTTOM; «none» significa sin marco</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour; use #rrggbb or a name</source>
+        <translation>«%1» no es un color; use #rrggbb o un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is incomplete; complete it as in %2</source>
+        <translation>«%1» está incompleto; complételo como en %2</translation>
+    </message>
+    <message>
+        <source>; write a text of your own as text:%1</source>
+        <translation>; escriba un texto propio como text:%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no value</source>
+        <translation>«%1» no admite valor</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>«%1» no es uno de %2</translation>
+    </message>
+    <message>
+        <source>argument %1 (%2) is not valid UTF-8</source>
+        <translation>el argumento %1 (%2) no es UTF-8 válido</translation>
+    </message>
+    <message>
+        <source>the inputs do not lie in one folder: use --in-place for one folder after the other, or name the folder of the results with --output</source>
+        <translation>las entradas no están en una misma carpeta: use --in-place carpeta por carpeta, o indique la carpeta de los resultados con --output</translation>
+    </message>
+    <message>
+        <source>the result of %1 would not go to the folder of its original; name the folder of the results with --output</source>
+        <translation>el resultado de %1 no iría a la carpeta de su original; indique la carpeta de los resultados con --output</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture</source>
+        <translation>%1 es un trabajo guardado, no una imagen</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture; it is left out.</source>
+        <translation>%1 es un trabajo guardado, no una imagen; se deja fuera.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada estándar</translation>
+    </message>
+    <message>
+        <source>on standard input</source>
+        <translation>en la entrada estándar</translation>
+    </message>
+    <message>
+        <source>the list %1 cannot be read: %2</source>
+        <translation>no se puede leer la lista %1: %2</translation>
+    </message>
+    <message>
+        <source>the list %1 is larger than %2 MiB; divide it</source>
+        <translation>la lista %1 supera %2 MiB; divídala</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and no name is that long</source>
+        <translation>tiene %1 bytes, y ningún nombre es tan largo</translation>
+    </message>
+    <message>
+        <source>it contains a NUL byte; use -0 for names that are separated by NUL</source>
+        <translation>contiene un byte NUL; use -0 para nombres separados por NUL</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid UTF-8; rename it to use it</source>
+        <translation>«%1» no es UTF-8 válido; cámbiele el nombre para usarlo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job cannot hold</source>
+        <translation>«%1» contiene un carácter que un trabajo no puede guardar</translation>
+    </message>
+    <message>
+        <source>it contains line ends; names in lines are read without -0</source>
+        <translation>contiene finales de línea; los nombres en líneas se leen sin -0</translation>
+    </message>
+    <message>
+        <source>%1, name %2</source>
+        <translation>%1, nombre %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link</source>
+        <translation>%1, línea %2: %3 es un enlace sin destino</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist</source>
+        <translation>%1, línea %2: %3 no existe</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link</source>
+        <translation>%1, nombre %2: %3 es un enlace sin destino</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist</source>
+        <translation>%1, nombre %2: %3 no existe</translation>
+    </message>
+    <message>
+        <source>the list %1 is UTF-16 text; save it as UTF-8</source>
+        <translation>la lista %1 es texto UTF-16; guárdela como UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 runs were interrupted in %2</source>
+        <translation>se interrumpieron %1 ejecuciones en %2</translation>
+    </message>
+    <message>
+        <source>no run in %1 is called &quot;%2&quot;</source>
+        <translation>ninguna ejecución en %1 se llama «%2»</translation>
+    </message>
+    <message>
+        <source>%1  %2 is damaged</source>
+        <translation>%1  %2 está dañado</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of 1 picture  %4</source>
+        <translation>%1  %2  %3 de 1 imagen  %4</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of %4 pictures  %5</source>
+        <translation>%1  %2  %3 de %4 imágenes  %5</translation>
+    </message>
+    <message>
+        <source>%1, line %2: this version does not know %3, and ignores it.</source>
+        <translation>%1, línea %2: esta versión no conoce %3 y lo ignora.</translation>
+    </message>
+    <message>
+        <source>%1: this version does not know %2 other elements and attributes, and ignores them.</source>
+        <translation>%1: esta versión no conoce otros %2 elementos y atributos, y los ignora.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a path, but the name of a preset is needed</source>
+        <translation>«%1» es una ruta, pero hace falta el nombre de un ajuste</translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;</source>
+        <translation>no existe el ajuste «%1»</translation>
+    </message>
+    <message>
+        <source>the name of the preset is empty</source>
+        <translation>el nombre del ajuste está vacío</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a dot, which the name of a preset must not</source>
+        <translation>«%1» empieza por un punto, lo que no se admite en el nombre de un ajuste</translation>
+    </message>
+    <message>
+        <source>the name of a preset has no extension: use &quot;%1&quot;</source>
+        <translation>el nombre de un ajuste no lleva extensión: use «%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a file on every system; &quot;%2&quot; would be one</source>
+        <translation>«%1» no es un nombre de archivo en todos los sistemas; «%2» sí lo sería</translation>
+    </message>
+    <message>
+        <source>the name of the preset is longer than %1 bytes</source>
+        <translation>el nombre del ajuste supera los %1 bytes</translation>
+    </message>
+    <message>
+        <source>the preset %1</source>
+        <translation>el ajuste %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <translation>no se puede crear la carpeta %1</translation>
+    </message>
+    <message>
+        <source>the preset %1 comes with the program and cannot be removed; a preset of yours with that name is used instead of it</source>
+        <translation>el ajuste %1 viene con el programa y no se puede quitar; si usted crea uno con ese nombre, se usará en su lugar</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>no se puede quitar %1: %2</translation>
+    </message>
+    <message>
+        <source>Archive: TIFF without loss, with all metadata and the time of the file</source>
+        <translation>Archivo: TIFF sin pérdida, con todos los metadatos y la fecha del archivo</translation>
+    </message>
+    <message>
+        <source>Mail: small JPEG of at most 1024 pixels, sRGB, with creator and rights</source>
+        <translation>Correo: JPEG pequeño de 1024 píxeles como máximo, sRGB, con autor y derechos</translation>
+    </message>
+    <message>
+        <source>Print: 15 cm long at 300 dpi, with a white border of 5 mm</source>
+        <translation>Impresión: 15 cm de largo a 300 ppp, con un borde blanco de 5 mm</translation>
+    </message>
+    <message>
+        <source>Thumbnails: squares of 256 pixels, JPEG without metadata</source>
+        <translation>Miniaturas: cuadrados de 256 píxeles, JPEG sin metadatos</translation>
+    </message>
+    <message>
+        <source>Web: JPEG of at most 1600 pixels, sRGB, with creator and rights</source>
+        <translation>Web: JPEG de 1600 píxeles como máximo, sRGB, con autor y derechos</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be written: %2.</source>
+        <translation>No se puede escribir el diario %1: %2.</translation>
+    </message>
+    <message>
+        <source>the braces of a wildcard are nested too deeply</source>
+        <translation>las llaves de un comodín están anidadas a demasiada profundidad</translation>
+    </message>
+    <message>
+        <source>a wildcard is longer than %1 characters: %2...</source>
+        <translation>un comodín supera los %1 caracteres: %2...</translation>
+    </message>
+    <message>
+        <source>the wildcard &quot;%1&quot; is invalid: %2</source>
+        <translation>el comodín «%1» no es válido: %2</translation>
+    </message>
+    <message>
+        <source>the braces in &quot;%1&quot; stand for more than %2 names</source>
+        <translation>las llaves de «%1» equivalen a más de %2 nombres</translation>
+    </message>
+    <message>
+        <source>%1 matches no file</source>
+        <translation>%1 no coincide con ningún archivo</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>el nombre está vacío</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixel, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>«%1» significa %2 píxel, porque el punto separa los decimales, pero los píxeles se cuentan en números enteros: %3, o una unidad, como en %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>«%1» significa %2 píxeles, porque el punto separa los decimales, pero los píxeles se cuentan en números enteros: %3, o una unidad, como en %4cm</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, nombre %2: %3 es un enlace sin destino (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, nombre %2: %3 no existe (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, línea %2: %3 es un enlace sin destino (y %4 más)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, línea %2: %3 no existe (y %4 más)</translation>
+    </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>Se esperaba una etiqueta de inicio.</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>Las etiquetas de inicio y de cierre no coinciden.</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>Fin prematuro del documento.</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>Contenido sobrante al final del documento.</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>Se esperaba %1, pero hay ‘%2’.</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>intervalo desordenado en una clase de caracteres</translation>
     </message>
 </context>
 </TS>

@@ -103,6 +103,274 @@
         <source>and %1 more; use --report FILE for all</source>
         <translation>et %1 autres&#x202f;; --report FILE les donne toutes</translation>
     </message>
+    <message>
+        <source>required</source>
+        <translation>obligatoire</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>facultatif</translation>
+    </message>
+    <message>
+        <source>default %1</source>
+        <translation>par défaut %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels</source>
+        <translation>%1 bits par canal ; transparence : %2 ; CMJN : %3 ; côté le plus long : %4 pixels</translation>
+    </message>
+    <message>
+        <source>Files that can be read: %1</source>
+        <translation>Fichiers lisibles : %1</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures; give them to run or plan, after the job.</source>
+        <translation>%1 : un travail sans images ; elles se donnent à run ou plan, après le travail.</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures and output folder; give them to run or plan.</source>
+        <translation>%1 : un travail sans images ni dossier de sortie ; ils se donnent à run ou plan.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture.</source>
+        <translation>%1 : un travail de 1 image.</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture, without an output folder; give --output to run or plan.</source>
+        <translation>%1 : un travail de 1 image, sans dossier de sortie ; --output se donne à run ou plan.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures.</source>
+        <translation>%1 : un travail de %2 images.</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures, without an output folder; give --output to run or plan.</source>
+        <translation>%1 : un travail de %2 images, sans dossier de sortie ; --output se donne à run ou plan.</translation>
+    </message>
+    <message>
+        <source>Looking at pictures: %1 of %2</source>
+        <translation>Examen des images : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it begins like a %2 file, but its extension is not known.</source>
+        <translation>%1 est laissé de côté : il commence comme un fichier %2, mais son extension est inconnue.</translation>
+    </message>
+    <message>
+        <source>Folders read: %1, pictures found: %2, now in %3</source>
+        <translation>Dossiers lus : %1, images trouvées : %2, maintenant dans %3</translation>
+    </message>
+    <message>
+        <source>1 picture</source>
+        <translation>1 image</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>%1 images</translation>
+    </message>
+    <message>
+        <source>Inputs: %1</source>
+        <translation>Entrées : %1</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Planning %1 files</source>
+        <translation>Planification de %1 fichiers</translation>
+    </message>
+    <message>
+        <source>replaces the original</source>
+        <translation>remplace l’original</translation>
+    </message>
+    <message>
+        <source>sizes in pixels are not known: %1.</source>
+        <translation>les tailles en pixels sont inconnues : %1.</translation>
+    </message>
+    <message>
+        <source>%1 file: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 fichier : %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>%1 files: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 fichiers : %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>comes along</source>
+        <translation>fourni</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>personnel</translation>
+    </message>
+    <message>
+        <source>the preset %1 in %2 cannot be used: %3</source>
+        <translation>le préréglage %1 dans %2 est inutilisable : %3</translation>
+    </message>
+    <message>
+        <source>%1: the preset %2.</source>
+        <translation>%1 : le préréglage %2.</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1.</source>
+        <translation>impossible d’écrire sur la sortie standard : %1.</translation>
+    </message>
+    <message>
+        <source>%1: name files, or folders with pictures that can be read</source>
+        <translation>%1 : indiquez des fichiers, ou des dossiers avec des images lisibles</translation>
+    </message>
+    <message>
+        <source>%1: use --output DIR</source>
+        <translation>%1 : utilisez --output DIR</translation>
+    </message>
+    <message>
+        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
+        <translation>%1. Un seul travail enregistré est possible : en premier argument de run, plan et show, ou avec --from pour create</translation>
+    </message>
+    <message>
+        <source>%1; use --force to replace it</source>
+        <translation>%1 ; utilisez --force pour le remplacer</translation>
+    </message>
+    <message>
+        <source>%1. Use --resume with --output alone to resume that run, or run this job without --resume</source>
+        <translation>%1. Utilisez --resume avec --output seul pour reprendre cette exécution, ou exécutez ce travail sans --resume</translation>
+    </message>
+    <message>
+        <source>%1; use --resume --run NAME with one of these names</source>
+        <translation>%1 ; utilisez --resume --run NAME avec un de ces noms</translation>
+    </message>
+    <message>
+        <source>an earlier run of this job was interrupted; this run starts anew. Use --resume to continue an interrupted run.</source>
+        <translation>une exécution précédente de ce travail a été interrompue ; celle-ci recommence du début. --resume reprend une exécution interrompue.</translation>
+    </message>
+    <message>
+        <source>1 other run was interrupted in %1; it can still be resumed: %2</source>
+        <translation>1 autre exécution a été interrompue dans %1 ; elle peut encore être reprise : %2</translation>
+    </message>
+    <message>
+        <source>%3 other runs were interrupted in %1; they can still be resumed: %2</source>
+        <translation>%3 autres exécutions ont été interrompues dans %1 ; elles peuvent encore être reprises : %2</translation>
+    </message>
+    <message>
+        <source>should it be interrupted, the run cannot be resumed: %1.</source>
+        <translation>en cas d’interruption, l’exécution ne pourra pas être reprise : %1.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
+        <translation>impossible de créer un dossier temporaire : %1. Donnez un autre dossier à TMPDIR.</translation>
+    </message>
+    <message>
+        <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
+        <translation>un autre serveur de traitement est actif, et ce système n’a qu’un tube pour lui ; réessayez quand cette exécution sera finie.</translation>
+    </message>
+    <message>
+        <source>To resume: %1</source>
+        <translation>Pour reprendre : %1</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: 1 picture was left out.</source>
+        <translation>sans terminal, il n’y avait personne à interroger : 1 image a été ignorée.</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: %1 pictures were left out.</source>
+        <translation>sans terminal, il n’y avait personne à interroger : %1 images ont été ignorées.</translation>
+    </message>
+    <message>
+        <source>%1 decides such cases.</source>
+        <translation>%1 décide de ces cas.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 decide such cases.</source>
+        <translation>%1 et %2 décident de ces cas.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because other sources of the job have such names.</source>
+        <translation>1 résultat a été renommé, car d’autres sources du travail portent ces noms.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because other sources of the job have such names.</source>
+        <translation>%1 résultats ont été renommés, car d’autres sources du travail portent ces noms.</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>1 résultat a été renommé, car un original porte ce nom ; --in-place remplace les originaux.</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>%1 résultats ont été renommés, car des originaux portent ces noms ; --in-place remplace les originaux.</translation>
+    </message>
+    <message>
+        <source>no worker can be started; VelkoraBatchWorker belongs beside %1.</source>
+        <translation>impossible de lancer un processus de traitement ; VelkoraBatchWorker doit être à côté de %1.</translation>
+    </message>
+    <message>
+        <source>No picture was processed. --structure input keeps the folders of the inputs, --on-name-exists rename numbers such names, and another --name, --prefix or --suffix tells them apart.</source>
+        <translation>Aucune image n’a été traitée. --structure input conserve les dossiers des entrées, --on-name-exists rename numérote ces noms, et --name, --prefix ou --suffix peuvent les distinguer.</translation>
+    </message>
+    <message>
+        <source>the server ended before it had processed anything; see its messages above.</source>
+        <translation>le serveur s’est arrêté avant d’avoir traité quoi que ce soit ; voir ses messages ci-dessus.</translation>
+    </message>
+    <message>
+        <source>the server cannot be started; VelkoraBatchProcessing belongs beside %1.</source>
+        <translation>impossible de lancer le serveur ; VelkoraBatchProcessing doit être à côté de %1.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message>
+        <source>More: velkora-batch --help, or velkora-batch help COMMAND</source>
+        <translation>En savoir plus : velkora-batch --help, ou velkora-batch help COMMAND</translation>
+    </message>
+    <message>
+        <source>velkora-batch %1.</source>
+        <translation>velkora-batch %1.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>prints this text; after a command, the help of that command</source>
+        <translation>affiche ce texte ; après une commande, l’aide de cette commande</translation>
+    </message>
+    <message>
+        <source>prints the version; with --verbose, also how this system confines the processes that read pictures</source>
+        <translation>affiche la version ; avec --verbose, aussi la façon dont ce système isole les processus qui lisent les images</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Exemples</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>%1. Values: %2</source>
+        <translation>%1. Valeurs : %2</translation>
+    </message>
+    <message>
+        <source>%1. May be given several times</source>
+        <translation>%1. Peut être donné plusieurs fois</translation>
+    </message>
+    <message>
+        <source>(%1 bytes in the job)</source>
+        <translation>(%1 octets dans le travail)</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -452,7 +720,7 @@
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation>&#x202f;; vouliez-vous dire «&#xa0;%1&#xa0;»&#x202f;?</translation>
+        <translation> ; vouliez-vous dire « %1 » ?</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;: %3</source>
@@ -664,7 +932,7 @@
     </message>
     <message>
         <source>; known are %1</source>
-        <translation>&#x202f;; sont connus&#xa0;: %1</translation>
+        <translation> ; sont connus %1</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
@@ -1383,10 +1651,6 @@
         <translation>l’exécution interrompue dans %1 est celle d’un autre travail&#xa0;: ses entrées, options ou fichiers diffèrent</translation>
     </message>
     <message>
-        <source>%1 runs were interrupted in %2, none of them of this job</source>
-        <translation>%1 exécutions ont été interrompues dans %2, aucune de ce travail</translation>
-    </message>
-    <message>
         <source>%1 is damaged; remove it to start the run anew</source>
         <translation>%1 est endommagé&#x202f;; supprimez-le pour recommencer l’exécution</translation>
     </message>
@@ -1771,10 +2035,6 @@
         <translation>bits</translation>
     </message>
     <message>
-        <source>which metadata is kept</source>
-        <translation>quelles métadonnées sont conservées</translation>
-    </message>
-    <message>
         <source>colour under transparency that the format cannot hold</source>
         <translation>couleur sous la transparence que le format ne peut pas contenir</translation>
     </message>
@@ -1785,6 +2045,1154 @@
     <message>
         <source>keep every pixel that can be seen</source>
         <translation>conserver chaque pixel visible</translation>
+    </message>
+    <message>
+        <source>which metadata is kept; copyright is creator and rights from all of it</source>
+        <translation>quelles métadonnées sont conservées ; copyright désigne l’auteur et les droits de l’ensemble</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; would both be &quot;%3&quot;</source>
+        <translation>« %1 » et « %2 » seraient tous deux « %3 »</translation>
+    </message>
+    <message>
+        <source>and so on</source>
+        <translation>et ainsi de suite</translation>
+    </message>
+    <message>
+        <source>1 result would get the name of another</source>
+        <translation>1 résultat prendrait le nom d’un autre</translation>
+    </message>
+    <message>
+        <source>%1 results would get the names of others</source>
+        <translation>%1 résultats prendraient les noms d’autres</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>l’attribut « %1 » de « %2 »</translation>
+    </message>
+    <message>
+        <source>the element &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>l’élément « %1 » dans « %2 »</translation>
+    </message>
+    <message>
+        <source>a colour: #rrggbb, #rrggbbaa, or a name such as white</source>
+        <translation>une couleur : #rrggbb, #rrggbbaa, ou un nom comme white</translation>
+    </message>
+    <message>
+        <source>%1, joined with +, or none</source>
+        <translation>%1, reliés par +, ou none</translation>
+    </message>
+    <message>
+        <source>2 to %1 points x:y with ascending x, joined with +, numbers %2</source>
+        <translation>de 2 à %1 points x:y avec x croissant, reliés par +, nombres %2</translation>
+    </message>
+    <message>
+        <source>workers: not confined on this system</source>
+        <translation>processus de traitement : non isolés sur ce système</translation>
+    </message>
+    <message>
+        <source>files of workers: not restricted, as the kernel has no Landlock</source>
+        <translation>fichiers des processus de traitement : sans restriction, car le noyau n’a pas Landlock</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, with scopes for signals and sockets</source>
+        <translation>fichiers des processus de traitement : ceux du travail, par Landlock %1, avec cloisonnement des signaux et sockets</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, without scopes for signals and sockets</source>
+        <translation>fichiers des processus de traitement : ceux du travail, par Landlock %1, sans cloisonnement des signaux et sockets</translation>
+    </message>
+    <message>
+        <source>system calls of workers: a list of allowed ones, by seccomp</source>
+        <translation>appels système des processus de traitement : une liste autorisée, par seccomp</translation>
+    </message>
+    <message>
+        <source>system calls of workers: not restricted, as the kernel has no seccomp</source>
+        <translation>appels système des processus de traitement : sans restriction, car le noyau n’a pas seccomp</translation>
+    </message>
+    <message>
+        <source>memory of the supervisor: closed to other processes of the user (not dumpable)</source>
+        <translation>mémoire du superviseur : fermée aux autres processus de l’utilisateur (non lisible)</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2, which is not kept; keep=copyright keeps it</source>
+        <translation>la mention de copyright « %1 » n’est que dans %2, qui n’est pas conservé ; keep=copyright la conserve</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2 and %3, which are not kept; keep=copyright keeps it</source>
+        <translation>la mention de copyright « %1 » n’est que dans %2 et %3, qui ne sont pas conservés ; keep=copyright la conserve</translation>
+    </message>
+    <message>
+        <source>the format of each input</source>
+        <translation>le format de chaque entrée</translation>
+    </message>
+    <message>
+        <source>--dry-run and %1 cannot be combined; remove one of them</source>
+        <translation>--dry-run et %1 ne peuvent pas être combinés ; retirez l’un des deux</translation>
+    </message>
+    <message>
+        <source>%1 and --preset exclude each other: give one of them to start from</source>
+        <translation>%1 et --preset s’excluent : n’en donnez qu’un comme point de départ</translation>
+    </message>
+    <message>
+        <source>no file name for the job: velkora-batch create JOB.xml INPUT...</source>
+        <translation>pas de nom de fichier pour le travail : velkora-batch create JOB.xml INPUT...</translation>
+    </message>
+    <message>
+        <source>the first argument must be the file of the job, with a name that ends with .xml, but is &quot;%1&quot;</source>
+        <translation>le premier argument doit être le fichier du travail, avec un nom en .xml, mais c’est « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;-&quot;; to read names from standard input, use --files-from -</source>
+        <translation>il n’y a pas de fichier « - » ; pour lire des noms sur l’entrée standard, utilisez --files-from -</translation>
+    </message>
+    <message>
+        <source>--null needs %1</source>
+        <translation>--null exige %1</translation>
+    </message>
+    <message>
+        <source>%1 -: standard input is a terminal; pipe a list into it, or name a file</source>
+        <translation>%1 - : l’entrée standard est un terminal ; envoyez-y une liste, ou indiquez un fichier</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --in-place without --output: results go to the folders of their originals</source>
+        <translation>%1 ne va pas avec --in-place sans --output : les résultats vont dans les dossiers de leurs originaux</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 matches nothing</source>
+        <translation>pas d’images : %1 ne correspond à rien</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 and %2 match nothing</source>
+        <translation>pas d’images : %1 et %2 ne correspondent à rien</translation>
+    </message>
+    <message>
+        <source>no inputs</source>
+        <translation>pas d’entrées</translation>
+    </message>
+    <message>
+        <source>%1 is not for &quot;presets %2&quot;, but for &quot;presets %3&quot;</source>
+        <translation>%1 ne va pas avec « presets %2 », mais avec « presets %3 »</translation>
+    </message>
+    <message>
+        <source>the name of the preset is missing: velkora-batch presets %1 NAME</source>
+        <translation>le nom du préréglage manque : velkora-batch presets %1 NAME</translation>
+    </message>
+    <message>
+        <source>a preset has no inputs, but &quot;%1&quot; is given behind its name</source>
+        <translation>un préréglage n’a pas d’entrées, mais « %1 » suit son nom</translation>
+    </message>
+    <message>
+        <source>one preset at a time, but &quot;%1&quot; is given behind its name</source>
+        <translation>un seul préréglage à la fois, mais « %1 » suit son nom</translation>
+    </message>
+    <message>
+        <source>list takes no name, but &quot;%1&quot; is given; &quot;velkora-batch show --preset NAME&quot; prints a preset</source>
+        <translation>list ne prend pas de nom, mais « %1 » est donné ; « velkora-batch show --preset NAME » affiche un préréglage</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 exige --resume</translation>
+    </message>
+    <message>
+        <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
+        <translation>%1/BatchExceptionPolicy.ini contient la valeur %2, qui est invalide ; %3 passe avant elle</translation>
+    </message>
+    <message>
+        <source>unknown option %1; %2</source>
+        <translation>option inconnue %1 ; %2</translation>
+    </message>
+    <message>
+        <source>it is an option of %1; &quot;velkora-batch %2 --help&quot; lists the options</source>
+        <translation>c’est une option de %1 ; « velkora-batch %2 --help » liste les options</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch %1 --help&quot; lists the options</source>
+        <translation>« velkora-batch %1 --help » liste les options</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>vouliez-vous dire « %1 » ?</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 est un dossier, pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 est un fichier, pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+    </message>
+    <message>
+        <source>%1 is no command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 n’est pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+    </message>
+    <message>
+        <source>unknown command &quot;%1&quot;; did you mean &quot;velkora-batch %2&quot;?</source>
+        <translation>commande inconnue « %1 » ; vouliez-vous dire « velkora-batch %2 » ?</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>commande inconnue : %1</translation>
+    </message>
+    <message>
+        <source>no command: use one of %1, or &quot;velkora-batch --help&quot;</source>
+        <translation>pas de commande : utilisez %1, ou « velkora-batch --help »</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed before the command, only %2</source>
+        <translation>%1 n’est pas permis avant la commande, seulement %2</translation>
+    </message>
+    <message>
+        <source>help takes one command, but got %1</source>
+        <translation>help prend une commande, mais a reçu %1</translation>
+    </message>
+    <message>
+        <source>argument %1, &quot;%2&quot;, contains a character that a job cannot hold</source>
+        <translation>l’argument %1, « %2 », contient un caractère qu’un travail ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and takes no value; type %1 alone, or leave it out</source>
+        <translation>%1 est un commutateur sans valeur ; tapez %1 seul, ou omettez-le</translation>
+    </message>
+    <message>
+        <source>an input of %1 has an empty name</source>
+        <translation>une entrée de %1 a un nom vide</translation>
+    </message>
+    <message>
+        <source>%1 is given %2 times, but takes one value; remove &quot;%3&quot; or &quot;%4&quot;</source>
+        <translation>%1 est donné %2 fois, mais ne prend qu’une valeur ; retirez « %3 » ou « %4 »</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation>%1 : la valeur %2 manque</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Entrées</translation>
+    </message>
+    <message>
+        <source>drops the inputs of the saved job first</source>
+        <translation>écarte d’abord les entrées du travail enregistré</translation>
+    </message>
+    <message>
+        <source>also takes the files and folders that a file names, one a line, or standard input for &quot;-&quot;. Relative names start at the current folder</source>
+        <translation>prend aussi les fichiers et dossiers que nomme un fichier, un par ligne ; « - » désigne l’entrée standard. Les noms relatifs partent du dossier courant</translation>
+    </message>
+    <message>
+        <source>the names of --files-from are separated by NUL, not by line ends</source>
+        <translation>les noms de --files-from sont séparés par NUL, pas par des fins de ligne</translation>
+    </message>
+    <message>
+        <source>takes only files whose names match, such as &quot;*.{nef,cr2}&quot;, or whose paths in the given folders match, such as &quot;2024/**/*.jpg&quot;; default: all that can be read. Files that are given by name are always taken</source>
+        <translation>ne prend que les fichiers dont le nom correspond, comme « *.{nef,cr2} », ou dont le chemin dans les dossiers donnés correspond, comme « 2024/**/*.jpg » ; par défaut : tous ceux qui sont lisibles. Les fichiers donnés par leur nom sont toujours pris</translation>
+    </message>
+    <message>
+        <source>leaves out files and folders whose names or paths match, inside the given folders</source>
+        <translation>laisse de côté, dans les dossiers donnés, les fichiers et dossiers dont le nom ou le chemin correspond</translation>
+    </message>
+    <message>
+        <source>leaves out folders inside folders</source>
+        <translation>laisse de côté les sous-dossiers</translation>
+    </message>
+    <message>
+        <source>includes files and folders whose names begin with a dot</source>
+        <translation>inclut les fichiers et dossiers dont le nom commence par un point</translation>
+    </message>
+    <message>
+        <source>the order of the pictures, which numbers in names follow: taken, by capture time, and by the file&apos;s own time where there is none; name, folder by folder; given, as the command line names them. The default is name, or the order of the saved job</source>
+        <translation>l’ordre des images, que suivent les numéros dans les noms : taken, par date de prise de vue, à défaut par date du fichier ; name, dossier par dossier ; given, comme sur la ligne de commande. Par défaut : name, ou l’ordre du travail enregistré</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>prints problems only</source>
+        <translation>n’affiche que les problèmes</translation>
+    </message>
+    <message>
+        <source>also prints details for finding faults</source>
+        <translation>affiche aussi des détails pour chercher des pannes</translation>
+    </message>
+    <message>
+        <source>prints this text</source>
+        <translation>affiche ce texte</translation>
+    </message>
+    <message>
+        <source>prints the help of a command</source>
+        <translation>affiche l’aide d’une commande</translation>
+    </message>
+    <message>
+        <source>prints JSON</source>
+        <translation>affiche du JSON</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>traite un travail enregistré, des fichiers et dossiers, ou les deux ; les options passent avant le travail. Code de sortie : 0 si toutes les images ont été écrites, ou ignorées par une règle nommée dans une option ; 1 si certaines ont échoué ou ont été ignorées autrement ; 2 si les arguments ou le travail sont incorrects ; 3 si le serveur n’a pas pu être lancé ou a été perdu ; 4 si l’exécution a été annulée ; 5 s’il n’y a pas d’image parmi les entrées ; 6 si cette exécution est déjà en cours ; 7 s’il n’y a rien à reprendre</translation>
+    </message>
+    <message>
+        <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
+        <translation>écrit un travail avec ces entrées et options dans un fichier, ou sur la sortie standard pour « - »</translation>
+    </message>
+    <message>
+        <source>prints a job: its inputs as a tree, its effects, and its output in the words of the options</source>
+        <translation>affiche un travail : ses entrées en arbre, ses effets, et sa sortie dans les mots des options</translation>
+    </message>
+    <message>
+        <source>prints every input with its output and its size in pixels, and writes nothing. A problem is printed in brackets, with what the policy would do about it. Exit status: 1 when there are problems</source>
+        <translation>affiche chaque entrée avec sa sortie et sa taille en pixels, et n’écrit rien. Un problème est affiché entre crochets, avec ce que la règle en ferait. Code de sortie : 1 s’il y a des problèmes</translation>
+    </message>
+    <message>
+        <source>does not look at every picture for its size in pixels, which takes time for many</source>
+        <translation>n’examine pas chaque image pour sa taille en pixels, ce qui est long s’il y en a beaucoup</translation>
+    </message>
+    <message>
+        <source>prints one JSON object for each input</source>
+        <translation>affiche un objet JSON par entrée</translation>
+    </message>
+    <message>
+        <source>lists the effects with their parameters</source>
+        <translation>liste les effets avec leurs paramètres</translation>
+    </message>
+    <message>
+        <source>lists the output formats with their options, and the files that can be read</source>
+        <translation>liste les formats de sortie avec leurs options, et les fichiers lisibles</translation>
+    </message>
+    <message>
+        <source>%1 and %2 contradict each other; remove one of them</source>
+        <translation>%1 et %2 se contredisent ; retirez l’un des deux</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm or 6x4in</source>
+        <translation>« %1 » n’a pas la forme WIDTHxHEIGHT avec une unité facultative, comme 800x600, 15x10cm ou 6x4in</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers, such as %3; or add a unit, as in %4cm</source>
+        <translation>« %1 » signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers, comme %3 ; ou ajoutez une unité, comme dans %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large; each side must be from 1 to %2 pixels</source>
+        <translation>« %1 » est trop grand ; chaque côté doit mesurer de 1 à %2 pixels</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a resolution; add --resolution, as in --resolution 300</source>
+        <translation>« %1 » exige une résolution ; ajoutez --resolution, comme dans --resolution 300</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 pixels at %3 dots per inch; each side must be from 1 to %4</source>
+        <translation>« %1 » fait %2 pixels à %3 points par pouce ; chaque côté doit mesurer de 1 à %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 x %3 pixels, but the size is %4: type %5 for the unit of the size, or %6 for pixels</source>
+        <translation>« %1 » fait %2 x %3 pixels, mais la taille est %4 : tapez %5 pour l’unité de la taille, ou %6 pour des pixels</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; needs a size, such as %1:3x2%2</source>
+        <translation>« %1:%2 » exige une taille, comme %1:3x2%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for that size</source>
+        <translation>« %1:%2 » a une unité, mais un rapport n’en a pas : tapez %1:%3, ou fill:%2 pour cette taille</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with &quot;!&quot;, but only ratio and interesting turn with the picture; remove the &quot;!&quot;</source>
+        <translation>« %1 » finit par « ! », mais seuls ratio et interesting tournent avec l’image ; retirez le « ! »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point, as in %2</source>
+        <translation>« %1 » a une virgule ; les décimales s’écrivent avec un point, comme dans %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no size</source>
+        <translation>« %1 » ne prend pas de taille</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a size, such as %1:3x2</source>
+        <translation>« %1 » exige une taille, comme %1:3x2</translation>
+    </message>
+    <message>
+        <source>Pictures for the web, at most 1600 pixels long</source>
+        <translation>Images pour le web, de 1600 pixels de long au plus</translation>
+    </message>
+    <message>
+        <source>Names by capture date, in a folder for each day</source>
+        <translation>Noms par date de prise de vue, un dossier par jour</translation>
+    </message>
+    <message>
+        <source>A saved job over other pictures</source>
+        <translation>Un travail enregistré sur d’autres images</translation>
+    </message>
+    <message>
+        <source>Files that another program lists</source>
+        <translation>Fichiers que liste un autre programme</translation>
+    </message>
+    <message>
+        <source>Camera RAW files in all subfolders</source>
+        <translation>Fichiers RAW dans tous les sous-dossiers</translation>
+    </message>
+    <message>
+        <source>What would be written</source>
+        <translation>Ce qui serait écrit</translation>
+    </message>
+    <message>
+        <source>A preset over other pictures</source>
+        <translation>Un préréglage sur d’autres images</translation>
+    </message>
+    <message>
+        <source>A run that was interrupted</source>
+        <translation>Une exécution interrompue</translation>
+    </message>
+    <message>
+        <source>A job for pictures to come</source>
+        <translation>Un travail pour des images à venir</translation>
+    </message>
+    <message>
+        <source>A job with one value changed</source>
+        <translation>Un travail avec une valeur changée</translation>
+    </message>
+    <message>
+        <source>A saved job, in the words of the options</source>
+        <translation>Un travail enregistré, dans les mots des options</translation>
+    </message>
+    <message>
+        <source>Every result&apos;s name, and what is in the way</source>
+        <translation>Le nom de chaque résultat, et ce qui gêne</translation>
+    </message>
+    <message>
+        <source>The same for programs</source>
+        <translation>La même chose pour des programmes</translation>
+    </message>
+    <message>
+        <source>One effect with its parameters</source>
+        <translation>Un effet avec ses paramètres</translation>
+    </message>
+    <message>
+        <source>One format with its options</source>
+        <translation>Un format avec ses options</translation>
+    </message>
+    <message>
+        <source>folders are always read with their subfolders, so leave it out</source>
+        <translation>les dossiers sont toujours lus avec leurs sous-dossiers, donc omettez-la</translation>
+    </message>
+    <message>
+        <source>name files and folders without an option</source>
+        <translation>indiquez les fichiers et dossiers sans option</translation>
+    </message>
+    <message>
+        <source>use --files-from FILE, or --files-from -</source>
+        <translation>utilisez --files-from FILE, ou --files-from -</translation>
+    </message>
+    <message>
+        <source>use --hidden for files and folders whose names begin with a dot</source>
+        <translation>utilisez --hidden pour les fichiers et dossiers dont le nom commence par un point</translation>
+    </message>
+    <message>
+        <source>use --quality N, or --format-option compression=WORD or compressionLevel=N</source>
+        <translation>utilisez --quality N, ou --format-option compression=WORD ou compressionLevel=N</translation>
+    </message>
+    <message>
+        <source>metadata is kept unless --format-option keep=WORD+WORD says which</source>
+        <translation>les métadonnées sont conservées, sauf si --format-option keep=WORD+WORD dit lesquelles</translation>
+    </message>
+    <message>
+        <source>use --size %1, with % for a percentage</source>
+        <translation>utilisez --size %1, avec % pour un pourcentage</translation>
+    </message>
+    <message>
+        <source>pictures are always turned upright, so leave it out</source>
+        <translation>les images sont toujours redressées, donc omettez-la</translation>
+    </message>
+    <message>
+        <source>use --effect watermark-text:text=TEXT or --effect watermark-image:file=FILE</source>
+        <translation>utilisez --effect watermark-text:text=TEXT ou --effect watermark-image:file=FILE</translation>
+    </message>
+    <message>
+        <source>use --name, --prefix and --suffix, or --on-name-exists rename for names that are taken</source>
+        <translation>utilisez --name, --prefix et --suffix, ou --on-name-exists rename pour les noms déjà pris</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch plan&quot; prints what a run would write</source>
+        <translation>« velkora-batch plan » affiche ce qu’une exécution écrirait</translation>
+    </message>
+    <message>
+        <source>name a saved job as the first input</source>
+        <translation>indiquez un travail enregistré comme première entrée</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch formats&quot;</source>
+        <translation>utilisez « velkora-batch formats »</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch effects&quot;</source>
+        <translation>utilisez « velkora-batch effects »</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch --version&quot;</source>
+        <translation>utilisez « velkora-batch --version »</translation>
+    </message>
+    <message>
+        <source>use --%1</source>
+        <translation>utilisez --%1</translation>
+    </message>
+    <message>
+        <source>use --effect %1; &quot;velkora-batch effects %1&quot; lists its parameters</source>
+        <translation>utilisez --effect %1 ; « velkora-batch effects %1 » liste ses paramètres</translation>
+    </message>
+    <message>
+        <source>processes pictures in batches: effects, size, crop, frame, format and names</source>
+        <translation>traite des images par lots : effets, taille, recadrage, cadre, format et noms</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a shadow; add --shadow</source>
+        <translation>« %1 » n’a pas d’effet sans ombre ; ajoutez --shadow</translation>
+    </message>
+    <message>
+        <source>%1 is not an ICC profile</source>
+        <translation>%1 n’est pas un profil ICC</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>the name of the saved job</source>
+        <translation>le nom du travail enregistré</translation>
+    </message>
+    <message>
+        <source>the folder for the results; it is created when it does not exist, and a relative one starts at the current folder</source>
+        <translation>le dossier des résultats ; il est créé s’il n’existe pas, et un dossier relatif part du dossier courant</translation>
+    </message>
+    <message>
+        <source>the name of the folder is empty</source>
+        <translation>le nom du dossier est vide</translation>
+    </message>
+    <message>
+        <source>the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file where a picture has none</source>
+        <translation>les dossiers à l’intérieur : flat, aucun ; input, comme dans les entrées ; date, par date de prise de vue, ou celle du fichier si une image n’en a pas</translation>
+    </message>
+    <message>
+        <source>the format of results, by name or extension; Original keeps that of each input. Changing the format of a saved job drops its format options</source>
+        <translation>le format des résultats, par nom ou extension ; Original garde celui de chaque entrée. Changer le format d’un travail enregistré écarte ses options de format</translation>
+    </message>
+    <message>
+        <source>an option of the format, such as quality=90; &quot;velkora-batch formats&quot; lists them</source>
+        <translation>une option du format, comme quality=90 ; « velkora-batch formats » les liste</translation>
+    </message>
+    <message>
+        <source>an ICC profile to convert results to and to embed; none keeps each input&apos;s own</source>
+        <translation>un profil ICC vers lequel convertir les résultats et à incorporer ; none garde celui de chaque entrée</translation>
+    </message>
+    <message>
+        <source>Names of results</source>
+        <translation>Noms des résultats</translation>
+    </message>
+    <message>
+        <source>what a name begins with; PART is the same as for --name</source>
+        <translation>ce par quoi un nom commence ; PART est comme pour --name</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
+        <translation>le milieu d’un nom : original, le nom de l’entrée ; number, number:START ou number:START:DIGITS ; date et time, ceux de la prise de vue, ou du fichier si une image n’en a pas ; text:TEXT ; nothing</translation>
+    </message>
+    <message>
+        <source>what a name ends with</source>
+        <translation>ce par quoi un nom finit</translation>
+    </message>
+    <message>
+        <source>the text between prefix and middle</source>
+        <translation>le texte entre le préfixe et le milieu</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a prefix; add --prefix</source>
+        <translation>« %1 » n’a pas d’effet sans préfixe ; ajoutez --prefix</translation>
+    </message>
+    <message>
+        <source>the text between middle and suffix</source>
+        <translation>le texte entre le milieu et le suffixe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a suffix; add --suffix</source>
+        <translation>« %1 » n’a pas d’effet sans suffixe ; ajoutez --suffix</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a size, and this option says which pictures change; use --size %2</source>
+        <translation>« %1 » est une taille, et cette option dit quelles images changent ; utilisez --size %2</translation>
+    </message>
+    <message>
+        <source>Size and crop</source>
+        <translation>Taille et recadrage</translation>
+    </message>
+    <message>
+        <source>scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size</source>
+        <translation>met les images à une longueur d’un côté, comme 1600, 50%, 8in, 20cm ou 200mm ; none garde la taille</translation>
+    </message>
+    <message>
+        <source>the side that --size sets</source>
+        <translation>le côté que fixe --size</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a size; add --size</source>
+        <translation>« %1 » n’a pas d’effet sans taille ; ajoutez --size</translation>
+    </message>
+    <message>
+        <source>which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, both; none</source>
+        <translation>quelles images --size change : reduce, seulement les plus grandes (par défaut) ; enlarge, seulement les plus petites ; fit, les deux ; none</translation>
+    </message>
+    <message>
+        <source>dots per inch, for lengths in in, cm and mm; also written into results</source>
+        <translation>points par pouce, pour les longueurs en in, cm et mm ; aussi écrits dans les résultats</translation>
+    </message>
+    <message>
+        <source>none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; exact:800x600, that many pixels. in, cm and mm become pixels by --resolution</source>
+        <translation>none ; trim, coupe une bordure unie ; ou avec WIDTHxHEIGHT : ratio:3x2, le plus grand cadrage de ce rapport, vertical pour les images verticales, ou ratio:3x2!, jamais tourné ; interesting:3x2, le cadrage de ce rapport qui attire l’œil ; fill:800x600 ou fill:15x10cm, met à l’échelle pour couvrir, puis coupe ; exact:800x600, autant de pixels. in, cm et mm deviennent des pixels par --resolution</translation>
+    </message>
+    <message>
+        <source>where ratio, fill and exact place the frame in the picture</source>
+        <translation>où ratio, fill et exact placent le cadrage dans l’image</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without --crop ratio, fill or exact; add one of them</source>
+        <translation>« %1 » n’a pas d’effet sans --crop ratio, fill ou exact ; ajoutez l’un d’eux</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; none removes the frame. Each of the options below adds a frame</source>
+        <translation>place les images sur un cadre avec des marges en pixels : un nombre pour tous les côtés, ou LEFT,TOP,RIGHT,BOTTOM ; none retire le cadre. Chacune des options suivantes ajoute un cadre</translation>
+    </message>
+    <message>
+        <source>the size of the frame in pixels; picture: the size of each picture</source>
+        <translation>la taille du cadre en pixels ; picture : la taille de chaque image</translation>
+    </message>
+    <message>
+        <source>turns the picture on its frame, clockwise</source>
+        <translation>tourne l’image sur son cadre, dans le sens horaire</translation>
+    </message>
+    <message>
+        <source>the opacity of the picture</source>
+        <translation>l’opacité de l’image</translation>
+    </message>
+    <message>
+        <source>how the picture is laid over its background</source>
+        <translation>comment l’image est posée sur son arrière-plan</translation>
+    </message>
+    <message>
+        <source>the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; image:FILE</source>
+        <translation>l’arrière-plan du cadre : none ; colour:#rrggbb ; pattern:0 à pattern:7, avec :PERCENT pour son échelle ; image:FILE</translation>
+    </message>
+    <message>
+        <source>the opacity of the background</source>
+        <translation>l’opacité de l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a background; add --background</source>
+        <translation>« %1 » n’a pas d’effet sans arrière-plan ; ajoutez --background</translation>
+    </message>
+    <message>
+        <source>the shadow of the picture: drop; glow, around it; none</source>
+        <translation>l’ombre de l’image : drop ; glow, tout autour ; none</translation>
+    </message>
+    <message>
+        <source>#rrggbb or a name</source>
+        <translation>#rrggbb ou un nom</translation>
+    </message>
+    <message>
+        <source>the opacity of the shadow</source>
+        <translation>l’opacité de l’ombre</translation>
+    </message>
+    <message>
+        <source>where the light comes from: 0 from the right, 90 from above</source>
+        <translation>d’où vient la lumière : 0 de droite, 90 d’en haut</translation>
+    </message>
+    <message>
+        <source>how far the shadow lies from the picture</source>
+        <translation>à quelle distance de l’image se trouve l’ombre</translation>
+    </message>
+    <message>
+        <source>how soft the shadow is</source>
+        <translation>le flou de l’ombre</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>Effets</translation>
+    </message>
+    <message>
+        <source>drops the effects of the saved job first</source>
+        <translation>écarte d’abord les effets du travail enregistré</translation>
+    </message>
+    <message>
+        <source>adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds the effect disabled. &quot;velkora-batch effects&quot; lists all effects</source>
+        <translation>ajoute un effet après ceux du travail, comme blur:sigma=2. NAME:{JSON} convient aussi ; off:NAME ajoute l’effet désactivé. « velkora-batch effects » liste tous les effets</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or 200mm; &quot;none&quot; keeps the size</source>
+        <translation>« %1 » n’est pas une longueur au-dessus de 0 et jusqu’à %2, comme 1600, 50%, 8in, 20cm ou 200mm ; « none » garde la taille</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; a size is one length, such as 1600 or 20.5cm</source>
+        <translation>« %1 » a une virgule ; une taille est une seule longueur, comme 1600 ou 20.5cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point: type %2</source>
+        <translation>« %1 » a une virgule ; les décimales s’écrivent avec un point : tapez %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma, which no number has: type %2 for that many pixels, %3cm for decimals, or --crop fill:%4 for a width and a height</source>
+        <translation>« %1 » a une virgule, qu’aucun nombre n’a : tapez %2 pour autant de pixels, %3cm pour des décimales, ou --crop fill:%4 pour une largeur et une hauteur</translation>
+    </message>
+    <message>
+        <source>type %1 for that many pixels</source>
+        <translation>tapez %1 pour autant de pixels</translation>
+    </message>
+    <message>
+        <source>type %1 for that</source>
+        <translation>tapez %1 pour cela</translation>
+    </message>
+    <message>
+        <source>type 1</source>
+        <translation>tapez 1</translation>
+    </message>
+    <message>
+        <source>type 1px</source>
+        <translation>tapez 1px</translation>
+    </message>
+    <message>
+        <source>type %1 or %2</source>
+        <translation>tapez %1 ou %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a width and a height, but a size is the length of one side: type one of them, with --side to say which, or --crop fill:%2 for exactly that</source>
+        <translation>« %1 » est une largeur et une hauteur, mais une taille est la longueur d’un côté : tapez l’une des deux, avec --side pour dire laquelle, ou --crop fill:%2 pour exactement cela</translation>
+    </message>
+    <message>
+        <source>%1 (unit %2)</source>
+        <translation>%1 (unité %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form KEY=VALUE</source>
+        <translation>« %1 » n’a pas la forme KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>it takes no parameters, but &quot;%1&quot; is given</source>
+        <translation>il ne prend pas de paramètres, mais « %1 » est donné</translation>
+    </message>
+    <message>
+        <source>unknown effect &quot;%1&quot;; the effects are %2</source>
+        <translation>effet inconnu « %1 » ; les effets sont %2</translation>
+    </message>
+    <message>
+        <source>effect %1</source>
+        <translation>effet %1</translation>
+    </message>
+    <message>
+        <source>format %1</source>
+        <translation>format %1</translation>
+    </message>
+    <message>
+        <source>when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask</source>
+        <translation>si un fichier manque, est endommagé, trop grand ou n’est pas une image : skip l’ignore, stop arrête l’exécution, ask interroge</translation>
+    </message>
+    <message>
+        <source>when a result cannot be written, because of a full disk or missing rights: skip, stop or ask</source>
+        <translation>si un résultat ne peut pas être écrit, faute de place ou de droits : skip, stop ou ask</translation>
+    </message>
+    <message>
+        <source>when an effect fails, or a picture takes too long or crashes its worker: skip, stop or ask</source>
+        <translation>si un effet échoue, ou si une image prend trop de temps ou fait tomber son processus de traitement : skip, stop ou ask</translation>
+    </message>
+    <message>
+        <source>when a result&apos;s name is taken, on disk, by another result or by a source: skip, overwrite, rename (&quot; (2)&quot; is appended) or ask</source>
+        <translation>si le nom d’un résultat est pris, sur le disque, par un autre résultat ou par une source : skip, overwrite, rename (ajoute (2) au nom) ou ask</translation>
+    </message>
+    <message>
+        <source>when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write the nearest format that can hold it</source>
+        <translation>si une image ne peut pas être écrite dans le format voulu : skip, stop, ask, ou nearest, pour le format le plus proche qui peut la contenir</translation>
+    </message>
+    <message>
+        <source>Exceptions</source>
+        <translation>Exceptions</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them</source>
+        <translation>part d’un préréglage ; « velkora-batch presets » les liste</translation>
+    </message>
+    <message>
+        <source>the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)</source>
+        <translation>le dossier avec BatchExceptionPolicy.ini (règles par défaut) et presets/ (préréglages personnels)</translation>
+    </message>
+    <message>
+        <source>starts from a saved job</source>
+        <translation>part d’un travail enregistré</translation>
+    </message>
+    <message>
+        <source>replaces an existing file</source>
+        <translation>remplace un fichier existant</translation>
+    </message>
+    <message>
+        <source>prints the list as JSON</source>
+        <translation>affiche la liste en JSON</translation>
+    </message>
+    <message>
+        <source>lists the presets, saves the options as a preset, or removes one. A preset is a job without inputs that run, plan, show and create take by --preset NAME; a relative --output starts where it is run. Exit status: 1 when a preset cannot be used</source>
+        <translation>liste les préréglages, enregistre les options comme préréglage, ou en supprime un. Un préréglage est un travail sans entrées que run, plan, show et create prennent par --preset NAME ; un --output relatif part de là où il est exécuté. Code de sortie : 1 si un préréglage est inutilisable</translation>
+    </message>
+    <message>
+        <source>%1 files have no quality; %2 have one</source>
+        <translation>les fichiers %1 n’ont pas de qualité ; %2 en ont une</translation>
+    </message>
+    <message>
+        <source>the quality of results in formats that have one; the same as %1 %2=N</source>
+        <translation>la qualité des résultats dans les formats qui en ont une ; comme %1 %2=N</translation>
+    </message>
+    <message>
+        <source>how many pictures are processed at a time; default: one for each core</source>
+        <translation>combien d’images sont traitées à la fois ; par défaut : une par cœur</translation>
+    </message>
+    <message>
+        <source>larger pictures are not read; default: 400</source>
+        <translation>les images plus grandes ne sont pas lues ; par défaut : 400</translation>
+    </message>
+    <message>
+        <source>memory that one picture may take; default: 2048</source>
+        <translation>mémoire qu’une image peut prendre ; par défaut : 2048</translation>
+    </message>
+    <message>
+        <source>time that one picture may take; default: 300</source>
+        <translation>temps qu’une image peut prendre ; par défaut : 300</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Exécution</translation>
+    </message>
+    <message>
+        <source>lets results replace their own originals. Without --output, results go to the folders of their originals. Without this option no original is ever replaced</source>
+        <translation>laisse les résultats remplacer leurs propres originaux. Sans --output, les résultats vont dans les dossiers de leurs originaux. Sans cette option, aucun original n’est jamais remplacé</translation>
+    </message>
+    <message>
+        <source>ends with 0, not with 5, when there is no picture among the inputs</source>
+        <translation>se termine par 0, pas par 5, s’il n’y a pas d’image parmi les entrées</translation>
+    </message>
+    <message>
+        <source>prints what the run would write, as &quot;velkora-batch plan&quot; does, and writes nothing</source>
+        <translation>affiche ce que l’exécution écrirait, comme « velkora-batch plan », et n’écrit rien</translation>
+    </message>
+    <message>
+        <source>writes the result of every input to a file, as CSV or JSON by the extension of its name</source>
+        <translation>écrit le résultat de chaque entrée dans un fichier, en CSV ou JSON selon l’extension de son nom</translation>
+    </message>
+    <message>
+        <source>resumes the run that was interrupted in the output folder, with its job and its policies</source>
+        <translation>reprend l’exécution interrompue dans le dossier de sortie, avec son travail et ses règles</translation>
+    </message>
+    <message>
+        <source>says which run to resume if several were interrupted; --resume lists their names</source>
+        <translation>dit quelle exécution reprendre si plusieurs ont été interrompues ; --resume liste leurs noms</translation>
+    </message>
+    <message>
+        <source>counts a picture with a warning as failed; its result is kept</source>
+        <translation>compte comme échec une image avec avertissement ; son résultat est gardé</translation>
+    </message>
+    <message>
+        <source>prints each event of the run to standard output, as one line of JSON</source>
+        <translation>affiche chaque événement de l’exécution sur la sortie standard, en une ligne de JSON</translation>
+    </message>
+    <message>
+        <source>lets results go through links to folders below the output folder; otherwise such a link is an error of output</source>
+        <translation>laisse les résultats passer par des liens vers des dossiers sous le dossier de sortie ; sinon un tel lien est une erreur de sortie</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from %2 to %3</source>
+        <translation>« %1 » n’est pas un nombre de %2 à %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from %2 to %3</source>
+        <translation>« %1 » n’est pas un nombre entier de %2 à %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600</source>
+        <translation>« %1 » n’a pas la forme WIDTHxHEIGHT, avec des nombres entiers de 1 à %2, comme 800x600</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; &quot;none&quot; means no frame</source>
+        <translation>« %1 » n’est ni un nombre de pixels, comme 40, ni LEFT,TOP,RIGHT,BOTTOM ; « none » signifie sans cadre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour; use #rrggbb or a name</source>
+        <translation>« %1 » n’est pas une couleur ; utilisez #rrggbb ou un nom</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is incomplete; complete it as in %2</source>
+        <translation>« %1 » est incomplet ; complétez-le comme dans %2</translation>
+    </message>
+    <message>
+        <source>; write a text of your own as text:%1</source>
+        <translation> ; écrivez un texte à vous comme text:%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no value</source>
+        <translation>« %1 » ne prend pas de valeur</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>« %1 » n’est pas parmi %2</translation>
+    </message>
+    <message>
+        <source>argument %1 (%2) is not valid UTF-8</source>
+        <translation>l’argument %1 (%2) n’est pas de l’UTF-8 valide</translation>
+    </message>
+    <message>
+        <source>the inputs do not lie in one folder: use --in-place for one folder after the other, or name the folder of the results with --output</source>
+        <translation>les entrées ne sont pas dans un même dossier : utilisez --in-place un dossier après l’autre, ou indiquez le dossier des résultats avec --output</translation>
+    </message>
+    <message>
+        <source>the result of %1 would not go to the folder of its original; name the folder of the results with --output</source>
+        <translation>le résultat de %1 n’irait pas dans le dossier de son original ; indiquez le dossier des résultats avec --output</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture</source>
+        <translation>%1 est un travail enregistré, pas une image</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture; it is left out.</source>
+        <translation>%1 est un travail enregistré, pas une image ; il est laissé de côté.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>on standard input</source>
+        <translation>sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>the list %1 cannot be read: %2</source>
+        <translation>impossible de lire la liste %1 : %2</translation>
+    </message>
+    <message>
+        <source>the list %1 is larger than %2 MiB; divide it</source>
+        <translation>la liste %1 dépasse %2 Mio ; divisez-la</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and no name is that long</source>
+        <translation>il a %1 octets, et aucun nom n’est aussi long</translation>
+    </message>
+    <message>
+        <source>it contains a NUL byte; use -0 for names that are separated by NUL</source>
+        <translation>il contient un octet NUL ; utilisez -0 pour des noms séparés par NUL</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid UTF-8; rename it to use it</source>
+        <translation>« %1 » n’est pas de l’UTF-8 valide ; renommez-le pour l’utiliser</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job cannot hold</source>
+        <translation>« %1 » contient un caractère qu’un travail ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>it contains line ends; names in lines are read without -0</source>
+        <translation>il contient des fins de ligne ; les noms en lignes se lisent sans -0</translation>
+    </message>
+    <message>
+        <source>%1, name %2</source>
+        <translation>%1, nom %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link</source>
+        <translation>%1, ligne %2 : %3 est un lien sans cible</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist</source>
+        <translation>%1, ligne %2 : %3 n’existe pas</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link</source>
+        <translation>%1, nom %2 : %3 est un lien sans cible</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist</source>
+        <translation>%1, nom %2 : %3 n’existe pas</translation>
+    </message>
+    <message>
+        <source>the list %1 is UTF-16 text; save it as UTF-8</source>
+        <translation>la liste %1 est du texte UTF-16 ; enregistrez-la en UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 runs were interrupted in %2</source>
+        <translation>%1 exécutions ont été interrompues dans %2</translation>
+    </message>
+    <message>
+        <source>no run in %1 is called &quot;%2&quot;</source>
+        <translation>aucune exécution dans %1 ne s’appelle « %2 »</translation>
+    </message>
+    <message>
+        <source>%1  %2 is damaged</source>
+        <translation>%1  %2 est endommagé</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of 1 picture  %4</source>
+        <translation>%1  %2  %3 sur 1 image  %4</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of %4 pictures  %5</source>
+        <translation>%1  %2  %3 sur %4 images  %5</translation>
+    </message>
+    <message>
+        <source>%1, line %2: this version does not know %3, and ignores it.</source>
+        <translation>%1, ligne %2 : cette version ne connaît pas %3, et l’ignore.</translation>
+    </message>
+    <message>
+        <source>%1: this version does not know %2 other elements and attributes, and ignores them.</source>
+        <translation>%1 : cette version ne connaît pas %2 autres éléments et attributs, et les ignore.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a path, but the name of a preset is needed</source>
+        <translation>« %1 » est un chemin, mais il faut le nom d’un préréglage</translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;</source>
+        <translation>il n’y a pas de préréglage « %1 »</translation>
+    </message>
+    <message>
+        <source>the name of the preset is empty</source>
+        <translation>le nom du préréglage est vide</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a dot, which the name of a preset must not</source>
+        <translation>« %1 » commence par un point, ce que le nom d’un préréglage ne doit pas faire</translation>
+    </message>
+    <message>
+        <source>the name of a preset has no extension: use &quot;%1&quot;</source>
+        <translation>le nom d’un préréglage n’a pas d’extension : utilisez « %1 »</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a file on every system; &quot;%2&quot; would be one</source>
+        <translation>« %1 » n’est pas un nom de fichier sur tous les systèmes ; « %2 » en serait un</translation>
+    </message>
+    <message>
+        <source>the name of the preset is longer than %1 bytes</source>
+        <translation>le nom du préréglage dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>the preset %1</source>
+        <translation>le préréglage %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <translation>impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+        <source>the preset %1 comes with the program and cannot be removed; a preset of yours with that name is used instead of it</source>
+        <translation>le préréglage %1 est fourni avec le programme et ne peut pas être supprimé ; un préréglage personnel de ce nom passe avant lui</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>impossible de supprimer %1 : %2</translation>
+    </message>
+    <message>
+        <source>Archive: TIFF without loss, with all metadata and the time of the file</source>
+        <translation>Archives : TIFF sans perte, avec toutes les métadonnées et la date du fichier</translation>
+    </message>
+    <message>
+        <source>Mail: small JPEG of at most 1024 pixels, sRGB, with creator and rights</source>
+        <translation>Courriel : petit JPEG de 1024 pixels au plus, sRGB, avec auteur et droits</translation>
+    </message>
+    <message>
+        <source>Print: 15 cm long at 300 dpi, with a white border of 5 mm</source>
+        <translation>Impression : 15 cm de long à 300 ppp, avec une bordure blanche de 5 mm</translation>
+    </message>
+    <message>
+        <source>Thumbnails: squares of 256 pixels, JPEG without metadata</source>
+        <translation>Vignettes : carrés de 256 pixels, JPEG sans métadonnées</translation>
+    </message>
+    <message>
+        <source>Web: JPEG of at most 1600 pixels, sRGB, with creator and rights</source>
+        <translation>Web : JPEG de 1600 pixels au plus, sRGB, avec auteur et droits</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be written: %2.</source>
+        <translation>Impossible d’écrire le journal %1 : %2.</translation>
+    </message>
+    <message>
+        <source>the braces of a wildcard are nested too deeply</source>
+        <translation>les accolades d’un motif sont imbriquées trop profondément</translation>
+    </message>
+    <message>
+        <source>a wildcard is longer than %1 characters: %2...</source>
+        <translation>un motif dépasse %1 caractères : %2...</translation>
+    </message>
+    <message>
+        <source>the wildcard &quot;%1&quot; is invalid: %2</source>
+        <translation>le motif « %1 » est invalide : %2</translation>
+    </message>
+    <message>
+        <source>the braces in &quot;%1&quot; stand for more than %2 names</source>
+        <translation>les accolades de « %1 » donnent plus de %2 noms</translation>
+    </message>
+    <message>
+        <source>%1 matches no file</source>
+        <translation>%1 ne correspond à aucun fichier</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>le nom est vide</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixel, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>« %1 » signifie %2 pixel, car un point précède les décimales, mais les pixels se comptent en nombres entiers : %3, ou une unité, comme dans %4cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>« %1 » signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers : %3, ou une unité, comme dans %4cm</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, nom %2 : %3 est un lien sans cible (et %4 de plus)</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, nom %2 : %3 n’existe pas (et %4 de plus)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1, ligne %2 : %3 est un lien sans cible (et %4 de plus)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1, ligne %2 : %3 n’existe pas (et %4 de plus)</translation>
+    </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>Balise ouvrante attendue.</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>Les balises ouvrante et fermante ne correspondent pas.</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>Fin prématurée du document.</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>Contenu en trop à la fin du document.</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>%1 attendu, mais « %2 » trouvé.</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>intervalle en désordre dans une classe de caractères</translation>
     </message>
 </context>
 </TS>

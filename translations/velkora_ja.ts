@@ -103,6 +103,274 @@
         <source>and %1 more; use --report FILE for all</source>
         <translation>ほか %1 件。すべてを見るには --report FILE を使ってください</translation>
     </message>
+    <message>
+        <source>required</source>
+        <translation>必須</translation>
+    </message>
+    <message>
+        <source>optional</source>
+        <translation>省略可</translation>
+    </message>
+    <message>
+        <source>default %1</source>
+        <translation>既定値 %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>あり</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels</source>
+        <translation>チャンネルあたり %1 ビット、透明度: %2、CMYK: %3、最長辺 %4 ピクセル</translation>
+    </message>
+    <message>
+        <source>Files that can be read: %1</source>
+        <translation>読み込めるファイル: %1</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures; give them to run or plan, after the job.</source>
+        <translation>%1: 画像のないジョブです。画像は run または plan で、ジョブの後に指定します。</translation>
+    </message>
+    <message>
+        <source>%1: a job without pictures and output folder; give them to run or plan.</source>
+        <translation>%1: 画像も出力フォルダーもないジョブです。run または plan で指定します。</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture.</source>
+        <translation>%1: 画像 1 枚のジョブです。</translation>
+    </message>
+    <message>
+        <source>%1: a job of 1 picture, without an output folder; give --output to run or plan.</source>
+        <translation>%1: 画像 1 枚のジョブで、出力フォルダーがありません。run または plan で --output を指定します。</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures.</source>
+        <translation>%1: 画像 %2 枚のジョブです。</translation>
+    </message>
+    <message>
+        <source>%1: a job of %2 pictures, without an output folder; give --output to run or plan.</source>
+        <translation>%1: 画像 %2 枚のジョブで、出力フォルダーがありません。run または plan で --output を指定します。</translation>
+    </message>
+    <message>
+        <source>Looking at pictures: %1 of %2</source>
+        <translation>画像を確認中: %1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 is left out: it begins like a %2 file, but its extension is not known.</source>
+        <translation>%1 は対象外です。%2 ファイルのように始まりますが、拡張子が不明です。</translation>
+    </message>
+    <message>
+        <source>Folders read: %1, pictures found: %2, now in %3</source>
+        <translation>読み込んだフォルダー: %1、見つかった画像: %2、現在 %3</translation>
+    </message>
+    <message>
+        <source>1 picture</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 pictures</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>Inputs: %1</source>
+        <translation>入力: %1</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Planning %1 files</source>
+        <translation>%1 個のファイルを計画中</translation>
+    </message>
+    <message>
+        <source>replaces the original</source>
+        <translation>元のファイルを置き換え</translation>
+    </message>
+    <message>
+        <source>sizes in pixels are not known: %1.</source>
+        <translation>ピクセル単位のサイズは不明です: %1。</translation>
+    </message>
+    <message>
+        <source>%1 file: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 個のファイル: 問題なし %2、角かっこ付き %3。何も書き出していません。</translation>
+    </message>
+    <message>
+        <source>%1 files: %2 without trouble, %3 in brackets. Nothing was written.</source>
+        <translation>%1 個のファイル: 問題なし %2、角かっこ付き %3。何も書き出していません。</translation>
+    </message>
+    <message>
+        <source>comes along</source>
+        <translation>付属</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>自作</translation>
+    </message>
+    <message>
+        <source>the preset %1 in %2 cannot be used: %3</source>
+        <translation>%2 にあるプリセット %1 は使用できません: %3</translation>
+    </message>
+    <message>
+        <source>%1: the preset %2.</source>
+        <translation>%1: プリセット %2。</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written: %1.</source>
+        <translation>標準出力に書き出せません: %1。</translation>
+    </message>
+    <message>
+        <source>%1: name files, or folders with pictures that can be read</source>
+        <translation>%1: 読み込める画像のファイルまたはフォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>%1: use --output DIR</source>
+        <translation>%1: --output DIR を使用してください</translation>
+    </message>
+    <message>
+        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
+        <translation>%1。保存済みジョブは 1 つだけ指定できます。run、plan、show の最初の引数として、または create の --from で指定します</translation>
+    </message>
+    <message>
+        <source>%1; use --force to replace it</source>
+        <translation>%1。置き換えるには --force を使用してください</translation>
+    </message>
+    <message>
+        <source>%1. Use --resume with --output alone to resume that run, or run this job without --resume</source>
+        <translation>%1。その実行を再開するには --resume と --output だけを指定し、このジョブを実行するには --resume を外してください</translation>
+    </message>
+    <message>
+        <source>%1; use --resume --run NAME with one of these names</source>
+        <translation>%1。次の名前のどれかで --resume --run NAME を使用してください</translation>
+    </message>
+    <message>
+        <source>an earlier run of this job was interrupted; this run starts anew. Use --resume to continue an interrupted run.</source>
+        <translation>このジョブの以前の実行は中断されました。今回は最初から開始します。中断した実行を続けるには --resume を使用してください。</translation>
+    </message>
+    <message>
+        <source>1 other run was interrupted in %1; it can still be resumed: %2</source>
+        <translation>%1 でほかに 1 件の実行が中断されています。まだ再開できます: %2</translation>
+    </message>
+    <message>
+        <source>%3 other runs were interrupted in %1; they can still be resumed: %2</source>
+        <translation>%1 でほかに %3 件の実行が中断されています。まだ再開できます: %2</translation>
+    </message>
+    <message>
+        <source>should it be interrupted, the run cannot be resumed: %1.</source>
+        <translation>中断した場合、この実行は再開できません: %1。</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
+        <translation>一時フォルダーを作成できません: %1。TMPDIR に別のフォルダーを設定してください。</translation>
+    </message>
+    <message>
+        <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
+        <translation>別のバッチサーバーが動作中で、このシステムにはそのためのパイプが 1 つしかありません。その実行が終わってから再試行してください。</translation>
+    </message>
+    <message>
+        <source>To resume: %1</source>
+        <translation>再開するには: %1</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: 1 picture was left out.</source>
+        <translation>端末がないため確認できませんでした: 画像 1 枚をスキップしました。</translation>
+    </message>
+    <message>
+        <source>without a terminal nobody could be asked: %1 pictures were left out.</source>
+        <translation>端末がないため確認できませんでした: 画像 %1 枚をスキップしました。</translation>
+    </message>
+    <message>
+        <source>%1 decides such cases.</source>
+        <translation>このような場合の扱いは %1 で決まります。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 decide such cases.</source>
+        <translation>このような場合の扱いは %1 と %2 で決まります。</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because other sources of the job have such names.</source>
+        <translation>ジョブのほかの元ファイルと同じ名前になるため、結果 1 件の名前を変更しました。</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because other sources of the job have such names.</source>
+        <translation>ジョブのほかの元ファイルと同じ名前になるため、結果 %1 件の名前を変更しました。</translation>
+    </message>
+    <message>
+        <source>1 result was renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>元のファイルと同じ名前になるため、結果 1 件の名前を変更しました。--in-place は元のファイルを置き換えます。</translation>
+    </message>
+    <message>
+        <source>%1 results were renamed, because originals have their names; --in-place replaces originals.</source>
+        <translation>元のファイルと同じ名前になるため、結果 %1 件の名前を変更しました。--in-place は元のファイルを置き換えます。</translation>
+    </message>
+    <message>
+        <source>no worker can be started; VelkoraBatchWorker belongs beside %1.</source>
+        <translation>ワーカーを起動できません。VelkoraBatchWorker は %1 と同じ場所に必要です。</translation>
+    </message>
+    <message>
+        <source>No picture was processed. --structure input keeps the folders of the inputs, --on-name-exists rename numbers such names, and another --name, --prefix or --suffix tells them apart.</source>
+        <translation>画像は処理されませんでした。--structure input は入力のフォルダーを保ち、--on-name-exists rename は重なる名前に番号を付けます。--name、--prefix、--suffix で区別することもできます。</translation>
+    </message>
+    <message>
+        <source>the server ended before it had processed anything; see its messages above.</source>
+        <translation>サーバーは何も処理しないうちに終了しました。上のメッセージを確認してください。</translation>
+    </message>
+    <message>
+        <source>the server cannot be started; VelkoraBatchProcessing belongs beside %1.</source>
+        <translation>サーバーを起動できません。VelkoraBatchProcessing は %1 と同じ場所に必要です。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使い方: %1</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>More: velkora-batch --help, or velkora-batch help COMMAND</source>
+        <translation>詳細: velkora-batch --help または velkora-batch help COMMAND</translation>
+    </message>
+    <message>
+        <source>velkora-batch %1.</source>
+        <translation>velkora-batch は%1。</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>prints this text; after a command, the help of that command</source>
+        <translation>この説明を表示します。コマンドの後ではそのコマンドの説明を表示します</translation>
+    </message>
+    <message>
+        <source>prints the version; with --verbose, also how this system confines the processes that read pictures</source>
+        <translation>バージョンを表示します。--verbose を付けると、画像を読むプロセスをこのシステムがどう制限するかも表示します</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>例</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1. Values: %2</source>
+        <translation>%1。値: %2</translation>
+    </message>
+    <message>
+        <source>%1. May be given several times</source>
+        <translation>%1。複数回指定できます</translation>
+    </message>
+    <message>
+        <source>(%1 bytes in the job)</source>
+        <translation>（ジョブ内に %1 バイト）</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -664,7 +932,7 @@
     </message>
     <message>
         <source>; known are %1</source>
-        <translation>。使えるのは %1</translation>
+        <translation>。使えるのは %1 です</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
@@ -1383,10 +1651,6 @@
         <translation>%1 で中断された実行は別のジョブのものです: 入力、オプション、またはファイルが異なります</translation>
     </message>
     <message>
-        <source>%1 runs were interrupted in %2, none of them of this job</source>
-        <translation>%2 で %1 件の実行が中断されましたが、このジョブのものはありません</translation>
-    </message>
-    <message>
         <source>%1 is damaged; remove it to start the run anew</source>
         <translation>%1 は壊れています。実行をやり直すには削除してください</translation>
     </message>
@@ -1771,10 +2035,6 @@
         <translation>ビット</translation>
     </message>
     <message>
-        <source>which metadata is kept</source>
-        <translation>残すメタデータ</translation>
-    </message>
-    <message>
         <source>colour under transparency that the format cannot hold</source>
         <translation>形式が透明度を保存できないときの背景色</translation>
     </message>
@@ -1785,6 +2045,1154 @@
     <message>
         <source>keep every pixel that can be seen</source>
         <translation>見える画素をすべて保ちます</translation>
+    </message>
+    <message>
+        <source>which metadata is kept; copyright is creator and rights from all of it</source>
+        <translation>保持するメタデータ。copyright は全体のうち作者と権利情報</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; would both be &quot;%3&quot;</source>
+        <translation>「%1」と「%2」がどちらも「%3」になります</translation>
+    </message>
+    <message>
+        <source>and so on</source>
+        <translation>など</translation>
+    </message>
+    <message>
+        <source>1 result would get the name of another</source>
+        <translation>結果 1 件がほかの結果と同じ名前になります</translation>
+    </message>
+    <message>
+        <source>%1 results would get the names of others</source>
+        <translation>結果 %1 件がほかの結果と同じ名前になります</translation>
+    </message>
+    <message>
+        <source>the attribute &quot;%1&quot; of &quot;%2&quot;</source>
+        <translation>「%2」の属性「%1」</translation>
+    </message>
+    <message>
+        <source>the element &quot;%1&quot; in &quot;%2&quot;</source>
+        <translation>「%2」の要素「%1」</translation>
+    </message>
+    <message>
+        <source>a colour: #rrggbb, #rrggbbaa, or a name such as white</source>
+        <translation>色: #rrggbb、#rrggbbaa、または white などの名前</translation>
+    </message>
+    <message>
+        <source>%1, joined with +, or none</source>
+        <translation>%1 を + でつなぐ、または none</translation>
+    </message>
+    <message>
+        <source>2 to %1 points x:y with ascending x, joined with +, numbers %2</source>
+        <translation>x が昇順の 2 から %1 個の点 x:y を + でつなぐ、数は %2</translation>
+    </message>
+    <message>
+        <source>workers: not confined on this system</source>
+        <translation>ワーカー: このシステムでは制限されません</translation>
+    </message>
+    <message>
+        <source>files of workers: not restricted, as the kernel has no Landlock</source>
+        <translation>ワーカーのファイル: カーネルに Landlock がないため制限されません</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, with scopes for signals and sockets</source>
+        <translation>ワーカーのファイル: ジョブのものだけ（Landlock %1、シグナルとソケットの範囲制限あり）</translation>
+    </message>
+    <message>
+        <source>files of workers: those of the job, by Landlock %1, without scopes for signals and sockets</source>
+        <translation>ワーカーのファイル: ジョブのものだけ（Landlock %1、シグナルとソケットの範囲制限なし）</translation>
+    </message>
+    <message>
+        <source>system calls of workers: a list of allowed ones, by seccomp</source>
+        <translation>ワーカーのシステムコール: 許可された一覧のみ（seccomp）</translation>
+    </message>
+    <message>
+        <source>system calls of workers: not restricted, as the kernel has no seccomp</source>
+        <translation>ワーカーのシステムコール: カーネルに seccomp がないため制限されません</translation>
+    </message>
+    <message>
+        <source>memory of the supervisor: closed to other processes of the user (not dumpable)</source>
+        <translation>スーパーバイザーのメモリー: ユーザーのほかのプロセスから保護（ダンプ不可）</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2, which is not kept; keep=copyright keeps it</source>
+        <translation>著作権表示「%1」は、保持されない %2 にしかありません。keep=copyright で保持されます</translation>
+    </message>
+    <message>
+        <source>the copyright notice &quot;%1&quot; is only in %2 and %3, which are not kept; keep=copyright keeps it</source>
+        <translation>著作権表示「%1」は、保持されない %2 と %3 にしかありません。keep=copyright で保持されます</translation>
+    </message>
+    <message>
+        <source>the format of each input</source>
+        <translation>各入力の形式</translation>
+    </message>
+    <message>
+        <source>--dry-run and %1 cannot be combined; remove one of them</source>
+        <translation>--dry-run と %1 は併用できません。どちらかを取り除いてください</translation>
+    </message>
+    <message>
+        <source>%1 and --preset exclude each other: give one of them to start from</source>
+        <translation>%1 と --preset は同時に使えません。出発点としてどちらか一方を指定してください</translation>
+    </message>
+    <message>
+        <source>no file name for the job: velkora-batch create JOB.xml INPUT...</source>
+        <translation>ジョブのファイル名がありません: velkora-batch create JOB.xml INPUT...</translation>
+    </message>
+    <message>
+        <source>the first argument must be the file of the job, with a name that ends with .xml, but is &quot;%1&quot;</source>
+        <translation>最初の引数は .xml で終わるジョブのファイル名でなければなりませんが、「%1」が指定されています</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;-&quot;; to read names from standard input, use --files-from -</source>
+        <translation>「-」というファイルはありません。標準入力から名前を読み込むには --files-from - を使用してください</translation>
+    </message>
+    <message>
+        <source>--null needs %1</source>
+        <translation>--null には %1 が必要です</translation>
+    </message>
+    <message>
+        <source>%1 -: standard input is a terminal; pipe a list into it, or name a file</source>
+        <translation>%1 -: 標準入力が端末です。一覧をパイプで渡すか、ファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used with --in-place without --output: results go to the folders of their originals</source>
+        <translation>%1 は --output なしの --in-place とは併用できません。結果は元のファイルのフォルダーに入ります</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 matches nothing</source>
+        <translation>画像がありません: %1 に一致するものがありません</translation>
+    </message>
+    <message>
+        <source>no pictures: %1 and %2 match nothing</source>
+        <translation>画像がありません: %1 と %2 に一致するものがありません</translation>
+    </message>
+    <message>
+        <source>no inputs</source>
+        <translation>入力がありません</translation>
+    </message>
+    <message>
+        <source>%1 is not for &quot;presets %2&quot;, but for &quot;presets %3&quot;</source>
+        <translation>%1 は「presets %2」用ではなく「presets %3」用です</translation>
+    </message>
+    <message>
+        <source>the name of the preset is missing: velkora-batch presets %1 NAME</source>
+        <translation>プリセットの名前がありません: velkora-batch presets %1 NAME</translation>
+    </message>
+    <message>
+        <source>a preset has no inputs, but &quot;%1&quot; is given behind its name</source>
+        <translation>プリセットに入力はありませんが、名前の後に「%1」があります</translation>
+    </message>
+    <message>
+        <source>one preset at a time, but &quot;%1&quot; is given behind its name</source>
+        <translation>プリセットは一度に 1 つだけですが、名前の後に「%1」があります</translation>
+    </message>
+    <message>
+        <source>list takes no name, but &quot;%1&quot; is given; &quot;velkora-batch show --preset NAME&quot; prints a preset</source>
+        <translation>list に名前は指定できませんが、「%1」が指定されています。プリセットの表示は「velkora-batch show --preset NAME」です</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 には --resume が必要です</translation>
+    </message>
+    <message>
+        <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
+        <translation>%1/BatchExceptionPolicy.ini に無効な値 %2 があります。%3 で上書きしてください</translation>
+    </message>
+    <message>
+        <source>unknown option %1; %2</source>
+        <translation>不明なオプション %1。%2</translation>
+    </message>
+    <message>
+        <source>it is an option of %1; &quot;velkora-batch %2 --help&quot; lists the options</source>
+        <translation>%1 のオプションです。オプションの一覧は「velkora-batch %2 --help」で表示されます</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch %1 --help&quot; lists the options</source>
+        <translation>オプションの一覧は「velkora-batch %1 --help」で表示されます</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>「%1」のことですか？</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 はコマンドではなくフォルダーです。「velkora-batch run %1」のことですか？</translation>
+    </message>
+    <message>
+        <source>%1 is a file, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 はコマンドではなくファイルです。「velkora-batch run %1」のことですか？</translation>
+    </message>
+    <message>
+        <source>%1 is no command; did you mean &quot;velkora-batch run %1&quot;?</source>
+        <translation>%1 はコマンドではありません。「velkora-batch run %1」のことですか？</translation>
+    </message>
+    <message>
+        <source>unknown command &quot;%1&quot;; did you mean &quot;velkora-batch %2&quot;?</source>
+        <translation>不明なコマンド「%1」。「velkora-batch %2」のことですか？</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>不明なコマンド: %1</translation>
+    </message>
+    <message>
+        <source>no command: use one of %1, or &quot;velkora-batch --help&quot;</source>
+        <translation>コマンドがありません: %1 のどれか、または「velkora-batch --help」を使用してください</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed before the command, only %2</source>
+        <translation>%1 はコマンドの前には置けません。置けるのは %2 だけです</translation>
+    </message>
+    <message>
+        <source>help takes one command, but got %1</source>
+        <translation>help に指定できるコマンドは 1 つですが、%1 が指定されています</translation>
+    </message>
+    <message>
+        <source>argument %1, &quot;%2&quot;, contains a character that a job cannot hold</source>
+        <translation>引数 %1「%2」に、ジョブに保存できない文字があります</translation>
+    </message>
+    <message>
+        <source>%1 is a switch and takes no value; type %1 alone, or leave it out</source>
+        <translation>%1 は値を取らないスイッチです。%1 だけを入力するか、省いてください</translation>
+    </message>
+    <message>
+        <source>an input of %1 has an empty name</source>
+        <translation>%1 の入力に空の名前があります</translation>
+    </message>
+    <message>
+        <source>%1 is given %2 times, but takes one value; remove &quot;%3&quot; or &quot;%4&quot;</source>
+        <translation>%1 が %2 回指定されていますが、値は 1 つだけです。「%3」か「%4」を取り除いてください</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing</source>
+        <translation>%1: 値 %2 がありません</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>drops the inputs of the saved job first</source>
+        <translation>保存済みジョブの入力を先に取り除きます</translation>
+    </message>
+    <message>
+        <source>also takes the files and folders that a file names, one a line, or standard input for &quot;-&quot;. Relative names start at the current folder</source>
+        <translation>ファイルに 1 行ずつ書かれたファイルとフォルダーも入力にします。「-」は標準入力です。相対的な名前は現在のフォルダーからたどります</translation>
+    </message>
+    <message>
+        <source>the names of --files-from are separated by NUL, not by line ends</source>
+        <translation>--files-from の名前を改行ではなく NUL で区切ります</translation>
+    </message>
+    <message>
+        <source>takes only files whose names match, such as &quot;*.{nef,cr2}&quot;, or whose paths in the given folders match, such as &quot;2024/**/*.jpg&quot;; default: all that can be read. Files that are given by name are always taken</source>
+        <translation>「*.{nef,cr2}」のように名前が一致するファイル、または「2024/**/*.jpg」のように指定フォルダー内のパスが一致するファイルだけを入力にします。既定値: 読み込めるものすべて。名前で指定したファイルは常に入力になります</translation>
+    </message>
+    <message>
+        <source>leaves out files and folders whose names or paths match, inside the given folders</source>
+        <translation>指定フォルダー内で、名前またはパスが一致するファイルとフォルダーを除外します</translation>
+    </message>
+    <message>
+        <source>leaves out folders inside folders</source>
+        <translation>サブフォルダーを除外します</translation>
+    </message>
+    <message>
+        <source>includes files and folders whose names begin with a dot</source>
+        <translation>名前が点で始まるファイルとフォルダーも含めます</translation>
+    </message>
+    <message>
+        <source>the order of the pictures, which numbers in names follow: taken, by capture time, and by the file&apos;s own time where there is none; name, folder by folder; given, as the command line names them. The default is name, or the order of the saved job</source>
+        <translation>画像の順序。名前の番号もこれに従います: taken は撮影日時順（なければファイルの日時）、name はフォルダーごと、given はコマンドラインの順。既定値は name、または保存済みジョブの順序です</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>prints problems only</source>
+        <translation>問題だけを表示します</translation>
+    </message>
+    <message>
+        <source>also prints details for finding faults</source>
+        <translation>不具合を調べるための詳細も表示します</translation>
+    </message>
+    <message>
+        <source>prints this text</source>
+        <translation>この説明を表示します</translation>
+    </message>
+    <message>
+        <source>prints the help of a command</source>
+        <translation>コマンドの説明を表示します</translation>
+    </message>
+    <message>
+        <source>prints JSON</source>
+        <translation>JSON を表示します</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>保存済みジョブ、ファイルやフォルダー、またはその両方を処理します。オプションはジョブより優先されます。終了コード: 0 はすべての画像を書き出したか、オプションで指定した規則によりスキップした場合、1 は失敗したか、それ以外の理由でスキップした画像がある場合、2 は引数またはジョブが正しくない場合、3 はサーバーを起動できないか失った場合、4 は実行を中止した場合、5 は入力に画像がない場合、6 はこの実行が既に進行中の場合、7 は再開するものがない場合です</translation>
+    </message>
+    <message>
+        <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
+        <translation>これらの入力とオプションからなるジョブをファイルに書き出します。「-」は標準出力です</translation>
+    </message>
+    <message>
+        <source>prints a job: its inputs as a tree, its effects, and its output in the words of the options</source>
+        <translation>ジョブを表示します。入力はツリーで、効果と出力はオプションの言葉で示します</translation>
+    </message>
+    <message>
+        <source>prints every input with its output and its size in pixels, and writes nothing. A problem is printed in brackets, with what the policy would do about it. Exit status: 1 when there are problems</source>
+        <translation>各入力とその出力、ピクセル単位のサイズを表示し、何も書き出しません。問題は、規則による扱いと共に角かっこで示します。終了コード: 問題があれば 1 です</translation>
+    </message>
+    <message>
+        <source>does not look at every picture for its size in pixels, which takes time for many</source>
+        <translation>各画像のピクセル単位のサイズを調べません（枚数が多いと時間がかかります）</translation>
+    </message>
+    <message>
+        <source>prints one JSON object for each input</source>
+        <translation>入力ごとに 1 つの JSON オブジェクトを表示します</translation>
+    </message>
+    <message>
+        <source>lists the effects with their parameters</source>
+        <translation>効果とそのパラメーターの一覧を表示します</translation>
+    </message>
+    <message>
+        <source>lists the output formats with their options, and the files that can be read</source>
+        <translation>出力形式とそのオプション、読み込めるファイルの一覧を表示します</translation>
+    </message>
+    <message>
+        <source>%1 and %2 contradict each other; remove one of them</source>
+        <translation>%1 と %2 は矛盾しています。どちらかを取り除いてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm or 6x4in</source>
+        <translation>「%1」は WIDTHxHEIGHT の形ではありません。800x600、15x10cm、6x4in のように指定してください（単位は省略可）</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers, such as %3; or add a unit, as in %4cm</source>
+        <translation>「%1」は %2 ピクセルを意味します（点は小数点です）が、ピクセル数は %3 のような整数です。または %4cm のように単位を付けてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large; each side must be from 1 to %2 pixels</source>
+        <translation>「%1」は大きすぎます。各辺は 1 から %2 ピクセルまでです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a resolution; add --resolution, as in --resolution 300</source>
+        <translation>「%1」には解像度が必要です。--resolution 300 のように --resolution を加えてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 pixels at %3 dots per inch; each side must be from 1 to %4</source>
+        <translation>「%1」は %3 dpi で %2 ピクセルです。各辺は 1 から %4 までです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is %2 x %3 pixels, but the size is %4: type %5 for the unit of the size, or %6 for pixels</source>
+        <translation>「%1」は %2 x %3 ピクセルですが、サイズは %4 です。サイズと同じ単位なら %5、ピクセルなら %6 と入力してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; needs a size, such as %1:3x2%2</source>
+        <translation>「%1:%2」には %1:3x2%2 のようなサイズが必要です</translation>
+    </message>
+    <message>
+        <source>&quot;%1:%2&quot; has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for that size</source>
+        <translation>「%1:%2」に単位がありますが、比率に単位はありません。%1:%3、またはそのサイズなら fill:%2 と入力してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with &quot;!&quot;, but only ratio and interesting turn with the picture; remove the &quot;!&quot;</source>
+        <translation>「%1」は「!」で終わっていますが、画像の向きに合わせるのは ratio と interesting だけです。「!」を取り除いてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point, as in %2</source>
+        <translation>「%1」にコンマがあります。小数は %2 のように点で書きます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no size</source>
+        <translation>「%1」にサイズは指定できません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs a size, such as %1:3x2</source>
+        <translation>「%1」には %1:3x2 のようなサイズが必要です</translation>
+    </message>
+    <message>
+        <source>Pictures for the web, at most 1600 pixels long</source>
+        <translation>ウェブ用の画像、長辺は最大 1600 ピクセル</translation>
+    </message>
+    <message>
+        <source>Names by capture date, in a folder for each day</source>
+        <translation>撮影日による名前、日ごとのフォルダー</translation>
+    </message>
+    <message>
+        <source>A saved job over other pictures</source>
+        <translation>保存済みジョブを別の画像に適用</translation>
+    </message>
+    <message>
+        <source>Files that another program lists</source>
+        <translation>別のプログラムが一覧にしたファイル</translation>
+    </message>
+    <message>
+        <source>Camera RAW files in all subfolders</source>
+        <translation>すべてのサブフォルダーのカメラ RAW ファイル</translation>
+    </message>
+    <message>
+        <source>What would be written</source>
+        <translation>書き出されるもの</translation>
+    </message>
+    <message>
+        <source>A preset over other pictures</source>
+        <translation>プリセットを別の画像に適用</translation>
+    </message>
+    <message>
+        <source>A run that was interrupted</source>
+        <translation>中断された実行</translation>
+    </message>
+    <message>
+        <source>A job for pictures to come</source>
+        <translation>これからの画像のためのジョブ</translation>
+    </message>
+    <message>
+        <source>A job with one value changed</source>
+        <translation>値を 1 つ変えたジョブ</translation>
+    </message>
+    <message>
+        <source>A saved job, in the words of the options</source>
+        <translation>保存済みジョブをオプションの言葉で</translation>
+    </message>
+    <message>
+        <source>Every result&apos;s name, and what is in the way</source>
+        <translation>各結果の名前と、妨げになるもの</translation>
+    </message>
+    <message>
+        <source>The same for programs</source>
+        <translation>同じものをプログラム用に</translation>
+    </message>
+    <message>
+        <source>One effect with its parameters</source>
+        <translation>1 つの効果とそのパラメーター</translation>
+    </message>
+    <message>
+        <source>One format with its options</source>
+        <translation>1 つの形式とそのオプション</translation>
+    </message>
+    <message>
+        <source>folders are always read with their subfolders, so leave it out</source>
+        <translation>フォルダーは常にサブフォルダーごと読み込まれるため、不要です</translation>
+    </message>
+    <message>
+        <source>name files and folders without an option</source>
+        <translation>ファイルとフォルダーはオプションなしで指定してください</translation>
+    </message>
+    <message>
+        <source>use --files-from FILE, or --files-from -</source>
+        <translation>--files-from FILE または --files-from - を使用してください</translation>
+    </message>
+    <message>
+        <source>use --hidden for files and folders whose names begin with a dot</source>
+        <translation>名前が点で始まるファイルやフォルダーには --hidden を使用してください</translation>
+    </message>
+    <message>
+        <source>use --quality N, or --format-option compression=WORD or compressionLevel=N</source>
+        <translation>--quality N、または --format-option compression=WORD か compressionLevel=N を使用してください</translation>
+    </message>
+    <message>
+        <source>metadata is kept unless --format-option keep=WORD+WORD says which</source>
+        <translation>メタデータは、--format-option keep=WORD+WORD で絞らない限り保持されます</translation>
+    </message>
+    <message>
+        <source>use --size %1, with % for a percentage</source>
+        <translation>--size %1 を使用してください（割合には % を付けます）</translation>
+    </message>
+    <message>
+        <source>pictures are always turned upright, so leave it out</source>
+        <translation>画像は常に正しい向きに回転されるため、不要です</translation>
+    </message>
+    <message>
+        <source>use --effect watermark-text:text=TEXT or --effect watermark-image:file=FILE</source>
+        <translation>--effect watermark-text:text=TEXT または --effect watermark-image:file=FILE を使用してください</translation>
+    </message>
+    <message>
+        <source>use --name, --prefix and --suffix, or --on-name-exists rename for names that are taken</source>
+        <translation>--name、--prefix、--suffix を使用してください。既にある名前には --on-name-exists rename を使用してください</translation>
+    </message>
+    <message>
+        <source>&quot;velkora-batch plan&quot; prints what a run would write</source>
+        <translation>実行で書き出されるものは「velkora-batch plan」で表示されます</translation>
+    </message>
+    <message>
+        <source>name a saved job as the first input</source>
+        <translation>保存済みジョブは最初の入力として指定してください</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch formats&quot;</source>
+        <translation>「velkora-batch formats」を使用してください</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch effects&quot;</source>
+        <translation>「velkora-batch effects」を使用してください</translation>
+    </message>
+    <message>
+        <source>use &quot;velkora-batch --version&quot;</source>
+        <translation>「velkora-batch --version」を使用してください</translation>
+    </message>
+    <message>
+        <source>use --%1</source>
+        <translation>--%1 を使用してください</translation>
+    </message>
+    <message>
+        <source>use --effect %1; &quot;velkora-batch effects %1&quot; lists its parameters</source>
+        <translation>--effect %1 を使用してください。パラメーターは「velkora-batch effects %1」で表示されます</translation>
+    </message>
+    <message>
+        <source>processes pictures in batches: effects, size, crop, frame, format and names</source>
+        <translation>画像を一括処理します（効果、サイズ、切り抜き、フレーム、形式、名前）</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a shadow; add --shadow</source>
+        <translation>「%1」は影がないと効果がありません。--shadow を加えてください</translation>
+    </message>
+    <message>
+        <source>%1 is not an ICC profile</source>
+        <translation>%1 は ICC プロファイルではありません</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>the name of the saved job</source>
+        <translation>保存済みジョブの名前</translation>
+    </message>
+    <message>
+        <source>the folder for the results; it is created when it does not exist, and a relative one starts at the current folder</source>
+        <translation>結果のフォルダー。なければ作成され、相対的な場合は現在のフォルダーからたどります</translation>
+    </message>
+    <message>
+        <source>the name of the folder is empty</source>
+        <translation>フォルダーの名前が空です</translation>
+    </message>
+    <message>
+        <source>the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file where a picture has none</source>
+        <translation>その下のフォルダー: flat はなし、input は入力と同じ、date は撮影日（なければファイルの日付）ごと</translation>
+    </message>
+    <message>
+        <source>the format of results, by name or extension; Original keeps that of each input. Changing the format of a saved job drops its format options</source>
+        <translation>結果の形式（名前または拡張子）。Original は各入力の形式を保ちます。保存済みジョブの形式を変えると、その形式オプションは失われます</translation>
+    </message>
+    <message>
+        <source>an option of the format, such as quality=90; &quot;velkora-batch formats&quot; lists them</source>
+        <translation>quality=90 などの形式オプション。一覧は「velkora-batch formats」で表示されます</translation>
+    </message>
+    <message>
+        <source>an ICC profile to convert results to and to embed; none keeps each input&apos;s own</source>
+        <translation>結果を変換して埋め込む ICC プロファイル。none は各入力のものを保ちます</translation>
+    </message>
+    <message>
+        <source>Names of results</source>
+        <translation>結果の名前</translation>
+    </message>
+    <message>
+        <source>what a name begins with; PART is the same as for --name</source>
+        <translation>名前の先頭。PART は --name と同じです</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
+        <translation>名前の中央: original は入力の名前、number、number:START または number:START:DIGITS は番号、date と time は撮影日時（なければファイルの日時）、text:TEXT、nothing</translation>
+    </message>
+    <message>
+        <source>what a name ends with</source>
+        <translation>名前の末尾</translation>
+    </message>
+    <message>
+        <source>the text between prefix and middle</source>
+        <translation>先頭と中央の間の文字列</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a prefix; add --prefix</source>
+        <translation>「%1」は接頭辞がないと効果がありません。--prefix を加えてください</translation>
+    </message>
+    <message>
+        <source>the text between middle and suffix</source>
+        <translation>中央と末尾の間の文字列</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a suffix; add --suffix</source>
+        <translation>「%1」は接尾辞がないと効果がありません。--suffix を加えてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a size, and this option says which pictures change; use --size %2</source>
+        <translation>「%1」はサイズですが、このオプションはどの画像を変更するかを指定するものです。--size %2 を使用してください</translation>
+    </message>
+    <message>
+        <source>Size and crop</source>
+        <translation>サイズと切り抜き</translation>
+    </message>
+    <message>
+        <source>scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size</source>
+        <translation>一辺が 1600、50%、8in、20cm、200mm などの長さになるよう画像を拡大縮小します。none はサイズを保ちます</translation>
+    </message>
+    <message>
+        <source>the side that --size sets</source>
+        <translation>--size が決める辺</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a size; add --size</source>
+        <translation>「%1」はサイズがないと効果がありません。--size を加えてください</translation>
+    </message>
+    <message>
+        <source>which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, both; none</source>
+        <translation>--size で変える画像: reduce は大きい画像だけ（既定値）、enlarge は小さい画像だけ、fit は両方、none</translation>
+    </message>
+    <message>
+        <source>dots per inch, for lengths in in, cm and mm; also written into results</source>
+        <translation>in、cm、mm の長さに使う 1 インチあたりのドット数。結果にも書き込まれます</translation>
+    </message>
+    <message>
+        <source>none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; exact:800x600, that many pixels. in, cm and mm become pixels by --resolution</source>
+        <translation>none、trim は単色の縁を切り取ります。WIDTHxHEIGHT と共に: ratio:3x2 はその比率で最大の範囲（縦長の画像では縦）、ratio:3x2! は常に同じ向き、interesting:3x2 はその比率で目を引く範囲、fill:800x600 または fill:15x10cm は覆うまで拡大縮小して切り取り、exact:800x600 はそのピクセル数。in、cm、mm は --resolution でピクセルになります</translation>
+    </message>
+    <message>
+        <source>where ratio, fill and exact place the frame in the picture</source>
+        <translation>ratio、fill、exact が切り抜く範囲の画像内での位置</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without --crop ratio, fill or exact; add one of them</source>
+        <translation>「%1」は --crop の ratio、fill、exact がないと効果がありません。どれかを加えてください</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; none removes the frame. Each of the options below adds a frame</source>
+        <translation>余白をピクセルで指定したフレームに画像を置きます。全辺に 1 つの数、または LEFT,TOP,RIGHT,BOTTOM。none はフレームを取り除きます。以下の各オプションもフレームを加えます</translation>
+    </message>
+    <message>
+        <source>the size of the frame in pixels; picture: the size of each picture</source>
+        <translation>フレームのサイズ（ピクセル）。picture: 各画像のサイズ</translation>
+    </message>
+    <message>
+        <source>turns the picture on its frame, clockwise</source>
+        <translation>フレーム上の画像を時計回りに回転します</translation>
+    </message>
+    <message>
+        <source>the opacity of the picture</source>
+        <translation>画像の不透明度</translation>
+    </message>
+    <message>
+        <source>how the picture is laid over its background</source>
+        <translation>画像と背景の重ね方</translation>
+    </message>
+    <message>
+        <source>the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; image:FILE</source>
+        <translation>フレームの背景: none、colour:#rrggbb、pattern:0 から pattern:7（:PERCENT で倍率）、image:FILE</translation>
+    </message>
+    <message>
+        <source>the opacity of the background</source>
+        <translation>背景の不透明度</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without a background; add --background</source>
+        <translation>「%1」は背景がないと効果がありません。--background を加えてください</translation>
+    </message>
+    <message>
+        <source>the shadow of the picture: drop; glow, around it; none</source>
+        <translation>画像の影: drop、glow は周囲に広がる影、none</translation>
+    </message>
+    <message>
+        <source>#rrggbb or a name</source>
+        <translation>#rrggbb または名前</translation>
+    </message>
+    <message>
+        <source>the opacity of the shadow</source>
+        <translation>影の不透明度</translation>
+    </message>
+    <message>
+        <source>where the light comes from: 0 from the right, 90 from above</source>
+        <translation>光の方向: 0 は右から、90 は上から</translation>
+    </message>
+    <message>
+        <source>how far the shadow lies from the picture</source>
+        <translation>影と画像の距離</translation>
+    </message>
+    <message>
+        <source>how soft the shadow is</source>
+        <translation>影のぼかしの大きさ</translation>
+    </message>
+    <message>
+        <source>Effects</source>
+        <translation>効果</translation>
+    </message>
+    <message>
+        <source>drops the effects of the saved job first</source>
+        <translation>保存済みジョブの効果を先に取り除きます</translation>
+    </message>
+    <message>
+        <source>adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds the effect disabled. &quot;velkora-batch effects&quot; lists all effects</source>
+        <translation>blur:sigma=2 のような効果をジョブの効果の後に加えます。NAME:{JSON} も使えます。off:NAME は無効の状態で加えます。効果の一覧は「velkora-batch effects」で表示されます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or 200mm; &quot;none&quot; keeps the size</source>
+        <translation>「%1」は 0 より大きく %2 以下の長さ（1600、50%、8in、20cm、200mm など）ではありません。「none」はサイズを保ちます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; a size is one length, such as 1600 or 20.5cm</source>
+        <translation>「%1」にコンマがあります。サイズは 1600 や 20.5cm のような 1 つの長さです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma; decimals are written with a point: type %2</source>
+        <translation>「%1」にコンマがあります。小数は点で書きます。%2 と入力してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a comma, which no number has: type %2 for that many pixels, %3cm for decimals, or --crop fill:%4 for a width and a height</source>
+        <translation>「%1」にコンマがありますが、数値にコンマは使えません。そのピクセル数なら %2、小数なら %3cm、幅と高さなら --crop fill:%4 と入力してください</translation>
+    </message>
+    <message>
+        <source>type %1 for that many pixels</source>
+        <translation>そのピクセル数なら %1 と入力してください</translation>
+    </message>
+    <message>
+        <source>type %1 for that</source>
+        <translation>それには %1 と入力してください</translation>
+    </message>
+    <message>
+        <source>type 1</source>
+        <translation>1 と入力してください</translation>
+    </message>
+    <message>
+        <source>type 1px</source>
+        <translation>1px と入力してください</translation>
+    </message>
+    <message>
+        <source>type %1 or %2</source>
+        <translation>%1 または %2 と入力してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a width and a height, but a size is the length of one side: type one of them, with --side to say which, or --crop fill:%2 for exactly that</source>
+        <translation>「%1」は幅と高さですが、サイズは一辺の長さです。どちらか一方を --side と共に入力するか、その寸法ちょうどなら --crop fill:%2 と入力してください</translation>
+    </message>
+    <message>
+        <source>%1 (unit %2)</source>
+        <translation>%1（単位 %2）</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form KEY=VALUE</source>
+        <translation>「%1」は KEY=VALUE の形ではありません</translation>
+    </message>
+    <message>
+        <source>it takes no parameters, but &quot;%1&quot; is given</source>
+        <translation>パラメーターはありませんが、「%1」が指定されています</translation>
+    </message>
+    <message>
+        <source>unknown effect &quot;%1&quot;; the effects are %2</source>
+        <translation>不明な効果「%1」。効果は %2 です</translation>
+    </message>
+    <message>
+        <source>effect %1</source>
+        <translation>効果 %1</translation>
+    </message>
+    <message>
+        <source>format %1</source>
+        <translation>形式 %1</translation>
+    </message>
+    <message>
+        <source>when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask</source>
+        <translation>ファイルがない、壊れている、大きすぎる、または画像でないとき: skip はスキップ、stop は実行を停止、ask は確認</translation>
+    </message>
+    <message>
+        <source>when a result cannot be written, because of a full disk or missing rights: skip, stop or ask</source>
+        <translation>ディスクの空きや権限がなく結果を書き出せないとき: skip、stop、ask</translation>
+    </message>
+    <message>
+        <source>when an effect fails, or a picture takes too long or crashes its worker: skip, stop or ask</source>
+        <translation>効果に失敗したとき、または画像の処理が長すぎるかワーカーが異常終了したとき: skip、stop、ask</translation>
+    </message>
+    <message>
+        <source>when a result&apos;s name is taken, on disk, by another result or by a source: skip, overwrite, rename (&quot; (2)&quot; is appended) or ask</source>
+        <translation>結果の名前がディスク上、ほかの結果、または元のファイルで既に使われているとき: skip、overwrite、rename（「 (2)」を付加）、ask</translation>
+    </message>
+    <message>
+        <source>when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write the nearest format that can hold it</source>
+        <translation>画像を希望の形式で書き出せないとき: skip、stop、ask、または最も近い形式で書き出す nearest</translation>
+    </message>
+    <message>
+        <source>Exceptions</source>
+        <translation>例外</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them</source>
+        <translation>プリセットを出発点にします。一覧は「velkora-batch presets」で表示されます</translation>
+    </message>
+    <message>
+        <source>the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)</source>
+        <translation>BatchExceptionPolicy.ini（既定の規則）と presets/（自作プリセット）のあるフォルダー</translation>
+    </message>
+    <message>
+        <source>starts from a saved job</source>
+        <translation>保存済みジョブを出発点にします</translation>
+    </message>
+    <message>
+        <source>replaces an existing file</source>
+        <translation>既存のファイルを置き換えます</translation>
+    </message>
+    <message>
+        <source>prints the list as JSON</source>
+        <translation>一覧を JSON で表示します</translation>
+    </message>
+    <message>
+        <source>lists the presets, saves the options as a preset, or removes one. A preset is a job without inputs that run, plan, show and create take by --preset NAME; a relative --output starts where it is run. Exit status: 1 when a preset cannot be used</source>
+        <translation>プリセットの一覧表示、オプションのプリセットとしての保存、削除を行います。プリセットは入力のないジョブで、run、plan、show、create で --preset NAME により使えます。相対的な --output は実行した場所からたどります。終了コード: 使用できないプリセットがあれば 1 です</translation>
+    </message>
+    <message>
+        <source>%1 files have no quality; %2 have one</source>
+        <translation>%1 ファイルに画質の設定はありません。あるのは %2 です</translation>
+    </message>
+    <message>
+        <source>the quality of results in formats that have one; the same as %1 %2=N</source>
+        <translation>画質のある形式での結果の画質。%1 %2=N と同じです</translation>
+    </message>
+    <message>
+        <source>how many pictures are processed at a time; default: one for each core</source>
+        <translation>同時に処理する画像の数。既定値: コアごとに 1 枚</translation>
+    </message>
+    <message>
+        <source>larger pictures are not read; default: 400</source>
+        <translation>これより大きい画像は読み込みません。既定値: 400</translation>
+    </message>
+    <message>
+        <source>memory that one picture may take; default: 2048</source>
+        <translation>画像 1 枚に使えるメモリー。既定値: 2048</translation>
+    </message>
+    <message>
+        <source>time that one picture may take; default: 300</source>
+        <translation>画像 1 枚にかけられる時間。既定値: 300</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>lets results replace their own originals. Without --output, results go to the folders of their originals. Without this option no original is ever replaced</source>
+        <translation>結果で元のファイルを置き換えます。--output がなければ、結果は元のファイルのフォルダーに入ります。このオプションがなければ、元のファイルが置き換えられることはありません</translation>
+    </message>
+    <message>
+        <source>ends with 0, not with 5, when there is no picture among the inputs</source>
+        <translation>入力に画像がないとき、5 ではなく 0 で終了します</translation>
+    </message>
+    <message>
+        <source>prints what the run would write, as &quot;velkora-batch plan&quot; does, and writes nothing</source>
+        <translation>「velkora-batch plan」と同様に、書き出されるものを表示し、何も書き出しません</translation>
+    </message>
+    <message>
+        <source>writes the result of every input to a file, as CSV or JSON by the extension of its name</source>
+        <translation>各入力の結果をファイルに書き出します。拡張子により CSV または JSON になります</translation>
+    </message>
+    <message>
+        <source>resumes the run that was interrupted in the output folder, with its job and its policies</source>
+        <translation>出力フォルダーで中断された実行を、そのジョブと規則で再開します</translation>
+    </message>
+    <message>
+        <source>says which run to resume if several were interrupted; --resume lists their names</source>
+        <translation>複数の実行が中断されているとき、再開するものを指定します。名前は --resume で表示されます</translation>
+    </message>
+    <message>
+        <source>counts a picture with a warning as failed; its result is kept</source>
+        <translation>警告のある画像を失敗として数えます。結果は残ります</translation>
+    </message>
+    <message>
+        <source>prints each event of the run to standard output, as one line of JSON</source>
+        <translation>実行の各イベントを 1 行の JSON として標準出力に表示します</translation>
+    </message>
+    <message>
+        <source>lets results go through links to folders below the output folder; otherwise such a link is an error of output</source>
+        <translation>出力フォルダーの下にあるフォルダーへのリンク先にも結果を書き出します。指定しなければ、そのようなリンクは出力エラーになります</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>上限</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number from %2 to %3</source>
+        <translation>「%1」は %2 から %3 までの数ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from %2 to %3</source>
+        <translation>「%1」は %2 から %3 までの整数ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600</source>
+        <translation>「%1」は 800x600 のような WIDTHxHEIGHT の形（1 から %2 までの整数）ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; &quot;none&quot; means no frame</source>
+        <translation>「%1」は 40 のようなピクセル数でも LEFT,TOP,RIGHT,BOTTOM でもありません。「none」はフレームなしです</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a colour; use #rrggbb or a name</source>
+        <translation>「%1」は色ではありません。#rrggbb か名前を使用してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is incomplete; complete it as in %2</source>
+        <translation>「%1」は不完全です。%2 のように補ってください</translation>
+    </message>
+    <message>
+        <source>; write a text of your own as text:%1</source>
+        <translation>。自由なテキストは text:%1 と書きます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes no value</source>
+        <translation>「%1」に値は指定できません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not one of %2</source>
+        <translation>「%1」は次のどれでもありません: %2</translation>
+    </message>
+    <message>
+        <source>argument %1 (%2) is not valid UTF-8</source>
+        <translation>引数 %1（%2）は正しい UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>the inputs do not lie in one folder: use --in-place for one folder after the other, or name the folder of the results with --output</source>
+        <translation>入力が 1 つのフォルダーにありません。フォルダーごとに --in-place を使用するか、--output で結果のフォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>the result of %1 would not go to the folder of its original; name the folder of the results with --output</source>
+        <translation>%1 の結果は元のファイルのフォルダーに入りません。--output で結果のフォルダーを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture</source>
+        <translation>%1 は画像ではなく保存済みジョブです</translation>
+    </message>
+    <message>
+        <source>%1 is a saved job, not a picture; it is left out.</source>
+        <translation>%1 は画像ではなく保存済みジョブのため、対象外です。</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message>
+        <source>on standard input</source>
+        <translation>（標準入力）</translation>
+    </message>
+    <message>
+        <source>the list %1 cannot be read: %2</source>
+        <translation>一覧 %1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>the list %1 is larger than %2 MiB; divide it</source>
+        <translation>一覧 %1 は %2 MiB を超えています。分割してください</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes, and no name is that long</source>
+        <translation>%1 バイトあり、名前としては長すぎます</translation>
+    </message>
+    <message>
+        <source>it contains a NUL byte; use -0 for names that are separated by NUL</source>
+        <translation>NUL バイトがあります。NUL で区切られた名前には -0 を使用してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not valid UTF-8; rename it to use it</source>
+        <translation>「%1」は正しい UTF-8 ではありません。使うには名前を変更してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains a character that a job cannot hold</source>
+        <translation>「%1」に、ジョブに保存できない文字があります</translation>
+    </message>
+    <message>
+        <source>it contains line ends; names in lines are read without -0</source>
+        <translation>改行があります。1 行に 1 つの名前を読むには -0 を付けません</translation>
+    </message>
+    <message>
+        <source>%1, name %2</source>
+        <translation>%1、%2 番目の名前</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1、%2 行目</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link</source>
+        <translation>%1、%2 行目: %3 はリンク先のないリンクです</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist</source>
+        <translation>%1、%2 行目: %3 は存在しません</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link</source>
+        <translation>%1、%2 番目の名前: %3 はリンク先のないリンクです</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist</source>
+        <translation>%1、%2 番目の名前: %3 は存在しません</translation>
+    </message>
+    <message>
+        <source>the list %1 is UTF-16 text; save it as UTF-8</source>
+        <translation>一覧 %1 は UTF-16 です。UTF-8 で保存してください</translation>
+    </message>
+    <message>
+        <source>%1 runs were interrupted in %2</source>
+        <translation>%2 で %1 件の実行が中断されています</translation>
+    </message>
+    <message>
+        <source>no run in %1 is called &quot;%2&quot;</source>
+        <translation>%1 に「%2」という実行はありません</translation>
+    </message>
+    <message>
+        <source>%1  %2 is damaged</source>
+        <translation>%1  %2 は壊れています</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of 1 picture  %4</source>
+        <translation>%1  %2  %3 / 1 枚  %4</translation>
+    </message>
+    <message>
+        <source>%1  %2  %3 of %4 pictures  %5</source>
+        <translation>%1  %2  %3 / %4 枚  %5</translation>
+    </message>
+    <message>
+        <source>%1, line %2: this version does not know %3, and ignores it.</source>
+        <translation>%1、%2 行目: このバージョンは %3 を認識できず、無視します。</translation>
+    </message>
+    <message>
+        <source>%1: this version does not know %2 other elements and attributes, and ignores them.</source>
+        <translation>%1: このバージョンはほかに %2 個の要素と属性を認識できず、無視します。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a path, but the name of a preset is needed</source>
+        <translation>「%1」はパスですが、プリセットの名前が必要です</translation>
+    </message>
+    <message>
+        <source>there is no preset &quot;%1&quot;</source>
+        <translation>プリセット「%1」はありません</translation>
+    </message>
+    <message>
+        <source>the name of the preset is empty</source>
+        <translation>プリセットの名前が空です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins with a dot, which the name of a preset must not</source>
+        <translation>「%1」は点で始まっていますが、プリセットの名前は点で始められません</translation>
+    </message>
+    <message>
+        <source>the name of a preset has no extension: use &quot;%1&quot;</source>
+        <translation>プリセットの名前に拡張子は付けません。「%1」を使用してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a file on every system; &quot;%2&quot; would be one</source>
+        <translation>「%1」はファイル名に使えないシステムがあります。「%2」なら使えます</translation>
+    </message>
+    <message>
+        <source>the name of the preset is longer than %1 bytes</source>
+        <translation>プリセットの名前が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the preset %1</source>
+        <translation>プリセット %1</translation>
+    </message>
+    <message>
+        <source>the folder %1 cannot be made</source>
+        <translation>フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>the preset %1 comes with the program and cannot be removed; a preset of yours with that name is used instead of it</source>
+        <translation>プリセット %1 は付属品のため削除できません。同じ名前の自作プリセットがあれば、そちらが使われます</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed: %2</source>
+        <translation>%1 を削除できません: %2</translation>
+    </message>
+    <message>
+        <source>Archive: TIFF without loss, with all metadata and the time of the file</source>
+        <translation>アーカイブ: 可逆圧縮の TIFF、すべてのメタデータとファイルの日時を保持</translation>
+    </message>
+    <message>
+        <source>Mail: small JPEG of at most 1024 pixels, sRGB, with creator and rights</source>
+        <translation>メール: 最大 1024 ピクセルの小さな JPEG、sRGB、作者と権利情報付き</translation>
+    </message>
+    <message>
+        <source>Print: 15 cm long at 300 dpi, with a white border of 5 mm</source>
+        <translation>印刷: 長さ 15 cm、300 dpi、5 mm の白い縁付き</translation>
+    </message>
+    <message>
+        <source>Thumbnails: squares of 256 pixels, JPEG without metadata</source>
+        <translation>サムネイル: 256 ピクセルの正方形、メタデータなしの JPEG</translation>
+    </message>
+    <message>
+        <source>Web: JPEG of at most 1600 pixels, sRGB, with creator and rights</source>
+        <translation>ウェブ: 最大 1600 ピクセルの JPEG、sRGB、作者と権利情報付き</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be written: %2.</source>
+        <translation>ジャーナル %1 に書き出せません: %2。</translation>
+    </message>
+    <message>
+        <source>the braces of a wildcard are nested too deeply</source>
+        <translation>ワイルドカードの波かっこの入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>a wildcard is longer than %1 characters: %2...</source>
+        <translation>ワイルドカードが %1 文字を超えています: %2...</translation>
+    </message>
+    <message>
+        <source>the wildcard &quot;%1&quot; is invalid: %2</source>
+        <translation>ワイルドカード「%1」は正しくありません: %2</translation>
+    </message>
+    <message>
+        <source>the braces in &quot;%1&quot; stand for more than %2 names</source>
+        <translation>「%1」の波かっこが表す名前が %2 個を超えています</translation>
+    </message>
+    <message>
+        <source>%1 matches no file</source>
+        <translation>%1 に一致するファイルがありません</translation>
+    </message>
+    <message>
+        <source>the name is empty</source>
+        <translation>名前が空です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixel, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>「%1」は %2 ピクセルを意味します（点は小数点です）が、ピクセル数は整数です: %3、または %4cm のように単位を付けます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
+        <translation>「%1」は %2 ピクセルを意味します（点は小数点です）が、ピクセル数は整数です: %3、または %4cm のように単位を付けます</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1、%2 番目の名前: %3 はリンク先のないリンクです（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, name %2: %3 does not exist (and %4 more)</source>
+        <translation>%1、%2 番目の名前: %3 は存在しません（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
+        <translation>%1、%2 行目: %3 はリンク先のないリンクです（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3 does not exist (and %4 more)</source>
+        <translation>%1、%2 行目: %3 は存在しません（ほか %4 件）</translation>
+    </message>
+    <message>
+        <source>Start tag expected.</source>
+        <translation>開始タグが必要です。</translation>
+    </message>
+    <message>
+        <source>Opening and ending tag mismatch.</source>
+        <translation>開始タグと終了タグが一致しません。</translation>
+    </message>
+    <message>
+        <source>Premature end of document.</source>
+        <translation>文書が途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>Extra content at end of document.</source>
+        <translation>文書の末尾に余分な内容があります。</translation>
+    </message>
+    <message>
+        <source>Expected %1, but got &apos;%2&apos;.</source>
+        <translation>%1 が必要ですが、「%2」があります。</translation>
+    </message>
+    <message>
+        <source>range out of order in character class</source>
+        <translation>文字クラスの範囲の順序が逆です</translation>
     </message>
 </context>
 </TS>

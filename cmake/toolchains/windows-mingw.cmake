@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Windows on x86-64, built on Debian with mingw-w64 and run under Wine. BATCHCORE_QT_MINGW is the folder of a Qt for that
 # target; scripts/windows puts one in place and uses the preset "windows-release", which names it.
 set(CMAKE_SYSTEM_NAME Windows)

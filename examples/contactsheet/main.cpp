@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Lays the pictures of a run side by side, before and after:
 //
 //     contact-sheet REPORT.json SHEET.jpg

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // A small host, explained step by step in docs/guide/host-tutorial.md:
 //
 //     host-tutorial FOLDER PICTURE...
@@ -10,6 +13,7 @@
 #include <ZTBatchMessage.h>
 #include <ZTBatchOutputSettings.h>
 #include <ZTBatchSession.h>
+#include <ZTBatchValues.h>
 #include <ZTStyle.h>
 
 #include <QCoreApplication>
@@ -28,9 +32,7 @@
 namespace {
 
 using Session = ZTBatchManager::ZTBatchSession;
-
-/// What ZTBatchSession::ProcessError() reports as `action`.
-enum class Action { ReportedOnly = 0, FileSkipped = 1, RunStopped = 2 };
+using ZTBatchValues::Action;
 
 void AddPicture(ZTBatchInputModel& inputs, const QString& path)
 {
@@ -58,9 +60,9 @@ QString MakeJob(const QString& folder, const QStringList& pictures)
     output.SetNamingTemplate(ZTBatchOutputSettings::PartMiddle, ZTBatchOutputSettings::TemplateOriginalName);
     output.SetNamingTemplate(ZTBatchOutputSettings::PartSuffix, ZTBatchOutputSettings::TemplateNothing);
     ZTBatchOutputSettings::ImageSize size;
-    size.restriction = 2; // only reduce
-    size.side = 2;        // the long side
-    size.unit = 0;        // pixels
+    size.restriction = int(ZTBatchValues::SizeRestriction::ReduceOnly);
+    size.side = int(ZTBatchValues::SizeSide::LongSide);
+    size.unit = int(ZTBatchValues::SizeUnit::Pixels);
     size.size = 800;
     output.SetImageSizeSettings(size);
 

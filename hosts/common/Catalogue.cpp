@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Catalogue.h"
 
 #include <QDir>
@@ -10,6 +13,9 @@ namespace BatchHost {
 namespace {
 
 constexpr int longestText = 10'000;
+
+/// Contexts in front of a text. A long text of a library, with many colons, is not worth the time.
+constexpr int mostHeads = 8;
 
 /// Placeholders of QString::arg(): '%' and a digit. Calls `onLiteral` and `onPlace` in their order; the last call is
 /// one of a literal, which may be empty.
@@ -120,21 +126,20 @@ QString Catalogue::Filled(const QString& english) const
     if (english.size() > longestText) {
         return english;
     }
-    if (FindWhole(english, found)) {
+    if (FindWhole(english, found) || FindList(english, found)) {
         return found;
     }
-    const QStringList parts = english.split(ListSeparator());
-    if (parts.size() > 1) {
-        return List(parts);
-    }
     // "HEAD: TEXT", where TEXT is known.
-    for (int end = english.indexOf(HeadEnd()); end >= 0; end = english.indexOf(HeadEnd(), end + 1)) {
+    int heads = 0;
+    for (int end = english.indexOf(HeadEnd()); end >= 0 && heads < mostHeads;
+         end = english.indexOf(HeadEnd(), end + 1), ++heads) {
         const QString text = english.mid(end + HeadEnd().size());
-        if (text.contains(QLatin1Char(' ')) && FindWhole(text, found)) {
+        if (text.contains(QLatin1Char(' ')) && (FindWhole(text, found) || FindList(text, found))) {
             return Argument(english.left(end)) + HeadEnd() + found;
         }
     }
-    return english;
+    const QStringList parts = english.split(ListSeparator());
+    return parts.size() > 1 ? Argument(parts.first()) + Rest(parts, 1) : english;
 }
 
 bool Catalogue::FindWhole(const QString& english, QString& found) const
@@ -205,13 +210,47 @@ QString Catalogue::Argument(const QString& text) const
     return QDir::isAbsolutePath(text) || !text.contains(QLatin1Char(' ')) ? text : Filled(text);
 }
 
-/// The parts of a list that are known, in this language. A text may be made for its place behind another: "; TEXT".
-QString Catalogue::List(const QStringList& parts) const
+/// A list whose beginning is known.
+bool Catalogue::FindList(const QString& english, QString& found) const
 {
-    QString text = Argument(parts.first());
-    for (const QString& part : parts.mid(1)) {
+    const QStringList parts = english.split(ListSeparator());
+    const int count = parts.size() > 1 ? FindPart(parts, 0, QString(), found) : 0;
+    if (count > 0) {
+        found += Rest(parts, count);
+    }
+    return count > 0;
+}
+
+/// How many of `parts`, from `first` on, are one known text behind `start`; 0 for none.
+int Catalogue::FindPart(const QStringList& parts, int first, const QString& start, QString& found) const
+{
+    // Texts have a separator of their own at most twice.
+    constexpr int longest = 3;
+    for (int count = std::min(longest, parts.size() - first); count > 0; --count) {
+        if (FindWhole(start + QStringList(parts.mid(first, count)).join(ListSeparator()), found)) {
+            return count;
+        }
+    }
+    return 0;
+}
+
+/// The parts of a list from `first` on; those that are known, in this language. A text may be made for its place behind
+/// another: "; TEXT".
+QString Catalogue::Rest(const QStringList& parts, int first) const
+{
+    QString text;
+    while (first < parts.size()) {
         QString found;
-        text += FindWhole(ListSeparator() + part, found) ? found : ListSeparator() + Argument(part);
+        if (const int count = FindPart(parts, first, ListSeparator(), found)) {
+            text += found;
+            first += count;
+        } else if (const int plain = FindPart(parts, first, QString(), found)) {
+            text += ListSeparator() + found;
+            first += plain;
+        } else {
+            text += ListSeparator() + Argument(parts.at(first));
+            ++first;
+        }
     }
     return text;
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include <QHash>
@@ -44,7 +47,9 @@ private:
     bool FindWhole(const QString& english, QString& found) const;
     QString FilledIn(const Pattern& pattern, const QStringList& arguments) const;
     QString Argument(const QString& text) const;
-    QString List(const QStringList& parts) const;
+    bool FindList(const QString& english, QString& found) const;
+    int FindPart(const QStringList& parts, int first, const QString& start, QString& found) const;
+    QString Rest(const QStringList& parts, int first) const;
 
     QHash<QString, QString> texts;
     QVector<Pattern> patterns; ///< the longest first

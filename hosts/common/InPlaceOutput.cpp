@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "InPlaceOutput.h"
 
 #include "RequestError.h"
 
 #include "job/settings/JobFiles.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -31,8 +35,8 @@ QString FolderOfInputs(const ZTBatchInputModel& input)
     for (int row = 1; row < input.rowCount(); ++row) {
         if (FolderOf(input.getNodeData(input.index(row, 0))->fileName) != first) {
             throw RequestError{
-                QStringLiteral("the inputs do not lie in one folder: use --in-place for one folder after "
-                               "the other, or name the folder of the results with --output")};
+                Phrase::English("the inputs do not lie in one folder: use --in-place for one folder after "
+                                "the other, or name the folder of the results with --output")};
         }
     }
     return first;
@@ -59,8 +63,8 @@ void SetOutputInPlace(ZTBatchDocument& job)
     for (const JobFile& file : files) {
         // Names of folders are cleaned for every file system.
         if (QDir::cleanPath(root.filePath(file.folder)) != FolderOf(file.path)) {
-            throw RequestError{QStringLiteral("the result of %1 would not go to the folder of its original; name the "
-                                              "folder of the results with --output")
+            throw RequestError{Phrase::English("the result of %1 would not go to the folder of its original; name the "
+                                               "folder of the results with --output")
                                    .arg(file.path)};
         }
     }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "InputCollector.h"
 
 #include "JobFile.h"
@@ -119,7 +122,7 @@ void InputCollector::Add(const QStringList& paths)
         }
         if (IsSavedJob(path)) {
             qDeleteAll(loose);
-            throw RequestError{QStringLiteral("%1 is a saved job, not a picture").arg(path),
+            throw RequestError{Phrase::English("%1 is a saved job, not a picture").arg(path),
                                RequestError::Kind::SavedJobAmongInputs};
         }
         if (taken.contains(path)) {
@@ -235,7 +238,7 @@ void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPat
             folders.append(MakeNode(path, Folder).release());
         }
     } else if (entry.kind == FolderEntry::Kind::File && !IsReadable(entry.name) && IsSavedJob(path)) {
-        problems.append(QStringLiteral("%1 is a saved job, not a picture; it is left out.").arg(path));
+        problems.append(Phrase::English("%1 is a saved job, not a picture; it is left out.").arg(path));
     } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {
         taken.insert(path);
         files.append(MakeNode(path, File).release());

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "InterruptedRuns.h"
 
 #include "JournalFile.h"
@@ -197,16 +200,17 @@ QString InterruptedRuns::Run::Description() const
 {
     ZTBatchDocument job;
     if (!state || !job.Deserialize(state->document)) {
-        return QStringLiteral("%1  %2 is damaged").arg(Name(), journal);
+        return Phrase::English("%1  %2 is damaged").arg(Name(), journal);
     }
     constexpr qint64 nanoseconds = 1'000'000;
     const QString began =
         QDateTime::fromMSecsSinceEpoch(state->beganAt / nanoseconds).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     const int count = FilesOfJob(*job.GetInputModel()).size();
-    return QStringLiteral("%1  %2  %3 of %4  %5")
-        .arg(Name(), began, QString::number(state->results.size()),
-             count == 1 ? QStringLiteral("1 picture") : QStringLiteral("%1 pictures").arg(count),
-             InputsOf(*job.GetInputModel()));
+    const QString done = QString::number(state->results.size());
+    const QString inputs = InputsOf(*job.GetInputModel());
+    return count == 1 ? Phrase::English("%1  %2  %3 of 1 picture  %4").arg(Name(), began, done, inputs)
+                      : Phrase::English("%1  %2  %3 of %4 pictures  %5")
+                            .arg(Name(), began, done, QString::number(count), inputs);
 }
 
 const InterruptedRuns::Run* InterruptedRuns::RunOf(const ZTBatchDocument& job) const

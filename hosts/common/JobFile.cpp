@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "JobFile.h"
 
 #include "job/values/Phrase.h"
@@ -51,13 +54,13 @@ QStringList WarningsAbout(const QString& text, const QString& path)
     const QVector<BatchJob::UnknownPart> parts = BatchJob::UnknownParts(text);
     QStringList warnings;
     for (const BatchJob::UnknownPart& part : parts.mid(0, most)) {
-        warnings.append(QStringLiteral("%1, line %2: this version does not know %3, and ignores it.")
+        warnings.append(BatchJob::Phrase::English("%1, line %2: this version does not know %3, and ignores it.")
                             .arg(path, QString::number(part.line), part.Text()));
     }
     if (parts.size() > most) {
-        warnings.append(
-            QStringLiteral("%1: this version does not know %2 other elements and attributes, and ignores them.")
-                .arg(path, QString::number(parts.size() - most)));
+        warnings.append(BatchJob::Phrase::English(
+                            "%1: this version does not know %2 other elements and attributes, and ignores them.")
+                            .arg(path, QString::number(parts.size() - most)));
     }
     return warnings;
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "JournalFile.h"
 
 #include "RequestError.h"
@@ -146,9 +149,9 @@ std::unique_ptr<JournalFile> JournalFile::Take(const QString& path)
 {
     std::unique_ptr<JournalFile> journal(new JournalFile(path));
     if (!journal->problem.isEmpty()) {
-        throw RequestError{
-            BatchJob::Phrase::English("the run in %1 cannot be resumed: %2").arg(QFileInfo(path).path(), journal->problem),
-            journal->IsInUse() ? RequestError::Kind::AlreadyRunning : RequestError::Kind::Other};
+        throw RequestError{BatchJob::Phrase::English("the run in %1 cannot be resumed: %2")
+                               .arg(QFileInfo(path).path(), journal->problem),
+                           journal->IsInUse() ? RequestError::Kind::AlreadyRunning : RequestError::Kind::Other};
     }
     return journal;
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Presets.h"
 
 #include "JobDefaults.h"
@@ -7,6 +10,7 @@
 
 #include "job/settings/OutputNaming.h"
 #include "job/values/ParameterSchema.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -64,39 +68,39 @@ const Preset* FindIn(const QVector<Preset>& presets, const QString& name)
 RequestError NoSuchPreset(const QString& name, const QVector<Preset>& presets)
 {
     if (name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\'))) {
-        return {QStringLiteral("\"%1\" is a path, but the name of a preset is needed").arg(name)};
+        return {Phrase::English("\"%1\" is a path, but the name of a preset is needed").arg(name)};
     }
     QStringList names;
     for (const Preset& preset : presets) {
         names.append(preset.name);
     }
     const QString nearest = NearestWord(name, names);
-    QString text = QStringLiteral("there is no preset \"%1\"").arg(name);
-    text += names.isEmpty() ? QString() : QStringLiteral("; known are ") + names.join(QStringLiteral(", "));
-    text += nearest.isEmpty() ? QString() : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    QString text = Phrase::English("there is no preset \"%1\"").arg(name);
+    text += names.isEmpty() ? QString() : Phrase::English("; known are %1").arg(names.join(QStringLiteral(", ")));
+    text += nearest.isEmpty() ? QString() : Phrase::English("; did you mean \"%1\"?").arg(nearest);
     return {text};
 }
 
 void RequireName(const QString& name)
 {
     if (name.isEmpty()) {
-        throw RequestError{QStringLiteral("the name of the preset is empty")};
+        throw RequestError{Phrase::English("the name of the preset is empty")};
     }
     if (name.startsWith(QLatin1Char('.'))) {
-        throw RequestError{QStringLiteral("\"%1\" begins with a dot, which the name of a preset must not").arg(name)};
+        throw RequestError{Phrase::English("\"%1\" begins with a dot, which the name of a preset must not").arg(name)};
     }
     if (name.endsWith(extension, Qt::CaseInsensitive)) {
         throw RequestError{
-            QStringLiteral("the name of a preset has no extension: use \"%1\"").arg(name.chopped(extension.size()))};
+            Phrase::English("the name of a preset has no extension: use \"%1\"").arg(name.chopped(extension.size()))};
     }
     const QString clean = CleanName(name);
     if (clean != name) {
         throw RequestError{
-            QStringLiteral("\"%1\" is no name for a file on every system; \"%2\" would be one").arg(name, clean)};
+            Phrase::English("\"%1\" is no name for a file on every system; \"%2\" would be one").arg(name, clean)};
     }
     const int longest = longestName - extension.size();
     if (name.toUtf8().size() > longest) {
-        throw RequestError{QStringLiteral("the name of the preset is longer than %1 bytes").arg(longest)};
+        throw RequestError{Phrase::English("the name of the preset is longer than %1 bytes").arg(longest)};
     }
 }
 
@@ -174,7 +178,7 @@ QStringList Presets::Load(ZTBatchDocument& job, const QString& name) const
     try {
         return Read(job, preset.file);
     } catch (const RequestError& error) {
-        throw error.In(QStringLiteral("the preset ") + preset.name);
+        throw error.In(Phrase::English("the preset %1").arg(preset.name));
     }
 }
 
@@ -184,7 +188,7 @@ QString Presets::Save(const ZTBatchDocument& job, const QString& name, bool repl
     const QVector<Preset> ofUser = OfUser();
     const Preset* const existing = FindIn(ofUser, name);
     if (!QDir().mkpath(folder)) {
-        throw RequestError{QStringLiteral("the folder %1 cannot be made").arg(folder)};
+        throw RequestError{Phrase::English("the folder %1 cannot be made").arg(folder)};
     }
     const QString file = existing != nullptr ? existing->file : QDir(folder).filePath(name + extension);
     SaveJob(job, file, replaceExisting);
@@ -195,13 +199,13 @@ void Presets::Remove(const QString& name) const
 {
     const Preset preset = Find(name);
     if (preset.comesAlong) {
-        throw RequestError{QStringLiteral("the preset %1 comes with the program and cannot be removed; a preset of "
-                                          "yours with that name is used instead of it")
+        throw RequestError{Phrase::English("the preset %1 comes with the program and cannot be removed; a preset of "
+                                           "yours with that name is used instead of it")
                                .arg(preset.name)};
     }
     QFile file(preset.file);
     if (!file.remove()) {
-        throw RequestError{QStringLiteral("%1 cannot be removed: %2").arg(preset.file, file.errorString())};
+        throw RequestError{Phrase::English("%1 cannot be removed: %2").arg(preset.file, file.errorString())};
     }
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ProfileFile.h"
 
 #include "RequestError.h"
@@ -56,13 +59,13 @@ QByteArray ReadProfile(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw RequestError{QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString())};
+        throw RequestError{BatchJob::Phrase::English("%1 cannot be read: %2").arg(path, file.errorString())};
     }
     constexpr qint64 largestProfile = 64 << 20;
     constexpr int signaturePosition = 36;
     const QByteArray profile = file.read(largestProfile);
     if (profile.mid(signaturePosition, 4) != "acsp") {
-        throw RequestError{QStringLiteral("%1 is not an ICC profile").arg(path)};
+        throw RequestError{BatchJob::Phrase::English("%1 is not an ICC profile").arg(path)};
     }
     return profile;
 }

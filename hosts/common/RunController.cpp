@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "RunController.h"
 
 #include "ManagerPolicies.h"
@@ -445,7 +448,8 @@ void RunController::NoteLoss(const QStringList& lost) const
         return;
     }
     journal.onFailure = [this](const QString& problem) {
-        qWarning("The journal %s cannot be written: %s.", qUtf8Printable(order.journalPath), qUtf8Printable(problem));
+        qWarning("%s", qUtf8Printable(
+                           Phrase::English("The journal %1 cannot be written: %2.").arg(order.journalPath, problem)));
     };
     if (journal.Open(order.journalPath)) {
         journal.Lose(indexes);

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Wildcard.h"
+
+#include "job/values/Phrase.h"
 
 #include "RequestError.h"
 
@@ -74,7 +79,7 @@ public:
     QString Of(const QString& pattern, int depth = 0)
     {
         if (depth > deepestBraces) {
-            throw RequestError{QStringLiteral("the braces of a wildcard are nested too deeply")};
+            throw RequestError{BatchJob::Phrase::English("the braces of a wildcard are nested too deeply")};
         }
         QString written;
         for (int i = 0; i < pattern.size();) {
@@ -145,8 +150,9 @@ private:
 void CheckLength(const QString& pattern)
 {
     if (pattern.size() > longestPattern) {
-        throw RequestError{
-            QStringLiteral("a wildcard is longer than %1 characters: %2...").arg(longestPattern).arg(pattern.left(60))};
+        throw RequestError{BatchJob::Phrase::English("a wildcard is longer than %1 characters: %2...")
+                               .arg(longestPattern)
+                               .arg(pattern.left(60))};
     }
 }
 
@@ -160,7 +166,8 @@ Wildcard::Wildcard(const QString& pattern)
         QRegularExpression(QRegularExpression::anchoredPattern(ExpressionWriter().Of(pattern)),
                            QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     if (!expression.isValid()) {
-        throw RequestError{QStringLiteral("the wildcard \"%1\" is invalid: %2").arg(pattern, expression.errorString())};
+        throw RequestError{
+            BatchJob::Phrase::English("the wildcard \"%1\" is invalid: %2").arg(pattern, expression.errorString())};
     }
 }
 
@@ -194,7 +201,7 @@ QStringList Wildcard::Alternatives(const QString& pattern)
             open.insert(i, next.left(begin) + next.mid(spans.at(i).begin, spans.at(i).size) + next.mid(begin + size));
         }
         if (done.size() + open.size() > mostAlternatives) {
-            throw RequestError{QStringLiteral("the braces in \"%1\" stand for more than %2 names")
+            throw RequestError{BatchJob::Phrase::English("the braces in \"%1\" stand for more than %2 names")
                                    .arg(pattern, QString::number(mostAlternatives))};
         }
     }

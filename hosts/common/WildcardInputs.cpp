@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "WildcardInputs.h"
+
+#include "job/values/Phrase.h"
 
 #include "FolderReader.h"
 #include "InputCollector.h"
@@ -117,7 +122,7 @@ private:
         }
         const FolderContent content = ReadFolder(path);
         if (!content.error.isEmpty()) {
-            AddProblem(QStringLiteral("%1 cannot be read: %2").arg(path, content.error));
+            AddProblem(BatchJob::Phrase::English("%1 cannot be read: %2").arg(path, content.error));
         }
         QStringList names;
         for (const FolderEntry& entry : content.entries) {
@@ -139,10 +144,10 @@ private:
     bool IsUsable(const FolderEntry& entry, const QString& folder)
     {
         if (!entry.hasName) {
-            AddProblem(
-                QStringLiteral("%1 has a name that is not valid UTF-8; rename it to use it.").arg(folder + entry.name));
+            AddProblem(BatchJob::Phrase::English("%1 has a name that is not valid UTF-8; rename it to use it.")
+                           .arg(folder + entry.name));
         } else if (entry.isDangling) {
-            AddProblem(QStringLiteral("%1 is a dangling link.").arg(folder + entry.name));
+            AddProblem(BatchJob::Phrase::English("%1 is a dangling link.").arg(folder + entry.name));
         }
         return entry.hasName && !entry.isDangling;
     }
@@ -192,7 +197,7 @@ void Expand(const QString& pattern, const InputFilter& filter, ExpandedInputs& a
         }
     }
     if (found.paths.isEmpty() && found.problems.isEmpty()) {
-        throw RequestError{QStringLiteral("%1 matches no file").arg(pattern)};
+        throw RequestError{BatchJob::Phrase::English("%1 matches no file").arg(pattern)};
     }
     all.paths += found.paths;
     all.problems += found.problems;

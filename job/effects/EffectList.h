@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /// The one list of the effects, in the order of the catalogue and of the reference page. Each name has two functions,

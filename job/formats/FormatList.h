@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /// The formats of the catalogue. Tables with one entry for each format are made from these lists, so that a missing

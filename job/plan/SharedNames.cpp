@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "SharedNames.h"
+
+#include "job/values/Phrase.h"
 
 namespace BatchJob {
 
@@ -19,15 +24,15 @@ Refusal RefusalOfSharedNames(const RunPlan& plan)
     const OutputPlan& names = plan.Names();
     QStringList examples;
     for (const RunPlan::SharedName& one : shared.mid(0, mostExamples)) {
-        examples.append(QStringLiteral("\"%1\" and \"%2\" would both be \"%3\"")
+        examples.append(Phrase::English("\"%1\" and \"%2\" would both be \"%3\"")
                             .arg(names.Input(one.first), names.Input(one.second), names.Output(one.second)));
     }
     if (shared.size() > mostExamples) {
-        examples.append(QStringLiteral("and so on"));
+        examples.append(Phrase::English("and so on"));
     }
     const QString count = shared.size() == 1
-                              ? QStringLiteral("1 result would get the name of another")
-                              : QStringLiteral("%1 results would get the names of others").arg(shared.size());
+                              ? Phrase::English("1 result would get the name of another")
+                              : Phrase::English("%1 results would get the names of others").arg(shared.size());
     return {ZTBatchMessage::FileNameAlreadyExists, count + countEnd + examples.join(exampleEnd)};
 }
 

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "UnknownParts.h"
+
+#include "job/values/Phrase.h"
 
 #include <QHash>
 #include <QPair>
@@ -145,8 +150,8 @@ private:
 
 QString UnknownPart::Text() const
 {
-    return isAttribute ? QStringLiteral("the attribute \"%1\" of \"%2\"").arg(name, place)
-                       : QStringLiteral("the element \"%1\" in \"%2\"").arg(name, place);
+    return isAttribute ? Phrase::English("the attribute \"%1\" of \"%2\"").arg(name, place)
+                       : Phrase::English("the element \"%1\" in \"%2\"").arg(name, place);
 }
 
 QVector<UnknownPart> UnknownParts(const QString& text)

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ParameterSchema.h"
+
+#include "job/values/Phrase.h"
 
 #include "ColourNames.h"
 #include "Phrase.h"
@@ -351,11 +356,11 @@ QString AllowedTexts(const ParameterSchema& parameter)
 {
     switch (parameter.type) {
     case ParameterType::Colour:
-        return QStringLiteral("a colour: #rrggbb, #rrggbbaa, or a name such as white");
+        return Phrase::English("a colour: #rrggbb, #rrggbbaa, or a name such as white");
     case ParameterType::ChoiceList:
-        return parameter.choices.join(QStringLiteral(", ")) + QStringLiteral(", joined with +, or none");
+        return Phrase::English("%1, joined with +, or none").arg(parameter.choices.join(QStringLiteral(", ")));
     case ParameterType::Points:
-        return QStringLiteral("2 to %1 points x:y with ascending x, joined with +, numbers %2")
+        return Phrase::English("2 to %1 points x:y with ascending x, joined with +, numbers %2")
             .arg(maximumPoints)
             .arg(RangeText(parameter));
     default:

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "SystemProtection.h"
+
+#include "job/values/Phrase.h"
 
 namespace BatchProtocol {
 
@@ -14,18 +19,24 @@ constexpr int withScopes = 6;
 QStringList SystemProtection::Description() const
 {
     if (!canConfine) {
-        return {QStringLiteral("workers: not confined on this system")};
+        return {BatchJob::Phrase::English("workers: not confined on this system")};
     }
-    QString files = QStringLiteral("files of workers: not restricted, as the kernel has no Landlock");
+    QString files = BatchJob::Phrase::English("files of workers: not restricted, as the kernel has no Landlock");
     if (fileAccess > 0) {
-        files = QStringLiteral("files of workers: those of the job, by Landlock %1, %2 scopes for signals and sockets")
-                    .arg(fileAccess)
-                    .arg(fileAccess >= withScopes ? QStringLiteral("with") : QStringLiteral("without"));
+        const QString confined =
+            fileAccess >= withScopes
+                ? BatchJob::Phrase::English("files of workers: those of the job, by Landlock %1, with scopes for "
+                                            "signals and sockets")
+                : BatchJob::Phrase::English("files of workers: those of the job, by Landlock %1, without scopes for "
+                                            "signals and sockets");
+        files = confined.arg(fileAccess);
     }
-    return {files,
-            hasCallFilter ? QStringLiteral("system calls of workers: a list of allowed ones, by seccomp")
-                          : QStringLiteral("system calls of workers: not restricted, as the kernel has no seccomp"),
-            QStringLiteral("memory of the supervisor: closed to other processes of the user (not dumpable)")};
+    return {
+        files,
+        hasCallFilter
+            ? BatchJob::Phrase::English("system calls of workers: a list of allowed ones, by seccomp")
+            : BatchJob::Phrase::English("system calls of workers: not restricted, as the kernel has no seccomp"),
+        BatchJob::Phrase::English("memory of the supervisor: closed to other processes of the user (not dumpable)")};
 }
 
 QStringList SystemProtection::Missing() const

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // effect_reference PHOTO FOLDER: writes the reference page of the effects to FOLDER/effects.md, a small picture of each
 // effect, made from PHOTO, to FOLDER/effects/, and the patterns of backgrounds to FOLDER/pictures/patterns.png.
 

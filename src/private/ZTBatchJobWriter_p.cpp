@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ZTBatchJobWriter_p.h"
 
 #include "ZTBatchInputOutline_p.h"

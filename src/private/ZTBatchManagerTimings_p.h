@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /// The manager's timeouts and intervals in milliseconds. One set for the process, which only tests change.

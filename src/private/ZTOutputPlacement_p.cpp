@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ZTOutputPlacement_p.h"
 
 #include "ZTDiagnostics_p.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ZVBatchInputRows_p.h"
 
 #include "ZTPrefetch_p.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 /// Runs a test in a folder of its own. The manager starts the server that is beside the executable, so each test with a

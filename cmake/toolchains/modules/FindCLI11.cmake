@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # The headers of CLI11 as the building machine has them, in a folder of their own: beside them lie those of its system,
 # which are not for this target.
 find_path(CLI11_SYSTEM_INCLUDE_DIR CLI/CLI.hpp NO_CMAKE_FIND_ROOT_PATH PATHS /usr/include)

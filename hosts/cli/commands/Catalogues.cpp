@@ -1,16 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Catalogues.h"
 
 #include "hosts/cli/options/FormatNames.h"
-#include "hosts/cli/options/HelpTexts.h"
 #include "hosts/cli/options/ParameterTexts.h"
+#include "hosts/cli/options/TextLayout.h"
 #include "hosts/cli/options/Words.h"
+#include "hosts/common/Language.h"
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+using namespace BatchHost;
 using namespace BatchJob;
 
 namespace BatchCli {
@@ -24,7 +30,7 @@ using BatchJob::ParameterType;
 
 constexpr int columns = 100;
 
-const QString originalDescription = QStringLiteral("the format of each input");
+const QString originalDescription = Phrase::English("the format of each input");
 
 QVector<EffectSchema> PickEffects(const QStringList& names)
 {
@@ -60,22 +66,22 @@ QStringList PickFormats(const QStringList& names)
 QString DefaultText(const ParameterSchema& parameter)
 {
     if (parameter.defaultValue.isNull()) {
-        return QStringLiteral("required");
+        return Messages::tr("required");
     }
     if (parameter.defaultValue.isUndefined()) {
-        return QStringLiteral("optional");
+        return Messages::tr("optional");
     }
     const QString text = TypedValue(parameter.defaultValue);
-    return QStringLiteral("default ") + (text.isEmpty() ? QStringLiteral("\"\"") : text);
+    return Messages::tr("default %1").arg(text.isEmpty() ? QStringLiteral("\"\"") : text);
 }
 
 QString ParameterListing(const QVector<ParameterSchema>& parameters)
 {
     QString text;
     for (const ParameterSchema& parameter : parameters) {
-        const QString line =
-            QStringLiteral("%1: %2; %3, %4")
-                .arg(parameter.name, parameter.description, BatchJob::AllowedTexts(parameter), DefaultText(parameter));
+        const QString line = QStringLiteral("%1: %2; %3, %4")
+                                 .arg(parameter.name, Translated(parameter.description),
+                                      Translated(BatchJob::AllowedTexts(parameter)), DefaultText(parameter));
         text += QStringLiteral("    ") + Wrapped(line, 6, columns) + QLatin1Char('\n');
     }
     return text;
@@ -146,15 +152,19 @@ QString DepthsText(const FormatSchema& format)
     return depths.join(QStringLiteral(", "));
 }
 
+QString YesOrNo(bool value)
+{
+    return value ? Messages::tr("yes") : Messages::tr("no");
+}
+
 QString ListingOf(const FormatSchema& format)
 {
-    const QString text =
-        QStringLiteral("%1 (.%2)\n  %3 bits a channel; transparency: %4; CMYK: %5; longest side %6 pixels\n")
-            .arg(format.name, format.extensions.join(QStringLiteral(", .")), DepthsText(format),
-                 format.holdsTransparency ? QStringLiteral("yes") : QStringLiteral("no"),
-                 format.holdsCmyk ? QStringLiteral("yes") : QStringLiteral("no"))
-            .arg(format.longestSide);
-    return text + QStringLiteral("  ") + format.description + QLatin1Char('\n') + ParameterListing(format.options);
+    const QString text = Messages::tr("%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels")
+                             .arg(DepthsText(format), YesOrNo(format.holdsTransparency), YesOrNo(format.holdsCmyk),
+                                  QString::number(format.longestSide));
+    return QStringLiteral("%1 (.%2)\n  %3\n  %4\n")
+               .arg(format.name, format.extensions.join(QStringLiteral(", .")), text, Translated(format.description)) +
+           ParameterListing(format.options);
 }
 
 QJsonObject JsonOf(const FormatSchema& format)
@@ -179,8 +189,9 @@ QString EffectListing(const QStringList& names)
 {
     QString text;
     for (const EffectSchema& effect : PickEffects(names)) {
-        text += effect.id + QLatin1Char('\n') + QStringLiteral("  ") + Wrapped(effect.description, 2, columns) +
-                QLatin1Char('\n') + ParameterListing(effect.parameters);
+        text += effect.id + QLatin1Char('\n') + QStringLiteral("  ") +
+                Wrapped(Translated(effect.description), 2, columns) + QLatin1Char('\n') +
+                ParameterListing(effect.parameters);
     }
     return text;
 }
@@ -201,11 +212,13 @@ QString FormatListing(const QStringList& names)
     QString text;
     for (const QString& name : PickFormats(names)) {
         const FormatSchema* const format = FindFormat(name);
-        text += format == nullptr ? QStringLiteral("%1\n  %2\n").arg(name, originalDescription) : ListingOf(*format);
+        text += format == nullptr ? QStringLiteral("%1\n  %2\n").arg(name, Translated(originalDescription))
+                                  : ListingOf(*format);
     }
     if (names.isEmpty()) {
-        text += QStringLiteral("\nFiles that can be read: ") +
-                Wrapped(BatchJob::ReadableExtensions().join(QStringLiteral(", ")), 2, columns) + QLatin1Char('\n');
+        const QString extensions = BatchJob::ReadableExtensions().join(QStringLiteral(", "));
+        text += QLatin1Char('\n') + Wrapped(Messages::tr("Files that can be read: %1").arg(extensions), 2, columns) +
+                QLatin1Char('\n');
     }
     return text;
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "JobBuilder.h"
 
 #include "hosts/cli/options/Contradictions.h"
@@ -6,9 +9,11 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/JobFile.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -54,15 +59,16 @@ void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const
     QStringList warnings;
     if (arguments.Has(preset)) {
         if (!savedJob.isEmpty()) {
-            throw RequestError{QStringLiteral("%1 and --preset exclude each other: give one of them to start from")
-                                   .arg(arguments.Has(QStringLiteral("--from")) ? QStringLiteral("--from") : savedJob)};
+            throw RequestError{
+                BatchJob::Phrase::English("%1 and --preset exclude each other: give one of them to start from")
+                    .arg(arguments.Has(QStringLiteral("--from")) ? QStringLiteral("--from") : savedJob)};
         }
         warnings = Presets(SettingsFolder(arguments)).Load(job, arguments.Value(preset));
     } else if (!savedJob.isEmpty()) {
         warnings = LoadJob(job, savedJob);
     }
     for (const QString& warning : qAsConst(warnings)) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(warning));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(Translated(warning)));
     }
     if (arguments.Has(QStringLiteral("--no-inputs"))) {
         job.GetInputModel()->removeRows(0, job.GetInputModel()->rowCount());

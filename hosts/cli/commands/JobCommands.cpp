@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
 #include "JobListing.h"
@@ -5,7 +8,9 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/JobRequirements.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -17,18 +22,23 @@ namespace BatchCli {
 
 namespace {
 
-/// What the job has, and what is still to be given.
-QString JobText(const ZTBatchDocument& job)
+/// That the job was saved at `path`: what it has, and what is still to be given.
+QString SavedText(const QString& path, const ZTBatchDocument& job)
 {
     const int count = job.GetInputModel()->GetFileNodesCount();
     const bool hasFolder = !job.GetOutputSettings()->GetPath().isEmpty();
     if (count == 0) {
-        return hasFolder ? QStringLiteral("a job without pictures; give them to run or plan, after the job")
-                         : QStringLiteral("a job without pictures and output folder; give them to run or plan");
+        return (hasFolder ? Messages::tr("%1: a job without pictures; give them to run or plan, after the job.")
+                          : Messages::tr("%1: a job without pictures and output folder; give them to run or plan."))
+            .arg(path);
     }
-    const QString pictures =
-        count == 1 ? QStringLiteral("a job of 1 picture") : QStringLiteral("a job of %1 pictures").arg(count);
-    return hasFolder ? pictures : pictures + QStringLiteral(", without an output folder; give --output to run or plan");
+    const QString ofOne =
+        hasFolder ? Messages::tr("%1: a job of 1 picture.")
+                  : Messages::tr("%1: a job of 1 picture, without an output folder; give --output to run or plan.");
+    const QString ofMany =
+        hasFolder ? Messages::tr("%1: a job of %2 pictures.")
+                  : Messages::tr("%1: a job of %2 pictures, without an output folder; give --output to run or plan.");
+    return count == 1 ? ofOne.arg(path) : ofMany.arg(path, QString::number(count));
 }
 
 } // namespace
@@ -37,12 +47,13 @@ ExitCode CreateJob(const ParsedArguments& arguments)
 {
     QStringList inputs = arguments.inputs;
     if (inputs.isEmpty()) {
-        throw RequestError{QStringLiteral("no file name for the job: velkora-batch create JOB.xml INPUT...")};
+        throw RequestError{
+            BatchJob::Phrase::English("no file name for the job: velkora-batch create JOB.xml INPUT...")};
     }
     const QString path = inputs.takeFirst();
     if (path != QLatin1String("-") && !path.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive)) {
         throw RequestError{
-            QStringLiteral(
+            BatchJob::Phrase::English(
                 "the first argument must be the file of the job, with a name that ends with .xml, but is \"%1\"")
                 .arg(path)};
     }
@@ -60,7 +71,7 @@ ExitCode CreateJob(const ParsedArguments& arguments)
         SaveJob(job, path, arguments.Has(QStringLiteral("--force")));
     }
     if (!arguments.Has(QStringLiteral("--quiet")) && path != QLatin1String("-")) {
-        WriteErrorLine(QStringLiteral("%1: %2.").arg(path, JobText(job)));
+        WriteErrorLine(SavedText(path, job));
     }
     return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
 }

@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "JobInputs.h"
 
 #include "hosts/cli/options/OrderOption.h"
+#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
@@ -9,9 +13,11 @@
 #include "hosts/common/InputList.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/JobRequirements.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
 #include "hosts/common/WildcardInputs.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -41,7 +47,7 @@ void CheckForStandardInput(const QStringList& inputs)
 {
     if (inputs.contains(QStringLiteral("-")) && !QFileInfo::exists(QStringLiteral("-"))) {
         throw RequestError{
-            QStringLiteral("there is no file \"-\"; to read names from standard input, use --files-from -")};
+            BatchJob::Phrase::English("there is no file \"-\"; to read names from standard input, use --files-from -")};
     }
 }
 
@@ -52,14 +58,15 @@ QStringList ListedInputs(const ParsedArguments& arguments)
     const bool isNulSeparated = arguments.Has(QStringLiteral("--null"));
     if (!arguments.Has(filesFrom)) {
         if (isNulSeparated) {
-            throw RequestError{QStringLiteral("--null needs %1").arg(filesFrom)};
+            throw RequestError{BatchJob::Phrase::English("--null needs %1").arg(filesFrom)};
         }
         return {};
     }
     const QString list = arguments.Value(filesFrom);
     if (list == QLatin1String("-") && Terminal::IsInputTerminal()) {
         throw RequestError{
-            QStringLiteral("%1 -: standard input is a terminal; pipe a list into it, or name a file").arg(filesFrom)};
+            BatchJob::Phrase::English("%1 -: standard input is a terminal; pipe a list into it, or name a file")
+                .arg(filesFrom)};
     }
     return ReadInputList(list, isNulSeparated);
 }
@@ -71,7 +78,7 @@ void Sort(ZTBatchDocument& job, InputOrder order, const QStringList& inputs, Sta
         paths.append(AbsolutePath(input));
     }
     SortInputs(job, order, paths, [&line](int done, int files) {
-        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files); });
+        line.Show([&] { return Messages::tr("Looking at pictures: %1 of %2").arg(done).arg(files); });
     });
 }
 
@@ -81,8 +88,8 @@ void StayInPlace(ZTBatchDocument& job, const ParsedArguments& arguments)
     const QString structure = QStringLiteral("--structure");
     if (arguments.Has(structure)) {
         throw RequestError{
-            QStringLiteral("%1 cannot be used with --in-place without --output: results go to the folders "
-                           "of their originals")
+            BatchJob::Phrase::English("%1 cannot be used with --in-place without --output: results go to the folders "
+                                      "of their originals")
                 .arg(structure)};
     }
     SetOutputInPlace(job);
@@ -95,11 +102,15 @@ RequestError NoPictures(const ParsedArguments& arguments)
         wildcards.append(QStringLiteral("--include \"%1\"").arg(wildcard));
     }
     if (wildcards.isEmpty()) {
-        return {QStringLiteral("no pictures"), RequestError::Kind::NoPictures};
+        return {BatchJob::Phrase::English("no pictures"), RequestError::Kind::NoPictures};
     }
-    return {QStringLiteral("no pictures: %1 %2 nothing")
-                .arg(wildcards.join(QStringLiteral(" and ")),
-                     wildcards.size() == 1 ? QStringLiteral("matches") : QStringLiteral("match")),
+    if (wildcards.size() == 1) {
+        return {BatchJob::Phrase::English("no pictures: %1 matches nothing").arg(wildcards.first()),
+                RequestError::Kind::NothingMatches};
+    }
+    const QString last = wildcards.takeLast();
+    return {BatchJob::Phrase::English("no pictures: %1 and %2 match nothing")
+                .arg(wildcards.join(QStringLiteral(", ")), last),
             RequestError::Kind::NothingMatches};
 }
 
@@ -108,14 +119,13 @@ void TellLosses(const InputCollector& collector, const QStringList& problems, co
 {
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     for (const QString& text : isQuiet ? problems : collector.Repetitions() + problems) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(text));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(Translated(text)));
     }
     if (arguments.Has(QStringLiteral("--verbose"))) {
         for (const LeftOutFile& file : collector.LeftOut()) {
-            WriteErrorLine(
-                QStringLiteral("velkora-batch: %1 is left out: it begins like a %2 file, but its extension is "
-                               "not known.")
-                    .arg(file.path, file.format));
+            WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                           Messages::tr("%1 is left out: it begins like a %2 file, but its extension is not known.")
+                               .arg(file.path, file.format));
         }
     }
 }
@@ -133,7 +143,7 @@ InputLosses AddInputs(ZTBatchDocument& job, const ParsedArguments& arguments, co
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
     collector.onProgress = [&line](int folders, int files, const QString& folder) {
         line.Show([&] {
-            return QStringLiteral("Folders read: %1, pictures found: %2, now in %3")
+            return Messages::tr("Folders read: %1, pictures found: %2, now in %3")
                 .arg(QLocale::c().toString(folders), QLocale::c().toString(files), folder);
         });
     };
@@ -157,7 +167,7 @@ bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, c
         return true;
     }
     if (inputs.isEmpty() && !arguments.Has(QStringLiteral("--files-from"))) {
-        throw RequestError{QStringLiteral("no inputs"), RequestError::Kind::NoInputs};
+        throw RequestError{BatchJob::Phrase::English("no inputs"), RequestError::Kind::NoInputs};
     }
     const RequestError error = NoPictures(arguments);
     if (!arguments.Has(QStringLiteral("--allow-empty"))) {
@@ -168,7 +178,7 @@ bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, c
         RequireUsableSettings(job);
     }
     if (!arguments.Has(QStringLiteral("--quiet"))) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1.").arg(error.text));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(WithFullStop(Translated(error.text))));
     }
     return false;
 }

@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "JobListing.h"
 
 #include "hosts/cli/options/JobOptions.h"
+#include "hosts/common/Language.h"
 #include "job/values/VisibleText.h"
 
 #include "ZTBatchDocument.h"
@@ -9,6 +13,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QVector>
+
+using namespace BatchHost;
 
 namespace BatchCli {
 
@@ -28,12 +34,12 @@ QString NameOf(const BatchNodeData& data, bool isTop)
 
 QString CountText(int count)
 {
-    return count == 1 ? QStringLiteral("1 picture") : QStringLiteral("%1 pictures").arg(count);
+    return count == 1 ? Messages::tr("1 picture") : Messages::tr("%1 pictures").arg(count);
 }
 
 QString InputListing(const ZTBatchInputModel& model)
 {
-    QString text = QStringLiteral("Inputs: %1\n").arg(CountText(model.GetFileNodesCount()));
+    QString text = Messages::tr("Inputs: %1").arg(CountText(model.GetFileNodesCount())) + QLatin1Char('\n');
     QVector<Row> rows;
     const auto addRows = [&](const QModelIndex& parent, int depth) {
         for (int row = model.rowCount(parent) - 1; row >= 0; --row) {
@@ -64,7 +70,7 @@ QString JobListing(const ZTBatchDocument& job)
         for (const QString& value : option.texts(job)) {
             if (option.info.group != group) {
                 group = option.info.group;
-                text += QLatin1Char('\n') + group + QStringLiteral(":\n");
+                text += QLatin1Char('\n') + Messages::tr("%1:").arg(Translated(group)) + QLatin1Char('\n');
             }
             text += QStringLiteral("  %1 %2\n").arg(option.info.name.mid(2), -20).arg(BatchJob::VisibleText(value));
         }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
 #include "PlanProbe.h"
@@ -6,6 +9,7 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/JobRequirements.h"
+#include "hosts/common/Language.h"
 #include "job/geometry/ResultSize.h"
 #include "job/plan/RunForecast.h"
 #include "job/values/VisibleText.h"
@@ -55,7 +59,7 @@ Outlook LookAhead(const ZTBatchDocument& job, const PolicyValues& policies, cons
         plan.ReplaceOriginals();
     }
     StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
-    line.ShowNow(QStringLiteral("Planning %1 files").arg(plan.Count()));
+    line.ShowNow(Messages::tr("Planning %1 files").arg(plan.Count()));
     plan.ReadInputs();
     const PlanProbe probe = ProbeInputs(plan, job, !arguments.Has(QStringLiteral("--no-sizes")),
                                         arguments.Has(QStringLiteral("--verbose")), line);
@@ -110,9 +114,9 @@ QString Line(const Outlook& outlook, int index)
         line += QStringLiteral("  ") + SizesText(outlook.InputSize(index), size);
     }
     if (prospect.decision) {
-        line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), prospect.trouble.reason);
+        line += QStringLiteral("  [%1: %2]").arg(ProspectWord(prospect), Translated(prospect.trouble.reason));
     } else if (prospect.isInPlace) {
-        line += QStringLiteral("  [replaces the original]");
+        line += QStringLiteral("  [%1]").arg(Messages::tr("replaces the original"));
     }
     return VisibleText(line) + QLatin1Char('\n');
 }
@@ -143,7 +147,8 @@ QString JsonLine(const Outlook& outlook, int index)
 void TellMissingSizes(const PlanProbe& probe)
 {
     if (!probe.problem.isEmpty()) {
-        WriteErrorLine(QStringLiteral("velkora-batch: sizes in pixels are not known: %1.").arg(probe.problem));
+        WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                       Messages::tr("sizes in pixels are not known: %1.").arg(Translated(probe.problem)));
     }
 }
 
@@ -178,11 +183,10 @@ ExitCode PlanJob(const ParsedArguments& arguments)
     WriteOut(text);
     if (!isQuiet) {
         TellMissingSizes(outlook.probe);
-        WriteErrorLine(QStringLiteral("%1 %2: %3 without trouble, %4 in brackets. Nothing was written.")
-                           .arg(count)
-                           .arg(count == 1 ? QStringLiteral("file") : QStringLiteral("files"))
-                           .arg(clear)
-                           .arg(unclear));
+        const QString summary =
+            count == 1 ? Messages::tr("%1 file: %2 without trouble, %3 in brackets. Nothing was written.")
+                       : Messages::tr("%1 files: %2 without trouble, %3 in brackets. Nothing was written.");
+        WriteErrorLine(summary.arg(QString::number(count), QString::number(clear), QString::number(unclear)));
     }
     TellLeftOut(losses.leftOut, arguments);
     return losses.problems == 0 && unclear == 0 ? ExitCode::Done : ExitCode::Incomplete;

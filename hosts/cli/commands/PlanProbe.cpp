@@ -1,7 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "PlanProbe.h"
 
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/FileProber.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 #include "job/plan/WarningLine.h"
 #include "job/settings/JobFiles.h"
@@ -45,7 +49,7 @@ PlanProbe ProbeInputs(RunPlan& plan, const ZTBatchDocument& job, bool withSizes,
     int done = 0;
     const auto note = [&](const BatchProtocol::Report& report) {
         ++done;
-        line.Show([&] { return QStringLiteral("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
+        line.Show([&] { return Messages::tr("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
         if (report.failure == PolicyKind::None) {
             const ProbeResult result = BatchProtocol::ProbeResultOf(report);
             found.sizes.insert(report.number, result.size);

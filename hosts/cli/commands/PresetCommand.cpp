@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
 
@@ -6,7 +9,9 @@
 #include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobRequirements.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/Presets.h"
+#include "job/values/Phrase.h"
 #include "job/values/VisibleText.h"
 
 #include "ZTBatchDocument.h"
@@ -39,7 +44,7 @@ void RequireOptionsOf(const QString& action, const ParsedArguments& arguments)
         const bool isOfList = option == QLatin1String("--json");
         const bool fits = always.contains(option) || (action == list ? isOfList : action == save && !isOfList);
         if (!fits) {
-            throw RequestError{QStringLiteral("%1 is not for \"presets %2\", but for \"presets %3\"")
+            throw RequestError{BatchJob::Phrase::English("%1 is not for \"presets %2\", but for \"presets %3\"")
                                    .arg(option, action, isOfList ? list : save)};
         }
     }
@@ -49,13 +54,14 @@ QString NameAmong(const QStringList& rest, const QString& action)
 {
     if (rest.isEmpty()) {
         throw RequestError{
-            QStringLiteral("the name of the preset is missing: velkora-batch presets %1 NAME").arg(action)};
+            BatchJob::Phrase::English("the name of the preset is missing: velkora-batch presets %1 NAME").arg(action)};
     }
     if (rest.size() > 1) {
         throw RequestError{
-            action == save
-                ? QStringLiteral("a preset has no inputs, but \"%1\" is given behind its name").arg(rest.at(1))
-                : QStringLiteral("one preset at a time, but \"%1\" is given behind its name").arg(rest.at(1))};
+            action == save ? BatchJob::Phrase::English("a preset has no inputs, but \"%1\" is given behind its name")
+                                 .arg(rest.at(1))
+                           : BatchJob::Phrase::English("one preset at a time, but \"%1\" is given behind its name")
+                                 .arg(rest.at(1))};
     }
     return rest.first();
 }
@@ -82,15 +88,19 @@ QString Listing(const QVector<Preset>& presets)
     for (const Preset& preset : presets) {
         width = std::max(width, Terminal::WidthOf(BatchJob::VisibleText(preset.name)));
     }
+    const QString alongText = Messages::tr("comes along");
+    const QString yoursText = Messages::tr("yours");
+    const int originWidth = std::max(Terminal::WidthOf(alongText), Terminal::WidthOf(yoursText));
     QString text;
     for (const Preset& preset : presets) {
         if (!preset.problem.isEmpty()) {
             continue;
         }
         const QString name = BatchJob::VisibleText(preset.name);
-        const QString title = BatchJob::VisibleText(preset.title);
-        text += name + QString(width - Terminal::WidthOf(name) + 2, QLatin1Char(' ')) +
-                (preset.comesAlong ? QStringLiteral("comes along") : QStringLiteral("yours      ")) +
+        const QString origin = preset.comesAlong ? alongText : yoursText;
+        const QString title = BatchJob::VisibleText(preset.comesAlong ? Translated(preset.title) : preset.title);
+        text += name + QString(width - Terminal::WidthOf(name) + 2, QLatin1Char(' ')) + origin +
+                QString(originWidth - Terminal::WidthOf(origin), QLatin1Char(' ')) +
                 (title.isEmpty() ? QString() : QStringLiteral("  ") + title) + QLatin1Char('\n');
     }
     return text;
@@ -103,8 +113,9 @@ ExitCode ListPresets(const Presets& presets, const ParsedArguments& arguments)
     ExitCode code = ExitCode::Done;
     for (const Preset& preset : all) {
         if (!preset.problem.isEmpty()) {
-            WriteErrorLine(QStringLiteral("velkora-batch: the preset %1 in %2 cannot be used: %3")
-                               .arg(preset.name, preset.file, WithFullStop(preset.problem)));
+            WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                           Messages::tr("the preset %1 in %2 cannot be used: %3")
+                               .arg(preset.name, preset.file, WithFullStop(Translated(preset.problem))));
             code = ExitCode::Incomplete;
         }
     }
@@ -129,7 +140,7 @@ void SavePreset(const Presets& presets, const QString& name, const ParsedArgumen
     RequireUsableSettingsButFolder(job);
     const QString file = presets.Save(job, name, arguments.Has(QStringLiteral("--force")));
     if (!arguments.Has(QStringLiteral("--quiet"))) {
-        WriteErrorLine(QStringLiteral("%1: the preset %2.").arg(file, name));
+        WriteErrorLine(Messages::tr("%1: the preset %2.").arg(file, name));
     }
 }
 
@@ -150,9 +161,10 @@ ExitCode KeepPresets(const ParsedArguments& arguments)
     } else if (action == remove) {
         presets.Remove(NameAmong(rest, action));
     } else if (!rest.isEmpty()) {
-        throw RequestError{QStringLiteral("list takes no name, but \"%1\" is given; \"velkora-batch show --preset "
-                                          "NAME\" prints a preset")
-                               .arg(rest.first())};
+        throw RequestError{
+            BatchJob::Phrase::English("list takes no name, but \"%1\" is given; \"velkora-batch show --preset "
+                                      "NAME\" prints a preset")
+                .arg(rest.first())};
     } else {
         return ListPresets(presets, arguments);
     }

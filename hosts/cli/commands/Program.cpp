@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Program.h"
 
 #include "Catalogues.h"
@@ -37,7 +40,7 @@ bool isVerbose = false;
 void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtDebugMsg || isVerbose) {
-        WriteErrorLine(text);
+        WriteErrorLine(type == QtDebugMsg ? text : Translated(text));
     }
     if (type == QtFatalMsg) {
         std::abort();
@@ -62,37 +65,40 @@ ExitCode WithOutput(ExitCode code)
     if (OutputError().isEmpty()) {
         return code;
     }
-    WriteErrorLine(QStringLiteral("velkora-batch: standard output cannot be written: %1.").arg(OutputError()));
+    WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                   Messages::tr("standard output cannot be written: %1.").arg(Translated(OutputError())));
     return std::max(code, ExitCode::Incomplete);
 }
 
-/// What the user can do about an error, in terms of the command line.
-QString RemedyFor(RequestError::Kind kind)
+/// `text`, and what the user can do about an error of this kind, in terms of the command line.
+QString WithRemedy(const QString& text, RequestError::Kind kind)
 {
     switch (kind) {
     case RequestError::Kind::NoInputs:
     case RequestError::Kind::NoPictures:
-        return QStringLiteral(": name files, or folders with pictures that can be read");
+        return Messages::tr("%1: name files, or folders with pictures that can be read").arg(text);
     case RequestError::Kind::NoOutputFolder:
-        return QStringLiteral(": use --output DIR");
+        return Messages::tr("%1: use --output DIR").arg(text);
     case RequestError::Kind::SavedJobAmongInputs:
-        return QStringLiteral(". One saved job may be given: as the first argument of run, plan and show, or to "
-                              "create with --from");
+        return Messages::tr("%1. One saved job may be given: as the first argument of run, plan and show, or to "
+                            "create with --from")
+            .arg(text);
     case RequestError::Kind::FileExists:
-        return QStringLiteral("; use --force to replace it");
+        return Messages::tr("%1; use --force to replace it").arg(text);
     case RequestError::Kind::OtherRunInterrupted:
-        return QStringLiteral(". Use --resume with --output alone to resume that run, or run this job without "
-                              "--resume");
+        return Messages::tr("%1. Use --resume with --output alone to resume that run, or run this job without "
+                            "--resume")
+            .arg(text);
     case RequestError::Kind::SeveralRunsInterrupted:
     case RequestError::Kind::NoSuchRun:
-        return QStringLiteral("; use --resume --run NAME with one of these names");
+        return Messages::tr("%1; use --resume --run NAME with one of these names").arg(text);
     case RequestError::Kind::NothingMatches:
     case RequestError::Kind::NothingToResume:
     case RequestError::Kind::AlreadyRunning:
     case RequestError::Kind::Other:
         break;
     }
-    return {};
+    return text;
 }
 
 ExitCode CodeFor(RequestError::Kind kind)
@@ -134,11 +140,11 @@ ExitCode RunProgram(const QStringList& arguments)
 
 ExitCode Report(const RequestError& error)
 {
-    const QString text = Translated(error.text) + RemedyFor(error.kind);
+    const QString text = WithRemedy(Translated(error.text), error.kind);
     WriteErrorLine(QStringLiteral("velkora-batch: ") +
-                   (error.choices.isEmpty() ? WithFullStop(text) : text + QLatin1Char(':')));
+                   (error.choices.isEmpty() ? WithFullStop(text) : Messages::tr("%1:").arg(text)));
     for (const QString& choice : error.choices) {
-        WriteErrorLine(QStringLiteral("    ") + choice);
+        WriteErrorLine(QStringLiteral("    ") + Translated(choice));
     }
     return CodeFor(error.kind);
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
 #include "RunMessages.h"
@@ -11,6 +14,7 @@
 #include "hosts/common/JobRun.h"
 #include "hosts/common/JournaledJob.h"
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -40,7 +44,7 @@ JournaledJob JournaledJobOf(ZTBatchDocument& job, const ParsedArguments& argumen
     if (arguments.Has(QStringLiteral("--resume"))) {
         const QString folder = job.GetOutputSettings()->GetPath();
         if (folder.isEmpty()) {
-            throw RequestError{QStringLiteral("no output folder"), RequestError::Kind::NoOutputFolder};
+            throw RequestError{BatchJob::Phrase::English("no output folder"), RequestError::Kind::NoOutputFolder};
         }
         const InterruptedRuns runs(folder);
         TellIgnoredJournals(runs);
@@ -64,10 +68,10 @@ void CheckRunName(const ParsedArguments& arguments)
         return;
     }
     if (!arguments.Has(QStringLiteral("--resume"))) {
-        throw RequestError{QStringLiteral("%1 needs --resume").arg(runOption)};
+        throw RequestError{BatchJob::Phrase::English("%1 needs --resume").arg(runOption)};
     }
     if (arguments.Value(runOption).isEmpty()) {
-        throw RequestError{QStringLiteral("%1: the name is empty").arg(runOption)};
+        throw RequestError{BatchJob::Phrase::English("the name is empty")}.In(runOption);
     }
 }
 

@@ -1,7 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "RunMessages.h"
 
 #include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/common/Language.h"
 #include "job/plan/SharedNames.h"
 #include "server/protocol/ServerLimits.h"
 
@@ -45,15 +50,15 @@ QString ResumeCommand(const QString& outputFolder)
 
 void TellOfInterruptedRun()
 {
-    Tell(QStringLiteral("an earlier run of this job was interrupted; this run starts anew. Use --resume to continue "
-                        "an interrupted run."));
+    Tell(Messages::tr("an earlier run of this job was interrupted; this run starts anew. Use --resume to continue "
+                      "an interrupted run."));
 }
 
 void TellOfOtherRuns(const QString& outputFolder, int count)
 {
     const QString text = count == 1
-                             ? QStringLiteral("1 other run was interrupted in %1; it can still be resumed: %2")
-                             : QStringLiteral("%3 other runs were interrupted in %1; they can still be resumed: %2");
+                             ? Messages::tr("1 other run was interrupted in %1; it can still be resumed: %2")
+                             : Messages::tr("%3 other runs were interrupted in %1; they can still be resumed: %2");
     const QString told = text.arg(outputFolder, ResumeCommand(outputFolder));
     Tell(count == 1 ? told : told.arg(count));
 }
@@ -61,14 +66,14 @@ void TellOfOtherRuns(const QString& outputFolder, int count)
 void TellIgnoredJournals(const InterruptedRuns& runs)
 {
     for (const QString& text : runs.Ignored()) {
-        Tell(text + QLatin1Char('.'));
+        Tell(WithFullStop(Translated(text)));
     }
 }
 
 void TellMissingJournal(const JournaledJob& job)
 {
     if (!job.Problem().isEmpty()) {
-        Tell(QStringLiteral("should it be interrupted, the run cannot be resumed: %1.").arg(job.Problem()));
+        Tell(Messages::tr("should it be interrupted, the run cannot be resumed: %1.").arg(Translated(job.Problem())));
     }
 }
 
@@ -76,12 +81,12 @@ void TellObstacle(const JobRun& run)
 {
     switch (run.WhatPrevents()) {
     case JobRun::Obstacle::NoTemporaryFolder:
-        Tell(QStringLiteral("no temporary folder can be made: %1. Set TMPDIR to another folder.")
-                 .arg(run.TemporaryFolderError()));
+        Tell(Messages::tr("no temporary folder can be made: %1. Set TMPDIR to another folder.")
+                 .arg(Translated(run.TemporaryFolderError())));
         break;
     case JobRun::Obstacle::PipeInUse:
-        Tell(QStringLiteral("another batch server is running, and this system has only one pipe for it; try again "
-                            "when that run is over."));
+        Tell(Messages::tr("another batch server is running, and this system has only one pipe for it; try again "
+                          "when that run is over."));
         break;
     case JobRun::Obstacle::None:
         break;
@@ -91,7 +96,7 @@ void TellObstacle(const JobRun& run)
 void TellHowToResume(const JournaledJob& job, const RunEnd& end, bool isQuiet)
 {
     if (!end.IsFinished() && job.CanBeResumed() && !isQuiet) {
-        WriteErrorLine(QStringLiteral("To resume: ") + ResumeCommand(end.outputFolder));
+        WriteErrorLine(Messages::tr("To resume: %1").arg(ResumeCommand(end.outputFolder)));
     }
 }
 
@@ -109,10 +114,14 @@ void TellUnasked(const RunPolicies& policies, const RunEnd& end)
     if (files == 0) {
         return;
     }
-    Tell(QStringLiteral("without a terminal nobody could be asked: %1 left out. %2 %3 such cases.")
-             .arg(files == 1 ? QStringLiteral("1 picture was") : QStringLiteral("%1 pictures were").arg(files),
-                  options.join(QStringLiteral(" and ")),
-                  options.size() == 1 ? QStringLiteral("decides") : QStringLiteral("decide")));
+    const QString left =
+        files == 1 ? Messages::tr("without a terminal nobody could be asked: 1 picture was left out.")
+                   : Messages::tr("without a terminal nobody could be asked: %1 pictures were left out.").arg(files);
+    const QString last = options.takeLast();
+    const QString remedy =
+        options.isEmpty() ? Messages::tr("%1 decides such cases.").arg(last)
+                          : Messages::tr("%1 and %2 decide such cases.").arg(options.join(QStringLiteral(", ")), last);
+    Tell(left + QLatin1Char(' ') + remedy);
 }
 
 void TellKeptSources(const RunPolicies& policies, const RunEnd& end)
@@ -122,12 +131,18 @@ void TellKeptSources(const RunPolicies& policies, const RunEnd& end)
         return;
     }
     const bool isInPlace = BatchProtocol::ServerLimits::FromEnvironment().replacesOriginals;
-    Tell(QStringLiteral("%1, because %2 %3.")
-             .arg(end.renamed == 1 ? QStringLiteral("1 result was renamed")
-                                   : QStringLiteral("%1 results were renamed").arg(end.renamed),
-                  isInPlace ? QStringLiteral("other sources of the job") : QStringLiteral("originals"),
-                  isInPlace ? QStringLiteral("have such names")
-                            : QStringLiteral("have their names; --in-place replaces originals")));
+    if (isInPlace) {
+        Tell(end.renamed == 1
+                 ? Messages::tr("1 result was renamed, because other sources of the job have such names.")
+                 : Messages::tr("%1 results were renamed, because other sources of the job have such names.")
+                       .arg(end.renamed));
+    } else {
+        Tell(end.renamed == 1 ? Messages::tr("1 result was renamed, because originals have their names; --in-place "
+                                             "replaces originals.")
+                              : Messages::tr("%1 results were renamed, because originals have their names; --in-place "
+                                             "replaces originals.")
+                                    .arg(end.renamed));
+    }
 }
 
 void TellTroubleOfServer(const RunEnd& end)
@@ -135,27 +150,26 @@ void TellTroubleOfServer(const RunEnd& end)
     const QString program = QCoreApplication::applicationFilePath();
     const RunOutcome outcome = end.Outcome();
     if (outcome == RunOutcome::NoWorkers) {
-        Tell(QStringLiteral("no worker can be started; VelkoraBatchWorker belongs beside %1.").arg(program));
+        Tell(Messages::tr("no worker can be started; VelkoraBatchWorker belongs beside %1.").arg(program));
     } else if (outcome == RunOutcome::Refused) {
         if (end.jobErrorCode != ZTBatchMessage::FileNameAlreadyExists) {
-            Tell(end.jobError);
+            Tell(Translated(end.jobError));
         } else {
             const QStringList lines = LinesOfSharedNames(end.jobError);
-            Tell(lines.first() + QLatin1Char(':'));
+            Tell(Messages::tr("%1:").arg(Translated(lines.first())));
             for (const QString& line : lines.mid(1)) {
-                WriteErrorLine(QStringLiteral("    ") + line);
+                WriteErrorLine(QStringLiteral("    ") + Translated(line));
             }
-            WriteErrorLine(
-                QStringLiteral("No picture was processed. --structure input keeps the folders of the inputs, "
-                               "--on-name-exists rename numbers such names, and another --name, --prefix or "
-                               "--suffix tells them apart."));
+            WriteErrorLine(Messages::tr("No picture was processed. --structure input keeps the folders of the inputs, "
+                                        "--on-name-exists rename numbers such names, and another --name, --prefix or "
+                                        "--suffix tells them apart."));
         }
     }
     if (end.isServerLost && end.Processed() == 0) {
-        Tell(RunController::IsServerInstalled()
-                 ? QStringLiteral("the server ended before it had processed anything; see its messages above.")
-                 : QStringLiteral("the server cannot be started; VelkoraBatchProcessing belongs beside %1.")
-                       .arg(program));
+        Tell(
+            RunController::IsServerInstalled()
+                ? Messages::tr("the server ended before it had processed anything; see its messages above.")
+                : Messages::tr("the server cannot be started; VelkoraBatchProcessing belongs beside %1.").arg(program));
     }
 }
 

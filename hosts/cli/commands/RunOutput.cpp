@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "RunOutput.h"
 
 #include "hosts/cli/terminal/Console.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 
 using namespace BatchHost;
@@ -59,7 +63,7 @@ bool RunOutput::WriteReportError() const
     if (!report || report->Error().isEmpty()) {
         return true;
     }
-    WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(report->Error()));
+    WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(Translated(report->Error())));
     return false;
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "RunPolicies.h"
 
 #include "hosts/cli/options/PolicyOptions.h"
@@ -5,6 +8,7 @@
 #include "hosts/common/JournaledJob.h"
 #include "hosts/common/ManagerPolicies.h"
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/ServerLimits.h"
 
 using namespace BatchJob;
@@ -22,7 +26,7 @@ void CheckSettings(const PolicyValues& policies, const QString& settingsFolder)
         const QString word = PolicyWord(kind, policies[std::size_t(i)]);
         if (!PolicyWords(kind).contains(word)) {
             throw RequestError{
-                QStringLiteral(
+                Phrase::English(
                     "%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it")
                     .arg(settingsFolder, word, PolicyOption(kind))};
         }

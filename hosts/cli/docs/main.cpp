@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Writes the manual page and the completions: shelldocs FRAME FOLDER.
 
 #include "ShellDocs.h"

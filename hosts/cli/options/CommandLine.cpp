@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandLine.h"
 
 #include "ForeignWords.h"
@@ -5,7 +8,9 @@
 #include "Words.h"
 
 #include "hosts/common/JobFile.h"
+#include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
 
 #include <QCoreApplication>
@@ -112,20 +117,22 @@ RequestError UnknownOption(const QString& text, const QString& next, const Comma
     const QString value = hasValue                            ? text.section(QLatin1Char('='), 1)
                           : next.startsWith(QLatin1Char('-')) ? QString()
                                                               : next;
-    const QString unknown = QStringLiteral("unknown option %1; ").arg(name);
+    const auto unknown = [&name](const QString& more) {
+        return RequestError{BatchJob::Phrase::English("unknown option %1; %2").arg(name, more)};
+    };
     const QString advice = AdviceForOption(name, value, command);
     if (!advice.isEmpty()) {
-        return {unknown + advice};
+        return unknown(advice);
     }
     const QStringList others = OtherCommandsWith(name, command);
     if (!others.isEmpty()) {
-        return {unknown + QStringLiteral("it is an option of %1; \"velkora-batch %2 --help\" lists the options")
-                              .arg(others.join(QStringLiteral(", ")), command.name)};
+        return unknown(BatchJob::Phrase::English("it is an option of %1; \"velkora-batch %2 --help\" lists the options")
+                           .arg(others.join(QStringLiteral(", ")), command.name));
     }
     const QString nearest = NearestOption(name, command);
-    return {unknown + (nearest.isEmpty()
-                           ? QStringLiteral("\"velkora-batch %1 --help\" lists the options").arg(command.name)
-                           : QStringLiteral("did you mean \"%1\"?").arg(nearest))};
+    return unknown(nearest.isEmpty()
+                       ? BatchJob::Phrase::English("\"velkora-batch %1 --help\" lists the options").arg(command.name)
+                       : BatchJob::Phrase::English("did you mean \"%1\"?").arg(nearest));
 }
 
 /// The error of a first argument that is no command.
@@ -133,32 +140,37 @@ RequestError UnknownCommand(const QString& text)
 {
     const QFileInfo info(text);
     if (info.exists()) {
-        return {QStringLiteral("%1 is a %2, not a command; did you mean \"velkora-batch run %1\"?")
-                    .arg(text, info.isDir() ? QStringLiteral("folder") : QStringLiteral("file"))};
+        return {
+            (info.isDir()
+                 ? BatchJob::Phrase::English("%1 is a folder, not a command; did you mean \"velkora-batch run %1\"?")
+                 : BatchJob::Phrase::English("%1 is a file, not a command; did you mean \"velkora-batch run %1\"?"))
+                .arg(text)};
     }
     if (text.contains(QRegularExpression(QStringLiteral("[/\\\\*?]")))) {
-        return {QStringLiteral("%1 is no command; did you mean \"velkora-batch run %1\"?").arg(text)};
+        return {BatchJob::Phrase::English("%1 is no command; did you mean \"velkora-batch run %1\"?").arg(text)};
     }
     const QString advice = AdviceForCommand(text);
     if (!advice.isEmpty()) {
-        return {QStringLiteral("unknown command \"%1\"; did you mean \"velkora-batch %2\"?").arg(text, advice)};
+        return {
+            BatchJob::Phrase::English("unknown command \"%1\"; did you mean \"velkora-batch %2\"?").arg(text, advice)};
     }
-    return {QStringLiteral("unknown command: %1").arg(NoSuchWord(text, CommandNames()).text)};
+    return {BatchJob::Phrase::English("unknown command: %1").arg(NoSuchWord(text, CommandNames()).text)};
 }
 
 void CheckFirstArgument(const QStringList& arguments)
 {
     const QString first = arguments.value(0);
     if (first.isEmpty()) {
-        throw RequestError{QStringLiteral("no command: use one of %1, or \"velkora-batch --help\"")
+        throw RequestError{BatchJob::Phrase::English("no command: use one of %1, or \"velkora-batch --help\"")
                                .arg(CommandNames().join(QStringLiteral(", ")))};
     }
     if (first.startsWith(QLatin1Char('-'))) {
         const QStringList known{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("--version"),
                                 QStringLiteral("-V")};
         if (!known.contains(first)) {
-            throw RequestError{QStringLiteral("%1 is not allowed before the command, only %2%3")
-                                   .arg(first, known.join(QStringLiteral(", ")), NearestHint(first, known))};
+            throw RequestError{BatchJob::Phrase::English("%1 is not allowed before the command, only %2")
+                                   .arg(first, known.join(QStringLiteral(", "))) +
+                               NearestHint(first, known)};
         }
     } else if (!CommandNames().contains(first)) {
         throw UnknownCommand(first);
@@ -178,7 +190,8 @@ QString HelpFor(const QStringList& names, int columns)
         return ProgramHelp(columns);
     }
     if (names.size() > 1) {
-        throw RequestError{QStringLiteral("help takes one command, but got %1").arg(names.join(QStringLiteral(", ")))};
+        throw RequestError{
+            BatchJob::Phrase::English("help takes one command, but got %1").arg(names.join(QStringLiteral(", ")))};
     }
     if (!CommandNames().contains(names.first())) {
         throw NoSuchWord(names.first(), CommandNames()).In(QStringLiteral("help"));
@@ -190,8 +203,9 @@ QString VersionText(bool isVerbose)
 {
     QString text = QStringLiteral("velkora-batch %1\n").arg(QCoreApplication::applicationVersion());
     if (isVerbose) {
-        text +=
-            BatchProtocol::SystemProtection::OfThisSystem().Description().join(QLatin1Char('\n')) + QLatin1Char('\n');
+        for (const QString& line : BatchProtocol::SystemProtection::OfThisSystem().Description()) {
+            text += Translated(line) + QLatin1Char('\n');
+        }
     }
     return text;
 }
@@ -200,8 +214,9 @@ void CheckTexts(const QStringList& arguments)
 {
     for (int i = 0; i < arguments.size(); ++i) {
         if (!CanBeSaved(arguments.at(i))) {
-            throw RequestError{QStringLiteral("argument %1, \"%2\", contains a character that a job cannot hold")
-                                   .arg(QString::number(i + 1), arguments.at(i))};
+            throw RequestError{
+                BatchJob::Phrase::English("argument %1, \"%2\", contains a character that a job cannot hold")
+                    .arg(QString::number(i + 1), arguments.at(i))};
         }
     }
 }
@@ -224,7 +239,8 @@ void CheckSwitches(const QStringList& arguments, const CommandInfo& command)
         const bool isValue = namesWithValue.contains(arguments.at(i - 1));
         if (name != arguments.at(i) && switches.contains(name) && !isValue) {
             throw RequestError{
-                QStringLiteral("%1 is a switch and takes no value; type %1 alone, or leave it out").arg(name)};
+                BatchJob::Phrase::English("%1 is a switch and takes no value; type %1 alone, or leave it out")
+                    .arg(name)};
         }
     }
 }
@@ -233,12 +249,12 @@ void CheckSwitches(const QStringList& arguments, const CommandInfo& command)
 void CheckNames(const ParsedArguments& parsed, const CommandInfo& command)
 {
     if (parsed.inputs.contains(QString())) {
-        throw RequestError{QStringLiteral("an input of %1 has an empty name").arg(command.name)};
+        throw RequestError{BatchJob::Phrase::English("an input of %1 has an empty name").arg(command.name)};
     }
     for (const OptionInfo& option : command.options) {
         const bool isName = option.completion == Completion::Files || option.completion == Completion::Folders;
         if (isName && parsed.Values(option.name).contains(QString())) {
-            throw RequestError{QStringLiteral("%1: the name is empty").arg(option.name)};
+            throw RequestError{BatchJob::Phrase::English("the name is empty")}.In(option.name);
         }
     }
 }
@@ -277,12 +293,25 @@ ParsedArguments Collect(const CommandInfo& command, const std::list<Slot>& slots
         }
         if (!slot.info->isRepeatable && values.size() > 1) {
             throw RequestError{
-                QStringLiteral("%1 is given %2 times, but takes one value; remove \"%3\" or \"%4\"")
+                BatchJob::Phrase::English("%1 is given %2 times, but takes one value; remove \"%3\" or \"%4\"")
                     .arg(slot.info->name, QString::number(values.size()), values.first(), values.last())};
         }
         parsed.options.insert(slot.info->name, slot.info->valueName.isEmpty() ? QStringList{QString()} : values);
     }
     return parsed;
+}
+
+/// A missing value is all that the parser itself can find; its text begins with the option.
+RequestError ParserError(const CLI::ParseError& error, const CommandInfo& command)
+{
+    const QString text = Text(error.what());
+    const QString name = text.section(QLatin1Char(':'), 0, 0);
+    const auto option = std::find_if(command.options.begin(), command.options.end(),
+                                     [&name](const OptionInfo& known) { return known.name == name; });
+    if (option == command.options.end() || dynamic_cast<const CLI::ArgumentMismatch*>(&error) == nullptr) {
+        return {text};
+    }
+    return {BatchJob::Phrase::English("%1: 1 required %2 missing").arg(name, option->valueName)};
 }
 
 } // namespace
@@ -317,7 +346,7 @@ ParsedArguments ParseArguments(const QStringList& arguments, int columns)
     try {
         app.parse(reversed);
     } catch (const CLI::ParseError& error) {
-        throw RequestError{Text(error.what())};
+        throw ParserError(error, command);
     }
     parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
     CheckNames(parsed, command);

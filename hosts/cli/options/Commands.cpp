@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CommandLine.h"
 #include "FormatNames.h"
 #include "JobOptions.h"
@@ -8,6 +11,7 @@
 
 #include "job/effects/EffectCatalog.h"
 #include "job/values/JobValues.h"
+#include "job/values/Phrase.h"
 
 namespace BatchCli {
 
@@ -20,52 +24,70 @@ QString Text(const char* text)
 
 QVector<OptionInfo> InputOptions()
 {
-    const QString group = Text("Inputs");
+    const QString group = BatchJob::Phrase::English("Inputs");
     return {
-        {Text("--no-inputs"), QString(), Text("drops the inputs of the saved job first"), group},
+        {Text("--no-inputs"), QString(), BatchJob::Phrase::English("drops the inputs of the saved job first"), group},
         {Text("--files-from"), Text("FILE"),
-         Text("also takes the files and folders that a file names, one a line, or standard input for \"-\". Relative "
-              "names start at the current folder"),
+         BatchJob::Phrase::English(
+             "also takes the files and folders that a file names, one a line, or standard input for \"-\". Relative "
+             "names start at the current folder"),
          group, false, Completion::Files},
         {Text("--null"),
          QString(),
-         Text("the names of --files-from are separated by NUL, not by line ends"),
+         BatchJob::Phrase::English("the names of --files-from are separated by NUL, not by line ends"),
          group,
          false,
          Completion::Nothing,
          {},
          Text("-0")},
         {Text("--include"), Text("WILDCARD"),
-         Text(
+         BatchJob::Phrase::English(
              "takes only files whose names match, such as \"*.{nef,cr2}\", or whose paths in the given folders match, "
              "such as \"2024/**/*.jpg\"; default: all that can be read. Files that are given by name are always taken"),
          group, true},
         {Text("--exclude"), Text("WILDCARD"),
-         Text("leaves out files and folders whose names or paths match, inside the given folders"), group, true},
-        {Text("--no-subfolders"), QString(), Text("leaves out folders inside folders"), group},
-        {Text("--hidden"), QString(), Text("includes files and folders whose names begin with a dot"), group},
+         BatchJob::Phrase::English("leaves out files and folders whose names or paths match, inside the given folders"),
+         group, true},
+        {Text("--no-subfolders"), QString(), BatchJob::Phrase::English("leaves out folders inside folders"), group},
+        {Text("--hidden"), QString(),
+         BatchJob::Phrase::English("includes files and folders whose names begin with a dot"), group},
         {orderOption, Text("WORD"),
-         Text("the order of the pictures, which numbers in names follow: taken, by capture time, and by the file's own "
-              "time where there is none; name, folder by folder; given, as the command line names them. The default is "
-              "name, or the order of the saved job"),
+         BatchJob::Phrase::English(
+             "the order of the pictures, which numbers in names follow: taken, by capture time, and by the file's own "
+             "time where there is none; name, folder by folder; given, as the command line names them. The default is "
+             "name, or the order of the saved job"),
          group, false, Completion::Words, BatchJob::AllWords(BatchHost::inputOrderWords)},
     };
 }
 
 QVector<OptionInfo> GeneralOptions()
 {
-    const QString group = Text("General");
+    const QString group = BatchJob::Phrase::English("General");
     return {
-        {Text("--quiet"), QString(), Text("prints problems only"), group, false, Completion::Nothing, {}, Text("-q")},
+        {Text("--quiet"),
+         QString(),
+         BatchJob::Phrase::English("prints problems only"),
+         group,
+         false,
+         Completion::Nothing,
+         {},
+         Text("-q")},
         {Text("--verbose"),
          QString(),
-         Text("also prints details for finding faults"),
+         BatchJob::Phrase::English("also prints details for finding faults"),
          group,
          false,
          Completion::Nothing,
          {},
          Text("-v")},
-        {Text("--help"), QString(), Text("prints this text"), group, false, Completion::Nothing, {}, Text("-h")},
+        {Text("--help"),
+         QString(),
+         BatchJob::Phrase::English("prints this text"),
+         group,
+         false,
+         Completion::Nothing,
+         {},
+         Text("-h")},
     };
 }
 
@@ -91,7 +113,7 @@ QVector<CommandInfo> WithHelp(QVector<CommandInfo> commands)
 {
     CommandInfo help{QStringLiteral("help"),
                      Text("[COMMAND]"),
-                     Text("prints the help of a command"),
+                     BatchJob::Phrase::English("prints the help of a command"),
                      {GeneralOptions().last()},
                      Completion::Words};
     for (const CommandInfo& command : qAsConst(commands)) {
@@ -104,12 +126,13 @@ QVector<CommandInfo> WithHelp(QVector<CommandInfo> commands)
 QVector<CommandInfo> MakeCommands()
 {
     const QVector<OptionInfo> ofJobs = OptionsOfJobs() + QVector<OptionInfo>{SettingsOptionInfo()} + GeneralOptions();
-    const QVector<OptionInfo> ofLists =
-        QVector<OptionInfo>{{Text("--json"), QString(), Text("prints JSON"), Text("General")}, GeneralOptions().last()};
+    const QVector<OptionInfo> ofLists = QVector<OptionInfo>{
+        {Text("--json"), QString(), BatchJob::Phrase::English("prints JSON"), BatchJob::Phrase::English("General")},
+        GeneralOptions().last()};
     const QVector<OptionInfo> ofCreate = QVector<OptionInfo>{FromOptionInfo(), ForceOptionInfo()} + ofJobs;
     return {
         {Text("run"), Text("[JOB.xml] [INPUT...]"),
-         Text(
+         BatchJob::Phrase::English(
              "processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
              "pictures were written, or left out by a policy that an option names; 1 when some failed or were left out "
              "otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 "
@@ -117,29 +140,34 @@ QVector<CommandInfo> MakeCommands()
              "already; 7 when there is nothing to resume"),
          OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
-         Text("writes a job with these inputs and options to a file, or to standard output for \"-\""), ofCreate,
-         Completion::Files},
+         BatchJob::Phrase::English(
+             "writes a job with these inputs and options to a file, or to standard output for \"-\""),
+         ofCreate, Completion::Files},
         {Text("show"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints a job: its inputs as a tree, its effects, and its output in the words of the options"), ofJobs,
-         Completion::Files},
+         BatchJob::Phrase::English(
+             "prints a job: its inputs as a tree, its effects, and its output in the words of the options"),
+         ofJobs, Completion::Files},
         {Text("plan"), Text("[JOB.xml] [INPUT...]"),
-         Text("prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
-              "brackets, with what "
-              "the policy would do about it. Exit status: 1 when there are problems"),
+         BatchJob::Phrase::English(
+             "prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
+             "brackets, with what "
+             "the policy would do about it. Exit status: 1 when there are problems"),
          OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
                  {Text("--no-sizes"), QString(),
-                  Text("does not look at every picture for its size in pixels, which takes time for many"),
-                  Text("General")},
-                 {Text("--json"), QString(), Text("prints one JSON object for each input"), Text("General")},
+                  BatchJob::Phrase::English(
+                      "does not look at every picture for its size in pixels, which takes time for many"),
+                  BatchJob::Phrase::English("General")},
+                 {Text("--json"), QString(), BatchJob::Phrase::English("prints one JSON object for each input"),
+                  BatchJob::Phrase::English("General")},
                  SettingsOptionInfo()} +
              GeneralOptions(),
          Completion::Files},
-        {Text("effects"), Text("[NAME...]"), Text("lists the effects with their parameters"), ofLists,
-         Completion::Words, EffectIds()},
+        {Text("effects"), Text("[NAME...]"), BatchJob::Phrase::English("lists the effects with their parameters"),
+         ofLists, Completion::Words, EffectIds()},
         {Text("formats"), Text("[NAME...]"),
-         Text("lists the output formats with their options, and the files that can be read"), ofLists,
-         Completion::Words, FormatNames()},
+         BatchJob::Phrase::English("lists the output formats with their options, and the files that can be read"),
+         ofLists, Completion::Words, FormatNames()},
         PresetsCommandInfo(JobOptionInfos(), GeneralOptions()),
     };
 }

@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Contradictions.h"
 
 #include "JobOptions.h"
 
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 #include <algorithm>
 
@@ -24,7 +28,7 @@ QString Given(const ParsedArguments& arguments, const QString& option)
 void Exclude(const ParsedArguments& arguments, const QString& first, const QString& second)
 {
     if (arguments.Has(second)) {
-        throw RequestError{QStringLiteral("%1 and %2 contradict each other; remove one of them")
+        throw RequestError{BatchJob::Phrase::English("%1 and %2 contradict each other; remove one of them")
                                .arg(Given(arguments, first), Given(arguments, second))};
     }
 }

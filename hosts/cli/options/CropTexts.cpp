@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CropTexts.h"
 
 #include "LengthTexts.h"
@@ -5,6 +8,7 @@
 #include "Words.h"
 
 #include "job/values/Length.h"
+#include "job/values/Phrase.h"
 
 #include <QRegularExpression>
 
@@ -80,9 +84,10 @@ QString Pair(double width, double height, const QString& between)
 
 RequestError NoSize(const QString& text)
 {
-    return {QStringLiteral("\"%1\" does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm "
-                           "or 6x4in")
-                .arg(text)};
+    return {
+        Phrase::English("\"%1\" does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm "
+                        "or 6x4in")
+            .arg(text)};
 }
 
 /// The pixels of one side that a user might have meant.
@@ -99,14 +104,14 @@ QSize PixelsFromText(const QString& text, const TypedSize& typed)
     const TypedLength& height = typed.height;
     if (HasDecimals(width.number) || HasDecimals(height.number)) {
         throw RequestError{
-            QStringLiteral("\"%1\" means %2 pixels, for a point begins the decimals, but pixels are counted in whole "
-                           "numbers, such as %3; or add a unit, as in %4cm")
+            Phrase::English("\"%1\" means %2 pixels, for a point begins the decimals, but pixels are counted in whole "
+                            "numbers, such as %3; or add a unit, as in %4cm")
                 .arg(text, Pair(width.Value(), height.Value(), QStringLiteral(" x ")),
                      Pair(WholePixels(width), WholePixels(height), QStringLiteral("x")),
                      Pair(width.Value(), height.Value(), QStringLiteral("x")))};
     }
     if (width.Value() > largestSide || height.Value() > largestSide) {
-        throw RequestError{QStringLiteral("\"%1\" is too large; each side must be from 1 to %2 pixels")
+        throw RequestError{Phrase::English("\"%1\" is too large; each side must be from 1 to %2 pixels")
                                .arg(text, QString::number(largestSide))};
     }
     return {int(width.Value()), int(height.Value())};
@@ -116,13 +121,13 @@ QSize PixelsAtResolution(const QString& text, const TypedSize& typed, int resolu
 {
     if (resolution < 1) {
         throw RequestError{
-            QStringLiteral("\"%1\" needs a resolution; add --resolution, as in --resolution 300").arg(text)};
+            Phrase::English("\"%1\" needs a resolution; add --resolution, as in --resolution 300").arg(text)};
     }
     const int unit = int(*typed.width.unit);
     const double width = std::round(PixelsOf(typed.width.Value(), unit, resolution));
     const double height = std::round(PixelsOf(typed.height.Value(), unit, resolution));
     if (!(width >= 1 && height >= 1 && width <= largestSide && height <= largestSide)) {
-        throw RequestError{QStringLiteral("\"%1\" is %2 pixels at %3 dots per inch; each side must be from 1 to %4")
+        throw RequestError{Phrase::English("\"%1\" is %2 pixels at %3 dots per inch; each side must be from 1 to %4")
                                .arg(text, Pair(width, height, QStringLiteral(" x ")), QString::number(resolution),
                                     QString::number(largestSide))};
     }
@@ -135,10 +140,10 @@ void CheckAgainstSize(const QString& text, const QSize& pixels, const Settings::
     if (imageSize.restriction == int(SizeRestriction::None) || !NeedsResolution(imageSize.unit)) {
         return;
     }
-    throw RequestError{QStringLiteral("\"%1\" is %2 x %3 pixels, but the size is %4: type %1%5 for the unit of the "
-                                      "size, or %1px for pixels")
+    throw RequestError{Phrase::English("\"%1\" is %2 x %3 pixels, but the size is %4: type %5 for the unit of the "
+                                       "size, or %6 for pixels")
                            .arg(text, QString::number(pixels.width()), QString::number(pixels.height()),
-                                LengthText(imageSize), UnitSign(imageSize.unit))};
+                                LengthText(imageSize), text + UnitSign(imageSize.unit), text + QStringLiteral("px"))};
 }
 
 /// "3x2" or, for a crop that does not turn, "3x2!".
@@ -147,13 +152,13 @@ void RatioFromText(const QString& head, const QString& text, const TurningCrop& 
     const bool isFixed = text.endsWith(QLatin1Char('!'));
     const QString ratio = isFixed ? text.left(text.size() - 1) : text;
     if (ratio.isEmpty()) {
-        throw RequestError{QStringLiteral("\"%1:%2\" needs a size, such as %1:3x2%2").arg(head, text)};
+        throw RequestError{Phrase::English("\"%1:%2\" needs a size, such as %1:3x2%2").arg(head, text)};
     }
     const TypedSize typed(ratio);
     if (typed.isComplete && typed.width.unit) {
         const QString sides = Pair(typed.width.Value(), typed.height.Value(), QStringLiteral("x"));
-        throw RequestError{QStringLiteral("\"%1:%2\" has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for "
-                                          "that size")
+        throw RequestError{Phrase::English("\"%1:%2\" has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for "
+                                           "that size")
                                .arg(head, ratio, sides)};
     }
     crop.size = SizeFromText(ratio);
@@ -163,12 +168,12 @@ void RatioFromText(const QString& head, const QString& text, const TurningCrop& 
 void FrameFromText(const QString& text, const QString& size, const Settings::ImageSize& imageSize, Settings::Crop& crop)
 {
     if (size.endsWith(QLatin1Char('!'))) {
-        throw RequestError{QStringLiteral("\"%1\" ends with \"!\", but only ratio and interesting turn with the "
-                                          "picture; remove the \"!\"")
+        throw RequestError{Phrase::English("\"%1\" ends with \"!\", but only ratio and interesting turn with the "
+                                           "picture; remove the \"!\"")
                                .arg(text)};
     }
     if (size.contains(QLatin1Char(','))) {
-        throw RequestError{QStringLiteral("\"%1\" has a comma; decimals are written with a point, as in %2")
+        throw RequestError{Phrase::English("\"%1\" has a comma; decimals are written with a point, as in %2")
                                .arg(text, QString(size).replace(QLatin1Char(','), QLatin1Char('.')))};
     }
     const TypedSize typed(size);
@@ -205,10 +210,10 @@ void CropFromText(const QString& text, const Settings::ImageSize& imageSize, Set
     crop.type = ValueOf(CropTypeWords, head);
     if (!HasCropSize(crop.type)) {
         if (!size.isEmpty()) {
-            throw RequestError{QStringLiteral("\"%1\" takes no size").arg(head)};
+            throw RequestError{Phrase::English("\"%1\" takes no size").arg(head)};
         }
     } else if (size.isEmpty()) {
-        throw RequestError{QStringLiteral("\"%1\" needs a size, such as %1:3x2").arg(text)};
+        throw RequestError{Phrase::English("\"%1\" needs a size, such as %1:3x2").arg(text)};
     } else if (const TurningCrop* const types = FindTurning(crop.type)) {
         RatioFromText(head, size, *types, crop);
     } else {

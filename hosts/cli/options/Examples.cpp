@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Examples.h"
+
+#include "job/values/Phrase.h"
 
 #include <array>
 
@@ -14,22 +19,27 @@ struct Row
 };
 
 constexpr std::array rows{
-    Row{"run", "Pictures for the web, at most 1600 pixels long", "photos -o web -s 1600 -f jpeg --quality 85"},
-    Row{"run", "Names by capture date, in a folder for each day",
+    Row{"run", BatchJob::Phrase::Marked("Pictures for the web, at most 1600 pixels long"),
+        "photos -o web -s 1600 -f jpeg --quality 85"},
+    Row{"run", BatchJob::Phrase::Marked("Names by capture date, in a folder for each day"),
         "photos -o sorted --structure date --prefix date --prefix-separator _"},
-    Row{"run", "A saved job over other pictures", "web.xml holiday -o web --on-name-exists rename"},
-    Row{"run", "Files that another program lists", "-o web -f webp --files-from list.txt"},
-    Row{"run", "Camera RAW files in all subfolders", "\"photos/**/*.{nef,cr2}\" -o out -f tiff"},
-    Row{"run", "What would be written", "photos -o web -f jpeg --dry-run"},
-    Row{"run", "A preset over other pictures", "photos --preset thumbnails -o small"},
-    Row{"run", "A run that was interrupted", "--resume -o web"},
-    Row{"create", "A job for pictures to come", "web.xml -o web -s 1600 -f jpeg --effect sharpen:amount=80"},
-    Row{"create", "A job with one value changed", "small.xml --from web.xml -s 800"},
-    Row{"show", "A saved job, in the words of the options", "web.xml"},
-    Row{"plan", "Every result's name, and what is in the way", "photos -o web --name number:1:4"},
-    Row{"plan", "The same for programs", "web.xml photos --json"},
-    Row{"effects", "One effect with its parameters", "blur"},
-    Row{"formats", "One format with its options", "JPEG"},
+    Row{"run", BatchJob::Phrase::Marked("A saved job over other pictures"),
+        "web.xml holiday -o web --on-name-exists rename"},
+    Row{"run", BatchJob::Phrase::Marked("Files that another program lists"), "-o web -f webp --files-from list.txt"},
+    Row{"run", BatchJob::Phrase::Marked("Camera RAW files in all subfolders"),
+        "\"photos/**/*.{nef,cr2}\" -o out -f tiff"},
+    Row{"run", BatchJob::Phrase::Marked("What would be written"), "photos -o web -f jpeg --dry-run"},
+    Row{"run", BatchJob::Phrase::Marked("A preset over other pictures"), "photos --preset thumbnails -o small"},
+    Row{"run", BatchJob::Phrase::Marked("A run that was interrupted"), "--resume -o web"},
+    Row{"create", BatchJob::Phrase::Marked("A job for pictures to come"),
+        "web.xml -o web -s 1600 -f jpeg --effect sharpen:amount=80"},
+    Row{"create", BatchJob::Phrase::Marked("A job with one value changed"), "small.xml --from web.xml -s 800"},
+    Row{"show", BatchJob::Phrase::Marked("A saved job, in the words of the options"), "web.xml"},
+    Row{"plan", BatchJob::Phrase::Marked("Every result's name, and what is in the way"),
+        "photos -o web --name number:1:4"},
+    Row{"plan", BatchJob::Phrase::Marked("The same for programs"), "web.xml photos --json"},
+    Row{"effects", BatchJob::Phrase::Marked("One effect with its parameters"), "blur"},
+    Row{"formats", BatchJob::Phrase::Marked("One format with its options"), "JPEG"},
 };
 
 } // namespace

@@ -1,12 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "HelpTexts.h"
 
 #include "CommandLine.h"
 #include "Examples.h"
+#include "TextLayout.h"
+
+#include "hosts/common/Language.h"
+#include "job/values/Phrase.h"
 
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
+
+using namespace BatchHost;
 
 namespace BatchCli {
 
@@ -37,10 +46,16 @@ QString Entry(const QString& name, const QString& help, int columns)
            QLatin1Char('\n');
 }
 
+/// `text` up to the first of `ends`, a regular expression.
+QString Before(const QString& ends, const QString& text)
+{
+    return text.section(QRegularExpression(ends), 0, 0).trimmed();
+}
+
 /// The text up to the end of its first sentence.
 QString FirstSentence(const QString& text)
 {
-    return text.section(QStringLiteral(". "), 0, 0);
+    return Before(QStringLiteral("\\. |\u3002"), text);
 }
 
 QString NameOf(const OptionInfo& option)
@@ -73,46 +88,59 @@ bool NamesAllWords(const QString& help, const QStringList& words)
 /// The line is not wrapped, so that it can be copied.
 QString ExampleText(const Example& example, int columns)
 {
-    return QStringLiteral("  ") + Wrapped(example.text, 2, columns) + QStringLiteral(":\n    ") + example.line +
-           QLatin1Char('\n');
+    return QStringLiteral("  ") + Wrapped(Messages::tr("%1:").arg(Translated(example.text)), 2, columns) +
+           QStringLiteral("\n    ") + example.line + QLatin1Char('\n');
+}
+
+QString HeadingOf(const QString& title)
+{
+    return QLatin1Char('\n') + Messages::tr("%1:").arg(title) + QLatin1Char('\n');
+}
+
+QString UsageOfProgram()
+{
+    return Messages::tr("Usage: %1").arg(QStringLiteral("velkora-batch COMMAND [ARGUMENTS]")) + QLatin1Char('\n') +
+           HeadingOf(Messages::tr("Commands"));
 }
 
 } // namespace
 
 QString ProgramDescription()
 {
-    return QStringLiteral("processes pictures in batches: effects, size, crop, frame, format and names");
+    return BatchJob::Phrase::English("processes pictures in batches: effects, size, crop, frame, format and names");
 }
 
 QString ShortHelp(int columns)
 {
     const int width = Bounded(columns);
-    QString text = QStringLiteral("Usage: velkora-batch COMMAND [ARGUMENTS]\n\nCommands:\n");
+    QString text = UsageOfProgram();
     for (const CommandInfo& command : Commands()) {
         constexpr int indent = 12;
-        text += QStringLiteral("  ") + command.name.leftJustified(indent - 2) +
-                Wrapped(command.help.section(QRegularExpression(QStringLiteral("[.:;] ")), 0, 0), indent, width) +
-                QLatin1Char('\n');
+        text +=
+            QStringLiteral("  ") + command.name.leftJustified(indent - 2) +
+            Wrapped(Before(QStringLiteral("[.:;] |[\u3002\uFF1A\uFF1B]"), Translated(command.help)), indent, width) +
+            QLatin1Char('\n');
     }
-    return text + QStringLiteral("\nMore: velkora-batch --help, or velkora-batch help COMMAND\n");
+    return text + QLatin1Char('\n') + Messages::tr("More: velkora-batch --help, or velkora-batch help COMMAND") +
+           QLatin1Char('\n');
 }
 
 QString ProgramHelp(int columns)
 {
     const int width = Bounded(columns);
-    QString text = Wrapped(QStringLiteral("velkora-batch %1.").arg(ProgramDescription()), 0, width) +
-                   QStringLiteral("\n\nUsage: velkora-batch COMMAND [ARGUMENTS]\n\nCommands:\n");
+    QString text = Wrapped(Messages::tr("velkora-batch %1.").arg(Translated(ProgramDescription())), 0, width) +
+                   QStringLiteral("\n\n") + UsageOfProgram();
     for (const CommandInfo& command : Commands()) {
-        text += Entry(command.name, FirstSentence(command.help), width);
+        text += Entry(command.name, FirstSentence(Translated(command.help)), width);
     }
-    text += QStringLiteral("\nOptions:\n");
+    text += HeadingOf(Messages::tr("Options"));
     text += Entry(QStringLiteral("-h, --help"),
-                  QStringLiteral("prints this text; after a command, the help of that command"), width);
+                  Messages::tr("prints this text; after a command, the help of that command"), width);
     text += Entry(QStringLiteral("-V, --version"),
-                  QStringLiteral("prints the version; with --verbose, also how this system confines the processes "
-                                 "that read pictures"),
+                  Messages::tr("prints the version; with --verbose, also how this system confines the processes "
+                               "that read pictures"),
                   width);
-    text += QStringLiteral("\nExamples:\n");
+    text += HeadingOf(Messages::tr("Examples"));
     for (const Example& example : ExamplesOf().mid(0, 3)) {
         text += ExampleText(example, width);
     }
@@ -122,15 +150,16 @@ QString ProgramHelp(int columns)
 QString CommandHelp(const CommandInfo& command, int columns)
 {
     const int width = Bounded(columns);
-    QString text = QStringLiteral("Usage: velkora-batch %1").arg(command.name);
+    QString text = QStringLiteral("velkora-batch ") + command.name;
     if (!command.inputs.isEmpty()) {
         text += QLatin1Char(' ') + command.inputs;
     }
     constexpr int usageIndent = 6;
-    text = Wrapped(text + QStringLiteral(" [OPTIONS]"), usageIndent, width) + QStringLiteral("\n\n") +
-           Wrapped(command.help, 0, width) + QStringLiteral(".\n");
+    text = Wrapped(Messages::tr("Usage: %1").arg(text + QStringLiteral(" [OPTIONS]")), usageIndent, width) +
+           QStringLiteral("\n\n") + Wrapped(Messages::tr("%1.").arg(Translated(command.help)), 0, width) +
+           QLatin1Char('\n');
     for (const QString& group : GroupsOf(command)) {
-        text += QLatin1Char('\n') + group + QStringLiteral(":\n");
+        text += HeadingOf(Translated(group));
         for (const OptionInfo& option : command.options) {
             if (option.group == group) {
                 text += Entry(NameOf(option), FullHelp(option), width);
@@ -139,7 +168,7 @@ QString CommandHelp(const CommandInfo& command, int columns)
     }
     const QVector<Example> examples = ExamplesOf(command.name);
     if (!examples.isEmpty()) {
-        text += QStringLiteral("\nExamples:\n");
+        text += HeadingOf(Messages::tr("Examples"));
         for (const Example& example : examples) {
             text += ExampleText(example, width);
         }
@@ -149,29 +178,11 @@ QString CommandHelp(const CommandInfo& command, int columns)
 
 QString FullHelp(const OptionInfo& option)
 {
-    QString help = option.help;
+    QString help = Translated(option.help);
     if (!NamesAllWords(help, option.words)) {
-        help += QStringLiteral(". Values: ") + option.words.join(QStringLiteral(", "));
+        help = Messages::tr("%1. Values: %2").arg(help, option.words.join(QStringLiteral(", ")));
     }
-    return option.isRepeatable ? help + QStringLiteral(". May be given several times") : help;
-}
-
-QString Wrapped(const QString& text, int indent, int columns)
-{
-    QString wrapped;
-    int column = indent;
-    for (const QString& word : text.split(QLatin1Char(' '))) {
-        if (column > indent && column + 1 + word.size() > columns) {
-            wrapped += QLatin1Char('\n') + QString(indent, QLatin1Char(' '));
-            column = indent;
-        } else if (column > indent) {
-            wrapped += QLatin1Char(' ');
-            ++column;
-        }
-        wrapped += word;
-        column += word.size();
-    }
-    return wrapped;
+    return option.isRepeatable ? Messages::tr("%1. May be given several times").arg(help) : help;
 }
 
 } // namespace BatchCli

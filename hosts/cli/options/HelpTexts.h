@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "OptionInfo.h"
@@ -7,7 +10,7 @@ namespace BatchCli {
 /// The columns of texts that do not go to a terminal.
 constexpr int defaultColumns = 80;
 
-/// One line about the program.
+/// One line about the program, as a phrase.
 QString ProgramDescription();
 
 /// What is printed without arguments: the commands, and where more is said.
@@ -17,10 +20,7 @@ QString ShortHelp(int columns);
 QString ProgramHelp(int columns);
 QString CommandHelp(const CommandInfo& command, int columns);
 
-/// All that help texts say about an option, without a full stop at the end.
+/// All that help texts say about an option, in the user's language, without a full stop at the end.
 QString FullHelp(const OptionInfo& option);
-
-/// `text` in lines of at most `columns` columns. All but the first are indented by `indent` blanks.
-QString Wrapped(const QString& text, int indent, int columns);
 
 } // namespace BatchCli

@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "LengthTexts.h"
 
 #include "ValueTexts.h"
 
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 #include <QRegularExpression>
 
@@ -30,8 +34,8 @@ constexpr std::array units{Unit{"px", SizeUnit::Pixels}, Unit{"%", SizeUnit::Per
 
 RequestError NoLength(const QString& text)
 {
-    return {QStringLiteral("\"%1\" is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
-                           "200mm; \"none\" keeps the size")
+    return {Phrase::English("\"%1\" is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or "
+                            "200mm; \"none\" keeps the size")
                 .arg(text, QString::number(largestSide))};
 }
 
@@ -40,39 +44,50 @@ RequestError WithComma(const QString& text, const TypedLength& length)
     static const QRegularExpression twoNumbers(QStringLiteral("\\A(\\d+),(\\d+)\\z"));
     const QRegularExpressionMatch match = twoNumbers.match(length.number);
     if (!match.hasMatch()) {
-        return {QStringLiteral("\"%1\" has a comma; a size is one length, such as 1600 or 20.5cm").arg(text)};
+        return {Phrase::English("\"%1\" has a comma; a size is one length, such as 1600 or 20.5cm").arg(text)};
     }
     const QString before = match.captured(1);
     const QString behind = match.captured(2);
     const QString decimal = QStringLiteral("%1.%2%3").arg(before, behind, length.sign);
     if (!length.IsInPixels()) {
-        return {QStringLiteral("\"%1\" has a comma; decimals are written with a point: type %2").arg(text, decimal)};
+        return {Phrase::English("\"%1\" has a comma; decimals are written with a point: type %2").arg(text, decimal)};
     }
-    return {QStringLiteral("\"%1\" has a comma, which no number has: type %2%3%4 for that many pixels, %2.%3cm for "
-                           "decimals, or --crop fill:%2x%3 for a width and a height")
-                .arg(text, before, behind, length.sign)};
+    return {Phrase::English("\"%1\" has a comma, which no number has: type %2 for that many pixels, %3cm for "
+                            "decimals, or --crop fill:%4 for a width and a height")
+                .arg(text, before + behind + length.sign, QStringLiteral("%1.%2").arg(before, behind),
+                     QStringLiteral("%1x%2").arg(before, behind))};
+}
+
+/// Whole pixels in place of `length`, which has decimals.
+QString PixelsToType(const TypedLength& length)
+{
+    const double value = length.Value();
+    if (LooksLikeThousands(length.number)) {
+        const QString whole = QString(length.number).remove(QLatin1Char('.'));
+        return BatchJob::Phrase::English("type %1 for that many pixels").arg(whole + length.sign);
+    }
+    if (value == std::trunc(value)) {
+        return BatchJob::Phrase::English("type %1 for that").arg(NumberText(value) + length.sign);
+    }
+    if (value < 1) {
+        return length.sign.isEmpty() ? BatchJob::Phrase::English("type 1") : BatchJob::Phrase::English("type 1px");
+    }
+    return BatchJob::Phrase::English("type %1 or %2")
+        .arg(NumberText(std::floor(value)) + length.sign, NumberText(std::ceil(value)) + length.sign);
 }
 
 /// `length` is of pixels, and has decimals.
 RequestError PartOfPixel(const QString& text, const TypedLength& length)
 {
     const double value = length.Value();
-    QString toType;
-    if (LooksLikeThousands(length.number)) {
-        toType =
-            QString(length.number).remove(QLatin1Char('.')) + length.sign + QStringLiteral(" for that many pixels");
-    } else if (value == std::trunc(value)) {
-        toType = NumberText(value) + length.sign + QStringLiteral(" for that");
-    } else if (value < 1) {
-        toType = QLatin1Char('1') + length.sign;
-    } else {
-        toType = QStringLiteral("%1%3 or %2%3")
-                     .arg(NumberText(std::floor(value)), NumberText(std::ceil(value)), length.sign);
-    }
-    return {QStringLiteral("\"%1\" means %2 %3, for a point begins the decimals, but pixels are counted in whole "
-                           "numbers: type %4, or a unit, as in %5cm")
-                .arg(text, NumberText(value), value == 1 ? QStringLiteral("pixel") : QStringLiteral("pixels"), toType,
-                     NumberText(value))};
+    const QString number = NumberText(value);
+    const QString meaning =
+        value == 1
+            ? BatchJob::Phrase::English("\"%1\" means %2 pixel, for a point begins the decimals, but pixels are "
+                                        "counted in whole numbers: %3, or a unit, as in %4cm")
+            : BatchJob::Phrase::English("\"%1\" means %2 pixels, for a point begins the decimals, but pixels are "
+                                        "counted in whole numbers: %3, or a unit, as in %4cm");
+    return {meaning.arg(text, number, PixelsToType(length), number)};
 }
 
 } // namespace
@@ -125,8 +140,8 @@ void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
     if (twoSides.match(text).hasMatch()) {
         QString sides = text;
         sides.replace(QChar(0xd7), QLatin1Char('x')).remove(QLatin1Char(' '));
-        throw RequestError{QStringLiteral("\"%1\" is a width and a height, but a size is the length of one side: type "
-                                          "one of them, with --side to say which, or --crop fill:%2 for exactly that")
+        throw RequestError{Phrase::English("\"%1\" is a width and a height, but a size is the length of one side: type "
+                                           "one of them, with --side to say which, or --crop fill:%2 for exactly that")
                                .arg(text, sides.toLower())};
     }
     const TypedLength length = TypedLength::Of(text);
@@ -147,7 +162,7 @@ void LengthFromText(const QString& text, Settings::ImageSize& imageSize)
 QString LengthText(const Settings::ImageSize& imageSize)
 {
     const QString sign = UnitSign(imageSize.unit);
-    return sign.isEmpty() ? QStringLiteral("%1 (unit %2)").arg(NumberText(imageSize.size)).arg(imageSize.unit)
+    return sign.isEmpty() ? Phrase::English("%1 (unit %2)").arg(NumberText(imageSize.size)).arg(imageSize.unit)
                           : NumberText(imageSize.size) + sign;
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ParameterTexts.h"
 
 #include "Words.h"
@@ -5,6 +8,7 @@
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
 #include "job/values/ColourNames.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchOutputSettings.h"
 #include "ZTStyle.h"
@@ -37,7 +41,7 @@ Assignment Split(const QString& text)
 {
     const int sign = text.indexOf(QLatin1Char('='));
     if (sign <= 0) {
-        throw RequestError{QStringLiteral("\"%1\" does not have the form KEY=VALUE").arg(text)};
+        throw RequestError{Phrase::English("\"%1\" does not have the form KEY=VALUE").arg(text)};
     }
     return {text.left(sign).trimmed(), text.mid(sign + 1)};
 }
@@ -69,7 +73,7 @@ QJsonValue ValueFor(const QVector<ParameterSchema>& schema, const Assignment& as
     if (found == schema.end()) {
         const QStringList names = NamesOf(schema);
         throw RequestError{names.isEmpty()
-                               ? QStringLiteral("it takes no parameters, but \"%1\" is given").arg(assignment.name)
+                               ? Phrase::English("it takes no parameters, but \"%1\" is given").arg(assignment.name)
                                : NoSuchWord(assignment.name, names).text};
     }
     const BatchJob::ParameterValue value = BatchJob::ParameterFromText(*found, assignment.value);
@@ -157,10 +161,12 @@ Effect EffectFromText(const QString& text)
         for (const BatchJob::EffectSchema& known : BatchJob::Effects()) {
             ids.append(known.id);
         }
-        throw RequestError{QStringLiteral("unknown effect \"%1\"; the effects are %2%3")
-                               .arg(effect.id, ids.join(QStringLiteral(", ")), NearestHint(effect.id, ids))};
+        throw RequestError{Phrase::English("unknown effect \"%1\"; the effects are %2")
+                               .arg(effect.id, ids.join(QStringLiteral(", "))) +
+                           NearestHint(effect.id, ids)};
     }
     effect.id = schema->id;
+    const QString context = BatchJob::Phrase::English("effect %1").arg(effect.id);
     const QString parameters = whole.section(QLatin1Char(':'), 1);
     if (parameters.startsWith(QLatin1Char('{'))) {
         effect.parameters = WithoutColourNames(schema->parameters, parameters.toUtf8());
@@ -171,14 +177,14 @@ Effect EffectFromText(const QString& text)
                 object.insert(SpelledName(schema->parameters, assignment.name),
                               ValueFor(schema->parameters, assignment));
             } catch (const RequestError& error) {
-                throw error.In(QStringLiteral("effect ") + effect.id);
+                throw error.In(context);
             }
         }
         effect.parameters = Compact(object);
     }
     const BatchJob::CheckedParameters checked = BatchJob::CheckEffect(*schema, effect.parameters);
     if (!checked.IsValid()) {
-        throw RequestError{QStringLiteral("effect %1: %2").arg(effect.id, checked.error)};
+        throw RequestError{checked.error}.In(context);
     }
     return effect;
 }
@@ -215,7 +221,7 @@ QByteArray WithFormatOption(const QString& format, const QByteArray& options, co
         const Assignment assignment = Split(text);
         object.insert(SpelledName(schema, assignment.name), ValueFor(schema, assignment));
     } catch (const RequestError& error) {
-        throw error.In(QStringLiteral("format ") + format);
+        throw error.In(Phrase::English("format %1").arg(format));
     }
     return Compact(object);
 }

@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "PolicyOptions.h"
 
 #include "Words.h"
 
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -18,20 +22,20 @@ QString HelpOf(PolicyKind kind)
 {
     switch (kind) {
     case PolicyKind::Input:
-        return QStringLiteral(
+        return Phrase::English(
             "when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask");
     case PolicyKind::Output:
-        return QStringLiteral(
+        return Phrase::English(
             "when a result cannot be written, because of a full disk or missing rights: skip, stop or "
             "ask");
     case PolicyKind::Processing:
-        return QStringLiteral("when an effect fails, or a picture takes too long or crashes its worker: skip, stop or "
-                              "ask");
+        return Phrase::English("when an effect fails, or a picture takes too long or crashes its worker: skip, stop or "
+                               "ask");
     case PolicyKind::Naming:
-        return QStringLiteral("when a result's name is taken, on disk, by another result or by a source: skip, "
-                              "overwrite, rename (\" (2)\" is appended) or ask");
+        return Phrase::English("when a result's name is taken, on disk, by another result or by a source: skip, "
+                               "overwrite, rename (\" (2)\" is appended) or ask");
     case PolicyKind::WriteToFormat:
-        return QStringLiteral(
+        return Phrase::English(
             "when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write "
             "the nearest format that can hold it");
     case PolicyKind::None:
@@ -83,7 +87,7 @@ QVector<OptionInfo> PolicyOptionInfos()
 {
     QVector<OptionInfo> infos;
     for (const PolicyKind kind : kinds) {
-        infos.append({PolicyOption(kind), QStringLiteral("WORD"), HelpOf(kind), QStringLiteral("Exceptions"), false,
+        infos.append({PolicyOption(kind), QStringLiteral("WORD"), HelpOf(kind), Phrase::English("Exceptions"), false,
                       Completion::Words, PolicyWords(kind)});
     }
     return infos;

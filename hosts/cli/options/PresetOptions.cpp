@@ -1,19 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "PresetOptions.h"
+
+#include "job/values/Phrase.h"
 
 namespace BatchCli {
 
 OptionInfo PresetOptionInfo()
 {
     return {QStringLiteral("--preset"), QStringLiteral("NAME"),
-            QStringLiteral("starts from a preset; \"velkora-batch presets\" lists them"), QStringLiteral("Inputs")};
+            BatchJob::Phrase::English("starts from a preset; \"velkora-batch presets\" lists them"),
+            BatchJob::Phrase::English("Inputs")};
 }
 
 OptionInfo SettingsOptionInfo()
 {
     return {QStringLiteral("--settings"),
             QStringLiteral("DIR"),
-            QStringLiteral("the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)"),
-            QStringLiteral("General"),
+            BatchJob::Phrase::English(
+                "the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)"),
+            BatchJob::Phrase::English("General"),
             false,
             Completion::Folders};
 }
@@ -22,34 +29,35 @@ OptionInfo FromOptionInfo()
 {
     return {QStringLiteral("--from"),
             QStringLiteral("JOB.xml"),
-            QStringLiteral("starts from a saved job"),
-            QStringLiteral("Inputs"),
+            BatchJob::Phrase::English("starts from a saved job"),
+            BatchJob::Phrase::English("Inputs"),
             false,
             Completion::Files};
 }
 
 OptionInfo ForceOptionInfo()
 {
-    return {QStringLiteral("--force"), QString(), QStringLiteral("replaces an existing file"),
-            QStringLiteral("General")};
+    return {QStringLiteral("--force"), QString(), BatchJob::Phrase::English("replaces an existing file"),
+            BatchJob::Phrase::English("General")};
 }
 
 CommandInfo PresetsCommandInfo(const QVector<OptionInfo>& ofJobs, const QVector<OptionInfo>& general)
 {
     const QVector<OptionInfo> ofPresets{PresetOptionInfo(), FromOptionInfo()};
-    const QVector<OptionInfo> others{
-        ForceOptionInfo(),
-        {QStringLiteral("--json"), QString(), QStringLiteral("prints the list as JSON"), QStringLiteral("General")},
-        SettingsOptionInfo()};
-    return {
-        QStringLiteral("presets"),
-        QStringLiteral("[list | save NAME | remove NAME]"),
-        QStringLiteral("lists the presets, saves the options as a preset, or removes one. A preset is a job without "
-                       "inputs that run, plan, show and create take by --preset NAME; a relative --output starts "
-                       "where it is run. Exit status: 1 when a preset cannot be used"),
-        ofPresets + ofJobs + others + general,
-        Completion::Words,
-        {QStringLiteral("list"), QStringLiteral("save"), QStringLiteral("remove")}};
+    const QVector<OptionInfo> others{ForceOptionInfo(),
+                                     {QStringLiteral("--json"), QString(),
+                                      BatchJob::Phrase::English("prints the list as JSON"),
+                                      BatchJob::Phrase::English("General")},
+                                     SettingsOptionInfo()};
+    return {QStringLiteral("presets"),
+            QStringLiteral("[list | save NAME | remove NAME]"),
+            BatchJob::Phrase::English(
+                "lists the presets, saves the options as a preset, or removes one. A preset is a job without "
+                "inputs that run, plan, show and create take by --preset NAME; a relative --output starts "
+                "where it is run. Exit status: 1 when a preset cannot be used"),
+            ofPresets + ofJobs + others + general,
+            Completion::Words,
+            {QStringLiteral("list"), QStringLiteral("save"), QStringLiteral("remove")}};
 }
 
 } // namespace BatchCli

@@ -1,9 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "QualityOption.h"
 
 #include "ParameterTexts.h"
 
 #include "hosts/common/RequestError.h"
 #include "job/formats/FormatCatalog.h"
+#include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -45,7 +49,7 @@ void SetQuality(ZTBatchDocument& job, const QString& text)
     const BatchJob::FormatSchema* const known = BatchJob::FindFormat(format);
     if (known != nullptr && !HasQuality(*known)) {
         throw RequestError{
-            QStringLiteral("%1 files have no quality; %2 have one").arg(known->name, FormatsWithQuality())};
+            BatchJob::Phrase::English("%1 files have no quality; %2 have one").arg(known->name, FormatsWithQuality())};
     }
     job.GetOutputSettings()->SetFormat(format, WithFormatOption(format, options, quality + QLatin1Char('=') + text));
 }
@@ -55,9 +59,9 @@ void SetQuality(ZTBatchDocument& job, const QString& text)
 JobOption QualityOption()
 {
     return {{option, QStringLiteral("1..100"),
-             QStringLiteral("the quality of results in formats that have one; the same as %1 %2=N")
+             BatchJob::Phrase::English("the quality of results in formats that have one; the same as %1 %2=N")
                  .arg(formatOption, quality),
-             QStringLiteral("Output")},
+             BatchJob::Phrase::English("Output")},
             SetQuality,
             [](const ZTBatchDocument&) { return QStringList(); }}; // --format-option shows it.
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "RunOptions.h"
 
 #include "PresetOptions.h"
@@ -5,6 +8,7 @@
 
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/ServerLimits.h"
 
 #include <QFileInfo>
@@ -28,11 +32,15 @@ struct LimitOption
 };
 
 constexpr std::array limitOptions{
-    LimitOption{"--workers", "NUMBER", "how many pictures are processed at a time; default: one for each core",
+    LimitOption{"--workers", "NUMBER",
+                BatchJob::Phrase::Marked("how many pictures are processed at a time; default: one for each core"),
                 workersLimit, "-j"},
-    LimitOption{"--max-megapixels", "NUMBER", "larger pictures are not read; default: 400", megapixelsLimit},
-    LimitOption{"--worker-memory", "MIB", "memory that one picture may take; default: 2048", workerMemoryLimit},
-    LimitOption{"--picture-time", "SECONDS", "time that one picture may take; default: 300", pictureTimeLimit},
+    LimitOption{"--max-megapixels", "NUMBER", BatchJob::Phrase::Marked("larger pictures are not read; default: 400"),
+                megapixelsLimit},
+    LimitOption{"--worker-memory", "MIB", BatchJob::Phrase::Marked("memory that one picture may take; default: 2048"),
+                workerMemoryLimit},
+    LimitOption{"--picture-time", "SECONDS", BatchJob::Phrase::Marked("time that one picture may take; default: 300"),
+                pictureTimeLimit},
 };
 
 const QString followLinks = QStringLiteral("--follow-links");
@@ -42,53 +50,58 @@ const QString inPlace = QStringLiteral("--in-place");
 
 QVector<OptionInfo> PlanOptionInfos()
 {
-    const QString run = QStringLiteral("Run");
+    const QString run = BatchJob::Phrase::English("Run");
     return {
         {inPlace, QString(),
-         QStringLiteral(
+         BatchJob::Phrase::English(
              "lets results replace their own originals. Without --output, results go to the folders of their "
              "originals. Without this option no original is ever replaced"),
          run},
         {QStringLiteral("--allow-empty"), QString(),
-         QStringLiteral("ends with 0, not with 5, when there is no picture among the inputs"), run},
+         BatchJob::Phrase::English("ends with 0, not with 5, when there is no picture among the inputs"), run},
     };
 }
 
 QVector<OptionInfo> RunOptionInfos()
 {
-    const QString run = QStringLiteral("Run");
+    const QString run = BatchJob::Phrase::English("Run");
     QVector<OptionInfo> infos{
         {QStringLiteral("--dry-run"),
          QString(),
-         QStringLiteral("prints what the run would write, as \"velkora-batch plan\" does, and writes nothing"),
+         BatchJob::Phrase::English(
+             "prints what the run would write, as \"velkora-batch plan\" does, and writes nothing"),
          run,
          false,
          Completion::Nothing,
          {},
          QStringLiteral("-n")},
         {QStringLiteral("--report"), QStringLiteral("FILE"),
-         QStringLiteral("writes the result of every input to a file, as CSV or JSON by the extension of its name"), run,
-         false, Completion::Files},
+         BatchJob::Phrase::English(
+             "writes the result of every input to a file, as CSV or JSON by the extension of its name"),
+         run, false, Completion::Files},
         {QStringLiteral("--resume"), QString(),
-         QStringLiteral("resumes the run that was interrupted in the output folder, with its job and its policies"),
+         BatchJob::Phrase::English(
+             "resumes the run that was interrupted in the output folder, with its job and its policies"),
          run},
         {QStringLiteral("--run"), QStringLiteral("NAME"),
-         QStringLiteral("says which run to resume if several were interrupted; --resume lists their names"), run},
+         BatchJob::Phrase::English("says which run to resume if several were interrupted; --resume lists their names"),
+         run},
         {QStringLiteral("--strict"), QString(),
-         QStringLiteral("counts a picture with a warning as failed; its result is kept"), run},
+         BatchJob::Phrase::English("counts a picture with a warning as failed; its result is kept"), run},
         {QStringLiteral("--json"), QString(),
-         QStringLiteral("prints each event of the run to standard output, as one line of JSON"), run},
+         BatchJob::Phrase::English("prints each event of the run to standard output, as one line of JSON"), run},
         SettingsOptionInfo(),
     };
-    infos.append({followLinks, QString(),
-                  QStringLiteral("lets results go through links to folders below the output folder; otherwise such a "
-                                 "link is an error of output"),
-                  run});
+    infos.append(
+        {followLinks, QString(),
+         BatchJob::Phrase::English("lets results go through links to folders below the output folder; otherwise such a "
+                                   "link is an error of output"),
+         run});
     for (const LimitOption& option : limitOptions) {
         infos.append({QString::fromLatin1(option.name),
                       QString::fromLatin1(option.valueName),
                       QString::fromLatin1(option.help),
-                      QStringLiteral("Limits"),
+                      BatchJob::Phrase::English("Limits"),
                       false,
                       Completion::Nothing,
                       {},
@@ -126,7 +139,7 @@ QString SettingsFolder(const ParsedArguments& arguments)
     }
     const QString folder = AbsolutePath(arguments.Value(option));
     if (QFileInfo::exists(folder) && !QFileInfo(folder).isDir()) {
-        throw RequestError{QStringLiteral("%1: %2 is not a folder").arg(option, folder)};
+        throw RequestError{BatchJob::Phrase::English("%1 is not a folder").arg(folder)}.In(option);
     }
     return folder;
 }

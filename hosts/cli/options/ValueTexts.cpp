@@ -1,8 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "ValueTexts.h"
 
 #include "Words.h"
 
 #include "hosts/common/UserPath.h"
+#include "job/values/Phrase.h"
 
 #include <QDir>
 #include <QLocale>
@@ -39,8 +43,8 @@ double NumberFromText(const QString& text, double minimum, double maximum)
     // A locale, also that of C, takes commas for separators of thousands.
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(number) || number < minimum || number > maximum) {
-        throw RequestError{
-            QStringLiteral("\"%1\" is not a number from %2 to %3").arg(text, NumberText(minimum), NumberText(maximum))};
+        throw RequestError{Phrase::English("\"%1\" is not a number from %2 to %3")
+                               .arg(text, NumberText(minimum), NumberText(maximum))};
     }
     return number;
 }
@@ -50,7 +54,7 @@ int IntegerFromText(const QString& text, int minimum, int maximum)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < minimum || number > maximum) {
-        throw RequestError{QStringLiteral("\"%1\" is not a whole number from %2 to %3")
+        throw RequestError{Phrase::English("\"%1\" is not a whole number from %2 to %3")
                                .arg(text, QString::number(minimum), QString::number(maximum))};
     }
     return number;
@@ -70,7 +74,7 @@ QSize SizeFromText(const QString& text)
     if (sides.size() != 2 || !isWidth || !isHeight || size.isEmpty() || size.width() > largestSide ||
         size.height() > largestSide) {
         throw RequestError{
-            QStringLiteral(
+            Phrase::English(
                 "\"%1\" does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600")
                 .arg(text, QString::number(largestSide))};
     }
@@ -100,8 +104,8 @@ QMargins MarginsFromText(const QString& text)
     if (sides.size() == 4) {
         return {sides[0], sides[1], sides[2], sides[3]};
     }
-    throw RequestError{QStringLiteral("\"%1\" is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; "
-                                      "\"none\" means no frame")
+    throw RequestError{Phrase::English("\"%1\" is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; "
+                                       "\"none\" means no frame")
                            .arg(text)};
 }
 
@@ -123,8 +127,8 @@ QColor ColourFromText(const QString& text)
         colour.setNamedColor(QLatin1Char('#') + text);
     }
     if (!colour.isValid() || colour.alpha() != 255) {
-        throw RequestError{QStringLiteral("\"%1\" is not a colour; use #rrggbb or a name%2")
-                               .arg(text, NearestHint(text, QColor::colorNames()))};
+        throw RequestError{Phrase::English("\"%1\" is not a colour; use #rrggbb or a name").arg(text) +
+                           NearestHint(text, QColor::colorNames())};
     }
     return colour;
 }
@@ -136,7 +140,7 @@ void BackgroundFromText(const QString& text, Settings::Transformation& transform
     const auto need = [&](const char* example) {
         if (value.isEmpty()) {
             throw RequestError{
-                QStringLiteral("\"%1\" is incomplete; complete it as in %2").arg(text, QLatin1String(example))};
+                Phrase::English("\"%1\" is incomplete; complete it as in %2").arg(text, QLatin1String(example))};
         }
     };
     switch (BatchJob::BackgroundType(type)) {
@@ -186,12 +190,12 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
     const QStringList words = AllWords(BatchJob::NamingTemplateWords);
     if (!words.contains(head, Qt::CaseInsensitive)) {
         throw RequestError{NoSuchWord(head, words).text +
-                           QStringLiteral("; write a text of your own as text:%1").arg(text)};
+                           Phrase::English("; write a text of your own as text:%1").arg(text)};
     }
     const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamingTemplateWords, head));
     const bool takesMore = kind == Settings::TemplateNumber || kind == Settings::TemplateCustomText;
     if (!takesMore && text.contains(QLatin1Char(':'))) {
-        throw RequestError{QStringLiteral("\"%1\" takes no value").arg(head)};
+        throw RequestError{Phrase::English("\"%1\" takes no value").arg(head)};
     }
     if (kind == Settings::TemplateNumber) {
         constexpr int mostDigits = 20;

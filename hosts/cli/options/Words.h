@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 #include "hosts/common/RequestError.h"
@@ -12,7 +15,7 @@ namespace BatchCli {
 /// "; did you mean "X"?", or nothing when none of `words` is similar to `text`.
 QString NearestHint(const QString& text, const QStringList& words);
 
-/// `text` with a full stop, unless it has a question mark or a full stop already.
+/// `text`, in the user's language, with a full stop, unless it has a question mark or a full stop already.
 QString WithFullStop(const QString& text);
 
 /// The error of a text that should have been one of `words`.

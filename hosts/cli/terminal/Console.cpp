@@ -1,5 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Console.h"
 
+#include "hosts/cli/options/TextLayout.h"
 #include "job/values/VisibleText.h"
 
 #include <QVector>
@@ -25,30 +29,6 @@ bool Write(FILE* file, const QString& text)
 
 QString outputError;
 
-bool IsBetween(uint value, uint first, uint last)
-{
-    return value >= first && value <= last;
-}
-
-int WidthOf(uint character)
-{
-    switch (QChar::category(character)) {
-    case QChar::Mark_NonSpacing:
-    case QChar::Mark_Enclosing:
-    case QChar::Other_Format:
-        return 0;
-    default:
-        break;
-    }
-    // East Asian scripts, their punctuation and full-width forms, and pictographs.
-    const bool isWide = IsBetween(character, 0x1100, 0x115F) || IsBetween(character, 0x2E80, 0xA4CF) ||
-                        IsBetween(character, 0xAC00, 0xD7A3) || IsBetween(character, 0xF900, 0xFAFF) ||
-                        IsBetween(character, 0xFE30, 0xFE6F) || IsBetween(character, 0xFF00, 0xFF60) ||
-                        IsBetween(character, 0xFFE0, 0xFFE6) || IsBetween(character, 0x1F300, 0x1FAFF) ||
-                        IsBetween(character, 0x20000, 0x3FFFD);
-    return isWide ? 2 : 1;
-}
-
 /// The longest part of `characters`, from the front or from the back, that has at most `columns` columns.
 QVector<uint> Fitting(const QVector<uint>& characters, int columns, bool fromBack)
 {
@@ -56,7 +36,7 @@ QVector<uint> Fitting(const QVector<uint>& characters, int columns, bool fromBac
     int width = 0;
     for (int i = 0; i < characters.size(); ++i) {
         const uint character = characters.at(fromBack ? characters.size() - 1 - i : i);
-        width += WidthOf(character);
+        width += ColumnsOf(character);
         if (width > columns) {
             break;
         }
@@ -103,7 +83,7 @@ int Terminal::WidthOf(const QString& text)
 {
     int width = 0;
     for (const uint character : text.toUcs4()) {
-        width += BatchCli::WidthOf(character);
+        width += ColumnsOf(character);
     }
     return width;
 }

@@ -1,6 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Startup.h"
 
 #include "hosts/common/RequestError.h"
+#include "job/values/Phrase.h"
 #include "server/protocol/ChildProcess.h"
 
 #include <QFile>
@@ -68,7 +72,7 @@ QStringList Arguments(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const QString argument = QFile::decodeName(argv[i]);
         if (QFile::encodeName(argument) != argv[i]) {
-            throw RequestError{QStringLiteral("argument %1 (%2) is not valid UTF-8").arg(i).arg(argument)};
+            throw RequestError{BatchJob::Phrase::English("argument %1 (%2) is not valid UTF-8").arg(i).arg(argument)};
         }
         arguments.append(argument);
     }

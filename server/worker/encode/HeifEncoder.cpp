@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "EncoderOptions.h"
 #include "FormatEncoder.h"
 #include "HeifWriter.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Metadata.h"
 
 #include "job/values/Phrase.h"
@@ -73,12 +76,19 @@ QString LostNoticeText(const CopyrightNotice& notice)
 {
     constexpr int longest = 100;
     const bool isShort = notice.text.size() <= longest;
-    const QString groups = notice.groups.size() == 1
-                               ? notice.groups.first() + QStringLiteral(", which is")
-                               : notice.groups.mid(0, notice.groups.size() - 1).join(QStringLiteral(", ")) +
-                                     QStringLiteral(" and ") + notice.groups.last() + QStringLiteral(", which are");
-    return QStringLiteral("the copyright notice \"%1\" is only in %2 not kept; keep=copyright keeps it")
-        .arg(isShort ? notice.text : notice.text.left(longest) + QStringLiteral("..."), groups);
+    const QString text = isShort ? notice.text : notice.text.left(longest) + QStringLiteral("...");
+    if (notice.groups.size() == 1) {
+        return BatchJob::Phrase::English(
+                   "the copyright notice \"%1\" is only in %2, which is not kept; keep=copyright keeps "
+                   "it")
+            .arg(text, notice.groups.first());
+    }
+    QStringList others = notice.groups;
+    const QString last = others.takeLast();
+    return BatchJob::Phrase::English(
+               "the copyright notice \"%1\" is only in %2 and %3, which are not kept; keep=copyright "
+               "keeps it")
+        .arg(text, others.join(QStringLiteral(", ")), last);
 }
 
 } // namespace

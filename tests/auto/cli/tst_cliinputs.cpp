@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "hosts/common/InputCollector.h"
 #include "hosts/common/NaturalNames.h"
 #include "hosts/common/RequestError.h"

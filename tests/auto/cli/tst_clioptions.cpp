@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "hosts/cli/options/CommandLine.h"
 #include "hosts/cli/options/JobOptions.h"
 #include "hosts/common/RequestError.h"

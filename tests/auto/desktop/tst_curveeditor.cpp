@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "hosts/desktop/settings/parameters/Choosers.h"
 #include "hosts/desktop/settings/parameters/CurveArea.h"
 #include "hosts/desktop/settings/parameters/ParameterEditor.h"

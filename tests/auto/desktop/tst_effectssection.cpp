@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "hosts/desktop/settings/SettingsPane.h"
 #include "hosts/desktop/settings/effects/EffectsSection.h"
 #include "hosts/desktop/settings/parameters/ParameterField.h"

@@ -1,5 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "hosts/common/Catalogue.h"
 #include "hosts/common/Language.h"
+#include "hosts/common/PresetTitles.h"
 #include "hosts/common/SystemMessages.h"
 
 #include "server/protocol/TaskFailure.h"
@@ -8,6 +12,8 @@
 
 #include <QBuffer>
 #include <QDomDocument>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <clocale>
@@ -33,6 +39,9 @@ private Q_SLOTS:
     void reportsOfWorkersAreTranslated();
     void libraryTextsAreTranslated();
     void messagesOfTheSystemAreKnown();
+    void messagesOfLibrariesAreKnown_data();
+    void messagesOfLibrariesAreKnown();
+    void titlesOfPresetsAreKnown();
     void englishStaysAsItIs();
     void otherLanguagesAreEnglish();
     void brokenCataloguesAreReported();
@@ -174,6 +183,16 @@ void tst_Language::reasonsAreTranslated_data()
         "der Ordner /o/x kann nicht angelegt werden: Zugriff verweigert");
     row("--report: the name \"a.txt\" must end with .csv or .json",
         "--report: der Name „a.txt“ muss mit .csv oder .json enden");
+    row("--format-option: format JPEG: \"quality\" is 300; it must be a whole number from 1 to 100",
+        "--format-option: Format JPEG: \"quality\" ist 300; erlaubt ist eine ganze Zahl von 1 bis 100");
+    row("--effect: effect blur: \"sigm\" is not one of sigma; did you mean \"sigma\"?",
+        "--effect: Effekt blur: „sigm“ ist keines von sigma; meinten Sie „sigma“?");
+    row("--shadow-colour: \"whit\" is not a colour; use #rrggbb or a name; did you mean \"white\"?",
+        "--shadow-colour: „whit“ ist keine Farbe; #rrggbb oder einen Namen verwenden; meinten Sie „white“?");
+    row("/l.txt, line 3: /a/b.jpg does not exist (and 2 more)",
+        "/l.txt, Zeile 3: /a/b.jpg existiert nicht (und 2 weitere)");
+    row("0123abcd  2026-01-31 12:00:00  3 of 10 pictures  /a, /b/c.jpg",
+        "0123abcd  2026-01-31 12:00:00  3 von 10 Bildern  /a, /b/c.jpg");
     row("written as \"/o/a (2).jpg\" (naming policy)", "als „/o/a (2).jpg“ geschrieben (Regel für Namen)");
 }
 
@@ -253,6 +272,51 @@ void tst_Language::messagesOfTheSystemAreKnown()
     UseLanguage(QStringLiteral("ja"));
     for (const SystemMessage& message : systemMessages) {
         QVERIFY(Translated(QString::fromLatin1(message.text)) != QString::fromLatin1(message.text));
+    }
+}
+
+void tst_Language::messagesOfLibrariesAreKnown_data()
+{
+    QTest::addColumn<QString>("xml");
+
+    for (const char* const xml : {"x", "", "<a>", "<a></b>", "<a/><b/>", "<a b></a>"}) {
+        QTest::newRow(xml) << QString::fromLatin1(xml);
+    }
+}
+
+/// As Qt gives them, and the one about expressions that wildcards can make.
+void tst_Language::messagesOfLibrariesAreKnown()
+{
+    QFETCH(QString, xml);
+
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    const QString expression = QRegularExpression(QStringLiteral("[z-a]")).errorString();
+    for (const char* const language : {"de", "es", "fr", "ja"}) {
+        UseLanguage(QString::fromLatin1(language));
+        QVERIFY2(Translated(reader.errorString()) != reader.errorString(), qPrintable(reader.errorString()));
+        QVERIFY2(Translated(expression) != expression, qPrintable(expression));
+    }
+}
+
+void tst_Language::titlesOfPresetsAreKnown()
+{
+    QStringList known;
+    for (const char* const title : presetTitles) {
+        known.append(QString::fromLatin1(title));
+    }
+    UseLanguage(QStringLiteral("es"));
+    const QFileInfoList presets = QDir(QStringLiteral(PRESETS)).entryInfoList({QStringLiteral("*.xml")});
+    QCOMPARE(presets.size(), known.size());
+    for (const QFileInfo& preset : presets) {
+        QFile file(preset.filePath());
+        QDomDocument document;
+        QVERIFY(file.open(QIODevice::ReadOnly) && document.setContent(&file));
+        const QString title = document.documentElement().attribute(QStringLiteral("name"));
+        QVERIFY2(known.contains(title), qPrintable(title));
+        QVERIFY(Translated(title) != title);
     }
 }
 

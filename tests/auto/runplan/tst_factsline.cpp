@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "job/journal/RunJournal.h"
 #include "job/plan/FactsLine.h"
 #include "job/plan/WarningLine.h"

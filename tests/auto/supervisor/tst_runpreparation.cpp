@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "server/protocol/TemporaryName.h"
 #include "server/supervisor/RunPreparation.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "Jpeg2000Maker.h"
 
 #include "server/worker/metadata/BoxFile.h"

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 """Writes effects.tsv: effects on small pictures, with the values that come out, computed here from the definitions.
 
 Columns: effect, parameters, channels of colour, bits, alpha (0 or 1), width, height, values, width, height and values of

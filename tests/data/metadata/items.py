@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 """Adds to small HEIF and AVIF files what their encoder does not write; see tests/data/README.md.
 
     items.py SOURCE RESULT created | apple-gain-map | tone-map

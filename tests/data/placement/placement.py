@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 """Expected placements of a picture in its frame, computed from the geometry.
 
     python3 placement.py > placement.tsv

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // A worker that a picture has taken over: it speaks the language of workers, and lies. Usage() describes it.
 
 #include "Lies.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // The other end of a pipe, in a process of its own: a bare local socket. It executes the commands on its standard
 // input, one per line, and answers each with one line. It knows no messages, only the bytes that the tests give it.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // A worker that makes no pictures, but executes the command in the first line of its input file. Without a command the
 // result is a file with the input's content.
 //

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 """Checks JSON values against a definition of a schema: check-schema.py SCHEMA DEFINITION FILE.
 
 FILE holds one value a line. Prints the number of the first line that does not fit, and why, and exits with 1. Exits with

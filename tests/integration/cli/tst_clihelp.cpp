@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CliRun.h"
 #ifdef Q_OS_UNIX
 #include "PseudoTerminal.h"
@@ -80,10 +83,10 @@ void tst_CliHelp::linesFitTheTerminal_data()
 
 void tst_CliHelp::linesFitTheTerminal()
 {
+#ifdef Q_OS_UNIX
     QFETCH(int, columns);
     QFETCH(int, fewest);
     QFETCH(int, most);
-#ifdef Q_OS_UNIX
     PseudoTerminal terminal(QStringLiteral(VELKORA_BATCH), {QStringLiteral("run"), QStringLiteral("--help")}, columns);
     QCOMPARE(terminal.ExitCode(), 0);
     const int longest = LongestLine(QString::fromUtf8(terminal.Output()));

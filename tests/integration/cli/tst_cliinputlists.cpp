@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CliRun.h"
 #ifdef Q_OS_UNIX
 #include "PseudoTerminal.h"
@@ -52,7 +55,7 @@ void tst_CliInputLists::init()
          {"photos/1.jpg", "photos/2.png", "photos/notes.txt", "photos/.secret.jpg", "photos/2023/a.JPG",
           "photos/2023/b.nef", "photos/2024/june/c.jpg", "photos/2024/june/raw/d.nef", "photos/2024/e.cr2",
           "photos/.hidden/f.jpg", "other/g.jpg", "other/with blank.jpg"}) {
-        Write(QString::fromLatin1(name));
+        Write(QString::fromLatin1(name), "\xFF\xD8\xFF\xE0"); // JPEG, which plans see without a worker.
     }
 }
 

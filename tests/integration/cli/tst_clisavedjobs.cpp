@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "CliRun.h"
 
 #include "ZTBatchDocument.h"
@@ -41,8 +44,9 @@ private:
 void tst_CliSavedJobs::init()
 {
     root = std::make_unique<QTemporaryDir>();
-    Write(QStringLiteral("photos/1.jpg"));
-    Write(QStringLiteral("photos/2.png"));
+    // Enough to know their formats without a worker.
+    Write(QStringLiteral("photos/1.jpg"), "\xFF\xD8\xFF\xE0");
+    Write(QStringLiteral("photos/2.png"), "\x89PNG\r\n\x1A\n");
     QCOMPARE(Run(QStringLiteral("create good.xml -o web --size 320")).exitCode, 0);
 }
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Builds the project in project/ with the library, in the way that WAY names, and runs its program.
 
 function(run)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Fails when a document points at something that does not exist:
 #   a relative link in a *.md file leads to no file or folder,
 #   its #anchor is no heading of the page that it leads to,

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
 # Runs the tutorial's program as its user would, and compares its exit codes and what it leaves in the folder.
 cmake_minimum_required(VERSION 3.25)
 

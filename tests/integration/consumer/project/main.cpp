@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Uses a class of each library, so that a missing header or a symbol that is not exported is found.
 
 #include <ZTBatchMessage.h>

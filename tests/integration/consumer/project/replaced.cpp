@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 // Uses the library with the product's own sibling libraries.
 
 #include <ZTBatchDocument.h>

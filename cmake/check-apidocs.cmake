@@ -1,0 +1,50 @@
+# SPDX-FileCopyrightText: 2026 The batchcore developers
+# SPDX-License-Identifier: MIT
+
+# Fails when the API reference lacks a header or a page of docs/, or when a link or picture of it leads nowhere.
+cmake_minimum_required(VERSION 3.25)
+
+set(problems "")
+
+file(GLOB_RECURSE inputs RELATIVE "${SOURCE_DIR}" "${SOURCE_DIR}/include/*.h" "${SOURCE_DIR}/platform/*/include/*.h"
+    "${SOURCE_DIR}/docs/*.md")
+foreach(input IN LISTS inputs)
+    string(REGEX REPLACE "[/-]" "_" page "${input}")
+    string(REGEX REPLACE "^.*_([^_]+)\\.h$" "\\1_8h.html" page "${page}")
+    string(REGEX REPLACE "^(.*)\\.md$" "md_\\1.html" page "${page}")
+    if(NOT EXISTS "${APIDOCS_DIR}/${page}")
+        list(APPEND problems "${input} has no page ${page}")
+    endif()
+endforeach()
+
+file(GLOB pages RELATIVE "${APIDOCS_DIR}" "${APIDOCS_DIR}/*.html")
+set(link_count 0)
+foreach(page IN LISTS pages)
+    file(READ "${APIDOCS_DIR}/${page}" text)
+    string(REPLACE ";" " " text "${text}")
+    string(REPLACE "[" " " text "${text}")
+    string(REPLACE "]" " " text "${text}")
+    string(REGEX MATCHALL "(href|src)=\"[^\"]+" links "${text}")
+    list(REMOVE_DUPLICATES links)
+    foreach(link IN LISTS links)
+        string(REGEX REPLACE "^[a-z]+=\"" "" link "${link}")
+        string(REGEX REPLACE "#.*$" "" file "${link}")
+        if(NOT file OR file MATCHES "^(https?:|javascript:)")
+            continue()
+        endif()
+        math(EXPR link_count "${link_count} + 1")
+        if(NOT EXISTS "${APIDOCS_DIR}/${file}")
+            list(APPEND problems "${page}: no such file: ${file}")
+        endif()
+    endforeach()
+endforeach()
+
+if(link_count EQUAL 0)
+    list(APPEND problems "no link was found: this check does not work")
+endif()
+if(problems)
+    list(JOIN problems "\n  " text)
+    message(FATAL_ERROR "The API reference is incomplete:\n  ${text}")
+endif()
+list(LENGTH pages page_count)
+message(STATUS "${page_count} pages of the API reference, ${link_count} links.")
