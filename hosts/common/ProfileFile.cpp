@@ -5,6 +5,8 @@
 
 #include "RequestError.h"
 
+#include "job/values/Phrase.h"
+
 #include <QFile>
 #include <QtEndian>
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "hosts/common/Language.h"
+#include "hosts/common/UserPath.h"
 #include "hosts/desktop/window/MainWindow.h"
 
 #include <QApplication>
@@ -15,7 +16,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velkora-batch-desktop"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
-    BatchDesktop::MainWindow window;
+    BatchDesktop::MainWindow window(BatchHost::UserSettingsFolder());
     window.show();
+    window.AddPaths(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }

@@ -72,6 +72,9 @@ public:
     /// How the last run ended; nothing before that and while one is going on.
     const std::optional<BatchHost::RunEnd>& LastEnd() const { return lastEnd; }
 
+    /// The inputs of the current or last run.
+    const QStringList& CurrentInputs() const { return inputs.files; }
+
     /// The results of the current or last run, by input.
     const QHash<QString, BatchHost::FileResult>& Results() const { return results; }
 

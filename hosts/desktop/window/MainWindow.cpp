@@ -1,28 +1,189 @@
-// SPDX-FileCopyrightText: 2026 The batchcore developers
-// SPDX-License-Identifier: MIT
-
 #include "MainWindow.h"
 
 #include "hosts/common/Language.h"
+#include "hosts/common/RequestError.h"
 
+#include "ZTBatchInputModel.h"
+#include "ZTBatchManager.h"
+
+#include <QDesktopServices>
+#include <QHBoxLayout>
 #include <QMenuBar>
-#include <QSplitter>
+#include <QUrl>
+#include <QVBoxLayout>
 
-using BatchHost::Messages;
+using namespace BatchHost;
 
 namespace BatchDesktop {
 
-MainWindow::MainWindow()
+namespace {
+
+RunStates::State StateOf(const FileResult& result)
 {
+    switch (result.kind) {
+    case FileResult::Kind::Written:
+        return RunStates::State::Written;
+    case FileResult::Kind::Skipped:
+        return RunStates::State::Skipped;
+    case FileResult::Kind::Failed:
+        break;
+    }
+    return RunStates::State::Failed;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const QString& settingsFolder)
+    : runner(settingsFolder)
+    , presets(new PresetBox(job, settingsFolder))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(Messages::tr("Velkora Batch"));
+    MakePanes();
+    inputs = std::make_unique<InputModule>(*pictures);
+    MakeMenus();
+    ConnectPictures();
+    ConnectRun();
+    UpdateStart();
+    UpdateForecast();
+}
+
+MainWindow::~MainWindow()
+{
+    inputs.reset(); // It is registered with the manager and uses the pane.
+    delete takeCentralWidget();
+}
+
+QWidget* MainWindow::NewTopRow()
+{
+    auto* const row = new QWidget;
+    auto* const layout = new QHBoxLayout(row);
+    start = new QPushButton(Messages::tr("Start"));
+    start->setObjectName(QStringLiteral("start"));
+    start->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+    start->setDefault(true);
+    layout->addStretch(1);
+    layout->addWidget(presets);
+    layout->addWidget(start);
+    connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
+    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->SetForecast(text); });
+    return row;
+}
+
+void MainWindow::MakePanes()
+{
+    auto* const body = new QWidget;
+    auto* const layout = new QVBoxLayout(body);
+    layout->addWidget(NewTopRow());
+    panes = new QSplitter;
+    panes->setObjectName(QStringLiteral("panes"));
+    panes->setChildrenCollapsible(false);
+    pictures = new PicturesPane(job);
+    preview = new PreviewPane(job);
+    settings = new SettingsPane(job);
+    for (QWidget* const pane :
+         {static_cast<QWidget*>(pictures), static_cast<QWidget*>(preview), static_cast<QWidget*>(settings)}) {
+        panes->addWidget(pane);
+    }
+    panes->setStretchFactor(1, 1);
+    layout->addWidget(panes, 1);
+    questions = new QuestionBar(runner);
+    bar = new RunBar(runner);
+    layout->addWidget(questions);
+    layout->addWidget(bar);
+    setCentralWidget(body);
+}
+
+void MainWindow::MakeMenus()
+{
+    QMenu* const file = menuBar()->addMenu(Messages::tr("&File"));
+    const ZTBatchManager* const manager = ZTBatchManager::Instance();
+    file->addActions(manager != nullptr ? manager->GetInputActions() : QList<QAction*>());
+    file->addSeparator();
+    QAction* const quit = file->addAction(Messages::tr("&Quit"));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
     QMenu* const edit = menuBar()->addMenu(Messages::tr("&Edit"));
     QAction* const undo = job.History().createUndoAction(this);
     undo->setShortcut(QKeySequence::Undo);
     QAction* const redo = job.History().createRedoAction(this);
     redo->setShortcut(QKeySequence::Redo);
     edit->addActions({undo, redo});
-    setCentralWidget(new QSplitter);
+    edit->addSeparator();
+    edit->addMenu(settings->AddEffectMenu());
+    edit->addActions(settings->EffectActions());
+
+    QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
+    view->addActions(preview->Actions());
 }
 
-MainWindow::~MainWindow() = default;
+void MainWindow::ConnectPictures()
+{
+    connect(pictures, &PicturesPane::CurrentChanged, this, [this](const QString& file) {
+        preview->SetFile(file);
+        settings->SetExample(file);
+    });
+    connect(pictures, &PicturesPane::InputsChanged, this, [this] {
+        UpdateStart();
+        UpdateForecast();
+    });
+    connect(&pictures->Names(), &NamePlan::Planned, this, &MainWindow::UpdateForecast);
+}
+
+void MainWindow::ConnectRun()
+{
+    RunStates& states = pictures->States();
+    connect(&runner, &JobRunner::StateChanged, this, &MainWindow::UpdateStart);
+    connect(&runner, &JobRunner::Begun, &states,
+            [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
+    connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
+    connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
+    connect(bar, &RunBar::FolderWanted, this,
+            [](const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+void MainWindow::OnResult(const QString& input)
+{
+    const FileResult& result = runner.Results().value(input);
+    pictures->States().Set(input, StateOf(result), Translated(result.reason));
+}
+
+void MainWindow::StartRun()
+{
+    if (runner.CurrentState() != JobRunner::State::Idle) {
+        return;
+    }
+    const QString obstacle = runner.Obstacle();
+    if (!obstacle.isEmpty()) {
+        bar->SetForecast(obstacle);
+        return;
+    }
+    try {
+        runner.Start(job.Document(), job.CurrentSettings().policies);
+    } catch (const RequestError& error) {
+        bar->SetForecast(Translated(error.text));
+        return;
+    }
+    pictures->States().Begin(runner.CurrentInputs());
+}
+
+void MainWindow::UpdateStart()
+{
+    start->setEnabled(runner.CurrentState() == JobRunner::State::Idle &&
+                      job.Document().GetInputModel()->GetFileNodesCount() > 0);
+}
+
+void MainWindow::UpdateForecast()
+{
+    const int files = job.Document().GetInputModel()->GetFileNodesCount();
+    if (files == 0) {
+        bar->SetForecast(Messages::tr("Add pictures to begin."));
+        return;
+    }
+    const int troubles = pictures->Names().TroubleCount();
+    bar->SetForecast(troubles == 0 ? Messages::tr("%1 pictures").arg(files)
+                                   : Messages::tr("%1 pictures, %2 of them with trouble").arg(files).arg(troubles));
+}
 
 } // namespace BatchDesktop

@@ -1,11 +1,19 @@
-// SPDX-FileCopyrightText: 2026 The batchcore developers
-// SPDX-License-Identifier: MIT
-
 #pragma once
 
+#include "PresetBox.h"
+
 #include "hosts/desktop/job/EditedJob.h"
+#include "hosts/desktop/pictures/InputModule.h"
+#include "hosts/desktop/pictures/PicturesPane.h"
+#include "hosts/desktop/preview/PreviewPane.h"
+#include "hosts/desktop/run/JobRunner.h"
+#include "hosts/desktop/run/QuestionBar.h"
+#include "hosts/desktop/run/RunBar.h"
+#include "hosts/desktop/settings/SettingsPane.h"
 
 #include <QMainWindow>
+#include <QPushButton>
+#include <QSplitter>
 
 namespace BatchDesktop {
 
@@ -15,13 +23,42 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    MainWindow();
+    /// Policies and presets are in `settingsFolder`.
+    explicit MainWindow(const QString& settingsFolder);
     ~MainWindow() override;
 
     EditedJob& Job() { return job; }
+    JobRunner& Runner() { return runner; }
+    PicturesPane& Pictures() { return *pictures; }
+    PreviewPane& Preview() { return *preview; }
+
+    /// Adds files and folders.
+    void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
+
+    /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
+    void StartRun();
 
 private:
+    QWidget* NewTopRow();
+    void MakePanes();
+    void MakeMenus();
+    void ConnectRun();
+    void ConnectPictures();
+    void OnResult(const QString& input);
+    void UpdateStart();
+    void UpdateForecast();
+
     EditedJob job;
+    JobRunner runner;
+    PresetBox* const presets;
+    PicturesPane* pictures = nullptr;
+    PreviewPane* preview = nullptr;
+    SettingsPane* settings = nullptr;
+    QSplitter* panes = nullptr;
+    QuestionBar* questions = nullptr;
+    RunBar* bar = nullptr;
+    QPushButton* start = nullptr;
+    std::unique_ptr<InputModule> inputs;
 };
 
 } // namespace BatchDesktop
