@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
 #include "PresetBox.h"
 
 #include "hosts/common/JobDefaults.h"
