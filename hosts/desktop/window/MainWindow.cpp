@@ -9,9 +9,14 @@
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
 
+#include <QCloseEvent>
 #include <QDesktopServices>
+#include <QDir>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -20,6 +25,9 @@ using namespace BatchHost;
 namespace BatchDesktop {
 
 namespace {
+
+const QString geometryKey = QStringLiteral("geometry");
+const QString panesKey = QStringLiteral("panes");
 
 RunStates::State StateOf(const FileResult& result)
 {
@@ -37,7 +45,8 @@ RunStates::State StateOf(const FileResult& result)
 } // namespace
 
 MainWindow::MainWindow(const QString& settingsFolder)
-    : runner(settingsFolder)
+    : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
+    , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -49,12 +58,38 @@ MainWindow::MainWindow(const QString& settingsFolder)
     ConnectRun();
     UpdateStart();
     UpdateForecast();
+    RestoreLayout();
 }
 
 MainWindow::~MainWindow()
 {
     inputs.reset(); // It is registered with the manager and uses the pane.
     delete takeCentralWidget();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    SaveLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::RestoreLayout()
+{
+    const QSettings layout(layoutFile, QSettings::IniFormat);
+    if (!restoreGeometry(layout.value(geometryKey).toByteArray())) {
+        constexpr QSize usual(1280, 800);
+        resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    }
+    if (!panes->restoreState(layout.value(panesKey).toByteArray())) {
+        panes->setSizes({3, 4, 3}); // They are stretched to the width of the window.
+    }
+}
+
+void MainWindow::SaveLayout() const
+{
+    QSettings layout(layoutFile, QSettings::IniFormat);
+    layout.setValue(geometryKey, saveGeometry());
+    layout.setValue(panesKey, panes->saveState());
 }
 
 QWidget* MainWindow::NewTopRow()
@@ -119,6 +154,12 @@ void MainWindow::MakeMenus()
 
     QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
     view->addActions(preview->Actions());
+    view->addSeparator();
+    QAction* const previous =
+        view->addAction(Messages::tr("&Previous picture"), pictures, &PicturesPane::SelectPrevious);
+    previous->setShortcut(QKeySequence(Qt::Key_BracketLeft));
+    QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
+    next->setShortcut(QKeySequence(Qt::Key_BracketRight));
 }
 
 void MainWindow::ConnectPictures()

@@ -41,7 +41,12 @@ public:
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    void RestoreLayout();
+    void SaveLayout() const;
     QWidget* NewTopRow();
     void MakePanes();
     void MakeMenus();
@@ -51,6 +56,7 @@ private:
     void UpdateStart();
     void UpdateForecast();
 
+    const QString layoutFile; ///< where window and panes were
     EditedJob job;
     JobRunner runner;
     PresetBox* const presets;
