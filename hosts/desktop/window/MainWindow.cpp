@@ -81,7 +81,8 @@ void MainWindow::RestoreLayout()
         resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     }
     if (!panes->restoreState(layout.value(panesKey).toByteArray())) {
-        panes->setSizes({3, 4, 3}); // They are stretched to the width of the window.
+        const int share = width() / 10;
+        panes->setSizes({3 * share, 4 * share, 3 * share});
     }
 }
 
