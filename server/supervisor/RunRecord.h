@@ -25,8 +25,8 @@ class RunRecord
 public:
     RunRecord(const HostLink& host, const QString& journalPath);
 
-    /// Results go to `journal` from now on, which is locked by `lock`.
-    void Continue(BatchJob::RunJournal&& journal, std::unique_ptr<QLockFile> lock);
+    /// Results go to the journal `earlier` from now on, which is locked by `lock`.
+    void Continue(BatchJob::RunJournal&& earlier, std::unique_ptr<QLockFile> lock);
 
     BatchJob::RunJournal& Journal() { return journal; }
 

@@ -169,16 +169,15 @@ bool HasPictures(const ZTBatchDocument& job, const ParsedArguments& arguments, c
     if (inputs.isEmpty() && !arguments.Has(QStringLiteral("--files-from"))) {
         throw RequestError{BatchJob::Phrase::English("no inputs"), RequestError::Kind::NoInputs};
     }
-    const RequestError error = NoPictures(arguments);
     if (!arguments.Has(QStringLiteral("--allow-empty"))) {
-        throw error;
+        throw NoPictures(arguments);
     }
     const bool needsNoFolder = arguments.Has(QStringLiteral("--in-place")); // That is the folder of the pictures.
     if (!needsNoFolder || !job.GetOutputSettings()->GetPath().isEmpty()) {
         RequireUsableSettings(job);
     }
     if (!arguments.Has(QStringLiteral("--quiet"))) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(WithFullStop(Translated(error.text))));
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(WithFullStop(Translated(NoPictures(arguments).text))));
     }
     return false;
 }

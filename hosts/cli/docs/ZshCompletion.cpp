@@ -12,7 +12,7 @@ namespace {
 
 const char* const matching = "-M 'm:{[:upper:]}={[:lower:]}' -M 'm:{[:lower:]}={[:upper:]}'";
 
-/// For the words of an array of _describe, and of a specification of _arguments.
+/// For the words of an array of _describe, and of an entry of _arguments.
 QString Escaped(QString text, const char* characters)
 {
     for (const char* character = characters; *character != '\0'; ++character) {

@@ -267,13 +267,13 @@ void tst_CliShellDocs::zshKnowsEveryOption()
     const QString script = QStringLiteral("_arguments() { print -rl -- \"$@\" }; _files() { }; compadd() { }; "
                                           "words=(velkora-batch $2 ''); CURRENT=3; source $1");
     for (const CommandInfo& command : Commands()) {
-        const QStringList specs =
+        const QStringList entries =
             Output(QStringLiteral("zsh"), {QStringLiteral("-f"), QStringLiteral("-c"), script, QStringLiteral("zsh"),
                                            Path("_velkora-batch"), command.name});
         QStringList options;
         static const QRegularExpression name(QStringLiteral("^(?:\\([^)]*\\)|\\*)?(--[a-z-]+)=?\\["));
-        for (const QString& spec : specs) {
-            const QRegularExpressionMatch match = name.match(spec);
+        for (const QString& entry : entries) {
+            const QRegularExpressionMatch match = name.match(entry);
             if (match.hasMatch()) {
                 options.append(match.captured(1));
             }
