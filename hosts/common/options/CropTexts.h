@@ -9,7 +9,7 @@
 #include <QStringList>
 
 /// Crops as users write them.
-namespace BatchCli {
+namespace BatchHost {
 
 /// The words that a crop may begin with.
 QStringList CropWords();
@@ -23,4 +23,4 @@ void CropFromText(const QString& text, const ZTBatchOutputSettings::ImageSize& i
 /// A text that CropFromText() reads whatever the size of the picture is.
 QString CropText(const ZTBatchOutputSettings::Crop& crop);
 
-} // namespace BatchCli
+} // namespace BatchHost

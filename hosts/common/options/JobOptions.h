@@ -12,7 +12,7 @@
 class ZTBatchDocument;
 
 /// Maps the options of the command line to the values of a job and back.
-namespace BatchCli {
+namespace BatchHost {
 
 struct JobOption
 {
@@ -29,4 +29,4 @@ struct JobOption
 /// An option for every value of a job but its inputs, in the order in which they are applied and shown.
 const QVector<JobOption>& JobOptions();
 
-} // namespace BatchCli
+} // namespace BatchHost

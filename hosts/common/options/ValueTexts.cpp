@@ -15,9 +15,8 @@
 #include <limits>
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -230,4 +229,4 @@ QString NamePartText(Settings::NamingPart part, const Settings& settings)
     }
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

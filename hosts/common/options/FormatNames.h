@@ -7,7 +7,7 @@
 #include <QStringList>
 
 /// Formats as users name them.
-namespace BatchCli {
+namespace BatchHost {
 
 /// All formats that a job may have, the original one first.
 QStringList FormatNames();
@@ -15,4 +15,4 @@ QStringList FormatNames();
 /// The format that `text` names, by its name or by an extension of its files, in any letter case. Throws RequestError.
 QString FormatName(const QString& text);
 
-} // namespace BatchCli
+} // namespace BatchHost

@@ -21,9 +21,8 @@
 #include <algorithm>
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -252,4 +251,4 @@ QStringList FormatOptionTexts(const QByteArray& options)
     return texts;
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

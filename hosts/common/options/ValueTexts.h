@@ -15,7 +15,7 @@ constexpr int largestSide = 1'000'000;
 
 /// The values of a job's output settings as users write them. Each ...Text() writes what the matching ...FromText()
 /// reads; the latter throw RequestError for invalid text.
-namespace BatchCli {
+namespace BatchHost {
 
 /// Decimal numbers with a point, whatever the locale.
 double NumberFromText(const QString& text, double minimum, double maximum);
@@ -41,4 +41,4 @@ QString BackgroundText(const ZTBatchOutputSettings::Transformation& transformati
 void NamePartFromText(const QString& text, ZTBatchOutputSettings::NamingPart part, ZTBatchOutputSettings& settings);
 QString NamePartText(ZTBatchOutputSettings::NamingPart part, const ZTBatchOutputSettings& settings);
 
-} // namespace BatchCli
+} // namespace BatchHost

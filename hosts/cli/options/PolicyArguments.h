@@ -4,25 +4,16 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "OptionInfo.h"
 
 #include "job/values/PolicyValues.h"
 
 /// The five exception policies on the command line.
 namespace BatchCli {
 
-/// The name of the option for `kind`, such as "--on-input-error".
-QString PolicyOption(BatchJob::PolicyKind kind);
-
-QVector<OptionInfo> PolicyOptionInfos();
-
 /// Sets the values for which `arguments` have an option. Throws RequestError.
 void ApplyPolicies(const ParsedArguments& arguments, BatchJob::PolicyValues& values);
 
 /// Whether an option of `arguments` says that files for which the policy `kind` decides are left out.
 bool AreLeftOut(const ParsedArguments& arguments, BatchJob::PolicyKind kind);
-
-/// The value of `word` for the policy `kind`. Throws RequestError.
-int PolicyValue(BatchJob::PolicyKind kind, const QString& word);
 
 } // namespace BatchCli

@@ -25,9 +25,8 @@
 #include <limits>
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -533,4 +532,4 @@ const QVector<JobOption>& JobOptions()
     return options;
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

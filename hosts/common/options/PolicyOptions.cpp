@@ -5,18 +5,13 @@
 
 #include "Words.h"
 
-#include "hosts/common/RequestError.h"
 #include "job/values/Phrase.h"
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
-
-constexpr std::array kinds{PolicyKind::Input, PolicyKind::Output, PolicyKind::Processing, PolicyKind::Naming,
-                           PolicyKind::WriteToFormat};
 
 QString HelpOf(PolicyKind kind)
 {
@@ -77,35 +72,21 @@ int PolicyValue(PolicyKind kind, const QString& word)
     }
 }
 
-bool AreLeftOut(const ParsedArguments& arguments, PolicyKind kind)
+const QVector<PolicyKind>& PolicyOptionKinds()
 {
-    const QString option = PolicyOption(kind);
-    return arguments.Has(option) && PolicyValue(kind, arguments.Value(option)) == safePolicy;
+    static const QVector<PolicyKind> kinds{PolicyKind::Input, PolicyKind::Output, PolicyKind::Processing,
+                                           PolicyKind::Naming, PolicyKind::WriteToFormat};
+    return kinds;
 }
 
 QVector<OptionInfo> PolicyOptionInfos()
 {
     QVector<OptionInfo> infos;
-    for (const PolicyKind kind : kinds) {
+    for (const PolicyKind kind : PolicyOptionKinds()) {
         infos.append({PolicyOption(kind), QStringLiteral("WORD"), HelpOf(kind), Phrase::English("Exceptions"), false,
                       Completion::Words, PolicyWords(kind)});
     }
     return infos;
 }
 
-void ApplyPolicies(const ParsedArguments& arguments, PolicyValues& values)
-{
-    for (const PolicyKind kind : kinds) {
-        const QString option = PolicyOption(kind);
-        if (!arguments.Has(option)) {
-            continue;
-        }
-        try {
-            values[std::size_t(kind)] = PolicyValue(kind, arguments.Value(option));
-        } catch (const RequestError& error) {
-            throw error.In(option);
-        }
-    }
-}
-
-} // namespace BatchCli
+} // namespace BatchHost

@@ -10,7 +10,7 @@
 class ZTStyle;
 
 /// Effects and format options as users write them.
-namespace BatchCli {
+namespace BatchHost {
 
 /// An effect of a style.
 struct Effect
@@ -36,4 +36,4 @@ QString TypedValue(const QJsonValue& value);
 /// "KEY=VALUE" for each of the options, in their order.
 QStringList FormatOptionTexts(const QByteArray& options);
 
-} // namespace BatchCli
+} // namespace BatchHost

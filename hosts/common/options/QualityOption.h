@@ -3,15 +3,11 @@
 
 #pragma once
 
-#include "CommandLine.h"
 #include "JobOptions.h"
 
-namespace BatchCli {
+namespace BatchHost {
 
 /// --quality: the quality of the job's format, in place of --format-option quality=N.
 JobOption QualityOption();
 
-/// Throws RequestError when the arguments give two qualities.
-void CheckQuality(const ParsedArguments& arguments);
-
-} // namespace BatchCli
+} // namespace BatchHost

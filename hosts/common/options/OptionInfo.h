@@ -5,11 +5,10 @@
 
 #include <QString>
 #include <QStringList>
-#include <QVector>
 
-/// Options and commands as data, from which arguments are parsed, and help texts, the manual page and the completions
-/// are generated.
-namespace BatchCli {
+/// Options as data: command lines are written and parsed from them, and help texts, the manual page and the
+/// completions are generated.
+namespace BatchHost {
 
 /// What a shell completes a value with.
 enum class Completion { Nothing, Files, Folders, Words };
@@ -26,14 +25,4 @@ struct OptionInfo
     QString shortName = {}; ///< "-o"; empty for none
 };
 
-struct CommandInfo
-{
-    QString name;
-    QString inputs; ///< the arguments after it, "[JOB.xml] [INPUT...]"; empty for none
-    QString help;
-    QVector<OptionInfo> options;
-    Completion completion = Completion::Nothing; ///< of the arguments after it
-    QStringList words = {};
-};
-
-} // namespace BatchCli
+} // namespace BatchHost

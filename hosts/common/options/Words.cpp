@@ -6,9 +6,7 @@
 #include "hosts/common/Language.h"
 #include "job/values/Phrase.h"
 
-using namespace BatchHost;
-
-namespace BatchCli {
+namespace BatchHost {
 
 QString NearestHint(const QString& text, const QStringList& words)
 {
@@ -28,4 +26,4 @@ RequestError NoSuchWord(const QString& text, const QStringList& words)
             NearestHint(text, words)};
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

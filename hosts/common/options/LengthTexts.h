@@ -12,7 +12,7 @@
 #include <optional>
 
 /// Lengths as users write them. A text that could mean two things is refused with both of them.
-namespace BatchCli {
+namespace BatchHost {
 
 /// A number with an optional unit behind it, not yet read.
 struct TypedLength
@@ -42,4 +42,4 @@ bool HasDecimals(const QString& number);
 void LengthFromText(const QString& text, ZTBatchOutputSettings::ImageSize& imageSize);
 QString LengthText(const ZTBatchOutputSettings::ImageSize& imageSize);
 
-} // namespace BatchCli
+} // namespace BatchHost

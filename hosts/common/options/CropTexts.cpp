@@ -16,9 +16,8 @@
 #include <cmath>
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -233,4 +232,4 @@ QString CropText(const Settings::Crop& crop)
     return FindTurning(crop.type) == nullptr ? text + QStringLiteral("px") : text;
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

@@ -15,9 +15,8 @@
 #include <limits>
 
 using namespace BatchJob;
-using namespace BatchHost;
 
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -166,4 +165,4 @@ QString LengthText(const Settings::ImageSize& imageSize)
                           : NumberText(imageSize.size) + sign;
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

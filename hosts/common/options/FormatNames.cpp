@@ -9,7 +9,7 @@
 
 #include "ZTBatchOutputSettings.h"
 
-namespace BatchCli {
+namespace BatchHost {
 
 QStringList FormatNames()
 {
@@ -35,4 +35,4 @@ QString FormatName(const QString& text)
     return format->name;
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

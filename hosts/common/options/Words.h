@@ -9,8 +9,8 @@
 
 #include <QStringList>
 
-/// Reads words of the command line.
-namespace BatchCli {
+/// Reads the words of options.
+namespace BatchHost {
 
 /// "; did you mean "X"?", or nothing when none of `words` is similar to `text`.
 QString NearestHint(const QString& text, const QStringList& words);
@@ -19,7 +19,7 @@ QString NearestHint(const QString& text, const QStringList& words);
 QString WithFullStop(const QString& text);
 
 /// The error of a text that should have been one of `words`.
-BatchHost::RequestError NoSuchWord(const QString& text, const QStringList& words);
+RequestError NoSuchWord(const QString& text, const QStringList& words);
 
 /// The value whose word is `text`, in any letter case. Throws RequestError when there is none.
 template<std::size_t count>
@@ -33,4 +33,4 @@ int ValueOf(const std::array<BatchJob::Word, count>& words, const QString& text)
     throw NoSuchWord(text, AllWords(words));
 }
 
-} // namespace BatchCli
+} // namespace BatchHost

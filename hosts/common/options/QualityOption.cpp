@@ -14,9 +14,7 @@
 
 #include <algorithm>
 
-using namespace BatchHost;
-
-namespace BatchCli {
+namespace BatchHost {
 
 namespace {
 
@@ -66,19 +64,4 @@ JobOption QualityOption()
             [](const ZTBatchDocument&) { return QStringList(); }}; // --format-option shows it.
 }
 
-void CheckQuality(const ParsedArguments& arguments)
-{
-    if (!arguments.Has(option)) {
-        return;
-    }
-    for (const QString& text : arguments.Values(formatOption)) {
-        const bool isQuality =
-            text.section(QLatin1Char('='), 0, 0).trimmed().compare(quality, Qt::CaseInsensitive) == 0;
-        if (isQuality && text.section(QLatin1Char('='), 1) != arguments.Value(option)) {
-            throw RequestError{QStringLiteral("%1 %2 and %3 %4 contradict each other; remove one of them")
-                                   .arg(option, arguments.Value(option), formatOption, text)};
-        }
-    }
-}
-
-} // namespace BatchCli
+} // namespace BatchHost
