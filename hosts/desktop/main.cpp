@@ -16,8 +16,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("velkora-batch-desktop"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
-    BatchDesktop::MainWindow window(BatchHost::UserSettingsFolder());
+    BatchDesktop::MainWindow window(BatchHost::UserSettingsFolder(), BatchHost::UserDataFolder());
     window.show();
-    window.AddPaths(QCoreApplication::arguments().mid(1));
+    window.Begin(QCoreApplication::arguments().mid(1));
     return QApplication::exec();
 }

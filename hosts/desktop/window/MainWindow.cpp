@@ -5,6 +5,7 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/settings/sections/SettingsSection.h"
 
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
@@ -28,6 +29,7 @@ namespace {
 
 const QString geometryKey = QStringLiteral("geometry");
 const QString panesKey = QStringLiteral("panes");
+const QString openKey = QStringLiteral("openSections");
 
 RunStates::State StateOf(const FileResult& result)
 {
@@ -44,18 +46,19 @@ RunStates::State StateOf(const FileResult& result)
 
 } // namespace
 
-MainWindow::MainWindow(const QString& settingsFolder)
+MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
     : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowTitle(Messages::tr("Velkora Batch"));
+    desk = std::make_unique<JobDesk>(job, *presets, *this, dataFolder);
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
     ConnectPictures();
     ConnectRun();
+    ConnectJobs();
     UpdateStart();
     UpdateForecast();
     RestoreLayout();
@@ -64,12 +67,14 @@ MainWindow::MainWindow(const QString& settingsFolder)
 MainWindow::~MainWindow()
 {
     inputs.reset(); // It is registered with the manager and uses the pane.
+    desk.reset();   // It looks at the presets.
     delete takeCentralWidget();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     SaveLayout();
+    desk->Close();
     QMainWindow::closeEvent(event);
 }
 
@@ -84,6 +89,10 @@ void MainWindow::RestoreLayout()
         const int share = width() / 10;
         panes->setSizes({3 * share, 4 * share, 3 * share});
     }
+    const QStringList open = layout.value(openKey).toStringList();
+    for (SettingsSection* const section : settings->Sections()) {
+        section->SetFolded(!open.contains(section->objectName()));
+    }
 }
 
 void MainWindow::SaveLayout() const
@@ -91,6 +100,13 @@ void MainWindow::SaveLayout() const
     QSettings layout(layoutFile, QSettings::IniFormat);
     layout.setValue(geometryKey, saveGeometry());
     layout.setValue(panesKey, panes->saveState());
+    QStringList open;
+    for (const SettingsSection* const section : settings->Sections()) {
+        if (!section->IsFolded()) {
+            open.append(section->objectName());
+        }
+    }
+    layout.setValue(openKey, open);
 }
 
 QWidget* MainWindow::NewTopRow()
@@ -105,7 +121,6 @@ QWidget* MainWindow::NewTopRow()
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
-    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->SetForecast(text); });
     return row;
 }
 
@@ -114,6 +129,8 @@ void MainWindow::MakePanes()
     auto* const body = new QWidget;
     auto* const layout = new QVBoxLayout(body);
     layout->addWidget(NewTopRow());
+    layout->addWidget(&desk->Naming());
+    layout->addWidget(&desk->Notice());
     panes = new QSplitter;
     panes->setObjectName(QStringLiteral("panes"));
     panes->setChildrenCollapsible(false);
@@ -139,6 +156,8 @@ void MainWindow::MakeMenus()
     const ZTBatchManager* const manager = ZTBatchManager::Instance();
     file->addActions(manager != nullptr ? manager->GetInputActions() : QList<QAction*>());
     file->addSeparator();
+    desk->FillJobMenu(*file);
+    file->addSeparator();
     QAction* const quit = file->addAction(Messages::tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -153,6 +172,8 @@ void MainWindow::MakeMenus()
     edit->addMenu(settings->AddEffectMenu());
     edit->addActions(settings->EffectActions());
 
+    desk->FillPresetMenu(*menuBar()->addMenu(Messages::tr("&Preset")));
+
     QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
     view->addActions(preview->Actions());
     view->addSeparator();
@@ -161,6 +182,36 @@ void MainWindow::MakeMenus()
     previous->setShortcut(QKeySequence(Qt::Key_BracketLeft));
     QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
+}
+
+void MainWindow::OpenPaths(const QStringList& paths)
+{
+    const QStringList others = desk->OpenJobs(paths);
+    if (!others.isEmpty()) {
+        AddPaths(others);
+    }
+}
+
+void MainWindow::Begin(const QStringList& paths)
+{
+    desk->Restore(paths.isEmpty());
+    OpenPaths(paths);
+}
+
+void MainWindow::ConnectJobs()
+{
+    connect(&desk->Keeper(), &JobKeeper::Changed, this, &MainWindow::ShowTitle);
+    desk->WatchDrops(*this);
+    desk->WatchDrops(*pictures);
+    ShowTitle();
+}
+
+void MainWindow::ShowTitle()
+{
+    const JobKeeper& keeper = desk->Keeper();
+    setWindowTitle(Messages::tr("%1[*] - Velkora Batch").arg(keeper.Name()));
+    setWindowModified(keeper.IsChanged());
+    setWindowFilePath(keeper.File());
 }
 
 void MainWindow::ConnectPictures()

@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include "PresetBox.h"
-
 #include "hosts/desktop/job/EditedJob.h"
+#include "hosts/desktop/jobs/JobDesk.h"
 #include "hosts/desktop/pictures/InputModule.h"
 #include "hosts/desktop/pictures/PicturesPane.h"
 #include "hosts/desktop/preview/PreviewPane.h"
@@ -26,17 +25,29 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Policies and presets are in `settingsFolder`.
-    explicit MainWindow(const QString& settingsFolder);
+    /// Policies and presets are in `settingsFolder`; what the window remembers is in `dataFolder`.
+    explicit MainWindow(const QString& settingsFolder)
+        : MainWindow(settingsFolder, settingsFolder)
+    {
+    }
+    MainWindow(const QString& settingsFolder, const QString& dataFolder);
     ~MainWindow() override;
 
     EditedJob& Job() { return job; }
     JobRunner& Runner() { return runner; }
+    JobDesk& Desk() { return *desk; }
+    PresetBox& PresetChoice() { return *presets; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
 
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
+
+    /// Opens a job file among `paths`, and adds the other files and the folders.
+    void OpenPaths(const QStringList& paths);
+
+    /// Brings back what was edited when the last window ended, and opens `paths`.
+    void Begin(const QStringList& paths);
 
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();
@@ -50,6 +61,8 @@ private:
     QWidget* NewTopRow();
     void MakePanes();
     void MakeMenus();
+    void ConnectJobs();
+    void ShowTitle();
     void ConnectRun();
     void ConnectPictures();
     void OnResult(const QString& input);
@@ -68,6 +81,7 @@ private:
     RunBar* bar = nullptr;
     QPushButton* start = nullptr;
     std::unique_ptr<InputModule> inputs;
+    std::unique_ptr<JobDesk> desk;
 };
 
 } // namespace BatchDesktop
