@@ -20,6 +20,8 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include <utility>
+
 using namespace BatchHost;
 
 namespace BatchDesktop {
@@ -43,6 +45,13 @@ JobDesk::JobDesk(EditedJob& job, PresetBox& presets, QWidget& window, const QStr
     connect(&presets, &PresetBox::Problem, this, &JobDesk::Tell);
     connect(&presets, &PresetBox::ActiveChanged, &autosave, &Autosave::NoteChange);
     connect(&presets, &PresetBox::ActiveChanged, this, &JobDesk::UpdatePresetActions);
+    connect(&autosave, &Autosave::Failed, this, [this] {
+        if (!std::exchange(isSaveFailureTold, true)) {
+            Tell(Messages::tr("What you edit cannot be kept in %1; save the job before the window ends.")
+                     .arg(QDir::toNativeSeparators(autosave.Folder())));
+        }
+    });
+    connect(&autosave, &Autosave::Saved, this, [this] { isSaveFailureTold = false; });
     connect(&command, &CommandCopy::Failed, this, &JobDesk::Tell);
     connect(&command, &CommandCopy::Made, this, [this](const QStringList& arguments) {
         QGuiApplication::clipboard()->setText(ShellLine(arguments));

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void changedJobsAreNeverLeftBehind();
     void foldersKeepTheirTree();
     void damagedFilesAreNoObstacle();
+    void unwritableFoldersAreSaidOnce();
     void largeJobsDoNotStopTheWindow();
 
 private:
@@ -167,6 +168,30 @@ void tst_Autosave::damagedFilesAreNoObstacle()
     QVERIFY(stage->job.CurrentSettings() == before);
 }
 
+void tst_Autosave::unwritableFoldersAreSaidOnce()
+{
+    const QString inTheWay = folder->filePath(QStringLiteral("data/edited"));
+    QTRY_VERIFY(stage->desk->Saving().IsDone());
+    QVERIFY(QDir(inTheWay).removeRecursively());
+    DeskStage::Write(inTheWay, "a file");
+    QSignalSpy failures(&stage->desk->Saving(), &Autosave::Failed);
+    Edit();
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(stage->Notice().contains(stage->Path("data")));
+    stage->desk->Notice().hide();
+    stage->SetLength(1);
+    QTRY_COMPARE(failures.size(), 2);
+    QCOMPARE(stage->Notice(), QString());
+    QVERIFY(QFile::remove(inTheWay));
+    QSignalSpy saved(&stage->desk->Saving(), &Autosave::Saved);
+    stage->SetLength(2);
+    QTRY_COMPARE(saved.size(), 1);
+    Restart();
+    stage->desk->Restore(true);
+    QCOMPARE(stage->Inputs().size(), 2);
+    QCOMPARE(stage->Length(), 2.0);
+}
+
 // Of several saves, the best counts: others may use the machine.
 void tst_Autosave::largeJobsDoNotStopTheWindow()
 {
@@ -191,6 +216,12 @@ void tst_Autosave::largeJobsDoNotStopTheWindow()
     }
     qInfo("The window stood still for %d ms.", int(best));
     QVERIFY(best < longest);
+    Restart();
+    QElapsedTimer clock;
+    clock.start();
+    stage->desk->Restore(true);
+    qInfo("It has everything again after %d ms.", int(clock.elapsed()));
+    QCOMPARE(stage->job.Document().GetInputModel()->GetFileNodesCount(), files + 5);
 }
 
 QTEST_MAIN(tst_Autosave)

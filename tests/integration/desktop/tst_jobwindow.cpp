@@ -40,6 +40,7 @@ private Q_SLOTS:
     void droppedJobsAreOpenedAnywhere();
     void brokenJobsAreSaid();
     void openSectionsStayOpen();
+    void closedWindowsComeBack();
     void killedWindowsComeBack();
     void copiedCommandsDoTheSame_data();
     void copiedCommandsDoTheSame();
@@ -265,6 +266,29 @@ void tst_JobWindow::openSectionsStayOpen()
     Open();
     QVERIFY(!window->findChild<SettingsSection*>(QStringLiteral("size"))->IsFolded());
     QVERIFY(window->findChild<SettingsSection*>(QStringLiteral("folder"))->IsFolded());
+}
+
+void tst_JobWindow::closedWindowsComeBack()
+{
+    window->AddPaths({Path(QStringLiteral("photos"))});
+    QTRY_COMPARE(window->Pictures().Inputs().FileCount(), 3);
+    SetLength(window->Job(), 345);
+    const Settings before = window->Job().CurrentSettings();
+    window->close();
+    window.reset();
+    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
+    window->show();
+    window->Begin({});
+    QCOMPARE(Notice(), QString());
+    QCOMPARE(window->Pictures().Inputs().FileCount(), 3);
+    QVERIFY(window->Job().CurrentSettings() == before);
+    window->close();
+    window.reset();
+    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
+    const QString picture = Path(QStringLiteral("photos/1 it's.jpg"));
+    window->Begin({picture});
+    QTRY_COMPARE(Inputs(), QStringList{picture});
+    QCOMPARE(window->Job().CurrentSettings().imageSize.size, 345.0);
 }
 
 void tst_JobWindow::killedWindowsComeBack()
