@@ -13,6 +13,7 @@
 #include "hosts/desktop/job/EditedJob.h"
 
 #include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -138,12 +139,10 @@ void JobDesk::Restore(bool withInputs)
     }
     const bool isWhole = withInputs || !state->isClosed || (!state->jobFile.isEmpty() && state->isChanged);
     job.Replace([&](ZTBatchDocument& document) {
-        if (isWhole) {
-            try {
-                files.ReadInputs(document);
-            } catch (const RequestError&) {
-                // There were none.
-            }
+        document.GetInputModel()->removeRows(0, document.GetInputModel()->rowCount());
+        const std::optional<InputSnapshot> inputs = isWhole ? files.ReadInputs() : std::nullopt;
+        if (inputs) {
+            inputs->AddTo(document);
         }
         state->settings.ApplyTo(document);
         document.SetDocumentName(isWhole ? state->name : QString());

@@ -91,9 +91,7 @@ void tst_Autosave::changesAreSavedSoon()
     QVERIFY(!saved.isEmpty());
     const EditedFiles files(stage->Path("data"));
     QCOMPARE(files.ReadState()->settings.imageSize.size, 456.0);
-    ZTBatchDocument job;
-    files.ReadInputs(job);
-    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
+    QCOMPARE(files.ReadInputs()->TopPaths(), (QStringList{QStringLiteral("/in/a.jpg"), QStringLiteral("/in/b.jpg")}));
 }
 
 void tst_Autosave::closedWindowsKeepTheirPictures()
@@ -153,9 +151,16 @@ void tst_Autosave::damagedFilesAreNoObstacle()
     Edit();
     stage.reset();
     const QString state = folder->filePath(QStringLiteral("data/edited/state.json"));
-    const QString inputs = folder->filePath(QStringLiteral("data/edited/inputs.xml"));
+    const QString inputs = folder->filePath(QStringLiteral("data/edited/inputs.dat"));
     QVERIFY(QFile::exists(state));
-    DeskStage::Write(inputs, "damaged");
+    QFile whole(inputs);
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    for (int length = 0; length < bytes.size(); ++length) {
+        DeskStage::Write(inputs, bytes.left(length));
+        QVERIFY(!EditedFiles(folder->filePath(QStringLiteral("data"))).ReadInputs());
+    }
+    DeskStage::Write(inputs, "damaged and much longer than a mark");
     stage = std::make_unique<DeskStage>(folder->path());
     stage->desk->Restore(true);
     QVERIFY(stage->Inputs().isEmpty());
