@@ -153,7 +153,8 @@ void JobDesk::Restore(bool withInputs)
     job.History().clear();
     presets.SetActive(state->preset);
     keeper.SetFile(isWhole ? state->jobFile : QString(), isWhole && state->isChanged);
-    if (!state->isClosed) {
+    const bool wasBusy = state->isChanged || job.Document().GetInputModel()->rowCount() > 0;
+    if (!state->isClosed && wasBusy) {
         Tell(Messages::tr("The window did not end as it should; this is what was edited last."));
     }
 }

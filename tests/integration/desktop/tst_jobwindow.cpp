@@ -10,11 +10,13 @@
 
 #include "ZTBatchInputModel.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorSpace>
 #include <QDropEvent>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -34,7 +36,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void theTitleNamesTheJob();
-    void everyActionIsInAMenu();
+    void everyActionHasAMenuAndItsOwnKeys();
     void argumentsAreOpened();
     void droppedJobsAreOpenedAnywhere_data();
     void droppedJobsAreOpenedAnywhere();
@@ -192,12 +194,24 @@ void tst_JobWindow::theTitleNamesTheJob()
     QVERIFY(window->isWindowModified());
 }
 
-void tst_JobWindow::everyActionIsInAMenu()
+void tst_JobWindow::everyActionHasAMenuAndItsOwnKeys()
 {
     for (const char* name : {"newJob", "openJob", "saveJob", "saveJobAs", "copyCommand", "savePreset", "renamePreset",
                              "removePreset", "importPreset", "exportPreset"}) {
         QVERIFY2(qobject_cast<QMenu*>(Action(name).parent()), name);
     }
+    QStringList mnemonics;
+    const auto menus = window->menuBar()->actions();
+    for (const QAction* const menu : menus) {
+        mnemonics.append(QKeySequence::mnemonic(menu->text()).toString());
+    }
+    const auto headings = window->findChildren<QAbstractButton*>(QRegularExpression(QStringLiteral("\\.heading$")));
+    for (const QAbstractButton* const heading : headings) {
+        mnemonics.append(QKeySequence::mnemonic(heading->text()).toString());
+    }
+    QVERIFY(mnemonics.size() > 10);
+    mnemonics.removeAll(QString());
+    QCOMPARE(mnemonics.removeDuplicates(), 0);
     QHash<QKeySequence, QString> keys;
     const auto actions = window->findChildren<QAction*>();
     for (const QAction* const action : actions) {
