@@ -18,21 +18,21 @@ namespace BatchDesktop {
 
 NoticeLine::NoticeLine(QWidget* parent)
     : QFrame(parent)
-    , text(new QLabel(this))
+    , message(new QLabel(this))
     , button(new QToolButton(this))
     , close(new QToolButton(this))
 {
     setObjectName(QStringLiteral("notice"));
     setFrameShape(QFrame::StyledPanel);
-    text->setObjectName(QStringLiteral("noticeText"));
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
+    message->setObjectName(QStringLiteral("noticeText"));
+    message->setTextFormat(Qt::PlainText);
+    message->setWordWrap(true);
     button->setObjectName(QStringLiteral("noticeAction"));
     close->setObjectName(QStringLiteral("noticeClose"));
     close->setText(Messages::tr("Close"));
     close->setAccessibleName(Messages::tr("Close the notice"));
     auto* const row = new QHBoxLayout(this);
-    row->addWidget(text, 1);
+    row->addWidget(message, 1);
     for (QToolButton* const each : {button, close}) {
         each->setFocusPolicy(Qt::StrongFocus);
         row->addWidget(each);
@@ -40,24 +40,24 @@ NoticeLine::NoticeLine(QWidget* parent)
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     connect(button, &QToolButton::clicked, this, [this] {
         hide();
-        std::exchange(action, {})();
+        std::exchange(pending, {})();
     });
     hide();
 }
 
-void NoticeLine::Show(const QString& wanted)
+void NoticeLine::Show(const QString& text)
 {
-    Show(wanted, QString(), {});
+    Show(text, QString(), {});
 }
 
-void NoticeLine::Show(const QString& wanted, const QString& label, const std::function<void()>& wantedAction)
+void NoticeLine::Show(const QString& text, const QString& label, const std::function<void()>& action)
 {
-    text->setText(wanted);
-    action = wantedAction;
+    message->setText(text);
+    pending = action;
     button->setText(label);
     button->setAccessibleName(label);
     button->setVisible(bool(action));
-    setAccessibleName(wanted);
+    setAccessibleName(text);
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
@@ -65,7 +65,7 @@ void NoticeLine::Show(const QString& wanted, const QString& label, const std::fu
 
 QString NoticeLine::Text() const
 {
-    return isHidden() ? QString() : text->text();
+    return isHidden() ? QString() : message->text();
 }
 
 } // namespace BatchDesktop

@@ -28,10 +28,10 @@ public:
     QString Text() const;
 
 private:
-    QLabel* const text;
+    QLabel* const message;
     QToolButton* const button;
     QToolButton* const close;
-    std::function<void()> action;
+    std::function<void()> pending; ///< what the button does
 };
 
 } // namespace BatchDesktop

@@ -47,12 +47,15 @@ PresetNameLine::PresetNameLine(PresetBox& presets, QWidget* parent)
     connect(name, &QLineEdit::textChanged, this, &PresetNameLine::Refresh);
     connect(name, &QLineEdit::returnPressed, this, &PresetNameLine::Accept);
     connect(accept, &QPushButton::clicked, this, &PresetNameLine::Accept);
-    connect(cancel, &QPushButton::clicked, this, &QWidget::hide);
+    connect(cancel, &QPushButton::clicked, this, &PresetNameLine::Leave);
     hide();
 }
 
 void PresetNameLine::Ask(Purpose wanted, const QString& suggestion)
 {
+    if (isHidden()) {
+        focusBefore = window()->focusWidget();
+    }
     purpose = wanted;
     label->setText(purpose == Purpose::Save ? Messages::tr("Save the settings as the preset")
                                             : Messages::tr("New name of the preset %1").arg(presets.Active()));
@@ -66,10 +69,18 @@ void PresetNameLine::Ask(Purpose wanted, const QString& suggestion)
 void PresetNameLine::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {
-        hide();
+        Leave();
     } else {
         QFrame::keyPressEvent(event);
     }
+}
+
+void PresetNameLine::Leave()
+{
+    if (focusBefore) {
+        focusBefore->setFocus(Qt::OtherFocusReason);
+    }
+    hide();
 }
 
 void PresetNameLine::Refresh()
@@ -103,7 +114,7 @@ void PresetNameLine::Accept()
         name->setFocus(Qt::OtherFocusReason);
         return;
     }
-    hide();
+    Leave();
 }
 
 } // namespace BatchDesktop

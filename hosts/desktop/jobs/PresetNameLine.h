@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 class QLabel;
 class QLineEdit;
@@ -31,10 +32,12 @@ protected:
 
 private:
     void Accept();
+    void Leave();
     void Refresh();
 
     PresetBox& presets;
     Purpose purpose = Purpose::Save;
+    QPointer<QWidget> focusBefore;
     QLabel* const label;
     QLineEdit* const name;
     QPushButton* const accept;

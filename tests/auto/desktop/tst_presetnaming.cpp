@@ -77,7 +77,9 @@ QString tst_PresetNaming::Tip(const QString& name) const
 void tst_PresetNaming::presetsAreNamedInALine()
 {
     stage->SetLength(640);
+    stage->presets->setFocus();
     Save(QStringLiteral("Small"));
+    QVERIFY(stage->presets->hasFocus());
     QVERIFY(QFile::exists(File("Small.xml")));
     QVERIFY(stage->desk->Naming().isHidden());
     QCOMPARE(stage->presets->Active(), QStringLiteral("Small"));
