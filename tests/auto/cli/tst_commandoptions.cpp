@@ -12,6 +12,7 @@
 #include "ZTBatchOutputSettings.h"
 #include "ZTStyle.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QtTest>
 
@@ -44,7 +45,7 @@ const BatchJob::PolicyValues skipping{};
 void Build(ZTBatchDocument& job)
 {
     SetJobDefaults(job);
-    job.GetOutputSettings()->SetPath(QStringLiteral("/some where/results"));
+    job.GetOutputSettings()->SetPath(QDir::rootPath() + QStringLiteral("some where/results"));
 }
 
 /// The job that the command line makes of `options`.
@@ -70,8 +71,9 @@ void tst_CommandOptions::newJobsNeedOnlyTheFolder()
     Build(job);
     job.SetDocumentName(QStringLiteral("a name"));
     QCOMPARE(CommandOptions(job, skipping, QString()).join(QLatin1Char(' ')),
-             QStringLiteral("--output /some where/results --on-input-error skip --on-output-error skip "
-                            "--on-processing-error skip --on-name-exists skip --on-format skip"));
+             QStringLiteral("--output %1some where/results --on-input-error skip --on-output-error skip "
+                            "--on-processing-error skip --on-name-exists skip --on-format skip")
+                 .arg(QDir::rootPath()));
 }
 
 void tst_CommandOptions::optionsMakeTheSameJob_data()
