@@ -43,6 +43,13 @@ JobDesk::JobDesk(EditedJob& job, PresetBox& presets, QWidget& window, const QStr
     connect(&keeper, &JobKeeper::Notice, this, &JobDesk::Tell);
     connect(&keeper, &JobKeeper::Used, this, [this](const QString& path) { recent.Add(path); });
     connect(&keeper, &JobKeeper::Failed, this, [this](const QString& path) { recent.Remove(path); });
+    connect(&keeper, &JobKeeper::Leaving, this, [this] { presetBefore = this->presets.Active(); });
+    connect(&keeper, &JobKeeper::Left, this, &JobDesk::OfferToTakeBack);
+    connect(&job.History(), &QUndoStack::indexChanged, this, [this](int index) {
+        if (index > 0 && std::exchange(isTakingBackOffered, false)) {
+            notice->hide(); // What has changed since would be lost.
+        }
+    });
     connect(&presets, &PresetBox::Problem, this, &JobDesk::Tell);
     connect(&presets, &PresetBox::ActiveChanged, &autosave, &Autosave::NoteChange);
     connect(&presets, &PresetBox::ActiveChanged, this, &JobDesk::UpdatePresetActions);
@@ -62,6 +69,12 @@ JobDesk::JobDesk(EditedJob& job, PresetBox& presets, QWidget& window, const QStr
         ZTBatchOutputSettings& output = *document.GetOutputSettings();
         output.SetPath(CompleteOutputFolder(output.GetPath(), QDir::homePath()));
     });
+}
+
+void JobDesk::Tell(const QString& text)
+{
+    isTakingBackOffered = false;
+    notice->Show(text);
 }
 
 QAction* JobDesk::AddAction(QMenu& menu, const char* name, const QString& text, const std::function<void()>& trigger,
@@ -128,6 +141,16 @@ void JobDesk::FillPresetMenu(QMenu& menu)
     AddAction(menu, "importPreset", Messages::tr("&Import preset\u2026"), [this] { ImportPreset(); });
     AddAction(menu, "exportPreset", Messages::tr("&Export preset\u2026"), [this] { ExportPreset(); });
     UpdatePresetActions();
+}
+
+void JobDesk::OfferToTakeBack()
+{
+    notice->Show(Messages::tr("The job before this one was not saved."), Messages::tr("Take it back"), [this] {
+        isTakingBackOffered = false;
+        keeper.TakeBack();
+        presets.SetActive(presetBefore);
+    });
+    isTakingBackOffered = true;
 }
 
 void JobDesk::Restore(bool withInputs)
@@ -229,6 +252,7 @@ void JobDesk::RemovePreset()
     const QString name = presets.Active();
     try {
         const QByteArray content = presets.Remove();
+        isTakingBackOffered = false;
         notice->Show(Messages::tr("The preset %1 is deleted; the settings stay as they are.").arg(name),
                      Messages::tr("Undo"), [this, name, content] { presets.Restore(name, content); });
     } catch (const RequestError& error) {

@@ -35,7 +35,7 @@ public:
     QWidget& Naming() { return *naming; }
 
     /// Says `text` where it is seen until it is put away.
-    void Tell(const QString& text) { notice->Show(text); }
+    void Tell(const QString& text);
 
     /// Adds what can be done with jobs, and with presets.
     void FillJobMenu(QMenu& menu);
@@ -58,6 +58,7 @@ private:
     QAction* AddAction(QMenu& menu, const char* name, const QString& text, const std::function<void()>& trigger,
                        const QKeySequence& key = QKeySequence());
     EditState Describe() const;
+    void OfferToTakeBack();
     void FillRecent();
     void ImportPreset();
     void ExportPreset();
@@ -75,6 +76,8 @@ private:
     NoticeLine* const notice;
     PresetNameLine* const naming;
     bool isSaveFailureTold = false;
+    QString presetBefore;             ///< the active one of the job that was left
+    bool isTakingBackOffered = false; ///< by the notice
     QMenu* recentMenu = nullptr;
     QAction* renamePreset = nullptr;
     QAction* removePreset = nullptr;

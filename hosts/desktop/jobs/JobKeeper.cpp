@@ -17,6 +17,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <utility>
+
 using namespace BatchHost;
 
 namespace BatchDesktop {
@@ -85,7 +87,7 @@ void JobKeeper::New()
         settings.ApplyTo(document);
         document.SetDocumentName(QString());
     });
-    SetFile(QString(), false);
+    Arrive(QString());
 }
 
 bool JobKeeper::Open()
@@ -103,15 +105,16 @@ bool JobKeeper::Open(const QString& path)
     try {
         job.Replace([&](ZTBatchDocument& document) { warnings = Read(document, path); });
     } catch (const RequestError& error) {
+        left.reset();
         Q_EMIT Failed(path);
         Q_EMIT Notice(Translated(error.text));
         return false;
     }
-    SetFile(path, false);
-    Q_EMIT Used(path);
     if (!warnings.isEmpty()) {
         Q_EMIT Notice(Translated(warnings.first()));
     }
+    Arrive(path); // Its notice matters more.
+    Q_EMIT Used(path);
     return true;
 }
 
@@ -144,10 +147,31 @@ void JobKeeper::SetFile(const QString& path, bool isChanged)
     Q_EMIT Changed();
 }
 
-/// Whether the present job may go: it has no changes, they are saved now, or the user can do without them.
+void JobKeeper::TakeBack()
+{
+    const std::unique_ptr<const JobSnapshot> before = std::move(left);
+    if (!before) {
+        return;
+    }
+    job.Replace([&before](ZTBatchDocument& document) {
+        document.GetInputModel()->removeRows(0, document.GetInputModel()->rowCount());
+        before->settings.ApplyTo(document);
+        document.SetDocumentName(before->name);
+        before->inputs.AddTo(document);
+    });
+    SetFile(QString(), true);
+}
+
+/// Whether the present job may go: it has no changes, they are kept or saved now, or the user can do without them.
 bool JobKeeper::MayGo()
 {
+    left.reset();
     if (!IsChanged()) {
+        return true;
+    }
+    if (file.isEmpty()) {
+        left = std::make_unique<const JobSnapshot>(job);
+        Q_EMIT Leaving();
         return true;
     }
     switch (dialogs.askForChanges(&window, Name())) {
@@ -159,6 +183,15 @@ bool JobKeeper::MayGo()
         break;
     }
     return false;
+}
+
+/// The job of `path` is there, or a new one.
+void JobKeeper::Arrive(const QString& path)
+{
+    SetFile(path, false);
+    if (left) {
+        Q_EMIT Left();
+    }
 }
 
 bool JobKeeper::SaveTo(const QString& path)

@@ -4,9 +4,12 @@
 #pragma once
 
 #include "JobDialogs.h"
+#include "JobSnapshot.h"
 
 #include <QObject>
 #include <QWidget>
+
+#include <memory>
 
 namespace BatchDesktop {
 
@@ -33,11 +36,11 @@ public:
 
     bool IsChanged() const;
 
-    /// Begins an empty job.
+    /// Begins an empty job. Changes of a job that is in a file are asked about first; another job can be taken back.
     void New();
 
-    /// Opens the job in a file that the user chooses, or the one in `path`. Changes of the present job are asked about
-    /// first. False if that is the job still.
+    /// Opens the job in a file that the user chooses, or the one in `path`, as carefully as New(). False if the present
+    /// job is the job still.
     bool Open();
     bool Open(const QString& path);
 
@@ -45,12 +48,21 @@ public:
     bool Save();
     bool SaveAs();
 
+    /// Makes the job that New() or Open() has left the edited one again.
+    void TakeBack();
+
     /// The job that was restored is the one of `path`, with changes or without.
     void SetFile(const QString& path, bool isChanged);
 
 Q_SIGNALS:
     /// File(), Name() or IsChanged() may have changed.
     void Changed();
+
+    /// Another job takes the place of the present one, which has changes and is in no file.
+    void Leaving();
+
+    /// That has happened: TakeBack() is possible as long as the new job is not changed.
+    void Left();
 
     /// A job was read from or written to `path`.
     void Used(const QString& path);
@@ -63,6 +75,7 @@ Q_SIGNALS:
 
 private:
     bool MayGo();
+    void Arrive(const QString& path);
     bool SaveTo(const QString& path);
     QString Folder() const;
 
@@ -70,6 +83,7 @@ private:
     QWidget& window;
     QString file;
     bool wasChanged = false; ///< before the history began
+    std::unique_ptr<const JobSnapshot> left;
 };
 
 } // namespace BatchDesktop

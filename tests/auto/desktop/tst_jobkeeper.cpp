@@ -28,6 +28,8 @@ private Q_SLOTS:
     void existingFilesAreNotReplacedByTheExtension();
     void changesAreAskedAbout_data();
     void changesAreAskedAbout();
+    void jobsWithoutAFileCanBeTakenBack();
+    void changedJobsAreNotReplacedByThoseBefore();
     void undoneChangesAreNone();
     void brokenJobsLeaveThePresentOne_data();
     void brokenJobsLeaveThePresentOne();
@@ -169,6 +171,37 @@ void tst_JobKeeper::changesAreAskedAbout()
     QCOMPARE(stage->Length(), saved);
 }
 
+void tst_JobKeeper::jobsWithoutAFileCanBeTakenBack()
+{
+    stage->presets->Choose(QStringLiteral("web"));
+    stage->SetLength(200);
+    stage->AddInputs({QStringLiteral("a.jpg")});
+    const Settings before = stage->job.CurrentSettings();
+    keeper->New();
+    QCOMPARE(questions, 0);
+    QVERIFY(stage->Inputs().isEmpty());
+    QVERIFY(!stage->Notice().isEmpty());
+    QTest::mouseClick(&stage->The<QToolButton>("noticeAction"), Qt::LeftButton);
+    QVERIFY(stage->job.CurrentSettings() == before);
+    QCOMPARE(stage->Inputs(), QStringList{QStringLiteral("a.jpg")});
+    QCOMPARE(stage->presets->Active(), QStringLiteral("web"));
+    QVERIFY(stage->presets->IsChanged());
+    QVERIFY(keeper->IsChanged());
+    QCOMPARE(stage->Notice(), QString());
+}
+
+void tst_JobKeeper::changedJobsAreNotReplacedByThoseBefore()
+{
+    stage->SetLength(200);
+    keeper->New();
+    QVERIFY(!stage->Notice().isEmpty());
+    stage->SetLength(300);
+    QCOMPARE(stage->Notice(), QString());
+    stage->desk->Tell(QStringLiteral("Something else"));
+    stage->SetLength(301);
+    QCOMPARE(stage->Notice(), QStringLiteral("Something else"));
+}
+
 void tst_JobKeeper::undoneChangesAreNone()
 {
     Save("job.vbatch.xml");
@@ -290,9 +323,14 @@ void tst_JobKeeper::fullDisksAndMissingFoldersAreSaid()
     QVERIFY(stage->Notice().contains(chosen));
     QVERIFY(keeper->IsChanged());
     QVERIFY(keeper->File().isEmpty());
+    const QString path = Save("sub.vbatch.xml");
+    stage->SetLength(6);
+    QVERIFY(QFile::remove(path) && QDir().mkpath(path)); // A folder in the place of the file.
     answer = JobDialogs::Answer::Save;
     keeper->New(); // What cannot be saved does not go.
-    QCOMPARE(stage->Length(), 5.0);
+    QCOMPARE(questions, 1);
+    QVERIFY(stage->Notice().contains(path));
+    QCOMPARE(stage->Length(), 6.0);
 }
 
 QTEST_MAIN(tst_JobKeeper)
