@@ -42,6 +42,7 @@ SettingsPane::SettingsPane(EditedJob& job, QWidget* parent, Choosers wanted)
     sections.append(new ErrorsSection(job, choosers, content));
     sections.append(new FolderSection(job, choosers, content));
     auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
     for (SettingsSection* const section : qAsConst(sections)) {
         column->addWidget(section);
     }

@@ -80,17 +80,14 @@ void MainWindow::RestoreLayout()
         constexpr QSize usual(1280, 800);
         resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     }
-    if (!panes->restoreState(layout.value(panesKey).toByteArray())) {
-        const int share = width() / 10;
-        panes->setSizes({3 * share, 4 * share, 3 * share});
-    }
+    panes->SetWidths(layout.value(panesKey).toByteArray());
 }
 
 void MainWindow::SaveLayout() const
 {
     QSettings layout(layoutFile, QSettings::IniFormat);
     layout.setValue(geometryKey, saveGeometry());
-    layout.setValue(panesKey, panes->saveState());
+    layout.setValue(panesKey, panes->Widths());
 }
 
 QWidget* MainWindow::NewTopRow()
@@ -113,24 +110,20 @@ void MainWindow::MakePanes()
 {
     auto* const body = new QWidget;
     auto* const layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(NewTopRow());
-    panes = new QSplitter;
-    panes->setObjectName(QStringLiteral("panes"));
-    panes->setChildrenCollapsible(false);
     pictures = new PicturesPane(job);
     preview = new PreviewPane(job);
     settings = new SettingsPane(job);
-    for (QWidget* const pane :
-         {static_cast<QWidget*>(pictures), static_cast<QWidget*>(preview), static_cast<QWidget*>(settings)}) {
-        panes->addWidget(pane);
-    }
-    panes->setStretchFactor(1, 1);
+    panes = new PaneArrangement(pictures, preview, settings);
     layout->addWidget(panes, 1);
     questions = new QuestionBar(runner);
     bar = new RunBar(runner);
     layout->addWidget(questions);
     layout->addWidget(bar);
     setCentralWidget(body);
+    focus = new PaneFocus(*panes, {pictures, preview, settings, questions, bar}, this);
 }
 
 void MainWindow::MakeMenus()
@@ -161,6 +154,10 @@ void MainWindow::MakeMenus()
     previous->setShortcut(QKeySequence(Qt::Key_BracketLeft));
     QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
+    view->addSeparator();
+    view->addAction(Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
+    view->addAction(Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); },
+                    QKeySequence(Qt::SHIFT + Qt::Key_F6));
 }
 
 void MainWindow::ConnectPictures()
@@ -170,6 +167,9 @@ void MainWindow::ConnectPictures()
         settings->SetExample(file);
     });
     connect(pictures, &PicturesPane::InputsChanged, this, [this] {
+        if (pictures->Current().isEmpty()) {
+            pictures->SelectNext(); // There is something to see at once.
+        }
         UpdateStart();
         UpdateForecast();
     });

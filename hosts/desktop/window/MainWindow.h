@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "PaneArrangement.h"
+#include "PaneFocus.h"
 #include "PresetBox.h"
 
 #include "hosts/desktop/job/EditedJob.h"
@@ -16,7 +18,6 @@
 
 #include <QMainWindow>
 #include <QPushButton>
-#include <QSplitter>
 
 namespace BatchDesktop {
 
@@ -63,7 +64,8 @@ private:
     PicturesPane* pictures = nullptr;
     PreviewPane* preview = nullptr;
     SettingsPane* settings = nullptr;
-    QSplitter* panes = nullptr;
+    PaneArrangement* panes = nullptr;
+    PaneFocus* focus = nullptr;
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
     QPushButton* start = nullptr;
