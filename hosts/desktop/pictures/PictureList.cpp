@@ -58,7 +58,8 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QSize asked = QStyledItemDelegate::sizeHint(option, index);
-        return {asked.width(), std::max(asked.height(), option.decorationSize.height() + option.fontMetrics.height() / 4)};
+        return {asked.width(),
+                std::max(asked.height(), option.decorationSize.height() + option.fontMetrics.height() / 4)};
     }
 };
 

@@ -155,9 +155,10 @@ void MainWindow::MakeMenus()
     QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
     view->addSeparator();
-    view->addAction(Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
-    view->addAction(Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); },
-                    QKeySequence(Qt::SHIFT + Qt::Key_F6));
+    view->addAction(
+        Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
+    view->addAction(
+        Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); }, QKeySequence(Qt::SHIFT + Qt::Key_F6));
 }
 
 void MainWindow::ConnectPictures()

@@ -8,8 +8,8 @@
 
 namespace BatchDesktop {
 
-/// Pictures, preview and settings side by side. Where the window is too narrow for three, the preview is a tab beside the
-/// pictures.
+/// Pictures, preview and settings side by side. Where the window is too narrow for three, the preview is a tab beside
+/// the pictures.
 class PaneArrangement : public QSplitter
 {
     Q_OBJECT
