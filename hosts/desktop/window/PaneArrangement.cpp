@@ -6,6 +6,7 @@
 #include "hosts/common/Language.h"
 
 #include <QResizeEvent>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -31,6 +32,10 @@ PaneArrangement::PaneArrangement(QWidget* picturesPane, QWidget* previewPane, QW
     tabs->setObjectName(QStringLiteral("paneTabs"));
     tabs->setDocumentMode(true);
     tabs->setTabBarAutoHide(true);
+    // It would hand the focus to its bar, which is hidden in wide windows; the keyboard's way would end there.
+    tabs->setFocusProxy(nullptr);
+    tabs->setFocusPolicy(Qt::NoFocus);
+    tabs->tabBar()->setAccessibleName(Messages::tr("Panes"));
     tabs->addTab(pictures, Messages::tr("Pictures"));
     addWidget(tabs);
     addWidget(preview);
