@@ -4,6 +4,7 @@
 #pragma once
 
 #include "PresetBox.h"
+#include "SystemLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
 #include "hosts/desktop/pictures/InputModule.h"
@@ -35,6 +36,9 @@ public:
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
 
+    /// Comes to the front, from an icon too.
+    void BringToFront();
+
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
 
@@ -52,6 +56,7 @@ private:
     void MakeMenus();
     void ConnectRun();
     void ConnectPictures();
+    void ConnectSystem();
     void OnResult(const QString& input);
     void UpdateStart();
     void UpdateForecast();
@@ -68,6 +73,7 @@ private:
     RunBar* bar = nullptr;
     QPushButton* start = nullptr;
     std::unique_ptr<InputModule> inputs;
+    SystemLink system;
 };
 
 } // namespace BatchDesktop
