@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 #include <algorithm>
 
@@ -33,6 +34,15 @@ QStringList Arguments()
     return paths;
 }
 
+QIcon Symbol()
+{
+    QIcon symbol;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        symbol.addFile(QStringLiteral(":/velkora-batch-desktop/icons/%1.png").arg(size));
+    }
+    return symbol;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -46,6 +56,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
     QGuiApplication::setApplicationDisplayName(applicationTitle);
     QGuiApplication::setDesktopFileName(desktopId);
+    QGuiApplication::setWindowIcon(Symbol());
     const QStringList paths = Arguments();
     const QString settingsFolder = BatchHost::UserSettingsFolder();
     SingleInstance instance(settingsFolder);
