@@ -42,12 +42,18 @@ RunStates::State StateOf(const FileResult& result)
     return RunStates::State::Failed;
 }
 
+void OpenFolder(const QString& folder)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+}
+
 } // namespace
 
 MainWindow::MainWindow(const QString& settingsFolder)
     : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
+    , system(runner, *this)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(Messages::tr("Velkora Batch"));
@@ -56,6 +62,7 @@ MainWindow::MainWindow(const QString& settingsFolder)
     MakeMenus();
     ConnectPictures();
     ConnectRun();
+    ConnectSystem();
     UpdateStart();
     UpdateForecast();
     RestoreLayout();
@@ -185,8 +192,28 @@ void MainWindow::ConnectRun()
             [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
     connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
     connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
-    connect(bar, &RunBar::FolderWanted, this,
-            [](const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+    connect(bar, &RunBar::FolderWanted, this, &OpenFolder);
+}
+
+void MainWindow::ConnectSystem()
+{
+    connect(&system, &SystemLink::PercentChanged, this, [this](int percent) {
+        setWindowTitle(percent < 0 ? Messages::tr("Velkora Batch") : Messages::tr("%1 % - Velkora Batch").arg(percent));
+    });
+    connect(&system, &SystemLink::WindowWanted, this, &MainWindow::BringToFront);
+    connect(&system, &SystemLink::FolderWanted, this, &OpenFolder);
+    connect(&system, &SystemLink::FailuresWanted, this, [this] {
+        BringToFront();
+        pictures->Filter(QString(), ShownState::Failed);
+    });
+}
+
+void MainWindow::BringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 void MainWindow::OnResult(const QString& input)

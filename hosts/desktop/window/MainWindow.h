@@ -6,6 +6,7 @@
 #include "PaneArrangement.h"
 #include "PaneFocus.h"
 #include "PresetBox.h"
+#include "SystemLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
 #include "hosts/desktop/pictures/InputModule.h"
@@ -36,6 +37,9 @@ public:
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
 
+    /// Comes to the front, from an icon too.
+    void BringToFront();
+
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
 
@@ -53,6 +57,7 @@ private:
     void MakeMenus();
     void ConnectRun();
     void ConnectPictures();
+    void ConnectSystem();
     void OnResult(const QString& input);
     void UpdateStart();
     void UpdateForecast();
@@ -70,6 +75,7 @@ private:
     RunBar* bar = nullptr;
     QPushButton* start = nullptr;
     std::unique_ptr<InputModule> inputs;
+    SystemLink system;
 };
 
 } // namespace BatchDesktop
