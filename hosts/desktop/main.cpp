@@ -64,12 +64,12 @@ int main(int argc, char** argv)
         return 0;
     }
     const ApplicationColours colours;
-    MainWindow window(settingsFolder);
+    MainWindow window(settingsFolder, BatchHost::UserDataFolder());
     QObject::connect(&instance, &SingleInstance::Started, &window, [&window](const QStringList& further) {
         window.BringToFront();
-        window.AddPaths(further);
+        window.OpenPaths(further);
     });
     window.show();
-    window.AddPaths(paths);
+    window.Begin(paths);
     return QApplication::exec();
 }

@@ -5,6 +5,7 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/settings/sections/SettingsSection.h"
 
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
@@ -28,6 +29,7 @@ namespace {
 
 const QString geometryKey = QStringLiteral("geometry");
 const QString panesKey = QStringLiteral("panes");
+const QString openKey = QStringLiteral("openSections");
 
 RunStates::State StateOf(const FileResult& result)
 {
@@ -49,19 +51,20 @@ void OpenFolder(const QString& folder)
 
 } // namespace
 
-MainWindow::MainWindow(const QString& settingsFolder)
+MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
     : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
     , system(runner, *this)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowTitle(Messages::tr("Velkora Batch"));
+    desk = std::make_unique<JobDesk>(job, *presets, *this, dataFolder);
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
     ConnectPictures();
     ConnectRun();
+    ConnectJobs();
     ConnectSystem();
     UpdateStart();
     UpdateForecast();
@@ -71,12 +74,14 @@ MainWindow::MainWindow(const QString& settingsFolder)
 MainWindow::~MainWindow()
 {
     inputs.reset(); // It is registered with the manager and uses the pane.
+    desk.reset();   // It looks at the presets.
     delete takeCentralWidget();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     SaveLayout();
+    desk->Close();
     QMainWindow::closeEvent(event);
 }
 
@@ -88,6 +93,10 @@ void MainWindow::RestoreLayout()
         resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     }
     panes->SetWidths(layout.value(panesKey).toByteArray());
+    const QStringList open = layout.value(openKey).toStringList();
+    for (SettingsSection* const section : settings->Sections()) {
+        section->SetFolded(!open.contains(section->objectName()));
+    }
 }
 
 void MainWindow::SaveLayout() const
@@ -95,6 +104,13 @@ void MainWindow::SaveLayout() const
     QSettings layout(layoutFile, QSettings::IniFormat);
     layout.setValue(geometryKey, saveGeometry());
     layout.setValue(panesKey, panes->Widths());
+    QStringList open;
+    for (const SettingsSection* const section : settings->Sections()) {
+        if (!section->IsFolded()) {
+            open.append(section->objectName());
+        }
+    }
+    layout.setValue(openKey, open);
 }
 
 QWidget* MainWindow::NewTopRow()
@@ -109,7 +125,6 @@ QWidget* MainWindow::NewTopRow()
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
-    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->SetForecast(text); });
     return row;
 }
 
@@ -120,6 +135,8 @@ void MainWindow::MakePanes()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(NewTopRow());
+    layout->addWidget(&desk->Naming());
+    layout->addWidget(&desk->Notice());
     pictures = new PicturesPane(job);
     preview = new PreviewPane(job);
     settings = new SettingsPane(job);
@@ -139,6 +156,8 @@ void MainWindow::MakeMenus()
     const ZTBatchManager* const manager = ZTBatchManager::Instance();
     file->addActions(manager != nullptr ? manager->GetInputActions() : QList<QAction*>());
     file->addSeparator();
+    desk->FillJobMenu(*file);
+    file->addSeparator();
     QAction* const quit = file->addAction(Messages::tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -153,6 +172,8 @@ void MainWindow::MakeMenus()
     edit->addMenu(settings->AddEffectMenu());
     edit->addActions(settings->EffectActions());
 
+    desk->FillPresetMenu(*menuBar()->addMenu(Messages::tr("&Preset")));
+
     QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
     view->addActions(preview->Actions());
     view->addSeparator();
@@ -166,6 +187,37 @@ void MainWindow::MakeMenus()
         Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
     view->addAction(
         Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); }, QKeySequence(Qt::SHIFT + Qt::Key_F6));
+}
+
+void MainWindow::OpenPaths(const QStringList& paths)
+{
+    const QStringList others = desk->OpenJobs(paths);
+    if (!others.isEmpty()) {
+        AddPaths(others);
+    }
+}
+
+void MainWindow::Begin(const QStringList& paths)
+{
+    desk->Restore(paths.isEmpty());
+    OpenPaths(paths);
+}
+
+void MainWindow::ConnectJobs()
+{
+    connect(&desk->Keeper(), &JobKeeper::Changed, this, &MainWindow::ShowTitle);
+    desk->WatchDrops(*this);
+    desk->WatchDrops(*pictures);
+    ShowTitle();
+}
+
+void MainWindow::ShowTitle()
+{
+    const JobKeeper& keeper = desk->Keeper();
+    setWindowTitle(percent < 0 ? Messages::tr("%1[*] - Velkora Batch").arg(keeper.Name())
+                               : Messages::tr("%1 % - %2[*] - Velkora Batch").arg(percent).arg(keeper.Name()));
+    setWindowModified(keeper.IsChanged());
+    setWindowFilePath(keeper.File());
 }
 
 void MainWindow::ConnectPictures()
@@ -197,8 +249,9 @@ void MainWindow::ConnectRun()
 
 void MainWindow::ConnectSystem()
 {
-    connect(&system, &SystemLink::PercentChanged, this, [this](int percent) {
-        setWindowTitle(percent < 0 ? Messages::tr("Velkora Batch") : Messages::tr("%1 % - Velkora Batch").arg(percent));
+    connect(&system, &SystemLink::PercentChanged, this, [this](int now) {
+        percent = now;
+        ShowTitle();
     });
     connect(&system, &SystemLink::WindowWanted, this, &MainWindow::BringToFront);
     connect(&system, &SystemLink::FolderWanted, this, &OpenFolder);

@@ -5,10 +5,10 @@
 
 #include "PaneArrangement.h"
 #include "PaneFocus.h"
-#include "PresetBox.h"
 #include "SystemLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
+#include "hosts/desktop/jobs/JobDesk.h"
 #include "hosts/desktop/pictures/InputModule.h"
 #include "hosts/desktop/pictures/PicturesPane.h"
 #include "hosts/desktop/preview/PreviewPane.h"
@@ -28,12 +28,18 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Policies and presets are in `settingsFolder`.
-    explicit MainWindow(const QString& settingsFolder);
+    /// Policies and presets are in `settingsFolder`; what the window remembers is in `dataFolder`.
+    explicit MainWindow(const QString& settingsFolder)
+        : MainWindow(settingsFolder, settingsFolder)
+    {
+    }
+    MainWindow(const QString& settingsFolder, const QString& dataFolder);
     ~MainWindow() override;
 
     EditedJob& Job() { return job; }
     JobRunner& Runner() { return runner; }
+    JobDesk& Desk() { return *desk; }
+    PresetBox& PresetChoice() { return *presets; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
 
@@ -42,6 +48,12 @@ public:
 
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
+
+    /// Opens a job file among `paths`, and adds the other files and the folders.
+    void OpenPaths(const QStringList& paths);
+
+    /// Brings back what was edited when the last window ended, and opens `paths`.
+    void Begin(const QStringList& paths);
 
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();
@@ -55,6 +67,8 @@ private:
     QWidget* NewTopRow();
     void MakePanes();
     void MakeMenus();
+    void ConnectJobs();
+    void ShowTitle();
     void ConnectRun();
     void ConnectPictures();
     void ConnectSystem();
@@ -76,6 +90,8 @@ private:
     QPushButton* start = nullptr;
     std::unique_ptr<InputModule> inputs;
     SystemLink system;
+    std::unique_ptr<JobDesk> desk;
+    int percent = -1; ///< of the run; negative without one
 };
 
 } // namespace BatchDesktop
