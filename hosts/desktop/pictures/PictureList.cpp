@@ -152,6 +152,7 @@ void PictureList::FitIcons()
     header()->resizeSection(PictureColumns::ThumbnailColumn, side * 2);
     header()->resizeSection(PictureColumns::NameColumn, fontMetrics().averageCharWidth() * 22);
     header()->resizeSection(PictureColumns::ResultColumn, fontMetrics().averageCharWidth() * 18);
+    header()->resizeSection(PictureColumns::StateColumn, header()->minimumSectionSize()); // It takes what is left.
 }
 
 /// Folders are open when they come.

@@ -5,6 +5,7 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/settings/sections/ElidedLabel.h"
 #include "hosts/desktop/settings/sections/SettingsSection.h"
 
 #include "ZTBatchInputModel.h"
@@ -121,11 +122,23 @@ QWidget* MainWindow::NewTopRow()
     start->setObjectName(QStringLiteral("start"));
     start->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     start->setDefault(true);
-    layout->addStretch(1);
+    destination = new ElidedLabel;
+    destination->setObjectName(QStringLiteral("destination"));
+    destination->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(destination, 1);
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
+    connect(&job, &EditedJob::SettingsChanged, this, &MainWindow::ShowDestination);
+    connect(&job, &EditedJob::Replaced, this, &MainWindow::ShowDestination);
+    ShowDestination();
     return row;
+}
+
+void MainWindow::ShowDestination()
+{
+    const QString folder = QDir::toNativeSeparators(job.CurrentSettings().outputFolder);
+    destination->setText(folder.isEmpty() ? QString() : Messages::tr("Results go to %1").arg(folder));
 }
 
 void MainWindow::MakePanes()

@@ -22,6 +22,8 @@
 
 namespace BatchDesktop {
 
+class ElidedLabel;
+
 /// The window: pictures, preview and settings side by side, and the bar of the run below them.
 class MainWindow : public QMainWindow
 {
@@ -65,6 +67,7 @@ private:
     void RestoreLayout();
     void SaveLayout() const;
     QWidget* NewTopRow();
+    void ShowDestination();
     void MakePanes();
     void MakeMenus();
     void ConnectJobs();
@@ -87,6 +90,7 @@ private:
     PaneFocus* focus = nullptr;
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
+    ElidedLabel* destination = nullptr;
     QPushButton* start = nullptr;
     std::unique_ptr<InputModule> inputs;
     SystemLink system;
