@@ -71,6 +71,7 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
 {
     setObjectName(QStringLiteral("pictureList"));
     setAccessibleName(Messages::tr("List of pictures"));
+    setTextElideMode(Qt::ElideMiddle); // The ends of names tell them apart.
     setUniformRowHeights(true); // Else each row is asked for its height.
     setSelectionMode(ExtendedSelection);
     setAllColumnsShowFocus(true);
@@ -79,7 +80,10 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
     viewport()->setAcceptDrops(false);
     setModel(&filter);
     setTreePosition(PictureColumns::NameColumn);
-    header()->setStretchLastSection(true);
+    setIndentation(fontMetrics().height());
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(PictureColumns::NameColumn, QHeaderView::Stretch);
+    header()->setSectionResizeMode(PictureColumns::ResultColumn, QHeaderView::Stretch);
     header()->setSectionsMovable(false);
     connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::OpenFolders);
     connect(&filter, &QAbstractItemModel::modelReset, this,
@@ -149,10 +153,9 @@ void PictureList::FitIcons()
 {
     const int side = fontMetrics().height() * 2;
     setIconSize(QSize(side * 3 / 2, side));
+    const int letter = fontMetrics().averageCharWidth();
     header()->resizeSection(PictureColumns::ThumbnailColumn, side * 2);
-    header()->resizeSection(PictureColumns::NameColumn, fontMetrics().averageCharWidth() * 22);
-    header()->resizeSection(PictureColumns::ResultColumn, fontMetrics().averageCharWidth() * 18);
-    header()->resizeSection(PictureColumns::StateColumn, header()->minimumSectionSize()); // It takes what is left.
+    header()->resizeSection(PictureColumns::StateColumn, letter * 10);
 }
 
 /// Folders are open when they come.

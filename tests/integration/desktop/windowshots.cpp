@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFont>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -114,10 +115,11 @@ private:
     void Ask()
     {
         Edit();
-        QDir().mkpath(Path("results"));
+        const QString taken = Path("results/") + QFileInfo(photos).fileName();
+        QDir().mkpath(taken);
         const QFileInfoList files = QDir(photos).entryInfoList(QDir::Files);
         for (const QFileInfo& file : files) {
-            QFile::copy(file.filePath(), Path("results/") + file.completeBaseName() + QStringLiteral(".jpg"));
+            QFile::copy(file.filePath(), taken + QLatin1Char('/') + file.completeBaseName() + QStringLiteral(".jpg"));
         }
         window.StartRun();
         WaitFor([this] { return window.Runner().OpenQuestion().has_value(); }, "the question");
@@ -157,6 +159,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10));
 
     QCommandLineParser parser;
     const QCommandLineOption size(QStringLiteral("size"), {}, QStringLiteral("WxH"), QStringLiteral("1280x800"));
