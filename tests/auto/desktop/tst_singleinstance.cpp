@@ -3,8 +3,6 @@
 
 #include "hosts/desktop/system/SingleInstance.h"
 
-#include "PrivateTempDir.h"
-
 #include <QDir>
 #include <QFile>
 #include <QLocalServer>
@@ -15,7 +13,6 @@
 
 #include <cstring>
 #include <future>
-#include <memory>
 #include <vector>
 
 using namespace BatchDesktop;
@@ -26,6 +23,7 @@ class tst_SingleInstance : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void secondStartHandsItsPathsOver_data();
     void secondStartHandsItsPathsOver();
@@ -39,15 +37,15 @@ private:
     QString LockFile() const;
     QString ServerName() const;
 
-    std::unique_ptr<PrivateTempDir> temporary;
-    std::unique_ptr<QTemporaryDir> runtime;
+    QTemporaryDir runtime;
+    int folders = 0;
+    QString folder; ///< of settings; it needs not exist
 };
 
 namespace {
 
 using Place = SingleInstance::Place;
 
-const QString folder = QStringLiteral("/home/ann/settings");
 constexpr int patience = 30'000; // ms
 
 /// A second start, in a thread: it waits for the first, which lives in the test's own.
@@ -60,23 +58,22 @@ Place StartAnother(const QString& settings, const QStringList& paths)
 
 } // namespace
 
+void tst_SingleInstance::initTestCase()
+{
+    QVERIFY(runtime.isValid());
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+    qputenv("TMP", QFile::encodeName(QDir::toNativeSeparators(runtime.path())));
+}
+
 void tst_SingleInstance::init()
 {
-    temporary.reset();
-    temporary = std::make_unique<PrivateTempDir>();
-    runtime = std::make_unique<QTemporaryDir>();
-    QVERIFY(runtime->isValid());
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime->path()));
+    folder = runtime.filePath(QStringLiteral("settings-%1").arg(++folders));
 }
 
 QString tst_SingleInstance::LockFile() const
 {
-#ifdef Q_OS_WIN
-    const QDir place = QDir::temp();
-#else
-    const QDir place(runtime->path());
-#endif
-    const QStringList locks = place.entryList({QStringLiteral("*.lock")});
+    const QDir place(runtime.path());
+    const QStringList locks = place.entryList({QStringLiteral("velkora-batch-desktop-*.lock")});
     return locks.isEmpty() ? QString() : place.filePath(locks.first());
 }
 
@@ -121,7 +118,7 @@ void tst_SingleInstance::startsInOtherFoldersAreApart()
     SingleInstance first(folder);
     QSignalSpy started(&first, &SingleInstance::Started);
     QCOMPARE(first.Begin({}), Place::First);
-    SingleInstance other(QStringLiteral("/home/ann/others"));
+    SingleInstance other(runtime.filePath(QStringLiteral("others")));
     QCOMPARE(other.Begin({}), Place::First);
     QVERIFY(started.isEmpty());
 }
@@ -150,8 +147,8 @@ void tst_SingleInstance::deadSocketsAreInNobodysWay()
         return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
     };
     constexpr int noProcess = 999'999'999;
-    QVERIFY(write(lockFile, QByteArray::number(noProcess) + "\nvelkora-batch-desktop\n" +
-                                QSysInfo::machineHostName().toUtf8() + '\n'));
+    const QByteArray anyHost;
+    QVERIFY(write(lockFile, QByteArray::number(noProcess) + "\nvelkora-batch-desktop\n" + anyHost + '\n'));
 #ifndef Q_OS_WIN // Pipes end with their process there.
     QVERIFY(write(socketFile, "dead"));
 #endif
@@ -196,8 +193,9 @@ void tst_SingleInstance::severalStartsAtOnceAreAllHeard()
     QCOMPARE(first.Begin({}), Place::First);
     std::vector<std::future<Place>> places;
     for (int i = 0; i < starts; ++i) {
-        places.push_back(std::async(std::launch::async,
-                                    [i] { return SingleInstance(folder).Begin({QStringLiteral("/%1.jpg").arg(i)}); }));
+        places.push_back(std::async(std::launch::async, [this, i] {
+            return SingleInstance(folder).Begin({QStringLiteral("/%1.jpg").arg(i)});
+        }));
     }
     QTRY_COMPARE_WITH_TIMEOUT(started.size(), starts, patience);
     for (std::future<Place>& place : places) {
