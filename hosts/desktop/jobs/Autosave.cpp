@@ -72,18 +72,26 @@ void Autosave::Save()
 {
     if (!work) {
         work = std::make_unique<BackgroundWork>();
-        connect(work.get(), &BackgroundWork::Done, this, [this] {
-            if (IsDone()) {
-                Q_EMIT Saved();
-            }
-        });
+        connect(work.get(), &BackgroundWork::Done, this, &Autosave::OnDone);
     }
     if (work->IsBusy()) {
         delay.start(pause);
     } else if (!TakeInputs(8ms)) {
         delay.start(0ms);
     } else if (isChanged) {
-        work->Start([write = Work()](const BackgroundWork::Cancelled&) { write(); });
+        isWritten = std::make_shared<bool>(false);
+        work->Start(
+            [write = Work(), isWritten = isWritten](const BackgroundWork::Cancelled&) { *isWritten = write(); });
+    }
+}
+
+void Autosave::OnDone()
+{
+    if (!*isWritten) {
+        areInputsChanged = true; // Which of the files is missing does not matter.
+        Q_EMIT Failed();
+    } else if (IsDone()) {
+        Q_EMIT Saved();
     }
 }
 
@@ -100,8 +108,8 @@ bool Autosave::TakeInputs(std::chrono::milliseconds longest)
     return !areInputsChanged;
 }
 
-/// What is to be written now, as a function for any thread.
-std::function<void()> Autosave::Work()
+/// What is to be written now, as a function for any thread that tells whether it could be.
+std::function<bool()> Autosave::Work()
 {
     EditState state = describe();
     state.settings = job.CurrentSettings();
@@ -109,11 +117,12 @@ std::function<void()> Autosave::Work()
     state.isClosed = isClosed;
     isChanged = false;
     return [files = files, state, inputs = std::exchange(inputs, nullptr)] {
+        bool areInputsWritten = true;
         if (inputs) {
             const InputSnapshot taken = std::move(*inputs); // To free that many texts takes its time, too.
-            files.Write(taken);
+            areInputsWritten = files.Write(taken);
         }
-        files.Write(state);
+        return files.Write(state) && areInputsWritten;
     };
 }
 

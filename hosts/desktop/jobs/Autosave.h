@@ -46,11 +46,15 @@ Q_SIGNALS:
     /// All that had changed is on the disk.
     void Saved();
 
+    /// The disk is full, or the folder is not writable. What could not be written is tried again with the next change.
+    void Failed();
+
 private:
     void NoteInputs();
     void Save();
     bool TakeInputs(std::chrono::milliseconds longest);
-    std::function<void()> Work();
+    std::function<bool()> Work();
+    void OnDone();
     void Finish();
 
     const EditedJob& job;
@@ -61,6 +65,7 @@ private:
     bool areInputsChanged = false;
     bool isClosed = false;
     std::shared_ptr<InputSnapshot> inputs; ///< those to be written; null if they are not changed, or not looked at yet
+    std::shared_ptr<bool> isWritten;       ///< by the last work; read when that is done
     QTimer delay;
     std::unique_ptr<BackgroundWork> work; ///< null when nothing was written yet, or all is finished
 };

@@ -4,11 +4,10 @@
 #include "EditedFiles.h"
 
 #include "hosts/common/JobDefaults.h"
-#include "hosts/common/JobFile.h"
-#include "hosts/common/RequestError.h"
 
 #include "ZTBatchDocument.h"
 
+#include <QDataStream>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -29,6 +28,9 @@ const QString changedKey = QStringLiteral("changed");
 const QString closedKey = QStringLiteral("closed");
 const QString settingsKey = QStringLiteral("settings");
 const QString nameKey = QStringLiteral("name");
+
+constexpr auto streamVersion = QDataStream::Qt_5_15;
+constexpr quint32 inputsMark = 0x56424901; ///< the last byte is the version of the file
 
 BatchJob::PolicyValues PoliciesIn(const QJsonArray& array)
 {
@@ -76,15 +78,15 @@ bool EditedFiles::Write(const EditState& state) const
 
 bool EditedFiles::Write(const InputSnapshot& inputs) const
 {
-    ZTBatchDocument job;
-    inputs.AddTo(job);
-    try {
-        QDir().mkpath(folder);
-        SaveJob(job, Path("inputs.xml"), true);
-    } catch (const RequestError&) {
+    QSaveFile file(Path("inputs.dat"));
+    if (!QDir().mkpath(folder) || !file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    return true;
+    QDataStream stream(&file);
+    stream.setVersion(streamVersion);
+    stream << inputsMark;
+    inputs.Save(stream);
+    return stream.status() == QDataStream::Ok && file.commit();
 }
 
 std::optional<EditState> EditedFiles::ReadState() const
@@ -109,10 +111,17 @@ std::optional<EditState> EditedFiles::ReadState() const
     return state;
 }
 
-void EditedFiles::ReadInputs(ZTBatchDocument& job) const
+std::optional<InputSnapshot> EditedFiles::ReadInputs() const
 {
-    LoadJob(job, Path("inputs.xml"));
-    job.SetFileName(QString());
+    QFile file(Path("inputs.dat"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    QDataStream stream(&file);
+    stream.setVersion(streamVersion);
+    quint32 mark = 0;
+    stream >> mark;
+    return mark == inputsMark ? InputSnapshot::Load(stream) : std::nullopt;
 }
 
 } // namespace BatchDesktop

@@ -32,11 +32,10 @@ public:
     bool Write(const EditState& state) const;
     bool Write(const InputSnapshot& inputs) const;
 
-    /// Nothing if it was never written, or if it is damaged.
+    /// Nothing if they were never written, or if they are damaged.
     std::optional<EditState> ReadState() const;
 
-    /// Loads the inputs into `job`, whose settings become those of a new one. Throws RequestError.
-    void ReadInputs(ZTBatchDocument& job) const;
+    std::optional<InputSnapshot> ReadInputs() const;
 
 private:
     QString Path(const char* name) const;

@@ -13,12 +13,15 @@
 #include "hosts/desktop/job/EditedJob.h"
 
 #include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QStandardPaths>
+
+#include <utility>
 
 using namespace BatchHost;
 
@@ -43,6 +46,13 @@ JobDesk::JobDesk(EditedJob& job, PresetBox& presets, QWidget& window, const QStr
     connect(&presets, &PresetBox::Problem, this, &JobDesk::Tell);
     connect(&presets, &PresetBox::ActiveChanged, &autosave, &Autosave::NoteChange);
     connect(&presets, &PresetBox::ActiveChanged, this, &JobDesk::UpdatePresetActions);
+    connect(&autosave, &Autosave::Failed, this, [this] {
+        if (!std::exchange(isSaveFailureTold, true)) {
+            Tell(Messages::tr("What you edit cannot be kept in %1; save the job before the window ends.")
+                     .arg(QDir::toNativeSeparators(autosave.Folder())));
+        }
+    });
+    connect(&autosave, &Autosave::Saved, this, [this] { isSaveFailureTold = false; });
     connect(&command, &CommandCopy::Failed, this, &JobDesk::Tell);
     connect(&command, &CommandCopy::Made, this, [this](const QStringList& arguments) {
         QGuiApplication::clipboard()->setText(ShellLine(arguments));
@@ -129,12 +139,10 @@ void JobDesk::Restore(bool withInputs)
     }
     const bool isWhole = withInputs || !state->isClosed || (!state->jobFile.isEmpty() && state->isChanged);
     job.Replace([&](ZTBatchDocument& document) {
-        if (isWhole) {
-            try {
-                files.ReadInputs(document);
-            } catch (const RequestError&) {
-                // There were none.
-            }
+        document.GetInputModel()->removeRows(0, document.GetInputModel()->rowCount());
+        const std::optional<InputSnapshot> inputs = isWhole ? files.ReadInputs() : std::nullopt;
+        if (inputs) {
+            inputs->AddTo(document);
         }
         state->settings.ApplyTo(document);
         document.SetDocumentName(isWhole ? state->name : QString());
@@ -145,7 +153,8 @@ void JobDesk::Restore(bool withInputs)
     job.History().clear();
     presets.SetActive(state->preset);
     keeper.SetFile(isWhole ? state->jobFile : QString(), isWhole && state->isChanged);
-    if (!state->isClosed) {
+    const bool wasBusy = state->isChanged || job.Document().GetInputModel()->rowCount() > 0;
+    if (!state->isClosed && wasBusy) {
         Tell(Messages::tr("The window did not end as it should; this is what was edited last."));
     }
 }

@@ -74,6 +74,7 @@ private:
     JobDrops drops;
     NoticeLine* const notice;
     PresetNameLine* const naming;
+    bool isSaveFailureTold = false;
     QMenu* recentMenu = nullptr;
     QAction* renamePreset = nullptr;
     QAction* removePreset = nullptr;

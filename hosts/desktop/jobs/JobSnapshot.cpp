@@ -7,6 +7,7 @@
 
 #include "ZTBatchDocument.h"
 
+#include <QDataStream>
 #include <QDeadlineTimer>
 
 namespace BatchDesktop {
@@ -75,6 +76,53 @@ void InputSnapshot::AddTo(ZTBatchDocument& job) const
         }
         job.GetInputModel()->InsertBranch(branch.release(), QModelIndex());
     }
+}
+
+void InputSnapshot::Save(QDataStream& stream) const
+{
+    stream << quint32(nodes.size());
+    for (const Node& node : nodes) {
+        stream << qint32(node.depth) << qint32(node.data.type) << node.data.inputText << node.data.inputInfo
+               << node.data.fileName << node.data.lastModification;
+    }
+}
+
+std::optional<InputSnapshot> InputSnapshot::Load(QDataStream& stream)
+{
+    quint32 count = 0;
+    stream >> count;
+    if (stream.status() != QDataStream::Ok) {
+        return std::nullopt;
+    }
+    InputSnapshot snapshot;
+    QVector<std::size_t> folders; // those that the next node may lie in, from the top down
+    for (quint32 i = 0; i < count; ++i) {
+        qint32 depth = 0;
+        qint32 type = 0;
+        Node node;
+        stream >> depth >> type >> node.data.inputText >> node.data.inputInfo >> node.data.fileName >>
+            node.data.lastModification;
+        if (stream.status() != QDataStream::Ok || depth < 0 || depth > folders.size()) {
+            return std::nullopt;
+        }
+        folders.resize(depth);
+        node.depth = depth;
+        node.data.type = type;
+        node.data.enabled = true;
+        if (depth == 0) {
+            node.data.bookmark = ZVFileBookmark(node.data.fileName);
+        }
+        if (type == Folder) {
+            folders.append(snapshot.nodes.size());
+        } else {
+            node.data.fileNodesCount = 1;
+            for (const std::size_t folder : qAsConst(folders)) {
+                ++snapshot.nodes[folder].data.fileNodesCount;
+            }
+        }
+        snapshot.nodes.push_back(std::move(node));
+    }
+    return snapshot;
 }
 
 QStringList InputSnapshot::TopPaths() const

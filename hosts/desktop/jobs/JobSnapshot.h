@@ -12,8 +12,10 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
+class QDataStream;
 class ZTBatchDocument;
 
 namespace BatchDesktop {
@@ -35,6 +37,12 @@ public:
 
     /// Adds the inputs to `job`, which has none.
     void AddTo(ZTBatchDocument& job) const;
+
+    /// Written in a form that is read much faster than the text of a job.
+    void Save(QDataStream& stream) const;
+
+    /// Nothing if the stream is damaged.
+    static std::optional<InputSnapshot> Load(QDataStream& stream);
 
     /// What stands at the top: the files and folders that were added by the user.
     QStringList TopPaths() const;

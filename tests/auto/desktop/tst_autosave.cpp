@@ -22,6 +22,7 @@ private Q_SLOTS:
     void changedJobsAreNeverLeftBehind();
     void foldersKeepTheirTree();
     void damagedFilesAreNoObstacle();
+    void unwritableFoldersAreSaidOnce();
     void largeJobsDoNotStopTheWindow();
 
 private:
@@ -90,9 +91,7 @@ void tst_Autosave::changesAreSavedSoon()
     QVERIFY(!saved.isEmpty());
     const EditedFiles files(stage->Path("data"));
     QCOMPARE(files.ReadState()->settings.imageSize.size, 456.0);
-    ZTBatchDocument job;
-    files.ReadInputs(job);
-    QCOMPARE(job.GetInputModel()->GetFileNodesCount(), 2);
+    QCOMPARE(files.ReadInputs()->TopPaths(), (QStringList{QStringLiteral("/in/a.jpg"), QStringLiteral("/in/b.jpg")}));
 }
 
 void tst_Autosave::closedWindowsKeepTheirPictures()
@@ -152,9 +151,16 @@ void tst_Autosave::damagedFilesAreNoObstacle()
     Edit();
     stage.reset();
     const QString state = folder->filePath(QStringLiteral("data/edited/state.json"));
-    const QString inputs = folder->filePath(QStringLiteral("data/edited/inputs.xml"));
+    const QString inputs = folder->filePath(QStringLiteral("data/edited/inputs.dat"));
     QVERIFY(QFile::exists(state));
-    DeskStage::Write(inputs, "damaged");
+    QFile whole(inputs);
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    for (int length = 0; length < bytes.size(); ++length) {
+        DeskStage::Write(inputs, bytes.left(length));
+        QVERIFY(!EditedFiles(folder->filePath(QStringLiteral("data"))).ReadInputs());
+    }
+    DeskStage::Write(inputs, "damaged and much longer than a mark");
     stage = std::make_unique<DeskStage>(folder->path());
     stage->desk->Restore(true);
     QVERIFY(stage->Inputs().isEmpty());
@@ -165,6 +171,30 @@ void tst_Autosave::damagedFilesAreNoObstacle()
     const Settings before = stage->job.CurrentSettings();
     stage->desk->Restore(true);
     QVERIFY(stage->job.CurrentSettings() == before);
+}
+
+void tst_Autosave::unwritableFoldersAreSaidOnce()
+{
+    const QString inTheWay = folder->filePath(QStringLiteral("data/edited"));
+    QTRY_VERIFY(stage->desk->Saving().IsDone());
+    QVERIFY(QDir(inTheWay).removeRecursively());
+    DeskStage::Write(inTheWay, "a file");
+    QSignalSpy failures(&stage->desk->Saving(), &Autosave::Failed);
+    Edit();
+    QTRY_COMPARE(failures.size(), 1);
+    QVERIFY(stage->Notice().contains(stage->Path("data")));
+    stage->desk->Notice().hide();
+    stage->SetLength(1);
+    QTRY_COMPARE(failures.size(), 2);
+    QCOMPARE(stage->Notice(), QString());
+    QVERIFY(QFile::remove(inTheWay));
+    QSignalSpy saved(&stage->desk->Saving(), &Autosave::Saved);
+    stage->SetLength(2);
+    QTRY_COMPARE(saved.size(), 1);
+    Restart();
+    stage->desk->Restore(true);
+    QCOMPARE(stage->Inputs().size(), 2);
+    QCOMPARE(stage->Length(), 2.0);
 }
 
 // Of several saves, the best counts: others may use the machine.
@@ -191,6 +221,12 @@ void tst_Autosave::largeJobsDoNotStopTheWindow()
     }
     qInfo("The window stood still for %d ms.", int(best));
     QVERIFY(best < longest);
+    Restart();
+    QElapsedTimer clock;
+    clock.start();
+    stage->desk->Restore(true);
+    qInfo("It has everything again after %d ms.", int(clock.elapsed()));
+    QCOMPARE(stage->job.Document().GetInputModel()->GetFileNodesCount(), files + 5);
 }
 
 QTEST_MAIN(tst_Autosave)

@@ -10,11 +10,13 @@
 
 #include "ZTBatchInputModel.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorSpace>
 #include <QDropEvent>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -34,12 +36,13 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void theTitleNamesTheJob();
-    void everyActionIsInAMenu();
+    void everyActionHasAMenuAndItsOwnKeys();
     void argumentsAreOpened();
     void droppedJobsAreOpenedAnywhere_data();
     void droppedJobsAreOpenedAnywhere();
     void brokenJobsAreSaid();
     void openSectionsStayOpen();
+    void closedWindowsComeBack();
     void killedWindowsComeBack();
     void copiedCommandsDoTheSame_data();
     void copiedCommandsDoTheSame();
@@ -191,12 +194,24 @@ void tst_JobWindow::theTitleNamesTheJob()
     QVERIFY(window->isWindowModified());
 }
 
-void tst_JobWindow::everyActionIsInAMenu()
+void tst_JobWindow::everyActionHasAMenuAndItsOwnKeys()
 {
     for (const char* name : {"newJob", "openJob", "saveJob", "saveJobAs", "copyCommand", "savePreset", "renamePreset",
                              "removePreset", "importPreset", "exportPreset"}) {
         QVERIFY2(qobject_cast<QMenu*>(Action(name).parent()), name);
     }
+    QStringList mnemonics;
+    const auto menus = window->menuBar()->actions();
+    for (const QAction* const menu : menus) {
+        mnemonics.append(QKeySequence::mnemonic(menu->text()).toString());
+    }
+    const auto headings = window->findChildren<QAbstractButton*>(QRegularExpression(QStringLiteral("\\.heading$")));
+    for (const QAbstractButton* const heading : headings) {
+        mnemonics.append(QKeySequence::mnemonic(heading->text()).toString());
+    }
+    QVERIFY(mnemonics.size() > 10);
+    mnemonics.removeAll(QString());
+    QCOMPARE(mnemonics.removeDuplicates(), 0);
     QHash<QKeySequence, QString> keys;
     const auto actions = window->findChildren<QAction*>();
     for (const QAction* const action : actions) {
@@ -265,6 +280,29 @@ void tst_JobWindow::openSectionsStayOpen()
     Open();
     QVERIFY(!window->findChild<SettingsSection*>(QStringLiteral("size"))->IsFolded());
     QVERIFY(window->findChild<SettingsSection*>(QStringLiteral("folder"))->IsFolded());
+}
+
+void tst_JobWindow::closedWindowsComeBack()
+{
+    window->AddPaths({Path(QStringLiteral("photos"))});
+    QTRY_COMPARE(window->Pictures().Inputs().FileCount(), 3);
+    SetLength(window->Job(), 345);
+    const Settings before = window->Job().CurrentSettings();
+    window->close();
+    window.reset();
+    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
+    window->show();
+    window->Begin({});
+    QCOMPARE(Notice(), QString());
+    QCOMPARE(window->Pictures().Inputs().FileCount(), 3);
+    QVERIFY(window->Job().CurrentSettings() == before);
+    window->close();
+    window.reset();
+    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
+    const QString picture = Path(QStringLiteral("photos/1 it's.jpg"));
+    window->Begin({picture});
+    QTRY_COMPARE(Inputs(), QStringList{picture});
+    QCOMPARE(window->Job().CurrentSettings().imageSize.size, 345.0);
 }
 
 void tst_JobWindow::killedWindowsComeBack()
