@@ -212,9 +212,27 @@ void tst_WindowAccess::mnemonicsAreUnique()
 void tst_WindowAccess::everyActionOfAButtonIsInAMenu_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char* text : {"Start", "Pause", "Cancel", "Add files", "Add folder", "Remove", "Fit", "Side by side",
-                             "Duplicate the effect", "Undo", "Redo", "Save preset", "Open job", "Copy as command",
-                             "Show failures", "Retry failed", "Open folder", "Save report"}) {
+    for (const char* text : {"Start",
+                             "Pause",
+                             "Cancel the run",
+                             "Resume the run",
+                             "Add files",
+                             "Add folder",
+                             "Remove",
+                             "Fit",
+                             "Side by side",
+                             "Preview anew",
+                             "Duplicate the effect",
+                             "Undo",
+                             "Redo",
+                             "Save as preset",
+                             "Open job",
+                             "Save job",
+                             "Copy as command",
+                             "Show failed",
+                             "Retry failed",
+                             "Open folder",
+                             "Save report"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }

@@ -4,11 +4,15 @@
 
 """Uses the window as assistive technology does: on a display of its own, through the accessibility bus alone. Starts a
 run, answers its question about a taken name for all the rest, and reads how it ended.
-  window_on_the_bus.py PROGRAM JOB_FILE
+  window_on_the_bus.py WINDOW VELKORA_BATCH PHOTO...
+
+Two of three photos have results already. Both programs are given by their paths.
 
 The display, the buses and all processes end with this one.
 """
 import os
+import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -33,10 +37,11 @@ def in_session():
             number = numbers.readline().strip()
         if not number:
             fail("Xvfb did not start")
-        with tempfile.TemporaryDirectory() as runtime:
-            environment = dict(os.environ, DISPLAY=f":{number}", XDG_RUNTIME_DIR=runtime, IN_SESSION="1",
-                               QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="0")
-            os.chmod(runtime, 0o700)
+        with tempfile.TemporaryDirectory() as home:
+            environment = dict(os.environ, DISPLAY=f":{number}", HOME=home, XDG_RUNTIME_DIR=home, TMPDIR=home,
+                               XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data",
+                               XDG_CACHE_HOME=f"{home}/cache", IN_SESSION="1", QT_QPA_PLATFORM="xcb",
+                               QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
             return subprocess.run(["dbus-run-session", "--", sys.executable] + sys.argv, env=environment).returncode
     finally:
         display.terminate()
@@ -80,8 +85,22 @@ def wait_for(what, look):
 
 
 def press(button):
-    if not button.get_action_iface().do_action(0):
+    from gi.repository import Atspi
+    if not Atspi.Action.do_action(button, 0):
         fail(f"{button.get_name()} cannot be pressed")
+
+
+def make_job(velkora_batch, photos):
+    """The file of a job over three photos, of which two have results."""
+    home = pathlib.Path(os.environ["HOME"])
+    for folder, taken in (("photos", photos[:3]), ("results", photos[:2])):
+        (home / folder).mkdir()
+        for photo in taken:
+            shutil.copy(photo, home / folder)
+    job = home / "job.vbatch.xml"
+    subprocess.run([velkora_batch, "create", job, home / "photos", "--output", home / "results"], check=True,
+                   stdout=subprocess.DEVNULL)
+    return job
 
 
 def use_window(program, job_file):
@@ -122,6 +141,6 @@ def use_window(program, job_file):
 
 if __name__ == "__main__":
     if os.environ.get("IN_SESSION") == "1":
-        use_window(sys.argv[1], sys.argv[2])
+        use_window(sys.argv[1], make_job(sys.argv[2], sys.argv[3:]))
     else:
         sys.exit(in_session())
