@@ -10,14 +10,12 @@
 #include "ZTBatchManager.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
-#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace BatchHost;
@@ -54,15 +52,19 @@ MainWindow::MainWindow(const QString& settingsFolder)
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
+    MakeRunMenu();
     ConnectPictures();
     ConnectRun();
+    forecasts = std::make_unique<ForecastLink>(job, *pictures, *preview, runner, *bar);
+    runs = std::make_unique<RunLink>(job, runner, RunLink::Bars{*bar, *questions, *resume}, settingsFolder);
     UpdateStart();
-    UpdateForecast();
     RestoreLayout();
 }
 
 MainWindow::~MainWindow()
 {
+    runs.reset(); // They use the panes and bars.
+    forecasts.reset();
     inputs.reset(); // It is registered with the manager and uses the pane.
     delete takeCentralWidget();
 }
@@ -99,13 +101,12 @@ QWidget* MainWindow::NewTopRow()
     auto* const layout = new QHBoxLayout(row);
     start = new QPushButton(Messages::tr("Start"));
     start->setObjectName(QStringLiteral("start"));
-    start->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     start->setDefault(true);
     layout->addStretch(1);
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
-    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->SetForecast(text); });
+    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->Say(text); });
     return row;
 }
 
@@ -128,6 +129,8 @@ void MainWindow::MakePanes()
     layout->addWidget(panes, 1);
     questions = new QuestionBar(runner);
     bar = new RunBar(runner);
+    resume = new ResumeBar;
+    layout->addWidget(resume);
     layout->addWidget(questions);
     layout->addWidget(bar);
     setCentralWidget(body);
@@ -163,29 +166,33 @@ void MainWindow::MakeMenus()
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
 }
 
+void MainWindow::MakeRunMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(Messages::tr("&Run"));
+    startAction = menu->addAction(Messages::tr("&Start"), this, &MainWindow::StartRun);
+    startAction->setObjectName(QStringLiteral("startAction"));
+    startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+    menu->addActions(bar->Actions());
+}
+
 void MainWindow::ConnectPictures()
 {
     connect(pictures, &PicturesPane::CurrentChanged, this, [this](const QString& file) {
         preview->SetFile(file);
         settings->SetExample(file);
     });
-    connect(pictures, &PicturesPane::InputsChanged, this, [this] {
-        UpdateStart();
-        UpdateForecast();
-    });
-    connect(&pictures->Names(), &NamePlan::Planned, this, &MainWindow::UpdateForecast);
+    connect(pictures, &PicturesPane::InputsChanged, this, &MainWindow::UpdateStart);
 }
 
 void MainWindow::ConnectRun()
 {
     RunStates& states = pictures->States();
     connect(&runner, &JobRunner::StateChanged, this, &MainWindow::UpdateStart);
+    connect(&runner, &JobRunner::Started, &states, [this, &states] { states.Begin(runner.CurrentInputs()); });
     connect(&runner, &JobRunner::Begun, &states,
             [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
     connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
     connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
-    connect(bar, &RunBar::FolderWanted, this,
-            [](const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
 }
 
 void MainWindow::OnResult(const QString& input)
@@ -201,34 +208,22 @@ void MainWindow::StartRun()
     }
     const QString obstacle = runner.Obstacle();
     if (!obstacle.isEmpty()) {
-        bar->SetForecast(obstacle);
+        bar->Say(obstacle);
         return;
     }
     try {
         runner.Start(job.Document(), job.CurrentSettings().policies);
     } catch (const RequestError& error) {
-        bar->SetForecast(Translated(error.text));
-        return;
+        bar->Say(Messages::tr("The run cannot be started: %1.").arg(Translated(error.text)));
     }
-    pictures->States().Begin(runner.CurrentInputs());
 }
 
 void MainWindow::UpdateStart()
 {
-    start->setEnabled(runner.CurrentState() == JobRunner::State::Idle &&
-                      job.Document().GetInputModel()->GetFileNodesCount() > 0);
-}
-
-void MainWindow::UpdateForecast()
-{
-    const int files = job.Document().GetInputModel()->GetFileNodesCount();
-    if (files == 0) {
-        bar->SetForecast(Messages::tr("Add pictures to begin."));
-        return;
-    }
-    const int troubles = pictures->Names().TroubleCount();
-    bar->SetForecast(troubles == 0 ? Messages::tr("%1 pictures").arg(files)
-                                   : Messages::tr("%1 pictures, %2 of them with trouble").arg(files).arg(troubles));
+    const bool canStart =
+        runner.CurrentState() == JobRunner::State::Idle && job.Document().GetInputModel()->GetFileNodesCount() > 0;
+    start->setEnabled(canStart);
+    startAction->setEnabled(canStart);
 }
 
 } // namespace BatchDesktop

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include "ForecastLink.h"
 #include "PresetBox.h"
+#include "RunLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
 #include "hosts/desktop/pictures/InputModule.h"
@@ -34,6 +36,8 @@ public:
     JobRunner& Runner() { return runner; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
+    ForecastLink& Forecasts() { return *forecasts; }
+    RunLink& Runs() { return *runs; }
 
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
@@ -51,10 +55,10 @@ private:
     void MakePanes();
     void MakeMenus();
     void ConnectRun();
+    void MakeRunMenu();
     void ConnectPictures();
     void OnResult(const QString& input);
     void UpdateStart();
-    void UpdateForecast();
 
     const QString layoutFile; ///< where window and panes were
     EditedJob job;
@@ -66,8 +70,12 @@ private:
     QSplitter* panes = nullptr;
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
+    ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
+    QAction* startAction = nullptr;
     std::unique_ptr<InputModule> inputs;
+    std::unique_ptr<ForecastLink> forecasts;
+    std::unique_ptr<RunLink> runs;
 };
 
 } // namespace BatchDesktop
