@@ -12,14 +12,12 @@
 #include "ZTBatchManager.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
-#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace BatchHost;
@@ -45,11 +43,6 @@ RunStates::State StateOf(const FileResult& result)
     return RunStates::State::Failed;
 }
 
-void OpenFolder(const QString& folder)
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
-}
-
 } // namespace
 
 MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
@@ -63,17 +56,21 @@ MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
+    MakeRunMenu();
     ConnectPictures();
     ConnectRun();
     ConnectJobs();
     ConnectSystem();
+    forecasts = std::make_unique<ForecastLink>(job, *pictures, *preview, runner, *bar);
+    runs = std::make_unique<RunLink>(job, runner, RunLink::Bars{*bar, *questions, *resume}, settingsFolder);
     UpdateStart();
-    UpdateForecast();
     RestoreLayout();
 }
 
 MainWindow::~MainWindow()
 {
+    runs.reset(); // They use the panes and bars.
+    forecasts.reset();
     inputs.reset(); // It is registered with the manager and uses the pane.
     desk.reset();   // It looks at the presets.
     delete takeCentralWidget();
@@ -120,7 +117,6 @@ QWidget* MainWindow::NewTopRow()
     auto* const layout = new QHBoxLayout(row);
     start = new QPushButton(Messages::tr("Start"));
     start->setObjectName(QStringLiteral("start"));
-    start->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     start->setDefault(true);
     destination = new ElidedLabel;
     destination->setObjectName(QStringLiteral("destination"));
@@ -157,10 +153,12 @@ void MainWindow::MakePanes()
     layout->addWidget(panes, 1);
     questions = new QuestionBar(runner);
     bar = new RunBar(runner);
+    resume = new ResumeBar;
+    layout->addWidget(resume);
     layout->addWidget(questions);
     layout->addWidget(bar);
     setCentralWidget(body);
-    focus = new PaneFocus(*panes, {pictures, preview, settings, questions, bar}, this);
+    focus = new PaneFocus(*panes, {pictures, preview, settings, resume, questions, bar}, this);
 }
 
 void MainWindow::MakeMenus()
@@ -233,6 +231,15 @@ void MainWindow::ShowTitle()
     setWindowFilePath(keeper.File());
 }
 
+void MainWindow::MakeRunMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(Messages::tr("&Run"));
+    startAction = menu->addAction(Messages::tr("&Start"), this, &MainWindow::StartRun);
+    startAction->setObjectName(QStringLiteral("startAction"));
+    startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+    menu->addActions(bar->Actions());
+}
+
 void MainWindow::ConnectPictures()
 {
     connect(pictures, &PicturesPane::CurrentChanged, this, [this](const QString& file) {
@@ -244,20 +251,18 @@ void MainWindow::ConnectPictures()
             pictures->SelectNext(); // There is something to see at once.
         }
         UpdateStart();
-        UpdateForecast();
     });
-    connect(&pictures->Names(), &NamePlan::Planned, this, &MainWindow::UpdateForecast);
 }
 
 void MainWindow::ConnectRun()
 {
     RunStates& states = pictures->States();
     connect(&runner, &JobRunner::StateChanged, this, &MainWindow::UpdateStart);
+    connect(&runner, &JobRunner::Started, &states, [this, &states] { states.Begin(runner.CurrentInputs()); });
     connect(&runner, &JobRunner::Begun, &states,
             [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
     connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
     connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
-    connect(bar, &RunBar::FolderWanted, this, &OpenFolder);
 }
 
 void MainWindow::ConnectSystem()
@@ -267,7 +272,7 @@ void MainWindow::ConnectSystem()
         ShowTitle();
     });
     connect(&system, &SystemLink::WindowWanted, this, &MainWindow::BringToFront);
-    connect(&system, &SystemLink::FolderWanted, this, &OpenFolder);
+    connect(&system, &SystemLink::FolderWanted, this, [this](const QString& folder) { runs->openFolder(folder); });
     connect(&system, &SystemLink::FailuresWanted, this, [this] {
         BringToFront();
         pictures->Filter(QString(), ShownState::Failed);
@@ -295,34 +300,22 @@ void MainWindow::StartRun()
     }
     const QString obstacle = runner.Obstacle();
     if (!obstacle.isEmpty()) {
-        bar->SetForecast(obstacle);
+        bar->Say(obstacle);
         return;
     }
     try {
         runner.Start(job.Document(), job.CurrentSettings().policies);
     } catch (const RequestError& error) {
-        bar->SetForecast(Translated(error.text));
-        return;
+        bar->Say(Messages::tr("The run cannot be started: %1.").arg(Translated(error.text)));
     }
-    pictures->States().Begin(runner.CurrentInputs());
 }
 
 void MainWindow::UpdateStart()
 {
-    start->setEnabled(runner.CurrentState() == JobRunner::State::Idle &&
-                      job.Document().GetInputModel()->GetFileNodesCount() > 0);
-}
-
-void MainWindow::UpdateForecast()
-{
-    const int files = job.Document().GetInputModel()->GetFileNodesCount();
-    if (files == 0) {
-        bar->SetForecast(Messages::tr("Add pictures to begin."));
-        return;
-    }
-    const int troubles = pictures->Names().TroubleCount();
-    bar->SetForecast(troubles == 0 ? Messages::tr("%1 pictures").arg(files)
-                                   : Messages::tr("%1 pictures, %2 of them with trouble").arg(files).arg(troubles));
+    const bool canStart =
+        runner.CurrentState() == JobRunner::State::Idle && job.Document().GetInputModel()->GetFileNodesCount() > 0;
+    start->setEnabled(canStart);
+    startAction->setEnabled(canStart);
 }
 
 } // namespace BatchDesktop

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include "ForecastLink.h"
 #include "PaneArrangement.h"
 #include "PaneFocus.h"
+#include "RunLink.h"
 #include "SystemLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
@@ -44,6 +46,8 @@ public:
     PresetBox& PresetChoice() { return *presets; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
+    ForecastLink& Forecasts() { return *forecasts; }
+    RunLink& Runs() { return *runs; }
 
     /// Comes to the front, from an icon too.
     void BringToFront();
@@ -73,11 +77,11 @@ private:
     void ConnectJobs();
     void ShowTitle();
     void ConnectRun();
+    void MakeRunMenu();
     void ConnectPictures();
     void ConnectSystem();
     void OnResult(const QString& input);
     void UpdateStart();
-    void UpdateForecast();
 
     const QString layoutFile; ///< where window and panes were
     EditedJob job;
@@ -91,11 +95,15 @@ private:
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
     ElidedLabel* destination = nullptr;
+    ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
+    QAction* startAction = nullptr;
     std::unique_ptr<InputModule> inputs;
     SystemLink system;
     std::unique_ptr<JobDesk> desk;
     int percent = -1; ///< of the run; negative without one
+    std::unique_ptr<ForecastLink> forecasts;
+    std::unique_ptr<RunLink> runs;
 };
 
 } // namespace BatchDesktop
