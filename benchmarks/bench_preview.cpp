@@ -87,10 +87,10 @@ double MillisecondsOfPreview(PreviewMaker& maker, const QString& photo, int roun
     return watch.Nanoseconds() / nanosecondsOfMillisecond;
 }
 
-double MillisecondsOfWorker(SpareWorkers& spares, const PreviewFolder& folder, const QString& photo, int round)
+double MillisecondsOfWorker(SpareWorkers& spares, const MakingFolder& folder, const QString& photo, int round)
 {
     const PreviewPlan plan = PreviewPlan::Of(photo, OfRound(round), {folder.Path(), {}});
-    TaskWorker worker(spares, {plan.result.document, spares.Limits(), plan.result.rightsToMake});
+    TaskWorker worker(spares, {plan.result.job.document, spares.Limits(), plan.result.job.rightsToMake});
     QEventLoop loop;
     QObject::connect(&worker, &TaskWorker::Reported, &loop, [&loop](const Report& report) {
         if (report.failure != BatchJob::PolicyKind::None) {
@@ -142,7 +142,7 @@ int main(int argc, char** argv)
     constexpr int pause = 1500; // ms, for spare workers to start
     std::vector<double> baselines;
     {
-        const PreviewFolder folder;
+        const MakingFolder folder;
         SpareWorkers spares(WorkerProgram(), ServerLimits::FromEnvironment(), folder.TemporaryPath());
         for (int round = 0; round < rounds; ++round) {
             spares.Prepare(1);

@@ -45,6 +45,9 @@ public:
     /// One sentence for each journal that does not count, with the reason.
     const QStringList& Ignored() const { return ignored; }
 
+    /// The oldest first; running ones too.
+    const std::vector<Run>& All() const { return runs; }
+
     /// How many runs are interrupted and not running.
     int Count() const;
 

@@ -85,6 +85,15 @@ int JournaledJob::RetryFailed()
     return failed.size();
 }
 
+bool JournaledJob::Resume()
+{
+    const std::optional<JournalState> state = ReadJournal(file->Path());
+    if (state) {
+        policies = state->policies;
+    }
+    return state.has_value();
+}
+
 void JournaledJob::End(const RunEnd& end)
 {
     const bool isRefused = end.Outcome() == RunOutcome::Refused;

@@ -63,6 +63,10 @@ public:
     /// journal cannot be read and written.
     int RetryFailed();
 
+    /// The run has ended before all pictures were done: it can be prepared once more. False when the journal cannot be
+    /// read.
+    bool Resume();
+
     /// The run has ended: removes the journal unless something is left to resume.
     void End(const RunEnd& end);
 

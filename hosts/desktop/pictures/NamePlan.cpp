@@ -106,18 +106,30 @@ NamePlan::Plan NamePlan::Make(const QVector<JobFile>& files, const JobSettings& 
     }
     const int folderLength = settings.outputFolder.size() + (settings.outputFolder.endsWith(QLatin1Char('/')) ? 0 : 1);
     Plan plan;
+    Counts counts;
+    const bool overwrites = Policies(policies).Of(PolicyKind::Naming) == Decision::Overwrite;
     plan.entries.reserve(files.size());
     for (int i = 0; i < names.Count() && !isCancelled(); ++i) {
         Entry entry;
+        Trouble trouble;
+        bool isReplacing = false;
         if (!isUnclear.contains(i)) {
-            const Trouble trouble = names.TroubleOf(i);
+            trouble = names.TroubleOf(i);
             entry.name = names.Names().Output(i).mid(folderLength);
             entry.trouble = trouble.reason;
             entry.isNameTaken = trouble.kind == PolicyKind::Naming;
-            plan.troubles += trouble.kind == PolicyKind::None ? 0 : 1;
+            isReplacing = overwrites && names.Names().ClashOf(i) == OutputPlan::Clash::Disk;
+        }
+        ++(isReplacing                        ? counts.replaced
+           : entry.isNameTaken                ? counts.takenNames
+           : trouble.kind != PolicyKind::None ? counts.unwritable
+                                              : counts.newNames);
+        if (isReplacing || trouble.kind == PolicyKind::None) {
+            plan.writable.append(names.Names().Input(i));
         }
         plan.entries.insert(names.Names().Input(i), entry);
     }
+    plan.counts = counts;
     return plan;
 }
 

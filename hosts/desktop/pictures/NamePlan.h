@@ -7,9 +7,11 @@
 #include "hosts/desktop/job/EditedJob.h"
 
 #include <QHash>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace BatchJob {
 struct JobFile;
@@ -32,6 +34,16 @@ public:
         bool isNameTaken = false; ///< what the trouble is
     };
 
+    struct Counts
+    {
+        int newNames = 0; ///< of results, renamed ones too
+        int takenNames = 0;
+        int replaced = 0;   ///< files that exist
+        int unwritable = 0; ///< for other reasons
+
+        int Troubles() const { return takenNames + unwritable; }
+    };
+
     /// `job` must outlive this object.
     explicit NamePlan(EditedJob& job, QObject* parent = nullptr);
     ~NamePlan() override;
@@ -39,8 +51,14 @@ public:
     /// Empty for a file that was not planned yet.
     Entry Of(const QString& input) const;
 
+    /// Of the last plan; nothing as long as the settings cannot be used.
+    std::optional<Counts> Numbers() const { return plan ? plan->counts : std::nullopt; }
+
+    /// The inputs whose results a run would write without a question.
+    QStringList Writable() const { return plan ? plan->writable : QStringList(); }
+
     /// How many files have troubles.
-    int TroubleCount() const { return plan ? plan->troubles : 0; }
+    int TroubleCount() const { return plan && plan->counts ? plan->counts->Troubles() : 0; }
 
     /// Whether the plan shows the job as it is now.
     bool IsCurrent() const { return isCurrent; }
@@ -52,7 +70,8 @@ private:
     struct Plan
     {
         QHash<QString, Entry> entries; ///< by input
-        int troubles = 0;
+        QStringList writable;
+        std::optional<Counts> counts;
     };
 
     static Plan Make(const QVector<BatchJob::JobFile>& files, const BatchJob::JobSettings& settings,

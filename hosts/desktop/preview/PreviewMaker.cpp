@@ -62,6 +62,7 @@ void PreviewMaker::Stop()
     isMaking = false;
     isUpdating = false;
     workshop.spares.Prepare(spareWorkers);
+    Q_EMIT Stopped();
 }
 
 /// A preview that nobody wants any more is ended as soon as another worker can begin at once, or it ends by itself.

@@ -48,6 +48,9 @@ Q_SIGNALS:
     /// There is no preview. `reason` is what a run would say of the file, in English.
     void Failed(const QString& reason);
 
+    /// What was being made was given up.
+    void Stopped();
+
 private:
     void BeginWhenPossible();
     void Begin();

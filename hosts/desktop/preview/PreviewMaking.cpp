@@ -4,11 +4,9 @@
 #include "PreviewMaking.h"
 
 #include "job/values/Phrase.h"
-#include "server/protocol/TaskFailure.h"
 #include "server/protocol/TemporaryFile.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPointer>
 
@@ -53,8 +51,8 @@ PreviewMaking::PreviewMaking(PreviewWorkshop& workshop, const Order& order)
 
 PreviewMaking::~PreviewMaking()
 {
-    EndWorkers();
-    for (const QString& file : {resultFile, beforeFile, afterFile}) {
+    EndWorker();
+    for (const QString& file : {beforeFile, afterFile}) {
         if (!file.isEmpty()) {
             QFile::remove(file);
         }
@@ -80,67 +78,26 @@ void PreviewMaking::Start()
 void PreviewMaking::OnPlanned(const PreviewPlan& newPlan)
 {
     plan = newPlan;
-    if (plan.refusal.code != ZTBatchMessage::NoError) {
-        Fail(plan.refusal.message);
+    if (plan.result.refusal.code != ZTBatchMessage::NoError) {
+        Fail(plan.result.refusal.message);
         return;
     }
     pictures.input = order.file;
-    pictures.inputBytes = plan.inputBytes;
-    resultWorker = std::make_unique<TaskWorker>(workshop.spares, OfWorker(plan.result, workshop.spares.Limits()));
-    connect(resultWorker.get(), &TaskWorker::Reported, this, &PreviewMaking::OnResultReported);
-    if (plan.NeedsProbe()) {
-        resultWorker->Give(ProbeTask{workshop.NextNumber(), order.file});
-    } else {
-        GiveResult();
-    }
-}
-
-void PreviewMaking::GiveResult()
-{
-    const Trouble trouble = plan.names.TroubleOf(0);
-    if (trouble.kind != PolicyKind::None) {
-        Fail(trouble.reason);
-        return;
-    }
-    const OutputPlan& names = plan.names.Names();
-    const int number = workshop.NextNumber();
-    const QString name = QStringLiteral("result-%1.%2").arg(number).arg(QFileInfo(names.OutputName(0)).suffix());
-    resultFile = workshop.folder.FilePath(name);
-    pictures.format = names.Format(0)->name;
-    resultWorker->Give(PictureTask{number, order.file, resultFile, workshop.place.folder, pictures.format, false});
-    if (!hasBefore && !beforeWorker) {
-        MakeBefore();
-    }
-}
-
-void PreviewMaking::OnResultReported(const Report& report)
-{
-    if (pictures.format.isEmpty()) {
-        plan.SetProbe(report);
-        GiveResult();
-    } else if (report.failure == PolicyKind::None) {
-        TakeResult(report);
-    } else {
-        const Trouble trouble = BatchProtocol::TroubleOf(report);
-        const bool isNearestWanted = trouble.kind == PolicyKind::WriteToFormat &&
-                                     plan.policies.Of(PolicyKind::WriteToFormat) == Decision::Nearest;
-        if (isNearestWanted && plan.names.ChangeFormat(0, trouble.nearestFormat)) {
-            GiveResult();
-        } else {
-            Fail(trouble.reason);
-        }
-    }
+    const QString name = QStringLiteral("result-%1").arg(workshop.NextNumber());
+    result = std::make_unique<ResultMaking>(workshop.spares, plan.result,
+                                            ResultMaking::Order{order.file, workshop.place.folder, name});
+    connect(result.get(), &ResultMaking::Made, this, &PreviewMaking::TakeResult);
+    connect(result.get(), &ResultMaking::Failed, this, &PreviewMaking::Fail);
+    MakeBefore();
+    result->Start();
 }
 
 void PreviewMaking::TakeResult(const Report& report)
 {
-    const QFileInfo result(resultFile);
-    if (!result.exists()) {
-        Fail(Phrase::English("the worker reported a result that is not there"));
-        return;
-    }
-    pictures.result = resultFile;
-    pictures.bytes = result.size();
+    pictures.result = result->File();
+    pictures.format = result->Format();
+    pictures.inputBytes = result->InputBytes();
+    pictures.bytes = result->Bytes();
     pictures.inputSize = report.facts.inputSize;
     pictures.size = report.facts.outputSize;
     pictures.warnings = report.warnings;
@@ -155,7 +112,7 @@ void PreviewMaking::TakeResult(const Report& report)
     afterFile = workshop.folder.FilePath(QStringLiteral("after-%1.png").arg(displayTask));
     connect(&workshop.display, &TaskWorker::Reported, this, &PreviewMaking::OnDisplayReported);
     workshop.display.Give(
-        PictureTask{displayTask, resultFile, afterFile, workshop.place.folder, DisplayFormat(), false});
+        PictureTask{displayTask, pictures.result, afterFile, workshop.place.folder, DisplayFormat(), false});
 }
 
 void PreviewMaking::OnDisplayReported(const Report& report)
@@ -235,26 +192,24 @@ void PreviewMaking::FinishWhenComplete()
 {
     if (hasBefore && hasAfter) {
         pictures.seconds = double(order.since.nsecsElapsed()) / 1e9;
-        EndWorkers();
+        EndWorker();
         Q_EMIT Made(pictures);
     }
 }
 
 void PreviewMaking::Fail(const QString& reason)
 {
-    EndWorkers();
+    EndWorker();
     Q_EMIT Failed(reason);
 }
 
-/// One of them may be the caller.
-void PreviewMaking::EndWorkers()
+/// It may be the caller. That of the result ends itself.
+void PreviewMaking::EndWorker()
 {
     disconnect(&workshop.display, nullptr, this, nullptr);
-    for (std::unique_ptr<TaskWorker>* const worker : {&resultWorker, &beforeWorker}) {
-        if (*worker) {
-            (*worker)->disconnect(this);
-            worker->release()->deleteLater();
-        }
+    if (beforeWorker) {
+        beforeWorker->disconnect(this);
+        beforeWorker.release()->deleteLater();
     }
 }
 

@@ -3,10 +3,11 @@
 
 #pragma once
 
-#include "PreviewFolder.h"
 #include "PreviewPictures.h"
 #include "PreviewPlan.h"
-#include "TaskWorker.h"
+
+#include "hosts/desktop/making/MakingFolder.h"
+#include "hosts/desktop/making/ResultMaking.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -25,7 +26,7 @@ struct PreviewWorkshop
     /// A number that no other file and no other task has.
     int NextNumber() { return ++lastNumber; }
 
-    const PreviewFolder folder;
+    const MakingFolder folder;
     const PreviewPlace place;
     SpareWorkers spares;
     TaskWorker display;   ///< makes results ready to be shown
@@ -61,8 +62,6 @@ Q_SIGNALS:
 
 private:
     void OnPlanned(const PreviewPlan& newPlan);
-    void GiveResult();
-    void OnResultReported(const BatchProtocol::Report& report);
     void TakeResult(const BatchProtocol::Report& report);
     void MakeBefore();
     void OnBeforeReported(const BatchProtocol::Report& report);
@@ -72,15 +71,14 @@ private:
     void TakeAfter(const QImage& picture);
     void FinishWhenComplete();
     void Fail(const QString& reason);
-    void EndWorkers();
+    void EndWorker();
 
     PreviewWorkshop& workshop;
     const Order order;
     PreviewPlan plan;
     PreviewPictures pictures;
-    std::unique_ptr<TaskWorker> resultWorker;
+    std::unique_ptr<ResultMaking> result;
     std::unique_ptr<TaskWorker> beforeWorker;
-    QString resultFile;
     QString beforeFile;
     QString afterFile;
     int displayTask = 0;

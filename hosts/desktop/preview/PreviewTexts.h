@@ -9,9 +9,6 @@
 
 namespace BatchDesktop {
 
-/// A number of bytes in three digits at most, such as "312 kB".
-QString ByteText(qint64 bytes);
-
 /// What becomes of the picture: sizes in pixels and bytes, before and after.
 QString FactsText(const PreviewPictures& pictures);
 

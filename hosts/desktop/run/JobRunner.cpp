@@ -17,6 +17,14 @@ using namespace BatchHost;
 
 namespace BatchDesktop {
 
+double JobRunner::Progress::Fraction() const
+{
+    if (bytes > 0) {
+        return double(bytesDone) / double(bytes);
+    }
+    return files > 0 ? double(Done()) / files : 0;
+}
+
 double JobRunner::Progress::SecondsLeft() const
 {
     constexpr double leastSeconds = 1;
@@ -62,12 +70,12 @@ void JobRunner::Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& 
     Run(job, policiesOfRun);
 }
 
-void JobRunner::TakeUp(const QString& folder)
+void JobRunner::TakeUp(const QString& folder, const QString& name)
 {
     ZTBatchDocument job;
     job.GetOutputSettings()->SetPath(folder);
     Dismiss(); // It may be this very run.
-    journaled.emplace(JournaledJob::Interrupted(job, InterruptedRuns(folder), {}));
+    journaled.emplace(JournaledJob::Interrupted(job, InterruptedRuns(folder), {false, name}));
     Run(job, *journaled->Policies());
 }
 
@@ -76,9 +84,29 @@ bool JobRunner::RetryFailed()
     if (state != State::Idle || !journaled || !runningJob || journaled->RetryFailed() == 0) {
         return false;
     }
+    RunAgain();
+    return true;
+}
+
+bool JobRunner::CanResume() const
+{
+    return state == State::Idle && journaled && runningJob && lastEnd && !lastEnd->IsFinished() &&
+           journaled->CanBeResumed();
+}
+
+bool JobRunner::Resume()
+{
+    if (!CanResume() || !journaled->Resume()) {
+        return false;
+    }
+    RunAgain();
+    return true;
+}
+
+void JobRunner::RunAgain()
+{
     const std::unique_ptr<ZTBatchDocument> job = std::move(runningJob);
     Run(*job, policies);
-    return true;
 }
 
 void JobRunner::Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun)
@@ -196,6 +224,7 @@ void JobRunner::OnStart(const RunInputs& startedInputs, const QString& folder)
     outputFolder = folder;
     progress.files = inputs.files.size();
     progress.bytes = inputs.allBytes;
+    Q_EMIT Started();
     Q_EMIT Progressed();
 }
 

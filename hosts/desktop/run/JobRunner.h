@@ -44,6 +44,9 @@ public:
 
         int Done() const { return written + skipped + failed; }
 
+        /// How much is done, from 0 to 1: by bytes, or by files when these are not known.
+        double Fraction() const;
+
         /// What is left to wait, by the bytes so far; negative as long as too little is done to tell.
         double SecondsLeft() const;
     };
@@ -72,6 +75,12 @@ public:
     /// How the last run ended; nothing before that and while one is going on.
     const std::optional<BatchHost::RunEnd>& LastEnd() const { return lastEnd; }
 
+    /// Whether Resume() may succeed.
+    bool CanResume() const;
+
+    /// Where the results of the current or last run go.
+    const QString& CurrentFolder() const { return outputFolder; }
+
     /// The inputs of the current or last run.
     const QStringList& CurrentInputs() const { return inputs.files; }
 
@@ -81,8 +90,12 @@ public:
     /// Starts the run of `job`. Throws RequestError. Nothing may be running.
     void Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies);
 
-    /// Takes up the run of the journal that was interrupted in `outputFolder`. Throws RequestError.
-    void TakeUp(const QString& outputFolder);
+    /// Takes up the run that was interrupted in `outputFolder`: the one called `name`, see InterruptedRuns, or the only
+    /// one if it is empty. Throws RequestError.
+    void TakeUp(const QString& outputFolder, const QString& name = QString());
+
+    /// Goes on with the last run, which has ended before all of its pictures were done. False if that cannot be done.
+    bool Resume();
 
     /// Takes the last run up again for the pictures that have failed. False if that cannot be done.
     bool RetryFailed();
@@ -99,6 +112,9 @@ public:
     void SaveReport(const QString& path) const;
 
 Q_SIGNALS:
+    /// A run begins, or begins again; results that it had before follow.
+    void Started();
+
     void StateChanged();
     void Progressed();
 
@@ -125,6 +141,7 @@ private:
     void OnServerLost(const QStringList& inWork, bool goesOn) override;
 
     void Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies);
+    void RunAgain();
     void OnEnded(const BatchHost::RunEnd& end);
     void SetState(State newState);
     void Count(const BatchHost::FileResult& result);

@@ -27,6 +27,8 @@ QuestionBar::QuestionBar(JobRunner& runner, QWidget* parent)
     setAccessibleName(Messages::tr("Question about a picture"));
     setFrameShape(QFrame::StyledPanel);
     text->setObjectName(QStringLiteral("questionText"));
+    existingPicture->setObjectName(QStringLiteral("existingPicture"));
+    wantedPicture->setObjectName(QStringLiteral("wantedPicture"));
     text->setWordWrap(true);
     text->setTextFormat(Qt::PlainText);
     forTheRest->setObjectName(QStringLiteral("answerForTheRest"));
@@ -42,12 +44,24 @@ QuestionBar::QuestionBar(JobRunner& runner, QWidget* parent)
 
 void QuestionBar::SetPictures(const QPixmap& existing, const QPixmap& wanted)
 {
-    existingPicture->setPixmap(existing);
-    existingPicture->setVisible(!existing.isNull());
-    existingPicture->setToolTip(Messages::tr("The file that exists"));
-    wantedPicture->setPixmap(wanted);
-    wantedPicture->setVisible(!wanted.isNull());
-    wantedPicture->setToolTip(Messages::tr("The new result"));
+    Show(existing, existingPicture, Messages::tr("The file that exists"));
+    Show(wanted, wantedPicture, Messages::tr("The picture whose result would have its name"));
+}
+
+void QuestionBar::Show(const QPixmap& picture, QLabel* label, const QString& description)
+{
+    constexpr int lines = 4;
+    const double ratio = devicePixelRatioF();
+    const int length = qRound(lines * fontMetrics().lineSpacing() * ratio);
+    QPixmap scaled = picture;
+    if (picture.height() > length) {
+        scaled = picture.scaledToHeight(length, Qt::SmoothTransformation);
+    }
+    scaled.setDevicePixelRatio(ratio);
+    label->setPixmap(scaled);
+    label->setVisible(!picture.isNull());
+    label->setToolTip(description);
+    label->setAccessibleName(description);
 }
 
 void QuestionBar::Refresh()

@@ -23,7 +23,7 @@ class QuestionBar : public QFrame
 public:
     explicit QuestionBar(JobRunner& runner, QWidget* parent = nullptr);
 
-    /// Pictures of the existing file and of the one that would take its place; null ones are not shown.
+    /// Pictures of the existing file and of the input whose result would take its place; null ones are not shown.
     void SetPictures(const QPixmap& existing, const QPixmap& wanted);
 
 Q_SIGNALS:
@@ -31,6 +31,7 @@ Q_SIGNALS:
     void PicturesWanted(const QString& existing, const QString& wanted);
 
 private:
+    void Show(const QPixmap& picture, QLabel* label, const QString& description);
     void Refresh();
     void MakeButtons(BatchJob::PolicyKind kind);
 

@@ -18,14 +18,6 @@ namespace {
 
 constexpr int mostUnits = 1000; // of the progress bar, as bytes do not fit its numbers
 
-int Units(const JobRunner::Progress& progress)
-{
-    if (progress.bytes > 0) {
-        return int(double(mostUnits) * double(progress.bytesDone) / double(progress.bytes));
-    }
-    return progress.files > 0 ? mostUnits * progress.Done() / progress.files : 0;
-}
-
 } // namespace
 
 RunBar::RunBar(JobRunner& runner, QWidget* parent)
@@ -34,6 +26,14 @@ RunBar::RunBar(JobRunner& runner, QWidget* parent)
     , bar(new QProgressBar)
     , status(new QLabel)
     , counts(new QLabel)
+    , pause(QStringLiteral("pause"), Messages::tr("&Pause"), Qt::CTRL + Qt::Key_P, this)
+    , cancel(QStringLiteral("cancel"), Messages::tr("&Cancel the run"), {}, this)
+    , resume(QStringLiteral("resume"), Messages::tr("Resu&me the run"), {}, this)
+    , showFailed(QStringLiteral("showFailed"), Messages::tr("S&how failed"), {}, this)
+    , retry(QStringLiteral("retryFailed"), Messages::tr("Retr&y failed"), {}, this)
+    , openFolder(QStringLiteral("openFolder"), Messages::tr("Open fo&lder"), {}, this)
+    , saveReport(QStringLiteral("saveReport"), Messages::tr("&Save report"), {}, this)
+    , putAway(QStringLiteral("putAway"), Messages::tr("Put &away"), {}, this)
 {
     setObjectName(QStringLiteral("runBar"));
     bar->setObjectName(QStringLiteral("progress"));
@@ -47,29 +47,19 @@ RunBar::RunBar(JobRunner& runner, QWidget* parent)
     layout->addWidget(bar, 1);
     layout->addWidget(status, 3);
     layout->addWidget(counts);
-    pause = AddButton("pause", Messages::tr("&Pause"));
-    cancel = AddButton("cancel", Messages::tr("&Cancel the run"));
-    showFailed = AddButton("showFailed", Messages::tr("Show &failed"));
-    retry = AddButton("retryFailed", Messages::tr("&Retry failed"));
-    openFolder = AddButton("openFolder", Messages::tr("Open f&older"));
-    saveReport = AddButton("saveReport", Messages::tr("Save rep&ort"));
-
-    connect(pause, &QToolButton::clicked, this, [this] {
-        this->runner.CurrentState() == JobRunner::State::Running ? this->runner.Pause() : this->runner.GoOn();
-    });
-    connect(cancel, &QToolButton::clicked, &runner, &JobRunner::Cancel);
-    connect(retry, &QToolButton::clicked, &runner, &JobRunner::RetryFailed);
-    connect(showFailed, &QToolButton::clicked, this, &RunBar::FailedWanted);
-    connect(saveReport, &QToolButton::clicked, this, &RunBar::ReportWanted);
-    connect(openFolder, &QToolButton::clicked, this, [this] {
-        if (this->runner.LastEnd()) {
-            Q_EMIT FolderWanted(this->runner.LastEnd()->outputFolder);
-        }
-    });
+    for (const RunControl& control : {pause, cancel, resume, showFailed, retry, openFolder, saveReport, putAway}) {
+        layout->addWidget(control.Button());
+    }
+    ConnectControls();
     connect(&runner, &JobRunner::StateChanged, this, &RunBar::Refresh);
+    connect(&runner, &JobRunner::Started, this, [this] {
+        notice.clear();
+        isEndTold = isEndOffered = true;
+    });
     connect(&runner, &JobRunner::ServerLost, this, [this](bool goesOn) {
-        note = goesOn ? Messages::tr("The batch server has ended unexpectedly; a new one goes on.") : QString();
-        RefreshProgress();
+        if (goesOn) {
+            Say(Messages::tr("The batch server has ended unexpectedly; a new one goes on."));
+        }
     });
     constexpr int shortest = 100; // ms; a run may report hundreds of pictures a second
     pace.setSingleShot(true);
@@ -83,19 +73,67 @@ RunBar::RunBar(JobRunner& runner, QWidget* parent)
     Refresh();
 }
 
-QToolButton* RunBar::AddButton(const char* name, const QString& label)
+void RunBar::ConnectControls()
 {
-    auto* const button = new QToolButton(this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setText(label);
-    button->setFocusPolicy(Qt::StrongFocus);
-    layout()->addWidget(button);
-    return button;
+    const auto onTrigger = [this](const RunControl& control, auto function) {
+        connect(control.Action(), &QAction::triggered, this, function);
+    };
+    onTrigger(pause, [this] { runner.CurrentState() == JobRunner::State::Running ? runner.Pause() : runner.GoOn(); });
+    onTrigger(cancel, [this] { runner.Cancel(); });
+    onTrigger(resume, [this] {
+        if (!runner.Resume()) {
+            Say(Messages::tr("The run cannot be resumed: its journal cannot be read."));
+        }
+    });
+    onTrigger(retry, [this] {
+        if (!runner.RetryFailed()) {
+            Say(Messages::tr("The failed pictures cannot be tried again: the journal of their run cannot be used."));
+        }
+    });
+    onTrigger(showFailed, [this] { Q_EMIT FailedWanted(); });
+    onTrigger(saveReport, [this] { Q_EMIT ReportWanted(); });
+    onTrigger(openFolder, [this] { Q_EMIT FolderWanted(runner.CurrentFolder()); });
+    onTrigger(putAway, [this] { PutAway(); });
+}
+
+QList<QAction*> RunBar::Actions() const
+{
+    return {pause.Action(), cancel.Action(),     resume.Action(),     showFailed.Action(),
+            retry.Action(), openFolder.Action(), saveReport.Action(), putAway.Action()};
 }
 
 void RunBar::SetForecast(const QString& text)
 {
     forecast = text;
+    RefreshProgress();
+}
+
+void RunBar::Say(const QString& text)
+{
+    if (notice == text) {
+        return;
+    }
+    notice = text;
+    Refresh();
+    QAccessibleEvent alert(status, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void RunBar::PreferForecast()
+{
+    if (isEndTold) {
+        isEndTold = false;
+        Refresh();
+    }
+}
+
+void RunBar::PutAway()
+{
+    notice.clear();
+    if (runner.CurrentState() == JobRunner::State::Idle) {
+        isEndTold = isEndOffered = false;
+        runner.Dismiss();
+    }
     Refresh();
 }
 
@@ -104,21 +142,18 @@ void RunBar::Refresh()
     const JobRunner::State state = runner.CurrentState();
     const bool isRunning = state != JobRunner::State::Idle;
     const auto& end = runner.LastEnd();
-    const bool isOver = !isRunning && end;
-    if (!isRunning) {
-        note.clear();
-    }
+    const bool isOver = !isRunning && end && isEndOffered;
     bar->setVisible(isRunning);
     counts->setVisible(isRunning);
-    pause->setVisible(isRunning);
-    pause->setEnabled(state != JobRunner::State::Cancelling);
-    pause->setText(state == JobRunner::State::Running ? Messages::tr("&Pause") : Messages::tr("Go &on"));
-    cancel->setVisible(isRunning);
-    cancel->setEnabled(state != JobRunner::State::Cancelling);
-    showFailed->setVisible(isOver && end->failed > 0);
-    retry->setVisible(isOver && end->failed > 0 && end->NotProcessed() == 0);
-    openFolder->setVisible(isOver && end->written > 0);
-    saveReport->setVisible(isOver);
+    pause.SetPossible(isRunning, state != JobRunner::State::Cancelling);
+    pause.SetLabel(!isRunning || state == JobRunner::State::Running ? Messages::tr("&Pause") : Messages::tr("Go &on"));
+    cancel.SetPossible(isRunning, state != JobRunner::State::Cancelling);
+    resume.SetPossible(isOver && runner.CanResume());
+    showFailed.SetPossible(isOver && end->failed > 0);
+    retry.SetPossible(isOver && end->failed > 0 && end->NotProcessed() == 0);
+    openFolder.SetPossible(isOver && end->written > 0);
+    saveReport.SetPossible(isOver);
+    putAway.SetPossible(isOver || !notice.isEmpty());
     RefreshProgress();
     QAccessibleEvent event(status, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
@@ -126,15 +161,19 @@ void RunBar::Refresh()
 
 void RunBar::RefreshProgress()
 {
+    QString text = IdleText();
     if (runner.CurrentState() != JobRunner::State::Idle) {
         const JobRunner::Progress& progress = runner.CurrentProgress();
-        bar->setValue(Units(progress));
+        bar->setValue(int(mostUnits * progress.Fraction()));
         counts->setText(CountsText(progress));
-        const QString text = StatusText(runner.CurrentState(), progress);
-        status->setText(note.isEmpty() ? text : note + QLatin1Char(' ') + text);
-    } else {
-        status->setText(runner.LastEnd() ? EndText(*runner.LastEnd()) : forecast);
+        text = StatusText(runner.CurrentState(), progress);
     }
+    status->setText(notice.isEmpty() ? text : notice + QLatin1Char(' ') + text);
+}
+
+QString RunBar::IdleText() const
+{
+    return runner.LastEnd() && isEndTold ? EndText(*runner.LastEnd()) : forecast;
 }
 
 } // namespace BatchDesktop

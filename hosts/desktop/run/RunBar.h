@@ -4,11 +4,12 @@
 #pragma once
 
 #include "JobRunner.h"
+#include "RunControl.h"
 
 #include <QLabel>
+#include <QList>
 #include <QProgressBar>
 #include <QTimer>
-#include <QToolButton>
 #include <QWidget>
 
 namespace BatchDesktop {
@@ -25,6 +26,15 @@ public:
     /// What a run would do, shown as long as nothing else is to be told.
     void SetForecast(const QString& text);
 
+    /// A sentence that stands before everything else, until the next run begins or it is put away.
+    void Say(const QString& text);
+
+    /// The job is no longer that of the last run: what the next run would do is worth more than how the last one ended.
+    void PreferForecast();
+
+    /// Everything that can be done here, for menus.
+    QList<QAction*> Actions() const;
+
 Q_SIGNALS:
     /// The user wants to see the pictures that failed.
     void FailedWanted();
@@ -34,23 +44,29 @@ Q_SIGNALS:
     void ReportWanted();
 
 private:
-    QToolButton* AddButton(const char* name, const QString& label);
+    void ConnectControls();
+    void PutAway();
     void Refresh();
     void RefreshProgress();
+    QString IdleText() const;
 
     JobRunner& runner;
     QString forecast;
-    QString note; ///< what happened to the server
+    QString notice; ///< see Say()
     QProgressBar* const bar;
     QLabel* const status;
     QLabel* const counts;
-    QToolButton* pause = nullptr;
-    QToolButton* cancel = nullptr;
-    QToolButton* showFailed = nullptr;
-    QToolButton* retry = nullptr;
-    QToolButton* openFolder = nullptr;
-    QToolButton* saveReport = nullptr;
-    QTimer pace; ///< limits how often progress is shown
+    RunControl pause;
+    RunControl cancel;
+    RunControl resume;
+    RunControl showFailed;
+    RunControl retry;
+    RunControl openFolder;
+    RunControl saveReport;
+    RunControl putAway;
+    bool isEndTold = false;    ///< how the last run ended is worth its place
+    bool isEndOffered = false; ///< so is what can be done about it
+    QTimer pace;               ///< limits how often progress is shown
 };
 
 } // namespace BatchDesktop

@@ -83,6 +83,14 @@ QString EndText(const RunEnd& end)
     return {};
 }
 
+QString InterruptedText(const InterruptedRun& run)
+{
+    return Messages::tr("A run was interrupted after %1 of %2 pictures. Its results go to %3.")
+        .arg(run.done)
+        .arg(run.files)
+        .arg(run.folder);
+}
+
 QString QuestionText(const JobRunner::Question& question)
 {
     const QString reason = Translated(question.reason);

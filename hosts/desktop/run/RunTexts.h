@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "InterruptedRunSearch.h"
 #include "JobRunner.h"
 
 #include <QString>
@@ -18,6 +19,9 @@ QString CountsText(const JobRunner::Progress& progress);
 
 /// How a run ended, with what the user can do about it.
 QString EndText(const BatchHost::RunEnd& end);
+
+/// What was left of a run, and where.
+QString InterruptedText(const InterruptedRun& run);
 
 /// What is asked, as a question about the file.
 QString QuestionText(const JobRunner::Question& question);

@@ -5,20 +5,19 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/settings/sections/ElidedLabel.h"
 #include "hosts/desktop/settings/sections/SettingsSection.h"
 
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
 
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
-#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace BatchHost;
@@ -50,22 +49,28 @@ MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
     : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
+    , system(runner, *this)
 {
     setObjectName(QStringLiteral("mainWindow"));
     desk = std::make_unique<JobDesk>(job, *presets, *this, dataFolder);
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
+    MakeRunMenu();
     ConnectPictures();
     ConnectRun();
     ConnectJobs();
+    ConnectSystem();
+    forecasts = std::make_unique<ForecastLink>(job, *pictures, *preview, runner, *bar);
+    runs = std::make_unique<RunLink>(job, runner, RunLink::Bars{*bar, *questions, *resume}, settingsFolder);
     UpdateStart();
-    UpdateForecast();
     RestoreLayout();
 }
 
 MainWindow::~MainWindow()
 {
+    runs.reset(); // They use the panes and bars.
+    forecasts.reset();
     inputs.reset(); // It is registered with the manager and uses the pane.
     desk.reset();   // It looks at the presets.
     delete takeCentralWidget();
@@ -85,10 +90,7 @@ void MainWindow::RestoreLayout()
         constexpr QSize usual(1280, 800);
         resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     }
-    if (!panes->restoreState(layout.value(panesKey).toByteArray())) {
-        const int share = width() / 10;
-        panes->setSizes({3 * share, 4 * share, 3 * share});
-    }
+    panes->SetWidths(layout.value(panesKey).toByteArray());
     const QStringList open = layout.value(openKey).toStringList();
     for (SettingsSection* const section : settings->Sections()) {
         section->SetFolded(!open.contains(section->objectName()));
@@ -99,7 +101,7 @@ void MainWindow::SaveLayout() const
 {
     QSettings layout(layoutFile, QSettings::IniFormat);
     layout.setValue(geometryKey, saveGeometry());
-    layout.setValue(panesKey, panes->saveState());
+    layout.setValue(panesKey, panes->Widths());
     QStringList open;
     for (const SettingsSection* const section : settings->Sections()) {
         if (!section->IsFolded()) {
@@ -115,39 +117,48 @@ QWidget* MainWindow::NewTopRow()
     auto* const layout = new QHBoxLayout(row);
     start = new QPushButton(Messages::tr("Start"));
     start->setObjectName(QStringLiteral("start"));
-    start->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     start->setDefault(true);
-    layout->addStretch(1);
+    destination = new ElidedLabel;
+    destination->setObjectName(QStringLiteral("destination"));
+    destination->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(destination, 1);
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
+    connect(&job, &EditedJob::SettingsChanged, this, &MainWindow::ShowDestination);
+    connect(&job, &EditedJob::Replaced, this, &MainWindow::ShowDestination);
+    ShowDestination();
     return row;
+}
+
+void MainWindow::ShowDestination()
+{
+    const QString folder = QDir::toNativeSeparators(job.CurrentSettings().outputFolder);
+    destination->setText(folder.isEmpty() ? QString() : Messages::tr("Results go to %1").arg(folder));
 }
 
 void MainWindow::MakePanes()
 {
     auto* const body = new QWidget;
     auto* const layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(NewTopRow());
     layout->addWidget(&desk->Naming());
     layout->addWidget(&desk->Notice());
-    panes = new QSplitter;
-    panes->setObjectName(QStringLiteral("panes"));
-    panes->setChildrenCollapsible(false);
     pictures = new PicturesPane(job);
     preview = new PreviewPane(job);
     settings = new SettingsPane(job);
-    for (QWidget* const pane :
-         {static_cast<QWidget*>(pictures), static_cast<QWidget*>(preview), static_cast<QWidget*>(settings)}) {
-        panes->addWidget(pane);
-    }
-    panes->setStretchFactor(1, 1);
+    panes = new PaneArrangement(pictures, preview, settings);
     layout->addWidget(panes, 1);
     questions = new QuestionBar(runner);
     bar = new RunBar(runner);
+    resume = new ResumeBar;
+    layout->addWidget(resume);
     layout->addWidget(questions);
     layout->addWidget(bar);
     setCentralWidget(body);
+    focus = new PaneFocus(*panes, {pictures, preview, settings, resume, questions, bar}, this);
 }
 
 void MainWindow::MakeMenus()
@@ -182,6 +193,11 @@ void MainWindow::MakeMenus()
     previous->setShortcut(QKeySequence(Qt::Key_BracketLeft));
     QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
+    view->addSeparator();
+    view->addAction(
+        Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
+    view->addAction(
+        Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); }, QKeySequence(Qt::SHIFT + Qt::Key_F6));
 }
 
 void MainWindow::OpenPaths(const QStringList& paths)
@@ -209,9 +225,19 @@ void MainWindow::ConnectJobs()
 void MainWindow::ShowTitle()
 {
     const JobKeeper& keeper = desk->Keeper();
-    setWindowTitle(Messages::tr("%1[*] - Velkora Batch").arg(keeper.Name()));
+    setWindowTitle(percent < 0 ? Messages::tr("%1[*] - Velkora Batch").arg(keeper.Name())
+                               : Messages::tr("%1 % - %2[*] - Velkora Batch").arg(percent).arg(keeper.Name()));
     setWindowModified(keeper.IsChanged());
     setWindowFilePath(keeper.File());
+}
+
+void MainWindow::MakeRunMenu()
+{
+    QMenu* const menu = menuBar()->addMenu(Messages::tr("&Run"));
+    startAction = menu->addAction(Messages::tr("&Start"), this, &MainWindow::StartRun);
+    startAction->setObjectName(QStringLiteral("startAction"));
+    startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+    menu->addActions(bar->Actions());
 }
 
 void MainWindow::ConnectPictures()
@@ -221,22 +247,44 @@ void MainWindow::ConnectPictures()
         settings->SetExample(file);
     });
     connect(pictures, &PicturesPane::InputsChanged, this, [this] {
+        if (pictures->Current().isEmpty()) {
+            pictures->SelectNext(); // There is something to see at once.
+        }
         UpdateStart();
-        UpdateForecast();
     });
-    connect(&pictures->Names(), &NamePlan::Planned, this, &MainWindow::UpdateForecast);
 }
 
 void MainWindow::ConnectRun()
 {
     RunStates& states = pictures->States();
     connect(&runner, &JobRunner::StateChanged, this, &MainWindow::UpdateStart);
+    connect(&runner, &JobRunner::Started, &states, [this, &states] { states.Begin(runner.CurrentInputs()); });
     connect(&runner, &JobRunner::Begun, &states,
             [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
     connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
     connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
-    connect(bar, &RunBar::FolderWanted, this,
-            [](const QString& folder) { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+void MainWindow::ConnectSystem()
+{
+    connect(&system, &SystemLink::PercentChanged, this, [this](int now) {
+        percent = now;
+        ShowTitle();
+    });
+    connect(&system, &SystemLink::WindowWanted, this, &MainWindow::BringToFront);
+    connect(&system, &SystemLink::FolderWanted, this, [this](const QString& folder) { runs->openFolder(folder); });
+    connect(&system, &SystemLink::FailuresWanted, this, [this] {
+        BringToFront();
+        pictures->Filter(QString(), ShownState::Failed);
+    });
+}
+
+void MainWindow::BringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 void MainWindow::OnResult(const QString& input)
@@ -252,34 +300,22 @@ void MainWindow::StartRun()
     }
     const QString obstacle = runner.Obstacle();
     if (!obstacle.isEmpty()) {
-        bar->SetForecast(obstacle);
+        bar->Say(obstacle);
         return;
     }
     try {
         runner.Start(job.Document(), job.CurrentSettings().policies);
     } catch (const RequestError& error) {
-        bar->SetForecast(Translated(error.text));
-        return;
+        bar->Say(Messages::tr("The run cannot be started: %1.").arg(Translated(error.text)));
     }
-    pictures->States().Begin(runner.CurrentInputs());
 }
 
 void MainWindow::UpdateStart()
 {
-    start->setEnabled(runner.CurrentState() == JobRunner::State::Idle &&
-                      job.Document().GetInputModel()->GetFileNodesCount() > 0);
-}
-
-void MainWindow::UpdateForecast()
-{
-    const int files = job.Document().GetInputModel()->GetFileNodesCount();
-    if (files == 0) {
-        bar->SetForecast(Messages::tr("Add pictures to begin."));
-        return;
-    }
-    const int troubles = pictures->Names().TroubleCount();
-    bar->SetForecast(troubles == 0 ? Messages::tr("%1 pictures").arg(files)
-                                   : Messages::tr("%1 pictures, %2 of them with trouble").arg(files).arg(troubles));
+    const bool canStart =
+        runner.CurrentState() == JobRunner::State::Idle && job.Document().GetInputModel()->GetFileNodesCount() > 0;
+    start->setEnabled(canStart);
+    startAction->setEnabled(canStart);
 }
 
 } // namespace BatchDesktop

@@ -3,6 +3,12 @@
 
 #pragma once
 
+#include "ForecastLink.h"
+#include "PaneArrangement.h"
+#include "PaneFocus.h"
+#include "RunLink.h"
+#include "SystemLink.h"
+
 #include "hosts/desktop/job/EditedJob.h"
 #include "hosts/desktop/jobs/JobDesk.h"
 #include "hosts/desktop/pictures/InputModule.h"
@@ -15,9 +21,10 @@
 
 #include <QMainWindow>
 #include <QPushButton>
-#include <QSplitter>
 
 namespace BatchDesktop {
+
+class ElidedLabel;
 
 /// The window: pictures, preview and settings side by side, and the bar of the run below them.
 class MainWindow : public QMainWindow
@@ -39,6 +46,11 @@ public:
     PresetBox& PresetChoice() { return *presets; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
+    ForecastLink& Forecasts() { return *forecasts; }
+    RunLink& Runs() { return *runs; }
+
+    /// Comes to the front, from an icon too.
+    void BringToFront();
 
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
@@ -59,15 +71,17 @@ private:
     void RestoreLayout();
     void SaveLayout() const;
     QWidget* NewTopRow();
+    void ShowDestination();
     void MakePanes();
     void MakeMenus();
     void ConnectJobs();
     void ShowTitle();
     void ConnectRun();
+    void MakeRunMenu();
     void ConnectPictures();
+    void ConnectSystem();
     void OnResult(const QString& input);
     void UpdateStart();
-    void UpdateForecast();
 
     const QString layoutFile; ///< where window and panes were
     EditedJob job;
@@ -76,12 +90,20 @@ private:
     PicturesPane* pictures = nullptr;
     PreviewPane* preview = nullptr;
     SettingsPane* settings = nullptr;
-    QSplitter* panes = nullptr;
+    PaneArrangement* panes = nullptr;
+    PaneFocus* focus = nullptr;
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
+    ElidedLabel* destination = nullptr;
+    ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
+    QAction* startAction = nullptr;
     std::unique_ptr<InputModule> inputs;
+    SystemLink system;
     std::unique_ptr<JobDesk> desk;
+    int percent = -1; ///< of the run; negative without one
+    std::unique_ptr<ForecastLink> forecasts;
+    std::unique_ptr<RunLink> runs;
 };
 
 } // namespace BatchDesktop

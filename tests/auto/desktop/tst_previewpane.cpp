@@ -4,6 +4,7 @@
 #include "PictureFiles.h"
 #include "PrivateTempDir.h"
 
+#include "hosts/common/ByteText.h"
 #include "hosts/desktop/job/EditedJob.h"
 #include "hosts/desktop/preview/PreviewDivider.h"
 #include "hosts/desktop/preview/PreviewPane.h"
@@ -17,6 +18,7 @@
 #include <QtTest>
 
 using namespace BatchDesktop;
+using BatchHost::ByteText;
 
 /// What is seen of a preview, and how mouse and keys change it.
 class tst_PreviewPane : public QObject

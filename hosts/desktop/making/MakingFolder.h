@@ -9,17 +9,17 @@
 
 namespace BatchDesktop {
 
-/// The private folders of the previews of this process. They are removed with this object, or by the next process if
-/// this one is killed.
-class PreviewFolder
+/// The private folders of what this process makes, previews above all. They are removed with this object, or by the
+/// next process if this one is killed.
+class MakingFolder
 {
 public:
-    PreviewFolder();
+    MakingFolder();
 
     /// Why there is no folder; empty when there is one.
     QString Error() const;
 
-    /// Where the files of previews are: in memory, if the system has such a place for this user and it has room.
+    /// Where the files are: in memory, if the system has such a place for this user and it has room.
     QString Path() const { return files.Path(); }
     QString FilePath(const QString& name) const { return files.FilePath(name); }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
-#include "PreviewFolder.h"
+#include "MakingFolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,13 +26,13 @@ QString ParentOfFiles()
 
 } // namespace
 
-PreviewFolder::PreviewFolder()
+MakingFolder::MakingFolder()
     : files(ParentOfFiles(), nameStart)
     , temporary(QDir::tempPath(), nameStart)
 {
 }
 
-QString PreviewFolder::Error() const
+QString MakingFolder::Error() const
 {
     return files.Error().isEmpty() ? temporary.Error() : files.Error();
 }

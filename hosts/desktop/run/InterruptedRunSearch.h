@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QThreadPool>
+#include <QVector>
+
+namespace BatchDesktop {
+
+/// A run that can be resumed.
+struct InterruptedRun
+{
+    QString folder;   ///< of its results
+    QString name;     ///< see InterruptedRuns
+    QString journal;  ///< path
+    QString document; ///< the text of its job
+    int done = 0;     ///< pictures
+    int files = 0;
+};
+
+/// Remembers where runs write, beyond the end of this process, and finds the runs there that were interrupted.
+class InterruptedRunSearch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The folders are remembered in `settingsFolder`.
+    explicit InterruptedRunSearch(const QString& settingsFolder, QObject* parent = nullptr);
+    ~InterruptedRunSearch() override;
+
+    /// A run writes into `folder`.
+    void Remember(const QString& folder);
+
+    /// Looks into the folders, on a thread. Those without interrupted runs are forgotten.
+    void Start();
+
+    /// Gives up the run for good. Returns why it cannot, in the user's language; empty if it could.
+    static QString Forget(const InterruptedRun& run);
+
+Q_SIGNALS:
+    /// Emitted once for each Start().
+    void Found(const QVector<BatchDesktop::InterruptedRun>& runs);
+
+private:
+    QStringList Folders() const;
+    void SetFolders(const QStringList& folders) const;
+
+    const QString file;
+    QThreadPool threads;
+};
+
+} // namespace BatchDesktop
+
+Q_DECLARE_METATYPE(BatchDesktop::InterruptedRun)

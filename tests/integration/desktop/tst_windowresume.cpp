@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "ProcessEnd.h"
+#include "WindowStage.h"
+
+#include <QProcess>
+
+using namespace BatchDesktop;
+
+using RunState = JobRunner::State;
+
+/// Windows that were killed in a run, and what the next one makes of it.
+class tst_WindowResume : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aKilledRunIsResumed();
+    void aKilledRunIsForgotten();
+    void theJobInTheWindowStays();
+    void aClosedRunIsOffered();
+    void finishedRunsAreNotOffered();
+    void vanishedFoldersAreForgotten();
+
+private:
+    bool KillWindowInItsRun() const;
+    QStringList HiddenResults() const;
+
+    std::unique_ptr<WindowStage> stage;
+};
+
+namespace {
+
+constexpr int photos = 20;
+constexpr char folderVariable[] = "BATCHCORE_TEST_KILLED_WINDOW";
+
+/// A window of another process, which starts a run in the folder and pauses it before its end.
+int RunUntilKilled()
+{
+    EndWithParent();
+    const QDir folder(qEnvironmentVariable(folderVariable));
+    MainWindow window(folder.filePath(QStringLiteral("settings")));
+    window.show();
+    Settings settings = window.Job().CurrentSettings();
+    settings.outputFolder = folder.filePath(QStringLiteral("out"));
+    settings.policies = {};
+    window.Job().Change(settings, QStringLiteral("Test"));
+    window.AddPaths({folder.filePath(QStringLiteral("photos"))});
+    const auto isThere = [&] { return window.Job().Document().GetInputModel()->GetFileNodesCount() == photos; };
+    if (!QTest::qWaitFor(isThere, WindowStage::patience)) {
+        return 1;
+    }
+    window.StartRun();
+    QObject::connect(&window.Runner(), &JobRunner::ResultKnown, &window, [&] { window.Runner().Pause(); });
+    QObject::connect(&window.Runner(), &JobRunner::StateChanged, &window, [&] {
+        if (window.Runner().CurrentState() == RunState::Paused) {
+            std::puts("paused");
+            std::fflush(stdout);
+        }
+    });
+    return QApplication::exec();
+}
+
+} // namespace
+
+void tst_WindowResume::init()
+{
+    stage = std::make_unique<WindowStage>();
+    stage->MakePhotos(photos);
+}
+
+void tst_WindowResume::cleanup()
+{
+    stage.reset();
+}
+
+bool tst_WindowResume::KillWindowInItsRun() const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(folderVariable), stage->Path(QString()));
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), QStringList());
+    QByteArray out;
+    while (!out.contains("paused")) {
+        if (!process.waitForReadyRead(WindowStage::patience)) {
+            qWarning("%s", process.readAllStandardError().constData());
+            return false;
+        }
+        out += process.readAllStandardOutput();
+    }
+    process.kill();
+    return process.waitForFinished() && process.exitStatus() == QProcess::CrashExit;
+}
+
+QStringList tst_WindowResume::HiddenResults() const
+{
+    return QDir(stage->Path(QStringLiteral("out"))).entryList({QStringLiteral(".*")}, QDir::Files | QDir::Hidden);
+}
+
+void tst_WindowResume::aKilledRunIsResumed()
+{
+    QVERIFY(KillWindowInItsRun());
+    const int before = QDir(stage->Path(QStringLiteral("out"))).entryList(QDir::Files).size();
+    QVERIFY(before > 0 && before < photos);
+    QVERIFY(stage->Open());
+    QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
+    const QString text = stage->Text("resumeText");
+    QVERIFY2(text.contains(QStringLiteral("of %1 pictures").arg(photos)), qPrintable(text));
+    QVERIFY2(text.contains(stage->Path(QStringLiteral("out"))), qPrintable(text));
+    stage->Click("resumeInterrupted");
+    QVERIFY(stage->WaitForEnd());
+    QVERIFY(!stage->IsVisible("resumeBar"));
+    QCOMPARE(stage->Runner().LastEnd()->written, photos);
+    // The window was empty, so that it shows the job of the run, with all of its results.
+    QCOMPARE(stage->Count(), photos);
+    for (int photo = 1; photo <= photos; ++photo) {
+        QCOMPARE(stage->StateOf(photo).state, RunStates::State::Written);
+        QVERIFY(QFile::exists(stage->Result(photo)));
+    }
+    QCOMPARE(HiddenResults(), QStringList());
+}
+
+void tst_WindowResume::aKilledRunIsForgotten()
+{
+    QVERIFY(KillWindowInItsRun());
+    QVERIFY(stage->Open());
+    QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
+    QVERIFY(!HiddenResults().isEmpty());
+    stage->Click("forgetInterrupted");
+    QVERIFY(!stage->IsVisible("resumeBar"));
+    QCOMPARE(HiddenResults().filter(QStringLiteral("journal")), QStringList());
+    QCOMPARE(stage->Runner().CurrentState(), RunState::Idle);
+}
+
+void tst_WindowResume::theJobInTheWindowStays()
+{
+    QVERIFY(KillWindowInItsRun());
+    QVERIFY(stage->Open());
+    QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
+    stage->Window().AddPaths({stage->Photo(3)});
+    QTRY_COMPARE_WITH_TIMEOUT(stage->Count(), 1, WindowStage::patience);
+    stage->Click("resumeInterrupted");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, photos);
+    QCOMPARE(stage->Count(), 1);
+}
+
+void tst_WindowResume::aClosedRunIsOffered()
+{
+    QVERIFY(stage->Open());
+    QVERIFY(stage->Add(photos));
+    stage->SetOutput();
+    stage->Click("start");
+    stage->Click("pause");
+    QVERIFY(stage->WaitForState(RunState::Paused));
+    stage->Close();
+    QVERIFY(stage->Open());
+    QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
+    stage->Click("resumeInterrupted");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, photos);
+}
+
+void tst_WindowResume::finishedRunsAreNotOffered()
+{
+    PictureFiles::WriteTruncated(stage->Photo(2));
+    QVERIFY(stage->Open());
+    QVERIFY(stage->Add(photos));
+    stage->SetOutput();
+    QVERIFY(stage->Run());
+    QCOMPARE(stage->Runner().LastEnd()->failed, 1);
+    stage->Close();
+    InterruptedRunSearch search(stage->SettingsFolder());
+    QSignalSpy found(&search, &InterruptedRunSearch::Found);
+    search.Start();
+    QVERIFY(found.wait(WindowStage::patience));
+    QVERIFY(found.first().first().value<QVector<InterruptedRun>>().isEmpty());
+    QCOMPARE(HiddenResults(), QStringList());
+}
+
+void tst_WindowResume::vanishedFoldersAreForgotten()
+{
+    QVERIFY(KillWindowInItsRun());
+    QVERIFY(QDir(stage->Path(QStringLiteral("out"))).removeRecursively());
+    InterruptedRunSearch search(stage->SettingsFolder());
+    QSignalSpy found(&search, &InterruptedRunSearch::Found);
+    search.Start();
+    QVERIFY(found.wait(WindowStage::patience));
+    QVERIFY(found.first().first().value<QVector<InterruptedRun>>().isEmpty());
+    QVERIFY(!QFileInfo::exists(stage->Path(QStringLiteral("out"))));
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (qEnvironmentVariableIsSet(folderVariable)) {
+        return RunUntilKilled();
+    }
+    tst_WindowResume test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_windowresume.moc"
