@@ -183,7 +183,7 @@ void MainWindow::MakeMenus()
     edit->addMenu(settings->AddEffectMenu());
     edit->addActions(settings->EffectActions());
 
-    desk->FillPresetMenu(*menuBar()->addMenu(Messages::tr("P&reset")));
+    desk->FillPresetMenu(*menuBar()->addMenu(Messages::tr("&Preset")));
 
     QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
     view->addActions(preview->Actions());
