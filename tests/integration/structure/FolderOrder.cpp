@@ -21,6 +21,7 @@ const QHash<QString, QStringList>& Parts()
         const QString protocol = Text("server/protocol");
         const QString common = Text("hosts/common");
         const QString desktopJob = Text("hosts/desktop/job");
+        const QString making = Text("hosts/desktop/making");
         const QString desktopWindow = Text("hosts/desktop/window");
         return QHash<QString, QStringList>{
             {Text("platform/core"), {}},
@@ -39,12 +40,16 @@ const QHash<QString, QStringList>& Parts()
             {desktopJob, {common}},
             {Text("hosts/desktop/jobs"), {desktopJob}},
             {Text("hosts/desktop/pictures"), {desktopJob}},
-            {Text("hosts/desktop/preview"), {desktopJob}},
+            {making, {desktopJob}},
+            {Text("hosts/desktop/preview"), {making}},
+            {Text("hosts/desktop/estimate"), {making}},
             {Text("hosts/desktop/run"), {desktopJob}},
             {Text("hosts/desktop/settings"), {desktopJob}},
+            {Text("hosts/desktop/system"), {common}},
             {desktopWindow,
              {Text("hosts/desktop/jobs"), Text("hosts/desktop/pictures"), Text("hosts/desktop/preview"),
-              Text("hosts/desktop/run"), Text("hosts/desktop/settings")}},
+              Text("hosts/desktop/estimate"), Text("hosts/desktop/run"), Text("hosts/desktop/settings"),
+              Text("hosts/desktop/system")}},
             {Text("hosts/desktop"), {desktopWindow}},
         };
     }();
