@@ -8,11 +8,11 @@
 #include "Require.h"
 
 #include "hosts/cli/options/CommandLine.h"
-#include "hosts/cli/options/JobOptions.h"
-#include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/cli/options/PolicyArguments.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/common/JobDefaults.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/JobOptions.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -23,6 +23,7 @@
 
 #include <cstdint>
 
+using namespace BatchHost;
 using namespace BatchCli;
 
 namespace {

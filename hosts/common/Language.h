@@ -27,6 +27,9 @@ struct Messages
 {
     /// `english` in the user's language, with its placeholders.
     static QString tr(const char* english);
+
+    /// `text` itself, marked for the catalogues: of a table whose texts are shown by tr().
+    static constexpr const char* Marked(const char* text) { return text; }
 };
 
 /// A text that was made elsewhere, as `BatchJob::Phrase`, in the user's language. Its arguments are filled in; what is

@@ -19,6 +19,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
 
@@ -195,7 +196,7 @@ QString Presets::Save(const ZTBatchDocument& job, const QString& name, bool repl
     return file;
 }
 
-void Presets::Remove(const QString& name) const
+Preset Presets::FindOwn(const QString& name) const
 {
     const Preset preset = Find(name);
     if (preset.comesAlong) {
@@ -203,9 +204,47 @@ void Presets::Remove(const QString& name) const
                                            "yours with that name is used instead of it")
                                .arg(preset.name)};
     }
-    QFile file(preset.file);
+    return preset;
+}
+
+QString Presets::Rename(const QString& name, const QString& newName, bool replaceExisting) const
+{
+    const Preset preset = FindOwn(name);
+    RequireName(newName);
+    if (NameKey(newName) == NameKey(name)) {
+        const QString file = QFileInfo(preset.file).dir().filePath(newName + extension);
+        QFile old(preset.file);
+        if (file != preset.file && !old.rename(file)) {
+            throw RequestError{Phrase::English("%1 cannot be written: %2").arg(file, old.errorString())};
+        }
+        return file;
+    }
+    ZTBatchDocument job;
+    SetJobDefaults(job);
+    Load(job, name);
+    job.SetDocumentName(newName);
+    const QString file = Save(job, newName, replaceExisting);
+    Remove(name);
+    return file;
+}
+
+void Presets::Remove(const QString& name) const
+{
+    QFile file(FindOwn(name).file);
     if (!file.remove()) {
-        throw RequestError{Phrase::English("%1 cannot be removed: %2").arg(preset.file, file.errorString())};
+        throw RequestError{Phrase::English("%1 cannot be removed: %2").arg(file.fileName(), file.errorString())};
+    }
+}
+
+void Presets::Restore(const QString& name, const QByteArray& content) const
+{
+    const QString path = QDir(folder).filePath(name + extension);
+    if (QFileInfo::exists(path)) {
+        throw RequestError{Phrase::English("%1 exists").arg(path), RequestError::Kind::FileExists};
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
+        throw RequestError{Phrase::English("%1 cannot be written: %2").arg(path, file.errorString())};
     }
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -43,13 +44,21 @@ public:
     /// replaced only when `replaceExisting` is true. Throws RequestError, also for a name that no file can have.
     QString Save(const ZTBatchDocument& job, const QString& name, bool replaceExisting) const;
 
+    /// Gives the user's preset `name` another name, and returns its file. A preset of the user that has that name is
+    /// replaced only when `replaceExisting` is true. Throws RequestError.
+    QString Rename(const QString& name, const QString& newName, bool replaceExisting) const;
+
     /// Removes the user's preset `name`. Throws RequestError.
     void Remove(const QString& name) const;
+
+    /// Makes the user's preset `name` again from `content`, what its file held before Remove(). Throws RequestError.
+    void Restore(const QString& name, const QByteArray& content) const;
 
 private:
     QVector<Preset> OfUser() const;
     QVector<Preset> Files() const;
     Preset Find(const QString& name) const;
+    Preset FindOwn(const QString& name) const;
 
     QString folder;
 };

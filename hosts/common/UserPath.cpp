@@ -20,4 +20,10 @@ QString UserSettingsFolder()
         .filePath(QStringLiteral("velkora-batch"));
 }
 
+QString UserDataFolder()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation))
+        .filePath(QStringLiteral("velkora-batch"));
+}
+
 } // namespace BatchHost

@@ -13,4 +13,7 @@ QString AbsolutePath(const QString& path);
 /// The folder with the user's policies and presets, which all hosts share.
 QString UserSettingsFolder();
 
+/// The folder for what hosts remember of themselves, such as a job that is not saved.
+QString UserDataFolder();
+
 } // namespace BatchHost

@@ -3,9 +3,47 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/UserPath.h"
+#include "hosts/desktop/system/ApplicationColours.h"
+#include "hosts/desktop/system/DesktopNames.h"
+#include "hosts/desktop/system/SingleInstance.h"
 #include "hosts/desktop/window/MainWindow.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+
+#include <algorithm>
+
+using namespace BatchDesktop;
+using BatchHost::Messages;
+
+namespace {
+
+/// The paths of the command line, absolute.
+QStringList Arguments()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(Messages::tr("Processes pictures in batches, in a window."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("path"), Messages::tr("Pictures and folders to add."),
+                                 QStringLiteral("[path...]"));
+    parser.process(*QCoreApplication::instance());
+    QStringList paths = parser.positionalArguments();
+    std::transform(paths.begin(), paths.end(), paths.begin(), BatchHost::AbsolutePath);
+    return paths;
+}
+
+QIcon Symbol()
+{
+    QIcon symbol;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        symbol.addFile(QStringLiteral(":/velkora-batch-desktop/icons/%1.png").arg(size));
+    }
+    return symbol;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -14,10 +52,24 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("velkora-batch-desktop"));
+    QCoreApplication::setApplicationName(desktopId);
     QCoreApplication::setApplicationVersion(QStringLiteral(VELKORA_BATCH_VERSION));
-    BatchDesktop::MainWindow window(BatchHost::UserSettingsFolder());
+    QGuiApplication::setApplicationDisplayName(applicationTitle);
+    QGuiApplication::setDesktopFileName(desktopId);
+    QGuiApplication::setWindowIcon(Symbol());
+    const QStringList paths = Arguments();
+    const QString settingsFolder = BatchHost::UserSettingsFolder();
+    SingleInstance instance(settingsFolder);
+    if (instance.Begin(paths) == SingleInstance::Place::Second) {
+        return 0;
+    }
+    const ApplicationColours colours;
+    MainWindow window(settingsFolder, BatchHost::UserDataFolder());
+    QObject::connect(&instance, &SingleInstance::Started, &window, [&window](const QStringList& further) {
+        window.BringToFront();
+        window.OpenPaths(further);
+    });
     window.show();
-    window.AddPaths(QCoreApplication::arguments().mid(1));
+    window.Begin(paths);
     return QApplication::exec();
 }

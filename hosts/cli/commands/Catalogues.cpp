@@ -3,11 +3,11 @@
 
 #include "Catalogues.h"
 
-#include "hosts/cli/options/FormatNames.h"
-#include "hosts/cli/options/ParameterTexts.h"
 #include "hosts/cli/options/TextLayout.h"
-#include "hosts/cli/options/Words.h"
 #include "hosts/common/Language.h"
+#include "hosts/common/options/FormatNames.h"
+#include "hosts/common/options/ParameterTexts.h"
+#include "hosts/common/options/Words.h"
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
 #include "job/values/Phrase.h"

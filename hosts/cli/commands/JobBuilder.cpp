@@ -4,7 +4,6 @@
 #include "JobBuilder.h"
 
 #include "hosts/cli/options/Contradictions.h"
-#include "hosts/cli/options/JobOptions.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobDefaults.h"
@@ -13,6 +12,7 @@
 #include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
+#include "hosts/common/options/JobOptions.h"
 #include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"

@@ -4,7 +4,6 @@
 #include "JobInputs.h"
 
 #include "hosts/cli/options/OrderOption.h"
-#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
@@ -17,6 +16,7 @@
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
 #include "hosts/common/WildcardInputs.h"
+#include "hosts/common/options/Words.h"
 #include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"

@@ -3,8 +3,8 @@
 
 #include "JobListing.h"
 
-#include "hosts/cli/options/JobOptions.h"
 #include "hosts/common/Language.h"
+#include "hosts/common/options/JobOptions.h"
 #include "job/values/VisibleText.h"
 
 #include "ZTBatchDocument.h"

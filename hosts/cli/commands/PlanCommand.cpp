@@ -5,7 +5,7 @@
 #include "JobBuilder.h"
 #include "PlanProbe.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/cli/options/PolicyArguments.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/JobRequirements.h"

@@ -6,11 +6,11 @@
 
 #include "hosts/cli/options/PresetOptions.h"
 #include "hosts/cli/options/RunOptions.h"
-#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JobRequirements.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/Presets.h"
+#include "hosts/common/options/Words.h"
 #include "job/values/Phrase.h"
 #include "job/values/VisibleText.h"
 

@@ -6,10 +6,10 @@
 #include "Catalogues.h"
 #include "CommandFunctions.h"
 
-#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/Words.h"
 
 #include <algorithm>
 #include <cstdlib>

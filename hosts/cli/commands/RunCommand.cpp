@@ -7,7 +7,7 @@
 #include "RunOutput.h"
 #include "RunPolicies.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/cli/options/PolicyArguments.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/InteractiveRun.h"
 #include "hosts/cli/terminal/Startup.h"

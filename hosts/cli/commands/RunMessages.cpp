@@ -3,10 +3,10 @@
 
 #include "RunMessages.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
-#include "hosts/cli/options/Words.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/Language.h"
+#include "hosts/common/options/PolicyOptions.h"
+#include "hosts/common/options/Words.h"
 #include "job/plan/SharedNames.h"
 #include "server/protocol/ServerLimits.h"
 

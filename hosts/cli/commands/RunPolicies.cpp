@@ -3,11 +3,12 @@
 
 #include "RunPolicies.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/cli/options/PolicyArguments.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/JournaledJob.h"
 #include "hosts/common/ManagerPolicies.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/PolicyOptions.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/ServerLimits.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "hosts/cli/options/OptionInfo.h"
+#include "hosts/cli/options/CommandInfo.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,13 +3,13 @@
 
 #include "CommandLine.h"
 
+#include "Contradictions.h"
 #include "ForeignWords.h"
-#include "QualityOption.h"
-#include "Words.h"
 
 #include "hosts/common/JobFile.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/Words.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
 

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: MIT
 
 #include "CommandLine.h"
-#include "FormatNames.h"
-#include "JobOptions.h"
 #include "OrderOption.h"
-#include "PolicyOptions.h"
 #include "PresetOptions.h"
 #include "RunOptions.h"
 
+#include "hosts/common/options/FormatNames.h"
+#include "hosts/common/options/JobOptions.h"
+#include "hosts/common/options/PolicyOptions.h"
 #include "job/effects/EffectCatalog.h"
 #include "job/values/JobValues.h"
 #include "job/values/Phrase.h"
+
+using namespace BatchHost;
 
 namespace BatchCli {
 

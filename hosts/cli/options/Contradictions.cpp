@@ -3,9 +3,8 @@
 
 #include "Contradictions.h"
 
-#include "JobOptions.h"
-
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/JobOptions.h"
 #include "job/values/Phrase.h"
 
 #include <algorithm>
@@ -83,6 +82,23 @@ void CheckContradictions(const ParsedArguments& arguments)
     }
     CheckSize(arguments);
     CheckFrame(arguments);
+}
+
+void CheckQuality(const ParsedArguments& arguments)
+{
+    const QString option = QStringLiteral("--quality");
+    const QString formatOption = QStringLiteral("--format-option");
+    if (!arguments.Has(option)) {
+        return;
+    }
+    for (const QString& text : arguments.Values(formatOption)) {
+        const bool isQuality =
+            text.section(QLatin1Char('='), 0, 0).trimmed().compare(QLatin1String("quality"), Qt::CaseInsensitive) == 0;
+        if (isQuality && text.section(QLatin1Char('='), 1) != arguments.Value(option)) {
+            throw RequestError{QStringLiteral("%1 %2 and %3 %4 contradict each other; remove one of them")
+                                   .arg(option, arguments.Value(option), formatOption, text)};
+        }
+    }
 }
 
 } // namespace BatchCli

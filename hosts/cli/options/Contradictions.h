@@ -11,4 +11,7 @@ namespace BatchCli {
 /// does not: it replaces what the job says.
 void CheckContradictions(const ParsedArguments& arguments);
 
+/// Throws RequestError when the arguments give two qualities.
+void CheckQuality(const ParsedArguments& arguments);
+
 } // namespace BatchCli

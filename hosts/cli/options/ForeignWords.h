@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "OptionInfo.h"
+#include "CommandInfo.h"
 
 /// What users of other programs type, and how it is said here.
 namespace BatchCli {

@@ -3,9 +3,8 @@
 
 #include "OrderOption.h"
 
-#include "Words.h"
-
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/Words.h"
 
 using namespace BatchHost;
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "OptionInfo.h"
+#include "CommandInfo.h"
 
 namespace BatchCli {
 

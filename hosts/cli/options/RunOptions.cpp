@@ -4,10 +4,10 @@
 #include "RunOptions.h"
 
 #include "PresetOptions.h"
-#include "ValueTexts.h"
 
 #include "hosts/common/RequestError.h"
 #include "hosts/common/UserPath.h"
+#include "hosts/common/options/ValueTexts.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/ServerLimits.h"
 

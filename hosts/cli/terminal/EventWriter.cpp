@@ -5,8 +5,8 @@
 
 #include "Console.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
 #include "hosts/common/ResultFields.h"
+#include "hosts/common/options/PolicyOptions.h"
 #include "job/values/TimeText.h"
 
 #include <QJsonArray>

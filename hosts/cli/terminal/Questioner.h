@@ -5,7 +5,7 @@
 
 #include "LineReader.h"
 
-#include "hosts/cli/options/PolicyOptions.h"
+#include "hosts/common/options/PolicyOptions.h"
 
 #include <QObject>
 

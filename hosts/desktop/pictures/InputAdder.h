@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "BackgroundWork.h"
 #include "InputScan.h"
 #include "InputSteps.h"
 
+#include "hosts/desktop/job/BackgroundWork.h"
 #include "hosts/desktop/job/EditedJob.h"
 
 #include <QPersistentModelIndex>

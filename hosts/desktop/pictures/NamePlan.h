@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "BackgroundWork.h"
-
+#include "hosts/desktop/job/BackgroundWork.h"
 #include "hosts/desktop/job/EditedJob.h"
 
 #include <QHash>

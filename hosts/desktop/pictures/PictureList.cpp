@@ -8,6 +8,9 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 using BatchHost::Messages;
 
@@ -46,6 +49,20 @@ QModelIndex RowBeside(const QAbstractItemModel& model, const QModelIndex& index,
     return at.isValid() ? at.sibling(at.row() + 1, 0) : QModelIndex();
 }
 
+/// All rows are as high as those with a thumbnail, that of a folder at the top too, by which the list goes.
+class RowPainter : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize asked = QStyledItemDelegate::sizeHint(option, index);
+        return {asked.width(),
+                std::max(asked.height(), option.decorationSize.height() + option.fontMetrics.height() / 4)};
+    }
+};
+
 } // namespace
 
 PictureList::PictureList(PictureFilter& filter, QWidget* parent)
@@ -54,14 +71,19 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
 {
     setObjectName(QStringLiteral("pictureList"));
     setAccessibleName(Messages::tr("List of pictures"));
+    setTextElideMode(Qt::ElideMiddle); // The ends of names tell them apart.
     setUniformRowHeights(true); // Else each row is asked for its height.
     setSelectionMode(ExtendedSelection);
     setAllColumnsShowFocus(true);
+    setItemDelegate(new RowPainter(this));
     setAcceptDrops(false); // The pane takes them.
     viewport()->setAcceptDrops(false);
     setModel(&filter);
     setTreePosition(PictureColumns::NameColumn);
-    header()->setStretchLastSection(true);
+    setIndentation(fontMetrics().height());
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(PictureColumns::NameColumn, QHeaderView::Stretch);
+    header()->setSectionResizeMode(PictureColumns::ResultColumn, QHeaderView::Stretch);
     header()->setSectionsMovable(false);
     connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::OpenFolders);
     connect(&filter, &QAbstractItemModel::modelReset, this,
@@ -131,9 +153,9 @@ void PictureList::FitIcons()
 {
     const int side = fontMetrics().height() * 2;
     setIconSize(QSize(side * 3 / 2, side));
+    const int letter = fontMetrics().averageCharWidth();
     header()->resizeSection(PictureColumns::ThumbnailColumn, side * 2);
-    header()->resizeSection(PictureColumns::NameColumn, fontMetrics().averageCharWidth() * 28);
-    header()->resizeSection(PictureColumns::ResultColumn, fontMetrics().averageCharWidth() * 24);
+    header()->resizeSection(PictureColumns::StateColumn, letter * 10);
 }
 
 /// Folders are open when they come.

@@ -7,6 +7,7 @@
 
 #include "hosts/common/Language.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,6 +25,13 @@ namespace {
 /// Larger pictures are reduced roughly, so that nobody waits for it.
 constexpr qint64 mostReducedWell = 8'000'000; // pixels
 
+/// A plain widget has no role that tells anything.
+QAccessibleInterface* NewAccess(const QString&, QObject* object)
+{
+    auto* const view = qobject_cast<PreviewView*>(object);
+    return view != nullptr ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
+}
+
 } // namespace
 
 PreviewView::PreviewView(QWidget* parent)
@@ -31,6 +39,7 @@ PreviewView::PreviewView(QWidget* parent)
     , divider(new PreviewDivider(this))
 {
     setObjectName(QStringLiteral("previewView"));
+    QAccessible::installFactory(NewAccess);
     setAccessibleName(Messages::tr("Preview"));
     setFocusPolicy(Qt::StrongFocus);
     const int line = fontMetrics().height();

@@ -17,6 +17,14 @@ using namespace BatchHost;
 
 namespace BatchDesktop {
 
+double JobRunner::Progress::Fraction() const
+{
+    if (bytes > 0) {
+        return double(bytesDone) / double(bytes);
+    }
+    return files > 0 ? double(Done()) / files : 0;
+}
+
 double JobRunner::Progress::SecondsLeft() const
 {
     constexpr double leastSeconds = 1;

@@ -44,6 +44,9 @@ public:
 
         int Done() const { return written + skipped + failed; }
 
+        /// How much is done, from 0 to 1: by bytes, or by files when these are not known.
+        double Fraction() const;
+
         /// What is left to wait, by the bytes so far; negative as long as too little is done to tell.
         double SecondsLeft() const;
     };

@@ -22,7 +22,7 @@ QuestionBar::QuestionBar(JobRunner& runner, QWidget* parent)
     , existingPicture(new QLabel)
     , wantedPicture(new QLabel)
     , answers(new QHBoxLayout)
-    , forTheRest(new QCheckBox(Messages::tr("&Also for the rest of the run")))
+    , forTheRest(new QCheckBox(Messages::tr("&Do this for the rest of the run")))
 {
     setObjectName(QStringLiteral("questionBar"));
     setAccessibleName(Messages::tr("Question about a picture"));

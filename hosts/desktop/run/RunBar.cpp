@@ -18,14 +18,6 @@ namespace {
 
 constexpr int mostUnits = 1000; // of the progress bar, as bytes do not fit its numbers
 
-int Units(const JobRunner::Progress& progress)
-{
-    if (progress.bytes > 0) {
-        return int(double(mostUnits) * double(progress.bytesDone) / double(progress.bytes));
-    }
-    return progress.files > 0 ? mostUnits * progress.Done() / progress.files : 0;
-}
-
 } // namespace
 
 RunBar::RunBar(JobRunner& runner, QWidget* parent)
@@ -173,7 +165,7 @@ void RunBar::RefreshProgress()
     QString text = IdleText();
     if (runner.CurrentState() != JobRunner::State::Idle) {
         const JobRunner::Progress& progress = runner.CurrentProgress();
-        bar->setValue(Units(progress));
+        bar->setValue(int(mostUnits * progress.Fraction()));
         counts->setText(CountsText(progress));
         text = StatusText(runner.CurrentState(), progress);
     }

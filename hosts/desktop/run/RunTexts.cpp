@@ -116,19 +116,19 @@ QString AnswerText(PolicyKind kind, int value)
 {
     const QString word = PolicyWord(kind, value);
     if (word == QLatin1String("skip")) {
-        return Messages::tr("&Skip it");
+        return Messages::tr("S&kip it");
     }
     if (word == QLatin1String("stop")) {
-        return Messages::tr("S&top the run");
+        return Messages::tr("Stop t&he run");
     }
     if (word == QLatin1String("overwrite")) {
-        return Messages::tr("&Overwrite");
+        return Messages::tr("Over&write");
     }
     if (word == QLatin1String("rename")) {
-        return Messages::tr("&Number the new one");
+        return Messages::tr("Number t&he new one");
     }
     if (word == QLatin1String("nearest")) {
-        return Messages::tr("Use the &nearest format");
+        return Messages::tr("Wr&ite the nearest format");
     }
     return word;
 }

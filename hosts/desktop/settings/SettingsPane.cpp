@@ -15,19 +15,54 @@
 #include "sections/ProfileSection.h"
 #include "sections/SizeSection.h"
 
+#include <QEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace BatchDesktop {
 
+namespace {
+
+/// Scrolls up and down only: it is never narrower than what is in it.
+class ColumnArea : public QScrollArea
+{
+public:
+    explicit ColumnArea(QWidget* parent)
+        : QScrollArea(parent)
+    {
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        const QSize usual = QScrollArea::minimumSizeHint();
+        if (widget() == nullptr) {
+            return usual;
+        }
+        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), usual.height()};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return QScrollArea::eventFilter(watched, event); // It watches its widget.
+    }
+};
+
+} // namespace
+
 SettingsPane::SettingsPane(EditedJob& job, QWidget* parent, Choosers wanted)
     : QWidget(parent)
     , choosers(std::move(wanted))
 {
-    auto* const area = new QScrollArea(this);
-    area->setWidgetResizable(true);
+    auto* const area = new ColumnArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     auto* const content = new QWidget(area);
@@ -42,6 +77,7 @@ SettingsPane::SettingsPane(EditedJob& job, QWidget* parent, Choosers wanted)
     sections.append(new ErrorsSection(job, choosers, content));
     sections.append(new FolderSection(job, choosers, content));
     auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
     for (SettingsSection* const section : qAsConst(sections)) {
         column->addWidget(section);
     }

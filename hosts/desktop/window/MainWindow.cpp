@@ -5,6 +5,8 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/settings/sections/ElidedLabel.h"
+#include "hosts/desktop/settings/sections/SettingsSection.h"
 
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
@@ -26,6 +28,7 @@ namespace {
 
 const QString geometryKey = QStringLiteral("geometry");
 const QString panesKey = QStringLiteral("panes");
+const QString openKey = QStringLiteral("openSections");
 
 RunStates::State StateOf(const FileResult& result)
 {
@@ -42,19 +45,22 @@ RunStates::State StateOf(const FileResult& result)
 
 } // namespace
 
-MainWindow::MainWindow(const QString& settingsFolder)
+MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
     : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
+    , system(runner, *this)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowTitle(Messages::tr("Velkora Batch"));
+    desk = std::make_unique<JobDesk>(job, *presets, *this, dataFolder);
     MakePanes();
     inputs = std::make_unique<InputModule>(*pictures);
     MakeMenus();
     MakeRunMenu();
     ConnectPictures();
     ConnectRun();
+    ConnectJobs();
+    ConnectSystem();
     forecasts = std::make_unique<ForecastLink>(job, *pictures, *preview, runner, *bar);
     runs = std::make_unique<RunLink>(job, runner, RunLink::Bars{*bar, *questions, *resume}, settingsFolder);
     UpdateStart();
@@ -66,12 +72,14 @@ MainWindow::~MainWindow()
     runs.reset(); // They use the panes and bars.
     forecasts.reset();
     inputs.reset(); // It is registered with the manager and uses the pane.
+    desk.reset();   // It looks at the presets.
     delete takeCentralWidget();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     SaveLayout();
+    desk->Close();
     QMainWindow::closeEvent(event);
 }
 
@@ -82,9 +90,10 @@ void MainWindow::RestoreLayout()
         constexpr QSize usual(1280, 800);
         resize(usual.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     }
-    if (!panes->restoreState(layout.value(panesKey).toByteArray())) {
-        const int share = width() / 10;
-        panes->setSizes({3 * share, 4 * share, 3 * share});
+    panes->SetWidths(layout.value(panesKey).toByteArray());
+    const QStringList open = layout.value(openKey).toStringList();
+    for (SettingsSection* const section : settings->Sections()) {
+        section->SetFolded(!open.contains(section->objectName()));
     }
 }
 
@@ -92,7 +101,14 @@ void MainWindow::SaveLayout() const
 {
     QSettings layout(layoutFile, QSettings::IniFormat);
     layout.setValue(geometryKey, saveGeometry());
-    layout.setValue(panesKey, panes->saveState());
+    layout.setValue(panesKey, panes->Widths());
+    QStringList open;
+    for (const SettingsSection* const section : settings->Sections()) {
+        if (!section->IsFolded()) {
+            open.append(section->objectName());
+        }
+    }
+    layout.setValue(openKey, open);
 }
 
 QWidget* MainWindow::NewTopRow()
@@ -102,30 +118,38 @@ QWidget* MainWindow::NewTopRow()
     start = new QPushButton(Messages::tr("Start"));
     start->setObjectName(QStringLiteral("start"));
     start->setDefault(true);
-    layout->addStretch(1);
+    destination = new ElidedLabel;
+    destination->setObjectName(QStringLiteral("destination"));
+    destination->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(destination, 1);
     layout->addWidget(presets);
     layout->addWidget(start);
     connect(start, &QPushButton::clicked, this, &MainWindow::StartRun);
-    connect(presets, &PresetBox::Problem, this, [this](const QString& text) { bar->Say(text); });
+    connect(&job, &EditedJob::SettingsChanged, this, &MainWindow::ShowDestination);
+    connect(&job, &EditedJob::Replaced, this, &MainWindow::ShowDestination);
+    ShowDestination();
     return row;
+}
+
+void MainWindow::ShowDestination()
+{
+    const QString folder = QDir::toNativeSeparators(job.CurrentSettings().outputFolder);
+    destination->setText(folder.isEmpty() ? QString() : Messages::tr("Results go to %1").arg(folder));
 }
 
 void MainWindow::MakePanes()
 {
     auto* const body = new QWidget;
     auto* const layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(NewTopRow());
-    panes = new QSplitter;
-    panes->setObjectName(QStringLiteral("panes"));
-    panes->setChildrenCollapsible(false);
+    layout->addWidget(&desk->Naming());
+    layout->addWidget(&desk->Notice());
     pictures = new PicturesPane(job);
     preview = new PreviewPane(job);
     settings = new SettingsPane(job);
-    for (QWidget* const pane :
-         {static_cast<QWidget*>(pictures), static_cast<QWidget*>(preview), static_cast<QWidget*>(settings)}) {
-        panes->addWidget(pane);
-    }
-    panes->setStretchFactor(1, 1);
+    panes = new PaneArrangement(pictures, preview, settings);
     layout->addWidget(panes, 1);
     questions = new QuestionBar(runner);
     bar = new RunBar(runner);
@@ -134,6 +158,7 @@ void MainWindow::MakePanes()
     layout->addWidget(questions);
     layout->addWidget(bar);
     setCentralWidget(body);
+    focus = new PaneFocus(*panes, {pictures, preview, settings, resume, questions, bar}, this);
 }
 
 void MainWindow::MakeMenus()
@@ -141,6 +166,8 @@ void MainWindow::MakeMenus()
     QMenu* const file = menuBar()->addMenu(Messages::tr("&File"));
     const ZTBatchManager* const manager = ZTBatchManager::Instance();
     file->addActions(manager != nullptr ? manager->GetInputActions() : QList<QAction*>());
+    file->addSeparator();
+    desk->FillJobMenu(*file);
     file->addSeparator();
     QAction* const quit = file->addAction(Messages::tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -156,6 +183,8 @@ void MainWindow::MakeMenus()
     edit->addMenu(settings->AddEffectMenu());
     edit->addActions(settings->EffectActions());
 
+    desk->FillPresetMenu(*menuBar()->addMenu(Messages::tr("&Preset")));
+
     QMenu* const view = menuBar()->addMenu(Messages::tr("&View"));
     view->addActions(preview->Actions());
     view->addSeparator();
@@ -164,6 +193,42 @@ void MainWindow::MakeMenus()
     previous->setShortcut(QKeySequence(Qt::Key_BracketLeft));
     QAction* const next = view->addAction(Messages::tr("&Next picture"), pictures, &PicturesPane::SelectNext);
     next->setShortcut(QKeySequence(Qt::Key_BracketRight));
+    view->addSeparator();
+    view->addAction(
+        Messages::tr("Ne&xt pane"), this, [this] { focus->Move(1); }, QKeySequence(Qt::Key_F6));
+    view->addAction(
+        Messages::tr("Pre&vious pane"), this, [this] { focus->Move(-1); }, QKeySequence(Qt::SHIFT + Qt::Key_F6));
+}
+
+void MainWindow::OpenPaths(const QStringList& paths)
+{
+    const QStringList others = desk->OpenJobs(paths);
+    if (!others.isEmpty()) {
+        AddPaths(others);
+    }
+}
+
+void MainWindow::Begin(const QStringList& paths)
+{
+    desk->Restore(paths.isEmpty());
+    OpenPaths(paths);
+}
+
+void MainWindow::ConnectJobs()
+{
+    connect(&desk->Keeper(), &JobKeeper::Changed, this, &MainWindow::ShowTitle);
+    desk->WatchDrops(*this);
+    desk->WatchDrops(*pictures);
+    ShowTitle();
+}
+
+void MainWindow::ShowTitle()
+{
+    const JobKeeper& keeper = desk->Keeper();
+    setWindowTitle(percent < 0 ? Messages::tr("%1[*] - Velkora Batch").arg(keeper.Name())
+                               : Messages::tr("%1 % - %2[*] - Velkora Batch").arg(percent).arg(keeper.Name()));
+    setWindowModified(keeper.IsChanged());
+    setWindowFilePath(keeper.File());
 }
 
 void MainWindow::MakeRunMenu()
@@ -181,7 +246,12 @@ void MainWindow::ConnectPictures()
         preview->SetFile(file);
         settings->SetExample(file);
     });
-    connect(pictures, &PicturesPane::InputsChanged, this, &MainWindow::UpdateStart);
+    connect(pictures, &PicturesPane::InputsChanged, this, [this] {
+        if (pictures->Current().isEmpty()) {
+            pictures->SelectNext(); // There is something to see at once.
+        }
+        UpdateStart();
+    });
 }
 
 void MainWindow::ConnectRun()
@@ -193,6 +263,28 @@ void MainWindow::ConnectRun()
             [&states](const QString& input) { states.Set(input, RunStates::State::Working); });
     connect(&runner, &JobRunner::ResultKnown, this, &MainWindow::OnResult);
     connect(bar, &RunBar::FailedWanted, this, [this] { pictures->Filter(QString(), ShownState::Failed); });
+}
+
+void MainWindow::ConnectSystem()
+{
+    connect(&system, &SystemLink::PercentChanged, this, [this](int now) {
+        percent = now;
+        ShowTitle();
+    });
+    connect(&system, &SystemLink::WindowWanted, this, &MainWindow::BringToFront);
+    connect(&system, &SystemLink::FolderWanted, this, [this](const QString& folder) { runs->openFolder(folder); });
+    connect(&system, &SystemLink::FailuresWanted, this, [this] {
+        BringToFront();
+        pictures->Filter(QString(), ShownState::Failed);
+    });
+}
+
+void MainWindow::BringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 void MainWindow::OnResult(const QString& input)

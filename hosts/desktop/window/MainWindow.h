@@ -4,10 +4,13 @@
 #pragma once
 
 #include "ForecastLink.h"
-#include "PresetBox.h"
+#include "PaneArrangement.h"
+#include "PaneFocus.h"
 #include "RunLink.h"
+#include "SystemLink.h"
 
 #include "hosts/desktop/job/EditedJob.h"
+#include "hosts/desktop/jobs/JobDesk.h"
 #include "hosts/desktop/pictures/InputModule.h"
 #include "hosts/desktop/pictures/PicturesPane.h"
 #include "hosts/desktop/preview/PreviewPane.h"
@@ -18,9 +21,10 @@
 
 #include <QMainWindow>
 #include <QPushButton>
-#include <QSplitter>
 
 namespace BatchDesktop {
+
+class ElidedLabel;
 
 /// The window: pictures, preview and settings side by side, and the bar of the run below them.
 class MainWindow : public QMainWindow
@@ -28,19 +32,34 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Policies and presets are in `settingsFolder`.
-    explicit MainWindow(const QString& settingsFolder);
+    /// Policies and presets are in `settingsFolder`; what the window remembers is in `dataFolder`.
+    explicit MainWindow(const QString& settingsFolder)
+        : MainWindow(settingsFolder, settingsFolder)
+    {
+    }
+    MainWindow(const QString& settingsFolder, const QString& dataFolder);
     ~MainWindow() override;
 
     EditedJob& Job() { return job; }
     JobRunner& Runner() { return runner; }
+    JobDesk& Desk() { return *desk; }
+    PresetBox& PresetChoice() { return *presets; }
     PicturesPane& Pictures() { return *pictures; }
     PreviewPane& Preview() { return *preview; }
     ForecastLink& Forecasts() { return *forecasts; }
     RunLink& Runs() { return *runs; }
 
+    /// Comes to the front, from an icon too.
+    void BringToFront();
+
     /// Adds files and folders.
     void AddPaths(const QStringList& paths) { pictures->AddPaths(paths); }
+
+    /// Opens a job file among `paths`, and adds the other files and the folders.
+    void OpenPaths(const QStringList& paths);
+
+    /// Brings back what was edited when the last window ended, and opens `paths`.
+    void Begin(const QStringList& paths);
 
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();
@@ -52,11 +71,15 @@ private:
     void RestoreLayout();
     void SaveLayout() const;
     QWidget* NewTopRow();
+    void ShowDestination();
     void MakePanes();
     void MakeMenus();
+    void ConnectJobs();
+    void ShowTitle();
     void ConnectRun();
     void MakeRunMenu();
     void ConnectPictures();
+    void ConnectSystem();
     void OnResult(const QString& input);
     void UpdateStart();
 
@@ -67,13 +90,18 @@ private:
     PicturesPane* pictures = nullptr;
     PreviewPane* preview = nullptr;
     SettingsPane* settings = nullptr;
-    QSplitter* panes = nullptr;
+    PaneArrangement* panes = nullptr;
+    PaneFocus* focus = nullptr;
     QuestionBar* questions = nullptr;
     RunBar* bar = nullptr;
+    ElidedLabel* destination = nullptr;
     ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
     QAction* startAction = nullptr;
     std::unique_ptr<InputModule> inputs;
+    SystemLink system;
+    std::unique_ptr<JobDesk> desk;
+    int percent = -1; ///< of the run; negative without one
     std::unique_ptr<ForecastLink> forecasts;
     std::unique_ptr<RunLink> runs;
 };

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "hosts/cli/options/CommandLine.h"
-#include "hosts/cli/options/JobOptions.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/common/options/JobOptions.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"

@@ -232,7 +232,7 @@ void tst_EffectsSection::whatIsMissingIsSaidAndGoesAway()
     stage.chosenPath = logo;
     QTest::mouseClick(choose, Qt::LeftButton);
     QTRY_VERIFY(stage.Problem("effects.watermark-image.file").isEmpty());
-    QCOMPARE(stage.section.StateText(), QStringLiteral("Watermark image"));
+    QCOMPARE(stage.section.StateText(), QStringLiteral("Watermark with a picture"));
     QVERIFY(CheckSettings(stage.job.Document()).IsAccepted());
     QCOMPARE(stage.Find<QLineEdit>(QStringLiteral("effects.watermark-image.file"))->text(),
              QDir::toNativeSeparators(logo));

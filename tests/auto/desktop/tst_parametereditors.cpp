@@ -6,6 +6,7 @@
 #include "hosts/desktop/settings/parameters/Choosers.h"
 #include "hosts/desktop/settings/parameters/NumberBox.h"
 #include "hosts/desktop/settings/parameters/ParameterField.h"
+#include "hosts/desktop/settings/parameters/ShownNames.h"
 #include "hosts/desktop/settings/parameters/SliderScale.h"
 #include "job/effects/EffectCatalog.h"
 #include "job/formats/FormatCatalog.h"
@@ -41,6 +42,9 @@ private Q_SLOTS:
     void filesAreChosen();
     void textsHaveLines();
     void parametersWithoutDefaultAreSetFirst();
+    void namesAreInWords_data();
+    void namesAreInWords();
+    void namesWithoutWordsOfTheirOwn();
 };
 
 namespace {
@@ -355,6 +359,39 @@ void tst_ParameterEditors::parametersWithoutDefaultAreSetFirst()
     QVERIFY(number->isVisible());
     QTest::keyClick(box, Qt::Key_Space);
     QVERIFY(edited.last().at(0).toJsonValue().isUndefined());
+}
+
+// What the catalogues name is shown in the user's language.
+void tst_ParameterEditors::namesAreInWords_data()
+{
+    QTest::addColumn<QString>("name");
+    QSet<QString> names;
+    for (const EffectSchema& effect : Effects()) {
+        names.insert(effect.id);
+    }
+    for (const CatalogueEntry& entry : AllParameters()) {
+        names.insert(entry.schema.name);
+        for (const QString& choice : entry.schema.choices) {
+            names.insert(choice);
+        }
+    }
+    for (const QString& name : qAsConst(names)) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+void tst_ParameterEditors::namesAreInWords()
+{
+    QFETCH(QString, name);
+    const bool isNumbersOnly = !name.contains(QRegularExpression(QStringLiteral("[a-z]")));
+    QVERIFY2(isNumbersOnly || HasShownName(name), "ShownNames.cpp has no words for it");
+}
+
+void tst_ParameterEditors::namesWithoutWordsOfTheirOwn()
+{
+    QCOMPARE(ShownName(QStringLiteral("brandNew-effect")), QStringLiteral("Brand new effect"));
+    QCOMPARE(ShownName(QStringLiteral("4:2:0")), QStringLiteral("4:2:0"));
+    QCOMPARE(ShownName(QStringLiteral("icc")), QStringLiteral("ICC"));
 }
 
 QTEST_MAIN(tst_ParameterEditors)

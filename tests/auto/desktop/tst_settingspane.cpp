@@ -80,7 +80,7 @@ void tst_SettingsPane::foldedSectionsSayTheirState_data()
     row("all metadata", "metadata", "All metadata is kept", [](Settings&) {});
     row("no metadata", "metadata", "No metadata is kept",
         [](Settings& settings) { settings.formatOptions = R"({"keep":[]})"; });
-    row("some metadata", "metadata", "Kept are Copyright, ICC",
+    row("some metadata", "metadata", "Kept are Creator and rights, ICC",
         [](Settings& settings) { settings.formatOptions = R"({"keep":["copyright","icc"]})"; });
     row("no profile", "profile", "The profile of each input", [](Settings&) {});
     row("nameless profile", "profile", "A profile of 3 bytes without a name",

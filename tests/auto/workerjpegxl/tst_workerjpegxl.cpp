@@ -61,9 +61,10 @@ Picture PictureOf(const QSize& size, int bands, int bits, const JxlValues& value
 // Detail as in a photo that an encoder cannot pack small, with an edge here and there.
 Picture Photo(int width, int height)
 {
-    const Picture tile = Picture::gaussnoise(500, 500, Picture::option()->set("mean", 128.0)->set("sigma", 30.0))
-                             .gaussblur(1.5)
-                             .cast(VIPS_FORMAT_UCHAR);
+    const Picture tile =
+        Picture::gaussnoise(500, 500, Picture::option()->set("mean", 128.0)->set("seed", 1)->set("sigma", 30.0))
+            .gaussblur(1.5)
+            .cast(VIPS_FORMAT_UCHAR);
     return tile.bandjoin(tile.invert())
         .bandjoin(tile.rot90())
         .replicate((width + 499) / 500, (height + 499) / 500)

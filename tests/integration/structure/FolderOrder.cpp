@@ -20,6 +20,8 @@ const QHash<QString, QStringList>& Parts()
         const QString include = Text("include");
         const QString protocol = Text("server/protocol");
         const QString common = Text("hosts/common");
+        const QString desktopJob = Text("hosts/desktop/job");
+        const QString desktopWindow = Text("hosts/desktop/window");
         return QHash<QString, QStringList>{
             {Text("platform/core"), {}},
             {Text("platform/stylecore"), {}},
@@ -34,7 +36,16 @@ const QHash<QString, QStringList>& Parts()
             {Text("server/reference"), {Text("server/worker")}},
             {common, {protocol}},
             {Text("hosts/cli"), {common}},
-            {Text("hosts/desktop"), {common}},
+            {desktopJob, {common}},
+            {Text("hosts/desktop/jobs"), {desktopJob}},
+            {Text("hosts/desktop/pictures"), {desktopJob}},
+            {Text("hosts/desktop/preview"), {desktopJob}},
+            {Text("hosts/desktop/run"), {desktopJob}},
+            {Text("hosts/desktop/settings"), {desktopJob}},
+            {desktopWindow,
+             {Text("hosts/desktop/jobs"), Text("hosts/desktop/pictures"), Text("hosts/desktop/preview"),
+              Text("hosts/desktop/run"), Text("hosts/desktop/settings")}},
+            {Text("hosts/desktop"), {desktopWindow}},
         };
     }();
     return parts;

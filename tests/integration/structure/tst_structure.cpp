@@ -65,6 +65,8 @@ const SourceText orderlyTree[] = {
     {"hosts/cli/CMakeLists.txt", "add_library(cli STATIC a.cpp)\n# target_link_libraries(cli PUBLIC picture)\n"
                                  "target_link_libraries(cli PUBLIC host PRIVATE CLI11::CLI11)\n"},
     {"hosts/desktop/app/Main.cpp", "#include \"hosts/common/RunController.h\"\n"},
+    {"hosts/desktop/jobs/JobDesk.h", "#include \"hosts/common/RunController.h\"\n"},
+    {"hosts/desktop/window/MainWindow.h", "#include \"hosts/desktop/jobs/JobDesk.h\"\n"},
     {"hosts/desktop/CMakeLists.txt", "add_executable(desktop main.cpp)\ntarget_link_libraries(desktop PRIVATE host)\n"},
     {"server/extra/CMakeLists.txt", "add_library(extra STATIC a.cpp)\n"},
     {"tests/support/ProcessEnd.h", ""},
@@ -102,8 +104,8 @@ void tst_Structure::aTreeInOrderHasNoFindings()
     QVERIFY(WriteOrderlyTree(tree.path()));
     const StructureReport report = CheckStructure(tree.path());
     QCOMPARE(report.findings, QStringList());
-    QCOMPARE(report.sources, 15);
-    QCOMPARE(report.includes, 20);
+    QCOMPARE(report.sources, 17);
+    QCOMPARE(report.includes, 22);
     QCOMPARE(report.links, 13);
 }
 
@@ -151,7 +153,13 @@ void tst_Structure::everyKindOfBreakIsNamed_data()
     includes("shared host to command line", "hosts/common/A.cpp", "\"hosts/cli/options/RunOptions.h\"",
              "hosts/common may not use hosts/cli: hosts/cli/options/RunOptions.h");
     includes("window to command line", "hosts/desktop/run/A.cpp", "\"hosts/cli/options/RunOptions.h\"",
-             "hosts/desktop may not use hosts/cli: hosts/cli/options/RunOptions.h");
+             "hosts/desktop/run may not use hosts/cli: hosts/cli/options/RunOptions.h");
+    includes("pane to pane", "hosts/desktop/run/A.cpp", "\"hosts/desktop/jobs/JobDesk.h\"",
+             "hosts/desktop/run may not use hosts/desktop/jobs: hosts/desktop/jobs/JobDesk.h");
+    includes("pane to window", "hosts/desktop/jobs/A.cpp", "\"hosts/desktop/window/MainWindow.h\"",
+             "hosts/desktop/jobs may not use hosts/desktop/window: hosts/desktop/window/MainWindow.h");
+    includes("edited job to pane", "hosts/desktop/job/A.cpp", "\"hosts/desktop/jobs/JobDesk.h\"",
+             "hosts/desktop/job may not use hosts/desktop/jobs: hosts/desktop/jobs/JobDesk.h");
     includes("host to supervisor", "hosts/common/A.cpp", "\"server/supervisor/WorkerPool.h\"",
              "hosts/common may not use server/supervisor: server/supervisor/WorkerPool.h");
     includes("host to worker", "hosts/cli/A.cpp", "\"server/worker/pixels/PixelForms.h\"",

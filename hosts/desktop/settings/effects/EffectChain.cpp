@@ -8,6 +8,7 @@
 #include "hosts/common/Language.h"
 #include "hosts/desktop/settings/parameters/ParameterRow.h"
 #include "hosts/desktop/settings/parameters/ParameterValues.h"
+#include "hosts/desktop/settings/parameters/ShownNames.h"
 #include "job/effects/EffectCatalog.h"
 
 #include <algorithm>

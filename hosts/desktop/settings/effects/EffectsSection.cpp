@@ -161,6 +161,10 @@ QWidget* EffectsSection::MakeButtons(QWidget* content)
         button->setAccessibleName(chainActions.at(i)->text());
         button->setObjectName(chainActions.at(i)->objectName() + QStringLiteral(".button"));
         button->setFocusPolicy(Qt::StrongFocus);
+        if (chainActions.at(i) == up || chainActions.at(i) == down) {
+            button->setArrowType(chainActions.at(i) == up ? Qt::UpArrow : Qt::DownArrow);
+            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        }
         layout->addWidget(button);
     }
     layout->addStretch();

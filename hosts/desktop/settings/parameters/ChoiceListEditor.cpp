@@ -3,6 +3,8 @@
 
 #include "ChoiceListEditor.h"
 
+#include "ShownNames.h"
+
 #include "hosts/common/Language.h"
 
 #include <QCheckBox>

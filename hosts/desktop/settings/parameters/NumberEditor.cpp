@@ -4,6 +4,7 @@
 #include "NumberEditor.h"
 
 #include "NumberBox.h"
+#include "ShownNames.h"
 
 #include <QHBoxLayout>
 #include <QSignalBlocker>

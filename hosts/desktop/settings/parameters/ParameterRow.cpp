@@ -3,46 +3,19 @@
 
 #include "ParameterRow.h"
 
-#include "hosts/common/Language.h"
+#include "ShownNames.h"
 
-#include <QHash>
-#include <QSet>
+#include "hosts/common/Language.h"
 
 #include <algorithm>
 #include <tuple>
 
 using namespace BatchJob;
-using BatchHost::Messages;
 using BatchHost::Translated;
 
 namespace BatchDesktop {
 
 namespace {
-
-bool IsAbbreviation(const QString& name)
-{
-    static const QSet<QString> abbreviations{QStringLiteral("exif"), QStringLiteral("gps"), QStringLiteral("icc"),
-                                             QStringLiteral("iptc"), QStringLiteral("lzw"), QStringLiteral("xmp")};
-    return abbreviations.contains(name);
-}
-
-QString InWords(const QString& name)
-{
-    if (IsAbbreviation(name)) {
-        return name.toUpper();
-    }
-    QString words;
-    for (const QChar character : name) {
-        if (character.isUpper() && !words.isEmpty()) {
-            words += QLatin1Char(' ');
-        }
-        words += character == QLatin1Char('-') ? QLatin1Char(' ') : character.toLower();
-    }
-    if (!words.isEmpty()) {
-        words[0] = words.at(0).toUpper();
-    }
-    return words;
-}
 
 bool IsSameSchema(const ParameterSchema& one, const ParameterSchema& other)
 {
@@ -79,19 +52,6 @@ ParameterRow RowOf(const ParameterSchema& schema, const QString& prefix)
         row.choices.append({choice, ShownName(choice)});
     }
     return row;
-}
-
-QString ShownName(const QString& name)
-{
-    return Messages::tr(InWords(name).toUtf8().constData());
-}
-
-QString ShownUnit(const QString& unit)
-{
-    static const QHash<QString, QString> signs{{QStringLiteral("percent"), QStringLiteral("%")},
-                                               {QStringLiteral("pixels"), QStringLiteral("px")},
-                                               {QStringLiteral("degrees"), QStringLiteral("\u00B0")}};
-    return signs.value(unit, Messages::tr(unit.toUtf8().constData()));
 }
 
 } // namespace BatchDesktop

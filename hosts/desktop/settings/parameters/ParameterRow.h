@@ -36,11 +36,4 @@ struct ParameterRow
 /// The row of `schema`, which all texts come from; its id is `prefix`.NAME.
 ParameterRow RowOf(const BatchJob::ParameterSchema& schema, const QString& prefix);
 
-/// `name`, such as "chromaSubsampling" or "bottom-right", in words that begin with a capital letter, in the user's
-/// language.
-QString ShownName(const QString& name);
-
-/// The sign of `unit`, such as "%" for "percent"; a unit without a sign in the user's language.
-QString ShownUnit(const QString& unit);
-
 } // namespace BatchDesktop

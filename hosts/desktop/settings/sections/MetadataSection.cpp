@@ -6,6 +6,7 @@
 #include "OptionParameters.h"
 
 #include "hosts/common/Language.h"
+#include "hosts/desktop/settings/parameters/ShownNames.h"
 
 #include <QJsonArray>
 

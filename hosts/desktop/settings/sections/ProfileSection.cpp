@@ -16,7 +16,7 @@ using BatchHost::Messages;
 namespace BatchDesktop {
 
 ProfileSection::ProfileSection(EditedJob& job, const Choosers& choosers, QWidget* parent)
-    : SettingsSection(Messages::tr("Colour &profile"), QStringLiteral("profile"), job, choosers, parent)
+    : SettingsSection(Messages::tr("Co&lour profile"), QStringLiteral("profile"), job, choosers, parent)
 {
     auto* const content = new QWidget(this);
     auto* const choose = new QPushButton(Messages::tr("Choose..."), content);

@@ -3,6 +3,8 @@
 
 #include "SettingsSection.h"
 
+#include "ElidedLabel.h"
+
 #include "hosts/common/Language.h"
 
 #include <QLabel>
@@ -19,12 +21,17 @@ SettingsSection::SettingsSection(const QString& shownTitle, const QString& wante
     , title(QString(shownTitle).remove(QLatin1Char('&')))
     , id(wantedId)
     , heading(new QToolButton(this))
-    , state(new QLabel(this))
+    , state(new ElidedLabel(this))
+    , problemLine(new QLabel(this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(heading);
-    layout->addWidget(state);
+    layout->setSpacing(0);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(heading);
+    line->addWidget(state, 1);
+    layout->addLayout(line);
+    layout->addWidget(problemLine);
     setObjectName(id);
     heading->setObjectName(id + QStringLiteral(".heading"));
     heading->setText(shownTitle);
@@ -34,14 +41,14 @@ SettingsSection::SettingsSection(const QString& shownTitle, const QString& wante
     heading->setFocusPolicy(Qt::StrongFocus);
     heading->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     heading->setArrowType(Qt::RightArrow);
-    heading->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);
     state->setObjectName(id + QStringLiteral(".state"));
-    state->setTextFormat(Qt::PlainText);
-    state->setWordWrap(true);
-    state->setIndent(fontMetrics().height());
+    problemLine->setObjectName(id + QStringLiteral(".problem"));
+    problemLine->setTextFormat(Qt::PlainText);
+    problemLine->setWordWrap(true);
+    problemLine->setIndent(fontMetrics().height());
     connect(heading, &QToolButton::toggled, this, [this](bool isOpen) { SetFolded(!isOpen); });
     connect(&job, &EditedJob::SettingsChanged, this, [this] { Refresh(); });
 }
@@ -70,13 +77,16 @@ bool SettingsSection::IsFolded() const
 
 QString SettingsSection::StateText() const
 {
-    return state->text();
+    return problemLine->isHidden() ? state->text() : problemLine->text();
 }
 
 void SettingsSection::ShowState(const QString& shown, const QString& problem)
 {
-    state->setText(problem.isEmpty() ? shown : QStringLiteral("\u26A0 ") + BatchHost::Translated(problem));
-    heading->setAccessibleDescription(state->text());
+    const bool isWrong = !problem.isEmpty();
+    state->setText(isWrong ? QString() : shown);
+    problemLine->setText(isWrong ? QStringLiteral("\u26A0 ") + BatchHost::Translated(problem) : QString());
+    problemLine->setVisible(isWrong);
+    heading->setAccessibleDescription(StateText());
 }
 
 } // namespace BatchDesktop

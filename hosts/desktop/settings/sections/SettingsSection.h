@@ -13,6 +13,8 @@ class QToolButton;
 
 namespace BatchDesktop {
 
+class ElidedLabel;
+
 /// One subject of the settings, which can be folded. Its heading says its state in one line, or what is wrong with it.
 class SettingsSection : public QWidget
 {
@@ -22,7 +24,7 @@ public:
     void SetFolded(bool isFolded);
     bool IsFolded() const;
 
-    /// The line under the heading.
+    /// The line beside the heading, or below it if something is wrong.
     QString StateText() const;
 
 protected:
@@ -52,7 +54,8 @@ private:
     const QString title;
     const QString id;
     QToolButton* heading;
-    QLabel* state;
+    ElidedLabel* state;
+    QLabel* problemLine;
     QWidget* content = nullptr;
 };
 

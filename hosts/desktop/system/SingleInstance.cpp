@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "SingleInstance.h"
+
+#include "DesktopNames.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+
+namespace BatchDesktop {
+
+namespace {
+
+constexpr int patience = 5'000;             // ms, for an answer of the first one
+constexpr int mostBytes = 16 * 1024 * 1024; // of paths
+constexpr char answer = '1';
+
+/// Only the user has access to this folder.
+QString FolderOfUser()
+{
+#ifdef Q_OS_WIN
+    return QDir::tempPath();
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+#endif
+}
+
+/// It tells users and folders apart: on Windows pipes belong to the whole machine.
+QString NameFor(const QString& settingsFolder)
+{
+    const QString whose = QDir::homePath() + QLatin1Char('\n') + QDir(settingsFolder).absolutePath();
+    constexpr int digits = 16; // The path of a socket has little room.
+    const QByteArray hash = QCryptographicHash::hash(whose.toUtf8(), QCryptographicHash::Sha256).toHex().left(digits);
+    return desktopId + QLatin1Char('-') + QString::fromLatin1(hash);
+}
+
+QString SocketName(const QString& name)
+{
+#ifdef Q_OS_WIN
+    return name;
+#else
+    return QDir(FolderOfUser()).filePath(name);
+#endif
+}
+
+/// Each path ends with a zero byte, which no path has, and one more ends the message.
+QByteArray MessageOf(const QStringList& paths)
+{
+    QByteArray message;
+    for (const QString& path : paths) {
+        message += path.toUtf8() + '\0';
+    }
+    return message + '\0';
+}
+
+bool IsWhole(const QByteArray& message)
+{
+    return message == QByteArray(1, '\0') || message.endsWith(QByteArray(2, '\0'));
+}
+
+QStringList PathsOf(const QByteArray& message)
+{
+    QStringList paths;
+    for (const QByteArray& path : message.split('\0')) {
+        if (!path.isEmpty()) {
+            paths += QString::fromUtf8(path);
+        }
+    }
+    return paths;
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QString& settingsFolder, QObject* parent)
+    : QObject(parent)
+    , name(NameFor(settingsFolder))
+    , lock(QDir(FolderOfUser()).filePath(name + QStringLiteral(".lock")))
+{
+    lock.setStaleLockTime(0); // A lock is stale when its process is gone, however old it is.
+    server.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&server, &QLocalServer::newConnection, this, &SingleInstance::OnConnection);
+}
+
+SingleInstance::Place SingleInstance::Begin(const QStringList& paths)
+{
+    QElapsedTimer clock;
+    clock.start();
+    do {
+        if (lock.tryLock(0)) {
+            QLocalServer::removeServer(SocketName(name)); // It may be left by one that was killed.
+            return server.listen(SocketName(name)) ? Place::First : Place::Alone;
+        }
+        if (lock.error() != QLockFile::LockFailedError) {
+            return Place::Alone;
+        }
+        if (HandOver(paths)) {
+            return Place::Second;
+        }
+        constexpr unsigned long pause = 20; // ms; the first one may be about to listen, or to end
+        QThread::msleep(pause);
+    } while (clock.elapsed() < patience);
+    return Place::Alone;
+}
+
+bool SingleInstance::HandOver(const QStringList& paths) const
+{
+    QLocalSocket socket;
+    socket.connectToServer(SocketName(name));
+    if (!socket.waitForConnected(patience)) {
+        return false;
+    }
+    const QByteArray message = MessageOf(paths);
+    if (message.size() > mostBytes) {
+        return false;
+    }
+    socket.write(message);
+    while (socket.bytesToWrite() > 0) {
+        if (!socket.waitForBytesWritten(patience)) {
+            return false;
+        }
+    }
+    return socket.waitForReadyRead(patience) && socket.read(1) == QByteArray(1, answer);
+}
+
+void SingleInstance::OnConnection()
+{
+    while (QLocalSocket* const socket = server.nextPendingConnection()) {
+        socket->setParent(this);
+        socket->setReadBufferSize(mostBytes + 1);
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        const auto read = [this, socket] {
+            const QByteArray message = socket->peek(mostBytes + 1);
+            if (message.size() > mostBytes) {
+                socket->abort();
+            } else if (IsWhole(message)) {
+                socket->readAll();
+                socket->write(&answer, 1);
+                socket->flush();
+                Q_EMIT Started(PathsOf(message));
+            }
+        };
+        connect(socket, &QLocalSocket::readyRead, this, read);
+        read(); // What has come already.
+    }
+}
+
+} // namespace BatchDesktop
