@@ -21,9 +21,13 @@ std::optional<ByteSum> ByteSum::Of(const QMap<int, qint64>& samples, int files)
         return {};
     }
     const QList<qint64> bytes = samples.values();
+    const double ofSamples = std::accumulate(bytes.begin(), bytes.end(), 0.0);
+    if (ofSamples == 0) {
+        return {};
+    }
     ByteSum sum;
     const double factor = double(files) / count;
-    sum.bytes = factor * std::accumulate(bytes.begin(), bytes.end(), 0.0);
+    sum.bytes = factor * ofSamples;
     if (count < files) {
         double squares = 0;
         for (int i = 1; i < count; ++i) {

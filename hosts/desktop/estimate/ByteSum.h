@@ -19,7 +19,7 @@ struct ByteSum
     int Percent() const;
 
     /// `samples` are the bytes of the samples by their places, of a systematic sample of `files` results. Nothing if
-    /// there are too few samples to tell.
+    /// there are too few samples to tell, or if none has any bytes.
     ///
     /// The sum is the mean times the number of files. Neighbours in the order of kinds and bytes are alike, so their
     /// differences tell how much one sample may err for what it stands for (the successive difference estimator of

@@ -60,6 +60,9 @@ public:
     /// How many files have troubles.
     int TroubleCount() const { return plan && plan->counts ? plan->counts->Troubles() : 0; }
 
+    /// Plans anew, for files that have changed on the disk.
+    void Renew() { Outdate(); }
+
     /// Whether the plan shows the job as it is now.
     bool IsCurrent() const { return isCurrent; }
 

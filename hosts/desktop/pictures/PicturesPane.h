@@ -48,6 +48,9 @@ public:
     const NamePlan& Names() const { return plan; }
     const Thumbnails& Pictures() const { return thumbnails; }
 
+    /// Names are planned anew: a run may have taken some.
+    void RenewNames() { plan.Renew(); }
+
     /// For whoever watches a run.
     RunStates& States() { return states; }
 

@@ -8,6 +8,7 @@
 #include "hosts/common/Language.h"
 
 #include <QAccessible>
+#include <QVBoxLayout>
 
 using BatchHost::Messages;
 using namespace BatchJob;
@@ -36,8 +37,10 @@ QuestionBar::QuestionBar(JobRunner& runner, QWidget* parent)
     layout->addWidget(existingPicture);
     layout->addWidget(wantedPicture);
     layout->addWidget(text, 1);
-    layout->addLayout(answers);
-    layout->addWidget(forTheRest);
+    auto* const right = new QVBoxLayout;
+    right->addLayout(answers);
+    right->addWidget(forTheRest);
+    layout->addLayout(right);
     connect(&runner, &JobRunner::QuestionChanged, this, &QuestionBar::Refresh);
     Refresh();
 }

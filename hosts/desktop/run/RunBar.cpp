@@ -133,6 +133,7 @@ void RunBar::PutAway()
     if (runner.CurrentState() == JobRunner::State::Idle) {
         isEndTold = isEndOffered = false;
         runner.Dismiss();
+        Q_EMIT SummaryPutAway();
     }
     Refresh();
 }

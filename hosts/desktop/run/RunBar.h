@@ -43,6 +43,9 @@ Q_SIGNALS:
     void FolderWanted(const QString& folder);
     void ReportWanted();
 
+    /// The last run is of no interest any more.
+    void SummaryPutAway();
+
 private:
     void ConnectControls();
     void PutAway();

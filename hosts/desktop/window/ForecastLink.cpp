@@ -30,6 +30,10 @@ ForecastLink::ForecastLink(EditedJob& job, PicturesPane& pictures, PreviewPane& 
     connect(&pictures, &PicturesPane::InputsChanged, this, &ForecastLink::Update);
     connect(&pictures.Names(), &NamePlan::Planned, this, &ForecastLink::OnPlanned);
     connect(&estimate, &SizeEstimate::Changed, this, &ForecastLink::Update);
+    connect(&bar, &RunBar::SummaryPutAway, this, [this] {
+        this->pictures.States().Clear();
+        this->pictures.RenewNames();
+    });
     connect(&runner, &JobRunner::StateChanged, this, &ForecastLink::UpdateHold);
     const PreviewMaker& maker = preview.Maker();
     connect(&maker, &PreviewMaker::Updating, this, &ForecastLink::UpdateHold);

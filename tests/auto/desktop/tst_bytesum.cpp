@@ -112,6 +112,7 @@ void tst_ByteSum::tooFewSamplesTellNothing()
 {
     QVERIFY(!ByteSum::Of({}, 3));
     QVERIFY(!ByteSum::Of({{0, 10}}, 3));
+    QVERIFY(!ByteSum::Of({{0, 0}, {1, 0}}, 2));
 }
 
 void tst_ByteSum::equalResultsHaveNoError()

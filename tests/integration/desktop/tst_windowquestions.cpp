@@ -71,11 +71,10 @@ void tst_WindowQuestions::everyAnswerReachesTheServer_data()
     const auto rows = [](const char* name, PolicyKind kind, int errorCode) {
         for (int answer = 0; answer < PolicyWords(kind).size(); ++answer) {
             if (answer != AskingPolicy(kind)) {
-                for (const bool isForTheRest : {false, true}) {
-                    QTest::addRow("%s: %s%s", name, qPrintable(PolicyWord(kind, answer)),
-                                  isForTheRest ? " for the rest" : "")
-                        << int(kind) << errorCode << answer << isForTheRest;
-                }
+                const bool isForTheRest = answer % 2 == 0;
+                QTest::addRow("%s: %s%s", name, qPrintable(PolicyWord(kind, answer)),
+                              isForTheRest ? " for the rest" : "")
+                    << int(kind) << errorCode << answer << isForTheRest;
             }
         }
     };

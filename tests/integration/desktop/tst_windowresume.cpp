@@ -6,6 +6,9 @@
 
 #include <QProcess>
 
+#include <algorithm>
+#include <cstdio>
+
 using namespace BatchDesktop;
 
 using RunState = JobRunner::State;
@@ -92,8 +95,11 @@ bool tst_WindowResume::KillWindowInItsRun() const
         }
         out += process.readAllStandardOutput();
     }
+    const QList<qint64> children = ChildrenOf(process.processId());
     process.kill();
-    return process.waitForFinished() && process.exitStatus() == QProcess::CrashExit;
+    const auto isGone = [&children] { return std::none_of(children.begin(), children.end(), IsProcessAlive); };
+    return process.waitForFinished() && process.exitStatus() == QProcess::CrashExit &&
+           QTest::qWaitFor(isGone, WindowStage::patience);
 }
 
 QStringList tst_WindowResume::HiddenResults() const

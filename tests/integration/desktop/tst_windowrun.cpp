@@ -260,6 +260,8 @@ void tst_WindowRun::theSummaryIsPutAway()
         QVERIFY2(!stage->IsVisible(name), name);
     }
     QVERIFY(!stage->Runner().RetryFailed());
+    QVERIFY(stage->Says(QStringLiteral("3 pictures, 1 new. 2 names are taken.")));
+    QCOMPARE(stage->StateOf(1).state, RunStates::State::None);
     QCOMPARE(QDir(stage->Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
