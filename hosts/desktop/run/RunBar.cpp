@@ -32,7 +32,7 @@ RunBar::RunBar(JobRunner& runner, QWidget* parent)
     , showFailed(QStringLiteral("showFailed"), Messages::tr("S&how failed"), {}, this)
     , retry(QStringLiteral("retryFailed"), Messages::tr("Retr&y failed"), {}, this)
     , openFolder(QStringLiteral("openFolder"), Messages::tr("Open fo&lder"), {}, this)
-    , saveReport(QStringLiteral("saveReport"), Messages::tr("&Save report"), {}, this)
+    , saveReport(QStringLiteral("saveReport"), Messages::tr("Sa&ve report"), {}, this)
     , putAway(QStringLiteral("putAway"), Messages::tr("Put &away"), {}, this)
 {
     setObjectName(QStringLiteral("runBar"));

@@ -143,10 +143,10 @@ void tst_SystemLink::progressIsInTitleAndTaskbar()
     QStringList titles;
     connect(window.get(), &QWidget::windowTitleChanged, this, [&titles](const QString& title) { titles += title; });
     QVERIFY(Start());
-    QCOMPARE(window->windowTitle(), QStringLiteral("0 % - Velkora Batch"));
+    QCOMPARE(window->windowTitle(), QStringLiteral("0 % - New job[*] - Velkora Batch"));
     QVERIFY(WaitForEnd());
-    QCOMPARE(window->windowTitle(), QStringLiteral("Velkora Batch"));
-    QVERIFY2(titles.contains(QStringLiteral("100 % - Velkora Batch")), qPrintable(titles.join(u'\n')));
+    QCOMPARE(window->windowTitle(), QStringLiteral("New job[*] - Velkora Batch"));
+    QVERIFY2(titles.contains(QStringLiteral("100 % - New job[*] - Velkora Batch")), qPrintable(titles.join(u'\n')));
     QCOMPARE(titles.removeDuplicates(), 0);
     const auto isHidden = [this] {
         return !dock->updates.isEmpty() &&
@@ -262,7 +262,7 @@ void tst_SystemLink::runsNeedNoServices()
     QVERIFY(Start());
     QVERIFY(WaitForEnd());
     QCOMPARE(window->Runner().LastEnd()->written, pictures);
-    QCOMPARE(window->windowTitle(), QStringLiteral("Velkora Batch"));
+    QCOMPARE(window->windowTitle(), QStringLiteral("New job[*] - Velkora Batch"));
 }
 
 QTEST_MAIN(tst_SystemLink)
