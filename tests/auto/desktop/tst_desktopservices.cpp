@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QtTest>
@@ -53,12 +54,15 @@ Notifier::Notice End(const QString& body)
     return {QStringLiteral("The end"), body, {{QStringLiteral("folder"), QStringLiteral("Open folder")}}};
 }
 
-/// Waits until the program's bus has carried what was sent before.
-void PassBy(const QDBusConnection& bus)
+/// Waits until the program's bus has answered what was asked before.
+bool PassBy(const QDBusConnection& bus)
 {
-    bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
-                                            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")),
-             QDBus::BlockWithGui);
+    const QDBusPendingCall call =
+        bus.asyncCall(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+                                                     QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")));
+    const bool isAnswered = QTest::qWaitFor([&call] { return call.isFinished(); });
+    QCoreApplication::processEvents();
+    return isAnswered;
 }
 
 /// The contrast of two colours as defined by WCAG 2.1.
@@ -250,8 +254,8 @@ void tst_DesktopServices::absentServicesAreNoError()
     SleepBlocker sleep;
     sleep.Block(QStringLiteral("reason"));
     const ColourScheme scheme;
-    PassBy(QDBusConnection::sessionBus());
-    PassBy(QDBusConnection::sessionBus()); // The second call of each is made after the error of the first.
+    QVERIFY(PassBy(QDBusConnection::sessionBus()));
+    QVERIFY(PassBy(QDBusConnection::sessionBus())); // The second call of each is made after the error of the first.
     notifier.Withdraw();
     sleep.Release();
     QCOMPARE(scheme.Preferred(), ColourScheme::Preference::None);
@@ -295,7 +299,7 @@ void tst_DesktopServices::darkDesktopsKeepTheirColours()
     PortalService portal(*bus, 1);
     ApplicationColours colours;
     QTRY_COMPARE(portal.asked.size(), 1);
-    PassBy(QDBusConnection::sessionBus());
+    QVERIFY(PassBy(QDBusConnection::sessionBus()));
     QCOMPARE(QApplication::palette().color(QPalette::Window), own.color(QPalette::Window));
     QApplication::setPalette(QPalette());
 }
