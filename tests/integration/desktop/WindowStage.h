@@ -48,6 +48,7 @@ public:
     bool Open()
     {
         window = std::make_unique<BatchDesktop::MainWindow>(SettingsFolder());
+        window->resize(1280, 800); // Wide enough for all panes beside each other.
         window->show();
         return QTest::qWaitForWindowExposed(window.get());
     }
