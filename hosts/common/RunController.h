@@ -113,7 +113,7 @@ private:
     QPointer<ZTBatchManager::ZTBatchSession> session;
     ServerWatch watch;
     bool isAskedForLife = false; ///< the server was asked whether it is still there, and has not answered yet
-    bool isPaused = false;        ///< the user wants it
+    bool isPaused = false;       ///< the user wants it
     QTimer sessionOver;          ///< fires after the end of a session if its server still runs
     QElapsedTimer time;
     Phase phase = Phase::Idle;

@@ -72,7 +72,7 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
     setObjectName(QStringLiteral("pictureList"));
     setAccessibleName(Messages::tr("List of pictures"));
     setTextElideMode(Qt::ElideMiddle); // The ends of names tell them apart.
-    setUniformRowHeights(true); // Else each row is asked for its height.
+    setUniformRowHeights(true);        // Else each row is asked for its height.
     setSelectionMode(ExtendedSelection);
     setAllColumnsShowFocus(true);
     setItemDelegate(new RowPainter(this));

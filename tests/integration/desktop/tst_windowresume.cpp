@@ -40,7 +40,8 @@ namespace {
 constexpr int photos = 20;
 constexpr char folderVariable[] = "BATCHCORE_TEST_KILLED_WINDOW";
 
-/// A window of another process, which starts a run in the folder and pauses it before its end.
+/// A window of another process, which starts a run in the folder. The run cannot end: the name of one result is taken,
+/// and nobody answers the question about it.
 int RunUntilKilled()
 {
     EndWithParent();
@@ -49,7 +50,6 @@ int RunUntilKilled()
     window.show();
     Settings settings = window.Job().CurrentSettings();
     settings.outputFolder = folder.filePath(QStringLiteral("out"));
-    settings.policies = {};
     window.Job().Change(settings, QStringLiteral("Test"));
     window.AddPaths({folder.filePath(QStringLiteral("photos"))});
     const auto isThere = [&] { return window.Job().Document().GetInputModel()->GetFileNodesCount() == photos; };
@@ -57,13 +57,14 @@ int RunUntilKilled()
         return 1;
     }
     window.StartRun();
-    QObject::connect(&window.Runner(), &JobRunner::ResultKnown, &window, [&] { window.Runner().Pause(); });
-    QObject::connect(&window.Runner(), &JobRunner::StateChanged, &window, [&] {
-        if (window.Runner().CurrentState() == RunState::Paused) {
-            std::puts("paused");
-            std::fflush(stdout);
-        }
-    });
+    const auto isHeld = [&] {
+        return window.Runner().OpenQuestion() && window.Runner().Results().size() == photos - 1;
+    };
+    if (!QTest::qWaitFor(isHeld, WindowStage::patience)) {
+        return 1;
+    }
+    std::puts("held");
+    std::fflush(stdout);
     return QApplication::exec();
 }
 
@@ -82,13 +83,17 @@ void tst_WindowResume::cleanup()
 
 bool tst_WindowResume::KillWindowInItsRun() const
 {
+    QDir().mkpath(stage->Path(QStringLiteral("out")));
+    if (!QFile::copy(stage->Photo(1), stage->Result(photos))) {
+        return false;
+    }
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(folderVariable), stage->Path(QString()));
     process.setProcessEnvironment(environment);
     process.start(QCoreApplication::applicationFilePath(), QStringList());
     QByteArray out;
-    while (!out.contains("paused")) {
+    while (!out.contains("held")) {
         if (!process.waitForReadyRead(WindowStage::patience)) {
             qWarning("%s", process.readAllStandardError().constData());
             return false;
@@ -99,7 +104,7 @@ bool tst_WindowResume::KillWindowInItsRun() const
     process.kill();
     const auto isGone = [&children] { return std::none_of(children.begin(), children.end(), IsProcessAlive); };
     return process.waitForFinished() && process.exitStatus() == QProcess::CrashExit &&
-           QTest::qWaitFor(isGone, WindowStage::patience);
+           QTest::qWaitFor(isGone, WindowStage::patience) && QFile::remove(stage->Result(photos));
 }
 
 QStringList tst_WindowResume::HiddenResults() const
@@ -110,8 +115,7 @@ QStringList tst_WindowResume::HiddenResults() const
 void tst_WindowResume::aKilledRunIsResumed()
 {
     QVERIFY(KillWindowInItsRun());
-    const int before = QDir(stage->Path(QStringLiteral("out"))).entryList(QDir::Files).size();
-    QVERIFY(before > 0 && before < photos);
+    QCOMPARE(QDir(stage->Path(QStringLiteral("out"))).entryList(QDir::Files).size(), photos - 1);
     QVERIFY(stage->Open());
     QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
     const QString text = stage->Text("resumeText");
