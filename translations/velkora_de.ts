@@ -371,6 +371,1842 @@
         <source>(%1 bytes in the job)</source>
         <translation>(%1 Bytes im Auftrag)</translation>
     </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>1 picture.</source>
+        <translation>1 Bild.</translation>
+    </message>
+    <message>
+        <source>%1 pictures.</source>
+        <translation>%1 Bilder.</translation>
+    </message>
+    <message>
+        <source>1 picture, %1 new.</source>
+        <translation>1 Bild, %1 neu.</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 new.</source>
+        <translation>%1 Bilder, %2 neu.</translation>
+    </message>
+    <message>
+        <source>1 name is taken.</source>
+        <translation>1 Name ist vergeben.</translation>
+    </message>
+    <message>
+        <source>%1 names are taken.</source>
+        <translation>%1 Namen sind vergeben.</translation>
+    </message>
+    <message>
+        <source>1 file that exists will be replaced.</source>
+        <translation>1 vorhandene Datei wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>%1 files that exist will be replaced.</source>
+        <translation>%1 vorhandene Dateien werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>1 picture cannot be written.</source>
+        <translation>1 Bild kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be written.</source>
+        <translation>%1 Bilder können nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is too little room: the results take %1, but only %2 are free.</source>
+        <translation>Der Platz reicht nicht: Die Ergebnisse benötigen %1, frei sind nur %2.</translation>
+    </message>
+    <message>
+        <source>There may be too little room: the results take about %1 (± %2 %), but only %3 are free.</source>
+        <translation>Der Platz reicht vielleicht nicht: Die Ergebnisse benötigen etwa %1 (± %2 %), frei sind nur %3.</translation>
+    </message>
+    <message>
+        <source>The results take %1.</source>
+        <translation>Die Ergebnisse benötigen %1.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %).</source>
+        <translation>Die Ergebnisse benötigen etwa %1 (± %2 %).</translation>
+    </message>
+    <message>
+        <source>The results take %1; %2 are free.</source>
+        <translation>Die Ergebnisse benötigen %1; %2 sind frei.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %); %3 are free.</source>
+        <translation>Die Ergebnisse benötigen etwa %1 (± %2 %); %3 sind frei.</translation>
+    </message>
+    <message>
+        <source>Add pictures to begin.</source>
+        <translation>Zum Beginnen Bilder hinzufügen.</translation>
+    </message>
+    <message>
+        <source>What you edit cannot be kept in %1; save the job before the window ends.</source>
+        <translation>Die Bearbeitung kann nicht in %1 gesichert werden; den Auftrag speichern, bevor das Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>The command line that does the same is on the clipboard.</source>
+        <translation>Die Befehlszeile, die dasselbe tut, ist in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>&amp;New job</source>
+        <translation>&amp;Neuer Auftrag</translation>
+    </message>
+    <message>
+        <source>Open &amp;job…</source>
+        <translation>Auftrag ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>R&amp;ecent jobs</source>
+        <translation>&amp;Zuletzt verwendete Aufträge</translation>
+    </message>
+    <message>
+        <source>&amp;Save job</source>
+        <translation>Auftrag &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save job &amp;as…</source>
+        <translation>Auftrag speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as command</source>
+        <translation>Als Befehl &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset…</source>
+        <translation>Als Vorgabe &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename preset…</source>
+        <translation>Vorgabe &amp;umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete preset</source>
+        <translation>Vorgabe &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Import preset…</source>
+        <translation>Vorgabe &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Export preset…</source>
+        <translation>Vorgabe &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>The job before this one was not saved.</source>
+        <translation>Der vorherige Auftrag wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>The window did not end as it should; this is what was edited last.</source>
+        <translation>Das Fenster wurde nicht ordnungsgemäß beendet; dies ist der letzte Stand der Bearbeitung.</translation>
+    </message>
+    <message>
+        <source>Import preset</source>
+        <translation>Vorgabe importieren</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Export preset</source>
+        <translation>Vorgabe exportieren</translation>
+    </message>
+    <message>
+        <source>The settings are saved in %1.</source>
+        <translation>Die Einstellungen sind in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The preset %1 is deleted; the settings stay as they are.</source>
+        <translation>Die Vorgabe %1 ist gelöscht; die Einstellungen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Batch jobs (%1)</source>
+        <translation>Stapelaufträge (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The job &quot;%1&quot; has changes that are not saved.</source>
+        <translation>Der Auftrag „%1“ enthält Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard changes</source>
+        <translation>Änderungen &amp;verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Neuer Auftrag</translation>
+    </message>
+    <message>
+        <source>Open job</source>
+        <translation>Auftrag öffnen</translation>
+    </message>
+    <message>
+        <source>Save job</source>
+        <translation>Auftrag speichern</translation>
+    </message>
+    <message>
+        <source>%1 exists; choose it to replace it.</source>
+        <translation>%1 existiert bereits; zum Ersetzen diese Datei wählen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>Hinweis schließen</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Keine Vorgabe</translation>
+    </message>
+    <message>
+        <source>This preset cannot be used as it is: %1</source>
+        <translation>Diese Vorgabe ist so nicht verwendbar: %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Vorgabe %1</translation>
+    </message>
+    <message>
+        <source>The preset %1 cannot be used as it is: %2</source>
+        <translation>Die Vorgabe %1 ist so nicht verwendbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Cancel the naming of the preset</source>
+        <translation>Benennen der Vorgabe abbrechen</translation>
+    </message>
+    <message>
+        <source>Save the settings as the preset</source>
+        <translation>Einstellungen speichern als Vorgabe</translation>
+    </message>
+    <message>
+        <source>New name of the preset %1</source>
+        <translation>Neuer Name der Vorgabe %1</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Replace the preset %1</source>
+        <translation>Vorgabe %1 ersetzen</translation>
+    </message>
+    <message>
+        <source>You have a preset of this name; it would be replaced.</source>
+        <translation>Eine eigene Vorgabe dieses Namens ist vorhanden; sie würde ersetzt.</translation>
+    </message>
+    <message>
+        <source>Processes pictures in batches, in a window.</source>
+        <translation>Verarbeitet Bilder stapelweise, in einem Fenster.</translation>
+    </message>
+    <message>
+        <source>Pictures and folders to add.</source>
+        <translation>Bilder und Ordner, die hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Stop adding</source>
+        <translation>Hinzufügen stoppen</translation>
+    </message>
+    <message>
+        <source>Adding pictures…</source>
+        <translation>Bilder werden hinzugefügt…</translation>
+    </message>
+    <message>
+        <source>Problems of this kind: %1; point here to read them.</source>
+        <translation>Probleme dieser Art: %1; zum Lesen hierher zeigen.</translation>
+    </message>
+    <message>
+        <source>Add pictures</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 does not exist any more</source>
+        <translation>%1 existiert nicht mehr</translation>
+    </message>
+    <message>
+        <source>Add &amp;files…</source>
+        <translation>&amp;Dateien hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add f&amp;older…</source>
+        <translation>&amp;Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>S&amp;how in folder</source>
+        <translation>&amp;Im Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>▾ %1 (%2)</source>
+        <translation>▾ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>▸ %1 (%2)</source>
+        <translation>▸ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Grid of pictures</source>
+        <translation>Bilder als Raster</translation>
+    </message>
+    <message>
+        <source>List of pictures</source>
+        <translation>Bilder als Liste</translation>
+    </message>
+    <message>
+        <source>1 picture in 1 folder</source>
+        <translation>1 Bild in 1 Ordner</translation>
+    </message>
+    <message>
+        <source>%1 pictures in 1 folder</source>
+        <translation>%1 Bilder in 1 Ordner</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2 folders</source>
+        <translation>%1 Bilder in %2 Ordnern</translation>
+    </message>
+    <message>
+        <source>Drop pictures and folders here, or add them with the buttons below.</source>
+        <translation>Bilder und Ordner hierher ziehen oder mit den Schaltflächen unten hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Show only pictures whose names contain</source>
+        <translation>Nur Bilder zeigen, deren Name dies enthält</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Show only pictures with the state</source>
+        <translation>Nur Bilder mit diesem Status zeigen</translation>
+    </message>
+    <message>
+        <source>All pictures</source>
+        <translation>Alle Bilder</translation>
+    </message>
+    <message>
+        <source>Name taken</source>
+        <translation>Name vergeben</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Remove pictures</source>
+        <translation>Bilder entfernen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures</source>
+        <translation>%1 von %2 Bildern</translation>
+    </message>
+    <message>
+        <source>Cannot be written</source>
+        <translation>Kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>This file cannot be shown.</source>
+        <translation>Diese Datei kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Folder %1, pictures: %2</source>
+        <translation>Ordner %1, Bilder: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2</source>
+        <translation>%1, wird als %2 geschrieben</translation>
+    </message>
+    <message>
+        <source>%1, written as %2: %3</source>
+        <translation>%1, wird als %2 geschrieben: %3</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation>In Arbeit</translation>
+    </message>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Trennlinie zwischen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>Sizes before and after</source>
+        <translation>Größe vorher und nachher</translation>
+    </message>
+    <message>
+        <source>State of the preview</source>
+        <translation>Status der Vorschau</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Wird aktualisiert</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>Show all of the picture (1)</source>
+        <translation>Das ganze Bild zeigen (1)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on one pixel of the screen (2)</source>
+        <translation>Ein Pixel des Ergebnisses auf einem Pixel des Bildschirms (2)</translation>
+    </message>
+    <message>
+        <source>&amp;200 %</source>
+        <translation>&amp;200 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on four pixels of the screen (3)</source>
+        <translation>Ein Pixel des Ergebnisses auf vier Pixeln des Bildschirms (3)</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Linie</translation>
+    </message>
+    <message>
+        <source>Before and after with a line between them (4)</source>
+        <translation>Vorher und nachher mit einer Linie dazwischen (4)</translation>
+    </message>
+    <message>
+        <source>&amp;Side by side</source>
+        <translation>&amp;Nebeneinander</translation>
+    </message>
+    <message>
+        <source>Before and after side by side (5)</source>
+        <translation>Vorher und nachher nebeneinander (5)</translation>
+    </message>
+    <message>
+        <source>Preview &amp;anew</source>
+        <translation>Vorschau &amp;aktualisieren</translation>
+    </message>
+    <message>
+        <source>Make the preview anew from the file on the disk (F5)</source>
+        <translation>Die Vorschau aus der Datei auf dem Datenträger neu erstellen (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>Vor&amp;her</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Show the picture before as long as this is held (space bar on the picture)</source>
+        <translation>Solange gedrückt, das Bild vorher zeigen (Leertaste auf dem Bild)</translation>
+    </message>
+    <message>
+        <source>Choose a picture to see what becomes of it.</source>
+        <translation>Ein Bild auswählen, um zu sehen, was daraus wird.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3</source>
+        <translation>%1 x %2 px, %3</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
+        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+    </message>
+    <message>
+        <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
+        <translation>Exakt: %1 mit %2 Bytes, wie ein Lauf es schreibt; erstellt in %3 s</translation>
+    </message>
+    <message>
+        <source>The result is too large to be shown here.</source>
+        <translation>Das Ergebnis ist zu groß, um hier gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>vorher</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>nachher</translation>
+    </message>
+    <message>
+        <source>Another program is running a batch on this computer: close it, and start this one anew.</source>
+        <translation>Ein anderes Programm führt auf diesem Computer gerade einen Lauf aus: jenes schließen und dieses neu starten.</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for the rest of the run</source>
+        <translation>Auch für &amp;jeden weiteren Fall in diesem Lauf</translation>
+    </message>
+    <message>
+        <source>Question about a picture</source>
+        <translation>Frage zu einem Bild</translation>
+    </message>
+    <message>
+        <source>The file that exists</source>
+        <translation>Die vorhandene Datei</translation>
+    </message>
+    <message>
+        <source>The picture whose result would have its name</source>
+        <translation>Das Bild, dessen Ergebnis so heißen würde</translation>
+    </message>
+    <message>
+        <source>Interrupted run</source>
+        <translation>Unterbrochener Lauf</translation>
+    </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>Fort&amp;setzen</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>Ver&amp;werfen</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>Pau&amp;se</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel the run</source>
+        <translation>Lauf abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me the run</source>
+        <translation>Lauf for&amp;tsetzen</translation>
+    </message>
+    <message>
+        <source>S&amp;how failed</source>
+        <translation>Fehlgeschlagene anz&amp;eigen</translation>
+    </message>
+    <message>
+        <source>Retr&amp;y failed</source>
+        <translation>Fehlgeschlagene erneut ausf&amp;ühren</translation>
+    </message>
+    <message>
+        <source>Open fo&amp;lder</source>
+        <translation>Ordner &amp;öffnen</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve report</source>
+        <translation>Ber&amp;icht speichern</translation>
+    </message>
+    <message>
+        <source>Put &amp;away</source>
+        <translation>Wegr&amp;äumen</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Fortschritt des Laufs</translation>
+    </message>
+    <message>
+        <source>The batch server has ended unexpectedly; a new one goes on.</source>
+        <translation>Der Batch-Server wurde unerwartet beendet; ein neuer macht weiter.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: its journal cannot be read.</source>
+        <translation>Der Lauf kann nicht fortgesetzt werden: Sein Journal ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The failed pictures cannot be tried again: the journal of their run cannot be used.</source>
+        <translation>Die fehlgeschlagenen Bilder können nicht erneut versucht werden: Das Journal ihres Laufs ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>Go &amp;on</source>
+        <translation>Fort&amp;setzen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>%1 von %2 fertig</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done, %3 left</source>
+        <translation>%1 von %2 fertig, noch %3</translation>
+    </message>
+    <message>
+        <source>Pausing: pictures in work are finished first</source>
+        <translation>Pause folgt: begonnene Bilder werden noch fertig bearbeitet</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2 done</source>
+        <translation>Pausiert, %1 von %2 fertig</translation>
+    </message>
+    <message>
+        <source>%1 written, %2 skipped, %3 failed</source>
+        <translation>%1 geschrieben, %2 übersprungen, %3 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Finished in %1: all %2 pictures were written.</source>
+        <translation>Fertig in %1: alle %2 Bilder wurden geschrieben.</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 skipped, %4 failed.</source>
+        <translation>Fertig in %1: %2 geschrieben, %3 übersprungen, %4 fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: %1.</source>
+        <translation>Nichts wurde geschrieben: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written: the program VelkoraBatchWorker is missing or cannot be started.</source>
+        <translation>Es kann nichts geschrieben werden: Das Programm VelkoraBatchWorker fehlt oder lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The batch server was lost after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>Der Batch-Server ging nach %1 von %2 Bildern verloren. Der Lauf kann fortgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>Nach %1 von %2 Bildern abgebrochen. Der Lauf kann fortgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>A run was interrupted after %1 of %2 pictures. Its results go to %3.</source>
+        <translation>Ein Lauf wurde nach %1 von %2 Bildern unterbrochen. Seine Ergebnisse gehen nach %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The result of %1 cannot be written: %2.</source>
+        <translation>Das Ergebnis von %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be processed: %2.</source>
+        <translation>%1 kann nicht verarbeitet werden: %2.</translation>
+    </message>
+    <message>
+        <source>The name %1, for the result of %2, is taken.</source>
+        <translation>Der Name %1 für das Ergebnis von %2 ist vergeben.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written in this format: %2.</source>
+        <translation>%1 kann in diesem Format nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>S&amp;kip it</source>
+        <translation>Überspr&amp;ingen</translation>
+    </message>
+    <message>
+        <source>Stop t&amp;he run</source>
+        <translation>Lauf s&amp;toppen</translation>
+    </message>
+    <message>
+        <source>Over&amp;write</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
+    <message>
+        <source>Number t&amp;he new one</source>
+        <translation>Neue Dat&amp;ei nummerieren</translation>
+    </message>
+    <message>
+        <source>Wr&amp;ite the nearest format</source>
+        <translation>Ähnlichstes Format v&amp;erwenden</translation>
+    </message>
+    <message>
+        <source>%1, switched off</source>
+        <translation>%1, ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Switch on %1</source>
+        <translation>„%1“ einschalten</translation>
+    </message>
+    <message>
+        <source>Switch off %1</source>
+        <translation>„%1“ ausschalten</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>Remove %1 effects</source>
+        <translation>%1 Effekte entfernen</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>„%1“ hinzufügen</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>„%1“ duplizieren</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>„%1“ verschieben</translation>
+    </message>
+    <message>
+        <source>Effects in the order in which they are applied</source>
+        <translation>Effekte in der Reihenfolge ihrer Anwendung</translation>
+    </message>
+    <message>
+        <source>Effec&amp;ts</source>
+        <translation>Effe&amp;kte</translation>
+    </message>
+    <message>
+        <source>Add an effect</source>
+        <translation>Effekt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Duplicate the effect</source>
+        <translation>Effekt duplizieren</translation>
+    </message>
+    <message>
+        <source>Remove the effect</source>
+        <translation>Effekt entfernen</translation>
+    </message>
+    <message>
+        <source>Apply the effect earlier</source>
+        <translation>Effekt früher anwenden</translation>
+    </message>
+    <message>
+        <source>Apply the effect later</source>
+        <translation>Effekt später anwenden</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>No effects</source>
+        <translation>Keine Effekte</translation>
+    </message>
+    <message>
+        <source>All effects are switched off</source>
+        <translation>Alle Effekte sind ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Choose a colour for %1</source>
+        <translation>Farbe wählen: %1</translation>
+    </message>
+    <message>
+        <source>Point %1 of %2: %3 becomes %4</source>
+        <translation>Punkt %1 von %2: %3 wird zu %4</translation>
+    </message>
+    <message>
+        <source>Click to add a point and drag to move it; a double click removes it. With keys: Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete removes it.</source>
+        <translation>Klicken fügt einen Punkt hinzu, Ziehen verschiebt ihn, ein Doppelklick entfernt ihn. Mit Tasten: Bild auf und Bild ab wählen einen Punkt, die Pfeiltasten verschieben ihn, Einfg fügt einen hinzu, Entf entfernt ihn.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation>%1 wählen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no complete path; it must begin at the root, such as %2.</source>
+        <translation>„%1“ ist kein vollständiger Pfad; er muss bei der Wurzel beginnen, etwa %2.</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>%1 festlegen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Automatic levels</source>
+        <translation>Automatische Tonwerte</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>Bittiefe</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Weichzeichnen</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Brightness and contrast</source>
+        <translation>Helligkeit und Kontrast</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Chroma subsampling</source>
+        <translation>Farbunterabtastung</translation>
+    </message>
+    <message>
+        <source>Clarity</source>
+        <translation>Klarheit</translation>
+    </message>
+    <message>
+        <source>Clipped share</source>
+        <translation>Beschnittener Anteil</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Komprimierung</translation>
+    </message>
+    <message>
+        <source>Compression level</source>
+        <translation>Komprimierungsstufe</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Urheber und Rechte</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Gradationskurve</translation>
+    </message>
+    <message>
+        <source>Deflate</source>
+        <translation>Deflate</translation>
+    </message>
+    <message>
+        <source>Denoise</source>
+        <translation>Entrauschen</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Each on its own</source>
+        <translation>Jeder für sich</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>Aufwand</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>Belichtung</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Interpolation</source>
+        <translation>Interpolation</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Kept metadata</source>
+        <translation>Behaltene Metadaten</translation>
+    </message>
+    <message>
+        <source>Keep the time of the file</source>
+        <translation>Zeit der Datei behalten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Tonwerte</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>Luma</translation>
+    </message>
+    <message>
+        <source>Luminance</source>
+        <translation>Luminanz</translation>
+    </message>
+    <message>
+        <source>Colour table</source>
+        <translation>Farbtabelle</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Abstand vom Rand</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Verfahren</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Posterize</source>
+        <translation>Tontrennung</translation>
+    </message>
+    <message>
+        <source>Progressive</source>
+        <translation>Progressiv</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Radius (sigma)</source>
+        <translation>Radius (Sigma)</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Weichheit</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Beginnt bei</translation>
+    </message>
+    <message>
+        <source>Stops</source>
+        <translation>Blendenstufen</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Farbtemperatur</translation>
+    </message>
+    <message>
+        <source>Tetrahedral</source>
+        <translation>Tetraedrisch</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Tönung</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>Gemeinsam</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Trilinear</source>
+        <translation>Trilinear</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Vibrance</source>
+        <translation>Lebendigkeit</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignette</translation>
+    </message>
+    <message>
+        <source>Watermark with a picture</source>
+        <translation>Wasserzeichen mit Bild</translation>
+    </message>
+    <message>
+        <source>Watermark with a text</source>
+        <translation>Wasserzeichen mit Text</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>Zstandard</source>
+        <translation>Zstandard</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Zuschnitt</translation>
+    </message>
+    <message>
+        <source>Kind of crop</source>
+        <translation>Art des Zuschnitts</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2</source>
+        <translation>Verhältnis %1 : %2</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2, turned with the picture</source>
+        <translation>Verhältnis %1 : %2, mit dem Bild gedreht</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2</source>
+        <translation>Auffälligster Ausschnitt, Verhältnis %1 : %2</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2, turned with the picture</source>
+        <translation>Auffälligster Ausschnitt, Verhältnis %1 : %2, mit dem Bild gedreht</translation>
+    </message>
+    <message>
+        <source>Scaled and cut to %1 x %2 px</source>
+        <translation>Skaliert und zugeschnitten auf %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Cut to %1 x %2 px</source>
+        <translation>Zugeschnitten auf %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Borders of one colour are cut off</source>
+        <translation>Einfarbige Ränder werden abgeschnitten</translation>
+    </message>
+    <message>
+        <source>No crop</source>
+        <translation>Kein Zuschnitt</translation>
+    </message>
+    <message>
+        <source>Error&amp;s</source>
+        <translation>Feh&amp;ler</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be read</source>
+        <translation>Ein Bild, das nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>A result that cannot be written</source>
+        <translation>Ein Ergebnis, das nicht geschrieben werden kann</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be processed</source>
+        <translation>Ein Bild, das nicht verarbeitet werden kann</translation>
+    </message>
+    <message>
+        <source>A name that is taken</source>
+        <translation>Ein Name, der vergeben ist</translation>
+    </message>
+    <message>
+        <source>A format that cannot hold the picture</source>
+        <translation>Ein Format, das das Bild nicht aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>You are asked</source>
+        <translation>Nachfrage in jedem Fall</translation>
+    </message>
+    <message>
+        <source>Decided in advance</source>
+        <translation>Im Voraus entschieden</translation>
+    </message>
+    <message>
+        <source>You are asked in %1 of %2 cases</source>
+        <translation>Nachfrage in %1 von %2 Fällen</translation>
+    </message>
+    <message>
+        <source>O&amp;utput folder</source>
+        <translation>Ausgabe&amp;ordner</translation>
+    </message>
+    <message>
+        <source>Folder for the results</source>
+        <translation>Ordner für die Ergebnisse</translation>
+    </message>
+    <message>
+        <source>The format of each input</source>
+        <translation>Format wie Eingabe</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>%1, quality %2</source>
+        <translation>%1, Qualität %2</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation>&amp;Format</translation>
+    </message>
+    <message>
+        <source>Lay pictures on a frame</source>
+        <translation>Bilder auf einen Rahmen legen</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Abstand links</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Abstand oben</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Abstand rechts</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Abstand unten</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Mischmodus</translation>
+    </message>
+    <message>
+        <source>Opacity of the picture</source>
+        <translation>Deckkraft des Bildes</translation>
+    </message>
+    <message>
+        <source>A frame of its own size</source>
+        <translation>Rahmen mit eigener Größe</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Breite des Rahmens</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Höhe des Rahmens</translation>
+    </message>
+    <message>
+        <source>Colour of the background</source>
+        <translation>Farbe des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Scale of the pattern</source>
+        <translation>Maßstab des Musters</translation>
+    </message>
+    <message>
+        <source>Picture of the background</source>
+        <translation>Hintergrundbild</translation>
+    </message>
+    <message>
+        <source>Opacity of the background</source>
+        <translation>Deckkraft des Hintergrunds</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Kind of shadow</source>
+        <translation>Art des Schattens</translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation>Farbe des Schattens</translation>
+    </message>
+    <message>
+        <source>Opacity of the shadow</source>
+        <translation>Deckkraft des Schattens</translation>
+    </message>
+    <message>
+        <source>Direction of the light</source>
+        <translation>Richtung des Lichts</translation>
+    </message>
+    <message>
+        <source>Distance of the shadow</source>
+        <translation>Abstand des Schattens</translation>
+    </message>
+    <message>
+        <source>Softness of the shadow</source>
+        <translation>Weichheit des Schattens</translation>
+    </message>
+    <message>
+        <source>Fr&amp;ame</source>
+        <translation>&amp;Rahmen</translation>
+    </message>
+    <message>
+        <source>No frame</source>
+        <translation>Kein Rahmen</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px with a shadow</source>
+        <translation>Rahmen von %1 x %2 px mit Schatten</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px</source>
+        <translation>Rahmen von %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px with a shadow</source>
+        <translation>Abstände %1, %2, %3, %4 px mit Schatten</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px</source>
+        <translation>Abstände %1, %2, %3, %4 px</translation>
+    </message>
+    <message>
+        <source>&amp;Metadata</source>
+        <translation>&amp;Metadaten</translation>
+    </message>
+    <message>
+        <source>All metadata is kept</source>
+        <translation>Alle Metadaten bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>No metadata is kept</source>
+        <translation>Keine Metadaten bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>Kept are %1</source>
+        <translation>Erhalten bleiben: %1</translation>
+    </message>
+    <message>
+        <source>First part</source>
+        <translation>Erster Teil</translation>
+    </message>
+    <message>
+        <source>Text of the first part</source>
+        <translation>Text des ersten Teils</translation>
+    </message>
+    <message>
+        <source>First number of the first part</source>
+        <translation>Erste Nummer des ersten Teils</translation>
+    </message>
+    <message>
+        <source>Digits of the first part</source>
+        <translation>Stellenzahl des ersten Teils</translation>
+    </message>
+    <message>
+        <source>Between the first and the middle part</source>
+        <translation>Zwischen erstem und mittlerem Teil</translation>
+    </message>
+    <message>
+        <source>Middle part</source>
+        <translation>Mittlerer Teil</translation>
+    </message>
+    <message>
+        <source>Text of the middle part</source>
+        <translation>Text des mittleren Teils</translation>
+    </message>
+    <message>
+        <source>First number of the middle part</source>
+        <translation>Erste Nummer des mittleren Teils</translation>
+    </message>
+    <message>
+        <source>Digits of the middle part</source>
+        <translation>Stellenzahl des mittleren Teils</translation>
+    </message>
+    <message>
+        <source>Between the middle and the last part</source>
+        <translation>Zwischen mittlerem und letztem Teil</translation>
+    </message>
+    <message>
+        <source>Last part</source>
+        <translation>Letzter Teil</translation>
+    </message>
+    <message>
+        <source>Text of the last part</source>
+        <translation>Text des letzten Teils</translation>
+    </message>
+    <message>
+        <source>First number of the last part</source>
+        <translation>Erste Nummer des letzten Teils</translation>
+    </message>
+    <message>
+        <source>Digits of the last part</source>
+        <translation>Stellenzahl des letzten Teils</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>&amp;Namen</translation>
+    </message>
+    <message>
+        <source>Example, as if it had been taken on 2024-07-31 at 14:05:09: %1</source>
+        <translation>Beispiel, als wäre es am 2024-07-31 um 14:05:09 aufgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>Beispiel: %1</translation>
+    </message>
+    <message>
+        <source>As the format has it</source>
+        <translation>Standard des Formats</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Co&amp;lour profile</source>
+        <translation>Farb&amp;profil</translation>
+    </message>
+    <message>
+        <source>Choose the file of a colour profile</source>
+        <translation>Datei eines Farbprofils wählen</translation>
+    </message>
+    <message>
+        <source>Remove the colour profile</source>
+        <translation>Farbprofil entfernen</translation>
+    </message>
+    <message>
+        <source>A profile of %1 bytes without a name</source>
+        <translation>Profil ohne Namen mit %1 Bytes</translation>
+    </message>
+    <message>
+        <source>The profile of each input</source>
+        <translation>Profil wie Eingabe</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 in at %2 dpi</source>
+        <translation>%1 Zoll bei %2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 cm at %2 dpi</source>
+        <translation>%1 cm bei %2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 mm at %2 dpi</source>
+        <translation>%1 mm bei %2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Breite %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Höhe %1</translation>
+    </message>
+    <message>
+        <source>Short side %1</source>
+        <translation>Kurze Seite %1</translation>
+    </message>
+    <message>
+        <source>Long side %1</source>
+        <translation>Lange Seite %1</translation>
+    </message>
+    <message>
+        <source>Width %1, only smaller</source>
+        <translation>Breite %1, nur verkleinern</translation>
+    </message>
+    <message>
+        <source>Height %1, only smaller</source>
+        <translation>Höhe %1, nur verkleinern</translation>
+    </message>
+    <message>
+        <source>Short side %1, only smaller</source>
+        <translation>Kurze Seite %1, nur verkleinern</translation>
+    </message>
+    <message>
+        <source>Long side %1, only smaller</source>
+        <translation>Lange Seite %1, nur verkleinern</translation>
+    </message>
+    <message>
+        <source>Width %1, only larger</source>
+        <translation>Breite %1, nur vergrößern</translation>
+    </message>
+    <message>
+        <source>Height %1, only larger</source>
+        <translation>Höhe %1, nur vergrößern</translation>
+    </message>
+    <message>
+        <source>Short side %1, only larger</source>
+        <translation>Kurze Seite %1, nur vergrößern</translation>
+    </message>
+    <message>
+        <source>Long side %1, only larger</source>
+        <translation>Lange Seite %1, nur vergrößern</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>&amp;Größe</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>The size stays</source>
+        <translation>Größe bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Pictures that are added now are for the next run.</source>
+        <translation>Jetzt hinzugefügte Bilder gehören zum nächsten Lauf.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Results go to %1</source>
+        <translation>Ergebnisse gehen nach %1</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Preset</source>
+        <translation>&amp;Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Previous picture</source>
+        <translation>&amp;Vorheriges Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Next picture</source>
+        <translation>Nächstes B&amp;ild</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt pane</source>
+        <translation>Nächster Be&amp;reich</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>V&amp;orheriger Bereich</translation>
+    </message>
+    <message>
+        <source>%1[*] - Velkora Batch</source>
+        <translation>%1[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>%1 % - %2[*] - Velkora Batch</source>
+        <translation>%1 % - %2[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>La&amp;uf</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>St&amp;arten</translation>
+    </message>
+    <message>
+        <source>The run cannot be started: %1.</source>
+        <translation>Der Lauf kann nicht gestartet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabellen (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON files (*.json)</source>
+        <translation>JSON-Dateien (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>The report was saved as %1.</source>
+        <translation>Der Bericht wurde als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1.</source>
+        <translation>Der Bericht wurde nicht gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be forgotten: %1.</source>
+        <translation>Der Lauf kann nicht verworfen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: %1.</source>
+        <translation>Der Lauf kann nicht fortgesetzt werden: %1.</translation>
+    </message>
+    <message>
+        <source>All pictures are written</source>
+        <translation>Alle Bilder sind geschrieben</translation>
+    </message>
+    <message>
+        <source>The run is finished, some pictures are left out</source>
+        <translation>Der Lauf ist fertig, einige Bilder wurden ausgelassen</translation>
+    </message>
+    <message>
+        <source>The run is cancelled</source>
+        <translation>Der Lauf ist abgebrochen</translation>
+    </message>
+    <message>
+        <source>The run has stopped</source>
+        <translation>Der Lauf wurde angehalten</translation>
+    </message>
+    <message>
+        <source>Pictures are being written</source>
+        <translation>Bilder werden geschrieben</translation>
+    </message>
+    <message>
+        <source>A picture needs your decision</source>
+        <translation>Ein Bild erfordert eine Entscheidung</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Show failures</source>
+        <translation>Fehlgeschlagene anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -3193,6 +5029,274 @@
     <message>
         <source>range out of order in character class</source>
         <translation>Bereich in einer Zeichenklasse in falscher Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the input&apos;s name without its extension</source>
+        <translation>der Name der Eingabe ohne Endung</translation>
+    </message>
+    <message>
+        <source>a number that counts the job&apos;s files</source>
+        <translation>eine laufende Nummer der Dateien des Auftrags</translation>
+    </message>
+    <message>
+        <source>the capture date, YYYYMMDD</source>
+        <translation>das Aufnahmedatum, YYYYMMDD</translation>
+    </message>
+    <message>
+        <source>the capture time, HHMMSS</source>
+        <translation>die Aufnahmezeit, HHMMSS</translation>
+    </message>
+    <message>
+        <source>a text of your own</source>
+        <translation>ein eigener Text</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>everything in the output folder</source>
+        <translation>alles im Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>folders as in the input</source>
+        <translation>Ordner wie in der Eingabe</translation>
+    </message>
+    <message>
+        <source>a folder for each capture date, YYYY/YYYY-MM-DD</source>
+        <translation>ein Ordner je Aufnahmedatum, YYYY/YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>the size stays</source>
+        <translation>die Größe bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>enlarge or reduce</source>
+        <translation>vergrößern oder verkleinern</translation>
+    </message>
+    <message>
+        <source>only reduce</source>
+        <translation>nur verkleinern</translation>
+    </message>
+    <message>
+        <source>only enlarge</source>
+        <translation>nur vergrößern</translation>
+    </message>
+    <message>
+        <source>the width</source>
+        <translation>die Breite</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>die Höhe</translation>
+    </message>
+    <message>
+        <source>the long side</source>
+        <translation>die lange Seite</translation>
+    </message>
+    <message>
+        <source>the short side</source>
+        <translation>die kurze Seite</translation>
+    </message>
+    <message>
+        <source>percent of the picture</source>
+        <translation>Prozent des Bildes</translation>
+    </message>
+    <message>
+        <source>inches at the resolution</source>
+        <translation>Zoll bei der Auflösung</translation>
+    </message>
+    <message>
+        <source>centimetres at the resolution</source>
+        <translation>Zentimeter bei der Auflösung</translation>
+    </message>
+    <message>
+        <source>millimetres at the resolution</source>
+        <translation>Millimeter bei der Auflösung</translation>
+    </message>
+    <message>
+        <source>no crop</source>
+        <translation>kein Zuschnitt</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio width : height</source>
+        <translation>der größte Ausschnitt im Verhältnis Breite : Höhe</translation>
+    </message>
+    <message>
+        <source>cut off a border of one colour</source>
+        <translation>einfarbigen Rand abschneiden</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye</source>
+        <translation>der auffälligste Ausschnitt im Verhältnis</translation>
+    </message>
+    <message>
+        <source>scale to cover width x height, then cut</source>
+        <translation>auf Breite x Höhe füllend skalieren, dann schneiden</translation>
+    </message>
+    <message>
+        <source>width x height pixels</source>
+        <translation>Breite x Höhe Pixel</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio, turned with the picture</source>
+        <translation>der größte Ausschnitt im Verhältnis, mit dem Bild gedreht</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye, turned with the picture</source>
+        <translation>der auffälligste Ausschnitt im Verhältnis, mit dem Bild gedreht</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>in der Mitte</translation>
+    </message>
+    <message>
+        <source>at the top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>at the top left</source>
+        <translation>oben links</translation>
+    </message>
+    <message>
+        <source>at the top right</source>
+        <translation>oben rechts</translation>
+    </message>
+    <message>
+        <source>at the bottom left</source>
+        <translation>unten links</translation>
+    </message>
+    <message>
+        <source>at the bottom right</source>
+        <translation>unten rechts</translation>
+    </message>
+    <message>
+        <source>transparent where the format allows it, else white</source>
+        <translation>transparent, wo das Format es erlaubt, sonst weiß</translation>
+    </message>
+    <message>
+        <source>one colour</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>a built-in pattern</source>
+        <translation>ein eingebautes Muster</translation>
+    </message>
+    <message>
+        <source>an image file, scaled to cover</source>
+        <translation>eine Bilddatei, füllend skaliert</translation>
+    </message>
+    <message>
+        <source>the picture covers its background</source>
+        <translation>das Bild deckt den Hintergrund ab</translation>
+    </message>
+    <message>
+        <source>multiply</source>
+        <translation>Multiplizieren</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>Negativ multiplizieren</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>Ineinanderkopieren</translation>
+    </message>
+    <message>
+        <source>the darker of the two</source>
+        <translation>das Dunklere von beiden</translation>
+    </message>
+    <message>
+        <source>the lighter of the two</source>
+        <translation>das Hellere von beiden</translation>
+    </message>
+    <message>
+        <source>soft light</source>
+        <translation>Weiches Licht</translation>
+    </message>
+    <message>
+        <source>hard light</source>
+        <translation>Hartes Licht</translation>
+    </message>
+    <message>
+        <source>the difference of the two</source>
+        <translation>die Differenz von beiden</translation>
+    </message>
+    <message>
+        <source>a drop shadow</source>
+        <translation>ein Schlagschatten</translation>
+    </message>
+    <message>
+        <source>a glow around the picture, without offset</source>
+        <translation>ein Schein um das Bild, ohne Versatz</translation>
+    </message>
+    <message>
+        <source>skip the file</source>
+        <translation>die Datei überspringen</translation>
+    </message>
+    <message>
+        <source>stop the run</source>
+        <translation>den Lauf stoppen</translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>nachfragen</translation>
+    </message>
+    <message>
+        <source>overwrite what is there</source>
+        <translation>Vorhandenes überschreiben</translation>
+    </message>
+    <message>
+        <source>append &quot; (2)&quot;, &quot; (3)&quot; and so on to the name</source>
+        <translation>„ (2)“, „ (3)“ usw. an den Namen anhängen</translation>
+    </message>
+    <message>
+        <source>write the nearest format that can hold the picture</source>
+        <translation>das ähnlichste Format schreiben, das das Bild aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>reported only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file was skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the run was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 cannot say what the job holds</source>
+        <translation>die Option %1 kann nicht ausdrücken, was der Auftrag enthält</translation>
+    </message>
+    <message>
+        <source>%1 is a picture (%2) with another extension; it is added only if it is named.</source>
+        <translation>%1 ist ein Bild (%2) mit anderer Endung; es wird nur hinzugefügt, wenn die Datei selbst gewählt wird.</translation>
+    </message>
+    <message>
+        <source>no private folder can be made for previews: %1</source>
+        <translation>für Vorschauen kann kein privater Ordner angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>the picture that was made for the screen cannot be read</source>
+        <translation>das für den Bildschirm erstellte Bild kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The effect &quot;%1&quot; does not exist</source>
+        <translation>Den Effekt „%1“ gibt es nicht</translation>
     </message>
 </context>
 </TS>

@@ -371,6 +371,1842 @@
         <source>(%1 bytes in the job)</source>
         <translation>(%1 bytes en el trabajo)</translation>
     </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>1 picture.</source>
+        <translation>1 imagen.</translation>
+    </message>
+    <message>
+        <source>%1 pictures.</source>
+        <translation>%1 imágenes.</translation>
+    </message>
+    <message>
+        <source>1 picture, %1 new.</source>
+        <translation>1 imagen, %1 nueva.</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 new.</source>
+        <translation>%1 imágenes, %2 nuevas.</translation>
+    </message>
+    <message>
+        <source>1 name is taken.</source>
+        <translation>1 nombre está ocupado.</translation>
+    </message>
+    <message>
+        <source>%1 names are taken.</source>
+        <translation>%1 nombres están ocupados.</translation>
+    </message>
+    <message>
+        <source>1 file that exists will be replaced.</source>
+        <translation>Se reemplazará 1 archivo existente.</translation>
+    </message>
+    <message>
+        <source>%1 files that exist will be replaced.</source>
+        <translation>Se reemplazarán %1 archivos existentes.</translation>
+    </message>
+    <message>
+        <source>1 picture cannot be written.</source>
+        <translation>1 imagen no se puede escribir.</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be written.</source>
+        <translation>%1 imágenes no se pueden escribir.</translation>
+    </message>
+    <message>
+        <source>There is too little room: the results take %1, but only %2 are free.</source>
+        <translation>No hay espacio suficiente: los resultados ocupan %1, pero solo hay %2 libres.</translation>
+    </message>
+    <message>
+        <source>There may be too little room: the results take about %1 (± %2 %), but only %3 are free.</source>
+        <translation>Puede que no haya espacio suficiente: los resultados ocupan unos %1 (± %2 %), pero solo hay %3 libres.</translation>
+    </message>
+    <message>
+        <source>The results take %1.</source>
+        <translation>Los resultados ocupan %1.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %).</source>
+        <translation>Los resultados ocupan unos %1 (± %2 %).</translation>
+    </message>
+    <message>
+        <source>The results take %1; %2 are free.</source>
+        <translation>Los resultados ocupan %1; hay %2 libres.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %); %3 are free.</source>
+        <translation>Los resultados ocupan unos %1 (± %2 %); hay %3 libres.</translation>
+    </message>
+    <message>
+        <source>Add pictures to begin.</source>
+        <translation>Añada imágenes para empezar.</translation>
+    </message>
+    <message>
+        <source>What you edit cannot be kept in %1; save the job before the window ends.</source>
+        <translation>No se puede conservar en %1 lo que se edita; guarde el trabajo antes de cerrar la ventana.</translation>
+    </message>
+    <message>
+        <source>The command line that does the same is on the clipboard.</source>
+        <translation>La línea de comandos que hace lo mismo está en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>&amp;New job</source>
+        <translation>&amp;Nuevo trabajo</translation>
+    </message>
+    <message>
+        <source>Open &amp;job…</source>
+        <translation>Abrir &amp;trabajo…</translation>
+    </message>
+    <message>
+        <source>R&amp;ecent jobs</source>
+        <translation>Trabajos &amp;recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Save job</source>
+        <translation>&amp;Guardar trabajo</translation>
+    </message>
+    <message>
+        <source>Save job &amp;as…</source>
+        <translation>Guardar trabajo c&amp;omo…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as command</source>
+        <translation>Co&amp;piar como comando</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (no existe)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>&amp;Vaciar la lista</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset…</source>
+        <translation>&amp;Guardar como ajuste…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename preset…</source>
+        <translation>Cambiar &amp;nombre del ajuste…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete preset</source>
+        <translation>&amp;Eliminar ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Import preset…</source>
+        <translation>&amp;Importar ajuste…</translation>
+    </message>
+    <message>
+        <source>&amp;Export preset…</source>
+        <translation>E&amp;xportar ajuste…</translation>
+    </message>
+    <message>
+        <source>The job before this one was not saved.</source>
+        <translation>El trabajo anterior no se guardó.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Recuperarlo</translation>
+    </message>
+    <message>
+        <source>The window did not end as it should; this is what was edited last.</source>
+        <translation>La ventana no se cerró correctamente; esto es lo último que se editó.</translation>
+    </message>
+    <message>
+        <source>Import preset</source>
+        <translation>Importar ajuste</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Export preset</source>
+        <translation>Exportar ajuste</translation>
+    </message>
+    <message>
+        <source>The settings are saved in %1.</source>
+        <translation>La configuración se ha guardado en %1.</translation>
+    </message>
+    <message>
+        <source>The preset %1 is deleted; the settings stay as they are.</source>
+        <translation>El ajuste %1 se ha eliminado; la configuración no cambia.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Batch jobs (%1)</source>
+        <translation>Trabajos por lotes (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The job &quot;%1&quot; has changes that are not saved.</source>
+        <translation>El trabajo «%1» tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard changes</source>
+        <translation>&amp;Descartar cambios</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Nuevo trabajo</translation>
+    </message>
+    <message>
+        <source>Open job</source>
+        <translation>Abrir trabajo</translation>
+    </message>
+    <message>
+        <source>Save job</source>
+        <translation>Guardar trabajo</translation>
+    </message>
+    <message>
+        <source>%1 exists; choose it to replace it.</source>
+        <translation>%1 ya existe; elíjalo para reemplazarlo.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>Cerrar el aviso</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Sin ajuste</translation>
+    </message>
+    <message>
+        <source>This preset cannot be used as it is: %1</source>
+        <translation>Este ajuste no se puede usar tal como está: %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Ajuste %1</translation>
+    </message>
+    <message>
+        <source>The preset %1 cannot be used as it is: %2</source>
+        <translation>El ajuste %1 no se puede usar tal como está: %2</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nombre del ajuste</translation>
+    </message>
+    <message>
+        <source>Cancel the naming of the preset</source>
+        <translation>Cancelar la asignación de nombre al ajuste</translation>
+    </message>
+    <message>
+        <source>Save the settings as the preset</source>
+        <translation>Guardar la configuración como ajuste</translation>
+    </message>
+    <message>
+        <source>New name of the preset %1</source>
+        <translation>Nuevo nombre del ajuste %1</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Replace the preset %1</source>
+        <translation>Reemplazar el ajuste %1</translation>
+    </message>
+    <message>
+        <source>You have a preset of this name; it would be replaced.</source>
+        <translation>Ya hay un ajuste propio con este nombre; se reemplazaría.</translation>
+    </message>
+    <message>
+        <source>Processes pictures in batches, in a window.</source>
+        <translation>Procesa imágenes por lotes, en una ventana.</translation>
+    </message>
+    <message>
+        <source>Pictures and folders to add.</source>
+        <translation>Imágenes y carpetas que se añaden.</translation>
+    </message>
+    <message>
+        <source>Stop adding</source>
+        <translation>Dejar de añadir</translation>
+    </message>
+    <message>
+        <source>Adding pictures…</source>
+        <translation>Añadiendo imágenes…</translation>
+    </message>
+    <message>
+        <source>Problems of this kind: %1; point here to read them.</source>
+        <translation>Problemas de este tipo: %1; pase el puntero por aquí para leerlos.</translation>
+    </message>
+    <message>
+        <source>Add pictures</source>
+        <translation>Añadir imágenes</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Añadir archivos</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Imágenes (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <source>%1 does not exist any more</source>
+        <translation>%1 ya no existe</translation>
+    </message>
+    <message>
+        <source>Add &amp;files…</source>
+        <translation>Añadir &amp;archivos…</translation>
+    </message>
+    <message>
+        <source>Add f&amp;older…</source>
+        <translation>Añadir &amp;carpeta…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>S&amp;how in folder</source>
+        <translation>&amp;Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>▾ %1 (%2)</source>
+        <translation>▾ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>▸ %1 (%2)</source>
+        <translation>▸ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Grid of pictures</source>
+        <translation>Cuadrícula de imágenes</translation>
+    </message>
+    <message>
+        <source>List of pictures</source>
+        <translation>Lista de imágenes</translation>
+    </message>
+    <message>
+        <source>1 picture in 1 folder</source>
+        <translation>1 imagen en 1 carpeta</translation>
+    </message>
+    <message>
+        <source>%1 pictures in 1 folder</source>
+        <translation>%1 imágenes en 1 carpeta</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2 folders</source>
+        <translation>%1 imágenes en %2 carpetas</translation>
+    </message>
+    <message>
+        <source>Drop pictures and folders here, or add them with the buttons below.</source>
+        <translation>Arrastre aquí imágenes y carpetas, o añádalas con los botones de abajo.</translation>
+    </message>
+    <message>
+        <source>Show only pictures whose names contain</source>
+        <translation>Mostrar solo imágenes cuyo nombre contenga</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Show only pictures with the state</source>
+        <translation>Mostrar solo imágenes con el estado</translation>
+    </message>
+    <message>
+        <source>All pictures</source>
+        <translation>Todas las imágenes</translation>
+    </message>
+    <message>
+        <source>Name taken</source>
+        <translation>Nombre ocupado</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <source>Remove pictures</source>
+        <translation>Quitar imágenes</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures</source>
+        <translation>%1 de %2 imágenes</translation>
+    </message>
+    <message>
+        <source>Cannot be written</source>
+        <translation>No se puede escribir</translation>
+    </message>
+    <message>
+        <source>This file cannot be shown.</source>
+        <translation>No se puede mostrar este archivo.</translation>
+    </message>
+    <message>
+        <source>Folder %1, pictures: %2</source>
+        <translation>Carpeta %1, imágenes: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2</source>
+        <translation>%1, se escribe como %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2: %3</source>
+        <translation>%1, se escribe como %2: %3</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation>En proceso</translation>
+    </message>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Sizes before and after</source>
+        <translation>Tamaño antes y después</translation>
+    </message>
+    <message>
+        <source>State of the preview</source>
+        <translation>Estado de la vista previa</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Actualizando</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;justar</translation>
+    </message>
+    <message>
+        <source>Show all of the picture (1)</source>
+        <translation>Mostrar toda la imagen (1)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on one pixel of the screen (2)</source>
+        <translation>Un píxel del resultado en un píxel de la pantalla (2)</translation>
+    </message>
+    <message>
+        <source>&amp;200 %</source>
+        <translation>&amp;200 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on four pixels of the screen (3)</source>
+        <translation>Un píxel del resultado en cuatro píxeles de la pantalla (3)</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Línea</translation>
+    </message>
+    <message>
+        <source>Before and after with a line between them (4)</source>
+        <translation>Antes y después con una línea en medio (4)</translation>
+    </message>
+    <message>
+        <source>&amp;Side by side</source>
+        <translation>La&amp;do a lado</translation>
+    </message>
+    <message>
+        <source>Before and after side by side (5)</source>
+        <translation>Antes y después lado a lado (5)</translation>
+    </message>
+    <message>
+        <source>Preview &amp;anew</source>
+        <translation>Actualizar &amp;vista previa</translation>
+    </message>
+    <message>
+        <source>Make the preview anew from the file on the disk (F5)</source>
+        <translation>Rehacer la vista previa a partir del archivo en el disco (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>A&amp;ntes</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>Show the picture before as long as this is held (space bar on the picture)</source>
+        <translation>Mostrar la imagen de antes mientras se mantiene pulsado (barra espaciadora sobre la imagen)</translation>
+    </message>
+    <message>
+        <source>Choose a picture to see what becomes of it.</source>
+        <translation>Elija una imagen para ver en qué se convierte.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3</source>
+        <translation>%1 x %2 px, %3</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
+        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+    </message>
+    <message>
+        <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
+        <translation>Exacto: %1 de %2 bytes, como lo escribe una ejecución; hecho en %3 s</translation>
+    </message>
+    <message>
+        <source>The result is too large to be shown here.</source>
+        <translation>El resultado es demasiado grande para mostrarlo aquí.</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>antes</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>después</translation>
+    </message>
+    <message>
+        <source>Another program is running a batch on this computer: close it, and start this one anew.</source>
+        <translation>Otro programa está procesando un lote en este equipo: ciérrelo y vuelva a iniciar este.</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for the rest of the run</source>
+        <translation>&amp;Hacer lo mismo en el resto de la ejecución</translation>
+    </message>
+    <message>
+        <source>Question about a picture</source>
+        <translation>Pregunta sobre una imagen</translation>
+    </message>
+    <message>
+        <source>The file that exists</source>
+        <translation>El archivo existente</translation>
+    </message>
+    <message>
+        <source>The picture whose result would have its name</source>
+        <translation>La imagen cuyo resultado tendría ese nombre</translation>
+    </message>
+    <message>
+        <source>Interrupted run</source>
+        <translation>Ejecución interrumpida</translation>
+    </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>&amp;Continuar</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>O&amp;lvidar</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pausar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel the run</source>
+        <translation>&amp;Cancelar la ejecución</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me the run</source>
+        <translation>Reanudar &amp;la ejecución</translation>
+    </message>
+    <message>
+        <source>S&amp;how failed</source>
+        <translation>Mostrar las &amp;que fallaron</translation>
+    </message>
+    <message>
+        <source>Retr&amp;y failed</source>
+        <translation>Relan&amp;zar fallidas</translation>
+    </message>
+    <message>
+        <source>Open fo&amp;lder</source>
+        <translation>E&amp;xplorar carpeta</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve report</source>
+        <translation>&amp;Guardar informe</translation>
+    </message>
+    <message>
+        <source>Put &amp;away</source>
+        <translation>&amp;Hecho</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progreso de la ejecución</translation>
+    </message>
+    <message>
+        <source>The batch server has ended unexpectedly; a new one goes on.</source>
+        <translation>El servidor de lotes terminó inesperadamente; continúa uno nuevo.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: its journal cannot be read.</source>
+        <translation>No se puede reanudar la ejecución: su diario no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The failed pictures cannot be tried again: the journal of their run cannot be used.</source>
+        <translation>No se pueden volver a procesar las imágenes que fallaron: el diario de su ejecución no se puede usar.</translation>
+    </message>
+    <message>
+        <source>Go &amp;on</source>
+        <translation>&amp;Proseguir</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>%1 de %2 procesadas</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done, %3 left</source>
+        <translation>%1 de %2 procesadas, faltan %3</translation>
+    </message>
+    <message>
+        <source>Pausing: pictures in work are finished first</source>
+        <translation>Pausando: antes se terminan las imágenes en proceso</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2 done</source>
+        <translation>En pausa, %1 de %2 procesadas</translation>
+    </message>
+    <message>
+        <source>%1 written, %2 skipped, %3 failed</source>
+        <translation>%1 escritas, %2 omitidas, %3 con error</translation>
+    </message>
+    <message>
+        <source>Finished in %1: all %2 pictures were written.</source>
+        <translation>Terminado en %1: se escribieron las %2 imágenes.</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 skipped, %4 failed.</source>
+        <translation>Terminado en %1: %2 escritas, %3 omitidas, %4 con error.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: %1.</source>
+        <translation>No se escribió nada: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written: the program VelkoraBatchWorker is missing or cannot be started.</source>
+        <translation>No se puede escribir nada: el programa VelkoraBatchWorker falta o no se puede iniciar.</translation>
+    </message>
+    <message>
+        <source>The batch server was lost after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>El servidor de lotes se perdió tras %1 de %2 imágenes. La ejecución se puede reanudar.</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>Cancelado tras %1 de %2 imágenes. La ejecución se puede reanudar.</translation>
+    </message>
+    <message>
+        <source>A run was interrupted after %1 of %2 pictures. Its results go to %3.</source>
+        <translation>Se interrumpió una ejecución tras %1 de %2 imágenes. Sus resultados van a %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>The result of %1 cannot be written: %2.</source>
+        <translation>No se puede escribir el resultado de %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be processed: %2.</source>
+        <translation>No se puede procesar %1: %2.</translation>
+    </message>
+    <message>
+        <source>The name %1, for the result of %2, is taken.</source>
+        <translation>El nombre %1, para el resultado de %2, está ocupado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written in this format: %2.</source>
+        <translation>No se puede escribir %1 en este formato: %2.</translation>
+    </message>
+    <message>
+        <source>S&amp;kip it</source>
+        <translation>Omitir &amp;la imagen</translation>
+    </message>
+    <message>
+        <source>Stop t&amp;he run</source>
+        <translation>Finali&amp;zar la ejecución</translation>
+    </message>
+    <message>
+        <source>Over&amp;write</source>
+        <translation>Sobrescribir el e&amp;xistente</translation>
+    </message>
+    <message>
+        <source>Number t&amp;he new one</source>
+        <translation>A&amp;gregar un número al nuevo</translation>
+    </message>
+    <message>
+        <source>Wr&amp;ite the nearest format</source>
+        <translation>Usar el formato más pró&amp;ximo</translation>
+    </message>
+    <message>
+        <source>%1, switched off</source>
+        <translation>%1, desactivado</translation>
+    </message>
+    <message>
+        <source>Switch on %1</source>
+        <translation>Activar «%1»</translation>
+    </message>
+    <message>
+        <source>Switch off %1</source>
+        <translation>Desactivar «%1»</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Quitar «%1»</translation>
+    </message>
+    <message>
+        <source>Remove %1 effects</source>
+        <translation>Quitar %1 efectos</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Añadir «%1»</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>Duplicar «%1»</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Mover «%1»</translation>
+    </message>
+    <message>
+        <source>Effects in the order in which they are applied</source>
+        <translation>Efectos en el orden en que se aplican</translation>
+    </message>
+    <message>
+        <source>Effec&amp;ts</source>
+        <translation>E&amp;fectos</translation>
+    </message>
+    <message>
+        <source>Add an effect</source>
+        <translation>Añadir un efecto</translation>
+    </message>
+    <message>
+        <source>Duplicate the effect</source>
+        <translation>Duplicar el efecto</translation>
+    </message>
+    <message>
+        <source>Remove the effect</source>
+        <translation>Quitar el efecto</translation>
+    </message>
+    <message>
+        <source>Apply the effect earlier</source>
+        <translation>Aplicar antes el efecto</translation>
+    </message>
+    <message>
+        <source>Apply the effect later</source>
+        <translation>Aplicar después el efecto</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>No effects</source>
+        <translation>Sin efectos</translation>
+    </message>
+    <message>
+        <source>All effects are switched off</source>
+        <translation>Todos los efectos están desactivados</translation>
+    </message>
+    <message>
+        <source>Choose a colour for %1</source>
+        <translation>Elegir color: %1</translation>
+    </message>
+    <message>
+        <source>Point %1 of %2: %3 becomes %4</source>
+        <translation>Punto %1 de %2: %3 pasa a %4</translation>
+    </message>
+    <message>
+        <source>Click to add a point and drag to move it; a double click removes it. With keys: Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete removes it.</source>
+        <translation>Haga clic para añadir un punto y arrástrelo para moverlo; un doble clic lo quita. Con el teclado: Re Pág y Av Pág eligen un punto, las flechas lo mueven, Insertar añade uno, Suprimir lo quita.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation>Elegir: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no complete path; it must begin at the root, such as %2.</source>
+        <translation>«%1» no es una ruta completa; debe empezar en la raíz, como %2.</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Definir: %1</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Ángulo</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Automatic levels</source>
+        <translation>Niveles automáticos</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Promedio</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>Profundidad de bits</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Desenfocar</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Borde</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Brightness and contrast</source>
+        <translation>Brillo y contraste</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Chroma subsampling</source>
+        <translation>Submuestreo de color</translation>
+    </message>
+    <message>
+        <source>Clarity</source>
+        <translation>Claridad</translation>
+    </message>
+    <message>
+        <source>Clipped share</source>
+        <translation>Parte recortada</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Compresión</translation>
+    </message>
+    <message>
+        <source>Compression level</source>
+        <translation>Nivel de compresión</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Autor y derechos</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Deflate</source>
+        <translation>Deflate</translation>
+    </message>
+    <message>
+        <source>Denoise</source>
+        <translation>Reducir ruido</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Each on its own</source>
+        <translation>Cada uno por separado</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>Esfuerzo</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>Exposición</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Voltear</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Tipo de letra</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Escala de grises</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tono</translation>
+    </message>
+    <message>
+        <source>Interpolation</source>
+        <translation>Interpolación</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Invertir</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Kept metadata</source>
+        <translation>Metadatos que se conservan</translation>
+    </message>
+    <message>
+        <source>Keep the time of the file</source>
+        <translation>Conservar la fecha del archivo</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Niveles</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sin pérdida</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>Luma</translation>
+    </message>
+    <message>
+        <source>Luminance</source>
+        <translation>Luminancia</translation>
+    </message>
+    <message>
+        <source>Colour table</source>
+        <translation>Tabla de color</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margen</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Por ciento</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Píxeles</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Posterize</source>
+        <translation>Posterizar</translation>
+    </message>
+    <message>
+        <source>Progressive</source>
+        <translation>Progresivo</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Girar</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Enfocar</translation>
+    </message>
+    <message>
+        <source>Radius (sigma)</source>
+        <translation>Radio (sigma)</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Suavidad</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Empieza en</translation>
+    </message>
+    <message>
+        <source>Stops</source>
+        <translation>Pasos</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Intensidad</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Tetrahedral</source>
+        <translation>Tetraédrica</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Mosaico</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Matiz</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>Juntos</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Trilinear</source>
+        <translation>Trilineal</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Vibrance</source>
+        <translation>Vivacidad</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Viñeta</translation>
+    </message>
+    <message>
+        <source>Watermark with a picture</source>
+        <translation>Marca de agua con imagen</translation>
+    </message>
+    <message>
+        <source>Watermark with a text</source>
+        <translation>Marca de agua con texto</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Balance de blancos</translation>
+    </message>
+    <message>
+        <source>Zstandard</source>
+        <translation>Zstandard</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Recorte</translation>
+    </message>
+    <message>
+        <source>Kind of crop</source>
+        <translation>Tipo de recorte</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Alineación</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2</source>
+        <translation>Proporción %1 : %2</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2, turned with the picture</source>
+        <translation>Proporción %1 : %2, girada con la imagen</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2</source>
+        <translation>Lo que atrae la vista, proporción %1 : %2</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2, turned with the picture</source>
+        <translation>Lo que atrae la vista, proporción %1 : %2, girada con la imagen</translation>
+    </message>
+    <message>
+        <source>Scaled and cut to %1 x %2 px</source>
+        <translation>Escalado y recortado a %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Cut to %1 x %2 px</source>
+        <translation>Recortado a %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Borders of one colour are cut off</source>
+        <translation>Se cortan los bordes de un solo color</translation>
+    </message>
+    <message>
+        <source>No crop</source>
+        <translation>Sin recorte</translation>
+    </message>
+    <message>
+        <source>Error&amp;s</source>
+        <translation>Errore&amp;s</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be read</source>
+        <translation>Una imagen que no se puede leer</translation>
+    </message>
+    <message>
+        <source>A result that cannot be written</source>
+        <translation>Un resultado que no se puede escribir</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be processed</source>
+        <translation>Una imagen que no se puede procesar</translation>
+    </message>
+    <message>
+        <source>A name that is taken</source>
+        <translation>Un nombre ocupado</translation>
+    </message>
+    <message>
+        <source>A format that cannot hold the picture</source>
+        <translation>Un formato que no admite la imagen</translation>
+    </message>
+    <message>
+        <source>You are asked</source>
+        <translation>Se pregunta siempre</translation>
+    </message>
+    <message>
+        <source>Decided in advance</source>
+        <translation>Decidido de antemano</translation>
+    </message>
+    <message>
+        <source>You are asked in %1 of %2 cases</source>
+        <translation>Se pregunta en %1 de %2 casos</translation>
+    </message>
+    <message>
+        <source>O&amp;utput folder</source>
+        <translation>Carpe&amp;ta de salida</translation>
+    </message>
+    <message>
+        <source>Folder for the results</source>
+        <translation>Carpeta de los resultados</translation>
+    </message>
+    <message>
+        <source>The format of each input</source>
+        <translation>Mismo formato que la entrada</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>%1, quality %2</source>
+        <translation>%1, calidad %2</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation>F&amp;ormato</translation>
+    </message>
+    <message>
+        <source>Lay pictures on a frame</source>
+        <translation>Colocar las imágenes sobre un marco</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Margen izquierdo</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Margen superior</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Margen derecho</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Margen inferior</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Modo de fusión</translation>
+    </message>
+    <message>
+        <source>Opacity of the picture</source>
+        <translation>Opacidad de la imagen</translation>
+    </message>
+    <message>
+        <source>A frame of its own size</source>
+        <translation>Marco con tamaño propio</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Ancho del marco</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Alto del marco</translation>
+    </message>
+    <message>
+        <source>Colour of the background</source>
+        <translation>Color del fondo</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Scale of the pattern</source>
+        <translation>Escala del motivo</translation>
+    </message>
+    <message>
+        <source>Picture of the background</source>
+        <translation>Imagen de fondo</translation>
+    </message>
+    <message>
+        <source>Opacity of the background</source>
+        <translation>Opacidad del fondo</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Sombra</translation>
+    </message>
+    <message>
+        <source>Kind of shadow</source>
+        <translation>Tipo de sombra</translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation>Color de la sombra</translation>
+    </message>
+    <message>
+        <source>Opacity of the shadow</source>
+        <translation>Opacidad de la sombra</translation>
+    </message>
+    <message>
+        <source>Direction of the light</source>
+        <translation>Dirección de la luz</translation>
+    </message>
+    <message>
+        <source>Distance of the shadow</source>
+        <translation>Distancia de la sombra</translation>
+    </message>
+    <message>
+        <source>Softness of the shadow</source>
+        <translation>Suavidad de la sombra</translation>
+    </message>
+    <message>
+        <source>Fr&amp;ame</source>
+        <translation>&amp;Marco</translation>
+    </message>
+    <message>
+        <source>No frame</source>
+        <translation>Sin marco</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px with a shadow</source>
+        <translation>Marco de %1 x %2 px con sombra</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px</source>
+        <translation>Marco de %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px with a shadow</source>
+        <translation>Márgenes %1, %2, %3, %4 px con sombra</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px</source>
+        <translation>Márgenes %1, %2, %3, %4 px</translation>
+    </message>
+    <message>
+        <source>&amp;Metadata</source>
+        <translation>Meta&amp;datos</translation>
+    </message>
+    <message>
+        <source>All metadata is kept</source>
+        <translation>Se conservan todos los metadatos</translation>
+    </message>
+    <message>
+        <source>No metadata is kept</source>
+        <translation>No se conserva ningún metadato</translation>
+    </message>
+    <message>
+        <source>Kept are %1</source>
+        <translation>Se conservan: %1</translation>
+    </message>
+    <message>
+        <source>First part</source>
+        <translation>Primera parte</translation>
+    </message>
+    <message>
+        <source>Text of the first part</source>
+        <translation>Texto de la primera parte</translation>
+    </message>
+    <message>
+        <source>First number of the first part</source>
+        <translation>Primer número de la primera parte</translation>
+    </message>
+    <message>
+        <source>Digits of the first part</source>
+        <translation>Dígitos de la primera parte</translation>
+    </message>
+    <message>
+        <source>Between the first and the middle part</source>
+        <translation>Entre la primera parte y la central</translation>
+    </message>
+    <message>
+        <source>Middle part</source>
+        <translation>Parte central</translation>
+    </message>
+    <message>
+        <source>Text of the middle part</source>
+        <translation>Texto de la parte central</translation>
+    </message>
+    <message>
+        <source>First number of the middle part</source>
+        <translation>Primer número de la parte central</translation>
+    </message>
+    <message>
+        <source>Digits of the middle part</source>
+        <translation>Dígitos de la parte central</translation>
+    </message>
+    <message>
+        <source>Between the middle and the last part</source>
+        <translation>Entre la parte central y la última</translation>
+    </message>
+    <message>
+        <source>Last part</source>
+        <translation>Última parte</translation>
+    </message>
+    <message>
+        <source>Text of the last part</source>
+        <translation>Texto de la última parte</translation>
+    </message>
+    <message>
+        <source>First number of the last part</source>
+        <translation>Primer número de la última parte</translation>
+    </message>
+    <message>
+        <source>Digits of the last part</source>
+        <translation>Dígitos de la última parte</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>Nom&amp;bres</translation>
+    </message>
+    <message>
+        <source>Example, as if it had been taken on 2024-07-31 at 14:05:09: %1</source>
+        <translation>Ejemplo, como si se hubiera tomado el 2024-07-31 a las 14:05:09: %1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>Ejemplo: %1</translation>
+    </message>
+    <message>
+        <source>As the format has it</source>
+        <translation>Según el formato</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Co&amp;lour profile</source>
+        <translation>Perf&amp;il de color</translation>
+    </message>
+    <message>
+        <source>Choose the file of a colour profile</source>
+        <translation>Elegir el archivo de un perfil de color</translation>
+    </message>
+    <message>
+        <source>Remove the colour profile</source>
+        <translation>Quitar el perfil de color</translation>
+    </message>
+    <message>
+        <source>A profile of %1 bytes without a name</source>
+        <translation>Perfil sin nombre de %1 bytes</translation>
+    </message>
+    <message>
+        <source>The profile of each input</source>
+        <translation>Mismo perfil que la entrada</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Perfil de color</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 in at %2 dpi</source>
+        <translation>%1 pulgadas a %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 cm at %2 dpi</source>
+        <translation>%1 cm a %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 mm at %2 dpi</source>
+        <translation>%1 mm a %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Ancho %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Alto %1</translation>
+    </message>
+    <message>
+        <source>Short side %1</source>
+        <translation>Lado corto %1</translation>
+    </message>
+    <message>
+        <source>Long side %1</source>
+        <translation>Lado largo %1</translation>
+    </message>
+    <message>
+        <source>Width %1, only smaller</source>
+        <translation>Ancho %1, solo reducir</translation>
+    </message>
+    <message>
+        <source>Height %1, only smaller</source>
+        <translation>Alto %1, solo reducir</translation>
+    </message>
+    <message>
+        <source>Short side %1, only smaller</source>
+        <translation>Lado corto %1, solo reducir</translation>
+    </message>
+    <message>
+        <source>Long side %1, only smaller</source>
+        <translation>Lado largo %1, solo reducir</translation>
+    </message>
+    <message>
+        <source>Width %1, only larger</source>
+        <translation>Ancho %1, solo ampliar</translation>
+    </message>
+    <message>
+        <source>Height %1, only larger</source>
+        <translation>Alto %1, solo ampliar</translation>
+    </message>
+    <message>
+        <source>Short side %1, only larger</source>
+        <translation>Lado corto %1, solo ampliar</translation>
+    </message>
+    <message>
+        <source>Long side %1, only larger</source>
+        <translation>Lado largo %1, solo ampliar</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>Tama&amp;ño</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Escalado</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Lado</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>The size stays</source>
+        <translation>El tamaño no cambia</translation>
+    </message>
+    <message>
+        <source>Pictures that are added now are for the next run.</source>
+        <translation>Las imágenes que se añadan ahora son para la próxima ejecución.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Results go to %1</source>
+        <translation>Los resultados van a %1</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Preset</source>
+        <translation>Aj&amp;uste</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Previous picture</source>
+        <translation>Imagen &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next picture</source>
+        <translation>Imagen &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt pane</source>
+        <translation>Panel si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>&amp;Panel anterior</translation>
+    </message>
+    <message>
+        <source>%1[*] - Velkora Batch</source>
+        <translation>%1[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>%1 % - %2[*] - Velkora Batch</source>
+        <translation>%1 % - %2[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>E&amp;jecución</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>The run cannot be started: %1.</source>
+        <translation>No se puede iniciar la ejecución: %1.</translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <translation>Paneles</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tablas (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON files (*.json)</source>
+        <translation>Archivos JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Guardar el informe</translation>
+    </message>
+    <message>
+        <source>The report was saved as %1.</source>
+        <translation>El informe se guardó como %1.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1.</source>
+        <translation>El informe no se guardó: %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be forgotten: %1.</source>
+        <translation>No se puede olvidar la ejecución: %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: %1.</source>
+        <translation>No se puede reanudar la ejecución: %1.</translation>
+    </message>
+    <message>
+        <source>All pictures are written</source>
+        <translation>Todas las imágenes están escritas</translation>
+    </message>
+    <message>
+        <source>The run is finished, some pictures are left out</source>
+        <translation>La ejecución ha terminado; faltan algunas imágenes</translation>
+    </message>
+    <message>
+        <source>The run is cancelled</source>
+        <translation>La ejecución se ha cancelado</translation>
+    </message>
+    <message>
+        <source>The run has stopped</source>
+        <translation>La ejecución se ha detenido</translation>
+    </message>
+    <message>
+        <source>Pictures are being written</source>
+        <translation>Se están escribiendo imágenes</translation>
+    </message>
+    <message>
+        <source>A picture needs your decision</source>
+        <translation>Una imagen requiere una decisión</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Show failures</source>
+        <translation>Mostrar las que fallaron</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -1692,7 +3528,7 @@
     </message>
     <message>
         <source>no output folder</source>
-        <translation>no hay carpeta de salida</translation>
+        <translation>falta la carpeta de salida</translation>
     </message>
     <message>
         <source>no pictures</source>
@@ -3193,6 +5029,274 @@
     <message>
         <source>range out of order in character class</source>
         <translation>intervalo desordenado en una clase de caracteres</translation>
+    </message>
+    <message>
+        <source>the input&apos;s name without its extension</source>
+        <translation>el nombre de la entrada sin extensión</translation>
+    </message>
+    <message>
+        <source>a number that counts the job&apos;s files</source>
+        <translation>un número que cuenta los archivos del trabajo</translation>
+    </message>
+    <message>
+        <source>the capture date, YYYYMMDD</source>
+        <translation>la fecha de captura, YYYYMMDD</translation>
+    </message>
+    <message>
+        <source>the capture time, HHMMSS</source>
+        <translation>la hora de captura, HHMMSS</translation>
+    </message>
+    <message>
+        <source>a text of your own</source>
+        <translation>un texto propio</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>everything in the output folder</source>
+        <translation>todo en la carpeta de salida</translation>
+    </message>
+    <message>
+        <source>folders as in the input</source>
+        <translation>carpetas como en la entrada</translation>
+    </message>
+    <message>
+        <source>a folder for each capture date, YYYY/YYYY-MM-DD</source>
+        <translation>una carpeta por fecha de captura, YYYY/YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>the size stays</source>
+        <translation>el tamaño no cambia</translation>
+    </message>
+    <message>
+        <source>enlarge or reduce</source>
+        <translation>ampliar o reducir</translation>
+    </message>
+    <message>
+        <source>only reduce</source>
+        <translation>solo reducir</translation>
+    </message>
+    <message>
+        <source>only enlarge</source>
+        <translation>solo ampliar</translation>
+    </message>
+    <message>
+        <source>the width</source>
+        <translation>el ancho</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>el alto</translation>
+    </message>
+    <message>
+        <source>the long side</source>
+        <translation>el lado largo</translation>
+    </message>
+    <message>
+        <source>the short side</source>
+        <translation>el lado corto</translation>
+    </message>
+    <message>
+        <source>percent of the picture</source>
+        <translation>porcentaje de la imagen</translation>
+    </message>
+    <message>
+        <source>inches at the resolution</source>
+        <translation>pulgadas según la resolución</translation>
+    </message>
+    <message>
+        <source>centimetres at the resolution</source>
+        <translation>centímetros según la resolución</translation>
+    </message>
+    <message>
+        <source>millimetres at the resolution</source>
+        <translation>milímetros según la resolución</translation>
+    </message>
+    <message>
+        <source>no crop</source>
+        <translation>sin recorte</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio width : height</source>
+        <translation>el mayor encuadre de la proporción ancho : alto</translation>
+    </message>
+    <message>
+        <source>cut off a border of one colour</source>
+        <translation>cortar un borde de un solo color</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye</source>
+        <translation>el encuadre de la proporción que atrae la vista</translation>
+    </message>
+    <message>
+        <source>scale to cover width x height, then cut</source>
+        <translation>escalar hasta cubrir ancho x alto y luego cortar</translation>
+    </message>
+    <message>
+        <source>width x height pixels</source>
+        <translation>ancho x alto en píxeles</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio, turned with the picture</source>
+        <translation>el mayor encuadre de la proporción, girado con la imagen</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye, turned with the picture</source>
+        <translation>el encuadre de la proporción que atrae la vista, girado con la imagen</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>en el centro</translation>
+    </message>
+    <message>
+        <source>at the top</source>
+        <translation>arriba</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>abajo</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>a la izquierda</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>a la derecha</translation>
+    </message>
+    <message>
+        <source>at the top left</source>
+        <translation>arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>at the top right</source>
+        <translation>arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>at the bottom left</source>
+        <translation>abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>at the bottom right</source>
+        <translation>abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>transparent where the format allows it, else white</source>
+        <translation>transparente si el formato lo permite; si no, blanco</translation>
+    </message>
+    <message>
+        <source>one colour</source>
+        <translation>un color</translation>
+    </message>
+    <message>
+        <source>a built-in pattern</source>
+        <translation>un motivo integrado</translation>
+    </message>
+    <message>
+        <source>an image file, scaled to cover</source>
+        <translation>un archivo de imagen, escalado hasta cubrir</translation>
+    </message>
+    <message>
+        <source>the picture covers its background</source>
+        <translation>la imagen cubre el fondo</translation>
+    </message>
+    <message>
+        <source>multiply</source>
+        <translation>multiplicar</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>trama</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>superponer</translation>
+    </message>
+    <message>
+        <source>the darker of the two</source>
+        <translation>el más oscuro de los dos</translation>
+    </message>
+    <message>
+        <source>the lighter of the two</source>
+        <translation>el más claro de los dos</translation>
+    </message>
+    <message>
+        <source>soft light</source>
+        <translation>luz suave</translation>
+    </message>
+    <message>
+        <source>hard light</source>
+        <translation>luz fuerte</translation>
+    </message>
+    <message>
+        <source>the difference of the two</source>
+        <translation>la diferencia de los dos</translation>
+    </message>
+    <message>
+        <source>a drop shadow</source>
+        <translation>una sombra paralela</translation>
+    </message>
+    <message>
+        <source>a glow around the picture, without offset</source>
+        <translation>un resplandor alrededor de la imagen, sin desplazamiento</translation>
+    </message>
+    <message>
+        <source>skip the file</source>
+        <translation>omitir el archivo</translation>
+    </message>
+    <message>
+        <source>stop the run</source>
+        <translation>finalizar la ejecución</translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>preguntar</translation>
+    </message>
+    <message>
+        <source>overwrite what is there</source>
+        <translation>sobrescribir lo que haya</translation>
+    </message>
+    <message>
+        <source>append &quot; (2)&quot;, &quot; (3)&quot; and so on to the name</source>
+        <translation>añadir « (2)», « (3)», etc. al nombre</translation>
+    </message>
+    <message>
+        <source>write the nearest format that can hold the picture</source>
+        <translation>escribir el formato más próximo que admita la imagen</translation>
+    </message>
+    <message>
+        <source>reported only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file was skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the run was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 cannot say what the job holds</source>
+        <translation>la opción %1 no puede expresar lo que contiene el trabajo</translation>
+    </message>
+    <message>
+        <source>%1 is a picture (%2) with another extension; it is added only if it is named.</source>
+        <translation>%1 es una imagen (%2) con otra extensión; solo se añade si se elige el propio archivo.</translation>
+    </message>
+    <message>
+        <source>no private folder can be made for previews: %1</source>
+        <translation>no se puede crear una carpeta privada para las vistas previas: %1</translation>
+    </message>
+    <message>
+        <source>the picture that was made for the screen cannot be read</source>
+        <translation>no se puede leer la imagen creada para la pantalla</translation>
+    </message>
+    <message>
+        <source>The effect &quot;%1&quot; does not exist</source>
+        <translation>El efecto «%1» no existe</translation>
     </message>
 </context>
 </TS>

@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>No more input: this file and all that follow with questions are skipped.</source>
-        <translation>Plus d’entrée&#xa0;: ce fichier et les suivants qui posent une question sont ignorés.</translation>
+        <translation>Plus d’entrée : ce fichier et les suivants qui posent une question sont ignorés.</translation>
     </message>
     <message>
         <source>%1? (add &quot;all&quot; for all that follow)</source>
-        <translation>%1&#x202f;? (ajoutez «&#xa0;all&#xa0;» pour tous les suivants)</translation>
+        <translation>%1 ? (ajoutez « all » pour tous les suivants)</translation>
     </message>
     <message>
         <source>the server ended unexpectedly; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue&#x202f;; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue ; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1&#x202f;; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1 ; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1.</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Cancelling; interrupt again to end at once.</source>
-        <translation>Annulation en cours&#x202f;; interrompez à nouveau pour quitter immédiatement.</translation>
+        <translation>Annulation en cours ; interrompez à nouveau pour quitter immédiatement.</translation>
     </message>
     <message>
         <source>Cancelling</source>
@@ -69,11 +69,11 @@
     </message>
     <message>
         <source>1 file with another extension was left out, but begins like a picture; --verbose names them, --include takes them.</source>
-        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image&#x202f;; --verbose les nomme, --include les prend.</translation>
+        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image ; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>%1 files with other extensions were left out, but begin like pictures; --verbose names them, --include takes them.</source>
-        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images&#x202f;; --verbose les nomme, --include les prend.</translation>
+        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images ; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -85,23 +85,23 @@
     </message>
     <message>
         <source>%1 of them, written before the interruption, is missing now: %2</source>
-        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent&#xa0;: %2</translation>
+        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent : %2</translation>
     </message>
     <message>
         <source>%1 of them, written before the interruption, are missing now: %2</source>
-        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent&#xa0;: %2</translation>
+        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent : %2</translation>
     </message>
     <message>
         <source>1 warning:</source>
-        <translation>1 avertissement&#xa0;:</translation>
+        <translation>1 avertissement :</translation>
     </message>
     <message>
         <source>%1 warnings:</source>
-        <translation>%1 avertissements&#xa0;:</translation>
+        <translation>%1 avertissements :</translation>
     </message>
     <message>
         <source>and %1 more; use --report FILE for all</source>
-        <translation>et %1 autres&#x202f;; --report FILE les donne toutes</translation>
+        <translation>et %1 autres ; --report FILE les donne toutes</translation>
     </message>
     <message>
         <source>required</source>
@@ -125,47 +125,47 @@
     </message>
     <message>
         <source>%1 bits a channel; transparency: %2; CMYK: %3; longest side %4 pixels</source>
-        <translation>%1 bits par canal ; transparence : %2 ; CMJN : %3 ; côté le plus long : %4 pixels</translation>
+        <translation>%1 bits par canal&#x202f;; transparence&#xa0;: %2&#x202f;; CMJN&#xa0;: %3&#x202f;; côté le plus long&#xa0;: %4 pixels</translation>
     </message>
     <message>
         <source>Files that can be read: %1</source>
-        <translation>Fichiers lisibles : %1</translation>
+        <translation>Fichiers lisibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1: a job without pictures; give them to run or plan, after the job.</source>
-        <translation>%1 : un travail sans images ; elles se donnent à run ou plan, après le travail.</translation>
+        <translation>%1&#xa0;: un travail sans images&#x202f;; elles se donnent à run ou plan, après le travail.</translation>
     </message>
     <message>
         <source>%1: a job without pictures and output folder; give them to run or plan.</source>
-        <translation>%1 : un travail sans images ni dossier de sortie ; ils se donnent à run ou plan.</translation>
+        <translation>%1&#xa0;: un travail sans images ni dossier de sortie&#x202f;; ils se donnent à run ou plan.</translation>
     </message>
     <message>
         <source>%1: a job of 1 picture.</source>
-        <translation>%1 : un travail de 1 image.</translation>
+        <translation>%1&#xa0;: un travail de 1 image.</translation>
     </message>
     <message>
         <source>%1: a job of 1 picture, without an output folder; give --output to run or plan.</source>
-        <translation>%1 : un travail de 1 image, sans dossier de sortie ; --output se donne à run ou plan.</translation>
+        <translation>%1&#xa0;: un travail de 1 image, sans dossier de sortie&#x202f;; --output se donne à run ou plan.</translation>
     </message>
     <message>
         <source>%1: a job of %2 pictures.</source>
-        <translation>%1 : un travail de %2 images.</translation>
+        <translation>%1&#xa0;: un travail de %2 images.</translation>
     </message>
     <message>
         <source>%1: a job of %2 pictures, without an output folder; give --output to run or plan.</source>
-        <translation>%1 : un travail de %2 images, sans dossier de sortie ; --output se donne à run ou plan.</translation>
+        <translation>%1&#xa0;: un travail de %2 images, sans dossier de sortie&#x202f;; --output se donne à run ou plan.</translation>
     </message>
     <message>
         <source>Looking at pictures: %1 of %2</source>
-        <translation>Examen des images : %1 sur %2</translation>
+        <translation>Examen des images&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>%1 is left out: it begins like a %2 file, but its extension is not known.</source>
-        <translation>%1 est laissé de côté : il commence comme un fichier %2, mais son extension est inconnue.</translation>
+        <translation>%1 est laissé de côté&#xa0;: il commence comme un fichier %2, mais son extension est inconnue.</translation>
     </message>
     <message>
         <source>Folders read: %1, pictures found: %2, now in %3</source>
-        <translation>Dossiers lus : %1, images trouvées : %2, maintenant dans %3</translation>
+        <translation>Dossiers lus&#xa0;: %1, images trouvées&#xa0;: %2, maintenant dans %3</translation>
     </message>
     <message>
         <source>1 picture</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Inputs: %1</source>
-        <translation>Entrées : %1</translation>
+        <translation>Entrées&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>Planning %1 files</source>
@@ -193,15 +193,15 @@
     </message>
     <message>
         <source>sizes in pixels are not known: %1.</source>
-        <translation>les tailles en pixels sont inconnues : %1.</translation>
+        <translation>les tailles en pixels sont inconnues&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 file: %2 without trouble, %3 in brackets. Nothing was written.</source>
-        <translation>%1 fichier : %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
+        <translation>%1 fichier&#xa0;: %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>%1 files: %2 without trouble, %3 in brackets. Nothing was written.</source>
-        <translation>%1 fichiers : %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
+        <translation>%1 fichiers&#xa0;: %2 sans problème, %3 entre crochets. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>comes along</source>
@@ -213,31 +213,31 @@
     </message>
     <message>
         <source>the preset %1 in %2 cannot be used: %3</source>
-        <translation>le préréglage %1 dans %2 est inutilisable : %3</translation>
+        <translation>le préréglage %1 dans %2 est inutilisable&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1: the preset %2.</source>
-        <translation>%1 : le préréglage %2.</translation>
+        <translation>%1&#xa0;: le préréglage %2.</translation>
     </message>
     <message>
         <source>standard output cannot be written: %1.</source>
-        <translation>impossible d’écrire sur la sortie standard : %1.</translation>
+        <translation>impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1: name files, or folders with pictures that can be read</source>
-        <translation>%1 : indiquez des fichiers, ou des dossiers avec des images lisibles</translation>
+        <translation>%1&#xa0;: indiquez des fichiers, ou des dossiers avec des images lisibles</translation>
     </message>
     <message>
         <source>%1: use --output DIR</source>
-        <translation>%1 : utilisez --output DIR</translation>
+        <translation>%1&#xa0;: utilisez --output DIR</translation>
     </message>
     <message>
         <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
-        <translation>%1. Un seul travail enregistré est possible : en premier argument de run, plan et show, ou avec --from pour create</translation>
+        <translation>%1. Un seul travail enregistré est possible&#xa0;: en premier argument de run, plan et show, ou avec --from pour create</translation>
     </message>
     <message>
         <source>%1; use --force to replace it</source>
-        <translation>%1 ; utilisez --force pour le remplacer</translation>
+        <translation>%1&#x202f;; utilisez --force pour le remplacer</translation>
     </message>
     <message>
         <source>%1. Use --resume with --output alone to resume that run, or run this job without --resume</source>
@@ -245,43 +245,43 @@
     </message>
     <message>
         <source>%1; use --resume --run NAME with one of these names</source>
-        <translation>%1 ; utilisez --resume --run NAME avec un de ces noms</translation>
+        <translation>%1&#x202f;; utilisez --resume --run NAME avec un de ces noms</translation>
     </message>
     <message>
         <source>an earlier run of this job was interrupted; this run starts anew. Use --resume to continue an interrupted run.</source>
-        <translation>une exécution précédente de ce travail a été interrompue ; celle-ci recommence du début. --resume reprend une exécution interrompue.</translation>
+        <translation>une exécution précédente de ce travail a été interrompue&#x202f;; celle-ci recommence du début. --resume reprend une exécution interrompue.</translation>
     </message>
     <message>
         <source>1 other run was interrupted in %1; it can still be resumed: %2</source>
-        <translation>1 autre exécution a été interrompue dans %1 ; elle peut encore être reprise : %2</translation>
+        <translation>1 autre exécution a été interrompue dans %1&#x202f;; elle peut encore être reprise&#xa0;: %2</translation>
     </message>
     <message>
         <source>%3 other runs were interrupted in %1; they can still be resumed: %2</source>
-        <translation>%3 autres exécutions ont été interrompues dans %1 ; elles peuvent encore être reprises : %2</translation>
+        <translation>%3 autres exécutions ont été interrompues dans %1&#x202f;; elles peuvent encore être reprises&#xa0;: %2</translation>
     </message>
     <message>
         <source>should it be interrupted, the run cannot be resumed: %1.</source>
-        <translation>en cas d’interruption, l’exécution ne pourra pas être reprise : %1.</translation>
+        <translation>en cas d’interruption, l’exécution ne pourra pas être reprise&#xa0;: %1.</translation>
     </message>
     <message>
         <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
-        <translation>impossible de créer un dossier temporaire : %1. Donnez un autre dossier à TMPDIR.</translation>
+        <translation>impossible de créer un dossier temporaire&#xa0;: %1. Donnez un autre dossier à TMPDIR.</translation>
     </message>
     <message>
         <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
-        <translation>un autre serveur de traitement est actif, et ce système n’a qu’un tube pour lui ; réessayez quand cette exécution sera finie.</translation>
+        <translation>un autre serveur de traitement est actif, et ce système n’a qu’un tube pour lui&#x202f;; réessayez quand cette exécution sera finie.</translation>
     </message>
     <message>
         <source>To resume: %1</source>
-        <translation>Pour reprendre : %1</translation>
+        <translation>Pour reprendre&#xa0;: %1</translation>
     </message>
     <message>
         <source>without a terminal nobody could be asked: 1 picture was left out.</source>
-        <translation>sans terminal, il n’y avait personne à interroger : 1 image a été ignorée.</translation>
+        <translation>sans terminal, il n’y avait personne à interroger&#xa0;: 1 image a été ignorée.</translation>
     </message>
     <message>
         <source>without a terminal nobody could be asked: %1 pictures were left out.</source>
-        <translation>sans terminal, il n’y avait personne à interroger : %1 images ont été ignorées.</translation>
+        <translation>sans terminal, il n’y avait personne à interroger&#xa0;: %1 images ont été ignorées.</translation>
     </message>
     <message>
         <source>%1 decides such cases.</source>
@@ -301,15 +301,15 @@
     </message>
     <message>
         <source>1 result was renamed, because originals have their names; --in-place replaces originals.</source>
-        <translation>1 résultat a été renommé, car un original porte ce nom ; --in-place remplace les originaux.</translation>
+        <translation>1 résultat a été renommé, car un original porte ce nom&#x202f;; --in-place remplace les originaux.</translation>
     </message>
     <message>
         <source>%1 results were renamed, because originals have their names; --in-place replaces originals.</source>
-        <translation>%1 résultats ont été renommés, car des originaux portent ces noms ; --in-place remplace les originaux.</translation>
+        <translation>%1 résultats ont été renommés, car des originaux portent ces noms&#x202f;; --in-place remplace les originaux.</translation>
     </message>
     <message>
         <source>no worker can be started; VelkoraBatchWorker belongs beside %1.</source>
-        <translation>impossible de lancer un processus de traitement ; VelkoraBatchWorker doit être à côté de %1.</translation>
+        <translation>impossible de lancer un processus de traitement&#x202f;; VelkoraBatchWorker doit être à côté de %1.</translation>
     </message>
     <message>
         <source>No picture was processed. --structure input keeps the folders of the inputs, --on-name-exists rename numbers such names, and another --name, --prefix or --suffix tells them apart.</source>
@@ -317,15 +317,15 @@
     </message>
     <message>
         <source>the server ended before it had processed anything; see its messages above.</source>
-        <translation>le serveur s’est arrêté avant d’avoir traité quoi que ce soit ; voir ses messages ci-dessus.</translation>
+        <translation>le serveur s’est arrêté avant d’avoir traité quoi que ce soit&#x202f;; voir ses messages ci-dessus.</translation>
     </message>
     <message>
         <source>the server cannot be started; VelkoraBatchProcessing belongs beside %1.</source>
-        <translation>impossible de lancer le serveur ; VelkoraBatchProcessing doit être à côté de %1.</translation>
+        <translation>impossible de lancer le serveur&#x202f;; VelkoraBatchProcessing doit être à côté de %1.</translation>
     </message>
     <message>
         <source>Usage: %1</source>
-        <translation>Utilisation : %1</translation>
+        <translation>Utilisation&#xa0;: %1</translation>
     </message>
     <message>
         <source>Commands</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>More: velkora-batch --help, or velkora-batch help COMMAND</source>
-        <translation>En savoir plus : velkora-batch --help, ou velkora-batch help COMMAND</translation>
+        <translation>En savoir plus&#xa0;: velkora-batch --help, ou velkora-batch help COMMAND</translation>
     </message>
     <message>
         <source>velkora-batch %1.</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>prints this text; after a command, the help of that command</source>
-        <translation>affiche ce texte ; après une commande, l’aide de cette commande</translation>
+        <translation>affiche ce texte&#x202f;; après une commande, l’aide de cette commande</translation>
     </message>
     <message>
         <source>prints the version; with --verbose, also how this system confines the processes that read pictures</source>
-        <translation>affiche la version ; avec --verbose, aussi la façon dont ce système isole les processus qui lisent les images</translation>
+        <translation>affiche la version&#x202f;; avec --verbose, aussi la façon dont ce système isole les processus qui lisent les images</translation>
     </message>
     <message>
         <source>Examples</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>%1. Values: %2</source>
-        <translation>%1. Valeurs : %2</translation>
+        <translation>%1. Valeurs&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1. May be given several times</source>
@@ -370,6 +370,1842 @@
     <message>
         <source>(%1 bytes in the job)</source>
         <translation>(%1 octets dans le travail)</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 octet</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 ko</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 To</translation>
+    </message>
+    <message>
+        <source>1 picture.</source>
+        <translation>1 image.</translation>
+    </message>
+    <message>
+        <source>%1 pictures.</source>
+        <translation>%1 images.</translation>
+    </message>
+    <message>
+        <source>1 picture, %1 new.</source>
+        <translation>1 image, dont %1 nouvelle.</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 new.</source>
+        <translation>%1 images, dont %2 nouvelles.</translation>
+    </message>
+    <message>
+        <source>1 name is taken.</source>
+        <translation>1 nom est déjà pris.</translation>
+    </message>
+    <message>
+        <source>%1 names are taken.</source>
+        <translation>%1 noms sont déjà pris.</translation>
+    </message>
+    <message>
+        <source>1 file that exists will be replaced.</source>
+        <translation>1 fichier existant sera remplacé.</translation>
+    </message>
+    <message>
+        <source>%1 files that exist will be replaced.</source>
+        <translation>%1 fichiers existants seront remplacés.</translation>
+    </message>
+    <message>
+        <source>1 picture cannot be written.</source>
+        <translation>1 image ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be written.</source>
+        <translation>%1 images ne peuvent pas être écrites.</translation>
+    </message>
+    <message>
+        <source>There is too little room: the results take %1, but only %2 are free.</source>
+        <translation>L’espace manque : les résultats prennent %1, mais seuls %2 sont libres.</translation>
+    </message>
+    <message>
+        <source>There may be too little room: the results take about %1 (± %2 %), but only %3 are free.</source>
+        <translation>L’espace manque peut-être : les résultats prennent environ %1 (± %2 %), mais seuls %3 sont libres.</translation>
+    </message>
+    <message>
+        <source>The results take %1.</source>
+        <translation>Les résultats prennent %1.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %).</source>
+        <translation>Les résultats prennent environ %1 (± %2 %).</translation>
+    </message>
+    <message>
+        <source>The results take %1; %2 are free.</source>
+        <translation>Les résultats prennent %1 ; %2 sont libres.</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %); %3 are free.</source>
+        <translation>Les résultats prennent environ %1 (± %2 %) ; %3 sont libres.</translation>
+    </message>
+    <message>
+        <source>Add pictures to begin.</source>
+        <translation>Ajoutez des images pour commencer.</translation>
+    </message>
+    <message>
+        <source>What you edit cannot be kept in %1; save the job before the window ends.</source>
+        <translation>Impossible de conserver dans %1 ce qui est modifié ; enregistrez le travail avant de fermer la fenêtre.</translation>
+    </message>
+    <message>
+        <source>The command line that does the same is on the clipboard.</source>
+        <translation>La ligne de commande qui fait la même chose est dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>&amp;New job</source>
+        <translation>&amp;Nouveau travail</translation>
+    </message>
+    <message>
+        <source>Open &amp;job…</source>
+        <translation>&amp;Ouvrir un travail…</translation>
+    </message>
+    <message>
+        <source>R&amp;ecent jobs</source>
+        <translation>&amp;Travaux récents</translation>
+    </message>
+    <message>
+        <source>&amp;Save job</source>
+        <translation>&amp;Enregistrer le travail</translation>
+    </message>
+    <message>
+        <source>Save job &amp;as…</source>
+        <translation>Enregistrer le travail &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as command</source>
+        <translation>&amp;Copier comme commande</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (introuvable)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset…</source>
+        <translation>&amp;Enregistrer comme préréglage…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename preset…</source>
+        <translation>&amp;Renommer le préréglage…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete preset</source>
+        <translation>&amp;Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Import preset…</source>
+        <translation>&amp;Importer un préréglage…</translation>
+    </message>
+    <message>
+        <source>&amp;Export preset…</source>
+        <translation>E&amp;xporter le préréglage…</translation>
+    </message>
+    <message>
+        <source>The job before this one was not saved.</source>
+        <translation>Le travail précédent n’a pas été enregistré.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Le récupérer</translation>
+    </message>
+    <message>
+        <source>The window did not end as it should; this is what was edited last.</source>
+        <translation>La fenêtre ne s’est pas fermée normalement ; voici le dernier état du travail.</translation>
+    </message>
+    <message>
+        <source>Import preset</source>
+        <translation>Importer un préréglage</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Préréglage</translation>
+    </message>
+    <message>
+        <source>Export preset</source>
+        <translation>Exporter le préréglage</translation>
+    </message>
+    <message>
+        <source>The settings are saved in %1.</source>
+        <translation>Les réglages sont enregistrés dans %1.</translation>
+    </message>
+    <message>
+        <source>The preset %1 is deleted; the settings stay as they are.</source>
+        <translation>Le préréglage %1 est supprimé ; les réglages restent tels quels.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Batch jobs (%1)</source>
+        <translation>Travaux par lots (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The job &quot;%1&quot; has changes that are not saved.</source>
+        <translation>Le travail « %1 » contient des modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard changes</source>
+        <translation>Abandonner les &amp;modifications</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>Nouveau travail</translation>
+    </message>
+    <message>
+        <source>Open job</source>
+        <translation>Ouvrir un travail</translation>
+    </message>
+    <message>
+        <source>Save job</source>
+        <translation>Enregistrer le travail</translation>
+    </message>
+    <message>
+        <source>%1 exists; choose it to replace it.</source>
+        <translation>%1 existe déjà ; choisissez ce fichier pour le remplacer.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>Fermer le message</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Aucun préréglage</translation>
+    </message>
+    <message>
+        <source>This preset cannot be used as it is: %1</source>
+        <translation>Ce préréglage est inutilisable en l’état : %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Préréglage %1</translation>
+    </message>
+    <message>
+        <source>The preset %1 cannot be used as it is: %2</source>
+        <translation>Le préréglage %1 est inutilisable en l’état : %2</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nom du préréglage</translation>
+    </message>
+    <message>
+        <source>Cancel the naming of the preset</source>
+        <translation>Annuler le choix du nom du préréglage</translation>
+    </message>
+    <message>
+        <source>Save the settings as the preset</source>
+        <translation>Enregistrer les réglages comme préréglage</translation>
+    </message>
+    <message>
+        <source>New name of the preset %1</source>
+        <translation>Nouveau nom du préréglage %1</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Replace the preset %1</source>
+        <translation>Remplacer le préréglage %1</translation>
+    </message>
+    <message>
+        <source>You have a preset of this name; it would be replaced.</source>
+        <translation>Un préréglage personnel de ce nom existe déjà ; il serait remplacé.</translation>
+    </message>
+    <message>
+        <source>Processes pictures in batches, in a window.</source>
+        <translation>Traite des images par lots, dans une fenêtre.</translation>
+    </message>
+    <message>
+        <source>Pictures and folders to add.</source>
+        <translation>Images et dossiers à ajouter.</translation>
+    </message>
+    <message>
+        <source>Stop adding</source>
+        <translation>Arrêter l’ajout</translation>
+    </message>
+    <message>
+        <source>Adding pictures…</source>
+        <translation>Ajout des images…</translation>
+    </message>
+    <message>
+        <source>Problems of this kind: %1; point here to read them.</source>
+        <translation>Problèmes de ce genre : %1 ; survolez ce texte pour les lire.</translation>
+    </message>
+    <message>
+        <source>Add pictures</source>
+        <translation>Ajouter des images</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Ajouter des fichiers</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Images (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>%1 does not exist any more</source>
+        <translation>%1 n’existe plus</translation>
+    </message>
+    <message>
+        <source>Add &amp;files…</source>
+        <translation>Ajouter des &amp;fichiers…</translation>
+    </message>
+    <message>
+        <source>Add f&amp;older…</source>
+        <translation>Ajouter un &amp;dossier…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>S&amp;how in folder</source>
+        <translation>&amp;Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>▾ %1 (%2)</source>
+        <translation>▾ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>▸ %1 (%2)</source>
+        <translation>▸ %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Grid of pictures</source>
+        <translation>Grille des images</translation>
+    </message>
+    <message>
+        <source>List of pictures</source>
+        <translation>Liste des images</translation>
+    </message>
+    <message>
+        <source>1 picture in 1 folder</source>
+        <translation>1 image dans 1 dossier</translation>
+    </message>
+    <message>
+        <source>%1 pictures in 1 folder</source>
+        <translation>%1 images dans 1 dossier</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2 folders</source>
+        <translation>%1 images dans %2 dossiers</translation>
+    </message>
+    <message>
+        <source>Drop pictures and folders here, or add them with the buttons below.</source>
+        <translation>Déposez ici des images et des dossiers, ou ajoutez-les avec les boutons ci-dessous.</translation>
+    </message>
+    <message>
+        <source>Show only pictures whose names contain</source>
+        <translation>Afficher seulement les images dont le nom contient</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrer</translation>
+    </message>
+    <message>
+        <source>Show only pictures with the state</source>
+        <translation>Afficher seulement les images dans l’état</translation>
+    </message>
+    <message>
+        <source>All pictures</source>
+        <translation>Toutes les images</translation>
+    </message>
+    <message>
+        <source>Name taken</source>
+        <translation>Nom déjà pris</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Remove pictures</source>
+        <translation>Retirer des images</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures</source>
+        <translation>%1 images sur %2</translation>
+    </message>
+    <message>
+        <source>Cannot be written</source>
+        <translation>Impossible à écrire</translation>
+    </message>
+    <message>
+        <source>This file cannot be shown.</source>
+        <translation>Impossible d’afficher ce fichier.</translation>
+    </message>
+    <message>
+        <source>Folder %1, pictures: %2</source>
+        <translation>Dossier %1, images : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2</source>
+        <translation>%1, écrit sous le nom %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2: %3</source>
+        <translation>%1, écrit sous le nom %2 : %3</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <source>Line between before and after</source>
+        <translation>Ligne entre avant et après</translation>
+    </message>
+    <message>
+        <source>Sizes before and after</source>
+        <translation>Taille avant et après</translation>
+    </message>
+    <message>
+        <source>State of the preview</source>
+        <translation>État de l’aperçu</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;juster</translation>
+    </message>
+    <message>
+        <source>Show all of the picture (1)</source>
+        <translation>Afficher toute l’image (1)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on one pixel of the screen (2)</source>
+        <translation>Un pixel du résultat sur un pixel de l’écran (2)</translation>
+    </message>
+    <message>
+        <source>&amp;200 %</source>
+        <translation>&amp;200 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on four pixels of the screen (3)</source>
+        <translation>Un pixel du résultat sur quatre pixels de l’écran (3)</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>Before and after with a line between them (4)</source>
+        <translation>Avant et après avec une ligne entre les deux (4)</translation>
+    </message>
+    <message>
+        <source>&amp;Side by side</source>
+        <translation>&amp;Côte à côte</translation>
+    </message>
+    <message>
+        <source>Before and after side by side (5)</source>
+        <translation>Avant et après côte à côte (5)</translation>
+    </message>
+    <message>
+        <source>Preview &amp;anew</source>
+        <translation>&amp;Actualiser l’aperçu</translation>
+    </message>
+    <message>
+        <source>Make the preview anew from the file on the disk (F5)</source>
+        <translation>Refaire l’aperçu à partir du fichier sur le disque (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>A&amp;vant</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>Show the picture before as long as this is held (space bar on the picture)</source>
+        <translation>Afficher l’image avant traitement tant que ce bouton est maintenu (barre d’espace sur l’image)</translation>
+    </message>
+    <message>
+        <source>Choose a picture to see what becomes of it.</source>
+        <translation>Choisissez une image pour voir ce qu’elle devient.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3</source>
+        <translation>%1 x %2 px, %3</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
+        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+    </message>
+    <message>
+        <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
+        <translation>Exact : %1 de %2 octets, tel qu’une exécution l’écrit ; fait en %3 s</translation>
+    </message>
+    <message>
+        <source>The result is too large to be shown here.</source>
+        <translation>Le résultat est trop grand pour être affiché ici.</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>avant</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>après</translation>
+    </message>
+    <message>
+        <source>Another program is running a batch on this computer: close it, and start this one anew.</source>
+        <translation>Un autre programme traite déjà un lot sur cet ordinateur : fermez-le, puis relancez celui-ci.</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for the rest of the run</source>
+        <translation>Appli&amp;quer aussi au reste de l’exécution</translation>
+    </message>
+    <message>
+        <source>Question about a picture</source>
+        <translation>Question au sujet d’une image</translation>
+    </message>
+    <message>
+        <source>The file that exists</source>
+        <translation>Le fichier existant</translation>
+    </message>
+    <message>
+        <source>The picture whose result would have its name</source>
+        <translation>L’image dont le résultat porterait ce nom</translation>
+    </message>
+    <message>
+        <source>Interrupted run</source>
+        <translation>Exécution interrompue</translation>
+    </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>Re&amp;prendre</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>Ou&amp;blier</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel the run</source>
+        <translation>A&amp;bandonner l’exécution</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me the run</source>
+        <translation>&amp;Reprendre l’exécution</translation>
+    </message>
+    <message>
+        <source>S&amp;how failed</source>
+        <translation>Affic&amp;her les échecs</translation>
+    </message>
+    <message>
+        <source>Retr&amp;y failed</source>
+        <translation>Réessa&amp;yer les échecs</translation>
+    </message>
+    <message>
+        <source>Open fo&amp;lder</source>
+        <translation>Ouvr&amp;ir le dossier</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve report</source>
+        <translation>Enre&amp;gistrer le rapport</translation>
+    </message>
+    <message>
+        <source>Put &amp;away</source>
+        <translation>Mas&amp;quer</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progression de l’exécution</translation>
+    </message>
+    <message>
+        <source>The batch server has ended unexpectedly; a new one goes on.</source>
+        <translation>Le serveur de traitement s’est arrêté de façon inattendue ; un nouveau prend le relais.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: its journal cannot be read.</source>
+        <translation>Impossible de reprendre l’exécution : son journal est illisible.</translation>
+    </message>
+    <message>
+        <source>The failed pictures cannot be tried again: the journal of their run cannot be used.</source>
+        <translation>Impossible de réessayer les images en échec : le journal de leur exécution est inutilisable.</translation>
+    </message>
+    <message>
+        <source>Go &amp;on</source>
+        <translation>&amp;Poursuivre</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>%1 sur %2 traitées</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done, %3 left</source>
+        <translation>%1 sur %2 traitées, reste %3</translation>
+    </message>
+    <message>
+        <source>Pausing: pictures in work are finished first</source>
+        <translation>Mise en pause : les images en cours sont d’abord terminées</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2 done</source>
+        <translation>En pause, %1 sur %2 traitées</translation>
+    </message>
+    <message>
+        <source>%1 written, %2 skipped, %3 failed</source>
+        <translation>%1 écrites, %2 ignorées, %3 en échec</translation>
+    </message>
+    <message>
+        <source>Finished in %1: all %2 pictures were written.</source>
+        <translation>Terminé en %1 : les %2 images ont toutes été écrites.</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 skipped, %4 failed.</source>
+        <translation>Terminé en %1 : %2 écrites, %3 ignorées, %4 en échec.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: %1.</source>
+        <translation>Rien n’a été écrit : %1.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written: the program VelkoraBatchWorker is missing or cannot be started.</source>
+        <translation>Impossible d’écrire : le programme VelkoraBatchWorker manque ou ne peut pas être lancé.</translation>
+    </message>
+    <message>
+        <source>The batch server was lost after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>Le serveur de traitement a été perdu après %1 images sur %2. L’exécution peut être reprise.</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>Annulé après %1 images sur %2. L’exécution peut être reprise.</translation>
+    </message>
+    <message>
+        <source>A run was interrupted after %1 of %2 pictures. Its results go to %3.</source>
+        <translation>Une exécution a été interrompue après %1 images sur %2. Ses résultats vont dans %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossible de lire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The result of %1 cannot be written: %2.</source>
+        <translation>Impossible d’écrire le résultat de %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be processed: %2.</source>
+        <translation>Impossible de traiter %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The name %1, for the result of %2, is taken.</source>
+        <translation>Le nom %1, pour le résultat de %2, est déjà pris.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written in this format: %2.</source>
+        <translation>Impossible d’écrire %1 dans ce format : %2.</translation>
+    </message>
+    <message>
+        <source>S&amp;kip it</source>
+        <translation>I&amp;gnorer l’image</translation>
+    </message>
+    <message>
+        <source>Stop t&amp;he run</source>
+        <translation>Arrêter l’exécut&amp;ion</translation>
+    </message>
+    <message>
+        <source>Over&amp;write</source>
+        <translation>Remplacer le fic&amp;hier</translation>
+    </message>
+    <message>
+        <source>Number t&amp;he new one</source>
+        <translation>A&amp;jouter un numéro au nouveau</translation>
+    </message>
+    <message>
+        <source>Wr&amp;ite the nearest format</source>
+        <translation>Utiliser le format le plus proc&amp;he</translation>
+    </message>
+    <message>
+        <source>%1, switched off</source>
+        <translation>%1, désactivé</translation>
+    </message>
+    <message>
+        <source>Switch on %1</source>
+        <translation>Activer « %1 »</translation>
+    </message>
+    <message>
+        <source>Switch off %1</source>
+        <translation>Désactiver « %1 »</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>Retirer « %1 »</translation>
+    </message>
+    <message>
+        <source>Remove %1 effects</source>
+        <translation>Retirer %1 effets</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Ajouter « %1 »</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>Dupliquer « %1 »</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>Déplacer « %1 »</translation>
+    </message>
+    <message>
+        <source>Effects in the order in which they are applied</source>
+        <translation>Effets dans l’ordre où ils sont appliqués</translation>
+    </message>
+    <message>
+        <source>Effec&amp;ts</source>
+        <translation>&amp;Effets</translation>
+    </message>
+    <message>
+        <source>Add an effect</source>
+        <translation>Ajouter un effet</translation>
+    </message>
+    <message>
+        <source>Duplicate the effect</source>
+        <translation>Dupliquer l’effet</translation>
+    </message>
+    <message>
+        <source>Remove the effect</source>
+        <translation>Retirer l’effet</translation>
+    </message>
+    <message>
+        <source>Apply the effect earlier</source>
+        <translation>Appliquer l’effet plus tôt</translation>
+    </message>
+    <message>
+        <source>Apply the effect later</source>
+        <translation>Appliquer l’effet plus tard</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>No effects</source>
+        <translation>Aucun effet</translation>
+    </message>
+    <message>
+        <source>All effects are switched off</source>
+        <translation>Tous les effets sont désactivés</translation>
+    </message>
+    <message>
+        <source>Choose a colour for %1</source>
+        <translation>Choisir une couleur : %1</translation>
+    </message>
+    <message>
+        <source>Point %1 of %2: %3 becomes %4</source>
+        <translation>Point %1 sur %2 : %3 devient %4</translation>
+    </message>
+    <message>
+        <source>Click to add a point and drag to move it; a double click removes it. With keys: Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete removes it.</source>
+        <translation>Cliquez pour ajouter un point et faites-le glisser pour le déplacer ; un double clic le retire. Au clavier : Page haut et Page bas choisissent un point, les flèches le déplacent, Inser en ajoute un, Suppr le retire.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation>Choisir : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no complete path; it must begin at the root, such as %2.</source>
+        <translation>« %1 » n’est pas un chemin complet ; il doit partir de la racine, par exemple %2.</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Définir : %1</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Intensité</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Automatic levels</source>
+        <translation>Niveaux automatiques</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>Profondeur de couleur</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Flou</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Les deux</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Brightness and contrast</source>
+        <translation>Luminosité et contraste</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>Chroma subsampling</source>
+        <translation>Sous-échantillonnage des couleurs</translation>
+    </message>
+    <message>
+        <source>Clarity</source>
+        <translation>Clarté</translation>
+    </message>
+    <message>
+        <source>Clipped share</source>
+        <translation>Part écrêtée</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message>
+        <source>Compression level</source>
+        <translation>Niveau de compression</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Auteur et droits</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Courbe</translation>
+    </message>
+    <message>
+        <source>Deflate</source>
+        <translation>Deflate</translation>
+    </message>
+    <message>
+        <source>Denoise</source>
+        <translation>Réduction du bruit</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>Each on its own</source>
+        <translation>Chacun séparément</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>Effort</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>Exposition</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Retourner</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontale</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Interpolation</source>
+        <translation>Interpolation</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Inverser</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Kept metadata</source>
+        <translation>Métadonnées conservées</translation>
+    </message>
+    <message>
+        <source>Keep the time of the file</source>
+        <translation>Garder la date du fichier</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Niveaux</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sans perte</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>Luma</translation>
+    </message>
+    <message>
+        <source>Luminance</source>
+        <translation>Luminance</translation>
+    </message>
+    <message>
+        <source>Colour table</source>
+        <translation>Table de couleurs</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Pour cent</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Posterize</source>
+        <translation>Postériser</translation>
+    </message>
+    <message>
+        <source>Progressive</source>
+        <translation>Progressif</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sépia</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Radius (sigma)</source>
+        <translation>Rayon (sigma)</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Douceur</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Commence à</translation>
+    </message>
+    <message>
+        <source>Stops</source>
+        <translation>Diaphragmes</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Force</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Tetrahedral</source>
+        <translation>Tétraédrique</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Mosaïque</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Nuance</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>Ensemble</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Trilinear</source>
+        <translation>Trilinéaire</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Vibrance</source>
+        <translation>Vibrance</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignette</translation>
+    </message>
+    <message>
+        <source>Watermark with a picture</source>
+        <translation>Filigrane avec image</translation>
+    </message>
+    <message>
+        <source>Watermark with a text</source>
+        <translation>Filigrane avec texte</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Balance des blancs</translation>
+    </message>
+    <message>
+        <source>Zstandard</source>
+        <translation>Zstandard</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Recadrage</translation>
+    </message>
+    <message>
+        <source>Kind of crop</source>
+        <translation>Type de recadrage</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Alignement</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2</source>
+        <translation>Rapport %1 : %2</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2, turned with the picture</source>
+        <translation>Rapport %1 : %2, tourné avec l’image</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2</source>
+        <translation>Ce qui attire l’œil, rapport %1 : %2</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2, turned with the picture</source>
+        <translation>Ce qui attire l’œil, rapport %1 : %2, tourné avec l’image</translation>
+    </message>
+    <message>
+        <source>Scaled and cut to %1 x %2 px</source>
+        <translation>Redimensionné et coupé à %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Cut to %1 x %2 px</source>
+        <translation>Coupé à %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Borders of one colour are cut off</source>
+        <translation>Les bordures d’une seule couleur sont coupées</translation>
+    </message>
+    <message>
+        <source>No crop</source>
+        <translation>Aucun recadrage</translation>
+    </message>
+    <message>
+        <source>Error&amp;s</source>
+        <translation>Erre&amp;urs</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be read</source>
+        <translation>Une image impossible à lire</translation>
+    </message>
+    <message>
+        <source>A result that cannot be written</source>
+        <translation>Un résultat impossible à écrire</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be processed</source>
+        <translation>Une image impossible à traiter</translation>
+    </message>
+    <message>
+        <source>A name that is taken</source>
+        <translation>Un nom déjà pris</translation>
+    </message>
+    <message>
+        <source>A format that cannot hold the picture</source>
+        <translation>Un format qui ne peut pas contenir l’image</translation>
+    </message>
+    <message>
+        <source>You are asked</source>
+        <translation>Question dans tous les cas</translation>
+    </message>
+    <message>
+        <source>Decided in advance</source>
+        <translation>Décidé d’avance</translation>
+    </message>
+    <message>
+        <source>You are asked in %1 of %2 cases</source>
+        <translation>Question dans %1 cas sur %2</translation>
+    </message>
+    <message>
+        <source>O&amp;utput folder</source>
+        <translation>Dossier de &amp;sortie</translation>
+    </message>
+    <message>
+        <source>Folder for the results</source>
+        <translation>Dossier des résultats</translation>
+    </message>
+    <message>
+        <source>The format of each input</source>
+        <translation>Même format que l’entrée</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>%1, quality %2</source>
+        <translation>%1, qualité %2</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation>F&amp;ormat</translation>
+    </message>
+    <message>
+        <source>Lay pictures on a frame</source>
+        <translation>Placer les images sur un cadre</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Marge gauche</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Marge du haut</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Marge droite</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Marge du bas</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Mode de fusion</translation>
+    </message>
+    <message>
+        <source>Opacity of the picture</source>
+        <translation>Opacité de l’image</translation>
+    </message>
+    <message>
+        <source>A frame of its own size</source>
+        <translation>Cadre de taille indépendante</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Largeur du cadre</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Hauteur du cadre</translation>
+    </message>
+    <message>
+        <source>Colour of the background</source>
+        <translation>Couleur de l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>Scale of the pattern</source>
+        <translation>Échelle du motif</translation>
+    </message>
+    <message>
+        <source>Picture of the background</source>
+        <translation>Image d’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Opacity of the background</source>
+        <translation>Opacité de l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Ombre</translation>
+    </message>
+    <message>
+        <source>Kind of shadow</source>
+        <translation>Type d’ombre</translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation>Couleur de l’ombre</translation>
+    </message>
+    <message>
+        <source>Opacity of the shadow</source>
+        <translation>Opacité de l’ombre</translation>
+    </message>
+    <message>
+        <source>Direction of the light</source>
+        <translation>Direction de la lumière</translation>
+    </message>
+    <message>
+        <source>Distance of the shadow</source>
+        <translation>Distance de l’ombre</translation>
+    </message>
+    <message>
+        <source>Softness of the shadow</source>
+        <translation>Douceur de l’ombre</translation>
+    </message>
+    <message>
+        <source>Fr&amp;ame</source>
+        <translation>&amp;Cadre</translation>
+    </message>
+    <message>
+        <source>No frame</source>
+        <translation>Aucun cadre</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px with a shadow</source>
+        <translation>Cadre de %1 x %2 px avec ombre</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px</source>
+        <translation>Cadre de %1 x %2 px</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px with a shadow</source>
+        <translation>Marges %1, %2, %3, %4 px avec ombre</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px</source>
+        <translation>Marges %1, %2, %3, %4 px</translation>
+    </message>
+    <message>
+        <source>&amp;Metadata</source>
+        <translation>&amp;Métadonnées</translation>
+    </message>
+    <message>
+        <source>All metadata is kept</source>
+        <translation>Toutes les métadonnées sont conservées</translation>
+    </message>
+    <message>
+        <source>No metadata is kept</source>
+        <translation>Aucune métadonnée n’est conservée</translation>
+    </message>
+    <message>
+        <source>Kept are %1</source>
+        <translation>Sont conservés : %1</translation>
+    </message>
+    <message>
+        <source>First part</source>
+        <translation>Première partie</translation>
+    </message>
+    <message>
+        <source>Text of the first part</source>
+        <translation>Texte de la première partie</translation>
+    </message>
+    <message>
+        <source>First number of the first part</source>
+        <translation>Premier numéro de la première partie</translation>
+    </message>
+    <message>
+        <source>Digits of the first part</source>
+        <translation>Chiffres de la première partie</translation>
+    </message>
+    <message>
+        <source>Between the first and the middle part</source>
+        <translation>Entre la première partie et la partie centrale</translation>
+    </message>
+    <message>
+        <source>Middle part</source>
+        <translation>Partie centrale</translation>
+    </message>
+    <message>
+        <source>Text of the middle part</source>
+        <translation>Texte de la partie centrale</translation>
+    </message>
+    <message>
+        <source>First number of the middle part</source>
+        <translation>Premier numéro de la partie centrale</translation>
+    </message>
+    <message>
+        <source>Digits of the middle part</source>
+        <translation>Chiffres de la partie centrale</translation>
+    </message>
+    <message>
+        <source>Between the middle and the last part</source>
+        <translation>Entre la partie centrale et la dernière partie</translation>
+    </message>
+    <message>
+        <source>Last part</source>
+        <translation>Dernière partie</translation>
+    </message>
+    <message>
+        <source>Text of the last part</source>
+        <translation>Texte de la dernière partie</translation>
+    </message>
+    <message>
+        <source>First number of the last part</source>
+        <translation>Premier numéro de la dernière partie</translation>
+    </message>
+    <message>
+        <source>Digits of the last part</source>
+        <translation>Chiffres de la dernière partie</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>&amp;Noms</translation>
+    </message>
+    <message>
+        <source>Example, as if it had been taken on 2024-07-31 at 14:05:09: %1</source>
+        <translation>Exemple, comme si l’image avait été prise le 2024-07-31 à 14:05:09 : %1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>Exemple : %1</translation>
+    </message>
+    <message>
+        <source>As the format has it</source>
+        <translation>Selon le format</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Co&amp;lour profile</source>
+        <translation>Profi&amp;l de couleurs</translation>
+    </message>
+    <message>
+        <source>Choose the file of a colour profile</source>
+        <translation>Choisir le fichier d’un profil de couleurs</translation>
+    </message>
+    <message>
+        <source>Remove the colour profile</source>
+        <translation>Retirer le profil de couleurs</translation>
+    </message>
+    <message>
+        <source>A profile of %1 bytes without a name</source>
+        <translation>Profil sans nom de %1 octets</translation>
+    </message>
+    <message>
+        <source>The profile of each input</source>
+        <translation>Même profil que l’entrée</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Profil de couleurs</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 in at %2 dpi</source>
+        <translation>%1 pouces à %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 cm at %2 dpi</source>
+        <translation>%1 cm à %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 mm at %2 dpi</source>
+        <translation>%1 mm à %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Largeur %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Hauteur %1</translation>
+    </message>
+    <message>
+        <source>Short side %1</source>
+        <translation>Petit côté %1</translation>
+    </message>
+    <message>
+        <source>Long side %1</source>
+        <translation>Grand côté %1</translation>
+    </message>
+    <message>
+        <source>Width %1, only smaller</source>
+        <translation>Largeur %1, réduire seulement</translation>
+    </message>
+    <message>
+        <source>Height %1, only smaller</source>
+        <translation>Hauteur %1, réduire seulement</translation>
+    </message>
+    <message>
+        <source>Short side %1, only smaller</source>
+        <translation>Petit côté %1, réduire seulement</translation>
+    </message>
+    <message>
+        <source>Long side %1, only smaller</source>
+        <translation>Grand côté %1, réduire seulement</translation>
+    </message>
+    <message>
+        <source>Width %1, only larger</source>
+        <translation>Largeur %1, agrandir seulement</translation>
+    </message>
+    <message>
+        <source>Height %1, only larger</source>
+        <translation>Hauteur %1, agrandir seulement</translation>
+    </message>
+    <message>
+        <source>Short side %1, only larger</source>
+        <translation>Petit côté %1, agrandir seulement</translation>
+    </message>
+    <message>
+        <source>Long side %1, only larger</source>
+        <translation>Grand côté %1, agrandir seulement</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>&amp;Taille</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Redimensionnement</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>Côté</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>The size stays</source>
+        <translation>La taille ne change pas</translation>
+    </message>
+    <message>
+        <source>Pictures that are added now are for the next run.</source>
+        <translation>Les images ajoutées maintenant sont pour la prochaine exécution.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Results go to %1</source>
+        <translation>Résultats dans %1</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Preset</source>
+        <translation>Pr&amp;éréglage</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Previous picture</source>
+        <translation>Image &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Next picture</source>
+        <translation>Image &amp;suivante</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt pane</source>
+        <translation>Volet s&amp;uivant</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>&amp;Volet précédent</translation>
+    </message>
+    <message>
+        <source>%1[*] - Velkora Batch</source>
+        <translation>%1[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>%1 % - %2[*] - Velkora Batch</source>
+        <translation>%1 % - %2[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>E&amp;xécution</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>The run cannot be started: %1.</source>
+        <translation>Impossible de démarrer l’exécution : %1.</translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <translation>Volets</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tableaux (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON files (*.json)</source>
+        <translation>Fichiers JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>The report was saved as %1.</source>
+        <translation>Le rapport a été enregistré sous %1.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1.</source>
+        <translation>Le rapport n’a pas été enregistré : %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be forgotten: %1.</source>
+        <translation>Impossible d’oublier l’exécution : %1.</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: %1.</source>
+        <translation>Impossible de reprendre l’exécution : %1.</translation>
+    </message>
+    <message>
+        <source>All pictures are written</source>
+        <translation>Toutes les images sont écrites</translation>
+    </message>
+    <message>
+        <source>The run is finished, some pictures are left out</source>
+        <translation>L’exécution est terminée, des images ont été laissées de côté</translation>
+    </message>
+    <message>
+        <source>The run is cancelled</source>
+        <translation>L’exécution est annulée</translation>
+    </message>
+    <message>
+        <source>The run has stopped</source>
+        <translation>L’exécution s’est arrêtée</translation>
+    </message>
+    <message>
+        <source>Pictures are being written</source>
+        <translation>Des images sont en cours d’écriture</translation>
+    </message>
+    <message>
+        <source>A picture needs your decision</source>
+        <translation>Une image demande une décision</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Show failures</source>
+        <translation>Afficher les échecs</translation>
     </message>
 </context>
 <context>
@@ -396,23 +2232,23 @@
     </message>
     <message>
         <source>a second size; one table is needed, of one or of three dimensions</source>
-        <translation>une deuxième taille&#x202f;; il faut une seule table, à une ou à trois dimensions</translation>
+        <translation>une deuxième taille ; il faut une seule table, à une ou à trois dimensions</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs a whole number from 2 to %3</source>
-        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande un nombre entier de 2 à %3</translation>
+        <translation>« %1 » ; %2 demande un nombre entier de 2 à %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs three numbers</source>
-        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande trois nombres</translation>
+        <translation>« %1 » ; %2 demande trois nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs two numbers</source>
-        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande deux nombres</translation>
+        <translation>« %1 » ; %2 demande deux nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; three numbers or a known keyword are needed</source>
-        <translation>«&#xa0;%1&#xa0;»&#x202f;; il faut trois nombres ou un mot-clé connu</translation>
+        <translation>« %1 » ; il faut trois nombres ou un mot-clé connu</translation>
     </message>
     <message>
         <source>an entry before LUT_1D_SIZE or LUT_3D_SIZE</source>
@@ -424,7 +2260,7 @@
     </message>
     <message>
         <source>no LUT_1D_SIZE and no LUT_3D_SIZE; this is not a .cube file</source>
-        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE&#x202f;; ce n’est pas un fichier .cube</translation>
+        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE ; ce n’est pas un fichier .cube</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2 entries</source>
@@ -436,7 +2272,7 @@
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation>%1, ligne %2&#xa0;: %3</translation>
+        <translation>%1, ligne %2 : %3</translation>
     </message>
     <message>
         <source>%1 does not exist</source>
@@ -448,11 +2284,11 @@
     </message>
     <message>
         <source>%1 has %2 bytes; a .cube file has at most %3</source>
-        <translation>%1 fait %2 octets&#x202f;; un fichier .cube en fait au plus %3</translation>
+        <translation>%1 fait %2 octets ; un fichier .cube en fait au plus %3</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>impossible de lire %1&#xa0;: %2</translation>
+        <translation>impossible de lire %1 : %2</translation>
     </message>
     <message>
         <source>longer than %1 bytes</source>
@@ -460,7 +2296,7 @@
     </message>
     <message>
         <source>input and output, from black to white; between them the curve never turns, beyond them it is level</source>
-        <translation>entrée et sortie, du noir au blanc&#x202f;; entre les points, la courbe ne change jamais de sens&#x202f;; au-delà, elle est horizontale</translation>
+        <translation>entrée et sortie, du noir au blanc ; entre les points, la courbe ne change jamais de sens ; au-delà, elle est horizontale</translation>
     </message>
     <message>
         <source>Maps values along a smooth curve through points</source>
@@ -472,7 +2308,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is %2 percent; it must be at most 100, or the unit pixels</source>
-        <translation>«&#xa0;%1&#xa0;» vaut %2 pour cent&#x202f;; 100 au maximum, ou l’unité pixels</translation>
+        <translation>« %1 » vaut %2 pour cent ; 100 au maximum, ou l’unité pixels</translation>
     </message>
     <message>
         <source>Brightens or darkens as a longer or shorter exposure would</source>
@@ -496,7 +2332,7 @@
     </message>
     <message>
         <source>&quot;black&quot; is %1 and &quot;white&quot; is %2; black must be less than white</source>
-        <translation>«&#xa0;black&#xa0;» vaut %1 et «&#xa0;white&#xa0;» vaut %2&#x202f;; black doit être inférieur à white</translation>
+        <translation>« black » vaut %1 et « white » vaut %2 ; black doit être inférieur à white</translation>
     </message>
     <message>
         <source>Sets what becomes black, what becomes white, and the tone between them</source>
@@ -504,7 +2340,7 @@
     </message>
     <message>
         <source>Maps colours by the table of a .cube file; a grey picture becomes a colour picture</source>
-        <translation>Transforme les couleurs selon la table d’un fichier .cube&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Transforme les couleurs selon la table d’un fichier .cube ; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Leaves few steps of each colour</source>
@@ -512,7 +2348,7 @@
     </message>
     <message>
         <source>Turns a picture clockwise; the result is as large as it needs</source>
-        <translation>Fait pivoter l’image dans le sens horaire&#x202f;; le résultat est aussi grand que nécessaire</translation>
+        <translation>Fait pivoter l’image dans le sens horaire ; le résultat est aussi grand que nécessaire</translation>
     </message>
     <message>
         <source>Makes all colours stronger or weaker</source>
@@ -520,7 +2356,7 @@
     </message>
     <message>
         <source>Tones a picture brown; a grey picture becomes a colour picture</source>
-        <translation>Donne à l’image une teinte brune&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Donne à l’image une teinte brune ; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Sharpens edges by an unsharp mask</source>
@@ -536,19 +2372,19 @@
     </message>
     <message>
         <source>&quot;file&quot;: %1 does not exist</source>
-        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’existe pas</translation>
+        <translation>« file » : %1 n’existe pas</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a file</source>
-        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas un fichier</translation>
+        <translation>« file » : %1 n’est pas un fichier</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 cannot be read: %2</source>
-        <translation>«&#xa0;file&#xa0;»&#xa0;: impossible de lire %1&#xa0;: %2</translation>
+        <translation>« file » : impossible de lire %1 : %2</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a picture of a known format</source>
-        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas une image d’un format connu</translation>
+        <translation>« file » : %1 n’est pas une image d’un format connu</translation>
     </message>
     <message>
         <source>Lays another picture, such as a logo, over a picture</source>
@@ -556,11 +2392,11 @@
     </message>
     <message>
         <source>what is written; it may have several lines</source>
-        <translation>ce qui est écrit&#x202f;; plusieurs lignes sont possibles</translation>
+        <translation>ce qui est écrit ; plusieurs lignes sont possibles</translation>
     </message>
     <message>
         <source>family and style, without a size; a family that is missing is replaced</source>
-        <translation>famille et style, sans taille&#x202f;; une famille absente est remplacée</translation>
+        <translation>famille et style, sans taille ; une famille absente est remplacée</translation>
     </message>
     <message>
         <source>Writes a text over a picture</source>
@@ -568,7 +2404,7 @@
     </message>
     <message>
         <source>Makes a picture warmer or cooler, greener or more magenta; greys keep their luminance</source>
-        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta&#x202f;; les gris gardent leur luminance</translation>
+        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta ; les gris gardent leur luminance</translation>
     </message>
     <message>
         <source>very small files for the web in up to 12 bits, slow to write</source>
@@ -576,19 +2412,19 @@
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; %2 takes %3</source>
-        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; %2 accepte %3</translation>
+        <translation>« bitDepth » vaut %1 ; %2 accepte %3</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; it must be 8, 10, 12 or 16</source>
-        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; valeurs possibles&#xa0;: 8, 10, 12 ou 16</translation>
+        <translation>« bitDepth » vaut %1 ; valeurs possibles : 8, 10, 12 ou 16</translation>
     </message>
     <message>
         <source>the format &quot;%1&quot; is unknown</source>
-        <translation>le format «&#xa0;%1&#xa0;» est inconnu</translation>
+        <translation>le format « %1 » est inconnu</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; &quot;compression&quot; jpeg takes 8</source>
-        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; «&#xa0;compression&#xa0;» jpeg accepte 8</translation>
+        <translation>« bitDepth » vaut %1 ; « compression » jpeg accepte 8</translation>
     </message>
     <message>
         <source>at most 256 colours, each pixel opaque or transparent</source>
@@ -612,11 +2448,11 @@
     </message>
     <message>
         <source>every pixel as it is, with transparency; for graphics and for editing</source>
-        <translation>chaque pixel tel quel, avec transparence&#x202f;; pour les graphiques et la retouche</translation>
+        <translation>chaque pixel tel quel, avec transparence ; pour les graphiques et la retouche</translation>
     </message>
     <message>
         <source>higher is slower and smaller</source>
-        <translation>plus élevé&#xa0;: plus lent et plus petit</translation>
+        <translation>plus élevé : plus lent et plus petit</translation>
     </message>
     <message>
         <source>what the sensor of a camera saw, in the formats of many makers</source>
@@ -624,7 +2460,7 @@
     </message>
     <message>
         <source>every pixel as it is, also CMYK and very large; for printing and for archives</source>
-        <translation>chaque pixel tel quel, aussi en CMJN et très grand&#x202f;; pour l’impression et les archives</translation>
+        <translation>chaque pixel tel quel, aussi en CMJN et très grand ; pour l’impression et les archives</translation>
     </message>
     <message>
         <source>how the pixels are compressed</source>
@@ -676,23 +2512,23 @@
     </message>
     <message>
         <source>&quot;%1&quot; exists already</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà</translation>
+        <translation>« %1 » existe déjà</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a source of this job</source>
-        <translation>«&#xa0;%1&#xa0;» est une source de ce travail</translation>
+        <translation>« %1 » est une source de ce travail</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the result of &quot;%2&quot;</source>
-        <translation>«&#xa0;%1&#xa0;» est le résultat de «&#xa0;%2&#xa0;»</translation>
+        <translation>« %1 » est le résultat de « %2 »</translation>
     </message>
     <message>
         <source>written as &quot;%1&quot; (naming policy)</source>
-        <translation>écrit sous le nom «&#xa0;%1&#xa0;» (règle des noms)</translation>
+        <translation>écrit sous le nom « %1 » (règle des noms)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was overwritten (naming policy)</source>
-        <translation>«&#xa0;%1&#xa0;» a été remplacé (règle des noms)</translation>
+        <translation>« %1 » a été remplacé (règle des noms)</translation>
     </message>
     <message>
         <source>written as %1 (write-to-format policy)</source>
@@ -708,15 +2544,15 @@
     </message>
     <message>
         <source>The options of the format %1: %2</source>
-        <translation>Les options du format %1&#xa0;: %2</translation>
+        <translation>Les options du format %1 : %2</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;, does not exist</source>
-        <translation>L’effet %1, «&#xa0;%2&#xa0;», n’existe pas</translation>
+        <translation>L’effet %1, « %2 », n’existe pas</translation>
     </message>
     <message>
         <source>; there are %1</source>
-        <translation>&#x202f;; il y a %1</translation>
+        <translation> ; il y a %1</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
@@ -724,7 +2560,7 @@
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;: %3</source>
-        <translation>Effet %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+        <translation>Effet %1, « %2 » : %3</translation>
     </message>
     <message>
         <source>The job has no files</source>
@@ -904,7 +2740,7 @@
     </message>
     <message>
         <source>%1 is %2; it must be %3</source>
-        <translation>%1 vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
+        <translation>%1 vaut %2 ; valeur attendue : %3</translation>
     </message>
     <message>
         <source>renamed</source>
@@ -924,19 +2760,19 @@
     </message>
     <message>
         <source>&quot;%1&quot; is unknown</source>
-        <translation>«&#xa0;%1&#xa0;» est inconnu</translation>
+        <translation>« %1 » est inconnu</translation>
     </message>
     <message>
         <source>; none is taken here</source>
-        <translation>&#x202f;; aucun n’est accepté ici</translation>
+        <translation> ; aucun n’est accepté ici</translation>
     </message>
     <message>
         <source>; known are %1</source>
-        <translation> ; sont connus %1</translation>
+        <translation> ; sont connus : %1</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
-        <translation>JSON invalide à l’octet %1&#xa0;: %2</translation>
+        <translation>JSON invalide à l’octet %1 : %2</translation>
     </message>
     <message>
         <source>a JSON object is needed, such as {&quot;name&quot;: value}</source>
@@ -944,15 +2780,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is missing; it must be %2</source>
-        <translation>«&#xa0;%1&#xa0;» manque&#x202f;; valeur attendue&#xa0;: %2</translation>
+        <translation>« %1 » manque ; valeur attendue : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2; it must be %3</source>
-        <translation>«&#xa0;%1&#xa0;» vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
+        <translation>« %1 » vaut %2 ; valeur attendue : %3</translation>
     </message>
     <message>
         <source>; did you mean %1?</source>
-        <translation>&#x202f;; vouliez-vous dire %1&#x202f;?</translation>
+        <translation> ; vouliez-vous dire %1 ?</translation>
     </message>
     <message>
         <source>a number %1</source>
@@ -1032,15 +2868,15 @@
     </message>
     <message>
         <source>the folder %1 cannot be made: %2</source>
-        <translation>impossible de créer le dossier %1&#xa0;: %2</translation>
+        <translation>impossible de créer le dossier %1 : %2</translation>
     </message>
     <message>
         <source>%1 is a link; results are not written through it unless links are followed</source>
-        <translation>%1 est un lien&#x202f;; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
+        <translation>%1 est un lien ; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
     </message>
     <message>
         <source>the worker&apos;s report is invalid: %1</source>
-        <translation>le rapport du processus de traitement est invalide&#xa0;: %1</translation>
+        <translation>le rapport du processus de traitement est invalide : %1</translation>
     </message>
     <message>
         <source>it takes more memory than the limit of %1 MiB</source>
@@ -1064,7 +2900,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be started: %2</source>
-        <translation>impossible de lancer «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+        <translation>impossible de lancer « %1 » : %2</translation>
     </message>
     <message>
         <source>ended by exception 0x%1</source>
@@ -1076,7 +2912,7 @@
     </message>
     <message>
         <source>%1; its last output: %2</source>
-        <translation>%1&#x202f;; sa dernière sortie&#xa0;: %2</translation>
+        <translation>%1 ; sa dernière sortie : %2</translation>
     </message>
     <message>
         <source>ended with exit code %1</source>
@@ -1088,7 +2924,7 @@
     </message>
     <message>
         <source>The job cannot be read: its reader failed</source>
-        <translation>Impossible de lire le travail&#xa0;: son lecteur a échoué</translation>
+        <translation>Impossible de lire le travail : son lecteur a échoué</translation>
     </message>
     <message>
         <source>the server crashed %1 times while it worked on the file</source>
@@ -1104,7 +2940,7 @@
     </message>
     <message>
         <source>the journal %1 cannot be used: %2</source>
-        <translation>le journal %1 ne peut pas être utilisé&#xa0;: %2</translation>
+        <translation>le journal %1 ne peut pas être utilisé : %2</translation>
     </message>
     <message>
         <source>another server holds %1</source>
@@ -1112,7 +2948,7 @@
     </message>
     <message>
         <source>%1 cannot be written; the disk may be full</source>
-        <translation>impossible d’écrire %1&#x202f;; le disque est peut-être plein</translation>
+        <translation>impossible d’écrire %1 ; le disque est peut-être plein</translation>
     </message>
     <message>
         <source>the embedded colour profile is damaged and is not used</source>
@@ -1128,23 +2964,23 @@
     </message>
     <message>
         <source>its colour profile is one for storing colours only; the result is sRGB</source>
-        <translation>son profil de couleurs ne sert qu’à stocker des couleurs&#x202f;; le résultat est en sRGB</translation>
+        <translation>son profil de couleurs ne sert qu’à stocker des couleurs ; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the job&apos;s colour profile does not describe pictures; the colours are not converted</source>
-        <translation>le profil de couleurs du travail ne décrit pas d’images&#x202f;; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs du travail ne décrit pas d’images ; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colour profile cannot be used; the colours are not converted</source>
-        <translation>le profil de couleurs ne peut pas être utilisé&#x202f;; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs ne peut pas être utilisé ; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colours cannot be converted to sRGB; their values are taken for sRGB as they are</source>
-        <translation>les couleurs ne peuvent pas être converties en sRGB&#x202f;; leurs valeurs sont prises telles quelles comme sRGB</translation>
+        <translation>les couleurs ne peuvent pas être converties en sRGB ; leurs valeurs sont prises telles quelles comme sRGB</translation>
     </message>
     <message>
         <source>the file is HDR; the result has the brightness of common screens</source>
-        <translation>le fichier est en HDR&#x202f;; le résultat a la luminosité des écrans courants</translation>
+        <translation>le fichier est en HDR ; le résultat a la luminosité des écrans courants</translation>
     </message>
     <message>
         <source>its values are complex numbers, which are no colours</source>
@@ -1152,7 +2988,7 @@
     </message>
     <message>
         <source>its kind of colours is not supported: %1</source>
-        <translation>son type de couleurs n’est pas pris en charge&#xa0;: %1</translation>
+        <translation>son type de couleurs n’est pas pris en charge : %1</translation>
     </message>
     <message>
         <source>its kind of colours is not supported</source>
@@ -1196,7 +3032,7 @@
     </message>
     <message>
         <source>it has %1 channels; only the first %2 are used</source>
-        <translation>il a %1 canaux&#x202f;; seuls les %2 premiers sont utilisés</translation>
+        <translation>il a %1 canaux ; seuls les %2 premiers sont utilisés</translation>
     </message>
     <message>
         <source>the header of the picture data is damaged</source>
@@ -1204,7 +3040,7 @@
     </message>
     <message>
         <source>it uses %1, which is not supported</source>
-        <translation>non pris en charge&#xa0;: %1</translation>
+        <translation>non pris en charge : %1</translation>
     </message>
     <message>
         <source>the file ends after %1 % of the picture</source>
@@ -1260,7 +3096,7 @@
     </message>
     <message>
         <source>it has %1 pages; only the first is used</source>
-        <translation>il a %1 pages&#x202f;; seule la première est utilisée</translation>
+        <translation>il a %1 pages ; seule la première est utilisée</translation>
     </message>
     <message>
         <source>the file lacks its last bytes, but all of the picture is there</source>
@@ -1268,7 +3104,7 @@
     </message>
     <message>
         <source>decoding takes %1 MiB of memory%2; a worker may use %3 MiB</source>
-        <translation>le décodage demande %1 Mio de mémoire%2&#x202f;; un processus de traitement peut en utiliser %3 Mio</translation>
+        <translation>le décodage demande %1 Mio de mémoire%2 ; un processus de traitement peut en utiliser %3 Mio</translation>
     </message>
     <message>
         <source>, because the picture is not divided into tiles</source>
@@ -1280,7 +3116,7 @@
     </message>
     <message>
         <source>it is a JPEG file of %1 bits a channel; only 8 are supported</source>
-        <translation>c’est un fichier JPEG de %1 bits par canal&#x202f;; seuls 8 sont pris en charge</translation>
+        <translation>c’est un fichier JPEG de %1 bits par canal ; seuls 8 sont pris en charge</translation>
     </message>
     <message>
         <source>the file ends before all details of the picture</source>
@@ -1292,7 +3128,7 @@
     </message>
     <message>
         <source>the file lacks its last bytes; the picture is whole</source>
-        <translation>il manque les derniers octets du fichier&#x202f;; l’image est entière</translation>
+        <translation>il manque les derniers octets du fichier ; l’image est entière</translation>
     </message>
     <message>
         <source>the picture has more pixels than any limit</source>
@@ -1300,7 +3136,7 @@
     </message>
     <message>
         <source>the file is damaged: its picture cannot be decoded</source>
-        <translation>le fichier est endommagé&#xa0;: l’image ne peut pas être décodée</translation>
+        <translation>le fichier est endommagé : l’image ne peut pas être décodée</translation>
     </message>
     <message>
         <source>the file ends before its picture is complete</source>
@@ -1308,7 +3144,7 @@
     </message>
     <message>
         <source>the file is damaged: it has no picture</source>
-        <translation>le fichier est endommagé&#xa0;: il ne contient pas d’image</translation>
+        <translation>le fichier est endommagé : il ne contient pas d’image</translation>
     </message>
     <message>
         <source>decoding %1 x %2 pixels takes more than a worker may use</source>
@@ -1340,7 +3176,7 @@
     </message>
     <message>
         <source>the file lacks picture data: it is cut off, or has been emptied</source>
-        <translation>il manque des données d’image dans le fichier&#xa0;: il est tronqué ou a été vidé</translation>
+        <translation>il manque des données d’image dans le fichier : il est tronqué ou a été vidé</translation>
     </message>
     <message>
         <source>its header gives no size of the picture</source>
@@ -1372,7 +3208,7 @@
     </message>
     <message>
         <source>it holds undeveloped data of a camera; such files are read under the name .dng</source>
-        <translation>il contient des données brutes d’appareil photo&#x202f;; ces fichiers se lisent avec l’extension .dng</translation>
+        <translation>il contient des données brutes d’appareil photo ; ces fichiers se lisent avec l’extension .dng</translation>
     </message>
     <message>
         <source>its kind of colours (number %1) is not supported</source>
@@ -1380,11 +3216,11 @@
     </message>
     <message>
         <source>it has %1 channels beside its colours and its transparency, which are left out</source>
-        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence&#x202f;; ils sont omis</translation>
+        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence ; ils sont omis</translation>
     </message>
     <message>
         <source>it has inks of its own; only cyan, magenta, yellow and black can be read</source>
-        <translation>il utilise ses propres encres&#x202f;; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
+        <translation>il utilise ses propres encres ; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
     </message>
     <message>
         <source>it has fewer channels than its kind of colours needs</source>
@@ -1404,7 +3240,7 @@
     </message>
     <message>
         <source>its way of storing colours is not supported: %1</source>
-        <translation>sa façon de stocker les couleurs n’est pas prise en charge&#xa0;: %1</translation>
+        <translation>sa façon de stocker les couleurs n’est pas prise en charge : %1</translation>
     </message>
     <message>
         <source>its strips or tiles have no size that makes sense</source>
@@ -1420,7 +3256,7 @@
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image %1&#xa0;: %2</translation>
+        <translation>impossible de lire l’image %1 : %2</translation>
     </message>
     <message>
         <source>the text would be too large at a size of %1 pixels</source>
@@ -1440,7 +3276,7 @@
     </message>
     <message>
         <source>the background picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image de fond %1&#xa0;: %2</translation>
+        <translation>impossible de lire l’image de fond %1 : %2</translation>
     </message>
     <message>
         <source>the frame of %1 x %2 pixels is above the limit of %3 pixels</source>
@@ -1452,11 +3288,11 @@
     </message>
     <message>
         <source>metadata is left out: %1</source>
-        <translation>les métadonnées sont omises&#xa0;: %1</translation>
+        <translation>les métadonnées sont omises : %1</translation>
     </message>
     <message>
         <source>%1 files cannot hold metadata; it is left out</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées&#x202f;; elles sont omises</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées ; elles sont omises</translation>
     </message>
     <message>
         <source>%1 metadata of %2 bytes does not fit into a %3 file and is left out</source>
@@ -1472,15 +3308,15 @@
     </message>
     <message>
         <source>the result is too large for all of its metadata to be added; some is left out</source>
-        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées&#x202f;; certaines sont omises</translation>
+        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées ; certaines sont omises</translation>
     </message>
     <message>
         <source>metadata cannot be written: %1</source>
-        <translation>impossible d’écrire les métadonnées&#xa0;: %1</translation>
+        <translation>impossible d’écrire les métadonnées : %1</translation>
     </message>
     <message>
         <source>%1 cannot be written and are left out</source>
-        <translation>impossible à écrire, donc omis&#xa0;: %1</translation>
+        <translation>impossible à écrire, donc omis : %1</translation>
     </message>
     <message>
         <source>the notes of the camera&apos;s maker</source>
@@ -1500,11 +3336,11 @@
     </message>
     <message>
         <source>metadata cannot be read and is left out: %1</source>
-        <translation>les métadonnées sont illisibles et donc omises&#xa0;: %1</translation>
+        <translation>les métadonnées sont illisibles et donc omises : %1</translation>
     </message>
     <message>
         <source>effect &quot;%1&quot;: %2</source>
-        <translation>effet «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+        <translation>effet « %1 » : %2</translation>
     </message>
     <message>
         <source>it cannot be applied to the picture</source>
@@ -1528,19 +3364,19 @@
     </message>
     <message>
         <source>%1 x %2 pixels: %3 holds at most %4 on a side</source>
-        <translation>%1 x %2 pixels&#xa0;: %3 accepte au plus %4 par côté</translation>
+        <translation>%1 x %2 pixels : %3 accepte au plus %4 par côté</translation>
     </message>
     <message>
         <source>the colour profile does not fit into the %1 file; the result is sRGB</source>
-        <translation>le profil de couleurs ne tient pas dans le fichier %1&#x202f;; le résultat est en sRGB</translation>
+        <translation>le profil de couleurs ne tient pas dans le fichier %1 ; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>it has %1 pages; only the main one is used</source>
-        <translation>il a %1 pages&#x202f;; seule la principale est utilisée</translation>
+        <translation>il a %1 pages ; seule la principale est utilisée</translation>
     </message>
     <message>
         <source>it has a gain map, which the result lacks: highlights are no longer brighter on HDR screens</source>
-        <translation>il a une carte de gain que le résultat n’a pas&#xa0;: les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
+        <translation>il a une carte de gain que le résultat n’a pas : les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
     </message>
     <message>
         <source>the result of %1 x %2 pixels would be above the limit of %3 megapixels</source>
@@ -1548,7 +3384,7 @@
     </message>
     <message>
         <source>%1 files cannot hold a colour profile; the result is sRGB</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs&#x202f;; le résultat est en sRGB</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs ; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the result is sRGB instead of CMYK</source>
@@ -1568,11 +3404,11 @@
     </message>
     <message>
         <source>the file is damaged; no part of the picture can be read</source>
-        <translation>le fichier est endommagé&#x202f;; aucune partie de l’image n’est lisible</translation>
+        <translation>le fichier est endommagé ; aucune partie de l’image n’est lisible</translation>
     </message>
     <message>
         <source>the file is damaged; its header cannot be read</source>
-        <translation>le fichier est endommagé&#x202f;; son en-tête est illisible</translation>
+        <translation>le fichier est endommagé ; son en-tête est illisible</translation>
     </message>
     <message>
         <source>it needs more memory than a worker may use</source>
@@ -1592,7 +3428,7 @@
     </message>
     <message>
         <source>no worker can be started to look at the pictures: %1</source>
-        <translation>impossible de lancer un processus de traitement pour examiner les images&#xa0;: %1</translation>
+        <translation>impossible de lancer un processus de traitement pour examiner les images : %1</translation>
     </message>
     <message>
         <source>the folder cannot be opened</source>
@@ -1616,11 +3452,11 @@
     </message>
     <message>
         <source>%1 has a name that is not valid UTF-8; rename it to use it.</source>
-        <translation>%1 a un nom qui n’est pas en UTF-8 valide&#x202f;; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom qui n’est pas en UTF-8 valide ; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 has a name with a character that a job cannot hold; rename it to use it.</source>
-        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir&#x202f;; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir ; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 is a dangling link.</source>
@@ -1628,7 +3464,7 @@
     </message>
     <message>
         <source>%1 leads back to %2; it is not followed.</source>
-        <translation>%1 ramène à %2&#x202f;; il n’est pas suivi.</translation>
+        <translation>%1 ramène à %2 ; il n’est pas suivi.</translation>
     </message>
     <message>
         <source>%1 is the folder %2, which is in the job already.</source>
@@ -1636,7 +3472,7 @@
     </message>
     <message>
         <source>%1 is ignored: %2</source>
-        <translation>%1 est ignoré&#xa0;: %2</translation>
+        <translation>%1 est ignoré : %2</translation>
     </message>
     <message>
         <source>its results go to %1</source>
@@ -1648,15 +3484,15 @@
     </message>
     <message>
         <source>the run that was interrupted in %1 is of another job: its inputs, options or files differ</source>
-        <translation>l’exécution interrompue dans %1 est celle d’un autre travail&#xa0;: ses entrées, options ou fichiers diffèrent</translation>
+        <translation>l’exécution interrompue dans %1 est celle d’un autre travail : ses entrées, options ou fichiers diffèrent</translation>
     </message>
     <message>
         <source>%1 is damaged; remove it to start the run anew</source>
-        <translation>%1 est endommagé&#x202f;; supprimez-le pour recommencer l’exécution</translation>
+        <translation>%1 est endommagé ; supprimez-le pour recommencer l’exécution</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation>ligne %1, colonne %2&#xa0;: %3</translation>
+        <translation>ligne %1, colonne %2 : %3</translation>
     </message>
     <message>
         <source>its XML is nested too deeply, or declares what a job must not declare</source>
@@ -1668,7 +3504,7 @@
     </message>
     <message>
         <source>the job %1 cannot be read: %2</source>
-        <translation>impossible de lire le travail %1&#xa0;: %2</translation>
+        <translation>impossible de lire le travail %1 : %2</translation>
     </message>
     <message>
         <source>the job %1 is larger than %2 MiB</source>
@@ -1676,11 +3512,11 @@
     </message>
     <message>
         <source>%1 is not a batch job: it is not UTF-8 text</source>
-        <translation>%1 n’est pas un travail par lots&#xa0;: ce n’est pas du texte UTF-8</translation>
+        <translation>%1 n’est pas un travail par lots : ce n’est pas du texte UTF-8</translation>
     </message>
     <message>
         <source>%1 is not a batch job: %2</source>
-        <translation>%1 n’est pas un travail par lots&#xa0;: %2</translation>
+        <translation>%1 n’est pas un travail par lots : %2</translation>
     </message>
     <message>
         <source>%1 exists</source>
@@ -1688,7 +3524,7 @@
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation>impossible d’écrire %1&#xa0;: %2</translation>
+        <translation>impossible d’écrire %1 : %2</translation>
     </message>
     <message>
         <source>no output folder</source>
@@ -1716,11 +3552,11 @@
     </message>
     <message>
         <source>the run in %1 cannot be resumed: %2</source>
-        <translation>impossible de reprendre l’exécution dans %1&#xa0;: %2</translation>
+        <translation>impossible de reprendre l’exécution dans %1 : %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; must end with .csv or .json</source>
-        <translation>le nom «&#xa0;%1&#xa0;» doit se terminer par .csv ou .json</translation>
+        <translation>le nom « %1 » doit se terminer par .csv ou .json</translation>
     </message>
     <message>
         <source>it begins like a %1 file, but its extension is not known</source>
@@ -1728,11 +3564,11 @@
     </message>
     <message>
         <source>the report %1 cannot be written: %2</source>
-        <translation>impossible d’écrire le rapport %1&#xa0;: %2</translation>
+        <translation>impossible d’écrire le rapport %1 : %2</translation>
     </message>
     <message>
         <source>written with a warning: %1</source>
-        <translation>écrit avec un avertissement&#xa0;: %1</translation>
+        <translation>écrit avec un avertissement : %1</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -1800,7 +3636,7 @@
     </message>
     <message>
         <source>together keeps colours as they are; each for itself removes a cast</source>
-        <translation>together conserve les couleurs&#x202f;; each retire une dominante</translation>
+        <translation>together conserve les couleurs ; each retire une dominante</translation>
     </message>
     <message>
         <source>pixels</source>
@@ -1808,7 +3644,7 @@
     </message>
     <message>
         <source>standard deviation of the blur in the result; 0 does nothing</source>
-        <translation>écart-type du flou dans le résultat&#x202f;; 0 ne fait rien</translation>
+        <translation>écart-type du flou dans le résultat ; 0 ne fait rien</translation>
     </message>
     <message>
         <source>width on the left</source>
@@ -1828,15 +3664,15 @@
     </message>
     <message>
         <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
-        <translation>des quatre&#x202f;; percent se rapporte au petit côté de l’image, au plus 100</translation>
+        <translation>des quatre ; percent se rapporte au petit côté de l’image, au plus 100</translation>
     </message>
     <message>
         <source>of the border; with transparency the result has an alpha channel</source>
-        <translation>de la bordure&#x202f;; avec transparence, le résultat a un canal alpha</translation>
+        <translation>de la bordure ; avec transparence, le résultat a un canal alpha</translation>
     </message>
     <message>
         <source>shift of every value; 100 turns black into white</source>
-        <translation>décalage de chaque valeur&#x202f;; 100 change le noir en blanc</translation>
+        <translation>décalage de chaque valeur ; 100 change le noir en blanc</translation>
     </message>
     <message>
         <source>-100 is flat grey, 50 doubles all differences</source>
@@ -1852,7 +3688,7 @@
     </message>
     <message>
         <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
-        <translation>quelles valeurs sont transformées&#x202f;; une image en niveaux de gris n’a pas de couleurs séparées et reste telle quelle</translation>
+        <translation>quelles valeurs sont transformées ; une image en niveaux de gris n’a pas de couleurs séparées et reste telle quelle</translation>
     </message>
     <message>
         <source>differences of this size begin to count as edges</source>
@@ -1864,11 +3700,11 @@
     </message>
     <message>
         <source>stops</source>
-        <translation>IL</translation>
+        <translation>diaphragmes</translation>
     </message>
     <message>
         <source>how much; 1 doubles the light</source>
-        <translation>de combien&#x202f;; 1 double la lumière</translation>
+        <translation>de combien ; 1 double la lumière</translation>
     </message>
     <message>
         <source>horizontal swaps left and right</source>
@@ -1924,7 +3760,7 @@
     </message>
     <message>
         <source>fills the corners; with transparency the result has an alpha channel</source>
-        <translation>remplit les coins&#x202f;; avec transparence, le résultat a un canal alpha</translation>
+        <translation>remplit les coins ; avec transparence, le résultat a un canal alpha</translation>
     </message>
     <message>
         <source>-100 leaves grey, 100 doubles the strength</source>
@@ -1948,7 +3784,7 @@
     </message>
     <message>
         <source>of the corners; -100 is black, 100 is white</source>
-        <translation>des coins&#x202f;; -100 est noir, 100 est blanc</translation>
+        <translation>des coins ; -100 est noir, 100 est blanc</translation>
     </message>
     <message>
         <source>where it begins on the way from the centre to a corner</source>
@@ -1964,7 +3800,7 @@
     </message>
     <message>
         <source>width of the mark; in percent of the picture&apos;s width</source>
-        <translation>largeur de la marque&#x202f;; en pour cent de la largeur de l’image</translation>
+        <translation>largeur de la marque ; en pour cent de la largeur de l’image</translation>
     </message>
     <message>
         <source>space to the sides of the picture, and between tiles</source>
@@ -1972,7 +3808,7 @@
     </message>
     <message>
         <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
-        <translation>de size et margin&#x202f;; margin en pour cent se rapporte au petit côté de l’image&#x202f;; percent est au plus 100</translation>
+        <translation>de size et margin ; margin en pour cent se rapporte au petit côté de l’image ; percent est au plus 100</translation>
     </message>
     <message>
         <source>0 is invisible</source>
@@ -1992,7 +3828,7 @@
     </message>
     <message>
         <source>height of a line of text; in percent of the picture&apos;s short side</source>
-        <translation>hauteur d’une ligne de texte&#x202f;; en pour cent du petit côté de l’image</translation>
+        <translation>hauteur d’une ligne de texte ; en pour cent du petit côté de l’image</translation>
     </message>
     <message>
         <source>above 0 warmer, below 0 cooler</source>
@@ -2008,7 +3844,7 @@
     </message>
     <message>
         <source>higher is slower and better</source>
-        <translation>plus élevé&#xa0;: plus lent et meilleur</translation>
+        <translation>plus élevé : plus lent et meilleur</translation>
     </message>
     <message>
         <source>keep every pixel as it is</source>
@@ -2016,7 +3852,7 @@
     </message>
     <message>
         <source>higher is better and larger</source>
-        <translation>plus élevé&#xa0;: meilleur et plus gros</translation>
+        <translation>plus élevé : meilleur et plus gros</translation>
     </message>
     <message>
         <source>shows a coarse picture first while it loads</source>
@@ -2024,11 +3860,11 @@
     </message>
     <message>
         <source>resolution of colour; auto is 4:4:4 from quality 90</source>
-        <translation>résolution de la couleur&#x202f;; auto vaut 4:4:4 à partir de la qualité 90</translation>
+        <translation>résolution de la couleur ; auto vaut 4:4:4 à partir de la qualité 90</translation>
     </message>
     <message>
         <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
-        <translation>bits par canal&#x202f;; par défaut ceux de l’entrée, si le format les accepte&#xa0;: %1</translation>
+        <translation>bits par canal ; par défaut ceux de l’entrée, si le format les accepte : %1</translation>
     </message>
     <message>
         <source>bits</source>
@@ -2048,11 +3884,11 @@
     </message>
     <message>
         <source>which metadata is kept; copyright is creator and rights from all of it</source>
-        <translation>quelles métadonnées sont conservées ; copyright désigne l’auteur et les droits de l’ensemble</translation>
+        <translation>quelles métadonnées sont conservées&#x202f;; copyright désigne l’auteur et les droits de l’ensemble</translation>
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; would both be &quot;%3&quot;</source>
-        <translation>« %1 » et « %2 » seraient tous deux « %3 »</translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» seraient tous deux «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>and so on</source>
@@ -2068,15 +3904,15 @@
     </message>
     <message>
         <source>the attribute &quot;%1&quot; of &quot;%2&quot;</source>
-        <translation>l’attribut « %1 » de « %2 »</translation>
+        <translation>l’attribut «&#xa0;%1&#xa0;» de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>the element &quot;%1&quot; in &quot;%2&quot;</source>
-        <translation>l’élément « %1 » dans « %2 »</translation>
+        <translation>l’élément «&#xa0;%1&#xa0;» dans «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>a colour: #rrggbb, #rrggbbaa, or a name such as white</source>
-        <translation>une couleur : #rrggbb, #rrggbbaa, ou un nom comme white</translation>
+        <translation>une couleur&#xa0;: #rrggbb, #rrggbbaa, ou un nom comme white</translation>
     </message>
     <message>
         <source>%1, joined with +, or none</source>
@@ -2088,39 +3924,39 @@
     </message>
     <message>
         <source>workers: not confined on this system</source>
-        <translation>processus de traitement : non isolés sur ce système</translation>
+        <translation>processus de traitement&#xa0;: non isolés sur ce système</translation>
     </message>
     <message>
         <source>files of workers: not restricted, as the kernel has no Landlock</source>
-        <translation>fichiers des processus de traitement : sans restriction, car le noyau n’a pas Landlock</translation>
+        <translation>fichiers des processus de traitement&#xa0;: sans restriction, car le noyau n’a pas Landlock</translation>
     </message>
     <message>
         <source>files of workers: those of the job, by Landlock %1, with scopes for signals and sockets</source>
-        <translation>fichiers des processus de traitement : ceux du travail, par Landlock %1, avec cloisonnement des signaux et sockets</translation>
+        <translation>fichiers des processus de traitement&#xa0;: ceux du travail, par Landlock %1, avec cloisonnement des signaux et sockets</translation>
     </message>
     <message>
         <source>files of workers: those of the job, by Landlock %1, without scopes for signals and sockets</source>
-        <translation>fichiers des processus de traitement : ceux du travail, par Landlock %1, sans cloisonnement des signaux et sockets</translation>
+        <translation>fichiers des processus de traitement&#xa0;: ceux du travail, par Landlock %1, sans cloisonnement des signaux et sockets</translation>
     </message>
     <message>
         <source>system calls of workers: a list of allowed ones, by seccomp</source>
-        <translation>appels système des processus de traitement : une liste autorisée, par seccomp</translation>
+        <translation>appels système des processus de traitement&#xa0;: une liste autorisée, par seccomp</translation>
     </message>
     <message>
         <source>system calls of workers: not restricted, as the kernel has no seccomp</source>
-        <translation>appels système des processus de traitement : sans restriction, car le noyau n’a pas seccomp</translation>
+        <translation>appels système des processus de traitement&#xa0;: sans restriction, car le noyau n’a pas seccomp</translation>
     </message>
     <message>
         <source>memory of the supervisor: closed to other processes of the user (not dumpable)</source>
-        <translation>mémoire du superviseur : fermée aux autres processus de l’utilisateur (non lisible)</translation>
+        <translation>mémoire du superviseur&#xa0;: fermée aux autres processus de l’utilisateur (non lisible)</translation>
     </message>
     <message>
         <source>the copyright notice &quot;%1&quot; is only in %2, which is not kept; keep=copyright keeps it</source>
-        <translation>la mention de copyright « %1 » n’est que dans %2, qui n’est pas conservé ; keep=copyright la conserve</translation>
+        <translation>la mention de copyright «&#xa0;%1&#xa0;» n’est que dans %2, qui n’est pas conservé&#x202f;; keep=copyright la conserve</translation>
     </message>
     <message>
         <source>the copyright notice &quot;%1&quot; is only in %2 and %3, which are not kept; keep=copyright keeps it</source>
-        <translation>la mention de copyright « %1 » n’est que dans %2 et %3, qui ne sont pas conservés ; keep=copyright la conserve</translation>
+        <translation>la mention de copyright «&#xa0;%1&#xa0;» n’est que dans %2 et %3, qui ne sont pas conservés&#x202f;; keep=copyright la conserve</translation>
     </message>
     <message>
         <source>the format of each input</source>
@@ -2128,23 +3964,23 @@
     </message>
     <message>
         <source>--dry-run and %1 cannot be combined; remove one of them</source>
-        <translation>--dry-run et %1 ne peuvent pas être combinés ; retirez l’un des deux</translation>
+        <translation>--dry-run et %1 ne peuvent pas être combinés&#x202f;; retirez l’un des deux</translation>
     </message>
     <message>
         <source>%1 and --preset exclude each other: give one of them to start from</source>
-        <translation>%1 et --preset s’excluent : n’en donnez qu’un comme point de départ</translation>
+        <translation>%1 et --preset s’excluent&#xa0;: n’en donnez qu’un comme point de départ</translation>
     </message>
     <message>
         <source>no file name for the job: velkora-batch create JOB.xml INPUT...</source>
-        <translation>pas de nom de fichier pour le travail : velkora-batch create JOB.xml INPUT...</translation>
+        <translation>pas de nom de fichier pour le travail&#xa0;: velkora-batch create JOB.xml INPUT...</translation>
     </message>
     <message>
         <source>the first argument must be the file of the job, with a name that ends with .xml, but is &quot;%1&quot;</source>
-        <translation>le premier argument doit être le fichier du travail, avec un nom en .xml, mais c’est « %1 »</translation>
+        <translation>le premier argument doit être le fichier du travail, avec un nom en .xml, mais c’est «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>there is no file &quot;-&quot;; to read names from standard input, use --files-from -</source>
-        <translation>il n’y a pas de fichier « - » ; pour lire des noms sur l’entrée standard, utilisez --files-from -</translation>
+        <translation>il n’y a pas de fichier «&#xa0;-&#xa0;»&#x202f;; pour lire des noms sur l’entrée standard, utilisez --files-from -</translation>
     </message>
     <message>
         <source>--null needs %1</source>
@@ -2152,19 +3988,19 @@
     </message>
     <message>
         <source>%1 -: standard input is a terminal; pipe a list into it, or name a file</source>
-        <translation>%1 - : l’entrée standard est un terminal ; envoyez-y une liste, ou indiquez un fichier</translation>
+        <translation>%1 -&#xa0;: l’entrée standard est un terminal&#x202f;; envoyez-y une liste, ou indiquez un fichier</translation>
     </message>
     <message>
         <source>%1 cannot be used with --in-place without --output: results go to the folders of their originals</source>
-        <translation>%1 ne va pas avec --in-place sans --output : les résultats vont dans les dossiers de leurs originaux</translation>
+        <translation>%1 ne va pas avec --in-place sans --output&#xa0;: les résultats vont dans les dossiers de leurs originaux</translation>
     </message>
     <message>
         <source>no pictures: %1 matches nothing</source>
-        <translation>pas d’images : %1 ne correspond à rien</translation>
+        <translation>pas d’images&#xa0;: %1 ne correspond à rien</translation>
     </message>
     <message>
         <source>no pictures: %1 and %2 match nothing</source>
-        <translation>pas d’images : %1 et %2 ne correspondent à rien</translation>
+        <translation>pas d’images&#xa0;: %1 et %2 ne correspondent à rien</translation>
     </message>
     <message>
         <source>no inputs</source>
@@ -2172,23 +4008,23 @@
     </message>
     <message>
         <source>%1 is not for &quot;presets %2&quot;, but for &quot;presets %3&quot;</source>
-        <translation>%1 ne va pas avec « presets %2 », mais avec « presets %3 »</translation>
+        <translation>%1 ne va pas avec «&#xa0;presets %2&#xa0;», mais avec «&#xa0;presets %3&#xa0;»</translation>
     </message>
     <message>
         <source>the name of the preset is missing: velkora-batch presets %1 NAME</source>
-        <translation>le nom du préréglage manque : velkora-batch presets %1 NAME</translation>
+        <translation>le nom du préréglage manque&#xa0;: velkora-batch presets %1 NAME</translation>
     </message>
     <message>
         <source>a preset has no inputs, but &quot;%1&quot; is given behind its name</source>
-        <translation>un préréglage n’a pas d’entrées, mais « %1 » suit son nom</translation>
+        <translation>un préréglage n’a pas d’entrées, mais «&#xa0;%1&#xa0;» suit son nom</translation>
     </message>
     <message>
         <source>one preset at a time, but &quot;%1&quot; is given behind its name</source>
-        <translation>un seul préréglage à la fois, mais « %1 » suit son nom</translation>
+        <translation>un seul préréglage à la fois, mais «&#xa0;%1&#xa0;» suit son nom</translation>
     </message>
     <message>
         <source>list takes no name, but &quot;%1&quot; is given; &quot;velkora-batch show --preset NAME&quot; prints a preset</source>
-        <translation>list ne prend pas de nom, mais « %1 » est donné ; « velkora-batch show --preset NAME » affiche un préréglage</translation>
+        <translation>list ne prend pas de nom, mais «&#xa0;%1&#xa0;» est donné&#x202f;; «&#xa0;velkora-batch show --preset NAME&#xa0;» affiche un préréglage</translation>
     </message>
     <message>
         <source>%1 needs --resume</source>
@@ -2196,47 +4032,47 @@
     </message>
     <message>
         <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
-        <translation>%1/BatchExceptionPolicy.ini contient la valeur %2, qui est invalide ; %3 passe avant elle</translation>
+        <translation>%1/BatchExceptionPolicy.ini contient la valeur %2, qui est invalide&#x202f;; %3 passe avant elle</translation>
     </message>
     <message>
         <source>unknown option %1; %2</source>
-        <translation>option inconnue %1 ; %2</translation>
+        <translation>option inconnue %1&#x202f;; %2</translation>
     </message>
     <message>
         <source>it is an option of %1; &quot;velkora-batch %2 --help&quot; lists the options</source>
-        <translation>c’est une option de %1 ; « velkora-batch %2 --help » liste les options</translation>
+        <translation>c’est une option de %1&#x202f;; «&#xa0;velkora-batch %2 --help&#xa0;» liste les options</translation>
     </message>
     <message>
         <source>&quot;velkora-batch %1 --help&quot; lists the options</source>
-        <translation>« velkora-batch %1 --help » liste les options</translation>
+        <translation>«&#xa0;velkora-batch %1 --help&#xa0;» liste les options</translation>
     </message>
     <message>
         <source>did you mean &quot;%1&quot;?</source>
-        <translation>vouliez-vous dire « %1 » ?</translation>
+        <translation>vouliez-vous dire «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>%1 is a folder, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
-        <translation>%1 est un dossier, pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+        <translation>%1 est un dossier, pas une commande&#x202f;; vouliez-vous dire «&#xa0;velkora-batch run %1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>%1 is a file, not a command; did you mean &quot;velkora-batch run %1&quot;?</source>
-        <translation>%1 est un fichier, pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+        <translation>%1 est un fichier, pas une commande&#x202f;; vouliez-vous dire «&#xa0;velkora-batch run %1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>%1 is no command; did you mean &quot;velkora-batch run %1&quot;?</source>
-        <translation>%1 n’est pas une commande ; vouliez-vous dire « velkora-batch run %1 » ?</translation>
+        <translation>%1 n’est pas une commande&#x202f;; vouliez-vous dire «&#xa0;velkora-batch run %1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>unknown command &quot;%1&quot;; did you mean &quot;velkora-batch %2&quot;?</source>
-        <translation>commande inconnue « %1 » ; vouliez-vous dire « velkora-batch %2 » ?</translation>
+        <translation>commande inconnue «&#xa0;%1&#xa0;»&#x202f;; vouliez-vous dire «&#xa0;velkora-batch %2&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>unknown command: %1</source>
-        <translation>commande inconnue : %1</translation>
+        <translation>commande inconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>no command: use one of %1, or &quot;velkora-batch --help&quot;</source>
-        <translation>pas de commande : utilisez %1, ou « velkora-batch --help »</translation>
+        <translation>pas de commande&#xa0;: utilisez %1, ou «&#xa0;velkora-batch --help&#xa0;»</translation>
     </message>
     <message>
         <source>%1 is not allowed before the command, only %2</source>
@@ -2248,11 +4084,11 @@
     </message>
     <message>
         <source>argument %1, &quot;%2&quot;, contains a character that a job cannot hold</source>
-        <translation>l’argument %1, « %2 », contient un caractère qu’un travail ne peut pas contenir</translation>
+        <translation>l’argument %1, «&#xa0;%2&#xa0;», contient un caractère qu’un travail ne peut pas contenir</translation>
     </message>
     <message>
         <source>%1 is a switch and takes no value; type %1 alone, or leave it out</source>
-        <translation>%1 est un commutateur sans valeur ; tapez %1 seul, ou omettez-le</translation>
+        <translation>%1 est un commutateur sans valeur&#x202f;; tapez %1 seul, ou omettez-le</translation>
     </message>
     <message>
         <source>an input of %1 has an empty name</source>
@@ -2260,11 +4096,11 @@
     </message>
     <message>
         <source>%1 is given %2 times, but takes one value; remove &quot;%3&quot; or &quot;%4&quot;</source>
-        <translation>%1 est donné %2 fois, mais ne prend qu’une valeur ; retirez « %3 » ou « %4 »</translation>
+        <translation>%1 est donné %2 fois, mais ne prend qu’une valeur&#x202f;; retirez «&#xa0;%3&#xa0;» ou «&#xa0;%4&#xa0;»</translation>
     </message>
     <message>
         <source>%1: 1 required %2 missing</source>
-        <translation>%1 : la valeur %2 manque</translation>
+        <translation>%1&#xa0;: la valeur %2 manque</translation>
     </message>
     <message>
         <source>Inputs</source>
@@ -2276,7 +4112,7 @@
     </message>
     <message>
         <source>also takes the files and folders that a file names, one a line, or standard input for &quot;-&quot;. Relative names start at the current folder</source>
-        <translation>prend aussi les fichiers et dossiers que nomme un fichier, un par ligne ; « - » désigne l’entrée standard. Les noms relatifs partent du dossier courant</translation>
+        <translation>prend aussi les fichiers et dossiers que nomme un fichier, un par ligne&#x202f;; «&#xa0;-&#xa0;» désigne l’entrée standard. Les noms relatifs partent du dossier courant</translation>
     </message>
     <message>
         <source>the names of --files-from are separated by NUL, not by line ends</source>
@@ -2284,7 +4120,7 @@
     </message>
     <message>
         <source>takes only files whose names match, such as &quot;*.{nef,cr2}&quot;, or whose paths in the given folders match, such as &quot;2024/**/*.jpg&quot;; default: all that can be read. Files that are given by name are always taken</source>
-        <translation>ne prend que les fichiers dont le nom correspond, comme « *.{nef,cr2} », ou dont le chemin dans les dossiers donnés correspond, comme « 2024/**/*.jpg » ; par défaut : tous ceux qui sont lisibles. Les fichiers donnés par leur nom sont toujours pris</translation>
+        <translation>ne prend que les fichiers dont le nom correspond, comme «&#xa0;*.{nef,cr2}&#xa0;», ou dont le chemin dans les dossiers donnés correspond, comme «&#xa0;2024/**/*.jpg&#xa0;»&#x202f;; par défaut&#xa0;: tous ceux qui sont lisibles. Les fichiers donnés par leur nom sont toujours pris</translation>
     </message>
     <message>
         <source>leaves out files and folders whose names or paths match, inside the given folders</source>
@@ -2300,7 +4136,7 @@
     </message>
     <message>
         <source>the order of the pictures, which numbers in names follow: taken, by capture time, and by the file&apos;s own time where there is none; name, folder by folder; given, as the command line names them. The default is name, or the order of the saved job</source>
-        <translation>l’ordre des images, que suivent les numéros dans les noms : taken, par date de prise de vue, à défaut par date du fichier ; name, dossier par dossier ; given, comme sur la ligne de commande. Par défaut : name, ou l’ordre du travail enregistré</translation>
+        <translation>l’ordre des images, que suivent les numéros dans les noms&#xa0;: taken, par date de prise de vue, à défaut par date du fichier&#x202f;; name, dossier par dossier&#x202f;; given, comme sur la ligne de commande. Par défaut&#xa0;: name, ou l’ordre du travail enregistré</translation>
     </message>
     <message>
         <source>General</source>
@@ -2328,19 +4164,19 @@
     </message>
     <message>
         <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
-        <translation>traite un travail enregistré, des fichiers et dossiers, ou les deux ; les options passent avant le travail. Code de sortie : 0 si toutes les images ont été écrites, ou ignorées par une règle nommée dans une option ; 1 si certaines ont échoué ou ont été ignorées autrement ; 2 si les arguments ou le travail sont incorrects ; 3 si le serveur n’a pas pu être lancé ou a été perdu ; 4 si l’exécution a été annulée ; 5 s’il n’y a pas d’image parmi les entrées ; 6 si cette exécution est déjà en cours ; 7 s’il n’y a rien à reprendre</translation>
+        <translation>traite un travail enregistré, des fichiers et dossiers, ou les deux&#x202f;; les options passent avant le travail. Code de sortie&#xa0;: 0 si toutes les images ont été écrites, ou ignorées par une règle nommée dans une option&#x202f;; 1 si certaines ont échoué ou ont été ignorées autrement&#x202f;; 2 si les arguments ou le travail sont incorrects&#x202f;; 3 si le serveur n’a pas pu être lancé ou a été perdu&#x202f;; 4 si l’exécution a été annulée&#x202f;; 5 s’il n’y a pas d’image parmi les entrées&#x202f;; 6 si cette exécution est déjà en cours&#x202f;; 7 s’il n’y a rien à reprendre</translation>
     </message>
     <message>
         <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
-        <translation>écrit un travail avec ces entrées et options dans un fichier, ou sur la sortie standard pour « - »</translation>
+        <translation>écrit un travail avec ces entrées et options dans un fichier, ou sur la sortie standard pour «&#xa0;-&#xa0;»</translation>
     </message>
     <message>
         <source>prints a job: its inputs as a tree, its effects, and its output in the words of the options</source>
-        <translation>affiche un travail : ses entrées en arbre, ses effets, et sa sortie dans les mots des options</translation>
+        <translation>affiche un travail&#xa0;: ses entrées en arbre, ses effets, et sa sortie dans les mots des options</translation>
     </message>
     <message>
         <source>prints every input with its output and its size in pixels, and writes nothing. A problem is printed in brackets, with what the policy would do about it. Exit status: 1 when there are problems</source>
-        <translation>affiche chaque entrée avec sa sortie et sa taille en pixels, et n’écrit rien. Un problème est affiché entre crochets, avec ce que la règle en ferait. Code de sortie : 1 s’il y a des problèmes</translation>
+        <translation>affiche chaque entrée avec sa sortie et sa taille en pixels, et n’écrit rien. Un problème est affiché entre crochets, avec ce que la règle en ferait. Code de sortie&#xa0;: 1 s’il y a des problèmes</translation>
     </message>
     <message>
         <source>does not look at every picture for its size in pixels, which takes time for many</source>
@@ -2360,55 +4196,55 @@
     </message>
     <message>
         <source>%1 and %2 contradict each other; remove one of them</source>
-        <translation>%1 et %2 se contredisent ; retirez l’un des deux</translation>
+        <translation>%1 et %2 se contredisent&#x202f;; retirez l’un des deux</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT with an optional unit, such as 800x600, 15x10cm or 6x4in</source>
-        <translation>« %1 » n’a pas la forme WIDTHxHEIGHT avec une unité facultative, comme 800x600, 15x10cm ou 6x4in</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas la forme WIDTHxHEIGHT avec une unité facultative, comme 800x600, 15x10cm ou 6x4in</translation>
     </message>
     <message>
         <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers, such as %3; or add a unit, as in %4cm</source>
-        <translation>« %1 » signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers, comme %3 ; ou ajoutez une unité, comme dans %4cm</translation>
+        <translation>«&#xa0;%1&#xa0;» signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers, comme %3&#x202f;; ou ajoutez une unité, comme dans %4cm</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large; each side must be from 1 to %2 pixels</source>
-        <translation>« %1 » est trop grand ; chaque côté doit mesurer de 1 à %2 pixels</translation>
+        <translation>«&#xa0;%1&#xa0;» est trop grand&#x202f;; chaque côté doit mesurer de 1 à %2 pixels</translation>
     </message>
     <message>
         <source>&quot;%1&quot; needs a resolution; add --resolution, as in --resolution 300</source>
-        <translation>« %1 » exige une résolution ; ajoutez --resolution, comme dans --resolution 300</translation>
+        <translation>«&#xa0;%1&#xa0;» exige une résolution&#x202f;; ajoutez --resolution, comme dans --resolution 300</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2 pixels at %3 dots per inch; each side must be from 1 to %4</source>
-        <translation>« %1 » fait %2 pixels à %3 points par pouce ; chaque côté doit mesurer de 1 à %4</translation>
+        <translation>«&#xa0;%1&#xa0;» fait %2 pixels à %3 points par pouce&#x202f;; chaque côté doit mesurer de 1 à %4</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2 x %3 pixels, but the size is %4: type %5 for the unit of the size, or %6 for pixels</source>
-        <translation>« %1 » fait %2 x %3 pixels, mais la taille est %4 : tapez %5 pour l’unité de la taille, ou %6 pour des pixels</translation>
+        <translation>«&#xa0;%1&#xa0;» fait %2 x %3 pixels, mais la taille est %4&#xa0;: tapez %5 pour l’unité de la taille, ou %6 pour des pixels</translation>
     </message>
     <message>
         <source>&quot;%1:%2&quot; needs a size, such as %1:3x2%2</source>
-        <translation>« %1:%2 » exige une taille, comme %1:3x2%2</translation>
+        <translation>«&#xa0;%1:%2&#xa0;» exige une taille, comme %1:3x2%2</translation>
     </message>
     <message>
         <source>&quot;%1:%2&quot; has a unit, but a ratio has no unit: type %1:%3, or fill:%2 for that size</source>
-        <translation>« %1:%2 » a une unité, mais un rapport n’en a pas : tapez %1:%3, ou fill:%2 pour cette taille</translation>
+        <translation>«&#xa0;%1:%2&#xa0;» a une unité, mais un rapport n’en a pas&#xa0;: tapez %1:%3, ou fill:%2 pour cette taille</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends with &quot;!&quot;, but only ratio and interesting turn with the picture; remove the &quot;!&quot;</source>
-        <translation>« %1 » finit par « ! », mais seuls ratio et interesting tournent avec l’image ; retirez le « ! »</translation>
+        <translation>«&#xa0;%1&#xa0;» finit par «&#x202f;!&#xa0;», mais seuls ratio et interesting tournent avec l’image&#x202f;; retirez le «&#x202f;!&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has a comma; decimals are written with a point, as in %2</source>
-        <translation>« %1 » a une virgule ; les décimales s’écrivent avec un point, comme dans %2</translation>
+        <translation>«&#xa0;%1&#xa0;» a une virgule&#x202f;; les décimales s’écrivent avec un point, comme dans %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no size</source>
-        <translation>« %1 » ne prend pas de taille</translation>
+        <translation>«&#xa0;%1&#xa0;» ne prend pas de taille</translation>
     </message>
     <message>
         <source>&quot;%1&quot; needs a size, such as %1:3x2</source>
-        <translation>« %1 » exige une taille, comme %1:3x2</translation>
+        <translation>«&#xa0;%1&#xa0;» exige une taille, comme %1:3x2</translation>
     </message>
     <message>
         <source>Pictures for the web, at most 1600 pixels long</source>
@@ -2512,7 +4348,7 @@
     </message>
     <message>
         <source>&quot;velkora-batch plan&quot; prints what a run would write</source>
-        <translation>« velkora-batch plan » affiche ce qu’une exécution écrirait</translation>
+        <translation>«&#xa0;velkora-batch plan&#xa0;» affiche ce qu’une exécution écrirait</translation>
     </message>
     <message>
         <source>name a saved job as the first input</source>
@@ -2520,15 +4356,15 @@
     </message>
     <message>
         <source>use &quot;velkora-batch formats&quot;</source>
-        <translation>utilisez « velkora-batch formats »</translation>
+        <translation>utilisez «&#xa0;velkora-batch formats&#xa0;»</translation>
     </message>
     <message>
         <source>use &quot;velkora-batch effects&quot;</source>
-        <translation>utilisez « velkora-batch effects »</translation>
+        <translation>utilisez «&#xa0;velkora-batch effects&#xa0;»</translation>
     </message>
     <message>
         <source>use &quot;velkora-batch --version&quot;</source>
-        <translation>utilisez « velkora-batch --version »</translation>
+        <translation>utilisez «&#xa0;velkora-batch --version&#xa0;»</translation>
     </message>
     <message>
         <source>use --%1</source>
@@ -2536,15 +4372,15 @@
     </message>
     <message>
         <source>use --effect %1; &quot;velkora-batch effects %1&quot; lists its parameters</source>
-        <translation>utilisez --effect %1 ; « velkora-batch effects %1 » liste ses paramètres</translation>
+        <translation>utilisez --effect %1&#x202f;; «&#xa0;velkora-batch effects %1&#xa0;» liste ses paramètres</translation>
     </message>
     <message>
         <source>processes pictures in batches: effects, size, crop, frame, format and names</source>
-        <translation>traite des images par lots : effets, taille, recadrage, cadre, format et noms</translation>
+        <translation>traite des images par lots&#xa0;: effets, taille, recadrage, cadre, format et noms</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without a shadow; add --shadow</source>
-        <translation>« %1 » n’a pas d’effet sans ombre ; ajoutez --shadow</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans ombre&#x202f;; ajoutez --shadow</translation>
     </message>
     <message>
         <source>%1 is not an ICC profile</source>
@@ -2560,7 +4396,7 @@
     </message>
     <message>
         <source>the folder for the results; it is created when it does not exist, and a relative one starts at the current folder</source>
-        <translation>le dossier des résultats ; il est créé s’il n’existe pas, et un dossier relatif part du dossier courant</translation>
+        <translation>le dossier des résultats&#x202f;; il est créé s’il n’existe pas, et un dossier relatif part du dossier courant</translation>
     </message>
     <message>
         <source>the name of the folder is empty</source>
@@ -2568,19 +4404,19 @@
     </message>
     <message>
         <source>the folders below it: flat, none; input, as in the inputs; date, by capture date, or that of the file where a picture has none</source>
-        <translation>les dossiers à l’intérieur : flat, aucun ; input, comme dans les entrées ; date, par date de prise de vue, ou celle du fichier si une image n’en a pas</translation>
+        <translation>les dossiers à l’intérieur&#xa0;: flat, aucun&#x202f;; input, comme dans les entrées&#x202f;; date, par date de prise de vue, ou celle du fichier si une image n’en a pas</translation>
     </message>
     <message>
         <source>the format of results, by name or extension; Original keeps that of each input. Changing the format of a saved job drops its format options</source>
-        <translation>le format des résultats, par nom ou extension ; Original garde celui de chaque entrée. Changer le format d’un travail enregistré écarte ses options de format</translation>
+        <translation>le format des résultats, par nom ou extension&#x202f;; Original garde celui de chaque entrée. Changer le format d’un travail enregistré écarte ses options de format</translation>
     </message>
     <message>
         <source>an option of the format, such as quality=90; &quot;velkora-batch formats&quot; lists them</source>
-        <translation>une option du format, comme quality=90 ; « velkora-batch formats » les liste</translation>
+        <translation>une option du format, comme quality=90&#x202f;; «&#xa0;velkora-batch formats&#xa0;» les liste</translation>
     </message>
     <message>
         <source>an ICC profile to convert results to and to embed; none keeps each input&apos;s own</source>
-        <translation>un profil ICC vers lequel convertir les résultats et à incorporer ; none garde celui de chaque entrée</translation>
+        <translation>un profil ICC vers lequel convertir les résultats et à incorporer&#x202f;; none garde celui de chaque entrée</translation>
     </message>
     <message>
         <source>Names of results</source>
@@ -2588,11 +4424,11 @@
     </message>
     <message>
         <source>what a name begins with; PART is the same as for --name</source>
-        <translation>ce par quoi un nom commence ; PART est comme pour --name</translation>
+        <translation>ce par quoi un nom commence&#x202f;; PART est comme pour --name</translation>
     </message>
     <message>
         <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
-        <translation>le milieu d’un nom : original, le nom de l’entrée ; number, number:START ou number:START:DIGITS ; date et time, ceux de la prise de vue, ou du fichier si une image n’en a pas ; text:TEXT ; nothing</translation>
+        <translation>le milieu d’un nom&#xa0;: original, le nom de l’entrée&#x202f;; number, number:START ou number:START:DIGITS&#x202f;; date et time, ceux de la prise de vue, ou du fichier si une image n’en a pas&#x202f;; text:TEXT&#x202f;; nothing</translation>
     </message>
     <message>
         <source>what a name ends with</source>
@@ -2604,7 +4440,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without a prefix; add --prefix</source>
-        <translation>« %1 » n’a pas d’effet sans préfixe ; ajoutez --prefix</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans préfixe&#x202f;; ajoutez --prefix</translation>
     </message>
     <message>
         <source>the text between middle and suffix</source>
@@ -2612,11 +4448,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without a suffix; add --suffix</source>
-        <translation>« %1 » n’a pas d’effet sans suffixe ; ajoutez --suffix</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans suffixe&#x202f;; ajoutez --suffix</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a size, and this option says which pictures change; use --size %2</source>
-        <translation>« %1 » est une taille, et cette option dit quelles images changent ; utilisez --size %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est une taille, et cette option dit quelles images changent&#x202f;; utilisez --size %2</translation>
     </message>
     <message>
         <source>Size and crop</source>
@@ -2624,7 +4460,7 @@
     </message>
     <message>
         <source>scales pictures to a length of one side, such as 1600, 50%, 8in, 20cm or 200mm; none keeps the size</source>
-        <translation>met les images à une longueur d’un côté, comme 1600, 50%, 8in, 20cm ou 200mm ; none garde la taille</translation>
+        <translation>met les images à une longueur d’un côté, comme 1600, 50%, 8in, 20cm ou 200mm&#x202f;; none garde la taille</translation>
     </message>
     <message>
         <source>the side that --size sets</source>
@@ -2632,19 +4468,19 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without a size; add --size</source>
-        <translation>« %1 » n’a pas d’effet sans taille ; ajoutez --size</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans taille&#x202f;; ajoutez --size</translation>
     </message>
     <message>
         <source>which pictures --size changes: reduce, only larger ones (default); enlarge, only smaller ones; fit, both; none</source>
-        <translation>quelles images --size change : reduce, seulement les plus grandes (par défaut) ; enlarge, seulement les plus petites ; fit, les deux ; none</translation>
+        <translation>quelles images --size change&#xa0;: reduce, seulement les plus grandes (par défaut)&#x202f;; enlarge, seulement les plus petites&#x202f;; fit, les deux&#x202f;; none</translation>
     </message>
     <message>
         <source>dots per inch, for lengths in in, cm and mm; also written into results</source>
-        <translation>points par pouce, pour les longueurs en in, cm et mm ; aussi écrits dans les résultats</translation>
+        <translation>points par pouce, pour les longueurs en in, cm et mm&#x202f;; aussi écrits dans les résultats</translation>
     </message>
     <message>
         <source>none; trim, cuts off a border of one colour; or with WIDTHxHEIGHT: ratio:3x2, the largest frame of that ratio, upright in upright pictures, or ratio:3x2!, never turned; interesting:3x2, the frame of that ratio that draws the eye; fill:800x600 or fill:15x10cm, scales to cover, then cuts; exact:800x600, that many pixels. in, cm and mm become pixels by --resolution</source>
-        <translation>none ; trim, coupe une bordure unie ; ou avec WIDTHxHEIGHT : ratio:3x2, le plus grand cadrage de ce rapport, vertical pour les images verticales, ou ratio:3x2!, jamais tourné ; interesting:3x2, le cadrage de ce rapport qui attire l’œil ; fill:800x600 ou fill:15x10cm, met à l’échelle pour couvrir, puis coupe ; exact:800x600, autant de pixels. in, cm et mm deviennent des pixels par --resolution</translation>
+        <translation>none&#x202f;; trim, coupe une bordure unie&#x202f;; ou avec WIDTHxHEIGHT&#xa0;: ratio:3x2, le plus grand cadrage de ce rapport, vertical pour les images verticales, ou ratio:3x2!, jamais tourné&#x202f;; interesting:3x2, le cadrage de ce rapport qui attire l’œil&#x202f;; fill:800x600 ou fill:15x10cm, met à l’échelle pour couvrir, puis coupe&#x202f;; exact:800x600, autant de pixels. in, cm et mm deviennent des pixels par --resolution</translation>
     </message>
     <message>
         <source>where ratio, fill and exact place the frame in the picture</source>
@@ -2652,7 +4488,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without --crop ratio, fill or exact; add one of them</source>
-        <translation>« %1 » n’a pas d’effet sans --crop ratio, fill ou exact ; ajoutez l’un d’eux</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans --crop ratio, fill ou exact&#x202f;; ajoutez l’un d’eux</translation>
     </message>
     <message>
         <source>Frame</source>
@@ -2660,11 +4496,11 @@
     </message>
     <message>
         <source>puts pictures on a frame with margins in pixels: one number for all sides, or LEFT,TOP,RIGHT,BOTTOM; none removes the frame. Each of the options below adds a frame</source>
-        <translation>place les images sur un cadre avec des marges en pixels : un nombre pour tous les côtés, ou LEFT,TOP,RIGHT,BOTTOM ; none retire le cadre. Chacune des options suivantes ajoute un cadre</translation>
+        <translation>place les images sur un cadre avec des marges en pixels&#xa0;: un nombre pour tous les côtés, ou LEFT,TOP,RIGHT,BOTTOM&#x202f;; none retire le cadre. Chacune des options suivantes ajoute un cadre</translation>
     </message>
     <message>
         <source>the size of the frame in pixels; picture: the size of each picture</source>
-        <translation>la taille du cadre en pixels ; picture : la taille de chaque image</translation>
+        <translation>la taille du cadre en pixels&#x202f;; picture&#xa0;: la taille de chaque image</translation>
     </message>
     <message>
         <source>turns the picture on its frame, clockwise</source>
@@ -2680,7 +4516,7 @@
     </message>
     <message>
         <source>the background of the frame: none; colour:#rrggbb; pattern:0 to pattern:7, with :PERCENT for its scale; image:FILE</source>
-        <translation>l’arrière-plan du cadre : none ; colour:#rrggbb ; pattern:0 à pattern:7, avec :PERCENT pour son échelle ; image:FILE</translation>
+        <translation>l’arrière-plan du cadre&#xa0;: none&#x202f;; colour:#rrggbb&#x202f;; pattern:0 à pattern:7, avec&#xa0;:PERCENT pour son échelle&#x202f;; image:FILE</translation>
     </message>
     <message>
         <source>the opacity of the background</source>
@@ -2688,11 +4524,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no effect without a background; add --background</source>
-        <translation>« %1 » n’a pas d’effet sans arrière-plan ; ajoutez --background</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans arrière-plan&#x202f;; ajoutez --background</translation>
     </message>
     <message>
         <source>the shadow of the picture: drop; glow, around it; none</source>
-        <translation>l’ombre de l’image : drop ; glow, tout autour ; none</translation>
+        <translation>l’ombre de l’image&#xa0;: drop&#x202f;; glow, tout autour&#x202f;; none</translation>
     </message>
     <message>
         <source>#rrggbb or a name</source>
@@ -2704,7 +4540,7 @@
     </message>
     <message>
         <source>where the light comes from: 0 from the right, 90 from above</source>
-        <translation>d’où vient la lumière : 0 de droite, 90 d’en haut</translation>
+        <translation>d’où vient la lumière&#xa0;: 0 de droite, 90 d’en haut</translation>
     </message>
     <message>
         <source>how far the shadow lies from the picture</source>
@@ -2724,23 +4560,23 @@
     </message>
     <message>
         <source>adds an effect after those of the job, such as blur:sigma=2. NAME:{JSON} works as well; off:NAME adds the effect disabled. &quot;velkora-batch effects&quot; lists all effects</source>
-        <translation>ajoute un effet après ceux du travail, comme blur:sigma=2. NAME:{JSON} convient aussi ; off:NAME ajoute l’effet désactivé. « velkora-batch effects » liste tous les effets</translation>
+        <translation>ajoute un effet après ceux du travail, comme blur:sigma=2. NAME:{JSON} convient aussi&#x202f;; off:NAME ajoute l’effet désactivé. «&#xa0;velkora-batch effects&#xa0;» liste tous les effets</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a length above 0 and up to %2, such as 1600, 50%, 8in, 20cm or 200mm; &quot;none&quot; keeps the size</source>
-        <translation>« %1 » n’est pas une longueur au-dessus de 0 et jusqu’à %2, comme 1600, 50%, 8in, 20cm ou 200mm ; « none » garde la taille</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une longueur au-dessus de 0 et jusqu’à %2, comme 1600, 50%, 8in, 20cm ou 200mm&#x202f;; «&#xa0;none&#xa0;» garde la taille</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has a comma; a size is one length, such as 1600 or 20.5cm</source>
-        <translation>« %1 » a une virgule ; une taille est une seule longueur, comme 1600 ou 20.5cm</translation>
+        <translation>«&#xa0;%1&#xa0;» a une virgule&#x202f;; une taille est une seule longueur, comme 1600 ou 20.5cm</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has a comma; decimals are written with a point: type %2</source>
-        <translation>« %1 » a une virgule ; les décimales s’écrivent avec un point : tapez %2</translation>
+        <translation>«&#xa0;%1&#xa0;» a une virgule&#x202f;; les décimales s’écrivent avec un point&#xa0;: tapez %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has a comma, which no number has: type %2 for that many pixels, %3cm for decimals, or --crop fill:%4 for a width and a height</source>
-        <translation>« %1 » a une virgule, qu’aucun nombre n’a : tapez %2 pour autant de pixels, %3cm pour des décimales, ou --crop fill:%4 pour une largeur et une hauteur</translation>
+        <translation>«&#xa0;%1&#xa0;» a une virgule, qu’aucun nombre n’a&#xa0;: tapez %2 pour autant de pixels, %3cm pour des décimales, ou --crop fill:%4 pour une largeur et une hauteur</translation>
     </message>
     <message>
         <source>type %1 for that many pixels</source>
@@ -2764,7 +4600,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is a width and a height, but a size is the length of one side: type one of them, with --side to say which, or --crop fill:%2 for exactly that</source>
-        <translation>« %1 » est une largeur et une hauteur, mais une taille est la longueur d’un côté : tapez l’une des deux, avec --side pour dire laquelle, ou --crop fill:%2 pour exactement cela</translation>
+        <translation>«&#xa0;%1&#xa0;» est une largeur et une hauteur, mais une taille est la longueur d’un côté&#xa0;: tapez l’une des deux, avec --side pour dire laquelle, ou --crop fill:%2 pour exactement cela</translation>
     </message>
     <message>
         <source>%1 (unit %2)</source>
@@ -2772,15 +4608,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; does not have the form KEY=VALUE</source>
-        <translation>« %1 » n’a pas la forme KEY=VALUE</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas la forme KEY=VALUE</translation>
     </message>
     <message>
         <source>it takes no parameters, but &quot;%1&quot; is given</source>
-        <translation>il ne prend pas de paramètres, mais « %1 » est donné</translation>
+        <translation>il ne prend pas de paramètres, mais «&#xa0;%1&#xa0;» est donné</translation>
     </message>
     <message>
         <source>unknown effect &quot;%1&quot;; the effects are %2</source>
-        <translation>effet inconnu « %1 » ; les effets sont %2</translation>
+        <translation>effet inconnu «&#xa0;%1&#xa0;»&#x202f;; les effets sont %2</translation>
     </message>
     <message>
         <source>effect %1</source>
@@ -2792,23 +4628,23 @@
     </message>
     <message>
         <source>when a file is missing, damaged, too large or not a picture: skip it, stop the run, or ask</source>
-        <translation>si un fichier manque, est endommagé, trop grand ou n’est pas une image : skip l’ignore, stop arrête l’exécution, ask interroge</translation>
+        <translation>si un fichier manque, est endommagé, trop grand ou n’est pas une image&#xa0;: skip l’ignore, stop arrête l’exécution, ask interroge</translation>
     </message>
     <message>
         <source>when a result cannot be written, because of a full disk or missing rights: skip, stop or ask</source>
-        <translation>si un résultat ne peut pas être écrit, faute de place ou de droits : skip, stop ou ask</translation>
+        <translation>si un résultat ne peut pas être écrit, faute de place ou de droits&#xa0;: skip, stop ou ask</translation>
     </message>
     <message>
         <source>when an effect fails, or a picture takes too long or crashes its worker: skip, stop or ask</source>
-        <translation>si un effet échoue, ou si une image prend trop de temps ou fait tomber son processus de traitement : skip, stop ou ask</translation>
+        <translation>si un effet échoue, ou si une image prend trop de temps ou fait tomber son processus de traitement&#xa0;: skip, stop ou ask</translation>
     </message>
     <message>
         <source>when a result&apos;s name is taken, on disk, by another result or by a source: skip, overwrite, rename (&quot; (2)&quot; is appended) or ask</source>
-        <translation>si le nom d’un résultat est pris, sur le disque, par un autre résultat ou par une source : skip, overwrite, rename (ajoute (2) au nom) ou ask</translation>
+        <translation>si le nom d’un résultat est pris, sur le disque, par un autre résultat ou par une source&#xa0;: skip, overwrite, rename (ajoute (2) au nom) ou ask</translation>
     </message>
     <message>
         <source>when a picture cannot be written in the wanted format: skip, stop, ask, or nearest, to write the nearest format that can hold it</source>
-        <translation>si une image ne peut pas être écrite dans le format voulu : skip, stop, ask, ou nearest, pour le format le plus proche qui peut la contenir</translation>
+        <translation>si une image ne peut pas être écrite dans le format voulu&#xa0;: skip, stop, ask, ou nearest, pour le format le plus proche qui peut la contenir</translation>
     </message>
     <message>
         <source>Exceptions</source>
@@ -2816,7 +4652,7 @@
     </message>
     <message>
         <source>starts from a preset; &quot;velkora-batch presets&quot; lists them</source>
-        <translation>part d’un préréglage ; « velkora-batch presets » les liste</translation>
+        <translation>part d’un préréglage&#x202f;; «&#xa0;velkora-batch presets&#xa0;» les liste</translation>
     </message>
     <message>
         <source>the folder with BatchExceptionPolicy.ini (default policies) and presets/ (your presets)</source>
@@ -2836,31 +4672,31 @@
     </message>
     <message>
         <source>lists the presets, saves the options as a preset, or removes one. A preset is a job without inputs that run, plan, show and create take by --preset NAME; a relative --output starts where it is run. Exit status: 1 when a preset cannot be used</source>
-        <translation>liste les préréglages, enregistre les options comme préréglage, ou en supprime un. Un préréglage est un travail sans entrées que run, plan, show et create prennent par --preset NAME ; un --output relatif part de là où il est exécuté. Code de sortie : 1 si un préréglage est inutilisable</translation>
+        <translation>liste les préréglages, enregistre les options comme préréglage, ou en supprime un. Un préréglage est un travail sans entrées que run, plan, show et create prennent par --preset NAME&#x202f;; un --output relatif part de là où il est exécuté. Code de sortie&#xa0;: 1 si un préréglage est inutilisable</translation>
     </message>
     <message>
         <source>%1 files have no quality; %2 have one</source>
-        <translation>les fichiers %1 n’ont pas de qualité ; %2 en ont une</translation>
+        <translation>les fichiers %1 n’ont pas de qualité&#x202f;; %2 en ont une</translation>
     </message>
     <message>
         <source>the quality of results in formats that have one; the same as %1 %2=N</source>
-        <translation>la qualité des résultats dans les formats qui en ont une ; comme %1 %2=N</translation>
+        <translation>la qualité des résultats dans les formats qui en ont une&#x202f;; comme %1 %2=N</translation>
     </message>
     <message>
         <source>how many pictures are processed at a time; default: one for each core</source>
-        <translation>combien d’images sont traitées à la fois ; par défaut : une par cœur</translation>
+        <translation>combien d’images sont traitées à la fois&#x202f;; par défaut&#xa0;: une par cœur</translation>
     </message>
     <message>
         <source>larger pictures are not read; default: 400</source>
-        <translation>les images plus grandes ne sont pas lues ; par défaut : 400</translation>
+        <translation>les images plus grandes ne sont pas lues&#x202f;; par défaut&#xa0;: 400</translation>
     </message>
     <message>
         <source>memory that one picture may take; default: 2048</source>
-        <translation>mémoire qu’une image peut prendre ; par défaut : 2048</translation>
+        <translation>mémoire qu’une image peut prendre&#x202f;; par défaut&#xa0;: 2048</translation>
     </message>
     <message>
         <source>time that one picture may take; default: 300</source>
-        <translation>temps qu’une image peut prendre ; par défaut : 300</translation>
+        <translation>temps qu’une image peut prendre&#x202f;; par défaut&#xa0;: 300</translation>
     </message>
     <message>
         <source>Run</source>
@@ -2876,7 +4712,7 @@
     </message>
     <message>
         <source>prints what the run would write, as &quot;velkora-batch plan&quot; does, and writes nothing</source>
-        <translation>affiche ce que l’exécution écrirait, comme « velkora-batch plan », et n’écrit rien</translation>
+        <translation>affiche ce que l’exécution écrirait, comme «&#xa0;velkora-batch plan&#xa0;», et n’écrit rien</translation>
     </message>
     <message>
         <source>writes the result of every input to a file, as CSV or JSON by the extension of its name</source>
@@ -2888,11 +4724,11 @@
     </message>
     <message>
         <source>says which run to resume if several were interrupted; --resume lists their names</source>
-        <translation>dit quelle exécution reprendre si plusieurs ont été interrompues ; --resume liste leurs noms</translation>
+        <translation>dit quelle exécution reprendre si plusieurs ont été interrompues&#x202f;; --resume liste leurs noms</translation>
     </message>
     <message>
         <source>counts a picture with a warning as failed; its result is kept</source>
-        <translation>compte comme échec une image avec avertissement ; son résultat est gardé</translation>
+        <translation>compte comme échec une image avec avertissement&#x202f;; son résultat est gardé</translation>
     </message>
     <message>
         <source>prints each event of the run to standard output, as one line of JSON</source>
@@ -2900,7 +4736,7 @@
     </message>
     <message>
         <source>lets results go through links to folders below the output folder; otherwise such a link is an error of output</source>
-        <translation>laisse les résultats passer par des liens vers des dossiers sous le dossier de sortie ; sinon un tel lien est une erreur de sortie</translation>
+        <translation>laisse les résultats passer par des liens vers des dossiers sous le dossier de sortie&#x202f;; sinon un tel lien est une erreur de sortie</translation>
     </message>
     <message>
         <source>Limits</source>
@@ -2908,39 +4744,39 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a number from %2 to %3</source>
-        <translation>« %1 » n’est pas un nombre de %2 à %3</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a whole number from %2 to %3</source>
-        <translation>« %1 » n’est pas un nombre entier de %2 à %3</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier de %2 à %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not have the form WIDTHxHEIGHT, with whole numbers from 1 to %2, such as 800x600</source>
-        <translation>« %1 » n’a pas la forme WIDTHxHEIGHT, avec des nombres entiers de 1 à %2, comme 800x600</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas la forme WIDTHxHEIGHT, avec des nombres entiers de 1 à %2, comme 800x600</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a number of pixels, such as 40, nor LEFT,TOP,RIGHT,BOTTOM; &quot;none&quot; means no frame</source>
-        <translation>« %1 » n’est ni un nombre de pixels, comme 40, ni LEFT,TOP,RIGHT,BOTTOM ; « none » signifie sans cadre</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un nombre de pixels, comme 40, ni LEFT,TOP,RIGHT,BOTTOM&#x202f;; «&#xa0;none&#xa0;» signifie sans cadre</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a colour; use #rrggbb or a name</source>
-        <translation>« %1 » n’est pas une couleur ; utilisez #rrggbb ou un nom</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une couleur&#x202f;; utilisez #rrggbb ou un nom</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is incomplete; complete it as in %2</source>
-        <translation>« %1 » est incomplet ; complétez-le comme dans %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est incomplet&#x202f;; complétez-le comme dans %2</translation>
     </message>
     <message>
         <source>; write a text of your own as text:%1</source>
-        <translation> ; écrivez un texte à vous comme text:%1</translation>
+        <translation>&#x202f;; écrivez un texte à vous comme text:%1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no value</source>
-        <translation>« %1 » ne prend pas de valeur</translation>
+        <translation>«&#xa0;%1&#xa0;» ne prend pas de valeur</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not one of %2</source>
-        <translation>« %1 » n’est pas parmi %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas parmi %2</translation>
     </message>
     <message>
         <source>argument %1 (%2) is not valid UTF-8</source>
@@ -2948,11 +4784,11 @@
     </message>
     <message>
         <source>the inputs do not lie in one folder: use --in-place for one folder after the other, or name the folder of the results with --output</source>
-        <translation>les entrées ne sont pas dans un même dossier : utilisez --in-place un dossier après l’autre, ou indiquez le dossier des résultats avec --output</translation>
+        <translation>les entrées ne sont pas dans un même dossier&#xa0;: utilisez --in-place un dossier après l’autre, ou indiquez le dossier des résultats avec --output</translation>
     </message>
     <message>
         <source>the result of %1 would not go to the folder of its original; name the folder of the results with --output</source>
-        <translation>le résultat de %1 n’irait pas dans le dossier de son original ; indiquez le dossier des résultats avec --output</translation>
+        <translation>le résultat de %1 n’irait pas dans le dossier de son original&#x202f;; indiquez le dossier des résultats avec --output</translation>
     </message>
     <message>
         <source>%1 is a saved job, not a picture</source>
@@ -2960,7 +4796,7 @@
     </message>
     <message>
         <source>%1 is a saved job, not a picture; it is left out.</source>
-        <translation>%1 est un travail enregistré, pas une image ; il est laissé de côté.</translation>
+        <translation>%1 est un travail enregistré, pas une image&#x202f;; il est laissé de côté.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -2972,11 +4808,11 @@
     </message>
     <message>
         <source>the list %1 cannot be read: %2</source>
-        <translation>impossible de lire la liste %1 : %2</translation>
+        <translation>impossible de lire la liste %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the list %1 is larger than %2 MiB; divide it</source>
-        <translation>la liste %1 dépasse %2 Mio ; divisez-la</translation>
+        <translation>la liste %1 dépasse %2 Mio&#x202f;; divisez-la</translation>
     </message>
     <message>
         <source>it has %1 bytes, and no name is that long</source>
@@ -2984,19 +4820,19 @@
     </message>
     <message>
         <source>it contains a NUL byte; use -0 for names that are separated by NUL</source>
-        <translation>il contient un octet NUL ; utilisez -0 pour des noms séparés par NUL</translation>
+        <translation>il contient un octet NUL&#x202f;; utilisez -0 pour des noms séparés par NUL</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not valid UTF-8; rename it to use it</source>
-        <translation>« %1 » n’est pas de l’UTF-8 valide ; renommez-le pour l’utiliser</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas de l’UTF-8 valide&#x202f;; renommez-le pour l’utiliser</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains a character that a job cannot hold</source>
-        <translation>« %1 » contient un caractère qu’un travail ne peut pas contenir</translation>
+        <translation>«&#xa0;%1&#xa0;» contient un caractère qu’un travail ne peut pas contenir</translation>
     </message>
     <message>
         <source>it contains line ends; names in lines are read without -0</source>
-        <translation>il contient des fins de ligne ; les noms en lignes se lisent sans -0</translation>
+        <translation>il contient des fins de ligne&#x202f;; les noms en lignes se lisent sans -0</translation>
     </message>
     <message>
         <source>%1, name %2</source>
@@ -3008,23 +4844,23 @@
     </message>
     <message>
         <source>%1, line %2: %3 is a dangling link</source>
-        <translation>%1, ligne %2 : %3 est un lien sans cible</translation>
+        <translation>%1, ligne %2&#xa0;: %3 est un lien sans cible</translation>
     </message>
     <message>
         <source>%1, line %2: %3 does not exist</source>
-        <translation>%1, ligne %2 : %3 n’existe pas</translation>
+        <translation>%1, ligne %2&#xa0;: %3 n’existe pas</translation>
     </message>
     <message>
         <source>%1, name %2: %3 is a dangling link</source>
-        <translation>%1, nom %2 : %3 est un lien sans cible</translation>
+        <translation>%1, nom %2&#xa0;: %3 est un lien sans cible</translation>
     </message>
     <message>
         <source>%1, name %2: %3 does not exist</source>
-        <translation>%1, nom %2 : %3 n’existe pas</translation>
+        <translation>%1, nom %2&#xa0;: %3 n’existe pas</translation>
     </message>
     <message>
         <source>the list %1 is UTF-16 text; save it as UTF-8</source>
-        <translation>la liste %1 est du texte UTF-16 ; enregistrez-la en UTF-8</translation>
+        <translation>la liste %1 est du texte UTF-16&#x202f;; enregistrez-la en UTF-8</translation>
     </message>
     <message>
         <source>%1 runs were interrupted in %2</source>
@@ -3032,7 +4868,7 @@
     </message>
     <message>
         <source>no run in %1 is called &quot;%2&quot;</source>
-        <translation>aucune exécution dans %1 ne s’appelle « %2 »</translation>
+        <translation>aucune exécution dans %1 ne s’appelle «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>%1  %2 is damaged</source>
@@ -3048,19 +4884,19 @@
     </message>
     <message>
         <source>%1, line %2: this version does not know %3, and ignores it.</source>
-        <translation>%1, ligne %2 : cette version ne connaît pas %3, et l’ignore.</translation>
+        <translation>%1, ligne %2&#xa0;: cette version ne connaît pas %3, et l’ignore.</translation>
     </message>
     <message>
         <source>%1: this version does not know %2 other elements and attributes, and ignores them.</source>
-        <translation>%1 : cette version ne connaît pas %2 autres éléments et attributs, et les ignore.</translation>
+        <translation>%1&#xa0;: cette version ne connaît pas %2 autres éléments et attributs, et les ignore.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a path, but the name of a preset is needed</source>
-        <translation>« %1 » est un chemin, mais il faut le nom d’un préréglage</translation>
+        <translation>«&#xa0;%1&#xa0;» est un chemin, mais il faut le nom d’un préréglage</translation>
     </message>
     <message>
         <source>there is no preset &quot;%1&quot;</source>
-        <translation>il n’y a pas de préréglage « %1 »</translation>
+        <translation>il n’y a pas de préréglage «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the name of the preset is empty</source>
@@ -3068,15 +4904,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; begins with a dot, which the name of a preset must not</source>
-        <translation>« %1 » commence par un point, ce que le nom d’un préréglage ne doit pas faire</translation>
+        <translation>«&#xa0;%1&#xa0;» commence par un point, ce que le nom d’un préréglage ne doit pas faire</translation>
     </message>
     <message>
         <source>the name of a preset has no extension: use &quot;%1&quot;</source>
-        <translation>le nom d’un préréglage n’a pas d’extension : utilisez « %1 »</translation>
+        <translation>le nom d’un préréglage n’a pas d’extension&#xa0;: utilisez «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name for a file on every system; &quot;%2&quot; would be one</source>
-        <translation>« %1 » n’est pas un nom de fichier sur tous les systèmes ; « %2 » en serait un</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nom de fichier sur tous les systèmes&#x202f;; «&#xa0;%2&#xa0;» en serait un</translation>
     </message>
     <message>
         <source>the name of the preset is longer than %1 bytes</source>
@@ -3092,35 +4928,35 @@
     </message>
     <message>
         <source>the preset %1 comes with the program and cannot be removed; a preset of yours with that name is used instead of it</source>
-        <translation>le préréglage %1 est fourni avec le programme et ne peut pas être supprimé ; un préréglage personnel de ce nom passe avant lui</translation>
+        <translation>le préréglage %1 est fourni avec le programme et ne peut pas être supprimé&#x202f;; un préréglage personnel de ce nom passe avant lui</translation>
     </message>
     <message>
         <source>%1 cannot be removed: %2</source>
-        <translation>impossible de supprimer %1 : %2</translation>
+        <translation>impossible de supprimer %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Archive: TIFF without loss, with all metadata and the time of the file</source>
-        <translation>Archives : TIFF sans perte, avec toutes les métadonnées et la date du fichier</translation>
+        <translation>Archives&#xa0;: TIFF sans perte, avec toutes les métadonnées et la date du fichier</translation>
     </message>
     <message>
         <source>Mail: small JPEG of at most 1024 pixels, sRGB, with creator and rights</source>
-        <translation>Courriel : petit JPEG de 1024 pixels au plus, sRGB, avec auteur et droits</translation>
+        <translation>Courriel&#xa0;: petit JPEG de 1024 pixels au plus, sRGB, avec auteur et droits</translation>
     </message>
     <message>
         <source>Print: 15 cm long at 300 dpi, with a white border of 5 mm</source>
-        <translation>Impression : 15 cm de long à 300 ppp, avec une bordure blanche de 5 mm</translation>
+        <translation>Impression&#xa0;: 15 cm de long à 300 ppp, avec une bordure blanche de 5 mm</translation>
     </message>
     <message>
         <source>Thumbnails: squares of 256 pixels, JPEG without metadata</source>
-        <translation>Vignettes : carrés de 256 pixels, JPEG sans métadonnées</translation>
+        <translation>Vignettes&#xa0;: carrés de 256 pixels, JPEG sans métadonnées</translation>
     </message>
     <message>
         <source>Web: JPEG of at most 1600 pixels, sRGB, with creator and rights</source>
-        <translation>Web : JPEG de 1600 pixels au plus, sRGB, avec auteur et droits</translation>
+        <translation>Web&#xa0;: JPEG de 1600 pixels au plus, sRGB, avec auteur et droits</translation>
     </message>
     <message>
         <source>The journal %1 cannot be written: %2.</source>
-        <translation>Impossible d’écrire le journal %1 : %2.</translation>
+        <translation>Impossible d’écrire le journal %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>the braces of a wildcard are nested too deeply</source>
@@ -3128,15 +4964,15 @@
     </message>
     <message>
         <source>a wildcard is longer than %1 characters: %2...</source>
-        <translation>un motif dépasse %1 caractères : %2...</translation>
+        <translation>un motif dépasse %1 caractères&#xa0;: %2...</translation>
     </message>
     <message>
         <source>the wildcard &quot;%1&quot; is invalid: %2</source>
-        <translation>le motif « %1 » est invalide : %2</translation>
+        <translation>le motif «&#xa0;%1&#xa0;» est invalide&#xa0;: %2</translation>
     </message>
     <message>
         <source>the braces in &quot;%1&quot; stand for more than %2 names</source>
-        <translation>les accolades de « %1 » donnent plus de %2 noms</translation>
+        <translation>les accolades de «&#xa0;%1&#xa0;» donnent plus de %2 noms</translation>
     </message>
     <message>
         <source>%1 matches no file</source>
@@ -3148,27 +4984,27 @@
     </message>
     <message>
         <source>&quot;%1&quot; means %2 pixel, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
-        <translation>« %1 » signifie %2 pixel, car un point précède les décimales, mais les pixels se comptent en nombres entiers : %3, ou une unité, comme dans %4cm</translation>
+        <translation>«&#xa0;%1&#xa0;» signifie %2 pixel, car un point précède les décimales, mais les pixels se comptent en nombres entiers&#xa0;: %3, ou une unité, comme dans %4cm</translation>
     </message>
     <message>
         <source>&quot;%1&quot; means %2 pixels, for a point begins the decimals, but pixels are counted in whole numbers: %3, or a unit, as in %4cm</source>
-        <translation>« %1 » signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers : %3, ou une unité, comme dans %4cm</translation>
+        <translation>«&#xa0;%1&#xa0;» signifie %2 pixels, car un point précède les décimales, mais les pixels se comptent en nombres entiers&#xa0;: %3, ou une unité, comme dans %4cm</translation>
     </message>
     <message>
         <source>%1, name %2: %3 is a dangling link (and %4 more)</source>
-        <translation>%1, nom %2 : %3 est un lien sans cible (et %4 de plus)</translation>
+        <translation>%1, nom %2&#xa0;: %3 est un lien sans cible (et %4 de plus)</translation>
     </message>
     <message>
         <source>%1, name %2: %3 does not exist (and %4 more)</source>
-        <translation>%1, nom %2 : %3 n’existe pas (et %4 de plus)</translation>
+        <translation>%1, nom %2&#xa0;: %3 n’existe pas (et %4 de plus)</translation>
     </message>
     <message>
         <source>%1, line %2: %3 is a dangling link (and %4 more)</source>
-        <translation>%1, ligne %2 : %3 est un lien sans cible (et %4 de plus)</translation>
+        <translation>%1, ligne %2&#xa0;: %3 est un lien sans cible (et %4 de plus)</translation>
     </message>
     <message>
         <source>%1, line %2: %3 does not exist (and %4 more)</source>
-        <translation>%1, ligne %2 : %3 n’existe pas (et %4 de plus)</translation>
+        <translation>%1, ligne %2&#xa0;: %3 n’existe pas (et %4 de plus)</translation>
     </message>
     <message>
         <source>Start tag expected.</source>
@@ -3188,11 +5024,279 @@
     </message>
     <message>
         <source>Expected %1, but got &apos;%2&apos;.</source>
-        <translation>%1 attendu, mais « %2 » trouvé.</translation>
+        <translation>%1 attendu, mais «&#xa0;%2&#xa0;» trouvé.</translation>
     </message>
     <message>
         <source>range out of order in character class</source>
         <translation>intervalle en désordre dans une classe de caractères</translation>
+    </message>
+    <message>
+        <source>the input&apos;s name without its extension</source>
+        <translation>le nom de l’entrée sans son extension</translation>
+    </message>
+    <message>
+        <source>a number that counts the job&apos;s files</source>
+        <translation>un numéro qui compte les fichiers du travail</translation>
+    </message>
+    <message>
+        <source>the capture date, YYYYMMDD</source>
+        <translation>la date de prise de vue, YYYYMMDD</translation>
+    </message>
+    <message>
+        <source>the capture time, HHMMSS</source>
+        <translation>l’heure de prise de vue, HHMMSS</translation>
+    </message>
+    <message>
+        <source>a text of your own</source>
+        <translation>un texte à vous</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>everything in the output folder</source>
+        <translation>tout dans le dossier de sortie</translation>
+    </message>
+    <message>
+        <source>folders as in the input</source>
+        <translation>dossiers comme dans l’entrée</translation>
+    </message>
+    <message>
+        <source>a folder for each capture date, YYYY/YYYY-MM-DD</source>
+        <translation>un dossier par date de prise de vue, YYYY/YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>the size stays</source>
+        <translation>la taille ne change pas</translation>
+    </message>
+    <message>
+        <source>enlarge or reduce</source>
+        <translation>agrandir ou réduire</translation>
+    </message>
+    <message>
+        <source>only reduce</source>
+        <translation>réduire seulement</translation>
+    </message>
+    <message>
+        <source>only enlarge</source>
+        <translation>agrandir seulement</translation>
+    </message>
+    <message>
+        <source>the width</source>
+        <translation>la largeur</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>la hauteur</translation>
+    </message>
+    <message>
+        <source>the long side</source>
+        <translation>le grand côté</translation>
+    </message>
+    <message>
+        <source>the short side</source>
+        <translation>le petit côté</translation>
+    </message>
+    <message>
+        <source>percent of the picture</source>
+        <translation>pour cent de l’image</translation>
+    </message>
+    <message>
+        <source>inches at the resolution</source>
+        <translation>pouces selon la résolution</translation>
+    </message>
+    <message>
+        <source>centimetres at the resolution</source>
+        <translation>centimètres selon la résolution</translation>
+    </message>
+    <message>
+        <source>millimetres at the resolution</source>
+        <translation>millimètres selon la résolution</translation>
+    </message>
+    <message>
+        <source>no crop</source>
+        <translation>aucun recadrage</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio width : height</source>
+        <translation>le plus grand cadrage du rapport largeur : hauteur</translation>
+    </message>
+    <message>
+        <source>cut off a border of one colour</source>
+        <translation>couper une bordure d’une seule couleur</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye</source>
+        <translation>le cadrage du rapport qui attire l’œil</translation>
+    </message>
+    <message>
+        <source>scale to cover width x height, then cut</source>
+        <translation>mettre à l’échelle pour couvrir largeur x hauteur, puis couper</translation>
+    </message>
+    <message>
+        <source>width x height pixels</source>
+        <translation>largeur x hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio, turned with the picture</source>
+        <translation>le plus grand cadrage du rapport, tourné avec l’image</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye, turned with the picture</source>
+        <translation>le cadrage du rapport qui attire l’œil, tourné avec l’image</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>au centre</translation>
+    </message>
+    <message>
+        <source>at the top</source>
+        <translation>en haut</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>en bas</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>à gauche</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>à droite</translation>
+    </message>
+    <message>
+        <source>at the top left</source>
+        <translation>en haut à gauche</translation>
+    </message>
+    <message>
+        <source>at the top right</source>
+        <translation>en haut à droite</translation>
+    </message>
+    <message>
+        <source>at the bottom left</source>
+        <translation>en bas à gauche</translation>
+    </message>
+    <message>
+        <source>at the bottom right</source>
+        <translation>en bas à droite</translation>
+    </message>
+    <message>
+        <source>transparent where the format allows it, else white</source>
+        <translation>transparent si le format le permet, sinon blanc</translation>
+    </message>
+    <message>
+        <source>one colour</source>
+        <translation>une couleur</translation>
+    </message>
+    <message>
+        <source>a built-in pattern</source>
+        <translation>un motif intégré</translation>
+    </message>
+    <message>
+        <source>an image file, scaled to cover</source>
+        <translation>un fichier d’image, mis à l’échelle pour couvrir</translation>
+    </message>
+    <message>
+        <source>the picture covers its background</source>
+        <translation>l’image couvre l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>multiply</source>
+        <translation>produit</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>superposition</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>incrustation</translation>
+    </message>
+    <message>
+        <source>the darker of the two</source>
+        <translation>le plus sombre des deux</translation>
+    </message>
+    <message>
+        <source>the lighter of the two</source>
+        <translation>le plus clair des deux</translation>
+    </message>
+    <message>
+        <source>soft light</source>
+        <translation>lumière tamisée</translation>
+    </message>
+    <message>
+        <source>hard light</source>
+        <translation>lumière crue</translation>
+    </message>
+    <message>
+        <source>the difference of the two</source>
+        <translation>la différence des deux</translation>
+    </message>
+    <message>
+        <source>a drop shadow</source>
+        <translation>une ombre portée</translation>
+    </message>
+    <message>
+        <source>a glow around the picture, without offset</source>
+        <translation>une lueur autour de l’image, sans décalage</translation>
+    </message>
+    <message>
+        <source>skip the file</source>
+        <translation>ignorer le fichier</translation>
+    </message>
+    <message>
+        <source>stop the run</source>
+        <translation>arrêter l’exécution</translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>demander</translation>
+    </message>
+    <message>
+        <source>overwrite what is there</source>
+        <translation>remplacer l’existant</translation>
+    </message>
+    <message>
+        <source>append &quot; (2)&quot;, &quot; (3)&quot; and so on to the name</source>
+        <translation>ajouter (2), (3), etc. au nom</translation>
+    </message>
+    <message>
+        <source>write the nearest format that can hold the picture</source>
+        <translation>écrire le format le plus proche qui peut contenir l’image</translation>
+    </message>
+    <message>
+        <source>reported only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file was skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the run was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 cannot say what the job holds</source>
+        <translation>l’option %1 ne peut pas exprimer ce que contient le travail</translation>
+    </message>
+    <message>
+        <source>%1 is a picture (%2) with another extension; it is added only if it is named.</source>
+        <translation>%1 est une image (%2) avec une autre extension ; elle n’est ajoutée que si le fichier lui-même est choisi.</translation>
+    </message>
+    <message>
+        <source>no private folder can be made for previews: %1</source>
+        <translation>impossible de créer un dossier privé pour les aperçus : %1</translation>
+    </message>
+    <message>
+        <source>the picture that was made for the screen cannot be read</source>
+        <translation>l’image créée pour l’écran est illisible</translation>
+    </message>
+    <message>
+        <source>The effect &quot;%1&quot; does not exist</source>
+        <translation>L’effet « %1 » n’existe pas</translation>
     </message>
 </context>
 </TS>

@@ -371,6 +371,1842 @@
         <source>(%1 bytes in the job)</source>
         <translation>（ジョブ内に %1 バイト）</translation>
     </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>1 picture.</source>
+        <translation>画像 1 枚。</translation>
+    </message>
+    <message>
+        <source>%1 pictures.</source>
+        <translation>画像 %1 枚。</translation>
+    </message>
+    <message>
+        <source>1 picture, %1 new.</source>
+        <translation>画像 1 枚、新規 %1 枚。</translation>
+    </message>
+    <message>
+        <source>%1 pictures, %2 new.</source>
+        <translation>画像 %1 枚、新規 %2 枚。</translation>
+    </message>
+    <message>
+        <source>1 name is taken.</source>
+        <translation>1 個の名前が使用済みです。</translation>
+    </message>
+    <message>
+        <source>%1 names are taken.</source>
+        <translation>%1 個の名前が使用済みです。</translation>
+    </message>
+    <message>
+        <source>1 file that exists will be replaced.</source>
+        <translation>既存のファイル 1 個を置き換えます。</translation>
+    </message>
+    <message>
+        <source>%1 files that exist will be replaced.</source>
+        <translation>既存のファイル %1 個を置き換えます。</translation>
+    </message>
+    <message>
+        <source>1 picture cannot be written.</source>
+        <translation>1 枚の画像を書き出せません。</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be written.</source>
+        <translation>%1 枚の画像を書き出せません。</translation>
+    </message>
+    <message>
+        <source>There is too little room: the results take %1, but only %2 are free.</source>
+        <translation>空き容量が足りません: 結果に %1 必要ですが、空きは %2 しかありません。</translation>
+    </message>
+    <message>
+        <source>There may be too little room: the results take about %1 (± %2 %), but only %3 are free.</source>
+        <translation>空き容量が足りない可能性があります: 結果に約 %1（± %2 %）必要ですが、空きは %3 しかありません。</translation>
+    </message>
+    <message>
+        <source>The results take %1.</source>
+        <translation>結果の容量は %1 です。</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %).</source>
+        <translation>結果の容量は約 %1（± %2 %）です。</translation>
+    </message>
+    <message>
+        <source>The results take %1; %2 are free.</source>
+        <translation>結果の容量は %1、空きは %2 です。</translation>
+    </message>
+    <message>
+        <source>The results take about %1 (± %2 %); %3 are free.</source>
+        <translation>結果の容量は約 %1（± %2 %）、空きは %3 です。</translation>
+    </message>
+    <message>
+        <source>Add pictures to begin.</source>
+        <translation>画像を追加して始めてください。</translation>
+    </message>
+    <message>
+        <source>What you edit cannot be kept in %1; save the job before the window ends.</source>
+        <translation>編集中の内容を %1 に保管できません。ウィンドウを閉じる前にジョブを保存してください。</translation>
+    </message>
+    <message>
+        <source>The command line that does the same is on the clipboard.</source>
+        <translation>同じ処理を行うコマンドラインをクリップボードにコピーしました。</translation>
+    </message>
+    <message>
+        <source>&amp;New job</source>
+        <translation>新しいジョブ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open &amp;job…</source>
+        <translation>ジョブを開く(&amp;J)…</translation>
+    </message>
+    <message>
+        <source>R&amp;ecent jobs</source>
+        <translation>最近のジョブ(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Save job</source>
+        <translation>ジョブを保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save job &amp;as…</source>
+        <translation>名前を付けてジョブを保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as command</source>
+        <translation>コマンドとしてコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1（見つかりません）</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>一覧を消去(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset…</source>
+        <translation>プリセットとして保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename preset…</source>
+        <translation>プリセットの名前を変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete preset</source>
+        <translation>プリセットを削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Import preset…</source>
+        <translation>プリセットを読み込む(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export preset…</source>
+        <translation>プリセットを書き出す(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>The job before this one was not saved.</source>
+        <translation>直前のジョブは保存されていません。</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>元のジョブに戻す</translation>
+    </message>
+    <message>
+        <source>The window did not end as it should; this is what was edited last.</source>
+        <translation>ウィンドウが正常に終了しませんでした。最後に編集していた内容を復元しました。</translation>
+    </message>
+    <message>
+        <source>Import preset</source>
+        <translation>プリセットの読み込み</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Export preset</source>
+        <translation>プリセットの書き出し</translation>
+    </message>
+    <message>
+        <source>The settings are saved in %1.</source>
+        <translation>設定を %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>The preset %1 is deleted; the settings stay as they are.</source>
+        <translation>プリセット %1 を削除しました。設定はそのままです。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Batch jobs (%1)</source>
+        <translation>ジョブ (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>未保存の変更</translation>
+    </message>
+    <message>
+        <source>The job &quot;%1&quot; has changes that are not saved.</source>
+        <translation>ジョブ「%1」に保存していない変更があります。</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard changes</source>
+        <translation>変更を破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>New job</source>
+        <translation>新しいジョブ</translation>
+    </message>
+    <message>
+        <source>Open job</source>
+        <translation>ジョブを開く</translation>
+    </message>
+    <message>
+        <source>Save job</source>
+        <translation>ジョブを保存</translation>
+    </message>
+    <message>
+        <source>%1 exists; choose it to replace it.</source>
+        <translation>%1 はすでにあります。置き換えるにはそのファイルを選んでください。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>通知を閉じる</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>プリセットなし</translation>
+    </message>
+    <message>
+        <source>This preset cannot be used as it is: %1</source>
+        <translation>このプリセットはそのままでは使えません: %1</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>プリセット %1</translation>
+    </message>
+    <message>
+        <source>The preset %1 cannot be used as it is: %2</source>
+        <translation>プリセット %1 はそのままでは使えません: %2</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（変更あり）</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>プリセットの名前</translation>
+    </message>
+    <message>
+        <source>Cancel the naming of the preset</source>
+        <translation>プリセットの命名をキャンセル</translation>
+    </message>
+    <message>
+        <source>Save the settings as the preset</source>
+        <translation>設定を次のプリセットとして保存</translation>
+    </message>
+    <message>
+        <source>New name of the preset %1</source>
+        <translation>プリセット %1 の新しい名前</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Replace the preset %1</source>
+        <translation>プリセット %1 を置き換え</translation>
+    </message>
+    <message>
+        <source>You have a preset of this name; it would be replaced.</source>
+        <translation>同じ名前の自作プリセットがあります。保存すると置き換わります。</translation>
+    </message>
+    <message>
+        <source>Processes pictures in batches, in a window.</source>
+        <translation>ウィンドウ上で画像を一括処理します。</translation>
+    </message>
+    <message>
+        <source>Pictures and folders to add.</source>
+        <translation>追加する画像とフォルダー。</translation>
+    </message>
+    <message>
+        <source>Stop adding</source>
+        <translation>追加を中止</translation>
+    </message>
+    <message>
+        <source>Adding pictures…</source>
+        <translation>画像を追加しています…</translation>
+    </message>
+    <message>
+        <source>Problems of this kind: %1; point here to read them.</source>
+        <translation>この種の問題: %1 件。ここにポインターを合わせると読めます。</translation>
+    </message>
+    <message>
+        <source>Add pictures</source>
+        <translation>画像の追加</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>画像 (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>フォルダーを追加</translation>
+    </message>
+    <message>
+        <source>%1 does not exist any more</source>
+        <translation>%1 はもう存在しません</translation>
+    </message>
+    <message>
+        <source>Add &amp;files…</source>
+        <translation>ファイルを追加(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Add f&amp;older…</source>
+        <translation>フォルダーを追加(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>リストから削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>S&amp;how in folder</source>
+        <translation>フォルダーで表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>▾ %1 (%2)</source>
+        <translation>▾ %1（%2）</translation>
+    </message>
+    <message>
+        <source>▸ %1 (%2)</source>
+        <translation>▸ %1（%2）</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Grid of pictures</source>
+        <translation>画像のグリッド</translation>
+    </message>
+    <message>
+        <source>List of pictures</source>
+        <translation>画像のリスト</translation>
+    </message>
+    <message>
+        <source>1 picture in 1 folder</source>
+        <translation>1 個のフォルダーに画像 1 枚</translation>
+    </message>
+    <message>
+        <source>%1 pictures in 1 folder</source>
+        <translation>1 個のフォルダーに画像 %1 枚</translation>
+    </message>
+    <message>
+        <source>%1 pictures in %2 folders</source>
+        <translation>%2 個のフォルダーに画像 %1 枚</translation>
+    </message>
+    <message>
+        <source>Drop pictures and folders here, or add them with the buttons below.</source>
+        <translation>画像やフォルダーをここにドロップするか、下のボタンで追加してください。</translation>
+    </message>
+    <message>
+        <source>Show only pictures whose names contain</source>
+        <translation>名前に次を含む画像だけを表示</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>絞り込み</translation>
+    </message>
+    <message>
+        <source>Show only pictures with the state</source>
+        <translation>次の状態の画像だけを表示</translation>
+    </message>
+    <message>
+        <source>All pictures</source>
+        <translation>すべての画像</translation>
+    </message>
+    <message>
+        <source>Name taken</source>
+        <translation>名前が使用済み</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>グリッド</translation>
+    </message>
+    <message>
+        <source>Remove pictures</source>
+        <translation>画像の削除</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pictures</source>
+        <translation>%2 枚中 %1 枚</translation>
+    </message>
+    <message>
+        <source>Cannot be written</source>
+        <translation>書き出せません</translation>
+    </message>
+    <message>
+        <source>This file cannot be shown.</source>
+        <translation>このファイルは表示できません。</translation>
+    </message>
+    <message>
+        <source>Folder %1, pictures: %2</source>
+        <translation>フォルダー %1、画像 %2 枚</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2</source>
+        <translation>%1、書き出し名 %2</translation>
+    </message>
+    <message>
+        <source>%1, written as %2: %3</source>
+        <translation>%1、書き出し名 %2: %3</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <translation>処理中</translation>
+    </message>
+    <message>
+        <source>Line between before and after</source>
+        <translation>処理前と処理後の分割線</translation>
+    </message>
+    <message>
+        <source>Sizes before and after</source>
+        <translation>処理前と処理後のサイズ</translation>
+    </message>
+    <message>
+        <source>State of the preview</source>
+        <translation>プレビューの状態</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>更新中</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>全体表示(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Show all of the picture (1)</source>
+        <translation>画像全体を表示します (1)</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on one pixel of the screen (2)</source>
+        <translation>結果の 1 ピクセルを画面の 1 ピクセルで表示します (2)</translation>
+    </message>
+    <message>
+        <source>&amp;200 %</source>
+        <translation>&amp;200 %</translation>
+    </message>
+    <message>
+        <source>One pixel of the result on four pixels of the screen (3)</source>
+        <translation>結果の 1 ピクセルを画面の 4 ピクセルで表示します (3)</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>分割線(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Before and after with a line between them (4)</source>
+        <translation>処理前と処理後を線で分けて表示します (4)</translation>
+    </message>
+    <message>
+        <source>&amp;Side by side</source>
+        <translation>並べて表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Before and after side by side (5)</source>
+        <translation>処理前と処理後を並べて表示します (5)</translation>
+    </message>
+    <message>
+        <source>Preview &amp;anew</source>
+        <translation>プレビューを更新(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Make the preview anew from the file on the disk (F5)</source>
+        <translation>ディスク上のファイルからプレビューを作り直します (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>処理前(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>処理前</translation>
+    </message>
+    <message>
+        <source>Show the picture before as long as this is held (space bar on the picture)</source>
+        <translation>押している間、処理前の画像を表示します（画像上ではスペースキー）</translation>
+    </message>
+    <message>
+        <source>Choose a picture to see what becomes of it.</source>
+        <translation>画像を選ぶと、処理後の姿が表示されます。</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3</source>
+        <translation>%1 x %2 px、%3</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
+        <translation>%1 x %2 px、%3 -&gt; %4 x %5 px、%6</translation>
+    </message>
+    <message>
+        <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
+        <translation>正確: %1、%2 バイト。実行時に書き出すものと同じです。作成時間 %3 秒</translation>
+    </message>
+    <message>
+        <source>The result is too large to be shown here.</source>
+        <translation>結果が大きすぎて、ここには表示できません。</translation>
+    </message>
+    <message>
+        <source>before</source>
+        <translation>処理前</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>処理後</translation>
+    </message>
+    <message>
+        <source>Another program is running a batch on this computer: close it, and start this one anew.</source>
+        <translation>このコンピューターでは別のプログラムが一括処理を実行中です。それを終了してから、このプログラムを起動し直してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for the rest of the run</source>
+        <translation>以降の画像にも適用(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Question about a picture</source>
+        <translation>画像についての確認</translation>
+    </message>
+    <message>
+        <source>The file that exists</source>
+        <translation>既存のファイル</translation>
+    </message>
+    <message>
+        <source>The picture whose result would have its name</source>
+        <translation>結果が同じ名前になる画像</translation>
+    </message>
+    <message>
+        <source>Interrupted run</source>
+        <translation>中断された実行</translation>
+    </message>
+    <message>
+        <source>Res&amp;ume</source>
+        <translation>再開(&amp;K)</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>破棄(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>一時停止(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel the run</source>
+        <translation>実行をキャンセル(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Resu&amp;me the run</source>
+        <translation>実行を再開(&amp;G)</translation>
+    </message>
+    <message>
+        <source>S&amp;how failed</source>
+        <translation>失敗した画像を表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Retr&amp;y failed</source>
+        <translation>失敗した画像を再試行(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Open fo&amp;lder</source>
+        <translation>フォルダーを開く(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve report</source>
+        <translation>レポートを保存(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Put &amp;away</source>
+        <translation>閉じる(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>実行の進行状況</translation>
+    </message>
+    <message>
+        <source>The batch server has ended unexpectedly; a new one goes on.</source>
+        <translation>処理サーバーが予期せず終了しました。新しいサーバーで続行します。</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: its journal cannot be read.</source>
+        <translation>実行を再開できません: ジャーナルを読み込めません。</translation>
+    </message>
+    <message>
+        <source>The failed pictures cannot be tried again: the journal of their run cannot be used.</source>
+        <translation>失敗した画像を再試行できません: その実行のジャーナルを使えません。</translation>
+    </message>
+    <message>
+        <source>Go &amp;on</source>
+        <translation>再開(&amp;I)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>%2 枚中 %1 枚完了</translation>
+    </message>
+    <message>
+        <source>%1 of %2 done, %3 left</source>
+        <translation>%2 枚中 %1 枚完了、残り %3</translation>
+    </message>
+    <message>
+        <source>Pausing: pictures in work are finished first</source>
+        <translation>一時停止します: 処理中の画像を先に仕上げています</translation>
+    </message>
+    <message>
+        <source>Paused, %1 of %2 done</source>
+        <translation>一時停止中、%2 枚中 %1 枚完了</translation>
+    </message>
+    <message>
+        <source>%1 written, %2 skipped, %3 failed</source>
+        <translation>書き出し %1、スキップ %2、失敗 %3</translation>
+    </message>
+    <message>
+        <source>Finished in %1: all %2 pictures were written.</source>
+        <translation>%1 で完了: %2 枚の画像をすべて書き出しました。</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 skipped, %4 failed.</source>
+        <translation>%1 で完了: 書き出し %2、スキップ %3、失敗 %4。</translation>
+    </message>
+    <message>
+        <source>Nothing was written: %1.</source>
+        <translation>何も書き出しませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>Nothing can be written: the program VelkoraBatchWorker is missing or cannot be started.</source>
+        <translation>書き出せません: プログラム VelkoraBatchWorker がないか、起動できません。</translation>
+    </message>
+    <message>
+        <source>The batch server was lost after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>%2 枚中 %1 枚の時点で処理サーバーが失われました。実行は再開できます。</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 of %2 pictures. The run can be resumed.</source>
+        <translation>%2 枚中 %1 枚の時点でキャンセルしました。実行は再開できます。</translation>
+    </message>
+    <message>
+        <source>A run was interrupted after %1 of %2 pictures. Its results go to %3.</source>
+        <translation>%2 枚中 %1 枚の時点で実行が中断されました。結果の出力先は %3 です。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>The result of %1 cannot be written: %2.</source>
+        <translation>%1 の結果を書き出せません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be processed: %2.</source>
+        <translation>%1 を処理できません: %2。</translation>
+    </message>
+    <message>
+        <source>The name %1, for the result of %2, is taken.</source>
+        <translation>%2 の結果に付ける名前 %1 はすでに使われています。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written in this format: %2.</source>
+        <translation>%1 をこの形式で書き出せません: %2。</translation>
+    </message>
+    <message>
+        <source>S&amp;kip it</source>
+        <translation>スキップ(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Stop t&amp;he run</source>
+        <translation>実行を停止(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Over&amp;write</source>
+        <translation>上書き(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Number t&amp;he new one</source>
+        <translation>新しい方に番号を付ける(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Wr&amp;ite the nearest format</source>
+        <translation>最も近い形式を使用(&amp;G)</translation>
+    </message>
+    <message>
+        <source>%1, switched off</source>
+        <translation>%1、オフ</translation>
+    </message>
+    <message>
+        <source>Switch on %1</source>
+        <translation>「%1」をオン</translation>
+    </message>
+    <message>
+        <source>Switch off %1</source>
+        <translation>「%1」をオフ</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Remove %1 effects</source>
+        <translation>%1 個の効果の削除</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>「%1」の追加</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>「%1」の複製</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>「%1」の移動</translation>
+    </message>
+    <message>
+        <source>Effects in the order in which they are applied</source>
+        <translation>適用順に並んだ効果</translation>
+    </message>
+    <message>
+        <source>Effec&amp;ts</source>
+        <translation>効果(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Add an effect</source>
+        <translation>効果を追加</translation>
+    </message>
+    <message>
+        <source>Duplicate the effect</source>
+        <translation>効果を複製</translation>
+    </message>
+    <message>
+        <source>Remove the effect</source>
+        <translation>効果を削除</translation>
+    </message>
+    <message>
+        <source>Apply the effect earlier</source>
+        <translation>効果を先に適用</translation>
+    </message>
+    <message>
+        <source>Apply the effect later</source>
+        <translation>効果を後に適用</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>No effects</source>
+        <translation>効果なし</translation>
+    </message>
+    <message>
+        <source>All effects are switched off</source>
+        <translation>すべての効果がオフです</translation>
+    </message>
+    <message>
+        <source>Choose a colour for %1</source>
+        <translation>色を選択: %1</translation>
+    </message>
+    <message>
+        <source>Point %1 of %2: %3 becomes %4</source>
+        <translation>%2 点中 %1 番目: %3 が %4 になります</translation>
+    </message>
+    <message>
+        <source>Click to add a point and drag to move it; a double click removes it. With keys: Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete removes it.</source>
+        <translation>クリックで点を追加、ドラッグで移動、ダブルクリックで削除します。キー操作: Page Up と Page Down で点を選択、矢印キーで移動、Insert で追加、Delete で削除。</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>選択...</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation>%1を選択</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no complete path; it must begin at the root, such as %2.</source>
+        <translation>「%1」は完全なパスではありません。%2 のようにルートから入力してください。</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>%1を指定</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>量</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Automatic levels</source>
+        <translation>自動レベル補正</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>ビット深度</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黒</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>ぼかし</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>縁取り</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>両方</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Brightness and contrast</source>
+        <translation>明るさとコントラスト</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Chroma subsampling</source>
+        <translation>クロマサブサンプリング</translation>
+    </message>
+    <message>
+        <source>Clarity</source>
+        <translation>明瞭度</translation>
+    </message>
+    <message>
+        <source>Clipped share</source>
+        <translation>クリップする割合</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>圧縮</translation>
+    </message>
+    <message>
+        <source>Compression level</source>
+        <translation>圧縮レベル</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>作成者と権利</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>トーンカーブ</translation>
+    </message>
+    <message>
+        <source>Deflate</source>
+        <translation>Deflate</translation>
+    </message>
+    <message>
+        <source>Denoise</source>
+        <translation>ノイズ除去</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Each on its own</source>
+        <translation>個別</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>処理の手間</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>露出</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>反転</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Interpolation</source>
+        <translation>補間</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>階調の反転</translation>
+    </message>
+    <message>
+        <source>JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>Kept metadata</source>
+        <translation>残すメタデータ</translation>
+    </message>
+    <message>
+        <source>Keep the time of the file</source>
+        <translation>ファイルの日時を保つ</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>レベル補正</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>可逆圧縮</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>ルマ</translation>
+    </message>
+    <message>
+        <source>Luminance</source>
+        <translation>輝度</translation>
+    </message>
+    <message>
+        <source>Colour table</source>
+        <translation>カラールックアップテーブル</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Posterize</source>
+        <translation>ポスタリゼーション</translation>
+    </message>
+    <message>
+        <source>Progressive</source>
+        <translation>プログレッシブ</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>セピア</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>シャープ</translation>
+    </message>
+    <message>
+        <source>Radius (sigma)</source>
+        <translation>半径 (シグマ)</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大きさ</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>ぼかし幅</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>開始位置</translation>
+    </message>
+    <message>
+        <source>Stops</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>強さ</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>色温度</translation>
+    </message>
+    <message>
+        <source>Tetrahedral</source>
+        <translation>四面体</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>タイル</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>色かぶり</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>まとめて</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Trilinear</source>
+        <translation>三線形</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Vibrance</source>
+        <translation>自然な彩度</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>周辺光量</translation>
+    </message>
+    <message>
+        <source>Watermark with a picture</source>
+        <translation>画像の透かし</translation>
+    </message>
+    <message>
+        <source>Watermark with a text</source>
+        <translation>文字の透かし</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>Zstandard</source>
+        <translation>Zstandard</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>切り抜き(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Kind of crop</source>
+        <translation>切り抜きの種類</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置合わせ</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2</source>
+        <translation>比率 %1 : %2</translation>
+    </message>
+    <message>
+        <source>Ratio %1 : %2, turned with the picture</source>
+        <translation>比率 %1 : %2、画像の向きに合わせる</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2</source>
+        <translation>目を引く部分、比率 %1 : %2</translation>
+    </message>
+    <message>
+        <source>What draws the eye, ratio %1 : %2, turned with the picture</source>
+        <translation>目を引く部分、比率 %1 : %2、画像の向きに合わせる</translation>
+    </message>
+    <message>
+        <source>Scaled and cut to %1 x %2 px</source>
+        <translation>拡大縮小して %1 x %2 px に切り抜き</translation>
+    </message>
+    <message>
+        <source>Cut to %1 x %2 px</source>
+        <translation>%1 x %2 px に切り抜き</translation>
+    </message>
+    <message>
+        <source>Borders of one colour are cut off</source>
+        <translation>単色の縁を切り取ります</translation>
+    </message>
+    <message>
+        <source>No crop</source>
+        <translation>切り抜きなし</translation>
+    </message>
+    <message>
+        <source>Error&amp;s</source>
+        <translation>エラー(&amp;S)</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be read</source>
+        <translation>読み込めない画像</translation>
+    </message>
+    <message>
+        <source>A result that cannot be written</source>
+        <translation>書き出せない結果</translation>
+    </message>
+    <message>
+        <source>A picture that cannot be processed</source>
+        <translation>処理できない画像</translation>
+    </message>
+    <message>
+        <source>A name that is taken</source>
+        <translation>すでに使われている名前</translation>
+    </message>
+    <message>
+        <source>A format that cannot hold the picture</source>
+        <translation>画像を保存できない形式</translation>
+    </message>
+    <message>
+        <source>You are asked</source>
+        <translation>毎回確認します</translation>
+    </message>
+    <message>
+        <source>Decided in advance</source>
+        <translation>事前に決めておきます</translation>
+    </message>
+    <message>
+        <source>You are asked in %1 of %2 cases</source>
+        <translation>%2 件中 %1 件の場合に確認します</translation>
+    </message>
+    <message>
+        <source>O&amp;utput folder</source>
+        <translation>出力フォルダー(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Folder for the results</source>
+        <translation>結果のフォルダー</translation>
+    </message>
+    <message>
+        <source>The format of each input</source>
+        <translation>入力と同じ形式</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>%1, quality %2</source>
+        <translation>%1、品質 %2</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation>形式(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Lay pictures on a frame</source>
+        <translation>画像をフレームに置く</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>左の余白</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>上の余白</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>右の余白</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>下の余白</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>描画モード</translation>
+    </message>
+    <message>
+        <source>Opacity of the picture</source>
+        <translation>画像の不透明度</translation>
+    </message>
+    <message>
+        <source>A frame of its own size</source>
+        <translation>フレームのサイズを個別に指定</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>フレームの幅</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>フレームの高さ</translation>
+    </message>
+    <message>
+        <source>Colour of the background</source>
+        <translation>背景の色</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>Scale of the pattern</source>
+        <translation>パターンの倍率</translation>
+    </message>
+    <message>
+        <source>Picture of the background</source>
+        <translation>背景画像</translation>
+    </message>
+    <message>
+        <source>Opacity of the background</source>
+        <translation>背景の不透明度</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>影</translation>
+    </message>
+    <message>
+        <source>Kind of shadow</source>
+        <translation>影の種類</translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation>影の色</translation>
+    </message>
+    <message>
+        <source>Opacity of the shadow</source>
+        <translation>影の不透明度</translation>
+    </message>
+    <message>
+        <source>Direction of the light</source>
+        <translation>光の方向</translation>
+    </message>
+    <message>
+        <source>Distance of the shadow</source>
+        <translation>影の距離</translation>
+    </message>
+    <message>
+        <source>Softness of the shadow</source>
+        <translation>影のぼかし幅</translation>
+    </message>
+    <message>
+        <source>Fr&amp;ame</source>
+        <translation>フレーム(&amp;A)</translation>
+    </message>
+    <message>
+        <source>No frame</source>
+        <translation>フレームなし</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px with a shadow</source>
+        <translation>%1 x %2 px のフレーム、影付き</translation>
+    </message>
+    <message>
+        <source>A frame of %1 x %2 px</source>
+        <translation>%1 x %2 px のフレーム</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px with a shadow</source>
+        <translation>余白 %1、%2、%3、%4 px、影付き</translation>
+    </message>
+    <message>
+        <source>Margins %1, %2, %3, %4 px</source>
+        <translation>余白 %1、%2、%3、%4 px</translation>
+    </message>
+    <message>
+        <source>&amp;Metadata</source>
+        <translation>メタデータ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>All metadata is kept</source>
+        <translation>すべてのメタデータを残します</translation>
+    </message>
+    <message>
+        <source>No metadata is kept</source>
+        <translation>メタデータを残しません</translation>
+    </message>
+    <message>
+        <source>Kept are %1</source>
+        <translation>残すもの: %1</translation>
+    </message>
+    <message>
+        <source>First part</source>
+        <translation>先頭部</translation>
+    </message>
+    <message>
+        <source>Text of the first part</source>
+        <translation>先頭部のテキスト</translation>
+    </message>
+    <message>
+        <source>First number of the first part</source>
+        <translation>先頭部の開始番号</translation>
+    </message>
+    <message>
+        <source>Digits of the first part</source>
+        <translation>先頭部の桁数</translation>
+    </message>
+    <message>
+        <source>Between the first and the middle part</source>
+        <translation>先頭部と中央部の間</translation>
+    </message>
+    <message>
+        <source>Middle part</source>
+        <translation>中央部</translation>
+    </message>
+    <message>
+        <source>Text of the middle part</source>
+        <translation>中央部のテキスト</translation>
+    </message>
+    <message>
+        <source>First number of the middle part</source>
+        <translation>中央部の開始番号</translation>
+    </message>
+    <message>
+        <source>Digits of the middle part</source>
+        <translation>中央部の桁数</translation>
+    </message>
+    <message>
+        <source>Between the middle and the last part</source>
+        <translation>中央部と末尾部の間</translation>
+    </message>
+    <message>
+        <source>Last part</source>
+        <translation>末尾部</translation>
+    </message>
+    <message>
+        <source>Text of the last part</source>
+        <translation>末尾部のテキスト</translation>
+    </message>
+    <message>
+        <source>First number of the last part</source>
+        <translation>末尾部の開始番号</translation>
+    </message>
+    <message>
+        <source>Digits of the last part</source>
+        <translation>末尾部の桁数</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>&amp;Names</source>
+        <translation>名前(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Example, as if it had been taken on 2024-07-31 at 14:05:09: %1</source>
+        <translation>例（2024-07-31 14:05:09 に撮影したとして）: %1</translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation>例: %1</translation>
+    </message>
+    <message>
+        <source>As the format has it</source>
+        <translation>形式の既定値</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Co&amp;lour profile</source>
+        <translation>カラープロファイル(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Choose the file of a colour profile</source>
+        <translation>カラープロファイルのファイルを選択</translation>
+    </message>
+    <message>
+        <source>Remove the colour profile</source>
+        <translation>カラープロファイルを削除</translation>
+    </message>
+    <message>
+        <source>A profile of %1 bytes without a name</source>
+        <translation>名前のないプロファイル（%1 バイト）</translation>
+    </message>
+    <message>
+        <source>The profile of each input</source>
+        <translation>入力と同じプロファイル</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>カラープロファイル</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 in at %2 dpi</source>
+        <translation>%1 インチ、%2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 cm at %2 dpi</source>
+        <translation>%1 cm、%2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 mm at %2 dpi</source>
+        <translation>%1 mm、%2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>幅 %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>高さ %1</translation>
+    </message>
+    <message>
+        <source>Short side %1</source>
+        <translation>短辺 %1</translation>
+    </message>
+    <message>
+        <source>Long side %1</source>
+        <translation>長辺 %1</translation>
+    </message>
+    <message>
+        <source>Width %1, only smaller</source>
+        <translation>幅 %1、縮小のみ</translation>
+    </message>
+    <message>
+        <source>Height %1, only smaller</source>
+        <translation>高さ %1、縮小のみ</translation>
+    </message>
+    <message>
+        <source>Short side %1, only smaller</source>
+        <translation>短辺 %1、縮小のみ</translation>
+    </message>
+    <message>
+        <source>Long side %1, only smaller</source>
+        <translation>長辺 %1、縮小のみ</translation>
+    </message>
+    <message>
+        <source>Width %1, only larger</source>
+        <translation>幅 %1、拡大のみ</translation>
+    </message>
+    <message>
+        <source>Height %1, only larger</source>
+        <translation>高さ %1、拡大のみ</translation>
+    </message>
+    <message>
+        <source>Short side %1, only larger</source>
+        <translation>短辺 %1、拡大のみ</translation>
+    </message>
+    <message>
+        <source>Long side %1, only larger</source>
+        <translation>長辺 %1、拡大のみ</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>サイズ(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Side</source>
+        <translation>基準辺</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>The size stays</source>
+        <translation>サイズは変わりません</translation>
+    </message>
+    <message>
+        <source>Pictures that are added now are for the next run.</source>
+        <translation>今追加した画像は次の実行で処理されます。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Results go to %1</source>
+        <translation>出力先: %1</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Preset</source>
+        <translation>プリセット(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous picture</source>
+        <translation>前の画像(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next picture</source>
+        <translation>次の画像(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt pane</source>
+        <translation>次のパネル(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious pane</source>
+        <translation>前のパネル(&amp;V)</translation>
+    </message>
+    <message>
+        <source>%1[*] - Velkora Batch</source>
+        <translation>%1[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>%1 % - %2[*] - Velkora Batch</source>
+        <translation>%1 % - %2[*] - Velkora Batch</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>実行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The run cannot be started: %1.</source>
+        <translation>実行を開始できません: %1。</translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>表 (*.csv)</translation>
+    </message>
+    <message>
+        <source>JSON files (*.json)</source>
+        <translation>JSON ファイル (*.json)</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>レポートを保存</translation>
+    </message>
+    <message>
+        <source>The report was saved as %1.</source>
+        <translation>レポートを %1 として保存しました。</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1.</source>
+        <translation>レポートを保存できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The run cannot be forgotten: %1.</source>
+        <translation>実行を破棄できません: %1。</translation>
+    </message>
+    <message>
+        <source>The run cannot be resumed: %1.</source>
+        <translation>実行を再開できません: %1。</translation>
+    </message>
+    <message>
+        <source>All pictures are written</source>
+        <translation>すべての画像を書き出しました</translation>
+    </message>
+    <message>
+        <source>The run is finished, some pictures are left out</source>
+        <translation>実行が完了しました。一部の画像は書き出されていません</translation>
+    </message>
+    <message>
+        <source>The run is cancelled</source>
+        <translation>実行をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>The run has stopped</source>
+        <translation>実行が停止しました</translation>
+    </message>
+    <message>
+        <source>Pictures are being written</source>
+        <translation>画像を書き出しています</translation>
+    </message>
+    <message>
+        <source>A picture needs your decision</source>
+        <translation>画像について確認が必要です</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Show failures</source>
+        <translation>失敗した画像を表示</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -932,7 +2768,7 @@
     </message>
     <message>
         <source>; known are %1</source>
-        <translation>。使えるのは %1 です</translation>
+        <translation>。使えるのは %1</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
@@ -3193,6 +5029,274 @@
     <message>
         <source>range out of order in character class</source>
         <translation>文字クラスの範囲の順序が逆です</translation>
+    </message>
+    <message>
+        <source>the input&apos;s name without its extension</source>
+        <translation>入力の名前（拡張子なし）</translation>
+    </message>
+    <message>
+        <source>a number that counts the job&apos;s files</source>
+        <translation>ジョブ内のファイルの連番</translation>
+    </message>
+    <message>
+        <source>the capture date, YYYYMMDD</source>
+        <translation>撮影日、YYYYMMDD</translation>
+    </message>
+    <message>
+        <source>the capture time, HHMMSS</source>
+        <translation>撮影時刻、HHMMSS</translation>
+    </message>
+    <message>
+        <source>a text of your own</source>
+        <translation>自由なテキスト</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>everything in the output folder</source>
+        <translation>すべて出力フォルダーに</translation>
+    </message>
+    <message>
+        <source>folders as in the input</source>
+        <translation>入力と同じフォルダー</translation>
+    </message>
+    <message>
+        <source>a folder for each capture date, YYYY/YYYY-MM-DD</source>
+        <translation>撮影日ごとのフォルダー、YYYY/YYYY-MM-DD</translation>
+    </message>
+    <message>
+        <source>the size stays</source>
+        <translation>サイズは変わりません</translation>
+    </message>
+    <message>
+        <source>enlarge or reduce</source>
+        <translation>拡大または縮小</translation>
+    </message>
+    <message>
+        <source>only reduce</source>
+        <translation>縮小のみ</translation>
+    </message>
+    <message>
+        <source>only enlarge</source>
+        <translation>拡大のみ</translation>
+    </message>
+    <message>
+        <source>the width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>the height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>the long side</source>
+        <translation>長辺</translation>
+    </message>
+    <message>
+        <source>the short side</source>
+        <translation>短辺</translation>
+    </message>
+    <message>
+        <source>percent of the picture</source>
+        <translation>画像に対するパーセント</translation>
+    </message>
+    <message>
+        <source>inches at the resolution</source>
+        <translation>インチ（解像度による）</translation>
+    </message>
+    <message>
+        <source>centimetres at the resolution</source>
+        <translation>センチメートル（解像度による）</translation>
+    </message>
+    <message>
+        <source>millimetres at the resolution</source>
+        <translation>ミリメートル（解像度による）</translation>
+    </message>
+    <message>
+        <source>no crop</source>
+        <translation>切り抜きなし</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio width : height</source>
+        <translation>比率 幅 : 高さ で最大の範囲</translation>
+    </message>
+    <message>
+        <source>cut off a border of one colour</source>
+        <translation>単色の縁を切り取る</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye</source>
+        <translation>その比率で目を引く範囲</translation>
+    </message>
+    <message>
+        <source>scale to cover width x height, then cut</source>
+        <translation>幅 x 高さを覆うまで拡大縮小して切り取り</translation>
+    </message>
+    <message>
+        <source>width x height pixels</source>
+        <translation>幅 x 高さ ピクセル</translation>
+    </message>
+    <message>
+        <source>the largest frame of the ratio, turned with the picture</source>
+        <translation>その比率で最大の範囲、画像の向きに合わせる</translation>
+    </message>
+    <message>
+        <source>the frame of the ratio that draws the eye, turned with the picture</source>
+        <translation>その比率で目を引く範囲、画像の向きに合わせる</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>at the top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>on the left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>on the right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>at the top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>at the top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>at the bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>at the bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>transparent where the format allows it, else white</source>
+        <translation>形式が対応していれば透明、それ以外は白</translation>
+    </message>
+    <message>
+        <source>one colour</source>
+        <translation>単色</translation>
+    </message>
+    <message>
+        <source>a built-in pattern</source>
+        <translation>内蔵パターン</translation>
+    </message>
+    <message>
+        <source>an image file, scaled to cover</source>
+        <translation>画像ファイル（全体を覆うように拡大縮小）</translation>
+    </message>
+    <message>
+        <source>the picture covers its background</source>
+        <translation>画像が背景を覆います</translation>
+    </message>
+    <message>
+        <source>multiply</source>
+        <translation>乗算</translation>
+    </message>
+    <message>
+        <source>screen</source>
+        <translation>スクリーン</translation>
+    </message>
+    <message>
+        <source>overlay</source>
+        <translation>オーバーレイ</translation>
+    </message>
+    <message>
+        <source>the darker of the two</source>
+        <translation>暗い方</translation>
+    </message>
+    <message>
+        <source>the lighter of the two</source>
+        <translation>明るい方</translation>
+    </message>
+    <message>
+        <source>soft light</source>
+        <translation>ソフトライト</translation>
+    </message>
+    <message>
+        <source>hard light</source>
+        <translation>ハードライト</translation>
+    </message>
+    <message>
+        <source>the difference of the two</source>
+        <translation>両者の差</translation>
+    </message>
+    <message>
+        <source>a drop shadow</source>
+        <translation>ドロップシャドウ</translation>
+    </message>
+    <message>
+        <source>a glow around the picture, without offset</source>
+        <translation>画像の周りの光彩（ずれなし）</translation>
+    </message>
+    <message>
+        <source>skip the file</source>
+        <translation>ファイルをスキップ</translation>
+    </message>
+    <message>
+        <source>stop the run</source>
+        <translation>実行を停止</translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>確認する</translation>
+    </message>
+    <message>
+        <source>overwrite what is there</source>
+        <translation>既存のものを上書き</translation>
+    </message>
+    <message>
+        <source>append &quot; (2)&quot;, &quot; (3)&quot; and so on to the name</source>
+        <translation>名前に「 (2)」「 (3)」などを付加</translation>
+    </message>
+    <message>
+        <source>write the nearest format that can hold the picture</source>
+        <translation>画像を保存できる最も近い形式で書き出す</translation>
+    </message>
+    <message>
+        <source>reported only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file was skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the run was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the option %1 cannot say what the job holds</source>
+        <translation>オプション %1 ではジョブの内容を表せません</translation>
+    </message>
+    <message>
+        <source>%1 is a picture (%2) with another extension; it is added only if it is named.</source>
+        <translation>%1 は拡張子の異なる画像（%2）です。ファイル自体を指定した場合だけ追加されます。</translation>
+    </message>
+    <message>
+        <source>no private folder can be made for previews: %1</source>
+        <translation>プレビュー用の専用フォルダーを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>the picture that was made for the screen cannot be read</source>
+        <translation>画面表示用に作成した画像を読み込めません</translation>
+    </message>
+    <message>
+        <source>The effect &quot;%1&quot; does not exist</source>
+        <translation>効果「%1」は存在しません</translation>
     </message>
 </context>
 </TS>
