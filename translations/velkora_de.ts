@@ -5268,15 +5268,15 @@
     </message>
     <message>
         <source>reported only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur gemeldet</translation>
     </message>
     <message>
         <source>the file was skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei wurde übersprungen</translation>
     </message>
     <message>
         <source>the run was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>der Lauf wurde angehalten</translation>
     </message>
     <message>
         <source>the option %1 cannot say what the job holds</source>

@@ -5268,15 +5268,15 @@
     </message>
     <message>
         <source>reported only</source>
-        <translation type="unfinished"></translation>
+        <translation>solo notificado</translation>
     </message>
     <message>
         <source>the file was skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo se omitió</translation>
     </message>
     <message>
         <source>the run was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>la ejecución se detuvo</translation>
     </message>
     <message>
         <source>the option %1 cannot say what the job holds</source>

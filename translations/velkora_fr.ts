@@ -5268,15 +5268,15 @@
     </message>
     <message>
         <source>reported only</source>
-        <translation type="unfinished"></translation>
+        <translation>seulement signalé</translation>
     </message>
     <message>
         <source>the file was skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier a été ignoré</translation>
     </message>
     <message>
         <source>the run was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>l’exécution a été arrêtée</translation>
     </message>
     <message>
         <source>the option %1 cannot say what the job holds</source>

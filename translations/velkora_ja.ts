@@ -5268,15 +5268,15 @@
     </message>
     <message>
         <source>reported only</source>
-        <translation type="unfinished"></translation>
+        <translation>報告のみ</translation>
     </message>
     <message>
         <source>the file was skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルはスキップされました</translation>
     </message>
     <message>
         <source>the run was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>実行が停止されました</translation>
     </message>
     <message>
         <source>the option %1 cannot say what the job holds</source>
