@@ -6,16 +6,23 @@
 #include "ZTBatchManager.h"
 
 #include <QAction>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QToolButton>
 
 namespace BatchDesktop {
 
+namespace {
+
+constexpr int columns = 2; // All in a row would make the pane too wide, in some languages.
+
+} // namespace
+
 ActionButtons::ActionButtons(QWidget* parent)
     : QWidget(parent)
-    , row(new QHBoxLayout(this))
+    , grid(new QGridLayout(this))
 {
-    row->setContentsMargins(0, 0, 0, 0);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnStretch(columns, 1);
     if (const ZTBatchManager* const manager = ZTBatchManager::Instance()) {
         connect(manager, &ZTBatchManager::InputActionRegistered, this, &ActionButtons::Rebuild);
         connect(manager, &ZTBatchManager::InputActionUnregistered, this, &ActionButtons::Rebuild);
@@ -25,7 +32,7 @@ ActionButtons::ActionButtons(QWidget* parent)
 
 void ActionButtons::Rebuild()
 {
-    while (QLayoutItem* const item = row->takeAt(0)) {
+    while (QLayoutItem* const item = grid->takeAt(0)) {
         delete item->widget();
         delete item;
     }
@@ -40,9 +47,9 @@ void ActionButtons::Rebuild()
         button->setObjectName(action->objectName() + QStringLiteral("Button"));
         button->setAccessibleName(action->iconText());
         connect(action, &QObject::destroyed, button, &QObject::deleteLater); // The manager gives no signal then.
-        row->addWidget(button);
+        const int place = grid->count();
+        grid->addWidget(button, place / columns, place % columns, Qt::AlignLeft);
     }
-    row->addStretch();
     Q_EMIT ActionsChanged();
 }
 

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 class QAction;
-class QHBoxLayout;
+class QGridLayout;
 
 namespace BatchDesktop {
 
@@ -25,7 +25,7 @@ Q_SIGNALS:
 private:
     void Rebuild();
 
-    QHBoxLayout* row = nullptr;
+    QGridLayout* grid = nullptr;
 };
 
 } // namespace BatchDesktop

@@ -3,6 +3,8 @@
 
 #include "PictureList.h"
 
+#include "RunStates.h"
+
 #include "hosts/common/Language.h"
 
 #include <QEvent>
@@ -49,7 +51,8 @@ QModelIndex RowBeside(const QAbstractItemModel& model, const QModelIndex& index,
     return at.isValid() ? at.sibling(at.row() + 1, 0) : QModelIndex();
 }
 
-/// All rows are as high as those with a thumbnail, that of a folder at the top too, by which the list goes.
+/// All rows are as high as those with a thumbnail, that of a folder at the top too, by which the list goes. Other
+/// icons are as high as the text.
 class RowPainter : public QStyledItemDelegate
 {
 public:
@@ -58,8 +61,17 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const QSize asked = QStyledItemDelegate::sizeHint(option, index);
-        return {asked.width(),
-                std::max(asked.height(), option.decorationSize.height() + option.fontMetrics.height() / 4)};
+        const int height = option.decorationSize.height() + option.fontMetrics.height() / 4;
+        return {asked.width(), std::max(asked.height(), height)};
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.column() != PictureColumns::ThumbnailColumn) {
+            option->decorationSize = QSize(option->fontMetrics.height(), option->fontMetrics.height());
+        }
     }
 };
 
@@ -153,9 +165,13 @@ void PictureList::FitIcons()
 {
     const int side = fontMetrics().height() * 2;
     setIconSize(QSize(side * 3 / 2, side));
-    const int letter = fontMetrics().averageCharWidth();
     header()->resizeSection(PictureColumns::ThumbnailColumn, side * 2);
-    header()->resizeSection(PictureColumns::StateColumn, letter * 10);
+    using State = RunStates::State;
+    int widest = 0;
+    for (const State state : {State::Waiting, State::Working, State::Written, State::Skipped, State::Failed}) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(RunStates::Word(state)));
+    }
+    header()->resizeSection(PictureColumns::StateColumn, widest + side); // with an icon
 }
 
 /// Folders are open when they come.

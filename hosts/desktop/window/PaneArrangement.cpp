@@ -46,7 +46,7 @@ PaneArrangement::PaneArrangement(QWidget* picturesPane, QWidget* previewPane, QW
 void PaneArrangement::SetWidths(const QByteArray& saved)
 {
     widths = saved;
-    if (!IsNarrow()) {
+    if (hasSize && !IsNarrow()) {
         ApplyWidths();
     }
 }
@@ -74,6 +74,12 @@ void PaneArrangement::resizeEvent(QResizeEvent* event)
                        settings->minimumSizeHint().width() + 2 * handleWidth();
     Arrange(event->size().width() < std::max(needed, leastWidthOfThree));
     QSplitter::resizeEvent(event);
+    if (!hasSize) {
+        hasSize = true; // Before that, widths were shared by nobody.
+        if (!IsNarrow()) {
+            ApplyWidths();
+        }
+    }
 }
 
 void PaneArrangement::Arrange(bool isNarrow)
@@ -97,8 +103,8 @@ void PaneArrangement::Arrange(bool isNarrow)
 void PaneArrangement::ApplyWidths()
 {
     if (!restoreState(widths)) {
-        const int share = window()->width() / 10;
-        setSizes({3 * share, 4 * share, 3 * share});
+        const int share = width() / 20;
+        setSizes({7 * share, 7 * share, 6 * share});
     }
     setChildrenCollapsible(false); // It is a part of the saved state.
 }

@@ -42,6 +42,7 @@ private:
     QWidget* const preview;
     QWidget* const settings;
     QTabWidget* const tabs;
+    bool hasSize = false;
     QByteArray widths; ///< of three panes, while there are two
 };
 

@@ -23,7 +23,7 @@ using namespace BatchDesktop;
 
 // Pictures of the window in its states, made by the window itself with real photos and a real run. Language and scale
 // come from the environment.
-//   windowshots PHOTOS FOLDER [--size WIDTHxHEIGHT] [--dark] [--prefix TEXT] [--state NAME]...
+//   windowshots PHOTOS FOLDER --state NAME [--size WIDTHxHEIGHT] [--dark] [--prefix TEXT]
 
 namespace {
 
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    static constexpr int settling = 300; // ms, for what is painted at leisure
+    static constexpr int settling = 3000; // ms, for what is shown at leisure, such as the estimate
 
     QString Path(const char* name) const { return temporary.filePath(QLatin1String(name)); }
 
@@ -82,8 +82,12 @@ private:
         WaitFor([this] { return !window.Preview().File().isEmpty(); }, "pictures");
     }
 
+    /// In a narrow window it is behind a tab.
     void ShowPreview()
     {
+        if (!window.Preview().isVisible()) {
+            return;
+        }
         QSignalSpy made(&window.Preview().Maker(), &PreviewMaker::Made);
         WaitFor([&made] { return !made.isEmpty(); }, "the preview");
     }
@@ -109,6 +113,7 @@ private:
         Edit();
         window.StartRun();
         WaitFor([this] { return window.Runner().CurrentProgress().Done() >= 3; }, "the third picture");
+        window.Runner().Pause(); // It stays as it is for the picture.
     }
 
     /// The names of the results are taken.
@@ -171,17 +176,15 @@ int main(int argc, char** argv)
     const QStringList arguments = parser.positionalArguments();
     const QStringList sides = parser.value(size).split(QLatin1Char('x'));
     if (arguments.size() != 2 || sides.size() != 2) {
-        qFatal("windowshots PHOTOS FOLDER [--size WxH] [--dark] [--prefix TEXT] [--state NAME]...");
+        qFatal("windowshots PHOTOS FOLDER --state NAME [--size WxH] [--dark] [--prefix TEXT]");
     }
     if (parser.isSet(dark)) {
         QApplication::setPalette(DarkPalette());
     }
-    for (const QString& wanted : parser.values(state)) {
-        Shots shots(arguments.first(), arguments.last() + QLatin1Char('/') + parser.value(prefix),
-                    QSize(sides.first().toInt(), sides.last().toInt()));
-        if (!shots.Take(wanted)) {
-            qFatal("%s is no state, or its picture could not be written", qPrintable(wanted));
-        }
+    Shots shots(arguments.first(), arguments.last() + QLatin1Char('/') + parser.value(prefix),
+                QSize(sides.first().toInt(), sides.last().toInt()));
+    if (!shots.Take(parser.value(state))) {
+        qFatal("%s is no state, or its picture could not be written", qPrintable(parser.value(state)));
     }
     return 0;
 }
