@@ -145,7 +145,11 @@ void WorkerProcess::OnReport(const Report& report)
             return;
         }
         isReady = true;
-        clock.stop();
+        if (tasks.isEmpty()) {
+            clock.stop();
+        } else {
+            clock.start(taskTime); // It was given a task before it was ready.
+        }
         Q_EMIT Ready();
         return;
     }

@@ -25,6 +25,8 @@ using namespace BatchDesktop;
 using namespace BatchHost;
 using namespace BatchJob;
 
+Q_DECLARE_METATYPE(Settings)
+
 /// A preview is, byte for byte, the file that a run of the real server writes.
 class tst_PreviewBytes : public QObject
 {
@@ -221,8 +223,6 @@ void tst_PreviewBytes::settings()
     QFETCH(Settings, wanted);
     Compare(photo, wanted);
 }
-
-Q_DECLARE_METATYPE(BatchDesktop::Settings)
 
 QTEST_MAIN(tst_PreviewBytes)
 

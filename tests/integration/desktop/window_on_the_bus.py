@@ -19,10 +19,12 @@ import tempfile
 import time
 
 PATIENCE = 90  # seconds
+FIRST_LOOK = 5  # seconds
+NOT_THERE_YET = 75
 
 
-def fail(text):
-    sys.exit(f"FAIL: {text}")
+class NotThere(Exception):
+    """Something that has to come did not."""
 
 
 def in_session():
@@ -36,7 +38,7 @@ def in_session():
         with os.fdopen(read_end) as numbers:
             number = numbers.readline().strip()
         if not number:
-            fail("Xvfb did not start")
+            raise NotThere("Xvfb did not start")
         with tempfile.TemporaryDirectory() as home:
             environment = dict(os.environ, DISPLAY=f":{number}", HOME=home, XDG_RUNTIME_DIR=home, TMPDIR=home,
                                XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data",
@@ -74,20 +76,20 @@ def find(root, role, matches):
     return None
 
 
-def wait_for(what, look):
-    end = time.monotonic() + PATIENCE
+def wait_for(what, look, seconds=PATIENCE):
+    end = time.monotonic() + seconds
     while time.monotonic() < end:
         found = look()
         if found:
             return found
         time.sleep(0.1)
-    return fail(f"{what} did not come")
+    raise NotThere(f"{what} did not come")
 
 
 def press(button):
     from gi.repository import Atspi
     if not Atspi.Action.do_action(button, 0):
-        fail(f"{button.get_name()} cannot be pressed")
+        raise NotThere(f"{button.get_name()} cannot be pressed")
 
 
 def make_job(velkora_batch, photos):
@@ -103,44 +105,66 @@ def make_job(velkora_batch, photos):
     return job
 
 
-def use_window(program, job_file):
+def use_window(process):
+    """Does with the window of `process` what its user would."""
     import gi
     gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi
+    from gi.repository import Atspi, GLib
 
-    window = subprocess.Popen([program, job_file])
-    try:
-        def application():
-            if window.poll() is not None:
-                fail(f"the window has ended with {window.returncode}")
-            desktop = Atspi.get_desktop(0)
-            for i in range(desktop.get_child_count()):
+    def application():
+        desktop = Atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            try:
                 child = desktop.get_child_at_index(i)
-                if child is not None and child.get_process_id() == window.pid:
+                if child is not None and child.get_process_id() == process:
                     return child
-            return None
+            except GLib.Error:
+                continue
+        return None
 
-        def enabled(name):
-            button = find(application(), "push button", lambda shown: shown == name)
-            return button if button and button.get_state_set().contains(Atspi.StateType.SENSITIVE) else None
+    def enabled(name):
+        button = find(root, "push button", lambda shown: shown == name)
+        return button if button and button.get_state_set().contains(Atspi.StateType.SENSITIVE) else None
 
-        root = wait_for("the window", application)
-        press(wait_for("the button Start", lambda: enabled("Start")))
-        question = wait_for("the question", lambda: find(root, "label", lambda name: "is taken" in name))
-        print("asked:", question.get_name())
-        press(wait_for("the answer for the rest", lambda: find(root, "check box", lambda name: "rest" in name)))
-        press(wait_for("the answer Skip", lambda: enabled("Skip it")))
-        end = wait_for("the end", lambda: find(root, "label", lambda name: name.startswith("Finished")))
-        print("ended:", end.get_name())
-        if "1 written, 2 skipped, 0 failed" not in end.get_name():
-            fail("one picture was to be written")
+    try:
+        root = wait_for("the window", application, FIRST_LOOK)
+    except NotThere:
+        sys.exit(NOT_THERE_YET)
+    press(wait_for("the button Start", lambda: enabled("Start")))
+    question = wait_for("the question", lambda: find(root, "label", lambda name: "is taken" in name))
+    print("asked:", question.get_name())
+    press(wait_for("the answer for the rest", lambda: find(root, "check box", lambda name: "rest" in name)))
+    press(wait_for("the answer Skip", lambda: enabled("Skip it")))
+    end = wait_for("the end", lambda: find(root, "label", lambda name: name.startswith("Finished")))
+    print("ended:", end.get_name())
+    if "1 written, 2 skipped, 0 failed" not in end.get_name():
+        raise NotThere("one picture was to be written")
+
+
+def start_window(program, job_file):
+    """Starts the window, and users of it until one finds it: one that looks too early never sees it."""
+    window = subprocess.Popen([program, job_file])
+    end = time.monotonic() + PATIENCE
+    try:
+        while window.poll() is None:
+            user = subprocess.run([sys.executable, __file__, "--use", str(window.pid)]).returncode
+            if user != NOT_THERE_YET:
+                return user
+            if time.monotonic() > end:
+                raise NotThere("the window did not come")
+        raise NotThere(f"the window has ended with {window.returncode}")
     finally:
         window.terminate()
         window.wait()
 
 
 if __name__ == "__main__":
-    if os.environ.get("IN_SESSION") == "1":
-        use_window(sys.argv[1], make_job(sys.argv[2], sys.argv[3:]))
-    else:
-        sys.exit(in_session())
+    try:
+        if sys.argv[1] == "--use":
+            use_window(int(sys.argv[2]))
+        elif os.environ.get("IN_SESSION") == "1":
+            sys.exit(start_window(sys.argv[1], make_job(sys.argv[2], sys.argv[3:])))
+        else:
+            sys.exit(in_session())
+    except NotThere as problem:
+        sys.exit(f"FAIL: {problem}")

@@ -41,6 +41,12 @@ ParameterField::ParameterField(const ParameterRow& row, const Choosers& choosers
     });
 }
 
+// A field with the focus says what was typed in it when it is destroyed.
+ParameterField::~ParameterField()
+{
+    editor->disconnect(this);
+}
+
 void ParameterField::SetProblem(const QString& problem)
 {
     problemOfValue = problem;

@@ -28,6 +28,7 @@ class ParameterField : public QWidget
 
 public:
     ParameterField(const ParameterRow& row, const Choosers& choosers, QWidget* parent);
+    ~ParameterField() override;
 
     ParameterEditor* Editor() const { return editor; }
 
