@@ -25,7 +25,7 @@ class SettingsPane : public QWidget
 
 public:
     /// `job` must outlive the pane.
-    explicit SettingsPane(EditedJob& job, QWidget* parent = nullptr, Choosers choosers = Choosers::Dialogs());
+    explicit SettingsPane(EditedJob& job, QWidget* parent = nullptr, Choosers wanted = Choosers::Dialogs());
     ~SettingsPane() override;
 
     /// The picture whose name is shown as the example, its place in the job, counted from 0, and when it was taken, if

@@ -118,10 +118,10 @@ void EffectsSection::MakeAddMenu(QWidget* content)
 
 void EffectsSection::MakeActions()
 {
-    duplicate = MakeAction("duplicate", Messages::tr("Duplicate the effect"), QKeySequence(Qt::CTRL | Qt::Key_D));
+    duplicate = MakeAction("duplicate", Messages::tr("Duplicate the effect"), QKeySequence(Qt::CTRL + Qt::Key_D));
     remove = MakeAction("remove", Messages::tr("Remove the effect"), QKeySequence(Qt::Key_Delete));
-    up = MakeAction("up", Messages::tr("Apply the effect earlier"), QKeySequence(Qt::ALT | Qt::Key_Up));
-    down = MakeAction("down", Messages::tr("Apply the effect later"), QKeySequence(Qt::ALT | Qt::Key_Down));
+    up = MakeAction("up", Messages::tr("Apply the effect earlier"), QKeySequence(Qt::ALT + Qt::Key_Up));
+    down = MakeAction("down", Messages::tr("Apply the effect later"), QKeySequence(Qt::ALT + Qt::Key_Down));
     connect(duplicate, &QAction::triggered, this, [this] { chain.Duplicate(CurrentRow()); });
     connect(remove, &QAction::triggered, this, [this] { chain.removeRows(CurrentRow(), 1); });
     connect(up, &QAction::triggered, this, [this] { chain.Move(CurrentRow(), CurrentRow() - 1); });

@@ -15,7 +15,7 @@ class CurveArea : public QWidget
     Q_OBJECT
 
 public:
-    CurveArea(double minimum, double maximum, QWidget* parent);
+    CurveArea(double low, double high, QWidget* parent);
 
     const CurvePoints& Points() const { return points; }
     void SetPoints(const QJsonArray& wanted);

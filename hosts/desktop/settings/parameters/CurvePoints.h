@@ -13,17 +13,17 @@ namespace BatchDesktop {
 class CurvePoints
 {
 public:
-    CurvePoints(double minimum, double maximum);
+    CurvePoints(double low, double high);
 
-    /// Takes over `points` if they are as above; others leave the line from corner to corner.
-    void Set(const QJsonArray& points);
+    /// Takes over `wanted` if they are as above; others leave the line from corner to corner.
+    void Set(const QJsonArray& wanted);
     QJsonArray ToJson() const;
 
     int Count() const { return points.size(); }
     const QPointF& At(int index) const { return points.at(index); }
 
     /// The place of the new point; -1 if there is no room for one.
-    int Add(const QPointF& point);
+    int Add(const QPointF& wanted);
 
     /// Between its neighbours: it never passes them.
     void Move(int index, const QPointF& wanted);

@@ -22,8 +22,8 @@ class ParameterForm : public QWidget
     Q_OBJECT
 
 public:
-    /// `choosers` must outlive it.
-    ParameterForm(const Choosers& choosers, QWidget* parent);
+    /// `dialogs` must outlive it.
+    ParameterForm(const Choosers& dialogs, QWidget* parent);
 
     /// The editors are made anew only if the rows are others.
     void SetRows(const QVector<ParameterRow>& wanted);

@@ -10,7 +10,7 @@ namespace BatchDesktop {
 class SliderScale
 {
 public:
-    SliderScale(double minimum, double maximum, bool isInteger);
+    SliderScale(double low, double high, bool isWhole);
 
     int Minimum() const { return first; }
     int Maximum() const { return last; }
@@ -24,7 +24,7 @@ public:
     double Step() const { return isWide ? 0.0 : step; }
 
 private:
-    double Stretched(double distance) const;
+    double Stretched(double share) const;
 
     double minimum;
     double maximum;

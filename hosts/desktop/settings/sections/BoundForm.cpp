@@ -49,8 +49,7 @@ void BoundForm::Change(const QString& name, const QJsonValue& value)
     if (found == parameters.cend()) {
         return;
     }
-    // The change leads back to Show(), which replaces the parameters.
-    const BoundParameter parameter = *found;
+    BoundParameter parameter = *found; // The change leads back to Show(), which replaces the parameters.
     Settings wanted = job.CurrentSettings();
     parameter.write(wanted, value);
     job.Change(wanted, BatchHost::Messages::tr("%1: %2").arg(title, parameter.row.label), parameter.row.id);

@@ -32,7 +32,7 @@ QString MetadataSection::State() const
         if (option.row.schema.type == BatchJob::ParameterType::ChoiceList) {
             const QJsonValue kept = option.read(Now());
             QStringList names;
-            for (const QJsonValue& name : kept.toArray()) {
+            for (const QJsonValue name : kept.toArray()) {
                 names.append(ShownName(name.toString()));
             }
             if (kept.isUndefined() || kept == option.row.schema.defaultValue) {

@@ -28,8 +28,10 @@ public:
     QString StateText() const;
 
 protected:
-    /// `title` may have a mnemonic; `id` is the name of the heading for tests. Both references must outlive it.
-    SettingsSection(const QString& title, const QString& id, EditedJob& job, const Choosers& choosers, QWidget* parent);
+    /// `shownTitle` may have a mnemonic; `wantedId` is the name of the heading for tests. Both references must outlive
+    /// it.
+    SettingsSection(const QString& shownTitle, const QString& wantedId, EditedJob& editedJob, const Choosers& dialogs,
+                    QWidget* parent);
 
     /// Must be called once, at the end of the constructor.
     void SetContent(QWidget* wanted);
@@ -38,7 +40,7 @@ protected:
     virtual void Refresh() = 0;
 
     /// `problem` is a text of the job's checks; it is shown instead of the state.
-    void ShowState(const QString& state, const QString& problem);
+    void ShowState(const QString& shown, const QString& problem);
 
     const Settings& Now() const { return job.CurrentSettings(); }
     EditedJob& Job() const { return job; }
