@@ -182,7 +182,7 @@ void tst_Autosave::unwritableFoldersAreSaidOnce()
     QSignalSpy failures(&stage->desk->Saving(), &Autosave::Failed);
     Edit();
     QTRY_COMPARE(failures.size(), 1);
-    QVERIFY(stage->Notice().contains(stage->Path("data")));
+    QVERIFY(stage->Notice().contains(QDir::toNativeSeparators(stage->Path("data"))));
     stage->desk->Notice().hide();
     stage->SetLength(1);
     QTRY_COMPARE(failures.size(), 2);

@@ -88,7 +88,7 @@ void tst_SettingsPane::foldedSectionsSayTheirState_data()
     row("asking", "errors", "You are asked", [](Settings&) {});
     row("partly asking", "errors", "You are asked in 4 of 5 cases",
         [](Settings& settings) { settings.policies[std::size_t(PolicyKind::Naming)] = ZTBatchManager::NamingRename; });
-    row("folder", "folder", "/results", [](Settings&) {});
+    row("folder", "folder", qUtf8Printable(QDir::toNativeSeparators(QStringLiteral("/results"))), [](Settings&) {});
 }
 
 void tst_SettingsPane::foldedSectionsSayTheirState()
