@@ -13,8 +13,8 @@
 
 namespace BatchProtocol {
 
-/// A job as its workers get it, and what has to be known of it to give it to them. Whoever wants the bytes that a run
-/// would write makes the job with these functions.
+/// A job as its workers get it, and what has to be known of it to give it to them. A caller that wants the bytes that a
+/// run would write makes the job with these functions.
 struct WorkerJob
 {
     BatchJob::Refusal refusal; ///< if there is one, the rest is empty

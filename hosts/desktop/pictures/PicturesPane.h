@@ -51,13 +51,13 @@ public:
     /// Names are planned anew: a run may have taken some.
     void RenewNames() { plan.Renew(); }
 
-    /// For whoever watches a run.
+    /// For the observer of a run.
     RunStates& States() { return states; }
 
     /// Adds files and folders, by the registered handler.
     void AddPaths(const QStringList& paths);
 
-    /// The path of the current picture; empty if there is none or a folder is current.
+    /// The path of the current picture; empty if a folder is current or nothing.
     QString Current() const { return current; }
 
     void SelectPrevious() { SelectBeside(-1); }

@@ -10,7 +10,7 @@
 
 namespace BatchDesktop {
 
-/// What a run has made of each picture so far, by path. Set by whoever watches the run.
+/// What a run has made of each picture so far, by path. Set by the observer of the run.
 class RunStates : public QObject
 {
     Q_OBJECT

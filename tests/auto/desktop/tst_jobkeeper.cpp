@@ -281,10 +281,10 @@ void tst_JobKeeper::recentJobsAreInTheMenu()
     QVERIFY(actions.at(0)->isEnabled());
     QVERIFY(actions.at(1)->text().contains(QDir::toNativeSeparators(QStringLiteral("/11.vbatch.xml"))));
     QVERIFY(!actions.at(1)->isEnabled());
-    QVERIFY(actions.at(9)->text().endsWith(QStringLiteral("/3.vbatch.xml")));
+    QVERIFY(actions.at(9)->text().endsWith(QDir::toNativeSeparators(QStringLiteral("/3.vbatch.xml"))));
     actions.at(9)->trigger();
     QCOMPARE(keeper->File(), stage->Path("3.vbatch.xml"));
-    QVERIFY(Recent().at(0)->text().endsWith(QStringLiteral("/3.vbatch.xml")));
+    QVERIFY(Recent().at(0)->text().endsWith(QDir::toNativeSeparators(QStringLiteral("/3.vbatch.xml"))));
     Recent().last()->trigger();
     QCOMPARE(Recent().size(), 2);
 }
