@@ -39,7 +39,7 @@ public:
     /// Reads everything. Called once, on a thread that may wait.
     void Run(const std::function<bool()>& isCancelled);
 
-    /// The next branch; its node is null if there is none at the moment. Safe on any thread.
+    /// The next branch, with a null node if none is ready. Safe on any thread.
     Branch Take();
 
     /// For the end of the scan: one sentence for each path that could not be added, or was left out unexpectedly;

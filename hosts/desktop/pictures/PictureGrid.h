@@ -30,7 +30,7 @@ public:
     /// Makes `input` the current one. Opens its folder.
     void SetCurrent(const QModelIndex& input);
 
-    /// The current input; invalid if there is none.
+    /// The current input, or an invalid index.
     QModelIndex Current() const { return cells.InputAt(currentIndex()); }
 
 Q_SIGNALS:

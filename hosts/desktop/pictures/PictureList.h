@@ -22,7 +22,7 @@ public:
     QStringList PicturesInSight() const;
 
     /// The next picture in the direction of `step`, 1 or -1, that passes the filter, whether its folder is open or not.
-    /// With an invalid `from` the first or the last one. Invalid if there is none.
+    /// An invalid `from` gives the first or the last one. Invalid at the end of the list.
     QModelIndex Neighbour(const QModelIndex& from, int step) const;
 
 Q_SIGNALS:

@@ -24,7 +24,7 @@ public:
     struct Place
     {
         QString own;     ///< path of our thumbnail, whether it exists or not; empty if there is no such picture
-        QString desktop; ///< path of a valid thumbnail of the desktop; empty if there is none
+        QString desktop; ///< path of the desktop's thumbnail, if that has a valid one
         bool isMade = false;
         bool isBroken = false; ///< it was tried before, in vain
     };

@@ -31,10 +31,10 @@ public:
     /// they are being made.
     void Want(const QStringList& pictures);
 
-    /// Null as long as there is none.
+    /// The thumbnail of a picture; null before it is made.
     QPixmap Of(const QString& picture) const;
 
-    /// Whether there is and will be none, until the file changes.
+    /// Whether a thumbnail could not be made. It is not tried again until the file changes.
     bool IsBroken(const QString& picture) const { return broken.contains(picture); }
 
     /// The picture may have changed on the disk.

@@ -17,10 +17,10 @@ namespace BatchDesktop {
 struct PreviewPictures
 {
     QString input;
-    QString result;  ///< a private file, which stays until the next preview is asked for
-    QString format;  ///< of the result, one of Formats()
-    QImage before;   ///< the input, cut and sized as the result, without effects and frame; null when there is none
-    QImage after;    ///< the result; null when it has more pixels than can be shown
+    QString result; ///< a private file, which stays until the next preview is asked for
+    QString format; ///< of the result, one of Formats()
+    QImage before; ///< the input, cut and sized as the result, without effects and frame; null where it cannot be shown
+    QImage after;  ///< the result; null when it has more pixels than can be shown
     QSize inputSize; ///< pixels, upright; empty if it is not known
     QSize size;      ///< of the result, in pixels
     qint64 inputBytes = -1;

@@ -120,7 +120,7 @@ private:
     std::optional<Notice> wanted;
     bool isStale = false; ///< what is shown is not what is wanted
     bool isCalling = false;
-    uint shown = 0; ///< the notification's number; 0 if there is none
+    uint shown = 0; ///< number of the notification on the screen; 0 without one
 };
 
 Notifier::Notifier(QObject* parent)

@@ -33,10 +33,6 @@ class MainWindow : public QMainWindow
 
 public:
     /// Policies and presets are in `settingsFolder`; what the window remembers is in `dataFolder`.
-    explicit MainWindow(const QString& settingsFolder)
-        : MainWindow(settingsFolder, settingsFolder)
-    {
-    }
     MainWindow(const QString& settingsFolder, const QString& dataFolder);
     ~MainWindow() override;
 

@@ -98,7 +98,7 @@ void RunLink::ConnectInterruptedRuns()
     search.Start();
 }
 
-/// The run's job becomes the one in the window if there is none.
+/// An empty window shows the job of the run; other jobs stay.
 void RunLink::TakeUp(const InterruptedRun& run)
 {
     const QString obstacle = runner.Obstacle();

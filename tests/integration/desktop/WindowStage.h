@@ -47,7 +47,7 @@ public:
 
     bool Open()
     {
-        window = std::make_unique<BatchDesktop::MainWindow>(SettingsFolder());
+        window = std::make_unique<BatchDesktop::MainWindow>(SettingsFolder(), Path(QStringLiteral("data")));
         window->resize(1280, 800); // A narrow one hides the preview, which then makes nothing.
         window->show();
         return QTest::qWaitForWindowExposed(window.get());

@@ -88,7 +88,7 @@ void tst_SystemLink::init()
     for (int i = 1; i <= pictures; ++i) {
         PictureFiles::WriteJpeg(Path(QStringLiteral("photos/%1.jpg").arg(i)), i);
     }
-    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")));
+    window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
     Settings settings = window->Job().CurrentSettings();

@@ -83,7 +83,8 @@ void tst_WindowAccess::init()
     for (int i = 1; i <= 3; ++i) {
         PictureFiles::WriteJpeg(folder->filePath(QStringLiteral("photos/%1.jpg").arg(i)), i);
     }
-    window = std::make_unique<MainWindow>(folder->filePath(QStringLiteral("settings")));
+    window = std::make_unique<MainWindow>(folder->filePath(QStringLiteral("settings")),
+                                          folder->filePath(QStringLiteral("data")));
     window->resize(1400, 900);
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));

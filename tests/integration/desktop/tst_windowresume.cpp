@@ -46,7 +46,7 @@ int RunUntilKilled()
 {
     EndWithParent();
     const QDir folder(qEnvironmentVariable(folderVariable));
-    MainWindow window(folder.filePath(QStringLiteral("settings")));
+    MainWindow window(folder.filePath(QStringLiteral("settings")), folder.filePath(QStringLiteral("data")));
     window.show();
     Settings settings = window.Job().CurrentSettings();
     settings.outputFolder = folder.filePath(QStringLiteral("out"));

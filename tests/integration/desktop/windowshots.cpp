@@ -35,7 +35,7 @@ public:
     Shots(QString photosFolder, QString shotsFolder, const QSize& size)
         : photos(std::move(photosFolder))
         , folder(std::move(shotsFolder))
-        , window(temporary.filePath(QStringLiteral("settings")))
+        , window(Path("settings"), Path("data"))
     {
         window.resize(size);
         window.show();
