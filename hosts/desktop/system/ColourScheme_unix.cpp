@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
-#include "ColourScheme.h"
+#include "ColourScheme_unix.h"
 
 #include "BusCalls_unix.h"
 
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 
 namespace BatchDesktop {
 
@@ -35,37 +34,26 @@ ColourScheme::Preference PreferenceOf(QVariant value)
 
 } // namespace
 
-class ColourScheme::Link : public QObject
+ColourScheme::Link::Link(ColourScheme& owner)
+    : owner(owner)
 {
-    Q_OBJECT
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection(bus).connect(settings.service, settings.path, settings.interface, QStringLiteral("SettingChanged"),
+                                 this, SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
+    CallOnBus(bus, settings, QStringLiteral("Read"), {appearance, colourScheme}, this,
+              [this](const QDBusPendingReply<QDBusVariant>& reply) {
+                  if (!reply.isError()) {
+                      this->owner.Set(PreferenceOf(QVariant::fromValue(reply.value())));
+                  }
+              });
+}
 
-public:
-    explicit Link(ColourScheme& owner)
-        : owner(owner)
-    {
-        const QDBusConnection bus = QDBusConnection::sessionBus();
-        QDBusConnection(bus).connect(settings.service, settings.path, settings.interface,
-                                     QStringLiteral("SettingChanged"), this,
-                                     SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
-        CallOnBus(bus, settings, QStringLiteral("Read"), {appearance, colourScheme}, this,
-                  [this](const QDBusPendingReply<QDBusVariant>& reply) {
-                      if (!reply.isError()) {
-                          this->owner.Set(PreferenceOf(QVariant::fromValue(reply.value())));
-                      }
-                  });
+void ColourScheme::Link::OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+{
+    if (group == appearance && key == colourScheme) {
+        owner.Set(PreferenceOf(value.variant()));
     }
-
-private Q_SLOTS:
-    void OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value)
-    {
-        if (group == appearance && key == colourScheme) {
-            owner.Set(PreferenceOf(value.variant()));
-        }
-    }
-
-private:
-    ColourScheme& owner;
-};
+}
 
 ColourScheme::ColourScheme(QObject* parent)
     : QObject(parent)
@@ -76,5 +64,3 @@ ColourScheme::ColourScheme(QObject* parent)
 ColourScheme::~ColourScheme() = default;
 
 } // namespace BatchDesktop
-
-#include "ColourScheme_unix.moc"

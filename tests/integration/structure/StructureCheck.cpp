@@ -110,6 +110,10 @@ void Checker::CheckInclude(const QString& name, bool quoted)
 {
     static const QRegularExpression generated(QStringLiteral("(^|/)(moc_|ui_)[^/]*$|\\.moc$"));
     ++report.includes;
+    if (name.contains(generated)) {
+        Report(QStringLiteral("a generated file, which checks without a build cannot read: %1").arg(name));
+        return;
+    }
     if (FolderOrder::IsImagingHeader(name)) {
         if (!FolderOrder::MayUseImaging(part))
             Report(QStringLiteral("%1 may not use an imaging library: %2").arg(part, name));
@@ -117,7 +121,7 @@ void Checker::CheckInclude(const QString& name, bool quoted)
     }
     const QString used = Resolve(name, quoted);
     if (used.isEmpty()) {
-        if (quoted && !name.contains(generated))
+        if (quoted)
             Report(QStringLiteral("no such file beside the source, below the root or among the libraries' headers: %1")
                        .arg(name));
         return;
