@@ -178,10 +178,19 @@ void Measure(int files, int perFolder)
             },
             [&] { return isDone; });
     };
-    Print("filter by text", once([&] { pane.Filter(QStringLiteral("99"), ShownState::All); }), 0);
-    Print("filter ended", once([&] { pane.Filter(QString(), ShownState::All); }), 0);
-    Print("undo of adding", once([&] { job.History().undo(); }), 0);
-    Print("redo of adding", once([&] { job.History().redo(); }), 0);
+    Print("filter by text", once([&] { pane.Filter(QStringLiteral("99"), ShownState::All); }), 50);
+    Print("filter ended", once([&] { pane.Filter(QString(), ShownState::All); }), 50);
+    Print("every tenth picture filtered", once([&] { pane.Filter(QStringLiteral("7."), ShownState::All); }), 50);
+    Print("filter ended", once([&] { pane.Filter(QString(), ShownState::All); }), 50);
+    Print("all selected", once([&] { list.selectAll(); }), 50);
+    Print("filter with all selected", once([&] { pane.Filter(QStringLiteral("99"), ShownState::All); }), 50);
+    Print("filter ended", once([&] { pane.Filter(QString(), ShownState::All); }), 50);
+    list.selectAll();
+    Print("all removed", once([&] { pane.RemoveSelected(); }), 50);
+    Print("undo of removing", once([&] { job.History().undo(); }), 50);
+    list.selectAll();
+    Print("undo of adding", once([&] { job.History().undo(); }), 50);
+    Print("redo of adding", once([&] { job.History().redo(); }), 50);
     Print("resident memory", Mebibytes("VmRSS:"), "MiB", 300);
     Print("its peak", Mebibytes("VmHWM:"), "MiB", 300);
 }

@@ -36,10 +36,12 @@ std::unique_ptr<InputNode> CopyOf(const InputNode& node)
     while (!open.empty()) {
         const auto [from, to] = open.back();
         open.pop_back();
+        to->children.reserve(from->children.size());
         for (const InputNode* const child : from->children) {
             auto* const childCopy = new InputNode;
             childCopy->data = child->data;
-            to->insertChild(childCopy); // Equal siblings keep their order.
+            childCopy->parent = to;
+            to->children.append(childCopy); // They are in order already.
             if (!child->children.isEmpty()) {
                 open.emplace_back(child, childCopy);
             }

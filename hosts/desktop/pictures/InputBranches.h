@@ -20,6 +20,12 @@ inline InputNode* NodeOf(const QModelIndex& index)
     return static_cast<InputNode*>(index.internalPointer());
 }
 
+/// The folder of a node of the tree; null for the top.
+inline InputNode* FolderOf(const InputNode* node)
+{
+    return node->parent->parent == nullptr ? nullptr : node->parent;
+}
+
 /// A place in the input tree: the rows from the top down to it.
 using InputPlace = QVector<int>;
 

@@ -153,7 +153,7 @@ QAction* InputModule::AddAction(const QString& name, const QString& text, const 
 
 void InputModule::UpdateActions()
 {
-    const bool hasSelection = !pane.SelectedInputs().isEmpty();
+    const bool hasSelection = pane.HasSelection();
     remove->setEnabled(hasSelection);
     show->setEnabled(hasSelection);
 }

@@ -82,6 +82,11 @@ void InputPaths::OnInserted(const QModelIndex& parent, int first, int last)
 
 void InputPaths::OnRemoving(const QModelIndex& parent, int first, int last)
 {
+    if (!parent.isValid() && last - first + 1 == model.rowCount()) {
+        nodes.clear();
+        folders.clear();
+        return;
+    }
     for (int row = first; row <= last; ++row) {
         Forget(NodeOf(model.index(row, 0, parent)));
     }

@@ -46,6 +46,19 @@ QSet<InputNode*> OutermostOf(const QModelIndexList& indexes)
     return outermost;
 }
 
+/// Adds the paths of the folders of a branch.
+void AddFolders(const InputNode& branch, QSet<QString>& folders)
+{
+    QVector<const InputNode*> open{&branch};
+    while (!open.isEmpty()) {
+        const InputNode* const node = open.takeLast();
+        if (node->data.type == Folder) {
+            folders.insert(node->data.fileName);
+            std::copy(node->children.begin(), node->children.end(), std::back_inserter(open));
+        }
+    }
+}
+
 } // namespace
 
 AddInputsStep::AddInputsStep(ZTBatchInputModel& model, std::shared_ptr<ScanControl> scan, const QString& text)
@@ -59,10 +72,19 @@ AddInputsStep::~AddInputsStep() = default;
 
 void AddInputsStep::Insert(std::unique_ptr<InputNode> branch, const QModelIndex& parent)
 {
+    AddFolders(*branch, folders);
     Item item;
+    item.folder = parent.isValid() ? NodeOf(parent)->data.fileName : QString();
     item.parent = PlaceOf(parent);
     item.row = model.InsertBranch(branch.release(), parent).row();
-    items.push_back(std::move(item));
+    Note(std::move(item));
+}
+
+void AddInputsStep::Note(Item item)
+{
+    if (!folders.contains(item.folder)) {
+        items.push_back(std::move(item));
+    }
 }
 
 void AddInputsStep::undo()
@@ -91,8 +113,11 @@ bool AddInputsStep::mergeWith(const QUndoCommand* other)
     if (next.scan != scan) {
         return false;
     }
-    std::move(next.items.begin(), next.items.end(), std::back_inserter(items));
+    for (Item& item : next.items) {
+        Note(std::move(item));
+    }
     next.items.clear();
+    folders += next.folders;
     return true;
 }
 

@@ -5,6 +5,7 @@
 
 #include "InputBranches.h"
 
+#include <QSet>
 #include <QUndoCommand>
 
 #include <memory>
@@ -25,6 +26,7 @@ class AddInputsStep : public QUndoCommand
 public:
     struct Item
     {
+        QString folder;                    ///< path of the parent
         InputPlace parent;                 ///< when the branch is inserted
         int row = -1;                      ///< that it got
         std::unique_ptr<InputNode> branch; ///< null while it is in the model
@@ -43,9 +45,14 @@ public:
     bool mergeWith(const QUndoCommand* other) override;
 
 private:
+    void Note(Item item);
+
     ZTBatchInputModel& model;
     const std::shared_ptr<ScanControl> scan;
-    mutable std::vector<Item> items; ///< in the order of insertion; moved to the step that this one is merged with
+    QSet<QString> folders; ///< paths of those that the step has added
+    /// In the order of insertion, without those in a folder that the step has added: they come and go with it. Moved to
+    /// the step that this one is merged with.
+    mutable std::vector<Item> items;
     bool isDone = true;
 };
 

@@ -14,12 +14,6 @@ namespace BatchDesktop {
 
 namespace {
 
-/// The folder of a node of the tree; null for the top.
-const InputNode* FolderOf(const InputNode* node)
-{
-    return node->parent->parent == nullptr ? nullptr : node->parent;
-}
-
 const InputNode* FolderAt(const QModelIndex& index)
 {
     return index.isValid() ? NodeOf(index) : nullptr;
@@ -94,6 +88,13 @@ bool PictureColumns::hasChildren(const QModelIndex& parent) const
     return rowCount(parent) > 0;
 }
 
+/// Views look for the state of each row that can have children.
+Qt::ItemFlags PictureColumns::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QIdentityProxyModel::flags(index);
+    return index.isValid() && PictureTexts::IsFile(*NodeOf(index)) ? flags | Qt::ItemNeverHasChildren : flags;
+}
+
 QVariant PictureColumns::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid()) {
@@ -166,6 +167,11 @@ QModelIndex PictureColumns::mapFromSource(const QModelIndex& index) const
     return createIndex(row, 0, index.internalPointer());
 }
 
+QModelIndex PictureColumns::IndexOf(InputNode* node) const
+{
+    return mapFromSource(inputs.indexFromNode(node));
+}
+
 void PictureColumns::OnChanged(const QString& path)
 {
     const QModelIndex first = mapFromSource(paths.IndexOf(path));
@@ -176,6 +182,7 @@ void PictureColumns::OnChanged(const QString& path)
 
 void PictureColumns::OnAllChanged()
 {
+    Q_EMIT AllChanging();
     const auto emitFor = [this](const QModelIndex& folder) {
         const int rows = rowCount(folder);
         if (rows > 0) {

@@ -27,16 +27,23 @@ public:
 
     const PictureTexts& Texts() const { return texts; }
 
+    QModelIndex IndexOf(InputNode* node) const;
+
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex& child) const override;
     QModelIndex sibling(int row, int column, const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     bool hasChildren(const QModelIndex& parent = QModelIndex()) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     QModelIndex mapToSource(const QModelIndex& index) const override;
     QModelIndex mapFromSource(const QModelIndex& index) const override;
+
+Q_SIGNALS:
+    /// Emitted before dataChanged() for all rows.
+    void AllChanging();
 
 private:
     void OnChanged(const QString& path);

@@ -20,10 +20,27 @@ namespace BatchDesktop {
 
 namespace {
 
-bool IsPicture(const QAbstractItemModel& model, const QModelIndex& index)
+bool IsPicture(const QModelIndex& index)
 {
-    const auto& filter = static_cast<const PictureFilter&>(model); // The list has no other model.
-    return PictureTexts::IsFile(*NodeOf(filter.mapToSource(index)));
+    return PictureTexts::IsFile(*NodeOf(index));
+}
+
+/// The pictures at `top` and below it that pass the filter, as indexes of the filter's source.
+QModelIndexList PicturesBelow(const PictureFilter& filter, const QModelIndex& top)
+{
+    QModelIndexList pictures;
+    QVector<QModelIndex> open{top};
+    while (!open.isEmpty()) {
+        const QModelIndex index = open.takeLast();
+        if (IsPicture(index)) {
+            pictures.append(filter.mapToSource(index));
+        }
+        const int rows = filter.rowCount(index);
+        for (int row = 0; row < rows; ++row) {
+            open.append(filter.index(row, 0, index));
+        }
+    }
+    return pictures;
 }
 
 /// The row after `index`, or before it, in a tree with all folders open. Invalid at the end.
@@ -104,11 +121,64 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
     connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::SightChanged);
     connect(&filter, &QAbstractItemModel::rowsRemoved, this, &PictureList::SightChanged);
     connect(&filter, &QAbstractItemModel::modelReset, this, &PictureList::SightChanged);
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& folder) { NoteClosed(folder, false); });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& folder) { NoteClosed(folder, true); });
     connect(this, &QTreeView::expanded, this, &PictureList::SightChanged);
     connect(this, &QTreeView::collapsed, this, &PictureList::SightChanged);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &PictureList::SightChanged);
     FitIcons();
     OpenFolders(QModelIndex(), 0, filter.rowCount() - 1);
+}
+
+void PictureList::ShowOnly(const QString& text, ShownState state)
+{
+    if (filter.Shows(text, state)) {
+        return;
+    }
+    const QPersistentModelIndex current = filter.mapToSource(currentIndex());
+    selectionModel()->clear(); // Each selected row would be followed by itself to where it is then.
+    filter.Show(text, state);
+    scheduleDelayedItemsLayout(); // One for all folders that open.
+    OpenFolders(QModelIndex(), 0, filter.rowCount() - 1);
+    const QModelIndex shown = filter.mapFromSource(current);
+    setCurrentIndex(shown.isValid() ? shown : Neighbour(QModelIndex(), 1));
+}
+
+QModelIndexList PictureList::Selected() const
+{
+    const QItemSelection ranges = selectionModel()->selection();
+    QSet<InputNode*> folders;
+    for (const QItemSelectionRange& rows : ranges) {
+        // Folders come before files.
+        for (int row = rows.top(); row <= rows.bottom(); ++row) {
+            const QModelIndex index = filter.index(row, 0, rows.parent());
+            if (IsPicture(index)) {
+                break;
+            }
+            folders.insert(NodeOf(index));
+        }
+    }
+    const auto isBelowSelected = [&](QModelIndex folder) {
+        while (folder.isValid() && !folders.contains(NodeOf(folder))) {
+            folder = folder.parent();
+        }
+        return folder.isValid();
+    };
+    QModelIndexList selected;
+    for (const QItemSelectionRange& rows : ranges) {
+        if (isBelowSelected(rows.parent())) {
+            continue;
+        }
+        for (int row = rows.top(); row <= rows.bottom(); ++row) {
+            const QModelIndex index = filter.index(row, 0, rows.parent());
+            if (filter.IsActive()) {
+                selected += PicturesBelow(filter, index);
+            } else {
+                selected.append(filter.mapToSource(index));
+            }
+        }
+    }
+    return selected;
 }
 
 QStringList PictureList::PicturesInSight() const
@@ -121,8 +191,8 @@ QStringList PictureList::PicturesInSight() const
     const int page = viewport()->height() / height + 1;
     QStringList paths;
     const auto note = [&](const QModelIndex& index) {
-        if (IsPicture(filter, index)) {
-            paths.append(NodeOf(filter.mapToSource(index))->data.fileName);
+        if (IsPicture(index)) {
+            paths.append(NodeOf(index)->data.fileName);
         }
     };
     QModelIndex at = first;
@@ -141,7 +211,7 @@ QStringList PictureList::PicturesInSight() const
 QModelIndex PictureList::Neighbour(const QModelIndex& from, int step) const
 {
     QModelIndex at = RowBeside(filter, from.siblingAtColumn(0), step);
-    while (at.isValid() && !IsPicture(filter, at)) {
+    while (at.isValid() && !IsPicture(at)) {
         at = RowBeside(filter, at, step);
     }
     return at;
@@ -174,7 +244,17 @@ void PictureList::FitIcons()
     header()->resizeSection(PictureColumns::StateColumn, widest + side); // with an icon
 }
 
-/// Folders are open when they come.
+void PictureList::NoteClosed(const QModelIndex& folder, bool isClosed)
+{
+    const QString& path = NodeOf(folder)->data.fileName;
+    if (isClosed) {
+        closed.insert(path);
+    } else {
+        closed.remove(path);
+    }
+}
+
+/// Folders are open when they come, unless they were closed before.
 void PictureList::OpenFolders(const QModelIndex& parent, int first, int last)
 {
     QVector<QModelIndex> open;
@@ -183,12 +263,12 @@ void PictureList::OpenFolders(const QModelIndex& parent, int first, int last)
     }
     while (!open.isEmpty()) {
         const QModelIndex folder = open.takeLast();
-        if (IsPicture(filter, folder)) {
+        if (IsPicture(folder)) {
             continue;
         }
-        expand(folder);
+        setExpanded(folder, !closed.contains(NodeOf(folder)->data.fileName));
         // Folders come before files.
-        for (int row = 0; row < filter.rowCount(folder) && !IsPicture(filter, filter.index(row, 0, folder)); ++row) {
+        for (int row = 0; row < filter.rowCount(folder) && !IsPicture(filter.index(row, 0, folder)); ++row) {
             open.append(filter.index(row, 0, folder));
         }
     }

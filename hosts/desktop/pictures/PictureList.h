@@ -5,6 +5,7 @@
 
 #include "PictureFilter.h"
 
+#include <QSet>
 #include <QTreeView>
 
 namespace BatchDesktop {
@@ -17,6 +18,14 @@ class PictureList : public QTreeView
 public:
     /// `filter` must outlive this object.
     explicit PictureList(PictureFilter& filter, QWidget* parent = nullptr);
+
+    /// Shows only some of the pictures. Nothing but the current one stays selected, so that no hidden one can be
+    /// removed with others; if it is hidden, the first of those shown becomes current.
+    void ShowOnly(const QString& text, ShownState state);
+
+    /// The selected rows but for those below another one, as indexes of the filter's source. While only some of the
+    /// pictures are shown, these stand for a folder: what is hidden is not meant.
+    QModelIndexList Selected() const;
 
     /// The paths of the pictures that are seen, and then of those of one page after and before.
     QStringList PicturesInSight() const;
@@ -36,8 +45,10 @@ protected:
 private:
     void FitIcons();
     void OpenFolders(const QModelIndex& parent, int first, int last);
+    void NoteClosed(const QModelIndex& folder, bool isClosed);
 
     PictureFilter& filter;
+    QSet<QString> closed; ///< paths of the folders that the user has closed
 };
 
 } // namespace BatchDesktop

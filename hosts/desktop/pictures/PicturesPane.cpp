@@ -229,11 +229,16 @@ QModelIndexList PicturesPane::SelectedInputs() const
         }
         return selected;
     }
-    const QModelIndexList rows = list->selectionModel()->selectedRows();
+    const QModelIndexList rows = list->Selected();
     for (const QModelIndex& row : rows) {
-        selected.append(columns.mapToSource(filter.mapToSource(row)));
+        selected.append(columns.mapToSource(row));
     }
     return selected;
+}
+
+bool PicturesPane::HasSelection() const
+{
+    return IsGrid() ? !SelectedInputs().isEmpty() : list->selectionModel()->hasSelection();
 }
 
 QStringList PicturesPane::SelectedPaths() const
@@ -304,7 +309,7 @@ void PicturesPane::Take(const QMimeData* data)
 void PicturesPane::ApplyFilter()
 {
     filterDelay.stop();
-    filter.Show(filterText->text().trimmed(), ShownState(filterState->currentData().toInt()));
+    list->ShowOnly(filterText->text().trimmed(), ShownState(filterState->currentData().toInt()));
     UpdateHead();
     Begin(sightDelay);
 }
@@ -356,8 +361,10 @@ void PicturesPane::ShowGrid(bool isGrid)
     const QModelIndex input = CurrentInput();
     (isGrid ? gridButton : listButton)->setChecked(true);
     UpdateHead();
-    filterText->setEnabled(!isGrid);
-    filterState->setEnabled(!isGrid);
+    for (QWidget* const field : {static_cast<QWidget*>(filterText), static_cast<QWidget*>(filterState)}) {
+        field->setEnabled(!isGrid);
+        field->setToolTip(isGrid ? Messages::tr("The grid shows all pictures; the list can be filtered.") : QString());
+    }
     SelectInput(input);
     Begin(sightDelay);
 }

@@ -70,6 +70,7 @@ public:
     /// The selected pictures and folders, as indexes of the input model and as paths.
     QModelIndexList SelectedInputs() const;
     QStringList SelectedPaths() const;
+    bool HasSelection() const;
 
     /// Removes them, as a step of the history.
     void RemoveSelected();

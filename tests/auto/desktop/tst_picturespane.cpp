@@ -59,6 +59,8 @@ private Q_SLOTS:
     void selectedPicturesAreRemovedByKey();
     void nextAndPreviousFollowTheFilter();
     void filterByTextAndState();
+    void whatTheFilterHidesIsNotRemoved();
+    void theFilterKeepsTheCurrentPictureAndClosedFolders();
     void theGridHasTheSameCurrentPicture();
     void showInFolderGetsTheSelection();
     void vanishedFilesAreSaid();
@@ -297,6 +299,52 @@ void tst_PicturesPane::filterByTextAndState()
     QTRY_COMPARE(Head(), QStringLiteral("1 of 3 pictures"));
     pane->Filter(QString(), ShownState::All);
     QCOMPARE(Head(), QStringLiteral("3 pictures in 1 folder"));
+}
+
+void tst_PicturesPane::whatTheFilterHidesIsNotRemoved()
+{
+    WritePictures({QStringLiteral("in/a1.jpg"), QStringLiteral("in/b1.jpg"), QStringLiteral("in/sub/a2.jpg"),
+                   QStringLiteral("in/sub/b2.jpg")});
+    Add({Path(QStringLiteral("in"))});
+    auto* const list = pane->findChild<PictureList*>();
+    QTRY_VERIFY(list->isVisible());
+    list->selectAll();
+    QCOMPARE(pane->SelectedPaths(), QStringList(Path(QStringLiteral("in"))));
+    pane->Filter(QStringLiteral("a"), ShownState::All);
+    QVERIFY(pane->SelectedPaths().isEmpty() || pane->SelectedPaths() == QStringList(pane->Current()));
+    list->selectAll();
+    QStringList selected = pane->SelectedPaths();
+    selected.sort();
+    QCOMPARE(selected, QStringList({Path(QStringLiteral("in/a1.jpg")), Path(QStringLiteral("in/sub/a2.jpg"))}));
+    pane->RemoveSelected();
+    QCOMPARE(Count(), 2);
+    QVERIFY(pane->Inputs().Contains(Path(QStringLiteral("in/b1.jpg"))));
+    QVERIFY(pane->Inputs().Contains(Path(QStringLiteral("in/sub/b2.jpg"))));
+    job->History().undo();
+    QCOMPARE(Count(), 4);
+}
+
+void tst_PicturesPane::theFilterKeepsTheCurrentPictureAndClosedFolders()
+{
+    WritePictures({QStringLiteral("in/one/a1.jpg"), QStringLiteral("in/one/b1.jpg"), QStringLiteral("in/two/a2.jpg"),
+                   QStringLiteral("in/two/b2.jpg")});
+    Add({Path(QStringLiteral("in"))});
+    auto* const list = pane->findChild<PictureList*>();
+    QTRY_VERIFY(list->isVisible());
+    const QAbstractItemModel& rows = *list->model();
+    const auto one = [&] { return rows.index(0, 0, rows.index(0, 0)); };
+    QVERIFY(list->isExpanded(one()));
+    list->collapse(one());
+    pane->Select(Path(QStringLiteral("in/two/b2.jpg")));
+    pane->Filter(QStringLiteral("b"), ShownState::All);
+    QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/b2.jpg")));
+    pane->Filter(QStringLiteral("a2"), ShownState::All);
+    QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/a2.jpg")));
+    QCOMPARE(rows.rowCount(rows.index(0, 0)), 1);
+    pane->Filter(QString(), ShownState::All);
+    QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/a2.jpg")));
+    QVERIFY(!list->isExpanded(one()));
+    QVERIFY(list->isExpanded(one().siblingAtRow(1)));
 }
 
 void tst_PicturesPane::theGridHasTheSameCurrentPicture()
