@@ -14,8 +14,12 @@
 
 #include <QDir>
 #include <QSettings>
+#include <QTimer>
+
+#include <chrono>
 
 using namespace BatchHost;
+using namespace std::chrono_literals;
 
 namespace BatchDesktop {
 
@@ -24,12 +28,20 @@ namespace {
 constexpr int mostFolders = 20;
 const QString foldersKey = QStringLiteral("folders");
 
+/// A server may live a moment longer than the window that was killed.
+constexpr int mostRepeats = 10;
+constexpr auto repeatDelay = 1s;
+
+} // namespace
+
 /// On the thread.
-QVector<InterruptedRun> RunsIn(const QString& folder)
+InterruptedRunSearch::FoundRuns InterruptedRunSearch::RunsIn(const QString& folder)
 {
-    QVector<InterruptedRun> found;
+    FoundRuns found;
+    found.folder = folder;
     const InterruptedRuns runs(folder);
     for (const InterruptedRuns::Run& run : runs.All()) {
+        found.isOneRunning = found.isOneRunning || run.isRunning;
         ZTBatchDocument job;
         if (run.isRunning || !run.state || !job.Deserialize(run.state->document)) {
             continue;
@@ -43,15 +55,13 @@ QVector<InterruptedRun> RunsIn(const QString& folder)
             BatchJob::FilesOfJob(*job.GetInputModel()).size(),
         };
         if (interrupted.done < interrupted.files) {
-            found.append(interrupted);
+            found.interrupted.append(interrupted);
         } else {
-            InterruptedRunSearch::Forget(interrupted); // It was kept to try its failed pictures again.
+            Forget(interrupted); // It was kept to try its failed pictures again.
         }
     }
     return found;
 }
-
-} // namespace
 
 InterruptedRunSearch::InterruptedRunSearch(const QString& settingsFolder, QObject* parent)
     : QObject(parent)
@@ -78,6 +88,7 @@ void InterruptedRunSearch::SetFolders(const QStringList& folders) const
 
 void InterruptedRunSearch::Remember(const QString& folder)
 {
+    repeatsLeft = 0; // What is running there now is this window's own.
     QStringList folders = Folders();
     folders.removeAll(folder);
     folders.prepend(folder);
@@ -86,27 +97,42 @@ void InterruptedRunSearch::Remember(const QString& folder)
 
 void InterruptedRunSearch::Start()
 {
-    const auto work = [this, folders = Folders()] {
-        QVector<InterruptedRun> runs;
-        QStringList without;
+    repeatsLeft = mostRepeats;
+    SearchIn(Folders());
+}
+
+void InterruptedRunSearch::SearchIn(const QStringList& folders)
+{
+    const auto work = [this, folders] {
+        QVector<FoundRuns> found;
         for (const QString& folder : folders) {
-            const QVector<InterruptedRun> found = RunsIn(folder);
-            runs += found;
-            if (found.isEmpty()) {
-                without.append(folder);
-            }
+            found.append(RunsIn(folder));
         }
-        const auto take = [this, runs, without] {
-            QStringList left = Folders();
-            for (const QString& folder : without) {
-                left.removeAll(folder);
-            }
-            SetFolders(left);
-            Q_EMIT Found(runs);
-        };
-        QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, found] { Take(found); }, Qt::QueuedConnection);
     };
     threads.start(work); // It ends before this object.
+}
+
+void InterruptedRunSearch::Take(const QVector<FoundRuns>& found)
+{
+    QVector<InterruptedRun> runs;
+    QStringList running;
+    QStringList left = Folders();
+    for (const FoundRuns& here : found) {
+        runs += here.interrupted;
+        if (here.isOneRunning) {
+            running.append(here.folder);
+        } else if (here.interrupted.isEmpty()) {
+            left.removeAll(here.folder);
+        }
+    }
+    SetFolders(left);
+    if (!running.isEmpty() && repeatsLeft > 0) {
+        --repeatsLeft;
+        QTimer::singleShot(repeatDelay, this, [this, running] { SearchIn(running); });
+    }
+    Q_EMIT Found(runs);
 }
 
 QString InterruptedRunSearch::Forget(const InterruptedRun& run)

@@ -36,21 +36,33 @@ public:
     /// A run writes into `folder`.
     void Remember(const QString& folder);
 
-    /// Looks into the folders, on a thread. Those without interrupted runs are forgotten.
+    /// Looks into the folders, on a thread. Those without runs are forgotten. Those with a run that seems to be running
+    /// are looked into again for some seconds, until this window starts a run.
     void Start();
 
     /// Gives up the run for good. Returns why it cannot, in the user's language; empty if it could.
     static QString Forget(const InterruptedRun& run);
 
 Q_SIGNALS:
-    /// Emitted once for each Start().
+    /// Emitted for each look into folders, with all that is interrupted in them.
     void Found(const QVector<BatchDesktop::InterruptedRun>& runs);
 
 private:
+    struct FoundRuns
+    {
+        QString folder;
+        QVector<InterruptedRun> interrupted;
+        bool isOneRunning = false;
+    };
+
+    static FoundRuns RunsIn(const QString& folder);
+    void SearchIn(const QStringList& folders);
+    void Take(const QVector<FoundRuns>& found);
     QStringList Folders() const;
     void SetFolders(const QStringList& folders) const;
 
     const QString file;
+    int repeatsLeft = 0;
     QThreadPool threads;
 };
 

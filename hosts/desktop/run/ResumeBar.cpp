@@ -48,8 +48,16 @@ QPushButton* ResumeBar::AddButton(const char* name, const QString& label,
 
 void ResumeBar::Offer(const QVector<InterruptedRun>& newRuns)
 {
-    runs = newRuns;
-    Refresh();
+    const int countBefore = runs.size();
+    for (const InterruptedRun& run : newRuns) {
+        if (!offered.contains(run.journal)) {
+            offered.insert(run.journal);
+            runs.append(run);
+        }
+    }
+    if (countBefore == 0) {
+        Refresh();
+    }
 }
 
 void ResumeBar::SetCanResume(bool isPossible)

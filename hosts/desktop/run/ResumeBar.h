@@ -8,6 +8,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
+#include <QSet>
 
 namespace BatchDesktop {
 
@@ -19,7 +20,8 @@ class ResumeBar : public QFrame
 public:
     explicit ResumeBar(QWidget* parent = nullptr);
 
-    void Offer(const QVector<InterruptedRun>& runs);
+    /// Adds to what is offered; a run is offered once.
+    void Offer(const QVector<InterruptedRun>& newRuns);
 
     /// Runs cannot be resumed while another one is going on.
     void SetCanResume(bool isPossible);
@@ -33,6 +35,7 @@ private:
     void Refresh();
 
     QVector<InterruptedRun> runs; ///< the first one is offered
+    QSet<QString> offered;        ///< journals
     QLabel* const text;
     QPushButton* resume = nullptr;
 };

@@ -4,6 +4,8 @@
 #include "ProcessEnd.h"
 #include "WindowStage.h"
 
+#include "hosts/common/JournalFile.h"
+
 #include <QProcess>
 
 #include <algorithm>
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void aClosedRunIsOffered();
     void finishedRunsAreNotOffered();
     void vanishedFoldersAreForgotten();
+    void runsThatEndLateAreOffered();
 
 private:
     bool KillWindowInItsRun() const;
@@ -202,6 +205,24 @@ void tst_WindowResume::vanishedFoldersAreForgotten()
     QVERIFY(found.wait(WindowStage::patience));
     QVERIFY(found.first().first().value<QVector<InterruptedRun>>().isEmpty());
     QVERIFY(!QFileInfo::exists(stage->Path(QStringLiteral("out"))));
+}
+
+void tst_WindowResume::runsThatEndLateAreOffered()
+{
+    QVERIFY(KillWindowInItsRun());
+    const QStringList journals = BatchHost::JournalFile::In(stage->Path(QStringLiteral("out")));
+    QCOMPARE(journals.size(), 1);
+    auto server = BatchHost::JournalFile::Take(journals.first());
+    QVERIFY2(server->Problem().isEmpty(), qPrintable(server->Problem()));
+    InterruptedRunSearch search(stage->SettingsFolder());
+    QSignalSpy found(&search, &InterruptedRunSearch::Found);
+    const auto foundLast = [&] { return found.last().first().value<QVector<InterruptedRun>>(); };
+    search.Start();
+    QVERIFY(found.wait(WindowStage::patience));
+    QVERIFY(foundLast().isEmpty());
+    server.reset();
+    QTRY_COMPARE_WITH_TIMEOUT(foundLast().size(), 1, WindowStage::patience);
+    QCOMPARE(foundLast().first().journal, journals.first());
 }
 
 int main(int argc, char** argv)
