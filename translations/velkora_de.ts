@@ -928,12 +928,12 @@
         <translation>Ein Bild auswählen, um zu sehen, was daraus wird.</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3</source>
-        <translation>%1 x %2 px, %3</translation>
+        <source>%1 × %2 px, %3</source>
+        <translation>%1 × %2 px, %3</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
-        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+        <source>%1 × %2 px, %3 → %4 × %5 px, %6</source>
+        <translation>%1 × %2 px, %3 → %4 × %5 px, %6</translation>
     </message>
     <message>
         <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
@@ -1668,12 +1668,12 @@
         <translation>Auffälligster Ausschnitt, Verhältnis %1 : %2, mit dem Bild gedreht</translation>
     </message>
     <message>
-        <source>Scaled and cut to %1 x %2 px</source>
-        <translation>Skaliert und zugeschnitten auf %1 x %2 px</translation>
+        <source>Scaled and cut to %1 × %2 px</source>
+        <translation>Skaliert und zugeschnitten auf %1 × %2 px</translation>
     </message>
     <message>
-        <source>Cut to %1 x %2 px</source>
-        <translation>Zugeschnitten auf %1 x %2 px</translation>
+        <source>Cut to %1 × %2 px</source>
+        <translation>Zugeschnitten auf %1 × %2 px</translation>
     </message>
     <message>
         <source>Borders of one colour are cut off</source>
@@ -1840,12 +1840,12 @@
         <translation>Kein Rahmen</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px with a shadow</source>
-        <translation>Rahmen von %1 x %2 px mit Schatten</translation>
+        <source>A frame of %1 × %2 px with a shadow</source>
+        <translation>Rahmen von %1 × %2 px mit Schatten</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px</source>
-        <translation>Rahmen von %1 x %2 px</translation>
+        <source>A frame of %1 × %2 px</source>
+        <translation>Rahmen von %1 × %2 px</translation>
     </message>
     <message>
         <source>Margins %1, %2, %3, %4 px with a shadow</source>
@@ -2206,6 +2206,14 @@
     <message>
         <source>Show failures</source>
         <translation>Fehlgeschlagene anzeigen</translation>
+    </message>
+    <message>
+        <source>Begins with a new job.</source>
+        <translation>Beginnt mit einem neuen Auftrag.</translation>
+    </message>
+    <message>
+        <source>The grid shows all pictures; the list can be filtered.</source>
+        <translation>Das Raster zeigt alle Bilder; die Liste lässt sich filtern.</translation>
     </message>
 </context>
 <context>

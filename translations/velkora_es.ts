@@ -928,12 +928,12 @@
         <translation>Elija una imagen para ver en qué se convierte.</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3</source>
-        <translation>%1 x %2 px, %3</translation>
+        <source>%1 × %2 px, %3</source>
+        <translation>%1 × %2 px, %3</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
-        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+        <source>%1 × %2 px, %3 → %4 × %5 px, %6</source>
+        <translation>%1 × %2 px, %3 → %4 × %5 px, %6</translation>
     </message>
     <message>
         <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
@@ -1668,12 +1668,12 @@
         <translation>Lo que atrae la vista, proporción %1 : %2, girada con la imagen</translation>
     </message>
     <message>
-        <source>Scaled and cut to %1 x %2 px</source>
-        <translation>Escalado y recortado a %1 x %2 px</translation>
+        <source>Scaled and cut to %1 × %2 px</source>
+        <translation>Escalado y recortado a %1 × %2 px</translation>
     </message>
     <message>
-        <source>Cut to %1 x %2 px</source>
-        <translation>Recortado a %1 x %2 px</translation>
+        <source>Cut to %1 × %2 px</source>
+        <translation>Recortado a %1 × %2 px</translation>
     </message>
     <message>
         <source>Borders of one colour are cut off</source>
@@ -1840,12 +1840,12 @@
         <translation>Sin marco</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px with a shadow</source>
-        <translation>Marco de %1 x %2 px con sombra</translation>
+        <source>A frame of %1 × %2 px with a shadow</source>
+        <translation>Marco de %1 × %2 px con sombra</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px</source>
-        <translation>Marco de %1 x %2 px</translation>
+        <source>A frame of %1 × %2 px</source>
+        <translation>Marco de %1 × %2 px</translation>
     </message>
     <message>
         <source>Margins %1, %2, %3, %4 px with a shadow</source>
@@ -2206,6 +2206,14 @@
     <message>
         <source>Show failures</source>
         <translation>Mostrar las que fallaron</translation>
+    </message>
+    <message>
+        <source>Begins with a new job.</source>
+        <translation>Empieza con un trabajo nuevo.</translation>
+    </message>
+    <message>
+        <source>The grid shows all pictures; the list can be filtered.</source>
+        <translation>La cuadrícula muestra todas las imágenes; la lista se puede filtrar.</translation>
     </message>
 </context>
 <context>

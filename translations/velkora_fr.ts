@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>No more input: this file and all that follow with questions are skipped.</source>
-        <translation>Plus d’entrée : ce fichier et les suivants qui posent une question sont ignorés.</translation>
+        <translation>Plus d’entrée&#xa0;: ce fichier et les suivants qui posent une question sont ignorés.</translation>
     </message>
     <message>
         <source>%1? (add &quot;all&quot; for all that follow)</source>
-        <translation>%1 ? (ajoutez « all » pour tous les suivants)</translation>
+        <translation>%1&#x202f;? (ajoutez «&#xa0;all&#xa0;» pour tous les suivants)</translation>
     </message>
     <message>
         <source>the server ended unexpectedly; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue ; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue&#x202f;; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1; a new one continues.</source>
-        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1 ; un nouveau prend le relais.</translation>
+        <translation>le serveur s’est arrêté de façon inattendue pendant le traitement de %1&#x202f;; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>the server ended unexpectedly while it worked on %1.</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Cancelling; interrupt again to end at once.</source>
-        <translation>Annulation en cours ; interrompez à nouveau pour quitter immédiatement.</translation>
+        <translation>Annulation en cours&#x202f;; interrompez à nouveau pour quitter immédiatement.</translation>
     </message>
     <message>
         <source>Cancelling</source>
@@ -69,11 +69,11 @@
     </message>
     <message>
         <source>1 file with another extension was left out, but begins like a picture; --verbose names them, --include takes them.</source>
-        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image ; --verbose les nomme, --include les prend.</translation>
+        <translation>1 fichier avec une autre extension a été laissé de côté, mais il commence comme une image&#x202f;; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>%1 files with other extensions were left out, but begin like pictures; --verbose names them, --include takes them.</source>
-        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images ; --verbose les nomme, --include les prend.</translation>
+        <translation>%1 fichiers avec d’autres extensions ont été laissés de côté, mais ils commencent comme des images&#x202f;; --verbose les nomme, --include les prend.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -85,23 +85,23 @@
     </message>
     <message>
         <source>%1 of them, written before the interruption, is missing now: %2</source>
-        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent : %2</translation>
+        <translation>%1 d’entre elles, écrite avant l’interruption, manque à présent&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 of them, written before the interruption, are missing now: %2</source>
-        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent : %2</translation>
+        <translation>%1 d’entre elles, écrites avant l’interruption, manquent à présent&#xa0;: %2</translation>
     </message>
     <message>
         <source>1 warning:</source>
-        <translation>1 avertissement :</translation>
+        <translation>1 avertissement&#xa0;:</translation>
     </message>
     <message>
         <source>%1 warnings:</source>
-        <translation>%1 avertissements :</translation>
+        <translation>%1 avertissements&#xa0;:</translation>
     </message>
     <message>
         <source>and %1 more; use --report FILE for all</source>
-        <translation>et %1 autres ; --report FILE les donne toutes</translation>
+        <translation>et %1 autres&#x202f;; --report FILE les donne toutes</translation>
     </message>
     <message>
         <source>required</source>
@@ -437,11 +437,11 @@
     </message>
     <message>
         <source>There is too little room: the results take %1, but only %2 are free.</source>
-        <translation>L’espace manque : les résultats prennent %1, mais seuls %2 sont libres.</translation>
+        <translation>L’espace manque&#xa0;: les résultats prennent %1, mais seuls %2 sont libres.</translation>
     </message>
     <message>
         <source>There may be too little room: the results take about %1 (± %2 %), but only %3 are free.</source>
-        <translation>L’espace manque peut-être : les résultats prennent environ %1 (± %2 %), mais seuls %3 sont libres.</translation>
+        <translation>L’espace manque peut-être&#xa0;: les résultats prennent environ %1 (± %2 %), mais seuls %3 sont libres.</translation>
     </message>
     <message>
         <source>The results take %1.</source>
@@ -453,11 +453,11 @@
     </message>
     <message>
         <source>The results take %1; %2 are free.</source>
-        <translation>Les résultats prennent %1 ; %2 sont libres.</translation>
+        <translation>Les résultats prennent %1&#x202f;; %2 sont libres.</translation>
     </message>
     <message>
         <source>The results take about %1 (± %2 %); %3 are free.</source>
-        <translation>Les résultats prennent environ %1 (± %2 %) ; %3 sont libres.</translation>
+        <translation>Les résultats prennent environ %1 (± %2 %)&#x202f;; %3 sont libres.</translation>
     </message>
     <message>
         <source>Add pictures to begin.</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>What you edit cannot be kept in %1; save the job before the window ends.</source>
-        <translation>Impossible de conserver dans %1 ce qui est modifié ; enregistrez le travail avant de fermer la fenêtre.</translation>
+        <translation>Impossible de conserver dans %1 ce qui est modifié&#x202f;; enregistrez le travail avant de fermer la fenêtre.</translation>
     </message>
     <message>
         <source>The command line that does the same is on the clipboard.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>The window did not end as it should; this is what was edited last.</source>
-        <translation>La fenêtre ne s’est pas fermée normalement ; voici le dernier état du travail.</translation>
+        <translation>La fenêtre ne s’est pas fermée normalement&#x202f;; voici le dernier état du travail.</translation>
     </message>
     <message>
         <source>Import preset</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>The preset %1 is deleted; the settings stay as they are.</source>
-        <translation>Le préréglage %1 est supprimé ; les réglages restent tels quels.</translation>
+        <translation>Le préréglage %1 est supprimé&#x202f;; les réglages restent tels quels.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>The job &quot;%1&quot; has changes that are not saved.</source>
-        <translation>Le travail « %1 » contient des modifications non enregistrées.</translation>
+        <translation>Le travail «&#xa0;%1&#xa0;» contient des modifications non enregistrées.</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>%1 exists; choose it to replace it.</source>
-        <translation>%1 existe déjà ; choisissez ce fichier pour le remplacer.</translation>
+        <translation>%1 existe déjà&#x202f;; choisissez ce fichier pour le remplacer.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>This preset cannot be used as it is: %1</source>
-        <translation>Ce préréglage est inutilisable en l’état : %1</translation>
+        <translation>Ce préréglage est inutilisable en l’état&#xa0;: %1</translation>
     </message>
     <message>
         <source>Preset %1</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>The preset %1 cannot be used as it is: %2</source>
-        <translation>Le préréglage %1 est inutilisable en l’état : %2</translation>
+        <translation>Le préréglage %1 est inutilisable en l’état&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 (changed)</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>You have a preset of this name; it would be replaced.</source>
-        <translation>Un préréglage personnel de ce nom existe déjà ; il serait remplacé.</translation>
+        <translation>Un préréglage personnel de ce nom existe déjà&#x202f;; il serait remplacé.</translation>
     </message>
     <message>
         <source>Processes pictures in batches, in a window.</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Problems of this kind: %1; point here to read them.</source>
-        <translation>Problèmes de ce genre : %1 ; survolez ce texte pour les lire.</translation>
+        <translation>Problèmes de ce genre&#xa0;: %1&#x202f;; survolez ce texte pour les lire.</translation>
     </message>
     <message>
         <source>Add pictures</source>
@@ -821,11 +821,11 @@
     </message>
     <message>
         <source>Folder %1, pictures: %2</source>
-        <translation>Dossier %1, images : %2</translation>
+        <translation>Dossier %1, images&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1, written as %2</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>%1, written as %2: %3</source>
-        <translation>%1, écrit sous le nom %2 : %3</translation>
+        <translation>%1, écrit sous le nom %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -928,16 +928,16 @@
         <translation>Choisissez une image pour voir ce qu’elle devient.</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3</source>
-        <translation>%1 x %2 px, %3</translation>
+        <source>%1 × %2 px, %3</source>
+        <translation>%1 × %2 px, %3</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
-        <translation>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</translation>
+        <source>%1 × %2 px, %3 → %4 × %5 px, %6</source>
+        <translation>%1 × %2 px, %3 → %4 × %5 px, %6</translation>
     </message>
     <message>
         <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
-        <translation>Exact : %1 de %2 octets, tel qu’une exécution l’écrit ; fait en %3 s</translation>
+        <translation>Exact&#xa0;: %1 de %2 octets, tel qu’une exécution l’écrit&#x202f;; fait en %3 s</translation>
     </message>
     <message>
         <source>The result is too large to be shown here.</source>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>Another program is running a batch on this computer: close it, and start this one anew.</source>
-        <translation>Un autre programme traite déjà un lot sur cet ordinateur : fermez-le, puis relancez celui-ci.</translation>
+        <translation>Un autre programme traite déjà un lot sur cet ordinateur&#xa0;: fermez-le, puis relancez celui-ci.</translation>
     </message>
     <message>
         <source>&amp;Do this for the rest of the run</source>
@@ -1021,15 +1021,15 @@
     </message>
     <message>
         <source>The batch server has ended unexpectedly; a new one goes on.</source>
-        <translation>Le serveur de traitement s’est arrêté de façon inattendue ; un nouveau prend le relais.</translation>
+        <translation>Le serveur de traitement s’est arrêté de façon inattendue&#x202f;; un nouveau prend le relais.</translation>
     </message>
     <message>
         <source>The run cannot be resumed: its journal cannot be read.</source>
-        <translation>Impossible de reprendre l’exécution : son journal est illisible.</translation>
+        <translation>Impossible de reprendre l’exécution&#xa0;: son journal est illisible.</translation>
     </message>
     <message>
         <source>The failed pictures cannot be tried again: the journal of their run cannot be used.</source>
-        <translation>Impossible de réessayer les images en échec : le journal de leur exécution est inutilisable.</translation>
+        <translation>Impossible de réessayer les images en échec&#xa0;: le journal de leur exécution est inutilisable.</translation>
     </message>
     <message>
         <source>Go &amp;on</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Pausing: pictures in work are finished first</source>
-        <translation>Mise en pause : les images en cours sont d’abord terminées</translation>
+        <translation>Mise en pause&#xa0;: les images en cours sont d’abord terminées</translation>
     </message>
     <message>
         <source>Paused, %1 of %2 done</source>
@@ -1057,19 +1057,19 @@
     </message>
     <message>
         <source>Finished in %1: all %2 pictures were written.</source>
-        <translation>Terminé en %1 : les %2 images ont toutes été écrites.</translation>
+        <translation>Terminé en %1&#xa0;: les %2 images ont toutes été écrites.</translation>
     </message>
     <message>
         <source>Finished in %1: %2 written, %3 skipped, %4 failed.</source>
-        <translation>Terminé en %1 : %2 écrites, %3 ignorées, %4 en échec.</translation>
+        <translation>Terminé en %1&#xa0;: %2 écrites, %3 ignorées, %4 en échec.</translation>
     </message>
     <message>
         <source>Nothing was written: %1.</source>
-        <translation>Rien n’a été écrit : %1.</translation>
+        <translation>Rien n’a été écrit&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Nothing can be written: the program VelkoraBatchWorker is missing or cannot be started.</source>
-        <translation>Impossible d’écrire : le programme VelkoraBatchWorker manque ou ne peut pas être lancé.</translation>
+        <translation>Impossible d’écrire&#xa0;: le programme VelkoraBatchWorker manque ou ne peut pas être lancé.</translation>
     </message>
     <message>
         <source>The batch server was lost after %1 of %2 pictures. The run can be resumed.</source>
@@ -1085,15 +1085,15 @@
     </message>
     <message>
         <source>%1 cannot be read: %2.</source>
-        <translation>Impossible de lire %1 : %2.</translation>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The result of %1 cannot be written: %2.</source>
-        <translation>Impossible d’écrire le résultat de %1 : %2.</translation>
+        <translation>Impossible d’écrire le résultat de %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 cannot be processed: %2.</source>
-        <translation>Impossible de traiter %1 : %2.</translation>
+        <translation>Impossible de traiter %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The name %1, for the result of %2, is taken.</source>
@@ -1101,7 +1101,7 @@
     </message>
     <message>
         <source>%1 cannot be written in this format: %2.</source>
-        <translation>Impossible d’écrire %1 dans ce format : %2.</translation>
+        <translation>Impossible d’écrire %1 dans ce format&#xa0;: %2.</translation>
     </message>
     <message>
         <source>S&amp;kip it</source>
@@ -1129,15 +1129,15 @@
     </message>
     <message>
         <source>Switch on %1</source>
-        <translation>Activer « %1 »</translation>
+        <translation>Activer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Switch off %1</source>
-        <translation>Désactiver « %1 »</translation>
+        <translation>Désactiver «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Remove %1</source>
-        <translation>Retirer « %1 »</translation>
+        <translation>Retirer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Remove %1 effects</source>
@@ -1145,15 +1145,15 @@
     </message>
     <message>
         <source>Add %1</source>
-        <translation>Ajouter « %1 »</translation>
+        <translation>Ajouter «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Duplicate %1</source>
-        <translation>Dupliquer « %1 »</translation>
+        <translation>Dupliquer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Move %1</source>
-        <translation>Déplacer « %1 »</translation>
+        <translation>Déplacer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Effects in the order in which they are applied</source>
@@ -1213,15 +1213,15 @@
     </message>
     <message>
         <source>Choose a colour for %1</source>
-        <translation>Choisir une couleur : %1</translation>
+        <translation>Choisir une couleur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Point %1 of %2: %3 becomes %4</source>
-        <translation>Point %1 sur %2 : %3 devient %4</translation>
+        <translation>Point %1 sur %2&#xa0;: %3 devient %4</translation>
     </message>
     <message>
         <source>Click to add a point and drag to move it; a double click removes it. With keys: Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete removes it.</source>
-        <translation>Cliquez pour ajouter un point et faites-le glisser pour le déplacer ; un double clic le retire. Au clavier : Page haut et Page bas choisissent un point, les flèches le déplacent, Inser en ajoute un, Suppr le retire.</translation>
+        <translation>Cliquez pour ajouter un point et faites-le glisser pour le déplacer&#x202f;; un double clic le retire. Au clavier&#xa0;: Page haut et Page bas choisissent un point, les flèches le déplacent, Inser en ajoute un, Suppr le retire.</translation>
     </message>
     <message>
         <source>Choose...</source>
@@ -1229,15 +1229,15 @@
     </message>
     <message>
         <source>Choose %1</source>
-        <translation>Choisir : %1</translation>
+        <translation>Choisir&#xa0;: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no complete path; it must begin at the root, such as %2.</source>
-        <translation>« %1 » n’est pas un chemin complet ; il doit partir de la racine, par exemple %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un chemin complet&#x202f;; il doit partir de la racine, par exemple %2.</translation>
     </message>
     <message>
         <source>Set %1</source>
-        <translation>Définir : %1</translation>
+        <translation>Définir&#xa0;: %1</translation>
     </message>
     <message>
         <source>All</source>
@@ -1653,27 +1653,27 @@
     </message>
     <message>
         <source>Ratio %1 : %2</source>
-        <translation>Rapport %1 : %2</translation>
+        <translation>Rapport %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Ratio %1 : %2, turned with the picture</source>
-        <translation>Rapport %1 : %2, tourné avec l’image</translation>
+        <translation>Rapport %1&#xa0;: %2, tourné avec l’image</translation>
     </message>
     <message>
         <source>What draws the eye, ratio %1 : %2</source>
-        <translation>Ce qui attire l’œil, rapport %1 : %2</translation>
+        <translation>Ce qui attire l’œil, rapport %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>What draws the eye, ratio %1 : %2, turned with the picture</source>
-        <translation>Ce qui attire l’œil, rapport %1 : %2, tourné avec l’image</translation>
+        <translation>Ce qui attire l’œil, rapport %1&#xa0;: %2, tourné avec l’image</translation>
     </message>
     <message>
-        <source>Scaled and cut to %1 x %2 px</source>
-        <translation>Redimensionné et coupé à %1 x %2 px</translation>
+        <source>Scaled and cut to %1 × %2 px</source>
+        <translation>Redimensionné et coupé à %1 × %2 px</translation>
     </message>
     <message>
-        <source>Cut to %1 x %2 px</source>
-        <translation>Coupé à %1 x %2 px</translation>
+        <source>Cut to %1 × %2 px</source>
+        <translation>Coupé à %1 × %2 px</translation>
     </message>
     <message>
         <source>Borders of one colour are cut off</source>
@@ -1840,12 +1840,12 @@
         <translation>Aucun cadre</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px with a shadow</source>
-        <translation>Cadre de %1 x %2 px avec ombre</translation>
+        <source>A frame of %1 × %2 px with a shadow</source>
+        <translation>Cadre de %1 × %2 px avec ombre</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px</source>
-        <translation>Cadre de %1 x %2 px</translation>
+        <source>A frame of %1 × %2 px</source>
+        <translation>Cadre de %1 × %2 px</translation>
     </message>
     <message>
         <source>Margins %1, %2, %3, %4 px with a shadow</source>
@@ -1869,7 +1869,7 @@
     </message>
     <message>
         <source>Kept are %1</source>
-        <translation>Sont conservés : %1</translation>
+        <translation>Sont conservés&#xa0;: %1</translation>
     </message>
     <message>
         <source>First part</source>
@@ -1937,11 +1937,11 @@
     </message>
     <message>
         <source>Example, as if it had been taken on 2024-07-31 at 14:05:09: %1</source>
-        <translation>Exemple, comme si l’image avait été prise le 2024-07-31 à 14:05:09 : %1</translation>
+        <translation>Exemple, comme si l’image avait été prise le 2024-07-31 à 14:05:09&#xa0;: %1</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation>Exemple : %1</translation>
+        <translation>Exemple&#xa0;: %1</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -2137,7 +2137,7 @@
     </message>
     <message>
         <source>The run cannot be started: %1.</source>
-        <translation>Impossible de démarrer l’exécution : %1.</translation>
+        <translation>Impossible de démarrer l’exécution&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Panes</source>
@@ -2165,15 +2165,15 @@
     </message>
     <message>
         <source>The report was not saved: %1.</source>
-        <translation>Le rapport n’a pas été enregistré : %1.</translation>
+        <translation>Le rapport n’a pas été enregistré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The run cannot be forgotten: %1.</source>
-        <translation>Impossible d’oublier l’exécution : %1.</translation>
+        <translation>Impossible d’oublier l’exécution&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The run cannot be resumed: %1.</source>
-        <translation>Impossible de reprendre l’exécution : %1.</translation>
+        <translation>Impossible de reprendre l’exécution&#xa0;: %1.</translation>
     </message>
     <message>
         <source>All pictures are written</source>
@@ -2207,6 +2207,14 @@
         <source>Show failures</source>
         <translation>Afficher les échecs</translation>
     </message>
+    <message>
+        <source>Begins with a new job.</source>
+        <translation>Commence par un nouveau travail.</translation>
+    </message>
+    <message>
+        <source>The grid shows all pictures; the list can be filtered.</source>
+        <translation>La grille montre toutes les images&#x202f;; la liste peut être filtrée.</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -2232,23 +2240,23 @@
     </message>
     <message>
         <source>a second size; one table is needed, of one or of three dimensions</source>
-        <translation>une deuxième taille ; il faut une seule table, à une ou à trois dimensions</translation>
+        <translation>une deuxième taille&#x202f;; il faut une seule table, à une ou à trois dimensions</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs a whole number from 2 to %3</source>
-        <translation>« %1 » ; %2 demande un nombre entier de 2 à %3</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande un nombre entier de 2 à %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs three numbers</source>
-        <translation>« %1 » ; %2 demande trois nombres</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande trois nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; %2 needs two numbers</source>
-        <translation>« %1 » ; %2 demande deux nombres</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; %2 demande deux nombres</translation>
     </message>
     <message>
         <source>&quot;%1&quot;; three numbers or a known keyword are needed</source>
-        <translation>« %1 » ; il faut trois nombres ou un mot-clé connu</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;; il faut trois nombres ou un mot-clé connu</translation>
     </message>
     <message>
         <source>an entry before LUT_1D_SIZE or LUT_3D_SIZE</source>
@@ -2260,7 +2268,7 @@
     </message>
     <message>
         <source>no LUT_1D_SIZE and no LUT_3D_SIZE; this is not a .cube file</source>
-        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE ; ce n’est pas un fichier .cube</translation>
+        <translation>ni LUT_1D_SIZE ni LUT_3D_SIZE&#x202f;; ce n’est pas un fichier .cube</translation>
     </message>
     <message>
         <source>the file ends after %1 of %2 entries</source>
@@ -2272,7 +2280,7 @@
     </message>
     <message>
         <source>%1, line %2: %3</source>
-        <translation>%1, ligne %2 : %3</translation>
+        <translation>%1, ligne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1 does not exist</source>
@@ -2284,11 +2292,11 @@
     </message>
     <message>
         <source>%1 has %2 bytes; a .cube file has at most %3</source>
-        <translation>%1 fait %2 octets ; un fichier .cube en fait au plus %3</translation>
+        <translation>%1 fait %2 octets&#x202f;; un fichier .cube en fait au plus %3</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>impossible de lire %1 : %2</translation>
+        <translation>impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>longer than %1 bytes</source>
@@ -2296,7 +2304,7 @@
     </message>
     <message>
         <source>input and output, from black to white; between them the curve never turns, beyond them it is level</source>
-        <translation>entrée et sortie, du noir au blanc ; entre les points, la courbe ne change jamais de sens ; au-delà, elle est horizontale</translation>
+        <translation>entrée et sortie, du noir au blanc&#x202f;; entre les points, la courbe ne change jamais de sens&#x202f;; au-delà, elle est horizontale</translation>
     </message>
     <message>
         <source>Maps values along a smooth curve through points</source>
@@ -2308,7 +2316,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is %2 percent; it must be at most 100, or the unit pixels</source>
-        <translation>« %1 » vaut %2 pour cent ; 100 au maximum, ou l’unité pixels</translation>
+        <translation>«&#xa0;%1&#xa0;» vaut %2 pour cent&#x202f;; 100 au maximum, ou l’unité pixels</translation>
     </message>
     <message>
         <source>Brightens or darkens as a longer or shorter exposure would</source>
@@ -2332,7 +2340,7 @@
     </message>
     <message>
         <source>&quot;black&quot; is %1 and &quot;white&quot; is %2; black must be less than white</source>
-        <translation>« black » vaut %1 et « white » vaut %2 ; black doit être inférieur à white</translation>
+        <translation>«&#xa0;black&#xa0;» vaut %1 et «&#xa0;white&#xa0;» vaut %2&#x202f;; black doit être inférieur à white</translation>
     </message>
     <message>
         <source>Sets what becomes black, what becomes white, and the tone between them</source>
@@ -2340,7 +2348,7 @@
     </message>
     <message>
         <source>Maps colours by the table of a .cube file; a grey picture becomes a colour picture</source>
-        <translation>Transforme les couleurs selon la table d’un fichier .cube ; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Transforme les couleurs selon la table d’un fichier .cube&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Leaves few steps of each colour</source>
@@ -2348,7 +2356,7 @@
     </message>
     <message>
         <source>Turns a picture clockwise; the result is as large as it needs</source>
-        <translation>Fait pivoter l’image dans le sens horaire ; le résultat est aussi grand que nécessaire</translation>
+        <translation>Fait pivoter l’image dans le sens horaire&#x202f;; le résultat est aussi grand que nécessaire</translation>
     </message>
     <message>
         <source>Makes all colours stronger or weaker</source>
@@ -2356,7 +2364,7 @@
     </message>
     <message>
         <source>Tones a picture brown; a grey picture becomes a colour picture</source>
-        <translation>Donne à l’image une teinte brune ; une image en niveaux de gris devient une image en couleurs</translation>
+        <translation>Donne à l’image une teinte brune&#x202f;; une image en niveaux de gris devient une image en couleurs</translation>
     </message>
     <message>
         <source>Sharpens edges by an unsharp mask</source>
@@ -2372,19 +2380,19 @@
     </message>
     <message>
         <source>&quot;file&quot;: %1 does not exist</source>
-        <translation>« file » : %1 n’existe pas</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’existe pas</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a file</source>
-        <translation>« file » : %1 n’est pas un fichier</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas un fichier</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 cannot be read: %2</source>
-        <translation>« file » : impossible de lire %1 : %2</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;file&quot;: %1 is not a picture of a known format</source>
-        <translation>« file » : %1 n’est pas une image d’un format connu</translation>
+        <translation>«&#xa0;file&#xa0;»&#xa0;: %1 n’est pas une image d’un format connu</translation>
     </message>
     <message>
         <source>Lays another picture, such as a logo, over a picture</source>
@@ -2392,11 +2400,11 @@
     </message>
     <message>
         <source>what is written; it may have several lines</source>
-        <translation>ce qui est écrit ; plusieurs lignes sont possibles</translation>
+        <translation>ce qui est écrit&#x202f;; plusieurs lignes sont possibles</translation>
     </message>
     <message>
         <source>family and style, without a size; a family that is missing is replaced</source>
-        <translation>famille et style, sans taille ; une famille absente est remplacée</translation>
+        <translation>famille et style, sans taille&#x202f;; une famille absente est remplacée</translation>
     </message>
     <message>
         <source>Writes a text over a picture</source>
@@ -2404,7 +2412,7 @@
     </message>
     <message>
         <source>Makes a picture warmer or cooler, greener or more magenta; greys keep their luminance</source>
-        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta ; les gris gardent leur luminance</translation>
+        <translation>Rend l’image plus chaude ou plus froide, plus verte ou plus magenta&#x202f;; les gris gardent leur luminance</translation>
     </message>
     <message>
         <source>very small files for the web in up to 12 bits, slow to write</source>
@@ -2412,19 +2420,19 @@
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; %2 takes %3</source>
-        <translation>« bitDepth » vaut %1 ; %2 accepte %3</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; %2 accepte %3</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; it must be 8, 10, 12 or 16</source>
-        <translation>« bitDepth » vaut %1 ; valeurs possibles : 8, 10, 12 ou 16</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; valeurs possibles&#xa0;: 8, 10, 12 ou 16</translation>
     </message>
     <message>
         <source>the format &quot;%1&quot; is unknown</source>
-        <translation>le format « %1 » est inconnu</translation>
+        <translation>le format «&#xa0;%1&#xa0;» est inconnu</translation>
     </message>
     <message>
         <source>&quot;bitDepth&quot; is %1; &quot;compression&quot; jpeg takes 8</source>
-        <translation>« bitDepth » vaut %1 ; « compression » jpeg accepte 8</translation>
+        <translation>«&#xa0;bitDepth&#xa0;» vaut %1&#x202f;; «&#xa0;compression&#xa0;» jpeg accepte 8</translation>
     </message>
     <message>
         <source>at most 256 colours, each pixel opaque or transparent</source>
@@ -2448,11 +2456,11 @@
     </message>
     <message>
         <source>every pixel as it is, with transparency; for graphics and for editing</source>
-        <translation>chaque pixel tel quel, avec transparence ; pour les graphiques et la retouche</translation>
+        <translation>chaque pixel tel quel, avec transparence&#x202f;; pour les graphiques et la retouche</translation>
     </message>
     <message>
         <source>higher is slower and smaller</source>
-        <translation>plus élevé : plus lent et plus petit</translation>
+        <translation>plus élevé&#xa0;: plus lent et plus petit</translation>
     </message>
     <message>
         <source>what the sensor of a camera saw, in the formats of many makers</source>
@@ -2460,7 +2468,7 @@
     </message>
     <message>
         <source>every pixel as it is, also CMYK and very large; for printing and for archives</source>
-        <translation>chaque pixel tel quel, aussi en CMJN et très grand ; pour l’impression et les archives</translation>
+        <translation>chaque pixel tel quel, aussi en CMJN et très grand&#x202f;; pour l’impression et les archives</translation>
     </message>
     <message>
         <source>how the pixels are compressed</source>
@@ -2512,23 +2520,23 @@
     </message>
     <message>
         <source>&quot;%1&quot; exists already</source>
-        <translation>« %1 » existe déjà</translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a source of this job</source>
-        <translation>« %1 » est une source de ce travail</translation>
+        <translation>«&#xa0;%1&#xa0;» est une source de ce travail</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the result of &quot;%2&quot;</source>
-        <translation>« %1 » est le résultat de « %2 »</translation>
+        <translation>«&#xa0;%1&#xa0;» est le résultat de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>written as &quot;%1&quot; (naming policy)</source>
-        <translation>écrit sous le nom « %1 » (règle des noms)</translation>
+        <translation>écrit sous le nom «&#xa0;%1&#xa0;» (règle des noms)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was overwritten (naming policy)</source>
-        <translation>« %1 » a été remplacé (règle des noms)</translation>
+        <translation>«&#xa0;%1&#xa0;» a été remplacé (règle des noms)</translation>
     </message>
     <message>
         <source>written as %1 (write-to-format policy)</source>
@@ -2544,23 +2552,23 @@
     </message>
     <message>
         <source>The options of the format %1: %2</source>
-        <translation>Les options du format %1 : %2</translation>
+        <translation>Les options du format %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;, does not exist</source>
-        <translation>L’effet %1, « %2 », n’existe pas</translation>
+        <translation>L’effet %1, «&#xa0;%2&#xa0;», n’existe pas</translation>
     </message>
     <message>
         <source>; there are %1</source>
-        <translation> ; il y a %1</translation>
+        <translation>&#x202f;; il y a %1</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation> ; vouliez-vous dire « %1 » ?</translation>
+        <translation>&#x202f;; vouliez-vous dire «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>Effect %1, &quot;%2&quot;: %3</source>
-        <translation>Effet %1, « %2 » : %3</translation>
+        <translation>Effet %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
     <message>
         <source>The job has no files</source>
@@ -2740,7 +2748,7 @@
     </message>
     <message>
         <source>%1 is %2; it must be %3</source>
-        <translation>%1 vaut %2 ; valeur attendue : %3</translation>
+        <translation>%1 vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
     </message>
     <message>
         <source>renamed</source>
@@ -2760,19 +2768,19 @@
     </message>
     <message>
         <source>&quot;%1&quot; is unknown</source>
-        <translation>« %1 » est inconnu</translation>
+        <translation>«&#xa0;%1&#xa0;» est inconnu</translation>
     </message>
     <message>
         <source>; none is taken here</source>
-        <translation> ; aucun n’est accepté ici</translation>
+        <translation>&#x202f;; aucun n’est accepté ici</translation>
     </message>
     <message>
         <source>; known are %1</source>
-        <translation> ; sont connus : %1</translation>
+        <translation>&#x202f;; sont connus&#xa0;: %1</translation>
     </message>
     <message>
         <source>not valid JSON at byte %1: %2</source>
-        <translation>JSON invalide à l’octet %1 : %2</translation>
+        <translation>JSON invalide à l’octet %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>a JSON object is needed, such as {&quot;name&quot;: value}</source>
@@ -2780,15 +2788,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is missing; it must be %2</source>
-        <translation>« %1 » manque ; valeur attendue : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» manque&#x202f;; valeur attendue&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is %2; it must be %3</source>
-        <translation>« %1 » vaut %2 ; valeur attendue : %3</translation>
+        <translation>«&#xa0;%1&#xa0;» vaut %2&#x202f;; valeur attendue&#xa0;: %3</translation>
     </message>
     <message>
         <source>; did you mean %1?</source>
-        <translation> ; vouliez-vous dire %1 ?</translation>
+        <translation>&#x202f;; vouliez-vous dire %1&#x202f;?</translation>
     </message>
     <message>
         <source>a number %1</source>
@@ -2868,15 +2876,15 @@
     </message>
     <message>
         <source>the folder %1 cannot be made: %2</source>
-        <translation>impossible de créer le dossier %1 : %2</translation>
+        <translation>impossible de créer le dossier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is a link; results are not written through it unless links are followed</source>
-        <translation>%1 est un lien ; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
+        <translation>%1 est un lien&#x202f;; les résultats ne passent par un lien que si le suivi des liens est autorisé</translation>
     </message>
     <message>
         <source>the worker&apos;s report is invalid: %1</source>
-        <translation>le rapport du processus de traitement est invalide : %1</translation>
+        <translation>le rapport du processus de traitement est invalide&#xa0;: %1</translation>
     </message>
     <message>
         <source>it takes more memory than the limit of %1 MiB</source>
@@ -2900,7 +2908,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be started: %2</source>
-        <translation>impossible de lancer « %1 » : %2</translation>
+        <translation>impossible de lancer «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>ended by exception 0x%1</source>
@@ -2912,7 +2920,7 @@
     </message>
     <message>
         <source>%1; its last output: %2</source>
-        <translation>%1 ; sa dernière sortie : %2</translation>
+        <translation>%1&#x202f;; sa dernière sortie&#xa0;: %2</translation>
     </message>
     <message>
         <source>ended with exit code %1</source>
@@ -2924,7 +2932,7 @@
     </message>
     <message>
         <source>The job cannot be read: its reader failed</source>
-        <translation>Impossible de lire le travail : son lecteur a échoué</translation>
+        <translation>Impossible de lire le travail&#xa0;: son lecteur a échoué</translation>
     </message>
     <message>
         <source>the server crashed %1 times while it worked on the file</source>
@@ -2940,7 +2948,7 @@
     </message>
     <message>
         <source>the journal %1 cannot be used: %2</source>
-        <translation>le journal %1 ne peut pas être utilisé : %2</translation>
+        <translation>le journal %1 ne peut pas être utilisé&#xa0;: %2</translation>
     </message>
     <message>
         <source>another server holds %1</source>
@@ -2948,7 +2956,7 @@
     </message>
     <message>
         <source>%1 cannot be written; the disk may be full</source>
-        <translation>impossible d’écrire %1 ; le disque est peut-être plein</translation>
+        <translation>impossible d’écrire %1&#x202f;; le disque est peut-être plein</translation>
     </message>
     <message>
         <source>the embedded colour profile is damaged and is not used</source>
@@ -2964,23 +2972,23 @@
     </message>
     <message>
         <source>its colour profile is one for storing colours only; the result is sRGB</source>
-        <translation>son profil de couleurs ne sert qu’à stocker des couleurs ; le résultat est en sRGB</translation>
+        <translation>son profil de couleurs ne sert qu’à stocker des couleurs&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the job&apos;s colour profile does not describe pictures; the colours are not converted</source>
-        <translation>le profil de couleurs du travail ne décrit pas d’images ; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs du travail ne décrit pas d’images&#x202f;; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colour profile cannot be used; the colours are not converted</source>
-        <translation>le profil de couleurs ne peut pas être utilisé ; les couleurs ne sont pas converties</translation>
+        <translation>le profil de couleurs ne peut pas être utilisé&#x202f;; les couleurs ne sont pas converties</translation>
     </message>
     <message>
         <source>the colours cannot be converted to sRGB; their values are taken for sRGB as they are</source>
-        <translation>les couleurs ne peuvent pas être converties en sRGB ; leurs valeurs sont prises telles quelles comme sRGB</translation>
+        <translation>les couleurs ne peuvent pas être converties en sRGB&#x202f;; leurs valeurs sont prises telles quelles comme sRGB</translation>
     </message>
     <message>
         <source>the file is HDR; the result has the brightness of common screens</source>
-        <translation>le fichier est en HDR ; le résultat a la luminosité des écrans courants</translation>
+        <translation>le fichier est en HDR&#x202f;; le résultat a la luminosité des écrans courants</translation>
     </message>
     <message>
         <source>its values are complex numbers, which are no colours</source>
@@ -2988,7 +2996,7 @@
     </message>
     <message>
         <source>its kind of colours is not supported: %1</source>
-        <translation>son type de couleurs n’est pas pris en charge : %1</translation>
+        <translation>son type de couleurs n’est pas pris en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>its kind of colours is not supported</source>
@@ -3032,7 +3040,7 @@
     </message>
     <message>
         <source>it has %1 channels; only the first %2 are used</source>
-        <translation>il a %1 canaux ; seuls les %2 premiers sont utilisés</translation>
+        <translation>il a %1 canaux&#x202f;; seuls les %2 premiers sont utilisés</translation>
     </message>
     <message>
         <source>the header of the picture data is damaged</source>
@@ -3040,7 +3048,7 @@
     </message>
     <message>
         <source>it uses %1, which is not supported</source>
-        <translation>non pris en charge : %1</translation>
+        <translation>non pris en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>the file ends after %1 % of the picture</source>
@@ -3096,7 +3104,7 @@
     </message>
     <message>
         <source>it has %1 pages; only the first is used</source>
-        <translation>il a %1 pages ; seule la première est utilisée</translation>
+        <translation>il a %1 pages&#x202f;; seule la première est utilisée</translation>
     </message>
     <message>
         <source>the file lacks its last bytes, but all of the picture is there</source>
@@ -3104,7 +3112,7 @@
     </message>
     <message>
         <source>decoding takes %1 MiB of memory%2; a worker may use %3 MiB</source>
-        <translation>le décodage demande %1 Mio de mémoire%2 ; un processus de traitement peut en utiliser %3 Mio</translation>
+        <translation>le décodage demande %1 Mio de mémoire%2&#x202f;; un processus de traitement peut en utiliser %3 Mio</translation>
     </message>
     <message>
         <source>, because the picture is not divided into tiles</source>
@@ -3116,7 +3124,7 @@
     </message>
     <message>
         <source>it is a JPEG file of %1 bits a channel; only 8 are supported</source>
-        <translation>c’est un fichier JPEG de %1 bits par canal ; seuls 8 sont pris en charge</translation>
+        <translation>c’est un fichier JPEG de %1 bits par canal&#x202f;; seuls 8 sont pris en charge</translation>
     </message>
     <message>
         <source>the file ends before all details of the picture</source>
@@ -3128,7 +3136,7 @@
     </message>
     <message>
         <source>the file lacks its last bytes; the picture is whole</source>
-        <translation>il manque les derniers octets du fichier ; l’image est entière</translation>
+        <translation>il manque les derniers octets du fichier&#x202f;; l’image est entière</translation>
     </message>
     <message>
         <source>the picture has more pixels than any limit</source>
@@ -3136,7 +3144,7 @@
     </message>
     <message>
         <source>the file is damaged: its picture cannot be decoded</source>
-        <translation>le fichier est endommagé : l’image ne peut pas être décodée</translation>
+        <translation>le fichier est endommagé&#xa0;: l’image ne peut pas être décodée</translation>
     </message>
     <message>
         <source>the file ends before its picture is complete</source>
@@ -3144,7 +3152,7 @@
     </message>
     <message>
         <source>the file is damaged: it has no picture</source>
-        <translation>le fichier est endommagé : il ne contient pas d’image</translation>
+        <translation>le fichier est endommagé&#xa0;: il ne contient pas d’image</translation>
     </message>
     <message>
         <source>decoding %1 x %2 pixels takes more than a worker may use</source>
@@ -3176,7 +3184,7 @@
     </message>
     <message>
         <source>the file lacks picture data: it is cut off, or has been emptied</source>
-        <translation>il manque des données d’image dans le fichier : il est tronqué ou a été vidé</translation>
+        <translation>il manque des données d’image dans le fichier&#xa0;: il est tronqué ou a été vidé</translation>
     </message>
     <message>
         <source>its header gives no size of the picture</source>
@@ -3208,7 +3216,7 @@
     </message>
     <message>
         <source>it holds undeveloped data of a camera; such files are read under the name .dng</source>
-        <translation>il contient des données brutes d’appareil photo ; ces fichiers se lisent avec l’extension .dng</translation>
+        <translation>il contient des données brutes d’appareil photo&#x202f;; ces fichiers se lisent avec l’extension .dng</translation>
     </message>
     <message>
         <source>its kind of colours (number %1) is not supported</source>
@@ -3216,11 +3224,11 @@
     </message>
     <message>
         <source>it has %1 channels beside its colours and its transparency, which are left out</source>
-        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence ; ils sont omis</translation>
+        <translation>il a %1 canaux en plus de ses couleurs et de sa transparence&#x202f;; ils sont omis</translation>
     </message>
     <message>
         <source>it has inks of its own; only cyan, magenta, yellow and black can be read</source>
-        <translation>il utilise ses propres encres ; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
+        <translation>il utilise ses propres encres&#x202f;; seuls le cyan, le magenta, le jaune et le noir peuvent être lus</translation>
     </message>
     <message>
         <source>it has fewer channels than its kind of colours needs</source>
@@ -3240,7 +3248,7 @@
     </message>
     <message>
         <source>its way of storing colours is not supported: %1</source>
-        <translation>sa façon de stocker les couleurs n’est pas prise en charge : %1</translation>
+        <translation>sa façon de stocker les couleurs n’est pas prise en charge&#xa0;: %1</translation>
     </message>
     <message>
         <source>its strips or tiles have no size that makes sense</source>
@@ -3256,7 +3264,7 @@
     </message>
     <message>
         <source>the picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image %1 : %2</translation>
+        <translation>impossible de lire l’image %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the text would be too large at a size of %1 pixels</source>
@@ -3276,7 +3284,7 @@
     </message>
     <message>
         <source>the background picture %1 cannot be read: %2</source>
-        <translation>impossible de lire l’image de fond %1 : %2</translation>
+        <translation>impossible de lire l’image de fond %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the frame of %1 x %2 pixels is above the limit of %3 pixels</source>
@@ -3288,11 +3296,11 @@
     </message>
     <message>
         <source>metadata is left out: %1</source>
-        <translation>les métadonnées sont omises : %1</translation>
+        <translation>les métadonnées sont omises&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 files cannot hold metadata; it is left out</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées ; elles sont omises</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de métadonnées&#x202f;; elles sont omises</translation>
     </message>
     <message>
         <source>%1 metadata of %2 bytes does not fit into a %3 file and is left out</source>
@@ -3308,15 +3316,15 @@
     </message>
     <message>
         <source>the result is too large for all of its metadata to be added; some is left out</source>
-        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées ; certaines sont omises</translation>
+        <translation>le résultat est trop grand pour recevoir toutes ses métadonnées&#x202f;; certaines sont omises</translation>
     </message>
     <message>
         <source>metadata cannot be written: %1</source>
-        <translation>impossible d’écrire les métadonnées : %1</translation>
+        <translation>impossible d’écrire les métadonnées&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 cannot be written and are left out</source>
-        <translation>impossible à écrire, donc omis : %1</translation>
+        <translation>impossible à écrire, donc omis&#xa0;: %1</translation>
     </message>
     <message>
         <source>the notes of the camera&apos;s maker</source>
@@ -3336,11 +3344,11 @@
     </message>
     <message>
         <source>metadata cannot be read and is left out: %1</source>
-        <translation>les métadonnées sont illisibles et donc omises : %1</translation>
+        <translation>les métadonnées sont illisibles et donc omises&#xa0;: %1</translation>
     </message>
     <message>
         <source>effect &quot;%1&quot;: %2</source>
-        <translation>effet « %1 » : %2</translation>
+        <translation>effet «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>it cannot be applied to the picture</source>
@@ -3364,19 +3372,19 @@
     </message>
     <message>
         <source>%1 x %2 pixels: %3 holds at most %4 on a side</source>
-        <translation>%1 x %2 pixels : %3 accepte au plus %4 par côté</translation>
+        <translation>%1 x %2 pixels&#xa0;: %3 accepte au plus %4 par côté</translation>
     </message>
     <message>
         <source>the colour profile does not fit into the %1 file; the result is sRGB</source>
-        <translation>le profil de couleurs ne tient pas dans le fichier %1 ; le résultat est en sRGB</translation>
+        <translation>le profil de couleurs ne tient pas dans le fichier %1&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>it has %1 pages; only the main one is used</source>
-        <translation>il a %1 pages ; seule la principale est utilisée</translation>
+        <translation>il a %1 pages&#x202f;; seule la principale est utilisée</translation>
     </message>
     <message>
         <source>it has a gain map, which the result lacks: highlights are no longer brighter on HDR screens</source>
-        <translation>il a une carte de gain que le résultat n’a pas : les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
+        <translation>il a une carte de gain que le résultat n’a pas&#xa0;: les hautes lumières ne sont plus plus vives sur les écrans HDR</translation>
     </message>
     <message>
         <source>the result of %1 x %2 pixels would be above the limit of %3 megapixels</source>
@@ -3384,7 +3392,7 @@
     </message>
     <message>
         <source>%1 files cannot hold a colour profile; the result is sRGB</source>
-        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs ; le résultat est en sRGB</translation>
+        <translation>les fichiers %1 ne peuvent pas contenir de profil de couleurs&#x202f;; le résultat est en sRGB</translation>
     </message>
     <message>
         <source>the result is sRGB instead of CMYK</source>
@@ -3404,11 +3412,11 @@
     </message>
     <message>
         <source>the file is damaged; no part of the picture can be read</source>
-        <translation>le fichier est endommagé ; aucune partie de l’image n’est lisible</translation>
+        <translation>le fichier est endommagé&#x202f;; aucune partie de l’image n’est lisible</translation>
     </message>
     <message>
         <source>the file is damaged; its header cannot be read</source>
-        <translation>le fichier est endommagé ; son en-tête est illisible</translation>
+        <translation>le fichier est endommagé&#x202f;; son en-tête est illisible</translation>
     </message>
     <message>
         <source>it needs more memory than a worker may use</source>
@@ -3428,7 +3436,7 @@
     </message>
     <message>
         <source>no worker can be started to look at the pictures: %1</source>
-        <translation>impossible de lancer un processus de traitement pour examiner les images : %1</translation>
+        <translation>impossible de lancer un processus de traitement pour examiner les images&#xa0;: %1</translation>
     </message>
     <message>
         <source>the folder cannot be opened</source>
@@ -3452,11 +3460,11 @@
     </message>
     <message>
         <source>%1 has a name that is not valid UTF-8; rename it to use it.</source>
-        <translation>%1 a un nom qui n’est pas en UTF-8 valide ; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom qui n’est pas en UTF-8 valide&#x202f;; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 has a name with a character that a job cannot hold; rename it to use it.</source>
-        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir ; renommez-le pour l’utiliser.</translation>
+        <translation>%1 a un nom avec un caractère qu’un travail ne peut pas contenir&#x202f;; renommez-le pour l’utiliser.</translation>
     </message>
     <message>
         <source>%1 is a dangling link.</source>
@@ -3464,7 +3472,7 @@
     </message>
     <message>
         <source>%1 leads back to %2; it is not followed.</source>
-        <translation>%1 ramène à %2 ; il n’est pas suivi.</translation>
+        <translation>%1 ramène à %2&#x202f;; il n’est pas suivi.</translation>
     </message>
     <message>
         <source>%1 is the folder %2, which is in the job already.</source>
@@ -3472,7 +3480,7 @@
     </message>
     <message>
         <source>%1 is ignored: %2</source>
-        <translation>%1 est ignoré : %2</translation>
+        <translation>%1 est ignoré&#xa0;: %2</translation>
     </message>
     <message>
         <source>its results go to %1</source>
@@ -3484,15 +3492,15 @@
     </message>
     <message>
         <source>the run that was interrupted in %1 is of another job: its inputs, options or files differ</source>
-        <translation>l’exécution interrompue dans %1 est celle d’un autre travail : ses entrées, options ou fichiers diffèrent</translation>
+        <translation>l’exécution interrompue dans %1 est celle d’un autre travail&#xa0;: ses entrées, options ou fichiers diffèrent</translation>
     </message>
     <message>
         <source>%1 is damaged; remove it to start the run anew</source>
-        <translation>%1 est endommagé ; supprimez-le pour recommencer l’exécution</translation>
+        <translation>%1 est endommagé&#x202f;; supprimez-le pour recommencer l’exécution</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation>ligne %1, colonne %2 : %3</translation>
+        <translation>ligne %1, colonne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>its XML is nested too deeply, or declares what a job must not declare</source>
@@ -3504,7 +3512,7 @@
     </message>
     <message>
         <source>the job %1 cannot be read: %2</source>
-        <translation>impossible de lire le travail %1 : %2</translation>
+        <translation>impossible de lire le travail %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the job %1 is larger than %2 MiB</source>
@@ -3512,11 +3520,11 @@
     </message>
     <message>
         <source>%1 is not a batch job: it is not UTF-8 text</source>
-        <translation>%1 n’est pas un travail par lots : ce n’est pas du texte UTF-8</translation>
+        <translation>%1 n’est pas un travail par lots&#xa0;: ce n’est pas du texte UTF-8</translation>
     </message>
     <message>
         <source>%1 is not a batch job: %2</source>
-        <translation>%1 n’est pas un travail par lots : %2</translation>
+        <translation>%1 n’est pas un travail par lots&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 exists</source>
@@ -3524,7 +3532,7 @@
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation>impossible d’écrire %1 : %2</translation>
+        <translation>impossible d’écrire %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>no output folder</source>
@@ -3552,11 +3560,11 @@
     </message>
     <message>
         <source>the run in %1 cannot be resumed: %2</source>
-        <translation>impossible de reprendre l’exécution dans %1 : %2</translation>
+        <translation>impossible de reprendre l’exécution dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the name &quot;%1&quot; must end with .csv or .json</source>
-        <translation>le nom « %1 » doit se terminer par .csv ou .json</translation>
+        <translation>le nom «&#xa0;%1&#xa0;» doit se terminer par .csv ou .json</translation>
     </message>
     <message>
         <source>it begins like a %1 file, but its extension is not known</source>
@@ -3564,11 +3572,11 @@
     </message>
     <message>
         <source>the report %1 cannot be written: %2</source>
-        <translation>impossible d’écrire le rapport %1 : %2</translation>
+        <translation>impossible d’écrire le rapport %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>written with a warning: %1</source>
-        <translation>écrit avec un avertissement : %1</translation>
+        <translation>écrit avec un avertissement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -3636,7 +3644,7 @@
     </message>
     <message>
         <source>together keeps colours as they are; each for itself removes a cast</source>
-        <translation>together conserve les couleurs ; each retire une dominante</translation>
+        <translation>together conserve les couleurs&#x202f;; each retire une dominante</translation>
     </message>
     <message>
         <source>pixels</source>
@@ -3644,7 +3652,7 @@
     </message>
     <message>
         <source>standard deviation of the blur in the result; 0 does nothing</source>
-        <translation>écart-type du flou dans le résultat ; 0 ne fait rien</translation>
+        <translation>écart-type du flou dans le résultat&#x202f;; 0 ne fait rien</translation>
     </message>
     <message>
         <source>width on the left</source>
@@ -3664,15 +3672,15 @@
     </message>
     <message>
         <source>of the four; percent is of the picture&apos;s short side, at most 100</source>
-        <translation>des quatre ; percent se rapporte au petit côté de l’image, au plus 100</translation>
+        <translation>des quatre&#x202f;; percent se rapporte au petit côté de l’image, au plus 100</translation>
     </message>
     <message>
         <source>of the border; with transparency the result has an alpha channel</source>
-        <translation>de la bordure ; avec transparence, le résultat a un canal alpha</translation>
+        <translation>de la bordure&#x202f;; avec transparence, le résultat a un canal alpha</translation>
     </message>
     <message>
         <source>shift of every value; 100 turns black into white</source>
-        <translation>décalage de chaque valeur ; 100 change le noir en blanc</translation>
+        <translation>décalage de chaque valeur&#x202f;; 100 change le noir en blanc</translation>
     </message>
     <message>
         <source>-100 is flat grey, 50 doubles all differences</source>
@@ -3688,7 +3696,7 @@
     </message>
     <message>
         <source>which values are mapped; a grey picture has no single colours and stays as it is</source>
-        <translation>quelles valeurs sont transformées ; une image en niveaux de gris n’a pas de couleurs séparées et reste telle quelle</translation>
+        <translation>quelles valeurs sont transformées&#x202f;; une image en niveaux de gris n’a pas de couleurs séparées et reste telle quelle</translation>
     </message>
     <message>
         <source>differences of this size begin to count as edges</source>
@@ -3704,7 +3712,7 @@
     </message>
     <message>
         <source>how much; 1 doubles the light</source>
-        <translation>de combien ; 1 double la lumière</translation>
+        <translation>de combien&#x202f;; 1 double la lumière</translation>
     </message>
     <message>
         <source>horizontal swaps left and right</source>
@@ -3760,7 +3768,7 @@
     </message>
     <message>
         <source>fills the corners; with transparency the result has an alpha channel</source>
-        <translation>remplit les coins ; avec transparence, le résultat a un canal alpha</translation>
+        <translation>remplit les coins&#x202f;; avec transparence, le résultat a un canal alpha</translation>
     </message>
     <message>
         <source>-100 leaves grey, 100 doubles the strength</source>
@@ -3784,7 +3792,7 @@
     </message>
     <message>
         <source>of the corners; -100 is black, 100 is white</source>
-        <translation>des coins ; -100 est noir, 100 est blanc</translation>
+        <translation>des coins&#x202f;; -100 est noir, 100 est blanc</translation>
     </message>
     <message>
         <source>where it begins on the way from the centre to a corner</source>
@@ -3800,7 +3808,7 @@
     </message>
     <message>
         <source>width of the mark; in percent of the picture&apos;s width</source>
-        <translation>largeur de la marque ; en pour cent de la largeur de l’image</translation>
+        <translation>largeur de la marque&#x202f;; en pour cent de la largeur de l’image</translation>
     </message>
     <message>
         <source>space to the sides of the picture, and between tiles</source>
@@ -3808,7 +3816,7 @@
     </message>
     <message>
         <source>of size and margin; a margin in percent is of the picture&apos;s short side; percent is at most 100</source>
-        <translation>de size et margin ; margin en pour cent se rapporte au petit côté de l’image ; percent est au plus 100</translation>
+        <translation>de size et margin&#x202f;; margin en pour cent se rapporte au petit côté de l’image&#x202f;; percent est au plus 100</translation>
     </message>
     <message>
         <source>0 is invisible</source>
@@ -3828,7 +3836,7 @@
     </message>
     <message>
         <source>height of a line of text; in percent of the picture&apos;s short side</source>
-        <translation>hauteur d’une ligne de texte ; en pour cent du petit côté de l’image</translation>
+        <translation>hauteur d’une ligne de texte&#x202f;; en pour cent du petit côté de l’image</translation>
     </message>
     <message>
         <source>above 0 warmer, below 0 cooler</source>
@@ -3844,7 +3852,7 @@
     </message>
     <message>
         <source>higher is slower and better</source>
-        <translation>plus élevé : plus lent et meilleur</translation>
+        <translation>plus élevé&#xa0;: plus lent et meilleur</translation>
     </message>
     <message>
         <source>keep every pixel as it is</source>
@@ -3852,7 +3860,7 @@
     </message>
     <message>
         <source>higher is better and larger</source>
-        <translation>plus élevé : meilleur et plus gros</translation>
+        <translation>plus élevé&#xa0;: meilleur et plus gros</translation>
     </message>
     <message>
         <source>shows a coarse picture first while it loads</source>
@@ -3860,11 +3868,11 @@
     </message>
     <message>
         <source>resolution of colour; auto is 4:4:4 from quality 90</source>
-        <translation>résolution de la couleur ; auto vaut 4:4:4 à partir de la qualité 90</translation>
+        <translation>résolution de la couleur&#x202f;; auto vaut 4:4:4 à partir de la qualité 90</translation>
     </message>
     <message>
         <source>bits a channel; by default those of the input, as far as the format has them: %1</source>
-        <translation>bits par canal ; par défaut ceux de l’entrée, si le format les accepte : %1</translation>
+        <translation>bits par canal&#x202f;; par défaut ceux de l’entrée, si le format les accepte&#xa0;: %1</translation>
     </message>
     <message>
         <source>bits</source>
@@ -5120,7 +5128,7 @@
     </message>
     <message>
         <source>the largest frame of the ratio width : height</source>
-        <translation>le plus grand cadrage du rapport largeur : hauteur</translation>
+        <translation>le plus grand cadrage du rapport largeur&#xa0;: hauteur</translation>
     </message>
     <message>
         <source>cut off a border of one colour</source>
@@ -5284,11 +5292,11 @@
     </message>
     <message>
         <source>%1 is a picture (%2) with another extension; it is added only if it is named.</source>
-        <translation>%1 est une image (%2) avec une autre extension ; elle n’est ajoutée que si le fichier lui-même est choisi.</translation>
+        <translation>%1 est une image (%2) avec une autre extension&#x202f;; elle n’est ajoutée que si le fichier lui-même est choisi.</translation>
     </message>
     <message>
         <source>no private folder can be made for previews: %1</source>
-        <translation>impossible de créer un dossier privé pour les aperçus : %1</translation>
+        <translation>impossible de créer un dossier privé pour les aperçus&#xa0;: %1</translation>
     </message>
     <message>
         <source>the picture that was made for the screen cannot be read</source>
@@ -5296,7 +5304,7 @@
     </message>
     <message>
         <source>The effect &quot;%1&quot; does not exist</source>
-        <translation>L’effet « %1 » n’existe pas</translation>
+        <translation>L’effet «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
 </context>
 </TS>

@@ -928,12 +928,12 @@
         <translation>画像を選ぶと、処理後の姿が表示されます。</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3</source>
-        <translation>%1 x %2 px、%3</translation>
+        <source>%1 × %2 px, %3</source>
+        <translation>%1 × %2 px、%3</translation>
     </message>
     <message>
-        <source>%1 x %2 px, %3 -&gt; %4 x %5 px, %6</source>
-        <translation>%1 x %2 px、%3 -&gt; %4 x %5 px、%6</translation>
+        <source>%1 × %2 px, %3 → %4 × %5 px, %6</source>
+        <translation>%1 × %2 px、%3 → %4 × %5 px、%6</translation>
     </message>
     <message>
         <source>Exact: %1 of %2 bytes, as a run writes it; made in %3 s</source>
@@ -1668,12 +1668,12 @@
         <translation>目を引く部分、比率 %1 : %2、画像の向きに合わせる</translation>
     </message>
     <message>
-        <source>Scaled and cut to %1 x %2 px</source>
-        <translation>拡大縮小して %1 x %2 px に切り抜き</translation>
+        <source>Scaled and cut to %1 × %2 px</source>
+        <translation>拡大縮小して %1 × %2 px に切り抜き</translation>
     </message>
     <message>
-        <source>Cut to %1 x %2 px</source>
-        <translation>%1 x %2 px に切り抜き</translation>
+        <source>Cut to %1 × %2 px</source>
+        <translation>%1 × %2 px に切り抜き</translation>
     </message>
     <message>
         <source>Borders of one colour are cut off</source>
@@ -1840,12 +1840,12 @@
         <translation>フレームなし</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px with a shadow</source>
-        <translation>%1 x %2 px のフレーム、影付き</translation>
+        <source>A frame of %1 × %2 px with a shadow</source>
+        <translation>%1 × %2 px のフレーム、影付き</translation>
     </message>
     <message>
-        <source>A frame of %1 x %2 px</source>
-        <translation>%1 x %2 px のフレーム</translation>
+        <source>A frame of %1 × %2 px</source>
+        <translation>%1 × %2 px のフレーム</translation>
     </message>
     <message>
         <source>Margins %1, %2, %3, %4 px with a shadow</source>
@@ -2206,6 +2206,14 @@
     <message>
         <source>Show failures</source>
         <translation>失敗した画像を表示</translation>
+    </message>
+    <message>
+        <source>Begins with a new job.</source>
+        <translation>新しいジョブで始めます。</translation>
+    </message>
+    <message>
+        <source>The grid shows all pictures; the list can be filtered.</source>
+        <translation>グリッドにはすべての画像が表示されます。絞り込みはリストでできます。</translation>
     </message>
 </context>
 <context>

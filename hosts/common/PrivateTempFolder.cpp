@@ -13,6 +13,8 @@ namespace {
 /// The path of a socket may have 107 bytes; this is left for its folder.
 constexpr int longestFolder = 70;
 
+constexpr char variable[] = "TMPDIR";
+
 const QString nameStart = QStringLiteral("velkora-batch-");
 
 QString ParentFolder()
@@ -30,12 +32,20 @@ QString ParentFolder()
 
 PrivateTempFolder::PrivateTempFolder()
     : folder(ParentFolder(), nameStart)
+    , before(qgetenv(variable))
 {
     if (folder.Error().isEmpty()) {
-        qputenv("TMPDIR", QFile::encodeName(folder.Path()));
+        qputenv(variable, QFile::encodeName(folder.Path()));
     }
 }
 
-PrivateTempFolder::~PrivateTempFolder() = default;
+PrivateTempFolder::~PrivateTempFolder()
+{
+    if (before.isNull()) {
+        qunsetenv(variable);
+    } else {
+        qputenv(variable, before);
+    }
+}
 
 } // namespace BatchHost

@@ -25,6 +25,7 @@ private:
     Q_DISABLE_COPY(PrivateTempFolder)
 
     HeldFolder folder;
+    const QByteArray before; ///< TMPDIR; null if it was not set
 };
 
 } // namespace BatchHost

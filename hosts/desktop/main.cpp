@@ -19,19 +19,32 @@ using BatchHost::Messages;
 
 namespace {
 
-/// The paths of the command line, absolute.
+const QString newJobOption = QStringLiteral("--new-job");
+
+/// Of the command line: the option, if it is there, and the paths, absolute.
 QStringList Arguments()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(Messages::tr("Processes pictures in batches, in a window."));
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption newJob(newJobOption.mid(2), Messages::tr("Begins with a new job."));
+    parser.addOption(newJob);
     parser.addPositionalArgument(QStringLiteral("path"), Messages::tr("Pictures and folders to add."),
                                  QStringLiteral("[path...]"));
     parser.process(*QCoreApplication::instance());
     QStringList paths = parser.positionalArguments();
     std::transform(paths.begin(), paths.end(), paths.begin(), BatchHost::AbsolutePath);
-    return paths;
+    return parser.isSet(newJob) ? QStringList(newJobOption) + paths : paths;
+}
+
+void Open(MainWindow& window, const QStringList& arguments)
+{
+    const bool isNewJob = !arguments.isEmpty() && arguments.first() == newJobOption;
+    if (isNewJob) {
+        window.Desk().Keeper().New();
+    }
+    window.OpenPaths(arguments.mid(isNewJob ? 1 : 0));
 }
 
 QIcon Symbol()
@@ -57,19 +70,20 @@ int main(int argc, char** argv)
     QGuiApplication::setApplicationDisplayName(applicationTitle);
     QGuiApplication::setDesktopFileName(desktopId);
     QGuiApplication::setWindowIcon(Symbol());
-    const QStringList paths = Arguments();
+    const QStringList arguments = Arguments();
     const QString settingsFolder = BatchHost::UserSettingsFolder();
     SingleInstance instance(settingsFolder);
-    if (instance.Begin(paths) == SingleInstance::Place::Second) {
+    if (instance.Begin(arguments) == SingleInstance::Place::Second) {
         return 0;
     }
     const ApplicationColours colours;
     MainWindow window(settingsFolder, BatchHost::UserDataFolder());
     QObject::connect(&instance, &SingleInstance::Started, &window, [&window](const QStringList& further) {
         window.BringToFront();
-        window.OpenPaths(further);
+        Open(window, further);
     });
     window.show();
-    window.Begin(paths);
+    window.Restore(arguments.isEmpty());
+    Open(window, arguments);
     return QApplication::exec();
 }

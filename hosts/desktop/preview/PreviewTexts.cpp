@@ -14,12 +14,12 @@ namespace BatchDesktop {
 QString FactsText(const PreviewPictures& pictures)
 {
     if (pictures.inputSize.isEmpty() || pictures.inputBytes < 0) {
-        return Messages::tr("%1 x %2 px, %3")
+        return Messages::tr("%1 \u00d7 %2 px, %3")
             .arg(pictures.size.width())
             .arg(pictures.size.height())
             .arg(ByteText(pictures.bytes));
     }
-    return Messages::tr("%1 x %2 px, %3 -> %4 x %5 px, %6")
+    return Messages::tr("%1 \u00d7 %2 px, %3 \u2192 %4 \u00d7 %5 px, %6")
         .arg(pictures.inputSize.width())
         .arg(pictures.inputSize.height())
         .arg(ByteText(pictures.inputBytes))

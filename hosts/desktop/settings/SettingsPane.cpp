@@ -18,6 +18,7 @@
 #include <QEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -77,7 +78,7 @@ SettingsPane::SettingsPane(EditedJob& job, QWidget* parent, Choosers wanted)
     sections.append(new ErrorsSection(job, choosers, content));
     sections.append(new FolderSection(job, choosers, content));
     auto* const column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(0, 0, style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
     for (SettingsSection* const section : qAsConst(sections)) {
         column->addWidget(section);
     }

@@ -17,7 +17,7 @@ namespace BatchDesktop {
 namespace {
 
 constexpr int patience = 5'000;             // ms, for an answer of the first one
-constexpr int mostBytes = 16 * 1024 * 1024; // of paths
+constexpr int mostBytes = 16 * 1024 * 1024; // of arguments
 constexpr char answer = '1';
 
 /// Only the user has access to this folder.
@@ -48,12 +48,12 @@ QString SocketName(const QString& name)
 #endif
 }
 
-/// Each path ends with a zero byte, which no path has, and one more ends the message.
-QByteArray MessageOf(const QStringList& paths)
+/// Each argument ends with a zero byte, which no argument has, and one more ends the message.
+QByteArray MessageOf(const QStringList& arguments)
 {
     QByteArray message;
-    for (const QString& path : paths) {
-        message += path.toUtf8() + '\0';
+    for (const QString& argument : arguments) {
+        message += argument.toUtf8() + '\0';
     }
     return message + '\0';
 }
@@ -65,13 +65,13 @@ bool IsWhole(const QByteArray& message)
 
 QStringList PathsOf(const QByteArray& message)
 {
-    QStringList paths;
-    for (const QByteArray& path : message.split('\0')) {
-        if (!path.isEmpty()) {
-            paths += QString::fromUtf8(path);
+    QStringList arguments;
+    for (const QByteArray& argument : message.split('\0')) {
+        if (!argument.isEmpty()) {
+            arguments += QString::fromUtf8(argument);
         }
     }
-    return paths;
+    return arguments;
 }
 
 } // namespace
@@ -86,7 +86,7 @@ SingleInstance::SingleInstance(const QString& settingsFolder, QObject* parent)
     connect(&server, &QLocalServer::newConnection, this, &SingleInstance::OnConnection);
 }
 
-SingleInstance::Place SingleInstance::Begin(const QStringList& paths)
+SingleInstance::Place SingleInstance::Begin(const QStringList& arguments)
 {
     QElapsedTimer clock;
     clock.start();
@@ -98,7 +98,7 @@ SingleInstance::Place SingleInstance::Begin(const QStringList& paths)
         if (lock.error() != QLockFile::LockFailedError) {
             return Place::Alone;
         }
-        if (HandOver(paths)) {
+        if (HandOver(arguments)) {
             return Place::Second;
         }
         constexpr unsigned long pause = 20; // ms; the first one may be about to listen, or to end
@@ -107,14 +107,14 @@ SingleInstance::Place SingleInstance::Begin(const QStringList& paths)
     return Place::Alone;
 }
 
-bool SingleInstance::HandOver(const QStringList& paths) const
+bool SingleInstance::HandOver(const QStringList& arguments) const
 {
     QLocalSocket socket;
     socket.connectToServer(SocketName(name));
     if (!socket.waitForConnected(patience)) {
         return false;
     }
-    const QByteArray message = MessageOf(paths);
+    const QByteArray message = MessageOf(arguments);
     if (message.size() > mostBytes) {
         return false;
     }

@@ -20,21 +20,21 @@ class SingleInstance : public QObject
 public:
     enum class Place {
         First,  ///< it hears of further starts
-        Second, ///< another one has taken over the paths
+        Second, ///< another one has taken over the arguments
         Alone   ///< another one is there but gives no answer, or nothing can be heard here
     };
 
     explicit SingleInstance(const QString& settingsFolder, QObject* parent = nullptr);
 
-    /// Finds out which one this is. If it is not the first, the first gets `paths`, which are absolute.
-    Place Begin(const QStringList& paths);
+    /// Finds out which one this is. If it is not the first, the first gets `arguments`, whose paths are absolute.
+    Place Begin(const QStringList& arguments);
 
 Q_SIGNALS:
-    /// Another start has handed over its paths; there may be none.
-    void Started(const QStringList& paths);
+    /// Another start has handed over its arguments; there may be none.
+    void Started(const QStringList& arguments);
 
 private:
-    bool HandOver(const QStringList& paths) const;
+    bool HandOver(const QStringList& arguments) const;
     void OnConnection();
 
     const QString name; ///< of the socket or pipe

@@ -208,12 +208,6 @@ void MainWindow::OpenPaths(const QStringList& paths)
     }
 }
 
-void MainWindow::Begin(const QStringList& paths)
-{
-    desk->Restore(paths.isEmpty());
-    OpenPaths(paths);
-}
-
 void MainWindow::ConnectJobs()
 {
     connect(&desk->Keeper(), &JobKeeper::Changed, this, &MainWindow::ShowTitle);

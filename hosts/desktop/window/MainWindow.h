@@ -54,8 +54,8 @@ public:
     /// Opens a job file among `paths`, and adds the other files and the folders.
     void OpenPaths(const QStringList& paths);
 
-    /// Brings back what was edited when the last window ended, and opens `paths`.
-    void Begin(const QStringList& paths);
+    /// Brings back what was edited when the last window ended, see JobDesk.
+    void Restore(bool withInputs) { desk->Restore(withInputs); }
 
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();

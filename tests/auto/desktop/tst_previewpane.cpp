@@ -307,7 +307,7 @@ void tst_PreviewPane::paneFollowsTheSettings()
     auto* const more = pane.findChild<QLabel*>(QStringLiteral("previewMore"));
     QCOMPARE(more->text(), QStringLiteral("Updating"));
     QTRY_COMPARE_WITH_TIMEOUT(made.count(), 1, patience);
-    QVERIFY(facts->text().contains(QStringLiteral("300 x 200 px, ")));
+    QVERIFY(facts->text().contains(QStringLiteral("300 \u00d7 200 px, ")));
     QVERIFY(facts->isEnabled());
 
     Settings smaller = job.CurrentSettings();
@@ -317,7 +317,7 @@ void tst_PreviewPane::paneFollowsTheSettings()
     QVERIFY(!facts->isEnabled());
     QTRY_COMPARE_WITH_TIMEOUT(made.count(), 2, patience);
     const auto pictures = made.last().first().value<PreviewPictures>();
-    QCOMPARE(facts->text(), QStringLiteral("300 x 200 px, %1 -> 150 x 100 px, %2")
+    QCOMPARE(facts->text(), QStringLiteral("300 \u00d7 200 px, %1 \u2192 150 \u00d7 100 px, %2")
                                 .arg(ByteText(QFileInfo(photo).size()), ByteText(pictures.bytes)));
     QVERIFY(more->text().contains(QString::number(QFileInfo(pictures.result).size())));
 

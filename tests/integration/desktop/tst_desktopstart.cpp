@@ -95,7 +95,8 @@ void tst_DesktopStart::secondStartLeavesTheWindowToTheFirst()
 {
     const std::unique_ptr<QProcess> first = NewStart();
     QTRY_VERIFY_WITH_TIMEOUT(HasFirst(), patience);
-    for (const QStringList& arguments : {QStringList(), QStringList{QStringLiteral("photos/1.jpg")}}) {
+    for (const QStringList& arguments :
+         {QStringList(), QStringList{QStringLiteral("photos/1.jpg")}, QStringList{QStringLiteral("--new-job")}}) {
         const std::unique_ptr<QProcess> second = NewStart(arguments);
         QVERIFY(second->waitForFinished(patience));
         QCOMPARE(second->exitStatus(), QProcess::NormalExit);

@@ -89,7 +89,8 @@ int RunWindow(const QString& folder)
 {
     MainWindow window(folder + QStringLiteral("/settings"), folder + QStringLiteral("/data"));
     window.show();
-    window.Begin({folder + QStringLiteral("/job.vbatch.xml")});
+    window.Restore(false);
+    window.OpenPaths({folder + QStringLiteral("/job.vbatch.xml")});
     window.AddPaths({folder + QStringLiteral("/photos")});
     window.PresetChoice().Choose(QStringLiteral("mail"));
     SetLength(window.Job(), 234);
@@ -227,7 +228,8 @@ void tst_JobWindow::argumentsAreOpened()
 {
     const QString path = WrittenJob(QStringLiteral("job.vbatch.xml"));
     const QString picture = Path(QStringLiteral("photos/1 it's.jpg"));
-    window->Begin({path, picture});
+    window->Restore(false);
+    window->OpenPaths({path, picture});
     QCOMPARE(window->Desk().Keeper().File(), path);
     QTRY_COMPARE(Inputs(), QStringList{picture});
     QCOMPARE(window->Job().CurrentSettings().imageSize.size, 77.0);
@@ -292,7 +294,7 @@ void tst_JobWindow::closedWindowsComeBack()
     window.reset();
     window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
     window->show();
-    window->Begin({});
+    window->Restore(true);
     QCOMPARE(Notice(), QString());
     QCOMPARE(window->Pictures().Inputs().FileCount(), 3);
     QVERIFY(window->Job().CurrentSettings() == before);
@@ -300,7 +302,8 @@ void tst_JobWindow::closedWindowsComeBack()
     window.reset();
     window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
     const QString picture = Path(QStringLiteral("photos/1 it's.jpg"));
-    window->Begin({picture});
+    window->Restore(false);
+    window->OpenPaths({picture});
     QTRY_COMPARE(Inputs(), QStringList{picture});
     QCOMPARE(window->Job().CurrentSettings().imageSize.size, 345.0);
 }
@@ -325,7 +328,7 @@ void tst_JobWindow::killedWindowsComeBack()
 
     window = std::make_unique<MainWindow>(Path(QStringLiteral("settings")), Path(QStringLiteral("data")));
     window->show();
-    window->Begin({});
+    window->Restore(true);
     QCOMPARE(window->Pictures().Inputs().FileCount(), 3);
     QCOMPARE(window->Job().CurrentSettings().imageSize.size, 234.0);
     QCOMPARE(window->PresetChoice().Active(), QStringLiteral("mail"));

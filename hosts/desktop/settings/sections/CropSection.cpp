@@ -60,9 +60,9 @@ QString CropSection::State() const
     case CropType::TurningInteresting:
         return filled(Messages::tr("What draws the eye, ratio %1 : %2, turned with the picture"));
     case CropType::Fill:
-        return filled(Messages::tr("Scaled and cut to %1 x %2 px"));
+        return filled(Messages::tr("Scaled and cut to %1 \u00d7 %2 px"));
     case CropType::Exact:
-        return filled(Messages::tr("Cut to %1 x %2 px"));
+        return filled(Messages::tr("Cut to %1 \u00d7 %2 px"));
     case CropType::Trim:
         return Messages::tr("Borders of one colour are cut off");
     default:

@@ -31,8 +31,8 @@ QString FrameSection::State() const
         return Messages::tr("No frame");
     }
     if (framing.backgroundCustomOutput) {
-        const QString text = framing.shadowEnabled ? Messages::tr("A frame of %1 x %2 px with a shadow")
-                                                   : Messages::tr("A frame of %1 x %2 px");
+        const QString text = framing.shadowEnabled ? Messages::tr("A frame of %1 \u00d7 %2 px with a shadow")
+                                                   : Messages::tr("A frame of %1 \u00d7 %2 px");
         return text.arg(framing.backgroundCustomSize.width()).arg(framing.backgroundCustomSize.height());
     }
     const QMargins& margins = framing.margins;
