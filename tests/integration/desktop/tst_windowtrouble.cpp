@@ -61,9 +61,18 @@ void tst_WindowTrouble::aVanishedDiskIsAskedAbout()
     stage->MakePhotos(30);
     QVERIFY(stage->Add(30));
     stage->SetOutput(true);
+    // The folder vanishes between two pictures.
+    int inWork = 0;
+    auto watch = std::make_unique<QObject>();
+    connect(&stage->Runner(), &JobRunner::Begun, watch.get(), [&inWork] { ++inWork; });
+    connect(&stage->Runner(), &JobRunner::ResultKnown, watch.get(), [&] {
+        --inWork;
+        stage->Runner().Pause();
+    });
     stage->Click("start");
-    stage->Click("pause");
     QVERIFY(stage->WaitForState(RunState::Paused));
+    QTRY_COMPARE_WITH_TIMEOUT(inWork, 0, WindowStage::patience);
+    watch.reset();
     QVERIFY(stage->Runner().CurrentProgress().Done() < 30);
     const QString out = stage->Path(QStringLiteral("out"));
     QVERIFY(QDir(out).removeRecursively());
@@ -71,7 +80,7 @@ void tst_WindowTrouble::aVanishedDiskIsAskedAbout()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
     stage->Click("pause");
-    QVERIFY(stage->WaitForQuestion());
+    QVERIFY2(stage->WaitForQuestion(), qPrintable(stage->Text()));
     QCOMPARE(stage->Runner().OpenQuestion()->kind, BatchJob::PolicyKind::Output);
     QVERIFY2(stage->Text("questionText").contains(QStringLiteral("cannot be written")),
              qPrintable(stage->Text("questionText")));
