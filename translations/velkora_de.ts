@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation>&amp;Einpassen</translation>
+        <translation>&amp;Ganz</translation>
     </message>
     <message>
         <source>Show all of the picture (1)</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>&amp;Side by side</source>
-        <translation>&amp;Nebeneinander</translation>
+        <translation>&amp;Paarweise</translation>
     </message>
     <message>
         <source>Before and after side by side (5)</source>
@@ -2214,6 +2214,10 @@
     <message>
         <source>The grid shows all pictures; the list can be filtered.</source>
         <translation>Das Raster zeigt alle Bilder; die Liste lässt sich filtern.</translation>
+    </message>
+    <message>
+        <source>Written as %1</source>
+        <translation>Wird zu %1</translation>
     </message>
 </context>
 <context>

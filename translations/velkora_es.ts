@@ -2215,6 +2215,10 @@
         <source>The grid shows all pictures; the list can be filtered.</source>
         <translation>La cuadrícula muestra todas las imágenes; la lista se puede filtrar.</translation>
     </message>
+    <message>
+        <source>Written as %1</source>
+        <translation>Se escribe como %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

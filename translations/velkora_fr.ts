@@ -2215,6 +2215,10 @@
         <source>The grid shows all pictures; the list can be filtered.</source>
         <translation>La grille montre toutes les images&#x202f;; la liste peut être filtrée.</translation>
     </message>
+    <message>
+        <source>Written as %1</source>
+        <translation>Écrit sous le nom %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

@@ -2215,6 +2215,10 @@
         <source>The grid shows all pictures; the list can be filtered.</source>
         <translation>グリッドにはすべての画像が表示されます。絞り込みはリストでできます。</translation>
     </message>
+    <message>
+        <source>Written as %1</source>
+        <translation>書き出し先: %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

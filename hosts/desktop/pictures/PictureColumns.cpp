@@ -111,7 +111,7 @@ QVariant PictureColumns::data(const QModelIndex& index, int role) const
         case NameColumn:
             return texts.Name(node);
         case ResultColumn:
-            return texts.Result(node);
+            return texts.ShortResult(node);
         case StateColumn:
             return texts.State(node);
         default:

@@ -35,6 +35,17 @@ QString PictureTexts::Result(const InputNode& node) const
                         : QString::number(node.data.fileNodesCount);
 }
 
+QString PictureTexts::ShortResult(const InputNode& node) const
+{
+    const QString result = Result(node);
+    if (!IsFile(node)) {
+        return result;
+    }
+    const InputNode* const folder = FolderOf(&node);
+    const QString place = result.section(QDir::separator(), -2, -2);
+    return folder != nullptr && place == Name(*folder) ? result.section(QDir::separator(), -1) : result;
+}
+
 QString PictureTexts::State(const InputNode& node) const
 {
     if (!IsFile(node)) {
@@ -66,6 +77,10 @@ bool PictureTexts::IsWarning(const InputNode& node) const
 QString PictureTexts::ToolTip(const InputNode& node) const
 {
     QStringList lines{node.data.toolTip.isEmpty() ? QDir::toNativeSeparators(node.data.fileName) : node.data.toolTip};
+    const QString result = IsFile(node) ? Result(node) : QString();
+    if (!result.isEmpty()) {
+        lines.append(Messages::tr("Written as %1").arg(result));
+    }
     const RunStates::Record record = states.Of(node.data.fileName);
     const QString trouble = BatchHost::Translated(plan.Of(node.data.fileName).trouble);
     if (!record.reason.isEmpty()) {

@@ -30,6 +30,9 @@ public:
     /// The planned name of the result; of a folder, how many pictures it has.
     QString Result(const InputNode& node) const;
 
+    /// The same without the folder where the result stays in one of the same name, as the list shows that already.
+    QString ShortResult(const InputNode& node) const;
+
     /// One word or two; empty if all is well.
     QString State(const InputNode& node) const;
 

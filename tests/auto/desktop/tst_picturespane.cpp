@@ -58,6 +58,7 @@ private Q_SLOTS:
     void otherActionsHaveButtons();
     void selectedPicturesAreRemovedByKey();
     void nextAndPreviousFollowTheFilter();
+    void resultsAreNamedWithoutTheirOwnFolder();
     void filterByTextAndState();
     void whatTheFilterHidesIsNotRemoved();
     void theFilterKeepsTheCurrentPictureAndClosedFolders();
@@ -278,6 +279,26 @@ void tst_PicturesPane::nextAndPreviousFollowTheFilter()
     QCOMPARE(pane->Current(), Path(QStringLiteral("in/one/a1.jpg")));
     job->History().undo();
     QTRY_COMPARE(pane->Current(), QString());
+}
+
+void tst_PicturesPane::resultsAreNamedWithoutTheirOwnFolder()
+{
+    WritePictures({QStringLiteral("in/one/a.jpg"), QStringLiteral("b.jpg")});
+    Settings settings = job->CurrentSettings();
+    settings.structure = ZTBatchOutputSettings::StructureAsInput;
+    job->Change(settings, QStringLiteral("Test"));
+    Add({Path(QStringLiteral("in")), Path(QStringLiteral("b.jpg"))});
+    QTRY_COMPARE(Count(), 2);
+    QTRY_VERIFY(pane->Names().IsCurrent());
+    const auto result = [&](const QString& file) {
+        pane->Select(Path(file));
+        return pane->findChild<PictureList*>()->currentIndex().siblingAtColumn(PictureColumns::ResultColumn);
+    };
+    const QModelIndex inFolder = result(QStringLiteral("in/one/a.jpg"));
+    QCOMPARE(inFolder.data().toString(), QStringLiteral("a.jpg"));
+    const QString whole = QDir::toNativeSeparators(QStringLiteral("in/one/a.jpg"));
+    QVERIFY(inFolder.data(Qt::ToolTipRole).toString().contains(QStringLiteral("Written as %1").arg(whole)));
+    QCOMPARE(result(QStringLiteral("b.jpg")).data().toString(), QStringLiteral("b.jpg"));
 }
 
 void tst_PicturesPane::filterByTextAndState()
