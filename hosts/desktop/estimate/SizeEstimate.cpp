@@ -3,12 +3,12 @@
 
 #include "SizeEstimate.h"
 
+#include "hosts/desktop/making/FreeBytes.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerProgram.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 
 #include <chrono>
 #include <utility>
@@ -35,8 +35,7 @@ qint64 FreeBytesFor(const QString& folder)
     while (!QFileInfo::exists(existing) && QFileInfo(existing).path() != existing) {
         existing = QFileInfo(existing).path();
     }
-    const QStorageInfo storage(existing);
-    return storage.isValid() ? storage.bytesAvailable() : -1;
+    return FreeBytes(existing);
 }
 
 } // namespace

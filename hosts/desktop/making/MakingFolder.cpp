@@ -3,9 +3,10 @@
 
 #include "MakingFolder.h"
 
+#include "FreeBytes.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 
 namespace BatchDesktop {
 
@@ -19,8 +20,8 @@ const QString nameStart = QStringLiteral("velkora-preview-");
 QString ParentOfFiles()
 {
     const QString ofUser = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const bool isUsable = QDir::isAbsolutePath(ofUser) && QFileInfo(ofUser).isWritable() &&
-                          QStorageInfo(ofUser).bytesAvailable() >= roomInMemory;
+    const bool isUsable =
+        QDir::isAbsolutePath(ofUser) && QFileInfo(ofUser).isWritable() && FreeBytes(ofUser) >= roomInMemory;
     return isUsable ? ofUser : QDir::tempPath();
 }
 
