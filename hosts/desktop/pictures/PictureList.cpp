@@ -117,7 +117,11 @@ PictureList::PictureList(PictureFilter& filter, QWidget* parent)
     connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::OpenFolders);
     connect(&filter, &QAbstractItemModel::modelReset, this,
             [this] { OpenFolders(QModelIndex(), 0, model()->rowCount() - 1); });
-    connect(&filter, &QAbstractItemModel::layoutChanged, this, &PictureList::SightChanged);
+    connect(&filter, &QAbstractItemModel::layoutChanged, this, [this] {
+        scheduleDelayedItemsLayout(); // One for all folders that come back.
+        OpenFolders(QModelIndex(), 0, model()->rowCount() - 1);
+        Q_EMIT SightChanged();
+    });
     connect(&filter, &QAbstractItemModel::rowsInserted, this, &PictureList::SightChanged);
     connect(&filter, &QAbstractItemModel::rowsRemoved, this, &PictureList::SightChanged);
     connect(&filter, &QAbstractItemModel::modelReset, this, &PictureList::SightChanged);
@@ -135,13 +139,9 @@ void PictureList::ShowOnly(const QString& text, ShownState state)
     if (filter.Shows(text, state)) {
         return;
     }
-    const QPersistentModelIndex current = filter.mapToSource(currentIndex());
-    selectionModel()->clear(); // Each selected row would be followed by itself to where it is then.
+    selectionModel()->clearSelection(); // Each selected row would be followed by itself to where it is then.
     filter.Show(text, state);
-    scheduleDelayedItemsLayout(); // One for all folders that open.
-    OpenFolders(QModelIndex(), 0, filter.rowCount() - 1);
-    const QModelIndex shown = filter.mapFromSource(current);
-    setCurrentIndex(shown.isValid() ? shown : Neighbour(QModelIndex(), 1));
+    setCurrentIndex(currentIndex().isValid() ? currentIndex() : Neighbour(QModelIndex(), 1));
 }
 
 QModelIndexList PictureList::Selected() const

@@ -191,11 +191,13 @@ void PicturesPane::ConnectViews()
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &PicturesPane::SelectionChanged);
         view->setContextMenuPolicy(Qt::ActionsContextMenu);
     }
-    connect(&states, &RunStates::Changed, this, [this] {
+    const auto noteOthersMayPass = [this] {
         if (filterState->currentIndex() > 0) {
-            Begin(headDelay); // Other pictures may pass.
+            Begin(headDelay);
         }
-    });
+    };
+    connect(&states, &RunStates::Changed, this, noteOthersMayPass);
+    connect(&texts, &PictureTexts::AllChanged, this, noteOthersMayPass);
 }
 
 void PicturesPane::AddPaths(const QStringList& paths)
@@ -311,6 +313,7 @@ void PicturesPane::ApplyFilter()
     filterDelay.stop();
     list->ShowOnly(filterText->text().trimmed(), ShownState(filterState->currentData().toInt()));
     UpdateHead();
+    UpdateCurrent(); // No signal tells that the last one is hidden.
     Begin(sightDelay);
 }
 

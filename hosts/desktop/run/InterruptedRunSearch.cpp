@@ -14,7 +14,6 @@
 
 #include <QDir>
 #include <QSettings>
-#include <QTimer>
 
 #include <chrono>
 
@@ -67,6 +66,8 @@ InterruptedRunSearch::InterruptedRunSearch(const QString& settingsFolder, QObjec
     : QObject(parent)
     , file(QDir(settingsFolder).filePath(QStringLiteral("runs.ini")))
 {
+    repeat.setSingleShot(true);
+    connect(&repeat, &QTimer::timeout, this, [this] { SearchIn(foldersToRepeat); });
 }
 
 InterruptedRunSearch::~InterruptedRunSearch()
@@ -89,6 +90,7 @@ void InterruptedRunSearch::SetFolders(const QStringList& folders) const
 void InterruptedRunSearch::Remember(const QString& folder)
 {
     repeatsLeft = 0; // What is running there now is this window's own.
+    repeat.stop();
     QStringList folders = Folders();
     folders.removeAll(folder);
     folders.prepend(folder);
@@ -130,7 +132,8 @@ void InterruptedRunSearch::Take(const QVector<FoundRuns>& found)
     SetFolders(left);
     if (!running.isEmpty() && repeatsLeft > 0) {
         --repeatsLeft;
-        QTimer::singleShot(repeatDelay, this, [this, running] { SearchIn(running); });
+        foldersToRepeat = running;
+        repeat.start(repeatDelay);
     }
     Q_EMIT Found(runs);
 }

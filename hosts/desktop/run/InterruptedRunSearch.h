@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
+#include <QTimer>
 #include <QVector>
 
 namespace BatchDesktop {
@@ -62,6 +63,8 @@ private:
     void SetFolders(const QStringList& folders) const;
 
     const QString file;
+    QTimer repeat;
+    QStringList foldersToRepeat;
     int repeatsLeft = 0;
     QThreadPool threads;
 };

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void filterByTextAndState();
     void whatTheFilterHidesIsNotRemoved();
     void theFilterKeepsTheCurrentPictureAndClosedFolders();
+    void takenNamesComeAndGoWithThePlan();
     void theGridHasTheSameCurrentPicture();
     void showInFolderGetsTheSelection();
     void vanishedFilesAreSaid();
@@ -357,8 +358,11 @@ void tst_PicturesPane::theFilterKeepsTheCurrentPictureAndClosedFolders()
     QVERIFY(list->isExpanded(one()));
     list->collapse(one());
     pane->Select(Path(QStringLiteral("in/two/b2.jpg")));
+    QSignalSpy changed(pane.get(), &PicturesPane::CurrentChanged);
     pane->Filter(QStringLiteral("b"), ShownState::All);
     QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/b2.jpg")));
+    QCOMPARE(pane->SelectedPaths(), QStringList(pane->Current()));
+    QCOMPARE(changed.size(), 0); // Its preview stays.
     pane->Filter(QStringLiteral("a2"), ShownState::All);
     QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/a2.jpg")));
     QCOMPARE(rows.rowCount(rows.index(0, 0)), 1);
@@ -366,6 +370,38 @@ void tst_PicturesPane::theFilterKeepsTheCurrentPictureAndClosedFolders()
     QCOMPARE(pane->Current(), Path(QStringLiteral("in/two/a2.jpg")));
     QVERIFY(!list->isExpanded(one()));
     QVERIFY(list->isExpanded(one().siblingAtRow(1)));
+    pane->Filter(QStringLiteral("nothing"), ShownState::All);
+    QCOMPARE(pane->Current(), QString());
+}
+
+// Names that are planned anew change what passes.
+void tst_PicturesPane::takenNamesComeAndGoWithThePlan()
+{
+    WritePictures({QStringLiteral("in/one/a.jpg"), QStringLiteral("in/two/a.jpg"), QStringLiteral("in/two/b.jpg")});
+    Add({Path(QStringLiteral("in"))});
+    QTRY_COMPARE(Count(), 3);
+    const auto plan = [&](ZTBatchOutputSettings::FolderStructure structure) {
+        Settings settings = job->CurrentSettings();
+        settings.structure = structure;
+        job->Change(settings, QStringLiteral("Test"));
+    };
+    plan(ZTBatchOutputSettings::StructureAsInput);
+    QTRY_VERIFY(pane->Names().IsCurrent());
+    pane->Filter(QString(), ShownState::NameTaken);
+    QTRY_COMPARE(Head(), QStringLiteral("0 of 3 pictures"));
+    plan(ZTBatchOutputSettings::StructureFlat);
+    auto* const list = pane->findChild<PictureList*>();
+    const QAbstractItemModel& rows = *list->model();
+    QTRY_COMPARE(rows.rowCount(), 1);
+    const QModelIndex top = rows.index(0, 0);
+    QVERIFY(list->isExpanded(top));
+    for (int row = 0; row < rows.rowCount(top); ++row) {
+        QVERIFY(list->isExpanded(rows.index(row, 0, top)));
+    }
+    QTRY_VERIFY(Head() != QStringLiteral("0 of 3 pictures"));
+    plan(ZTBatchOutputSettings::StructureAsInput);
+    QTRY_COMPARE(rows.rowCount(), 0);
+    QTRY_COMPARE(Head(), QStringLiteral("0 of 3 pictures"));
 }
 
 void tst_PicturesPane::theGridHasTheSameCurrentPicture()

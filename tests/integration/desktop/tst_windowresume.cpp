@@ -30,6 +30,7 @@ private Q_SLOTS:
     void finishedRunsAreNotOffered();
     void vanishedFoldersAreForgotten();
     void runsThatEndLateAreOffered();
+    void runsOfThisWindowEndTheSearch();
 
 private:
     bool KillWindowInItsRun() const;
@@ -223,6 +224,21 @@ void tst_WindowResume::runsThatEndLateAreOffered()
     server.reset();
     QTRY_COMPARE_WITH_TIMEOUT(foundLast().size(), 1, WindowStage::patience);
     QCOMPARE(foundLast().first().journal, journals.first());
+}
+
+// The journal of a run of its own must not be taken for one that was left behind.
+void tst_WindowResume::runsOfThisWindowEndTheSearch()
+{
+    QVERIFY(KillWindowInItsRun());
+    const QString out = stage->Path(QStringLiteral("out"));
+    auto server = BatchHost::JournalFile::Take(BatchHost::JournalFile::In(out).value(0));
+    InterruptedRunSearch search(stage->SettingsFolder());
+    QSignalSpy found(&search, &InterruptedRunSearch::Found);
+    search.Start();
+    QVERIFY(found.wait(WindowStage::patience));
+    search.Remember(out);
+    server.reset();
+    QVERIFY(!found.wait(2000));
 }
 
 int main(int argc, char** argv)
