@@ -6,6 +6,7 @@
 #include "RunInputs.h"
 
 #include "job/journal/RunJournal.h"
+#include "server/protocol/HostPipe.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
@@ -25,7 +26,7 @@ bool IsPipeInUse()
 {
     constexpr int answerTime = 1000;
     QLocalSocket socket;
-    socket.connectToServer(QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing"));
+    socket.connectToServer(BatchProtocol::HostPipe::Name());
     return socket.waitForConnected(answerTime);
 }
 

@@ -4,6 +4,7 @@
 #include "RunController.h"
 
 #include "ManagerPolicies.h"
+#include "OfferedPipe.h"
 
 #include "job/journal/RunJournal.h"
 #include "job/plan/CommandLog.h"
@@ -90,6 +91,10 @@ void RunController::StartServer()
     settledByThisServer = 0;
     isAskedForLife = false;
     watch.Start();
+    std::optional<OfferedPipe> pipe;
+    if (!manager->IsStarted()) {
+        pipe.emplace();
+    }
     manager->Start();
 }
 

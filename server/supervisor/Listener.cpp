@@ -3,6 +3,8 @@
 
 #include "Listener.h"
 
+#include "PipeOfHost.h"
+
 #include "ZTPipePeer.h"
 
 #include <QLocalSocket>
@@ -37,6 +39,16 @@ Listener::Listener(QObject* parent)
 
 bool Listener::Listen(const QString& pipeName)
 {
+    const int pipeOfHost = TakePipeOfHost(pipeName);
+    if (!(pipeOfHost >= 0 ? server.listen(pipeOfHost) : Open(pipeName))) {
+        error = error.isEmpty() ? server.errorString() : error;
+        return false;
+    }
+    return true;
+}
+
+bool Listener::Open(const QString& pipeName)
+{
     for (int attempt = 1; IsAnswering(pipeName); ++attempt) {
         if (attempt == attempts) {
             error = QStringLiteral("another server listens on it already");
@@ -45,11 +57,7 @@ bool Listener::Listen(const QString& pipeName)
         QThread::msleep(attemptInterval);
     }
     QLocalServer::removeServer(pipeName);
-    if (!server.listen(pipeName)) {
-        error = server.errorString();
-        return false;
-    }
-    return true;
+    return server.listen(pipeName);
 }
 
 void Listener::Accept()

@@ -19,8 +19,8 @@ class Listener : public QObject
 public:
     explicit Listener(QObject* parent = nullptr);
 
-    /// Opens the pipe. Replaces the pipe of a server that no longer runs. False when a server runs on it already, or
-    /// when it cannot be opened; see Error().
+    /// Takes over the pipe that the host made before it started this server, or opens it. Replaces the pipe of a server
+    /// that no longer runs. False when a server runs on it already, or when it cannot be opened; see Error().
     bool Listen(const QString& pipeName);
 
     QString Error() const { return error; }
@@ -32,6 +32,7 @@ Q_SIGNALS:
     void Connected(QLocalSocket* socket);
 
 private:
+    bool Open(const QString& pipeName);
     void Accept();
 
     QLocalServer server;

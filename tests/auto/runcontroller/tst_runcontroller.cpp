@@ -24,6 +24,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
+    void connectsBeforeTheServerListens();
     void serversThatSayNothing_data();
     void serversThatSayNothing();
     void serversThatAreSlow();
@@ -58,7 +59,6 @@ private:
     std::unique_ptr<RunController> run;
 };
 
-// More than a second, which the manager takes to connect.
 void tst_RunController::initTestCase()
 {
     ServerWatch::Times::InUse().tick = 400;
@@ -105,6 +105,18 @@ bool tst_RunController::WaitForEvents(const QString& event, int count)
 {
     constexpr int patience = 60'000;
     return QTest::qWaitFor([&] { return server->Count(event) >= count; }, patience);
+}
+
+// Nobody waits for a second attempt: a host that starts its own server is connected from the start.
+void tst_RunController::connectsBeforeTheServerListens()
+{
+    QSignalSpy connected(ZTBatchManager::Instance(), &ZTBatchManager::ConnectionEstablished);
+    Begin({QStringLiteral("start: hang")});
+    QTRY_COMPARE(connected.size(), 1);
+    QVERIFY(!ZTBatchManager::Instance()->IsAllowToCreateSession());
+    QCOMPARE(server->Count(QStringLiteral("open")), 0);
+    run->EndAtOnce();
+    QVERIFY(WaitForEnd());
 }
 
 void tst_RunController::serversThatSayNothing_data()
@@ -224,7 +236,7 @@ void tst_RunController::pausedRunsStayPaused()
 
 void tst_RunController::aPauseOutlivesItsServer()
 {
-    Begin({QStringLiteral("start: open"), QStringLiteral("2: send 12 id"), QStringLiteral("2@1: exit 0"),
+    Begin({QStringLiteral("start: open"), QStringLiteral("2@1: exit 0"), QStringLiteral("2@2: send 12 id"),
            QStringLiteral("3: send 13 id; send 6 id")},
           settings->filePath(QStringLiteral("no journal")));
     QVERIFY(WaitForEvents(QStringLiteral("message 5"), 1));

@@ -17,6 +17,9 @@
 
 namespace {
 
+// Of a host that has made the pipe already, see HostPipe.
+constexpr char listenerVariable[] = "VELKORA_BATCH_LISTENER";
+
 /// Appends in one write, so that a reader never sees part of a line.
 void Append(const QString& path, const QByteArray& bytes)
 {
@@ -102,8 +105,13 @@ void ScriptedServer::Do(const QString& action)
 
 void ScriptedServer::Open()
 {
-    QLocalServer::removeServer(pipeName);
-    if (!server.listen(pipeName)) {
+    bool isInherited = false;
+    const int inherited = qEnvironmentVariableIntValue(listenerVariable, &isInherited);
+    qunsetenv(listenerVariable);
+    if (!isInherited) {
+        QLocalServer::removeServer(pipeName);
+    }
+    if (!(isInherited ? server.listen(inherited) : server.listen(pipeName))) {
         qFatal("The pipe cannot be opened: %s", qUtf8Printable(server.errorString()));
     }
     Note(QStringLiteral("open"));

@@ -20,7 +20,7 @@ class QLocalSocket;
 ///
 /// Actions:
 ///
-///     open              opens the pipe that the argument names
+///     open              takes over the pipe that the host has made, or opens the one that the argument names
 ///     close             stops listening; connections stay open
 ///     wait MS           waits; actions that are triggered meanwhile wait too
 ///     send NAME FIELDS  a message on the latest connection, see Wire::Payload()
