@@ -2219,6 +2219,10 @@
         <source>Written as %1</source>
         <translation>Wird zu %1</translation>
     </message>
+    <message>
+        <source>Let other programs go &amp;first</source>
+        <translation>Anderen Programmen den &amp;Vortritt lassen</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5309,6 +5313,10 @@
     <message>
         <source>The effect &quot;%1&quot; does not exist</source>
         <translation>Den Effekt „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>shares the processor equally with other programs; otherwise they come first</source>
+        <translation>teilt den Prozessor gleichmäßig mit anderen Programmen; sonst haben diese Vorrang</translation>
     </message>
 </context>
 </TS>

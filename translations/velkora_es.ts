@@ -2219,6 +2219,10 @@
         <source>Written as %1</source>
         <translation>Se escribe como %1</translation>
     </message>
+    <message>
+        <source>Let other programs go &amp;first</source>
+        <translation>&amp;Dar prioridad a otros programas</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5309,6 +5313,10 @@
     <message>
         <source>The effect &quot;%1&quot; does not exist</source>
         <translation>El efecto «%1» no existe</translation>
+    </message>
+    <message>
+        <source>shares the processor equally with other programs; otherwise they come first</source>
+        <translation>comparte el procesador por igual con otros programas; si no, estos tienen prioridad</translation>
     </message>
 </context>
 </TS>

@@ -2219,6 +2219,10 @@
         <source>Written as %1</source>
         <translation>Écrit sous le nom %1</translation>
     </message>
+    <message>
+        <source>Let other programs go &amp;first</source>
+        <translation>Laisser la &amp;priorité aux autres programmes</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5309,6 +5313,10 @@
     <message>
         <source>The effect &quot;%1&quot; does not exist</source>
         <translation>L’effet «&#xa0;%1&#xa0;» n’existe pas</translation>
+    </message>
+    <message>
+        <source>shares the processor equally with other programs; otherwise they come first</source>
+        <translation>partage le processeur à égalité avec les autres programmes ; sinon, ceux-ci passent d&apos;abord</translation>
     </message>
 </context>
 </TS>

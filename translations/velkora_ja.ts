@@ -2219,6 +2219,10 @@
         <source>Written as %1</source>
         <translation>書き出し先: %1</translation>
     </message>
+    <message>
+        <source>Let other programs go &amp;first</source>
+        <translation>ほかのプログラムを優先する(&amp;F)</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5309,6 +5313,10 @@
     <message>
         <source>The effect &quot;%1&quot; does not exist</source>
         <translation>効果「%1」は存在しません</translation>
+    </message>
+    <message>
+        <source>shares the processor equally with other programs; otherwise they come first</source>
+        <translation>ほかのプログラムとプロセッサを対等に分け合います。指定しないと、ほかのプログラムが優先されます</translation>
     </message>
 </context>
 </TS>

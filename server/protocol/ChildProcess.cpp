@@ -5,17 +5,37 @@
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <unistd.h>
 #endif
 #ifdef Q_OS_LINUX
 #include <fcntl.h>
 #include <pthread.h>
+#include <sched.h>
 #include <sys/prctl.h>
-#include <unistd.h>
 #elif defined(Q_OS_WIN)
 #include <qt_windows.h>
 #endif
 
 namespace BatchProtocol {
+
+#ifdef Q_OS_UNIX
+namespace {
+
+constexpr int nicenessInBackground = 10;
+
+/// In a child process between fork() and exec().
+void YieldToOthers()
+{
+#ifdef Q_OS_LINUX
+    // Longer turns, and no advantage after a wait for a disk.
+    const sched_param noPriority{};
+    sched_setscheduler(0, SCHED_BATCH, &noPriority);
+#endif
+    [[maybe_unused]] const int niceness = nice(nicenessInBackground);
+}
+
+} // namespace
+#endif
 
 #ifdef Q_OS_LINUX
 
@@ -60,6 +80,9 @@ void ChildProcess::setupChildProcess()
             fcntl(descriptor, F_SETFD, FD_CLOEXEC);
         }
     }
+    if (isInBackground) {
+        YieldToOthers();
+    }
 }
 
 #else
@@ -92,9 +115,25 @@ ChildProcess::ChildProcess(QObject* parent)
 #endif
 }
 
-void ChildProcess::setupChildProcess() {}
+void ChildProcess::setupChildProcess()
+{
+#ifdef Q_OS_UNIX
+    if (isInBackground) {
+        YieldToOthers();
+    }
+#endif
+}
 
 #endif
+
+void ChildProcess::KeepInBackground()
+{
+    isInBackground = true;
+#ifdef Q_OS_WIN
+    setCreateProcessArgumentsModifier(
+        [](CreateProcessArguments* arguments) { arguments->flags |= BELOW_NORMAL_PRIORITY_CLASS; });
+#endif
+}
 
 void ChildProcess::Launch(const QString& program, const QStringList& arguments)
 {

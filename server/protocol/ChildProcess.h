@@ -22,11 +22,18 @@ class ChildProcess : public QProcess
 public:
     explicit ChildProcess(QObject* parent = nullptr);
 
+    /// Processes that are started from now on give way to others that need the processor: SCHED_BATCH and a niceness of
+    /// 10 on Linux, a niceness elsewhere on Unix, priority below normal on Windows. They take what is left.
+    void KeepInBackground();
+
     /// Starts the process. QProcess misses the end of a process that is killed before its program runs; this does not.
     void Launch(const QString& program, const QStringList& arguments);
 
 protected:
     void setupChildProcess() override;
+
+private:
+    bool isInBackground = false;
 };
 
 } // namespace BatchProtocol

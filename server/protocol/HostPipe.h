@@ -14,8 +14,8 @@ inline QString Name()
     return QStringLiteral("\\\\.\\pipe\\VelkoraBatchProcessing");
 }
 
-/// The variable in the server's environment that has the number of a file which it inherits: a socket that listens on the
-/// pipe already. So a host is connected at once, before the server runs, and need not try again.
+/// The variable in the server's environment that has the number of a file which it inherits: a socket that listens on
+/// the pipe already. So a host is connected at once, before the server runs, and need not try again.
 constexpr char listenerVariable[] = "VELKORA_BATCH_LISTENER";
 
 /// The path of the socket of the pipe `name`, in the temporary folder of this process (Unix).

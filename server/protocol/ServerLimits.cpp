@@ -39,6 +39,7 @@ ServerLimits ServerLimits::FromEnvironment()
     limits.pictureSeconds = ValueOf(pictureTimeLimit, 1, defaults.pictureSeconds);
     limits.followsLinks = ValueOf(followLinksLimit, 1, 0) != 0;
     limits.replacesOriginals = ValueOf(inPlaceLimit, 1, 0) != 0;
+    limits.isInBackground = ValueOf(normalPriorityLimit, 1, 0) == 0;
     limits.refusesSharedNames = ValueOf(sharedNamesLimit, 1, 0) != 0;
     return limits;
 }

@@ -24,6 +24,7 @@ constexpr ServerLimit workerMemoryLimit{"VELKORA_BATCH_WORKER_MIB", 128, 1 << 20
 constexpr ServerLimit pictureTimeLimit{"VELKORA_BATCH_PICTURE_SECONDS", 1, 86'400};
 constexpr ServerLimit followLinksLimit{"VELKORA_BATCH_FOLLOW_LINKS", 0, 1};
 constexpr ServerLimit inPlaceLimit{"VELKORA_BATCH_IN_PLACE", 0, 1};
+constexpr ServerLimit normalPriorityLimit{"VELKORA_BATCH_NORMAL_PRIORITY", 0, 1};
 constexpr ServerLimit sharedNamesLimit{"VELKORA_BATCH_REFUSE_SHARED_NAMES", 0, 1};
 
 /// How much a run may take. The supervisor reads the limits from its environment once, when it starts, and passes them
@@ -36,6 +37,7 @@ struct ServerLimits
     int pictureSeconds = 300;              ///< time for one picture
     bool followsLinks = false; ///< results go through links to folders below the output folder; only for the supervisor
     bool replacesOriginals = false;  ///< results may take the places of their own originals; only for the supervisor
+    bool isInBackground = true;      ///< workers give way to other programs, see ChildProcess::KeepInBackground()
     bool refusesSharedNames = false; ///< a job is refused if results would be skipped because others have their names;
                                      ///< only for the supervisor
 

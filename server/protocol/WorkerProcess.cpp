@@ -59,6 +59,9 @@ WorkerProcess::WorkerProcess(const QString& program, const ServerLimits& limits,
     });
     clock.start(startTime);
     process.setProcessEnvironment(EnvironmentOfWorkers(temporaryFolder.path()));
+    if (limits.isInBackground) {
+        process.KeepInBackground();
+    }
     process.Launch(program, QStringList());
     streams.AfterLaunch();
 }

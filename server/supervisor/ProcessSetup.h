@@ -12,8 +12,9 @@ namespace ProcessSetup {
 
 /// Detaches the process from the terminal of its host: Ctrl-C there is for the host, which decides what to cancel.
 /// Closes its memory to other processes of its user, where the system can. Makes file names UTF-8 in any locale, on
-/// systems that leave this to programs. To be called before anything else.
-void Prepare();
+/// systems that leave this to programs. In the background, the process and its workers come after the other sessions of
+/// the machine, where the system divides the processor among these (Linux). To be called before anything else.
+void Prepare(bool isInBackground);
 
 /// Calls `end` on this thread, from its event loop, when the system asks the process to end.
 void OnEndRequest(const std::function<void()>& end);

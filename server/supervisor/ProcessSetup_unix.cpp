@@ -29,18 +29,34 @@ void NoteRequest(int)
     [[maybe_unused]] const ssize_t written = ::write(requestPipe[1], &byte, 1);
 }
 
+#ifdef Q_OS_LINUX
+// Between sessions the niceness of processes says nothing where the kernel groups them; that of their groups does.
+void KeepSessionInBackground()
+{
+    constexpr char niceness[] = "10";
+    const int group = ::open("/proc/self/autogroup", O_WRONLY | O_CLOEXEC);
+    if (group >= 0) {
+        [[maybe_unused]] const ssize_t written = ::write(group, niceness, sizeof(niceness) - 1);
+        ::close(group);
+    }
+}
+#endif
+
 } // namespace
 
-void ProcessSetup::Prepare()
+void ProcessSetup::Prepare(bool isInBackground)
 {
+    ::setsid(); // Fails for the leader of a process group, which is detached already.
 #ifdef Q_OS_LINUX
+    if (isInBackground) {
+        KeepSessionInBackground(); // While the system still lets this process write there.
+    }
     // The host may have set it for the time until the server runs. From here on the server ends itself: when it loses
     // the connection it removes unfinished files first.
     ::prctl(PR_SET_PDEATHSIG, 0);
     // A worker that a picture has taken over is a process of the same user. It must not reach this one through /proc.
     ::prctl(PR_SET_DUMPABLE, 0);
 #endif
-    ::setsid(); // Fails for the leader of a process group, which is detached already.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN); // A file that has grown too large is an error of writing it.

@@ -34,7 +34,7 @@ BOOL WINAPI Handle(DWORD event)
 } // namespace
 
 // File names are Unicode on this system.
-void ProcessSetup::Prepare()
+void ProcessSetup::Prepare(bool)
 {
     // The pipes between processes carry bytes, not text.
     _setmode(_fileno(stdin), _O_BINARY);

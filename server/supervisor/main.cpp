@@ -31,7 +31,8 @@ void WriteLine(QtMsgType type, const QMessageLogContext&, const QString& text)
 
 int main(int argc, char** argv)
 {
-    ProcessSetup::Prepare();
+    const auto limits = BatchProtocol::ServerLimits::FromEnvironment();
+    ProcessSetup::Prepare(limits.isInBackground);
     qInstallMessageHandler(&WriteLine);
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
@@ -43,7 +44,7 @@ int main(int argc, char** argv)
     if (arguments[0] == QLatin1String(JobReader::argument)) {
         return JobReader::RunProcess();
     }
-    Server server(BatchProtocol::WorkerProgram(), BatchProtocol::ServerLimits::FromEnvironment());
+    Server server(BatchProtocol::WorkerProgram(), limits);
     // Before any host can connect: it may ask for the end at once.
     ProcessSetup::OnEndRequest([&server] { server.End(); });
     if (!server.Start(arguments[0])) {

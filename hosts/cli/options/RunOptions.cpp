@@ -44,6 +44,7 @@ constexpr std::array limitOptions{
 };
 
 const QString followLinks = QStringLiteral("--follow-links");
+const QString normalPriority = QStringLiteral("--normal-priority");
 const QString inPlace = QStringLiteral("--in-place");
 
 } // namespace
@@ -107,6 +108,10 @@ QVector<OptionInfo> RunOptionInfos()
                       {},
                       QString::fromLatin1(option.shortName)});
     }
+    infos.append(
+        {normalPriority, QString(),
+         BatchJob::Phrase::English("shares the processor equally with other programs; otherwise they come first"),
+         BatchJob::Phrase::English("Limits")});
     return infos + PlanOptionInfos();
 }
 
@@ -125,6 +130,9 @@ void ApplyServerLimits(const ParsedArguments& arguments)
     }
     if (arguments.Has(followLinks)) {
         followLinksLimit.Set(1);
+    }
+    if (arguments.Has(normalPriority)) {
+        normalPriorityLimit.Set(1);
     }
     if (arguments.Has(inPlace)) {
         inPlaceLimit.Set(1);

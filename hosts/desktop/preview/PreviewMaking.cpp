@@ -22,6 +22,13 @@ Job OfWorker(const WorkerJob& job, const ServerLimits& limits)
     return {job.document, limits, job.rightsToMake};
 }
 
+/// The user waits for a preview, unlike for a run.
+ServerLimits InForeground(ServerLimits limits)
+{
+    limits.isInBackground = false;
+    return limits;
+}
+
 /// The picture in a form that is drawn fast. Only for files that the display's worker has made.
 QImage PictureIn(const QString& file)
 {
@@ -35,7 +42,7 @@ QImage PictureIn(const QString& file)
 
 PreviewWorkshop::PreviewWorkshop(const QString& program, const ServerLimits& limits, const QByteArray& displayProfile)
     : place{folder.Path(), displayProfile}
-    , spares(program, limits, folder.TemporaryPath())
+    , spares(program, InForeground(limits), folder.TemporaryPath())
     , display(spares, OfWorker(DisplayJob(place), limits))
 {
     // More than there are cores: one that waits for a slow disk must not stop the others.

@@ -5,6 +5,7 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/run/RunPriority.h"
 #include "hosts/desktop/settings/sections/ElidedLabel.h"
 #include "hosts/desktop/settings/sections/SettingsSection.h"
 
@@ -232,6 +233,8 @@ void MainWindow::MakeRunMenu()
     startAction->setObjectName(QStringLiteral("startAction"));
     startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     menu->addActions(bar->Actions());
+    menu->addSeparator();
+    menu->addAction(RunPriority(layoutFile, menu).Action());
 }
 
 void MainWindow::ConnectPictures()

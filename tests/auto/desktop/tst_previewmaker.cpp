@@ -16,6 +16,7 @@
 
 #ifdef Q_OS_LINUX
 #include <csignal>
+#include <sched.h>
 #include <sys/types.h>
 #endif
 
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void endsOfWorkers();
     void missingWorker();
 #ifdef Q_OS_LINUX
+    void previewsDoNotWaitBehindOthers();
     void killedSpareWorkers();
 #endif
     void foldersOfKilledProcessesAreRemoved();
@@ -54,6 +56,9 @@ private:
     PreviewPictures MadeOf(const QString& file, const Settings& settings);
     QString ReasonFor(const QString& file, const Settings& settings);
     QStringList FilesOfPreviews() const;
+#ifdef Q_OS_LINUX
+    static QList<QByteArray> ChildProcesses();
+#endif
 
     std::unique_ptr<PrivateTempDir> folder;
     QString photo;
@@ -290,13 +295,28 @@ void tst_PreviewMaker::missingWorker()
 }
 
 #ifdef Q_OS_LINUX
+QList<QByteArray> tst_PreviewMaker::ChildProcesses()
+{
+    const qint64 self = QCoreApplication::applicationPid();
+    QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(self));
+    return children.open(QIODevice::ReadOnly) ? children.readAll().simplified().split(' ') : QList<QByteArray>();
+}
+
+// Runs do, and the user waits for a preview.
+void tst_PreviewMaker::previewsDoNotWaitBehindOthers()
+{
+    QCOMPARE(MadeOf(photo, ToJpeg()).size, QSize(60, 40));
+    const QList<QByteArray> processes = ChildProcesses();
+    QVERIFY(processes.size() >= 2); // those that are spare, and that of the display
+    for (const QByteArray& process : processes) {
+        QCOMPARE(sched_getscheduler(pid_t(process.toInt())), sched_getscheduler(0));
+    }
+}
+
 void tst_PreviewMaker::killedSpareWorkers()
 {
     QCOMPARE(MadeOf(photo, ToJpeg()).size, QSize(60, 40));
-    const qint64 self = QCoreApplication::applicationPid();
-    QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(self));
-    QVERIFY(children.open(QIODevice::ReadOnly));
-    const QList<QByteArray> processes = children.readAll().simplified().split(' ');
+    const QList<QByteArray> processes = ChildProcesses();
     QVERIFY(processes.size() >= 2); // those that are spare, and that of the display
     for (const QByteArray& process : processes) {
         QCOMPARE(kill(pid_t(process.toInt()), SIGKILL), 0);

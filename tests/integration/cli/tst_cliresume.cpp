@@ -159,8 +159,7 @@ void tst_CliResume::killedAtAnyMoment()
     for (int kills = 0; kills < killsForEachRow; kills += lanes) {
         std::array<int, lanes> moments{};
         for (int& moment : moments) {
-            // Starting and reaching the server takes up to a second.
-            moment = std::min(800, duration / 2) + random.bounded(duration);
+            moment = random.bounded(duration);
         }
         std::sort(moments.begin(), moments.end());
         time.start();

@@ -513,7 +513,8 @@ void tst_CliShellDocs::manualPageTells_data()
                         QLatin1String(BatchProtocol::megapixelsLimit.variable),
                         QLatin1String(BatchProtocol::workerMemoryLimit.variable),
                         QLatin1String(BatchProtocol::pictureTimeLimit.variable),
-                        QLatin1String(BatchProtocol::followLinksLimit.variable)});
+                        QLatin1String(BatchProtocol::followLinksLimit.variable),
+                        QLatin1String(BatchProtocol::normalPriorityLimit.variable)});
     row("FILES",
         {QStringLiteral("~/.config/velkora-batch/BatchExceptionPolicy.ini"), QStringLiteral(".velkora-batch-*.journal"),
          QStringLiteral("VelkoraBatchProcessing"), QStringLiteral("VelkoraBatchWorker")});

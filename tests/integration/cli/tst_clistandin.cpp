@@ -12,6 +12,7 @@
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <sys/resource.h>
 #endif
 
 /// Whole runs of the command with the real server, whose workers copy files instead of making pictures.
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void killedRunsGoOn();
     void killedServersAreReplaced();
 #ifdef Q_OS_UNIX
+    void workersGiveWay_data();
+    void workersGiveWay();
     void terminatedServersAreReplaced();
 #endif
     void filesThatServersDieOverAreLeftOut();
@@ -44,7 +47,7 @@ private Q_SLOTS:
 private:
     void Start(QProcess& process, const QString& arguments) const;
     bool WaitForOutput(QProcess& process, const QByteArray& text, int count = 1);
-    void StartHeld(QProcess& process, qint64& server);
+    void StartHeld(QProcess& process, qint64& server, const QString& options = QString());
 
     const QString gate = QStringLiteral("gate");
     std::unique_ptr<CliStage> stage;
@@ -80,10 +83,10 @@ bool tst_CliStandIn::WaitForOutput(QProcess& process, const QByteArray& text, in
 }
 
 /// Starts a run that waits over its second file until `gate` exists. `server` stays 0 when that fails.
-void tst_CliStandIn::StartHeld(QProcess& process, qint64& server)
+void tst_CliStandIn::StartHeld(QProcess& process, qint64& server, const QString& options)
 {
     stage->Write(QStringLiteral("photos/2.jpg"), "wait " + stage->Path(gate).toUtf8());
-    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json"));
+    Start(process, QStringLiteral("run photos -o out --format png --workers 1 --json") + options);
     if (WaitForOutput(process, "\"begin\"", 2)) {
         const QList<qint64> servers = ChildrenOf(process.processId());
         server = servers.size() == 1 ? servers.first() : 0;
@@ -321,6 +324,30 @@ void tst_CliStandIn::killedServersAreReplaced()
 }
 
 #ifdef Q_OS_UNIX
+void tst_CliStandIn::workersGiveWay_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<bool>("givesWay");
+    QTest::newRow("by default") << QString() << true;
+    QTest::newRow("normal priority") << QStringLiteral(" --normal-priority") << false;
+}
+
+void tst_CliStandIn::workersGiveWay()
+{
+    QFETCH(QString, option);
+    QFETCH(bool, givesWay);
+    QProcess process;
+    qint64 server = 0;
+    StartHeld(process, server, option);
+    QVERIFY2(server != 0, output.constData());
+    const QList<qint64> workers = ChildrenOf(server);
+    QCOMPARE(workers.size(), 1);
+    QCOMPARE(getpriority(PRIO_PROCESS, id_t(workers.first())) > getpriority(PRIO_PROCESS, 0), givesWay);
+    stage->Write(gate, {});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+}
+
 void tst_CliStandIn::terminatedServersAreReplaced()
 {
     QProcess process;

@@ -8,6 +8,8 @@
 #include "hosts/desktop/job/Settings.h"
 #include "hosts/desktop/run/QuestionBar.h"
 #include "hosts/desktop/run/RunBar.h"
+#include "hosts/desktop/run/RunPriority.h"
+#include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void questionsAreAnswered();
     void answersHoldForTheRest();
     void cancellingEndsTheQuestion();
+    void otherProgramsGoFirst();
     void everyWidgetHasAName();
 
 private:
@@ -199,6 +202,25 @@ void tst_RunBars::cancellingEndsTheQuestion()
     QVERIFY(!questions->isVisible());
     QVERIFY(WaitForEnd());
     QVERIFY(runner->LastEnd()->isCancelled);
+}
+
+void tst_RunBars::otherProgramsGoFirst()
+{
+    const auto isInBackground = [] { return BatchProtocol::ServerLimits::FromEnvironment().isInBackground; };
+    const QString file = Path(QStringLiteral("window.ini"));
+    qunsetenv(BatchProtocol::normalPriorityLimit.variable);
+    QObject parent;
+    const RunPriority priority(file, &parent);
+    QVERIFY(priority.Action()->isChecked());
+    QVERIFY(isInBackground());
+    priority.Action()->trigger();
+    QVERIFY(!isInBackground());
+    qunsetenv(BatchProtocol::normalPriorityLimit.variable);
+    const RunPriority remembered(file, &parent);
+    QVERIFY(!remembered.Action()->isChecked());
+    QVERIFY(!isInBackground());
+    remembered.Action()->trigger();
+    QVERIFY(isInBackground());
 }
 
 void tst_RunBars::everyWidgetHasAName()

@@ -131,8 +131,8 @@ void tst_OfferedPipe::onlyItsUserMayConnect()
     const BatchHost::OfferedPipe offered;
     const QFileInfo socket(HostPipe::SocketPath(HostPipe::Name()));
     QVERIFY(socket.exists());
-    constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
-                            QFile::WriteOther | QFile::ExeOther;
+    constexpr auto others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     QCOMPARE(int(socket.permissions() & others), 0);
 }
 
