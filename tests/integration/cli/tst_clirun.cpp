@@ -141,7 +141,7 @@ void tst_CliRun::damageIsToldInWords()
 {
     const QString bad = Path(QStringLiteral("photos/2.png"));
     PictureFiles::WriteTruncated(bad);
-    const QRegularExpression words(QStringLiteral("\nfailed %1: the file ends after [0-9]+ % of the picture\n")
+    const QRegularExpression words(QStringLiteral("(?:^|\n)failed %1: the file ends after [0-9]+ % of the picture\n")
                                        .arg(QRegularExpression::escape(bad)));
     const CliRun run = Run(QStringLiteral("run photos -o out"));
     QCOMPARE(run.exitCode, 1);
