@@ -19,7 +19,7 @@ inline const std::vector<EffectCase>& EffectCases()
 {
     static const std::vector<EffectCase> cases{
         {"exposure", R"({"stops": 0.7})", 5, "vips linear IN OUT 1.6 0 --uchar"},
-        {"brightness-contrast", R"({"brightness": 10, "contrast": 30})", 5, "vips linear IN OUT 1.4 -20 --uchar"},
+        {"brightness-contrast", R"({"brightness": 10, "contrast": 30})", 5, "vips linear IN OUT 1.4 10 --uchar"},
         {"levels", R"({"black": 5, "white": 80, "gamma": 1.4})", 5, "vips gamma IN OUT --exponent 1.4"},
         {"curve", R"({"points": [[0, 10], [50, 40], [100, 90]]})", 5, "vips maplut IN OUT tones.png"},
         {"auto-levels", R"({"clip": 0.1})", 5, "convert IN -auto-level OUT"},
