@@ -123,31 +123,36 @@ struct Corners
 
 BATCH_VECTOR_CODE void FindCorners(const float* __restrict red, const float* __restrict green,
                                    const float* __restrict blue, int count, const std::array<int, 3>& strides,
-                                   Corners& corners)
+                                   Corners& __restrict corners)
 {
     const auto [redStride, greenStride, blueStride] = strides;
     const int all = redStride + greenStride + blueStride;
-    int* __restrict const second = corners.second.data();
-    int* __restrict const third = corners.third.data();
-    float* __restrict const ofDark = corners.weights[0].data();
-    float* __restrict const ofSecond = corners.weights[1].data();
-    float* __restrict const ofThird = corners.weights[2].data();
-    float* __restrict const ofLight = corners.weights[3].data();
+    int* const second = corners.second.data();
+    int* const third = corners.third.data();
+    float* const ofDark = corners.weights[0].data();
+    float* const ofSecond = corners.weights[1].data();
+    float* const ofThird = corners.weights[2].data();
+    float* const ofLight = corners.weights[3].data();
     for (int i = 0; i < count; ++i) {
         const float r = red[i];
         const float g = green[i];
         const float b = blue[i];
         const float less = r < g ? r : g;
-        const float more = r < g ? g : r;
-        const float most = more < b ? b : more;
-        const float least = b <= less ? b : less;
+        const float more = r > g ? r : g;
+        const float least = less < b ? less : b;
+        const float most = more > b ? more : b;
         const float lessOfMore = more < b ? more : b;
-        const float middle = lessOfMore < less ? less : lessOfMore;
-        // Of equal shares the greatest is that of the first channel, the least that of the last.
-        const int strideOfMore = r < g ? greenStride : redStride;
-        const int strideOfLess = r < g ? redStride : greenStride;
-        second[i] = more < b ? blueStride : strideOfMore;
-        third[i] = all - (b <= less ? blueStride : strideOfLess);
+        const float middle = lessOfMore > less ? lessOfMore : less;
+        // Of equal shares the greatest is that of the first channel, the least that of the last. Without branches,
+        // which would keep compilers from vector code.
+        const int isRedMost = int(r >= g) & int(r >= b);
+        const int isGreenMost = int(g > r) & int(g >= b);
+        const int isBlueMost = int(b > r) & int(b > g);
+        const int isRedLeast = int(r < g) & int(r < b);
+        const int isGreenLeast = int(g <= r) & int(g < b);
+        const int isBlueLeast = int(b <= r) & int(b <= g);
+        second[i] = (-isRedMost & redStride) + (-isGreenMost & greenStride) + (-isBlueMost & blueStride);
+        third[i] = all - ((-isRedLeast & redStride) + (-isGreenLeast & greenStride) + (-isBlueLeast & blueStride));
         ofDark[i] = 1.0F - most;
         ofSecond[i] = most - middle;
         ofThird[i] = middle - least;
@@ -175,17 +180,18 @@ struct TetrahedralWay
 };
 
 template<typename Sample>
-BATCH_VECTOR_CODE void MoveTowards(const float* __restrict found, float strength, Sample* __restrict red,
-                                   Sample* __restrict green, Sample* __restrict blue, int count)
+BATCH_VECTOR_CODE void MoveTowards(const float* found, float strength, Sample* __restrict red, Sample* __restrict green,
+                                   Sample* __restrict blue, int count)
 {
     constexpr auto largest = static_cast<float>(largestNumber<Sample>);
     for (int i = 0; i < count; ++i) {
         const auto r = NumberOf(red[i]);
         const auto g = NumberOf(green[i]);
         const auto b = NumberOf(blue[i]);
-        red[i] = SampleNear<Sample>(r + strength * (found[4 * i] * largest - r));
-        green[i] = SampleNear<Sample>(g + strength * (found[4 * i + 1] * largest - g));
-        blue[i] = SampleNear<Sample>(b + strength * (found[4 * i + 2] * largest - b));
+        red[i] = SampleNear<Sample>(r + strength * (found[0] * largest - r));
+        green[i] = SampleNear<Sample>(g + strength * (found[1] * largest - g));
+        blue[i] = SampleNear<Sample>(b + strength * (found[2] * largest - b));
+        found += 4;
     }
 }
 

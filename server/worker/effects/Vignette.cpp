@@ -28,23 +28,25 @@ struct Vignette
 };
 
 // Distances take the precision of double: a transition may be much shorter than a pixel.
+template<typename Number>
 BATCH_VECTOR_CODE void FindShares(const double* __restrict across, double down, double start, double perSoftness,
-                                  double amount, double* __restrict shares, int count)
+                                  double amount, Number* __restrict shares, int count)
 {
     for (int i = 0; i < count; ++i) {
         const double distance = std::sqrt((across[i] + down) / 2.0);
         double t = (distance - start) * perSoftness;
         t = t < 0.0 ? 0.0 : t;
         t = t > 1.0 ? 1.0 : t;
-        shares[i] = amount * (t * t * (3.0 - 2.0 * t));
+        shares[i] = static_cast<Number>(amount * (t * t * (3.0 - 2.0 * t)));
     }
 }
 
 template<typename Sample>
-BATCH_VECTOR_CODE void MoveTowards(double target, const double* __restrict shares, Sample* __restrict plane, int count)
+BATCH_VECTOR_CODE void MoveTowards(NumberFor<Sample> target, const NumberFor<Sample>* __restrict shares,
+                                   Sample* __restrict plane, int count)
 {
     for (int i = 0; i < count; ++i) {
-        const double value = NumberOf(plane[i]);
+        const auto value = NumberOf(plane[i]);
         plane[i] = SampleNear<Sample>(value + shares[i] * (target - value));
     }
 }
@@ -53,12 +55,12 @@ template<typename Sample>
 void Apply(const Vignette& vignette, const PlanarPixels<Sample>& pixels)
 {
     const double down = (pixels.y + 0.5 - vignette.halfHeight) / vignette.halfHeight;
-    std::array<double, pixelsAtOnce> shares;
+    std::array<NumberFor<Sample>, pixelsAtOnce> shares;
     FindShares(vignette.across.data() + pixels.x, down * down, vignette.start, 1.0 / vignette.softness, vignette.amount,
                shares.data(), pixels.count);
+    const auto target = static_cast<NumberFor<Sample>>(vignette.target) * largestNumber<Sample>;
     for (int channel = 0; channel < pixels.channels; ++channel) {
-        MoveTowards(vignette.target * largestNumber<Sample>, shares.data(),
-                    pixels.planes[static_cast<std::size_t>(channel)], pixels.count);
+        MoveTowards(target, shares.data(), pixels.planes[static_cast<std::size_t>(channel)], pixels.count);
     }
 }
 
