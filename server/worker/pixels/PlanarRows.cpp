@@ -5,6 +5,8 @@
 
 #include "VectorCode.h"
 
+#include <cstddef>
+
 namespace BatchWorker {
 
 namespace {
@@ -12,7 +14,7 @@ namespace {
 template<typename Sample>
 BATCH_VECTOR_CODE void SplitGrey(const Sample* __restrict pixels, Sample* __restrict grey, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         grey[i] = pixels[2 * i];
     }
 }
@@ -21,7 +23,7 @@ template<typename Sample>
 BATCH_VECTOR_CODE void JoinGrey(const Sample* __restrict grey, const Sample* __restrict pixels,
                                 Sample* __restrict result, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         result[2 * i] = grey[i];
         result[2 * i + 1] = pixels[2 * i + 1];
     }
@@ -31,7 +33,7 @@ template<typename Sample, int bands>
 BATCH_VECTOR_CODE void SplitRgb(const Sample* __restrict pixels, Sample* __restrict red, Sample* __restrict green,
                                 Sample* __restrict blue, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         red[i] = pixels[bands * i];
         green[i] = pixels[bands * i + 1];
         blue[i] = pixels[bands * i + 2];
@@ -42,7 +44,7 @@ template<typename Sample>
 BATCH_VECTOR_CODE void JoinRgb(const Sample* __restrict red, const Sample* __restrict green,
                                const Sample* __restrict blue, Sample* __restrict result, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         result[3 * i] = red[i];
         result[3 * i + 1] = green[i];
         result[3 * i + 2] = blue[i];
@@ -54,7 +56,7 @@ BATCH_VECTOR_CODE void JoinRgbAlpha(const Sample* __restrict red, const Sample* 
                                     const Sample* __restrict blue, const Sample* __restrict pixels,
                                     Sample* __restrict result, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         result[4 * i] = red[i];
         result[4 * i + 1] = green[i];
         result[4 * i + 2] = blue[i];
