@@ -10,7 +10,7 @@ struct EffectCase
 {
     const char* id;
     const char* parameters; ///< with names of files that the benchmark writes
-    double goal;            ///< nanoseconds for each pixel of 8 bits; 0 for none
+    double goal;            ///< nanoseconds for each pixel of 8 bits, 2.5 times that of 16 bits; 0 for none
     const char* peer;       ///< a command on the files IN and OUT; empty for none
 };
 

@@ -70,6 +70,9 @@ public:
 
     double Pixels() const { return pixels; }
 
+    /// How many times the goals of 8 bits may be taken.
+    double Allowance() const { return format == QLatin1String("JPEG") ? 1.0 : 2.5; }
+
     /// Processor seconds of the worker for one picture.
     double WorkerSeconds(const EffectCase* effect);
 
@@ -230,7 +233,7 @@ void Measure(Bench& bench, const std::vector<EffectCase>& cases, int rounds, boo
     for (size_t i = 0; i < cases.size(); ++i) {
         std::printf("%-20s %-52s %6.1f", cases[i].id, cases[i].parameters, perPixel(differences[i]));
         if (cases[i].goal > 0) {
-            std::printf("   goal %2.0f", cases[i].goal);
+            std::printf("   goal %4.1f", cases[i].goal * bench.Allowance());
         }
         if (programs.contains(QLatin1String(cases[i].peer))) {
             std::printf("   %6.1f %s", perPixel(programs[QLatin1String(cases[i].peer)]), cases[i].peer);
