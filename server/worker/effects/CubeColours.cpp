@@ -121,18 +121,14 @@ struct Corners
     std::array<Floats, 4> weights;
 };
 
+// Compilers take no other pointers than parameters for different memory, and make no vector code of others.
 BATCH_VECTOR_CODE void FindCorners(const float* __restrict red, const float* __restrict green,
                                    const float* __restrict blue, int count, const std::array<int, 3>& strides,
-                                   Corners& __restrict corners)
+                                   int* __restrict second, int* __restrict third, float* __restrict ofDark,
+                                   float* __restrict ofSecond, float* __restrict ofThird, float* __restrict ofLight)
 {
     const auto [redStride, greenStride, blueStride] = strides;
     const int all = redStride + greenStride + blueStride;
-    int* const second = corners.second.data();
-    int* const third = corners.third.data();
-    float* const ofDark = corners.weights[0].data();
-    float* const ofSecond = corners.weights[1].data();
-    float* const ofThird = corners.weights[2].data();
-    float* const ofLight = corners.weights[3].data();
     for (int i = 0; i < count; ++i) {
         const float r = red[i];
         const float g = green[i];
@@ -143,16 +139,11 @@ BATCH_VECTOR_CODE void FindCorners(const float* __restrict red, const float* __r
         const float most = more > b ? more : b;
         const float lessOfMore = more < b ? more : b;
         const float middle = lessOfMore > less ? lessOfMore : less;
-        // Of equal shares the greatest is that of the first channel, the least that of the last. Without branches,
-        // which would keep compilers from vector code.
-        const int isRedMost = int(r >= g) & int(r >= b);
-        const int isGreenMost = int(g > r) & int(g >= b);
-        const int isBlueMost = int(b > r) & int(b > g);
-        const int isRedLeast = int(r < g) & int(r < b);
-        const int isGreenLeast = int(g <= r) & int(g < b);
-        const int isBlueLeast = int(b <= r) & int(b <= g);
-        second[i] = (-isRedMost & redStride) + (-isGreenMost & greenStride) + (-isBlueMost & blueStride);
-        third[i] = all - ((-isRedLeast & redStride) + (-isGreenLeast & greenStride) + (-isBlueLeast & blueStride));
+        // Of equal shares the greatest is that of the first channel, the least that of the last.
+        const int strideOfMore = r < g ? greenStride : redStride;
+        const int strideOfLess = r < g ? redStride : greenStride;
+        second[i] = more < b ? blueStride : strideOfMore;
+        third[i] = all - (b <= less ? blueStride : strideOfLess);
         ofDark[i] = 1.0F - most;
         ofSecond[i] = most - middle;
         ofThird[i] = middle - least;
@@ -166,7 +157,9 @@ struct TetrahedralWay
     {
         Corners corners;
         FindCorners(cells.shares[0].data(), cells.shares[1].data(), cells.shares[2].data(), cells.count,
-                    {axes[0].stride, axes[1].stride, axes[2].stride}, corners);
+                    {axes[0].stride, axes[1].stride, axes[2].stride}, corners.second.data(), corners.third.data(),
+                    corners.weights[0].data(), corners.weights[1].data(), corners.weights[2].data(),
+                    corners.weights[3].data());
         const int all = axes[0].stride + axes[1].stride + axes[2].stride;
         for (int i = 0; i < cells.count; ++i) {
             const auto at = static_cast<std::size_t>(i);
