@@ -4,9 +4,9 @@
 #include "EffectFunctions.h"
 
 #include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/pixels/ValueCounts.h"
 
 #include <algorithm>
-#include <memory>
 #include <numeric>
 
 namespace BatchWorker {
@@ -20,17 +20,7 @@ struct Range
     double white = 1;
 };
 
-std::vector<double> Counts(const Picture& channel, const Picture* opacity)
-{
-    const Picture histogram = opacity ? opacity->hist_find_indexed(channel) : channel.hist_find();
-    size_t size = 0;
-    const std::unique_ptr<void, decltype(&g_free)> values(histogram.cast(VIPS_FORMAT_DOUBLE).write_to_memory(&size),
-                                                          g_free);
-    const auto* const first = static_cast<const double*>(values.get());
-    return {first, first + size / sizeof(double)};
-}
-
-Range RangeOf(const std::vector<double>& counts, double clip, double largest)
+Range RangeOf(const ValueCounts& counts, double clip, double largest)
 {
     const double clipped = std::accumulate(counts.begin(), counts.end(), 0.0) * clip;
     const auto firstAbove = [clipped](auto begin, auto end) {
@@ -62,14 +52,8 @@ Picture ApplyAutoLevels(const Picture& picture, const QJsonObject& parameters)
     const double clip = parameters[QLatin1String("clip")].toDouble() / 100.0;
     const bool isForEach = parameters[QLatin1String("channels")].toString() == QLatin1String("each");
 
-    // Pixels without any opacity are invisible, so they do not count.
-    Picture opacity;
-    if (picture.has_alpha()) {
-        opacity = (AlphaOf(picture) > 0.0) / 255.0;
-    }
     std::vector<Range> ranges;
-    for (int band = 0; band < ColourBands(picture); ++band) {
-        const std::vector<double> counts = Counts(picture.extract_band(band), picture.has_alpha() ? &opacity : nullptr);
+    for (const ValueCounts& counts : CountedValues(picture)) {
         ranges.push_back(RangeOf(counts, clip, LargestValue(picture)));
     }
     if (isForEach && ranges.size() == 3) {

@@ -4,20 +4,26 @@
 #pragma once
 
 #include "job/effects/CubeFile.h"
+#include "server/worker/pixels/PointPass.h"
 
-#include <array>
+#include <memory>
 
 /// Colours between the entries of a table. A colour outside the table's domain counts as the nearest one inside.
 namespace BatchWorker {
 
-/// Of a table of one dimension: each channel by itself, on the straight line between two entries.
-std::array<double, 3> CurvesAt(const BatchJob::CubeTable& table, const std::array<double, 3>& colour);
+using SharedCube = std::shared_ptr<const BatchJob::CubeTable>;
 
-/// Of a table of three dimensions: the mean of the eight corners around the colour, weighted along each axis.
-std::array<double, 3> TrilinearAt(const BatchJob::CubeTable& table, const std::array<double, 3>& colour);
+/// Of a table of one dimension: each channel by itself, on the straight line between two entries. `value` is 0 to 1.
+double CurveAt(const BatchJob::CubeTable& table, std::size_t channel, double value);
 
-/// Of a table of three dimensions: from the dark to the light corner along the axes, the greatest share first, so that
-/// four corners count. Greys on the diagonal depend on the entries of the diagonal only.
-std::array<double, 3> TetrahedralAt(const BatchJob::CubeTable& table, const std::array<double, 3>& colour);
+/// The operations lead by `strength`, 0 to 1, towards the colour of a table of three dimensions. Its values need one
+/// more number behind the last: entries are read four numbers at a time.
+///
+/// The mean of the eight corners around the colour, weighted along each axis.
+PlanarOperation Trilinear(const SharedCube& table, double strength);
+
+/// From the dark to the light corner along the axes, the greatest share first, so that four corners count. Greys on the
+/// diagonal depend on the entries of the diagonal only.
+PlanarOperation Tetrahedral(const SharedCube& table, double strength);
 
 } // namespace BatchWorker

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "ColourMatrix.h"
 #include "EffectFunctions.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <cmath>
 
@@ -19,17 +20,12 @@ Picture ApplyHue(const Picture& picture, const QJsonObject& parameters)
     const double angle = degrees * M_PI / 180.0;
     const double c = std::cos(angle);
     const double s = std::sin(angle);
-    const std::array<std::array<double, 3>, 3> matrix{{
+    const ColourMatrix matrix{{
         {0.213 + c * 0.787 - s * 0.213, 0.715 - c * 0.715 - s * 0.715, 0.072 - c * 0.072 + s * 0.928},
         {0.213 - c * 0.213 + s * 0.143, 0.715 + c * 0.285 + s * 0.140, 0.072 - c * 0.072 - s * 0.283},
         {0.213 - c * 0.213 - s * 0.787, 0.715 - c * 0.715 + s * 0.715, 0.072 + c * 0.928 + s * 0.072},
     }};
-    return MapColours(picture, [matrix](std::array<double, 3>& colour) {
-        const std::array<double, 3> old = colour;
-        for (size_t band = 0; band < 3; ++band) {
-            colour[band] = matrix[band][0] * old[0] + matrix[band][1] * old[1] + matrix[band][2] * old[2];
-        }
-    });
+    return Multiplied(picture, matrix);
 }
 
 } // namespace BatchWorker

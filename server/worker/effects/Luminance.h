@@ -21,11 +21,12 @@ inline double ValueOf(double light)
     return light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
 }
 
-/// The weighted sum of red, green and blue with the weights of Rec. ITU-R BT.709: luminance of light, luma of stored
-/// values.
+/// The weights of red, green and blue of Rec. ITU-R BT.709: in luminance of light, in luma of stored values.
+constexpr std::array<double, 3> brightnessWeights{0.2126, 0.7152, 0.0722};
+
 inline double WeightedSum(const std::array<double, 3>& colour)
 {
-    return 0.2126 * colour[0] + 0.7152 * colour[1] + 0.0722 * colour[2];
+    return brightnessWeights[0] * colour[0] + brightnessWeights[1] * colour[1] + brightnessWeights[2] * colour[2];
 }
 
 } // namespace BatchWorker

@@ -7,7 +7,7 @@
 #include "job/effects/CubeFile.h"
 #include "server/worker/colour/PictureColours.h"
 #include "server/worker/pixels/PictureFailure.h"
-#include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/pixels/PixelForms.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -21,16 +21,14 @@ namespace BatchWorker {
 
 namespace {
 
-using SharedTable = std::shared_ptr<const CubeTable>;
-
 // A run uses one table for all its pictures: the last one read is cached until its file changes.
-SharedTable TableAt(const QString& path)
+SharedCube TableAt(const QString& path)
 {
     static QMutex mutex;
     static QString lastPath;
     static QDateTime lastTime;
     static qint64 lastSize = 0;
-    static SharedTable last;
+    static SharedCube last;
 
     const QMutexLocker lock(&mutex);
     const QFileInfo info(path);
@@ -39,6 +37,7 @@ SharedTable TableAt(const QString& path)
         if (!file.IsValid()) {
             throw ProcessingFailed(file.error);
         }
+        file.table.values.push_back(0.0F); // Trilinear() and Tetrahedral() need it.
         last = std::make_shared<const CubeTable>(std::move(file.table));
         lastPath = path;
         lastTime = info.lastModified();
@@ -47,15 +46,15 @@ SharedTable TableAt(const QString& path)
     return last;
 }
 
-template<typename Interpolation>
-Picture MapByCube(const Picture& picture, const SharedTable& table, double strength, Interpolation interpolation)
+ValueTables CurvesOf(const Picture& picture, const CubeTable& table, double strength)
 {
-    return MapColours(picture, [table, strength, interpolation](std::array<double, 3>& colour) {
-        const std::array<double, 3> mapped = interpolation(*table, colour);
-        for (size_t band = 0; band < 3; ++band) {
-            colour[band] += strength * (mapped[band] - colour[band]);
-        }
-    });
+    std::array<ValueFunction, 3> functions;
+    for (std::size_t channel = 0; channel < functions.size(); ++channel) {
+        functions[channel] = [&table, strength, channel](double value) {
+            return value + strength * (CurveAt(table, channel, value) - value);
+        };
+    }
+    return {functions, static_cast<int>(LargestValue(picture))};
 }
 
 } // namespace
@@ -63,18 +62,17 @@ Picture MapByCube(const Picture& picture, const SharedTable& table, double stren
 // A grey picture becomes RGB. Throws PictureFailure when the file cannot be used.
 Picture ApplyLut(const Picture& picture, const QJsonObject& parameters)
 {
-    const SharedTable table = TableAt(parameters[QLatin1String("file")].toString());
+    const SharedCube table = TableAt(parameters[QLatin1String("file")].toString());
     const double strength = parameters[QLatin1String("strength")].toDouble() / 100.0;
     if (strength == 0.0) {
         return picture;
     }
     const Picture rgb = AsRgb(picture);
     if (table->dimensions == 1) {
-        return MapByCube(rgb, table, strength, CurvesAt);
+        return WithOperation(rgb, CurvesOf(rgb, *table, strength));
     }
     const bool isTetrahedral = parameters[QLatin1String("interpolation")].toString() == QLatin1String("tetrahedral");
-    return isTetrahedral ? MapByCube(rgb, table, strength, TetrahedralAt)
-                         : MapByCube(rgb, table, strength, TrilinearAt);
+    return WithOperation(rgb, isTetrahedral ? Tetrahedral(table, strength) : Trilinear(table, strength));
 }
 
 } // namespace BatchWorker

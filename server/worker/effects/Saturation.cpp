@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "ColourMatrix.h"
 #include "EffectFunctions.h"
 #include "Luminance.h"
 
-#include "server/worker/pixels/PixelFilter.h"
+#include "server/worker/pixels/PixelForms.h"
 
 namespace BatchWorker {
 
@@ -15,12 +16,8 @@ Picture ApplySaturation(const Picture& picture, const QJsonObject& parameters)
     if (amount == 0.0 || ColourBands(picture) == 1) {
         return picture;
     }
-    return MapColours(picture, [factor = 1.0 + amount](std::array<double, 3>& colour) {
-        const double luma = WeightedSum(colour);
-        for (double& value : colour) {
-            value = luma + factor * (value - luma);
-        }
-    });
+    const ColourMatrix luma{brightnessWeights, brightnessWeights, brightnessWeights};
+    return Multiplied(picture, Towards(luma, -amount));
 }
 
 } // namespace BatchWorker

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "ColourMatrix.h"
 #include "EffectFunctions.h"
 
 #include "server/worker/colour/PictureColours.h"
-#include "server/worker/pixels/PixelFilter.h"
 
 namespace BatchWorker {
 
@@ -15,15 +15,8 @@ Picture ApplySepia(const Picture& picture, const QJsonObject& parameters)
     if (amount == 0.0) {
         return picture;
     }
-    return MapColours(AsRgb(picture), [amount](std::array<double, 3>& colour) {
-        const auto [red, green, blue] = colour;
-        const std::array<double, 3> toned{0.393 * red + 0.769 * green + 0.189 * blue,
-                                          0.349 * red + 0.686 * green + 0.168 * blue,
-                                          0.272 * red + 0.534 * green + 0.131 * blue};
-        for (size_t band = 0; band < 3; ++band) {
-            colour[band] += amount * (toned[band] - colour[band]);
-        }
-    });
+    const ColourMatrix sepia{{{0.393, 0.769, 0.189}, {0.349, 0.686, 0.168}, {0.272, 0.534, 0.131}}};
+    return Multiplied(AsRgb(picture), Towards(sepia, amount));
 }
 
 } // namespace BatchWorker

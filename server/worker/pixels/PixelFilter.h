@@ -5,19 +5,18 @@
 
 #include "GeneratedPicture.h"
 #include "PixelForms.h"
+#include "ValueTables.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 /// Makes pictures from functions of pixels. Everything here builds part of a pipeline and returns at once; the
 /// functions run later, on several threads at a time, and must not throw.
 namespace BatchWorker {
 
-using ValueFunction = std::function<double(double)>;
-
-/// Maps each value of each colour channel, 0 to 1, by a table; what is outside 0 to 1 becomes 0 or 1. Alpha stays.
+/// Maps each value of each colour channel, 0 to 1, by a table. Alpha stays. Neighbouring calls are one pass, see
+/// WithOperation().
 Picture MapValues(const Picture& picture, const ValueFunction& function);
 
 /// The same with a function for red, green and blue. A grey picture must not be given.
