@@ -35,20 +35,20 @@ private:
     std::vector<float> distances;
 };
 
-/// The rows around the one that is smoothed, each as a plane of floats for each channel; opacity, if there is one, comes
-/// last and is 0 to 1.
+/// The rows around the one that is smoothed, each as a plane of floats for each channel; opacity, if there is one,
+/// comes last and is 0 to 1.
 struct RowPlanes
 {
     const float* const* rows; ///< 2 * radius + 1
-    int distance; ///< of the planes of a row
+    int distance;             ///< of the planes of a row
     bool hasAlpha;
 };
 
 /// How many values SmoothRow() reads and writes at once.
 constexpr int smoothedAtOnce = laneCount;
 
-/// The weighted means of the neighbours of `count` pixels that follow each other; opaque ones count most, of others none.
-/// The rows of `planes` begin a radius to the left of them. A pixel without neighbours that count stays as it is.
+/// The weighted means of the neighbours of `count` pixels that follow each other; opaque ones count most, of others
+/// none. The rows of `planes` begin a radius to the left of them. A pixel without neighbours that count stays as it is.
 /// `results` has a plane for each of the 1 or 3 `colours`, at the distance of `planes`.
 void SmoothRow(const BilateralWeights& weights, const RowPlanes& planes, int colours, int count, float* results);
 

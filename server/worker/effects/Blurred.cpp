@@ -6,11 +6,11 @@
 #include "EnlargedRows.h"
 #include "GaussianRows.h"
 #include "Reduction.h"
-#include "SampleRange.h"
 
 #include "job/effects/BlurLimits.h"
 #include "server/worker/pixels/FilledPicture.h"
 #include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/SampleRange.h"
 #include "server/worker/pixels/VectorCode.h"
 
 #include <algorithm>

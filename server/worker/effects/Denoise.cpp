@@ -3,11 +3,11 @@
 
 #include "BilateralRow.h"
 #include "EffectFunctions.h"
-#include "SampleRange.h"
 
 #include "server/worker/pixels/FilledPicture.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/RowWindow.h"
+#include "server/worker/pixels/SampleRange.h"
 #include "server/worker/pixels/VectorCode.h"
 
 #include <algorithm>

@@ -3,9 +3,9 @@
 
 #include "Blurred.h"
 #include "EffectFunctions.h"
-#include "SampleRange.h"
 
 #include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/SampleRange.h"
 #include "server/worker/pixels/VectorCode.h"
 
 #include <cmath>
