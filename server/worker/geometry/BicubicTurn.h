@@ -37,7 +37,7 @@ public:
 
 private:
     std::vector<float> across; ///< for each step the four weights, each for the four values of a pixel
-    std::vector<float> down; ///< for each step the four weights
+    std::vector<float> down;   ///< for each step the four weights
 };
 
 } // namespace BatchWorker

@@ -119,12 +119,13 @@ private:
     VipsRect PixelsAround(const VipsRect& tile) const
     {
         const QRectF middles(tile.left + 0.5, tile.top + 0.5, tile.width - 1, tile.height - 1);
-        const QPolygonF places = plan->toPicture.map(QPolygonF({middles.topLeft(), middles.topRight(),
-                                                                middles.bottomRight(), middles.bottomLeft()}));
+        const QPolygonF places = plan->toPicture.map(
+            QPolygonF({middles.topLeft(), middles.topRight(), middles.bottomRight(), middles.bottomLeft()}));
         const QRectF box = places.boundingRect();
         const int left = int(std::floor(box.left() - 0.5)) - 2;
         const int top = int(std::floor(box.top() - 0.5)) - 2;
-        return {left, top, int(std::floor(box.right() - 0.5)) + 4 - left, int(std::floor(box.bottom() - 0.5)) + 4 - top};
+        return {left, top, int(std::floor(box.right() - 0.5)) + 4 - left,
+                int(std::floor(box.bottom() - 0.5)) + 4 - top};
     }
 
     /// Beyond its edges the picture goes on as there.
