@@ -50,8 +50,9 @@ private:
 
 double LumaOf(const Pixels& pixels, int x, int y)
 {
-    return pixels.bands < 3 ? pixels.Near(x, y, 0)
-                            : 0.2126 * pixels.Near(x, y, 0) + 0.7152 * pixels.Near(x, y, 1) + 0.0722 * pixels.Near(x, y, 2);
+    return pixels.bands < 3
+               ? pixels.Near(x, y, 0)
+               : 0.2126 * pixels.Near(x, y, 0) + 0.7152 * pixels.Near(x, y, 1) + 0.0722 * pixels.Near(x, y, 2);
 }
 
 double Cubic(double distance)
@@ -101,7 +102,9 @@ Pixels Blurred(const Pixels& pixels, double sigma)
     const auto premultiplied = [&](int x, int y, int band) {
         return pixels.Near(x, y, band) * (band < pixels.Colours() ? pixels.Opacity(x, y) : 1.0);
     };
-    const auto index = [&](int x, int y, int band) { return std::size_t((y * pixels.width + x) * pixels.bands + band); };
+    const auto index = [&](int x, int y, int band) {
+        return std::size_t((y * pixels.width + x) * pixels.bands + band);
+    };
     for (int y = 0; y < pixels.height; ++y) {
         for (int x = 0; x < pixels.width; ++x) {
             for (int band = 0; band < pixels.bands; ++band) {
