@@ -3,10 +3,23 @@
 
 #include "Blurred.h"
 
-#include "job/effects/BlurLimits.h"
-#include "server/worker/pixels/PixelForms.h"
+#include "EnlargedRows.h"
+#include "GaussianRows.h"
+#include "Reduction.h"
 
+#include "job/effects/BlurLimits.h"
+#include "server/worker/pixels/FilledPicture.h"
+#include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/SampleRange.h"
+#include "server/worker/pixels/VectorCode.h"
+
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <vector>
 
 namespace BatchWorker {
 
@@ -14,59 +27,141 @@ namespace {
 
 constexpr double leastReducedSigma = 4.0;
 
-Picture DirectlyBlurred(const Picture& picture, double sigma)
+using MakeRows = std::function<std::unique_ptr<BlurredRows>()>;
+
+class BlurredAreas : public AreaFiller
 {
-    // A little less than exp(-4.5): the kernel ends at three sigma.
-    constexpr double leastWeight = 0.0111;
-    return picture.gaussblur(sigma,
-                             Picture::option()->set("min_ampl", leastWeight)->set("precision", VIPS_PRECISION_FLOAT));
+public:
+    BlurredAreas(std::unique_ptr<BlurredRows> rows, BlurValues values, MixPixels mix)
+        : rows(std::move(rows))
+        , values(values)
+        , mix(std::move(mix))
+    {
+    }
+
+    bool Fill(VipsRegion* target, VipsRegion* source) override
+    {
+        VipsRect strip = target->valid;
+        const int end = strip.top + strip.height;
+        for (; strip.top < end; strip.top += strip.height) {
+            strip.height = std::min(BlurredRows::rowsAtOnce, end - strip.top);
+            if (!rows->Take(source, strip)) {
+                return false;
+            }
+            for (int x = strip.left; x < strip.left + strip.width; x += BlurredRows::pixelsAtOnce) {
+                const int count = std::min(BlurredRows::pixelsAtOnce, strip.left + strip.width - x);
+                for (int y = strip.top; y < strip.top + strip.height; ++y) {
+                    rows->Give(x, y, count, blurred.data());
+                    values.Finish(blurred.data(), count);
+                    mix(rows->Samples(x, y), blurred.data(), count, VIPS_REGION_ADDR(target, x, y));
+                }
+            }
+        }
+        return true;
+    }
+
+private:
+    static constexpr int mostBands = 4;
+
+    std::unique_ptr<BlurredRows> rows;
+    BlurValues values;
+    MixPixels mix;
+    std::array<float, static_cast<std::size_t>(BlurredRows::pixelsAtOnce) * mostBands> blurred{};
+};
+
+MakeRows GaussianRowsOf(const Picture& picture, const BlurValues& values, double sigma)
+{
+    const auto kernel = std::make_shared<const GaussianKernel>(sigma);
+    return [=] { return std::make_unique<GaussianRows>(picture, values, kernel); };
 }
 
-Picture BlurredBySmallCopy(const Picture& picture, double sigma)
+/// Floating-point values of any meaning.
+Picture BlurredBands(const Picture& picture, double sigma)
+{
+    const BlurValues values(picture, BlurSubject::Bands);
+    const MakeRows make = GaussianRowsOf(picture, values, sigma);
+    const auto pixelSize = static_cast<std::size_t>(values.PixelSize());
+    const MixPixels take = [pixelSize](const VipsPel*, const float* blurred, int count, VipsPel* results) {
+        std::memcpy(results, blurred, static_cast<std::size_t>(count) * pixelSize);
+    };
+    return FilledPicture(ShapeOf(picture), picture, VIPS_DEMAND_STYLE_FATSTRIP,
+                         [=] { return std::make_unique<BlurredAreas>(make(), values, take); });
+}
+
+/// Read in order by this thread alone: several would ask for rows of the picture in any order.
+std::vector<float> ValuesOf(const Picture& picture)
+{
+    const std::unique_ptr<VipsRegion, void (*)(gpointer)> region(vips_region_new(picture.get_image()), g_object_unref);
+    const std::size_t valuesOfRow = VIPS_IMAGE_N_ELEMENTS(picture.get_image());
+    std::vector<float> values;
+    values.reserve(valuesOfRow * static_cast<std::size_t>(picture.height()));
+    for (int top = 0; top < picture.height(); top += BlurredRows::rowsAtOnce) {
+        const int end = std::min(top + BlurredRows::rowsAtOnce, picture.height());
+        const VipsRect strip{0, top, picture.width(), end - top};
+        if (!region || vips_region_prepare(region.get(), &strip) != 0) {
+            throw vips::VError();
+        }
+        for (int y = top; y < end; ++y) {
+            const auto* const row = PixelAt<const float>(region.get(), 0, y);
+            values.insert(values.end(), row, row + valuesOfRow);
+        }
+    }
+    return values;
+}
+
+std::shared_ptr<const SmallCopy> SmallCopyOf(const Picture& picture, const BlurValues& values, double sigma)
 {
     const int factor = static_cast<int>(sigma / leastReducedSigma);
-    const int width = picture.width();
-    const int height = picture.height();
-    // One block of the border on each side, so that the small copy continues like the picture itself.
-    const int wholeWidth = (width + factor - 1) / factor * factor + 2 * factor;
-    const int wholeHeight = (height + factor - 1) / factor * factor + 2 * factor;
-    const Picture padded =
-        picture.embed(factor, factor, wholeWidth, wholeHeight, Picture::option()->set("extend", VIPS_EXTEND_COPY));
     // Variances add up: of the mean over a block, and of the linear interpolation between blocks.
     const double square = double(factor) * factor;
     const double done = (square - 1.0) / 12.0 + square / 6.0;
     const double rest = std::sqrt(sigma * sigma - done) / factor;
-    const Picture small = DirectlyBlurred(padded.cast(VIPS_FORMAT_FLOAT).shrink(factor, factor), rest).copy_memory();
+    const Picture blurred = BlurredBands(ReducedByBlocks(picture, values, factor), rest);
+    return std::make_shared<const SmallCopy>(SmallCopy{blurred.width(), factor, ValuesOf(blurred)});
+}
 
-    // The library places samples at whole numbers; the mean of a block belongs to its middle.
-    const double middle = (factor - 1) / 2.0;
-    return small.affine({double(factor), 0, 0, double(factor)},
-                        Picture::option()
-                            ->set("interpolate", vips::VInterpolate::new_from_name("bilinear"))
-                            ->set("odx", middle - factor)
-                            ->set("ody", middle - factor)
-                            ->set("oarea", std::vector<int>{0, 0, width, height})
-                            ->set("extend", VIPS_EXTEND_COPY));
+Picture BlurredAndMixed(const Picture& picture, const BlurValues& values, double sigma, bool readsPicture,
+                        const MixPixels& mix)
+{
+    MakeRows make;
+    if (sigma <= BatchJob::largestDirectSigma) {
+        make = GaussianRowsOf(picture, values, sigma);
+    } else {
+        const std::shared_ptr<const SmallCopy> copy = SmallCopyOf(picture, values, sigma);
+        make = [=] { return std::make_unique<EnlargedRows>(copy, values, readsPicture); };
+    }
+    return FilledPicture(ShapeOf(picture), picture, VIPS_DEMAND_STYLE_FATSTRIP,
+                         [=] { return std::make_unique<BlurredAreas>(make(), values, mix); });
+}
+
+template<typename Sample>
+BATCH_VECTOR_CODE void Round(const float* values, int count, Sample* samples)
+{
+    for (int i = 0; i < count; ++i) {
+        samples[i] = Rounded<Sample>(values[i]);
+    }
 }
 
 } // namespace
 
 Picture Blurred(const Picture& picture, double sigma)
 {
-    return sigma <= BatchJob::largestDirectSigma ? DirectlyBlurred(picture, sigma).cast(VIPS_FORMAT_FLOAT)
-                                                 : BlurredBySmallCopy(picture, sigma);
+    const bool isDeep = HasSixteenBits(picture);
+    const int bands = picture.bands();
+    const MixPixels round = [isDeep, bands](const VipsPel*, const float* blurred, int count, VipsPel* results) {
+        void* const samples = results;
+        if (isDeep) {
+            Round(blurred, count * bands, static_cast<std::uint16_t*>(samples));
+        } else {
+            Round(blurred, count * bands, static_cast<std::uint8_t*>(samples));
+        }
+    };
+    return BlurredAndMixed(picture, BlurValues(picture, BlurSubject::Colours), sigma, false, round);
 }
 
-Picture BlurredColours(const Picture& picture, double sigma)
+Picture MixedWithBlurred(const Picture& picture, BlurSubject subject, double sigma, const MixPixels& mix)
 {
-    const double largest = LargestValue(picture);
-    if (!picture.has_alpha()) {
-        return Blurred(picture, sigma).linear(1.0 / largest, 0.0);
-    }
-    const Picture weighted = picture.premultiply(Picture::option()->set("max_alpha", largest));
-    return Blurred(weighted, sigma)
-        .unpremultiply(Picture::option()->set("max_alpha", largest))
-        .linear(1.0 / largest, 0.0);
+    return BlurredAndMixed(picture, BlurValues(picture, subject), sigma, true, mix);
 }
 
 } // namespace BatchWorker

@@ -1,111 +1,165 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "BilateralRow.h"
 #include "EffectFunctions.h"
 
-#include "server/worker/pixels/GeneratedPicture.h"
+#include "server/worker/pixels/FilledPicture.h"
 #include "server/worker/pixels/PixelForms.h"
+#include "server/worker/pixels/RowWindow.h"
+#include "server/worker/pixels/SampleRange.h"
+#include "server/worker/pixels/VectorCode.h"
 
-#include <array>
-#include <cmath>
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace BatchWorker {
 
 namespace {
 
-/// The weights of a bilateral filter (Tomasi and Manduchi, 1998).
-class BilateralWeights
+template<typename Sample, int bands>
+BATCH_VECTOR_CODE void TakeApart(const Sample* samples, int count, float* planes, std::ptrdiff_t distance)
 {
-public:
-    BilateralWeights(double strength, double sigma)
-        : radius(static_cast<int>(std::ceil(2.0 * sigma)))
-        , scale(entriesPerUnit / (2.0 * strength * strength))
-    {
-        for (int y = -radius; y <= radius; ++y) {
-            for (int x = -radius; x <= radius; ++x) {
-                near.push_back(static_cast<float>(std::exp(-(x * x + y * y) / (2.0 * sigma * sigma))));
-            }
+    for (int i = 0; i < count; ++i) {
+        for (int band = 0; band < bands; ++band) {
+            planes[band * distance + i] = static_cast<float>(samples[i * bands + band]);
         }
-        for (int entry = 0; entry < entriesPerUnit * largestExponent; ++entry) {
-            alike.push_back(static_cast<float>(std::exp(-(entry + 0.5) / entriesPerUnit)));
-        }
-        alike.front() = 1.0F;
-    }
-
-    int Radius() const { return radius; }
-    const float* Near() const { return near.data(); }
-
-    /// For the mean of the squared differences, of values of 0 to 1.
-    float Alike(float squares) const
-    {
-        const auto entry = static_cast<size_t>(squares * scale);
-        return entry < alike.size() ? alike[entry] : 0.0F;
-    }
-
-private:
-    static constexpr int entriesPerUnit = 1024;
-    static constexpr int largestExponent = 10; // exp(-10) is less than a rounding step
-
-    int radius;
-    double scale;
-    std::vector<float> near;
-    std::vector<float> alike;
-};
-
-/// The weighted mean of the neighbours of one pixel, `stride` samples a line; opaque ones count most, of others none.
-template<typename Sample>
-void Smooth(const Sample* centre, std::ptrdiff_t stride, int bands, const BilateralWeights& weights, Sample* out)
-{
-    constexpr float largest = sizeof(Sample) == 1 ? 255.0F : 65535.0F;
-    const int colourBands = bands < 3 ? 1 : 3;
-    const float norm = 1.0F / (largest * largest * static_cast<float>(colourBands));
-    const int radius = weights.Radius();
-    const float* near = weights.Near();
-    std::array<float, 3> sums{};
-    float total = 0.0F;
-    for (int y = -radius; y <= radius; ++y) {
-        const Sample* neighbour = centre + y * stride - radius * bands;
-        for (int x = -radius; x <= radius; ++x, ++near, neighbour += bands) {
-            float squares = 0.0F;
-            for (int band = 0; band < colourBands; ++band) {
-                const float difference = static_cast<float>(neighbour[band]) - static_cast<float>(centre[band]);
-                squares += difference * difference;
-            }
-            float weight = *near * weights.Alike(squares * norm);
-            if (bands > colourBands) {
-                weight *= static_cast<float>(neighbour[colourBands]) / largest;
-            }
-            total += weight;
-            for (int band = 0; band < colourBands; ++band) {
-                sums[static_cast<size_t>(band)] += weight * static_cast<float>(neighbour[band]);
-            }
-        }
-    }
-    for (int band = 0; band < colourBands; ++band) {
-        // A pixel that is itself transparent may have no neighbour that counts.
-        out[band] = total > 0.0F ? static_cast<Sample>(sums[static_cast<size_t>(band)] / total + 0.5F) : centre[band];
-    }
-    if (bands > colourBands) {
-        out[colourBands] = centre[colourBands];
     }
 }
 
-template<typename Sample>
-void SmoothArea(VipsRegion* input, VipsRegion* output, const BilateralWeights& weights)
+template<typename Sample, int bands>
+BATCH_VECTOR_CODE void PutTogether(const float* planes, std::ptrdiff_t distance, const Sample* samples, int count,
+                                   Sample* results)
 {
-    const VipsRect& area = output->valid;
-    const int bands = output->im->Bands;
-    const int radius = weights.Radius();
-    const auto stride = static_cast<std::ptrdiff_t>(VIPS_REGION_LSKIP(input) / sizeof(Sample));
-    for (int y = area.top; y < area.top + area.height; ++y) {
-        const auto* in = PixelAt<const Sample>(input, area.left + radius, y + radius);
-        auto* out = PixelAt<Sample>(output, area.left, y);
-        for (int x = 0; x < area.width; ++x, in += bands, out += bands) {
-            Smooth(in, stride, bands, weights, out);
+    constexpr int colours = bands < 3 ? 1 : 3;
+    for (int i = 0; i < count; ++i) {
+        for (int band = 0; band < colours; ++band) {
+            results[i * bands + band] = Rounded<Sample>(planes[band * distance + i]);
         }
+        if (bands > colours) {
+            results[i * bands + colours] = samples[i * bands + colours];
+        }
+    }
+}
+
+/// Alpha stays.
+template<typename Sample, int bands>
+class SmoothedAreas : public AreaFiller
+{
+public:
+    SmoothedAreas(const Picture& picture, std::shared_ptr<const BilateralWeights> weights)
+        : width(picture.width())
+        , height(picture.height())
+        , weights(std::move(weights))
+        , window(rowsAtOnce + 2 * this->weights->Radius())
+        , rows(static_cast<std::size_t>(2 * this->weights->Radius() + 1))
+    {
+    }
+
+    bool Fill(VipsRegion* target, VipsRegion* source) override
+    {
+        VipsRect strip = target->valid;
+        const int end = strip.top + strip.height;
+        for (; strip.top < end; strip.top += strip.height) {
+            strip.height = std::min(rowsAtOnce, end - strip.top);
+            if (!Take(source, strip)) {
+                return false;
+            }
+            for (int y = strip.top; y < strip.top + strip.height; ++y) {
+                MakeRow(y, strip.width, PixelAt<Sample>(target, strip.left, y));
+            }
+        }
+        return true;
+    }
+
+private:
+    static constexpr int rowsAtOnce = 16;
+    static constexpr int colours = bands < 3 ? 1 : 3;
+    static constexpr bool hasAlpha = bands > colours;
+
+    // A row of the window has a plane for each band, with the radius on both sides, and then the samples of the area.
+    bool Take(VipsRegion* source, const VipsRect& area)
+    {
+        const int radius = weights->Radius();
+        distance = area.width + 2 * radius + smoothedAtOnce;
+        results.resize(static_cast<std::size_t>(distance) * colours);
+        const RowWindow::Range missing =
+            window.Hold({std::max(area.top - radius, 0), std::min(area.top + area.height + radius, height)},
+                        {area.left, area.left + area.width,
+                         static_cast<std::size_t>(distance) * bands * sizeof(float) +
+                             static_cast<std::size_t>(area.width) * bands * sizeof(Sample)});
+        if (missing.first == missing.end) {
+            return true;
+        }
+        const int first = std::max(area.left - radius, 0);
+        const int end = std::min(area.left + area.width + radius, width);
+        const VipsRect needed{first, missing.first, end - first, missing.end - missing.first};
+        if (vips_region_prepare(source, &needed) != 0) {
+            window.Forget();
+            return false;
+        }
+        for (int y = missing.first; y < missing.end; ++y) {
+            TakeRow(PixelAt<const Sample>(source, first, y), needed, area, y);
+        }
+        return true;
+    }
+
+    void TakeRow(const Sample* samples, const VipsRect& needed, const VipsRect& area, int y)
+    {
+        const int before = weights->Radius() - (area.left - needed.left);
+        auto* const planes = window.Row<float>(y);
+        TakeApart<Sample, bands>(samples, needed.width, planes + before, distance);
+        for (int band = 0; band < bands; ++band) {
+            float* const plane = planes + band * distance;
+            if (band == colours) {
+                std::transform(plane + before, plane + before + needed.width, plane + before,
+                               [](float alpha) { return alpha / largestSample<Sample>; });
+            }
+            std::fill(plane, plane + before, plane[before]);
+            std::fill(plane + before + needed.width, plane + distance, plane[before + needed.width - 1]);
+        }
+        std::copy_n(samples + (area.left - needed.left) * bands, area.width * bands, SamplesOf(y));
+    }
+
+    Sample* SamplesOf(int y)
+    {
+        return static_cast<Sample*>(static_cast<void*>(window.Row<float>(y) + distance * bands));
+    }
+
+    void MakeRow(int y, int count, Sample* made)
+    {
+        const int radius = weights->Radius();
+        for (int i = 0; i <= 2 * radius; ++i) {
+            rows[static_cast<std::size_t>(i)] = window.Row<float>(std::clamp(y + i - radius, 0, height - 1));
+        }
+        SmoothRow(*weights, {rows.data(), distance, hasAlpha}, colours, count, results.data());
+        PutTogether<Sample, bands>(results.data(), distance, SamplesOf(y), count, made);
+    }
+
+    int width;
+    int height;
+    std::shared_ptr<const BilateralWeights> weights;
+    RowWindow window;
+    int distance = 0; ///< of planes
+    std::vector<const float*> rows;
+    std::vector<float> results;
+};
+
+template<typename Sample>
+std::unique_ptr<AreaFiller> FillerFor(const Picture& picture, const std::shared_ptr<const BilateralWeights>& weights)
+{
+    switch (picture.bands()) {
+    case 1:
+        return std::make_unique<SmoothedAreas<Sample, 1>>(picture, weights);
+    case 2:
+        return std::make_unique<SmoothedAreas<Sample, 2>>(picture, weights);
+    case 3:
+        return std::make_unique<SmoothedAreas<Sample, 3>>(picture, weights);
+    default:
+        return std::make_unique<SmoothedAreas<Sample, 4>>(picture, weights);
     }
 }
 
@@ -117,20 +171,12 @@ Picture ApplyDenoise(const Picture& picture, const QJsonObject& parameters)
     if (strength == 0.0) {
         return picture;
     }
-    const auto weights =
-        std::make_shared<const BilateralWeights>(strength, parameters[QLatin1String("sigma")].toDouble());
-    const int radius = weights->Radius();
-    const Picture padded = picture.embed(radius, radius, picture.width() + 2 * radius, picture.height() + 2 * radius,
-                                         Picture::option()->set("extend", VIPS_EXTEND_COPY));
-    const bool isDeep = HasSixteenBits(picture);
-    const auto smooth = [weights, isDeep](VipsRegion* target, const std::vector<VipsRegion*>& inputs) {
-        if (isDeep) {
-            SmoothArea<std::uint16_t>(inputs[0], target, *weights);
-        } else {
-            SmoothArea<std::uint8_t>(inputs[0], target, *weights);
-        }
-    };
-    return GeneratePicture(ShapeOf(picture), {padded}, smooth, radius);
+    const auto weights = std::make_shared<const BilateralWeights>(
+        strength * LargestValue(picture), parameters[QLatin1String("sigma")].toDouble(), ColourBands(picture));
+    return FilledPicture(ShapeOf(picture), picture, VIPS_DEMAND_STYLE_FATSTRIP, [=] {
+        return HasSixteenBits(picture) ? FillerFor<std::uint16_t>(picture, weights)
+                                       : FillerFor<std::uint8_t>(picture, weights);
+    });
 }
 
 } // namespace BatchWorker

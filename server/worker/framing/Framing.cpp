@@ -73,9 +73,7 @@ Picture Placed(const Picture& picture, const FramePlacement& placement)
         return TurnedByQuarters(scaled, placement.quarterTurns)
             .embed(placement.upright.x(), placement.upright.y(), placement.frame.width(), placement.frame.height());
     }
-    return FilteredByOpacity(ReadableInAnyOrder(scaled), [&placement](const Picture& source) {
-        return Rotated(source, placement.toFrame, placement.frame);
-    });
+    return Rotated(ReadableInAnyOrder(scaled), placement.toFrame, placement.frame);
 }
 
 Picture WithShadow(const Picture& background, const Picture& placed, const Picture& coverage,

@@ -5,11 +5,14 @@
 
 #include "server/worker/pixels/GeneratedPicture.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace BatchWorker {
 
 namespace {
+
+constexpr double halfDiagonal = 0.70710678118654757;
 
 // A square that is cut by four lines has at most eight corners.
 struct Polygon
@@ -56,7 +59,6 @@ Coverage::Coverage(const std::array<QPointF, 4>& corners)
 
 double Coverage::OfPixel(int x, int y) const
 {
-    constexpr double halfDiagonal = 0.70710678118654757;
     bool isInside = true;
     for (const Edge& edge : edges) {
         const double distance = edge.Distance(x + 0.5, y + 0.5);
@@ -66,6 +68,38 @@ double Coverage::OfPixel(int x, int y) const
         isInside = isInside && distance >= halfDiagonal;
     }
     return isInside ? 1 : ClippedArea(x, y);
+}
+
+// Columns whose pixels have their middle at least so far on the positive side of all edges.
+Coverage::Columns Coverage::Beyond(int y, double distance, Columns within) const
+{
+    constexpr double isVertical = 1e-9;
+    double first = within.first;
+    double end = within.end;
+    for (const Edge& edge : edges) {
+        const double missing = distance - edge.Distance(0.5, y + 0.5);
+        if (edge.normalX > isVertical) {
+            first = std::max(first, std::ceil(missing / edge.normalX));
+        } else if (edge.normalX < -isVertical) {
+            end = std::min(end, std::floor(missing / edge.normalX) + 1);
+        } else if (missing > 0) {
+            end = first;
+        }
+    }
+    return end > first ? Columns{int(first), int(end)} : Columns{within.first, within.first};
+}
+
+// What is rounded counts as the careful answer: a little more, and a little less.
+Coverage::Columns Coverage::WhollyCovered(int y, Columns within) const
+{
+    constexpr double more = 1e-3;
+    return Beyond(y, halfDiagonal + more, within);
+}
+
+Coverage::Columns Coverage::Touched(int y, Columns within) const
+{
+    constexpr double less = 1e-3;
+    return Beyond(y, -halfDiagonal - less, within);
 }
 
 double Coverage::ClippedArea(int x, int y) const
@@ -100,9 +134,14 @@ Picture Coverage::OfFrame(const QSize& size) const
     return GeneratePicture(shape, {}, [coverage = *this](VipsRegion* target, const std::vector<VipsRegion*>&) {
         const VipsRect& area = target->valid;
         for (int y = area.top; y < area.top + area.height; ++y) {
-            auto* line = PixelAt<float>(target, area.left, y);
-            for (int x = 0; x < area.width; ++x) {
-                line[x] = static_cast<float>(coverage.OfPixel(area.left + x, y));
+            auto* line = PixelAt<float>(target, area.left, y) - area.left;
+            const Columns all{area.left, area.left + area.width};
+            const Columns covered = coverage.WhollyCovered(y, all);
+            const Columns touched = coverage.Touched(y, all);
+            for (int x = all.first; x < all.end; ++x) {
+                const bool isCovered = covered.first <= x && x < covered.end;
+                const bool isTouched = touched.first <= x && x < touched.end;
+                line[x] = isCovered ? 1.0F : (isTouched ? static_cast<float>(coverage.OfPixel(x, y)) : 0.0F);
             }
         }
     });

@@ -22,6 +22,18 @@ public:
 
     double OfPixel(int x, int y) const;
 
+    /// Columns `first` to `end` - 1.
+    struct Columns
+    {
+        int first;
+        int end;
+    };
+
+    /// Columns of `within` whose pixels in the row `y` are covered wholly; not all of them where that is close. And
+    /// columns outside of which no pixel is touched; more than necessary where that is close.
+    Columns WhollyCovered(int y, Columns within) const;
+    Columns Touched(int y, Columns within) const;
+
     /// One band of floats, the coverage of each pixel of a frame of `size`.
     Picture OfFrame(const QSize& size) const;
 
@@ -36,6 +48,7 @@ private:
         double Distance(double x, double y) const { return normalX * x + normalY * y + offset; }
     };
 
+    Columns Beyond(int y, double distance, Columns within) const;
     double ClippedArea(int x, int y) const;
 
     std::array<Edge, 4> edges;

@@ -14,17 +14,13 @@ struct Generator
     std::vector<Picture> inputs;
     std::vector<VipsImage*> images; // the inputs as the library wants them: with a null at the end
     FillArea fill;
-    int margin = 0;
 };
 
 int Generate(VipsRegion* target, void* sequence, void*, void* client, gboolean*)
 {
     const auto* generator = static_cast<const Generator*>(client);
     auto** regions = static_cast<VipsRegion**>(sequence);
-    VipsRect area = target->valid;
-    area.width += 2 * generator->margin;
-    area.height += 2 * generator->margin;
-    if (regions != nullptr && vips_reorder_prepare_many(target->im, regions, &area) != 0) {
+    if (regions != nullptr && vips_reorder_prepare_many(target->im, regions, &target->valid) != 0) {
         return -1;
     }
     const std::vector<VipsRegion*> inputs(regions, regions + generator->inputs.size());
@@ -44,9 +40,9 @@ PictureShape ShapeOf(const Picture& picture)
     return {picture.width(), picture.height(), picture.bands(), picture.format(), picture.interpretation()};
 }
 
-Picture GeneratePicture(const PictureShape& shape, const std::vector<Picture>& inputs, FillArea fill, int margin)
+Picture GeneratePicture(const PictureShape& shape, const std::vector<Picture>& inputs, FillArea fill)
 {
-    auto owned = std::make_unique<Generator>(Generator{inputs, {}, std::move(fill), margin});
+    auto owned = std::make_unique<Generator>(Generator{inputs, {}, std::move(fill)});
     for (const Picture& input : inputs) {
         owned->images.push_back(input.get_image());
     }
@@ -57,10 +53,8 @@ Picture GeneratePicture(const PictureShape& shape, const std::vector<Picture>& i
     Generator* generator = owned.release();
     g_object_set_data_full(G_OBJECT(image), "generator", generator, DeleteGenerator);
     const bool hasInputs = !inputs.empty();
-    // With a margin, lines of an input would be asked for again and again: small tiles share more of them.
-    const VipsDemandStyle withInputs = margin > 0 ? VIPS_DEMAND_STYLE_SMALLTILE : VIPS_DEMAND_STYLE_THINSTRIP;
-    if (vips_image_pipeline_array(image, hasInputs ? withInputs : VIPS_DEMAND_STYLE_ANY, generator->images.data()) !=
-        0) {
+    if (vips_image_pipeline_array(image, hasInputs ? VIPS_DEMAND_STYLE_THINSTRIP : VIPS_DEMAND_STYLE_ANY,
+                                  generator->images.data()) != 0) {
         throw vips::VError();
     }
     vips_image_init_fields(image, shape.width, shape.height, shape.bands, shape.format, VIPS_CODING_NONE,

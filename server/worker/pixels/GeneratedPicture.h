@@ -21,14 +21,13 @@ struct PictureShape
 
 PictureShape ShapeOf(const Picture& picture);
 
-/// Fills the valid area of `target`. `inputs` hold the same area of the inputs, wider by the margin to the right and
-/// below, and maybe more. Called on several threads at once, and must not throw.
+/// Fills the valid area of `target`. `inputs` hold the same area of the inputs, and maybe more. Called on several
+/// threads at once, and must not throw.
 using FillArea = std::function<void(VipsRegion* target, const std::vector<VipsRegion*>& inputs)>;
 
 /// A picture whose pixels `fill` computes, area by area, when they are asked for; the metadata is that of the first
-/// input. The inputs have the size of `shape`, or, where `fill` looks at neighbours, `margin` pixels more on every
-/// side: the pixel (x, y) of the result is then the pixel (x + margin, y + margin) of an input.
-Picture GeneratePicture(const PictureShape& shape, const std::vector<Picture>& inputs, FillArea fill, int margin = 0);
+/// input. The inputs have the size of `shape`. FilledPicture() is for what looks at neighbours.
+Picture GeneratePicture(const PictureShape& shape, const std::vector<Picture>& inputs, FillArea fill);
 
 /// The pixel at (x, y), which `region` holds with those that follow it in its line.
 template<typename T>

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <limits>
+
+namespace BatchWorker {
+
+/// The largest value of a sample.
+template<typename Sample>
+constexpr float largestSample = std::numeric_limits<Sample>::max();
+
+/// The sample next to a value in the range of samples; for loops over many.
+template<typename Sample>
+inline Sample Rounded(float value)
+{
+    const float positive = value > 0.0F ? value : 0.0F;
+    const float held = positive < largestSample<Sample> ? positive : largestSample<Sample>;
+    return static_cast<Sample>(static_cast<int>(held + 0.5F));
+}
+
+} // namespace BatchWorker
