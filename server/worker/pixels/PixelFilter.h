@@ -32,64 +32,45 @@ Sample SampleOf(double value, double largest)
 
 /// Colour of a pixel: one or three values of 0 to 1, of which the function changes what it likes.
 template<typename Sample, typename Function>
-void MapColoursOfLines(VipsRegion* output, const std::vector<VipsRegion*>& inputs, Function& function)
+void MapColoursOfLines(VipsRegion* output, VipsRegion* input, const Function& function)
 {
     const VipsRect& area = output->valid;
     const int bands = output->im->Bands;
     const int colourBands = bands < 3 ? 1 : 3;
     constexpr double largest = sizeof(Sample) == 1 ? 255.0 : 65535.0;
-    VipsRegion* const second = inputs.size() > 1 ? inputs[1] : nullptr;
-    const int otherBands = second ? second->im->Bands : 0;
     for (int y = area.top; y < area.top + area.height; ++y) {
-        const auto* in = PixelAt<const Sample>(inputs[0], area.left, y);
-        const auto* other = second ? PixelAt<const float>(second, area.left, y) : nullptr;
+        const auto* in = PixelAt<const Sample>(input, area.left, y);
         auto* out = PixelAt<Sample>(output, area.left, y);
-        for (int x = area.left; x < area.left + area.width; ++x) {
+        for (int x = 0; x < area.width; ++x, in += bands, out += bands) {
             std::array<double, 3> colour{};
             for (int band = 0; band < colourBands; ++band) {
                 colour[static_cast<size_t>(band)] = in[band] / largest;
             }
-            function(colour, other, x, y);
+            function(colour);
             for (int band = 0; band < colourBands; ++band) {
                 out[band] = SampleOf<Sample>(colour[static_cast<size_t>(band)], largest);
             }
             if (bands > colourBands) {
                 out[colourBands] = in[colourBands];
             }
-            in += bands;
-            out += bands;
-            other += otherBands;
         }
     }
 }
 
-/// Maps the colour of each pixel by `function(std::array<double, 3>& colour, const float* other, int x, int y)`, where
-/// `colour` holds 0 to 1 (a grey picture: in its first value) and `other` points to the pixel of the floating-point
-/// picture `other` of the same size. What is outside 0 to 1 becomes 0 or 1. Alpha stays.
-template<typename Function>
-Picture MapColours(const Picture& picture, const Picture* other, Function function)
-{
-    std::vector<Picture> inputs{picture};
-    if (other) {
-        inputs.push_back(*other);
-    }
-    const bool isDeep = HasSixteenBits(picture);
-    const auto map = [function, isDeep](VipsRegion* target, const std::vector<VipsRegion*>& regions) {
-        if (isDeep) {
-            MapColoursOfLines<std::uint16_t>(target, regions, function);
-        } else {
-            MapColoursOfLines<std::uint8_t>(target, regions, function);
-        }
-    };
-    return GeneratePicture(ShapeOf(picture), inputs, map);
-}
-
-/// The same by `function(std::array<double, 3>& colour)`.
+/// Maps the colour of each pixel by `function(std::array<double, 3>& colour)`, where `colour` holds 0 to 1 (a grey
+/// picture: in its first value). What is outside 0 to 1 becomes 0 or 1. Alpha stays.
 template<typename Function>
 Picture MapColours(const Picture& picture, Function function)
 {
-    return MapColours(picture, nullptr,
-                      [function](std::array<double, 3>& colour, const float*, int, int) { function(colour); });
+    const bool isDeep = HasSixteenBits(picture);
+    const auto map = [function, isDeep](VipsRegion* target, const std::vector<VipsRegion*>& inputs) {
+        if (isDeep) {
+            MapColoursOfLines<std::uint16_t>(target, inputs[0], function);
+        } else {
+            MapColoursOfLines<std::uint8_t>(target, inputs[0], function);
+        }
+    };
+    return GeneratePicture(ShapeOf(picture), {picture}, map);
 }
 
 } // namespace BatchWorker
