@@ -63,8 +63,8 @@ inline int RepeatsFor(int items)
     return std::clamp(1000000 / items, 1, 25);
 }
 
-/// Prints one case, one line for each size: the time per item, that of its baseline, which meets the same caches, and how
-/// much more than the baseline it has grown since the first size.
+/// Prints one case, one line for each size: the time per item, that of its baseline, which meets the same caches, and
+/// how much more than the baseline it has grown since the first size.
 class Series
 {
 public:

@@ -25,8 +25,8 @@ namespace {
 
 constexpr int bandsOfCmyk = 4;
 
-/// The encoder of one file. It leaves its functions by a jump, so whatever calls one goes through Call(), and has nothing
-/// to destroy.
+/// The encoder of one file. It leaves its functions by a jump, so whatever calls one goes through Call(), and has
+/// nothing to destroy.
 class JpegEncoding
 {
 public:
@@ -123,6 +123,7 @@ private:
         }
         constexpr double millimetresOfInch = 25.4;
         constexpr UINT8 dotsPerInch = 1;
+        encoder.write_JFIF_header = TRUE; // In CMYK too, whose resolution has no other place.
         encoder.density_unit = dotsPerInch;
         encoder.X_density = UINT16(std::lround(picture.xres() * millimetresOfInch));
         encoder.Y_density = UINT16(std::lround(picture.yres() * millimetresOfInch));
