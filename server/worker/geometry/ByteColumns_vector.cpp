@@ -126,22 +126,23 @@ WITH_VECTOR_UNIT void ByteColumns::Store(int from, int to, const Targets& target
     const auto sumOf = [&](int column) WITH_VECTOR_UNIT {
         return SumOf(loaded + (plan.firsts[std::size_t(column)] - first), plan.WholeWeights(column), plan.wholeTaps);
     };
-    const auto store = [](const Targets& places, __m256i bytes, std::size_t size) WITH_VECTOR_UNIT {
+    const auto store = [](const Targets& places, __m256i bytes, std::size_t length) WITH_VECTOR_UNIT {
         const __m128i upper = _mm256_castsi256_si128(bytes);
         const __m128i lower = _mm256_extracti128_si256(bytes, 1);
-        std::memcpy(places[0], &upper, size);
-        std::memcpy(places[1], &lower, size);
+        std::memcpy(places[0], &upper, length);
+        std::memcpy(places[1], &lower, length);
     };
     Targets places = targets;
     int column = from;
     if (bands == count) {
         const __m256i order = DenseOrder<count>();
         constexpr int atOnce = 4;
+        constexpr std::ptrdiff_t size = std::ptrdiff_t(atOnce) * count;
         for (; column + atOnce <= to; column += atOnce) {
             const __m256i left = _mm256_packs_epi32(sumOf(column), sumOf(column + 1));
             const __m256i right = _mm256_packs_epi32(sumOf(column + 2), sumOf(column + 3));
-            store(places, _mm256_shuffle_epi8(_mm256_packus_epi16(left, right), order), atOnce * count);
-            places = {places[0] + atOnce * count, places[1] + atOnce * count};
+            store(places, _mm256_shuffle_epi8(_mm256_packus_epi16(left, right), order), size);
+            places = {places[0] + size, places[1] + size};
         }
     }
     for (; column < to; ++column) {
