@@ -63,25 +63,31 @@ inline int RepeatsFor(int items)
     return std::clamp(1000000 / items, 1, 25);
 }
 
-/// Prints one case, one line for each size: the time per item, and its ratio to that of the first size.
+/// Prints one case, one line for each size: the time per item, that of its baseline, which meets the same caches, and
+/// how much more than the baseline it has grown since the first size.
 class Series
 {
 public:
-    /// The goal is the greatest ratio that is acceptable; 0 for none.
+    /// The goal is the greatest growth against the baseline that is acceptable; 0 for none.
     Series(const char* name, double goal)
         : name(name)
         , goal(goal)
     {
     }
 
-    void Add(int items, double nanosecondsPerItem)
+    void Add(int items, double nanosecondsPerItem, double baseline)
     {
+        const double ratio = nanosecondsPerItem / baseline;
         if (first == 0) {
-            first = nanosecondsPerItem;
+            first = ratio;
         }
-        const double ratio = nanosecondsPerItem / first;
-        std::printf("%-48s %9d %12.1f ns  x %6.2f%s\n", name, items, nanosecondsPerItem, ratio,
-                    goal > 0 && ratio > goal ? "  above the goal" : "");
+        const double growth = ratio / first;
+        std::printf("%-44s %8d %10.1f ns  baseline %10.1f ns  grows x %5.2f", name, items, nanosecondsPerItem, baseline,
+                    growth);
+        if (goal > 0) {
+            std::printf("  goal %.2f%s", goal, growth > goal ? ", above it" : "");
+        }
+        std::printf("\n");
         std::fflush(stdout);
     }
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,8 +17,9 @@
 #include <cstdlib>
 #include <unistd.h>
 
-/// One complete run of the server: its duration and its peak memory. Prints "seconds S supervisor K worker K cpu S":
-/// memory in KiB, and the processor time of all workers, which depends little on other load.
+/// One complete run of the server: its duration and its peak memory. Prints "seconds S supervisor K worker K cpu S busy
+/// P": memory in KiB, the processor time of supervisor and workers in the run, which depends little on other load, and
+/// its part of what all cores have.
 namespace {
 
 constexpr int patience = 3'600'000; // ms
@@ -46,6 +48,15 @@ double ProcessorSeconds(qint64 process)
     const QByteArray status = file.readAll();
     const QList<QByteArray> fields = status.mid(status.lastIndexOf(')') + 2).split(' ');
     return double(fields.value(11).toLongLong() + fields.value(12).toLongLong()) / double(sysconf(_SC_CLK_TCK));
+}
+
+double ProcessorSeconds(ServerRun& run)
+{
+    double seconds = ProcessorSeconds(run.Server().processId());
+    for (const qint64 id : run.WorkerIds()) {
+        seconds += ProcessorSeconds(id);
+    }
+    return seconds;
 }
 
 void ToReducedJpeg(ZTBatchDocument& job, int side)
@@ -111,6 +122,7 @@ int main(int argc, char** argv)
             document.GetOutputSettings()->SetPath(QDir(parser.value(output)).absolutePath());
         }
     });
+    const double processorBefore = ProcessorSeconds(run);
     QElapsedTimer clock;
     clock.start();
     run.Process(job);
@@ -120,13 +132,13 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "Not all pictures were written.\n%s\n", qPrintable(run.Report()));
         return 1;
     }
+    const double processor = ProcessorSeconds(run) - processorBefore;
     qint64 worker = 0;
-    double processor = 0.0;
     for (const qint64 id : run.WorkerIds()) {
         worker = std::max(worker, PeakMemory(id));
-        processor += ProcessorSeconds(id);
     }
-    std::printf("seconds %.3f supervisor %lld worker %lld cpu %.2f\n", seconds, PeakMemory(run.Server().processId()),
-                worker, processor);
+    std::printf("seconds %.3f supervisor %lld worker %lld cpu %.2f busy %.3f\n", seconds,
+                PeakMemory(run.Server().processId()), worker, processor,
+                processor / (seconds * QThread::idealThreadCount()));
     return 0;
 }

@@ -71,7 +71,6 @@ enum class MetadataWriting {
 /// How a result is kept free of EXIF. Some encoders make up an EXIF block if they are given none.
 enum class ExifRemoval {
     NotNeeded,
-    Strip, ///< the encoder writes no metadata at all; the other blocks are added to the finished file
     CutOut ///< the block is cut out of the finished file
 };
 

@@ -25,7 +25,6 @@ FormatSchema JpegFormat()
     format.loss = FormatLoss::Always;
     format.pages = FormatPages::Listed;
     format.metadata.holdsIptc = true;
-    format.metadata.exifRemoval = ExifRemoval::Strip;
     format.metadata.longestBlock = 65'000; // what one segment holds, less its headers
     format.metadata.shortestProfile = 128; // the header of a profile
     format.options = WithCommonOptions({Quality(85), Progressive(), ChromaSubsampling()});

@@ -20,14 +20,11 @@ namespace BatchWorker {
 
 namespace {
 
-void Operate(const FormatEncoder& encoder, const Picture& picture, const QJsonObject& options, bool isStripped,
+void Operate(const FormatEncoder& encoder, const Picture& picture, const QJsonObject& options,
              const vips::VTarget& target)
 {
     vips::VOption* arguments = Picture::option()->set("in", picture)->set("target", target);
     encoder.setArguments(arguments, options, picture);
-    if (isStripped) {
-        arguments->set("strip", true);
-    }
     Picture::call(encoder.operation, arguments);
 }
 
@@ -54,12 +51,10 @@ Picture ReadyFor(const FormatSchema& format, const QJsonObject& options, const P
 }
 
 void Encode(const Picture& picture, const FormatSchema& format, const QJsonObject& options, const QByteArray& before,
-            bool withoutExif, int descriptor)
+            int descriptor)
 {
     const FormatEncoder& encoder = EncoderOf(format);
     const QByteArray profile = encoder.profileBytes ? ProfileOf(picture) : QByteArray();
-    // To leave out everything is the only way to keep some encoders from making EXIF up.
-    const bool mustStrip = withoutExif && format.metadata.exifRemoval == ExifRemoval::Strip;
     const AddedBytes start{encoder.write ? QByteArray() : before, 0};
     const ResultTarget result(descriptor, profile.isEmpty() ? start : encoder.profileBytes(profile));
     const Picture bare = profile.isEmpty() ? picture : WithProfile(picture, {});
@@ -73,7 +68,7 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
         if (encoder.write) {
             encoder.write(picture, options, before, result.Target());
         } else {
-            Operate(encoder, bare, options, mustStrip, result.Target());
+            Operate(encoder, bare, options, result.Target());
         }
     } catch (const vips::VError&) {
         checkFile();

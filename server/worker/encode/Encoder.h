@@ -19,10 +19,10 @@ int ResultDepth(const BatchJob::FormatSchema& format, const QJsonObject& options
 /// `options`, which are complete.
 Picture ReadyFor(const BatchJob::FormatSchema& format, const QJsonObject& options, const Picture& picture);
 
-/// Writes `before`, then `picture`, which is ready for `format`, to the open and empty file `descriptor`. A file that
-/// goes `withoutExif` may get no metadata at all, as ExifRemoval says. Throws PictureFailure of the case Output when
-/// the file cannot take it, and vips::VError for anything else, such as a source that proves damaged.
+/// Writes `before`, then `picture`, which is ready for `format`, to the open and empty file `descriptor`. Throws
+/// PictureFailure of the case Output when the file cannot take it, and vips::VError for anything else, such as a source
+/// that proves damaged.
 void Encode(const Picture& picture, const BatchJob::FormatSchema& format, const QJsonObject& options,
-            const QByteArray& before, bool withoutExif, int descriptor);
+            const QByteArray& before, int descriptor);
 
 } // namespace BatchWorker

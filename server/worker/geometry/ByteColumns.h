@@ -9,7 +9,7 @@
 
 namespace BatchWorker {
 
-struct ColumnPlan;
+struct ReductionPlan;
 
 /// Reduces lines of 8-bit pixels to the new columns `begin` to `end` (exclusive) of a plan, two lines at a time. It
 /// calculates with whole numbers: the values are the same on every processor.
@@ -23,8 +23,15 @@ public:
 
     static bool HasVectorUnit();
 
-    ByteColumns(const ColumnPlan& plan, int begin, int end, int bands,
-                Unit unit = HasVectorUnit() ? Unit::Vector : Unit::Plain);
+    ByteColumns(const ReductionPlan& plan, int begin, int end, int bands,
+                Unit unit = HasVectorUnit() ? Unit::Vector : Unit::Plain)
+        : plan(plan)
+        , begin(begin)
+        , end(end)
+        , bands(bands)
+        , unit(unit)
+    {
+    }
 
     using Sources = std::array<const std::uint8_t*, 2>;
     using Targets = std::array<std::uint8_t*, 2>;
@@ -39,11 +46,11 @@ private:
     template<int count>
     void ReduceBands(const Sources& sources, const Targets& targets);
     template<int count>
-    void Load(const Sources& sources);
+    void Load(const Sources& sources, int columns);
     template<int count>
-    void Store(const Targets& targets) const;
+    void Store(int from, int to, const Targets& targets) const;
 
-    const ColumnPlan& plan;
+    const ReductionPlan& plan;
     const int begin;
     const int end;
     const int bands; ///< the distance from one pixel of a line to the next
@@ -54,7 +61,7 @@ private:
     {
         std::array<std::int16_t, 16> values;
     };
-    std::vector<Neighbours> neighbours; ///< one for each old column that is needed; empty in a plain unit
+    std::vector<Neighbours> neighbours; ///< one for each old column of a part
 };
 
 } // namespace BatchWorker

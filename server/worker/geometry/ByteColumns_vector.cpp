@@ -3,7 +3,7 @@
 
 #include "ByteColumns.h"
 
-#include "ColumnPlan.h"
+#include "ReductionPlan.h"
 
 #ifdef __x86_64__
 
@@ -16,16 +16,72 @@ namespace BatchWorker {
 namespace {
 
 constexpr int bandsAtOnce = 4;
+constexpr int bytesOfHalf = 16; // of a register; each of the two lines has one
 
 // The instructions that HasVectorUnit() looks for; the rest of the program is compiled without them.
 #define WITH_VECTOR_UNIT __attribute__((target("avx2")))
 
+WITH_VECTOR_UNIT inline __m128i HalfAt(const void* place)
+{
+    return _mm_loadu_si128(static_cast<const __m128i*>(place));
+}
+
+/// The upper line in the lower half, the lower line in the upper half.
+WITH_VECTOR_UNIT inline __m256i Both(__m128i upper, __m128i lower)
+{
+    return _mm256_inserti128_si256(_mm256_castsi128_si256(upper), lower, 1);
+}
+
+/// Up to four bands of a pixel as words, in every second word.
 template<int count>
-std::uint32_t BytesOf(const std::uint8_t* pixel)
+WITH_VECTOR_UNIT inline __m128i WordsOf(const std::uint8_t* pixel)
 {
     std::uint32_t bytes = 0;
     std::memcpy(&bytes, pixel, count);
-    return bytes;
+    return _mm_cvtepu8_epi32(_mm_cvtsi32_si128(int(bytes)));
+}
+
+/// A pixel and its neighbour, band by band.
+template<int count>
+WITH_VECTOR_UNIT inline __m128i Pair(const std::uint8_t* pixel, const std::uint8_t* neighbour)
+{
+    return _mm_or_si128(WordsOf<count>(pixel), _mm_slli_epi32(WordsOf<count>(neighbour), 16));
+}
+
+/// What takes a pixel and its neighbour, `bands` bytes on, to the places that Pair() gives them.
+template<int count>
+WITH_VECTOR_UNIT __m256i PairOrder(int bands)
+{
+    std::int8_t order[bytesOfHalf];
+    for (int byte = 0; byte < bytesOfHalf; ++byte) {
+        const int band = byte / 4;
+        const bool isNeighbour = byte % 4 == 2;
+        order[byte] = std::int8_t(byte % 2 != 0 || band >= count ? -1 : band + (isNeighbour ? bands : 0));
+    }
+    return _mm256_broadcastsi128_si256(HalfAt(order));
+}
+
+/// What takes four pixels of four bytes each to places without gaps between them.
+template<int count>
+WITH_VECTOR_UNIT __m256i DenseOrder()
+{
+    std::int8_t order[bytesOfHalf];
+    for (int byte = 0; byte < bytesOfHalf; ++byte) {
+        order[byte] = std::int8_t(byte < bandsAtOnce * count ? byte / count * bandsAtOnce + byte % count : -1);
+    }
+    return _mm256_broadcastsi128_si256(HalfAt(order));
+}
+
+/// The sums of a new column: four bands of the one line, four of the other. `old` begins with its first old column.
+WITH_VECTOR_UNIT inline __m256i SumOf(const __m256i* old, const std::int16_t* weights, int taps)
+{
+    __m256i sum = _mm256_set1_epi32(ReductionPlan::wholeHalf);
+    for (int tap = 0; tap < taps; tap += 2) {
+        int weightPair = 0;
+        std::memcpy(&weightPair, weights + tap, sizeof(weightPair));
+        sum = _mm256_add_epi32(sum, _mm256_madd_epi16(old[tap], _mm256_set1_epi32(weightPair)));
+    }
+    return _mm256_srai_epi32(sum, ReductionPlan::wholeBits);
 }
 
 } // namespace
@@ -37,66 +93,79 @@ bool ByteColumns::HasVectorUnit()
 }
 
 template<int count>
-WITH_VECTOR_UNIT void ByteColumns::Load(const Sources& sources)
+WITH_VECTOR_UNIT void ByteColumns::Load(const Sources& sources, int columns)
 {
+    neighbours.resize(std::max(neighbours.size(), std::size_t(columns)));
+    const __m256i order = PairOrder<count>(bands);
     const std::uint8_t* upper = sources[0];
     const std::uint8_t* lower = sources[1];
-    const int columns = int(neighbours.size());
-    // Four bytes are read in one step, three are not. Reading a byte beyond a pixel is harmless, but not beyond the
-    // line.
-    const int wideColumns = columns - (bandsAtOnce + bands - 1) / bands;
-    auto* to = reinterpret_cast<__m256i*>(neighbours.data());
-    __m256i left = _mm256_setzero_si256();
-    for (int column = 0; column < columns; ++column) {
-        const bool isWide = column < wideColumns;
-        const std::uint32_t above = isWide ? BytesOf<bandsAtOnce>(upper) : BytesOf<count>(upper);
-        const std::uint32_t below = isWide ? BytesOf<bandsAtOnce>(lower) : BytesOf<count>(lower);
-        const __m128i both = _mm_insert_epi32(_mm_cvtsi32_si128(int(above)), int(below), 2);
-        const __m256i pixel = _mm256_cvtepu8_epi16(both);
-        if (column > 0) {
-            _mm256_store_si256(to++, _mm256_unpacklo_epi16(left, pixel));
-        }
-        left = pixel;
+    auto* const to = reinterpret_cast<__m256i*>(neighbours.data());
+    // Half a register is read at a time, as long as it ends within the line.
+    const bool isNear = bands + count <= bytesOfHalf;
+    const int wideColumns = isNear ? columns - (bytesOfHalf + bands - 1) / bands : 0;
+    int column = 0;
+    for (; column < wideColumns; ++column) {
+        _mm256_store_si256(to + column, _mm256_shuffle_epi8(Both(HalfAt(upper), HalfAt(lower)), order));
         upper += bands;
         lower += bands;
     }
-    _mm256_store_si256(to, _mm256_unpacklo_epi16(left, _mm256_setzero_si256()));
+    for (; column < columns; ++column) {
+        const int next = column + 1 < columns ? bands : 0; // The weight of the last one's neighbour is 0.
+        _mm256_store_si256(to + column, Both(Pair<count>(upper, upper + next), Pair<count>(lower, lower + next)));
+        upper += bands;
+        lower += bands;
+    }
 }
 
 template<int count>
-WITH_VECTOR_UNIT void ByteColumns::Store(const Targets& targets) const
+WITH_VECTOR_UNIT void ByteColumns::Store(int from, int to, const Targets& targets) const
 {
     const __m256i zero = _mm256_setzero_si256();
-    const auto* const allOld = reinterpret_cast<const __m256i*>(neighbours.data());
-    const int first = plan.firsts[std::size_t(begin)];
-    const std::int16_t* weights = &plan.wholeWeights[std::size_t(begin) * std::size_t(plan.wholeTaps)];
-    std::uint8_t* upper = targets[0];
-    std::uint8_t* lower = targets[1];
-    for (int column = begin; column < end; ++column) {
-        const __m256i* const old = allOld + (plan.firsts[std::size_t(column)] - first);
-        __m256i sum = _mm256_set1_epi32(ColumnPlan::wholeHalf);
-        for (int tap = 0; tap < plan.wholeTaps; tap += 2) {
-            int weightPair = 0;
-            std::memcpy(&weightPair, weights + tap, sizeof(weightPair));
-            sum = _mm256_add_epi32(sum, _mm256_madd_epi16(old[tap], _mm256_set1_epi32(weightPair)));
+    const auto* const loaded = reinterpret_cast<const __m256i*>(neighbours.data());
+    const int first = plan.firsts[std::size_t(from)];
+    const auto sumOf = [&](int column) WITH_VECTOR_UNIT {
+        return SumOf(loaded + (plan.firsts[std::size_t(column)] - first), plan.WholeWeights(column), plan.wholeTaps);
+    };
+    const auto store = [](const Targets& places, __m256i bytes, std::size_t length) WITH_VECTOR_UNIT {
+        const __m128i upper = _mm256_castsi256_si128(bytes);
+        const __m128i lower = _mm256_extracti128_si256(bytes, 1);
+        std::memcpy(places[0], &upper, length);
+        std::memcpy(places[1], &lower, length);
+    };
+    Targets places = targets;
+    int column = from;
+    if (bands == count) {
+        const __m256i order = DenseOrder<count>();
+        constexpr int atOnce = 4;
+        constexpr std::ptrdiff_t size = std::ptrdiff_t(atOnce) * count;
+        for (; column + atOnce <= to; column += atOnce) {
+            const __m256i left = _mm256_packs_epi32(sumOf(column), sumOf(column + 1));
+            const __m256i right = _mm256_packs_epi32(sumOf(column + 2), sumOf(column + 3));
+            store(places, _mm256_shuffle_epi8(_mm256_packus_epi16(left, right), order), size);
+            places = {places[0] + size, places[1] + size};
         }
-        weights += plan.wholeTaps;
-        const __m256i words = _mm256_packs_epi32(_mm256_srai_epi32(sum, ColumnPlan::wholeBits), zero);
-        const __m256i bytes = _mm256_packus_epi16(words, zero);
-        const int above = _mm_cvtsi128_si32(_mm256_castsi256_si128(bytes));
-        const int below = _mm_cvtsi128_si32(_mm256_extracti128_si256(bytes, 1));
-        std::memcpy(upper, &above, count);
-        std::memcpy(lower, &below, count);
-        upper += bands;
-        lower += bands;
+    }
+    for (; column < to; ++column) {
+        store(places, _mm256_packus_epi16(_mm256_packs_epi32(sumOf(column), zero), zero), count);
+        places = {places[0] + bands, places[1] + bands};
     }
 }
 
 template<int count>
 void ByteColumns::ReduceBands(const Sources& sources, const Targets& targets)
 {
-    Load<count>(sources);
-    Store<count>(targets);
+    // What a part needs stays in the processor's nearest memory.
+    constexpr int oldAtOnce = 768;
+    const int firstOld = plan.firsts[std::size_t(begin)];
+    const int part = std::max(1, int(std::int64_t(oldAtOnce) * (end - begin) / (plan.End(end - 1) - firstOld)));
+    for (int from = begin; from < end; from += part) {
+        const int to = std::min(from + part, end);
+        const int old = plan.firsts[std::size_t(from)];
+        const std::ptrdiff_t skipped = std::ptrdiff_t(old - firstOld) * bands;
+        const std::ptrdiff_t done = std::ptrdiff_t(from - begin) * bands;
+        Load<count>({sources[0] + skipped, sources[1] + skipped}, plan.End(to - 1) - old);
+        Store<count>(from, to, {targets[0] + done, targets[1] + done});
+    }
 }
 
 void ByteColumns::ReduceSideBySide(const Sources& sources, const Targets& targets)

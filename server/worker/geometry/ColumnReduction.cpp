@@ -4,12 +4,11 @@
 #include "ColumnReduction.h"
 
 #include "ByteColumns.h"
-#include "ColumnPlan.h"
+#include "ReductionNode.h"
+#include "SampleOf.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
-#include <type_traits>
 #include <vector>
 
 namespace BatchWorker {
@@ -17,17 +16,6 @@ namespace BatchWorker {
 namespace {
 
 constexpr int bandsAtOnce = 4;
-
-template<typename Sample>
-Sample SampleOf(float value)
-{
-    if constexpr (std::is_floating_point_v<Sample>) {
-        return value;
-    } else {
-        constexpr float largest = std::numeric_limits<Sample>::max();
-        return Sample(int(std::min(std::max(value, 0.0F), largest) + 0.5F));
-    }
-}
 
 /// Reduces a line of pixels, `count` bands of each.
 template<typename Sample, int count>
@@ -52,9 +40,9 @@ public:
     }
 
     /// Writes the new column `column` of the plan to `to`; `first` is the place of its first old one in the line.
-    void Give(const ColumnPlan& plan, int column, int first, Sample* to) const
+    void Give(const ReductionPlan& plan, int column, int first, Sample* to) const
     {
-        const float* const weights = &plan.weights[std::size_t(column) * std::size_t(plan.taps)];
+        const float* const weights = plan.Weights(column);
         const Pixel* const old = &pixels[std::size_t(first)];
         Pixel sum{};
         for (int tap = 0; tap < plan.taps; ++tap) {
@@ -74,12 +62,12 @@ private:
 
 /// Reduces some bands, from `band` on, of the area that `output` asks for.
 template<typename Sample, int count>
-void ReduceBands(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output, int band)
+void ReduceBands(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output, int band)
 {
     const VipsRect& area = output->valid;
     const int bands = output->im->Bands;
     const int firstOld = plan.firsts[std::size_t(area.left)];
-    const int endOld = plan.firsts[std::size_t(VIPS_RECT_RIGHT(&area) - 1)] + plan.taps;
+    const int endOld = plan.End(VIPS_RECT_RIGHT(&area) - 1);
     LineReduction<Sample, count> line(endOld - firstOld);
     for (int y = area.top; y < VIPS_RECT_BOTTOM(&area); ++y) {
         line.Take(reinterpret_cast<const Sample*>(VIPS_REGION_ADDR(input, firstOld, y)) + band, bands);
@@ -92,7 +80,7 @@ void ReduceBands(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output, 
 }
 
 template<typename Sample>
-void Reduce(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
+void Reduce(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
 {
     const int bands = output->im->Bands;
     for (int band = 0; band < bands; band += bandsAtOnce) {
@@ -113,7 +101,7 @@ void Reduce(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
     }
 }
 
-void ReduceBytes(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
+void ReduceBytes(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
 {
     const VipsRect& area = output->valid;
     const int firstOld = plan.firsts[std::size_t(area.left)];
@@ -128,11 +116,11 @@ void ReduceBytes(const ColumnPlan& plan, VipsRegion* input, VipsRegion* output)
 
 int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
 {
-    const auto& plan = *static_cast<const ColumnPlan*>(client);
+    const auto& plan = *static_cast<const ReductionPlan*>(client);
     auto* const input = static_cast<VipsRegion*>(sequence);
     const VipsRect& area = output->valid;
     const int first = plan.firsts[std::size_t(area.left)];
-    const int end = plan.firsts[std::size_t(VIPS_RECT_RIGHT(&area) - 1)] + plan.taps;
+    const int end = plan.End(VIPS_RECT_RIGHT(&area) - 1);
     const VipsRect needed{first, area.top, end - first, area.height};
     if (vips_region_prepare(input, &needed) != 0) {
         return -1;
@@ -151,31 +139,12 @@ int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
     return 0;
 }
 
-void DeletePlan(void* plan)
-{
-    delete static_cast<ColumnPlan*>(plan);
-}
-
 } // namespace
 
 Picture WithFewerColumns(const Picture& picture, int width)
 {
-    VipsImage* const input = picture.get_image();
-    VipsImage* const output = vips_image_new();
-    const Picture reduced(output);
-    // The output reads from its input as long as it lives.
-    g_object_ref(input);
-    vips_object_local(output, input);
-    auto* const plan = new ColumnPlan(picture.width(), width);
-    g_object_set_data_full(G_OBJECT(output), "column-plan", plan, DeletePlan);
-    if (vips_image_pipelinev(output, VIPS_DEMAND_STYLE_FATSTRIP, input, nullptr) != 0) {
-        throw vips::VError();
-    }
-    output->Xsize = width;
-    if (vips_image_generate(output, vips_start_one, Generate, vips_stop_one, input, plan) != 0) {
-        throw vips::VError();
-    }
-    return reduced;
+    return ReducedPicture(picture, QSize(width, picture.height()),
+                          KnownReductionPlan(picture.width(), width, ReductionPlan::Arithmetic::Exact), Generate);
 }
 
 } // namespace BatchWorker

@@ -4,6 +4,7 @@
 #include "Resampling.h"
 
 #include "ColumnReduction.h"
+#include "RowReduction.h"
 
 #include "server/worker/pixels/WeightedFilter.h"
 
@@ -22,13 +23,19 @@ Picture Cut(const Picture& picture, const QRect& rect)
     return picture.crop(rect.x(), rect.y(), rect.width(), rect.height());
 }
 
-// Rows first: the library is quick with them, and fewer are left for the columns.
+// From here on the library averages rows before it weighs them.
+constexpr int libraryReduction = 4;
+
+// Rows first: whole rows fill the registers of the processor, and fewer are left for the columns.
 Picture ScaledAsIs(const Picture& picture, const QSize& size)
 {
-    const double vertical = double(size.height()) / picture.height();
+    const bool hasFewerRows = size.height() < picture.height() && picture.height() < libraryReduction * size.height();
     const bool hasFewerColumns = size.width() < picture.width();
-    const double horizontal = hasFewerColumns ? 1.0 : double(size.width()) / picture.width();
-    const Picture scaled = picture.resize(horizontal, Picture::option()->set("vscale", vertical));
+    const Picture rows = hasFewerRows ? WithFewerRows(picture, size.height()) : picture;
+    const double vertical = double(size.height()) / rows.height();
+    const double horizontal = hasFewerColumns ? 1.0 : double(size.width()) / rows.width();
+    const bool isScaled = vertical != 1.0 || horizontal != 1.0;
+    const Picture scaled = isScaled ? rows.resize(horizontal, Picture::option()->set("vscale", vertical)) : rows;
     return hasFewerColumns ? WithFewerColumns(scaled, size.width()) : scaled;
 }
 

@@ -188,11 +188,6 @@ void Metadata::MoveIptcToXmp()
     });
 }
 
-void Metadata::RemoveXmp()
-{
-    d->xmp.clear();
-}
-
 void Metadata::RemoveUnwritable(BatchJob::Warnings& warnings)
 {
     if (!d->problem.isEmpty()) {

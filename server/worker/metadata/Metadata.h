@@ -57,8 +57,6 @@ public:
     /// Moves the captions and keywords of IPTC to XMP, for formats that cannot hold IPTC.
     void MoveIptcToXmp();
 
-    void RemoveXmp();
-
     /// Removes what the metadata library has read but cannot write, with a warning. Warns also if it failed while the
     /// metadata were changed, after which there are none.
     void RemoveUnwritable(BatchJob::Warnings& warnings);

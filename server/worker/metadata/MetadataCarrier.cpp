@@ -20,12 +20,6 @@ namespace BatchWorker {
 
 namespace {
 
-// The encoder writes no block at all; all of them are added to the finished file.
-bool IsStripped(const FormatSchema& format, const Metadata& metadata)
-{
-    return format.metadata.exifRemoval == ExifRemoval::Strip && metadata.GoWithoutExif();
-}
-
 Picture WithoutMetadata(const Picture& picture)
 {
     Picture bare = picture.copy();
@@ -102,14 +96,7 @@ Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadat
     if (!exif.isEmpty() && fits(exif, "EXIF")) {
         SetBlock(carrier, VIPS_META_EXIF_NAME, QByteArray("Exif\0\0", 6) + exif);
     }
-    const bool isXmpHeld = fits(xmp, "XMP");
-    if (IsStripped(format, metadata)) {
-        if (!isXmpHeld) {
-            metadata.RemoveXmp();
-        }
-        return carrier;
-    }
-    if (isXmpHeld) {
+    if (fits(xmp, "XMP")) {
         SetBlock(carrier, VIPS_META_XMP_NAME, xmp);
     }
     if (support.holdsIptc && fits(iptc, "IPTC")) {
@@ -150,9 +137,8 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
     if (support.isExifRepeated && !RemoveRepeatedExifFromPng(fileName)) {
         warnings.append({WarningKind::MetadataLost, Phrase::English("the result may have its EXIF block twice")});
     }
-    const bool isStripped = IsStripped(format, metadata);
-    const bool needsProfile = (!support.isProfileInDecoder || isStripped) && !profile.isEmpty();
-    const bool needsBlocks = (support.writing == MetadataWriting::AfterEncoding || isStripped) && !metadata.IsEmpty();
+    const bool needsProfile = !support.isProfileInDecoder && !profile.isEmpty();
+    const bool needsBlocks = support.writing == MetadataWriting::AfterEncoding && !metadata.IsEmpty();
     if (!needsProfile && !needsBlocks) {
         return;
     }

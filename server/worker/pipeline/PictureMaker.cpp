@@ -206,7 +206,7 @@ void PictureRun::Write(const Picture& picture)
     metadata.DescribeResult(made.facts.outputSize, std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
-    Encode(carrier, format, options, BytesBefore(format, metadata), metadata.GoWithoutExif(), made.file->Descriptor());
+    Encode(carrier, format, options, BytesBefore(format, metadata), made.file->Descriptor());
     CompleteFile(made.file->OpenPath(), format, metadata, profile, made.warnings);
 }
 
