@@ -18,7 +18,9 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 namespace BatchWorker {
@@ -89,11 +91,13 @@ Picture BlurredBands(const Picture& picture, double sigma)
 }
 
 /// Read in order by this thread alone: several would ask for rows of the picture in any order.
-std::vector<float> ValuesOf(const Picture& picture)
+template<typename Stored>
+std::vector<Stored> ValuesOf(const Picture& picture)
 {
+    constexpr float parts = std::is_same_v<Stored, float> ? 1.0F : SmallCopy::partsOfByte;
     const std::unique_ptr<VipsRegion, void (*)(gpointer)> region(vips_region_new(picture.get_image()), g_object_unref);
     const std::size_t valuesOfRow = VIPS_IMAGE_N_ELEMENTS(picture.get_image());
-    std::vector<float> values;
+    std::vector<Stored> values;
     values.reserve(valuesOfRow * static_cast<std::size_t>(picture.height()));
     for (int top = 0; top < picture.height(); top += BlurredRows::rowsAtOnce) {
         const int end = std::min(top + BlurredRows::rowsAtOnce, picture.height());
@@ -103,7 +107,8 @@ std::vector<float> ValuesOf(const Picture& picture)
         }
         for (int y = top; y < end; ++y) {
             const auto* const row = PixelAt<const float>(region.get(), 0, y);
-            values.insert(values.end(), row, row + valuesOfRow);
+            std::transform(row, row + valuesOfRow, std::back_inserter(values),
+                           [](float value) { return Rounded<Stored>(value * parts); });
         }
     }
     return values;
@@ -117,7 +122,13 @@ std::shared_ptr<const SmallCopy> SmallCopyOf(const Picture& picture, const BlurV
     const double done = (square - 1.0) / 12.0 + square / 6.0;
     const double rest = std::sqrt(sigma * sigma - done) / factor;
     const Picture blurred = BlurredBands(ReducedByBlocks(picture, values, factor), rest);
-    return std::make_shared<const SmallCopy>(SmallCopy{blurred.width(), factor, ValuesOf(blurred)});
+    auto copy = std::make_shared<SmallCopy>(SmallCopy{blurred.width(), factor, {}});
+    if (HasSixteenBits(picture)) {
+        copy->values = ValuesOf<float>(blurred);
+    } else {
+        copy->values = ValuesOf<std::uint16_t>(blurred);
+    }
+    return copy;
 }
 
 Picture BlurredAndMixed(const Picture& picture, const BlurValues& values, double sigma, bool readsPicture,

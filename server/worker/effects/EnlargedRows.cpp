@@ -6,6 +6,7 @@
 #include "server/worker/pixels/VectorCode.h"
 
 #include <cstddef>
+#include <type_traits>
 
 namespace BatchWorker {
 
@@ -15,6 +16,22 @@ BATCH_VECTOR_CODE void Interpolate(const float* before, const float* behind, flo
 {
     for (int i = 0; i < count; ++i) {
         values[i] = before[i] + share * (behind[i] - before[i]);
+    }
+}
+
+/// Along a row of the copy, from its pixel `place` on.
+template<typename Stored>
+void EnlargeRow(const Stored* small, PlaceInCopy place, int channels, int count, float* values)
+{
+    constexpr float unit = std::is_same_v<Stored, float> ? 1.0F : 1.0F / SmallCopy::partsOfByte;
+    for (int x = 0; x < count; ++x, place.MoveOn(), values += channels) {
+        const Stored* const before = small + place.Before() * channels;
+        const float share = place.Share();
+        for (int channel = 0; channel < channels; ++channel) {
+            const float from = before[channel];
+            const float to = before[channel + channels];
+            values[channel] = (from + share * (to - from)) * unit;
+        }
     }
 }
 
@@ -50,16 +67,12 @@ bool EnlargedRows::Take(VipsRegion* from, const VipsRect& area)
 void EnlargedRows::TakeRow(int row, const VipsRect& area)
 {
     const int channels = source.Channels();
-    const float* const small = copy->values.data() + std::size_t(row) * std::size_t(copy->width * channels);
-    auto* values = window.Row<float>(row);
-    PlaceInCopy place(area.left, copy->factor);
-    for (int x = 0; x < area.width; ++x, place.MoveOn(), values += channels) {
-        const float* const before = small + place.Before() * channels;
-        const float share = place.Share();
-        for (int channel = 0; channel < channels; ++channel) {
-            values[channel] = before[channel] + share * (before[channel + channels] - before[channel]);
-        }
-    }
+    const std::size_t first = std::size_t(row) * std::size_t(copy->width * channels);
+    const auto enlarge = [&](const auto& values) {
+        EnlargeRow(values.data() + first, PlaceInCopy(area.left, copy->factor), channels, area.width,
+                   window.Row<float>(row));
+    };
+    std::visit(enlarge, copy->values);
 }
 
 void EnlargedRows::Give(int x, int y, int count, float* values)

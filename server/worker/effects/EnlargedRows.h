@@ -8,7 +8,9 @@
 
 #include "server/worker/pixels/RowWindow.h"
 
+#include <cstdint>
 #include <memory>
+#include <variant>
 #include <vector>
 
 namespace BatchWorker {
@@ -16,9 +18,13 @@ namespace BatchWorker {
 /// A picture that was reduced by blocks, with a border of one block, and then blurred.
 struct SmallCopy
 {
+    static constexpr int partsOfByte = 257;
+
     int width;
     int factor;
-    std::vector<float> values;
+
+    /// Those of a picture of 8 bits are whole numbers of parts: they take half of the memory, and are exact enough.
+    std::variant<std::vector<std::uint16_t>, std::vector<float>> values;
 };
 
 /// Where a row or column of the picture lies in its small copy: between two values.

@@ -5,7 +5,8 @@
 
 #include "ByteColumns.h"
 #include "ReductionNode.h"
-#include "SampleOf.h"
+
+#include "server/worker/pixels/SampleRange.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -49,7 +50,7 @@ public:
             sum += weights[tap] * old[tap];
         }
         for (int band = 0; band < count; ++band) {
-            to[band] = SampleOf<Sample>(sum[band]);
+            to[band] = Rounded<Sample>(sum[band]);
         }
     }
 

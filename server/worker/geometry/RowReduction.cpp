@@ -5,8 +5,8 @@
 
 #include "ByteRows.h"
 #include "ReductionNode.h"
-#include "SampleOf.h"
 
+#include "server/worker/pixels/SampleRange.h"
 #include "server/worker/pixels/VectorCode.h"
 
 #include <algorithm>
@@ -35,7 +35,7 @@ BATCH_VECTOR_CODE void ReduceRow(const float* weights, int taps, const Sample* s
             }
         }
         for (int i = 0; i < size; ++i) {
-            target[begin + i] = SampleOf<Sample>(sums[std::size_t(i)]);
+            target[begin + i] = Rounded<Sample>(sums[std::size_t(i)]);
         }
     }
 }
