@@ -38,7 +38,7 @@ inline const std::vector<EffectCase>& EffectCases()
         {"denoise", R"({"strength": 10})", 60, "convert IN -enhance OUT"},
         {"clarity", R"({"amount": 50})", 20, ""},
         {"vignette", R"({"amount": -60})", 5, ""},
-        {"lut", R"({"file": "warm.cube"})", 5, ""},
+        {"lut", R"({"file": "warm.cube"})", 0, ""},
         {"lut", R"({"file": "warm.cube", "interpolation": "trilinear"})", 0, ""},
         {"rotate", R"({"angle": 3})", 25, "vips rotate IN OUT 3 --interpolate bicubic"},
         {"flip", R"({"direction": "horizontal"})", 0, "vips flip IN OUT horizontal"},

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,8 +17,8 @@
 #include <unistd.h>
 
 /// One complete run of the server: its duration and its peak memory. Prints "seconds S supervisor K worker K cpu S busy
-/// P": memory in KiB, the processor time of supervisor and workers in the run, which depends little on other load, and
-/// its part of what all cores have.
+/// P": memory in KiB; the processor time of supervisor and workers in the run, which depends little on other load; the
+/// part of the run in which cores were busy, with whatever.
 namespace {
 
 constexpr int patience = 3'600'000; // ms
@@ -58,6 +57,29 @@ double ProcessorSeconds(ServerRun& run)
     }
     return seconds;
 }
+
+/// What all cores have done since the machine started, in ticks.
+struct CoreTime
+{
+    qint64 all = 0;
+    qint64 idle = 0;
+
+    static CoreTime Now()
+    {
+        CoreTime time;
+        QFile file(QStringLiteral("/proc/stat"));
+        if (file.open(QIODevice::ReadOnly)) {
+            // "cpu", then user, nice, system, idle, waiting for a disk, and others.
+            const QList<QByteArray> fields = file.readLine().simplified().split(' ');
+            for (int i = 1; i < fields.size(); ++i) {
+                const qint64 ticks = fields.at(i).toLongLong();
+                time.all += ticks;
+                time.idle += i == 4 || i == 5 ? ticks : 0;
+            }
+        }
+        return time;
+    }
+};
 
 void ToReducedJpeg(ZTBatchDocument& job, int side)
 {
@@ -123,6 +145,7 @@ int main(int argc, char** argv)
         }
     });
     const double processorBefore = ProcessorSeconds(run);
+    const CoreTime coresBefore = CoreTime::Now();
     QElapsedTimer clock;
     clock.start();
     run.Process(job);
@@ -132,13 +155,14 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "Not all pictures were written.\n%s\n", qPrintable(run.Report()));
         return 1;
     }
+    const CoreTime cores = CoreTime::Now();
     const double processor = ProcessorSeconds(run) - processorBefore;
+    const double idle = double(cores.idle - coresBefore.idle) / double(cores.all - coresBefore.all);
     qint64 worker = 0;
     for (const qint64 id : run.WorkerIds()) {
         worker = std::max(worker, PeakMemory(id));
     }
     std::printf("seconds %.3f supervisor %lld worker %lld cpu %.2f busy %.3f\n", seconds,
-                PeakMemory(run.Server().processId()), worker, processor,
-                processor / (seconds * QThread::idealThreadCount()));
+                PeakMemory(run.Server().processId()), worker, processor, 1.0 - idle);
     return 0;
 }

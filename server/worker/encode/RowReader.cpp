@@ -18,7 +18,7 @@ RowReader::RowReader(const Picture& picture)
 
 void RowReader::Next(int rows, const Taker& take)
 {
-    constexpr int rowsAtOnce = 64;
+    constexpr int rowsAtOnce = 16;
     const int end = next + rows;
     while (next < end) {
         const VipsRect area{0, next, picture.width(), std::min(rowsAtOnce, end - next)};

@@ -3,6 +3,10 @@
 
 #include "RowSink.h"
 
+#include "RowReader.h"
+
+#include <exception>
+
 namespace BatchWorker {
 
 namespace {
@@ -31,26 +35,54 @@ int TakeRows(VipsRegion* region, VipsRect* area, void* client)
     return 0;
 }
 
-int TakeRegion(VipsRegion* region, void*, void*, void* client, gboolean*)
+struct Reading
 {
-    return TakeRows(region, &region->valid, client);
+    const Picture& picture;
+    const std::function<void(const std::uint8_t* samples)>& take;
+    std::exception_ptr problem;
+};
+
+void* Read(void* client)
+{
+    auto& reading = *static_cast<Reading*>(client);
+    try {
+        RowReader(reading.picture).Next(reading.picture.height(), [&](int, const std::uint8_t* samples) {
+            reading.take(samples);
+        });
+    } catch (...) {
+        reading.problem = std::current_exception();
+    }
+    return nullptr;
+}
+
+/// On one thread of the library, because it keeps the buffers of its own threads and clears new ones on others.
+void ReadOnOneThread(const Picture& picture, const std::function<void(const std::uint8_t* samples)>& take)
+{
+    Reading reading{picture, take, nullptr};
+    GThread* const thread = vips_g_thread_new("rows", Read, &reading);
+    if (!thread) {
+        throw vips::VError();
+    }
+    g_thread_join(thread);
+    if (reading.problem) {
+        std::rethrow_exception(reading.problem);
+    }
 }
 
 } // namespace
 
 void SinkRows(const Picture& picture, const std::function<void(const std::uint8_t* samples)>& take)
 {
-    constexpr int rowsAtOnce = 32;
-    VipsImage* const image = picture.get_image();
-    Sink sink{take};
     // A whole row of what is turned by an angle needs a large part of the source. Such pictures are made in squares,
-    // which the library puts together.
-    const bool isMadeInSquares = image->dhint == VIPS_DEMAND_STYLE_SMALLTILE;
-    const int result =
-        isMadeInSquares ? vips_sink_disc(image, TakeRows, &sink)
-                        : vips_sink_tile(image, image->Xsize, rowsAtOnce, nullptr, TakeRegion, nullptr, nullptr, &sink);
-    if (result != 0) {
-        throw vips::VError();
+    // which the library puts together. For others its threads would only cost time.
+    VipsImage* const image = picture.get_image();
+    if (image->dhint == VIPS_DEMAND_STYLE_SMALLTILE) {
+        Sink sink{take};
+        if (vips_sink_disc(image, TakeRows, &sink) != 0) {
+            throw vips::VError();
+        }
+    } else {
+        ReadOnOneThread(picture, take);
     }
 }
 

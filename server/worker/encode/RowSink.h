@@ -11,8 +11,7 @@
 namespace BatchWorker {
 
 /// Hands the rows of `picture` to `take`, from top to bottom, on the thread that makes them: pixels stay where they
-/// are, and the imaging library keeps the buffers of its own threads, but clears new ones on others. `take` may throw
-/// vips::VError. Throws vips::VError.
+/// are, and nobody waits for another thread. `take` may throw vips::VError. Throws vips::VError.
 void SinkRows(const Picture& picture, const std::function<void(const std::uint8_t* samples)>& take);
 
 } // namespace BatchWorker

@@ -10,12 +10,14 @@
 #include <algorithm>
 #include <cstring>
 #include <immintrin.h>
+#include <type_traits>
 
 namespace BatchWorker {
 
 namespace {
 
 constexpr int bandsAtOnce = 4;
+constexpr int columnsAtOnce = 4;
 constexpr int bytesOfHalf = 16; // of a register; each of the two lines has one
 
 // The instructions that HasVectorUnit() looks for; the rest of the program is compiled without them.
@@ -72,16 +74,27 @@ WITH_VECTOR_UNIT __m256i DenseOrder()
     return _mm256_broadcastsi128_si256(HalfAt(order));
 }
 
-/// The sums of a new column: four bands of the one line, four of the other. `old` begins with its first old column.
-WITH_VECTOR_UNIT inline __m256i SumOf(const __m256i* old, const std::int16_t* weights, int taps)
+/// The sums of new columns that follow each other: of each, four bands of the one line and four of the other. Their
+/// first old columns are `firsts`; `old` begins with the column `begin`.
+template<int columns>
+WITH_VECTOR_UNIT inline void SumUp(const __m256i* old, int begin, const int* firsts, const std::int16_t* weights,
+                                   int taps, __m256i* sums)
 {
-    __m256i sum = _mm256_set1_epi32(ReductionPlan::wholeHalf);
-    for (int tap = 0; tap < taps; tap += 2) {
-        int weightPair = 0;
-        std::memcpy(&weightPair, weights + tap, sizeof(weightPair));
-        sum = _mm256_add_epi32(sum, _mm256_madd_epi16(old[tap], _mm256_set1_epi32(weightPair)));
+    for (int column = 0; column < columns; ++column) {
+        sums[column] = _mm256_set1_epi32(ReductionPlan::wholeHalf);
     }
-    return _mm256_srai_epi32(sum, ReductionPlan::wholeBits);
+    for (int tap = 0; tap < taps; tap += 2) {
+        for (int column = 0; column < columns; ++column) {
+            int weightPair = 0;
+            std::memcpy(&weightPair, weights + column * taps + tap, sizeof(weightPair));
+            const __m256i products =
+                _mm256_madd_epi16(old[firsts[column] - begin + tap], _mm256_set1_epi32(weightPair));
+            sums[column] = _mm256_add_epi32(sums[column], products);
+        }
+    }
+    for (int column = 0; column < columns; ++column) {
+        sums[column] = _mm256_srai_epi32(sums[column], ReductionPlan::wholeBits);
+    }
 }
 
 } // namespace
@@ -123,8 +136,9 @@ WITH_VECTOR_UNIT void ByteColumns::Store(int from, int to, const Targets& target
     const __m256i zero = _mm256_setzero_si256();
     const auto* const loaded = reinterpret_cast<const __m256i*>(neighbours.data());
     const int first = plan.firsts[std::size_t(from)];
-    const auto sumOf = [&](int column) WITH_VECTOR_UNIT {
-        return SumOf(loaded + (plan.firsts[std::size_t(column)] - first), plan.WholeWeights(column), plan.wholeTaps);
+    const auto sumUp = [&](auto columns, int column, __m256i* sums) WITH_VECTOR_UNIT {
+        SumUp<columns>(loaded, first, &plan.firsts[std::size_t(column)], plan.WholeWeights(column), plan.wholeTaps,
+                       sums);
     };
     const auto store = [](const Targets& places, __m256i bytes, std::size_t length) WITH_VECTOR_UNIT {
         const __m128i upper = _mm256_castsi256_si128(bytes);
@@ -136,17 +150,20 @@ WITH_VECTOR_UNIT void ByteColumns::Store(int from, int to, const Targets& target
     int column = from;
     if (bands == count) {
         const __m256i order = DenseOrder<count>();
-        constexpr int atOnce = 4;
-        constexpr std::ptrdiff_t size = std::ptrdiff_t(atOnce) * count;
-        for (; column + atOnce <= to; column += atOnce) {
-            const __m256i left = _mm256_packs_epi32(sumOf(column), sumOf(column + 1));
-            const __m256i right = _mm256_packs_epi32(sumOf(column + 2), sumOf(column + 3));
+        constexpr std::ptrdiff_t size = std::ptrdiff_t(columnsAtOnce) * count;
+        for (; column + columnsAtOnce <= to; column += columnsAtOnce) {
+            __m256i sums[columnsAtOnce];
+            sumUp(std::integral_constant<int, columnsAtOnce>(), column, sums);
+            const __m256i left = _mm256_packs_epi32(sums[0], sums[1]);
+            const __m256i right = _mm256_packs_epi32(sums[2], sums[3]);
             store(places, _mm256_shuffle_epi8(_mm256_packus_epi16(left, right), order), size);
             places = {places[0] + size, places[1] + size};
         }
     }
     for (; column < to; ++column) {
-        store(places, _mm256_packus_epi16(_mm256_packs_epi32(sumOf(column), zero), zero), count);
+        __m256i sum;
+        sumUp(std::integral_constant<int, 1>(), column, &sum);
+        store(places, _mm256_packus_epi16(_mm256_packs_epi32(sum, zero), zero), count);
         places = {places[0] + bands, places[1] + bands};
     }
 }

@@ -21,14 +21,14 @@ class Counter
 public:
     void Add(const Sample* pixels, int count)
     {
-        for (int i = 0; i < count; ++i) {
-            std::uint32_t* const to = counts.data() + (i % 2 != 0 ? channels * values : 0);
-            if (channels == bands || pixels[channels] > 0) {
-                for (std::size_t channel = 0; channel < channels; ++channel) {
-                    ++to[channel * values + pixels[channel]];
-                }
+        int done = 0;
+        for (; done + int(neighbours) <= count; done += int(neighbours)) {
+            for (std::size_t neighbour = 0; neighbour < neighbours; ++neighbour, pixels += bands) {
+                AddPixel(pixels, counts.data() + neighbour * channels * values);
             }
-            pixels += bands;
+        }
+        for (; done < count; ++done, pixels += bands) {
+            AddPixel(pixels, counts.data());
         }
     }
 
@@ -45,7 +45,18 @@ private:
     static constexpr std::size_t channels = bands < 3 ? 1 : 3;
     static constexpr std::size_t values = std::size_t(1) << 8 * sizeof(Sample);
 
-    std::vector<std::uint32_t> counts = std::vector<std::uint32_t>(2 * channels * values);
+    static constexpr std::size_t neighbours = sizeof(Sample) == 1 ? 4 : 2;
+
+    static void AddPixel(const Sample* pixel, std::uint32_t* to)
+    {
+        if (channels == bands || pixel[channels] > 0) {
+            for (std::size_t channel = 0; channel < channels; ++channel) {
+                ++to[channel * values + pixel[channel]];
+            }
+        }
+    }
+
+    std::vector<std::uint32_t> counts = std::vector<std::uint32_t>(neighbours * channels * values);
 };
 
 template<typename Sample, int bands>
