@@ -2223,6 +2223,18 @@
         <source>Let other programs go &amp;first</source>
         <translation>Anderen Programmen den &amp;Vortritt lassen</translation>
     </message>
+    <message>
+        <source>Largest file</source>
+        <translation>Größte Datei</translation>
+    </message>
+    <message>
+        <source>May get smaller</source>
+        <translation>Darf kleiner werden</translation>
+    </message>
+    <message>
+        <source>Least quality</source>
+        <translation>Geringste Qualität</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5317,6 +5329,46 @@
     <message>
         <source>shares the processor equally with other programs; otherwise they come first</source>
         <translation>teilt den Prozessor gleichmäßig mit anderen Programmen; sonst haben diese Vorrang</translation>
+    </message>
+    <message>
+        <source>&quot;maxBytes&quot; lowers the quality, and &quot;lossless&quot; has none</source>
+        <translation>&quot;maxBytes&quot; senkt die Qualität, und &quot;lossless&quot; hat keine</translation>
+    </message>
+    <message>
+        <source>&quot;minQuality&quot; is %1, above &quot;quality&quot;, which is %2</source>
+        <translation>&quot;minQuality&quot; ist %1 und damit höher als &quot;quality&quot; mit %2</translation>
+    </message>
+    <message>
+        <source>the largest file; the best quality up to &quot;quality&quot; is found whose file is not larger</source>
+        <translation>die größte Datei; gesucht wird die beste Qualität bis &quot;quality&quot;, deren Datei nicht größer ist</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>what &quot;maxBytes&quot; may lower the quality to</source>
+        <translation>wie weit &quot;maxBytes&quot; die Qualität senken darf</translation>
+    </message>
+    <message>
+        <source>makes pictures smaller where &quot;minQuality&quot; is not enough for &quot;maxBytes&quot;</source>
+        <translation>verkleinert Bilder, bei denen &quot;minQuality&quot; für &quot;maxBytes&quot; nicht reicht</translation>
+    </message>
+    <message>
+        <source>the file would have %1 bytes with quality %2 and %3 x %4 pixels; at most %5 bytes are wanted</source>
+        <translation>die Datei hätte %1 Bytes mit Qualität %2 und %3 x %4 Pixeln; gewünscht sind höchstens %5 Bytes</translation>
+    </message>
+    <message>
+        <source>the size of %1 files follows from their pixels; %2 can have a limit</source>
+        <translation>die Größe von %1-Dateien folgt aus ihren Pixeln; begrenzen lassen sich %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of bytes; write it like 500kB, 1.5MB or 300KiB</source>
+        <translation>&quot;%1&quot; ist keine Zahl von Bytes; Schreibweise: 500kB, 1.5MB oder 300KiB</translation>
+    </message>
+    <message>
+        <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
+        <translation>die größte Datei, etwa 500kB; gesucht wird die beste Qualität, die nicht größer ist. Die Formatoptionen minQuality und mayShrink sagen, wie weit das gehen darf</translation>
     </message>
 </context>
 </TS>

@@ -2223,6 +2223,18 @@
         <source>Let other programs go &amp;first</source>
         <translation>&amp;Dar prioridad a otros programas</translation>
     </message>
+    <message>
+        <source>Largest file</source>
+        <translation>Archivo más grande</translation>
+    </message>
+    <message>
+        <source>May get smaller</source>
+        <translation>Puede reducirse</translation>
+    </message>
+    <message>
+        <source>Least quality</source>
+        <translation>Calidad mínima</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5317,6 +5329,46 @@
     <message>
         <source>shares the processor equally with other programs; otherwise they come first</source>
         <translation>comparte el procesador por igual con otros programas; si no, estos tienen prioridad</translation>
+    </message>
+    <message>
+        <source>&quot;maxBytes&quot; lowers the quality, and &quot;lossless&quot; has none</source>
+        <translation>&quot;maxBytes&quot; baja la calidad, y &quot;lossless&quot; no tiene</translation>
+    </message>
+    <message>
+        <source>&quot;minQuality&quot; is %1, above &quot;quality&quot;, which is %2</source>
+        <translation>&quot;minQuality&quot; es %1, más que &quot;quality&quot;, que es %2</translation>
+    </message>
+    <message>
+        <source>the largest file; the best quality up to &quot;quality&quot; is found whose file is not larger</source>
+        <translation>el archivo más grande; se busca la mejor calidad hasta &quot;quality&quot; cuyo archivo no sea mayor</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>what &quot;maxBytes&quot; may lower the quality to</source>
+        <translation>hasta dónde puede bajar la calidad &quot;maxBytes&quot;</translation>
+    </message>
+    <message>
+        <source>makes pictures smaller where &quot;minQuality&quot; is not enough for &quot;maxBytes&quot;</source>
+        <translation>reduce las imágenes en las que &quot;minQuality&quot; no basta para &quot;maxBytes&quot;</translation>
+    </message>
+    <message>
+        <source>the file would have %1 bytes with quality %2 and %3 x %4 pixels; at most %5 bytes are wanted</source>
+        <translation>el archivo tendría %1 bytes con calidad %2 y %3 x %4 píxeles; se quieren como máximo %5 bytes</translation>
+    </message>
+    <message>
+        <source>the size of %1 files follows from their pixels; %2 can have a limit</source>
+        <translation>el tamaño de los archivos %1 depende de sus píxeles; se pueden limitar %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of bytes; write it like 500kB, 1.5MB or 300KiB</source>
+        <translation>&quot;%1&quot; no es un número de bytes; escríbalo como 500kB, 1.5MB o 300KiB</translation>
+    </message>
+    <message>
+        <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
+        <translation>el archivo más grande, por ejemplo 500kB; se busca la mejor calidad que no sea mayor. Las opciones de formato minQuality y mayShrink dicen hasta dónde</translation>
     </message>
 </context>
 </TS>

@@ -2223,6 +2223,18 @@
         <source>Let other programs go &amp;first</source>
         <translation>Laisser la &amp;priorité aux autres programmes</translation>
     </message>
+    <message>
+        <source>Largest file</source>
+        <translation>Plus grand fichier</translation>
+    </message>
+    <message>
+        <source>May get smaller</source>
+        <translation>Peut être réduite</translation>
+    </message>
+    <message>
+        <source>Least quality</source>
+        <translation>Qualité minimale</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5317,6 +5329,46 @@
     <message>
         <source>shares the processor equally with other programs; otherwise they come first</source>
         <translation>partage le processeur à égalité avec les autres programmes ; sinon, ceux-ci passent d&apos;abord</translation>
+    </message>
+    <message>
+        <source>&quot;maxBytes&quot; lowers the quality, and &quot;lossless&quot; has none</source>
+        <translation>&quot;maxBytes&quot; baisse la qualité, et &quot;lossless&quot; n&apos;en a pas</translation>
+    </message>
+    <message>
+        <source>&quot;minQuality&quot; is %1, above &quot;quality&quot;, which is %2</source>
+        <translation>&quot;minQuality&quot; vaut %1, plus que &quot;quality&quot;, qui vaut %2</translation>
+    </message>
+    <message>
+        <source>the largest file; the best quality up to &quot;quality&quot; is found whose file is not larger</source>
+        <translation>le plus grand fichier ; la meilleure qualité jusqu&apos;à &quot;quality&quot; dont le fichier n&apos;est pas plus grand est cherchée</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>octets</translation>
+    </message>
+    <message>
+        <source>what &quot;maxBytes&quot; may lower the quality to</source>
+        <translation>jusqu&apos;où &quot;maxBytes&quot; peut baisser la qualité</translation>
+    </message>
+    <message>
+        <source>makes pictures smaller where &quot;minQuality&quot; is not enough for &quot;maxBytes&quot;</source>
+        <translation>réduit les images pour lesquelles &quot;minQuality&quot; ne suffit pas à &quot;maxBytes&quot;</translation>
+    </message>
+    <message>
+        <source>the file would have %1 bytes with quality %2 and %3 x %4 pixels; at most %5 bytes are wanted</source>
+        <translation>le fichier aurait %1 octets avec la qualité %2 et %3 x %4 pixels ; au plus %5 octets sont voulus</translation>
+    </message>
+    <message>
+        <source>the size of %1 files follows from their pixels; %2 can have a limit</source>
+        <translation>la taille des fichiers %1 dépend de leurs pixels ; %2 peuvent avoir une limite</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of bytes; write it like 500kB, 1.5MB or 300KiB</source>
+        <translation>&quot;%1&quot; n&apos;est pas un nombre d&apos;octets ; écrivez-le comme 500kB, 1.5MB ou 300KiB</translation>
+    </message>
+    <message>
+        <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
+        <translation>le plus grand fichier, par exemple 500kB ; la meilleure qualité qui n&apos;est pas plus grande est cherchée. Les options de format minQuality et mayShrink disent jusqu&apos;où</translation>
     </message>
 </context>
 </TS>

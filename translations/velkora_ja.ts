@@ -2223,6 +2223,18 @@
         <source>Let other programs go &amp;first</source>
         <translation>ほかのプログラムを優先する(&amp;F)</translation>
     </message>
+    <message>
+        <source>Largest file</source>
+        <translation>最大ファイルサイズ</translation>
+    </message>
+    <message>
+        <source>May get smaller</source>
+        <translation>縮小を許可</translation>
+    </message>
+    <message>
+        <source>Least quality</source>
+        <translation>最低品質</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5317,6 +5329,46 @@
     <message>
         <source>shares the processor equally with other programs; otherwise they come first</source>
         <translation>ほかのプログラムとプロセッサを対等に分け合います。指定しないと、ほかのプログラムが優先されます</translation>
+    </message>
+    <message>
+        <source>&quot;maxBytes&quot; lowers the quality, and &quot;lossless&quot; has none</source>
+        <translation>&quot;maxBytes&quot; は品質を下げますが、&quot;lossless&quot; に品質はありません</translation>
+    </message>
+    <message>
+        <source>&quot;minQuality&quot; is %1, above &quot;quality&quot;, which is %2</source>
+        <translation>&quot;minQuality&quot; は %1 で、&quot;quality&quot; の %2 を超えています</translation>
+    </message>
+    <message>
+        <source>the largest file; the best quality up to &quot;quality&quot; is found whose file is not larger</source>
+        <translation>ファイルの最大の大きさ。これを超えない最良の品質を &quot;quality&quot; までの範囲で探します</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>what &quot;maxBytes&quot; may lower the quality to</source>
+        <translation>&quot;maxBytes&quot; が品質を下げてよい下限</translation>
+    </message>
+    <message>
+        <source>makes pictures smaller where &quot;minQuality&quot; is not enough for &quot;maxBytes&quot;</source>
+        <translation>&quot;minQuality&quot; でも &quot;maxBytes&quot; に収まらない画像を縮小します</translation>
+    </message>
+    <message>
+        <source>the file would have %1 bytes with quality %2 and %3 x %4 pixels; at most %5 bytes are wanted</source>
+        <translation>品質 %2、%3 x %4 ピクセルではファイルが %1 バイトになります。上限は %5 バイトです</translation>
+    </message>
+    <message>
+        <source>the size of %1 files follows from their pixels; %2 can have a limit</source>
+        <translation>%1 ファイルの大きさは画素で決まります。上限を設けられるのは %2 です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of bytes; write it like 500kB, 1.5MB or 300KiB</source>
+        <translation>&quot;%1&quot; はバイト数ではありません。500kB、1.5MB、300KiB のように書いてください</translation>
+    </message>
+    <message>
+        <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
+        <translation>ファイルの最大の大きさ（例: 500kB）。これを超えない最良の品質を探します。どこまで許すかは形式のオプション minQuality と mayShrink で決めます</translation>
     </message>
 </context>
 </TS>

@@ -22,9 +22,9 @@ FormatSchema AvifFormat()
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;
-    format.options =
-        WithCommonOptions({Quality(65), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
-                           Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions(
+        WithByteLimit({Quality(65), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
+                       Effort(2), ChromaSubsampling(), BitDepth(format.bitDepths)}));
     return format;
 }
 

@@ -5,6 +5,7 @@
 
 #include "job/values/Phrase.h"
 
+#include "ByteLimit.h"
 #include "FormatCatalog.h"
 
 #include "ZTBatchOutputSettings.h"
@@ -50,6 +51,12 @@ QString DepthError(const FormatSchema& format, int depth)
         .arg(format.name, depths.join(QStringLiteral(", ")));
 }
 
+CheckedParameters WithinLimit(const CheckedParameters& checked)
+{
+    const QString error = ByteLimitError(checked.values);
+    return error.isEmpty() ? checked : CheckedParameters{{}, error};
+}
+
 CheckedParameters CheckOptionsOfOriginals(const QByteArray& options)
 {
     CheckedParameters checked = CheckParameters(OptionsOfAllFormats(), options);
@@ -60,7 +67,7 @@ CheckedParameters CheckOptionsOfOriginals(const QByteArray& options)
     if (depth.isDouble() && !isKnown) {
         return {{}, Phrase::English("\"bitDepth\" is %1; it must be 8, 10, 12 or 16").arg(depth.toInt())};
     }
-    return checked;
+    return WithinLimit(checked);
 }
 
 } // namespace
@@ -91,7 +98,7 @@ CheckedParameters CheckFormatOptions(const QString& format, const QByteArray& op
     if (depth.isDouble() && !BitDepthsFor(*schema, checked.values).contains(depth.toInt())) {
         return {{}, Phrase::English("\"bitDepth\" is %1; \"compression\" jpeg takes 8").arg(depth.toInt())};
     }
-    return checked;
+    return WithinLimit(checked);
 }
 
 QJsonObject OptionsFor(const FormatSchema& format, const QJsonObject& accepted)

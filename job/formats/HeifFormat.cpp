@@ -24,9 +24,9 @@ FormatSchema HeifFormat()
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;
-    format.options = WithCommonOptions(
+    format.options = WithCommonOptions(WithByteLimit(
         {Quality(80), Lossless(Phrase::Marked("keep every pixel, but for a last step of rounding")),
-         Effort(0, Phrase::Marked("higher is slower and better")), ChromaSubsampling(), BitDepth(format.bitDepths)});
+         Effort(0, Phrase::Marked("higher is slower and better")), ChromaSubsampling(), BitDepth(format.bitDepths)}));
     return format;
 }
 

@@ -25,8 +25,9 @@ FormatSchema Jpeg2000Format()
     format.metadata.reading = MetadataReading::FromIdentifiedBoxes;
     format.metadata.writing = MetadataWriting::AfterEncoding;
     format.metadata.isProfileInDecoder = false;
-    format.options = WithCommonOptions({Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")),
-                                        ChromaSubsampling(), BitDepth(format.bitDepths)});
+    format.options =
+        WithCommonOptions(WithByteLimit({Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")),
+                                         ChromaSubsampling(), BitDepth(format.bitDepths)}));
     return format;
 }
 

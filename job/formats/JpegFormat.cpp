@@ -27,7 +27,7 @@ FormatSchema JpegFormat()
     format.metadata.holdsIptc = true;
     format.metadata.longestBlock = 65'000; // what one segment holds, less its headers
     format.metadata.shortestProfile = 128; // the header of a profile
-    format.options = WithCommonOptions({Quality(85), Progressive(), ChromaSubsampling()});
+    format.options = WithCommonOptions(WithByteLimit({Quality(85), Progressive(), ChromaSubsampling()}));
     return format;
 }
 

@@ -24,8 +24,8 @@ FormatSchema JpegXlFormat()
     format.metadata.isProfileRewritten = true;
     format.metadata.reading = MetadataReading::FromBoxes;
     format.metadata.writing = MetadataWriting::BeforePixels;
-    format.options = WithCommonOptions(
-        {Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")), Effort(7), BitDepth(format.bitDepths)});
+    format.options = WithCommonOptions(WithByteLimit(
+        {Quality(85), Lossless(Phrase::Marked("keep every pixel as it is")), Effort(7), BitDepth(format.bitDepths)}));
     return format;
 }
 

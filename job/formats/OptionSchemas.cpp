@@ -81,6 +81,39 @@ ParameterSchema BitDepth(const QVector<int>& depths)
             {}};
 }
 
+QVector<ParameterSchema> WithByteLimit(QVector<ParameterSchema> own)
+{
+    constexpr int leastBytes = 100;
+    constexpr int mostBytes = 2'000'000'000;
+    constexpr int usualQuality = 30;
+    own.append(
+        {Text("maxBytes"),
+         ParameterType::Integer,
+         QJsonValue(QJsonValue::Undefined),
+         Phrase::English("the largest file; the best quality up to \"quality\" is found whose file is not larger"),
+         leastBytes,
+         mostBytes,
+         Phrase::English("bytes"),
+         {}});
+    own.append({Text("minQuality"),
+                ParameterType::Integer,
+                usualQuality,
+                Phrase::English("what \"maxBytes\" may lower the quality to"),
+                1,
+                100,
+                {},
+                {}});
+    own.append({Text("mayShrink"),
+                ParameterType::Truth,
+                false,
+                Phrase::English("makes pictures smaller where \"minQuality\" is not enough for \"maxBytes\""),
+                0,
+                0,
+                {},
+                {}});
+    return own;
+}
+
 QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own)
 {
     // "copyright" is a part of the others.

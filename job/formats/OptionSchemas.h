@@ -21,6 +21,9 @@ ParameterSchema Progressive();
 ParameterSchema ChromaSubsampling();
 ParameterSchema BitDepth(const QVector<int>& depths);
 
+/// `own`, followed by those of a limit in bytes, for formats with a quality, see ByteLimit.
+QVector<ParameterSchema> WithByteLimit(QVector<ParameterSchema> own);
+
 /// `own`, followed by the options that every format takes.
 QVector<ParameterSchema> WithCommonOptions(QVector<ParameterSchema> own);
 

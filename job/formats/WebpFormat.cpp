@@ -21,8 +21,8 @@ FormatSchema WebpFormat()
     format.pages = FormatPages::Frames;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.exifRemoval = ExifRemoval::CutOut;
-    format.options =
-        WithCommonOptions({Quality(80), Lossless(Phrase::Marked("keep every pixel that can be seen")), Effort(4)});
+    format.options = WithCommonOptions(
+        WithByteLimit({Quality(80), Lossless(Phrase::Marked("keep every pixel that can be seen")), Effort(4)}));
     return format;
 }
 

@@ -41,6 +41,8 @@ constexpr std::array foreignOptions{
     ForeignOption{"--output-format --type --ext --extension --convert --convert-to", "--format", "--format %1",
                   "FORMAT"},
     ForeignOption{"--progressive --interlace", "--format-option", "--format-option progressive=true", ""},
+    ForeignOption{"--max-bytes --max-filesize --max-file-size --size-limit --target-size --filesize --limit",
+                  "--max-size", "--max-size %1", "500kB"},
     ForeignOption{"--lossless", "--format-option", "--format-option lossless=true", ""},
     ForeignOption{
         "--compression --compress", "--format-option",

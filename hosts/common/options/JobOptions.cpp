@@ -3,6 +3,7 @@
 
 #include "JobOptions.h"
 
+#include "ByteLimitOption.h"
 #include "CropTexts.h"
 #include "FormatNames.h"
 #include "LengthTexts.h"
@@ -220,6 +221,7 @@ QVector<JobOption> OutputOptions()
              return FormatOptionTexts(options);
          }},
         QualityOption(),
+        ByteLimitOption(),
         {{Text("--icc"), Text("FILE"),
           Phrase::English("an ICC profile to convert results to and to embed; none keeps each input's own"), group,
           false, Completion::Files},

@@ -10,6 +10,7 @@
 #include "ResultCheck.h"
 #include "ResultColours.h"
 
+#include "job/formats/ByteLimit.h"
 #include "job/formats/FormatCatalog.h"
 #include "job/formats/FormatOptions.h"
 #include "job/formats/NearestFormat.h"
@@ -18,6 +19,7 @@
 #include "server/worker/colour/ColourProfile.h"
 #include "server/worker/decode/PictureSource.h"
 #include "server/worker/encode/Encoder.h"
+#include "server/worker/encode/QualitySearch.h"
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
@@ -32,6 +34,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cmath>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -62,6 +65,7 @@ public:
         , task(task)
         , format(format)
         , options(OptionsFor(format, job.formatOptions))
+        , limit(ByteLimit::Of(options))
         , keep(KeptMetadata(options))
         , colours(job, format, keep)
         , source(task.inputFile, limits)
@@ -70,7 +74,6 @@ public:
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
         OrientBy(metadata, source);
         made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
-        made.facts.quality = QualityUsed(options);
         WarnOfGainMap();
         metadata.KeepOnly(keep, made.warnings);
     }
@@ -86,6 +89,9 @@ private:
     Picture Decoded(int shrink);
     Picture Framed(const Picture& picture);
     void Write(const Picture& picture);
+    qint64 WriteAt(int quality, const Picture& picture);
+    void WriteWithin(const ByteLimit& limit, const Picture& picture);
+    void WriteSmaller(const ByteLimit& limit, const Picture& picture, qint64 bytes);
     void KeepFileTime() const;
     bool IsProcessed() const { return !job.effects.isEmpty() || job.framing.state; }
 
@@ -94,6 +100,7 @@ private:
     const PictureTask& task;
     const FormatSchema& format;
     QJsonObject options;
+    const std::optional<ByteLimit> limit;
     QStringList keep;
     ResultColours colours;
     PictureSource source;
@@ -126,11 +133,12 @@ void PictureRun::MakeFile()
         const int bits = ResultDepth(format, options, HasSixteenBits(framed));
         const Picture ready = colours.Of(framed, bits, made.warnings);
         RequireFormatHolds(format, options, ready, source.Format().name);
-        made.file = std::make_unique<TemporaryFile>(task.outputFile, task.outputRoot);
-        if (!made.file->Create()) {
-            throw OutputFailed(made.file->Error());
+        const Picture last = ReadyFor(format, options, ready);
+        if (limit) {
+            WriteWithin(*limit, WithRandomAccess(last));
+        } else {
+            Write(last);
         }
-        Write(ReadyFor(format, options, ready));
     } catch (const vips::VError& problem) {
         throw CauseOf(problem, source, IsProcessed(), format);
     }
@@ -201,13 +209,84 @@ Picture PictureRun::Framed(const Picture& picture)
 
 void PictureRun::Write(const Picture& picture)
 {
+    made.file = std::make_unique<TemporaryFile>(task.outputFile, task.outputRoot);
+    if (!made.file->Create()) {
+        throw OutputFailed(made.file->Error());
+    }
     profile = ProfileOf(picture);
     made.facts.outputSize = QSize(picture.width(), picture.height());
+    made.facts.quality = QualityUsed(options);
     metadata.DescribeResult(made.facts.outputSize, std::max(1, job.imageSize.resolution),
                             profile.isEmpty() || IsSrgb(profile));
     const Picture carrier = WithMetadata(picture, format, metadata, made.warnings);
     Encode(carrier, format, options, BytesBefore(format, metadata), made.file->Descriptor());
     CompleteFile(made.file->OpenPath(), format, metadata, profile, made.warnings);
+}
+
+/// The bytes of the whole file.
+qint64 PictureRun::WriteAt(int quality, const Picture& picture)
+{
+    options.insert(QStringLiteral("quality"), quality);
+    Write(picture);
+    struct stat status = {};
+    fstat(made.file->Descriptor(), &status);
+    return status.st_size;
+}
+
+/// `picture` is read once for each attempt. Two files exist meanwhile: the best one so far is not written again.
+void PictureRun::WriteWithin(const ByteLimit& limit, const Picture& picture)
+{
+    MadePicture best;
+    const Warnings ofPixels = made.warnings;
+    qint64 smallest = 0;
+    QualitySearch search(limit.leastQuality, limit.quality);
+    while (const std::optional<int> quality = search.Next()) {
+        made.warnings = ofPixels;
+        const qint64 bytes = WriteAt(*quality, picture);
+        search.Note(bytes <= limit.bytes);
+        smallest = bytes;
+        if (bytes <= limit.bytes) {
+            best = std::move(made);
+            made.facts = best.facts;
+        }
+    }
+    if (best.file) {
+        made = std::move(best);
+        return;
+    }
+    made.warnings = ofPixels;
+    WriteSmaller(limit, picture, smallest);
+}
+
+/// `bytes` are those of the file in full size with the least quality.
+void PictureRun::WriteSmaller(const ByteLimit& limit, const Picture& picture, qint64 bytes)
+{
+    // A tenth less on each side is a fifth less to write.
+    constexpr double step = 0.9;
+    const QSize size(picture.width(), picture.height());
+    const Warnings ofPixels = made.warnings;
+    QSize smaller = size;
+    int steps = 0;
+    while (limit.mayShrink && bytes > limit.bytes && smaller.width() > 1 && smaller.height() > 1) {
+        const double wanted = std::log(double(limit.bytes) / double(bytes)) / (2.0 * std::log(step));
+        steps += std::max(1, int(wanted));
+        const double scale = std::pow(step, steps);
+        smaller = QSize(std::max(1, int(std::lround(size.width() * scale))),
+                        std::max(1, int(std::lround(size.height() * scale))));
+        made.warnings = ofPixels;
+        bytes = WriteAt(limit.leastQuality, Resampled(picture, size, {QRect({}, size), smaller, QRect({}, smaller)}));
+    }
+    if (bytes > limit.bytes) {
+        throw FormatCannotHold(
+            Phrase::English("the file would have %1 bytes with quality %2 and %3 x %4 pixels; at most "
+                            "%5 bytes are wanted")
+                .arg(bytes)
+                .arg(limit.leastQuality)
+                .arg(smaller.width())
+                .arg(smaller.height())
+                .arg(limit.bytes),
+            QString());
+    }
 }
 
 void PictureRun::KeepFileTime() const

@@ -142,9 +142,19 @@ void tst_FormatCatalog::checksOptions_data()
     row("JPEG", "{\"quality\":100,\"progressive\":true,\"chromaSubsampling\":\"4:2:0\"}", "");
     row("JPEG", "{\"quality\":0}", "\"quality\" is 0; it must be a whole number from 1 to 100");
     row("JPEG", "{\"lossless\":true}",
-        "\"lossless\" is unknown; known are quality, progressive, chromaSubsampling, keep, background, keepFileTime");
+        "\"lossless\" is unknown; known are quality, progressive, chromaSubsampling, maxBytes, minQuality, mayShrink, "
+        "keep, background, keepFileTime");
     row("JPEG", "{\"bitDepth\":8}",
-        "\"bitDepth\" is unknown; known are quality, progressive, chromaSubsampling, keep, background, keepFileTime");
+        "\"bitDepth\" is unknown; known are quality, progressive, chromaSubsampling, maxBytes, minQuality, mayShrink, "
+        "keep, background, keepFileTime");
+    row("JPEG", "{\"maxBytes\":500000,\"minQuality\":40,\"mayShrink\":true}", "");
+    row("JPEG", "{\"maxBytes\":0}", "\"maxBytes\" is 0; it must be a whole number from 100 to 2000000000 (bytes)");
+    row("JPEG", "{\"maxBytes\":500000,\"minQuality\":90}", "\"minQuality\" is 90, above \"quality\", which is 85");
+    row("JPEG", "{\"minQuality\":90}", "");
+    row("WebP", "{\"maxBytes\":500000,\"lossless\":true}",
+        "\"maxBytes\" lowers the quality, and \"lossless\" has none");
+    row("Original", "{\"maxBytes\":500000,\"lossless\":true}",
+        "\"maxBytes\" lowers the quality, and \"lossless\" has none");
     row("JPEG", "{\"keep\":[\"exif\",\"icc\"],\"background\":\"#102030\",\"keepFileTime\":true}", "");
     row("JPEG", "{\"keep\":[\"maker\"]}",
         "\"keep\" is [\"maker\"]; it must be a list of exif, gps, iptc, xmp, icc, copyright");

@@ -30,6 +30,10 @@ private Q_SLOTS:
     void contradictionsAreRefused();
     void optionsThatGoTogether_data();
     void optionsThatGoTogether();
+    void sizesOfFiles_data();
+    void sizesOfFiles();
+    void sizesOfFilesThatAreUnclear_data();
+    void sizesOfFilesThatAreUnclear();
     void switchesTakeNoValue_data();
     void switchesTakeNoValue();
     void coloursHaveNames_data();
@@ -309,6 +313,63 @@ void tst_CliValues::optionsThatGoTogether()
     QVERIFY2(create.exitCode == 0, create.err.constData());
     const CliRun run = Run(QStringLiteral("create - --from job.xml ") + options);
     QVERIFY2(run.exitCode == 0, run.err.constData());
+}
+
+void tst_CliValues::sizesOfFiles_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("bytes");
+    const auto row = [](const char* text, int bytes) { QTest::newRow(text) << QString::fromLatin1(text) << bytes; };
+    row("250000", 250'000);
+    row("250000B", 250'000);
+    row("500kB", 500'000);
+    row("500KB", 500'000);
+    row("500k", 500'000);
+    row("1.5MB", 1'500'000);
+    row("2M", 2'000'000);
+    row("1GB", 1'000'000'000);
+    row("300KiB", 307'200);
+    row("1MiB", 1'048'576);
+}
+
+void tst_CliValues::sizesOfFiles()
+{
+    QFETCH(QString, text);
+    QFETCH(int, bytes);
+    const CliRun run = Create(QStringLiteral("-f jpeg --max-size ") + text);
+    ZTBatchDocument job;
+    QVERIFY2(Read(run, job), run.err.constData());
+    QString format;
+    QByteArray options;
+    job.GetOutputSettings()->GetFormat(format, options);
+    QCOMPARE(QString::fromUtf8(options), QStringLiteral("{\"maxBytes\":%1}").arg(bytes));
+}
+
+void tst_CliValues::sizesOfFilesThatAreUnclear_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* arguments, const char* text) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(text);
+    };
+    row("-f jpeg --max-size small", "\"small\" is no number of bytes; write it like 500kB, 1.5MB or 300KiB");
+    row("-f jpeg --max-size -5kB", "\"-5kB\" is no number of bytes");
+    row("-f jpeg --max-size 1,5MB", "\"1,5MB\" is no number of bytes");
+    row("-f jpeg --max-size 5iB", "\"5iB\" is no number of bytes");
+    row("-f jpeg --max-size 10", "it must be a whole number from 100 to 2000000000 (bytes)");
+    row("-f jpeg --max-size 5GB", "it must be a whole number from 100 to 2000000000 (bytes)");
+    row("-f png --max-size 500kB", "the size of PNG files follows from their pixels; JPEG, WebP");
+    row("-f webp --max-size 500kB --format-option lossless=yes", "\"maxBytes\" lowers the quality");
+}
+
+void tst_CliValues::sizesOfFilesThatAreUnclear()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, text);
+    const CliRun run = Create(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY(run.out.isEmpty());
+    QVERIFY2(run.Err().contains(text), run.err.constData());
 }
 
 void tst_CliValues::switchesTakeNoValue_data()

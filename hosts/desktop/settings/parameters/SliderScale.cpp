@@ -94,8 +94,16 @@ int SliderScale::PositionOf(double value) const
     const double offset = Offset(low, maximum);
     const double share =
         std::log((std::abs(held) + offset) / (low + offset)) / std::log((maximum + offset) / (low + offset));
-    const int position = qRound(share * widePositions);
-    return std::clamp(isBothWays && held < 0 ? -position : position, first, last);
+    const int position = qRound(share * widePositions) * (isBothWays && held < 0 ? -1 : 1);
+    // Values are rounded, so a neighbour may stand for a nearer one.
+    const auto distance = [&](int other) { return std::abs(ValueAt(other) - held); };
+    int nearest = std::clamp(position, first, last);
+    for (const int neighbour : {position - 1, position + 1}) {
+        if (neighbour >= first && neighbour <= last && distance(neighbour) < distance(nearest)) {
+            nearest = neighbour;
+        }
+    }
+    return nearest;
 }
 
 } // namespace BatchDesktop

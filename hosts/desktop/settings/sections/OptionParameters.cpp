@@ -5,6 +5,7 @@
 
 #include "hosts/common/Language.h"
 #include "hosts/desktop/settings/parameters/ParameterValues.h"
+#include "hosts/desktop/settings/parameters/SliderScale.h"
 #include "job/formats/FormatCatalog.h"
 #include "job/formats/FormatOptions.h"
 
@@ -66,7 +67,13 @@ ParameterRow RowOfOption(const Settings& settings, const ParameterSchema& option
     } else if (option.type == ParameterType::Truth) {
         row.choices = NotSetOr({{true, Messages::tr("Yes")}, {false, Messages::tr("No")}});
     } else if (option.type == ParameterType::Integer && row.firstValue.isUndefined()) {
-        row.choices = NotSetOr(TakenNumbers(settings, option));
+        constexpr double shortRange = 100;
+        if (option.maximum - option.minimum < shortRange) {
+            row.choices = NotSetOr(TakenNumbers(settings, option));
+        } else {
+            const SliderScale scale(option.minimum, option.maximum, true);
+            row.firstValue = scale.ValueAt((scale.Minimum() + scale.Maximum()) / 2);
+        }
     }
     return row;
 }
