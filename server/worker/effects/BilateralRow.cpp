@@ -50,7 +50,7 @@ BATCH_VECTOR_CODE void Smooth(const BilateralWeights& weights, const RowPlanes& 
                 Lanes exponent = *exponents - squares * weights.FallOff();
                 Lanes weight;
                 RaiseTwo(exponent, weight);
-                reinterpret_cast<WholeLanes&>(weight) &= squares < weights.LargestSquares();
+                reinterpret_cast<WholeLanes&>(weight) &= static_cast<WholeLanes>(squares < weights.LargestSquares());
                 if (hasAlpha) {
                     weight *= LanesAt(neighbour + colours * distance);
                 }

@@ -65,7 +65,7 @@ public:
     /// `readsSource` says whether Samples() are asked for.
     EnlargedRows(std::shared_ptr<const SmallCopy> copy, BlurValues values, bool readsSource);
 
-    bool Take(VipsRegion* source, const VipsRect& area) override;
+    bool Take(VipsRegion* from, const VipsRect& area) override;
     void Give(int x, int y, int count, float* values) override;
     const VipsPel* Samples(int x, int y) override;
 

@@ -25,6 +25,19 @@ namespace {
 
 constexpr int bandsOfCmyk = 4;
 
+/// Is destroyed too when the constructor of its owner fails.
+struct Encoder : jpeg_compress_struct
+{
+    Encoder()
+        : jpeg_compress_struct{}
+    {
+    }
+    ~Encoder() { jpeg_destroy_compress(this); }
+
+private:
+    Q_DISABLE_COPY(Encoder)
+};
+
 /// The encoder of one file. It leaves its functions by a jump, so whatever calls one goes through Call(), and has
 /// nothing to destroy.
 class JpegEncoding
@@ -46,7 +59,6 @@ public:
             jpeg_start_compress(&encoder, TRUE);
         });
     }
-    ~JpegEncoding() { jpeg_destroy_compress(&encoder); }
 
     void AddSegment(int marker, const QByteArray& bytes)
     {
@@ -157,7 +169,7 @@ private:
     vips::VTarget target;
     bool isInverted;
     std::vector<JSAMPLE> inverted;
-    jpeg_compress_struct encoder{};
+    Encoder encoder;
     jpeg_error_mgr errors{};
     jpeg_destination_mgr destination{};
     std::jmp_buf givingUp{};

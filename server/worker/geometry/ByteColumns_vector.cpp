@@ -86,7 +86,7 @@ WITH_VECTOR_UNIT inline void SumUp(const __m256i* old, int begin, const int* fir
     for (int tap = 0; tap < taps; tap += 2) {
         for (int column = 0; column < columns; ++column) {
             int weightPair = 0;
-            std::memcpy(&weightPair, weights + column * taps + tap, sizeof(weightPair));
+            std::memcpy(&weightPair, weights + std::ptrdiff_t(column) * taps + tap, sizeof(weightPair));
             const __m256i products =
                 _mm256_madd_epi16(old[firsts[column] - begin + tap], _mm256_set1_epi32(weightPair));
             sums[column] = _mm256_add_epi32(sums[column], products);

@@ -9,8 +9,9 @@ namespace BatchWorker {
 
 /// Values that a wide vector register takes at a time; narrow ones take them in two halves. They may lie anywhere.
 using Lanes = float __attribute__((vector_size(32), aligned(4), may_alias));
-/// Whole numbers in the same places, such as the bits of values.
-using WholeLanes = std::int32_t __attribute__((vector_size(32), aligned(4), may_alias));
+/// Whole numbers in the same places, such as the bits of values. Like all without a sign, they overflow as processors
+/// do.
+using WholeLanes = std::uint32_t __attribute__((vector_size(32), aligned(4), may_alias));
 
 constexpr int laneCount = sizeof(Lanes) / sizeof(float);
 

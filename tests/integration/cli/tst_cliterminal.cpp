@@ -81,14 +81,15 @@ void tst_CliTerminal::cleanup()
 
 void tst_CliTerminal::progressIsOneLine()
 {
-    PseudoTerminal terminal(program, Arguments(QStringLiteral("run photos -o out")));
+    WriteMany();
+    PseudoTerminal terminal(program, Arguments(QStringLiteral("run many -o out")));
     QCOMPARE(terminal.ExitCode(), 0);
     const QByteArray screen = terminal.Output();
     QVERIFY2(screen.contains("\r\033[K["), screen.constData());
-    QVERIFY2(screen.contains(".] 0/3") || screen.contains("#] ") || screen.contains("/3 "), screen.constData());
+    QVERIFY2(screen.contains(".] 0/40") || screen.contains("#] ") || screen.contains("/40 "), screen.constData());
     QVERIFY2(screen.contains("\033[32mWritten"), screen.constData());
     QVERIFY2(!screen.contains("nobody can be asked"), screen.constData());
-    QCOMPARE(Results().size(), 3);
+    QCOMPARE(Results().size(), 40);
 }
 
 void tst_CliTerminal::narrowTerminal()
