@@ -7,8 +7,8 @@
 
 namespace BatchSupervisor {
 
-/// The descriptor of the socket that listens on the pipe already because the host made it, see HostPipe; -1 when there
-/// is none. To be called once, before other processes are started: they neither inherit the socket nor hear of it.
+/// The descriptor of the listening socket that the host made for this pipe, see HostPipe; -1 when it made none. Call it
+/// once, before any other process is started: the socket and its variable are not passed on.
 int TakePipeOfHost(const QString& pipeName);
 
 } // namespace BatchSupervisor

@@ -350,7 +350,7 @@ ParsedArguments ParseArguments(const QStringList& arguments, int columns)
     }
     parsed = Collect(command, slots, InputsAmong(app.remaining(), command));
     CheckNames(parsed, command);
-    CheckQuality(parsed);
+    CheckFormatShorthands(parsed);
     if (parsed.Has(QStringLiteral("--help"))) {
         parsed.message = CommandHelp(command, columns);
     } else if (command.name == QLatin1String("help")) {

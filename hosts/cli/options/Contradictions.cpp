@@ -8,6 +8,7 @@
 #include "job/values/Phrase.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace BatchHost;
 
@@ -84,19 +85,19 @@ void CheckContradictions(const ParsedArguments& arguments)
     CheckFrame(arguments);
 }
 
-void CheckQuality(const ParsedArguments& arguments)
+void CheckFormatShorthands(const ParsedArguments& arguments)
 {
-    const QString option = QStringLiteral("--quality");
     const QString formatOption = QStringLiteral("--format-option");
-    if (!arguments.Has(option)) {
-        return;
-    }
-    for (const QString& text : arguments.Values(formatOption)) {
-        const bool isQuality =
-            text.section(QLatin1Char('='), 0, 0).trimmed().compare(QLatin1String("quality"), Qt::CaseInsensitive) == 0;
-        if (isQuality && text.section(QLatin1Char('='), 1) != arguments.Value(option)) {
-            throw RequestError{QStringLiteral("%1 %2 and %3 %4 contradict each other; remove one of them")
-                                   .arg(option, arguments.Value(option), formatOption, text)};
+    const QStringList texts = arguments.Values(formatOption);
+    for (const auto& [option, name] : {std::pair("--quality", "quality"), std::pair("--max-size", "maxBytes")}) {
+        const QString own = QLatin1String(option);
+        for (const QString& text : texts) {
+            const bool isSame =
+                text.section(QLatin1Char('='), 0, 0).trimmed().compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+            if (arguments.Has(own) && isSame && text.section(QLatin1Char('='), 1) != arguments.Value(own)) {
+                throw RequestError{BatchJob::Phrase::English("%1 and %2 contradict each other; remove one of them")
+                                       .arg(Given(arguments, own), formatOption + QLatin1Char(' ') + text)};
+            }
         }
     }
 }

@@ -11,7 +11,7 @@ namespace BatchCli {
 /// does not: it replaces what the job says.
 void CheckContradictions(const ParsedArguments& arguments);
 
-/// Throws RequestError when the arguments give two qualities.
-void CheckQuality(const ParsedArguments& arguments);
+/// Throws RequestError when an option such as --quality and a --format-option give two values.
+void CheckFormatShorthands(const ParsedArguments& arguments);
 
 } // namespace BatchCli

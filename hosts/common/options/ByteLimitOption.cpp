@@ -4,6 +4,7 @@
 #include "ByteLimitOption.h"
 
 #include "ByteTexts.h"
+#include "FormatNames.h"
 #include "ParameterTexts.h"
 
 #include "hosts/common/RequestError.h"
@@ -13,30 +14,11 @@
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
 
-#include <algorithm>
-
 namespace BatchHost {
 
 namespace {
 
 const QString maxBytes = QStringLiteral("maxBytes");
-
-bool HasLimit(const BatchJob::FormatSchema& format)
-{
-    return std::any_of(format.options.begin(), format.options.end(),
-                       [](const BatchJob::ParameterSchema& known) { return known.name == maxBytes; });
-}
-
-QString FormatsWithLimit()
-{
-    QStringList names;
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
-        if (HasLimit(format)) {
-            names.append(format.name);
-        }
-    }
-    return names.join(QStringLiteral(", "));
-}
 
 void SetLimit(ZTBatchDocument& job, const QString& text)
 {
@@ -44,10 +26,11 @@ void SetLimit(ZTBatchDocument& job, const QString& text)
     QByteArray options;
     job.GetOutputSettings()->GetFormat(format, options);
     const BatchJob::FormatSchema* const known = BatchJob::FindFormat(format);
-    if (known != nullptr && !HasLimit(*known)) {
+    const QStringList able = FormatsWithOption(maxBytes);
+    if (known != nullptr && !able.contains(known->name)) {
         throw RequestError{
             BatchJob::Phrase::English("the size of %1 files follows from their pixels; %2 can have a limit")
-                .arg(known->name, FormatsWithLimit())};
+                .arg(known->name, able.join(QStringLiteral(", ")))};
     }
     const QString value = QString::number(BytesFromText(text));
     job.GetOutputSettings()->SetFormat(format, WithFormatOption(format, options, maxBytes + QLatin1Char('=') + value));

@@ -9,6 +9,8 @@
 
 #include "ZTBatchOutputSettings.h"
 
+#include <algorithm>
+
 namespace BatchHost {
 
 QStringList FormatNames()
@@ -33,6 +35,18 @@ QString FormatName(const QString& text)
         throw NoSuchWord(text, names);
     }
     return format->name;
+}
+
+QStringList FormatsWithOption(const QString& option)
+{
+    QStringList names;
+    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
+        const auto isOption = [&option](const BatchJob::ParameterSchema& known) { return known.name == option; };
+        if (std::any_of(format.options.begin(), format.options.end(), isOption)) {
+            names.append(format.name);
+        }
+    }
+    return names;
 }
 
 } // namespace BatchHost

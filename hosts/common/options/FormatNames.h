@@ -15,4 +15,7 @@ QStringList FormatNames();
 /// The format that `text` names, by its name or by an extension of its files, in any letter case. Throws RequestError.
 QString FormatName(const QString& text);
 
+/// The formats that results are written in and that have the format option `option`.
+QStringList FormatsWithOption(const QString& option);
+
 } // namespace BatchHost

@@ -3,6 +3,7 @@
 
 #include "QualityOption.h"
 
+#include "FormatNames.h"
 #include "ParameterTexts.h"
 
 #include "hosts/common/RequestError.h"
@@ -12,8 +13,6 @@
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
 
-#include <algorithm>
-
 namespace BatchHost {
 
 namespace {
@@ -22,32 +21,16 @@ const QString option = QStringLiteral("--quality");
 const QString formatOption = QStringLiteral("--format-option");
 const QString quality = QStringLiteral("quality");
 
-bool HasQuality(const BatchJob::FormatSchema& format)
-{
-    return std::any_of(format.options.begin(), format.options.end(),
-                       [](const BatchJob::ParameterSchema& known) { return known.name == quality; });
-}
-
-QString FormatsWithQuality()
-{
-    QStringList names;
-    for (const BatchJob::FormatSchema& format : BatchJob::Formats()) {
-        if (HasQuality(format)) {
-            names.append(format.name);
-        }
-    }
-    return names.join(QStringLiteral(", "));
-}
-
 void SetQuality(ZTBatchDocument& job, const QString& text)
 {
     QString format;
     QByteArray options;
     job.GetOutputSettings()->GetFormat(format, options);
     const BatchJob::FormatSchema* const known = BatchJob::FindFormat(format);
-    if (known != nullptr && !HasQuality(*known)) {
-        throw RequestError{
-            BatchJob::Phrase::English("%1 files have no quality; %2 have one").arg(known->name, FormatsWithQuality())};
+    const QStringList able = FormatsWithOption(quality);
+    if (known != nullptr && !able.contains(known->name)) {
+        throw RequestError{BatchJob::Phrase::English("%1 files have no quality; %2 have one")
+                               .arg(known->name, able.join(QStringLiteral(", ")))};
     }
     job.GetOutputSettings()->SetFormat(format, WithFormatOption(format, options, quality + QLatin1Char('=') + text));
 }

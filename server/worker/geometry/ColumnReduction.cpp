@@ -115,37 +115,33 @@ void ReduceBytes(const ReductionPlan& plan, VipsRegion* input, VipsRegion* outpu
     }
 }
 
-int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
+struct Columns
 {
-    const auto& plan = *static_cast<const ReductionPlan*>(client);
-    auto* const input = static_cast<VipsRegion*>(sequence);
-    const VipsRect& area = output->valid;
-    const int first = plan.firsts[std::size_t(area.left)];
-    const int end = plan.End(VIPS_RECT_RIGHT(&area) - 1);
-    const VipsRect needed{first, area.top, end - first, area.height};
-    if (vips_region_prepare(input, &needed) != 0) {
-        return -1;
+    static VipsRect Needed(const ReductionPlan& plan, const VipsRect& area)
+    {
+        const int first = plan.firsts[std::size_t(area.left)];
+        return {first, area.top, plan.End(VIPS_RECT_RIGHT(&area) - 1) - first, area.height};
     }
-    switch (output->im->BandFmt) {
-    case VIPS_FORMAT_UCHAR:
+
+    static void OfBytes(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
+    {
         ReduceBytes(plan, input, output);
-        break;
-    case VIPS_FORMAT_USHORT:
-        Reduce<std::uint16_t>(plan, input, output);
-        break;
-    default:
-        Reduce<float>(plan, input, output);
-        break;
     }
-    return 0;
-}
+
+    template<typename Sample>
+    static void Of(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
+    {
+        Reduce<Sample>(plan, input, output);
+    }
+};
 
 } // namespace
 
 Picture WithFewerColumns(const Picture& picture, int width)
 {
     return ReducedPicture(picture, QSize(width, picture.height()),
-                          KnownReductionPlan(picture.width(), width, ReductionPlan::Arithmetic::Exact), Generate);
+                          KnownReductionPlan(picture.width(), width, ReductionPlan::Arithmetic::Exact),
+                          GenerateReduced<Columns>);
 }
 
 } // namespace BatchWorker

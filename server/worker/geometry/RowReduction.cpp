@@ -65,37 +65,33 @@ void ReduceBytes(const ReductionPlan& plan, VipsRegion* input, VipsRegion* outpu
     }
 }
 
-int Generate(VipsRegion* output, void* sequence, void*, void* client, gboolean*)
+struct Rows
 {
-    const auto& plan = *static_cast<const ReductionPlan*>(client);
-    auto* const input = static_cast<VipsRegion*>(sequence);
-    const VipsRect& area = output->valid;
-    const int first = plan.firsts[std::size_t(area.top)];
-    const int end = plan.End(VIPS_RECT_BOTTOM(&area) - 1);
-    const VipsRect needed{area.left, first, area.width, end - first};
-    if (vips_region_prepare(input, &needed) != 0) {
-        return -1;
+    static VipsRect Needed(const ReductionPlan& plan, const VipsRect& area)
+    {
+        const int first = plan.firsts[std::size_t(area.top)];
+        return {area.left, first, area.width, plan.End(VIPS_RECT_BOTTOM(&area) - 1) - first};
     }
-    switch (output->im->BandFmt) {
-    case VIPS_FORMAT_UCHAR:
+
+    static void OfBytes(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
+    {
         ReduceBytes(plan, input, output);
-        break;
-    case VIPS_FORMAT_USHORT:
-        Reduce<std::uint16_t>(plan, input, output);
-        break;
-    default:
-        Reduce<float>(plan, input, output);
-        break;
     }
-    return 0;
-}
+
+    template<typename Sample>
+    static void Of(const ReductionPlan& plan, VipsRegion* input, VipsRegion* output)
+    {
+        Reduce<Sample>(plan, input, output);
+    }
+};
 
 } // namespace
 
 Picture WithFewerRows(const Picture& picture, int height)
 {
     return ReducedPicture(picture, QSize(picture.width(), height),
-                          KnownReductionPlan(picture.height(), height, ReductionPlan::Arithmetic::OfLibrary), Generate);
+                          KnownReductionPlan(picture.height(), height, ReductionPlan::Arithmetic::OfLibrary),
+                          GenerateReduced<Rows>);
 }
 
 } // namespace BatchWorker

@@ -158,6 +158,8 @@ void tst_CliHabits::wrongQualityIsExplained_data()
     row("show photos -o x --quality 80 --quality 90", "--quality is given 2 times");
     row("show photos -o x -f jpeg --quality 80 --format-option quality=70",
         "--quality 80 and --format-option quality=70");
+    row("show photos -o x -f jpeg --max-size 500kB --format-option maxBytes=70000",
+        "--max-size 500kB and --format-option maxBytes=70000");
 }
 
 void tst_CliHabits::wrongQualityIsExplained()

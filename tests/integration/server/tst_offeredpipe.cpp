@@ -136,7 +136,7 @@ void tst_OfferedPipe::onlyItsUserMayConnect()
     QCOMPARE(int(socket.permissions() & others), 0);
 }
 
-// The host is connected before the server runs, so it learns from the end of the connection that there is none.
+// The host is connected before the server runs. If the server does not start, the connection closes.
 void tst_OfferedPipe::serversThatEndAreNoticed()
 {
     std::optional<BatchHost::OfferedPipe> offered(std::in_place);
