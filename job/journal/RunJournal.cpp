@@ -3,6 +3,7 @@
 
 #include "RunJournal.h"
 
+#include "Lines.h"
 #include "OwnFile.h"
 #include "PictureJson.h"
 
@@ -115,8 +116,8 @@ std::optional<JournalState> ReadJournal(const QString& path)
     }
     JournalState state;
     bool hasHeader = false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
+    for (Lines lines(file); !lines.IsAtEnd();) {
+        const QByteArray line = lines.Next();
         const QJsonDocument document = QJsonDocument::fromJson(line);
         const bool isWhole = line.endsWith('\n') && document.isObject();
         if (!hasHeader) {
@@ -135,7 +136,16 @@ bool HasJournalBegun(const QString& path)
 {
     QFile file;
     QString problem;
-    return OpenOwnFile(file, path, OwnFileUse::Read, problem) && file.readLine().endsWith('\n');
+    if (!OpenOwnFile(file, path, OwnFileUse::Read, problem)) {
+        return false;
+    }
+    constexpr int block = 1 << 16;
+    for (QByteArray bytes = file.read(block); !bytes.isEmpty(); bytes = file.read(block)) {
+        if (bytes.contains('\n')) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies,

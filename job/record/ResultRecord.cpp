@@ -3,6 +3,7 @@
 
 #include "ResultRecord.h"
 
+#include "job/journal/Lines.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/PictureJson.h"
 #include "job/values/Phrase.h"
@@ -79,12 +80,13 @@ bool IsBelow(const QString& path)
 
 bool ReadLines(QFile& file, ResultRecord& record)
 {
-    const QJsonObject header = QJsonDocument::fromJson(file.readLine()).object();
+    Lines lines(file);
+    const QJsonObject header = QJsonDocument::fromJson(lines.Next()).object();
     if (header.value(Key("record")).toInt() != version) {
         return false;
     }
-    while (!file.atEnd()) {
-        const QByteArray bytes = file.readLine();
+    while (!lines.IsAtEnd()) {
+        const QByteArray bytes = lines.Next();
         const QJsonObject line = QJsonDocument::fromJson(bytes).object();
         const QString path = line.value(Key("path")).toString();
         if (!bytes.endsWith('\n') || !IsBelow(path)) {
