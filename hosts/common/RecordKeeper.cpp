@@ -186,7 +186,7 @@ QStringList RecordKeeper::Remove(const QStringList& results)
     for (const QString& result : results) {
         const auto found = record.find(PathBelow(result));
         const std::optional<FileStamp> now = StampOfResult(result);
-        const bool isOwn = lock && found != record.end() && now && now->LooksLike(found->stamp);
+        const bool isOwn = lock && found != record.end() && now && now->LooksLike(found->stamp) && IsInside(result);
         if (!isOwn || !QFile::remove(result)) {
             left.append(result);
             continue;
@@ -201,6 +201,13 @@ QStringList RecordKeeper::Remove(const QStringList& results)
         WriteRecord(folder, record, problem);
     }
     return left;
+}
+
+/// Whether no link leads from the output folder to `result`.
+bool RecordKeeper::IsInside(const QString& result) const
+{
+    const QString real = QFileInfo(folder).canonicalFilePath() + QLatin1Char('/') + PathBelow(result);
+    return QFileInfo(result).canonicalFilePath() == real;
 }
 
 /// The path of `result` below the output folder; empty if it lies elsewhere.

@@ -47,6 +47,7 @@ private:
     bool Adopt(const BatchJob::JournalState& state, bool isFinished);
     QStringList FindOrphans(const BatchJob::JournalState& state, const BatchJob::ResultRecord& record) const;
     bool Enter(const BatchJob::JournalState& state, BatchJob::ResultRecord& record) const;
+    bool IsInside(const QString& result) const;
     QString PathBelow(const QString& result) const;
 
     const QString folder;
