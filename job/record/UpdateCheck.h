@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "Recipe.h"
 #include "ResultRecord.h"
 
 #include <QSet>
@@ -22,9 +21,9 @@ public:
 
     UpdateCheck() = default;
 
-    /// For the results of `recipe` that go below `folder`, whose record is `record`. Without `comparesContents`, files
-    /// with equal sizes and times are equal.
-    UpdateCheck(const QString& folder, const ResultRecord& record, const Recipe& recipe, bool comparesContents);
+    /// For results that go below `folder`, whose record is `record`. Without `comparesContents`, files with equal sizes
+    /// and times are equal.
+    UpdateCheck(const QString& folder, const ResultRecord& record, bool comparesContents);
 
     /// The paths of all recorded results that stand as they were written. Incomplete when it was cancelled.
     QSet<QString> FindStanding(const Cancelled& isCancelled);
@@ -36,15 +35,12 @@ public:
     /// Whether the result at `output` still stands as it was written, so that a new one may take its place.
     bool IsOwn(const QString& output) const;
 
-    const Recipe& RecipeOfJob() const { return recipe; }
-
 private:
     const RecordedResult* Find(const QString& output) const;
     bool Stands(const QString& output, const FileStamp& now, const RecordedResult& recorded) const;
 
     QString folderStart; ///< with a slash at the end
     ResultRecord record;
-    Recipe recipe;
     bool comparesContents = false;
     QHash<QString, FileStamp> standing; ///< as FindStanding() has seen them
 };
