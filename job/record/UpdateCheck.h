@@ -28,9 +28,9 @@ public:
     /// The paths of all recorded results that stand as they were written. Incomplete when it was cancelled.
     QSet<QString> FindStanding(const Cancelled& isCancelled);
 
-    /// What is recorded of the result at `output`, if making it again from `input` in `format` would give the same;
+    /// What is recorded of the result at `output`, if making it again from `input` by `recipe` would give the same;
     /// else null. To be called after FindStanding().
-    const RecordedResult* Unchanged(const QString& output, const QString& input, const QString& format) const;
+    const RecordedResult* Unchanged(const QString& output, const QString& input, const QString& recipe) const;
 
     /// Whether the result at `output` still stands as it was written, so that a new one may take its place.
     bool IsOwn(const QString& output) const;
