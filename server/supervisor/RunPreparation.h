@@ -44,7 +44,7 @@ struct RunPreparation
     void FindUnjournaledResults();
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
-    QString settings;          ///< the job without its inputs
+    QStringList settings;      ///< the job, or each of a bundle, without inputs
     BatchProtocol::WorkerRights rightsToProbe;
     BatchProtocol::WorkerRights rightsToMake;
     BatchJob::RunPlan plan;

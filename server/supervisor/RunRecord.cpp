@@ -83,6 +83,7 @@ void RunRecord::AddWritten(const RunPlan& plan, int file, const Report& report)
     LogFacts(input, facts);
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
+    fromKeptPixels += report.usedKeptPixels ? 1 : 0;
 }
 
 void RunRecord::AddLeftOut(const OutputPlan& names, int file, const Trouble& trouble, Action action)
@@ -121,6 +122,10 @@ void RunRecord::LogTotals(const QString& how, int files) const
         text += QStringLiteral(", %1 not processed").arg(left);
     }
     host.Log(text + QLatin1Char('.'));
+    if (fromKeptPixels > 0) {
+        host.Log(QStringLiteral("%1 results were made from pixels that were decoded for another result.")
+                     .arg(fromKeptPixels));
+    }
 }
 
 /// On standard error too, which hosts show to their users.

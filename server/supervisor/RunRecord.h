@@ -67,6 +67,7 @@ private:
     int written = 0;
     int skipped = 0;
     int failed = 0;
+    int fromKeptPixels = 0; ///< results whose input was not decoded for them
 };
 
 } // namespace BatchSupervisor
