@@ -105,7 +105,10 @@ void RunRecord::AddLeftOut(const OutputPlan& names, int file, const Trouble& tro
 void RunRecord::TellTrouble(const OutputPlan& names, int file, const Trouble& trouble, Action action) const
 {
     host.Log(TroubleLine{names.Input(file), trouble.reason, action, trouble.kind}.Text());
-    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), trouble.code);
+    // Where a picture has several results, the host tells them apart by their folders.
+    const bool needsFolder = names.JobCount() > 1 && names.OutputName(file).isEmpty();
+    const QString output = needsFolder ? names.Folder(file) + QLatin1Char('/') : names.Output(file);
+    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), output, int(action), trouble.code);
 }
 
 void RunRecord::TellProgress() const

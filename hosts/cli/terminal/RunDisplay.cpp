@@ -86,7 +86,7 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.inWork.removeOne(result.input);
     if (result.kind != FileResult::Kind::Written) {
         Write(QStringLiteral("%1 %2: %3")
-                  .arg(Translated(BatchJob::ResultWord(result.kind)), result.input, Translated(result.reason)));
+                  .arg(Translated(BatchJob::ResultWord(result.kind)), result.Title(), Translated(result.reason)));
     } else if (!line.IsShown() && detail != Detail::Quiet) {
         Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }

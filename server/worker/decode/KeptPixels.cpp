@@ -90,8 +90,8 @@ Picture KeptPixels::Get(int shrink, Place place, BatchJob::Warnings& warnings, c
             return decode();
         }
     }
-    kept = Kept{stamp, shrink, pixels, takeWarnings()};
-    AppendOnce(kept->warnings, warnings);
+    AppendOnce(takeWarnings(), warnings);
+    kept = Kept{stamp, shrink, pixels, warnings};
     return pixels;
 }
 

@@ -41,7 +41,7 @@ public:
     enum class Place { InMemory, Flowing };
 
     /// The pixels of the task's file in 1/`shrink` of its size: kept ones, else those that `decode` gives, in `place`.
-    /// What the decoder warned of is appended to `warnings`. Throws what `decode` throws.
+    /// `warnings` are those about the file, to which `decode` and this function append. Throws what `decode` throws.
     Picture Get(int shrink, Place place, BatchJob::Warnings& warnings, const std::function<Picture()>& decode);
 
 private:
