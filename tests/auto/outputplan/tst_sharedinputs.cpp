@@ -92,11 +92,10 @@ void tst_SharedInputs::resultsComePictureByPicture()
     for (int i = 0; i < plan.Count(); ++i) {
         results.append(QStringLiteral("%1 %2 %3").arg(plan.FileOf(i)).arg(plan.JobOf(i)).arg(plan.Output(i)));
     }
-    QCOMPARE(results,
-             QStringList({QStringLiteral("0 0 ") + Path(QStringLiteral("a/0.jpg")),
-                          QStringLiteral("0 1 ") + Path(QStringLiteral("b/0.png")),
-                          QStringLiteral("1 0 ") + Path(QStringLiteral("a/0.jpg")),
-                          QStringLiteral("1 1 ") + Path(QStringLiteral("b/0.png"))}));
+    QCOMPARE(results, QStringList({QStringLiteral("0 0 ") + Path(QStringLiteral("a/0.jpg")),
+                                   QStringLiteral("0 1 ") + Path(QStringLiteral("b/0.png")),
+                                   QStringLiteral("1 0 ") + Path(QStringLiteral("a/0.jpg")),
+                                   QStringLiteral("1 1 ") + Path(QStringLiteral("b/0.png"))}));
     QCOMPARE(plan.ClashOf(2), Clash::Result);
     QCOMPARE(plan.ClashesWith(2), 0);
     QCOMPARE(plan.ClashesWith(3), 1);

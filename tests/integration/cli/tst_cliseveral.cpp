@@ -120,8 +120,8 @@ void tst_CliSeveral::optionsApplyToEachPreset()
 void tst_CliSeveral::eachPictureIsDecodedOnce()
 {
     for (const int workers : {1, 3}) {
-        const CliRun run = Run(QStringLiteral("run photos -o out%1 -j %1 --json --preset mail ").arg(workers) +
-                               twoPresets);
+        const CliRun run =
+            Run(QStringLiteral("run photos -o out%1 -j %1 --json --preset mail ").arg(workers) + twoPresets);
         QVERIFY2(run.exitCode == 0, run.err.constData());
         // The results of the RAW, the HEIF and the AVIF file but the first of each.
         QVERIFY2(run.out.contains("\"6 results were made from pixels that were decoded for another result.\""),
@@ -171,7 +171,8 @@ void tst_CliSeveral::aPresetGivenOnceIsAsBefore()
 void tst_CliSeveral::reportsSayThePreset()
 {
     for (const char* name : {"report.json", "report.csv"}) {
-        const CliRun run = Run(QStringLiteral("run photos -o %1.out -q %2 --report %1").arg(QLatin1String(name), twoPresets));
+        const CliRun run =
+            Run(QStringLiteral("run photos -o %1.out -q %2 --report %1").arg(QLatin1String(name), twoPresets));
         QVERIFY2(run.exitCode == 0, run.err.constData());
     }
     const QVector<QJsonObject> entries = ReportOf(stage->Read(stage->Path(QStringLiteral("report.json"))));
@@ -225,9 +226,10 @@ void tst_CliSeveral::failuresBelongToTheirPreset()
     QCOMPARE(entries.size(), 6);
     QStringList found;
     for (const QJsonObject& entry : entries) {
-        found.append(QStringLiteral("%1 %2 %3").arg(
-            QFileInfo(entry.value(QStringLiteral("input")).toString()).fileName(),
-            entry.value(QStringLiteral("preset")).toString(), entry.value(QStringLiteral("result")).toString()));
+        found.append(QStringLiteral("%1 %2 %3")
+                         .arg(QFileInfo(entry.value(QStringLiteral("input")).toString()).fileName(),
+                              entry.value(QStringLiteral("preset")).toString(),
+                              entry.value(QStringLiteral("result")).toString()));
     }
     QCOMPARE(found, QStringList({QStringLiteral("3.dng same skipped"), QStringLiteral("3.dng web written"),
                                  QStringLiteral("3.dng thumbnails written"), QStringLiteral("6.jpg same failed"),
@@ -256,8 +258,8 @@ void tst_CliSeveral::plansShowAllResults()
     const CliRun plan = Run(QStringLiteral("plan --json ") + dated);
     QStringList planned;
     for (const QJsonObject& line : EventsOf(plan.out)) {
-        planned.append(QDir(stage->Path(QStringLiteral("dated"))).relativeFilePath(
-            line.value(QStringLiteral("output")).toString()));
+        planned.append(QDir(stage->Path(QStringLiteral("dated")))
+                           .relativeFilePath(line.value(QStringLiteral("output")).toString()));
     }
     planned.sort();
     const CliRun run = Run(QStringLiteral("run -q ") + dated);
@@ -350,8 +352,8 @@ void tst_CliSeveral::resumedRunsNeedTheSameJobs()
         Run(QStringLiteral("run photos --structure flat --resume -o out --preset thumbnails --preset web"));
     QVERIFY2(order.exitCode == 2 && order.err.contains("is of another job"), order.err.constData());
     PictureFiles::WriteJpeg(last, 9);
-    const CliRun same = Run(QStringLiteral("run photos --structure flat --resume -o out --json --report report.json ") +
-                            twoPresets);
+    const CliRun same =
+        Run(QStringLiteral("run photos --structure flat --resume -o out --json --report report.json ") + twoPresets);
     QVERIFY2(same.exitCode == 0, same.err.constData());
     QCOMPARE(FilesBelow(QStringLiteral("out")).size(), 12);
     int earlier = 0;

@@ -59,8 +59,8 @@ QString tst_ServerBundles::Part(const QString& folder, const std::function<void(
 JobBundle tst_ServerBundles::Bundle(const QStringList& inputs) const
 {
     const QString out = run->Path(QStringLiteral("out"));
-    const QString first =
-        run->Job(inputs, [&out](ZTBatchDocument& job) { job.GetOutputSettings()->SetPath(out + QStringLiteral("/a")); });
+    const QString first = run->Job(
+        inputs, [&out](ZTBatchDocument& job) { job.GetOutputSettings()->SetPath(out + QStringLiteral("/a")); });
     return {out,
             {{QStringLiteral("A"), first, out + QStringLiteral("/a")},
              {QStringLiteral("B"), Part(QStringLiteral("/b")), out + QStringLiteral("/b")}}};
@@ -77,9 +77,8 @@ void tst_ServerBundles::resultsOfEachJob()
     QCOMPARE(run->Lines(QStringLiteral("processed")),
              QStringList({QStringLiteral("processed [in/1.jpg] [out/a/1.jpg]"),
                           QStringLiteral("processed [in/1.jpg] [out/b/1.jpg]")}));
-    QCOMPARE(run->Lines(QStringLiteral("error")),
-             QStringList({QStringLiteral("error [in/2.jpg] [out/a/2.jpg] 1 2"),
-                          QStringLiteral("error [in/2.jpg] [out/b/2.jpg] 1 2")}));
+    QCOMPARE(run->Lines(QStringLiteral("error")), QStringList({QStringLiteral("error [in/2.jpg] [out/a/2.jpg] 1 2"),
+                                                               QStringLiteral("error [in/2.jpg] [out/b/2.jpg] 1 2")}));
     QCOMPARE(run->Lines(QStringLiteral("log Finished")),
              QStringList(QStringLiteral("log Finished: 2 written, 0 skipped, 2 failed.")));
 }
@@ -106,8 +105,7 @@ void tst_ServerBundles::jobsMayWriteToOneFolder()
     policies.naming = ZTBatchManager::NamingRename;
     run->Process(bundle.Text(), policies);
     QVERIFY2(run->WaitForFinished(), qPrintable(run->Report()));
-    QCOMPARE(run->Names(QStringLiteral("out/a")),
-             QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg")}));
+    QCOMPARE(run->Names(QStringLiteral("out/a")), QStringList({QStringLiteral("1 (2).jpg"), QStringLiteral("1.jpg")}));
 }
 
 /// The host tells the results of a picture apart by their folders.
