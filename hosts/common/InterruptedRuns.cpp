@@ -59,6 +59,33 @@ QString InputsOf(const ZTBatchInputModel& input)
     return paths.join(QStringLiteral(", "));
 }
 
+/// The bundle in the text of a journal; empty if that is one job, or damaged.
+JobBundle BundleIn(const QString& text)
+{
+    QString problem;
+    return JobBundle::IsIn(text) ? JobBundle::Read(text, problem) : JobBundle();
+}
+
+/// Reads the job in the text of a journal into `job`, or the first of several. False if it is damaged.
+bool ReadFirstJob(ZTBatchDocument& job, const QString& text, const JobBundle& bundle)
+{
+    return job.Deserialize(bundle.IsEmpty() ? text : bundle.parts.first().document);
+}
+
+QString SettingsIn(const QString& document)
+{
+    ZTBatchDocument job;
+    return job.Deserialize(document) ? TakeSettingsText(job) : QString();
+}
+
+bool HaveSameSettings(const JobBundle& left, const JobBundle& right)
+{
+    return std::equal(left.parts.begin(), left.parts.end(), right.parts.begin(), right.parts.end(),
+                      [](const JobBundle::Part& one, const JobBundle::Part& other) {
+                          return one.name == other.name && SettingsIn(one.document) == SettingsIn(other.document);
+                      });
+}
+
 /// Whether `job` is the one of an interrupted run, `interrupted`. The run itself may have changed its inputs: a result
 /// replaces an input, or lies beside it and was collected like one.
 bool IsSame(const ZTBatchDocument& job, const ZTBatchDocument& interrupted, const JournalState& state)
@@ -79,10 +106,15 @@ bool IsSame(const ZTBatchDocument& job, const ZTBatchDocument& interrupted, cons
     return expected == before.end() && SettingsTextOf(job) == SettingsTextOf(interrupted);
 }
 
-bool IsOf(const InterruptedRuns::Run& run, const ZTBatchDocument& job)
+bool IsOf(const InterruptedRuns::Run& run, const ZTBatchDocument& job, const JobBundle& bundle)
 {
+    if (!run.state) {
+        return false;
+    }
     ZTBatchDocument interrupted;
-    return run.state && interrupted.Deserialize(run.state->document) && IsSame(job, interrupted, *run.state);
+    const JobBundle before = BundleIn(run.state->document);
+    return ReadFirstJob(interrupted, run.state->document, before) && IsSame(job, interrupted, *run.state) &&
+           HaveSameSettings(bundle, before);
 }
 
 RequestError OtherJob(const QString& folder)
@@ -114,10 +146,12 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
         }
         Run run{path, ReadJournal(path), JournalFile::IsRunning(path)};
         ZTBatchDocument job;
-        if (run.state && !job.Deserialize(run.state->document)) {
+        const JobBundle bundle = run.state ? BundleIn(run.state->document) : JobBundle();
+        if (run.state && !ReadFirstJob(job, run.state->document, bundle)) {
             run.state.reset();
         }
-        const QString target = run.state ? job.GetOutputSettings()->GetPath() : folder;
+        const QString ofJob = bundle.IsEmpty() ? job.GetOutputSettings()->GetPath() : bundle.folder;
+        const QString target = run.state ? ofJob : folder;
         if (IdentityOf(target) == IdentityOf(folder)) {
             runs.push_back(run);
         } else {
@@ -136,18 +170,24 @@ int InterruptedRuns::Count() const
 
 const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, const Wanted& wanted) const
 {
+    return Choose(job, {}, wanted);
+}
+
+const InterruptedRuns::Run& InterruptedRuns::Choose(const ZTBatchDocument& job, const JobBundle& bundle,
+                                                    const Wanted& wanted) const
+{
     if (runs.empty()) {
         throw RequestError{Phrase::English("there is no interrupted run in %1").arg(folder),
                            RequestError::Kind::NothingToResume};
     }
     if (!wanted.name.isEmpty()) {
         const Run& named = ChooseByName(wanted.name);
-        if (wanted.isThisJob && !IsOf(named, job)) {
+        if (wanted.isThisJob && !IsOf(named, job, bundle)) {
             throw OtherJob(folder);
         }
         return named;
     }
-    const Run* chosen = RunOf(job);
+    const Run* chosen = RunOf(job, bundle);
     if (wanted.isThisJob && !chosen) {
         throw OtherJob(folder);
     }
@@ -199,13 +239,14 @@ QString InterruptedRuns::Run::Name() const
 QString InterruptedRuns::Run::Description() const
 {
     ZTBatchDocument job;
-    if (!state || !job.Deserialize(state->document)) {
+    const JobBundle bundle = state ? BundleIn(state->document) : JobBundle();
+    if (!state || !ReadFirstJob(job, state->document, bundle)) {
         return Phrase::English("%1  %2 is damaged").arg(Name(), journal);
     }
     constexpr qint64 nanoseconds = 1'000'000;
     const QString began =
         QDateTime::fromMSecsSinceEpoch(state->beganAt / nanoseconds).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-    const int count = FilesOfJob(*job.GetInputModel()).size();
+    const int count = FilesOfJob(*job.GetInputModel()).size() * std::max(1, bundle.parts.size());
     const QString done = QString::number(state->results.size());
     const QString inputs = InputsOf(*job.GetInputModel());
     return count == 1 ? Phrase::English("%1  %2  %3 of 1 picture  %4").arg(Name(), began, done, inputs)
@@ -213,13 +254,14 @@ QString InterruptedRuns::Run::Description() const
                             .arg(Name(), began, done, QString::number(count), inputs);
 }
 
-const InterruptedRuns::Run* InterruptedRuns::RunOf(const ZTBatchDocument& job) const
+const InterruptedRuns::Run* InterruptedRuns::RunOf(const ZTBatchDocument& job, const JobBundle& bundle) const
 {
-    const QString text = job.Serialize(nullptr);
+    const QString text = bundle.IsEmpty() ? job.Serialize(nullptr) : bundle.Text();
     const auto isEqual = [&text](const Run& run) { return run.state && run.state->document == text; };
     auto found = std::find_if(runs.begin(), runs.end(), isEqual);
     if (found == runs.end()) {
-        found = std::find_if(runs.begin(), runs.end(), [&job](const Run& run) { return IsOf(run, job); });
+        found =
+            std::find_if(runs.begin(), runs.end(), [&job, &bundle](const Run& run) { return IsOf(run, job, bundle); });
     }
     return found == runs.end() ? nullptr : &*found;
 }

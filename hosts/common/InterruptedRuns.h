@@ -4,6 +4,7 @@
 #pragma once
 
 #include "job/journal/RunJournal.h"
+#include "job/settings/JobBundle.h"
 
 #include <QString>
 #include <QStringList>
@@ -55,9 +56,12 @@ public:
     /// has to be this job. Throws RequestError.
     const Run& Choose(const ZTBatchDocument& job, const Wanted& wanted) const;
 
+    /// The same for several jobs; `job` is the first of them.
+    const Run& Choose(const ZTBatchDocument& job, const BatchJob::JobBundle& bundle, const Wanted& wanted) const;
+
 private:
     const Run& ChooseByName(const QString& name) const;
-    const Run* RunOf(const ZTBatchDocument& job) const;
+    const Run* RunOf(const ZTBatchDocument& job, const BatchJob::JobBundle& bundle) const;
     QStringList Descriptions() const;
 
     QString folder;

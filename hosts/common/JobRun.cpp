@@ -11,7 +11,6 @@
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
-#include "ZTBatchOutputSettings.h"
 
 #include <QFile>
 #include <QLocalSocket>
@@ -67,12 +66,12 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace, circumstances.update);
     // The server, which inherits the environment, continues the journal.
     qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
-    RunInputs inputs = InputsOf(job);
+    RunInputs inputs = InputsOf(job, journaled.Variants());
     inputs.leftOut = circumstances.leftOut;
-    return std::make_unique<RunController>(
-        RunController::Order{journaled.Document(), inputs, job.GetOutputSettings()->GetPath(), circumstances.policies,
-                             journalPath, circumstances.isStrict},
-        QVector<RunObserver*>{journaled.Observer()} + observers);
+    return std::make_unique<RunController>(RunController::Order{journaled.Document(), inputs, journaled.OutputFolder(),
+                                                                circumstances.policies, journalPath,
+                                                                circumstances.isStrict},
+                                           QVector<RunObserver*>{journaled.Observer()} + observers);
 }
 
 } // namespace BatchHost

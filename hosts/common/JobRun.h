@@ -46,8 +46,8 @@ public:
         std::optional<BatchJob::Update> update = {}; ///< of a new run; one that is resumed has its own
     };
 
-    /// The run of `job`, ready to start. It must end before this object. The server of an earlier run, which must have
-    /// ended, is asked to end.
+    /// The run of `journaled`, ready to start. `job` is its job, or the first of its jobs. It must end before this
+    /// object. The server of an earlier run, which must have ended, is asked to end.
     std::unique_ptr<RunController> Prepare(const ZTBatchDocument& job, JournaledJob& journaled,
                                            const Circumstances& circumstances, const QVector<RunObserver*>& observers);
 

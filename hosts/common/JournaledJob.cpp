@@ -19,11 +19,18 @@ namespace BatchHost {
 
 JournaledJob JournaledJob::New(const ZTBatchDocument& job)
 {
+    return New(job, {});
+}
+
+JournaledJob JournaledJob::New(const ZTBatchDocument& job, const JobBundle& bundle)
+{
     RequireRunnableJob(job);
     JournaledJob journaled;
-    journaled.document = job.Serialize(nullptr);
-    RecordKeeper(job.GetOutputSettings()->GetPath()).AdoptInterrupted();
-    journaled.file = JournalFile::New(job.GetOutputSettings()->GetPath(), journaled.document);
+    journaled.document = bundle.IsEmpty() ? job.Serialize(nullptr) : bundle.Text();
+    journaled.folder = job.GetOutputSettings()->GetPath();
+    journaled.Enter(bundle);
+    RecordKeeper(journaled.folder).AdoptInterrupted();
+    journaled.file = JournalFile::New(journaled.folder, journaled.document);
     journaled.earlier->journals = journaled.file->OthersOfItsJob();
     return journaled;
 }
@@ -31,7 +38,13 @@ JournaledJob JournaledJob::New(const ZTBatchDocument& job)
 JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs,
                                        const InterruptedRuns::Wanted& wanted)
 {
-    const InterruptedRuns::Run& run = runs.Choose(job, wanted);
+    return Interrupted(job, {}, runs, wanted);
+}
+
+JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const JobBundle& given, const InterruptedRuns& runs,
+                                       const InterruptedRuns::Wanted& wanted)
+{
+    const InterruptedRuns::Run& run = runs.Choose(job, given, wanted);
     JournaledJob journaled;
     journaled.file = JournalFile::Take(run.journal);
     journaled.document = run.state->document;
@@ -42,8 +55,21 @@ JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const InterruptedRu
             Phrase::English("the run in %1 has just been finished").arg(job.GetOutputSettings()->GetPath()),
             RequestError::Kind::NothingToResume};
     }
-    job.Deserialize(journaled.document);
+    QString problem;
+    const JobBundle bundle =
+        JobBundle::IsIn(journaled.document) ? JobBundle::Read(journaled.document, problem) : JobBundle();
+    job.Deserialize(bundle.IsEmpty() ? journaled.document : bundle.parts.first().document);
+    journaled.folder = job.GetOutputSettings()->GetPath();
+    journaled.Enter(bundle);
     return journaled;
+}
+
+void JournaledJob::Enter(const JobBundle& bundle)
+{
+    for (const JobBundle::Part& part : bundle.parts) {
+        variants.append({part.name, part.outputFolder});
+    }
+    folder = bundle.IsEmpty() ? folder : bundle.folder;
 }
 
 void JournaledJob::EarlierRuns::Forget()

@@ -7,6 +7,7 @@
 #include "JournalFile.h"
 #include "RunObserver.h"
 
+#include "job/settings/JobBundle.h"
 #include "job/values/PolicyValues.h"
 
 #include <QString>
@@ -28,13 +29,26 @@ public:
     /// A run of `job` from its beginning. Throws RequestError when the job cannot be used, or is already running.
     static JournaledJob New(const ZTBatchDocument& job);
 
+    /// The same of several jobs. `job` is the first one, which has the inputs.
+    static JournaledJob New(const ZTBatchDocument& job, const BatchJob::JobBundle& bundle);
+
     /// One of `runs`, which were interrupted in the output folder of `job`: the one that `wanted` describes. It becomes
-    /// `job`. Throws RequestError when there is no such run.
+    /// `job`, or its first job does if it has several. Throws RequestError when there is no such run.
     static JournaledJob Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs,
                                     const InterruptedRuns::Wanted& wanted);
 
-    /// The text of the job.
+    /// The same where `bundle` is given; `job` is the first of its jobs.
+    static JournaledJob Interrupted(ZTBatchDocument& job, const BatchJob::JobBundle& bundle,
+                                    const InterruptedRuns& runs, const InterruptedRuns::Wanted& wanted);
+
+    /// The text of the job, or of the bundle.
     const QString& Document() const { return document; }
+
+    /// Where all results go, and the journal is.
+    const QString& OutputFolder() const { return folder; }
+
+    /// The jobs of the bundle; empty for one job.
+    const QVector<RunVariant>& Variants() const { return variants; }
 
     /// The policies of the interrupted run; nothing for a new one.
     const std::optional<BatchJob::PolicyValues>& Policies() const { return policies; }
@@ -98,10 +112,13 @@ private:
     JournaledJob() = default;
 
     bool Record(const RunEnd& end);
+    void Enter(const BatchJob::JobBundle& bundle);
 
     std::unique_ptr<JournalFile> file;
     std::unique_ptr<EarlierRuns> earlier = std::make_unique<EarlierRuns>();
     QString document;
+    QString folder;
+    QVector<RunVariant> variants;
     QString problem;
     std::optional<BatchJob::PolicyValues> policies;
     bool isInPlace = false;

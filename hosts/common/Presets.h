@@ -40,6 +40,9 @@ public:
     /// relative. Returns the warnings of LoadJob(). Throws RequestError if there is no such preset, or if it is no job.
     QStringList Load(ZTBatchDocument& job, const QString& name) const;
 
+    /// The name of the preset that `name` means, as its file spells it. Throws RequestError if there is none.
+    QString NameOf(const QString& name) const { return Find(name).name; }
+
     /// Saves `job`, which has no inputs, as the user's preset `name`, and returns the file. A preset of the user is
     /// replaced only when `replaceExisting` is true. Throws RequestError, also for a name that no file can have.
     QString Save(const ZTBatchDocument& job, const QString& name, bool replaceExisting) const;

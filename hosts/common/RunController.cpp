@@ -20,6 +20,7 @@
 #include <QCoreApplication>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <utility>
 
 using namespace BatchJob;
@@ -255,7 +256,7 @@ void RunController::OnProcessError(const QString& input, const QString& output, 
     }
     switch (BatchJob::Action(action)) {
     case BatchJob::Action::ReportedOnly:
-        asked = {input, output, FileResult::Kind::Failed, errorCode, reason};
+        asked = Judged({input, output, FileResult::Kind::Failed, errorCode, reason});
         break;
     case BatchJob::Action::FileSkipped:
     case BatchJob::Action::RunStopped: {
@@ -373,6 +374,12 @@ void RunController::Answer(int value, bool isForTheRest)
 FileResult RunController::Judged(const FileResult& result) const
 {
     FileResult judged = order.isStrict ? StrictResult(result) : result;
+    if (judged.preset.isEmpty()) {
+        judged.preset = order.inputs.VariantOf(result.output);
+    }
+    if (judged.output.endsWith(QLatin1Char('/'))) {
+        judged.output.clear(); // Only the folder is known: there is no name yet.
+    }
     const QVector<int> places = open.value(result.input);
     judged.inputBytes = places.isEmpty() ? -1 : order.inputs.bytes.at(places.first());
     return judged;
@@ -399,7 +406,14 @@ bool RunController::Count(const FileResult& result, int index)
     if (waiting == open.end() || (index >= 0 && !waiting->contains(index))) {
         return false;
     }
-    waiting->removeAt(index >= 0 ? waiting->indexOf(index) : 0);
+    const auto isWanted = [this, &result, index](int place) {
+        return index >= 0 ? place == index : order.inputs.VariantAt(place) == result.preset;
+    };
+    const auto place = std::find_if(waiting->begin(), waiting->end(), isWanted);
+    if (place == waiting->end()) {
+        return false;
+    }
+    waiting->erase(place);
     if (waiting->isEmpty()) {
         open.erase(waiting);
     }
@@ -435,7 +449,7 @@ QVector<QPair<int, FileResult>> RunController::JournaledResults() const
         if (found != state->results.constEnd()) {
             results.append({i,
                             {order.inputs.files.at(i), found->output, found->kind, found->errorCode, found->reason,
-                             found->warnings, found->facts, found->finished}});
+                             found->warnings, found->facts, found->finished, -1, order.inputs.VariantAt(i)}});
         }
     }
     return results;
@@ -452,8 +466,15 @@ bool RunController::IsServerInstalled()
 void RunController::NoteLoss(const QStringList& lost) const
 {
     QVector<int> indexes;
+    const bool hasVariants = !order.inputs.variants.isEmpty();
+    const auto state = hasVariants ? BatchJob::ReadJournal(order.journalPath) : std::nullopt;
     for (const QString& input : lost) {
-        indexes += open.value(input);
+        for (const int index : open.value(input)) {
+            // Not every result of the picture was in work.
+            if (!indexes.contains(index) && (!state || state->begun.contains(index))) {
+                indexes.append(index);
+            }
+        }
     }
     BatchJob::RunJournal journal;
     if (indexes.isEmpty() || order.journalPath.isEmpty()) {

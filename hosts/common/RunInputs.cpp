@@ -3,24 +3,49 @@
 
 #include "RunInputs.h"
 
+#include "job/settings/JobBundle.h"
 #include "job/settings/JobFiles.h"
 
 #include "ZTBatchDocument.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace BatchHost {
 
-RunInputs InputsOf(const ZTBatchDocument& job)
+RunInputs InputsOf(const ZTBatchDocument& job, const QVector<RunVariant>& variants)
 {
+    const int results = std::max(1, variants.size());
     RunInputs inputs;
+    inputs.variants = variants;
     for (const BatchJob::JobFile& file : BatchJob::FilesOfJob(*job.GetInputModel())) {
-        inputs.files.append(file.path);
         const QFileInfo info(file.path);
-        inputs.bytes.append(info.exists() ? info.size() : -1);
-        inputs.allBytes += info.size();
+        const qint64 bytes = info.exists() ? info.size() : -1;
+        for (int i = 0; i < results; ++i) {
+            inputs.files.append(file.path);
+            inputs.bytes.append(bytes);
+            inputs.allBytes += std::max<qint64>(0, bytes);
+        }
     }
     return inputs;
+}
+
+QString RunInputs::VariantAt(int index) const
+{
+    return variants.isEmpty() ? QString() : variants.at(index % variants.size()).name;
+}
+
+QString RunInputs::VariantOf(const QString& output) const
+{
+    const RunVariant* nearest = nullptr;
+    for (const RunVariant& variant : variants) {
+        if (BatchJob::IsWithin(output, variant.folder) &&
+            (nearest == nullptr || variant.folder.size() > nearest->folder.size())) {
+            nearest = &variant;
+        }
+    }
+    return nearest == nullptr ? QString() : nearest->name;
 }
 
 } // namespace BatchHost

@@ -75,14 +75,16 @@ RunReport::RunReport(const QString& path)
 
 void RunReport::OnStart(const RunInputs& inputs, const QString&)
 {
+    hasPresets = !inputs.variants.isEmpty();
     for (const QString& input : inputs.files) {
         Entry entry;
         entry.result.input = input;
         entry.result.inputBytes = inputs.bytes.at(entries.size());
+        entry.result.preset = inputs.VariantAt(entries.size());
         entries.append(entry);
     }
     for (int i = entries.size() - 1; i >= 0; --i) {
-        open.insert(inputs.files.at(i), i); // find() gives the one that was inserted last.
+        open.insert({inputs.files.at(i), inputs.VariantAt(i)}, i); // find() gives the one that was inserted last.
     }
     for (const LeftOutFile& leftOut : inputs.leftOut) {
         Entry entry;
@@ -96,7 +98,7 @@ void RunReport::OnStart(const RunInputs& inputs, const QString&)
 
 void RunReport::OnResult(const FileResult& result, int, int)
 {
-    const auto entry = open.find(result.input);
+    const auto entry = open.find({result.input, result.preset});
     if (entry != open.end()) {
         entries[*entry] = {result, ResultWord(result.kind)};
         open.erase(entry);
@@ -114,13 +116,14 @@ void RunReport::OnEnd(const RunEnd&)
 QByteArray RunReport::Csv() const
 {
     const QString facts = FactFieldNames().join(QLatin1Char(','));
-    QString text = QStringLiteral("input,output,result,code,reason,warnings,%1\r\n").arg(facts);
+    QString text = QStringLiteral("input,output,result,code,reason,warnings,%1%2\r\n")
+                       .arg(facts, hasPresets ? QStringLiteral(",preset") : QString());
     for (const Entry& entry : entries) {
         const FileResult& result = entry.result;
-        text +=
-            QStringLiteral("%1,%2,%3,%4,%5,%6,%7\r\n")
-                .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word), QString::number(result.errorCode),
-                     Quoted(result.reason), Quoted(TextOf(result.warnings)), FactColumnsOf(result));
+        text += QStringLiteral("%1,%2,%3,%4,%5,%6,%7%8\r\n")
+                    .arg(Quoted(result.input), Quoted(result.output), Quoted(entry.word),
+                         QString::number(result.errorCode), Quoted(result.reason), Quoted(TextOf(result.warnings)),
+                         FactColumnsOf(result), hasPresets ? QLatin1Char(',') + Quoted(result.preset) : QString());
     }
     return text.toUtf8();
 }
@@ -137,6 +140,9 @@ QByteArray RunReport::Json() const
         object.insert(QStringLiteral("code"), result.errorCode);
         object.insert(QStringLiteral("reason"), result.reason);
         object.insert(QStringLiteral("warnings"), JsonOf(result.warnings));
+        if (!result.preset.isEmpty()) {
+            object.insert(QStringLiteral("preset"), result.preset);
+        }
         array.append(object);
     }
     return QJsonDocument(array).toJson(QJsonDocument::Indented);

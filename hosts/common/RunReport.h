@@ -6,12 +6,13 @@
 #include "RunObserver.h"
 
 #include <QMultiHash>
+#include <QPair>
 #include <QSaveFile>
 
 namespace BatchHost {
 
-/// Writes a CSV or JSON file with one entry for each input of the job, in the job's order, and then one for each file
-/// that was left out.
+/// Writes a CSV or JSON file with one entry for each input of the job, or for each of its results if there are several,
+/// in the job's order, and then one for each file that was left out.
 class RunReport : public RunObserver
 {
 public:
@@ -39,7 +40,8 @@ private:
     QSaveFile file;
     bool isJson = false;
     QVector<Entry> entries;
-    QMultiHash<QString, int> open; ///< the entries of inputs that are not done
+    QMultiHash<QPair<QString, QString>, int> open; ///< the entries that are not done, by input and preset
+    bool hasPresets = false;
     QString error;
 };
 

@@ -11,6 +11,11 @@
 
 namespace BatchHost {
 
+QString FileResult::Title() const
+{
+    return preset.isEmpty() ? input : QStringLiteral("%1 (%2)").arg(input, preset);
+}
+
 FileResult StrictResult(const FileResult& result)
 {
     FileResult strict = result;

@@ -28,6 +28,10 @@ struct FileResult
     BatchJob::PictureFacts facts = {}; ///< of a picture that was written
     QDateTime finished = {};           ///< invalid if it is not known
     qint64 inputBytes = -1;            ///< when the run began; negative for an input that did not exist
+    QString preset = {};               ///< a RunVariant's name; empty where a run makes one result of each picture
+
+    /// The input, and which of its results this is if there are several, for users.
+    QString Title() const;
 };
 
 /// `result` as a strict run counts it: a picture with warnings has failed, although its file is there. The error code

@@ -19,6 +19,7 @@ FormatSchema AvifFormat()
     format.signatures = {{{{4, "ftypavif"}}}, {{{4, "ftypavis"}}}};
     format.bitDepths = {8, 10, 12};
     format.longestSide = 16'384;
+    format.isSlowToDecode = true;
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;

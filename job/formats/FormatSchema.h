@@ -110,9 +110,10 @@ struct FormatSchema
     bool isWritten = true; ///< false: files are read only
     bool holdsTransparency = true;
     bool holdsCmyk = false;
-    bool holdsGrey = false;    ///< in one channel; if not, grey becomes RGB
-    QVector<int> bitDepths{8}; ///< bits a channel, ascending
-    int longestSide = 0;       ///< pixels
+    bool holdsGrey = false;      ///< in one channel; if not, grey becomes RGB
+    QVector<int> bitDepths{8};   ///< bits a channel, ascending
+    int longestSide = 0;         ///< pixels
+    bool isSlowToDecode = false; ///< as a whole only: no small result is decoded faster
     FormatLoss loss = FormatLoss::Optional;
     FormatPages pages = FormatPages::One;
     MetadataSupport metadata;

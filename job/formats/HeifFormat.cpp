@@ -21,6 +21,7 @@ FormatSchema HeifFormat()
     }
     format.bitDepths = {8, 10, 12};
     format.longestSide = 16'384;
+    format.isSlowToDecode = true;
     format.pages = FormatPages::Items;
     format.metadata.reading = MetadataReading::FromDecoder;
     format.metadata.hasXmpWrapper = false;

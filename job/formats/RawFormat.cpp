@@ -37,6 +37,7 @@ FormatSchema RawFormat()
     format.holdsGrey = true;
     format.bitDepths = {16}; // as the pictures are developed
     format.loss = FormatLoss::Never;
+    format.isSlowToDecode = true;
     format.metadata.holdsIptc = true;
     format.metadata.writing = MetadataWriting::None;
     return format;

@@ -3,27 +3,19 @@
 
 #include "OutputPlan.h"
 
+#include "job/formats/InputFormat.h"
+
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace BatchJob {
 
 namespace {
 
 using Settings = ZTBatchOutputSettings;
-
-QString ReadFormat(const QString& path)
-{
-    const QFileInfo info(path);
-    QFile file(path);
-    // Opening anything else, such as a named pipe, could block for ever.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return {};
-    }
-    return FormatOfFile(file.read(formatHeadSize), info.suffix());
-}
 
 QString WithoutExtension(const QString& name)
 {
@@ -38,21 +30,34 @@ QString Numbered(int number)
 } // namespace
 
 OutputPlan::OutputPlan(const QVector<JobFile>& files, const JobSettings& settings)
-    : outputFolder(settings.outputFolder)
-    , structure(settings.folderStructure)
-    , naming(settings.naming)
-    , keepsFormats(settings.format == Settings::GetOriginalFormat())
-    , sharedSources(FilesOfSettings(settings))
+    : OutputPlan(files, QVector<JobSettings>{settings}, settings.outputFolder)
 {
-    const FormatSchema* format = keepsFormats ? nullptr : FindFormat(settings.format);
-    entries.reserve(files.size());
-    jobFolders.reserve(structure == Settings::StructureAsInput ? files.size() : 0);
+}
+
+OutputPlan::OutputPlan(const QVector<JobFile>& files, const QVector<JobSettings>& jobs, const QString& folder)
+    : outputFolder(folder)
+{
+    QVector<const FormatSchema*> formats;
+    bool needsFolders = false;
+    for (const JobSettings& settings : jobs) {
+        const QString subFolder = QDir(folder).relativeFilePath(settings.outputFolder);
+        const bool keepsFormats = settings.format == Settings::GetOriginalFormat();
+        this->jobs.append({subFolder == QLatin1String(".") ? QString() : subFolder, settings.folderStructure,
+                           settings.naming, keepsFormats});
+        formats.append(keepsFormats ? nullptr : FindFormat(settings.format));
+        needsFolders = needsFolders || settings.folderStructure == Settings::StructureAsInput;
+        sharedSources += FilesOfSettings(settings);
+    }
+    entries.reserve(files.size() * jobs.size());
+    jobFolders.reserve(needsFolders ? files.size() : 0);
     for (const JobFile& file : files) {
-        Entry entry;
-        entry.input = file.path;
-        entry.format = format;
-        entries.append(entry);
-        if (structure == Settings::StructureAsInput) {
+        for (const FormatSchema* format : qAsConst(formats)) {
+            Entry entry;
+            entry.input = file.path;
+            entry.format = format;
+            entries.append(entry);
+        }
+        if (needsFolders) {
             jobFolders.append(file.folder);
         }
     }
@@ -60,36 +65,60 @@ OutputPlan::OutputPlan(const QVector<JobFile>& files, const JobSettings& setting
 
 bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
 {
-    if (!keepsFormats) {
+    if (std::none_of(jobs.begin(), jobs.end(), [](const Job& job) { return job.keepsFormats; })) {
         return true;
     }
-    for (Entry& entry : entries) {
+    for (int first = 0; first < entries.size(); first += jobs.size()) {
         if (isCancelled && isCancelled()) {
             return false;
         }
-        entry.inputFormat = ReadFormat(entry.input);
-        entry.format = FindFormat(entry.inputFormat);
+        const QString format = FormatOfFileAt(entries[first].input);
+        for (int i = first; i < first + jobs.size(); ++i) {
+            if (jobs[JobOf(i)].keepsFormats) {
+                entries[i].inputFormat = format;
+                entries[i].format = FindFormat(format);
+            }
+        }
     }
     return true;
 }
 
 QVector<int> OutputPlan::FilesToProbe() const
 {
-    const bool needsTimes = naming.NeedsCaptureTime() || structure == Settings::StructureByCaptureDate;
     QVector<int> files;
     for (int i = 0; i < entries.size(); ++i) {
-        if (!entries[i].isKept && (needsTimes || (keepsFormats && entries[i].inputFormat.isEmpty()))) {
+        if (NeedsProbe(i) && (files.isEmpty() || FileOf(files.last()) != FileOf(i))) {
             files.append(i);
         }
     }
     return files;
 }
 
+QVector<int> OutputPlan::ResultsToProbe(int index) const
+{
+    const int first = FileOf(index) * jobs.size();
+    QVector<int> results;
+    for (int i = first; i < first + jobs.size(); ++i) {
+        if (i == index || NeedsProbe(i)) {
+            results.append(i);
+        }
+    }
+    return results;
+}
+
+bool OutputPlan::NeedsProbe(int index) const
+{
+    const Job& job = jobs[JobOf(index)];
+    const Entry& entry = entries[index];
+    const bool needsTime = job.naming.NeedsCaptureTime() || job.structure == Settings::StructureByCaptureDate;
+    return !entry.isKept && (needsTime || (job.keepsFormats && entry.inputFormat.isEmpty()));
+}
+
 void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& inputFormat)
 {
     Entry& entry = entries[index];
     entry.captured = captured;
-    if (keepsFormats && !inputFormat.isEmpty()) {
+    if (jobs[JobOf(index)].keepsFormats && !inputFormat.isEmpty()) {
         entry.inputFormat = inputFormat;
         entry.format = FindFormat(inputFormat);
     }
@@ -115,7 +144,7 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
             continue;
         }
         entry.folder = FolderOf(SubFolder(i));
-        entry.stem = naming.Stem(entry.input, i, entry.captured);
+        entry.stem = jobs[JobOf(i)].naming.Stem(entry.input, FileOf(i), entry.captured);
         if (entry.format) {
             SetName(i, {});
             FindClash(i);
@@ -184,9 +213,16 @@ void OutputPlan::Rename(int index)
 
 QString OutputPlan::SubFolder(int index) const
 {
-    switch (structure) {
+    const QString ofJob = jobs[JobOf(index)].subFolder;
+    const QString ofStructure = StructureFolder(index);
+    return ofJob.isEmpty() || ofStructure.isEmpty() ? ofJob + ofStructure : ofJob + QLatin1Char('/') + ofStructure;
+}
+
+QString OutputPlan::StructureFolder(int index) const
+{
+    switch (jobs[JobOf(index)].structure) {
     case Settings::StructureAsInput:
-        return jobFolders[index];
+        return jobFolders[FileOf(index)];
     case Settings::StructureByCaptureDate: {
         const QDateTime& captured = entries[index].captured;
         return captured.isValid() ? captured.toString(QStringLiteral("yyyy/yyyy-MM-dd"))
@@ -331,7 +367,7 @@ void OutputPlan::NoteSources()
             source.input = input;
         }
     };
-    for (int i = 0; i < entries.size(); ++i) {
+    for (int i = 0; i < entries.size(); i += jobs.size()) {
         note(entries[i].input, i);
     }
     for (const QString& path : qAsConst(sharedSources)) {

@@ -24,6 +24,10 @@ namespace BatchJob {
 /// Where every result of a job goes. The names are made before the first picture is touched. Numbers and names follow
 /// the document's order, so that neither failures nor parallel work shift them.
 ///
+/// Several jobs may share their files: then each file has one result of each job, and results are counted picture by
+/// picture, all of the first file before those of the second. Each gets the number and the name that its job alone
+/// would give it.
+///
 /// Two names are equal if any file system could treat them as equal: letter case and the composition of characters do
 /// not count. A plan reads folders and the first bytes of inputs, and writes nothing. It may move between threads; use
 /// it on one at a time.
@@ -53,15 +57,27 @@ public:
     /// A plan for the files of a job that was accepted.
     OutputPlan(const QVector<JobFile>& files, const JobSettings& settings);
 
+    /// A plan for the same files of several jobs that were accepted, whose output folders are in `folder` or below.
+    OutputPlan(const QVector<JobFile>& files, const QVector<JobSettings>& jobs, const QString& folder);
+
+    /// How many results there are. Results are counted from 0.
     int Count() const { return entries.size(); }
+
+    int JobCount() const { return jobs.size(); }
+    int JobOf(int index) const { return index % jobs.size(); }  ///< the place of a result's job
+    int FileOf(int index) const { return index / jobs.size(); } ///< the place of a result's file
 
     /// Reads the formats of the inputs, if results keep them; otherwise does nothing. A file that cannot be read has no
     /// format. False when it was cancelled.
     bool ReadInputs(const Cancelled& isCancelled = {});
 
     /// The files that a worker has to examine before MakeNames(): all files, if names or folders contain capture times;
-    /// the files of unknown format, if results keep their inputs' formats. None that KeepResult() has settled.
+    /// the files of unknown format, if results keep their inputs' formats. None that KeepResult() has settled. Each
+    /// file once, by the first of its results that needs it.
     QVector<int> FilesToProbe() const;
+
+    /// The result `index` and the others of its file that need its probe.
+    QVector<int> ResultsToProbe(int index) const;
 
     /// Enters what a probe has found. An invalid time and an empty format change nothing.
     void SetProbe(int index, const QDateTime& captured, const QString& inputFormat);
@@ -92,7 +108,7 @@ public:
     /// neither format nor name until ChangeFormat().
     const FormatSchema* Format(int index) const { return entries[index].format; }
 
-    QString OutputFolder() const { return outputFolder; } ///< of the job; results go there and below it
+    QString OutputFolder() const { return outputFolder; } ///< results go there and below it
     QString Folder(int index) const;                      ///< where the result goes; absolute
     QString OutputName(int index) const;                  ///< empty as long as there is no format
     QString Output(int index) const;                      ///< folder and name; empty as long as there is no format
@@ -134,6 +150,15 @@ private:
         bool isKept = false; ///< `name` holds the path until MakeNames()
     };
 
+    /// What the names of a job's results depend on.
+    struct Job
+    {
+        QString subFolder; ///< of the output folder; empty for that itself
+        ZTBatchOutputSettings::FolderStructure structure = ZTBatchOutputSettings::StructureFlat;
+        OutputNaming naming;
+        bool keepsFormats = false;
+    };
+
     struct TargetFolder
     {
         QString path;
@@ -151,7 +176,9 @@ private:
         int input = -1; ///< the last of the inputs
     };
 
+    bool NeedsProbe(int index) const;
     QString SubFolder(int index) const;
+    QString StructureFolder(int index) const;
     int FolderOf(const QString& subFolder);
     void SetName(int index, const QString& addition);
     void PlaceKeptResult(int index);
@@ -166,11 +193,9 @@ private:
     Place PlaceOf(int index) const;
 
     QString outputFolder;
-    ZTBatchOutputSettings::FolderStructure structure = ZTBatchOutputSettings::StructureFlat;
-    OutputNaming naming;
-    bool keepsFormats = false;
+    QVector<Job> jobs;
     QVector<QString> jobFolders; ///< JobFile::folder of each file, for StructureAsInput
-    QVector<Entry> entries;
+    QVector<Entry> entries;      ///< results
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;

@@ -18,9 +18,18 @@ RunPlan::RunPlan(const OutputPlan& plan)
 
 void RunPlan::SetProbe(int file, const ProbeResult& result)
 {
-    plan.SetProbe(file, result.captured, result.inputFormat);
-    if (!plan.Format(file) && !result.nearestFormat.isEmpty()) {
-        nearestFormats.insert(file, result.nearestFormat);
+    for (const int one : plan.ResultsToProbe(file)) {
+        plan.SetProbe(one, result.captured, result.inputFormat);
+        if (!plan.Format(one) && !result.nearestFormat.isEmpty()) {
+            nearestFormats.insert(one, result.nearestFormat);
+        }
+    }
+}
+
+void RunPlan::SetProbeFailure(int file, const Trouble& trouble)
+{
+    for (const int one : plan.ResultsToProbe(file)) {
+        failedProbes.insert(one, trouble);
     }
 }
 

@@ -24,7 +24,8 @@ struct ProbeResult
     QSize size = {};       ///< in pixels, upright; empty when it is not known
 };
 
-/// The plan of a run, with what was decided about its files. Use it on one thread at a time.
+/// The plan of a run, with what was decided about its files. Where a run makes several results of each file, `file` is
+/// one of the results that its OutputPlan counts. Use it on one thread at a time.
 class RunPlan
 {
 public:
@@ -53,10 +54,11 @@ public:
     /// See OutputPlan::ReplaceOwnResults().
     void ReplaceOwnResults(const QSet<QString>& paths) { plan.ReplaceOwnResults(paths); }
 
+    /// The probe serves all results of the file that need one.
     void SetProbe(int file, const ProbeResult& result);
 
     /// A file that cannot be probed cannot be processed either.
-    void SetProbeFailure(int file, const Trouble& trouble) { failedProbes.insert(file, trouble); }
+    void SetProbeFailure(int file, const Trouble& trouble);
 
     /// Makes the names and settles what the policies decide without asking. False when it was cancelled.
     bool MakeNames(const Policies& policies, const OutputPlan::Cancelled& isCancelled = {});

@@ -7,6 +7,8 @@
 
 #include "ZTBatchDocument.h"
 
+#include <QSet>
+
 using namespace BatchJob;
 
 namespace BatchProtocol {
@@ -25,6 +27,26 @@ WorkerJob WorkerJob::Of(const QString& document, const QVector<JobFile>& files)
         job.rightsToMake = RightsToWrite(job.rightsToRead, checked.settings);
     }
     return job;
+}
+
+QVector<WorkerJob> WorkerJob::Of(const QStringList& documents, const QVector<JobFile>& files, const QString& folder)
+{
+    QVector<WorkerJob> jobs;
+    QSet<QString> readable;
+    bool usesFonts = false;
+    for (const QString& document : documents) {
+        jobs.append(Of(document, jobs.isEmpty() ? files : QVector<JobFile>()));
+        const WorkerRights& rights = jobs.last().rightsToRead;
+        readable += QSet<QString>(rights.readable.begin(), rights.readable.end());
+        usesFonts = usesFonts || rights.usesFonts;
+    }
+    QStringList together = readable.values();
+    together.sort();
+    for (WorkerJob& job : jobs) {
+        job.rightsToRead = {together, {}, usesFonts};
+        job.rightsToMake = {together, {folder}, usesFonts};
+    }
+    return jobs;
 }
 
 } // namespace BatchProtocol

@@ -9,6 +9,7 @@
 #include "job/settings/JobFiles.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace BatchProtocol {
@@ -25,6 +26,11 @@ struct WorkerJob
 
     /// `document` is the text of a job without inputs, `files` are the inputs. Asks the file system about each file.
     static WorkerJob Of(const QString& document, const QVector<BatchJob::JobFile>& files);
+
+    /// The same of jobs that share `files` and their workers: each has the rights of all. The output folders are in
+    /// `folder`, which has to exist instead of them.
+    static QVector<WorkerJob> Of(const QStringList& documents, const QVector<BatchJob::JobFile>& files,
+                                 const QString& folder);
 };
 
 } // namespace BatchProtocol

@@ -73,6 +73,7 @@ struct PictureTask
     QString outputRoot;           ///< no link below this folder is followed; empty: all are, see ResultFolder
     QString format;               ///< one of Formats(), never "Original"
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
+    bool keepsPixels = false;     ///< the next task reads the same input: what is slow to decode is kept for it
 };
 
 /// The worker begins a task.
@@ -95,6 +96,8 @@ struct Report
     QDateTime captured;                                        ///< of a probe: what the file says, else the file's time
     BatchJob::PictureFacts facts;                              ///< of a picture that was written, but for the bytes;
                                                                ///< of a probe: the size of the input
+    bool usedKeptPixels = false;                               ///< the input was not decoded: an earlier task has kept
+                                                               ///< its pixels
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;

@@ -50,7 +50,8 @@ void WorkerPool::Start()
 {
     failures = 0;
     for (WorkerProcess* worker : qAsConst(workers)) {
-        if (!worker->CurrentJob().isEmpty() && worker->Tasks().isEmpty() && !served.contains(worker->CurrentJob())) {
+        if (!worker->CurrentGroup().isEmpty() && worker->Tasks().isEmpty() &&
+            !served.contains(worker->CurrentGroup())) {
             worker->Leave();
         }
     }
@@ -65,7 +66,7 @@ void WorkerPool::Serve(const QVector<QByteArray>& jobs)
     served.erase(std::remove_if(served.begin(), served.end(), isOver), served.end());
     int coming = workers.size();
     for (const WorkerProcess* worker : qAsConst(workers)) {
-        coming -= worker->IsStaying() && !worker->CurrentJob().isEmpty() ? 1 : 0;
+        coming -= worker->IsStaying() && !worker->CurrentGroup().isEmpty() ? 1 : 0;
     }
     for (const QByteArray& job : jobs) {
         if (!served.contains(job)) {
@@ -91,12 +92,27 @@ bool WorkerPool::HasRoom(const QByteArray& job, int left) const
 
 void WorkerPool::Give(const Assignment& task)
 {
-    WorkerProcess* const worker = WorkerFor(task.job, tasksAhead);
+    WorkerProcess* const ofChain = WorkerOfChain(task);
+    WorkerProcess* const worker = ofChain ? ofChain : WorkerFor(task.Group(), tasksAhead);
     Q_ASSERT(worker);
-    if (worker->CurrentJob().isEmpty() && served.removeOne(task.job)) {
-        served.append(task.job);
+    if (worker->CurrentGroup().isEmpty() && served.removeOne(task.Group())) {
+        served.append(task.Group());
     }
     worker->Give(task);
+}
+
+/// The worker whose last task is of the same chain; null if there is none.
+WorkerProcess* WorkerPool::WorkerOfChain(const Assignment& task) const
+{
+    if (task.chain < 0 || task.isSecondTry) {
+        return nullptr;
+    }
+    const auto found = std::find_if(workers.begin(), workers.end(), [&task](const WorkerProcess* worker) {
+        const QList<Assignment>& tasks = worker->Tasks();
+        return worker->IsReady() && worker->IsStaying() && !tasks.isEmpty() && !tasks.last().isSecondTry &&
+               tasks.last().run == task.run && tasks.last().chain == task.chain;
+    });
+    return found == workers.end() ? nullptr : *found;
 }
 
 /// The worker with the fewest tasks, below `mostTasks`, that can take one of `job`; null if no worker can.
@@ -106,7 +122,7 @@ WorkerProcess* WorkerPool::WorkerFor(const QByteArray& job, int mostTasks) const
     WorkerProcess* freest = nullptr;
     int fewest = mostTasks;
     for (WorkerProcess* worker : workers) {
-        const bool isRight = worker->CurrentJob().isEmpty() ? mayTakeNew : worker->CurrentJob() == job;
+        const bool isRight = worker->CurrentGroup().isEmpty() ? mayTakeNew : worker->CurrentGroup() == job;
         if (isRight && worker->IsStaying() && CanTake(*worker, fewest)) {
             freest = worker;
             fewest = worker->Tasks().size();
@@ -122,7 +138,7 @@ WorkerProcess* WorkerPool::WorkerToGiveAway(const QByteArray& job) const
     WorkerProcess* chosen = nullptr;
     int mostOfJob = 0;
     for (WorkerProcess* worker : workers) {
-        const QByteArray& other = worker->CurrentJob();
+        const QByteArray& other = worker->CurrentGroup();
         if (!worker->IsStaying() || other.isEmpty() || other == job) {
             continue;
         }
@@ -153,7 +169,7 @@ bool WorkerPool::IsFirstInLine(const QByteArray& job) const
 int WorkerPool::CountOf(const QByteArray& job) const
 {
     return int(std::count_if(workers.begin(), workers.end(), [&job](const WorkerProcess* worker) {
-        return worker->IsStaying() && worker->CurrentJob() == job;
+        return worker->IsStaying() && worker->CurrentGroup() == job;
     }));
 }
 

@@ -17,7 +17,8 @@ namespace BatchProtocol {
 /// its next task before it has finished the last, so that it never waits.
 ///
 /// The first task confines a worker to the files of its job. A worker of one job never gets a task of another: it ends,
-/// and a new one takes its place.
+/// and a new one takes its place. Jobs of one group have equal rights and share their workers; wherever this class
+/// speaks of a job, it means the group.
 class WorkerPool : public QObject
 {
     Q_OBJECT
@@ -42,7 +43,8 @@ public:
     /// Whether a worker can take a task of `job` that gets a worker for itself.
     bool HasIdleWorker(const QByteArray& job) const { return HasRoom(job, 0); }
 
-    /// Hands a task to a worker. HasRoom() must be true for its job, and HasIdleWorker() for a second try.
+    /// Hands a task to a worker. HasRoom() must be true for its job, and HasIdleWorker() for a second try. The next
+    /// tasks of its chain may follow at once: they need no room.
     void Give(const Assignment& task);
 
     /// Ends the workers that have tasks of `run`. Always followed by Dropped() when they are gone, never from inside
@@ -68,6 +70,7 @@ Q_SIGNALS:
     void Broken(const QString& reason);
 
 private:
+    WorkerProcess* WorkerOfChain(const Assignment& task) const;
     WorkerProcess* WorkerFor(const QByteArray& job, int mostTasks) const;
     WorkerProcess* WorkerToGiveAway(const QByteArray& job) const;
     bool IsFirstInLine(const QByteArray& job) const;

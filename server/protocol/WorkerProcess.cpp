@@ -75,11 +75,12 @@ WorkerProcess::~WorkerProcess()
 
 void WorkerProcess::Give(const Assignment& task)
 {
-    if (currentJob.isEmpty()) {
+    Q_ASSERT(currentGroup.isEmpty() || currentGroup == task.Group());
+    currentGroup = task.Group();
+    if (currentJob != task.job) {
         currentJob = task.job;
         process.write(currentJob);
     }
-    Q_ASSERT(currentJob == task.job);
     process.write(FrameToWorker(task.task));
     tasks.append(task);
     if (tasks.size() == 1) {

@@ -44,8 +44,8 @@ public:
     /// Whether it may get tasks, now or when it is ready.
     bool IsStaying() const { return !isLeaving && !end; }
 
-    /// The framed job of its tasks, to which it is confined. Empty before the first task.
-    const QByteArray& CurrentJob() const { return currentJob; }
+    /// The group of its tasks, to whose rights it is confined. Empty before the first task.
+    const QByteArray& CurrentGroup() const { return currentGroup; }
 
     qint64 ProcessId() const { return process.processId(); }
 
@@ -56,7 +56,8 @@ public:
     /// results of earlier tasks may be finished though they are not reported; later tasks were not begun.
     int Culprit() const;
 
-    /// Hands over a task, to be done after the earlier ones. All tasks of a worker have the same job.
+    /// Hands over a task, to be done after the earlier ones. All tasks of a worker have the same
+    /// group.
     void Give(const Assignment& task);
 
     /// Ends the worker when all its tasks are reported; now when it has none.
@@ -92,7 +93,8 @@ private:
     WorkerStreams streams;
     QTimer clock; ///< runs while an answer is due
     FrameReader reader;
-    QByteArray currentJob;
+    QByteArray currentGroup;
+    QByteArray currentJob; ///< that it was sent last
     QList<Assignment> tasks;
     int begun = 0; ///< how many of the tasks the worker has begun
     bool isReady = false;

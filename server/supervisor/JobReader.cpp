@@ -3,14 +3,18 @@
 
 #include "JobReader.h"
 
+#include "job/settings/JobBundle.h"
 #include "job/values/Phrase.h"
 
 #include "server/protocol/ChildProcess.h"
 
 #include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QDir>
 #include <QFile>
 
 #include <cstdio>
@@ -24,25 +28,86 @@ namespace {
 
 constexpr int cancelInterval = 100; // ms
 
-JobReader::Job ReadHere(const QString& text)
+JobReader::Job Refused(ZTBatchMessage::Error code, const QString& message)
+{
+    return {{code, message}, {}, {}, {}};
+}
+
+JobReader::Job ReadJob(const QString& text)
 {
     ZTBatchDocument document;
     if (!document.Deserialize(text)) {
-        return {{ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job is not a batch document")}, {}, {}};
+        return Refused(ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job is not a batch document"));
     }
     JobReader::Job job;
     job.refusal = CheckJob(document).refusal;
     if (job.refusal.code == ZTBatchMessage::NoError) {
         job.files = FilesOfJob(*document.GetInputModel());
-        job.settings = TakeSettingsText(document);
+        job.settings.append(TakeSettingsText(document));
     }
     return job;
+}
+
+/// What is wrong with a later part of a bundle, whose inputs are those of the first.
+Refusal RefusalOfLaterPart(const JobBundle::Part& part)
+{
+    ZTBatchDocument document;
+    if (!document.Deserialize(part.document)) {
+        return {ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job is not a batch document")};
+    }
+    if (document.GetInputModel()->rowCount() > 0) {
+        return {ZTBatchMessage::EmptyBatchDocument,
+                Phrase::English("It has inputs, but those of a bundle belong in its first job")};
+    }
+    return CheckSettings(document).refusal;
+}
+
+JobReader::Job ReadBundle(const QString& text)
+{
+    QString problem;
+    const JobBundle bundle = JobBundle::Read(text, problem);
+    if (bundle.IsEmpty()) {
+        return Refused(ZTBatchMessage::EmptyBatchDocument,
+                       Phrase::English("The bundle of jobs cannot be read: %1").arg(problem));
+    }
+    const auto refused = [](const JobBundle::Part& part, const Refusal& refusal) {
+        return Refused(refusal.code, Phrase::English("Job \"%1\": %2").arg(part.name, refusal.message));
+    };
+    JobReader::Job job = ReadJob(bundle.parts.first().document);
+    if (job.refusal.code != ZTBatchMessage::NoError) {
+        return refused(bundle.parts.first(), job.refusal);
+    }
+    job.folder = bundle.folder;
+    for (const JobBundle::Part& part : bundle.parts.mid(1)) {
+        const Refusal refusal = RefusalOfLaterPart(part);
+        if (refusal.code != ZTBatchMessage::NoError) {
+            return refused(part, refusal);
+        }
+        job.settings.append(part.document);
+    }
+    for (int i = 0; i < bundle.parts.size(); ++i) {
+        ZTBatchDocument document;
+        document.Deserialize(job.settings.at(i));
+        const QString folder = document.GetOutputSettings()->GetPath();
+        if (QDir::cleanPath(folder) != QDir::cleanPath(bundle.parts.at(i).outputFolder)) {
+            return refused(bundle.parts.at(i),
+                           {ZTBatchMessage::ReadOutputSettingsError,
+                            Phrase::English("Its output folder is \"%1\", but the bundle says \"%2\"")
+                                .arg(folder, bundle.parts.at(i).outputFolder)});
+        }
+    }
+    return job;
+}
+
+JobReader::Job ReadHere(const QString& text)
+{
+    return JobBundle::IsIn(text) ? ReadBundle(text) : ReadJob(text);
 }
 
 // A folder is written with the first of its files only: 100,000 files share a few folders.
 void Write(QDataStream& stream, const JobReader::Job& job)
 {
-    stream << qint32(job.refusal.code) << job.refusal.message << job.settings << qint32(job.files.size());
+    stream << qint32(job.refusal.code) << job.refusal.message << job.settings << job.folder << qint32(job.files.size());
     QString folder;
     for (const JobFile& file : job.files) {
         const bool isNew = file.folder != folder;
@@ -58,7 +123,7 @@ bool ReadBack(QDataStream& stream, JobReader::Job& job)
 {
     qint32 code = 0;
     qint32 count = 0;
-    stream >> code >> job.refusal.message >> job.settings >> count;
+    stream >> code >> job.refusal.message >> job.settings >> job.folder >> count;
     job.refusal.code = ZTBatchMessage::Error(code);
     QString folder;
     for (qint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
@@ -93,8 +158,8 @@ JobReader::Job JobReader::Read(QString text, const std::function<bool()>& isCanc
     Job job;
     QDataStream stream(&reader);
     if (reader.exitStatus() != QProcess::NormalExit || reader.exitCode() != 0 || !ReadBack(stream, job)) {
-        return {
-            {ZTBatchMessage::EmptyBatchDocument, Phrase::English("The job cannot be read: its reader failed")}, {}, {}};
+        return Refused(ZTBatchMessage::EmptyBatchDocument,
+                       Phrase::English("The job cannot be read: its reader failed"));
     }
     return job;
 }

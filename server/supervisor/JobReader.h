@@ -7,6 +7,7 @@
 #include "job/settings/JobFiles.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -17,12 +18,13 @@ namespace BatchSupervisor {
 /// its reader. Memory and crashes stay in that process.
 namespace JobReader {
 
-/// A job that was checked.
+/// A job that was checked, or a bundle of them.
 struct Job
 {
     BatchJob::Refusal refusal;        ///< if there is one, the rest is empty
-    QString settings;                 ///< the document without its inputs
+    QStringList settings;             ///< the documents without inputs: one, or those of the bundle in its order
     QVector<BatchJob::JobFile> files; ///< in the document's order
+    QString folder;                   ///< of the bundle; empty for a job
 };
 
 /// With this argument the program is the reader's process.

@@ -3,6 +3,7 @@
 
 #include "Run.h"
 
+#include "job/formats/InputFormat.h"
 #include "job/plan/CommandLog.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
@@ -106,7 +107,7 @@ void Run::OnJobRead()
     plan = std::move(preparation->plan);
     outputRoot = limits.followsLinks ? QString() : plan.Names().OutputFolder();
     preparation->outputRoot = outputRoot;
-    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToProbe});
+    FrameJobs(preparation->rightsToProbe);
     decisions.SetFiles(plan.Count());
     host.Tell<ZTBatchMessage::MsgProgressRange>(0, plan.Count());
     host.Log(QStringLiteral("The job has %1 files.").arg(plan.Count()));
@@ -179,7 +180,7 @@ void Run::AdoptUnjournaledResults()
 
 void Run::AdoptUnchanged()
 {
-    recipe = preparation->recipe;
+    recipes = preparation->recipes;
     update = std::move(preparation->update);
     if (!update) {
         return;
@@ -220,10 +221,21 @@ void Run::BeginWork()
     if (limits.followsLinks) {
         preparation->rightsToMake.writable += LinkedFolders(plan.Names());
     }
-    job = FrameToWorker(Job{preparation->settings, limits, preparation->rightsToMake});
+    FrameJobs(preparation->rightsToMake);
     preparation.reset();
     pool.Start();
     Q_EMIT HasTasks();
+}
+
+/// The jobs of a bundle differ in their settings only, and share their workers.
+void Run::FrameJobs(const WorkerRights& rights)
+{
+    jobs.clear();
+    group.clear();
+    for (const QString& settings : qAsConst(preparation->settings)) {
+        jobs.append(FrameToWorker(Job{settings, limits, rights}));
+        group += jobs.last();
+    }
 }
 
 bool Run::HasWork() const
@@ -241,7 +253,7 @@ bool Run::HandOut()
         return false;
     }
     if (!returned.isEmpty()) {
-        if (returned.first().isSecondTry && !pool.HasIdleWorker(job)) {
+        if (returned.first().isSecondTry && !pool.HasIdleWorker(group)) {
             return false;
         }
         Give(returned.takeFirst());
@@ -252,7 +264,7 @@ bool Run::HandOut()
             return false;
         }
         const int file = probes.Begin();
-        Give({number, file, job, ProbeTask{file, plan.Names().Input(file)}, {}, false});
+        Give({number, file, jobs.first(), ProbeTask{file, plan.Names().Input(file)}, {}, false});
         return true;
     }
     if (decisions.IsAskingAbout(PolicyKind::Output)) {
@@ -260,14 +272,19 @@ bool Run::HandOut()
     }
     for (int looked = 0; phase == Phase::Working && !isStopping; ++looked) {
         if (!ready.isEmpty()) {
-            if (GivePicture(ready.takeFirst())) {
+            int file = ready.takeFirst();
+            if (GivePicture(file)) {
+                while (SharesPixelsWithNext(file)) {
+                    file = ready.takeFirst();
+                    GivePicture(file);
+                }
                 return true;
             }
         } else if (next == plan.Count()) {
             EndWhenDone(); // An earlier part of the run may have left nothing to do.
             return false;
         } else {
-            Examine(next++);
+            ExamineNext();
         }
         if (looked == filesAtOnce) {
             QMetaObject::invokeMethod(this, &Run::HasTasks, Qt::QueuedConnection);
@@ -286,7 +303,33 @@ int Run::TasksLeft() const
 void Run::Give(const Assignment& task)
 {
     inWork.insert(task.file);
-    pool.Give(task);
+    Assignment given = task;
+    given.group = group;
+    const bool isPicture = std::holds_alternative<PictureTask>(task.task);
+    given.chain = isPicture && IsSlowToDecode(task.file) ? plan.Names().FileOf(task.file) : -1;
+    pool.Give(given);
+}
+
+/// Whether the next result to hand out is one of the same picture, and to be made from the same pixels.
+bool Run::SharesPixelsWithNext(int file)
+{
+    const OutputPlan& names = plan.Names();
+    return phase == Phase::Working && !isStopping && !ready.isEmpty() &&
+           names.FileOf(ready.first()) == names.FileOf(file) && IsSlowToDecode(file);
+}
+
+/// Whether a picture of which there are several results takes long to decode.
+bool Run::IsSlowToDecode(int file)
+{
+    const OutputPlan& names = plan.Names();
+    if (names.JobCount() == 1) {
+        return false;
+    }
+    if (lastLookedAt != names.FileOf(file)) {
+        lastLookedAt = names.FileOf(file);
+        isLastSlow = BatchJob::IsSlowToDecode(names.Input(file));
+    }
+    return isLastSlow;
 }
 
 bool Run::GivePicture(int file)
@@ -304,12 +347,12 @@ bool Run::GivePicture(int file)
     const std::optional<FileIdentity> before = IdentityOf(output);
     std::optional<ResultOrigin> origin;
     if (update) {
-        origin = {input, StampOf(input).value_or(FileStamp()), recipe.For(format)};
+        origin = {input, StampOf(input).value_or(FileStamp()), recipes.at(names.JobOf(file)).For(format)};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
     const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));
-    const PictureTask task{file, input, output, outputRoot, format, mayReplace};
-    Give({number, file, job, task, before, false});
+    const PictureTask task{file, input, output, outputRoot, format, mayReplace, SharesPixelsWithNext(file)};
+    Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
     return true;
 }
 
@@ -326,6 +369,14 @@ QString Run::MakeFolder(const QString& folder)
     }
     madeFolders.insert(folder);
     return {};
+}
+
+/// All results of a picture, one after the other.
+void Run::ExamineNext()
+{
+    do {
+        Examine(next++);
+    } while (next < plan.Count() && plan.Names().JobOf(next) != 0 && !isStopping);
 }
 
 /// Hands a file on to the workers, or its trouble to the policies.

@@ -42,7 +42,7 @@ public:
 
     void Begin();
 
-    /// Hands one task to the pool, which must have room. False when there is no task now.
+    /// Hands one task to the pool, which must have room, and the rest of its chain. False when there is no task now.
     bool HandOut();
 
     /// The greatest number of tasks that may still be handed out.
@@ -51,8 +51,8 @@ public:
     /// Whether there may be a task to hand out now.
     bool HasWork() const;
 
-    /// The framed job of the tasks that are handed out now.
-    const QByteArray& CurrentJob() const { return job; }
+    /// The group of the tasks that are handed out now.
+    const QByteArray& CurrentGroup() const { return group; }
 
     bool IsOver() const { return phase == Phase::Over; }
 
@@ -79,9 +79,13 @@ private:
     void AdoptUnchanged();
     void BeginNaming();
     void BeginWork();
+    void FrameJobs(const BatchProtocol::WorkerRights& rights);
 
     void Give(const BatchProtocol::Assignment& task);
     bool GivePicture(int file);
+    bool SharesPixelsWithNext(int file);
+    bool IsSlowToDecode(int file);
+    void ExamineNext();
     QString MakeFolder(const QString& folder);
     void Examine(int file);
 
@@ -126,7 +130,10 @@ private:
     std::unique_ptr<BackgroundTask> background;
 
     BatchJob::RunPlan plan;
-    QByteArray job; ///< framed, for workers
+    QVector<QByteArray> jobs; ///< framed, for workers
+    QByteArray group;         ///< of the workers of all of them
+    int lastLookedAt = -1;    ///< the file that IsSlowToDecode() has looked at
+    bool isLastSlow = false;  ///< and what it has found
     ProbeQueue probes;
 
     int next = 0;     ///< the first file that was not examined
@@ -140,7 +147,7 @@ private:
 
     const QString journalPath;
     RunRecord record;
-    BatchJob::Recipe recipe;                     ///< of an update
+    QVector<BatchJob::Recipe> recipes;           ///< of an update, one for each job
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
     QHash<int, int> losses;                      ///< how often a server has died while it worked on a file
 };

@@ -32,23 +32,38 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     if (isCancelled() || refusal.code != ZTBatchMessage::NoError) {
         return;
     }
-    const BatchProtocol::WorkerJob ofWorkers = BatchProtocol::WorkerJob::Of(job.settings, job.files);
-    refusal = ofWorkers.refusal; // A file that the settings name may have changed since the job was read.
-    if (refusal.code != ZTBatchMessage::NoError) {
+    const bool isBundle = !job.folder.isEmpty();
+    using BatchProtocol::WorkerJob;
+    const QVector<WorkerJob> jobs = isBundle ? WorkerJob::Of(job.settings, job.files, job.folder)
+                                             : QVector<WorkerJob>{WorkerJob::Of(job.settings.value(0), job.files)};
+    QVector<JobSettings> accepted;
+    for (const WorkerJob& ofWorkers : jobs) {
+        refusal = ofWorkers.refusal; // A file that the settings name may have changed since the job was read.
+        if (refusal.code != ZTBatchMessage::NoError) {
+            return;
+        }
+        accepted.append(ofWorkers.settings);
+    }
+    if (jobs.size() > 1 && replacesOriginals) {
+        refusal = {ZTBatchMessage::ReadOutputSettingsError,
+                   Phrase::English("Several results of one picture cannot replace their original")};
         return;
     }
-    settings = ofWorkers.document;
+    settings = job.settings;
+    const QString folder = isBundle ? job.folder : accepted.first().outputFolder;
     // Where the output folder exists, workers that have probed files can go on to make pictures.
-    const bool hasFolder = QFileInfo(ofWorkers.settings.outputFolder).isDir();
-    rightsToProbe = hasFolder ? ofWorkers.rightsToMake : ofWorkers.rightsToRead;
-    rightsToMake = ofWorkers.rightsToMake;
-    plan = RunPlan(OutputPlan(job.files, ofWorkers.settings));
+    const bool hasFolder = QFileInfo(folder).isDir();
+    rightsToProbe = hasFolder ? jobs.first().rightsToMake : jobs.first().rightsToRead;
+    rightsToMake = jobs.first().rightsToMake;
+    plan = RunPlan(OutputPlan(job.files, accepted, folder));
     if (replacesOriginals) {
         plan.ReplaceOriginals();
     }
     EnterEarlierResults();
     if (earlier && earlier->update) {
-        recipe = Recipe(settings, ofWorkers.settings);
+        for (int i = 0; i < accepted.size(); ++i) {
+            recipes.append(Recipe(settings.at(i), accepted.at(i)));
+        }
         ReadRecord(QFileInfo(journalPath).path());
     }
     plan.ReadInputs(isCancelled);
@@ -173,7 +188,7 @@ void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
         const OutputPlan& names = plan.Names();
         const QString output = names.Output(i);
         if (const RecordedResult* const recorded =
-                update->Unchanged(output, names.Input(i), recipe.For(names.Format(i)->name))) {
+                update->Unchanged(output, names.Input(i), recipes.at(names.JobOf(i)).For(names.Format(i)->name))) {
             unchanged.append({i, {ResultKind::Unchanged, output, 0, {}, recorded->warnings, recorded->facts, {}, {}}});
         }
     }

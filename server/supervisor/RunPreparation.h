@@ -52,7 +52,7 @@ struct RunPreparation
     void FindUnchanged(const Cancelled& isCancelled);
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
-    QString settings;          ///< the job without its inputs
+    QStringList settings;      ///< the job, or each of a bundle, without inputs
     BatchProtocol::WorkerRights rightsToProbe;
     BatchProtocol::WorkerRights rightsToMake;
     BatchJob::RunPlan plan;
@@ -61,7 +61,7 @@ struct RunPreparation
     std::optional<BatchJob::JournalState> earlier;
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
-    BatchJob::Recipe recipe;  ///< of an update
+    QVector<BatchJob::Recipe> recipes;           ///< of an update, one for each job
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
     QString recordProblem;                       ///< why the record of results does not count, for users
     QVector<QPair<int, BatchJob::JournalState::Result>> unchanged; ///< files whose results need not be made again

@@ -108,6 +108,7 @@ void RunRecord::AddWritten(const RunPlan& plan, int file, const Report& report)
     LogFacts(input, facts);
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
     ++written;
+    fromKeptPixels += report.usedKeptPixels ? 1 : 0;
 }
 
 void RunRecord::AddLeftOut(const OutputPlan& names, int file, const Trouble& trouble, Action action)
@@ -130,7 +131,10 @@ void RunRecord::AddLeftOut(const OutputPlan& names, int file, const Trouble& tro
 void RunRecord::TellTrouble(const OutputPlan& names, int file, const Trouble& trouble, Action action) const
 {
     host.Log(TroubleLine{names.Input(file), trouble.reason, action, trouble.kind}.Text());
-    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), trouble.code);
+    // Where a picture has several results, the host tells them apart by their folders.
+    const bool needsFolder = names.JobCount() > 1 && names.OutputName(file).isEmpty();
+    const QString output = needsFolder ? names.Folder(file) + QLatin1Char('/') : names.Output(file);
+    host.Tell<ZTBatchMessage::MsgError>(names.Input(file), output, int(action), trouble.code);
 }
 
 void RunRecord::TellProgress() const
@@ -150,6 +154,10 @@ void RunRecord::LogTotals(const QString& how, int files) const
         text += QStringLiteral(", %1 not processed").arg(left);
     }
     host.Log(text + QLatin1Char('.'));
+    if (fromKeptPixels > 0) {
+        host.Log(QStringLiteral("%1 results were made from pixels that were decoded for another result.")
+                     .arg(fromKeptPixels));
+    }
 }
 
 /// On standard error too, which hosts show to their users.

@@ -77,6 +77,7 @@ private:
     int unchanged = 0;
     int skipped = 0;
     int failed = 0;
+    int fromKeptPixels = 0; ///< results whose input was not decoded for them
     bool stampsResults = false;
 };
 

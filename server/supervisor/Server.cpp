@@ -322,8 +322,8 @@ void Server::HandOut()
     isHandOutScheduled = false;
     QVector<QByteArray> jobs;
     for (const Run* run : qAsConst(runs)) {
-        if (run->HasWork() && !jobs.contains(run->CurrentJob())) {
-            jobs.append(run->CurrentJob());
+        if (run->HasWork() && !jobs.contains(run->CurrentGroup())) {
+            jobs.append(run->CurrentGroup());
         }
     }
     pool.Serve(jobs);
@@ -331,7 +331,7 @@ void Server::HandOut()
     int idle = 0;
     while (idle < runs.size()) {
         Run* const run = runs.first();
-        const bool hasGiven = pool.HasRoom(run->CurrentJob(), run->TasksLeft()) && run->HandOut();
+        const bool hasGiven = pool.HasRoom(run->CurrentGroup(), run->TasksLeft()) && run->HandOut();
         idle = hasGiven ? 0 : idle + 1;
         if (!runs.isEmpty() && runs.first() == run) {
             runs.append(runs.takeFirst());

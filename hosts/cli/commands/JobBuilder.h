@@ -5,6 +5,8 @@
 
 #include "JobInputs.h"
 
+#include "job/settings/JobBundle.h"
+
 class ZTBatchDocument;
 
 namespace BatchCli {
@@ -16,6 +18,23 @@ void BuildSettings(ZTBatchDocument& job, const ParsedArguments& arguments, const
 /// The same with inputs, see AddInputs(); a relative output folder starts at the current folder. Throws RequestError.
 InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, const QString& savedJob,
                      const QStringList& inputs);
+
+/// What the arguments of run and plan describe: one job, or several that make results of the same inputs.
+struct GivenJobs
+{
+    BatchJob::JobBundle bundle; ///< empty for one job
+    InputLosses losses;
+
+    /// Where all results go; `job` is the first one.
+    QString OutputFolder(const ZTBatchDocument& job) const;
+};
+
+/// The same as BuildJob(), but there may be several presets in `arguments`, or several saved jobs at the beginning of
+/// `inputs`, which are removed. `job` becomes the only job, or the first, which has the inputs. Throws RequestError.
+GivenJobs BuildJobs(ZTBatchDocument& job, const ParsedArguments& arguments, QStringList& inputs);
+
+/// Removes all saved jobs at the beginning of `inputs` and returns them.
+QStringList TakeSavedJobs(QStringList& inputs);
 
 /// Removes the saved job from `inputs`, the first one if its name ends with ".xml" or it holds a job, and returns it;
 /// empty if the first input is something else.

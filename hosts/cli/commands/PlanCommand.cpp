@@ -35,7 +35,8 @@ struct Outlook
 {
     RunForecast forecast;
     PlanProbe probe;
-    JobSettings settings;
+    QVector<JobSettings> settings; ///< of the jobs
+    QStringList names;             ///< of the jobs; empty for one
 
     QSize InputSize(int index) const { return probe.sizes.value(index); }
 
@@ -47,14 +48,33 @@ struct Outlook
         if (input.isEmpty() || decision == Decision::Skip || decision == Decision::Stop) {
             return {};
         }
-        return ResultSize(input, settings).value_or(QSize());
+        return ResultSize(input, settings.at(forecast.Names().JobOf(index))).value_or(QSize());
     }
 };
 
-Outlook LookAhead(const ZTBatchDocument& job, const PolicyValues& policies, const ParsedArguments& arguments)
+/// The settings of the jobs of a bundle.
+QVector<JobSettings> SettingsOf(const JobBundle& bundle)
 {
-    const JobSettings settings = CheckSettings(job).settings;
-    RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), settings));
+    QVector<JobSettings> settings;
+    for (const JobBundle::Part& part : bundle.parts) {
+        ZTBatchDocument job;
+        job.Deserialize(part.document);
+        settings.append(CheckSettings(job).settings);
+    }
+    return settings;
+}
+
+Outlook LookAhead(const ZTBatchDocument& job, const GivenJobs& given, const PolicyValues& policies,
+                  const ParsedArguments& arguments)
+{
+    const QVector<JobSettings> settings =
+        given.bundle.IsEmpty() ? QVector<JobSettings>{CheckSettings(job).settings} : SettingsOf(given.bundle);
+    QStringList names;
+    for (const JobBundle::Part& part : given.bundle.parts) {
+        names.append(part.name);
+    }
+    RunPlan plan(OutputPlan(FilesOfJob(*job.GetInputModel()), settings,
+                            given.bundle.IsEmpty() ? settings.first().outputFolder : given.bundle.folder));
     if (arguments.Has(QStringLiteral("--in-place"))) {
         plan.ReplaceOriginals();
     }
@@ -63,7 +83,7 @@ Outlook LookAhead(const ZTBatchDocument& job, const PolicyValues& policies, cons
     plan.ReadInputs();
     const PlanProbe probe = ProbeInputs(plan, job, !arguments.Has(QStringLiteral("--no-sizes")),
                                         arguments.Has(QStringLiteral("--verbose")), line);
-    return {RunForecast(plan, Policies(policies), probe.unreadable), probe, settings};
+    return {RunForecast(plan, Policies(policies), probe.unreadable), probe, settings, names};
 }
 
 QString ProspectWord(const RunForecast::Prospect& prospect)
@@ -139,6 +159,9 @@ QString JsonLine(const Outlook& outlook, int index)
     if (prospect.decision) {
         object.insert(QStringLiteral("reason"), prospect.trouble.reason);
     }
+    if (!outlook.names.isEmpty()) {
+        object.insert(QStringLiteral("preset"), outlook.names.at(forecast.Names().JobOf(index)));
+    }
     InsertSize(object, QStringLiteral("inputWidth"), QStringLiteral("inputHeight"), outlook.InputSize(index));
     InsertSize(object, QStringLiteral("width"), QStringLiteral("height"), outlook.OutputSize(index));
     return QString::fromUtf8(VisibleJson(QJsonDocument(object).toJson(QJsonDocument::Compact))) + QLatin1Char('\n');
@@ -157,12 +180,12 @@ void TellMissingSizes(const PlanProbe& probe)
 ExitCode PlanJob(const ParsedArguments& arguments)
 {
     QStringList inputs = arguments.inputs;
-    const QString savedJob = TakeSavedJob(inputs);
     PolicyValues policies{ZTBatchManager::InputAsk, ZTBatchManager::OutputAsk, ZTBatchManager::ProcessingAsk,
                           ZTBatchManager::NamingAsk, ZTBatchManager::WriteToFormatAsk};
     ApplyPolicies(arguments, policies);
     ZTBatchDocument job;
-    const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
+    const GivenJobs given = BuildJobs(job, arguments, inputs);
+    const InputLosses& losses = given.losses;
     if (!HasPictures(job, arguments, inputs)) {
         return losses.problems == 0 ? ExitCode::Done : ExitCode::Incomplete;
     }
@@ -170,7 +193,7 @@ ExitCode PlanJob(const ParsedArguments& arguments)
 
     const bool isQuiet = arguments.Has(QStringLiteral("--quiet"));
     const bool isJson = arguments.Has(QStringLiteral("--json"));
-    const Outlook outlook = LookAhead(job, policies, arguments);
+    const Outlook outlook = LookAhead(job, given, policies, arguments);
     const RunForecast& forecast = outlook.forecast;
     const int count = forecast.Names().Count();
     int clear = 0;

@@ -29,10 +29,24 @@ QVector<FileProber::File> FilesToProbe(const RunPlan& plan, const QVector<int>& 
         }
         return files;
     }
-    for (int i = 0; i < plan.Count(); ++i) {
-        files.append({i, plan.Names().Input(i)});
+    // Each file once, for the first of its results that needs it.
+    auto next = needed.begin();
+    for (int i = 0; i < plan.Count(); i += plan.Names().JobCount()) {
+        const bool isNeeded = next != needed.end() && plan.Names().FileOf(*next) == plan.Names().FileOf(i);
+        files.append({isNeeded ? *next++ : i, plan.Names().Input(i)});
     }
     return files;
+}
+
+/// All results of the file of the result `index`.
+QVector<int> ResultsOfFile(const OutputPlan& names, int index)
+{
+    QVector<int> results;
+    const int first = index - names.JobOf(index);
+    for (int i = first; i < first + names.JobCount(); ++i) {
+        results.append(i);
+    }
+    return results;
 }
 
 } // namespace
@@ -50,19 +64,27 @@ PlanProbe ProbeInputs(RunPlan& plan, const ZTBatchDocument& job, bool withSizes,
     const auto note = [&](const BatchProtocol::Report& report) {
         ++done;
         line.Show([&] { return Messages::tr("Looking at pictures: %1 of %2").arg(done).arg(files.size()); });
+        const QVector<int> results = ResultsOfFile(plan.Names(), report.number);
         if (report.failure == PolicyKind::None) {
             const ProbeResult result = BatchProtocol::ProbeResultOf(report);
-            found.sizes.insert(report.number, result.size);
+            for (const int one : results) {
+                found.sizes.insert(one, result.size);
+            }
             if (isNeeded.contains(report.number)) {
                 plan.SetProbe(report.number, result);
             }
             return;
         }
         const Trouble trouble = BatchProtocol::TroubleOf(report);
-        if (isNeeded.contains(report.number)) {
+        const QVector<int> settled =
+            isNeeded.contains(report.number) ? plan.Names().ResultsToProbe(report.number) : QVector<int>();
+        if (!settled.isEmpty()) {
             plan.SetProbeFailure(report.number, trouble);
-        } else {
-            found.unreadable.insert(report.number, trouble);
+        }
+        for (const int one : results) {
+            if (!settled.contains(one)) {
+                found.unreadable.insert(one, trouble);
+            }
         }
         if (isVerbose && !report.detail.isEmpty()) {
             line.Clear();

@@ -80,8 +80,8 @@ QString WithRemedy(const QString& text, RequestError::Kind kind)
     case RequestError::Kind::NoOutputFolder:
         return Messages::tr("%1: use --output DIR").arg(text);
     case RequestError::Kind::SavedJobAmongInputs:
-        return Messages::tr("%1. One saved job may be given: as the first argument of run, plan and show, or to "
-                            "create with --from")
+        return Messages::tr("%1. Saved jobs may be given: as the first arguments of run and plan, one as the first "
+                            "argument of show, or to create with --from")
             .arg(text);
     case RequestError::Kind::FileExists:
         return Messages::tr("%1; use --force to replace it").arg(text);

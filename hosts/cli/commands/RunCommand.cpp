@@ -18,7 +18,6 @@
 #include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
-#include "ZTBatchOutputSettings.h"
 
 #include <algorithm>
 
@@ -40,22 +39,22 @@ bool IsJobGiven(const ParsedArguments& arguments)
     return !arguments.inputs.isEmpty() || std::any_of(ofJob.begin(), ofJob.end(), isGiven);
 }
 
-JournaledJob JournaledJobOf(ZTBatchDocument& job, const ParsedArguments& arguments)
+JournaledJob JournaledJobOf(ZTBatchDocument& job, const GivenJobs& given, const ParsedArguments& arguments)
 {
     if (arguments.Has(QStringLiteral("--resume"))) {
-        const QString folder = job.GetOutputSettings()->GetPath();
+        const QString folder = given.OutputFolder(job);
         if (folder.isEmpty()) {
             throw RequestError{BatchJob::Phrase::English("no output folder"), RequestError::Kind::NoOutputFolder};
         }
         const InterruptedRuns runs(folder);
         TellIgnoredJournals(runs);
-        return JournaledJob::Interrupted(job, runs, {IsJobGiven(arguments), arguments.Value(runOption)});
+        return JournaledJob::Interrupted(job, given.bundle, runs, {IsJobGiven(arguments), arguments.Value(runOption)});
     }
-    JournaledJob journaled = JournaledJob::New(job);
+    JournaledJob journaled = JournaledJob::New(job, given.bundle);
     if (journaled.StartsAnew()) {
         TellOfInterruptedRun();
     }
-    const QString folder = job.GetOutputSettings()->GetPath();
+    const QString folder = given.OutputFolder(job);
     const int others = InterruptedRuns(folder).Count();
     if (others > 0 && !arguments.Has(QStringLiteral("--quiet"))) {
         TellOfOtherRuns(folder, others);
@@ -77,12 +76,12 @@ void CheckRunName(const ParsedArguments& arguments)
 }
 
 /// Reports a run without pictures.
-RunEnd EmptyRun(const ZTBatchDocument& job, const InputLosses& losses, RunOutput& output)
+RunEnd EmptyRun(const QString& outputFolder, const InputLosses& losses, RunOutput& output)
 {
     RunInputs inputs;
     inputs.leftOut = losses.leftOut;
     RunEnd end;
-    end.outputFolder = job.GetOutputSettings()->GetPath();
+    end.outputFolder = outputFolder;
     for (RunObserver* const observer : output.Observers()) {
         observer->OnStart(inputs, end.outputFolder);
         observer->OnEnd(end);
@@ -164,17 +163,17 @@ ExitCode RunJob(const ParsedArguments& arguments)
     RunOutput output(arguments);
 
     QStringList inputs = arguments.inputs;
-    const QString savedJob = TakeSavedJob(inputs);
     ZTBatchDocument job;
-    const InputLosses losses = BuildJob(job, arguments, savedJob, inputs);
+    const GivenJobs given = BuildJobs(job, arguments, inputs);
+    const InputLosses& losses = given.losses;
     if (!arguments.Has(QStringLiteral("--resume")) && !HasPictures(job, arguments, inputs)) {
-        const RunEnd end = EmptyRun(job, losses, output);
+        const RunEnd end = EmptyRun(given.OutputFolder(job), losses, output);
         return CodeOf(end, arguments, losses.problems, !output.WriteReportError());
     }
 
     // From the first lock and folder to the last.
     InterruptWatcher interrupts;
-    JournaledJob journaled = JournaledJobOf(job, arguments);
+    JournaledJob journaled = JournaledJobOf(job, given, arguments);
     RunEnd end;
     RunPolicies policies;
     {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "HelpTexts.h"
+#include "PresetOptions.h"
 
 #include <QHash>
 #include <QStringList>
@@ -27,8 +28,8 @@ struct ParsedArguments
 /// Every command with its options.
 const QVector<CommandInfo>& Commands();
 
-/// The options that describe a job, including its inputs.
-QVector<OptionInfo> OptionsOfJobs();
+/// The options that describe a job, including its inputs; `preset` is the one that names the preset.
+QVector<OptionInfo> OptionsOfJobs(const OptionInfo& preset = PresetOptionInfo());
 
 /// Help texts get lines of about `columns` columns. Throws RequestError.
 ParsedArguments ParseArguments(const QStringList& arguments, int columns = defaultColumns);

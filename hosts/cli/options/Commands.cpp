@@ -133,14 +133,16 @@ QVector<CommandInfo> MakeCommands()
         GeneralOptions().last()};
     const QVector<OptionInfo> ofCreate = QVector<OptionInfo>{FromOptionInfo(), ForceOptionInfo()} + ofJobs;
     return {
-        {Text("run"), Text("[JOB.xml] [INPUT...]"),
+        {Text("run"), Text("[JOB.xml...] [INPUT...]"),
          BatchJob::Phrase::English(
-             "processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all "
+             "processes a saved job, files and folders, or both; options override the job. Several jobs make several "
+             "results of each picture, each in a folder of its name. Exit status: 0 when all "
              "pictures were written, or left out by a policy that an option names; 1 when some failed or were left out "
              "otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 "
              "when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on "
              "already; 7 when there is nothing to resume"),
-         OptionsOfJobs() + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(), Completion::Files},
+         OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(),
+         Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          BatchJob::Phrase::English(
              "writes a job with these inputs and options to a file, or to standard output for \"-\""),
@@ -149,12 +151,12 @@ QVector<CommandInfo> MakeCommands()
          BatchJob::Phrase::English(
              "prints a job: its inputs as a tree, its effects, and its output in the words of the options"),
          ofJobs, Completion::Files},
-        {Text("plan"), Text("[JOB.xml] [INPUT...]"),
+        {Text("plan"), Text("[JOB.xml...] [INPUT...]"),
          BatchJob::Phrase::English(
              "prints every input with its output and its size in pixels, and writes nothing. A problem is printed in "
              "brackets, with what "
              "the policy would do about it. Exit status: 1 when there are problems"),
-         OptionsOfJobs() + PolicyOptionInfos() + PlanOptionInfos() +
+         OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + PlanOptionInfos() +
              QVector<OptionInfo>{
                  {Text("--no-sizes"), QString(),
                   BatchJob::Phrase::English(
@@ -176,9 +178,9 @@ QVector<CommandInfo> MakeCommands()
 
 } // namespace
 
-QVector<OptionInfo> OptionsOfJobs()
+QVector<OptionInfo> OptionsOfJobs(const OptionInfo& preset)
 {
-    return QVector<OptionInfo>{PresetOptionInfo()} + InputOptions() + JobOptionInfos();
+    return QVector<OptionInfo>{preset} + InputOptions() + JobOptionInfos();
 }
 
 const QVector<CommandInfo>& Commands()

@@ -14,6 +14,16 @@ OptionInfo PresetOptionInfo()
             BatchJob::Phrase::English("Inputs")};
 }
 
+OptionInfo PresetsOptionInfo()
+{
+    OptionInfo info = PresetOptionInfo();
+    info.help = BatchJob::Phrase::English("starts from a preset; \"velkora-batch presets\" lists them. Given several "
+                                          "times, each picture gets a result of "
+                                          "each preset, in a folder of its name in the output folder");
+    info.isRepeatable = true;
+    return info;
+}
+
 OptionInfo SettingsOptionInfo()
 {
     return {QStringLiteral("--settings"),

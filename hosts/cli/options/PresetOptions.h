@@ -10,6 +10,9 @@ namespace BatchCli {
 /// "--preset", which every command takes that works with a job.
 OptionInfo PresetOptionInfo();
 
+/// The same for commands that take several presets at a time.
+OptionInfo PresetsOptionInfo();
+
 /// "--settings", for commands that need presets or policies.
 OptionInfo SettingsOptionInfo();
 

@@ -34,12 +34,20 @@ void Write(const char* event, QJsonObject object)
     WriteJson(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
+void InsertPreset(QJsonObject& object, const FileResult& result)
+{
+    if (!result.preset.isEmpty()) {
+        object.insert(Key("preset"), result.preset);
+    }
+}
+
 /// The warnings about a picture, as events of their own. `isEarlier` as in OnEarlierResult().
 void WriteWarnings(const FileResult& result, bool isEarlier)
 {
     for (const Warning& warning : result.warnings) {
         QJsonObject object{
             {Key("input"), result.input}, {Key("kind"), WarningWord(warning.kind)}, {Key("text"), warning.text}};
+        InsertPreset(object, result);
         if (isEarlier) {
             object.insert(Key("earlier"), true);
         }
@@ -60,6 +68,7 @@ QJsonObject ResultObject(const FileResult& result)
 {
     QJsonObject object = FactFieldsOf(result);
     object.insert(Key("input"), result.input);
+    InsertPreset(object, result);
     if (!result.output.isEmpty()) {
         object.insert(Key("output"), result.output);
     }
@@ -79,11 +88,19 @@ QString PolicyName(PolicyKind kind)
 
 void EventWriter::OnStart(const RunInputs& inputs, const QString& outputFolder)
 {
-    Write("start", {{Key("version"), schemaVersion},
-                    {Key("files"), inputs.files.size()},
-                    {Key("bytes"), double(inputs.allBytes)},
-                    {Key("output"), outputFolder},
-                    {Key("leftOut"), inputs.leftOut.size()}});
+    QJsonObject object{{Key("version"), schemaVersion},
+                       {Key("files"), inputs.files.size()},
+                       {Key("bytes"), double(inputs.allBytes)},
+                       {Key("output"), outputFolder},
+                       {Key("leftOut"), inputs.leftOut.size()}};
+    QJsonArray presets;
+    for (const RunVariant& variant : inputs.variants) {
+        presets.append(variant.name);
+    }
+    if (!presets.isEmpty()) {
+        object.insert(Key("presets"), presets);
+    }
+    Write("start", object);
 }
 
 void EventWriter::OnEarlierResult(const FileResult& result)

@@ -86,7 +86,7 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.inWork.removeOne(result.input);
     if (!HasResult(result.kind)) {
         Write(QStringLiteral("%1 %2: %3")
-                  .arg(Translated(BatchJob::ResultWord(result.kind)), result.input, Translated(result.reason)));
+                  .arg(Translated(BatchJob::ResultWord(result.kind)), result.Title(), Translated(result.reason)));
     } else if (result.kind == FileResult::Kind::Written && !line.IsShown() && detail != Detail::Quiet) {
         Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }

@@ -111,7 +111,7 @@ void RunSummary::OnResult(const FileResult& result, int, int)
     }
     for (const Warning& warning : result.warnings) {
         if (!examples.contains(warning.kind)) {
-            examples.insert(warning.kind, QStringLiteral("%1: %2").arg(result.input, Translated(warning.text)));
+            examples.insert(warning.kind, QStringLiteral("%1: %2").arg(result.Title(), Translated(warning.text)));
         }
     }
 }
@@ -188,7 +188,7 @@ void RunSummary::Write(FileResult::Kind kind, int count) const
     int lines = 0;
     for (const FileResult& result : unwritten) {
         if (result.kind == kind && lines++ < mostLines) {
-            WriteErrorLine(QStringLiteral("    %1: %2").arg(result.input, Translated(result.reason)));
+            WriteErrorLine(QStringLiteral("    %1: %2").arg(result.Title(), Translated(result.reason)));
         }
     }
     if (lines > mostLines) {

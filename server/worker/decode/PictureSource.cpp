@@ -4,6 +4,7 @@
 #include "PictureSource.h"
 
 #include "FileEnd.h"
+#include "KeptPixels.h"
 #include "LibraryLoader.h"
 #include "Loader.h"
 #include "MpfIndex.h"
@@ -98,9 +99,10 @@ Picture Read(const QString& file, const Loader& loader, int shrink, const Server
 
 } // namespace
 
-PictureSource::PictureSource(const QString& file, const ServerLimits& limits)
+PictureSource::PictureSource(const QString& file, const ServerLimits& limits, KeptPixels* kept)
     : file(file)
     , limits(limits)
+    , kept(kept)
 {
     format = IdentifiedFormat(file, QFileInfo(file).suffix());
     if (!format) {
@@ -173,6 +175,15 @@ int PictureSource::PossibleShrink(double reduction) const
 }
 
 Picture PictureSource::Load(int shrink)
+{
+    if (!kept || !format->isSlowToDecode) {
+        return Decoded(shrink);
+    }
+    return kept->Get(shrink, raw ? KeptPixels::Place::InMemory : KeptPixels::Place::Flowing, warnings,
+                     [this, shrink] { return Decoded(shrink); });
+}
+
+Picture PictureSource::Decoded(int shrink)
 {
     if (raw) {
         // A decoder of its own: its memory is freed with the pixels.

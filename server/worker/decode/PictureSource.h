@@ -23,6 +23,7 @@
 
 namespace BatchWorker {
 
+class KeptPixels;
 class RawFile;
 
 /// A file that holds a picture. Opening it reads its header only.
@@ -33,7 +34,8 @@ class PictureSource
 {
 public:
     /// Opens `file` and reads its header. A picture of more pixels than `limits` allow is refused.
-    PictureSource(const QString& file, const BatchProtocol::ServerLimits& limits);
+    /// Pixels that are slow to decode come from `kept` and go there, if it is not null; it must outlive this object.
+    PictureSource(const QString& file, const BatchProtocol::ServerLimits& limits, KeptPixels* kept = nullptr);
     ~PictureSource();
 
     /// The bytes of the file decide, not its name.
@@ -84,11 +86,13 @@ public:
 private:
     Q_DISABLE_COPY(PictureSource)
 
+    Picture Decoded(int shrink);
     void OpenRaw();
     void OpenWithLoader();
 
     QString file;
     BatchProtocol::ServerLimits limits;
+    KeptPixels* kept;
     const BatchJob::FormatSchema* format = nullptr;
     QSize storedSize;
     int orientation = 1;

@@ -59,7 +59,8 @@ QStringList KeptMetadata(const QJsonObject& options)
 class PictureRun
 {
 public:
-    PictureRun(const JobSettings& job, const ServerLimits& limits, const PictureTask& task, const FormatSchema& format)
+    PictureRun(const JobSettings& job, const ServerLimits& limits, const PictureTask& task, const FormatSchema& format,
+               KeptPixels* kept)
         : job(job)
         , limits(limits)
         , task(task)
@@ -68,7 +69,7 @@ public:
         , limit(ByteLimit::Of(options))
         , keep(KeptMetadata(options))
         , colours(job, format, keep)
-        , source(task.inputFile, limits)
+        , source(task.inputFile, limits, kept)
     {
         WarnOfOtherPages();
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
@@ -301,7 +302,7 @@ void PictureRun::KeepFileTime() const
 
 } // namespace
 
-MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, const PictureTask& task)
+MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, const PictureTask& task, KeptPixels* kept)
 {
     const FormatSchema* format = FindFormat(task.format);
     if (!format) {
@@ -309,7 +310,7 @@ MadePicture MakePicture(const JobSettings& job, const ServerLimits& limits, cons
                                NearestFormat({}).name);
     }
     BeginMemoryAccount();
-    return PictureRun(job, limits, task, *format).Make();
+    return PictureRun(job, limits, task, *format, kept).Make();
 }
 
 } // namespace BatchWorker

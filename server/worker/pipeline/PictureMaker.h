@@ -13,6 +13,8 @@
 
 namespace BatchWorker {
 
+class KeptPixels;
+
 /// A result that is complete but for its name.
 struct MadePicture
 {
@@ -22,8 +24,8 @@ struct MadePicture
 };
 
 /// Makes the result of `task` in a temporary file: decode, upright, crop, size, effects, framing, colour, encode.
-/// Throws PictureFailure; nothing is left behind then.
+/// Throws PictureFailure; nothing is left behind then. For `kept` see PictureSource.
 MadePicture MakePicture(const BatchJob::JobSettings& job, const BatchProtocol::ServerLimits& limits,
-                        const BatchProtocol::PictureTask& task);
+                        const BatchProtocol::PictureTask& task, KeptPixels* kept = nullptr);
 
 } // namespace BatchWorker

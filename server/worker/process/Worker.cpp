@@ -102,6 +102,7 @@ Report ReportOnPicture(const Work& work)
 Worker::Worker(ReportQueue& reports, Confinement& confinement)
     : reports(reports)
     , confinement(confinement)
+    , kept(TakeLibraryWarnings)
 {
 }
 
@@ -193,12 +194,14 @@ void Worker::Make(const PictureTask& task)
     Report report = ReportOnPicture([this, &task, &made] {
         Report done = jobProblem;
         if (settings) {
-            made = MakePicture(*settings, limits, task);
+            made = MadeFrom(task);
+            done.usedKeptPixels = kept.WereUsed();
             done.facts = made.facts;
             done.warnings = made.warnings;
         }
         return done;
     });
+    kept.EndTask();
     report.number = task.number;
     report.facts.milliseconds = int(time.elapsed());
     if (made.file) {
@@ -206,6 +209,27 @@ void Worker::Make(const PictureTask& task)
     } else {
         reports.Send(report);
     }
+}
+
+/// Kept pixels must not cost a result for which the memory would be enough without them.
+MadePicture Worker::MadeFrom(const PictureTask& task)
+{
+    constexpr int mostOfMemory = 4; // kept pixels take a quarter at most
+    kept.BeginTask(task.inputFile, task.keepsPixels, limits.workerMemory / mostOfMemory);
+    try {
+        return MakePicture(*settings, limits, task, &kept);
+    } catch (const PictureFailure& problem) {
+        if (problem.kind != PictureFailure::Kind::TooLarge || !kept.HoldsPixels()) {
+            throw;
+        }
+    } catch (const std::bad_alloc&) {
+        if (!kept.HoldsPixels()) {
+            throw;
+        }
+    }
+    kept.BeginTask(task.inputFile, false, 0);
+    kept.Forget();
+    return MakePicture(*settings, limits, task);
 }
 
 } // namespace BatchWorker

@@ -8,6 +8,8 @@
 
 #include "job/settings/JobCheck.h"
 #include "server/protocol/WorkerMessages.h"
+#include "server/worker/decode/KeptPixels.h"
+#include "server/worker/pipeline/PictureMaker.h"
 
 #include <optional>
 
@@ -31,10 +33,12 @@ private:
     BatchProtocol::Report Read(const BatchProtocol::Job& job);
     void Probe(const BatchProtocol::ProbeTask& task);
     void Make(const BatchProtocol::PictureTask& task);
+    MadePicture MadeFrom(const BatchProtocol::PictureTask& task);
 
     ReportQueue& reports;
     Confinement& confinement;
     bool isConfined = false;
+    KeptPixels kept;
     BatchProtocol::ServerLimits limits;            ///< of the last job
     std::optional<BatchJob::JobSettings> settings; ///< of the last job, if it can be done
     BatchProtocol::Report jobProblem;              ///< what is wrong with the job when there are no settings

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void init();
     void reusesWorkersForOneJob();
     void neverSharesAWorkerBetweenJobs();
+    void jobsOfAGroupShareWorkers();
+    void tasksOfAChainGoToOneWorker();
     void dividesWorkersAmongJobs();
     void jobsTakeTurnsWithOneWorker();
     void replacesWorkersOfAFinishedJob();
@@ -51,7 +53,7 @@ private Q_SLOTS:
 private:
     void MakePool(int workers);
     bool WaitForRoom(const QByteArray& job);
-    void Give(const QByteArray& job);
+    void Give(const QByteArray& job, const QByteArray& group = {}, int chain = -1);
     bool WaitForReports(int count);
     QVector<Description> Reported(const QByteArray& job) const;
     QSet<QByteArray> ProcessesOf(const QByteArray& job) const;
@@ -89,7 +91,7 @@ bool tst_WorkerPool::WaitForRoom(const QByteArray& job)
     return QTest::qWaitFor([&] { return pool->HasRoom(job, manyTasks); }, 30'000);
 }
 
-void tst_WorkerPool::Give(const QByteArray& job)
+void tst_WorkerPool::Give(const QByteArray& job, const QByteArray& group, int chain)
 {
     PictureTask picture;
     picture.number = jobs.size();
@@ -100,6 +102,8 @@ void tst_WorkerPool::Give(const QByteArray& job)
     task.file = picture.number;
     task.job = job;
     task.task = picture;
+    task.group = group;
+    task.chain = chain;
     jobs.append(job);
     pool->Give(task);
 }
@@ -159,6 +163,49 @@ void tst_WorkerPool::neverSharesAWorkerBetweenJobs()
     }
     QVERIFY(!ProcessesOf(a).intersects(ProcessesOf(b)));
     QCOMPARE(Reported(a).size() + Reported(b).size(), 6);
+}
+
+void tst_WorkerPool::jobsOfAGroupShareWorkers()
+{
+    MakePool(1);
+    const QByteArray a = FramedJob("a");
+    const QByteArray b = FramedJob("b");
+    const QByteArray group = a + b;
+    pool->Serve({group});
+    for (int i = 0; i < 6; ++i) {
+        QVERIFY(WaitForRoom(group));
+        Give(i % 3 == 0 ? a : b, group);
+    }
+    QVERIFY(WaitForReports(6));
+    QCOMPARE(Reported(b).size(), 4);
+    QCOMPARE(ProcessesOf(a).size(), 1);
+    QCOMPARE(ProcessesOf(a), ProcessesOf(b));
+    // The group has the worker, not one of its jobs.
+    pool->Serve({a});
+    QVERIFY(!pool->HasRoom(a, 1));
+}
+
+/// They need no room of their own.
+void tst_WorkerPool::tasksOfAChainGoToOneWorker()
+{
+    constexpr int chains = 6;
+    constexpr int tasksOfChain = 5;
+    MakePool(3);
+    const QByteArray a = FramedJob("a");
+    pool->Serve({a});
+    for (int chain = 0; chain < chains; ++chain) {
+        QVERIFY(WaitForRoom(a));
+        for (int i = 0; i < tasksOfChain; ++i) {
+            Give(a, {}, chain);
+        }
+    }
+    QVERIFY(WaitForReports(chains * tasksOfChain));
+    const QVector<Description> descriptions = Reported(a);
+    QCOMPARE(descriptions.size(), chains * tasksOfChain);
+    for (int i = 0; i < descriptions.size(); ++i) {
+        QCOMPARE(descriptions.at(i).process, descriptions.at(i - i % tasksOfChain).process);
+    }
+    QVERIFY(ProcessesOf(a).size() > 1);
 }
 
 /// A job that comes later gets its share, though the first has tasks for all workers.

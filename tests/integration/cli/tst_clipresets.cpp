@@ -169,7 +169,7 @@ void tst_CliPresets::wrongRequestsAreExplained_data()
     row("presets save mine --from nothing.xml --preset web", "--from and --preset");
     row("create job.xml --from nothing.xml --preset web", "--from and --preset");
     row("run job.xml photos -o out --preset web", "job.xml");
-    row("run photos -o out --preset web --preset mail", "--preset is given 2 times");
+    row("show photos --preset web --preset mail", "--preset is given 2 times");
     row("run photos -o out --preset ./web.xml", "the name of a preset");
     badName(QStringLiteral("a/b"), "\"a_b\"");
     badName(QStringLiteral("../a"), "begins with a dot");

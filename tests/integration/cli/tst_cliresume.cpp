@@ -124,6 +124,9 @@ void tst_CliResume::killedAtAnyMoment_data()
     QTest::newRow("numbers and dates") << QStringLiteral("--structure date --name date --suffix number "
                                                          "--on-name-exists rename")
                                        << 4U;
+    QTest::newRow("several results") << QStringLiteral("--preset web --preset thumbnails --preset mail "
+                                                       "--on-name-exists rename")
+                                     << 5U;
 }
 
 // The two parts of a run together write what an undisturbed run writes, byte for byte. Runs spend most of their time

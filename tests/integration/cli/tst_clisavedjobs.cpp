@@ -107,8 +107,8 @@ void tst_CliSavedJobs::jobsAreNoPictures_data()
     row("show photos good.xml", "good.xml");
     row("run photos preset.job -o out", "preset.job");
     row("run photos preset.jpg -o out", "preset.jpg");
-    row("run good.xml preset.job photos -o out", "preset.job");
-    row("run good.xml good.xml photos -o out", "good.xml");
+    row("run good.xml photos preset.job -o out", "preset.job");
+    row("show good.xml preset.job", "preset.job");
     row("create new.xml good.xml photos -o out", "good.xml");
     row("create new.xml --from good.xml preset.job -o out", "preset.job");
 }
@@ -123,8 +123,9 @@ void tst_CliSavedJobs::jobsAreNoPictures()
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.out.isEmpty());
     QCOMPARE(run.Err(),
-             QStringLiteral("velkora-batch: %1 is a saved job, not a picture. One saved job may be given: as "
-                            "the first argument of run, plan and show, or to create with --from.\n")
+             QStringLiteral("velkora-batch: %1 is a saved job, not a picture. Saved jobs may be given: as "
+                            "the first arguments of run and plan, one as the first argument of show, or to create "
+                            "with --from.\n")
                  .arg(QFileInfo(Path(job)).absoluteFilePath()));
     QVERIFY(!QFile::exists(Path(QStringLiteral("out"))));
     QVERIFY(!QFile::exists(Path(QStringLiteral("new.xml"))));

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void finishedRunsFit();
     void updatesFit();
     void strictRunsFit();
+    void severalResultsFit();
     void runsWithoutWorkersFit();
     void lostServersFit();
     void questionsAndCancelledRunsFit();
@@ -141,6 +142,17 @@ void tst_CliSchema::strictRunsFit()
 {
     const CliRun run = stage->Run(QStringLiteral("run photos -o strict --format png --json --strict --report r.json"));
     QCOMPARE(run.exitCode, 1);
+    Check(run.out);
+    CheckReport(QStringLiteral("r.json"));
+}
+
+void tst_CliSchema::severalResultsFit()
+{
+    QCOMPARE(stage->Run(QStringLiteral("create web.xml --format png")).exitCode, 0);
+    QCOMPARE(stage->Run(QStringLiteral("create same.xml --format original")).exitCode, 0);
+    const CliRun run = stage->Run(QStringLiteral("run web.xml same.xml photos -o several --json --report r.json"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.out.contains("\"presets\":[\"web\",\"same\"]"), run.out.constData());
     Check(run.out);
     CheckReport(QStringLiteral("r.json"));
 }

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void otherFilesAreNotReplaced();
     void changedResultsAreNotReplaced();
     void namesAreThoseOfTheWholeJob();
+    void severalResultsOfEachPicture();
     void orphansAreListedAndRemoved();
     void orphansStayIfInputsCannotBeRead();
     void otherJobsHaveNoOrphans();
@@ -278,6 +279,26 @@ void tst_CliUpdate::namesAreThoseOfTheWholeJob()
     QCOMPARE(ContentOf(Path(QStringLiteral("out/001.jpg"))), first);
     QVERIFY2(last.err.contains("1 result is left from an input that is gone"), last.err.constData());
     QVERIFY2(last.err.contains("/out/005.jpg\n"), last.err.constData());
+}
+
+void tst_CliUpdate::severalResultsOfEachPicture()
+{
+    QCOMPARE(Run(QStringLiteral("create large.xml -o x --size 60")).exitCode, 0);
+    QCOMPARE(Run(QStringLiteral("create small.xml -o x --size 20")).exitCode, 0);
+    const auto update = [this](const QString& more) {
+        last = Run(QStringLiteral("run large.xml small.xml in -o out --json --update ") + more);
+        return CountsOf(last);
+    };
+    COMPARE_COUNTS(update({}), 8, 0, 0, 0);
+    COMPARE_COUNTS(update({}), 0, 8, 0, 0);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("in/2.jpg")), 30, 80, 60);
+    COMPARE_COUNTS(update({}), 2, 6, 0, 0);
+    QVERIFY(QFile::remove(Path(QStringLiteral("small.xml"))));
+    QCOMPARE(Run(QStringLiteral("create small.xml -o x --size 30")).exitCode, 0);
+    QVERIFY(QFile::remove(Path(QStringLiteral("in/3.jpg"))));
+    COMPARE_COUNTS(update(QStringLiteral("--delete-orphans")), 3, 3, 0, 0);
+    QVERIFY2(last.err.contains("2 results were removed"), last.err.constData());
+    QCOMPARE(Results().size(), 6);
 }
 
 void tst_CliUpdate::orphansAreListedAndRemoved()

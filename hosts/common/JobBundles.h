@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "job/settings/JobBundle.h"
+
+#include <QString>
+#include <QVector>
+
+class ZTBatchDocument;
+
+namespace BatchHost {
+
+/// A job and the name that it is known by: that of its preset, or of its file.
+struct NamedJob
+{
+    QString name;
+    ZTBatchDocument* job = nullptr;
+};
+
+/// The name of the saved job in the file `path`: that of the file, without ".xml".
+QString NameOfJobFile(const QString& path);
+
+/// The bundle of `jobs`, at least two. Each gets a folder of its own in `folder` for its results, by its name; the
+/// inputs are those of the first one, and others lose theirs. Throws RequestError when two jobs would have one folder,
+/// or the settings of one cannot be used.
+BatchJob::JobBundle BundleOf(const QVector<NamedJob>& jobs, const QString& folder);
+
+} // namespace BatchHost
