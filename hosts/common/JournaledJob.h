@@ -35,6 +35,9 @@ public:
     /// The text of the job.
     const QString& Document() const { return document; }
 
+    /// Where the journal is, or will be.
+    QString JournalPath() const { return file->Path(); }
+
     /// The policies of the interrupted run; nothing for a new one.
     const std::optional<BatchJob::PolicyValues>& Policies() const { return policies; }
 
