@@ -76,7 +76,7 @@ private:
 
     const qint64 settle;
     QHash<QString, FileFacts> settled;
-    QVector<Waiting> waiting; ///< in the order of the last look
+    QVector<Waiting> waiting;       ///< in the order of the last look
     QHash<QString, qint64> writing; ///< and when that was last noticed
     QSet<QString> movedIn;
 };

@@ -43,7 +43,7 @@ private:
     void Read();
     void Close();
 
-    int channel = -1; ///< negative where the system tells nothing
+    int channel = -1;            ///< negative where the system tells nothing
     QHash<int, QString> folders; ///< by the system's number of their watch
 };
 

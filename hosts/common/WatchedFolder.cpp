@@ -21,7 +21,8 @@ namespace {
 /// As programs call what they have not finished.
 bool IsTemporary(const QString& path)
 {
-    constexpr std::array ends{".tmp", ".temp", ".part", ".partial", ".filepart", ".crdownload", ".download", ".swp", "~"};
+    constexpr std::array ends{".tmp",        ".temp",     ".part", ".partial", ".filepart",
+                              ".crdownload", ".download", ".swp",  "~"};
     const QString name = path.section(QLatin1Char('/'), -1);
     return name.startsWith(QLatin1Char('~')) || std::any_of(ends.begin(), ends.end(), [&name](const char* end) {
                return name.endsWith(QLatin1String(end), Qt::CaseInsensitive);

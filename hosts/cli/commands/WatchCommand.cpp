@@ -86,7 +86,8 @@ void CheckOutputFolder(const QString& output, const QString& folder)
 {
     const QString inside = QFileInfo(folder).canonicalFilePath() + QLatin1Char('/');
     const QString outside = QFileInfo(output).canonicalFilePath();
-    if (!outside.isEmpty() && inside.startsWith(outside.endsWith(QLatin1Char('/')) ? outside : outside + QLatin1Char('/'))) {
+    if (!outside.isEmpty() &&
+        inside.startsWith(outside.endsWith(QLatin1Char('/')) ? outside : outside + QLatin1Char('/'))) {
         throw RequestError{BatchJob::Phrase::English("the results would come into the watched folder %1; write them to "
                                                      "a folder in it, or elsewhere")
                                .arg(folder)};
@@ -135,8 +136,7 @@ private:
         FolderWatch* const from = told.get();
         QObject::connect(from, &FolderWatch::Writing, &loop,
                          [this](const QString& file) { arrived.NoteWriting(file, clock.elapsed()); });
-        QObject::connect(from, &FolderWatch::Closed, &loop,
-                         [this](const QString& file) { arrived.NoteClosed(file); });
+        QObject::connect(from, &FolderWatch::Closed, &loop, [this](const QString& file) { arrived.NoteClosed(file); });
         QObject::connect(from, &FolderWatch::MovedIn, &loop,
                          [this](const QString& file) { arrived.NoteMovedIn(file); });
         QObject::connect(from, &FolderWatch::Overflown, &loop, [this] { arrived.ForgetNotes(); });

@@ -23,6 +23,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 using namespace BatchJob;
 using namespace BatchHost;
 
@@ -62,6 +64,22 @@ int UnaskedPolicy(PolicyKind kind)
     default:
         return safePolicy;
     }
+}
+
+/// Whether a policy has ended the run over a picture, which may have been the last one.
+bool IsStopped(const RunEnd& end, const PolicyValues& policies)
+{
+    const QList<PolicyKind> kinds = end.unwritten.keys();
+    return std::any_of(kinds.begin(), kinds.end(), [&](PolicyKind kind) {
+        return kind != PolicyKind::None && end.unwritten.value(kind) > end.unwrittenBefore.value(kind) &&
+               PolicyWord(kind, policies[std::size_t(kind)]) == QLatin1String("stop");
+    });
+}
+
+void TellStop()
+{
+    WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                   Messages::tr("watching ends, as a policy says; the next start tries these pictures again."));
 }
 
 } // namespace
@@ -126,6 +144,7 @@ std::optional<ExitCode> WatchRun::Run(ZTBatchDocument& job, JournaledJob& journa
         observers.append(&warnings);
     }
     RunEnd end;
+    PolicyValues policies{};
     {
         // The server ends with each run: it needs no memory while nothing comes.
         JobRun run(SettingsFolder(arguments));
@@ -133,7 +152,7 @@ std::optional<ExitCode> WatchRun::Run(ZTBatchDocument& job, JournaledJob& journa
             TellObstacle(run);
             return ExitCode::ServerLost;
         }
-        const PolicyValues policies = Policies(journaled);
+        policies = Policies(journaled);
         const auto controller =
             run.Prepare(job, journaled, {policies, arguments.Has(QStringLiteral("--strict")), {}}, observers);
         if (!journaled.Problem().isEmpty()) {
@@ -145,7 +164,7 @@ std::optional<ExitCode> WatchRun::Run(ZTBatchDocument& job, JournaledJob& journa
         }
         end = RunInteractively(*controller, display, interrupts);
     }
-    return EndOf(end, journaled);
+    return EndOf(end, policies, journaled);
 }
 
 PolicyValues WatchRun::Policies(const JournaledJob& journaled) const
@@ -162,7 +181,7 @@ PolicyValues WatchRun::Policies(const JournaledJob& journaled) const
     return policies.values;
 }
 
-std::optional<ExitCode> WatchRun::EndOf(const RunEnd& end, JournaledJob& journaled)
+std::optional<ExitCode> WatchRun::EndOf(const RunEnd& end, const PolicyValues& policies, JournaledJob& journaled)
 {
     written += end.written;
     skipped += end.skipped;
@@ -184,7 +203,8 @@ std::optional<ExitCode> WatchRun::EndOf(const RunEnd& end, JournaledJob& journal
     case RunOutcome::Incomplete:
         break;
     }
-    if (end.NotProcessed() > 0) {
+    if (end.NotProcessed() > 0 || IsStopped(end, policies)) {
+        TellStop();
         return ExitCode::Incomplete;
     }
     state.NoteDone();

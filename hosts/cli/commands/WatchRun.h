@@ -41,7 +41,8 @@ public:
 private:
     std::optional<ExitCode> Run(ZTBatchDocument& job, BatchHost::JournaledJob& journaled);
     BatchJob::PolicyValues Policies(const BatchHost::JournaledJob& journaled) const;
-    std::optional<ExitCode> EndOf(const BatchHost::RunEnd& end, BatchHost::JournaledJob& journaled);
+    std::optional<ExitCode> EndOf(const BatchHost::RunEnd& end, const BatchJob::PolicyValues& policies,
+                                  BatchHost::JournaledJob& journaled);
 
     const ParsedArguments& arguments;
     const QString& settings;

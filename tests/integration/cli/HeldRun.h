@@ -20,6 +20,9 @@ public:
     /// The process id of the server; 0 when there is no server.
     qint64 Server() const;
 
+    /// Sends the signal `number` to the command.
+    bool Signal(int number) const;
+
     /// Kills the command, and returns when its server has followed it.
     bool Kill();
 
