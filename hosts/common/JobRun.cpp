@@ -64,7 +64,7 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     }
     const bool isInPlace = journaled.IsInPlace() || BatchProtocol::ServerLimits::FromEnvironment().replacesOriginals;
     BatchProtocol::inPlaceLimit.Set(isInPlace ? 1 : 0);
-    const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace);
+    const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace, circumstances.update);
     // The server, which inherits the environment, continues the journal.
     qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
     RunInputs inputs = InputsOf(job);

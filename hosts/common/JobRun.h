@@ -11,6 +11,7 @@
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 class ZTBatchDocument;
 
@@ -42,6 +43,7 @@ public:
         BatchJob::PolicyValues policies{};
         bool isStrict = false; ///< see RunController::Order
         LeftOutFiles leftOut = {};
+        std::optional<BatchJob::Update> update = {}; ///< of a new run; one that is resumed has its own
     };
 
     /// The run of `job`, ready to start. It must end before this object. The server of an earlier run, which must have

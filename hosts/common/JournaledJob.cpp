@@ -4,6 +4,7 @@
 #include "JournaledJob.h"
 
 #include "JobRequirements.h"
+#include "RecordKeeper.h"
 #include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
@@ -21,6 +22,7 @@ JournaledJob JournaledJob::New(const ZTBatchDocument& job)
     RequireRunnableJob(job);
     JournaledJob journaled;
     journaled.document = job.Serialize(nullptr);
+    RecordKeeper(job.GetOutputSettings()->GetPath()).AdoptInterrupted();
     journaled.file = JournalFile::New(job.GetOutputSettings()->GetPath(), journaled.document);
     journaled.earlier->journals = journaled.file->OthersOfItsJob();
     return journaled;
@@ -52,14 +54,15 @@ void JournaledJob::EarlierRuns::Forget()
     journals.clear();
 }
 
-QString JournaledJob::BeginJournal(const PolicyValues& newPolicies, bool mayReplaceOriginals)
+QString JournaledJob::BeginJournal(const PolicyValues& newPolicies, bool mayReplaceOriginals,
+                                   const std::optional<Update>& update)
 {
     if (policies) {
         return file->Path();
     }
     problem = file->Problem();
     RunJournal journal;
-    if (problem.isEmpty() && !journal.Create(file->Path(), document, newPolicies, mayReplaceOriginals)) {
+    if (problem.isEmpty() && !journal.Create(file->Path(), document, newPolicies, mayReplaceOriginals, update)) {
         problem = QStringLiteral("%1: %2").arg(file->Path(), journal.Problem());
     }
     return problem.isEmpty() ? file->Path() : QString();
@@ -99,9 +102,27 @@ void JournaledJob::End(const RunEnd& end)
     const bool isRefused = end.Outcome() == RunOutcome::Refused;
     if (isRefused && !policies) {
         file->RemoveWithFolders();
-    } else if (end.IsFinished() && !isRefused) {
+        return;
+    }
+    if (!isRefused && Record(end) && end.IsFinished()) {
         file->Remove();
     }
+}
+
+/// False if the journal is still needed, because it knows results that the record does not.
+bool JournaledJob::Record(const RunEnd& end)
+{
+    const std::optional<JournalState> state = ReadJournal(file->Path());
+    if (!state || !state->update) {
+        return true;
+    }
+    RecordKeeper keeper(end.outputFolder);
+    const bool isRecorded = keeper.Adopt(*state);
+    endOfUpdate = {{}, keeper.Damage(), keeper.Problem()};
+    if (isRecorded && end.IsFinished()) {
+        endOfUpdate.orphans = keeper.Orphans(*state);
+    }
+    return isRecorded;
 }
 
 } // namespace BatchHost

@@ -10,6 +10,7 @@
 #include "job/values/PolicyValues.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -53,7 +54,8 @@ public:
 
     /// Begins the journal of a new run. Returns the path of the journal; an empty one when it cannot be written, see
     /// Problem().
-    QString BeginJournal(const BatchJob::PolicyValues& newPolicies, bool mayReplaceOriginals);
+    QString BeginJournal(const BatchJob::PolicyValues& newPolicies, bool mayReplaceOriginals,
+                         const std::optional<BatchJob::Update>& update);
 
     /// Has to watch the run.
     RunObserver* Observer() { return earlier.get(); }
@@ -70,8 +72,20 @@ public:
     /// read.
     bool Resume();
 
-    /// The run has ended: removes the journal unless something is left to resume.
+    /// The run has ended: removes the journal unless something is left to resume. What an update has written is
+    /// recorded first.
     void End(const RunEnd& end);
+
+    /// What is known after an update. The texts are for users.
+    struct UpdateEnd
+    {
+        QStringList orphans; ///< results of earlier updates that this one, if it is finished, does not have any more
+        QString damage;      ///< why the record of earlier results did not count; empty if it did
+        QString problem;     ///< why the results could not be recorded; empty if they are
+    };
+
+    /// After End().
+    const UpdateEnd& EndOfUpdate() const { return endOfUpdate; }
 
 private:
     /// The journals of earlier runs of the same job.
@@ -86,12 +100,15 @@ private:
 
     JournaledJob() = default;
 
+    bool Record(const RunEnd& end);
+
     std::unique_ptr<JournalFile> file;
     std::unique_ptr<EarlierRuns> earlier = std::make_unique<EarlierRuns>();
     QString document;
     QString problem;
     std::optional<BatchJob::PolicyValues> policies;
     bool isInPlace = false;
+    UpdateEnd endOfUpdate;
 };
 
 } // namespace BatchHost

@@ -11,6 +11,7 @@
 #include "job/plan/FactsLine.h"
 #include "job/plan/Trouble.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/UnchangedLine.h"
 #include "job/plan/WarningLine.h"
 #include "job/values/JobValues.h"
 
@@ -288,6 +289,9 @@ void RunController::OnLog(const QString& text)
         isAskedForLife = false;
         return;
     }
+    if (UnchangedLine::Is(text)) {
+        SettleFromJournal();
+    }
     if (logs.size() == mostLogs) {
         logs.removeFirst();
     }
@@ -382,7 +386,7 @@ void RunController::Settle(const FileResult& settled)
         return;
     }
     ++settledByThisServer;
-    const int done = end.written + end.skipped + end.failed;
+    const int done = end.Processed();
     for (RunObserver* const observer : observers) {
         observer->OnResult(result, done, end.files);
     }
@@ -403,6 +407,9 @@ bool RunController::Count(const FileResult& result, int index)
     case FileResult::Kind::Written:
         ++end.written;
         break;
+    case FileResult::Kind::Unchanged:
+        ++end.unchanged;
+        break;
     case FileResult::Kind::Skipped:
         ++end.skipped;
         break;
@@ -410,7 +417,7 @@ bool RunController::Count(const FileResult& result, int index)
         ++end.failed;
         break;
     }
-    if (result.kind != FileResult::Kind::Written) {
+    if (!HasResult(result.kind)) {
         ++end.unwritten[PolicyOfError(result.errorCode)];
     }
     for (const Warning& warning : result.warnings) {
@@ -506,8 +513,8 @@ void RunController::OnServerLost()
     }
 }
 
-/// A server may have written results to the journal that it could not report: it was killed, or its host was, and this
-/// run had already started.
+/// The journal may know results that were not reported: the server was killed, or its host was and this run had already
+/// started, or an update has left them as they were.
 void RunController::SettleFromJournal()
 {
     if (open.isEmpty()) {

@@ -14,7 +14,7 @@ namespace BatchHost {
 FileResult StrictResult(const FileResult& result)
 {
     FileResult strict = result;
-    if (result.kind == FileResult::Kind::Written && !result.warnings.isEmpty()) {
+    if (HasResult(result.kind) && !result.warnings.isEmpty()) {
         strict.kind = FileResult::Kind::Failed;
         strict.reason = BatchJob::Phrase::English("written with a warning: %1")
                             .arg(BatchJob::TextsOf(result.warnings).join(QStringLiteral("; ")));
@@ -43,7 +43,7 @@ RunOutcome RunEnd::Outcome() const
     if (isCancelled) {
         return RunOutcome::Cancelled;
     }
-    return written == files ? RunOutcome::Complete : RunOutcome::Incomplete;
+    return written + unchanged == files ? RunOutcome::Complete : RunOutcome::Incomplete;
 }
 
 } // namespace BatchHost

@@ -35,7 +35,7 @@ struct FileResult
 FileResult StrictResult(const FileResult& result);
 
 enum class RunOutcome {
-    Complete,   ///< every picture was written
+    Complete,   ///< every picture has its result
     Incomplete, ///< some were skipped or failed, or a policy stopped the run
     Refused,    ///< the server refused the job
     NoWorkers,  ///< the server could not start a worker
@@ -48,6 +48,7 @@ struct RunEnd
 {
     int files = 0;
     int written = 0;
+    int unchanged = 0;
     int skipped = 0;
     int failed = 0;
     QMap<BatchJob::WarningKind, int> warnings; ///< how many there are of each kind
@@ -65,7 +66,7 @@ struct RunEnd
     int jobErrorCode = 0; ///< a ZTBatchMessage::Error that ended the whole run; 0 when none did
     QString jobError;     ///< and its reason
 
-    int Processed() const { return written + skipped + failed; }
+    int Processed() const { return written + unchanged + skipped + failed; }
     int NotProcessed() const { return files - Processed(); }
 
     int WarningCount() const;

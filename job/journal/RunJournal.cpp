@@ -3,7 +3,9 @@
 
 #include "RunJournal.h"
 
+#include "Lines.h"
 #include "OwnFile.h"
+#include "PictureJson.h"
 
 #include "job/values/FileIdentity.h"
 #include "job/values/TimeText.h"
@@ -33,6 +35,17 @@ QString Key(const char* name)
     return QString::fromLatin1(name);
 }
 
+constexpr char byTimes[] = "times";
+constexpr char byContents[] = "contents";
+
+std::optional<Update> ReadUpdate(const QString& word)
+{
+    if (word == QLatin1String(byContents)) {
+        return Update{true};
+    }
+    return word == QLatin1String(byTimes) ? std::optional(Update{}) : std::nullopt;
+}
+
 bool ReadHeader(const QJsonObject& line, JournalState& state)
 {
     const QJsonArray policies = line.value(Key("policies")).toArray();
@@ -43,87 +56,24 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     state.beganAt = line.value(Key("since")).toString().toLongLong();
     state.document = line.value(Key("document")).toString();
     state.isInPlace = line.value(Key("inPlace")).toInt() == 1;
+    state.update = ReadUpdate(line.value(Key("update")).toString());
     for (std::size_t i = 0; i < state.policies.size(); ++i) {
         state.policies[i] = policies.at(int(i)).toInt();
     }
     return true;
 }
 
-Warnings ReadWarnings(const QJsonArray& array)
-{
-    Warnings warnings;
-    for (const QJsonValue value : array) {
-        const QJsonObject warning = value.toObject();
-        warnings.append({WarningKindOf(warning.value(Key("kind")).toString()), warning.value(Key("text")).toString()});
-    }
-    return warnings;
-}
-
-QJsonArray JsonOf(const Warnings& warnings)
-{
-    QJsonArray array;
-    for (const Warning& warning : warnings) {
-        array.append(QJsonObject{{Key("kind"), WarningWord(warning.kind)}, {Key("text"), warning.text}});
-    }
-    return array;
-}
-
-int ReadNumber(const QJsonValue& value)
-{
-    return value.toInt(-1);
-}
-
-QSize ReadSize(const QJsonValue& value)
-{
-    const QJsonArray sides = value.toArray();
-    return {ReadNumber(sides.at(0)), ReadNumber(sides.at(1))};
-}
-
-PictureFacts ReadFacts(const QJsonObject& line)
-{
-    constexpr double largestExact = 9007199254740992.0; // 2^53
-    const double bytes = line.value(Key("bytes")).toDouble(-1);
-    PictureFacts facts;
-    facts.inputSize = ReadSize(line.value(Key("from")));
-    facts.outputSize = ReadSize(line.value(Key("to")));
-    facts.outputBytes = bytes >= 0 && bytes <= largestExact ? qint64(bytes) : -1;
-    facts.quality = ReadNumber(line.value(Key("quality")));
-    facts.milliseconds = ReadNumber(line.value(Key("milliseconds")));
-    return PossibleFacts(facts);
-}
-
-void InsertSize(QJsonObject& line, const QString& key, const QSize& size)
-{
-    if (!size.isEmpty()) {
-        line.insert(key, QJsonArray{size.width(), size.height()});
-    }
-}
-
-void Insert(QJsonObject& line, const PictureFacts& facts)
-{
-    InsertSize(line, Key("from"), facts.inputSize);
-    InsertSize(line, Key("to"), facts.outputSize);
-    if (facts.outputBytes >= 0) {
-        line.insert(Key("bytes"), double(facts.outputBytes));
-    }
-    if (facts.quality > 0) {
-        line.insert(Key("quality"), facts.quality);
-    }
-    if (facts.milliseconds >= 0) {
-        line.insert(Key("milliseconds"), facts.milliseconds);
-    }
-}
-
 void ReadLine(const QJsonObject& line, JournalState& state)
 {
     const QString output = line.value(Key("output")).toString();
-    for (const Kind kind : {Kind::Written, Kind::Skipped, Kind::Failed}) {
+    for (const Kind kind : {Kind::Written, Kind::Unchanged, Kind::Skipped, Kind::Failed}) {
         const int index = line.value(ResultWord(kind)).toInt(-1);
         if (index >= 0) {
             state.results.insert(index,
                                  {kind, output, line.value(Key("code")).toInt(), line.value(Key("reason")).toString(),
                                   ReadWarnings(line.value(Key("warnings")).toArray()), ReadFacts(line),
-                                  TimeOfText(line.value(Key("finished")).toString())});
+                                  TimeOfText(line.value(Key("finished")).toString()),
+                                  ReadStamp(line.value(Key("result")).toObject())});
             state.begun.remove(index);
             state.losses.remove(index);
         }
@@ -131,6 +81,11 @@ void ReadLine(const QJsonObject& line, JournalState& state)
     const int begun = line.value(Key("begin")).toInt(-1);
     if (begun >= 0 && !state.results.contains(begun)) {
         state.begun.insert(begun, {output, line.value(Key("before")).toString()});
+        if (line.contains(Key("recipe"))) {
+            state.origins.insert(begun,
+                                 {line.value(Key("input")).toString(), ReadStamp(line.value(Key("source")).toObject()),
+                                  line.value(Key("recipe")).toString()});
+        }
     }
     const int answer = line.value(Key("answer")).toInt(-1);
     if (answer >= 0 && answer < int(state.policies.size())) {
@@ -161,8 +116,8 @@ std::optional<JournalState> ReadJournal(const QString& path)
     }
     JournalState state;
     bool hasHeader = false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
+    for (Lines lines(file); !lines.IsAtEnd();) {
+        const QByteArray line = lines.Next();
         const QJsonDocument document = QJsonDocument::fromJson(line);
         const bool isWhole = line.endsWith('\n') && document.isObject();
         if (!hasHeader) {
@@ -181,11 +136,20 @@ bool HasJournalBegun(const QString& path)
 {
     QFile file;
     QString problem;
-    return OpenOwnFile(file, path, OwnFileUse::Read, problem) && file.readLine().endsWith('\n');
+    if (!OpenOwnFile(file, path, OwnFileUse::Read, problem)) {
+        return false;
+    }
+    constexpr int block = 1 << 16;
+    for (QByteArray bytes = file.read(block); !bytes.isEmpty(); bytes = file.read(block)) {
+        if (bytes.contains('\n')) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool RunJournal::Create(const QString& newPath, const QString& document, const std::array<int, 5>& policies,
-                        bool isInPlace)
+                        bool isInPlace, const std::optional<Update>& update)
 {
     auto created = std::make_unique<QFile>();
     if (!CreateOwnFile(*created, newPath, problem)) {
@@ -201,6 +165,9 @@ bool RunJournal::Create(const QString& newPath, const QString& document, const s
                        {Key("policies"), values}};
     if (isInPlace) {
         object.insert(Key("inPlace"), 1);
+    }
+    if (update) {
+        object.insert(Key("update"), QLatin1String(update->comparesContents ? byContents : byTimes));
     }
     const QByteArray rest = QJsonDocument(object).toJson(QJsonDocument::Compact);
     const QByteArray header = headerBegin + QByteArray("1,") + rest.mid(1) + '\n';
@@ -230,19 +197,40 @@ bool RunJournal::Open(const QString& existingPath)
     return true;
 }
 
-void RunJournal::Begin(int index, const JournalState::Beginning& beginning)
+void RunJournal::Begin(int index, const JournalState::Beginning& beginning, const std::optional<ResultOrigin>& origin)
 {
     QJsonObject line{{Key("begin"), index}, {Key("output"), beginning.output}};
     if (!beginning.before.isEmpty()) {
         line.insert(Key("before"), beginning.before);
+    }
+    if (origin) {
+        line.insert(Key("input"), origin->input);
+        line.insert(Key("source"), JsonOf(origin->stamp));
+        line.insert(Key("recipe"), origin->recipe);
     }
     Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Settle(int index, const JournalState::Result& result)
 {
+    Write(LineOf(index, result));
+}
+
+void RunJournal::SettleAll(const QVector<QPair<int, JournalState::Result>>& results)
+{
+    QByteArray lines;
+    for (const auto& [index, result] : results) {
+        lines += LineOf(index, result) + '\n';
+    }
+    if (!lines.isEmpty()) {
+        Write(lines.chopped(1));
+    }
+}
+
+QByteArray RunJournal::LineOf(int index, const JournalState::Result& result)
+{
     QJsonObject line{{ResultWord(result.kind), index}, {Key("output"), result.output}};
-    if (result.kind != Kind::Written) {
+    if (!HasResult(result.kind)) {
         line.insert(Key("code"), result.errorCode);
         line.insert(Key("reason"), result.reason);
     }
@@ -253,7 +241,10 @@ void RunJournal::Settle(int index, const JournalState::Result& result)
     if (result.finished.isValid()) {
         line.insert(Key("finished"), TimeText(result.finished));
     }
-    Write(QJsonDocument(line).toJson(QJsonDocument::Compact));
+    if (result.stamp.bytes >= 0) {
+        line.insert(Key("result"), JsonOf(result.stamp));
+    }
+    return QJsonDocument(line).toJson(QJsonDocument::Compact);
 }
 
 void RunJournal::Answer(int policy, int value)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "job/values/FileStamp.h"
 #include "job/values/PictureFacts.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QHash>
 #include <QMap>
+#include <QPair>
 #include <QString>
 #include <QVector>
 
@@ -29,6 +31,20 @@ constexpr char journalVariable[] = "VELKORA_BATCH_JOURNAL";
 /// Appended to the name of a journal, this is the name of the lock that its server holds.
 constexpr char journalHoldEnd[] = ".server";
 
+/// A run that makes only what has changed since the results were recorded.
+struct Update
+{
+    bool comparesContents = false; ///< not only sizes and times
+};
+
+/// What a result is made from, noted before the worker reads its input.
+struct ResultOrigin
+{
+    QString input; ///< path
+    FileStamp stamp;
+    QString recipe; ///< see Recipe
+};
+
 /// The content of a journal.
 struct JournalState
 {
@@ -43,6 +59,7 @@ struct JournalState
         Warnings warnings = {};  ///< about a picture that was written
         PictureFacts facts = {}; ///< of a picture that was written
         QDateTime finished = {}; ///< invalid if it is not known
+        FileStamp stamp = {};    ///< of a result that an update has written
     };
 
     /// When the run began, by the clock of the file system: a ChangeTimeOf(). 0 if that is not known.
@@ -54,6 +71,7 @@ struct JournalState
     QString document;              ///< the text of the job
     std::array<int, 5> policies{}; ///< input, output, processing, naming, write-to-format
     bool isInPlace = false;        ///< results may take the places of their own originals
+    std::optional<Update> update;
 
     /// A worker was about to make a result.
     struct Beginning
@@ -66,6 +84,9 @@ struct JournalState
     QHash<int, Result> results;
     QHash<int, Beginning> begun; ///< of files without result
     QHash<int, int> losses;      ///< of files without result: how often the server has died while it worked on them
+
+    /// Of files that an update has begun with, also of those that have a result.
+    QHash<int, ResultOrigin> origins;
 
     /// The policies that answers have changed for the rest of the run, by their places in `policies`.
     QMap<int, int> answers;
@@ -86,7 +107,7 @@ class RunJournal
 public:
     /// Starts a new journal at `path`, where there must be no file. False when it cannot be written, see Problem().
     bool Create(const QString& path, const QString& document, const std::array<int, 5>& policies,
-                bool isInPlace = false);
+                bool isInPlace = false, const std::optional<Update>& update = {});
 
     /// Continues the journal at `path`. False if it is missing or cannot be written, see Problem().
     bool Open(const QString& path);
@@ -100,8 +121,11 @@ public:
     std::function<void(const QString& problem)> onFailure;
 
     /// A worker is about to make the result of `index`.
-    void Begin(int index, const JournalState::Beginning& beginning);
+    void Begin(int index, const JournalState::Beginning& beginning, const std::optional<ResultOrigin>& origin = {});
     void Settle(int index, const JournalState::Result& result);
+
+    /// The same of many files at once.
+    void SettleAll(const QVector<QPair<int, JournalState::Result>>& results);
     void Answer(int policy, int value);
 
     /// The server died while these files were in work.
@@ -111,6 +135,7 @@ public:
     void Retry(const QVector<int>& indexes);
 
 private:
+    static QByteArray LineOf(int index, const JournalState::Result& result);
     void WriteList(const char* key, const QVector<int>& indexes);
     void Write(const QByteArray& line);
     bool WritePending();

@@ -3,8 +3,6 @@
 
 #include "OutputPlan.h"
 
-#include "job/values/JobValues.h"
-
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -32,24 +30,6 @@ QString WithoutExtension(const QString& name)
     return name.left(name.lastIndexOf(QLatin1Char('.')));
 }
 
-/// The files of effects and framing, which every result needs.
-QStringList SharedSources(const JobSettings& settings)
-{
-    QStringList files;
-    for (const JobEffect& effect : settings.effects) {
-        for (const ParameterSchema& parameter : effect.schema->parameters) {
-            if (parameter.type == ParameterType::File) {
-                files.append(effect.parameters.value(parameter.name).toString());
-            }
-        }
-    }
-    const Settings::Transformation& framing = settings.framing;
-    if (framing.state && framing.backgroundType == int(BackgroundType::Image)) {
-        files.append(framing.backgroundImage);
-    }
-    return files;
-}
-
 QString Numbered(int number)
 {
     return QStringLiteral(" (%1)").arg(number);
@@ -62,7 +42,7 @@ OutputPlan::OutputPlan(const QVector<JobFile>& files, const JobSettings& setting
     , structure(settings.folderStructure)
     , naming(settings.naming)
     , keepsFormats(settings.format == Settings::GetOriginalFormat())
-    , sharedSources(SharedSources(settings))
+    , sharedSources(FilesOfSettings(settings))
 {
     const FormatSchema* format = keepsFormats ? nullptr : FindFormat(settings.format);
     entries.reserve(files.size());
@@ -297,7 +277,7 @@ const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
         while (names.hasNext()) {
             names.next();
             const QString path = target.path + QLatin1Char('/') + names.fileName();
-            if (keptPaths.contains(path) || IsNewResult(path)) {
+            if (keptPaths.contains(path) || IsNewResult(path) || IsReplaceable(path)) {
                 continue;
             }
             target.onDisk.insert(NameKey(names.fileName()), names.fileName());
@@ -309,6 +289,12 @@ const QHash<QString, QString>& OutputPlan::OnDisk(int folder)
 bool OutputPlan::IsNewResult(const QString& path) const
 {
     return newResultsSince && QFileInfo(path).isFile() && ChangeTimeOf(path).value_or(0) >= *newResultsSince;
+}
+
+/// An own result of an earlier run that is not an input of this one.
+bool OutputPlan::IsReplaceable(const QString& path)
+{
+    return ownResults.contains(path) && SourceAt(path).count == 0;
 }
 
 /// The path of the file on the disk whose name equals that of the result; letter case may differ.

@@ -74,6 +74,10 @@ public:
     /// part of this run has written them, which nothing else tells. To be called before MakeNames().
     void ExpectResultsSince(qint64 time) { newResultsSince = time; }
 
+    /// Files that earlier runs have written and nobody has changed since: they are not in the way, unless this job
+    /// reads them. To be called before MakeNames().
+    void ReplaceOwnResults(const QSet<QString>& paths) { ownResults = paths; }
+
     bool IsKept(int index) const { return entries[index].isKept; }
 
     /// Names the results of all files whose format is known, and finds their clashes. False when it was cancelled.
@@ -153,6 +157,7 @@ private:
     void PlaceKeptResult(int index);
     void FindClash(int index);
     bool IsNewResult(const QString& path) const;
+    bool IsReplaceable(const QString& path);
     bool IsTaken(int folder, const QString& key);
     const QHash<QString, QString>& OnDisk(int folder);
     QString OnDiskPath(int index);
@@ -172,6 +177,7 @@ private:
     QHash<Place, int> takers;       ///< the file that has a name
     QHash<Place, int> sourcePlaces; ///< names that sources had when the names were made, with OwnerOfName()
     QSet<QString> keptPaths;        ///< files that an earlier part of this run has written
+    QSet<QString> ownResults;       ///< of earlier runs
     std::optional<qint64> newResultsSince;
     QHash<Place, int> nextAdditions; ///< the first number that may be free, by the name without one as it is spelled
     QStringList sharedSources;

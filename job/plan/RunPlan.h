@@ -50,6 +50,9 @@ public:
     /// See OutputPlan::ExpectResultsSince().
     void ExpectResultsSince(qint64 time) { plan.ExpectResultsSince(time); }
 
+    /// See OutputPlan::ReplaceOwnResults().
+    void ReplaceOwnResults(const QSet<QString>& paths) { plan.ReplaceOwnResults(paths); }
+
     void SetProbe(int file, const ProbeResult& result);
 
     /// A file that cannot be probed cannot be processed either.

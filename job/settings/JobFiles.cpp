@@ -3,7 +3,10 @@
 
 #include "JobFiles.h"
 
+#include "JobCheck.h"
 #include "OutputNaming.h"
+
+#include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -45,6 +48,23 @@ QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input)
         } else {
             files.append({node.fileName, folder.path});
         }
+    }
+    return files;
+}
+
+QStringList FilesOfSettings(const JobSettings& settings)
+{
+    QStringList files;
+    for (const JobEffect& effect : settings.effects) {
+        for (const ParameterSchema& parameter : effect.schema->parameters) {
+            if (parameter.type == ParameterType::File) {
+                files.append(effect.parameters.value(parameter.name).toString());
+            }
+        }
+    }
+    const ZTBatchOutputSettings::Transformation& framing = settings.framing;
+    if (framing.state && framing.backgroundType == int(BackgroundType::Image)) {
+        files.append(framing.backgroundImage);
     }
     return files;
 }

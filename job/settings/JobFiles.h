@@ -4,12 +4,15 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 class ZTBatchDocument;
 class ZTBatchInputModel;
 
 namespace BatchJob {
+
+struct JobSettings;
 
 /// A file of a job.
 struct JobFile
@@ -23,6 +26,9 @@ struct JobFile
 /// The files of a job in the document's order: from top to bottom of the tree with all folders expanded. Trees of any
 /// depth are walked without recursion.
 QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input);
+
+/// The files that every result needs: those of the effects and of the framing.
+QStringList FilesOfSettings(const JobSettings& settings);
 
 /// The text of `job` without its inputs.
 QString SettingsTextOf(const ZTBatchDocument& job);

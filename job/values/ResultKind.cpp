@@ -12,6 +12,8 @@ QString ResultWord(ResultKind kind)
     switch (kind) {
     case ResultKind::Written:
         return Phrase::English("written");
+    case ResultKind::Unchanged:
+        return Phrase::English("unchanged");
     case ResultKind::Skipped:
         return Phrase::English("skipped");
     case ResultKind::Failed:

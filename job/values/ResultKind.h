@@ -8,9 +8,20 @@
 namespace BatchJob {
 
 /// What became of one input of a run. Trouble.h has the rule that tells skipped from failed.
-enum class ResultKind { Written, Skipped, Failed };
+enum class ResultKind {
+    Written,
+    Unchanged, ///< an update has left the result of an earlier run as it was
+    Skipped,
+    Failed
+};
 
-/// The word of `kind`: "written", "skipped", "failed". Journals, reports and events use it.
+/// Whether there is a result.
+constexpr bool HasResult(ResultKind kind)
+{
+    return kind == ResultKind::Written || kind == ResultKind::Unchanged;
+}
+
+/// The word of `kind`: "written", "unchanged", "skipped", "failed". Journals, reports and events use it.
 QString ResultWord(ResultKind kind);
 
 } // namespace BatchJob

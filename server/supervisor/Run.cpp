@@ -133,6 +133,9 @@ void Run::AdoptEarlierPart()
     }
     record.Continue(std::move(preparation->journal), std::move(preparation->journalLock));
     const JournalState& earlier = *preparation->earlier;
+    if (earlier.update) {
+        record.StampResults();
+    }
     losses = earlier.losses;
     for (auto it = earlier.answers.begin(); it != earlier.answers.end(); ++it) {
         const auto kind = PolicyKind(it.key());
@@ -174,6 +177,22 @@ void Run::AdoptUnjournaledResults()
     }
 }
 
+void Run::AdoptUnchanged()
+{
+    update = std::move(preparation->update);
+    if (!update) {
+        return;
+    }
+    if (!preparation->recordProblem.isEmpty()) {
+        host.Log(QStringLiteral("The record of results is ignored: %1.").arg(preparation->recordProblem));
+    }
+    record.AddUnchanged(preparation->unchanged);
+    for (const auto& [file, result] : qAsConst(preparation->unchanged)) {
+        decisions.SetDone(file);
+    }
+    record.TellProgress();
+}
+
 void Run::BeginNaming()
 {
     phase = Phase::Naming;
@@ -196,6 +215,7 @@ void Run::BeginWork()
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
     AdoptUnjournaledResults();
+    AdoptUnchanged();
     if (limits.followsLinks) {
         preparation->rightsToMake.writable += LinkedFolders(plan.Names());
     }
@@ -278,10 +298,16 @@ bool Run::GivePicture(int file)
         return false;
     }
     const QString output = names.Output(file);
+    const QString input = names.Input(file);
+    const QString format = names.Format(file)->name;
     const std::optional<FileIdentity> before = IdentityOf(output);
-    record.Journal().Begin(file, {output, before ? before->Text() : QString()});
-    const PictureTask task{file,       names.Input(file),        output,
-                           outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
+    std::optional<ResultOrigin> origin;
+    if (update) {
+        origin = {input, StampOf(input).value_or(FileStamp()), update->RecipeOfJob().For(format)};
+    }
+    record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
+    const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));
+    const PictureTask task{file, input, output, outputRoot, format, mayReplace};
     Give({number, file, job, task, before, false});
     return true;
 }

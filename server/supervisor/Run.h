@@ -76,6 +76,7 @@ private:
     void OnJobRead();
     void AdoptEarlierPart();
     void AdoptUnjournaledResults();
+    void AdoptUnchanged();
     void BeginNaming();
     void BeginWork();
 
@@ -139,7 +140,8 @@ private:
 
     const QString journalPath;
     RunRecord record;
-    QHash<int, int> losses; ///< how often a server has died while it worked on a file
+    std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
+    QHash<int, int> losses;                      ///< how often a server has died while it worked on a file
 };
 
 } // namespace BatchSupervisor

@@ -14,6 +14,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 using namespace BatchJob;
@@ -46,6 +47,9 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
         plan.ReplaceOriginals();
     }
     EnterEarlierResults();
+    if (earlier && earlier->update) {
+        ReadRecord(QFileInfo(journalPath).path(), ofWorkers.settings);
+    }
     plan.ReadInputs(isCancelled);
 }
 
@@ -102,7 +106,7 @@ void RunPreparation::EnterEarlierResults()
         if (it.key() >= plan.Count()) {
             continue;
         }
-        if (it->kind == Kind::Written) {
+        if (HasResult(it->kind)) {
             plan.KeepResult(it.key(), it->output);
         } else {
             plan.KeepWithoutResult(it.key(), it->output);
@@ -115,6 +119,9 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
     if (earlier && !earlier->isComplete) {
         plan.ExpectResultsSince(earlier->beganAt);
     }
+    if (update) {
+        plan.ReplaceOwnResults(update->FindStanding(isCancelled));
+    }
     if (!plan.MakeNames(policies, isCancelled)) {
         return;
     }
@@ -125,6 +132,7 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
         return;
     }
     FindUnjournaledResults();
+    FindUnchanged(isCancelled);
     for (const QString& folder : plan.Folders()) {
         removedFiles += isCancelled() ? 0 : BatchProtocol::TemporaryFile::Sweep(folder, outputRoot);
     }
@@ -143,6 +151,28 @@ void RunPreparation::FindUnjournaledResults()
         const std::optional<qint64> changed = ChangeTimeOf(plan.Names().Output(i));
         if (changed && *changed >= earlier->beganAt) {
             unjournaled.append(i);
+        }
+    }
+}
+
+void RunPreparation::ReadRecord(const QString& folder, const JobSettings& jobSettings)
+{
+    const ResultRecord record = BatchJob::ReadRecord(folder, recordProblem);
+    update.emplace(folder, record, Recipe(settings, jobSettings), earlier->update->comparesContents);
+}
+
+void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
+{
+    for (int i = 0; update && i < plan.Count() && !isCancelled(); ++i) {
+        const bool isKnown =
+            earlier->results.contains(i) || std::binary_search(unjournaled.begin(), unjournaled.end(), i);
+        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
+            continue;
+        }
+        const OutputPlan& names = plan.Names();
+        const QString output = names.Output(i);
+        if (const RecordedResult* const recorded = update->Unchanged(output, names.Input(i), names.Format(i)->name)) {
+            unchanged.append({i, {ResultKind::Unchanged, output, 0, {}, recorded->warnings, recorded->facts, {}, {}}});
         }
     }
 }

@@ -5,6 +5,7 @@
 
 #include "job/journal/RunJournal.h"
 #include "job/plan/RunPlan.h"
+#include "job/record/UpdateCheck.h"
 #include "job/settings/JobCheck.h"
 #include "server/protocol/WorkerMessages.h"
 
@@ -43,6 +44,12 @@ struct RunPreparation
     /// result. To be called with names.
     void FindUnjournaledResults();
 
+    /// Prepares an update of the results that the record in `folder` knows.
+    void ReadRecord(const QString& folder, const BatchJob::JobSettings& jobSettings);
+
+    /// Finds the results that need not be made again. To be called with names.
+    void FindUnchanged(const Cancelled& isCancelled);
+
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
     QString settings;          ///< the job without its inputs
     BatchProtocol::WorkerRights rightsToProbe;
@@ -53,7 +60,10 @@ struct RunPreparation
     std::optional<BatchJob::JournalState> earlier;
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
-    QString outputRoot;       ///< of PictureTasks; known before the names
+    std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
+    QString recordProblem;                       ///< why the record of results does not count, for users
+    QVector<QPair<int, BatchJob::JournalState::Result>> unchanged; ///< files whose results need not be made again
+    QString outputRoot;                                            ///< of PictureTasks; known before the names
     bool replacesOriginals = false;
     bool refusesSharedNames = false;
     int removedFiles = 0; ///< unfinished files of earlier runs

@@ -5,6 +5,7 @@
 
 #include "job/plan/FactsLine.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/UnchangedLine.h"
 #include "job/plan/WarningLine.h"
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/WorkerMessages.h"
@@ -49,15 +50,38 @@ void RunRecord::Continue(RunJournal&& earlier, std::unique_ptr<QLockFile> lock)
 
 void RunRecord::CountEarlier(const JournalState::Result& result)
 {
-    ++(result.kind == Kind::Written ? written : result.kind == Kind::Skipped ? skipped : failed);
+    switch (result.kind) {
+    case Kind::Written:
+        ++written;
+        break;
+    case Kind::Unchanged:
+        ++unchanged;
+        break;
+    case Kind::Skipped:
+        ++skipped;
+        break;
+    case Kind::Failed:
+        ++failed;
+        break;
+    }
 }
 
 void RunRecord::AddFound(int file, const QString& input, const QString& output)
 {
     const PictureFacts facts = FactsOf(output, Report());
-    journal.Settle(file, {Kind::Written, output, 0, {}, {}, facts, {}});
+    journal.Settle(file, {Kind::Written, output, 0, {}, {}, facts, {}, StampFor(output)});
     LogFacts(input, facts);
     host.Tell<ZTBatchMessage::MsgFileProcessed>(input, output);
+}
+
+void RunRecord::AddUnchanged(const QVector<QPair<int, JournalState::Result>>& results)
+{
+    if (results.isEmpty()) {
+        return;
+    }
+    journal.SettleAll(results);
+    unchanged += results.size();
+    host.Log(UnchangedLine::Of(results.size()));
 }
 
 void RunRecord::AddWritten(const RunPlan& plan, int file, const Report& report)
@@ -76,7 +100,8 @@ void RunRecord::AddWritten(const RunPlan& plan, int file, const Report& report)
         TellDeviation(names, file, Action::WrittenUnderAnotherName, ZTBatchMessage::FileNameAlreadyExists, output);
     }
     const PictureFacts facts = FactsOf(output, report);
-    journal.Settle(file, {Kind::Written, output, 0, {}, warnings, facts, QDateTime::currentDateTimeUtc()});
+    journal.Settle(file,
+                   {Kind::Written, output, 0, {}, warnings, facts, QDateTime::currentDateTimeUtc(), StampFor(output)});
     for (const Warning& warning : warnings) {
         host.Log(WarningLine{input, warning}.Text());
     }
@@ -97,7 +122,8 @@ void RunRecord::AddLeftOut(const OutputPlan& names, int file, const Trouble& tro
                               trouble.reason,
                               {},
                               {},
-                              QDateTime::currentDateTimeUtc()});
+                              QDateTime::currentDateTimeUtc(),
+                              {}});
     }
 }
 
@@ -117,6 +143,9 @@ void RunRecord::LogTotals(const QString& how, int files) const
     const int left = files - FilesDone();
     QString text =
         QStringLiteral("%1: %2 written, %3 skipped, %4 failed").arg(how).arg(written).arg(skipped).arg(failed);
+    if (unchanged > 0) {
+        text += QStringLiteral(", %1 unchanged").arg(unchanged);
+    }
     if (left > 0) {
         text += QStringLiteral(", %1 not processed").arg(left);
     }
@@ -139,6 +168,11 @@ void RunRecord::TellDeviation(const OutputPlan& names, int file, Action action, 
 {
     host.Log(ResultLine{names.Input(file), result, action}.Text());
     host.Tell<ZTBatchMessage::MsgError>(names.Input(file), names.Output(file), int(action), int(code));
+}
+
+FileStamp RunRecord::StampFor(const QString& output) const
+{
+    return stampsResults ? StampOfResult(output).value_or(FileStamp()) : FileStamp();
 }
 
 void RunRecord::LogFacts(const QString& input, const PictureFacts& facts) const

@@ -10,6 +10,8 @@
 #include "job/values/JobValues.h"
 
 #include <QLockFile>
+#include <QPair>
+#include <QVector>
 
 #include <memory>
 
@@ -38,6 +40,12 @@ public:
 
     void CountFound() { ++written; }
 
+    /// These results need not be made again. The host reads them in the journal.
+    void AddUnchanged(const QVector<QPair<int, BatchJob::JournalState::Result>>& results);
+
+    /// Results that are written from now on are to be recognised later; see FileStamp.
+    void StampResults() { stampsResults = true; }
+
     /// A worker has written the result of `file`, as `report` says.
     void AddWritten(const BatchJob::RunPlan& plan, int file, const BatchProtocol::Report& report);
 
@@ -48,7 +56,7 @@ public:
     void TellTrouble(const BatchJob::OutputPlan& names, int file, const BatchJob::Trouble& trouble,
                      BatchJob::Action action) const;
 
-    int FilesDone() const { return written + skipped + failed; }
+    int FilesDone() const { return written + unchanged + skipped + failed; }
     void TellProgress() const;
 
     /// Logs the counts of a run of `files` files that is over, in the way that `how` says.
@@ -58,6 +66,7 @@ private:
     void TellJournalFailure(const QString& problem) const;
     void TellDeviation(const BatchJob::OutputPlan& names, int file, BatchJob::Action action, ZTBatchMessage::Error code,
                        const QString& result) const;
+    BatchJob::FileStamp StampFor(const QString& output) const;
     void LogFacts(const QString& input, const BatchJob::PictureFacts& facts) const;
 
     const HostLink host;
@@ -65,8 +74,10 @@ private:
     std::unique_ptr<QLockFile> journalLock;
     BatchJob::RunJournal journal;
     int written = 0;
+    int unchanged = 0;
     int skipped = 0;
     int failed = 0;
+    bool stampsResults = false;
 };
 
 } // namespace BatchSupervisor

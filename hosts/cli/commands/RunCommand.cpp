@@ -13,6 +13,7 @@
 #include "hosts/cli/terminal/Startup.h"
 #include "hosts/common/JobRun.h"
 #include "hosts/common/JournaledJob.h"
+#include "hosts/common/RecordKeeper.h"
 #include "hosts/common/RequestError.h"
 #include "job/values/Phrase.h"
 
@@ -127,10 +128,30 @@ ExitCode CodeOf(const RunEnd& end, const ParsedArguments& arguments, int problem
     return code == ExitCode::Done && problems > 0 ? ExitCode::Incomplete : code;
 }
 
+/// Names the results of earlier updates that this one does not have any more, and removes them if they are to be. An
+/// input that could not be read is not gone.
+void HandleOrphans(const JournaledJob& journaled, const QString& outputFolder, const ParsedArguments& arguments,
+                   int problems)
+{
+    TellTroubleOfRecord(journaled);
+    const QStringList& orphans = journaled.EndOfUpdate().orphans;
+    if (orphans.isEmpty()) {
+        return;
+    }
+    if (!arguments.Has(QStringLiteral("--delete-orphans"))) {
+        TellOrphans(orphans);
+    } else if (problems > 0) {
+        TellKeptOrphans(orphans);
+    } else {
+        TellRemovedOrphans(orphans.size(), RecordKeeper(outputFolder).Remove(orphans));
+    }
+}
+
 } // namespace
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    const std::optional<BatchJob::Update> update = UpdateOf(arguments);
     if (arguments.Has(QStringLiteral("--dry-run"))) {
         return DryRun(arguments);
     }
@@ -163,13 +184,14 @@ ExitCode RunJob(const ParsedArguments& arguments)
             return ExitCode::ServerLost;
         }
         policies = PoliciesOfRun(arguments, journaled, settingsFolder);
-        const auto controller =
-            run.Prepare(job, journaled, {policies.values, arguments.Has(QStringLiteral("--strict")), losses.leftOut},
-                        output.Observers());
+        const auto controller = run.Prepare(
+            job, journaled, {policies.values, arguments.Has(QStringLiteral("--strict")), losses.leftOut, update},
+            output.Observers());
         TellMissingJournal(journaled);
         end = RunInteractively(*controller, output.Display(), interrupts);
     }
     journaled.End(end);
+    HandleOrphans(journaled, end.outputFolder, arguments, losses.problems);
     if (!output.IsQuiet()) {
         TellUnasked(policies, end);
         TellKeptSources(policies, end);

@@ -41,6 +41,17 @@ QString Quoted(QString path)
 #endif
 }
 
+void List(const QStringList& paths)
+{
+    constexpr int most = 20;
+    for (const QString& path : paths.mid(0, most)) {
+        WriteErrorLine(QStringLiteral("    ") + path);
+    }
+    if (paths.size() > most) {
+        WriteErrorLine(QStringLiteral("    ") + Messages::tr("and %1 more").arg(paths.size() - most));
+    }
+}
+
 QString ResumeCommand(const QString& outputFolder)
 {
     return QStringLiteral("velkora-batch run --resume -o ") + Quoted(outputFolder);
@@ -74,6 +85,46 @@ void TellMissingJournal(const JournaledJob& job)
 {
     if (!job.Problem().isEmpty()) {
         Tell(Messages::tr("should it be interrupted, the run cannot be resumed: %1.").arg(Translated(job.Problem())));
+    }
+}
+
+void TellTroubleOfRecord(const JournaledJob& job)
+{
+    const JournaledJob::UpdateEnd& update = job.EndOfUpdate();
+    if (!update.damage.isEmpty()) {
+        Tell(Messages::tr("the record of earlier results was ignored: %1. They were not recognised, and not replaced.")
+                 .arg(Translated(update.damage)));
+    }
+    if (!update.problem.isEmpty()) {
+        Tell(Messages::tr("the results of this update cannot be recorded: %1. The next one tries again.")
+                 .arg(Translated(update.problem)));
+    }
+}
+
+void TellOrphans(const QStringList& results)
+{
+    Tell(results.size() == 1
+             ? Messages::tr("1 result is left from an input that is gone; --delete-orphans removes it:")
+             : Messages::tr("%1 results are left from inputs that are gone; --delete-orphans removes them:")
+                   .arg(results.size()));
+    List(results);
+}
+
+void TellKeptOrphans(const QStringList& results)
+{
+    Tell(Messages::tr("not all inputs could be read, so nothing is removed of what seems to be left from inputs that "
+                      "are gone:"));
+    List(results);
+}
+
+void TellRemovedOrphans(int count, const QStringList& left)
+{
+    const int removed = count - left.size();
+    Tell(removed == 1 ? Messages::tr("1 result was removed, because its input is gone.")
+                      : Messages::tr("%1 results were removed, because their inputs are gone.").arg(removed));
+    if (!left.isEmpty()) {
+        Tell(Messages::tr("these results could not be removed:"));
+        List(left);
     }
 }
 

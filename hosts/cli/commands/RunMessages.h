@@ -22,6 +22,18 @@ void TellIgnoredJournals(const BatchHost::InterruptedRuns& runs);
 /// Why the run has no journal, if it has none.
 void TellMissingJournal(const BatchHost::JournaledJob& job);
 
+/// What was wrong with the record of an update's results.
+void TellTroubleOfRecord(const BatchHost::JournaledJob& job);
+
+/// Results of earlier updates that stay although their inputs are gone, because nobody wants them removed.
+void TellOrphans(const QStringList& results);
+
+/// The same, because it is not sure that the inputs are gone.
+void TellKeptOrphans(const QStringList& results);
+
+/// Of `count` such results, all but `left` were removed.
+void TellRemovedOrphans(int count, const QStringList& left);
+
 /// Why the run cannot start.
 void TellObstacle(const BatchHost::JobRun& run);
 

@@ -47,6 +47,9 @@ constexpr std::array limitOptions{
 const QString followLinks = QStringLiteral("--follow-links");
 const QString normalPriority = QStringLiteral("--normal-priority");
 const QString inPlace = QStringLiteral("--in-place");
+const QString update = QStringLiteral("--update");
+const QString checksum = QStringLiteral("--checksum");
+const QString deleteOrphans = QStringLiteral("--delete-orphans");
 
 } // namespace
 
@@ -87,6 +90,17 @@ QVector<OptionInfo> RunOptionInfos()
          run},
         {QStringLiteral("--run"), QStringLiteral("NAME"),
          BatchJob::Phrase::English("says which run to resume if several were interrupted; --resume lists their names"),
+         run},
+        {update, QString(),
+         BatchJob::Phrase::English(
+             "makes only what has changed since the last update into the output folder: its input, the job's settings, "
+             "or a file that they name. All other results stay as they are"),
+         run},
+        {checksum, QString(),
+         BatchJob::Phrase::English("lets an update compare the contents of files, not only their sizes and times"),
+         run},
+        {deleteOrphans, QString(),
+         BatchJob::Phrase::English("lets an update remove results that it has made earlier and whose inputs are gone"),
          run},
         {QStringLiteral("--strict"), QString(),
          BatchJob::Phrase::English("counts a picture with a warning as failed; its result is kept"), run},
@@ -166,6 +180,25 @@ void ApplyServerLimits(const ParsedArguments& arguments)
     if (arguments.Has(inPlace)) {
         inPlaceLimit.Set(1);
     }
+}
+
+std::optional<BatchJob::Update> UpdateOf(const ParsedArguments& arguments)
+{
+    for (const QString& option : {checksum, deleteOrphans}) {
+        if (arguments.Has(option) && !arguments.Has(update)) {
+            throw RequestError{BatchJob::Phrase::English("%1 needs %2").arg(option, update)};
+        }
+    }
+    if (!arguments.Has(update)) {
+        return std::nullopt;
+    }
+    for (const QString& other : {inPlace, QStringLiteral("--resume"), QStringLiteral("--dry-run")}) {
+        if (arguments.Has(other)) {
+            throw RequestError{
+                BatchJob::Phrase::English("%1 and %2 cannot be combined; remove one of them").arg(update, other)};
+        }
+    }
+    return BatchJob::Update{arguments.Has(checksum)};
 }
 
 QString SettingsFolder(const ParsedArguments& arguments)

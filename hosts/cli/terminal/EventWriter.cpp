@@ -63,7 +63,7 @@ QJsonObject ResultObject(const FileResult& result)
     if (!result.output.isEmpty()) {
         object.insert(Key("output"), result.output);
     }
-    if (result.kind != FileResult::Kind::Written) {
+    if (!HasResult(result.kind)) {
         object.insert(Key("code"), result.errorCode);
         object.insert(Key("reason"), result.reason);
     }
@@ -145,10 +145,15 @@ void EventWriter::OnCancelling()
 
 void EventWriter::OnEnd(const RunEnd& end)
 {
-    QJsonObject object{{Key("written"), end.written},         {Key("skipped"), end.skipped},
-                       {Key("failed"), end.failed},           {Key("notProcessed"), end.NotProcessed()},
-                       {Key("seconds"), end.seconds},         {Key("cancelled"), end.isCancelled},
-                       {Key("serverLost"), end.isServerLost}, {Key("warnings"), CountsOf(end.warnings)}};
+    QJsonObject object{{Key("written"), end.written},
+                       {Key("unchanged"), end.unchanged},
+                       {Key("skipped"), end.skipped},
+                       {Key("failed"), end.failed},
+                       {Key("notProcessed"), end.NotProcessed()},
+                       {Key("seconds"), end.seconds},
+                       {Key("cancelled"), end.isCancelled},
+                       {Key("serverLost"), end.isServerLost},
+                       {Key("warnings"), CountsOf(end.warnings)}};
     if (end.jobErrorCode != 0) {
         object.insert(Key("code"), end.jobErrorCode);
         object.insert(Key("reason"), end.jobError);

@@ -84,10 +84,10 @@ void RunDisplay::OnResult(const FileResult& result, int done, int files)
     progress.done = done;
     progress.bytesDone += bytes.value(result.input);
     progress.inWork.removeOne(result.input);
-    if (result.kind != FileResult::Kind::Written) {
+    if (!HasResult(result.kind)) {
         Write(QStringLiteral("%1 %2: %3")
                   .arg(Translated(BatchJob::ResultWord(result.kind)), result.input, Translated(result.reason)));
-    } else if (!line.IsShown() && detail != Detail::Quiet) {
+    } else if (result.kind == FileResult::Kind::Written && !line.IsShown() && detail != Detail::Quiet) {
         Write(QStringLiteral("[%1/%2] %3 -> %4").arg(done).arg(files).arg(result.input, result.output));
     }
     Refresh();

@@ -41,8 +41,8 @@ QString Coloured(const QString& text, Colour colour)
 int WidthOfWords()
 {
     int width = 13;
-    for (const QString& word :
-         {Messages::tr("Written"), Messages::tr("Skipped"), Messages::tr("Failed"), Messages::tr("Not processed")}) {
+    for (const QString& word : {Messages::tr("Written"), Messages::tr("Unchanged"), Messages::tr("Skipped"),
+                                Messages::tr("Failed"), Messages::tr("Not processed")}) {
         width = std::max(width, Terminal::WidthOf(word));
     }
     return width + 1;
@@ -99,14 +99,14 @@ void RunSummary::OnStart(const RunInputs& inputs, const QString&)
 void RunSummary::OnEarlierResult(const FileResult& result)
 {
     OnResult(result, 0, 0);
-    if (result.kind == FileResult::Kind::Written && !QFileInfo::exists(result.output)) {
+    if (HasResult(result.kind) && !QFileInfo::exists(result.output)) {
         gone.append(result.output);
     }
 }
 
 void RunSummary::OnResult(const FileResult& result, int, int)
 {
-    if (result.kind != FileResult::Kind::Written) {
+    if (!HasResult(result.kind)) {
         unwritten.append(result);
     }
     for (const Warning& warning : result.warnings) {
@@ -130,6 +130,9 @@ void RunSummary::OnEnd(const RunEnd& end)
                        Messages::tr("to %1, in %2 (%3 a second)")
                            .arg(VisibleText(end.outputFolder), TimeTaken(end.seconds), QString::number(rate, 'f', 1)),
                    Colour::Green));
+    if (end.unchanged > 0) {
+        WriteError(Row(Messages::tr("Unchanged"), end.unchanged, QString(), Colour::Green));
+    }
     if (!gone.isEmpty()) {
         const QString text = gone.size() == 1
                                  ? Messages::tr("%1 of them, written before the interruption, is missing now: %2")

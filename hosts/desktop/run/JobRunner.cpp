@@ -261,9 +261,7 @@ void JobRunner::Count(const FileResult& result)
 {
     using Kind = FileResult::Kind;
     results.insert(result.input, result);
-    ++(result.kind == Kind::Written   ? progress.written
-       : result.kind == Kind::Skipped ? progress.skipped
-                                      : progress.failed);
+    ++(HasResult(result.kind) ? progress.written : result.kind == Kind::Skipped ? progress.skipped : progress.failed);
     progress.bytesDone += std::max<qint64>(0, result.inputBytes);
     if (clock.isValid()) {
         progress.seconds = secondsBefore + double(clock.elapsed()) / 1000;

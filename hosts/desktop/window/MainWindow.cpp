@@ -35,6 +35,7 @@ RunStates::State StateOf(const FileResult& result)
 {
     switch (result.kind) {
     case FileResult::Kind::Written:
+    case FileResult::Kind::Unchanged:
         return RunStates::State::Written;
     case FileResult::Kind::Skipped:
         return RunStates::State::Skipped;
