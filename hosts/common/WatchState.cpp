@@ -5,6 +5,7 @@
 
 #include "RequestError.h"
 
+#include "job/journal/Lines.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/RunJournal.h"
 #include "job/values/Phrase.h"
@@ -104,12 +105,13 @@ void WatchState::Read()
     file.seek(0);
     qint64 whole = 0;
     bool isFirst = true;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
+    Lines lines(file);
+    while (!lines.IsAtEnd()) {
+        const QByteArray line = lines.Next();
         if (!line.endsWith('\n')) {
             break; // The process was killed over it.
         }
-        whole = file.pos();
+        whole += line.size();
         const QJsonObject object = QJsonDocument::fromJson(line).object();
         if (isFirst && object.value(ofVersion).toInt() != version) {
             Refuse(Phrase::English("it is no record of a watched folder that this version reads"));

@@ -209,7 +209,8 @@ void tst_CliWatch::failedPicturesAreToldOnce()
     stage->Write(QStringLiteral("in/bad.jpg"), "a picture now");
     QVERIFY(WaitForResult(run, QStringLiteral("bad.jpg")));
     QCOMPARE(EndOf(run), 0);
-    QCOMPARE(Results(), QStringList({QStringLiteral("bad.png"), QStringLiteral("good.png"), QStringLiteral("marker.png")}));
+    QCOMPARE(Results(),
+             QStringList({QStringLiteral("bad.png"), QStringLiteral("good.png"), QStringLiteral("marker.png")}));
 }
 
 void tst_CliWatch::lookingFindsPicturesToo()
@@ -257,7 +258,8 @@ void tst_CliWatch::equalNamesAreNumbered()
     stage->Write(QStringLiteral("in/other/a.jpg"), "three");
     QVERIFY(WaitForResult(run, QStringLiteral("other/a.jpg")));
     QCOMPARE(EndOf(run), 0);
-    QCOMPARE(Results(), QStringList({QStringLiteral("a (2).png"), QStringLiteral("a (3).png"), QStringLiteral("a.png")}));
+    QCOMPARE(Results(),
+             QStringList({QStringLiteral("a (2).png"), QStringLiteral("a (3).png"), QStringLiteral("a.png")}));
 }
 
 void tst_CliWatch::foldersThatGoEndWatching()
@@ -326,8 +328,8 @@ void tst_CliWatch::foldersThatCannotBeReadAreRefused()
                   command;
     }
     const QString program = command.takeFirst();
-    const CliRun run = CliRun::OfProgram(program, command + stage->Arguments(Watch()), stage->Folder(),
-                                         stage->Environment());
+    const CliRun run =
+        CliRun::OfProgram(program, command + stage->Arguments(Watch()), stage->Folder(), stage->Environment());
     QVERIFY(QFile::setPermissions(folder, all));
     QVERIFY2(run.exitCode == 2, run.err.constData());
     QVERIFY2(run.err.contains(folder.toUtf8() + " cannot be read: "), run.err.constData());

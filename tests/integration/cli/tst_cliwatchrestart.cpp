@@ -236,7 +236,8 @@ void tst_CliWatchRestart::truncatedRecordsAreRead()
     RunUntil(Watch(), 1);
     Put(QStringLiteral("c.jpg"), "c");
     RunUntil(Watch(), 1);
-    QCOMPARE(Results().keys(), QStringList({QStringLiteral("001.png"), QStringLiteral("002.png"), QStringLiteral("003.png")}));
+    QCOMPARE(Results().keys(),
+             QStringList({QStringLiteral("001.png"), QStringLiteral("002.png"), QStringLiteral("003.png")}));
 }
 
 void tst_CliWatchRestart::otherRecordsAreRefused_data()
