@@ -117,11 +117,8 @@ bool JournaledJob::Record(const RunEnd& end)
         return true;
     }
     RecordKeeper keeper(end.outputFolder);
-    const bool isRecorded = keeper.Adopt(*state);
-    endOfUpdate = {{}, keeper.Damage(), keeper.Problem()};
-    if (isRecorded && end.IsFinished()) {
-        endOfUpdate.orphans = keeper.Orphans(*state);
-    }
+    const bool isRecorded = end.IsFinished() ? keeper.AdoptFinished(*state) : keeper.Adopt(*state);
+    endOfUpdate = {keeper.Orphans(), keeper.Damage(), keeper.Problem()};
     return isRecorded;
 }
 

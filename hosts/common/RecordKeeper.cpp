@@ -16,6 +16,7 @@
 #include <QLockFile>
 #include <QSet>
 
+#include <algorithm>
 #include <memory>
 
 using namespace BatchJob;
@@ -90,13 +91,27 @@ void RecordKeeper::AdoptInterrupted()
 
 bool RecordKeeper::Adopt(const JournalState& state)
 {
+    return Adopt(state, false);
+}
+
+bool RecordKeeper::AdoptFinished(const JournalState& state)
+{
+    return Adopt(state, true);
+}
+
+bool RecordKeeper::Adopt(const JournalState& state, bool isFinished)
+{
     const std::unique_ptr<QLockFile> lock = Lock(RecordPath(folder) + QStringLiteral(".lock"));
     if (!lock) {
         problem = Phrase::English("the folder cannot be written, or another process keeps the record");
         return false;
     }
     ResultRecord record = ReadRecord(folder, damage);
-    return !Enter(state, record) || WriteRecord(folder, record, problem);
+    const bool isRecorded = !Enter(state, record) || WriteRecord(folder, record, problem);
+    if (isRecorded && isFinished) {
+        orphans = FindOrphans(state, record);
+    }
+    return isRecorded;
 }
 
 /// False if there was nothing to enter.
@@ -130,13 +145,16 @@ bool RecordKeeper::Enter(const JournalState& state, ResultRecord& record) const
     return hasEntered;
 }
 
-QStringList RecordKeeper::Orphans(const JournalState& state) const
+QStringList RecordKeeper::FindOrphans(const JournalState& state, const ResultRecord& record) const
 {
-    QString ignored;
-    const ResultRecord record = ReadRecord(folder, ignored);
     QSet<QString> current;
+    current.reserve(state.results.size());
     for (const JournalState::Result& result : state.results) {
         current.insert(PathBelow(result.output));
+    }
+    const auto isOld = [&current](const QString& path) { return !current.contains(path); };
+    if (std::none_of(record.keyBegin(), record.keyEnd(), isOld)) {
+        return {};
     }
     QSet<QPair<QString, QString>> made; // inputs and recipes of this run
     for (auto it = record.constBegin(); it != record.constEnd(); ++it) {
@@ -144,7 +162,7 @@ QStringList RecordKeeper::Orphans(const JournalState& state) const
             made.insert({it->input, it->recipe});
         }
     }
-    QStringList orphans;
+    QStringList found;
     for (auto it = record.constBegin(); it != record.constEnd(); ++it) {
         if (current.contains(it.key())) {
             continue;
@@ -153,11 +171,11 @@ QStringList RecordKeeper::Orphans(const JournalState& state) const
         const QString path = folder + QLatin1Char('/') + it.key();
         const std::optional<FileStamp> now = StampOfResult(path);
         if (isGone && now && now->LooksLike(it->stamp)) {
-            orphans.append(path);
+            found.append(path);
         }
     }
-    orphans.sort();
-    return orphans;
+    found.sort();
+    return found;
 }
 
 QStringList RecordKeeper::Remove(const QStringList& results)
@@ -168,7 +186,7 @@ QStringList RecordKeeper::Remove(const QStringList& results)
     for (const QString& result : results) {
         const auto found = record.find(PathBelow(result));
         const std::optional<FileStamp> now = StampOfResult(result);
-        const bool isOwn = lock && found != record.end() && now && now->LooksLike(found->stamp);
+        const bool isOwn = lock && found != record.end() && now && now->LooksLike(found->stamp) && IsInside(result);
         if (!isOwn || !QFile::remove(result)) {
             left.append(result);
             continue;
@@ -183,6 +201,13 @@ QStringList RecordKeeper::Remove(const QStringList& results)
         WriteRecord(folder, record, problem);
     }
     return left;
+}
+
+/// Whether no link leads from the output folder to `result`.
+bool RecordKeeper::IsInside(const QString& result) const
+{
+    const QString real = QFileInfo(folder).canonicalFilePath() + QLatin1Char('/') + PathBelow(result);
+    return QFileInfo(result).canonicalFilePath() == real;
 }
 
 /// The path of `result` below the output folder; empty if it lies elsewhere.

@@ -26,9 +26,12 @@ public:
     /// Problem(): then the journal is needed further on.
     bool Adopt(const BatchJob::JournalState& state);
 
-    /// Results of earlier runs that the update of `state`, which has finished, does not have any more: their inputs are
-    /// gone, or their inputs have results of other names now. Only what stands as it was written; paths in their order.
-    QStringList Orphans(const BatchJob::JournalState& state) const;
+    /// The same of an update that has finished. Finds its Orphans().
+    bool AdoptFinished(const BatchJob::JournalState& state);
+
+    /// Results of earlier runs that the update does not have any more: their inputs are gone, or their inputs have
+    /// results of other names now. Only what stands as it was written; paths in their order.
+    const QStringList& Orphans() const { return orphans; }
 
     /// Removes results and forgets them, and folders below the output folder that are empty then. A result that was
     /// changed meanwhile stays. Returns those that could not be removed.
@@ -41,10 +44,14 @@ public:
     QString Problem() const { return problem; }
 
 private:
+    bool Adopt(const BatchJob::JournalState& state, bool isFinished);
+    QStringList FindOrphans(const BatchJob::JournalState& state, const BatchJob::ResultRecord& record) const;
     bool Enter(const BatchJob::JournalState& state, BatchJob::ResultRecord& record) const;
+    bool IsInside(const QString& result) const;
     QString PathBelow(const QString& result) const;
 
     const QString folder;
+    QStringList orphans;
     QString damage;
     QString problem;
 };

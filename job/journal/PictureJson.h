@@ -10,7 +10,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-/// What is known of a picture that was written, as fields of a line of JSON: journals and records of results share them.
+/// What is known of a picture that was written, as fields of a line of JSON: journals and records of results share
+/// them.
 namespace BatchJob {
 
 /// What is known of a picture: "from", "to", "bytes", "quality", "milliseconds". Impossible values are left out.

@@ -7,10 +7,9 @@
 
 namespace BatchJob {
 
-UpdateCheck::UpdateCheck(const QString& folder, const ResultRecord& record, const Recipe& recipe, bool comparesContents)
+UpdateCheck::UpdateCheck(const QString& folder, const ResultRecord& record, bool comparesContents)
     : folderStart(QDir::cleanPath(folder))
     , record(record)
-    , recipe(recipe)
     , comparesContents(comparesContents)
 {
     if (!folderStart.endsWith(QLatin1Char('/'))) {
@@ -34,10 +33,10 @@ QSet<QString> UpdateCheck::FindStanding(const Cancelled& isCancelled)
     return paths;
 }
 
-const RecordedResult* UpdateCheck::Unchanged(const QString& output, const QString& input, const QString& format) const
+const RecordedResult* UpdateCheck::Unchanged(const QString& output, const QString& input, const QString& recipe) const
 {
     const RecordedResult* const recorded = standing.contains(output) ? Find(output) : nullptr;
-    if (!recorded || recorded->input != input || recorded->recipe != recipe.For(format)) {
+    if (!recorded || recorded->input != input || recorded->recipe != recipe) {
         return nullptr;
     }
     const std::optional<FileStamp> now = StampOf(input);

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "Recipe.h"
 #include "ResultRecord.h"
 
 #include <QSet>
@@ -22,21 +21,19 @@ public:
 
     UpdateCheck() = default;
 
-    /// For the results of `recipe` that go below `folder`, whose record is `record`. Without `comparesContents`, files
-    /// with equal sizes and times are equal.
-    UpdateCheck(const QString& folder, const ResultRecord& record, const Recipe& recipe, bool comparesContents);
+    /// For results that go below `folder`, whose record is `record`. Without `comparesContents`, files with equal sizes
+    /// and times are equal.
+    UpdateCheck(const QString& folder, const ResultRecord& record, bool comparesContents);
 
     /// The paths of all recorded results that stand as they were written. Incomplete when it was cancelled.
     QSet<QString> FindStanding(const Cancelled& isCancelled);
 
-    /// What is recorded of the result at `output`, if making it again from `input` in `format` would give the same; else
-    /// null. To be called after FindStanding().
-    const RecordedResult* Unchanged(const QString& output, const QString& input, const QString& format) const;
+    /// What is recorded of the result at `output`, if making it again from `input` by `recipe` would give the same;
+    /// else null. To be called after FindStanding().
+    const RecordedResult* Unchanged(const QString& output, const QString& input, const QString& recipe) const;
 
     /// Whether the result at `output` still stands as it was written, so that a new one may take its place.
     bool IsOwn(const QString& output) const;
-
-    const Recipe& RecipeOfJob() const { return recipe; }
 
 private:
     const RecordedResult* Find(const QString& output) const;
@@ -44,7 +41,6 @@ private:
 
     QString folderStart; ///< with a slash at the end
     ResultRecord record;
-    Recipe recipe;
     bool comparesContents = false;
     QHash<QString, FileStamp> standing; ///< as FindStanding() has seen them
 };

@@ -19,8 +19,9 @@ namespace BatchJob {
 namespace {
 
 #ifdef Q_OS_LINUX
-/// Whether the file system of `path` numbers its files anew when it is mounted. The numbers are those of <linux/magic.h>.
-bool HasPassingNumbers(const char* path)
+/// Whether the file system of `path` numbers its files anew when it is mounted. The numbers are those of
+/// <linux/magic.h>.
+bool AskForPassingNumbers(const char* path)
 {
     constexpr std::array<quint32, 7> types{
         0x4d44,     // FAT
@@ -32,11 +33,22 @@ bool HasPassingNumbers(const char* path)
         0x01021997, // 9P
     };
     struct statfs found = {};
-    return ::statfs(path, &found) != 0 ||
-           std::find(types.begin(), types.end(), quint32(found.f_type)) != types.end();
+    return ::statfs(path, &found) != 0 || std::find(types.begin(), types.end(), quint32(found.f_type)) != types.end();
+}
+
+/// The same of a file on `device`. Many files in a row are on one.
+bool HasPassingNumbers(const char* path, dev_t device)
+{
+    static thread_local dev_t lastDevice = 0;
+    static thread_local bool wasPassing = true;
+    if (device != lastDevice) {
+        wasPassing = AskForPassingNumbers(path);
+        lastDevice = device;
+    }
+    return wasPassing;
 }
 #else
-bool HasPassingNumbers(const char*)
+bool HasPassingNumbers(const char*, dev_t)
 {
     return true; // Nothing is known about them.
 }
@@ -63,7 +75,7 @@ std::optional<FileStamp> StampOf(const QString& path)
         return std::nullopt;
     }
     return FileStamp{qint64(found.st_size), ModifiedOf(found),
-                     HasPassingNumbers(name.constData()) ? 0 : quint64(found.st_ino)};
+                     HasPassingNumbers(name.constData(), found.st_dev) ? 0 : quint64(found.st_ino)};
 }
 
 std::optional<FileStamp> StampOfResult(const QString& path)

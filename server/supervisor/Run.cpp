@@ -179,6 +179,7 @@ void Run::AdoptUnjournaledResults()
 
 void Run::AdoptUnchanged()
 {
+    recipe = preparation->recipe;
     update = std::move(preparation->update);
     if (!update) {
         return;
@@ -303,7 +304,7 @@ bool Run::GivePicture(int file)
     const std::optional<FileIdentity> before = IdentityOf(output);
     std::optional<ResultOrigin> origin;
     if (update) {
-        origin = {input, StampOf(input).value_or(FileStamp()), update->RecipeOfJob().For(format)};
+        origin = {input, StampOf(input).value_or(FileStamp()), recipe.For(format)};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
     const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));

@@ -140,6 +140,7 @@ private:
 
     const QString journalPath;
     RunRecord record;
+    BatchJob::Recipe recipe;                     ///< of an update
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
     QHash<int, int> losses;                      ///< how often a server has died while it worked on a file
 };

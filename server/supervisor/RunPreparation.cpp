@@ -48,7 +48,8 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     }
     EnterEarlierResults();
     if (earlier && earlier->update) {
-        ReadRecord(QFileInfo(journalPath).path(), ofWorkers.settings);
+        recipe = Recipe(settings, ofWorkers.settings);
+        ReadRecord(QFileInfo(journalPath).path());
     }
     plan.ReadInputs(isCancelled);
 }
@@ -155,10 +156,10 @@ void RunPreparation::FindUnjournaledResults()
     }
 }
 
-void RunPreparation::ReadRecord(const QString& folder, const JobSettings& jobSettings)
+void RunPreparation::ReadRecord(const QString& folder)
 {
     const ResultRecord record = BatchJob::ReadRecord(folder, recordProblem);
-    update.emplace(folder, record, Recipe(settings, jobSettings), earlier->update->comparesContents);
+    update.emplace(folder, record, earlier->update->comparesContents);
 }
 
 void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
@@ -171,7 +172,8 @@ void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
         }
         const OutputPlan& names = plan.Names();
         const QString output = names.Output(i);
-        if (const RecordedResult* const recorded = update->Unchanged(output, names.Input(i), names.Format(i)->name)) {
+        if (const RecordedResult* const recorded =
+                update->Unchanged(output, names.Input(i), recipe.For(names.Format(i)->name))) {
             unchanged.append({i, {ResultKind::Unchanged, output, 0, {}, recorded->warnings, recorded->facts, {}, {}}});
         }
     }

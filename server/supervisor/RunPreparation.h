@@ -5,6 +5,7 @@
 
 #include "job/journal/RunJournal.h"
 #include "job/plan/RunPlan.h"
+#include "job/record/Recipe.h"
 #include "job/record/UpdateCheck.h"
 #include "job/settings/JobCheck.h"
 #include "server/protocol/WorkerMessages.h"
@@ -45,7 +46,7 @@ struct RunPreparation
     void FindUnjournaledResults();
 
     /// Prepares an update of the results that the record in `folder` knows.
-    void ReadRecord(const QString& folder, const BatchJob::JobSettings& jobSettings);
+    void ReadRecord(const QString& folder);
 
     /// Finds the results that need not be made again. To be called with names.
     void FindUnchanged(const Cancelled& isCancelled);
@@ -60,6 +61,7 @@ struct RunPreparation
     std::optional<BatchJob::JournalState> earlier;
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
+    BatchJob::Recipe recipe;  ///< of an update
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
     QString recordProblem;                       ///< why the record of results does not count, for users
     QVector<QPair<int, BatchJob::JournalState::Result>> unchanged; ///< files whose results need not be made again

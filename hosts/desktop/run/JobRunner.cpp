@@ -62,12 +62,13 @@ QString JobRunner::Obstacle() const
     return {};
 }
 
-void JobRunner::Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun)
+void JobRunner::Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun,
+                      const std::optional<BatchJob::Update>& update)
 {
     RequireRunnableJob(job);
     Dismiss(); // It may be a run of the same job.
     journaled.emplace(JournaledJob::New(job));
-    Run(job, policiesOfRun);
+    Run(job, policiesOfRun, update);
 }
 
 void JobRunner::TakeUp(const QString& folder, const QString& name)
@@ -109,7 +110,8 @@ void JobRunner::RunAgain()
     Run(*job, policies);
 }
 
-void JobRunner::Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun)
+void JobRunner::Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun,
+                    const std::optional<BatchJob::Update>& update)
 {
     policies = policiesOfRun;
     runningJob = std::make_unique<ZTBatchDocument>();
@@ -119,7 +121,7 @@ void JobRunner::Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& po
     progress = {};
     secondsBefore = 0;
     clock.start();
-    controller = environment.Prepare(job, *journaled, {policies}, {this});
+    controller = environment.Prepare(job, *journaled, {policies, false, {}, update}, {this});
     connect(controller.get(), &RunController::Question, this,
             [this](BatchJob::PolicyKind kind, const QString& input, const QString& output, const QString& reason) {
                 question = Question{kind, input, output, reason};

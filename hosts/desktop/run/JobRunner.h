@@ -88,7 +88,8 @@ public:
     const QHash<QString, BatchHost::FileResult>& Results() const { return results; }
 
     /// Starts the run of `job`. Throws RequestError. Nothing may be running.
-    void Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies);
+    void Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies,
+               const std::optional<BatchJob::Update>& update = {});
 
     /// Takes up the run that was interrupted in `outputFolder`: the one called `name`, see InterruptedRuns, or the only
     /// one if it is empty. Throws RequestError.
@@ -140,7 +141,8 @@ private:
     void OnResult(const BatchHost::FileResult& result, int done, int files) override;
     void OnServerLost(const QStringList& inWork, bool goesOn) override;
 
-    void Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies);
+    void Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies,
+             const std::optional<BatchJob::Update>& update = {});
     void RunAgain();
     void OnEnded(const BatchHost::RunEnd& end);
     void SetState(State newState);

@@ -58,6 +58,12 @@ QString EndText(const RunEnd& end)
 {
     switch (end.Outcome()) {
     case RunOutcome::Complete:
+        if (end.unchanged > 0) {
+            return Messages::tr("Finished in %1: %2 written, %3 were up to date.")
+                .arg(DurationText(end.seconds))
+                .arg(end.written)
+                .arg(end.unchanged);
+        }
         return Messages::tr("Finished in %1: all %2 pictures were written.")
             .arg(DurationText(end.seconds))
             .arg(end.written);

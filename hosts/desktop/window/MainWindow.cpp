@@ -235,6 +235,9 @@ void MainWindow::MakeRunMenu()
     startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     menu->addActions(bar->Actions());
     menu->addSeparator();
+    updateAction = menu->addAction(Messages::tr("Make only what has &changed"));
+    updateAction->setObjectName(QStringLiteral("updateAction"));
+    updateAction->setCheckable(true);
     menu->addAction(RunPriority(layoutFile, menu).Action());
 }
 
@@ -302,7 +305,9 @@ void MainWindow::StartRun()
         return;
     }
     try {
-        runner.Start(job.Document(), job.CurrentSettings().policies);
+        const std::optional<BatchJob::Update> update =
+            updateAction->isChecked() ? std::optional(BatchJob::Update()) : std::nullopt;
+        runner.Start(job.Document(), job.CurrentSettings().policies, update);
     } catch (const RequestError& error) {
         bar->Say(Messages::tr("The run cannot be started: %1.").arg(Translated(error.text)));
     }

@@ -94,6 +94,7 @@ private:
     ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
     QAction* startAction = nullptr;
+    QAction* updateAction = nullptr; ///< checked: a run makes only what has changed
     std::unique_ptr<InputModule> inputs;
     SystemLink system;
     std::unique_ptr<JobDesk> desk;

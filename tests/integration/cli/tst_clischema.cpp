@@ -27,6 +27,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void finishedRunsFit();
+    void updatesFit();
     void strictRunsFit();
     void runsWithoutWorkersFit();
     void lostServersFit();
@@ -125,6 +126,17 @@ void tst_CliSchema::finishedRunsFit()
     CheckReport(QStringLiteral("r.json"));
     const CliRun skipped = stage->Run(arguments.arg(QStringLiteral("skip"), QStringLiteral("stop")));
     Check(skipped.out);
+    CheckReport(QStringLiteral("r.json"));
+}
+
+void tst_CliSchema::updatesFit()
+{
+    const QString arguments = QStringLiteral("run photos -o update --format png --json --report r.json --update");
+    const CliRun first = stage->Run(arguments);
+    Check(first.out);
+    const CliRun again = stage->Run(arguments);
+    QVERIFY2(again.out.contains("\"event\":\"unchanged\""), again.out.constData());
+    Check(again.out);
     CheckReport(QStringLiteral("r.json"));
 }
 

@@ -57,7 +57,10 @@ private:
         int failed = -1;
     };
 
-    QString Path(const QString& name) const { return root->filePath(name); }
+    QString Path(const QString& name) const
+    {
+        return root->filePath(name);
+    }
     CliRun Run(const QString& arguments) const
     {
         return CliRun::Of(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts)
@@ -67,8 +70,7 @@ private:
     /// The counts of a run with --json.
     Counts CountsOf(const CliRun& run) const
     {
-        const QJsonObject end =
-            QJsonDocument::fromJson(run.out.trimmed().split('\n').last()).object();
+        const QJsonObject end = QJsonDocument::fromJson(run.out.trimmed().split('\n').last()).object();
         const auto count = [&end](const char* name) { return end.value(QLatin1String(name)).toInt(-1); };
         return {count("written"), count("unchanged"), count("skipped"), count("failed")};
     }
@@ -294,8 +296,8 @@ void tst_CliUpdate::orphansAreListedAndRemoved()
     }
     COMPARE_COUNTS(Update(options + QStringLiteral("--delete-orphans")), 0, 3, 0, 0);
     QVERIFY2(last.err.contains("2 results were removed"), last.err.constData());
-    QCOMPARE(Results(), QStringList({QStringLiteral("in/1.jpg"), QStringLiteral("in/3.jpg"),
-                                     QStringLiteral("in/4.jpg")}));
+    QCOMPARE(Results(),
+             QStringList({QStringLiteral("in/1.jpg"), QStringLiteral("in/3.jpg"), QStringLiteral("in/4.jpg")}));
     QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out/in/more"))));
     COMPARE_COUNTS(Update(options), 0, 3, 0, 0);
     QVERIFY2(!last.err.contains("gone"), last.err.constData());
@@ -430,7 +432,8 @@ void tst_CliUpdate::wrongCombinations_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QByteArray>("message");
-    QTest::newRow("--checksum") << QStringLiteral("run in -o out --checksum") << QByteArray("--checksum needs --update");
+    QTest::newRow("--checksum") << QStringLiteral("run in -o out --checksum")
+                                << QByteArray("--checksum needs --update");
     QTest::newRow("--delete-orphans") << QStringLiteral("run in -o out --delete-orphans")
                                       << QByteArray("--delete-orphans needs --update");
     for (const char* other : {"--in-place", "--resume", "--dry-run"}) {

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theRunWritesThePreviewsBytes();
     void pausesAndGoesOnByTheMenu();
     void cancelledRunsAreResumed();
+    void onlyWhatHasChangedIsMade();
     void takenNamesAreAskedWithBothPictures();
     void answersHoldForTheRest();
     void picturesAddedInARunAreForTheNext();
@@ -128,6 +129,26 @@ void tst_WindowRun::cancelledRunsAreResumed()
     QCOMPARE(stage->Runner().LastEnd()->written, 30);
     QVERIFY(!stage->IsVisible("resume"));
     QCOMPARE(QDir(stage->Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden).size(), 30);
+}
+
+void tst_WindowRun::onlyWhatHasChangedIsMade()
+{
+    QVERIFY(stage->Add(3));
+    stage->SetOutput();
+    auto* const update = stage->Window().findChild<QAction*>(QStringLiteral("updateAction"));
+    QVERIFY(update && !update->isChecked());
+    update->trigger();
+    stage->Click("start");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, 3);
+    PictureFiles::WriteJpeg(stage->Photo(2), 50);
+    const QByteArray before = stage->Content(stage->Result(2));
+    stage->Click("start");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, 1);
+    QCOMPARE(stage->Runner().LastEnd()->unchanged, 2);
+    QVERIFY2(stage->Text().contains(QStringLiteral("1 written, 2 were up to date")), qPrintable(stage->Text()));
+    QVERIFY(stage->Content(stage->Result(2)) != before);
 }
 
 void tst_WindowRun::takenNamesAreAskedWithBothPictures()
