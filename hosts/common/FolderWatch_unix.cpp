@@ -9,6 +9,7 @@
 #ifdef Q_OS_LINUX
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <sys/inotify.h>
 #include <sys/statfs.h>

@@ -3,6 +3,7 @@
 
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
+#include "Program.h"
 #include "RunPolicies.h"
 #include "WatchRun.h"
 
@@ -228,6 +229,17 @@ private:
     bool isEnding = false;
 };
 
+/// What goes wrong while the folder is watched, such as a full disk, may mend itself.
+ExitCode EndOf(Watch& watch, WatchRun& runs, const WatchState& state, const InterruptWatcher& interrupts)
+{
+    try {
+        return watch.Run(runs, state, interrupts);
+    } catch (const RequestError& error) {
+        const ExitCode code = Report(error);
+        return code == ExitCode::Usage ? ExitCode::Incomplete : code;
+    }
+}
+
 } // namespace
 
 ExitCode WatchFolder(const ParsedArguments& arguments)
@@ -259,7 +271,7 @@ ExitCode WatchFolder(const ParsedArguments& arguments)
         EventWriter::TellWatching(folder, output);
     }
     WatchRun runs(arguments, settings, state, interrupts);
-    const ExitCode code = watch.Run(runs, state, interrupts);
+    const ExitCode code = EndOf(watch, runs, state, interrupts);
     if (!isQuiet) {
         Tell(runs.Totals());
     }

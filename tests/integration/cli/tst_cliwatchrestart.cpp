@@ -13,6 +13,9 @@
 #include <QtTest>
 
 #include <csignal>
+#ifdef Q_OS_LINUX
+#include <sys/resource.h>
+#endif
 
 /// A folder that is watched over ends and restarts: nothing twice, nothing lost, numbers that go on.
 class tst_CliWatchRestart : public QObject
@@ -28,6 +31,7 @@ private Q_SLOTS:
     void endedRunsGoOn();
     void killsAtAnyMoment();
     void fullOutputsEndWatching();
+    void recordsThatCannotBeWrittenEndWatching();
     void batchesWithoutJournal_data();
     void batchesWithoutJournal();
     void truncatedRecordsAreRead();
@@ -195,6 +199,27 @@ void tst_CliWatchRestart::fullOutputsEndWatching()
     RunUntil(Watch(), 1);
     QVERIFY(Results().contains(QStringLiteral("001.png")));
     QCOMPARE(Results().value(QStringLiteral("001.png")), QByteArray("a"));
+}
+
+void tst_CliWatchRestart::recordsThatCannotBeWrittenEndWatching()
+{
+#ifdef Q_OS_LINUX
+    Put(QStringLiteral("a.jpg"), "a");
+    {
+        HeldRun run(*stage, Watch());
+        QVERIFY(run.WaitFor("\"event\":\"end\""));
+        QTRY_VERIFY(stage->Content(QStringLiteral("out/.velkora-batch-watch")).endsWith("\"done\"}\n"));
+        const rlimit none{1, 1};
+        QCOMPARE(::prlimit(pid_t(run.Id()), RLIMIT_FSIZE, &none, nullptr), 0);
+        Put(QStringLiteral("b.jpg"), "b");
+        QCOMPARE(run.End(), 1);
+        QVERIFY2(run.Err().contains(Record().toUtf8()), run.Err().constData());
+    }
+    RunUntil(Watch(), 1);
+    QCOMPARE(Results().keys(), QStringList({QStringLiteral("001.png"), QStringLiteral("002.png")}));
+#else
+    QSKIP("This system cannot limit another process.");
+#endif
 }
 
 void tst_CliWatchRestart::batchesWithoutJournal_data()
