@@ -24,9 +24,9 @@ public:
     /// not for network folders, and for a number of folders at most.
     bool IsComplete() const { return channel >= 0; }
 
-    /// Also tells of changes in `folders`, but not below them. Returns whether that is new for any of them: what has
-    /// changed there before was not told.
-    bool Follow(const QStringList& folders);
+    /// Also tells of changes in the folders `paths`, but not below them. Returns whether that is new for any of them:
+    /// what has changed there before was not told.
+    bool Follow(const QStringList& paths);
 
 Q_SIGNALS:
     /// Anything has changed. Comes after the signals below.

@@ -52,10 +52,10 @@ FolderWatch::~FolderWatch()
     Close();
 }
 
-bool FolderWatch::Follow(const QStringList& wanted)
+bool FolderWatch::Follow(const QStringList& paths)
 {
     bool isNew = false;
-    for (const QString& folder : wanted) {
+    for (const QString& folder : paths) {
         if (channel < 0) {
             return false;
         }

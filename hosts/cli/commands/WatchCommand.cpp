@@ -256,8 +256,8 @@ ExitCode WatchFolder(const ParsedArguments& arguments)
     const QString folder = FolderOf(inputs);
     const QString output = job.GetOutputSettings()->GetPath();
     CheckOutputFolder(output, folder);
-    InputFilter filter = FilterOf(arguments, job);
-    InputCollector(job, filter); // It throws for wildcards that cannot be used.
+    const InputFilter filter = FilterOf(arguments, job);
+    const InputCollector wildcards(job, filter); // It throws for those that cannot be used.
     Watch watch(arguments, folder, filter);
 
     InterruptWatcher interrupts;

@@ -10,6 +10,7 @@
 #include "server/worker/decode/MpfIndex.h"
 
 #include <QFile>
+#include <QtEndian>
 
 #include <algorithm>
 #include <initializer_list>
@@ -86,23 +87,21 @@ std::optional<qint64> PlaceOfFilm(QFile& file, qint64 place)
 {
     constexpr qint64 piece = qint64(1) << 20;
     constexpr int sizeSize = 4;
-    constexpr int enough = sizeSize + 2 * boxTypeSize;
-    constexpr qint64 smallest = 16;
-    constexpr qint64 largest = 1024;
-    while (file.seek(place)) {
-        const QByteArray bytes = file.read(piece + enough);
-        for (int found = bytes.indexOf("ftyp"); found >= 0; found = bytes.indexOf("ftyp", found + 1)) {
+    constexpr int overlap = sizeSize + boxTypeSize;
+    constexpr quint32 smallest = 16; // of the box that every film begins with
+    constexpr quint32 largest = 1024;
+    QByteArray bytes;
+    do {
+        bytes = file.seek(place) ? file.read(piece + overlap) : QByteArray();
+        for (int found = bytes.indexOf("ftyp", sizeSize); found >= 0; found = bytes.indexOf("ftyp", found + 1)) {
             const qint64 start = place + found - sizeSize;
-            const std::optional<BoxHeader> box = file.seek(start) ? NextBox(file) : std::nullopt;
-            if (box && box->size + sizeSize + boxTypeSize >= smallest && box->size <= largest) {
+            const quint32 size = qFromBigEndian<quint32>(bytes.constData() + found - sizeSize);
+            if (size >= smallest && size <= largest && start + size <= file.size()) {
                 return start;
             }
         }
-        if (bytes.size() < piece + enough) {
-            break;
-        }
         place += piece;
-    }
+    } while (bytes.size() == piece + overlap);
     return std::nullopt;
 }
 
