@@ -2235,6 +2235,54 @@
         <source>Least quality</source>
         <translation>Geringste Qualität</translation>
     </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>the record of earlier results was ignored: %1. They were not recognised, and not replaced.</source>
+        <translation>das Verzeichnis früherer Ergebnisse wurde nicht beachtet: %1. Sie wurden nicht erkannt und nicht ersetzt.</translation>
+    </message>
+    <message>
+        <source>the results of this update cannot be recorded: %1. The next one tries again.</source>
+        <translation>die Ergebnisse dieser Aktualisierung können nicht verzeichnet werden: %1. Die nächste versucht es noch einmal.</translation>
+    </message>
+    <message>
+        <source>1 result is left from an input that is gone; --delete-orphans removes it:</source>
+        <translation>1 Ergebnis ist von einer Eingabe übrig, die es nicht mehr gibt; --delete-orphans entfernt es:</translation>
+    </message>
+    <message>
+        <source>%1 results are left from inputs that are gone; --delete-orphans removes them:</source>
+        <translation>%1 Ergebnisse sind von Eingaben übrig, die es nicht mehr gibt; --delete-orphans entfernt sie:</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, so nothing is removed of what seems to be left from inputs that are gone:</source>
+        <translation>nicht alle Eingaben konnten gelesen werden; darum wird nichts von dem entfernt, was von verschwundenen Eingaben übrig scheint:</translation>
+    </message>
+    <message>
+        <source>1 result was removed, because its input is gone.</source>
+        <translation>1 Ergebnis wurde entfernt, weil es seine Eingabe nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>%1 results were removed, because their inputs are gone.</source>
+        <translation>%1 Ergebnisse wurden entfernt, weil es ihre Eingaben nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>these results could not be removed:</source>
+        <translation>diese Ergebnisse konnten nicht entfernt werden:</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 were up to date.</source>
+        <translation>Fertig in %1: %2 geschrieben, %3 waren aktuell.</translation>
+    </message>
+    <message>
+        <source>Make only what has &amp;changed</source>
+        <translation>Nur &amp;Geändertes erzeugen</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4055,10 +4103,6 @@
         <translation>list nimmt keinen Namen, aber „%1“ ist angegeben; „velkora-batch show --preset NAME“ zeigt eine Vorgabe</translation>
     </message>
     <message>
-        <source>%1 needs --resume</source>
-        <translation>%1 benötigt --resume</translation>
-    </message>
-    <message>
         <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
         <translation>%1/BatchExceptionPolicy.ini enthält den ungültigen Wert %2; %3 hat Vorrang davor</translation>
     </message>
@@ -5369,6 +5413,34 @@
     <message>
         <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
         <translation>die größte Datei, etwa 500kB; gesucht wird die beste Qualität, die nicht größer ist. Die Formatoptionen minQuality und mayShrink sagen, wie weit das gehen darf</translation>
+    </message>
+    <message>
+        <source>it is damaged, or of another version</source>
+        <translation>es ist beschädigt oder von einer anderen Version</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>unverändert</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 braucht %2</translation>
+    </message>
+    <message>
+        <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
+        <translation>erzeugt nur, was sich seit der letzten Aktualisierung in den Ausgabeordner geändert hat: die Eingabe, die Einstellungen des Auftrags oder eine Datei, die sie nennen. Alle anderen Ergebnisse bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>lets an update compare the contents of files, not only their sizes and times</source>
+        <translation>lässt eine Aktualisierung die Inhalte von Dateien vergleichen, nicht nur Größen und Zeiten</translation>
+    </message>
+    <message>
+        <source>lets an update remove results that it has made earlier and whose inputs are gone</source>
+        <translation>lässt eine Aktualisierung Ergebnisse entfernen, die sie früher erzeugt hat und deren Eingaben es nicht mehr gibt</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written, or another process keeps the record</source>
+        <translation>in den Ordner kann nicht geschrieben werden, oder ein anderer Prozess hält das Verzeichnis</translation>
     </message>
 </context>
 </TS>

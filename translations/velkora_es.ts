@@ -2235,6 +2235,54 @@
         <source>Least quality</source>
         <translation>Calidad mínima</translation>
     </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>the record of earlier results was ignored: %1. They were not recognised, and not replaced.</source>
+        <translation>no se ha tenido en cuenta el registro de resultados anteriores: %1. No se han reconocido ni reemplazado.</translation>
+    </message>
+    <message>
+        <source>the results of this update cannot be recorded: %1. The next one tries again.</source>
+        <translation>los resultados de esta actualización no se pueden registrar: %1. La próxima lo intentará de nuevo.</translation>
+    </message>
+    <message>
+        <source>1 result is left from an input that is gone; --delete-orphans removes it:</source>
+        <translation>queda 1 resultado de una entrada que ya no existe; --delete-orphans lo elimina:</translation>
+    </message>
+    <message>
+        <source>%1 results are left from inputs that are gone; --delete-orphans removes them:</source>
+        <translation>quedan %1 resultados de entradas que ya no existen; --delete-orphans los elimina:</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, so nothing is removed of what seems to be left from inputs that are gone:</source>
+        <translation>no se han podido leer todas las entradas, así que no se elimina nada de lo que parece quedar de entradas desaparecidas:</translation>
+    </message>
+    <message>
+        <source>1 result was removed, because its input is gone.</source>
+        <translation>se ha eliminado 1 resultado porque su entrada ya no existe.</translation>
+    </message>
+    <message>
+        <source>%1 results were removed, because their inputs are gone.</source>
+        <translation>se han eliminado %1 resultados porque sus entradas ya no existen.</translation>
+    </message>
+    <message>
+        <source>these results could not be removed:</source>
+        <translation>no se han podido eliminar estos resultados:</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 were up to date.</source>
+        <translation>Terminado en %1: %2 escritas, %3 ya estaban al día.</translation>
+    </message>
+    <message>
+        <source>Make only what has &amp;changed</source>
+        <translation>Hacer solo lo que ha &amp;cambiado</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4055,10 +4103,6 @@
         <translation>list no admite nombres, pero se indica «%1»; «velkora-batch show --preset NAME» muestra un ajuste</translation>
     </message>
     <message>
-        <source>%1 needs --resume</source>
-        <translation>%1 requiere --resume</translation>
-    </message>
-    <message>
         <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
         <translation>%1/BatchExceptionPolicy.ini contiene el valor %2, que no es válido; use %3 en su lugar</translation>
     </message>
@@ -5369,6 +5413,34 @@
     <message>
         <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
         <translation>el archivo más grande, por ejemplo 500kB; se busca la mejor calidad que no sea mayor. Las opciones de formato minQuality y mayShrink dicen hasta dónde</translation>
+    </message>
+    <message>
+        <source>it is damaged, or of another version</source>
+        <translation>está dañado o es de otra versión</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>sin cambios</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 necesita %2</translation>
+    </message>
+    <message>
+        <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
+        <translation>hace solo lo que ha cambiado desde la última actualización en la carpeta de salida: su entrada, los ajustes del trabajo o un archivo que estos nombran. Todos los demás resultados quedan como están</translation>
+    </message>
+    <message>
+        <source>lets an update compare the contents of files, not only their sizes and times</source>
+        <translation>hace que una actualización compare el contenido de los archivos, no solo su tamaño y su fecha</translation>
+    </message>
+    <message>
+        <source>lets an update remove results that it has made earlier and whose inputs are gone</source>
+        <translation>hace que una actualización elimine los resultados que hizo antes y cuyas entradas ya no existen</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written, or another process keeps the record</source>
+        <translation>no se puede escribir en la carpeta, u otro proceso tiene el registro</translation>
     </message>
 </context>
 </TS>

@@ -2235,6 +2235,54 @@
         <source>Least quality</source>
         <translation>Qualité minimale</translation>
     </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>the record of earlier results was ignored: %1. They were not recognised, and not replaced.</source>
+        <translation>le registre des résultats précédents a été ignoré : %1. Ils n’ont été ni reconnus ni remplacés.</translation>
+    </message>
+    <message>
+        <source>the results of this update cannot be recorded: %1. The next one tries again.</source>
+        <translation>les résultats de cette mise à jour ne peuvent pas être enregistrés : %1. La prochaine réessaiera.</translation>
+    </message>
+    <message>
+        <source>1 result is left from an input that is gone; --delete-orphans removes it:</source>
+        <translation>il reste 1 résultat d’une entrée qui n’existe plus ; --delete-orphans le supprime :</translation>
+    </message>
+    <message>
+        <source>%1 results are left from inputs that are gone; --delete-orphans removes them:</source>
+        <translation>il reste %1 résultats d’entrées qui n’existent plus ; --delete-orphans les supprime :</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, so nothing is removed of what seems to be left from inputs that are gone:</source>
+        <translation>toutes les entrées n’ont pas pu être lues ; rien n’est donc supprimé de ce qui semble rester d’entrées disparues :</translation>
+    </message>
+    <message>
+        <source>1 result was removed, because its input is gone.</source>
+        <translation>1 résultat a été supprimé, car son entrée n’existe plus.</translation>
+    </message>
+    <message>
+        <source>%1 results were removed, because their inputs are gone.</source>
+        <translation>%1 résultats ont été supprimés, car leurs entrées n’existent plus.</translation>
+    </message>
+    <message>
+        <source>these results could not be removed:</source>
+        <translation>ces résultats n’ont pas pu être supprimés :</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Inchangés</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 were up to date.</source>
+        <translation>Terminé en %1 : %2 écrites, %3 étaient à jour.</translation>
+    </message>
+    <message>
+        <source>Make only what has &amp;changed</source>
+        <translation>Ne faire que ce qui a &amp;changé</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4055,10 +4103,6 @@
         <translation>list ne prend pas de nom, mais «&#xa0;%1&#xa0;» est donné&#x202f;; «&#xa0;velkora-batch show --preset NAME&#xa0;» affiche un préréglage</translation>
     </message>
     <message>
-        <source>%1 needs --resume</source>
-        <translation>%1 exige --resume</translation>
-    </message>
-    <message>
         <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
         <translation>%1/BatchExceptionPolicy.ini contient la valeur %2, qui est invalide&#x202f;; %3 passe avant elle</translation>
     </message>
@@ -5369,6 +5413,34 @@
     <message>
         <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
         <translation>le plus grand fichier, par exemple 500kB ; la meilleure qualité qui n&apos;est pas plus grande est cherchée. Les options de format minQuality et mayShrink disent jusqu&apos;où</translation>
+    </message>
+    <message>
+        <source>it is damaged, or of another version</source>
+        <translation>il est endommagé ou d’une autre version</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>inchangé</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 exige %2</translation>
+    </message>
+    <message>
+        <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
+        <translation>ne fait que ce qui a changé depuis la dernière mise à jour dans le dossier de sortie : l’entrée, les réglages du travail ou un fichier qu’ils nomment. Tous les autres résultats restent tels quels</translation>
+    </message>
+    <message>
+        <source>lets an update compare the contents of files, not only their sizes and times</source>
+        <translation>fait comparer à une mise à jour le contenu des fichiers, pas seulement leur taille et leur date</translation>
+    </message>
+    <message>
+        <source>lets an update remove results that it has made earlier and whose inputs are gone</source>
+        <translation>fait supprimer à une mise à jour les résultats qu’elle a faits auparavant et dont l’entrée n’existe plus</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written, or another process keeps the record</source>
+        <translation>le dossier ne peut pas être écrit, ou un autre processus tient le registre</translation>
     </message>
 </context>
 </TS>

@@ -2235,6 +2235,54 @@
         <source>Least quality</source>
         <translation>最低品質</translation>
     </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>the record of earlier results was ignored: %1. They were not recognised, and not replaced.</source>
+        <translation>以前の結果の記録は無視されました: %1。それらは認識されず、置き換えられていません。</translation>
+    </message>
+    <message>
+        <source>the results of this update cannot be recorded: %1. The next one tries again.</source>
+        <translation>この更新の結果を記録できません: %1。次の更新で再び試みます。</translation>
+    </message>
+    <message>
+        <source>1 result is left from an input that is gone; --delete-orphans removes it:</source>
+        <translation>なくなった入力の結果が 1 件残っています。--delete-orphans で削除します:</translation>
+    </message>
+    <message>
+        <source>%1 results are left from inputs that are gone; --delete-orphans removes them:</source>
+        <translation>なくなった入力の結果が %1 件残っています。--delete-orphans で削除します:</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, so nothing is removed of what seems to be left from inputs that are gone:</source>
+        <translation>すべての入力を読めなかったため、なくなった入力の結果と思われるものは削除しません:</translation>
+    </message>
+    <message>
+        <source>1 result was removed, because its input is gone.</source>
+        <translation>入力がなくなったため、結果 1 件を削除しました。</translation>
+    </message>
+    <message>
+        <source>%1 results were removed, because their inputs are gone.</source>
+        <translation>入力がなくなったため、結果 %1 件を削除しました。</translation>
+    </message>
+    <message>
+        <source>these results could not be removed:</source>
+        <translation>次の結果は削除できませんでした:</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>Finished in %1: %2 written, %3 were up to date.</source>
+        <translation>%1 で完了: %2 件を書き込み、%3 件は最新でした。</translation>
+    </message>
+    <message>
+        <source>Make only what has &amp;changed</source>
+        <translation>変更されたものだけを作成(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4055,10 +4103,6 @@
         <translation>list に名前は指定できませんが、「%1」が指定されています。プリセットの表示は「velkora-batch show --preset NAME」です</translation>
     </message>
     <message>
-        <source>%1 needs --resume</source>
-        <translation>%1 には --resume が必要です</translation>
-    </message>
-    <message>
         <source>%1/BatchExceptionPolicy.ini holds the value %2, which is invalid; use %3 to override it</source>
         <translation>%1/BatchExceptionPolicy.ini に無効な値 %2 があります。%3 で上書きしてください</translation>
     </message>
@@ -5369,6 +5413,34 @@
     <message>
         <source>the largest file, such as 500kB; the best quality that is not larger is found. The format options minQuality and mayShrink say how far it may go</source>
         <translation>ファイルの最大の大きさ（例: 500kB）。これを超えない最良の品質を探します。どこまで許すかは形式のオプション minQuality と mayShrink で決めます</translation>
+    </message>
+    <message>
+        <source>it is damaged, or of another version</source>
+        <translation>壊れているか、別のバージョンのものです</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 には %2 が必要です</translation>
+    </message>
+    <message>
+        <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
+        <translation>出力フォルダーへの前回の更新以降に、入力、ジョブの設定、または設定が指定するファイルが変わったものだけを作成します。ほかの結果はそのまま残ります</translation>
+    </message>
+    <message>
+        <source>lets an update compare the contents of files, not only their sizes and times</source>
+        <translation>更新のときに、サイズと時刻だけでなくファイルの内容を比べます</translation>
+    </message>
+    <message>
+        <source>lets an update remove results that it has made earlier and whose inputs are gone</source>
+        <translation>以前の更新で作成され、入力がなくなった結果を、更新のときに削除します</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written, or another process keeps the record</source>
+        <translation>フォルダーに書き込めないか、別のプロセスが記録を使用しています</translation>
     </message>
 </context>
 </TS>

@@ -195,7 +195,7 @@ std::optional<BatchJob::Update> UpdateOf(const ParsedArguments& arguments)
     for (const QString& other : {inPlace, QStringLiteral("--resume"), QStringLiteral("--dry-run")}) {
         if (arguments.Has(other)) {
             throw RequestError{
-                BatchJob::Phrase::English("%1 and %2 cannot be combined; remove one of them").arg(update, other)};
+                BatchJob::Phrase::English("%1 and %2 contradict each other; remove one of them").arg(update, other)};
         }
     }
     return BatchJob::Update{arguments.Has(checksum)};

@@ -438,7 +438,7 @@ void tst_CliUpdate::wrongCombinations_data()
                                       << QByteArray("--delete-orphans needs --update");
     for (const char* other : {"--in-place", "--resume", "--dry-run"}) {
         QTest::newRow(other) << QStringLiteral("run in -o out --update ") + QLatin1String(other)
-                             << QByteArray("--update and ") + other + " cannot be combined; remove one of them";
+                             << QByteArray("--update and ") + other + " contradict each other; remove one of them";
     }
 }
 
