@@ -239,7 +239,7 @@ void InputCollector::AddEntry(const FolderEntry& entry, const QString& folderPat
         }
     } else if (entry.kind == FolderEntry::Kind::File && !IsReadable(entry.name) && IsSavedJob(path)) {
         problems.append(Phrase::English("%1 is a saved job, not a picture; it is left out.").arg(path));
-    } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path)) {
+    } else if (entry.kind == FolderEntry::Kind::File && !taken.contains(path) && (!accepts || accepts(path))) {
         taken.insert(path);
         files.append(MakeNode(path, File).release());
         KeepModification(files.last()->data, entry.modified);
@@ -288,7 +288,7 @@ bool InputCollector::MatchesAny(const QVector<Wildcard>& wildcards, const QStrin
 void InputCollector::LookAt(const FolderEntry& entry, const QString& path)
 {
     const bool isReadable = entry.kind == FolderEntry::Kind::File && entry.hasName && !entry.isDangling;
-    if (!isReadable || !only.isEmpty()) {
+    if (!isReadable || !only.isEmpty() || accepts) {
         return;
     }
     const QString format = FormatOfUnknownFile(path);

@@ -49,6 +49,10 @@ public:
     /// yet. What is thrown here ends Add(), and the folder that it was adding stays out of the job.
     std::function<void(const TreeNode<BatchNodeData>& folder)> onFolder;
 
+    /// Called for each file of a folder that would be taken; false leaves it out. With it, files of other kinds are not
+    /// looked at.
+    std::function<bool(const QString& path)> accepts;
+
     /// The files and folders `paths` count as added already.
     void Take(const QSet<QString>& paths) { taken += paths; }
 

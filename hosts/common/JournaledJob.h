@@ -50,6 +50,9 @@ public:
     /// The jobs of the bundle; empty for one job.
     const QVector<RunVariant>& Variants() const { return variants; }
 
+    /// Where the journal is, or will be.
+    QString JournalPath() const { return file->Path(); }
+
     /// The policies of the interrupted run; nothing for a new one.
     const std::optional<BatchJob::PolicyValues>& Policies() const { return policies; }
 

@@ -45,6 +45,12 @@ QString WarningWord(WarningKind kind)
         return QStringLiteral("metadata-lost");
     case WarningKind::GainMapLost:
         return QStringLiteral("gain-map-lost");
+    case WarningKind::DepthLost:
+        return QStringLiteral("depth-lost");
+    case WarningKind::FilmLost:
+        return QStringLiteral("film-lost");
+    case WarningKind::AudioLost:
+        return QStringLiteral("audio-lost");
     case WarningKind::Framing:
         return QStringLiteral("framing");
     case WarningKind::Decoder:
@@ -77,6 +83,12 @@ QString WarningTitle(WarningKind kind)
         return Phrase::English("metadata lost");
     case WarningKind::GainMapLost:
         return Phrase::English("gain map lost");
+    case WarningKind::DepthLost:
+        return Phrase::English("depth map lost");
+    case WarningKind::FilmLost:
+        return Phrase::English("film lost");
+    case WarningKind::AudioLost:
+        return Phrase::English("audio lost");
     case WarningKind::Framing:
         return Phrase::English("framing without effect");
     case WarningKind::Decoder:

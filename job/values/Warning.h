@@ -18,6 +18,9 @@ enum class WarningKind {
     ColoursConverted, ///< the colours are not those of the file: no profile, format or screen holds them as they are
     MetadataLost,     ///< the result lacks metadata of the file
     GainMapLost,      ///< the result lacks the map that makes the picture brighter on a screen that can show it
+    DepthLost,        ///< the result lacks the map that says how far away each place is
+    FilmLost,         ///< the result lacks moving pictures that the file has beside its picture
+    AudioLost,        ///< the result lacks sound that the file has beside its picture
     Framing,          ///< a part of the framing has no effect
     Decoder           ///< what a decoder says of the file
 };

@@ -13,6 +13,7 @@ ExitCode CreateJob(const ParsedArguments& arguments);
 ExitCode ShowJob(const ParsedArguments& arguments);
 ExitCode PlanJob(const ParsedArguments& arguments);
 ExitCode RunJob(const ParsedArguments& arguments);
+ExitCode WatchFolder(const ParsedArguments& arguments);
 ExitCode KeepPresets(const ParsedArguments& arguments);
 
 /// "run" with --dry-run: what PlanJob() prints for the same arguments.

@@ -8,7 +8,6 @@
 #include "hosts/cli/terminal/RunSummary.h"
 #include "hosts/cli/terminal/StatusLine.h"
 #include "hosts/common/InPlaceOutput.h"
-#include "hosts/common/InputCollector.h"
 #include "hosts/common/InputList.h"
 #include "hosts/common/JobFile.h"
 #include "hosts/common/JobRequirements.h"
@@ -31,17 +30,6 @@ using namespace BatchHost;
 namespace BatchCli {
 
 namespace {
-
-InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job)
-{
-    InputFilter filter;
-    filter.only = arguments.Values(QStringLiteral("--include"));
-    filter.except = arguments.Values(QStringLiteral("--exclude"));
-    filter.subfolders = !arguments.Has(QStringLiteral("--no-subfolders"));
-    filter.hidden = arguments.Has(QStringLiteral("--hidden"));
-    filter.outputFolder = job.GetOutputSettings()->GetPath();
-    return filter;
-}
 
 void CheckForStandardInput(const QStringList& inputs)
 {
@@ -131,6 +119,17 @@ void TellLosses(const InputCollector& collector, const QStringList& problems, co
 }
 
 } // namespace
+
+InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job)
+{
+    InputFilter filter;
+    filter.only = arguments.Values(QStringLiteral("--include"));
+    filter.except = arguments.Values(QStringLiteral("--exclude"));
+    filter.subfolders = !arguments.Has(QStringLiteral("--no-subfolders"));
+    filter.hidden = arguments.Has(QStringLiteral("--hidden"));
+    filter.outputFolder = job.GetOutputSettings()->GetPath();
+    return filter;
+}
 
 InputLosses AddInputs(ZTBatchDocument& job, const ParsedArguments& arguments, const QStringList& inputs)
 {

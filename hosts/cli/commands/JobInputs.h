@@ -4,7 +4,7 @@
 #pragma once
 
 #include "hosts/cli/options/CommandLine.h"
-#include "hosts/common/LeftOutFiles.h"
+#include "hosts/common/InputCollector.h"
 
 class ZTBatchDocument;
 
@@ -21,6 +21,9 @@ struct InputLosses
 /// Writes problems with folders to standard error; with --verbose, files that were left out too. Shows progress on a
 /// terminal. Throws RequestError.
 InputLosses AddInputs(ZTBatchDocument& job, const ParsedArguments& arguments, const QStringList& inputs);
+
+/// Which files of folders `arguments` let into `job`.
+BatchHost::InputFilter FilterOf(const ParsedArguments& arguments, const ZTBatchDocument& job);
 
 /// Whether the job that was built with `inputs` has pictures. Without any, throws RequestError unless `arguments` allow
 /// that, and then says so.

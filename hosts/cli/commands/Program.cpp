@@ -54,8 +54,8 @@ const QHash<QString, Command>& CommandFunctions()
     static const QHash<QString, Command> functions{
         {QStringLiteral("create"), &CreateJob},    {QStringLiteral("show"), &ShowJob},
         {QStringLiteral("plan"), &PlanJob},        {QStringLiteral("run"), &RunJob},
-        {QStringLiteral("presets"), &KeepPresets}, {QStringLiteral("effects"), &ListEffects},
-        {QStringLiteral("formats"), &ListFormats}};
+        {QStringLiteral("watch"), &WatchFolder},   {QStringLiteral("presets"), &KeepPresets},
+        {QStringLiteral("effects"), &ListEffects}, {QStringLiteral("formats"), &ListFormats}};
     return functions;
 }
 

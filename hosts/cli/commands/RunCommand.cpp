@@ -68,7 +68,7 @@ void CheckRunName(const ParsedArguments& arguments)
         return;
     }
     if (!arguments.Has(QStringLiteral("--resume"))) {
-        throw RequestError{BatchJob::Phrase::English("%1 needs %2").arg(runOption, QStringLiteral("--resume"))};
+        throw RequestError{BatchJob::Phrase::English("%1 needs --resume").arg(runOption)};
     }
     if (arguments.Value(runOption).isEmpty()) {
         throw RequestError{BatchJob::Phrase::English("the name is empty")}.In(runOption);

@@ -13,13 +13,6 @@ namespace BatchCli {
 
 namespace {
 
-RunDisplay::Detail DetailOf(const ParsedArguments& arguments)
-{
-    return arguments.Has(QStringLiteral("--quiet"))     ? RunDisplay::Detail::Quiet
-           : arguments.Has(QStringLiteral("--verbose")) ? RunDisplay::Detail::Verbose
-                                                        : RunDisplay::Detail::Normal;
-}
-
 std::unique_ptr<RunReport> ReportOf(const ParsedArguments& arguments)
 {
     const QString option = QStringLiteral("--report");
@@ -34,6 +27,13 @@ std::unique_ptr<RunReport> ReportOf(const ParsedArguments& arguments)
 }
 
 } // namespace
+
+RunDisplay::Detail DetailOf(const ParsedArguments& arguments)
+{
+    return arguments.Has(QStringLiteral("--quiet"))     ? RunDisplay::Detail::Quiet
+           : arguments.Has(QStringLiteral("--verbose")) ? RunDisplay::Detail::Verbose
+                                                        : RunDisplay::Detail::Normal;
+}
 
 RunOutput::RunOutput(const ParsedArguments& arguments)
     : isQuiet(arguments.Has(QStringLiteral("--quiet")))

@@ -15,6 +15,9 @@
 
 namespace BatchCli {
 
+/// How much `arguments` want to be told of a run.
+RunDisplay::Detail DetailOf(const ParsedArguments& arguments);
+
 /// What a run prints and writes about itself, as the options ask for it.
 class RunOutput
 {

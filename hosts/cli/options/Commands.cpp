@@ -102,6 +102,19 @@ QVector<OptionInfo> JobOptionInfos()
     return infos;
 }
 
+/// What may follow "watch". The inputs come from the folder alone, as they come.
+QVector<OptionInfo> OptionsOfWatching()
+{
+    const QStringList ofNamedInputs{Text("--no-inputs"), Text("--files-from"), Text("--null"), orderOption};
+    QVector<OptionInfo> infos;
+    for (const OptionInfo& info : OptionsOfJobs()) {
+        if (!ofNamedInputs.contains(info.name)) {
+            infos.append(info);
+        }
+    }
+    return infos + PolicyOptionInfos() + WatchOptionInfos() + GeneralOptions();
+}
+
 QStringList EffectIds()
 {
     QStringList ids;
@@ -143,6 +156,16 @@ QVector<CommandInfo> MakeCommands()
              "already; 7 when there is nothing to resume"),
          OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(),
          Completion::Files},
+        {Text("watch"), Text("[JOB.xml] FOLDER"),
+         BatchJob::Phrase::English(
+             "processes the pictures in a folder and its subfolders, and those that come, until it is ended. Pictures "
+             "are taken when they have arrived whole, and each once, also over restarts; numbers in names go on. "
+             "Nobody is asked: ask becomes rename for names, stop for the output, and skip otherwise. Exit status: 0 "
+             "when it was ended between pictures; 4 when it was ended while pictures were in work, which the next "
+             "start finishes; 1 when the folder is gone or the output cannot be written; 2 for wrong arguments or a "
+             "wrong job; 3 when the server could not be started or was lost; 6 when the output folder is used for "
+             "watching already"),
+         OptionsOfWatching(), Completion::Files},
         {Text("create"), Text("JOB.xml [INPUT...]"),
          BatchJob::Phrase::English(
              "writes a job with these inputs and options to a file, or to standard output for \"-\""),

@@ -31,6 +31,7 @@ constexpr std::array rows{
     Row{"run", BatchJob::Phrase::Marked("What would be written"), "photos -o web -f jpeg --dry-run"},
     Row{"run", BatchJob::Phrase::Marked("A preset over other pictures"), "photos --preset thumbnails -o small"},
     Row{"run", BatchJob::Phrase::Marked("A run that was interrupted"), "--resume -o web"},
+    Row{"watch", BatchJob::Phrase::Marked("Every picture that comes into a folder"), "incoming --preset web -o web"},
     Row{"create", BatchJob::Phrase::Marked("A job for pictures to come"),
         "web.xml -o web -s 1600 -f jpeg --effect sharpen:amount=80"},
     Row{"create", BatchJob::Phrase::Marked("A job with one value changed"), "small.xml --from web.xml -s 800"},

@@ -13,6 +13,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 
 using namespace BatchHost;
@@ -129,6 +130,34 @@ QVector<OptionInfo> RunOptionInfos()
     return infos + PlanOptionInfos();
 }
 
+QVector<OptionInfo> WatchOptionInfos()
+{
+    const QString watch = BatchJob::Phrase::English("Watching");
+    QVector<OptionInfo> infos{
+        {QStringLiteral("--settle"), QStringLiteral("SECONDS"),
+         BatchJob::Phrase::English("how long a picture has to stay the same before it is taken; default: 2. Pictures "
+                                   "that are moved into the folder are taken at once"),
+         watch},
+        {QStringLiteral("--poll"), QStringLiteral("SECONDS"),
+         BatchJob::Phrase::English("looks for pictures every so many seconds, in place of waiting for the system's "
+                                   "word; default: 5 where the system tells nothing, as for network folders"),
+         watch},
+    };
+    const QStringList ofRuns{QStringLiteral("--strict"), QStringLiteral("--json"), QStringLiteral("--settings"),
+                             followLinks, normalPriority};
+    const auto isLimit = [](const OptionInfo& info) {
+        return std::any_of(limitOptions.begin(), limitOptions.end(),
+                           [&info](const LimitOption& option) { return info.name == QLatin1String(option.name); });
+    };
+    const QVector<OptionInfo> runInfos = RunOptionInfos();
+    for (const OptionInfo& info : runInfos) {
+        if (ofRuns.contains(info.name) || isLimit(info)) {
+            infos.append(info);
+        }
+    }
+    return infos;
+}
+
 void ApplyServerLimits(const ParsedArguments& arguments)
 {
     for (const LimitOption& option : limitOptions) {
@@ -157,7 +186,7 @@ std::optional<BatchJob::Update> UpdateOf(const ParsedArguments& arguments)
 {
     for (const QString& option : {checksum, deleteOrphans}) {
         if (arguments.Has(option) && !arguments.Has(update)) {
-            throw RequestError{BatchJob::Phrase::English("%1 needs %2").arg(option, update)};
+            throw RequestError{BatchJob::Phrase::English("%1 needs --update").arg(option)};
         }
     }
     if (!arguments.Has(update)) {

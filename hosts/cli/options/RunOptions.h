@@ -17,6 +17,9 @@ QVector<OptionInfo> RunOptionInfos();
 /// Those of them that "plan" has, too.
 QVector<OptionInfo> PlanOptionInfos();
 
+/// The options of "watch" other than those of jobs and policies.
+QVector<OptionInfo> WatchOptionInfos();
+
 /// Puts the limits in `arguments` into the environment, which the server inherits. Throws RequestError.
 void ApplyServerLimits(const ParsedArguments& arguments);
 

@@ -86,6 +86,11 @@ QString PolicyName(PolicyKind kind)
 
 } // namespace
 
+void EventWriter::TellWatching(const QString& folder, const QString& outputFolder)
+{
+    Write("watching", {{Key("version"), schemaVersion}, {Key("folder"), folder}, {Key("output"), outputFolder}});
+}
+
 void EventWriter::OnStart(const RunInputs& inputs, const QString& outputFolder)
 {
     QJsonObject object{{Key("version"), schemaVersion},

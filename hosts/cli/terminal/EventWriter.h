@@ -13,6 +13,9 @@ namespace BatchCli {
 class EventWriter : public BatchHost::RunObserver
 {
 public:
+    /// Before the first run of a folder that is watched.
+    static void TellWatching(const QString& folder, const QString& outputFolder);
+
     void OnStart(const BatchHost::RunInputs& inputs, const QString& outputFolder) override;
     void OnEarlierResult(const BatchHost::FileResult& result) override;
     void OnInWork(const QStringList& names, const QString& begun) override;

@@ -57,12 +57,11 @@ QByteArray IccProfileOf(const JxlDecoder* decoder)
     return isThere ? profile : QByteArray();
 }
 
-std::optional<int> BlackChannel(const JxlDecoder* decoder, std::uint32_t channels)
+std::optional<int> ChannelOfType(JxlExtraChannelType type, const JxlDecoder* decoder, std::uint32_t channels)
 {
     for (std::uint32_t index = 0; index < channels; ++index) {
         JxlExtraChannelInfo channel;
-        if (JxlDecoderGetExtraChannelInfo(decoder, index, &channel) == JXL_DEC_SUCCESS &&
-            channel.type == JXL_CHANNEL_BLACK) {
+        if (JxlDecoderGetExtraChannelInfo(decoder, index, &channel) == JXL_DEC_SUCCESS && channel.type == type) {
             return int(index);
         }
     }
@@ -82,7 +81,8 @@ JpegXlHeader HeaderOf(const JxlDecoder* decoder)
     header.orientation = int(info.orientation);
     header.isGrey = info.num_color_channels == 1;
     header.hasAlpha = info.alpha_bits > 0;
-    header.black = BlackChannel(decoder, info.num_extra_channels);
+    header.black = ChannelOfType(JXL_CHANNEL_BLACK, decoder, info.num_extra_channels);
+    header.hasDepth = ChannelOfType(JXL_CHANNEL_DEPTH, decoder, info.num_extra_channels).has_value();
     header.isAnimation = info.have_animation == JXL_TRUE;
     // Inks are used in 8 bits everywhere.
     header.bits = info.bits_per_sample > 8 && !header.black ? 16 : 8;

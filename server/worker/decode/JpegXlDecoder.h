@@ -27,7 +27,8 @@ struct JpegXlHeader
     bool hasAlpha = false;
     std::optional<int> black; ///< the extra channel of black ink: the colours are cyan, magenta and yellow then
     bool isAnimation = false;
-    FileColours colours; ///< of the decoded values
+    bool hasDepth = false; ///< a channel that says how far away each place is
+    FileColours colours;   ///< of the decoded values
 
     int Bands() const { return (isGrey ? 1 : 3) + (black ? 1 : 0) + (hasAlpha ? 1 : 0); }
 };

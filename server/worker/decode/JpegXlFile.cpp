@@ -5,6 +5,7 @@
 
 #include "job/values/Phrase.h"
 
+#include "DecoderWarnings.h"
 #include "JpegXlDecoder.h"
 
 #include "server/worker/pixels/CarriedFailure.h"
@@ -124,6 +125,9 @@ Picture ReadJpegXl(int descriptor, int, const ServerLimits&, Warnings& warnings)
 {
     auto file = std::make_unique<JpegXlFile>(descriptor);
     const JpegXlHeader header = file->Header();
+    if (header.hasDepth) {
+        WarnOnce(warnings, WarningKind::DepthLost, Phrase::English("it has a depth map, which the result lacks"));
+    }
     VipsImage* const image = vips_image_new();
     const Picture result(image);
     vips_image_set_int(image, VIPS_META_N_PAGES, file->Frames());

@@ -60,6 +60,15 @@ bool IsToneMapItem(const QByteArray& content)
     return content.mid(versionSize + numbers, boxTypeSize) == "tmap";
 }
 
+// The name of an auxiliary picture's kind ends with a zero.
+void ReadAuxiliaryKind(const QByteArray& content, ItemBoxes& found)
+{
+    const QByteArray kind = content.mid(versionSize, content.indexOf('\0', versionSize) - versionSize);
+    found.hasGainMap = found.hasGainMap || kind.startsWith("urn:com:apple:photo:2020:aux:hdrgainmap");
+    found.hasDepth =
+        found.hasDepth || kind == "urn:mpeg:hevc:2015:auxid:2" || kind == "urn:mpeg:mpegB:cicp:systems:auxiliary:depth";
+}
+
 void ReadBox(const QByteArray& type, const QByteArray& content, int depth, ItemBoxes& found);
 
 void ReadBoxesIn(const QByteArray& content, int depth, ItemBoxes& found)
@@ -88,8 +97,7 @@ void ReadBox(const QByteArray& type, const QByteArray& content, int depth, ItemB
     } else if (type == "infe") {
         found.hasGainMap = found.hasGainMap || IsToneMapItem(content);
     } else if (type == "auxC") {
-        found.hasGainMap =
-            found.hasGainMap || content.mid(versionSize).startsWith("urn:com:apple:photo:2020:aux:hdrgainmap");
+        ReadAuxiliaryKind(content, found);
     } else if (type == "mvhd") {
         ReadFilmHeader(content, found);
     } else if (type == "crtt") {
@@ -111,7 +119,18 @@ ItemBoxes ReadItemBoxes(const QString& path)
         const qint64 end = file.pos() + box->size;
         const bool isRead = (box->type == "meta" || box->type == "moov") && box->size <= largestContent;
         if (isRead) {
-            ReadBox(box->type, file.read(box->size), 0, found);
+            const QByteArray content = file.read(box->size);
+            ReadBox(box->type, content, 0, found);
+            if (box->type == "moov") {
+                found.tracks = Both(found.tracks, TracksOf(content));
+            }
+        } else if (box->type == "mpvd" && box->size <= largestContent) {
+            QBuffer film;
+            film.setData(file.read(box->size));
+            film.open(QIODevice::ReadOnly);
+            FilmTracks beside = TracksOfFilm(film);
+            beside.pictures = 0;
+            found.tracks = Both(found.tracks, beside);
         }
         if (!file.seek(end)) {
             break;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "FilmTracks.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -13,6 +15,8 @@ struct ItemBoxes
 {
     QDateTime created; ///< of the main picture or of the film in the file, in local time; invalid if unknown
     bool hasGainMap = false;
+    bool hasDepth = false;
+    FilmTracks tracks; ///< of the file itself, and of a film beside the picture
 };
 
 ItemBoxes ReadItemBoxes(const QString& path);

@@ -23,7 +23,7 @@
 #include "server/worker/framing/Framing.h"
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/geometry/Resampling.h"
-#include "server/worker/metadata/GainMap.h"
+#include "server/worker/metadata/Companions.h"
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
 #include "server/worker/pixels/PictureFailure.h"
@@ -71,11 +71,12 @@ public:
         , colours(job, format, keep)
         , source(task.inputFile, limits, kept)
     {
-        WarnOfOtherPages();
+        const Companions companions = CompanionsOf(task.inputFile);
+        WarnOfOtherPages(std::max(source.Pages(), companions.pictures));
         metadata = Metadata::Of(task.inputFile, source, made.warnings);
         OrientBy(metadata, source);
         made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
-        WarnOfGainMap();
+        WarnOf(companions);
         metadata.KeepOnly(keep, made.warnings);
     }
 
@@ -83,8 +84,8 @@ public:
 
 private:
     void MakeFile();
-    void WarnOfOtherPages();
-    void WarnOfGainMap();
+    void WarnOfOtherPages(int pages);
+    void WarnOf(const Companions& companions);
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
     Picture Decoded(int shrink);
@@ -145,9 +146,8 @@ void PictureRun::MakeFile()
     }
 }
 
-void PictureRun::WarnOfOtherPages()
+void PictureRun::WarnOfOtherPages(int pages)
 {
-    const int pages = source.Pages();
     if (pages > 1) {
         const bool hasMain = source.Format().pages == FormatPages::Items;
         made.warnings.append(
@@ -157,12 +157,21 @@ void PictureRun::WarnOfOtherPages()
     }
 }
 
-void PictureRun::WarnOfGainMap()
+void PictureRun::WarnOf(const Companions& companions)
 {
-    if (HasGainMap(task.inputFile)) {
+    if (companions.hasGainMap) {
         made.warnings.append({WarningKind::GainMapLost,
                               Phrase::English("it has a gain map, which the result lacks: highlights are no longer "
                                               "brighter on HDR screens")});
+    }
+    if (companions.hasDepth) {
+        made.warnings.append({WarningKind::DepthLost, Phrase::English("it has a depth map, which the result lacks")});
+    }
+    if (companions.hasFilm) {
+        made.warnings.append({WarningKind::FilmLost, Phrase::English("it has a film, which the result lacks")});
+    }
+    if (companions.hasAudio) {
+        made.warnings.append({WarningKind::AudioLost, Phrase::English("it has audio, which the result lacks")});
     }
 }
 

@@ -284,7 +284,7 @@ void tst_CliOptions::wrongArgumentsAreExplained_data()
         QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
                                  << QString::fromLatin1(wanted);
     };
-    row("", "no command: use one of run, create, show");
+    row("", "no command: use one of run, watch, create, show");
     row("shwo", "did you mean \"show\"?");
     row("--versoin", "did you mean \"--version\"?");
     row("--output x show", "is not allowed before the command");

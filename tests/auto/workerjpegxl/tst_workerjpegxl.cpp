@@ -275,6 +275,10 @@ void tst_WorkerJpegXl::leavesOutOtherChannels()
     const Picture result = Result(file.Bytes());
     QCOMPARE(report.reason, QString());
     QVERIFY(LargestDifference(result, PictureOf(file.size, 3, 8, Slope)) <= 1);
+    QCOMPARE(report.warnings, Warnings({{WarningKind::DepthLost, Text("it has a depth map, which the result lacks")}}));
+    file.extras = {JXL_CHANNEL_THERMAL};
+    Result(file.Bytes());
+    QCOMPARE(report.warnings, Warnings());
 }
 
 void tst_WorkerJpegXl::turnsPicturesUpright_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "FileParts.h"
 #include "PlantedMetadata.h"
 #include "Text.h"
 #include "WorkerBench.h"
@@ -9,49 +10,10 @@
 
 #include <QFile>
 #include <QTest>
-#include <QtEndian>
 
 using namespace BatchJob;
 using namespace BatchProtocol;
-
-namespace {
-
-QByteArray BigEndian(quint32 number, int size = 4)
-{
-    QByteArray bytes(4, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes.right(size);
-}
-
-QByteArray Segment(const char* marker, const QByteArray& content)
-{
-    return QByteArray::fromHex(marker) + BigEndian(quint32(content.size() + 2), 2) + content;
-}
-
-QByteArray XmpSegment(const QByteArray& attributes)
-{
-    return Segment("ffe1", QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) +
-                               PlantedMetadata::XmpPacket("<rdf:Description rdf:about='' " + attributes + "/>"));
-}
-
-QByteArray AsFirstSegment(QByteArray jpeg, const QByteArray& segment)
-{
-    return jpeg.insert(2, segment);
-}
-
-// The index of a file of two pictures, of which the second begins at `place` of the file.
-QByteArray MultiPictureIndex(quint32 place)
-{
-    // Behind the start of the file, the marker, the length and the name.
-    constexpr quint32 start = 2 + 2 + 2 + 4;
-    const QByteArray pictures =
-        QByteArray(16, '\0') + QByteArray(4, '\0') + BigEndian(100) + BigEndian(place - start) + QByteArray(4, '\0');
-    const QByteArray directory = BigEndian(1, 2) + BigEndian(0xb002, 2) + BigEndian(7, 2) +
-                                 BigEndian(quint32(pictures.size())) + BigEndian(8 + 2 + 12 + 4) + BigEndian(0);
-    return Segment("ffe2", QByteArray("MPF\0MM\0*", 8) + BigEndian(8) + directory + pictures);
-}
-
-} // namespace
+using namespace FileParts;
 
 /// Pictures whose gain map the result loses.
 class tst_GainMaps : public QObject

@@ -3,11 +3,18 @@
 
 """Adds to small HEIF and AVIF files what their encoder does not write; see tests/data/README.md.
 
-    items.py SOURCE RESULT created | apple-gain-map | tone-map
+    items.py SOURCE RESULT created | apple-gain-map | depth | depth-of-mpeg | transparency | tone-map
 """
 import datetime
 import struct
 import sys
+
+AUXILIARY_KINDS = {
+    "apple-gain-map": b"urn:com:apple:photo:2020:aux:hdrgainmap",
+    "depth": b"urn:mpeg:hevc:2015:auxid:2",
+    "depth-of-mpeg": b"urn:mpeg:mpegB:cicp:systems:auxiliary:depth",
+    "transparency": b"urn:mpeg:hevc:2015:auxid:1",
+}
 
 
 def boxes(data, start, end):
@@ -71,9 +78,8 @@ def main(source, result, what):
         since = datetime.datetime(2017, 8, 9, 10, 11, 12) - datetime.datetime(1904, 1, 1)
         time = struct.pack(">Q", int(since.total_seconds()) * 1_000_000)
         data = insert(data, properties, box(b"crtt", bytes(4) + time))
-    elif what == "apple-gain-map":
-        kind = b"urn:com:apple:photo:2020:aux:hdrgainmap\0"
-        data = insert(data, properties, box(b"auxC", bytes(4) + kind))
+    elif what in AUXILIARY_KINDS:
+        data = insert(data, properties, box(b"auxC", bytes(4) + AUXILIARY_KINDS[what] + b"\0"))
     elif what == "tone-map":  # an item whose data are those of the picture
         number = struct.pack(">H", 4000)
         data = count_up(data, find(data, [b"meta", b"iinf"])[0][-1] + 12)

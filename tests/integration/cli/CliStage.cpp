@@ -83,7 +83,7 @@ QStringList CliStage::Names(const QString& folder) const
 QStringList CliStage::Arguments(const QString& arguments) const
 {
     QStringList all = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (all.value(0) == QLatin1String("run")) {
+    if (all.value(0) == QLatin1String("run") || all.value(0) == QLatin1String("watch")) {
         all << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
     }
     return all;

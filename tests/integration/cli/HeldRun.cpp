@@ -43,6 +43,11 @@ qint64 HeldRun::Server() const
     return ChildrenOf(process.processId()).value(0);
 }
 
+bool HeldRun::Signal(int number) const
+{
+    return ::kill(pid_t(process.processId()), number) == 0;
+}
+
 bool HeldRun::Kill()
 {
     const qint64 server = Server();

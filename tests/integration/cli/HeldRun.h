@@ -20,6 +20,11 @@ public:
     /// The process id of the server; 0 when there is no server.
     qint64 Server() const;
 
+    qint64 Id() const { return process.processId(); }
+
+    /// Sends the signal `number` to the command.
+    bool Signal(int number) const;
+
     /// Kills the command, and returns when its server has followed it.
     bool Kill();
 

@@ -118,7 +118,7 @@ void tst_CliHelp::everyWordIsListed()
 
 void tst_CliHelp::everyCommandHasExamples()
 {
-    for (const char* command : {"run", "create", "show", "plan", "effects", "formats"}) {
+    for (const char* command : {"run", "watch", "create", "show", "plan", "effects", "formats"}) {
         const QString help = HelpOf(QLatin1String(command));
         QVERIFY2(help.contains(QStringLiteral("\nExamples:\n")), command);
         QVERIFY2(help.section(QStringLiteral("\nExamples:\n"), 1)

@@ -16,6 +16,8 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
+#include <csignal>
+
 /// All that runs write in JSON is as the schema says, by the judgement of a validator that others maintain.
 class tst_CliSchema : public QObject
 {
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void lostServersFit();
     void questionsAndCancelledRunsFit();
     void resumedRunsFit();
+    void watchedFoldersFit();
     void everyKindWasSeen();
     void wrongEventsAreRejected_data();
     void wrongEventsAreRejected();
@@ -216,6 +219,15 @@ void tst_CliSchema::resumedRunsFit()
     QVERIFY2(run.out.contains("\"earlier\":true"), run.out.constData());
     Check(run.out);
     CheckReport(QStringLiteral("r.json"));
+}
+
+void tst_CliSchema::watchedFoldersFit()
+{
+    HeldRun run(*stage, QStringLiteral("watch photos -o watched --format png --settle 0"));
+    QVERIFY(run.WaitFor("\"event\":\"end\""));
+    QVERIFY(run.Signal(SIGTERM));
+    QCOMPARE(run.End(), 0);
+    Check(run.Out());
 }
 
 void tst_CliSchema::everyKindWasSeen()

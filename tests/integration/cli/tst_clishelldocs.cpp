@@ -163,7 +163,7 @@ void tst_CliShellDocs::bashCompletes_data()
         QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '))
                              << QString::fromLatin1(offered).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
-    row("", "run|create|show|plan|presets|effects|formats|help|--help|--version");
+    row("", "run|watch|create|show|plan|presets|effects|formats|help|--help|--version");
     row("s", "show");
     row("--v", "--version");
     row("run --on-in", "--on-input-error");

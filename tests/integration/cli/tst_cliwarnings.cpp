@@ -162,7 +162,7 @@ void tst_CliWarnings::strictRunsFail_data()
 {
     QTest::addColumn<QString>("kind");
     for (const char* kind : {"other-pages", "incomplete", "profile-unused", "colours-converted", "metadata-lost",
-                             "gain-map-lost", "framing", "decoder"}) {
+                             "gain-map-lost", "depth-lost", "film-lost", "audio-lost", "framing", "decoder"}) {
         QTest::newRow(kind) << QString::fromLatin1(kind);
     }
 }
