@@ -37,9 +37,9 @@ public:
     static JournaledJob Interrupted(ZTBatchDocument& job, const InterruptedRuns& runs,
                                     const InterruptedRuns::Wanted& wanted);
 
-    /// The same where `bundle` is given; `job` is the first of its jobs.
-    static JournaledJob Interrupted(ZTBatchDocument& job, const BatchJob::JobBundle& bundle,
-                                    const InterruptedRuns& runs, const InterruptedRuns::Wanted& wanted);
+    /// The same of several jobs, `given`; `job` is the first of them.
+    static JournaledJob Interrupted(ZTBatchDocument& job, const BatchJob::JobBundle& given, const InterruptedRuns& runs,
+                                    const InterruptedRuns::Wanted& wanted);
 
     /// The text of the job, or of the bundle.
     const QString& Document() const { return document; }
