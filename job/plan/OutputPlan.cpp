@@ -95,10 +95,10 @@ bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
 
 QVector<int> OutputPlan::FilesToProbe() const
 {
-    const bool needsTimes = naming.NeedsCaptureTime() || structure == Settings::StructureByCaptureDate;
+    const bool needsPictures = naming.NeedsPicture() || structure == Settings::StructureByCaptureDate;
     QVector<int> files;
     for (int i = 0; i < entries.size(); ++i) {
-        if (!entries[i].isKept && (needsTimes || (keepsFormats && entries[i].inputFormat.isEmpty()))) {
+        if (!entries[i].isKept && (needsPictures || (keepsFormats && entries[i].inputFormat.isEmpty()))) {
             files.append(i);
         }
     }
@@ -112,6 +112,13 @@ void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& i
     if (keepsFormats && !inputFormat.isEmpty()) {
         entry.inputFormat = inputFormat;
         entry.format = FindFormat(inputFormat);
+    }
+}
+
+void OutputPlan::SetPicture(int index, const QSize& size, const PictureTexts& texts)
+{
+    if (naming.NeedsPicture()) {
+        pictures.insert(index, {{}, size, texts});
     }
 }
 
@@ -135,7 +142,9 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
             continue;
         }
         entry.folder = FolderOf(SubFolder(i));
-        entry.stem = naming.Stem(entry.input, i, entry.captured);
+        OutputNaming::Picture picture = pictures.value(i);
+        picture.captured = entry.captured;
+        entry.stem = naming.Stem(entry.input, i, picture);
         if (entry.format) {
             SetName(i, {});
             FindClash(i);

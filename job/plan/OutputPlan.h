@@ -59,12 +59,16 @@ public:
     /// format. False when it was cancelled.
     bool ReadInputs(const Cancelled& isCancelled = {});
 
-    /// The files that a worker has to examine before MakeNames(): all files, if names or folders contain capture times;
+    /// The files that a worker has to examine before MakeNames(): all files, if names or folders are made of what
+    /// pictures say;
     /// the files of unknown format, if results keep their inputs' formats. None that KeepResult() has settled.
     QVector<int> FilesToProbe() const;
 
     /// Enters what a probe has found. An invalid time and an empty format change nothing.
     void SetProbe(int index, const QDateTime& captured, const QString& inputFormat);
+
+    /// Enters what a probe has found beyond that. It is kept as far as names need it.
+    void SetPicture(int index, const QSize& size, const PictureTexts& texts);
 
     /// An earlier part of this run has written the result of the file to `path`: it keeps this name, does not clash
     /// with itself and needs no probe. To be called before MakeNames().
@@ -80,6 +84,9 @@ public:
     bool MakeNames(const Cancelled& isCancelled = {});
 
     QString Input(int index) const { return entries[index].input; }
+
+    /// The number of the file in texts of its result; see OutputNaming::NumberOf().
+    qint64 NumberOf(int index) const { return naming.NumberOf(index); }
 
     /// The format of the input as FormatOfFile() names it. Empty when it is unknown or not needed.
     QString InputFormat(int index) const { return entries[index].inputFormat; }
@@ -166,6 +173,7 @@ private:
     bool keepsFormats = false;
     QVector<QString> jobFolders; ///< JobFile::folder of each file, for StructureAsInput
     QVector<Entry> entries;
+    QHash<int, OutputNaming::Picture> pictures; ///< if names need them; without the time, which entries have
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;

@@ -19,6 +19,7 @@ RunPlan::RunPlan(const OutputPlan& plan)
 void RunPlan::SetProbe(int file, const ProbeResult& result)
 {
     plan.SetProbe(file, result.captured, result.inputFormat);
+    plan.SetPicture(file, result.size, result.texts);
     if (!plan.Format(file) && !result.nearestFormat.isEmpty()) {
         nearestFormats.insert(file, result.nearestFormat);
     }

@@ -3,6 +3,8 @@
 
 #include "OutputNaming.h"
 
+#include "job/values/JobValues.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -86,13 +88,6 @@ QString Folded(const QString& text)
     return folded;
 }
 
-QString BaseName(const QString& inputPath)
-{
-    const QString name = inputPath.mid(inputPath.lastIndexOf(QLatin1Char('/')) + 1);
-    const int dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot == -1 ? name : name.left(dot);
-}
-
 } // namespace
 
 OutputNaming::OutputNaming(const Settings& settings)
@@ -100,27 +95,58 @@ OutputNaming::OutputNaming(const Settings& settings)
     , suffixSeparator(settings.GetSuffixSeparator())
 {
     const auto read = [&settings](Settings::NamingPart part) {
-        return Part{settings.GetNamingTemplate(part), settings.GetCustomTemplate(part), settings.GetStartNumber(part),
-                    settings.GetDigitsCount(part)};
+        const QString text = settings.GetCustomTemplate(part);
+        const Settings::NamingTemplate kind = settings.GetNamingTemplate(part);
+        return Part{kind, text, settings.GetStartNumber(part), settings.GetDigitsCount(part),
+                    kind == TemplateTokens ? TokenText(text) : TokenText()};
     };
     prefix = read(Settings::PartPrefix);
     middle = read(Settings::PartMiddle);
     suffix = read(Settings::PartSuffix);
 }
 
+bool OutputNaming::Part::HasNumber() const
+{
+    return kind == Settings::TemplateNumber || tokens.Uses(Token::Number);
+}
+
+bool OutputNaming::Part::NeedsCaptureTime() const
+{
+    return kind == Settings::TemplateCaptureDate || kind == Settings::TemplateCaptureTime || tokens.Uses(Token::Date) ||
+           tokens.Uses(Token::Time);
+}
+
 bool OutputNaming::NeedsCaptureTime() const
 {
+    return prefix.NeedsCaptureTime() || middle.NeedsCaptureTime() || suffix.NeedsCaptureTime();
+}
+
+bool OutputNaming::NeedsPictureTexts() const
+{
     const auto needs = [](const Part& part) {
-        return part.kind == Settings::TemplateCaptureDate || part.kind == Settings::TemplateCaptureTime;
+        return std::any_of(tokenTable.begin(), tokenTable.end(), [&part](const TokenRecord& record) {
+            const bool isTime = record.token == Token::Date || record.token == Token::Time;
+            return record.isOfPicture && !isTime && part.tokens.Uses(record.token);
+        });
     };
     return needs(prefix) || needs(middle) || needs(suffix);
 }
 
-QString OutputNaming::Stem(const QString& inputPath, int position, const QDateTime& captured) const
+qint64 OutputNaming::NumberOf(int position) const
 {
-    const QString first = TextOf(prefix, inputPath, position, captured);
-    const QString second = TextOf(middle, inputPath, position, captured);
-    const QString third = TextOf(suffix, inputPath, position, captured);
+    for (const Part* part : {&prefix, &middle, &suffix}) {
+        if (part->HasNumber()) {
+            return qint64(part->start) + position;
+        }
+    }
+    return qint64(position) + 1;
+}
+
+QString OutputNaming::Stem(const QString& inputPath, int position, const Picture& picture) const
+{
+    const QString first = TextOf(prefix, inputPath, position, picture);
+    const QString second = TextOf(middle, inputPath, position, picture);
+    const QString third = TextOf(suffix, inputPath, position, picture);
     QString name = first;
     if (!first.isEmpty() && !second.isEmpty()) {
         name += prefixSeparator;
@@ -130,14 +156,22 @@ QString OutputNaming::Stem(const QString& inputPath, int position, const QDateTi
         name += suffixSeparator;
     }
     name += third;
-    return CleanName(name.isEmpty() ? BaseName(inputPath) : name);
+    return CleanName(name.isEmpty() ? BaseNameOf(inputPath) : name);
 }
 
-QString OutputNaming::TextOf(const Part& part, const QString& inputPath, int position, const QDateTime& captured)
+QString OutputNaming::TextOf(const Part& part, const QString& inputPath, int position, const Picture& picture)
 {
+    if (part.kind == TemplateTokens) {
+        TokenValues values = ValuesOfFile(inputPath, qint64(part.start) + position);
+        values.captured = picture.captured;
+        values.size = picture.size;
+        values.texts = picture.texts;
+        return part.tokens.Filled(values).trimmed();
+    }
+    const QDateTime& captured = picture.captured;
     switch (part.kind) {
     case Settings::TemplateOriginalName:
-        return BaseName(inputPath);
+        return BaseNameOf(inputPath);
     case Settings::TemplateNumber:
         return QString::number(qint64(part.start) + position).rightJustified(part.digits, QLatin1Char('0'));
     case Settings::TemplateCaptureDate:

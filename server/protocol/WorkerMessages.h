@@ -5,6 +5,7 @@
 
 #include "ServerLimits.h"
 
+#include "job/tokens/TokenValues.h"
 #include "job/values/PictureFacts.h"
 #include "job/values/PolicyValues.h"
 #include "job/values/Warning.h"
@@ -73,6 +74,7 @@ struct PictureTask
     QString outputRoot;           ///< no link below this folder is followed; empty: all are, see ResultFolder
     QString format;               ///< one of Formats(), never "Original"
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
+    qint64 fileNumber = 1;        ///< of the file in texts of the result, see OutputNaming::NumberOf()
 };
 
 /// The worker begins a task.
@@ -95,6 +97,7 @@ struct Report
     QDateTime captured;                                        ///< of a probe: what the file says, else the file's time
     BatchJob::PictureFacts facts;                              ///< of a picture that was written, but for the bytes;
                                                                ///< of a probe: the size of the input
+    BatchJob::PictureTexts texts;                              ///< of a probe: for names
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;

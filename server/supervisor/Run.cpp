@@ -280,8 +280,13 @@ bool Run::GivePicture(int file)
     const QString output = names.Output(file);
     const std::optional<FileIdentity> before = IdentityOf(output);
     record.Journal().Begin(file, {output, before ? before->Text() : QString()});
-    const PictureTask task{file,       names.Input(file),        output,
-                           outputRoot, names.Format(file)->name, plan.IsOverwriting(file)};
+    const PictureTask task{file,
+                           names.Input(file),
+                           output,
+                           outputRoot,
+                           names.Format(file)->name,
+                           plan.IsOverwriting(file),
+                           names.NumberOf(file)};
     Give({number, file, job, task, before, false});
     return true;
 }

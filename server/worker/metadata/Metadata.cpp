@@ -11,6 +11,7 @@
 #include "Places.h"
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
+#include "TextsOfPicture.h"
 
 #include "server/worker/decode/PictureSource.h"
 
@@ -125,6 +126,11 @@ std::optional<int> Metadata::Orientation() const
 QDateTime Metadata::Captured() const
 {
     return CaptureTime(*d);
+}
+
+BatchJob::PictureTexts Metadata::Texts() const
+{
+    return TextsOf(*d);
 }
 
 void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)

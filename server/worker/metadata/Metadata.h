@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "job/tokens/TokenValues.h"
 #include "job/values/Warning.h"
 
 #include <QByteArray>
@@ -40,6 +41,9 @@ public:
 
     /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.
     QDateTime Captured() const;
+
+    /// What the metadata say for tokens.
+    BatchJob::PictureTexts Texts() const;
 
     /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp", and "copyright", which is a part of the others,
     /// see Copyright.h. Without "gps" all places are removed from the others, too, see Places.h. Warns of a copyright

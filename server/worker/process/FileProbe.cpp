@@ -28,6 +28,7 @@ Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
     if (!report.captured.isValid()) {
         report.captured = QFileInfo(task.inputFile).lastModified();
     }
+    report.texts = metadata.Texts();
     return report;
 }
 
