@@ -3,9 +3,8 @@
 
 #include "OutputNaming.h"
 
+#include "job/values/CutText.h"
 #include "job/values/JobValues.h"
-
-#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
@@ -53,25 +52,6 @@ bool IsDevice(const QString& name)
     static const std::array devices{QLatin1String("CON"), QLatin1String("PRN"),    QLatin1String("AUX"),
                                     QLatin1String("NUL"), QLatin1String("CONIN$"), QLatin1String("CONOUT$")};
     return std::find(devices.begin(), devices.end(), upper) != devices.end();
-}
-
-/// The longest beginning of `text` that has at most `bytes` bytes of UTF-8 and does not split a user-visible character.
-QString CutToBytes(const QString& text, int bytes)
-{
-    if (text.size() <= bytes && text.toUtf8().size() <= bytes) {
-        return text;
-    }
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    int end = 0;
-    int size = 0;
-    for (int next = finder.toNextBoundary(); next != -1; next = finder.toNextBoundary()) {
-        size += text.mid(end, next - end).toUtf8().size();
-        if (size > bytes) {
-            break;
-        }
-        end = next;
-    }
-    return text.left(end);
 }
 
 /// Full case folding. QString folds one character to one; those that fold to several, such as the sharp s, are those

@@ -22,8 +22,8 @@ QStringList Runs(const QString& pattern)
 {
     QStringList runs;
     for (const QChar character : pattern) {
-        const bool continues = !runs.isEmpty() && (IsLetter(character) ? runs.last().back() == character
-                                                                       : !IsLetter(runs.last().back()));
+        const bool continues =
+            !runs.isEmpty() && (IsLetter(character) ? runs.last().back() == character : !IsLetter(runs.last().back()));
         if (continues) {
             runs.last().append(character);
         } else {
@@ -53,9 +53,9 @@ bool IsPattern(TokenArgument kind, const QString& pattern)
 bool IsDigits(const QString& text)
 {
     constexpr int longest = 2;
-    const bool isNumber = !text.isEmpty() && text.size() <= longest && std::all_of(text.begin(), text.end(), [](QChar c) {
-        return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-    });
+    const bool isNumber =
+        !text.isEmpty() && text.size() <= longest &&
+        std::all_of(text.begin(), text.end(), [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
     return isNumber && text.toInt() >= 1 && text.toInt() <= mostTokenDigits;
 }
 
@@ -71,7 +71,8 @@ QString FieldText(TokenArgument kind, const QString& field, const QDateTime& tim
     const bool isDate = kind == TokenArgument::DatePattern;
     switch (field.front().toLatin1()) {
     case 'Y':
-        return field.size() == longYear ? Padded(time.date().year(), longYear) : Padded(time.date().year() % century, 2);
+        return field.size() == longYear ? Padded(time.date().year(), longYear)
+                                        : Padded(time.date().year() % century, 2);
     case 'M':
         return Padded(isDate ? time.date().month() : time.time().minute(), 2);
     case 'D':
@@ -113,8 +114,7 @@ QString TimeInPattern(TokenArgument kind, const QString& pattern, const QDateTim
     if (!time.isValid()) {
         return {};
     }
-    const QString standard =
-        kind == TokenArgument::DatePattern ? QStringLiteral("YYYYMMDD") : QStringLiteral("HHMMSS");
+    const QString standard = kind == TokenArgument::DatePattern ? QStringLiteral("YYYYMMDD") : QStringLiteral("HHMMSS");
     const QStringList runs = Runs(pattern.isEmpty() ? standard : pattern);
     QString text;
     for (const QString& run : runs) {

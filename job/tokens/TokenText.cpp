@@ -61,7 +61,8 @@ public:
             } else if (character == opening) {
                 ReadToken();
             } else {
-                target.error = Phrase::English("\"}\" at character %1 closes no token; write }} for a brace").arg(Place());
+                target.error =
+                    Phrase::English("\"}\" at character %1 closes no token; write }} for a brace").arg(Place());
             }
         }
         EndLiteral();
@@ -94,7 +95,8 @@ private:
         const QString argument = inside.mid(word.size() + 1);
         const QString problem = hasArgument ? ArgumentProblem(token->argument, argument) : QString();
         if (!problem.isEmpty()) {
-            target.error = Phrase::English("\"%1\" at character %2 cannot be used: %3").arg(whole, QString::number(Place()), problem);
+            target.error = Phrase::English("\"%1\" at character %2 cannot be used: %3")
+                               .arg(whole, QString::number(Place()), problem);
             return;
         }
         EndLiteral();

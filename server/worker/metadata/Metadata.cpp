@@ -8,6 +8,7 @@
 #include "CaptureTime.h"
 #include "Copyright.h"
 #include "MetadataEncoder.h"
+#include "MetadataTexts.h"
 #include "Places.h"
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
@@ -16,6 +17,7 @@
 #include "server/worker/decode/PictureSource.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <exception>
 #include <exiv2/exiv2.hpp>
@@ -163,6 +165,11 @@ void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)
     });
 }
 
+void Metadata::Set(const MetadataTexts& texts)
+{
+    d->OrNothing([&] { SetTexts(*d, texts); });
+}
+
 bool Metadata::GoWithoutExif() const
 {
     return !d->keepsExif && d->exif.empty();
@@ -243,6 +250,12 @@ void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray
 bool Metadata::IsEmpty() const
 {
     return d->exif.empty() && d->iptc.empty() && d->xmp.empty();
+}
+
+QDateTime CapturedOrChanged(const Metadata& metadata, const QString& file)
+{
+    const QDateTime captured = metadata.Captured();
+    return captured.isValid() ? captured : QFileInfo(file).lastModified();
 }
 
 void OrientBy(const Metadata& metadata, PictureSource& source)

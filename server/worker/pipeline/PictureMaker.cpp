@@ -26,6 +26,7 @@
 #include "server/worker/metadata/GainMap.h"
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
+#include "server/worker/metadata/MetadataTexts.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/RandomAccess.h"
@@ -75,7 +76,9 @@ public:
         OrientBy(metadata, source);
         made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
         WarnOfGainMap();
+        effects = WithTokens(job.effects, Tokens());
         metadata.KeepOnly(keep, made.warnings);
+        SetMetadata();
     }
 
     MadePicture Make();
@@ -84,6 +87,8 @@ private:
     void MakeFile();
     void WarnOfOtherPages();
     void WarnOfGainMap();
+    TokenValues Tokens() const;
+    void SetMetadata();
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
     Picture Decoded(int shrink);
@@ -93,7 +98,7 @@ private:
     void WriteWithin(const ByteLimit& limit, const Picture& picture);
     void WriteSmaller(const ByteLimit& limit, const Picture& picture, qint64 bytes);
     void KeepFileTime() const;
-    bool IsProcessed() const { return !job.effects.isEmpty() || job.framing.state; }
+    bool IsProcessed() const { return ChangePixels(effects) || job.framing.state; }
 
     const JobSettings& job;
     const ServerLimits& limits;
@@ -105,7 +110,8 @@ private:
     ResultColours colours;
     PictureSource source;
     Metadata metadata;
-    QByteArray profile; ///< of the result
+    QVector<JobEffect> effects; ///< with the texts of this picture
+    QByteArray profile;         ///< of the result
     MadePicture made;
 };
 
@@ -129,7 +135,7 @@ MadePicture PictureRun::Make()
 void PictureRun::MakeFile()
 {
     try {
-        const Picture framed = Framed(WithEffects(Sized(), job.effects));
+        const Picture framed = Framed(WithEffects(Sized(), effects));
         const int bits = ResultDepth(format, options, HasSixteenBits(framed));
         const Picture ready = colours.Of(framed, bits, made.warnings);
         RequireFormatHolds(format, options, ready, source.Format().name);
@@ -162,6 +168,25 @@ void PictureRun::WarnOfGainMap()
         made.warnings.append({WarningKind::GainMapLost,
                               Phrase::English("it has a gain map, which the result lacks: highlights are no longer "
                                               "brighter on HDR screens")});
+    }
+}
+
+/// Of the original, before anything is removed from its metadata.
+TokenValues PictureRun::Tokens() const
+{
+    TokenValues values = ValuesOfFile(task.inputFile, task.fileNumber);
+    values.captured = CapturedOrChanged(metadata, task.inputFile);
+    values.size = made.facts.inputSize;
+    values.texts = metadata.Texts();
+    return values;
+}
+
+void PictureRun::SetMetadata()
+{
+    for (const JobEffect& effect : qAsConst(effects)) {
+        if (effect.schema->kind == EffectKind::SetMetadata) {
+            metadata.Set(MetadataTexts::Of(effect.parameters));
+        }
     }
 }
 

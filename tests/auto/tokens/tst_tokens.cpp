@@ -36,7 +36,7 @@ TokenValues Values()
     TokenValues values = ValuesOfFile(QStringLiteral("/photos/2024 Alps/IMG.0412.jpg"), 7);
     values.captured = QDateTime(QDate(2024, 2, 9), QTime(4, 5, 6));
     values.size = QSize(6000, 4000);
-    values.texts = {QStringLiteral("EOS 5D"), QStringLiteral("50mm"), QStringLiteral("50"),    QStringLiteral("2.8"),
+    values.texts = {QStringLiteral("EOS 5D"), QStringLiteral("50mm"), QStringLiteral("50"),      QStringLiteral("2.8"),
                     QStringLiteral("1/250"),  QStringLiteral("400"),  QStringLiteral("Sunrise"), QStringLiteral("Ana")};
     return values;
 }

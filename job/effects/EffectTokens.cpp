@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "EffectTokens.h"
+
+#include "job/tokens/TokenText.h"
+
+namespace BatchJob {
+
+namespace {
+
+QStringList NamesOf(const EffectSchema& effect, const QJsonObject& parameters)
+{
+    return effect.tokenParameters ? effect.tokenParameters(parameters) : QStringList();
+}
+
+} // namespace
+
+QString TokenProblem(const EffectSchema& effect, const QJsonObject& parameters)
+{
+    for (const QString& name : NamesOf(effect, parameters)) {
+        const TokenText text(parameters[name].toString());
+        if (!text.IsValid()) {
+            return Phrase::English("%1: %2").arg(name, text.Error());
+        }
+    }
+    return {};
+}
+
+QJsonObject WithTokens(const EffectSchema& effect, const QJsonObject& parameters, const TokenValues& values)
+{
+    QJsonObject filled = parameters;
+    for (const QString& name : NamesOf(effect, parameters)) {
+        filled[name] = TokenText(parameters[name].toString()).Filled(values);
+    }
+    return filled;
+}
+
+} // namespace BatchJob
