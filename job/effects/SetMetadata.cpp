@@ -38,7 +38,8 @@ EffectSchema SetMetadataEffect()
     effect.description = Phrase::English("Writes creator, rights, title and keywords into the metadata");
     effect.parameters = MetadataParameters();
     effect.definition = QStringLiteral(
-        "The texts are written into EXIF, IPTC and XMP alike, whatever `keep` says, and take the places of what is kept; "
+        "The texts are written into EXIF, IPTC and XMP alike, whatever `keep` says, and take the places of what is "
+        "kept; "
         "an empty text leaves its entries as they are kept. [Metadata](metadata.md#what-set-metadata-writes) lists the "
         "entries. All texts have [tokens](tokens.md), so a brace is written `{{` or `}}`. Pixels do not change.");
     effect.example = QByteArrayLiteral(R"({"creator": "Ana Diaz", "title": "{folder} {number:3}"})");

@@ -82,7 +82,8 @@ struct IptcEntry
 void SetIptc(Exiv2::IptcData& iptc, const IptcEntry& entry, const QStringList& texts)
 {
     const Exiv2::IptcKey key(entry.key);
-    RemoveIf(iptc, [&key](const Exiv2::Iptcdatum& old) { return old.record() == key.record() && old.tag() == key.tag(); });
+    RemoveIf(iptc,
+             [&key](const Exiv2::Iptcdatum& old) { return old.record() == key.record() && old.tag() == key.tag(); });
     for (const QString& text : texts) {
         Exiv2::StringValue value;
         value.read(Utf8(BatchJob::CutToBytes(text, entry.longest)));

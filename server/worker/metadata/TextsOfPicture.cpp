@@ -69,7 +69,8 @@ QString XmpText(const Exiv2::XmpData& xmp, const char* key)
     if (found == xmp.end()) {
         return {};
     }
-    if (found->typeId() == Exiv2::langAlt || found->count() <= 1) {
+    // The count of a plain text is that of its characters.
+    if (!dynamic_cast<const Exiv2::XmpArrayValue*>(&found->value())) {
         return LineOf(TextIn(*found));
     }
     QStringList texts;
@@ -78,6 +79,15 @@ QString XmpText(const Exiv2::XmpData& xmp, const char* key)
     }
     texts.removeAll(QString());
     return texts.join(QStringLiteral(", "));
+}
+
+/// Of other types the library gives something else, such as the first character of a text.
+bool IsNumber(Exiv2::TypeId type)
+{
+    static const std::initializer_list<Exiv2::TypeId> numbers{
+        Exiv2::unsignedShort, Exiv2::unsignedLong,   Exiv2::unsignedRational, Exiv2::signedShort,
+        Exiv2::signedLong,    Exiv2::signedRational, Exiv2::tiffFloat,        Exiv2::tiffDouble};
+    return std::find(numbers.begin(), numbers.end(), type) != numbers.end();
 }
 
 /// The first of the numbers that is above 0 and says something.
@@ -89,11 +99,8 @@ std::optional<double> NumberOf(const MetadataBlocks& blocks, Keys exifKeys, cons
     };
     for (const char* key : exifKeys) {
         const auto found = blocks.exif.findKey(Exiv2::ExifKey(key));
-        if (found != blocks.exif.end() && found->count() > 0) {
-            // The library gives integers of 32 bits a sign.
-            const bool isWhole = found->typeId() == Exiv2::unsignedShort || found->typeId() == Exiv2::unsignedLong;
-            const auto number = isWhole ? value({found->toLong(), 1}) : value(found->toRational());
-            if (number) {
+        if (found != blocks.exif.end() && found->count() > 0 && IsNumber(found->typeId())) {
+            if (const auto number = value(found->toRational())) {
                 return number;
             }
         }

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void unusedValuesAreNotLookedAt();
     void effects_data();
     void effects();
+    void metadataChangeNoPixels();
     void emptyJob();
     void policies_data();
     void policies();
@@ -336,6 +337,16 @@ void tst_JobCheck::effects()
     if (checked.IsAccepted()) {
         QCOMPARE(checked.settings.effects.size(), 1);
     }
+}
+
+void tst_JobCheck::metadataChangeNoPixels()
+{
+    ZTBatchDocument job;
+    Describe(job);
+    job.GetStyle()->AppendEffect(QStringLiteral("set-metadata"), R"({"title":"{name}"})", true);
+    QVERIFY(!ChangePixels(CheckJob(job).settings.effects));
+    job.GetStyle()->AppendEffect(QStringLiteral("invert"), {}, true);
+    QVERIFY(ChangePixels(CheckJob(job).settings.effects));
 }
 
 void tst_JobCheck::emptyJob()

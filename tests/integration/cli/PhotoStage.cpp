@@ -84,8 +84,8 @@ CliRun PhotoStage::Run(const QStringList& arguments) const
 
 QJsonObject PhotoStage::Found(const QString& name) const
 {
-    const QByteArray json =
-        OutputOf({QStringLiteral("-j"), QStringLiteral("-G1"), QStringLiteral("-a"), Path(name)}).value_or(QByteArray());
+    const QByteArray json = OutputOf({QStringLiteral("-j"), QStringLiteral("-G1"), QStringLiteral("-a"), Path(name)})
+                                .value_or(QByteArray());
     return QJsonDocument::fromJson(json).array().at(0).toObject();
 }
 

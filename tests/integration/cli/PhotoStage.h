@@ -22,7 +22,8 @@ public:
     /// The absolute path of `name` in the folder.
     QString Path(const QString& name) const { return root.filePath(name); }
 
-    /// Copies a photo to `name`, without metadata but for `assignments`, such as "EXIF:Artist=Ana". False when it cannot.
+    /// Copies a photo to `name`, without metadata but for `assignments`, such as "EXIF:Artist=Ana". False when it
+    /// cannot.
     bool Plant(const QString& name, const QStringList& assignments) const;
 
     /// The same for pixels that take no time.

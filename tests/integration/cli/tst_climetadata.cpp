@@ -117,14 +117,14 @@ void tst_CliMetadata::everyFormatHoldsTheTexts()
 
 void tst_CliMetadata::keptEntriesAreReplaced()
 {
-    QVERIFY(stage->PlantSmall(
-        QStringLiteral("in/a.jpg"),
-        {Text("EXIF:Artist=old"), Text("EXIF:XPAuthor=old"), Text("EXIF:XPTitle=old"), Text("EXIF:XPKeywords=old"),
-         Text("EXIF:ImageDescription=caption"), Text("IPTC:By-line=old"), Text("IPTC:By-line=older"),
-         Text("IPTC:Keywords=old"), Text("IPTC:Keywords=older"), Text("IPTC:ObjectName=old"),
-         Text("XMP-dc:Creator=old"), Text("XMP-dc:Creator=older"), Text("XMP-dc:Subject=old"),
-         Text("XMP-dc:Title=old"), Text("XMP-dc:Title-de=alt"), Text("XMP-tiff:Artist=old"),
-         Text("XMP-dc:Rights=mine"), Text("EXIF:Copyright=mine")}));
+    QVERIFY(
+        stage->PlantSmall(QStringLiteral("in/a.jpg"),
+                          {Text("EXIF:Artist=old"), Text("EXIF:XPAuthor=old"), Text("EXIF:XPTitle=old"),
+                           Text("EXIF:XPKeywords=old"), Text("EXIF:ImageDescription=caption"), Text("IPTC:By-line=old"),
+                           Text("IPTC:By-line=older"), Text("IPTC:Keywords=old"), Text("IPTC:Keywords=older"),
+                           Text("IPTC:ObjectName=old"), Text("XMP-dc:Creator=old"), Text("XMP-dc:Creator=older"),
+                           Text("XMP-dc:Subject=old"), Text("XMP-dc:Title=old"), Text("XMP-dc:Title-de=alt"),
+                           Text("XMP-tiff:Artist=old"), Text("XMP-dc:Rights=mine"), Text("EXIF:Copyright=mine")}));
     const CliRun run = Run(QStringLiteral("jpg"), {effect, Text("set-metadata:creator=new,title=new,keywords=new")});
     QVERIFY2(run.exitCode == 0, run.err.constData());
     const QJsonObject found = stage->Found(QStringLiteral("out/r.jpg"));
@@ -179,9 +179,9 @@ void tst_CliMetadata::longTextsAreCutInIptcOnly()
 void tst_CliMetadata::laterEffectsWin()
 {
     QVERIFY(stage->PlantSmall(QStringLiteral("in/a.jpg"), {}));
-    const CliRun run = Run(QStringLiteral("jpg"), {effect, Text("set-metadata:creator=first,title=first"), effect,
-                                                   Text("set-metadata:title=second"), effect,
-                                                   Text("off:set-metadata:creator=third")});
+    const CliRun run =
+        Run(QStringLiteral("jpg"), {effect, Text("set-metadata:creator=first,title=first"), effect,
+                                    Text("set-metadata:title=second"), effect, Text("off:set-metadata:creator=third")});
     QVERIFY2(run.exitCode == 0, run.err.constData());
     const QJsonObject found = stage->Found(QStringLiteral("out/r.jpg"));
     QCOMPARE(found[Text("XMP-dc:Creator")].toString(), Text("first"));
@@ -192,9 +192,10 @@ void tst_CliMetadata::laterEffectsWin()
 void tst_CliMetadata::textsThatLookLikeInstructions()
 {
     QVERIFY(stage->PlantSmall(QStringLiteral("in/a.jpg"), {}));
-    const CliRun run = Run(QStringLiteral("jpg"),
-                           {effect, Text(R"(set-metadata:{"title":"lang=de x","credit":"type=Seq y","creator":"<a>&\"b",)"
-                                         R"("copyright":"charset=Jis \u0000\u0007z","usageTerms":"one\ntwo \uffff"})")});
+    const CliRun run =
+        Run(QStringLiteral("jpg"),
+            {effect, Text(R"(set-metadata:{"title":"lang=de x","credit":"type=Seq y","creator":"<a>&\"b",)"
+                          R"("copyright":"charset=Jis \u0000\u0007z","usageTerms":"one\ntwo \uffff"})")});
     QVERIFY2(run.exitCode == 0, run.err.constData());
     const QJsonObject found = stage->Found(QStringLiteral("out/r.jpg"));
     QCOMPARE(found[Text("XMP-dc:Title")].toString(), Text("lang=de x"));
@@ -207,9 +208,9 @@ void tst_CliMetadata::textsThatLookLikeInstructions()
 void tst_CliMetadata::gifSaysThatItHoldsNone()
 {
     QVERIFY(stage->PlantSmall(QStringLiteral("in/a.png"), {}));
-    const CliRun run = stage->Run({QStringLiteral("run"), QStringLiteral("in"), QStringLiteral("-o"),
-                                   QStringLiteral("out"), QStringLiteral("--format"), QStringLiteral("gif"), effect,
-                                   QStringLiteral("set-metadata:title=x")});
+    const CliRun run =
+        stage->Run({QStringLiteral("run"), QStringLiteral("in"), QStringLiteral("-o"), QStringLiteral("out"),
+                    QStringLiteral("--format"), QStringLiteral("gif"), effect, QStringLiteral("set-metadata:title=x")});
     QVERIFY2(run.exitCode == 0, run.err.constData());
     QVERIFY2(run.err.contains("GIF files cannot hold metadata"), run.err.constData());
 }

@@ -68,9 +68,10 @@ void tst_CliTokens::init()
 /// The names that a run over the folder "in" gives; none when it fails.
 QStringList tst_CliTokens::Written(const QStringList& naming) const
 {
-    const QStringList common{QStringLiteral("run"),    QStringLiteral("in"),     QStringLiteral("-o"),
-                             QStringLiteral("out"),    QStringLiteral("--size"), QStringLiteral("60"),
-                             QStringLiteral("--quiet"), QStringLiteral("--on-name-exists"), QStringLiteral("rename")};
+    const QStringList common{
+        QStringLiteral("run"),    QStringLiteral("in"), QStringLiteral("-o"),      QStringLiteral("out"),
+        QStringLiteral("--size"), QStringLiteral("60"), QStringLiteral("--quiet"), QStringLiteral("--on-name-exists"),
+        QStringLiteral("rename")};
     const CliRun run = stage->Run(common + naming);
     if (run.exitCode != 0) {
         qWarning("%s", run.err.constData());
@@ -131,18 +132,17 @@ void tst_CliTokens::numbersFollowTheJob()
     for (const char* file : {"in/a.png", "in/b.png", "in/c.png"}) {
         QVERIFY(stage->PlantSmall(QString::fromLatin1(file), {}));
     }
-    QCOMPARE(Written({name, QStringLiteral("{number:3}{name}"), QStringLiteral("--number-start"),
-                      QStringLiteral("99")}),
-             (QStringList{QStringLiteral("099a.png"), QStringLiteral("100b.png"), QStringLiteral("101c.png")}));
+    QCOMPARE(
+        Written({name, QStringLiteral("{number:3}{name}"), QStringLiteral("--number-start"), QStringLiteral("99")}),
+        (QStringList{QStringLiteral("099a.png"), QStringLiteral("100b.png"), QStringLiteral("101c.png")}));
 }
 
 void tst_CliTokens::planAndRunAgree()
 {
     QVERIFY(stage->Plant(QStringLiteral("in/Dune.jpg"), Assignments()));
     const QString text = QStringLiteral("{camera} {shutter} {number:2}");
-    const CliRun plan =
-        stage->Run({QStringLiteral("plan"), QStringLiteral("in"), QStringLiteral("-o"), QStringLiteral("out"),
-                    QStringLiteral("--no-sizes"), name, text});
+    const CliRun plan = stage->Run({QStringLiteral("plan"), QStringLiteral("in"), QStringLiteral("-o"),
+                                    QStringLiteral("out"), QStringLiteral("--no-sizes"), name, text});
     QVERIFY2(plan.exitCode == 0, plan.err.constData());
     QVERIFY2(plan.Out().contains(QStringLiteral("/out/EOS 5D 1_250 01.jpg")), plan.out.constData());
     QCOMPARE(Written({name, text}), QStringList{QStringLiteral("EOS 5D 1_250 01.jpg")});
@@ -151,10 +151,10 @@ void tst_CliTokens::planAndRunAgree()
 void tst_CliTokens::savedJobsKeepTheirTokens()
 {
     QVERIFY(stage->Plant(QStringLiteral("in/Dune.jpg"), Assignments()));
-    const CliRun saved = stage->Run({QStringLiteral("create"), QStringLiteral("job.xml"), QStringLiteral("in"),
-                                     QStringLiteral("-o"), QStringLiteral("out"), QStringLiteral("--size"),
-                                     QStringLiteral("60"), name, QStringLiteral("{date:YYYY} {number:3}"),
-                                     QStringLiteral("--number-start"), QStringLiteral("70")});
+    const CliRun saved =
+        stage->Run({QStringLiteral("create"), QStringLiteral("job.xml"), QStringLiteral("in"), QStringLiteral("-o"),
+                    QStringLiteral("out"), QStringLiteral("--size"), QStringLiteral("60"), name,
+                    QStringLiteral("{date:YYYY} {number:3}"), QStringLiteral("--number-start"), QStringLiteral("70")});
     QVERIFY2(saved.exitCode == 0, saved.err.constData());
     const CliRun shown = stage->Run({QStringLiteral("show"), QStringLiteral("job.xml")});
     QVERIFY2(shown.Out().contains(QStringLiteral("tokens:{date:YYYY} {number:3}")), shown.out.constData());
@@ -166,8 +166,7 @@ void tst_CliTokens::savedJobsKeepTheirTokens()
 void tst_CliTokens::plainTextsStayAsTheyAre()
 {
     QVERIFY(stage->PlantSmall(QStringLiteral("in/a.png"), {}));
-    QCOMPARE(Written({name, QStringLiteral("text:{name} {{x} {")}),
-             QStringList{QStringLiteral("{name} {{x} {.png")});
+    QCOMPARE(Written({name, QStringLiteral("text:{name} {{x} {")}), QStringList{QStringLiteral("{name} {{x} {.png")});
 }
 
 void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork_data()
@@ -186,8 +185,7 @@ void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork_data()
                           << "a date is made of YYYY, YY, MM and DD";
     QTest::newRow("watermark") << plain << QStringLiteral("{nme}")
                                << QStringLiteral(R"(<effect UID="watermark-text" enabled="1" data="%1"/>)")
-                                      .arg(QString::fromLatin1(
-                                          QByteArray(R"({"text":"{nme}","tokens":true})").toHex()))
+                                      .arg(QString::fromLatin1(QByteArray(R"({"text":"{nme}","tokens":true})").toHex()))
                                << "Effect 1, \"watermark-text\": text: \"{nme}\" at character 1 is not a token";
     QTest::newRow("metadata") << plain << QStringLiteral("a")
                               << QStringLiteral(R"(<effect UID="set-metadata" enabled="1" data="%1"/>)")
