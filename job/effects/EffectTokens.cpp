@@ -21,7 +21,7 @@ QString TokenProblem(const EffectSchema& effect, const QJsonObject& parameters)
     for (const QString& name : NamesOf(effect, parameters)) {
         const TokenText text(parameters[name].toString());
         if (!text.IsValid()) {
-            return Phrase::English("%1: %2").arg(name, text.Error());
+            return QStringLiteral("%1: %2").arg(name, text.Error());
         }
     }
     return {};

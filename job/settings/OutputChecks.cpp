@@ -85,7 +85,7 @@ void CheckNaming(ValueChecks& checks, const Settings& settings)
         }
         const TokenText tokens(kind == TemplateTokens ? settings.GetCustomTemplate(part.part) : QString());
         if (!tokens.IsValid()) {
-            checks.Refuse(Phrase::English("%1: %2").arg(QLatin1String(part.field), tokens.Error()));
+            checks.Refuse(QStringLiteral("%1: %2").arg(QLatin1String(part.field), tokens.Error()));
         }
     }
 }

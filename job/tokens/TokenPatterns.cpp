@@ -3,6 +3,8 @@
 
 #include "TokenPatterns.h"
 
+#include "job/values/Phrase.h"
+
 #include <QVector>
 
 #include <algorithm>

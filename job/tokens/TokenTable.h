@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "job/values/Phrase.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -47,35 +45,30 @@ struct TokenRecord
     Token token;
     const char* word; ///< between the braces
     TokenArgument argument;
-    bool isOfPicture; ///< known only after a worker has looked at the file
-    const char* description;
+    bool isOfPicture;        ///< known only after a worker has looked at the file
+    const char* description; ///< for the reference page
 };
 
 /// The one table of the tokens, in the order of the reference page.
 inline constexpr std::array tokenTable{
-    TokenRecord{Token::Name, "name", TokenArgument::None, false,
-                Phrase::Marked("the name of the input without its extension")},
-    TokenRecord{Token::Number, "number", TokenArgument::Digits, false,
-                Phrase::Marked("the number that the naming gives to the file")},
+    TokenRecord{Token::Name, "name", TokenArgument::None, false, "the name of the input without its extension"},
+    TokenRecord{Token::Number, "number", TokenArgument::Digits, false, "the number that the naming gives to the file"},
     TokenRecord{Token::Date, "date", TokenArgument::DatePattern, true,
-                Phrase::Marked("the capture date, or that of the file where the picture has none")},
+                "the capture date, or that of the file where the picture has none"},
     TokenRecord{Token::Time, "time", TokenArgument::TimePattern, true,
-                Phrase::Marked("the capture time, or that of the file where the picture has none")},
-    TokenRecord{Token::Camera, "camera", TokenArgument::None, true, Phrase::Marked("the model of the camera")},
-    TokenRecord{Token::Lens, "lens", TokenArgument::None, true, Phrase::Marked("the model of the lens")},
-    TokenRecord{Token::Focal, "focal", TokenArgument::None, true, Phrase::Marked("the focal length in millimetres")},
-    TokenRecord{Token::Aperture, "aperture", TokenArgument::None, true, Phrase::Marked("the f-number")},
-    TokenRecord{Token::Shutter, "shutter", TokenArgument::None, true, Phrase::Marked("the exposure time in seconds")},
-    TokenRecord{Token::Iso, "iso", TokenArgument::None, true, Phrase::Marked("the sensitivity")},
-    TokenRecord{Token::Title, "title", TokenArgument::None, true, Phrase::Marked("the title in the metadata")},
+                "the capture time, or that of the file where the picture has none"},
+    TokenRecord{Token::Camera, "camera", TokenArgument::None, true, "the model of the camera"},
+    TokenRecord{Token::Lens, "lens", TokenArgument::None, true, "the model of the lens"},
+    TokenRecord{Token::Focal, "focal", TokenArgument::None, true, "the focal length in millimetres"},
+    TokenRecord{Token::Aperture, "aperture", TokenArgument::None, true, "the f-number"},
+    TokenRecord{Token::Shutter, "shutter", TokenArgument::None, true, "the exposure time in seconds"},
+    TokenRecord{Token::Iso, "iso", TokenArgument::None, true, "the sensitivity"},
+    TokenRecord{Token::Title, "title", TokenArgument::None, true, "the title in the metadata"},
     TokenRecord{Token::Creator, "creator", TokenArgument::None, true,
-                Phrase::Marked("the creator of the picture, as the metadata name them")},
-    TokenRecord{Token::Width, "width", TokenArgument::None, true,
-                Phrase::Marked("the width of the upright original in pixels")},
-    TokenRecord{Token::Height, "height", TokenArgument::None, true,
-                Phrase::Marked("the height of the upright original in pixels")},
-    TokenRecord{Token::Folder, "folder", TokenArgument::None, false,
-                Phrase::Marked("the name of the folder that the input is in")},
+                "the creator of the picture, as the metadata name them"},
+    TokenRecord{Token::Width, "width", TokenArgument::None, true, "the width of the upright original in pixels"},
+    TokenRecord{Token::Height, "height", TokenArgument::None, true, "the height of the upright original in pixels"},
+    TokenRecord{Token::Folder, "folder", TokenArgument::None, false, "the name of the folder that the input is in"},
 };
 
 /// The record of `word`; null when there is none.

@@ -6,6 +6,7 @@
 #include "TokenPatterns.h"
 
 #include "job/values/ParameterSchema.h"
+#include "job/values/Phrase.h"
 
 #include <algorithm>
 

@@ -66,14 +66,11 @@ void tst_PictureTexts::initTestCase()
 
 QString tst_PictureTexts::Of(const PictureTexts& texts, const QString& token)
 {
-    const QMap<QString, QString> all{{QStringLiteral("camera"), texts.camera},
-                                     {QStringLiteral("lens"), texts.lens},
-                                     {QStringLiteral("focal"), texts.focal},
-                                     {QStringLiteral("aperture"), texts.aperture},
-                                     {QStringLiteral("shutter"), texts.shutter},
-                                     {QStringLiteral("iso"), texts.iso},
-                                     {QStringLiteral("title"), texts.title},
-                                     {QStringLiteral("creator"), texts.creator}};
+    const QMap<QString, QString> all{
+        {QStringLiteral("camera"), texts.camera},   {QStringLiteral("lens"), texts.lens},
+        {QStringLiteral("focal"), texts.focal},     {QStringLiteral("aperture"), texts.aperture},
+        {QStringLiteral("shutter"), texts.shutter}, {QStringLiteral("iso"), texts.iso},
+        {QStringLiteral("title"), texts.title},     {QStringLiteral("creator"), texts.creator}};
     return all.value(token);
 }
 
@@ -83,8 +80,8 @@ void tst_PictureTexts::numbers_data()
     QTest::addColumn<Plant>("plant");
     QTest::addColumn<QString>("text");
     const auto row = [](const char* token, const char* key, const char* value, const char* text) {
-        QTest::addRow("%s %s", key, value) << QString::fromLatin1(token) << Exif(key, value)
-                                           << QString::fromLatin1(text);
+        QTest::addRow("%s %s", key, value)
+            << QString::fromLatin1(token) << Exif(key, value) << QString::fromLatin1(text);
     };
     row("shutter", "Exif.Photo.ExposureTime", "1/250", "1/250");
     row("shutter", "Exif.Photo.ExposureTime", "10/2500", "1/250");
@@ -143,7 +140,8 @@ void tst_PictureTexts::texts_data()
     row("lens of the old names", "lens", Xmp("Xmp.aux.Lens", "24mm"), "24mm");
     row("UTF-8", "creator", Exif("Exif.Image.Artist", "Jos\xC3\xA9"), "José");
     row("Latin-1", "creator", Exif("Exif.Image.Artist", "Jos\xE9"), "José");
-    row("Windows", "title",
+    row(
+        "Windows", "title",
         [](MetadataBlocks& blocks) {
             Exiv2::DataValue value(Exiv2::unsignedByte);
             const Exiv2::byte bytes[] = {0x99, 0x51, 'a', 0, 0, 0};
@@ -152,9 +150,11 @@ void tst_PictureTexts::texts_data()
         },
         "写a");
     row("IPTC", "title", Iptc("Iptc.Application2.ObjectName", "Sea"), "Sea");
-    row("XMP before IPTC", "title", Both(Iptc("Iptc.Application2.ObjectName", "Sea"), Xmp("Xmp.dc.title", "Sun")), "Sun");
+    row("XMP before IPTC", "title", Both(Iptc("Iptc.Application2.ObjectName", "Sea"), Xmp("Xmp.dc.title", "Sun")),
+        "Sun");
     row("blank XMP", "title", Both(Iptc("Iptc.Application2.ObjectName", "Sea"), Xmp("Xmp.dc.title", "  ")), "Sea");
-    row("common language", "title",
+    row(
+        "common language", "title",
         [](MetadataBlocks& blocks) {
             Exiv2::LangAltValue value;
             value.value_["de"] = "Meer";
@@ -162,7 +162,8 @@ void tst_PictureTexts::texts_data()
             blocks.xmp.add(Exiv2::XmpKey("Xmp.dc.title"), &value);
         },
         "Sea");
-    row("several creators", "creator",
+    row(
+        "several creators", "creator",
         [](MetadataBlocks& blocks) {
             Exiv2::XmpArrayValue value(Exiv2::xmpSeq);
             value.read("Ana");
