@@ -23,9 +23,7 @@ QString Writable(const QString& text)
     constexpr ushort firstNonCharacter = 0xfffe;
     QString writable;
     for (const QChar character : text) {
-        if (character == QLatin1Char('\n')) {
-            writable.append(character);
-        } else if (character.category() == QChar::Other_Control) {
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\n')) {
             writable.append(QLatin1Char(' '));
         } else if (character.unicode() < firstNonCharacter) {
             writable.append(character);
