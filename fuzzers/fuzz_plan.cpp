@@ -89,8 +89,9 @@ Policies ReadPolicies(Fields& fields)
 
 using Probes = QHash<int, ProbeResult>;
 
-/// What the worker says of a file is not trusted: a time and two names of formats.
-Probes ReadProbes(Fields& fields, const OutputPlan& plan)
+/// What the worker says of a file is not trusted: a time, two names of formats, and texts for names if there are
+/// tokens.
+Probes ReadProbes(Fields& fields, const OutputPlan& plan, const OutputNaming& naming)
 {
     Probes probes;
     for (const int file : plan.FilesToProbe()) {
@@ -98,6 +99,11 @@ Probes ReadProbes(Fields& fields, const OutputPlan& plan)
         result.captured = QDateTime::fromMSecsSinceEpoch(fields.Bytes().toLongLong(), Qt::UTC);
         result.inputFormat = fields.Text();
         result.nearestFormat = fields.Text();
+        if (naming.NeedsPictureTexts()) {
+            const QString text = fields.Text();
+            result.size = QSize(fields.Number(), fields.Number());
+            result.texts = CleanTexts({text, text, text, text, text, text, text, text});
+        }
         probes.insert(file, result);
     }
     return probes;
@@ -201,7 +207,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const RunPlan unnamed(OutputPlan(FilesOfJob(*job.GetInputModel()), checked.settings));
     RunPlan plan = unnamed;
     Require(plan.ReadInputs());
-    const Probes probes = ReadProbes(fields, plan.Names());
+    const Probes probes = ReadProbes(fields, plan.Names(), checked.settings.naming);
     EnterProbes(plan, probes);
     Require(plan.MakeNames(policies));
     RequireSafe(plan);

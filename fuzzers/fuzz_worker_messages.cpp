@@ -129,6 +129,11 @@ void RequireBounded(const Report& report)
     RequirePossible(facts.outputSize);
     Require(facts.quality >= 0 && facts.quality <= 100 && facts.milliseconds >= -1);
     RequirePossible(ProbeResultOf(report).size);
+    const BatchJob::PictureTexts texts = ProbeResultOf(report).texts;
+    for (const QString& text : {texts.camera, texts.lens, texts.focal, texts.aperture, texts.shutter, texts.iso,
+                                texts.title, texts.creator}) {
+        RequireShortLine(text);
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "ZTBatchOutputSettings.h"
 
+#include "ZTBatchNaming_p.h"
 #include "ZTBatchOutput_p.h"
 #include "ZTDiagnostics_p.h"
 #include "ZTOutputPlacement_p.h"
@@ -213,7 +214,7 @@ void ZTBatchOutputSettings::SetCustomTemplate(NamingPart part, const QString& te
         return;
     }
     naming.customTemplate = text;
-    if (naming.namingTemplate == TemplateCustomText) {
+    if (ZTBatchNaming::HasText(naming.namingTemplate)) {
         Q_EMIT NamingChanged();
     }
 }
@@ -226,7 +227,7 @@ void ZTBatchOutputSettings::SetStartNumber(NamingPart part, int number)
         return;
     }
     naming.startNumber = number;
-    if (naming.namingTemplate == TemplateNumber) {
+    if (ZTBatchNaming::HasStartNumber(naming.namingTemplate)) {
         Q_EMIT NamingChanged();
     }
 }

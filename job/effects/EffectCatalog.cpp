@@ -4,6 +4,7 @@
 #include "EffectCatalog.h"
 
 #include "EffectRecords.h"
+#include "EffectTokens.h"
 
 #include <algorithm>
 
@@ -38,10 +39,13 @@ const EffectSchema* FindEffect(const QString& id)
 CheckedParameters CheckEffect(const EffectSchema& effect, const QByteArray& data)
 {
     const CheckedParameters checked = CheckParameters(effect.parameters, data);
-    if (!checked.IsValid() || !effect.extraProblem) {
+    if (!checked.IsValid()) {
         return checked;
     }
-    const QString problem = effect.extraProblem(checked.values);
+    QString problem = TokenProblem(effect, checked.values);
+    if (problem.isEmpty() && effect.extraProblem) {
+        problem = effect.extraProblem(checked.values);
+    }
     return problem.isEmpty() ? checked : CheckedParameters{{}, problem};
 }
 

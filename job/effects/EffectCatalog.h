@@ -34,6 +34,11 @@ struct EffectSchema
 
     bool usesFonts = false; ///< whether it writes text
 
+    bool changesPixels = true; ///< if not, it changes metadata
+
+    /// The names of the parameters whose texts have tokens, with complete parameters. Null when there are none.
+    QStringList (*tokenParameters)(const QJsonObject& parameters) = nullptr;
+
     /// See NeedsRandomAccess(). Null when the effect never does.
     bool (*randomAccess)(const QJsonObject& parameters) = nullptr;
 

@@ -33,7 +33,8 @@
     EFFECT(Flip)                                                                                                       \
     EFFECT(Border)                                                                                                     \
     EFFECT(WatermarkText)                                                                                              \
-    EFFECT(WatermarkImage)
+    EFFECT(WatermarkImage)                                                                                             \
+    EFFECT(SetMetadata)
 
 namespace BatchJob {
 

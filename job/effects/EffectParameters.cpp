@@ -39,6 +39,15 @@ ParameterSchema IntegerParameter(const char* name, int standard, int minimum, in
     return parameter;
 }
 
+ParameterSchema TextParameter(const char* name, const QJsonValue& standard, int shortest, int longest,
+                              const char* description)
+{
+    ParameterSchema parameter = Parameter(name, ParameterType::Text, standard, description);
+    parameter.minimum = shortest;
+    parameter.maximum = longest;
+    return parameter;
+}
+
 ParameterSchema TruthParameter(const char* name, bool standard, const char* description)
 {
     return Parameter(name, ParameterType::Truth, standard, description);

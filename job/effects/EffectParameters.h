@@ -8,6 +8,10 @@
 /// The words that the records of effects describe their parameters with.
 namespace BatchJob {
 
+/// A text of `shortest` to `longest` characters.
+ParameterSchema TextParameter(const char* name, const QJsonValue& standard, int shortest, int longest,
+                              const char* description);
+
 /// A number from `minimum` to `maximum` in `unit`; "" for plain numbers.
 ParameterSchema NumberParameter(const char* name, double standard, double minimum, double maximum, const char* unit,
                                 const char* description);

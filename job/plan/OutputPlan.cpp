@@ -110,8 +110,8 @@ bool OutputPlan::NeedsProbe(int index) const
 {
     const Job& job = jobs[JobOf(index)];
     const Entry& entry = entries[index];
-    const bool needsTime = job.naming.NeedsCaptureTime() || job.structure == Settings::StructureByCaptureDate;
-    return !entry.isKept && (needsTime || (job.keepsFormats && entry.inputFormat.isEmpty()));
+    const bool needsPicture = job.naming.NeedsPicture() || job.structure == Settings::StructureByCaptureDate;
+    return !entry.isKept && (needsPicture || (job.keepsFormats && entry.inputFormat.isEmpty()));
 }
 
 void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& inputFormat)
@@ -121,6 +121,13 @@ void OutputPlan::SetProbe(int index, const QDateTime& captured, const QString& i
     if (jobs[JobOf(index)].keepsFormats && !inputFormat.isEmpty()) {
         entry.inputFormat = inputFormat;
         entry.format = FindFormat(inputFormat);
+    }
+}
+
+void OutputPlan::SetPicture(int index, const QSize& size, const PictureTexts& texts)
+{
+    if (jobs[JobOf(index)].naming.NeedsPicture()) {
+        pictures.insert(index, {{}, size, texts});
     }
 }
 
@@ -144,7 +151,9 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
             continue;
         }
         entry.folder = FolderOf(SubFolder(i));
-        entry.stem = jobs[JobOf(i)].naming.Stem(entry.input, FileOf(i), entry.captured);
+        OutputNaming::Picture picture = pictures.value(i);
+        picture.captured = entry.captured;
+        entry.stem = jobs[JobOf(i)].naming.Stem(entry.input, FileOf(i), picture);
         if (entry.format) {
             SetName(i, {});
             FindClash(i);

@@ -71,9 +71,9 @@ public:
     /// format. False when it was cancelled.
     bool ReadInputs(const Cancelled& isCancelled = {});
 
-    /// The files that a worker has to examine before MakeNames(): all files, if names or folders contain capture times;
-    /// the files of unknown format, if results keep their inputs' formats. None that KeepResult() has settled. Each
-    /// file once, by the first of its results that needs it.
+    /// The files that a worker has to examine before MakeNames(): all files, if names or folders are made of what
+    /// pictures say; the files of unknown format, if results keep their inputs' formats. None that KeepResult() has
+    /// settled. Each file once, by the first of its results that needs it.
     QVector<int> FilesToProbe() const;
 
     /// The result `index` and the others of its file that need its probe.
@@ -81,6 +81,9 @@ public:
 
     /// Enters what a probe has found. An invalid time and an empty format change nothing.
     void SetProbe(int index, const QDateTime& captured, const QString& inputFormat);
+
+    /// Enters what a probe has found beyond that. It is kept as far as names need it.
+    void SetPicture(int index, const QSize& size, const PictureTexts& texts);
 
     /// An earlier part of this run has written the result of the file to `path`: it keeps this name, does not clash
     /// with itself and needs no probe. To be called before MakeNames().
@@ -100,6 +103,9 @@ public:
     bool MakeNames(const Cancelled& isCancelled = {});
 
     QString Input(int index) const { return entries[index].input; }
+
+    /// The number of the file in texts of its result; see OutputNaming::NumberOf().
+    qint64 NumberOf(int index) const { return jobs[JobOf(index)].naming.NumberOf(FileOf(index)); }
 
     /// The format of the input as FormatOfFile() names it. Empty when it is unknown or not needed.
     QString InputFormat(int index) const { return entries[index].inputFormat; }
@@ -194,8 +200,9 @@ private:
 
     QString outputFolder;
     QVector<Job> jobs;
-    QVector<QString> jobFolders; ///< JobFile::folder of each file, for StructureAsInput
-    QVector<Entry> entries;      ///< results
+    QVector<QString> jobFolders;                ///< JobFile::folder of each file, for StructureAsInput
+    QVector<Entry> entries;                     ///< results
+    QHash<int, OutputNaming::Picture> pictures; ///< if names need them; without the time, which entries have
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;
     QHash<QString, int> folderKeyIds;

@@ -20,6 +20,7 @@ void RunPlan::SetProbe(int file, const ProbeResult& result)
 {
     for (const int one : plan.ResultsToProbe(file)) {
         plan.SetProbe(one, result.captured, result.inputFormat);
+        plan.SetPicture(one, result.size, result.texts);
         if (!plan.Format(one) && !result.nearestFormat.isEmpty()) {
             nearestFormats.insert(one, result.nearestFormat);
         }

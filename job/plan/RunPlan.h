@@ -22,6 +22,7 @@ struct ProbeResult
     QString inputFormat;   ///< as FormatOfFile() names it; empty when it is not known
     QString nearestFormat; ///< a format that can hold the picture; empty when it is not known
     QSize size = {};       ///< in pixels, upright; empty when it is not known
+    PictureTexts texts = {};
 };
 
 /// The plan of a run, with what was decided about its files. Where a run makes several results of each file, `file` is

@@ -3,6 +3,7 @@
 
 #include "Recipe.h"
 
+#include "job/effects/EffectTokens.h"
 #include "job/settings/JobCheck.h"
 #include "job/settings/JobFiles.h"
 #include "job/values/FileStamp.h"
@@ -10,6 +11,8 @@
 #include "ZTBatchDocument.h"
 
 #include <QCryptographicHash>
+
+#include <algorithm>
 
 namespace BatchJob {
 
@@ -49,12 +52,16 @@ Recipe::Recipe(const QString& document, const JobSettings& settings)
     for (const QString& file : FilesOfSettings(settings)) {
         base += ChecksumOf(file) + '\n';
     }
+    usesNumber = std::any_of(settings.effects.begin(), settings.effects.end(), [](const JobEffect& effect) {
+        return UsesToken(*effect.schema, effect.parameters, Token::Number);
+    });
 }
 
-QString Recipe::For(const QString& format) const
+QString Recipe::For(const QString& format, qint64 number) const
 {
     constexpr int digits = 32;
-    return QString::fromLatin1(HashOf(base + format.toUtf8()).toHex().left(digits));
+    const QByteArray ofNumber = usesNumber ? '\n' + QByteArray::number(number) : QByteArray();
+    return QString::fromLatin1(HashOf(base + format.toUtf8() + ofNumber).toHex().left(digits));
 }
 
 } // namespace BatchJob

@@ -24,11 +24,12 @@ public:
     /// Of the job with these settings, whose text without inputs is `document`. Reads the files of effects and framing.
     Recipe(const QString& document, const JobSettings& settings);
 
-    /// The recipe of a result in `format`, one of Formats(), as a short text.
-    QString For(const QString& format) const;
+    /// The recipe of a result in `format`, one of Formats(), as a short text. `number` is that of its file in texts.
+    QString For(const QString& format, qint64 number) const;
 
 private:
     QByteArray base;
+    bool usesNumber = false;
 };
 
 } // namespace BatchJob

@@ -18,6 +18,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 namespace BatchJob {
 
 namespace {
@@ -79,6 +81,12 @@ Refusal OutputRefusal(const QString& error)
 }
 
 } // namespace
+
+bool ChangePixels(const QVector<JobEffect>& effects)
+{
+    return std::any_of(effects.begin(), effects.end(),
+                       [](const JobEffect& effect) { return effect.schema->changesPixels; });
+}
 
 CheckedSettings CheckSettings(const ZTBatchDocument& job)
 {

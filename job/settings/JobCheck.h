@@ -36,6 +36,9 @@ struct JobEffect
     QJsonObject parameters;               ///< complete with the defaults
 };
 
+/// Whether one of `effects` changes pixels.
+bool ChangePixels(const QVector<JobEffect>& effects);
+
 /// The checked settings of a job: the server understands every value.
 struct JobSettings
 {

@@ -3,6 +3,7 @@
 
 #include "OutputChecks.h"
 
+#include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
 #include <QDir>
@@ -81,6 +82,10 @@ void CheckNaming(ValueChecks& checks, const Settings& settings)
         checks.OneOf(part.field, kind, NamingTemplateWords);
         if (kind == Settings::TemplateNumber) {
             checks.Range(part.digits, settings.GetDigitsCount(part.part), 1, mostDigits);
+        }
+        const TokenText tokens(kind == TemplateTokens ? settings.GetCustomTemplate(part.part) : QString());
+        if (!tokens.IsValid()) {
+            checks.Refuse(QStringLiteral("%1: %2").arg(QLatin1String(part.field), tokens.Error()));
         }
     }
 }

@@ -3,7 +3,8 @@
 
 #include "OutputNaming.h"
 
-#include <QTextBoundaryFinder>
+#include "job/values/CutText.h"
+#include "job/values/JobValues.h"
 
 #include <algorithm>
 
@@ -53,25 +54,6 @@ bool IsDevice(const QString& name)
     return std::find(devices.begin(), devices.end(), upper) != devices.end();
 }
 
-/// The longest beginning of `text` that has at most `bytes` bytes of UTF-8 and does not split a user-visible character.
-QString CutToBytes(const QString& text, int bytes)
-{
-    if (text.size() <= bytes && text.toUtf8().size() <= bytes) {
-        return text;
-    }
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    int end = 0;
-    int size = 0;
-    for (int next = finder.toNextBoundary(); next != -1; next = finder.toNextBoundary()) {
-        size += text.mid(end, next - end).toUtf8().size();
-        if (size > bytes) {
-            break;
-        }
-        end = next;
-    }
-    return text.left(end);
-}
-
 /// Full case folding. QString folds one character to one; those that fold to several, such as the sharp s, are those
 /// that have several capitals.
 QString Folded(const QString& text)
@@ -86,13 +68,6 @@ QString Folded(const QString& text)
     return folded;
 }
 
-QString BaseName(const QString& inputPath)
-{
-    const QString name = inputPath.mid(inputPath.lastIndexOf(QLatin1Char('/')) + 1);
-    const int dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot == -1 ? name : name.left(dot);
-}
-
 } // namespace
 
 OutputNaming::OutputNaming(const Settings& settings)
@@ -100,27 +75,58 @@ OutputNaming::OutputNaming(const Settings& settings)
     , suffixSeparator(settings.GetSuffixSeparator())
 {
     const auto read = [&settings](Settings::NamingPart part) {
-        return Part{settings.GetNamingTemplate(part), settings.GetCustomTemplate(part), settings.GetStartNumber(part),
-                    settings.GetDigitsCount(part)};
+        const QString text = settings.GetCustomTemplate(part);
+        const Settings::NamingTemplate kind = settings.GetNamingTemplate(part);
+        return Part{kind, text, settings.GetStartNumber(part), settings.GetDigitsCount(part),
+                    kind == TemplateTokens ? TokenText(text) : TokenText()};
     };
     prefix = read(Settings::PartPrefix);
     middle = read(Settings::PartMiddle);
     suffix = read(Settings::PartSuffix);
 }
 
+bool OutputNaming::Part::HasNumber() const
+{
+    return kind == Settings::TemplateNumber || tokens.Uses(Token::Number);
+}
+
+bool OutputNaming::Part::NeedsCaptureTime() const
+{
+    return kind == Settings::TemplateCaptureDate || kind == Settings::TemplateCaptureTime || tokens.Uses(Token::Date) ||
+           tokens.Uses(Token::Time);
+}
+
 bool OutputNaming::NeedsCaptureTime() const
 {
+    return prefix.NeedsCaptureTime() || middle.NeedsCaptureTime() || suffix.NeedsCaptureTime();
+}
+
+bool OutputNaming::NeedsPictureTexts() const
+{
     const auto needs = [](const Part& part) {
-        return part.kind == Settings::TemplateCaptureDate || part.kind == Settings::TemplateCaptureTime;
+        return std::any_of(tokenTable.begin(), tokenTable.end(), [&part](const TokenRecord& record) {
+            const bool isTime = record.token == Token::Date || record.token == Token::Time;
+            return record.isOfPicture && !isTime && part.tokens.Uses(record.token);
+        });
     };
     return needs(prefix) || needs(middle) || needs(suffix);
 }
 
-QString OutputNaming::Stem(const QString& inputPath, int position, const QDateTime& captured) const
+qint64 OutputNaming::NumberOf(int position) const
 {
-    const QString first = TextOf(prefix, inputPath, position, captured);
-    const QString second = TextOf(middle, inputPath, position, captured);
-    const QString third = TextOf(suffix, inputPath, position, captured);
+    for (const Part* part : {&prefix, &middle, &suffix}) {
+        if (part->HasNumber()) {
+            return qint64(part->start) + position;
+        }
+    }
+    return qint64(position) + 1;
+}
+
+QString OutputNaming::Stem(const QString& inputPath, int position, const Picture& picture) const
+{
+    const QString first = TextOf(prefix, inputPath, position, picture);
+    const QString second = TextOf(middle, inputPath, position, picture);
+    const QString third = TextOf(suffix, inputPath, position, picture);
     QString name = first;
     if (!first.isEmpty() && !second.isEmpty()) {
         name += prefixSeparator;
@@ -130,14 +136,22 @@ QString OutputNaming::Stem(const QString& inputPath, int position, const QDateTi
         name += suffixSeparator;
     }
     name += third;
-    return CleanName(name.isEmpty() ? BaseName(inputPath) : name);
+    return CleanName(name.isEmpty() ? BaseNameOf(inputPath) : name);
 }
 
-QString OutputNaming::TextOf(const Part& part, const QString& inputPath, int position, const QDateTime& captured)
+QString OutputNaming::TextOf(const Part& part, const QString& inputPath, int position, const Picture& picture)
 {
+    if (part.kind == TemplateTokens) {
+        TokenValues values = ValuesOfFile(inputPath, qint64(part.start) + position);
+        values.captured = picture.captured;
+        values.size = picture.size;
+        values.texts = picture.texts;
+        return part.tokens.Filled(values).trimmed();
+    }
+    const QDateTime& captured = picture.captured;
     switch (part.kind) {
     case Settings::TemplateOriginalName:
-        return BaseName(inputPath);
+        return BaseNameOf(inputPath);
     case Settings::TemplateNumber:
         return QString::number(qint64(part.start) + position).rightJustified(part.digits, QLatin1Char('0'));
     case Settings::TemplateCaptureDate:

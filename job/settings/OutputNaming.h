@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "job/tokens/TokenText.h"
+
 #include "ZTBatchOutputSettings.h"
 
 #include <QDateTime>
@@ -28,9 +30,33 @@ public:
     /// Whether names contain capture dates or times.
     bool NeedsCaptureTime() const;
 
+    /// Whether names contain what is known only after a worker has looked at the file.
+    bool NeedsPicture() const { return NeedsCaptureTime() || NeedsPictureTexts(); }
+
+    /// The same for more than capture dates and times.
+    bool NeedsPictureTexts() const;
+
+    /// The number of file `position`, counted from 0, in texts other than names: that of the first part that has one.
+    qint64 NumberOf(int position) const;
+
+    /// What is known of a picture that names are made of.
+    struct Picture
+    {
+        Picture(const QDateTime& captured = {}, const QSize& size = {}, const PictureTexts& texts = {})
+            : captured(captured)
+            , size(size)
+            , texts(texts)
+        {
+        }
+
+        QDateTime captured; ///< if it is invalid, parts that are dates or times become zeros
+        QSize size;         ///< upright, in pixels
+        PictureTexts texts;
+    };
+
     /// The name without extension, valid on any file system, for the file `inputPath`, which is number `position` of
-    /// the job, counted from 0. An invalid `captured` becomes zeros.
-    QString Stem(const QString& inputPath, int position, const QDateTime& captured) const;
+    /// the job, counted from 0.
+    QString Stem(const QString& inputPath, int position, const Picture& picture) const;
 
 private:
     struct Part
@@ -39,9 +65,13 @@ private:
         QString text;
         int start = 0;
         int digits = 1;
+        TokenText tokens; ///< of TemplateTokens
+
+        bool HasNumber() const;
+        bool NeedsCaptureTime() const;
     };
 
-    static QString TextOf(const Part& part, const QString& inputPath, int position, const QDateTime& captured);
+    static QString TextOf(const Part& part, const QString& inputPath, int position, const Picture& picture);
 
     Part prefix;
     Part middle;

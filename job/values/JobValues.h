@@ -32,6 +32,10 @@ using ZTBatchValues::SizeRestriction;
 using ZTBatchValues::SizeSide;
 using ZTBatchValues::SizeUnit;
 
+/// A part of a name that is a text with tokens (job/tokens), in addition to the enumerators of the library, which
+/// stores the text and the first number with it.
+inline constexpr auto TemplateTokens = ZTBatchOutputSettings::NamingTemplate(6);
+
 /// One value as users write and read it.
 struct Word
 {
@@ -48,6 +52,7 @@ inline constexpr std::array NamingTemplateWords{
     Word{ZTBatchOutputSettings::TemplateCaptureTime, "time", Phrase::Marked("the capture time, HHMMSS")},
     Word{ZTBatchOutputSettings::TemplateCustomText, "text", Phrase::Marked("a text of your own")},
     Word{ZTBatchOutputSettings::TemplateNothing, "nothing", Phrase::Marked("nothing")},
+    Word{TemplateTokens, "tokens", Phrase::Marked("a text with tokens, such as {date}_{number:4}")},
 };
 
 inline constexpr std::array FolderStructureWords{

@@ -114,7 +114,7 @@ BatchJob::ProbeResult ProbeResultOf(const Report& report)
     const bool isYear = year >= 1 && year <= 9999;
     return {isYear ? report.captured : QDateTime(), OneLine(report.inputFormat),
             BatchJob::FindFormat(report.nearestFormat) ? report.nearestFormat : QString(),
-            CheckedFacts(report).inputSize};
+            CheckedFacts(report).inputSize, BatchJob::CleanTexts(report.texts)};
 }
 
 BatchJob::Trouble TroubleOf(const Report& failure)

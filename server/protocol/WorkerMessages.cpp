@@ -103,14 +103,15 @@ auto Fields(Record& record)
         return std::tie(record.number, record.inputFile);
     } else if constexpr (std::is_same_v<Plain, PictureTask>) {
         return std::tie(record.number, record.inputFile, record.outputFile, record.outputRoot, record.format,
-                        record.replaceExisting, record.keepsPixels);
+                        record.replaceExisting, record.keepsPixels, record.fileNumber);
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {
         return std::tie(record.number, record.failure, record.errorCode, record.reason, record.detail, record.warnings,
                         record.nearestFormat, record.inputFormat, record.captured, record.facts.inputSize,
-                        record.facts.outputSize, record.facts.quality, record.facts.milliseconds,
-                        record.usedKeptPixels);
+                        record.facts.outputSize, record.facts.quality, record.facts.milliseconds, record.texts.camera,
+                        record.texts.lens, record.texts.focal, record.texts.aperture, record.texts.shutter,
+                        record.texts.iso, record.texts.title, record.texts.creator, record.usedKeptPixels);
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "ServerLimits.h"
 
+#include "job/tokens/TokenValues.h"
 #include "job/values/PictureFacts.h"
 #include "job/values/PolicyValues.h"
 #include "job/values/Warning.h"
@@ -74,6 +75,7 @@ struct PictureTask
     QString format;               ///< one of Formats(), never "Original"
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
     bool keepsPixels = false;     ///< the next task reads the same input: what is slow to decode is kept for it
+    qint64 fileNumber = 1;        ///< of the file in texts of the result, see OutputNaming::NumberOf()
 };
 
 /// The worker begins a task.
@@ -98,6 +100,7 @@ struct Report
                                                                ///< of a probe: the size of the input
     bool usedKeptPixels = false;                               ///< the input was not decoded: an earlier task has kept
                                                                ///< its pixels
+    BatchJob::PictureTexts texts;                              ///< of a probe: for names
 };
 
 using ToWorker = std::variant<Job, ProbeTask, PictureTask>;

@@ -70,7 +70,9 @@ QString EffectReferencePage()
     QString page = QString::fromUtf8(introduction);
     for (const EffectSchema& effect : Effects()) {
         page += QStringLiteral("## %1\n\n%2.\n\n").arg(effect.id, effect.description);
-        page += QStringLiteral("![%1](effects/%1.jpg) `%2`\n\n").arg(effect.id, QString::fromUtf8(effect.example));
+        const QString picture =
+            effect.changesPixels ? QStringLiteral("![%1](effects/%1.jpg) ").arg(effect.id) : QString();
+        page += QStringLiteral("%1`%2`\n\n").arg(picture, QString::fromUtf8(effect.example));
         page += ParameterTable(effect.parameters);
         page += effect.definition + QStringLiteral("\n\n");
     }

@@ -107,6 +107,9 @@ void MakeReference(const QString& photo, const QDir& folder)
     const Picture original = Picture::thumbnail(QFile::encodeName(photo).constData(), width).copy_memory();
     WriteJpeg(original, folder.filePath(QStringLiteral("effects/original.jpg")));
     for (const EffectSchema& effect : Effects()) {
+        if (!effect.changesPixels) {
+            continue;
+        }
         WriteJpeg(ApplyEffect(effect, ParametersOf(effect, files), original),
                   folder.filePath(QStringLiteral("effects/%1.jpg").arg(effect.id)));
     }

@@ -347,11 +347,13 @@ bool Run::GivePicture(int file)
     const std::optional<FileIdentity> before = IdentityOf(output);
     std::optional<ResultOrigin> origin;
     if (update) {
-        origin = {input, StampOf(input).value_or(FileStamp()), recipes.at(names.JobOf(file)).For(format)};
+        origin = {input, StampOf(input).value_or(FileStamp()),
+                  recipes.at(names.JobOf(file)).For(format, names.NumberOf(file))};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
     const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));
-    const PictureTask task{file, input, output, outputRoot, format, mayReplace, SharesPixelsWithNext(file)};
+    const PictureTask task{
+        file, input, output, outputRoot, format, mayReplace, SharesPixelsWithNext(file), names.NumberOf(file)};
     Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
     return true;
 }

@@ -187,8 +187,8 @@ void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
         }
         const OutputPlan& names = plan.Names();
         const QString output = names.Output(i);
-        if (const RecordedResult* const recorded =
-                update->Unchanged(output, names.Input(i), recipes.at(names.JobOf(i)).For(names.Format(i)->name))) {
+        if (const RecordedResult* const recorded = update->Unchanged(
+                output, names.Input(i), recipes.at(names.JobOf(i)).For(names.Format(i)->name, names.NumberOf(i)))) {
             unchanged.append({i, {ResultKind::Unchanged, output, 0, {}, recorded->warnings, recorded->facts, {}, {}}});
         }
     }

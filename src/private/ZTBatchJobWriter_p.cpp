@@ -4,6 +4,7 @@
 #include "ZTBatchJobWriter_p.h"
 
 #include "ZTBatchInputOutline_p.h"
+#include "ZTBatchNaming_p.h"
 #include "ZTBatchOutputSettings.h"
 #include "ZTBatchXml_p.h"
 #include "ZTStyle.h"
@@ -148,8 +149,11 @@ void ZTBatchJobWriter::WriteNaming(const ZTBatchOutputSettings& settings)
         const Settings::NamingTemplate namingTemplate = settings.GetNamingTemplate(part);
         xml.StartElement(NameOf(part));
         xml.WriteAttribute(ZTBatchXml::type, int(namingTemplate));
-        if (namingTemplate == Settings::TemplateCustomText) {
+        if (ZTBatchNaming::HasText(namingTemplate)) {
             xml.WriteAttribute(ZTBatchXml::name, settings.GetCustomTemplate(part));
+        }
+        if (namingTemplate == ZTBatchNaming::templateTokens) {
+            xml.WriteAttribute(ZTBatchXml::startAt, settings.GetStartNumber(part));
         }
         if (namingTemplate == Settings::TemplateNumber) {
             xml.WriteAttribute(ZTBatchXml::startAt, settings.GetStartNumber(part));

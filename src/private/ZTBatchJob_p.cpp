@@ -3,6 +3,7 @@
 
 #include "ZTBatchJob_p.h"
 
+#include "ZTBatchNaming_p.h"
 #include "ZTStyle.h"
 
 #include <QPointer>
@@ -58,10 +59,10 @@ void ZTBatchJob::SetOutputOf(ZTBatchOutputSettings& settings) const
             if (target) {
                 target->SetNamingTemplate(naming.part, naming.namingTemplate);
             }
-            if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateCustomText) {
+            if (target && ZTBatchNaming::HasText(naming.namingTemplate)) {
                 target->SetCustomTemplate(naming.part, naming.customTemplate);
             }
-            if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateNumber) {
+            if (target && ZTBatchNaming::HasStartNumber(naming.namingTemplate)) {
                 target->SetStartNumber(naming.part, naming.startNumber);
             }
             if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateNumber) {

@@ -16,6 +16,7 @@
 #include "hosts/common/ProfileFile.h"
 #include "hosts/common/UserPath.h"
 #include "job/effects/EffectCatalog.h"
+#include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
@@ -235,6 +236,39 @@ QVector<JobOption> OutputOptions()
 
 // Names.
 
+bool HasNumberToken(const Settings& output, Settings::NamingPart part)
+{
+    return output.GetNamingTemplate(part) == BatchJob::TemplateTokens &&
+           TokenText(output.GetCustomTemplate(part)).Uses(Token::Number);
+}
+
+JobOption NumberStart()
+{
+    static constexpr std::array parts{Settings::PartPrefix, Settings::PartMiddle, Settings::PartSuffix};
+    return {{Text("--number-start"), Text("NUMBER"),
+             Phrase::English("what {number} in names begins with; 1, unless it is given"),
+             Phrase::English("Names of results")},
+            [](ZTBatchDocument& job, const QString& text) {
+                const int start = IntegerFromText(text, 0, std::numeric_limits<int>::max());
+                bool isUsed = false;
+                for (const Settings::NamingPart part : parts) {
+                    if (HasNumberToken(Output(job), part)) {
+                        Output(job).SetStartNumber(part, start);
+                        isUsed = true;
+                    }
+                }
+                Need(isUsed, text, Phrase::Marked("\"%1\" has no effect without {number} in a name; add it to --name"));
+            },
+            [](const ZTBatchDocument& job) {
+                for (const Settings::NamingPart part : parts) {
+                    if (HasNumberToken(Output(job), part)) {
+                        return QStringList{QString::number(Output(job).GetStartNumber(part))};
+                    }
+                }
+                return QStringList();
+            }};
+}
+
 bool HasPart(const ZTBatchDocument& job, Settings::NamingPart part)
 {
     return Output(job).GetNamingTemplate(part) != Settings::TemplateNothing;
@@ -254,12 +288,14 @@ QVector<JobOption> NameOptions()
     return {
         NamePart("--prefix", Settings::PartPrefix,
                  Phrase::English("what a name begins with; PART is the same as for --name")),
-        NamePart(
-            "--name", Settings::PartMiddle,
-            Phrase::English(
-                "the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
-                "date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing")),
+        NamePart("--name", Settings::PartMiddle,
+                 Phrase::English(
+                     "the middle of a name: original, the input's name; number, number:START or number:START:DIGITS; "
+                     "date and time, those of the capture, or of the file where a picture has none; text:TEXT; "
+                     "nothing; or a text "
+                     "with tokens, such as {date:YYYY-MM-DD}_{number:4}")),
         NamePart("--suffix", Settings::PartSuffix, Phrase::English("what a name ends with")),
+        NumberStart(),
         {{Text("--prefix-separator"), Text("TEXT"), Phrase::English("the text between prefix and middle"), group},
          [](ZTBatchDocument& job, const QString& text) {
              Need(text.isEmpty() || HasPart(job, Settings::PartPrefix), text,

@@ -6,6 +6,7 @@
 #include "Words.h"
 
 #include "hosts/common/UserPath.h"
+#include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
 #include <QDir>
@@ -32,6 +33,17 @@ QString HeadOf(const QString& text)
 QString TailOf(const QString& text)
 {
     return text.section(QLatin1Char(':'), 1);
+}
+
+void SetTokens(const QString& text, Settings::NamingPart part, Settings& settings)
+{
+    const TokenText tokens(text);
+    if (!tokens.IsValid()) {
+        throw RequestError{tokens.Error()};
+    }
+    settings.SetNamingTemplate(part, TemplateTokens);
+    settings.SetCustomTemplate(part, text);
+    settings.SetStartNumber(part, 1);
 }
 
 } // namespace
@@ -188,10 +200,18 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
     const QString value = TailOf(text);
     const QStringList words = AllWords(BatchJob::NamingTemplateWords);
     if (!words.contains(head, Qt::CaseInsensitive)) {
+        if (text.contains(QLatin1Char('{'))) {
+            SetTokens(text, part, settings);
+            return;
+        }
         throw RequestError{NoSuchWord(head, words).text +
                            Phrase::English("; write a text of your own as text:%1").arg(text)};
     }
     const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamingTemplateWords, head));
+    if (kind == TemplateTokens) {
+        SetTokens(value, part, settings);
+        return;
+    }
     const bool takesMore = kind == Settings::TemplateNumber || kind == Settings::TemplateCustomText;
     if (!takesMore && text.contains(QLatin1Char(':'))) {
         throw RequestError{Phrase::English("\"%1\" takes no value").arg(head)};
@@ -216,6 +236,9 @@ QString NamePartText(Settings::NamingPart part, const Settings& settings)
 {
     const Settings::NamingTemplate kind = settings.GetNamingTemplate(part);
     const QString word = WordOf(BatchJob::NamingTemplateWords, kind);
+    if (kind == TemplateTokens) {
+        return word + QLatin1Char(':') + settings.GetCustomTemplate(part);
+    }
     switch (kind) {
     case Settings::TemplateCustomText:
         return word + QLatin1Char(':') + settings.GetCustomTemplate(part);

@@ -37,7 +37,8 @@ QColor ColourFromText(const QString& text);
 void BackgroundFromText(const QString& text, ZTBatchOutputSettings::Transformation& transformation);
 QString BackgroundText(const ZTBatchOutputSettings::Transformation& transformation);
 
-/// What a part of a result's name holds: "original", "number[:START[:DIGITS]]", "date", "time", "text:TEXT", "nothing".
+/// What a part of a result's name holds: "original", "number[:START[:DIGITS]]", "date", "time", "text:TEXT", "nothing",
+/// "tokens:TEXT". A text that has a brace and begins with none of these words has tokens, too.
 void NamePartFromText(const QString& text, ZTBatchOutputSettings::NamingPart part, ZTBatchOutputSettings& settings);
 QString NamePartText(ZTBatchOutputSettings::NamingPart part, const ZTBatchOutputSettings& settings);
 

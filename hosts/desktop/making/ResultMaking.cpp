@@ -52,7 +52,8 @@ void ResultMaking::GiveResult()
     const QString suffix = QFileInfo(names.OutputName(0)).suffix();
     file = QDir(order.folder).filePath(order.name + QLatin1Char('.') + suffix);
     format = names.Format(0)->name;
-    worker->Give(PictureTask{++lastNumber, order.input, file, order.folder, format, false});
+    worker->Give(PictureTask{++lastNumber, order.input, file, order.folder, format, false,
+                             plan.job.settings.naming.NumberOf(0)});
 }
 
 void ResultMaking::OnReported(const Report& report)

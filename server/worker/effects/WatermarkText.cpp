@@ -81,6 +81,9 @@ Overlay Drawn(const Picture& letters, const PaintablePicture& paintable, double 
 Picture ApplyWatermarkText(const Picture& picture, const QJsonObject& parameters)
 {
     const QString text = Printable(parameters[QLatin1String("text")].toString());
+    if (text.trimmed().isEmpty() && parameters[QLatin1String("tokens")].toBool()) {
+        return picture; // The picture does not say what its text would be.
+    }
     if (text.trimmed().isEmpty()) {
         throw ProcessingFailed(BatchJob::Phrase::English("the text has no letters that could be drawn"));
     }

@@ -3,11 +3,11 @@
 
 #include "Copyright.h"
 
+#include "MetadataText.h"
 #include "RemoveEntries.h"
 #include "XmpPath.h"
 
 #include <QByteArrayList>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <initializer_list>
@@ -82,37 +82,17 @@ bool IsCharacterSet(const Exiv2::Iptcdatum& entry)
     return entry.record() == Exiv2::IptcDataSets::envelope && entry.tag() == Exiv2::IptcDataSets::CharacterSet;
 }
 
-std::string TextIn(const Exiv2::Xmpdatum& entry)
-{
-    const auto* alternatives = dynamic_cast<const Exiv2::LangAltValue*>(&entry.value());
-    if (!alternatives) {
-        return entry.toString();
-    }
-    const auto common = alternatives->value_.find("x-default");
-    const auto found = common == alternatives->value_.end() ? alternatives->value_.begin() : common;
-    return found == alternatives->value_.end() ? std::string() : found->second;
-}
-
 template<typename Entry>
 std::string TextIn(const Entry& entry)
 {
     return entry.toString();
 }
 
-// One line without blanks around it. The notices of photographer and editor have a zero between them.
-QString Text(const std::string& bytes)
-{
-    QTextCodec::ConverterState state;
-    const QByteArray text = QByteArray::fromStdString(bytes).replace('\0', ' ');
-    const QString decoded = QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    return (state.invalidChars == 0 ? decoded : QString::fromLatin1(text)).simplified();
-}
-
 template<typename Data>
 void AddNotice(CopyrightNotice& notice, const Data& data, const char* group)
 {
     for (const auto& entry : data) {
-        const QString text = IsNotice(entry) ? Text(TextIn(entry)) : QString();
+        const QString text = IsNotice(entry) ? LineOf(TextIn(entry)) : QString();
         if (!text.isEmpty()) {
             notice.groups.append(QLatin1String(group));
             notice.text = notice.text.isEmpty() ? text : notice.text;

@@ -8,13 +8,16 @@
 #include "CaptureTime.h"
 #include "Copyright.h"
 #include "MetadataEncoder.h"
+#include "MetadataTexts.h"
 #include "Places.h"
 #include "RemoveEntries.h"
 #include "SourceTraces.h"
+#include "TextsOfPicture.h"
 
 #include "server/worker/decode/PictureSource.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <exception>
 #include <exiv2/exiv2.hpp>
@@ -127,6 +130,11 @@ QDateTime Metadata::Captured() const
     return CaptureTime(*d);
 }
 
+BatchJob::PictureTexts Metadata::Texts() const
+{
+    return TextsOf(*d);
+}
+
 void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)
 {
     const bool keepsPlaces = kinds.contains(QLatin1String("gps"));
@@ -155,6 +163,11 @@ void Metadata::KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings)
             warnings.append({BatchJob::WarningKind::MetadataLost, LostNoticeText(notice)});
         }
     });
+}
+
+void Metadata::Set(const MetadataTexts& texts)
+{
+    d->OrNothing([&] { SetTexts(*d, texts); });
 }
 
 bool Metadata::GoWithoutExif() const
@@ -237,6 +250,12 @@ void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray
 bool Metadata::IsEmpty() const
 {
     return d->exif.empty() && d->iptc.empty() && d->xmp.empty();
+}
+
+QDateTime CapturedOrChanged(const Metadata& metadata, const QString& file)
+{
+    const QDateTime captured = metadata.Captured();
+    return captured.isValid() ? captured : QFileInfo(file).lastModified();
 }
 
 void OrientBy(const Metadata& metadata, PictureSource& source)

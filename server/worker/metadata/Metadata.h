@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "job/tokens/TokenValues.h"
 #include "job/values/Warning.h"
 
 #include <QByteArray>
@@ -17,6 +18,7 @@
 namespace BatchWorker {
 
 class PictureSource;
+struct MetadataTexts;
 
 /// The metadata of a picture: EXIF with GPS, IPTC, XMP. The colour profile comes from the decoder, with one exception,
 /// see Profile().
@@ -41,10 +43,16 @@ public:
     /// When the picture was taken, by the camera's clock as far as the file says; invalid if it does not.
     QDateTime Captured() const;
 
+    /// What the metadata say for tokens.
+    BatchJob::PictureTexts Texts() const;
+
     /// Removes what is not among `kinds`: "exif", "gps", "iptc", "xmp", and "copyright", which is a part of the others,
     /// see Copyright.h. Without "gps" all places are removed from the others, too, see Places.h. Warns of a copyright
     /// notice that is lost, unless nothing at all is to be kept.
     void KeepOnly(const QStringList& kinds, BatchJob::Warnings& warnings);
+
+    /// Writes `texts` over what is there, in all three; see SetTexts().
+    void Set(const MetadataTexts& texts);
 
     /// Whether the result must have no EXIF block: EXIF is not kept, and neither GPS positions nor a
     /// copyright are left in it.
@@ -82,6 +90,9 @@ private:
     struct Private;
     std::unique_ptr<Private> d;
 };
+
+/// When the picture in `file` was taken, or when the file was changed if its metadata do not say that.
+QDateTime CapturedOrChanged(const Metadata& metadata, const QString& file);
 
 /// Gives `source` the orientation that `metadata` state, where its decoder does not see it.
 void OrientBy(const Metadata& metadata, PictureSource& source);

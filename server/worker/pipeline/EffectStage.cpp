@@ -3,6 +3,7 @@
 
 #include "EffectStage.h"
 
+#include "job/effects/EffectTokens.h"
 #include "job/values/Phrase.h"
 
 #include "server/worker/effects/Effects.h"
@@ -31,6 +32,15 @@ Picture Applied(const JobEffect& effect, const Picture& picture)
 }
 
 } // namespace
+
+QVector<JobEffect> WithTokens(const QVector<JobEffect>& effects, const TokenValues& values)
+{
+    QVector<JobEffect> filled = effects;
+    for (JobEffect& effect : filled) {
+        effect.parameters = WithTokens(*effect.schema, effect.parameters, values);
+    }
+    return filled;
+}
 
 // `picture` is the only reference: what it refers to before an assignment is freed by that, which may be a large copy.
 Picture WithEffects(Picture picture, const QVector<JobEffect>& effects)

@@ -4,11 +4,16 @@
 #pragma once
 
 #include "job/settings/JobCheck.h"
+#include "job/tokens/TokenValues.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QVector>
 
 namespace BatchWorker {
+
+/// `effects` with `values` in the places of their tokens.
+QVector<BatchJob::JobEffect> WithTokens(const QVector<BatchJob::JobEffect>& effects,
+                                        const BatchJob::TokenValues& values);
 
 /// `picture` after `effects`, one after the other. Throws PictureFailure, ProcessingFailed, with the effect's id, when
 /// one of them fails; vips::VError when the pixels that it needs cannot be read.

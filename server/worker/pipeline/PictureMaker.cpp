@@ -26,6 +26,7 @@
 #include "server/worker/metadata/Companions.h"
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
+#include "server/worker/metadata/MetadataTexts.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/RandomAccess.h"
@@ -77,7 +78,9 @@ public:
         OrientBy(metadata, source);
         made.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
         WarnOf(companions);
+        effects = WithTokens(job.effects, Tokens());
         metadata.KeepOnly(keep, made.warnings);
+        SetMetadata();
     }
 
     MadePicture Make();
@@ -86,6 +89,8 @@ private:
     void MakeFile();
     void WarnOfOtherPages(int pages);
     void WarnOf(const Companions& companions);
+    TokenValues Tokens() const;
+    void SetMetadata();
     Picture Sized();
     void CheckResultSize(const QSize& size) const;
     Picture Decoded(int shrink);
@@ -95,7 +100,7 @@ private:
     void WriteWithin(const ByteLimit& limit, const Picture& picture);
     void WriteSmaller(const ByteLimit& limit, const Picture& picture, qint64 bytes);
     void KeepFileTime() const;
-    bool IsProcessed() const { return !job.effects.isEmpty() || job.framing.state; }
+    bool IsProcessed() const { return ChangePixels(effects) || job.framing.state; }
 
     const JobSettings& job;
     const ServerLimits& limits;
@@ -107,7 +112,8 @@ private:
     ResultColours colours;
     PictureSource source;
     Metadata metadata;
-    QByteArray profile; ///< of the result
+    QVector<JobEffect> effects; ///< with the texts of this picture
+    QByteArray profile;         ///< of the result
     MadePicture made;
 };
 
@@ -131,7 +137,7 @@ MadePicture PictureRun::Make()
 void PictureRun::MakeFile()
 {
     try {
-        const Picture framed = Framed(WithEffects(Sized(), job.effects));
+        const Picture framed = Framed(WithEffects(Sized(), effects));
         const int bits = ResultDepth(format, options, HasSixteenBits(framed));
         const Picture ready = colours.Of(framed, bits, made.warnings);
         RequireFormatHolds(format, options, ready, source.Format().name);
@@ -172,6 +178,25 @@ void PictureRun::WarnOf(const Companions& companions)
     }
     if (companions.hasAudio) {
         made.warnings.append({WarningKind::AudioLost, Phrase::English("it has audio, which the result lacks")});
+    }
+}
+
+/// Of the original, before anything is removed from its metadata.
+TokenValues PictureRun::Tokens() const
+{
+    TokenValues values = ValuesOfFile(task.inputFile, task.fileNumber);
+    values.captured = CapturedOrChanged(metadata, task.inputFile);
+    values.size = made.facts.inputSize;
+    values.texts = metadata.Texts();
+    return values;
+}
+
+void PictureRun::SetMetadata()
+{
+    for (const JobEffect& effect : qAsConst(effects)) {
+        if (effect.schema->kind == EffectKind::SetMetadata) {
+            metadata.Set(MetadataTexts::Of(effect.parameters));
+        }
     }
 }
 

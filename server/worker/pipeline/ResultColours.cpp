@@ -23,7 +23,7 @@ ResultColours::ResultColours(const JobSettings& job, const FormatSchema& format,
 // What lies under transparency is a colour, which inks would have to be mixed for.
 bool ResultColours::KeepsInks() const
 {
-    return (format.holdsTransparency || !isTransparent) && job.effects.isEmpty() && !job.framing.state &&
+    return (format.holdsTransparency || !isTransparent) && !ChangePixels(job.effects) && !job.framing.state &&
            job.profile.isEmpty() && format.holdsCmyk && KeepsProfile();
 }
 

@@ -7,9 +7,6 @@
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/metadata/Metadata.h"
 
-#include <QDateTime>
-#include <QFileInfo>
-
 using namespace BatchProtocol;
 
 namespace BatchWorker {
@@ -24,10 +21,8 @@ Report ProbeFile(const ProbeTask& task, const ServerLimits& limits)
     const Metadata metadata = Metadata::Of(task.inputFile, source, warnings);
     OrientBy(metadata, source);
     report.facts.inputSize = TurnedSize(source.StoredSize(), source.Orientation());
-    report.captured = metadata.Captured();
-    if (!report.captured.isValid()) {
-        report.captured = QFileInfo(task.inputFile).lastModified();
-    }
+    report.captured = CapturedOrChanged(metadata, task.inputFile);
+    report.texts = metadata.Texts();
     return report;
 }
 

@@ -84,6 +84,9 @@ class tst_CliOptions : public QObject
 private Q_SLOTS:
     void valuesReachTheJob();
     void everyValueCanBeReadBack();
+    void bracesMakeTokens_data();
+    void bracesMakeTokens();
+    void numbersOfTokensBeginWhereTheyAreTold();
     void wrongValuesAreExplained_data();
     void wrongValuesAreExplained();
     void anotherFormatDropsOptions();
@@ -168,6 +171,48 @@ void tst_CliOptions::everyValueCanBeReadBack()
     QCOMPARE(copy.Serialize(nullptr), job.Serialize(nullptr));
 }
 
+void tst_CliOptions::bracesMakeTokens_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("custom");
+    const auto row = [](const char* text, int kind, const char* custom) {
+        QTest::newRow(text) << QString::fromLatin1(text) << kind << QString::fromLatin1(custom);
+    };
+    row("{name}", 6, "{name}");
+    row("IMG {date:YYYY}: {number:4}", 6, "IMG {date:YYYY}: {number:4}");
+    row("original {name}", 6, "original {name}");
+    row("tokens:plain", 6, "plain");
+    row("tokens:text:{name}", 6, "text:{name}");
+    row("text:{name}", 4, "{name}");
+    row("text:{nme", 4, "{nme");
+}
+
+void tst_CliOptions::bracesMakeTokens()
+{
+    QFETCH(QString, text);
+    ZTBatchDocument job;
+    QCOMPARE(ErrorOf(job, QStringLiteral("--name"), text), QString());
+    const ZTBatchOutputSettings& output = *job.GetOutputSettings();
+    QTEST(int(output.GetNamingTemplate(ZTBatchOutputSettings::PartMiddle)), "kind");
+    QTEST(output.GetCustomTemplate(ZTBatchOutputSettings::PartMiddle), "custom");
+}
+
+// They are saved with the job.
+void tst_CliOptions::numbersOfTokensBeginWhereTheyAreTold()
+{
+    ZTBatchDocument job;
+    Option(QStringLiteral("--name")).apply(job, QStringLiteral("{number:2}"));
+    QCOMPARE(job.GetOutputSettings()->GetStartNumber(ZTBatchOutputSettings::PartMiddle), 1);
+    Option(QStringLiteral("--number-start")).apply(job, QStringLiteral("700"));
+    ZTBatchDocument read;
+    QVERIFY(read.Deserialize(job.Serialize(nullptr)));
+    QCOMPARE(read.GetOutputSettings()->GetStartNumber(ZTBatchOutputSettings::PartMiddle), 700);
+    QCOMPARE(read.GetOutputSettings()->GetCustomTemplate(ZTBatchOutputSettings::PartMiddle),
+             QStringLiteral("{number:2}"));
+    QCOMPARE(Option(QStringLiteral("--number-start")).texts(read), QStringList{QStringLiteral("700")});
+}
+
 void tst_CliOptions::wrongValuesAreExplained_data()
 {
     QTest::addColumn<QString>("option");
@@ -188,6 +233,10 @@ void tst_CliOptions::wrongValuesAreExplained_data()
     row("--icc", "/dev/null", "not an ICC profile");
     row("--name", "Holiday", "text:Holiday");
     row("--name", "date:3", "takes no value");
+    row("--name", "{dat}", "\"{dat}\" at character 1 is not a token; did you mean \"{date}\"?");
+    row("--prefix", "a{number:9x}", "at character 2 cannot be used: the number of digits");
+    row("--suffix", "tokens:}", "\"}\" at character 1 closes no token");
+    row("--number-start", "5", "has no effect without {number} in a name");
     row("--name", "number:x", "not a whole number");
     row("--name", "number:1:21", "from 1 to 20");
     row("--size", "0", "not a length above 0");

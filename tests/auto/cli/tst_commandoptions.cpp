@@ -7,6 +7,7 @@
 #include "hosts/common/ShellLine.h"
 #include "hosts/common/options/CommandOptions.h"
 #include "hosts/common/options/JobOptions.h"
+#include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -111,6 +112,25 @@ void tst_CommandOptions::optionsMakeTheSameJob_data()
         output.SetNamingTemplate(Output::PartPrefix, Output::TemplateCustomText);
         output.SetCustomTemplate(Output::PartPrefix, QStringLiteral("--no, 'it' \"is\": $x"));
         output.SetPrefixSeparator(QStringLiteral("-"));
+    });
+    row("tokens", [](ZTBatchDocument& job) {
+        Output& output = *job.GetOutputSettings();
+        output.SetNamingTemplate(Output::PartMiddle, BatchJob::TemplateTokens);
+        output.SetCustomTemplate(Output::PartMiddle, QStringLiteral("{{x}} {date:YYYY-MM-DD}: {number:4}, '$HOME'"));
+        output.SetStartNumber(Output::PartMiddle, 40);
+        job.GetStyle()->AppendEffect(QStringLiteral("watermark-text"), R"({"text":"{name}, x=1","tokens":true})", true);
+        job.GetStyle()->AppendEffect(QStringLiteral("set-metadata"),
+                                     R"({"copyright":"(c) {date:YYYY}, a=b","keywords":"a, b; c"})", true);
+    });
+    row("tokens that begin like a word", [](ZTBatchDocument& job) {
+        Output& output = *job.GetOutputSettings();
+        output.SetNamingTemplate(Output::PartSuffix, BatchJob::TemplateTokens);
+        output.SetCustomTemplate(Output::PartSuffix, QStringLiteral("text:{name}"));
+    });
+    row("braces without tokens", [](ZTBatchDocument& job) {
+        Output& output = *job.GetOutputSettings();
+        output.SetNamingTemplate(Output::PartMiddle, Output::TemplateCustomText);
+        output.SetCustomTemplate(Output::PartMiddle, QStringLiteral("{date} {x}"));
     });
     row("format with options", [](ZTBatchDocument& job) {
         job.GetOutputSettings()->SetFormat(QStringLiteral("JPEG"), R"({"keep":["exif","icc"],"quality":91})");

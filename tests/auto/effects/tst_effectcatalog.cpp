@@ -38,7 +38,7 @@ void tst_EffectCatalog::listsEveryEffect()
     QCOMPARE(ids.join(QLatin1Char(' ')),
              QStringLiteral("exposure brightness-contrast levels curve auto-levels white-balance saturation vibrance "
                             "hue grayscale sepia invert posterize blur sharpen denoise clarity vignette lut rotate "
-                            "flip border watermark-text watermark-image"));
+                            "flip border watermark-text watermark-image set-metadata"));
     QCOMPARE(FindEffect(QStringLiteral("Exposure")), nullptr);
     QCOMPARE(FindEffect(QString()), nullptr);
 }
@@ -107,6 +107,18 @@ void tst_EffectCatalog::refuses_data()
     row("watermark-text", R"({"text": "a", "position": "middle"})",
         "\"position\" is \"middle\"; it must be one of bottom-right, bottom, bottom-left, right, centre, left, "
         "top-right, top, top-left");
+    row("watermark-text", R"({"text": "{nam}", "tokens": true})",
+        "text: \"{nam}\" at character 1 is not a token; did you mean \"{name}\"?");
+    row("watermark-text", R"({"text": "a}", "tokens": true})",
+        "text: \"}\" at character 2 closes no token; write }} for a brace");
+    row("set-metadata", R"({"title": "{number:x}"})",
+        "title: \"{number:x}\" at character 1 cannot be used: the number of digits must be a whole number from 1 to "
+        "64");
+    row("set-metadata", R"({"usageTerms": "{"})",
+        "usageTerms: \"{\" at character 1 begins a token that has no end; write {{ for a brace");
+    row("set-metadata", R"({"keywords": ["a"]})", "\"keywords\" is [\"a\"]; it must be a text of 0 to 2000 characters");
+    row("set-metadata", R"({"author": "a"})",
+        "\"author\" is unknown; known are creator, copyright, credit, title, keywords, usageTerms");
     row("watermark-image", "{}", "\"file\" is missing; it must be the absolute path of a file");
     row("watermark-image", R"({"file": "logo.png"})",
         "\"file\" is \"logo.png\"; it must be the absolute path of a file");
@@ -146,6 +158,10 @@ void tst_EffectCatalog::acceptsWhatIsAtTheLimits_data()
     QTest::addColumn<QByteArray>("parameters");
 
     QTest::newRow("levels") << QStringLiteral("levels") << QByteArray(R"({"black": 99.9, "white": 100, "gamma": 0.1})");
+    QTest::newRow("a brace without tokens") << QStringLiteral("watermark-text") << QByteArray(R"({"text": "{x}"})");
+    QTest::newRow("tokens") << QStringLiteral("watermark-text")
+                            << QByteArray(R"({"text": "{{{date:YYYY}}}", "tokens": true})");
+    QTest::newRow("no metadata") << QStringLiteral("set-metadata") << QByteArray("{}");
     QTest::newRow("border") << QStringLiteral("border") << QByteArray(R"({"top": 100, "unit": "percent"})");
     QTest::newRow("border pixels") << QStringLiteral("border") << QByteArray(R"({"top": 10000})");
     QTest::newRow("text") << QStringLiteral("watermark-text")
@@ -174,7 +190,7 @@ void tst_EffectCatalog::pictureOfEveryEffectIsThere()
     qint64 bytes = 0;
     for (const EffectSchema& effect : Effects()) {
         const QFileInfo picture(folder.filePath(QStringLiteral("effects/%1.jpg").arg(effect.id)));
-        QVERIFY2(picture.exists(), qPrintable(picture.filePath()));
+        QVERIFY2(picture.exists() == effect.changesPixels, qPrintable(picture.filePath()));
         bytes += picture.size();
         QVERIFY2(!effect.example.isEmpty(), qPrintable(effect.id));
     }

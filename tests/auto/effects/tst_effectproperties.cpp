@@ -94,6 +94,8 @@ const QVector<Case>& Cases()
         {"border", R"({"top": 50, "unit": "percent", "colour": "#10ff1080"})", false, false, true, true},
         {"watermark-text", R"({"text": "W", "size": 60})", true, false},
         {"watermark-text", R"({"text": "a <b> & c\nd", "tile": true, "colour": "#ff8000c0"})", true, false, true},
+        {"watermark-text", R"({"text": "W", "size": 60, "tokens": true})", true, false},
+        {"set-metadata", R"({"title": "T"})"},
         {"watermark-image", R"({"size": 60})", true, false, true},
         {"watermark-image", R"({"size": 9, "unit": "pixels", "tile": true, "opacity": 40})", true, false, true},
     };
@@ -129,6 +131,7 @@ const QMap<QString, QByteArray>& NeutralParameters()
         {QStringLiteral("border"), R"({"colour": "#ff000000"})"},
         {QStringLiteral("watermark-text"), R"({"text": "W", "opacity": 0})"},
         {QStringLiteral("watermark-image"), R"({"opacity": 0})"},
+        {QStringLiteral("set-metadata"), R"({"title": "T"})"},
     };
     return neutral;
 }
@@ -147,7 +150,8 @@ const QStringList& NeutralByDefault()
                                  QStringLiteral("levels"),        QStringLiteral("curve"),
                                  QStringLiteral("white-balance"), QStringLiteral("saturation"),
                                  QStringLiteral("vibrance"),      QStringLiteral("hue"),
-                                 QStringLiteral("rotate"),        QStringLiteral("border")};
+                                 QStringLiteral("rotate"),        QStringLiteral("border"),
+                                 QStringLiteral("set-metadata")};
     return ids;
 }
 

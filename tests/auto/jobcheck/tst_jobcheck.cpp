@@ -4,6 +4,7 @@
 #include "InputNodes.h"
 
 #include "job/settings/JobCheck.h"
+#include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void unusedValuesAreNotLookedAt();
     void effects_data();
     void effects();
+    void metadataChangeNoPixels();
     void emptyJob();
     void policies_data();
     void policies();
@@ -87,6 +89,14 @@ Change Format(const char* format, const QByteArray& options = {})
     return [=](Settings& settings) { settings.SetFormat(QLatin1String(format), options); };
 }
 
+Change Tokens(Settings::NamingPart part, const char* text)
+{
+    return [=](Settings& settings) {
+        settings.SetNamingTemplate(part, TemplateTokens);
+        settings.SetCustomTemplate(part, QString::fromLatin1(text));
+    };
+}
+
 Change Part(Settings::NamingPart part, int kind, int digits = 1)
 {
     return [=](Settings& settings) {
@@ -137,11 +147,23 @@ void tst_JobCheck::values_data()
     refused(
         "structure", [](Settings& settings) { settings.SetFolderStructure(Settings::FolderStructure(3)); },
         "The folder structure is 3; it must be one of 0 (flat), 1 (input), 2 (date)");
-    refused("prefix", Part(Settings::PartPrefix, 6), "The name's prefix is 6; it must be one of 0 (original)");
+    refused("prefix", Part(Settings::PartPrefix, 7), "The name's prefix is 7; it must be one of 0 (original)");
     refused("middle", Part(Settings::PartMiddle, -1), "The name's middle is -1; it must be");
     refused("suffix", Part(Settings::PartSuffix, 1000), "The name's suffix is 1000; it must be");
     refused("digits", Part(Settings::PartMiddle, Settings::TemplateNumber, 65),
             "The number of digits in the name's middle is 65; it must be a whole number from 1 to 64");
+    refused("unknown token", Tokens(Settings::PartMiddle, "a {nme}"),
+            "The name's middle: \"{nme}\" at character 3 is not a token; did you mean \"{name}\"?");
+    refused("digits of a token", Tokens(Settings::PartSuffix, "{number:0}"),
+            "The name's suffix: \"{number:0}\" at character 1 cannot be used: the number of digits must be");
+    refused("date pattern", Tokens(Settings::PartPrefix, "{date:D.M.}"),
+            "The name's prefix: \"{date:D.M.}\" at character 1 cannot be used: a date is made of YYYY, YY, MM and DD");
+    refused("open brace", Tokens(Settings::PartMiddle, "{name"), "The name's middle: \"{\" at character 1 begins");
+    accepted("tokens", Tokens(Settings::PartMiddle, "{{{date:YYYY-MM-DD}_{number:4}}}"));
+    accepted("a text without tokens", [](Settings& settings) {
+        settings.SetNamingTemplate(Settings::PartMiddle, Settings::TemplateCustomText);
+        settings.SetCustomTemplate(Settings::PartMiddle, QStringLiteral("{nme} }{"));
+    });
     accepted("most digits", Part(Settings::PartMiddle, Settings::TemplateNumber, 64));
 
     refused("format", Format("jpeg"), "The format is \"jpeg\"; it must be one of Original, JPEG");
@@ -292,6 +314,10 @@ void tst_JobCheck::effects_data()
     QTest::newRow("percent signs") << "exposure" << QByteArray("{\"%1%2\": 1}") << true
                                    << int(ZTBatchMessage::ApplyAdjustmentError)
                                    << "Effect 2, \"exposure\": \"%1%2\" is unknown";
+    QTest::newRow("token")
+        << "watermark-text" << QByteArray("{\"text\": \"{x}\", \"tokens\": true}") << true
+        << int(ZTBatchMessage::ApplyAdjustmentError)
+        << "Effect 2, \"watermark-text\": text: \"{x}\" at character 1 is not a token; the tokens are";
     QTest::newRow("disabled") << "exposur" << QByteArray("{") << false << int(ZTBatchMessage::NoError) << QString();
 }
 
@@ -311,6 +337,16 @@ void tst_JobCheck::effects()
     if (checked.IsAccepted()) {
         QCOMPARE(checked.settings.effects.size(), 1);
     }
+}
+
+void tst_JobCheck::metadataChangeNoPixels()
+{
+    ZTBatchDocument job;
+    Describe(job);
+    job.GetStyle()->AppendEffect(QStringLiteral("set-metadata"), R"({"title":"{name}"})", true);
+    QVERIFY(!ChangePixels(CheckJob(job).settings.effects));
+    job.GetStyle()->AppendEffect(QStringLiteral("invert"), {}, true);
+    QVERIFY(ChangePixels(CheckJob(job).settings.effects));
 }
 
 void tst_JobCheck::emptyJob()

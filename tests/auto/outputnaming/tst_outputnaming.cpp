@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "job/settings/OutputNaming.h"
+#include "job/values/JobValues.h"
 
 #include <QtTest>
 
@@ -18,6 +19,13 @@ private Q_SLOTS:
     void separators_data();
     void separators();
     void captureTimes();
+    void tokens_data();
+    void tokens();
+    void tokensOfOneFile();
+    void tokenNeeds_data();
+    void tokenNeeds();
+    void numbers_data();
+    void numbers();
     void cleanNames_data();
     void cleanNames();
     void lengthLimit_data();
@@ -134,6 +142,108 @@ void tst_OutputNaming::captureTimes()
     QCOMPARE(Middle(Settings::TemplateCaptureDate).Stem(QStringLiteral("/in/a.jpg"), 0, {}),
              QStringLiteral("00000000"));
     QCOMPARE(Middle(Settings::TemplateCaptureTime).Stem(QStringLiteral("/in/a.jpg"), 0, {}), QStringLiteral("000000"));
+}
+
+void tst_OutputNaming::tokens_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("stem");
+    const auto row = [](const char* text, const char* stem) {
+        QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(stem);
+    };
+    row("{date:YYYY-MM-DD}_{number:4}", "2024-02-29_0012");
+    row("{date:YYYY/MM}", "2024_02");
+    row("{time:HH:MM}", "12_05");
+    row("{name}", "a.b");
+    row("{folder} {name}", "in a.b");
+    row("{title}", "a.b");
+    row(" {title} ", "a.b");
+    row("{title} {camera}", "EOS");
+    row("{shutter}s", "1_250s");
+    row("{lens}", ".._.._etc_passwd");
+    row("{iso}", "__");
+    row("{creator}", "_");
+    row("{{name}}", "{name}");
+    row("{width}x{height}", "300x200");
+    row("{aperture}", "2.8");
+}
+
+// Whatever a picture says, its name is one name.
+void tst_OutputNaming::tokens()
+{
+    QFETCH(QString, text);
+    PictureTexts texts;
+    texts.camera = QStringLiteral("EOS");
+    texts.lens = QStringLiteral("../../etc/passwd");
+    texts.aperture = QStringLiteral("2.8");
+    texts.shutter = QStringLiteral("1/250");
+    texts.iso = QStringLiteral("..");
+    texts.creator = QStringLiteral("NUL");
+    const OutputNaming naming = Middle(TemplateTokens, text, 5);
+    QTEST(naming.Stem(QStringLiteral("/photos/in/a.b.jpg"), 7, {noon, QSize(300, 200), texts}), "stem");
+}
+
+void tst_OutputNaming::tokensOfOneFile()
+{
+    const OutputNaming naming = Middle(TemplateTokens, QStringLiteral("{date}{camera}{name}"));
+    QCOMPARE(naming.Stem(QStringLiteral("/a.jpg"), 0, {}), QStringLiteral("a"));
+    const OutputNaming literal = Middle(Settings::TemplateCustomText, QStringLiteral("{date}{{x"));
+    QCOMPARE(literal.Stem(QStringLiteral("/a.jpg"), 0, noon), QStringLiteral("{date}{{x"));
+    QVERIFY(!literal.NeedsPicture());
+}
+
+void tst_OutputNaming::tokenNeeds_data()
+{
+    QTest::addColumn<bool>("picture");
+    QTest::addColumn<bool>("texts");
+    QTest::newRow("{name}{number}{folder}") << false << false;
+    QTest::newRow("{date}") << true << false;
+    QTest::newRow("{time:HH}") << true << false;
+    QTest::newRow("{width}") << true << true;
+    QTest::newRow("{date}{title}") << true << true;
+}
+
+void tst_OutputNaming::tokenNeeds()
+{
+    const OutputNaming naming = Middle(TemplateTokens, QString::fromLatin1(QTest::currentDataTag()));
+    QTEST(naming.NeedsPicture(), "picture");
+    QTEST(naming.NeedsPictureTexts(), "texts");
+}
+
+void tst_OutputNaming::numbers_data()
+{
+    QTest::addColumn<int>("prefix");
+    QTest::addColumn<int>("middle");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("number");
+    const int number = Settings::TemplateNumber;
+    const int nothing = Settings::TemplateNothing;
+    const int tokens = TemplateTokens;
+    const QString with = QStringLiteral("{number:3}");
+    const QString without = QStringLiteral("{name}");
+    QTest::newRow("no number") << nothing << nothing << with << qint64(4);
+    QTest::newRow("a number") << nothing << number << with << qint64(203);
+    QTest::newRow("two numbers") << number << number << with << qint64(103);
+    QTest::newRow("a token") << nothing << tokens << with << qint64(203);
+    QTest::newRow("tokens without a number") << nothing << tokens << without << qint64(4);
+    QTest::newRow("tokens before a number") << tokens << number << without << qint64(203);
+    QTest::newRow("a token before a number") << tokens << number << with << qint64(103);
+}
+
+void tst_OutputNaming::numbers()
+{
+    QFETCH(int, prefix);
+    QFETCH(int, middle);
+    QFETCH(QString, text);
+    Settings settings(nullptr);
+    settings.SetNamingTemplate(Settings::PartPrefix, Settings::NamingTemplate(prefix));
+    settings.SetNamingTemplate(Settings::PartMiddle, Settings::NamingTemplate(middle));
+    settings.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
+    settings.SetStartNumber(Settings::PartPrefix, 100);
+    settings.SetStartNumber(Settings::PartMiddle, 200);
+    settings.SetCustomTemplate(Settings::PartPrefix, text);
+    settings.SetCustomTemplate(Settings::PartMiddle, text);
+    QTEST(OutputNaming(settings).NumberOf(3), "number");
 }
 
 void tst_OutputNaming::cleanNames_data()

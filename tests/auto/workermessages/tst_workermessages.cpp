@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "server/protocol/TaskFailure.h"
 #include "server/protocol/WorkerMessages.h"
 
 #include <QTimeZone>
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void unknownPolicyIsKept();
     void countOfWarningsIsNotBelieved_data();
     void countOfWarningsIsNotBelieved();
+    void textsAreCarriedAndCleaned();
+    void numbersOfFilesAreCarried();
     void countOfFilesIsNotBelieved_data();
     void countOfFilesIsNotBelieved();
     void timesComeWithoutTheirZone();
@@ -125,6 +128,32 @@ void tst_WorkerMessages::countOfWarningsIsNotBelieved()
     reader.Append(frame);
     QVERIFY(!reader.NextFromWorker());
     QVERIFY(reader.IsBroken());
+}
+
+void tst_WorkerMessages::textsAreCarriedAndCleaned()
+{
+    Report report;
+    report.texts.camera = QStringLiteral("EOS");
+    report.texts.creator = QStringLiteral("a\nb\u202E") + QString(1000, QLatin1Char('x'));
+    FrameReader reader;
+    reader.Append(FrameFromWorker(report));
+    const std::optional<FromWorker> message = reader.NextFromWorker();
+    QVERIFY(message && std::holds_alternative<Report>(*message));
+    const PictureTexts texts = ProbeResultOf(std::get<Report>(*message)).texts;
+    QCOMPARE(texts.camera, QStringLiteral("EOS"));
+    QCOMPARE(texts.title, QString());
+    QCOMPARE(texts.creator, QStringLiteral("a b ") + QString(251, QLatin1Char('x')));
+}
+
+void tst_WorkerMessages::numbersOfFilesAreCarried()
+{
+    PictureTask task;
+    task.fileNumber = qint64(1) << 40;
+    FrameReader reader;
+    reader.Append(FrameToWorker(task));
+    const std::optional<ToWorker> message = reader.NextToWorker();
+    QVERIFY(message && std::holds_alternative<PictureTask>(*message));
+    QCOMPARE(std::get<PictureTask>(*message).fileNumber, task.fileNumber);
 }
 
 void tst_WorkerMessages::countOfFilesIsNotBelieved_data()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void otherFilesAreNotReplaced();
     void changedResultsAreNotReplaced();
     void namesAreThoseOfTheWholeJob();
+    void numbersInPicturesCount();
     void severalResultsOfEachPicture();
     void orphansAreListedAndRemoved();
     void orphansStayIfInputsCannotBeRead();
@@ -279,6 +280,19 @@ void tst_CliUpdate::namesAreThoseOfTheWholeJob()
     QCOMPARE(ContentOf(Path(QStringLiteral("out/001.jpg"))), first);
     QVERIFY2(last.err.contains("1 result is left from an input that is gone"), last.err.constData());
     QVERIFY2(last.err.contains("/out/005.jpg\n"), last.err.constData());
+}
+
+// A new input in front gives all later ones another number, which a watermark may show.
+void tst_CliUpdate::numbersInPicturesCount()
+{
+    const QString numbered = QStringLiteral("--effect watermark-text:text={number},tokens=true");
+    const QString named = QStringLiteral("--effect watermark-text:text={name},tokens=true");
+    COMPARE_COUNTS(Update(numbered), 4, 0, 0, 0);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("in/0.jpg")), 9, 80, 60);
+    COMPARE_COUNTS(Update(numbered), 5, 0, 0, 0);
+    COMPARE_COUNTS(Update(named), 5, 0, 0, 0);
+    QVERIFY(QFile::remove(Path(QStringLiteral("in/0.jpg"))));
+    COMPARE_COUNTS(Update(named), 0, 4, 0, 0);
 }
 
 void tst_CliUpdate::severalResultsOfEachPicture()

@@ -141,7 +141,7 @@ void EffectChain::SetParameter(int row, const QString& name, const QJsonValue& v
         if (parameter.name == name) {
             QVector<Settings::Effect> wanted = effects;
             wanted[row].parameters = WithValue(wanted.at(row).parameters, parameter, value);
-            Change(wanted, Messages::tr("%1: %2").arg(NameOf(schema->id), ShownName(name)),
+            Change(wanted, Messages::tr("%1: %2").arg(NameOf(schema->id), ShownParameter(name)),
                    QStringLiteral("effects.%1.%2").arg(row).arg(name));
         }
     }

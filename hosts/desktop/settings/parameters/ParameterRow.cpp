@@ -45,7 +45,7 @@ bool ParameterRow::operator==(const ParameterRow& other) const
 
 ParameterRow RowOf(const ParameterSchema& schema, const QString& prefix)
 {
-    ParameterRow row{schema, ShownName(schema.name), prefix + QLatin1Char('.') + schema.name};
+    ParameterRow row{schema, ShownParameter(schema.name), prefix + QLatin1Char('.') + schema.name};
     row.help = HelpOf(schema);
     row.problemStart = QLatin1Char('"') + schema.name + QLatin1Char('"');
     for (const QString& choice : schema.type == ParameterType::Choice ? schema.choices : QStringList()) {

@@ -52,6 +52,8 @@ constexpr std::array shownTexts{
     ShownText{"compressionLevel", Messages::Marked("Compression level")},
     ShownText{"contrast", Messages::Marked("Contrast")},
     ShownText{"copyright", Messages::Marked("Creator and rights")},
+    ShownText{"creator", Messages::Marked("Creator")},
+    ShownText{"credit", Messages::Marked("Credit")},
     ShownText{"curve", Messages::Marked("Curve")},
     ShownText{"deflate", Messages::Marked("Deflate")},
     ShownText{"denoise", Messages::Marked("Denoise")},
@@ -72,6 +74,7 @@ constexpr std::array shownTexts{
     ShownText{"jpeg", Messages::Marked("JPEG")},
     ShownText{"keep", Messages::Marked("Kept metadata")},
     ShownText{"keepFileTime", Messages::Marked("Keep the time of the file")},
+    ShownText{"keywords", Messages::Marked("Keywords")},
     ShownText{"left", Messages::Marked("Left")},
     ShownText{"levels", Messages::Marked("Levels")},
     ShownText{"lossless", Messages::Marked("Lossless")},
@@ -97,6 +100,7 @@ constexpr std::array shownTexts{
     ShownText{"rotate", Messages::Marked("Rotate")},
     ShownText{"saturation", Messages::Marked("Saturation")},
     ShownText{"sepia", Messages::Marked("Sepia")},
+    ShownText{"set-metadata", Messages::Marked("Write metadata")},
     ShownText{"sharpen", Messages::Marked("Sharpen")},
     ShownText{"sigma", Messages::Marked("Radius (sigma)")},
     ShownText{"size", Messages::Marked("Size")},
@@ -110,12 +114,15 @@ constexpr std::array shownTexts{
     ShownText{"threshold", Messages::Marked("Threshold")},
     ShownText{"tile", Messages::Marked("Tiles")},
     ShownText{"tint", Messages::Marked("Tint")},
+    ShownText{"title", Messages::Marked("Title")},
     ShownText{"together", Messages::Marked("Together")},
+    ShownText{"tokens", Messages::Marked("Text has tokens")},
     ShownText{"top", Messages::Marked("Top")},
     ShownText{"top-left", Messages::Marked("Top left")},
     ShownText{"top-right", Messages::Marked("Top right")},
     ShownText{"trilinear", Messages::Marked("Trilinear")},
     ShownText{"unit", Messages::Marked("Unit")},
+    ShownText{"usageTerms", Messages::Marked("Usage terms")},
     ShownText{"vertical", Messages::Marked("Vertical")},
     ShownText{"vibrance", Messages::Marked("Vibrance")},
     ShownText{"vignette", Messages::Marked("Vignette")},
@@ -170,6 +177,11 @@ QString ShownName(const QString& name)
     }
     const char* const text = Texts().value(name);
     return text != nullptr ? Messages::tr(text) : InItsWords(name);
+}
+
+QString ShownParameter(const QString& name)
+{
+    return name == QLatin1String("copyright") ? Messages::tr("Copyright notice") : ShownName(name);
 }
 
 bool HasShownName(const QString& name)

@@ -12,6 +12,9 @@ namespace BatchDesktop {
 /// words yet is shown in English, in its own words.
 QString ShownName(const QString& name);
 
+/// The same for a parameter, where it is not what a choice of the same name is.
+QString ShownParameter(const QString& name);
+
 /// Whether the name has words that are translated.
 bool HasShownName(const QString& name);
 

@@ -30,9 +30,12 @@ struct Part
     const char* checkedDigits;
 };
 
-std::function<bool(const Settings&)> IsOf(std::size_t part, Output::NamingTemplate kind)
+/// Whether a part of the name is one of `kinds`.
+std::function<bool(const Settings&)> IsOf(std::size_t part, std::initializer_list<Output::NamingTemplate> kinds)
 {
-    return [part, kind](const Settings& settings) { return settings.nameParts[part].kind == kind; };
+    return [part, kinds = QVector<Output::NamingTemplate>(kinds)](const Settings& settings) {
+        return kinds.contains(settings.nameParts[part].kind);
+    };
 }
 
 QVector<BoundParameter> ParametersOf(const Part& part)
@@ -48,17 +51,17 @@ QVector<BoundParameter> ParametersOf(const Part& part)
         {TextRow((name + "Text").constData(), part.text, longestText),
          [place](const Settings& settings) { return settings.nameParts[place].text; },
          [place](Settings& settings, const QJsonValue& value) { settings.nameParts[place].text = value.toString(); },
-         IsOf(place, Output::TemplateCustomText)},
+         IsOf(place, {Output::TemplateCustomText, TemplateTokens})},
         {IntegerRow((name + "Start").constData(), part.start, 0, highestNumber, "", ""),
          [place](const Settings& settings) { return settings.nameParts[place].startNumber; },
          [place](Settings& settings, const QJsonValue& value) {
              settings.nameParts[place].startNumber = value.toInt();
          },
-         IsOf(place, Output::TemplateNumber)},
+         IsOf(place, {Output::TemplateNumber, TemplateTokens})},
         {IntegerRow((name + "Digits").constData(), part.digits, 1, mostDigits, "", part.checkedDigits),
          [place](const Settings& settings) { return settings.nameParts[place].digits; },
          [place](Settings& settings, const QJsonValue& value) { settings.nameParts[place].digits = value.toInt(); },
-         IsOf(place, Output::TemplateNumber)},
+         IsOf(place, {Output::TemplateNumber})},
     };
 }
 

@@ -32,9 +32,13 @@ QString ExtensionOf(const QString& formatName, const QString& file)
     return (format ? *format : NearestFormat(FormatOf(FormatId::Raw).name)).extensions.first();
 }
 
-QDateTime SampleTime()
+/// What names are made of until a worker has looked at the picture.
+OutputNaming::Picture SamplePicture()
 {
-    return {QDate(2024, 7, 31), QTime(14, 5, 9)};
+    return {QDateTime(QDate(2024, 7, 31), QTime(14, 5, 9)),
+            QSize(6000, 4000),
+            {Messages::tr("Camera"), Messages::tr("Lens"), QStringLiteral("50"), QStringLiteral("2.8"),
+             QStringLiteral("1/250"), QStringLiteral("400"), Messages::tr("Title"), Messages::tr("Creator")}};
 }
 
 } // namespace
@@ -67,14 +71,21 @@ QString NamesSection::ExampleName() const
 {
     const OutputNaming naming(*Job().Document().GetOutputSettings());
     const QString file = exampleFile.isEmpty() ? QStringLiteral("IMG_0412.jpg") : exampleFile;
-    const QString stem = naming.Stem(file, examplePosition, exampleTime.isValid() ? exampleTime : SampleTime());
+    OutputNaming::Picture picture = SamplePicture();
+    if (exampleTime.isValid()) {
+        picture.captured = exampleTime;
+    }
+    const QString stem = naming.Stem(file, examplePosition, picture);
     return FileName(stem, {}, ExtensionOf(Now().format, file));
 }
 
 QString NamesSection::ExampleText() const
 {
-    const bool needsTime = OutputNaming(*Job().Document().GetOutputSettings()).NeedsCaptureTime();
-    if (needsTime && !exampleTime.isValid()) {
+    const OutputNaming naming(*Job().Document().GetOutputSettings());
+    if (naming.NeedsPictureTexts()) {
+        return Messages::tr("Example, with what a picture might say: %1").arg(ExampleName());
+    }
+    if (naming.NeedsCaptureTime() && !exampleTime.isValid()) {
         return Messages::tr("Example, as if it had been taken on 2024-07-31 at 14:05:09: %1").arg(ExampleName());
     }
     return Messages::tr("Example: %1").arg(ExampleName());
