@@ -347,7 +347,8 @@ void tst_CliShellDocs::zshDescribes_data()
     row("velkora-batch run --format J", "jpeg  -- |jxl   -- |jp2   -- ", "png");
     row("velkora-batch run --format=j", "jpeg  -- |jxl   -- |jp2   -- ", "png");
     row("velkora-batch effects s", "sepia         -- |set-metadata  -- |sharpen       -- ");
-    row("velkora-batch run --name t", "text    -- |time    -- |tokens  -- a text with tokens, such as {date}_{number:4}");
+    row("velkora-batch run --name t",
+        "text    -- |time    -- |tokens  -- a text with tokens, such as {date}_{number:4}");
     row("velkora-batch run -f png --format-option ", "compressionLevel|bitDepth", "quality");
     row("velkora-batch run --format=jpeg --format-option ", "quality|progressive=true", "compressionLevel");
     row("velkora-batch run --format-option ", "quality|compressionLevel|keep=exif");
