@@ -14,12 +14,6 @@ const TokenRecord* FindToken(const QString& word)
     return found == tokenTable.end() ? nullptr : &*found;
 }
 
-const TokenRecord& RecordOf(Token token)
-{
-    return *std::find_if(tokenTable.begin(), tokenTable.end(),
-                         [token](const TokenRecord& record) { return record.token == token; });
-}
-
 QStringList AllTokens()
 {
     QStringList all;

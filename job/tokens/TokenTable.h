@@ -74,8 +74,6 @@ inline constexpr std::array tokenTable{
 /// The record of `word`; null when there is none.
 const TokenRecord* FindToken(const QString& word);
 
-const TokenRecord& RecordOf(Token token);
-
 /// Every token with its braces.
 QStringList AllTokens();
 
