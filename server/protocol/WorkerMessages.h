@@ -74,8 +74,8 @@ struct PictureTask
     QString outputRoot;           ///< no link below this folder is followed; empty: all are, see ResultFolder
     QString format;               ///< one of Formats(), never "Original"
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
-    bool keepsPixels = false;     ///< the next task reads the same input: what is slow to decode is kept for it
     qint64 fileNumber = 1;        ///< of the file in texts of the result, see OutputNaming::NumberOf()
+    bool keepsPixels = false;     ///< the next task reads the same input: what is slow to decode is kept for it
 };
 
 /// The worker begins a task.

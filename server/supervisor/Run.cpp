@@ -353,7 +353,7 @@ bool Run::GivePicture(int file)
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
     const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));
     const PictureTask task{
-        file, input, output, outputRoot, format, mayReplace, SharesPixelsWithNext(file), names.NumberOf(file)};
+        file, input, output, outputRoot, format, mayReplace, names.NumberOf(file), SharesPixelsWithNext(file)};
     Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
     return true;
 }
