@@ -3,7 +3,6 @@
 
 #include "ZTBatchOutputSettings.h"
 
-#include "ZTBatchNaming_p.h"
 #include "ZTBatchOutput_p.h"
 #include "ZTDiagnostics_p.h"
 #include "ZTOutputPlacement_p.h"
@@ -214,7 +213,7 @@ void ZTBatchOutputSettings::SetCustomTemplate(NamingPart part, const QString& te
         return;
     }
     naming.customTemplate = text;
-    if (ZTBatchNaming::HasText(naming.namingTemplate)) {
+    if (naming.namingTemplate == TemplateCustomText) {
         Q_EMIT NamingChanged();
     }
 }
@@ -227,7 +226,7 @@ void ZTBatchOutputSettings::SetStartNumber(NamingPart part, int number)
         return;
     }
     naming.startNumber = number;
-    if (ZTBatchNaming::HasStartNumber(naming.namingTemplate)) {
+    if (naming.namingTemplate == TemplateNumber) {
         Q_EMIT NamingChanged();
     }
 }

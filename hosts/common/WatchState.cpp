@@ -8,6 +8,7 @@
 #include "job/journal/Lines.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/RunJournal.h"
+#include "job/settings/NamePart.h"
 #include "job/values/Phrase.h"
 
 #include "ZTBatchOutputSettings.h"
@@ -164,7 +165,9 @@ void WatchState::ReadLine(const QByteArray& line)
 void WatchState::Continue(ZTBatchOutputSettings& output) const
 {
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        output.SetStartNumber(parts[i], std::max(output.GetStartNumber(parts[i]), next[i]));
+        NamePart named = NamePartOf(output, parts[i]);
+        named.startNumber = std::max(named.startNumber, next[i]);
+        SetNamePart(output, parts[i], named);
     }
 }
 
@@ -172,7 +175,7 @@ WatchState::Numbers WatchState::Behind(const ZTBatchOutputSettings& output, int 
 {
     Numbers numbers{};
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        const qint64 number = qint64(output.GetStartNumber(parts[i])) + count;
+        const qint64 number = qint64(NamePartOf(output, parts[i]).startNumber) + count;
         numbers[i] = int(std::min<qint64>(number, std::numeric_limits<int>::max()));
     }
     return numbers;

@@ -3,6 +3,8 @@
 
 #include "OutputChecks.h"
 
+#include "NamePart.h"
+
 #include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
@@ -83,7 +85,8 @@ void CheckNaming(ValueChecks& checks, const Settings& settings)
         if (kind == Settings::TemplateNumber) {
             checks.Range(part.digits, settings.GetDigitsCount(part.part), 1, mostDigits);
         }
-        const TokenText tokens(kind == TemplateTokens ? settings.GetCustomTemplate(part.part) : QString());
+        const NamePart named = NamePartOf(settings, part.part);
+        const TokenText tokens(named.kind == TemplateTokens ? named.text : QString());
         if (!tokens.IsValid()) {
             checks.Refuse(QStringLiteral("%1: %2").arg(QLatin1String(part.field), tokens.Error()));
         }

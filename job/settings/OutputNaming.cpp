@@ -3,6 +3,8 @@
 
 #include "OutputNaming.h"
 
+#include "NamePart.h"
+
 #include "job/values/CutText.h"
 #include "job/values/JobValues.h"
 
@@ -75,10 +77,9 @@ OutputNaming::OutputNaming(const Settings& settings)
     , suffixSeparator(settings.GetSuffixSeparator())
 {
     const auto read = [&settings](Settings::NamingPart part) {
-        const QString text = settings.GetCustomTemplate(part);
-        const Settings::NamingTemplate kind = settings.GetNamingTemplate(part);
-        return Part{kind, text, settings.GetStartNumber(part), settings.GetDigitsCount(part),
-                    kind == TemplateTokens ? TokenText(text) : TokenText()};
+        const NamePart found = NamePartOf(settings, part);
+        return Part{found.kind, found.text, found.startNumber, found.digits,
+                    found.kind == TemplateTokens ? TokenText(found.text) : TokenText()};
     };
     prefix = read(Settings::PartPrefix);
     middle = read(Settings::PartMiddle);

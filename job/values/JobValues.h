@@ -32,9 +32,9 @@ using ZTBatchValues::SizeRestriction;
 using ZTBatchValues::SizeSide;
 using ZTBatchValues::SizeUnit;
 
-/// A part of a name that is a text with tokens (job/tokens), in addition to the enumerators of the library, which
-/// stores the text and the first number with it.
-inline constexpr auto TemplateTokens = ZTBatchOutputSettings::NamingTemplate(6);
+/// A part of a name that is a text with tokens. Only NamePart has this value: settings hold such a text as a custom
+/// one.
+inline constexpr auto TemplateTokens = ZTBatchOutputSettings::NamingTemplate(-1);
 
 /// One value as users write and read it.
 struct Word
@@ -52,7 +52,17 @@ inline constexpr std::array NamingTemplateWords{
     Word{ZTBatchOutputSettings::TemplateCaptureTime, "time", Phrase::Marked("the capture time, HHMMSS")},
     Word{ZTBatchOutputSettings::TemplateCustomText, "text", Phrase::Marked("a text of your own")},
     Word{ZTBatchOutputSettings::TemplateNothing, "nothing", Phrase::Marked("nothing")},
+};
+
+/// The values of NamePart::kind.
+inline constexpr std::array NamePartWords{
+    NamingTemplateWords[0],
+    NamingTemplateWords[1],
+    NamingTemplateWords[2],
+    NamingTemplateWords[3],
+    NamingTemplateWords[4],
     Word{TemplateTokens, "tokens", Phrase::Marked("a text with tokens, such as {date}_{number:4}")},
+    NamingTemplateWords[5],
 };
 
 inline constexpr std::array FolderStructureWords{

@@ -4,7 +4,6 @@
 #include "ZTBatchJobWriter_p.h"
 
 #include "ZTBatchInputOutline_p.h"
-#include "ZTBatchNaming_p.h"
 #include "ZTBatchOutputSettings.h"
 #include "ZTBatchXml_p.h"
 #include "ZTStyle.h"
@@ -149,11 +148,8 @@ void ZTBatchJobWriter::WriteNaming(const ZTBatchOutputSettings& settings)
         const Settings::NamingTemplate namingTemplate = settings.GetNamingTemplate(part);
         xml.StartElement(NameOf(part));
         xml.WriteAttribute(ZTBatchXml::type, int(namingTemplate));
-        if (ZTBatchNaming::HasText(namingTemplate)) {
+        if (namingTemplate == Settings::TemplateCustomText) {
             xml.WriteAttribute(ZTBatchXml::name, settings.GetCustomTemplate(part));
-        }
-        if (namingTemplate == ZTBatchNaming::templateTokens) {
-            xml.WriteAttribute(ZTBatchXml::startAt, settings.GetStartNumber(part));
         }
         if (namingTemplate == Settings::TemplateNumber) {
             xml.WriteAttribute(ZTBatchXml::startAt, settings.GetStartNumber(part));

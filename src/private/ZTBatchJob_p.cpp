@@ -3,7 +3,6 @@
 
 #include "ZTBatchJob_p.h"
 
-#include "ZTBatchNaming_p.h"
 #include "ZTStyle.h"
 
 #include <QPointer>
@@ -59,10 +58,10 @@ void ZTBatchJob::SetOutputOf(ZTBatchOutputSettings& settings) const
             if (target) {
                 target->SetNamingTemplate(naming.part, naming.namingTemplate);
             }
-            if (target && ZTBatchNaming::HasText(naming.namingTemplate)) {
+            if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateCustomText) {
                 target->SetCustomTemplate(naming.part, naming.customTemplate);
             }
-            if (target && ZTBatchNaming::HasStartNumber(naming.namingTemplate)) {
+            if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateNumber) {
                 target->SetStartNumber(naming.part, naming.startNumber);
             }
             if (target && naming.namingTemplate == ZTBatchOutputSettings::TemplateNumber) {

@@ -31,7 +31,7 @@ QVector<QVector<Candidate>> MakeTables()
         }
         tables.append(table);
     };
-    add(NamingTemplateWords);
+    add(NamePartWords);
     add(FolderStructureWords);
     add(SizeRestrictionWords);
     add(SizeSideWords);

@@ -16,6 +16,7 @@
 #include "hosts/common/ProfileFile.h"
 #include "hosts/common/UserPath.h"
 #include "job/effects/EffectCatalog.h"
+#include "job/settings/NamePart.h"
 #include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
@@ -238,22 +239,25 @@ QVector<JobOption> OutputOptions()
 
 bool HasNumberToken(const Settings& output, Settings::NamingPart part)
 {
-    return output.GetNamingTemplate(part) == BatchJob::TemplateTokens &&
-           TokenText(output.GetCustomTemplate(part)).Uses(Token::Number);
+    const BatchJob::NamePart named = BatchJob::NamePartOf(output, part);
+    return named.kind == BatchJob::TemplateTokens && TokenText(named.text).Uses(Token::Number);
 }
 
 JobOption NumberStart()
 {
+    constexpr int highestStartNumber = 999'999'999; // as many digits as a text with tokens has for it
     static constexpr std::array parts{Settings::PartPrefix, Settings::PartMiddle, Settings::PartSuffix};
     return {{Text("--number-start"), Text("NUMBER"),
              Phrase::English("what {number} in names begins with; 1, unless it is given"),
              Phrase::English("Names of results")},
             [](ZTBatchDocument& job, const QString& text) {
-                const int start = IntegerFromText(text, 0, std::numeric_limits<int>::max());
+                const int start = IntegerFromText(text, 0, highestStartNumber);
                 bool isUsed = false;
                 for (const Settings::NamingPart part : parts) {
                     if (HasNumberToken(Output(job), part)) {
-                        Output(job).SetStartNumber(part, start);
+                        BatchJob::NamePart named = BatchJob::NamePartOf(Output(job), part);
+                        named.startNumber = start;
+                        BatchJob::SetNamePart(Output(job), part, named);
                         isUsed = true;
                     }
                 }
@@ -262,7 +266,7 @@ JobOption NumberStart()
             [](const ZTBatchDocument& job) {
                 for (const Settings::NamingPart part : parts) {
                     if (HasNumberToken(Output(job), part)) {
-                        return QStringList{QString::number(Output(job).GetStartNumber(part))};
+                        return QStringList{QString::number(BatchJob::NamePartOf(Output(job), part).startNumber)};
                     }
                 }
                 return QStringList();
@@ -277,7 +281,7 @@ bool HasPart(const ZTBatchDocument& job, Settings::NamingPart part)
 JobOption NamePart(const char* name, Settings::NamingPart part, const QString& help)
 {
     return {{Text(name), Text("PART"), help, Phrase::English("Names of results"), false, Completion::Words,
-             AllWords(BatchJob::NamingTemplateWords)},
+             AllWords(BatchJob::NamePartWords)},
             [part](ZTBatchDocument& job, const QString& text) { NamePartFromText(text, part, Output(job)); },
             [part](const ZTBatchDocument& job) { return QStringList{NamePartText(part, Output(job))}; }};
 }

@@ -6,6 +6,7 @@
 #include "Words.h"
 
 #include "hosts/common/UserPath.h"
+#include "job/settings/NamePart.h"
 #include "job/tokens/TokenText.h"
 #include "job/values/Phrase.h"
 
@@ -41,9 +42,11 @@ void SetTokens(const QString& text, Settings::NamingPart part, Settings& setting
     if (!tokens.IsValid()) {
         throw RequestError{tokens.Error()};
     }
-    settings.SetNamingTemplate(part, TemplateTokens);
-    settings.SetCustomTemplate(part, text);
-    settings.SetStartNumber(part, 1);
+    NamePart named = NamePartOf(settings, part);
+    named.kind = TemplateTokens;
+    named.text = text;
+    named.startNumber = 1;
+    SetNamePart(settings, part, named);
 }
 
 } // namespace
@@ -198,7 +201,7 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
 {
     const QString head = HeadOf(text);
     const QString value = TailOf(text);
-    const QStringList words = AllWords(BatchJob::NamingTemplateWords);
+    const QStringList words = AllWords(BatchJob::NamePartWords);
     if (!words.contains(head, Qt::CaseInsensitive)) {
         if (text.contains(QLatin1Char('{'))) {
             SetTokens(text, part, settings);
@@ -207,7 +210,7 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
         throw RequestError{NoSuchWord(head, words).text +
                            Phrase::English("; write a text of your own as text:%1").arg(text)};
     }
-    const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamingTemplateWords, head));
+    const auto kind = Settings::NamingTemplate(ValueOf(BatchJob::NamePartWords, head));
     if (kind == TemplateTokens) {
         SetTokens(value, part, settings);
         return;
@@ -226,30 +229,25 @@ void NamePartFromText(const QString& text, Settings::NamingPart part, Settings& 
         settings.SetDigitsCount(part, digits);
         return;
     }
-    settings.SetNamingTemplate(part, kind);
+    NamePart named = NamePartOf(settings, part);
+    named.kind = kind;
     if (kind == Settings::TemplateCustomText) {
-        settings.SetCustomTemplate(part, value);
+        named.text = value;
     }
+    SetNamePart(settings, part, named);
 }
 
 QString NamePartText(Settings::NamingPart part, const Settings& settings)
 {
-    const Settings::NamingTemplate kind = settings.GetNamingTemplate(part);
-    const QString word = WordOf(BatchJob::NamingTemplateWords, kind);
-    if (kind == TemplateTokens) {
-        return word + QLatin1Char(':') + settings.GetCustomTemplate(part);
+    const NamePart named = NamePartOf(settings, part);
+    const QString word = WordOf(BatchJob::NamePartWords, named.kind);
+    if (named.kind == TemplateTokens || named.kind == Settings::TemplateCustomText) {
+        return word + QLatin1Char(':') + named.text;
     }
-    switch (kind) {
-    case Settings::TemplateCustomText:
-        return word + QLatin1Char(':') + settings.GetCustomTemplate(part);
-    case Settings::TemplateNumber:
-        return QStringLiteral("%1:%2:%3")
-            .arg(word)
-            .arg(settings.GetStartNumber(part))
-            .arg(settings.GetDigitsCount(part));
-    default:
-        return word;
+    if (named.kind == Settings::TemplateNumber) {
+        return QStringLiteral("%1:%2:%3").arg(word).arg(named.startNumber).arg(named.digits);
     }
+    return word;
 }
 
 } // namespace BatchHost

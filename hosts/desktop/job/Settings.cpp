@@ -19,12 +19,6 @@ using Output = ZTBatchOutputSettings;
 
 constexpr std::array parts{Output::PartPrefix, Output::PartMiddle, Output::PartSuffix};
 
-Settings::NamePart NamePartOf(const Output& output, Output::NamingPart part)
-{
-    return {output.GetNamingTemplate(part), output.GetCustomTemplate(part), output.GetStartNumber(part),
-            output.GetDigitsCount(part)};
-}
-
 QVector<Settings::Effect> EffectsOf(const ZTStyle& style)
 {
     QVector<Settings::Effect> effects;
@@ -35,12 +29,6 @@ QVector<Settings::Effect> EffectsOf(const ZTStyle& style)
 }
 
 } // namespace
-
-bool Settings::NamePart::operator==(const NamePart& other) const
-{
-    return std::tie(kind, text, startNumber, digits) ==
-           std::tie(other.kind, other.text, other.startNumber, other.digits);
-}
 
 bool Settings::Effect::operator==(const Effect& other) const
 {
@@ -74,7 +62,7 @@ Settings Settings::Of(const ZTBatchDocument& job, const PolicyValues& policies)
     settings.outputFolder = output.GetPath();
     settings.structure = output.GetFolderStructure();
     for (const Output::NamingPart part : parts) {
-        settings.nameParts[std::size_t(part)] = NamePartOf(output, part);
+        settings.nameParts[std::size_t(part)] = BatchJob::NamePartOf(output, part);
     }
     settings.prefixSeparator = output.GetPrefixSeparator();
     settings.suffixSeparator = output.GetSuffixSeparator();
@@ -93,11 +81,7 @@ void Settings::ApplyTo(ZTBatchDocument& job) const
     output.SetPath(outputFolder);
     output.SetFolderStructure(structure);
     for (const Output::NamingPart part : parts) {
-        const NamePart& wanted = nameParts[std::size_t(part)];
-        output.SetNamingTemplate(part, wanted.kind);
-        output.SetCustomTemplate(part, wanted.text);
-        output.SetStartNumber(part, wanted.startNumber);
-        output.SetDigitsCount(part, wanted.digits);
+        BatchJob::SetNamePart(output, part, nameParts[std::size_t(part)]);
     }
     output.SetPrefixSeparator(prefixSeparator);
     output.SetSuffixSeparator(suffixSeparator);

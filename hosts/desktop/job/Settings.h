@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "job/settings/NamePart.h"
 #include "job/values/PolicyValues.h"
 
 #include "ZTBatchOutputSettings.h"
@@ -20,16 +21,6 @@ namespace BatchDesktop {
 /// What a user sets for a job: everything but its inputs. A plain value, so that steps of the history are pairs of it.
 struct Settings
 {
-    struct NamePart
-    {
-        ZTBatchOutputSettings::NamingTemplate kind = ZTBatchOutputSettings::TemplateNothing;
-        QString text;
-        int startNumber = 0;
-        int digits = 1;
-
-        bool operator==(const NamePart& other) const;
-    };
-
     struct Effect
     {
         QString name;
@@ -41,7 +32,7 @@ struct Settings
 
     QString outputFolder;
     ZTBatchOutputSettings::FolderStructure structure = ZTBatchOutputSettings::StructureFlat;
-    std::array<NamePart, 3> nameParts; ///< by ZTBatchOutputSettings::NamingPart
+    std::array<BatchJob::NamePart, 3> nameParts; ///< by ZTBatchOutputSettings::NamingPart
     QString prefixSeparator;
     QString suffixSeparator;
     QString format;

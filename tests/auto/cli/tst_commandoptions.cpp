@@ -7,6 +7,7 @@
 #include "hosts/common/ShellLine.h"
 #include "hosts/common/options/CommandOptions.h"
 #include "hosts/common/options/JobOptions.h"
+#include "job/settings/NamePart.h"
 #include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
@@ -115,17 +116,16 @@ void tst_CommandOptions::optionsMakeTheSameJob_data()
     });
     row("tokens", [](ZTBatchDocument& job) {
         Output& output = *job.GetOutputSettings();
-        output.SetNamingTemplate(Output::PartMiddle, BatchJob::TemplateTokens);
-        output.SetCustomTemplate(Output::PartMiddle, QStringLiteral("{{x}} {date:YYYY-MM-DD}: {number:4}, '$HOME'"));
-        output.SetStartNumber(Output::PartMiddle, 40);
+        BatchJob::SetNamePart(
+            output, Output::PartMiddle,
+            {BatchJob::TemplateTokens, QStringLiteral("{{x}} {date:YYYY-MM-DD}: {number:4}, '$HOME'"), 40});
         job.GetStyle()->AppendEffect(QStringLiteral("watermark-text"), R"({"text":"{name}, x=1","tokens":true})", true);
         job.GetStyle()->AppendEffect(QStringLiteral("set-metadata"),
                                      R"({"copyright":"(c) {date:YYYY}, a=b","keywords":"a, b; c"})", true);
     });
     row("tokens that begin like a word", [](ZTBatchDocument& job) {
         Output& output = *job.GetOutputSettings();
-        output.SetNamingTemplate(Output::PartSuffix, BatchJob::TemplateTokens);
-        output.SetCustomTemplate(Output::PartSuffix, QStringLiteral("text:{name}"));
+        BatchJob::SetNamePart(output, Output::PartSuffix, {BatchJob::TemplateTokens, QStringLiteral("text:{name}"), 1});
     });
     row("braces without tokens", [](ZTBatchDocument& job) {
         Output& output = *job.GetOutputSettings();

@@ -4,6 +4,7 @@
 #include "InputNodes.h"
 
 #include "job/settings/JobCheck.h"
+#include "job/settings/NamePart.h"
 #include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
@@ -91,10 +92,7 @@ Change Format(const char* format, const QByteArray& options = {})
 
 Change Tokens(Settings::NamingPart part, const char* text)
 {
-    return [=](Settings& settings) {
-        settings.SetNamingTemplate(part, TemplateTokens);
-        settings.SetCustomTemplate(part, QString::fromLatin1(text));
-    };
+    return [=](Settings& settings) { SetNamePart(settings, part, {TemplateTokens, QString::fromLatin1(text), 1}); };
 }
 
 Change Part(Settings::NamingPart part, int kind, int digits = 1)

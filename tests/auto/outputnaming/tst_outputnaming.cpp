@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "job/settings/NamePart.h"
 #include "job/settings/OutputNaming.h"
 #include "job/values/JobValues.h"
 
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void tokens_data();
     void tokens();
     void tokensOfOneFile();
+    void tokensAreCustomTextsThatSaySo_data();
+    void tokensAreCustomTextsThatSaySo();
     void tokenNeeds_data();
     void tokenNeeds();
     void numbers_data();
@@ -42,10 +45,7 @@ const QDateTime noon(QDate(2024, 2, 29), QTime(12, 5, 59));
 OutputNaming Middle(Settings::NamingTemplate kind, const QString& text = {}, int start = 1, int digits = 1)
 {
     Settings settings(nullptr);
-    settings.SetNamingTemplate(Settings::PartMiddle, kind);
-    settings.SetCustomTemplate(Settings::PartMiddle, text);
-    settings.SetStartNumber(Settings::PartMiddle, start);
-    settings.SetDigitsCount(Settings::PartMiddle, digits);
+    SetNamePart(settings, Settings::PartMiddle, {kind, text, start, digits});
     settings.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
     return OutputNaming(settings);
 }
@@ -192,6 +192,51 @@ void tst_OutputNaming::tokensOfOneFile()
     QVERIFY(!literal.NeedsPicture());
 }
 
+void tst_OutputNaming::tokensAreCustomTextsThatSaySo_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<bool>("hasTokens");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("start");
+    const auto row = [](const char* stored, bool hasTokens, const char* text, int start) {
+        QTest::newRow(stored) << QString::fromLatin1(stored) << hasTokens << QString::fromLatin1(text) << start;
+    };
+    row("{tokens}{name}", true, "{name}", 1);
+    row("{tokens:120}{name}", true, "{name}", 120);
+    row("{tokens:0}", true, "", 0);
+    row("{tokens}{tokens}", true, "{tokens}", 1);
+    row("{tokens:}{name}", false, "{tokens:}{name}", 7);
+    row("{tokens:1234567890}{name}", false, "{tokens:1234567890}{name}", 7);
+    row("{tokens:-1}{name}", false, "{tokens:-1}{name}", 7);
+    row(" {tokens}{name}", false, " {tokens}{name}", 7);
+    row("{Tokens}{name}", false, "{Tokens}{name}", 7);
+    row("{name}", false, "{name}", 7);
+}
+
+void tst_OutputNaming::tokensAreCustomTextsThatSaySo()
+{
+    QFETCH(QString, stored);
+    QFETCH(bool, hasTokens);
+    Settings settings(nullptr);
+    settings.SetNamingTemplate(Settings::PartMiddle, Settings::TemplateCustomText);
+    settings.SetCustomTemplate(Settings::PartMiddle, stored);
+    settings.SetStartNumber(Settings::PartMiddle, 7);
+    const NamePart found = NamePartOf(settings, Settings::PartMiddle);
+    QCOMPARE(int(found.kind), int(hasTokens ? TemplateTokens : Settings::TemplateCustomText));
+    QTEST(found.text, "text");
+    QTEST(found.startNumber, "start");
+    SetNamePart(settings, Settings::PartMiddle, found);
+    QVERIFY(NamePartOf(settings, Settings::PartMiddle) == found);
+    QCOMPARE(settings.GetCustomTemplate(Settings::PartMiddle), stored);
+
+    // As a text of its own it becomes part of names as it stands.
+    const OutputNaming literal = Middle(Settings::TemplateCustomText, stored);
+    const OutputNaming plain =
+        Middle(Settings::TemplateCustomText, QString(stored).replace(QLatin1Char('{'), QLatin1Char('(')));
+    const QString stem = literal.Stem(QStringLiteral("/a.jpg"), 0, {});
+    QCOMPARE(QString(stem).replace(QLatin1Char('{'), QLatin1Char('(')), plain.Stem(QStringLiteral("/a.jpg"), 0, {}));
+}
+
 void tst_OutputNaming::tokenNeeds_data()
 {
     QTest::addColumn<bool>("picture");
@@ -236,13 +281,9 @@ void tst_OutputNaming::numbers()
     QFETCH(int, middle);
     QFETCH(QString, text);
     Settings settings(nullptr);
-    settings.SetNamingTemplate(Settings::PartPrefix, Settings::NamingTemplate(prefix));
-    settings.SetNamingTemplate(Settings::PartMiddle, Settings::NamingTemplate(middle));
+    SetNamePart(settings, Settings::PartPrefix, {Settings::NamingTemplate(prefix), text, 100});
+    SetNamePart(settings, Settings::PartMiddle, {Settings::NamingTemplate(middle), text, 200});
     settings.SetNamingTemplate(Settings::PartSuffix, Settings::TemplateNothing);
-    settings.SetStartNumber(Settings::PartPrefix, 100);
-    settings.SetStartNumber(Settings::PartMiddle, 200);
-    settings.SetCustomTemplate(Settings::PartPrefix, text);
-    settings.SetCustomTemplate(Settings::PartMiddle, text);
     QTEST(OutputNaming(settings).NumberOf(3), "number");
 }
 

@@ -304,9 +304,6 @@ void tst_DocumentWriting::naming()
     QCOMPARE(lines.mid(naming + 1, 3), (QStringList{QStringLiteral("   prefix count=\"6\" startAt=\"100\" type=\"1\""),
                                                     QStringLiteral("   middle type=\"-7\""),
                                                     QStringLiteral("   suffix name=\"end\" type=\"4\"")}));
-    settings->SetNamingTemplate(Settings::PartSuffix, static_cast<Settings::NamingTemplate>(6));
-    QCOMPARE(ElementLines(document.Serialize(nullptr)).value(naming + 3),
-             QStringLiteral("   suffix name=\"end\" startAt=\"1\" type=\"6\""));
 }
 
 void tst_DocumentWriting::transformation()

@@ -128,14 +128,6 @@ void tst_OutputReading::naming()
     QCOMPARE(settings->GetStartNumber(Settings::PartPrefix), 3);
     QCOMPARE(settings->GetDigitsCount(Settings::PartPrefix), 2);
     QCOMPARE(settings->GetNamingTemplate(Settings::PartMiddle), Settings::TemplateOriginalName);
-
-    // A text with tokens.
-    QVERIFY(document.Deserialize(
-        OutputJob(QStringLiteral("<naming><prefix type='6' name='{date}' startAt='30' count='9'/></naming>"))));
-    QCOMPARE(int(settings->GetNamingTemplate(Settings::PartPrefix)), 6);
-    QCOMPARE(settings->GetCustomTemplate(Settings::PartPrefix), QStringLiteral("{date}"));
-    QCOMPARE(settings->GetStartNumber(Settings::PartPrefix), 30);
-    QCOMPARE(settings->GetDigitsCount(Settings::PartPrefix), 2);
 }
 
 void tst_OutputReading::namingIgnoresBadNumbers()

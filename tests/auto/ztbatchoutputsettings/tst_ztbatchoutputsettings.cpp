@@ -417,12 +417,6 @@ void tst_ZTBatchOutputSettings::setters_data()
         record.state = true;
         s.SetTransformationSettings(record);
     });
-    QTest::newRow("text of tokens") << Edit([](Settings& s) {
-        s.SetNamingTemplate(Settings::PartMiddle, static_cast<Settings::NamingTemplate>(6));
-        s.SetCustomTemplate(Settings::PartMiddle, QStringLiteral("{date}"));
-        s.SetStartNumber(Settings::PartMiddle, 4);
-    }) << QStringList{QStringLiteral("NamingChanged"), QStringLiteral("NamingChanged"), QStringLiteral("NamingChanged")}
-                                    << QStringList();
     QTest::newRow("profile") << Edit([](Settings& s) { s.SetICCProfile(QByteArrayLiteral("x")); })
                              << QStringList{QStringLiteral("AdvancedSettingsChanged")}
                              << QStringList{QStringLiteral("AdvancedSettingsChanged")};

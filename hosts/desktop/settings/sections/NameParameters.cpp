@@ -16,7 +16,7 @@ using Output = ZTBatchOutputSettings;
 
 constexpr int longestText = 255;
 constexpr int mostDigits = 64; // as the job's checks have it
-constexpr int highestNumber = 1'000'000'000;
+constexpr int highestNumber = 999'999'999;
 
 struct Part
 {
@@ -43,7 +43,7 @@ QVector<BoundParameter> ParametersOf(const Part& part)
     const auto place = std::size_t(part.part);
     const QByteArray name = part.name;
     return {
-        {ChoiceRow(part.name, part.title, ChoicesOf(NamingTemplateWords), part.checkedKind),
+        {ChoiceRow(part.name, part.title, ChoicesOf(NamePartWords), part.checkedKind),
          [place](const Settings& settings) { return int(settings.nameParts[place].kind); },
          [place](Settings& settings, const QJsonValue& value) {
              settings.nameParts[place].kind = Output::NamingTemplate(value.toInt());
