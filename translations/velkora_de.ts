@@ -232,10 +232,6 @@
         <translation>%1: --output DIR verwenden</translation>
     </message>
     <message>
-        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
-        <translation>%1. Nur ein gespeicherter Auftrag ist möglich: als erstes Argument von run, plan und show, oder bei create mit --from</translation>
-    </message>
-    <message>
         <source>%1; use --force to replace it</source>
         <translation>%1; --force ersetzt die Datei</translation>
     </message>
@@ -2283,6 +2279,74 @@
         <source>Make only what has &amp;changed</source>
         <translation>Nur &amp;Geändertes erzeugen</translation>
     </message>
+    <message>
+        <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>
+        <translation>%1. Gespeicherte Aufträge können angegeben werden: als erste Argumente von run und plan, einer als erstes Argument von show, oder bei create mit --from</translation>
+    </message>
+    <message>
+        <source>%1 can no longer be read: %2</source>
+        <translation>%1 kann nicht mehr gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>watching %1; results go to %2. Ctrl-C ends it.</source>
+        <translation>%1 wird überwacht; Ergebnisse kommen nach %2. Strg-C beendet es.</translation>
+    </message>
+    <message>
+        <source>warning %1: %2</source>
+        <translation>Warnung %1: %2</translation>
+    </message>
+    <message>
+        <source>watching ends, as a policy says; the next start tries these pictures again.</source>
+        <translation>die Überwachung endet, wie es eine Regel verlangt; der nächste Start versucht diese Bilder noch einmal.</translation>
+    </message>
+    <message>
+        <source>Written: %1, skipped: %2, failed: %3.</source>
+        <translation>Geschrieben: %1, ausgelassen: %2, fehlgeschlagen: %3.</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Nachweis</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Metadaten schreiben</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Text has tokens</source>
+        <translation>Text hat Platzhalter</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Urheberrechtsvermerk</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Example, with what a picture might say: %1</source>
+        <translation>Beispiel mit dem, was ein Bild sagen könnte: %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4235,10 +4299,6 @@
         <translation>gibt JSON aus</translation>
     </message>
     <message>
-        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
-        <translation>verarbeitet einen gespeicherten Auftrag, Dateien und Ordner oder beides; Optionen haben Vorrang vor dem Auftrag. Exit-Status: 0, wenn alle Bilder geschrieben oder durch eine Regel ausgelassen wurden, die eine Option nennt; 1, wenn welche fehlschlugen oder sonst ausgelassen wurden; 2 bei falschen Argumenten oder falschem Auftrag; 3, wenn der Server nicht gestartet werden konnte oder verloren ging; 4, wenn der Lauf abgebrochen wurde; 5, wenn unter den Eingaben kein Bild ist; 6, wenn dieser Lauf schon im Gange ist; 7, wenn es nichts fortzusetzen gibt</translation>
-    </message>
-    <message>
         <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
         <translation>schreibt einen Auftrag mit diesen Eingaben und Optionen in eine Datei, bei „-“ auf die Standardausgabe</translation>
     </message>
@@ -4497,10 +4557,6 @@
     <message>
         <source>what a name begins with; PART is the same as for --name</source>
         <translation>womit ein Name beginnt; PART ist wie bei --name</translation>
-    </message>
-    <message>
-        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
-        <translation>die Mitte eines Namens: original, der Name der Eingabe; number, number:START oder number:START:DIGITS; date und time, die der Aufnahme, ohne diese die der Datei; text:TEXT; nothing</translation>
     </message>
     <message>
         <source>what a name ends with</source>
@@ -5423,10 +5479,6 @@
         <translation>unverändert</translation>
     </message>
     <message>
-        <source>%1 needs %2</source>
-        <translation>%1 braucht %2</translation>
-    </message>
-    <message>
         <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
         <translation>erzeugt nur, was sich seit der letzten Aktualisierung in den Ausgabeordner geändert hat: die Eingabe, die Einstellungen des Auftrags oder eine Datei, die sie nennen. Alle anderen Ergebnisse bleiben, wie sie sind</translation>
     </message>
@@ -5441,6 +5493,250 @@
     <message>
         <source>the folder cannot be written, or another process keeps the record</source>
         <translation>in den Ordner kann nicht geschrieben werden, oder ein anderer Prozess hält das Verzeichnis</translation>
+    </message>
+    <message>
+        <source>who made the picture</source>
+        <translation>wer das Bild gemacht hat</translation>
+    </message>
+    <message>
+        <source>the notice that says whose the picture is</source>
+        <translation>der Vermerk, wem das Bild gehört</translation>
+    </message>
+    <message>
+        <source>who is to be named where the picture is shown</source>
+        <translation>wer genannt werden soll, wo das Bild gezeigt wird</translation>
+    </message>
+    <message>
+        <source>a short name of the picture</source>
+        <translation>ein kurzer Name des Bildes</translation>
+    </message>
+    <message>
+        <source>separated by commas or semicolons</source>
+        <translation>durch Kommas oder Semikolons getrennt</translation>
+    </message>
+    <message>
+        <source>how the picture may be used</source>
+        <translation>wie das Bild verwendet werden darf</translation>
+    </message>
+    <message>
+        <source>Writes creator, rights, title and keywords into the metadata</source>
+        <translation>Schreibt Urheber, Rechte, Titel und Stichwörter in die Metadaten</translation>
+    </message>
+    <message>
+        <source>the text has tokens, such as {date:YYYY-MM-DD}</source>
+        <translation>der Text hat Platzhalter wie {date:YYYY-MM-DD}</translation>
+    </message>
+    <message>
+        <source>it holds no job</source>
+        <translation>er enthält keinen Auftrag</translation>
+    </message>
+    <message>
+        <source>its output folder is &quot;%1&quot;, but has to be an absolute path</source>
+        <translation>sein Ausgabeordner ist „%1“, muss aber ein absoluter Pfad sein</translation>
+    </message>
+    <message>
+        <source>a job has no name</source>
+        <translation>ein Auftrag hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>two jobs have the name &quot;%1&quot;</source>
+        <translation>zwei Aufträge heißen „%1“</translation>
+    </message>
+    <message>
+        <source>the job &quot;%1&quot; writes to &quot;%2&quot;, which is not in the output folder, &quot;%3&quot;</source>
+        <translation>der Auftrag „%1“ schreibt nach „%2“, was nicht im Ausgabeordner „%3“ liegt</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 jobs</source>
+        <translation>er enthält mehr als %1 Aufträge</translation>
+    </message>
+    <message>
+        <source>it is no bundle of jobs</source>
+        <translation>es ist kein Bündel von Aufträgen</translation>
+    </message>
+    <message>
+        <source>it takes nothing after a colon</source>
+        <translation>nach einem Doppelpunkt nimmt er nichts</translation>
+    </message>
+    <message>
+        <source>the number of digits must be a whole number from 1 to %1</source>
+        <translation>die Zahl der Stellen muss eine ganze Zahl von 1 bis %1 sein</translation>
+    </message>
+    <message>
+        <source>a date is made of YYYY, YY, MM and DD, with no other letters between them</source>
+        <translation>ein Datum besteht aus YYYY, YY, MM und DD ohne andere Buchstaben dazwischen</translation>
+    </message>
+    <message>
+        <source>a time is made of HH, MM and SS, with no other letters between them</source>
+        <translation>eine Uhrzeit besteht aus HH, MM und SS ohne andere Buchstaben dazwischen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; the tokens are %3, and {{ is a brace</source>
+        <translation>„%1“ an Zeichen %2 ist kein Platzhalter; die Platzhalter sind %3, und {{ ist eine Klammer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; did you mean &quot;{%3}&quot;?</source>
+        <translation>„%1“ an Zeichen %2 ist kein Platzhalter; war „{%3}“ gemeint?</translation>
+    </message>
+    <message>
+        <source>&quot;}&quot; at character %1 closes no token; write }} for a brace</source>
+        <translation>„}“ an Zeichen %1 schließt keinen Platzhalter; }} ist eine Klammer</translation>
+    </message>
+    <message>
+        <source>&quot;{&quot; at character %1 begins a token that has no end; write {{ for a brace</source>
+        <translation>„{“ an Zeichen %1 beginnt einen Platzhalter ohne Ende; {{ ist eine Klammer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 cannot be used: %3</source>
+        <translation>„%1“ an Zeichen %2 kann nicht verwendet werden: %3</translation>
+    </message>
+    <message>
+        <source>a text with tokens, such as {date}_{number:4}</source>
+        <translation>ein Text mit Platzhaltern wie {date}_{number:4}</translation>
+    </message>
+    <message>
+        <source>depth map lost</source>
+        <translation>Tiefenkarte verloren</translation>
+    </message>
+    <message>
+        <source>film lost</source>
+        <translation>Film verloren</translation>
+    </message>
+    <message>
+        <source>audio lost</source>
+        <translation>Ton verloren</translation>
+    </message>
+    <message>
+        <source>It has inputs, but those of a bundle belong in its first job</source>
+        <translation>Er hat Eingaben, aber die eines Bündels gehören in seinen ersten Auftrag</translation>
+    </message>
+    <message>
+        <source>The bundle of jobs cannot be read: %1</source>
+        <translation>Das Bündel von Aufträgen kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Job &quot;%1&quot;: %2</source>
+        <translation>Auftrag „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Its output folder is &quot;%1&quot;, but the bundle says &quot;%2&quot;</source>
+        <translation>Sein Ausgabeordner ist „%1“, aber das Bündel nennt „%2“</translation>
+    </message>
+    <message>
+        <source>Several results of one picture cannot replace their original</source>
+        <translation>Mehrere Ergebnisse eines Bildes können ihr Original nicht ersetzen</translation>
+    </message>
+    <message>
+        <source>it has a depth map, which the result lacks</source>
+        <translation>die Datei hat eine Tiefenkarte, die dem Ergebnis fehlt</translation>
+    </message>
+    <message>
+        <source>it has a film, which the result lacks</source>
+        <translation>die Datei hat einen Film, der dem Ergebnis fehlt</translation>
+    </message>
+    <message>
+        <source>it has audio, which the result lacks</source>
+        <translation>die Datei hat Ton, der dem Ergebnis fehlt</translation>
+    </message>
+    <message>
+        <source>--in-place makes one result of each picture, but several presets or jobs are given; remove --in-place, or all but one of them</source>
+        <translation>--in-place macht ein Ergebnis von jedem Bild, aber mehrere Vorgaben oder Aufträge sind angegeben; entfernen Sie --in-place oder alle bis auf eine Angabe</translation>
+    </message>
+    <message>
+        <source>several presets or jobs need one output folder, in which each gets a folder of its name</source>
+        <translation>mehrere Vorgaben oder Aufträge brauchen einen gemeinsamen Ausgabeordner, in dem jede einen Ordner ihres Namens bekommt</translation>
+    </message>
+    <message>
+        <source>%1 has other inputs than %2; results of one run have the same inputs, and --no-inputs drops those of saved jobs</source>
+        <translation>%1 hat andere Eingaben als %2; Ergebnisse eines Laufs haben dieselben Eingaben, und --no-inputs lässt die gespeicherter Aufträge weg</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 benötigt --resume</translation>
+    </message>
+    <message>
+        <source>one folder to watch is needed</source>
+        <translation>ein Ordner zum Überwachen ist nötig</translation>
+    </message>
+    <message>
+        <source>the results would come into the watched folder %1; write them to a folder in it, or elsewhere</source>
+        <translation>die Ergebnisse kämen in den überwachten Ordner %1; schreiben Sie sie in einen Ordner darin oder anderswohin</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Several jobs make several results of each picture, each in a folder of its name. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>verarbeitet einen gespeicherten Auftrag, Dateien und Ordner oder beides; Optionen haben Vorrang vor dem Auftrag. Mehrere Aufträge machen mehrere Ergebnisse von jedem Bild, jedes in einem Ordner ihres Namens. Exit-Status: 0, wenn alle Bilder geschrieben oder durch eine Regel ausgelassen wurden, die eine Option nennt; 1, wenn welche fehlschlugen oder sonst ausgelassen wurden; 2 bei falschen Argumenten oder falschem Auftrag; 3, wenn der Server nicht gestartet werden konnte oder verloren ging; 4, wenn der Lauf abgebrochen wurde; 5, wenn unter den Eingaben kein Bild ist; 6, wenn dieser Lauf schon im Gange ist; 7, wenn es nichts fortzusetzen gibt</translation>
+    </message>
+    <message>
+        <source>processes the pictures in a folder and its subfolders, and those that come, until it is ended. Pictures are taken when they have arrived whole, and each once, also over restarts; numbers in names go on. Nobody is asked: ask becomes rename for names, stop for the output, and skip otherwise. Exit status: 0 when it was ended between pictures; 4 when it was ended while pictures were in work, which the next start finishes; 1 when the folder is gone or the output cannot be written; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 6 when the output folder is used for watching already</source>
+        <translation>verarbeitet die Bilder in einem Ordner und seinen Unterordnern und die, die noch kommen, bis es beendet wird. Bilder werden genommen, wenn sie ganz angekommen sind, und jedes einmal, auch über Neustarts; Nummern in Namen zählen weiter. Niemand wird gefragt: aus ask wird rename bei Namen, stop bei der Ausgabe und sonst skip. Exit-Status: 0, wenn es zwischen Bildern beendet wurde; 4, wenn dabei Bilder in Arbeit waren, die der nächste Start fertigstellt; 1, wenn der Ordner fort ist oder die Ausgabe nicht geschrieben werden kann; 2 bei falschen Argumenten oder falschem Auftrag; 3, wenn der Server nicht gestartet werden konnte oder verloren ging; 6, wenn für den Ausgabeordner schon überwacht wird</translation>
+    </message>
+    <message>
+        <source>Every picture that comes into a folder</source>
+        <translation>Jedes Bild, das in einen Ordner kommt</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them. Given several times, each picture gets a result of each preset, in a folder of its name in the output folder</source>
+        <translation>geht von einer Vorgabe aus; „velkora-batch presets“ listet sie auf. Mehrmals angegeben, bekommt jedes Bild ein Ergebnis jeder Vorgabe, in einem Ordner ihres Namens im Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Watching</source>
+        <translation>Überwachung</translation>
+    </message>
+    <message>
+        <source>how long a picture has to stay the same before it is taken; default: 2. Pictures that are moved into the folder are taken at once</source>
+        <translation>wie lange ein Bild gleich bleiben muss, bevor es genommen wird; Standard: 2. Bilder, die in den Ordner verschoben werden, werden sofort genommen</translation>
+    </message>
+    <message>
+        <source>looks for pictures every so many seconds, in place of waiting for the system&apos;s word; default: 5 where the system tells nothing, as for network folders</source>
+        <translation>sieht alle so vielen Sekunden nach Bildern, statt auf die Nachricht des Systems zu warten; Standard: 5, wo das System nichts meldet, wie bei Netzwerkordnern</translation>
+    </message>
+    <message>
+        <source>%1 needs --update</source>
+        <translation>%1 benötigt --update</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given twice; remove one of them</source>
+        <translation>„%1“ ist zweimal angegeben; entfernen Sie eine Angabe</translation>
+    </message>
+    <message>
+        <source>the results of &quot;%1&quot; and &quot;%2&quot; would go to one folder, &quot;%3&quot;; give one of them another name</source>
+        <translation>die Ergebnisse von „%1“ und „%2“ kämen in einen Ordner, „%3“; geben Sie einem davon einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>at most %1 results can be made of one picture</source>
+        <translation>von einem Bild können höchstens %1 Ergebnisse gemacht werden</translation>
+    </message>
+    <message>
+        <source>what {number} in names begins with; 1, unless it is given</source>
+        <translation>womit {number} in Namen beginnt; 1, wenn es nicht angegeben ist</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without {number} in a name; add it to --name</source>
+        <translation>„%1“ bewirkt nichts ohne {number} in einem Namen; in --name einfügen</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing; or a text with tokens, such as {date:YYYY-MM-DD}_{number:4}</source>
+        <translation>die Mitte eines Namens: original, der Name der Eingabe; number, number:START oder number:START:DIGITS; date und time, die der Aufnahme, ohne diese die der Datei; text:TEXT; nothing; oder ein Text mit Platzhaltern wie {date:YYYY-MM-DD}_{number:4}</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be made</source>
+        <translation>der Ausgabeordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>another process watches a folder for %1 already</source>
+        <translation>ein anderer Prozess überwacht bereits einen Ordner für %1</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be written</source>
+        <translation>in den Ausgabeordner %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>it is no record of a watched folder that this version reads</source>
+        <translation>es ist keine Aufzeichnung eines überwachten Ordners, die diese Version liest</translation>
+    </message>
+    <message>
+        <source>what was watched before cannot be read and written: %1: %2</source>
+        <translation>was bisher überwacht wurde, kann nicht gelesen und geschrieben werden: %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -232,10 +232,6 @@
         <translation>%1: use --output DIR</translation>
     </message>
     <message>
-        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
-        <translation>%1. Solo se admite un trabajo guardado: como primer argumento de run, plan y show, o en create con --from</translation>
-    </message>
-    <message>
         <source>%1; use --force to replace it</source>
         <translation>%1; use --force para reemplazarlo</translation>
     </message>
@@ -2283,6 +2279,74 @@
         <source>Make only what has &amp;changed</source>
         <translation>Hacer solo lo que ha &amp;cambiado</translation>
     </message>
+    <message>
+        <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>
+        <translation>%1. Se pueden indicar trabajos guardados: como primeros argumentos de run y plan, uno como primer argumento de show, o en create con --from</translation>
+    </message>
+    <message>
+        <source>%1 can no longer be read: %2</source>
+        <translation>ya no se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>watching %1; results go to %2. Ctrl-C ends it.</source>
+        <translation>vigilando %1; los resultados van a %2. Ctrl-C lo termina.</translation>
+    </message>
+    <message>
+        <source>warning %1: %2</source>
+        <translation>aviso %1: %2</translation>
+    </message>
+    <message>
+        <source>watching ends, as a policy says; the next start tries these pictures again.</source>
+        <translation>la vigilancia termina, como dice una regla; el próximo inicio vuelve a intentar estas imágenes.</translation>
+    </message>
+    <message>
+        <source>Written: %1, skipped: %2, failed: %3.</source>
+        <translation>Escritas: %1, omitidas: %2, fallidas: %3.</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Crédito</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Escribir metadatos</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Text has tokens</source>
+        <translation>El texto tiene marcadores</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Condiciones de uso</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Aviso de derechos de autor</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objetivo</translation>
+    </message>
+    <message>
+        <source>Example, with what a picture might say: %1</source>
+        <translation>Ejemplo, con lo que podría decir una imagen: %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4235,10 +4299,6 @@
         <translation>muestra JSON</translation>
     </message>
     <message>
-        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
-        <translation>procesa un trabajo guardado, archivos y carpetas, o ambas cosas; las opciones prevalecen sobre el trabajo. Código de salida: 0 si todas las imágenes se escribieron o se omitieron por una regla indicada en una opción; 1 si alguna falló o se omitió por otra causa; 2 si los argumentos o el trabajo son incorrectos; 3 si el servidor no se pudo iniciar o se perdió; 4 si la ejecución se canceló; 5 si no hay ninguna imagen entre las entradas; 6 si esta ejecución ya está en marcha; 7 si no hay nada que reanudar</translation>
-    </message>
-    <message>
         <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
         <translation>escribe un trabajo con estas entradas y opciones en un archivo, o en la salida estándar con «-»</translation>
     </message>
@@ -4497,10 +4557,6 @@
     <message>
         <source>what a name begins with; PART is the same as for --name</source>
         <translation>con qué empieza un nombre; PART es como en --name</translation>
-    </message>
-    <message>
-        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
-        <translation>el centro de un nombre: original, el nombre de la entrada; number, number:START o number:START:DIGITS; date y time, los de la toma, o los del archivo si una imagen no los tiene; text:TEXT; nothing</translation>
     </message>
     <message>
         <source>what a name ends with</source>
@@ -5423,10 +5479,6 @@
         <translation>sin cambios</translation>
     </message>
     <message>
-        <source>%1 needs %2</source>
-        <translation>%1 necesita %2</translation>
-    </message>
-    <message>
         <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
         <translation>hace solo lo que ha cambiado desde la última actualización en la carpeta de salida: su entrada, los ajustes del trabajo o un archivo que estos nombran. Todos los demás resultados quedan como están</translation>
     </message>
@@ -5441,6 +5493,250 @@
     <message>
         <source>the folder cannot be written, or another process keeps the record</source>
         <translation>no se puede escribir en la carpeta, u otro proceso tiene el registro</translation>
+    </message>
+    <message>
+        <source>who made the picture</source>
+        <translation>quién hizo la imagen</translation>
+    </message>
+    <message>
+        <source>the notice that says whose the picture is</source>
+        <translation>el aviso que dice de quién es la imagen</translation>
+    </message>
+    <message>
+        <source>who is to be named where the picture is shown</source>
+        <translation>a quién hay que nombrar donde se muestra la imagen</translation>
+    </message>
+    <message>
+        <source>a short name of the picture</source>
+        <translation>un nombre corto de la imagen</translation>
+    </message>
+    <message>
+        <source>separated by commas or semicolons</source>
+        <translation>separadas por comas o puntos y coma</translation>
+    </message>
+    <message>
+        <source>how the picture may be used</source>
+        <translation>cómo se puede usar la imagen</translation>
+    </message>
+    <message>
+        <source>Writes creator, rights, title and keywords into the metadata</source>
+        <translation>Escribe autor, derechos, título y palabras clave en los metadatos</translation>
+    </message>
+    <message>
+        <source>the text has tokens, such as {date:YYYY-MM-DD}</source>
+        <translation>el texto tiene marcadores como {date:YYYY-MM-DD}</translation>
+    </message>
+    <message>
+        <source>it holds no job</source>
+        <translation>no contiene ningún trabajo</translation>
+    </message>
+    <message>
+        <source>its output folder is &quot;%1&quot;, but has to be an absolute path</source>
+        <translation>su carpeta de salida es «%1», pero debe ser una ruta absoluta</translation>
+    </message>
+    <message>
+        <source>a job has no name</source>
+        <translation>un trabajo no tiene nombre</translation>
+    </message>
+    <message>
+        <source>two jobs have the name &quot;%1&quot;</source>
+        <translation>dos trabajos se llaman «%1»</translation>
+    </message>
+    <message>
+        <source>the job &quot;%1&quot; writes to &quot;%2&quot;, which is not in the output folder, &quot;%3&quot;</source>
+        <translation>el trabajo «%1» escribe en «%2», que no está en la carpeta de salida «%3»</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 jobs</source>
+        <translation>contiene más de %1 trabajos</translation>
+    </message>
+    <message>
+        <source>it is no bundle of jobs</source>
+        <translation>no es un conjunto de trabajos</translation>
+    </message>
+    <message>
+        <source>it takes nothing after a colon</source>
+        <translation>no admite nada tras dos puntos</translation>
+    </message>
+    <message>
+        <source>the number of digits must be a whole number from 1 to %1</source>
+        <translation>el número de cifras debe ser un número entero de 1 a %1</translation>
+    </message>
+    <message>
+        <source>a date is made of YYYY, YY, MM and DD, with no other letters between them</source>
+        <translation>una fecha se compone de YYYY, YY, MM y DD, sin otras letras entre ellos</translation>
+    </message>
+    <message>
+        <source>a time is made of HH, MM and SS, with no other letters between them</source>
+        <translation>una hora se compone de HH, MM y SS, sin otras letras entre ellos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; the tokens are %3, and {{ is a brace</source>
+        <translation>«%1» en el carácter %2 no es un marcador; los marcadores son %3, y {{ es una llave</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; did you mean &quot;{%3}&quot;?</source>
+        <translation>«%1» en el carácter %2 no es un marcador; ¿quería decir «{%3}»?</translation>
+    </message>
+    <message>
+        <source>&quot;}&quot; at character %1 closes no token; write }} for a brace</source>
+        <translation>«}» en el carácter %1 no cierra ningún marcador; escriba }} para una llave</translation>
+    </message>
+    <message>
+        <source>&quot;{&quot; at character %1 begins a token that has no end; write {{ for a brace</source>
+        <translation>«{» en el carácter %1 empieza un marcador sin final; escriba {{ para una llave</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 cannot be used: %3</source>
+        <translation>«%1» en el carácter %2 no se puede usar: %3</translation>
+    </message>
+    <message>
+        <source>a text with tokens, such as {date}_{number:4}</source>
+        <translation>un texto con marcadores como {date}_{number:4}</translation>
+    </message>
+    <message>
+        <source>depth map lost</source>
+        <translation>mapa de profundidad perdido</translation>
+    </message>
+    <message>
+        <source>film lost</source>
+        <translation>vídeo perdido</translation>
+    </message>
+    <message>
+        <source>audio lost</source>
+        <translation>audio perdido</translation>
+    </message>
+    <message>
+        <source>It has inputs, but those of a bundle belong in its first job</source>
+        <translation>Tiene entradas, pero las de un conjunto van en su primer trabajo</translation>
+    </message>
+    <message>
+        <source>The bundle of jobs cannot be read: %1</source>
+        <translation>No se puede leer el conjunto de trabajos: %1</translation>
+    </message>
+    <message>
+        <source>Job &quot;%1&quot;: %2</source>
+        <translation>Trabajo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Its output folder is &quot;%1&quot;, but the bundle says &quot;%2&quot;</source>
+        <translation>Su carpeta de salida es «%1», pero el conjunto dice «%2»</translation>
+    </message>
+    <message>
+        <source>Several results of one picture cannot replace their original</source>
+        <translation>Varios resultados de una imagen no pueden reemplazar su original</translation>
+    </message>
+    <message>
+        <source>it has a depth map, which the result lacks</source>
+        <translation>tiene un mapa de profundidad que falta en el resultado</translation>
+    </message>
+    <message>
+        <source>it has a film, which the result lacks</source>
+        <translation>tiene un vídeo que falta en el resultado</translation>
+    </message>
+    <message>
+        <source>it has audio, which the result lacks</source>
+        <translation>tiene audio que falta en el resultado</translation>
+    </message>
+    <message>
+        <source>--in-place makes one result of each picture, but several presets or jobs are given; remove --in-place, or all but one of them</source>
+        <translation>--in-place hace un resultado de cada imagen, pero se indican varios ajustes o trabajos; quite --in-place o todos menos uno</translation>
+    </message>
+    <message>
+        <source>several presets or jobs need one output folder, in which each gets a folder of its name</source>
+        <translation>varios ajustes o trabajos necesitan una carpeta de salida, en la que cada uno tiene una carpeta con su nombre</translation>
+    </message>
+    <message>
+        <source>%1 has other inputs than %2; results of one run have the same inputs, and --no-inputs drops those of saved jobs</source>
+        <translation>%1 tiene otras entradas que %2; los resultados de una ejecución tienen las mismas entradas, y --no-inputs descarta las de los trabajos guardados</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 requiere --resume</translation>
+    </message>
+    <message>
+        <source>one folder to watch is needed</source>
+        <translation>hace falta una carpeta que vigilar</translation>
+    </message>
+    <message>
+        <source>the results would come into the watched folder %1; write them to a folder in it, or elsewhere</source>
+        <translation>los resultados llegarían a la carpeta vigilada %1; escríbalos en una carpeta dentro de ella o en otro lugar</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Several jobs make several results of each picture, each in a folder of its name. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>procesa un trabajo guardado, archivos y carpetas, o ambas cosas; las opciones prevalecen sobre el trabajo. Varios trabajos hacen varios resultados de cada imagen, cada uno en una carpeta con su nombre. Código de salida: 0 si todas las imágenes se escribieron o se omitieron por una regla indicada en una opción; 1 si alguna falló o se omitió por otra causa; 2 si los argumentos o el trabajo son incorrectos; 3 si el servidor no se pudo iniciar o se perdió; 4 si la ejecución se canceló; 5 si no hay ninguna imagen entre las entradas; 6 si esta ejecución ya está en marcha; 7 si no hay nada que reanudar</translation>
+    </message>
+    <message>
+        <source>processes the pictures in a folder and its subfolders, and those that come, until it is ended. Pictures are taken when they have arrived whole, and each once, also over restarts; numbers in names go on. Nobody is asked: ask becomes rename for names, stop for the output, and skip otherwise. Exit status: 0 when it was ended between pictures; 4 when it was ended while pictures were in work, which the next start finishes; 1 when the folder is gone or the output cannot be written; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 6 when the output folder is used for watching already</source>
+        <translation>procesa las imágenes de una carpeta y sus subcarpetas, y las que lleguen, hasta que se termine. Las imágenes se toman cuando han llegado enteras, y cada una una vez, también tras reiniciar; los números de los nombres continúan. No se pregunta a nadie: ask pasa a ser rename para los nombres, stop para la salida y skip en lo demás. Código de salida: 0 si se terminó entre imágenes; 4 si se terminó con imágenes en curso, que el próximo inicio acaba; 1 si la carpeta ya no está o no se puede escribir la salida; 2 si los argumentos o el trabajo son incorrectos; 3 si el servidor no se pudo iniciar o se perdió; 6 si ya se vigila para la carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Every picture that comes into a folder</source>
+        <translation>Cada imagen que llega a una carpeta</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them. Given several times, each picture gets a result of each preset, in a folder of its name in the output folder</source>
+        <translation>parte de un ajuste; «velkora-batch presets» los muestra. Si se indica varias veces, cada imagen tiene un resultado de cada ajuste, en una carpeta con su nombre dentro de la carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Watching</source>
+        <translation>Vigilancia</translation>
+    </message>
+    <message>
+        <source>how long a picture has to stay the same before it is taken; default: 2. Pictures that are moved into the folder are taken at once</source>
+        <translation>cuánto tiempo tiene que permanecer igual una imagen antes de tomarla; por omisión: 2. Las imágenes que se mueven a la carpeta se toman enseguida</translation>
+    </message>
+    <message>
+        <source>looks for pictures every so many seconds, in place of waiting for the system&apos;s word; default: 5 where the system tells nothing, as for network folders</source>
+        <translation>busca imágenes cada tantos segundos, en lugar de esperar el aviso del sistema; por omisión: 5 donde el sistema no avisa, como en carpetas de red</translation>
+    </message>
+    <message>
+        <source>%1 needs --update</source>
+        <translation>%1 requiere --update</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given twice; remove one of them</source>
+        <translation>«%1» se indica dos veces; quite una de ellas</translation>
+    </message>
+    <message>
+        <source>the results of &quot;%1&quot; and &quot;%2&quot; would go to one folder, &quot;%3&quot;; give one of them another name</source>
+        <translation>los resultados de «%1» y «%2» irían a una misma carpeta, «%3»; dé otro nombre a uno de ellos</translation>
+    </message>
+    <message>
+        <source>at most %1 results can be made of one picture</source>
+        <translation>de una imagen se pueden hacer como máximo %1 resultados</translation>
+    </message>
+    <message>
+        <source>what {number} in names begins with; 1, unless it is given</source>
+        <translation>con qué empieza {number} en los nombres; 1 si no se indica</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without {number} in a name; add it to --name</source>
+        <translation>«%1» no tiene efecto sin {number} en un nombre; añádalo a --name</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing; or a text with tokens, such as {date:YYYY-MM-DD}_{number:4}</source>
+        <translation>el centro de un nombre: original, el nombre de la entrada; number, number:START o number:START:DIGITS; date y time, los de la toma, o los del archivo si una imagen no los tiene; text:TEXT; nothing; o un texto con marcadores como {date:YYYY-MM-DD}_{number:4}</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be made</source>
+        <translation>no se puede crear la carpeta de salida %1</translation>
+    </message>
+    <message>
+        <source>another process watches a folder for %1 already</source>
+        <translation>otro proceso ya vigila una carpeta para %1</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be written</source>
+        <translation>no se puede escribir en la carpeta de salida %1</translation>
+    </message>
+    <message>
+        <source>it is no record of a watched folder that this version reads</source>
+        <translation>no es un registro de una carpeta vigilada que esta versión lea</translation>
+    </message>
+    <message>
+        <source>what was watched before cannot be read and written: %1: %2</source>
+        <translation>no se puede leer y escribir lo vigilado hasta ahora: %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -232,10 +232,6 @@
         <translation>%1&#xa0;: utilisez --output DIR</translation>
     </message>
     <message>
-        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
-        <translation>%1. Un seul travail enregistré est possible&#xa0;: en premier argument de run, plan et show, ou avec --from pour create</translation>
-    </message>
-    <message>
         <source>%1; use --force to replace it</source>
         <translation>%1&#x202f;; utilisez --force pour le remplacer</translation>
     </message>
@@ -2283,6 +2279,74 @@
         <source>Make only what has &amp;changed</source>
         <translation>Ne faire que ce qui a &amp;changé</translation>
     </message>
+    <message>
+        <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>
+        <translation>%1. On peut indiquer des travaux enregistrés : comme premiers arguments de run et plan, un comme premier argument de show, ou à create avec --from</translation>
+    </message>
+    <message>
+        <source>%1 can no longer be read: %2</source>
+        <translation>impossible de lire encore %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>watching %1; results go to %2. Ctrl-C ends it.</source>
+        <translation>surveillance de %1&#x202f;; les résultats vont dans %2. Ctrl-C y met fin.</translation>
+    </message>
+    <message>
+        <source>warning %1: %2</source>
+        <translation>avertissement %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>watching ends, as a policy says; the next start tries these pictures again.</source>
+        <translation>la surveillance s’arrête, comme le veut une règle&#x202f;; le prochain lancement réessaie ces images.</translation>
+    </message>
+    <message>
+        <source>Written: %1, skipped: %2, failed: %3.</source>
+        <translation>Écrites&#xa0;: %1, ignorées&#xa0;: %2, échouées&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Créateur</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Crédit</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Écrire des métadonnées</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Text has tokens</source>
+        <translation>Le texte a des jetons</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Conditions d’utilisation</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Mention de copyright</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Example, with what a picture might say: %1</source>
+        <translation>Exemple, avec ce qu’une image pourrait dire&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4235,10 +4299,6 @@
         <translation>affiche du JSON</translation>
     </message>
     <message>
-        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
-        <translation>traite un travail enregistré, des fichiers et dossiers, ou les deux&#x202f;; les options passent avant le travail. Code de sortie&#xa0;: 0 si toutes les images ont été écrites, ou ignorées par une règle nommée dans une option&#x202f;; 1 si certaines ont échoué ou ont été ignorées autrement&#x202f;; 2 si les arguments ou le travail sont incorrects&#x202f;; 3 si le serveur n’a pas pu être lancé ou a été perdu&#x202f;; 4 si l’exécution a été annulée&#x202f;; 5 s’il n’y a pas d’image parmi les entrées&#x202f;; 6 si cette exécution est déjà en cours&#x202f;; 7 s’il n’y a rien à reprendre</translation>
-    </message>
-    <message>
         <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
         <translation>écrit un travail avec ces entrées et options dans un fichier, ou sur la sortie standard pour «&#xa0;-&#xa0;»</translation>
     </message>
@@ -4497,10 +4557,6 @@
     <message>
         <source>what a name begins with; PART is the same as for --name</source>
         <translation>ce par quoi un nom commence&#x202f;; PART est comme pour --name</translation>
-    </message>
-    <message>
-        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
-        <translation>le milieu d’un nom&#xa0;: original, le nom de l’entrée&#x202f;; number, number:START ou number:START:DIGITS&#x202f;; date et time, ceux de la prise de vue, ou du fichier si une image n’en a pas&#x202f;; text:TEXT&#x202f;; nothing</translation>
     </message>
     <message>
         <source>what a name ends with</source>
@@ -5423,10 +5479,6 @@
         <translation>inchangé</translation>
     </message>
     <message>
-        <source>%1 needs %2</source>
-        <translation>%1 exige %2</translation>
-    </message>
-    <message>
         <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
         <translation>ne fait que ce qui a changé depuis la dernière mise à jour dans le dossier de sortie : l’entrée, les réglages du travail ou un fichier qu’ils nomment. Tous les autres résultats restent tels quels</translation>
     </message>
@@ -5441,6 +5493,250 @@
     <message>
         <source>the folder cannot be written, or another process keeps the record</source>
         <translation>le dossier ne peut pas être écrit, ou un autre processus tient le registre</translation>
+    </message>
+    <message>
+        <source>who made the picture</source>
+        <translation>qui a fait l’image</translation>
+    </message>
+    <message>
+        <source>the notice that says whose the picture is</source>
+        <translation>la mention qui dit à qui est l’image</translation>
+    </message>
+    <message>
+        <source>who is to be named where the picture is shown</source>
+        <translation>qui doit être nommé là où l’image est montrée</translation>
+    </message>
+    <message>
+        <source>a short name of the picture</source>
+        <translation>un nom court de l’image</translation>
+    </message>
+    <message>
+        <source>separated by commas or semicolons</source>
+        <translation>séparés par des virgules ou des points-virgules</translation>
+    </message>
+    <message>
+        <source>how the picture may be used</source>
+        <translation>comment l’image peut être utilisée</translation>
+    </message>
+    <message>
+        <source>Writes creator, rights, title and keywords into the metadata</source>
+        <translation>Écrit le créateur, les droits, le titre et les mots-clés dans les métadonnées</translation>
+    </message>
+    <message>
+        <source>the text has tokens, such as {date:YYYY-MM-DD}</source>
+        <translation>le texte a des jetons comme {date:YYYY-MM-DD}</translation>
+    </message>
+    <message>
+        <source>it holds no job</source>
+        <translation>il ne contient aucun travail</translation>
+    </message>
+    <message>
+        <source>its output folder is &quot;%1&quot;, but has to be an absolute path</source>
+        <translation>son dossier de sortie est « %1 », mais doit être un chemin absolu</translation>
+    </message>
+    <message>
+        <source>a job has no name</source>
+        <translation>un travail n’a pas de nom</translation>
+    </message>
+    <message>
+        <source>two jobs have the name &quot;%1&quot;</source>
+        <translation>deux travaux portent le nom « %1 »</translation>
+    </message>
+    <message>
+        <source>the job &quot;%1&quot; writes to &quot;%2&quot;, which is not in the output folder, &quot;%3&quot;</source>
+        <translation>le travail « %1 » écrit dans « %2 », qui n’est pas dans le dossier de sortie « %3 »</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 jobs</source>
+        <translation>il contient plus de %1 travaux</translation>
+    </message>
+    <message>
+        <source>it is no bundle of jobs</source>
+        <translation>ce n’est pas un ensemble de travaux</translation>
+    </message>
+    <message>
+        <source>it takes nothing after a colon</source>
+        <translation>il n’admet rien après un deux-points</translation>
+    </message>
+    <message>
+        <source>the number of digits must be a whole number from 1 to %1</source>
+        <translation>le nombre de chiffres doit être un nombre entier de 1 à %1</translation>
+    </message>
+    <message>
+        <source>a date is made of YYYY, YY, MM and DD, with no other letters between them</source>
+        <translation>une date se compose de YYYY, YY, MM et DD, sans autres lettres entre eux</translation>
+    </message>
+    <message>
+        <source>a time is made of HH, MM and SS, with no other letters between them</source>
+        <translation>une heure se compose de HH, MM et SS, sans autres lettres entre eux</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; the tokens are %3, and {{ is a brace</source>
+        <translation>«&#xa0;%1&#xa0;» au caractère %2 n’est pas un jeton&#x202f;; les jetons sont %3, et {{ est une accolade</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; did you mean &quot;{%3}&quot;?</source>
+        <translation>«&#xa0;%1&#xa0;» au caractère %2 n’est pas un jeton&#x202f;; vouliez-vous dire «&#xa0;{%3}&#xa0;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>&quot;}&quot; at character %1 closes no token; write }} for a brace</source>
+        <translation>«&#xa0;}&#xa0;» au caractère %1 ne ferme aucun jeton&#x202f;; écrivez }} pour une accolade</translation>
+    </message>
+    <message>
+        <source>&quot;{&quot; at character %1 begins a token that has no end; write {{ for a brace</source>
+        <translation>«&#xa0;{&#xa0;» au caractère %1 commence un jeton sans fin&#x202f;; écrivez {{ pour une accolade</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 cannot be used: %3</source>
+        <translation>«&#xa0;%1&#xa0;» au caractère %2 ne peut pas être utilisé&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>a text with tokens, such as {date}_{number:4}</source>
+        <translation>un texte avec des jetons comme {date}_{number:4}</translation>
+    </message>
+    <message>
+        <source>depth map lost</source>
+        <translation>carte de profondeur perdue</translation>
+    </message>
+    <message>
+        <source>film lost</source>
+        <translation>film perdu</translation>
+    </message>
+    <message>
+        <source>audio lost</source>
+        <translation>son perdu</translation>
+    </message>
+    <message>
+        <source>It has inputs, but those of a bundle belong in its first job</source>
+        <translation>Il a des entrées, mais celles d’un ensemble vont dans son premier travail</translation>
+    </message>
+    <message>
+        <source>The bundle of jobs cannot be read: %1</source>
+        <translation>L’ensemble de travaux ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>Job &quot;%1&quot;: %2</source>
+        <translation>Travail « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Its output folder is &quot;%1&quot;, but the bundle says &quot;%2&quot;</source>
+        <translation>Son dossier de sortie est « %1 », mais l’ensemble indique « %2 »</translation>
+    </message>
+    <message>
+        <source>Several results of one picture cannot replace their original</source>
+        <translation>Plusieurs résultats d’une image ne peuvent pas remplacer leur original</translation>
+    </message>
+    <message>
+        <source>it has a depth map, which the result lacks</source>
+        <translation>il a une carte de profondeur que le résultat n’a pas</translation>
+    </message>
+    <message>
+        <source>it has a film, which the result lacks</source>
+        <translation>il a un film que le résultat n’a pas</translation>
+    </message>
+    <message>
+        <source>it has audio, which the result lacks</source>
+        <translation>il a du son que le résultat n’a pas</translation>
+    </message>
+    <message>
+        <source>--in-place makes one result of each picture, but several presets or jobs are given; remove --in-place, or all but one of them</source>
+        <translation>--in-place fait un résultat de chaque image, mais plusieurs préréglages ou travaux sont indiqués ; retirez --in-place, ou tous sauf un</translation>
+    </message>
+    <message>
+        <source>several presets or jobs need one output folder, in which each gets a folder of its name</source>
+        <translation>plusieurs préréglages ou travaux ont besoin d’un dossier de sortie, dans lequel chacun a un dossier à son nom</translation>
+    </message>
+    <message>
+        <source>%1 has other inputs than %2; results of one run have the same inputs, and --no-inputs drops those of saved jobs</source>
+        <translation>%1 a d’autres entrées que %2 ; les résultats d’une exécution ont les mêmes entrées, et --no-inputs retire celles des travaux enregistrés</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 exige --resume</translation>
+    </message>
+    <message>
+        <source>one folder to watch is needed</source>
+        <translation>il faut un dossier à surveiller</translation>
+    </message>
+    <message>
+        <source>the results would come into the watched folder %1; write them to a folder in it, or elsewhere</source>
+        <translation>les résultats arriveraient dans le dossier surveillé %1&#x202f;; écrivez-les dans un dossier qu’il contient, ou ailleurs</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Several jobs make several results of each picture, each in a folder of its name. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>traite un travail enregistré, des fichiers et dossiers, ou les deux&#x202f;; les options passent avant le travail. Plusieurs travaux font plusieurs résultats de chaque image, chacun dans un dossier à son nom. Code de sortie&#xa0;: 0 si toutes les images ont été écrites, ou ignorées par une règle nommée dans une option&#x202f;; 1 si certaines ont échoué ou ont été ignorées autrement&#x202f;; 2 si les arguments ou le travail sont incorrects&#x202f;; 3 si le serveur n’a pas pu être lancé ou a été perdu&#x202f;; 4 si l’exécution a été annulée&#x202f;; 5 s’il n’y a pas d’image parmi les entrées&#x202f;; 6 si cette exécution est déjà en cours&#x202f;; 7 s’il n’y a rien à reprendre</translation>
+    </message>
+    <message>
+        <source>processes the pictures in a folder and its subfolders, and those that come, until it is ended. Pictures are taken when they have arrived whole, and each once, also over restarts; numbers in names go on. Nobody is asked: ask becomes rename for names, stop for the output, and skip otherwise. Exit status: 0 when it was ended between pictures; 4 when it was ended while pictures were in work, which the next start finishes; 1 when the folder is gone or the output cannot be written; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 6 when the output folder is used for watching already</source>
+        <translation>traite les images d’un dossier et de ses sous-dossiers, et celles qui arrivent, jusqu’à ce qu’on y mette fin. Les images sont prises quand elles sont arrivées en entier, et chacune une fois, même après un redémarrage&#x202f;; les numéros des noms continuent. Personne n’est interrogé&#xa0;: ask devient rename pour les noms, stop pour la sortie, et skip sinon. Code de sortie&#xa0;: 0 si la fin est venue entre deux images&#x202f;; 4 si des images étaient en cours, que le prochain lancement termine&#x202f;; 1 si le dossier a disparu ou si la sortie ne peut pas être écrite&#x202f;; 2 si les arguments ou le travail sont incorrects&#x202f;; 3 si le serveur n’a pas pu être lancé ou a été perdu&#x202f;; 6 si une surveillance utilise déjà le dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Every picture that comes into a folder</source>
+        <translation>Chaque image qui arrive dans un dossier</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them. Given several times, each picture gets a result of each preset, in a folder of its name in the output folder</source>
+        <translation>part d’un préréglage ; « velkora-batch presets » les liste. Indiqué plusieurs fois, chaque image a un résultat de chaque préréglage, dans un dossier à son nom du dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Watching</source>
+        <translation>Surveillance</translation>
+    </message>
+    <message>
+        <source>how long a picture has to stay the same before it is taken; default: 2. Pictures that are moved into the folder are taken at once</source>
+        <translation>combien de temps une image doit rester la même avant d’être prise&#x202f;; par défaut&#xa0;: 2. Les images déplacées dans le dossier sont prises aussitôt</translation>
+    </message>
+    <message>
+        <source>looks for pictures every so many seconds, in place of waiting for the system&apos;s word; default: 5 where the system tells nothing, as for network folders</source>
+        <translation>cherche des images toutes les tant de secondes, au lieu d’attendre l’avis du système&#x202f;; par défaut&#xa0;: 5 là où le système ne dit rien, comme pour les dossiers réseau</translation>
+    </message>
+    <message>
+        <source>%1 needs --update</source>
+        <translation>%1 exige --update</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given twice; remove one of them</source>
+        <translation>« %1 » est indiqué deux fois ; retirez l’un des deux</translation>
+    </message>
+    <message>
+        <source>the results of &quot;%1&quot; and &quot;%2&quot; would go to one folder, &quot;%3&quot;; give one of them another name</source>
+        <translation>les résultats de « %1 » et « %2 » iraient dans un même dossier, « %3 » ; donnez un autre nom à l’un des deux</translation>
+    </message>
+    <message>
+        <source>at most %1 results can be made of one picture</source>
+        <translation>on peut faire au plus %1 résultats d’une image</translation>
+    </message>
+    <message>
+        <source>what {number} in names begins with; 1, unless it is given</source>
+        <translation>par quoi {number} commence dans les noms&#x202f;; 1 sans indication</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without {number} in a name; add it to --name</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’effet sans {number} dans un nom&#x202f;; ajoutez-le à --name</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing; or a text with tokens, such as {date:YYYY-MM-DD}_{number:4}</source>
+        <translation>le milieu d’un nom&#xa0;: original, le nom de l’entrée&#x202f;; number, number:START ou number:START:DIGITS&#x202f;; date et time, ceux de la prise de vue, ou du fichier si une image n’en a pas&#x202f;; text:TEXT&#x202f;; nothing&#x202f;; ou un texte avec des jetons comme {date:YYYY-MM-DD}_{number:4}</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be made</source>
+        <translation>impossible de créer le dossier de sortie %1</translation>
+    </message>
+    <message>
+        <source>another process watches a folder for %1 already</source>
+        <translation>un autre processus surveille déjà un dossier pour %1</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be written</source>
+        <translation>impossible d’écrire dans le dossier de sortie %1</translation>
+    </message>
+    <message>
+        <source>it is no record of a watched folder that this version reads</source>
+        <translation>ce n’est pas un relevé de dossier surveillé que cette version sait lire</translation>
+    </message>
+    <message>
+        <source>what was watched before cannot be read and written: %1: %2</source>
+        <translation>impossible de lire et d’écrire ce qui a été surveillé jusqu’ici&#xa0;: %1&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

@@ -232,10 +232,6 @@
         <translation>%1: --output DIR を使用してください</translation>
     </message>
     <message>
-        <source>%1. One saved job may be given: as the first argument of run, plan and show, or to create with --from</source>
-        <translation>%1。保存済みジョブは 1 つだけ指定できます。run、plan、show の最初の引数として、または create の --from で指定します</translation>
-    </message>
-    <message>
         <source>%1; use --force to replace it</source>
         <translation>%1。置き換えるには --force を使用してください</translation>
     </message>
@@ -2283,6 +2279,74 @@
         <source>Make only what has &amp;changed</source>
         <translation>変更されたものだけを作成(&amp;C)</translation>
     </message>
+    <message>
+        <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>
+        <translation>%1。保存済みジョブは、run と plan の最初の引数として、show の最初の引数として 1 つ、または create の --from で指定できます</translation>
+    </message>
+    <message>
+        <source>%1 can no longer be read: %2</source>
+        <translation>%1 を読み込めなくなりました: %2</translation>
+    </message>
+    <message>
+        <source>watching %1; results go to %2. Ctrl-C ends it.</source>
+        <translation>%1 を監視中です。結果の保存先は %2 です。Ctrl-C で終了します。</translation>
+    </message>
+    <message>
+        <source>warning %1: %2</source>
+        <translation>警告 %1: %2</translation>
+    </message>
+    <message>
+        <source>watching ends, as a policy says; the next start tries these pictures again.</source>
+        <translation>規則に従って監視を終了します。次回の起動時にこれらの画像をもう一度処理します。</translation>
+    </message>
+    <message>
+        <source>Written: %1, skipped: %2, failed: %3.</source>
+        <translation>書き出し: %1、スキップ: %2、失敗: %3。</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>作成者</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>クレジット</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>キーワード</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>メタデータを書き込む</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Text has tokens</source>
+        <translation>文字列にトークンを使う</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>使用条件</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>著作権表示</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>レンズ</translation>
+    </message>
+    <message>
+        <source>Example, with what a picture might say: %1</source>
+        <translation>例（画像の情報は仮のもの）: %1</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -4235,10 +4299,6 @@
         <translation>JSON を表示します</translation>
     </message>
     <message>
-        <source>processes a saved job, files and folders, or both; options override the job. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
-        <translation>保存済みジョブ、ファイルやフォルダー、またはその両方を処理します。オプションはジョブより優先されます。終了コード: 0 はすべての画像を書き出したか、オプションで指定した規則によりスキップした場合、1 は失敗したか、それ以外の理由でスキップした画像がある場合、2 は引数またはジョブが正しくない場合、3 はサーバーを起動できないか失った場合、4 は実行を中止した場合、5 は入力に画像がない場合、6 はこの実行が既に進行中の場合、7 は再開するものがない場合です</translation>
-    </message>
-    <message>
         <source>writes a job with these inputs and options to a file, or to standard output for &quot;-&quot;</source>
         <translation>これらの入力とオプションからなるジョブをファイルに書き出します。「-」は標準出力です</translation>
     </message>
@@ -4497,10 +4557,6 @@
     <message>
         <source>what a name begins with; PART is the same as for --name</source>
         <translation>名前の先頭。PART は --name と同じです</translation>
-    </message>
-    <message>
-        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing</source>
-        <translation>名前の中央: original は入力の名前、number、number:START または number:START:DIGITS は番号、date と time は撮影日時（なければファイルの日時）、text:TEXT、nothing</translation>
     </message>
     <message>
         <source>what a name ends with</source>
@@ -5423,10 +5479,6 @@
         <translation>変更なし</translation>
     </message>
     <message>
-        <source>%1 needs %2</source>
-        <translation>%1 には %2 が必要です</translation>
-    </message>
-    <message>
         <source>makes only what has changed since the last update into the output folder: its input, the job&apos;s settings, or a file that they name. All other results stay as they are</source>
         <translation>出力フォルダーへの前回の更新以降に、入力、ジョブの設定、または設定が指定するファイルが変わったものだけを作成します。ほかの結果はそのまま残ります</translation>
     </message>
@@ -5441,6 +5493,250 @@
     <message>
         <source>the folder cannot be written, or another process keeps the record</source>
         <translation>フォルダーに書き込めないか、別のプロセスが記録を使用しています</translation>
+    </message>
+    <message>
+        <source>who made the picture</source>
+        <translation>画像を作った人</translation>
+    </message>
+    <message>
+        <source>the notice that says whose the picture is</source>
+        <translation>画像が誰のものかを示す表示</translation>
+    </message>
+    <message>
+        <source>who is to be named where the picture is shown</source>
+        <translation>画像を掲載するときに記す名前</translation>
+    </message>
+    <message>
+        <source>a short name of the picture</source>
+        <translation>画像の短い名前</translation>
+    </message>
+    <message>
+        <source>separated by commas or semicolons</source>
+        <translation>コンマまたはセミコロンで区切る</translation>
+    </message>
+    <message>
+        <source>how the picture may be used</source>
+        <translation>画像の使い方の条件</translation>
+    </message>
+    <message>
+        <source>Writes creator, rights, title and keywords into the metadata</source>
+        <translation>作成者、権利、タイトル、キーワードをメタデータに書き込みます</translation>
+    </message>
+    <message>
+        <source>the text has tokens, such as {date:YYYY-MM-DD}</source>
+        <translation>文字列に {date:YYYY-MM-DD} のようなトークンがある</translation>
+    </message>
+    <message>
+        <source>it holds no job</source>
+        <translation>ジョブが含まれていません</translation>
+    </message>
+    <message>
+        <source>its output folder is &quot;%1&quot;, but has to be an absolute path</source>
+        <translation>出力フォルダーは「%1」ですが、絶対パスでなければなりません</translation>
+    </message>
+    <message>
+        <source>a job has no name</source>
+        <translation>名前のないジョブがあります</translation>
+    </message>
+    <message>
+        <source>two jobs have the name &quot;%1&quot;</source>
+        <translation>2 つのジョブの名前が「%1」です</translation>
+    </message>
+    <message>
+        <source>the job &quot;%1&quot; writes to &quot;%2&quot;, which is not in the output folder, &quot;%3&quot;</source>
+        <translation>ジョブ「%1」は「%2」に書き込みますが、これは出力フォルダー「%3」の中にありません</translation>
+    </message>
+    <message>
+        <source>it holds more than %1 jobs</source>
+        <translation>%1 個を超えるジョブが含まれています</translation>
+    </message>
+    <message>
+        <source>it is no bundle of jobs</source>
+        <translation>ジョブの束ではありません</translation>
+    </message>
+    <message>
+        <source>it takes nothing after a colon</source>
+        <translation>コロンの後には何も指定できません</translation>
+    </message>
+    <message>
+        <source>the number of digits must be a whole number from 1 to %1</source>
+        <translation>桁数は 1 から %1 までの整数でなければなりません</translation>
+    </message>
+    <message>
+        <source>a date is made of YYYY, YY, MM and DD, with no other letters between them</source>
+        <translation>日付は YYYY、YY、MM、DD で書き、間にほかの文字を入れません</translation>
+    </message>
+    <message>
+        <source>a time is made of HH, MM and SS, with no other letters between them</source>
+        <translation>時刻は HH、MM、SS で書き、間にほかの文字を入れません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; the tokens are %3, and {{ is a brace</source>
+        <translation>%2 文字目の「%1」はトークンではありません。トークンは %3 で、{{ は波括弧です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 is not a token; did you mean &quot;{%3}&quot;?</source>
+        <translation>%2 文字目の「%1」はトークンではありません。「{%3}」のことですか</translation>
+    </message>
+    <message>
+        <source>&quot;}&quot; at character %1 closes no token; write }} for a brace</source>
+        <translation>%1 文字目の「}」に対応するトークンがありません。波括弧は }} と書きます</translation>
+    </message>
+    <message>
+        <source>&quot;{&quot; at character %1 begins a token that has no end; write {{ for a brace</source>
+        <translation>%1 文字目の「{」で始まるトークンに終わりがありません。波括弧は {{ と書きます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; at character %2 cannot be used: %3</source>
+        <translation>%2 文字目の「%1」は使えません: %3</translation>
+    </message>
+    <message>
+        <source>a text with tokens, such as {date}_{number:4}</source>
+        <translation>{date}_{number:4} のようなトークンを含む文字列</translation>
+    </message>
+    <message>
+        <source>depth map lost</source>
+        <translation>深度マップを消失</translation>
+    </message>
+    <message>
+        <source>film lost</source>
+        <translation>動画を消失</translation>
+    </message>
+    <message>
+        <source>audio lost</source>
+        <translation>音声を消失</translation>
+    </message>
+    <message>
+        <source>It has inputs, but those of a bundle belong in its first job</source>
+        <translation>入力がありますが、束の入力は最初のジョブに置きます</translation>
+    </message>
+    <message>
+        <source>The bundle of jobs cannot be read: %1</source>
+        <translation>ジョブの束を読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>Job &quot;%1&quot;: %2</source>
+        <translation>ジョブ「%1」: %2</translation>
+    </message>
+    <message>
+        <source>Its output folder is &quot;%1&quot;, but the bundle says &quot;%2&quot;</source>
+        <translation>出力フォルダーは「%1」ですが、束では「%2」となっています</translation>
+    </message>
+    <message>
+        <source>Several results of one picture cannot replace their original</source>
+        <translation>1 枚の画像の複数の結果で元の画像を置き換えることはできません</translation>
+    </message>
+    <message>
+        <source>it has a depth map, which the result lacks</source>
+        <translation>深度マップがありますが、結果には含まれません</translation>
+    </message>
+    <message>
+        <source>it has a film, which the result lacks</source>
+        <translation>動画がありますが、結果には含まれません</translation>
+    </message>
+    <message>
+        <source>it has audio, which the result lacks</source>
+        <translation>音声がありますが、結果には含まれません</translation>
+    </message>
+    <message>
+        <source>--in-place makes one result of each picture, but several presets or jobs are given; remove --in-place, or all but one of them</source>
+        <translation>--in-place は各画像から 1 つの結果を作りますが、複数のプリセットまたはジョブが指定されています。--in-place を取り除くか、1 つだけ残してください</translation>
+    </message>
+    <message>
+        <source>several presets or jobs need one output folder, in which each gets a folder of its name</source>
+        <translation>複数のプリセットまたはジョブには 1 つの出力フォルダーが必要です。その中にそれぞれの名前のフォルダーができます</translation>
+    </message>
+    <message>
+        <source>%1 has other inputs than %2; results of one run have the same inputs, and --no-inputs drops those of saved jobs</source>
+        <translation>%1 の入力は %2 と異なります。1 回の実行の結果は同じ入力から作られます。--no-inputs は保存済みジョブの入力を外します</translation>
+    </message>
+    <message>
+        <source>%1 needs --resume</source>
+        <translation>%1 には --resume が必要です</translation>
+    </message>
+    <message>
+        <source>one folder to watch is needed</source>
+        <translation>監視するフォルダーを 1 つ指定してください</translation>
+    </message>
+    <message>
+        <source>the results would come into the watched folder %1; write them to a folder in it, or elsewhere</source>
+        <translation>結果が監視中のフォルダー %1 に入ってしまいます。その中のフォルダーか別の場所に書き出してください</translation>
+    </message>
+    <message>
+        <source>processes a saved job, files and folders, or both; options override the job. Several jobs make several results of each picture, each in a folder of its name. Exit status: 0 when all pictures were written, or left out by a policy that an option names; 1 when some failed or were left out otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on already; 7 when there is nothing to resume</source>
+        <translation>保存済みジョブ、ファイルやフォルダー、またはその両方を処理します。オプションはジョブより優先されます。複数のジョブは各画像から複数の結果を作り、それぞれの名前のフォルダーに入れます。終了コード: 0 はすべての画像を書き出したか、オプションで指定した規則によりスキップした場合、1 は失敗したか、それ以外の理由でスキップした画像がある場合、2 は引数またはジョブが正しくない場合、3 はサーバーを起動できないか失った場合、4 は実行を中止した場合、5 は入力に画像がない場合、6 はこの実行が既に進行中の場合、7 は再開するものがない場合です</translation>
+    </message>
+    <message>
+        <source>processes the pictures in a folder and its subfolders, and those that come, until it is ended. Pictures are taken when they have arrived whole, and each once, also over restarts; numbers in names go on. Nobody is asked: ask becomes rename for names, stop for the output, and skip otherwise. Exit status: 0 when it was ended between pictures; 4 when it was ended while pictures were in work, which the next start finishes; 1 when the folder is gone or the output cannot be written; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 6 when the output folder is used for watching already</source>
+        <translation>フォルダーとそのサブフォルダーにある画像と、後から届く画像を、終了されるまで処理します。画像は完全に届いてから、再起動をまたいでも一度だけ処理され、名前の番号は続きます。質問はしません: ask は、名前では rename、出力では stop、それ以外では skip になります。終了コード: 0 は画像の処理中でないときに終了した場合、4 は処理中の画像があるときに終了した場合 (次回の起動時に仕上げます)、1 はフォルダーがなくなったか出力を書き込めない場合、2 は引数またはジョブが正しくない場合、3 はサーバーを起動できないか失った場合、6 は出力フォルダーがすでに監視に使われている場合です</translation>
+    </message>
+    <message>
+        <source>Every picture that comes into a folder</source>
+        <translation>フォルダーに届くすべての画像</translation>
+    </message>
+    <message>
+        <source>starts from a preset; &quot;velkora-batch presets&quot; lists them. Given several times, each picture gets a result of each preset, in a folder of its name in the output folder</source>
+        <translation>プリセットを出発点にします。一覧は「velkora-batch presets」で表示されます。複数回指定すると、各画像からプリセットごとに結果が作られ、出力フォルダー内のその名前のフォルダーに入ります</translation>
+    </message>
+    <message>
+        <source>Watching</source>
+        <translation>監視</translation>
+    </message>
+    <message>
+        <source>how long a picture has to stay the same before it is taken; default: 2. Pictures that are moved into the folder are taken at once</source>
+        <translation>画像を処理するまでに変化しないでいるべき時間。既定値: 2。フォルダーに移動された画像はすぐに処理されます</translation>
+    </message>
+    <message>
+        <source>looks for pictures every so many seconds, in place of waiting for the system&apos;s word; default: 5 where the system tells nothing, as for network folders</source>
+        <translation>システムの通知を待たずに、この秒数ごとに画像を探します。既定値: ネットワークフォルダーなど、システムが通知しない場所では 5</translation>
+    </message>
+    <message>
+        <source>%1 needs --update</source>
+        <translation>%1 には --update が必要です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given twice; remove one of them</source>
+        <translation>「%1」が 2 回指定されています。一方を取り除いてください</translation>
+    </message>
+    <message>
+        <source>the results of &quot;%1&quot; and &quot;%2&quot; would go to one folder, &quot;%3&quot;; give one of them another name</source>
+        <translation>「%1」と「%2」の結果が同じフォルダー「%3」に入ることになります。一方の名前を変えてください</translation>
+    </message>
+    <message>
+        <source>at most %1 results can be made of one picture</source>
+        <translation>1 枚の画像から作れる結果は最大 %1 個です</translation>
+    </message>
+    <message>
+        <source>what {number} in names begins with; 1, unless it is given</source>
+        <translation>名前の中の {number} の最初の数。指定しなければ 1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no effect without {number} in a name; add it to --name</source>
+        <translation>「%1」は名前に {number} がないと効果がありません。--name に加えてください</translation>
+    </message>
+    <message>
+        <source>the middle of a name: original, the input&apos;s name; number, number:START or number:START:DIGITS; date and time, those of the capture, or of the file where a picture has none; text:TEXT; nothing; or a text with tokens, such as {date:YYYY-MM-DD}_{number:4}</source>
+        <translation>名前の中央: original は入力の名前、number、number:START または number:START:DIGITS は番号、date と time は撮影日時（なければファイルの日時）、text:TEXT、nothing、または {date:YYYY-MM-DD}_{number:4} のようなトークンを含む文字列</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be made</source>
+        <translation>出力フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>another process watches a folder for %1 already</source>
+        <translation>別のプロセスがすでに %1 を出力先としてフォルダーを監視しています</translation>
+    </message>
+    <message>
+        <source>the output folder %1 cannot be written</source>
+        <translation>出力フォルダー %1 に書き込めません</translation>
+    </message>
+    <message>
+        <source>it is no record of a watched folder that this version reads</source>
+        <translation>このバージョンで読める監視フォルダーの記録ではありません</translation>
+    </message>
+    <message>
+        <source>what was watched before cannot be read and written: %1: %2</source>
+        <translation>これまでの監視の記録を読み書きできません: %1: %2</translation>
     </message>
 </context>
 </TS>

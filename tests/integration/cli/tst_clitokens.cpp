@@ -171,23 +171,20 @@ void tst_CliTokens::plainTextsStayAsTheyAre()
 
 void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork_data()
 {
-    QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("effect");
     QTest::addColumn<QString>("error");
-    const QString plain = QStringLiteral("4");
-    const QString tokens = QStringLiteral("6");
-    QTest::newRow("unknown") << tokens << QStringLiteral("{nme}") << QString()
+    QTest::newRow("unknown") << QStringLiteral("{tokens}{nme}") << QString()
                              << "The name's middle: \"{nme}\" at character 1 is not a token; did you mean \"{name}\"?";
-    QTest::newRow("digits") << tokens << QStringLiteral("{number:99}") << QString()
+    QTest::newRow("digits") << QStringLiteral("{tokens}{number:99}") << QString()
                             << "the number of digits must be a whole number from 1 to 64";
-    QTest::newRow("date") << tokens << QStringLiteral("{date:YYYY-mm}") << QString()
+    QTest::newRow("date") << QStringLiteral("{tokens}{date:YYYY-mm}") << QString()
                           << "a date is made of YYYY, YY, MM and DD";
-    QTest::newRow("watermark") << plain << QStringLiteral("{nme}")
+    QTest::newRow("watermark") << QStringLiteral("{nme}")
                                << QStringLiteral(R"(<effect UID="watermark-text" enabled="1" data="%1"/>)")
                                       .arg(QString::fromLatin1(QByteArray(R"({"text":"{nme}","tokens":true})").toHex()))
                                << "Effect 1, \"watermark-text\": text: \"{nme}\" at character 1 is not a token";
-    QTest::newRow("metadata") << plain << QStringLiteral("a")
+    QTest::newRow("metadata") << QStringLiteral("a")
                               << QStringLiteral(R"(<effect UID="set-metadata" enabled="1" data="%1"/>)")
                                      .arg(QString::fromLatin1(QByteArray(R"({"title":"}"})").toHex()))
                               << "Effect 1, \"set-metadata\": title: \"}\" at character 1 closes no token";
@@ -196,7 +193,6 @@ void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork_data()
 // In a saved job, which options have not checked.
 void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork()
 {
-    QFETCH(QString, type);
     QFETCH(QString, text);
     QFETCH(QString, effect);
     QFETCH(QString, error);
@@ -204,9 +200,9 @@ void tst_CliTokens::wrongTokensAreRefusedBeforeAnyWork()
     QFile job(stage->Path(QStringLiteral("job.xml")));
     QVERIFY(job.open(QIODevice::WriteOnly));
     job.write(QStringLiteral(R"(<!DOCTYPE batch><root name=""><input/><style>%1</style><output><folder fileName="%2"/>)"
-                             R"(<naming><prefix type="5"/><middle type="%3" name="%4"/><suffix type="5"/></naming>)"
+                             R"(<naming><prefix type="5"/><middle type="4" name="%3"/><suffix type="5"/></naming>)"
                              R"(</output></root>)")
-                  .arg(effect, stage->Path(QStringLiteral("out")), type, text)
+                  .arg(effect, stage->Path(QStringLiteral("out")), text)
                   .toUtf8());
     job.close();
     const CliRun run = stage->Run({QStringLiteral("run"), QStringLiteral("job.xml"), QStringLiteral("in")});
