@@ -22,8 +22,7 @@ const QRegularExpression& Beginning()
 
 QString WithBeginning(const QString& text, int startNumber)
 {
-    return startNumber == 1 ? QStringLiteral("{tokens}") + text
-                            : QStringLiteral("{tokens:%1}").arg(startNumber) + text;
+    return startNumber == 1 ? QStringLiteral("{tokens}") + text : QStringLiteral("{tokens:%1}").arg(startNumber) + text;
 }
 
 /// `text` as a text with tokens that has none.
@@ -38,9 +37,8 @@ NamePart NamePartOf(const Settings& settings, Settings::NamingPart part)
 {
     NamePart found{settings.GetNamingTemplate(part), settings.GetCustomTemplate(part), settings.GetStartNumber(part),
                    settings.GetDigitsCount(part)};
-    const QRegularExpressionMatch tokens = found.kind == Settings::TemplateCustomText
-                                               ? Beginning().match(found.text)
-                                               : QRegularExpressionMatch();
+    const QRegularExpressionMatch tokens =
+        found.kind == Settings::TemplateCustomText ? Beginning().match(found.text) : QRegularExpressionMatch();
     if (tokens.hasMatch()) {
         found.kind = TemplateTokens;
         found.text = found.text.mid(tokens.capturedLength());

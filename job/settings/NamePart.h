@@ -10,8 +10,8 @@
 namespace BatchJob {
 
 /// A part of the names of results. A text with tokens is a kind of its own here; in the settings it is a custom text
-/// that begins with "{tokens}", or with "{tokens:NUMBER}" if its numbers do not begin with 1. Every other custom text is
-/// taken as it stands.
+/// that begins with "{tokens}", or with "{tokens:NUMBER}" if its numbers do not begin with 1. Every other custom text
+/// is taken as it stands.
 struct NamePart
 {
     ZTBatchOutputSettings::NamingTemplate kind = ZTBatchOutputSettings::TemplateNothing; ///< or TemplateTokens
