@@ -2276,7 +2276,7 @@
         <translation>Fertig in %1: %2 geschrieben, %3 waren aktuell.</translation>
     </message>
     <message>
-        <source>Make only what has &amp;changed</source>
+        <source>Make only &amp;what has changed</source>
         <translation>Nur &amp;Geändertes erzeugen</translation>
     </message>
     <message>

@@ -2276,8 +2276,8 @@
         <translation>Terminado en %1: %2 escritas, %3 ya estaban al día.</translation>
     </message>
     <message>
-        <source>Make only what has &amp;changed</source>
-        <translation>Hacer solo lo que ha &amp;cambiado</translation>
+        <source>Make only &amp;what has changed</source>
+        <translation>Hacer &amp;solo lo que ha cambiado</translation>
     </message>
     <message>
         <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>

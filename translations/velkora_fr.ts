@@ -2217,7 +2217,7 @@
     </message>
     <message>
         <source>Let other programs go &amp;first</source>
-        <translation>Laisser la &amp;priorité aux autres programmes</translation>
+        <translation>Laisser la priorité aux au&amp;tres programmes</translation>
     </message>
     <message>
         <source>Largest file</source>
@@ -2276,8 +2276,8 @@
         <translation>Terminé en %1 : %2 écrites, %3 étaient à jour.</translation>
     </message>
     <message>
-        <source>Make only what has &amp;changed</source>
-        <translation>Ne faire que ce qui a &amp;changé</translation>
+        <source>Make only &amp;what has changed</source>
+        <translation>Ne &amp;faire que ce qui a changé</translation>
     </message>
     <message>
         <source>%1. Saved jobs may be given: as the first arguments of run and plan, one as the first argument of show, or to create with --from</source>

@@ -2276,7 +2276,7 @@
         <translation>%1 で完了: %2 件を書き込み、%3 件は最新でした。</translation>
     </message>
     <message>
-        <source>Make only what has &amp;changed</source>
+        <source>Make only &amp;what has changed</source>
         <translation>変更されたものだけを作成(&amp;C)</translation>
     </message>
     <message>

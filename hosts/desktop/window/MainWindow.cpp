@@ -235,7 +235,7 @@ void MainWindow::MakeRunMenu()
     startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
     menu->addActions(bar->Actions());
     menu->addSeparator();
-    updateAction = menu->addAction(Messages::tr("Make only what has &changed"));
+    updateAction = menu->addAction(Messages::tr("Make only &what has changed"));
     updateAction->setObjectName(QStringLiteral("updateAction"));
     updateAction->setCheckable(true);
     menu->addAction(RunPriority(layoutFile, menu).Action());

@@ -4,6 +4,8 @@
 #include "hosts/cli/options/CommandLine.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/options/JobOptions.h"
+#include "job/settings/NamePart.h"
+#include "job/values/JobValues.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchOutputSettings.h"
@@ -179,11 +181,11 @@ void tst_CliOptions::bracesMakeTokens_data()
     const auto row = [](const char* text, int kind, const char* custom) {
         QTest::newRow(text) << QString::fromLatin1(text) << kind << QString::fromLatin1(custom);
     };
-    row("{name}", 6, "{name}");
-    row("IMG {date:YYYY}: {number:4}", 6, "IMG {date:YYYY}: {number:4}");
-    row("original {name}", 6, "original {name}");
-    row("tokens:plain", 6, "plain");
-    row("tokens:text:{name}", 6, "text:{name}");
+    row("{name}", BatchJob::TemplateTokens, "{name}");
+    row("IMG {date:YYYY}: {number:4}", BatchJob::TemplateTokens, "IMG {date:YYYY}: {number:4}");
+    row("original {name}", BatchJob::TemplateTokens, "original {name}");
+    row("tokens:plain", BatchJob::TemplateTokens, "plain");
+    row("tokens:text:{name}", BatchJob::TemplateTokens, "text:{name}");
     row("text:{name}", 4, "{name}");
     row("text:{nme", 4, "{nme");
 }
@@ -193,9 +195,9 @@ void tst_CliOptions::bracesMakeTokens()
     QFETCH(QString, text);
     ZTBatchDocument job;
     QCOMPARE(ErrorOf(job, QStringLiteral("--name"), text), QString());
-    const ZTBatchOutputSettings& output = *job.GetOutputSettings();
-    QTEST(int(output.GetNamingTemplate(ZTBatchOutputSettings::PartMiddle)), "kind");
-    QTEST(output.GetCustomTemplate(ZTBatchOutputSettings::PartMiddle), "custom");
+    const BatchJob::NamePart named = BatchJob::NamePartOf(*job.GetOutputSettings(), ZTBatchOutputSettings::PartMiddle);
+    QTEST(int(named.kind), "kind");
+    QTEST(named.text, "custom");
 }
 
 // They are saved with the job.
@@ -203,13 +205,15 @@ void tst_CliOptions::numbersOfTokensBeginWhereTheyAreTold()
 {
     ZTBatchDocument job;
     Option(QStringLiteral("--name")).apply(job, QStringLiteral("{number:2}"));
-    QCOMPARE(job.GetOutputSettings()->GetStartNumber(ZTBatchOutputSettings::PartMiddle), 1);
+    const auto middle = [](const ZTBatchDocument& of) {
+        return BatchJob::NamePartOf(*of.GetOutputSettings(), ZTBatchOutputSettings::PartMiddle);
+    };
+    QCOMPARE(middle(job).startNumber, 1);
     Option(QStringLiteral("--number-start")).apply(job, QStringLiteral("700"));
     ZTBatchDocument read;
     QVERIFY(read.Deserialize(job.Serialize(nullptr)));
-    QCOMPARE(read.GetOutputSettings()->GetStartNumber(ZTBatchOutputSettings::PartMiddle), 700);
-    QCOMPARE(read.GetOutputSettings()->GetCustomTemplate(ZTBatchOutputSettings::PartMiddle),
-             QStringLiteral("{number:2}"));
+    QCOMPARE(middle(read).startNumber, 700);
+    QCOMPARE(middle(read).text, QStringLiteral("{number:2}"));
     QCOMPARE(Option(QStringLiteral("--number-start")).texts(read), QStringList{QStringLiteral("700")});
 }
 

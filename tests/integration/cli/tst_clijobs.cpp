@@ -277,7 +277,8 @@ void tst_CliJobs::wrongJobsAreExplained_data()
     row("missing job", "show nothing.xml", none, "nothing.xml cannot be read");
     row("folder as job", "show folder.xml", none, "folder.xml cannot be read");
     row("name that an option has elsewhere", "show photos --json", none,
-        "unknown option --json; it is an option of run, plan, effects, formats, presets; \"velkora-batch show --help\" "
+        "unknown option --json; it is an option of run, watch, plan, effects, formats, presets; \"velkora-batch show "
+        "--help\" "
         "lists the options");
     row("option twice", "create a.xml photos -ox --format png --format jpeg", none,
         "--format is given 2 times, but takes one value; remove \"png\" or \"jpeg\"");
