@@ -74,7 +74,7 @@ bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
         }
         const QString format = FormatOfFileAt(entries[first].input);
         for (int i = first; i < first + jobs.size(); ++i) {
-            if (jobs[JobOf(i)].keepsFormats) {
+            if (jobs[JobOf(i)].keepsFormats && !entries[i].hasFixedFormat) {
                 entries[i].inputFormat = format;
                 entries[i].format = FindFormat(format);
             }
@@ -129,6 +129,16 @@ void OutputPlan::KeepResult(int index, const QString& path)
     entries[index].isKept = true;
     entries[index].name = path;
     keptPaths.insert(path);
+}
+
+void OutputPlan::UseName(int index, const QString& path, const QString& format)
+{
+    const FormatSchema* const schema = FindFormat(format);
+    if (schema) {
+        entries[index].format = schema;
+        entries[index].hasFixedFormat = true;
+        KeepResult(index, path);
+    }
 }
 
 bool OutputPlan::MakeNames(const Cancelled& isCancelled)

@@ -94,6 +94,11 @@ public:
     /// reads them. To be called before MakeNames().
     void ReplaceOwnResults(const QSet<QString>& paths) { ownResults = paths; }
 
+    /// The name of the result was made elsewhere, for a greater job of which this one is a part: it is the file `path`,
+    /// in the format `format`. Nothing changes it, nothing is in its way, and it needs no probe. To be called before
+    /// ReadInputs(). Nothing happens if there is no such format.
+    void UseName(int index, const QString& path, const QString& format);
+
     bool IsKept(int index) const { return entries[index].isKept; }
 
     /// Names the results of all files whose format is known, and finds their clashes. False when it was cancelled.
@@ -148,6 +153,7 @@ private:
         int other = -1;
         Clash clash = Clash::None;
         bool isKept = false; ///< `name` holds the path until MakeNames()
+        bool hasFixedFormat = false;
     };
 
     /// What the names of a job's results depend on.

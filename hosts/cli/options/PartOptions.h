@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "CommandLine.h"
+
+/// The options of jobs that are cut into parts: of "split", "run --plan" and "collect".
+namespace BatchCli {
+
+QVector<OptionInfo> SplitOptionInfos();
+QVector<OptionInfo> PartOptionInfos();
+QVector<OptionInfo> CollectOptionInfos();
+
+/// Throws RequestError for options of "run" that contradict --plan, or that need it.
+void CheckPartOptions(const ParsedArguments& arguments);
+
+} // namespace BatchCli
