@@ -72,7 +72,8 @@ FolderNames::FolderNames(const QStringList& texts)
         const QString from = QDir::cleanPath(text.left(sign));
         const QString to = QDir::cleanPath(text.mid(sign + 1));
         if (sign < 1 || QDir::isRelativePath(from) || QDir::isRelativePath(to)) {
-            throw RequestError{Phrase::English("\"%1\" must be two absolute folders with \"=\" between them").arg(text)};
+            throw RequestError{
+                Phrase::English("\"%1\" must be two absolute folders with \"=\" between them").arg(text)};
         }
         names.append({from, to});
     }
@@ -121,12 +122,8 @@ PictureMakers MakersHere(const QString& version)
 QString DifferenceOfMakers(const PartPlan& plan, const PictureMakers& here)
 {
     return plan.makers == here ? QString()
-                               : Phrase::English("the plan was made by version %1 with Qt %2 and pictures of version "
-                                                 "%3, but here are version %4, Qt %5 and pictures of version %6")
-                                     .arg(plan.makers.program, plan.makers.qt)
-                                     .arg(plan.makers.pictures)
-                                     .arg(here.program, here.qt)
-                                     .arg(here.pictures);
+                               : Phrase::English("the plan was made by version %1, but here is version %2")
+                                     .arg(plan.makers.Text(), here.Text());
 }
 
 QVector<RunVariant> VariantsOf(const PartPlan& plan, const FolderNames& names)
@@ -163,7 +160,7 @@ PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const Fo
 void PartJob::CheckFiles() const
 {
     for (const auto& [source, stamp] : plan.sources) {
-        CheckFile(names.Here(source), stamp);
+        CheckFile(source, stamp); // The settings name it, and are the same everywhere.
     }
     const int jobs = plan.jobs.size();
     for (int i = 0; i < files.size(); ++i) {
@@ -177,7 +174,7 @@ void PartJob::CheckFiles() const
     }
 }
 
-JournaledJob PartJob::Begin(ZTBatchDocument& job) const
+JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) const
 {
     const QString text = TextFor(job);
     const QString journalPath = journals.NewPath(number);
@@ -185,6 +182,7 @@ JournaledJob PartJob::Begin(ZTBatchDocument& job) const
     QString problem;
     journal.onFailure = [&problem](const QString& what) { problem = what; };
     if (journal.Create(journalPath, text, plan.policies)) {
+        journal.NoteMakers(makers.Text());
         journal.FixNames(NamesOfResults());
         journal.SettleAll(SettledResults());
     } else {
@@ -234,7 +232,8 @@ QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
 {
     const bool overwrites = Policies(plan.policies).Of(PolicyKind::Naming) == Decision::Overwrite;
     const auto leftOut = [](const QString& output, int code, const QString& reason) {
-        const auto kind = CountsAsSkipped(BatchJob::Action::FileSkipped, code) ? ResultKind::Skipped : ResultKind::Failed;
+        const auto kind =
+            CountsAsSkipped(BatchJob::Action::FileSkipped, code) ? ResultKind::Skipped : ResultKind::Failed;
         return JournalState::Result{kind, output, code, reason, {}, {}, QDateTime::currentDateTimeUtc(), {}};
     };
     QVector<QPair<int, JournalState::Result>> settled;

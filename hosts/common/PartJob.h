@@ -62,8 +62,8 @@ public:
     void CheckFiles() const;
 
     /// Makes `job` the part, or the first of its jobs, and begins a journal that knows all names and what other runs
-    /// of the part have done. Throws RequestError.
-    JournaledJob Begin(ZTBatchDocument& job) const;
+    /// of the part have done. `makers` is what makes the pictures here. Throws RequestError.
+    JournaledJob Begin(ZTBatchDocument& job, const BatchJob::PictureMakers& makers) const;
 
 private:
     QString TextFor(ZTBatchDocument& job) const;

@@ -46,7 +46,9 @@ PartJournals::Known PartJournals::Of(int part) const
         if (!state) {
             continue;
         }
-        known.isStarted = true;
+        if (!state->makers.isEmpty() && !known.makers.contains(state->makers)) {
+            known.makers.append(state->makers);
+        }
         for (auto it = state->begun.constBegin(); it != state->begun.constEnd(); ++it) {
             known.begun.insert(it.key());
         }

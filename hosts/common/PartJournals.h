@@ -27,8 +27,8 @@ public:
     struct Known
     {
         QHash<int, BatchJob::JournalState::Result> results; ///< of several for a file, the best
-        QSet<int> begun; ///< files of which a run has begun the result, or written it
-        bool isStarted = false;
+        QSet<int> begun;    ///< files of which a run has begun the result, or written it
+        QStringList makers; ///< what has made them, each once
     };
     Known Of(int part) const;
 

@@ -70,6 +70,7 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
 
 void ReadName(const QJsonObject& line, JournalState& state)
 {
+    state.makers = line.value(Key("makers")).toString(state.makers);
     const int index = line.value(Key("named")).toInt(-1);
     if (index < 0) {
         return;
@@ -292,6 +293,11 @@ void RunJournal::FixNames(const QVector<FixedName>& names)
     if (!lines.isEmpty()) {
         Write(lines.chopped(1));
     }
+}
+
+void RunJournal::NoteMakers(const QString& makers)
+{
+    Write(QJsonDocument(QJsonObject{{Key("makers"), makers}}).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Lose(const QVector<int>& indexes)

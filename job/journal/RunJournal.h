@@ -89,6 +89,9 @@ struct JournalState
     /// Where the run makes a part of a greater job, whose plan has made the names.
     QHash<int, FixedName> names;
 
+    /// What makes the pictures of such a part: text of its host, which alone reads it.
+    QString makers;
+
     /// Of files that an update has begun with, also of those that have a result.
     QHash<int, ResultOrigin> origins;
 
@@ -134,6 +137,9 @@ public:
 
     /// The names of the results from the first on, which nothing may change.
     void FixNames(const QVector<FixedName>& names);
+
+    /// See JournalState::makers.
+    void NoteMakers(const QString& makers);
 
     /// The server died while these files were in work.
     void Lose(const QVector<int>& indexes);

@@ -104,8 +104,8 @@ QJsonObject HeaderOf(const PartPlan& plan)
 {
     QJsonArray jobs;
     for (const PartPlan::Job& job : plan.jobs) {
-        jobs.append(QJsonObject{
-            {Key("name"), job.name}, {Key("document"), job.document}, {Key("folder"), job.outputFolder}});
+        jobs.append(
+            QJsonObject{{Key("name"), job.name}, {Key("document"), job.document}, {Key("folder"), job.outputFolder}});
     }
     QJsonArray parts;
     for (const PartPlan::Part& part : plan.parts) {
@@ -122,7 +122,12 @@ QJsonObject HeaderOf(const PartPlan& plan)
     for (const auto& [path, stamp] : plan.sources) {
         sources.append(QJsonObject{{Key("path"), path}, {Key("stamp"), JsonOf(stamp)}});
     }
+    QJsonObject said;
+    for (auto it = plan.said.begin(); it != plan.said.end(); ++it) {
+        said.insert(it.key(), it.value());
+    }
     return {{Key("folder"), plan.folder},
+            {Key("said"), said},
             {Key("jobs"), jobs},
             {Key("parts"), parts},
             {Key("policies"), policies},
@@ -153,6 +158,10 @@ bool ReadHeader(const QJsonObject& header, PartPlan& plan)
     for (const QJsonValue value : header.value(Key("sources")).toArray()) {
         const QJsonObject source = value.toObject();
         plan.sources.append({source.value(Key("path")).toString(), ReadStamp(source.value(Key("stamp")).toObject())});
+    }
+    const QJsonObject said = header.value(Key("said")).toObject();
+    for (auto it = said.begin(); it != said.end(); ++it) {
+        plan.said.insert(it.key(), it.value().toString());
     }
     const QJsonArray policies = header.value(Key("policies")).toArray();
     for (std::size_t i = 0; i < plan.policies.size(); ++i) {

@@ -8,6 +8,7 @@
 #include "job/values/PolicyValues.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -22,26 +23,28 @@ namespace BatchJob {
 /// A result of a file, as it is planned.
 struct PlannedResult
 {
-    FixedName name;   ///< its path is relative to the output folder
-    int code = 0;     ///< a ZTBatchMessage::Error; 0 if the result is to be made
-    QString reason;   ///< and why it is not
+    FixedName name; ///< its path is relative to the output folder
+    int code = 0;   ///< a ZTBatchMessage::Error; 0 if the result is to be made
+    QString reason; ///< and why it is not
 
     bool IsLeftOut() const { return code != 0; }
 };
 
 struct PlannedFile
 {
-    QString input;   ///< absolute
-    FileStamp stamp; ///< without a number; no bytes for a file that did not exist
+    QString input;                  ///< absolute
+    FileStamp stamp;                ///< without a number; no bytes for a file that did not exist
     QVector<PlannedResult> results; ///< one for each job
 };
 
 /// What makes the pictures.
 struct PictureMakers
 {
-    QString program; ///< version
-    QString qt;      ///< version
+    QString program;  ///< version
+    QString qt;       ///< version
     int pictures = 0; ///< pictureVersion
+
+    QString Text() const { return QStringLiteral("%1, Qt %2, pictures %3").arg(program, qt).arg(pictures); }
 
     bool operator==(const PictureMakers& other) const
     {
@@ -54,7 +57,7 @@ struct PartPlan
 {
     struct Job
     {
-        QString name; ///< empty if it is the only one
+        QString name;     ///< empty if it is the only one
         QString document; ///< without inputs
         QString outputFolder;
     };
@@ -70,11 +73,12 @@ struct PartPlan
         QByteArray checksum;
     };
 
-    QString id; ///< tells this plan from others; known when it was written or read
+    QString id;     ///< tells this plan from others; known when it was written or read
     QString folder; ///< of all results; absolute
     QVector<Job> jobs;
     QVector<Part> parts;
-    PolicyValues policies{}; ///< none of them asks
+    PolicyValues policies{};     ///< none of them asks
+    QMap<QString, QString> said; ///< the policies that the command which has split the job has named, by their options
     PictureMakers makers;
     QVector<QPair<QString, FileStamp>> sources; ///< files that every result needs
 
@@ -85,8 +89,8 @@ struct PartPlan
 /// permits. Each part gets one at least. `count` is not greater than the number of files.
 QVector<int> CutIntoParts(const QVector<PlannedFile>& files, int count);
 
-/// Writes `plan` with `files`, of which the parts take as many as `counts` says. Fills in its parts and its id. The file
-/// is whole or absent. False if it cannot be written; `problem` then says why, for users.
+/// Writes `plan` with `files`, of which the parts take as many as `counts` says. Fills in its parts and its id. The
+/// file is whole or absent. False if it cannot be written; `problem` then says why, for users.
 bool WritePlan(const QString& path, PartPlan& plan, const QVector<PlannedFile>& files, const QVector<int>& counts,
                QString& problem);
 

@@ -3,6 +3,8 @@
 
 #include "CommandFunctions.h"
 
+#include "hosts/cli/options/PartOptions.h"
+#include "hosts/cli/options/PolicyArguments.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/PartJob.h"
@@ -34,6 +36,7 @@ struct Collection
     QVector<QPair<int, FileResult>> results; ///< by their places in `inputs`
     QVector<int> unfinished;                 ///< parts, from 1
     QVector<int> withFailures;
+    QVector<QPair<int, QString>> byOthers; ///< parts, and the other versions that have made pictures of them
     int finished = 0;
     int written = 0;
     int skipped = 0;
@@ -116,6 +119,11 @@ Collection Collect(const QString& path, const PartPlan& plan, const FolderNames&
     const QString folder = names.Here(plan.folder);
     for (int number = 1; number <= plan.parts.size(); ++number) {
         const PartJournals::Known known = journals.Of(number);
+        for (const QString& makers : known.makers) {
+            if (makers != plan.makers.Text()) {
+                all.byOthers.append({number, makers});
+            }
+        }
         PartCount count(all, number);
         int index = 0;
         for (const PlannedFile& file : FilesOfPart(path, plan, number)) {
@@ -178,6 +186,26 @@ void Tell(const Collection& all, const PartPlan& plan)
     }
 }
 
+/// Whether every picture was written, or left out as an option of split said.
+bool IsAsWanted(const Collection& all, const ParsedArguments& arguments, const PartPlan& plan)
+{
+    const ParsedArguments said = WithPolicies(arguments, plan.said);
+    return all.NotProcessed() == 0 && std::all_of(all.results.begin(), all.results.end(), [&said](const auto& one) {
+               const FileResult& result = one.second;
+               return HasResult(result.kind) || AreLeftOut(said, PolicyOfError(result.errorCode));
+           });
+}
+
+void TellOthers(const Collection& all, const PartPlan& plan)
+{
+    for (const auto& [number, makers] : all.byOthers) {
+        WriteErrorLine(
+            QStringLiteral("velkora-batch: ") +
+            Messages::tr("part %1 was made by version %2, but the plan by version %3; its pictures may differ.")
+                .arg(QString::number(number), makers, plan.makers.Text()));
+    }
+}
+
 std::unique_ptr<RunReport> ReportOf(const ParsedArguments& arguments)
 {
     if (!arguments.Has(reportOption)) {
@@ -204,13 +232,15 @@ ExitCode CollectParts(const ParsedArguments& arguments)
     const Collection all = Collect(path, plan, names);
     const bool isReported = !report || WriteReport(*report, all, names.Here(plan.folder));
     Tell(all, plan);
-    const bool isDone = all.unfinished.isEmpty() && (all.failed == 0 || arguments.Has(QStringLiteral("--remove")));
+    TellOthers(all, plan);
+    const bool isSame = all.byOthers.isEmpty() || !arguments.Has(QStringLiteral("--same-versions"));
+    const bool isDone =
+        isSame && all.unfinished.isEmpty() && (all.failed == 0 || arguments.Has(QStringLiteral("--remove")));
     if (isDone && isReported && (!PartJournals(path, plan.id).Remove() || !QFile::remove(path))) {
         WriteErrorLine(QStringLiteral("velkora-batch: ") +
                        Messages::tr("the plan %1 or its journals cannot be removed.").arg(path));
     }
-    const bool isComplete = all.written == all.inputs.files.size();
-    return isComplete && isReported ? ExitCode::Done : ExitCode::Incomplete;
+    return IsAsWanted(all, arguments, plan) && isReported && isSame ? ExitCode::Done : ExitCode::Incomplete;
 }
 
 } // namespace BatchCli

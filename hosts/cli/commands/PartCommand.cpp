@@ -7,6 +7,7 @@
 #include "RunMessages.h"
 #include "RunOutput.h"
 
+#include "hosts/cli/options/PartOptions.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/cli/terminal/InteractiveRun.h"
@@ -63,16 +64,17 @@ ExitCode RunPart(const ParsedArguments& arguments)
             TellObstacle(run);
             return ExitCode::ServerLost;
         }
-        JournaledJob journaled = part.Begin(job);
+        JournaledJob journaled = part.Begin(job, MakersHere(QCoreApplication::applicationVersion()));
         const auto controller = run.Prepare(
             job, journaled, {plan.policies, arguments.Has(QStringLiteral("--strict")), {}, {}}, output.Observers());
         end = RunInteractively(*controller, output.Display(), interrupts);
     }
     TellTroubleOfServer(end);
     if (!end.IsFinished() && !output.IsQuiet()) {
-        WriteErrorLine(Messages::tr("Part %1 of %2 is not done; run it again to go on.").arg(number).arg(plan.parts.size()));
+        WriteErrorLine(
+            Messages::tr("Part %1 of %2 is not done; run it again to go on.").arg(number).arg(plan.parts.size()));
     }
-    const ExitCode code = CodeOf(end, arguments, 0, !output.WriteReportError());
+    const ExitCode code = CodeOf(end, WithPolicies(arguments, plan.said), 0, !output.WriteReportError());
     interrupts.Finish(code);
     return code;
 }

@@ -52,12 +52,12 @@ int PartNumber(const ParsedArguments& arguments, int count)
         }
     }
     if (found.isEmpty()) {
-        throw RequestError{BatchJob::Phrase::English("which part is not said; use --part with a number from 1 to %1")
-                               .arg(count)};
+        throw RequestError{
+            BatchJob::Phrase::English("which part is not said; use --part with a number from 1 to %1").arg(count)};
     }
     if (found.size() > 1) {
-        throw RequestError{
-            BatchJob::Phrase::English("%1 and %2 both say which part to make; use --part").arg(found.at(0), found.at(1))};
+        throw RequestError{BatchJob::Phrase::English("%1 and %2 both say which part to make; use --part")
+                               .arg(found.at(0), found.at(1))};
     }
     return Number(qEnvironmentVariable(found.first().toLatin1().constData()).trimmed(), FirstOf(found.first()), count,
                   found.first());

@@ -208,6 +208,12 @@ ExitCode SplitJob(const ParsedArguments& arguments)
     PartPlan plan;
     AddJobs(plan, job, given);
     plan.policies = WithoutQuestions(policies);
+    for (int i = 0; i < policyCount; ++i) {
+        const QString option = PolicyOption(PolicyKind(i));
+        if (arguments.Has(option)) {
+            plan.said.insert(option, arguments.Value(option));
+        }
+    }
     plan.makers = MakersHere(QCoreApplication::applicationVersion());
     RunPlan names(OutputPlan(FilesOfJob(*job.GetInputModel()), SettingsOf(plan), plan.folder));
     if (count > names.Count() / plan.jobs.size()) {

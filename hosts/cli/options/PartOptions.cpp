@@ -27,8 +27,7 @@ QVector<OptionInfo> SharedInfos()
 {
     return {
         {map, QStringLiteral("FROM=TO"),
-         BatchJob::Phrase::English(
-             "the folder FROM of the plan is the folder TO on this machine; both are absolute"),
+         BatchJob::Phrase::English("the folder FROM of the plan is the folder TO on this machine; both are absolute"),
          Parts(), true},
         {sameVersions, QString(),
          BatchJob::Phrase::English("makes it an error, not a warning, when parts are made by other versions than the "
@@ -81,13 +80,22 @@ QVector<OptionInfo> CollectOptionInfos()
            SharedInfos();
 }
 
+ParsedArguments WithPolicies(const ParsedArguments& arguments, const QMap<QString, QString>& said)
+{
+    ParsedArguments all = arguments;
+    for (auto it = said.begin(); it != said.end(); ++it) {
+        all.options.insert(it.key(), {it.value()});
+    }
+    return all;
+}
+
 void CheckPartOptions(const ParsedArguments& arguments)
 {
     if (!arguments.Has(plan)) {
         for (const QString& option : {part, map, sameVersions}) {
             if (arguments.Has(option)) {
-                throw RequestError{BatchJob::Phrase::English("%1 is for a part of a job; name its plan with --plan")
-                                       .arg(option)};
+                throw RequestError{
+                    BatchJob::Phrase::English("%1 is for a part of a job; name its plan with --plan").arg(option)};
             }
         }
         return;
@@ -103,8 +111,8 @@ void CheckPartOptions(const ParsedArguments& arguments)
     }
     for (const OptionInfo& other : others) {
         if (arguments.Has(other.name)) {
-            throw RequestError{BatchJob::Phrase::English("%1 and %2 contradict each other; remove one of them")
-                                   .arg(plan, other.name)};
+            throw RequestError{
+                BatchJob::Phrase::English("%1 and %2 contradict each other; remove one of them").arg(plan, other.name)};
         }
     }
 }

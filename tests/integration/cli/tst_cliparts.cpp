@@ -77,7 +77,8 @@ private:
     CliRun RunPart(int part) const { return Run(QStringLiteral("run --plan job.plan --part %1").arg(part)); }
     CliRun Split(const QString& options = {}) const
     {
-        return Run(QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
+        return Run(
+            QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
     }
     std::unique_ptr<QProcess> Start(int part) const
     {
@@ -149,7 +150,8 @@ void tst_CliParts::likeOneRun()
     QFETCH(QString, options);
     Write(QStringLiteral("broken.jpg"), "\xff\xd8\xff and no picture");
     job = options;
-    const Files one = OneRun();
+    const CliRun whole = Run(QStringLiteral("run %1 -o one").arg(job));
+    const Files one = FilesBelow(Path(QStringLiteral("one")));
     QVERIFY(!one.isEmpty());
     const CliRun split = Split();
     QVERIFY2(split.exitCode == 0, split.err);
@@ -159,6 +161,7 @@ void tst_CliParts::likeOneRun()
         QVERIFY2(run.exitCode == 0 || run.exitCode == 1, run.err);
     }
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, whole.exitCode);
 }
 
 /// All parts at once, each twice.
@@ -243,11 +246,16 @@ void tst_CliParts::numberFromTheEnvironment_data()
 {
     QTest::addColumn<QString>("variables");
     QTest::addColumn<QString>("part"); // its first result
-    QTest::newRow("Slurm") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=1" << "7.jpg";
-    QTest::newRow("Slurm, from 0") << "SLURM_ARRAY_TASK_ID=1 SLURM_ARRAY_TASK_MIN=0" << "7.jpg";
-    QTest::newRow("Slurm, some again") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=2" << "7.jpg";
-    QTest::newRow("Kubernetes") << "JOB_COMPLETION_INDEX=1" << "7.jpg";
-    QTest::newRow("GNU parallel") << "PARALLEL_SEQ=2" << "7.jpg";
+    QTest::newRow("Slurm") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=1"
+                           << "7.jpg";
+    QTest::newRow("Slurm, from 0") << "SLURM_ARRAY_TASK_ID=1 SLURM_ARRAY_TASK_MIN=0"
+                                   << "7.jpg";
+    QTest::newRow("Slurm, some again") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=2"
+                                       << "7.jpg";
+    QTest::newRow("Kubernetes") << "JOB_COMPLETION_INDEX=1"
+                                << "7.jpg";
+    QTest::newRow("GNU parallel") << "PARALLEL_SEQ=2"
+                                  << "7.jpg";
 }
 
 void tst_CliParts::numberFromTheEnvironment()
@@ -270,21 +278,36 @@ void tst_CliParts::refused_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no number") << "run --plan job.plan" << "which part is not said";
-    QTest::newRow("0") << "run --plan job.plan --part 0" << "the plan has the parts 1 to 4";
-    QTest::newRow("too great") << "run --plan job.plan --part 5" << "the plan has the parts 1 to 4";
-    QTest::newRow("no number at all") << "run --plan job.plan --part two" << "there is no part \"two\"";
-    QTest::newRow("no plan") << "run --plan none.plan --part 1" << "none.plan cannot be used";
-    QTest::newRow("another file") << "run --plan a/1.jpg --part 1" << "it is no plan";
-    QTest::newRow("part without plan") << "run a -o out --part 1" << "name its plan with --plan";
-    QTest::newRow("inputs of its own") << "run --plan job.plan --part 1 a" << "leave out \"a\"";
-    QTest::newRow("a job of its own") << "run --plan job.plan --part 1 -s 50" << "contradict each other";
-    QTest::newRow("resume") << "run --plan job.plan --part 1 --resume" << "contradict each other";
-    QTest::newRow("map") << "run --plan job.plan --part 1 --map here" << "two absolute folders";
-    QTest::newRow("no parts") << "split a b -o out --plan other.plan" << "split needs --parts";
-    QTest::newRow("no file") << "split a b -o out --parts 2" << "split needs --plan";
-    QTest::newRow("parts") << "split a b -o out --plan other.plan --parts 0" << "--parts";
-    QTest::newRow("collect nothing") << "collect" << "collect takes one plan";
+    QTest::newRow("no number") << "run --plan job.plan"
+                               << "which part is not said";
+    QTest::newRow("0") << "run --plan job.plan --part 0"
+                       << "the plan has the parts 1 to 4";
+    QTest::newRow("too great") << "run --plan job.plan --part 5"
+                               << "the plan has the parts 1 to 4";
+    QTest::newRow("no number at all") << "run --plan job.plan --part two"
+                                      << "there is no part \"two\"";
+    QTest::newRow("no plan") << "run --plan none.plan --part 1"
+                             << "none.plan cannot be used";
+    QTest::newRow("another file") << "run --plan a/1.jpg --part 1"
+                                  << "it is no plan";
+    QTest::newRow("part without plan") << "run a -o out --part 1"
+                                       << "name its plan with --plan";
+    QTest::newRow("inputs of its own") << "run --plan job.plan --part 1 a"
+                                       << "leave out \"a\"";
+    QTest::newRow("a job of its own") << "run --plan job.plan --part 1 -s 50"
+                                      << "contradict each other";
+    QTest::newRow("resume") << "run --plan job.plan --part 1 --resume"
+                            << "contradict each other";
+    QTest::newRow("map") << "run --plan job.plan --part 1 --map here"
+                         << "two absolute folders";
+    QTest::newRow("no parts") << "split a b -o out --plan other.plan"
+                              << "split needs --parts";
+    QTest::newRow("no file") << "split a b -o out --parts 2"
+                             << "split needs --plan";
+    QTest::newRow("parts") << "split a b -o out --plan other.plan --parts 0"
+                           << "--parts";
+    QTest::newRow("collect nothing") << "collect"
+                                     << "collect takes one plan";
 }
 
 void tst_CliParts::refused()
@@ -411,6 +434,8 @@ void tst_CliParts::otherVersions()
     const CliRun warned = RunPart(1);
     QCOMPARE(warned.exitCode, 0);
     QVERIFY2(warned.Err().contains(QLatin1String("the plan was made by version 0.")), warned.err);
+    const CliRun collected = Run(QStringLiteral("collect job.plan"));
+    QVERIFY2(collected.Err().contains(QLatin1String("part 1 was made by version ")), collected.err);
 }
 
 QTEST_GUILESS_MAIN(tst_CliParts)
