@@ -64,6 +64,19 @@ JournaledJob JournaledJob::Interrupted(ZTBatchDocument& job, const JobBundle& gi
     return journaled;
 }
 
+JournaledJob JournaledJob::OfPart(const QString& text, const QString& folder, const QVector<RunVariant>& variants,
+                                  const QString& path, const PolicyValues& policies)
+{
+    JournaledJob journaled;
+    journaled.document = text;
+    journaled.folder = folder;
+    journaled.variants = variants;
+    journaled.file = JournalFile::Take(path);
+    journaled.policies = policies;
+    journaled.isPart = true;
+    return journaled;
+}
+
 void JournaledJob::Enter(const JobBundle& bundle)
 {
     for (const JobBundle::Part& part : bundle.parts) {
@@ -125,6 +138,9 @@ bool JournaledJob::Resume()
 
 void JournaledJob::End(const RunEnd& end)
 {
+    if (isPart) {
+        return;
+    }
     const bool isRefused = end.Outcome() == RunOutcome::Refused;
     if (isRefused && !policies) {
         file->RemoveWithFolders();

@@ -41,6 +41,12 @@ public:
     static JournaledJob Interrupted(ZTBatchDocument& job, const BatchJob::JobBundle& given, const InterruptedRuns& runs,
                                     const InterruptedRuns::Wanted& wanted);
 
+    /// A part of a greater job, with the text `text`, whose journal `path` has begun and stays when the part is done.
+    /// All results go to `folder`, those of `variants` into their folders. Throws RequestError if another process has
+    /// taken the journal.
+    static JournaledJob OfPart(const QString& text, const QString& folder, const QVector<RunVariant>& variants,
+                               const QString& path, const BatchJob::PolicyValues& policies);
+
     /// The text of the job, or of the bundle.
     const QString& Document() const { return document; }
 
@@ -125,6 +131,7 @@ private:
     QString problem;
     std::optional<BatchJob::PolicyValues> policies;
     bool isInPlace = false;
+    bool isPart = false;
     UpdateEnd endOfUpdate;
 };
 

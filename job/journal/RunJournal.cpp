@@ -35,6 +35,11 @@ QString Key(const char* name)
     return QString::fromLatin1(name);
 }
 
+// How a plan came to a name.
+constexpr char renamed[] = "renamed";
+constexpr char overwriting[] = "overwriting";
+constexpr char otherFormat[] = "format";
+
 constexpr char byTimes[] = "times";
 constexpr char byContents[] = "contents";
 
@@ -63,8 +68,22 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     return true;
 }
 
+void ReadName(const QJsonObject& line, JournalState& state)
+{
+    state.makers = line.value(Key("makers")).toString(state.makers);
+    const int index = line.value(Key("named")).toInt(-1);
+    if (index < 0) {
+        return;
+    }
+    const QStringList how = line.value(Key("how")).toString().split(QLatin1Char(' '));
+    state.names.insert(index, {line.value(Key("output")).toString(), line.value(Key("format")).toString(),
+                               qint64(line.value(Key("number")).toDouble(1)), how.contains(Key(renamed)),
+                               how.contains(Key(overwriting)), how.contains(Key(otherFormat))});
+}
+
 void ReadLine(const QJsonObject& line, JournalState& state)
 {
+    ReadName(line, state);
     const QString output = line.value(Key("output")).toString();
     for (const Kind kind : {Kind::Written, Kind::Unchanged, Kind::Skipped, Kind::Failed}) {
         const int index = line.value(ResultWord(kind)).toInt(-1);
@@ -250,6 +269,38 @@ QByteArray RunJournal::LineOf(int index, const JournalState::Result& result)
 void RunJournal::Answer(int policy, int value)
 {
     Write(QJsonDocument(QJsonObject{{Key("answer"), policy}, {Key("value"), value}}).toJson(QJsonDocument::Compact));
+}
+
+void RunJournal::FixNames(const QVector<FixedName>& names)
+{
+    QByteArray lines;
+    for (int i = 0; i < names.size(); ++i) {
+        const FixedName& name = names.at(i);
+        QJsonObject line{{Key("named"), i},
+                         {Key("output"), name.output},
+                         {Key("format"), name.format},
+                         {Key("number"), double(name.number)}};
+        QStringList how;
+        for (const auto& [isTrue, word] :
+             {std::pair(name.isRenamed, renamed), std::pair(name.isOverwriting, overwriting),
+              std::pair(name.hasOtherFormat, otherFormat)}) {
+            if (isTrue) {
+                how.append(Key(word));
+            }
+        }
+        if (!how.isEmpty()) {
+            line.insert(Key("how"), how.join(QLatin1Char(' ')));
+        }
+        lines += QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
+    }
+    if (!lines.isEmpty()) {
+        Write(lines.chopped(1));
+    }
+}
+
+void RunJournal::NoteMakers(const QString& makers)
+{
+    Write(QJsonDocument(QJsonObject{{Key("makers"), makers}}).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Lose(const QVector<int>& indexes)

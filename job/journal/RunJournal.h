@@ -4,6 +4,7 @@
 #pragma once
 
 #include "job/values/FileStamp.h"
+#include "job/values/FixedName.h"
 #include "job/values/PictureFacts.h"
 #include "job/values/ResultKind.h"
 #include "job/values/Warning.h"
@@ -85,6 +86,12 @@ struct JournalState
     QHash<int, Beginning> begun; ///< of files without result
     QHash<int, int> losses;      ///< of files without result: how often the server has died while it worked on them
 
+    /// Where the run makes a part of a greater job, whose plan has made the names.
+    QHash<int, FixedName> names;
+
+    /// What makes the pictures of such a part: text of its host, which alone reads it.
+    QString makers;
+
     /// Of files that an update has begun with, also of those that have a result.
     QHash<int, ResultOrigin> origins;
 
@@ -127,6 +134,12 @@ public:
     /// The same of many files at once.
     void SettleAll(const QVector<QPair<int, JournalState::Result>>& results);
     void Answer(int policy, int value);
+
+    /// The names of the results from the first on, which nothing may change.
+    void FixNames(const QVector<FixedName>& names);
+
+    /// See JournalState::makers.
+    void NoteMakers(const QString& makers);
 
     /// The server died while these files were in work.
     void Lose(const QVector<int>& indexes);

@@ -74,7 +74,7 @@ bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
         }
         const QString format = FormatOfFileAt(entries[first].input);
         for (int i = first; i < first + jobs.size(); ++i) {
-            if (jobs[JobOf(i)].keepsFormats) {
+            if (jobs[JobOf(i)].keepsFormats && !entries[i].hasFixedFormat) {
                 entries[i].inputFormat = format;
                 entries[i].format = FindFormat(format);
             }
@@ -138,6 +138,17 @@ void OutputPlan::KeepResult(int index, const QString& path)
     keptPaths.insert(path);
 }
 
+void OutputPlan::UseName(int index, const QString& path, const QString& format, qint64 number)
+{
+    const FormatSchema* const schema = FindFormat(format);
+    if (schema) {
+        entries[index].format = schema;
+        entries[index].hasFixedFormat = true;
+        fixedNumbers.insert(index, number);
+        KeepResult(index, path);
+    }
+}
+
 bool OutputPlan::MakeNames(const Cancelled& isCancelled)
 {
     takers.reserve(entries.size());
@@ -160,6 +171,12 @@ bool OutputPlan::MakeNames(const Cancelled& isCancelled)
         }
     }
     return true;
+}
+
+qint64 OutputPlan::NumberOf(int index) const
+{
+    const auto fixed = fixedNumbers.constFind(index);
+    return fixed != fixedNumbers.constEnd() ? *fixed : jobs[JobOf(index)].naming.NumberOf(FileOf(index));
 }
 
 QString OutputPlan::Folder(int index) const

@@ -97,6 +97,11 @@ public:
     /// reads them. To be called before MakeNames().
     void ReplaceOwnResults(const QSet<QString>& paths) { ownResults = paths; }
 
+    /// The name of the result was made elsewhere, for a greater job of which this one is a part: it is the file `path`,
+    /// in the format `format`, and its file has the number `number`. Nothing changes it, nothing is in its way, and it
+    /// needs no probe. To be called before ReadInputs(). Nothing happens if there is no such format.
+    void UseName(int index, const QString& path, const QString& format, qint64 number);
+
     bool IsKept(int index) const { return entries[index].isKept; }
 
     /// Names the results of all files whose format is known, and finds their clashes. False when it was cancelled.
@@ -105,7 +110,7 @@ public:
     QString Input(int index) const { return entries[index].input; }
 
     /// The number of the file in texts of its result; see OutputNaming::NumberOf().
-    qint64 NumberOf(int index) const { return jobs[JobOf(index)].naming.NumberOf(FileOf(index)); }
+    qint64 NumberOf(int index) const;
 
     /// The format of the input as FormatOfFile() names it. Empty when it is unknown or not needed.
     QString InputFormat(int index) const { return entries[index].inputFormat; }
@@ -154,6 +159,7 @@ private:
         int other = -1;
         Clash clash = Clash::None;
         bool isKept = false; ///< `name` holds the path until MakeNames()
+        bool hasFixedFormat = false;
     };
 
     /// What the names of a job's results depend on.
@@ -202,6 +208,7 @@ private:
     QVector<Job> jobs;
     QVector<QString> jobFolders;                ///< JobFile::folder of each file, for StructureAsInput
     QVector<Entry> entries;                     ///< results
+    QHash<int, qint64> fixedNumbers;            ///< with the names that were made elsewhere
     QHash<int, OutputNaming::Picture> pictures; ///< if names need them; without the time, which entries have
     QVector<TargetFolder> folders;
     QHash<QString, int> folderIds;

@@ -28,6 +28,7 @@ public:
     /// trouble is known, but that a run notices only when it processes them, so it does not change any name.
     RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable = {});
 
+    const RunPlan& Plan() const { return plan; }
     const OutputPlan& Names() const { return plan.Names(); }
     const Prospect& Of(int file) const { return prospects[file]; }
 

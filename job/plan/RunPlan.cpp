@@ -16,6 +16,14 @@ RunPlan::RunPlan(const OutputPlan& plan)
 {
 }
 
+void RunPlan::UseName(int file, const FixedName& name)
+{
+    plan.UseName(file, name.output, name.format, name.number);
+    if (plan.IsKept(file)) {
+        marks[std::size_t(file)] = {name.isRenamed, name.isOverwriting, name.hasOtherFormat, false, true};
+    }
+}
+
 void RunPlan::SetProbe(int file, const ProbeResult& result)
 {
     for (const int one : plan.ResultsToProbe(file)) {

@@ -7,6 +7,8 @@
 #include "Policies.h"
 #include "Trouble.h"
 
+#include "job/values/FixedName.h"
+
 #include <QDateTime>
 #include <QHash>
 #include <QSize>
@@ -44,6 +46,12 @@ public:
     /// An earlier part of the run has given the file up under the name `path`, which is empty if it had none yet. The
     /// policies leave it under that name.
     void KeepWithoutResult(int file, const QString& path) { givenUp.insert(file, path); }
+
+    /// The name of the file's result was made elsewhere; see OutputPlan::UseName(). Nothing that happens to the file
+    /// gives it another one.
+    void UseName(int file, const FixedName& name);
+
+    bool HasFixedName(int file) const { return marks[std::size_t(file)].hasFixedName; }
 
     /// Results take the places of their own originals, whatever the naming policy is. Without this, no result takes the
     /// place of a source of the job. To be called before MakeNames().
@@ -107,6 +115,7 @@ private:
         bool isOverwriting = false;
         bool hasOtherFormat = false;
         bool isInPlace = false;
+        bool hasFixedName = false;
     };
 
     void Rename(int file);

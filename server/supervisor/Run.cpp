@@ -351,7 +351,7 @@ bool Run::GivePicture(int file)
                   recipes.at(names.JobOf(file)).For(format, names.NumberOf(file))};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
-    const bool mayReplace = plan.IsOverwriting(file) || (update && update->IsOwn(output));
+    const bool mayReplace = plan.IsOverwriting(file) || plan.HasFixedName(file) || (update && update->IsOwn(output));
     const PictureTask task{
         file, input, output, outputRoot, format, mayReplace, names.NumberOf(file), SharesPixelsWithNext(file)};
     Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
@@ -608,6 +608,12 @@ void Run::Answer(ZTBatchMessage::Message question, int policy, bool isForTheRest
 
 void Run::Resolve(int file, const Trouble& trouble, Decision decision)
 {
+    const bool givesAnotherName =
+        decision == Decision::Overwrite || decision == Decision::Rename || decision == Decision::Nearest;
+    if (plan.HasFixedName(file) && givesAnotherName) {
+        GiveUp(file, trouble, Action::FileSkipped);
+        return;
+    }
     switch (decision) {
     case Decision::Stop:
         decisions.Wait(file, trouble);

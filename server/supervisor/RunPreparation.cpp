@@ -111,6 +111,11 @@ void RunPreparation::EnterEarlierResults()
     if (!earlier) {
         return;
     }
+    for (auto it = earlier->names.constBegin(); it != earlier->names.constEnd(); ++it) {
+        if (it.key() < plan.Count()) {
+            plan.UseName(it.key(), *it);
+        }
+    }
     for (auto it = earlier->begun.constBegin(); it != earlier->begun.constEnd(); ++it) {
         const std::optional<FileIdentity> identity = IdentityOf(it->output);
         if (it.key() < plan.Count() && identity && identity->Text() != it->before) {

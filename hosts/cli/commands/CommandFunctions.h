@@ -13,8 +13,13 @@ ExitCode CreateJob(const ParsedArguments& arguments);
 ExitCode ShowJob(const ParsedArguments& arguments);
 ExitCode PlanJob(const ParsedArguments& arguments);
 ExitCode RunJob(const ParsedArguments& arguments);
+ExitCode SplitJob(const ParsedArguments& arguments);
+ExitCode CollectParts(const ParsedArguments& arguments);
 ExitCode WatchFolder(const ParsedArguments& arguments);
 ExitCode KeepPresets(const ParsedArguments& arguments);
+
+/// "run" with --plan: one part of a job that was split.
+ExitCode RunPart(const ParsedArguments& arguments);
 
 /// "run" with --dry-run: what PlanJob() prints for the same arguments.
 ExitCode DryRun(const ParsedArguments& arguments);

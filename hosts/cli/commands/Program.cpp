@@ -55,6 +55,7 @@ const QHash<QString, Command>& CommandFunctions()
         {QStringLiteral("create"), &CreateJob},    {QStringLiteral("show"), &ShowJob},
         {QStringLiteral("plan"), &PlanJob},        {QStringLiteral("run"), &RunJob},
         {QStringLiteral("watch"), &WatchFolder},   {QStringLiteral("presets"), &KeepPresets},
+        {QStringLiteral("split"), &SplitJob},      {QStringLiteral("collect"), &CollectParts},
         {QStringLiteral("effects"), &ListEffects}, {QStringLiteral("formats"), &ListFormats}};
     return functions;
 }

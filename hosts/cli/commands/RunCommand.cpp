@@ -3,11 +3,12 @@
 
 #include "CommandFunctions.h"
 #include "JobBuilder.h"
+#include "RunCode.h"
 #include "RunMessages.h"
 #include "RunOutput.h"
 #include "RunPolicies.h"
 
-#include "hosts/cli/options/PolicyArguments.h"
+#include "hosts/cli/options/PartOptions.h"
 #include "hosts/cli/options/RunOptions.h"
 #include "hosts/cli/terminal/InteractiveRun.h"
 #include "hosts/cli/terminal/Startup.h"
@@ -89,44 +90,6 @@ RunEnd EmptyRun(const QString& outputFolder, const InputLosses& losses, RunOutpu
     return end;
 }
 
-ExitCode CodeOf(RunOutcome outcome)
-{
-    switch (outcome) {
-    case RunOutcome::Complete:
-        return ExitCode::Done;
-    case RunOutcome::Incomplete:
-        return ExitCode::Incomplete;
-    case RunOutcome::Refused:
-        return ExitCode::Usage;
-    case RunOutcome::NoWorkers:
-    case RunOutcome::ServerLost:
-        return ExitCode::ServerLost;
-    case RunOutcome::Cancelled:
-        return ExitCode::Cancelled;
-    }
-    return ExitCode::ServerLost;
-}
-
-/// Whether every picture was written, or left out as an option says.
-bool IsAsWanted(const RunEnd& end, const ParsedArguments& arguments)
-{
-    const QList<BatchJob::PolicyKind> kinds = end.unwritten.keys();
-    return end.NotProcessed() == 0 && std::all_of(kinds.begin(), kinds.end(), [&arguments](BatchJob::PolicyKind kind) {
-               return kind != BatchJob::PolicyKind::None && AreLeftOut(arguments, kind);
-           });
-}
-
-/// The exit code of a run, when `problems` inputs could not be collected.
-ExitCode CodeOf(const RunEnd& end, const ParsedArguments& arguments, int problems, bool isReportMissing)
-{
-    const bool isDone = end.Outcome() == RunOutcome::Incomplete && IsAsWanted(end, arguments);
-    const ExitCode code = isDone ? ExitCode::Done : CodeOf(end.Outcome());
-    if (isReportMissing) {
-        return std::max(code, ExitCode::Incomplete);
-    }
-    return code == ExitCode::Done && problems > 0 ? ExitCode::Incomplete : code;
-}
-
 /// Names the results of earlier updates that this one does not have any more, and removes them if they are to be. An
 /// input that could not be read is not gone.
 void HandleOrphans(const JournaledJob& journaled, const QString& outputFolder, const ParsedArguments& arguments,
@@ -150,6 +113,10 @@ void HandleOrphans(const JournaledJob& journaled, const QString& outputFolder, c
 
 ExitCode RunJob(const ParsedArguments& arguments)
 {
+    CheckPartOptions(arguments);
+    if (arguments.Has(QStringLiteral("--plan"))) {
+        return RunPart(arguments);
+    }
     const std::optional<BatchJob::Update> update = UpdateOf(arguments);
     if (arguments.Has(QStringLiteral("--dry-run"))) {
         return DryRun(arguments);

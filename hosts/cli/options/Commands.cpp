@@ -3,6 +3,7 @@
 
 #include "CommandLine.h"
 #include "OrderOption.h"
+#include "PartOptions.h"
 #include "PresetOptions.h"
 #include "RunOptions.h"
 
@@ -154,7 +155,8 @@ QVector<CommandInfo> MakeCommands()
              "otherwise; 2 for wrong arguments or a wrong job; 3 when the server could not be started or was lost; 4 "
              "when the run was cancelled; 5 when there is no picture among the inputs; 6 when this run is going on "
              "already; 7 when there is nothing to resume"),
-         OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + RunOptionInfos() + GeneralOptions(),
+         OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + RunOptionInfos() + PartOptionInfos() +
+             GeneralOptions(),
          Completion::Files},
         {Text("watch"), Text("[JOB.xml] FOLDER"),
          BatchJob::Phrase::English(
@@ -190,6 +192,21 @@ QVector<CommandInfo> MakeCommands()
                  SettingsOptionInfo()} +
              GeneralOptions(),
          Completion::Files},
+        {Text("split"), Text("[JOB.xml...] [INPUT...]"),
+         BatchJob::Phrase::English(
+             "cuts a job into parts that can be made at once, on many machines, by \"velkora-batch run --plan\": "
+             "writes "
+             "a plan with every input and the name of every result, and nothing else. Clashes of names are settled by "
+             "the policies. Exit status: 2 when the job cannot be split; 5 when there is no picture among the inputs"),
+         OptionsOfJobs(PresetsOptionInfo()) + PolicyOptionInfos() + SplitOptionInfos() +
+             QVector<OptionInfo>{SettingsOptionInfo()} + GeneralOptions(),
+         Completion::Files},
+        {Text("collect"), Text("PLAN"),
+         BatchJob::Phrase::English(
+             "says what the parts of a plan have done and which are to be run again. When all are done without "
+             "failures, the plan and its journals are removed. Exit status: 0 when all pictures were written; 1 when "
+             "some failed, were left out or are not made yet; 2 when the plan cannot be used"),
+         CollectOptionInfos() + QVector<OptionInfo>{GeneralOptions().last()}, Completion::Files},
         {Text("effects"), Text("[NAME...]"), BatchJob::Phrase::English("lists the effects with their parameters"),
          ofLists, Completion::Words, EffectIds()},
         {Text("formats"), Text("[NAME...]"),

@@ -39,6 +39,8 @@ constexpr std::array rows{
     Row{"plan", BatchJob::Phrase::Marked("Every result's name, and what is in the way"),
         "photos -o web --name number:1:4"},
     Row{"plan", BatchJob::Phrase::Marked("The same for programs"), "web.xml photos --json"},
+    Row{"split", BatchJob::Phrase::Marked("A job for eight machines"), "photos -o web --parts 8 --plan web.plan"},
+    Row{"collect", BatchJob::Phrase::Marked("What the parts have done"), "web.plan --report web.csv"},
     Row{"effects", BatchJob::Phrase::Marked("One effect with its parameters"), "blur"},
     Row{"formats", BatchJob::Phrase::Marked("One format with its options"), "JPEG"},
 };

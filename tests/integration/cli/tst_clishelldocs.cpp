@@ -163,8 +163,8 @@ void tst_CliShellDocs::bashCompletes_data()
         QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '))
                              << QString::fromLatin1(offered).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
-    row("", "run|watch|create|show|plan|presets|effects|formats|help|--help|--version");
-    row("s", "show");
+    row("", "run|watch|create|show|plan|split|collect|presets|effects|formats|help|--help|--version");
+    row("s", "show|split");
     row("--v", "--version");
     row("run --on-in", "--on-input-error");
     row("run --on-name-exists ", "skip|overwrite|rename|ask");

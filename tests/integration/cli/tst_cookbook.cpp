@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int tasks = 58;
+constexpr int tasks = 59;
 
 using Hashes = QMap<QString, QByteArray>;
 

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "CommandFunctions.h"
+#include "JobBuilder.h"
+#include "PlanProbe.h"
+
+#include "hosts/cli/options/PolicyArguments.h"
+#include "hosts/cli/options/RunOptions.h"
+#include "hosts/cli/terminal/Console.h"
+#include "hosts/cli/terminal/StatusLine.h"
+#include "hosts/common/ByteText.h"
+#include "hosts/common/JobRequirements.h"
+#include "hosts/common/Language.h"
+#include "hosts/common/ManagerPolicies.h"
+#include "hosts/common/PartJob.h"
+#include "hosts/common/RequestError.h"
+#include "hosts/common/UserPath.h"
+#include "hosts/common/options/PolicyOptions.h"
+#include "hosts/common/options/ValueTexts.h"
+#include "job/plan/RunForecast.h"
+#include "job/settings/JobCheck.h"
+#include "job/settings/JobFiles.h"
+#include "job/values/Phrase.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchManager.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <algorithm>
+
+using namespace BatchJob;
+using namespace BatchHost;
+
+namespace BatchCli {
+
+namespace {
+
+constexpr int mostParts = 100'000;
+
+QString Needed(const ParsedArguments& arguments, const QString& option)
+{
+    if (arguments.Value(option).isEmpty()) {
+        throw RequestError{Phrase::English("split needs %1; \"velkora-batch help split\" says more").arg(option)};
+    }
+    return arguments.Value(option);
+}
+
+int PartCount(const ParsedArguments& arguments)
+{
+    const QString option = QStringLiteral("--parts");
+    try {
+        return IntegerFromText(Needed(arguments, option), 1, mostParts);
+    } catch (const RequestError& error) {
+        throw error.text.contains(option) ? error : error.In(option);
+    }
+}
+
+/// Those of the options, else those of the settings, as in a run.
+PolicyValues PoliciesFor(const ParsedArguments& arguments)
+{
+    ZTBatchManager::InitInstance(SettingsFolder(arguments));
+    PolicyValues policies = PoliciesOfManager();
+    ZTBatchManager::ReleaseInstance();
+    ApplyPolicies(arguments, policies);
+    return policies;
+}
+
+/// Nobody can be asked while parts are made.
+PolicyValues WithoutQuestions(PolicyValues policies)
+{
+    for (int i = 0; i < policyCount; ++i) {
+        int& value = policies[std::size_t(i)];
+        value = value == AskingPolicy(PolicyKind(i)) ? safePolicy : value;
+    }
+    return policies;
+}
+
+/// The policies of the plan itself: about names and formats a user who asks has to decide before.
+Policies PoliciesOfPlan(const PolicyValues& policies)
+{
+    Policies ofPlan{WithoutQuestions(policies)};
+    for (const PolicyKind kind : {PolicyKind::Naming, PolicyKind::WriteToFormat}) {
+        if (policies[std::size_t(kind)] == AskingPolicy(kind)) {
+            ofPlan.Set(kind, Decision::Ask);
+        }
+    }
+    return ofPlan;
+}
+
+void AddJobs(PartPlan& plan, const ZTBatchDocument& job, const GivenJobs& given)
+{
+    plan.folder = QDir::cleanPath(given.OutputFolder(job));
+    if (given.bundle.IsEmpty()) {
+        plan.jobs.append({{}, SettingsTextOf(job), job.GetOutputSettings()->GetPath()});
+        return;
+    }
+    for (const JobBundle::Part& part : given.bundle.parts) {
+        ZTBatchDocument one;
+        one.Deserialize(part.document);
+        plan.jobs.append({part.name, TakeSettingsText(one), part.outputFolder});
+    }
+}
+
+/// The settings of the jobs. Also notes the files that they name.
+QVector<JobSettings> SettingsOf(PartPlan& plan)
+{
+    QVector<JobSettings> settings;
+    for (const PartPlan::Job& planned : qAsConst(plan.jobs)) {
+        ZTBatchDocument job;
+        job.Deserialize(planned.document);
+        settings.append(CheckSettings(job).settings);
+        for (const QString& path : FilesOfSettings(settings.last())) {
+            if (const std::optional<FileStamp> stamp = StampOf(path)) {
+                plan.sources.append({path, *stamp});
+            }
+        }
+    }
+    return settings;
+}
+
+/// Throws RequestError for what has to be decided before.
+void CheckProspect(const RunForecast& forecast, int index)
+{
+    const RunForecast::Prospect& prospect = forecast.Of(index);
+    const QString input = forecast.Names().Input(index);
+    if (prospect.trouble.kind == PolicyKind::Output) {
+        throw RequestError{prospect.trouble.reason};
+    }
+    if (prospect.decision == Decision::Ask) {
+        throw RequestError{Phrase::English("%1: %2. Nobody can be asked about it while parts are made; decide with %3")
+                               .arg(input, prospect.trouble.reason, PolicyOption(prospect.trouble.kind))};
+    }
+    if (prospect.decision == Decision::Stop) {
+        throw RequestError{Phrase::English("%1: %2. By %3 stop, the job would end there; it was not split")
+                               .arg(input, prospect.trouble.reason, PolicyOption(prospect.trouble.kind))};
+    }
+}
+
+PlannedResult ResultAt(const RunForecast& forecast, int index)
+{
+    CheckProspect(forecast, index);
+    const OutputPlan& names = forecast.Names();
+    PlannedResult result;
+    const QString output = names.Output(index);
+    result.name.output = output.isEmpty() ? QString() : QDir(names.OutputFolder()).relativeFilePath(output);
+    result.name.format = names.Format(index) ? names.Format(index)->name : QString();
+    result.name.number = names.NumberOf(index);
+    result.name.isRenamed = forecast.Plan().IsRenamed(index);
+    result.name.isOverwriting = forecast.Plan().IsOverwriting(index);
+    result.name.hasOtherFormat = forecast.Plan().HasOtherFormat(index);
+    const RunForecast::Prospect& prospect = forecast.Of(index);
+    if (prospect.decision == Decision::Skip) {
+        result.code = prospect.trouble.code;
+        result.reason = prospect.trouble.reason;
+    }
+    return result;
+}
+
+QVector<PlannedFile> FilesOf(const RunForecast& forecast)
+{
+    const OutputPlan& names = forecast.Names();
+    QVector<PlannedFile> files;
+    for (int i = 0; i < names.Count(); ++i) {
+        if (names.JobOf(i) == 0) {
+            const QString input = names.Input(i);
+            files.append({input, StampOf(input).value_or(FileStamp()), {}});
+        }
+        files.last().results.append(ResultAt(forecast, i));
+    }
+    return files;
+}
+
+void TellParts(const PartPlan& plan, const QString& path)
+{
+    for (int i = 0; i < plan.parts.size(); ++i) {
+        const PartPlan::Part& part = plan.parts.at(i);
+        WriteOut(Messages::tr("Part %1: pictures: %2, %3")
+                     .arg(QString::number(i + 1), QString::number(part.files), ByteText(part.inputBytes)) +
+                 QLatin1Char('\n'));
+    }
+    WriteErrorLine(Messages::tr("The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part "
+                                "NUMBER. At the end: velkora-batch collect %2")
+                       .arg(QString::number(plan.parts.size()), path));
+}
+
+} // namespace
+
+ExitCode SplitJob(const ParsedArguments& arguments)
+{
+    const int count = PartCount(arguments);
+    const QString path = AbsolutePath(Needed(arguments, QStringLiteral("--plan")));
+    const PolicyValues policies = PoliciesFor(arguments);
+    QStringList inputs = arguments.inputs;
+    ZTBatchDocument job;
+    const GivenJobs given = BuildJobs(job, arguments, inputs);
+    if (!HasPictures(job, arguments, inputs)) {
+        return ExitCode::NoPictures;
+    }
+    if (given.losses.problems > 0) {
+        throw RequestError{Phrase::English("not all inputs could be read, as said above; nothing was split")};
+    }
+    RequireRunnableJob(job);
+
+    PartPlan plan;
+    AddJobs(plan, job, given);
+    plan.policies = WithoutQuestions(policies);
+    for (int i = 0; i < policyCount; ++i) {
+        const QString option = PolicyOption(PolicyKind(i));
+        if (arguments.Has(option)) {
+            plan.said.insert(option, arguments.Value(option));
+        }
+    }
+    plan.makers = MakersHere(QCoreApplication::applicationVersion());
+    RunPlan names(OutputPlan(FilesOfJob(*job.GetInputModel()), SettingsOf(plan), plan.folder));
+    if (count > names.Count() / plan.jobs.size()) {
+        throw RequestError{Phrase::English("%1 pictures cannot be cut into %2 parts; each needs a picture")
+                               .arg(names.Count() / plan.jobs.size())
+                               .arg(count)};
+    }
+    QVector<PlannedFile> files;
+    {
+        StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
+        line.ShowNow(Messages::tr("Planning %1 files").arg(names.Count()));
+        names.ReadInputs();
+        const PlanProbe probe = ProbeInputs(names, job, false, arguments.Has(QStringLiteral("--verbose")), line);
+        files = FilesOf(RunForecast(names, PoliciesOfPlan(policies), probe.unreadable));
+    }
+    QString problem;
+    if (!WritePlan(path, plan, files, CutIntoParts(files, count), problem)) {
+        throw RequestError{Phrase::English("the plan %1 cannot be written: %2").arg(path, problem)};
+    }
+    if (!arguments.Has(QStringLiteral("--quiet"))) {
+        TellParts(plan, path);
+    }
+    TellLeftOut(given.losses.leftOut, arguments);
+    return ExitCode::Done;
+}
+
+} // namespace BatchCli

@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "PartJob.h"
+
+#include "JournaledJob.h"
+#include "RequestError.h"
+
+#include "job/plan/Policies.h"
+#include "job/plan/Trouble.h"
+#include "job/record/Recipe.h"
+#include "job/settings/JobBundle.h"
+#include "job/values/Phrase.h"
+
+#include "ZTBatchDocument.h"
+#include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <memory>
+
+using namespace BatchJob;
+
+namespace BatchHost {
+
+namespace {
+
+/// Only the end of a folder's name ends a match.
+bool IsIn(const QString& path, const QString& folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+}
+
+void AddInputs(ZTBatchDocument& job, const QVector<PlannedFile>& files)
+{
+    const int digits = QString::number(files.size()).size();
+    for (int i = 0; i < files.size(); ++i) {
+        auto node = std::make_unique<TreeNode<BatchNodeData>>();
+        node->data.inputText = QStringLiteral("%1").arg(i, digits, 10, QLatin1Char('0')); // They sort by it.
+        node->data.fileName = files.at(i).input;
+        node->data.type = File;
+        node->data.enabled = true;
+        node->data.fileNodesCount = 1;
+        node->data.bookmark = ZVFileBookmark(files.at(i).input);
+        job.GetInputModel()->InsertBranch(node.release(), QModelIndex());
+    }
+}
+
+void CheckFile(const QString& path, const FileStamp& planned)
+{
+    const std::optional<FileStamp> now = StampOf(path);
+    if (!now) {
+        throw RequestError{
+            Phrase::English("%1 is missing here, but was there when the job was split; --map names folders "
+                            "that are elsewhere on this machine")
+                .arg(path)};
+    }
+    if (!now->LooksLike(planned)) {
+        throw RequestError{Phrase::English("%1 has changed since the job was split; split the job again").arg(path)};
+    }
+}
+
+} // namespace
+
+FolderNames::FolderNames(const QStringList& texts)
+{
+    for (const QString& text : texts) {
+        const int sign = text.indexOf(QLatin1Char('='));
+        const QString from = QDir::cleanPath(text.left(sign));
+        const QString to = QDir::cleanPath(text.mid(sign + 1));
+        if (sign < 1 || QDir::isRelativePath(from) || QDir::isRelativePath(to)) {
+            throw RequestError{
+                Phrase::English("\"%1\" must be two absolute folders with \"=\" between them").arg(text)};
+        }
+        names.append({from, to});
+    }
+}
+
+QString FolderNames::Here(const QString& path) const
+{
+    for (const auto& [from, to] : names) {
+        if (IsIn(path, from)) {
+            const QString below = path.mid(from.size());
+            return below.isEmpty() ? to : QDir::cleanPath(to + QLatin1Char('/') + below);
+        }
+    }
+    return path;
+}
+
+PartPlan PlanIn(const QString& path)
+{
+    QString problem;
+    const std::optional<PartPlan> plan = ReadPlan(path, problem);
+    if (!plan) {
+        throw RequestError{Phrase::English("the plan %1 cannot be used: %2").arg(path, problem)};
+    }
+    return *plan;
+}
+
+QVector<PlannedFile> FilesOfPart(const QString& path, const PartPlan& plan, int number)
+{
+    const std::optional<QVector<PlannedFile>> files = ReadPart(path, plan, number - 1);
+    const bool isWhole = files && files->size() == plan.parts.at(number - 1).files &&
+                         std::all_of(files->begin(), files->end(), [&plan](const PlannedFile& file) {
+                             return file.results.size() == plan.jobs.size();
+                         });
+    if (!isWhole) {
+        throw RequestError{Phrase::English("the plan %1 cannot be used: %2")
+                               .arg(path, Phrase::English("it is damaged; split the job again"))};
+    }
+    return *files;
+}
+
+PictureMakers MakersHere(const QString& version)
+{
+    return {version, QString::fromLatin1(qVersion()), pictureVersion};
+}
+
+QString DifferenceOfMakers(const PartPlan& plan, const PictureMakers& here)
+{
+    return plan.makers == here ? QString()
+                               : Phrase::English("the plan was made by version %1, but here is version %2")
+                                     .arg(plan.makers.Text(), here.Text());
+}
+
+QVector<RunVariant> VariantsOf(const PartPlan& plan, const FolderNames& names)
+{
+    QVector<RunVariant> variants;
+    for (const PartPlan::Job& job : plan.jobs) {
+        if (!job.name.isEmpty()) {
+            variants.append({job.name, names.Here(job.outputFolder)});
+        }
+    }
+    return variants;
+}
+
+PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const FolderNames& names)
+    : path(path)
+    , plan(plan)
+    , number(number)
+    , names(names)
+    , folder(names.Here(plan.folder))
+    , files(FilesOfPart(path, plan, number))
+    , journals(path, plan.id)
+{
+    for (PlannedFile& file : files) {
+        file.input = names.Here(file.input);
+    }
+    for (int i = 0; i < ResultCount(); ++i) {
+        exists.append(QFileInfo::exists(Output(i)));
+    }
+    // Afterwards: another run of this part notes a result in its journal before it makes it.
+    journals = PartJournals(path, plan.id);
+    known = journals.Of(number);
+}
+
+void PartJob::CheckFiles() const
+{
+    for (const auto& [source, stamp] : plan.sources) {
+        CheckFile(source, stamp); // The settings name it, and are the same everywhere.
+    }
+    const int jobs = plan.jobs.size();
+    for (int i = 0; i < files.size(); ++i) {
+        bool isDone = true;
+        for (int result = i * jobs; result < (i + 1) * jobs; ++result) {
+            isDone = isDone && (Planned(result).IsLeftOut() || IsWritten(result));
+        }
+        if (!isDone) {
+            CheckFile(files.at(i).input, files.at(i).stamp);
+        }
+    }
+}
+
+JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) const
+{
+    const QString text = TextFor(job);
+    const QString journalPath = journals.NewPath(number);
+    RunJournal journal;
+    QString problem;
+    journal.onFailure = [&problem](const QString& what) { problem = what; };
+    if (journal.Create(journalPath, text, plan.policies)) {
+        journal.NoteMakers(makers.Text());
+        journal.FixNames(NamesOfResults());
+        journal.SettleAll(SettledResults());
+    } else {
+        problem = journal.Problem();
+    }
+    if (!problem.isEmpty()) {
+        throw RequestError{
+            Phrase::English("the journal of the part, %1, cannot be written: %2. It belongs beside the plan")
+                .arg(journalPath, problem)};
+    }
+    return JournaledJob::OfPart(text, folder, VariantsOf(plan, names), journalPath, plan.policies);
+}
+
+QString PartJob::TextFor(ZTBatchDocument& job) const
+{
+    JobBundle bundle;
+    bundle.folder = folder;
+    for (const PartPlan::Job& planned : plan.jobs) {
+        ZTBatchDocument other;
+        ZTBatchDocument& one = bundle.parts.isEmpty() ? job : other;
+        if (!one.Deserialize(planned.document)) {
+            throw RequestError{Phrase::English("the plan %1 cannot be used: %2")
+                                   .arg(path, Phrase::English("it is damaged; split the job again"))};
+        }
+        const QString outputFolder = names.Here(planned.outputFolder);
+        one.GetOutputSettings()->SetPath(outputFolder);
+        if (bundle.parts.isEmpty()) {
+            AddInputs(one, files);
+        }
+        bundle.parts.append({planned.name, one.Serialize(nullptr), outputFolder});
+    }
+    return plan.jobs.size() == 1 ? bundle.parts.first().document : bundle.Text();
+}
+
+QVector<FixedName> PartJob::NamesOfResults() const
+{
+    QVector<FixedName> fixed;
+    for (int i = 0; i < ResultCount(); ++i) {
+        fixed.append(Planned(i).name);
+        fixed.last().output = Output(i);
+    }
+    return fixed;
+}
+
+/// What the plan leaves out, what other runs of the part have written, and what would replace a file of somebody else.
+QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
+{
+    const bool overwrites = Policies(plan.policies).Of(PolicyKind::Naming) == Decision::Overwrite;
+    const auto leftOut = [](const QString& output, int code, const QString& reason) {
+        const auto kind =
+            CountsAsSkipped(BatchJob::Action::FileSkipped, code) ? ResultKind::Skipped : ResultKind::Failed;
+        return JournalState::Result{kind, output, code, reason, {}, {}, QDateTime::currentDateTimeUtc(), {}};
+    };
+    QVector<QPair<int, JournalState::Result>> settled;
+    for (int i = 0; i < ResultCount(); ++i) {
+        const PlannedResult& planned = Planned(i);
+        const QString output = Output(i);
+        if (planned.IsLeftOut()) {
+            settled.append({i, leftOut(output, planned.code, planned.reason)});
+        } else if (IsWritten(i)) {
+            settled.append({i, known.results.value(i)});
+            settled.last().second.output = output;
+        } else if (exists.at(i) && !overwrites && !planned.name.isOverwriting && !known.begun.contains(i)) {
+            settled.append({i, leftOut(output, ZTBatchMessage::FileNameAlreadyExists,
+                                       Phrase::English("\"%1\" exists already").arg(output))});
+        }
+    }
+    return settled;
+}
+
+/// Whether another run has written the result, and it is still there.
+bool PartJob::IsWritten(int result) const
+{
+    const auto found = known.results.constFind(result);
+    if (found == known.results.constEnd() || !HasResult(found->kind)) {
+        return false;
+    }
+    const QFileInfo file(Output(result));
+    return file.isFile() && (found->facts.outputBytes < 0 || file.size() == found->facts.outputBytes);
+}
+
+const PlannedResult& PartJob::Planned(int result) const
+{
+    return files.at(result / plan.jobs.size()).results.at(result % plan.jobs.size());
+}
+
+/// Empty for a result that has no name.
+QString PartJob::Output(int result) const
+{
+    const QString name = Planned(result).name.output;
+    return name.isEmpty() ? QString() : folder + QLatin1Char('/') + name;
+}
+
+} // namespace BatchHost

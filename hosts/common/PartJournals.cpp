@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "PartJournals.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+using namespace BatchJob;
+
+namespace BatchHost {
+
+namespace {
+
+const QString journalEnd = QStringLiteral(".journal");
+
+} // namespace
+
+PartJournals::PartJournals(const QString& plan, const QString& id)
+    : folder(QFileInfo(plan).absolutePath())
+    , nameStart(QFileInfo(plan).fileName() + QLatin1Char('-') + id + QLatin1Char('-'))
+{
+    const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString& name : names) {
+        if (name.startsWith(nameStart) && name.endsWith(journalEnd)) {
+            const int part = name.mid(nameStart.size()).section(QLatin1Char('-'), 0, 0).toInt();
+            paths[part].append(QDir(folder).filePath(name));
+        }
+    }
+}
+
+QString PartJournals::NewPath(int part) const
+{
+    const quint64 number = QRandomGenerator::system()->generate64();
+    return QDir(folder).filePath(
+        QStringLiteral("%1%2-%3").arg(nameStart).arg(part).arg(number, 16, 16, QLatin1Char('0')) + journalEnd);
+}
+
+PartJournals::Known PartJournals::Of(int part) const
+{
+    Known known;
+    for (const QString& path : paths.value(part)) {
+        const std::optional<JournalState> state = ReadJournal(path);
+        if (!state) {
+            continue;
+        }
+        if (!state->makers.isEmpty() && !known.makers.contains(state->makers)) {
+            known.makers.append(state->makers);
+        }
+        for (auto it = state->begun.constBegin(); it != state->begun.constEnd(); ++it) {
+            known.begun.insert(it.key());
+        }
+        for (auto it = state->results.constBegin(); it != state->results.constEnd(); ++it) {
+            if (HasResult(it->kind)) {
+                known.begun.insert(it.key());
+            }
+            const auto other = known.results.constFind(it.key());
+            const bool isBetter = other == known.results.constEnd() ||
+                                  (!HasResult(other->kind) && (HasResult(it->kind) || it->finished > other->finished));
+            if (isBetter) {
+                known.results.insert(it.key(), *it);
+            }
+        }
+    }
+    return known;
+}
+
+bool PartJournals::Remove() const
+{
+    bool isRemoved = true;
+    for (const QStringList& ofPart : paths) {
+        for (const QString& path : ofPart) {
+            isRemoved = QFile::remove(path) && isRemoved;
+            QFile::remove(path + QLatin1String(journalHoldEnd)); // Left by a server that died.
+            QFile::remove(path + QStringLiteral(".lock"));       // Left by a run that died.
+        }
+    }
+    return isRemoved;
+}
+
+} // namespace BatchHost

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "job/values/FileStamp.h"
+#include "job/values/FixedName.h"
+#include "job/values/PolicyValues.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+/// A job that is cut into parts, which never collide: every name is made beforehand, for the whole job.
+/// docs/reference/parts.md describes the file.
+namespace BatchJob {
+
+/// A result of a file, as it is planned.
+struct PlannedResult
+{
+    FixedName name; ///< its path is relative to the output folder
+    int code = 0;   ///< a ZTBatchMessage::Error; 0 if the result is to be made
+    QString reason; ///< and why it is not
+
+    bool IsLeftOut() const { return code != 0; }
+};
+
+struct PlannedFile
+{
+    QString input;                  ///< absolute
+    FileStamp stamp;                ///< without a number; no bytes for a file that did not exist
+    QVector<PlannedResult> results; ///< one for each job
+};
+
+/// What makes the pictures.
+struct PictureMakers
+{
+    QString program;  ///< version
+    QString qt;       ///< version
+    int pictures = 0; ///< pictureVersion
+
+    QString Text() const { return QStringLiteral("%1, Qt %2, pictures %3").arg(program, qt).arg(pictures); }
+
+    bool operator==(const PictureMakers& other) const
+    {
+        return program == other.program && qt == other.qt && pictures == other.pictures;
+    }
+};
+
+/// Everything but the files of the parts.
+struct PartPlan
+{
+    struct Job
+    {
+        QString name;     ///< empty if it is the only one
+        QString document; ///< without inputs
+        QString outputFolder;
+    };
+
+    struct Part
+    {
+        int files = 0;
+        qint64 inputBytes = 0;
+
+        // Where its lines are in the file, and what they are.
+        qint64 offset = 0; ///< known when the plan was read
+        qint64 size = 0;
+        QByteArray checksum;
+    };
+
+    QString id;     ///< tells this plan from others; known when it was written or read
+    QString folder; ///< of all results; absolute
+    QVector<Job> jobs;
+    QVector<Part> parts;
+    PolicyValues policies{};     ///< none of them asks
+    QMap<QString, QString> said; ///< the policies that the command which has split the job has named, by their options
+    PictureMakers makers;
+    QVector<QPair<QString, FileStamp>> sources; ///< files that every result needs
+
+    int FileCount() const;
+};
+
+/// How many of `files`, one after the other, each of `count` parts takes, so that their sizes are as equal as the order
+/// permits. Each part gets one at least. `count` is not greater than the number of files.
+QVector<int> CutIntoParts(const QVector<PlannedFile>& files, int count);
+
+/// Writes `plan` with `files`, of which the parts take as many as `counts` says. Fills in its parts and its id. The
+/// file is whole or absent. False if it cannot be written; `problem` then says why, for users.
+bool WritePlan(const QString& path, PartPlan& plan, const QVector<PlannedFile>& files, const QVector<int>& counts,
+               QString& problem);
+
+/// Reads the plan `path` without its files. Nothing if it is none; `problem` then says why, for users.
+std::optional<PartPlan> ReadPlan(const QString& path, QString& problem);
+
+/// Reads the files of the part `index`, from 0. Nothing if they are damaged.
+std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan& plan, int index);
+
+} // namespace BatchJob

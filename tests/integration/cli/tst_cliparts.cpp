@@ -1,0 +1,445 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "CliRun.h"
+#include "PictureFiles.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+using Files = QMap<QString, QByteArray>;
+
+/// The content of every file below `folder`, including hidden files, by its relative path.
+Files FilesBelow(const QString& folder)
+{
+    Files files;
+    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (paths.hasNext()) {
+        QFile file(paths.next());
+        if (file.open(QIODevice::ReadOnly)) {
+            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
+        }
+    }
+    return files;
+}
+
+constexpr int partCount = 4;
+
+} // namespace
+
+/// A job that is cut into parts gives what one run gives, whatever happens to the parts.
+class tst_CliParts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void likeOneRun_data();
+    void likeOneRun();
+    void atOnce();
+    void killedAndRunAgain_data();
+    void killedAndRunAgain();
+    void collectInEachState();
+    void numberFromTheEnvironment_data();
+    void numberFromTheEnvironment();
+    void refused_data();
+    void refused();
+    void changedInput();
+    void missingInput();
+    void damagedPlan_data();
+    void damagedPlan();
+    void clashThatAsks();
+    void morePartsThanPictures();
+    void foreignFileStays();
+    void foldersElsewhere();
+    void otherVersions();
+
+private:
+    QString Path(const QString& name) const { return root->filePath(name); }
+    QStringList Arguments(const QString& text) const
+    {
+        QStringList arguments = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (arguments.first() != QLatin1String("collect")) {
+            arguments << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
+        }
+        return arguments;
+    }
+    CliRun Run(const QString& arguments) const { return CliRun::Of(Arguments(arguments), root->path(), environment); }
+    CliRun RunPart(int part) const { return Run(QStringLiteral("run --plan job.plan --part %1").arg(part)); }
+    CliRun Split(const QString& options = {}) const
+    {
+        return Run(
+            QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
+    }
+    std::unique_ptr<QProcess> Start(int part) const
+    {
+        auto process = std::make_unique<QProcess>();
+        process->setProcessEnvironment(environment);
+        process->setWorkingDirectory(root->path());
+        process->start(QStringLiteral(VELKORA_BATCH),
+                       Arguments(QStringLiteral("run --plan job.plan --part %1").arg(part)));
+        return process;
+    }
+    Files OneRun() const
+    {
+        Run(QStringLiteral("run %1 -o one").arg(job));
+        return FilesBelow(Path(QStringLiteral("one")));
+    }
+    void Write(const QString& name, const QByteArray& content) const
+    {
+        QFile file(Path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    QByteArray Content(const QString& name) const
+    {
+        QFile file(Path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList NamesLike(const QString& wildcard) const
+    {
+        return QDir(root->path()).entryList({wildcard}, QDir::Files | QDir::Hidden);
+    }
+
+    std::unique_ptr<QTemporaryDir> root;
+    QProcessEnvironment environment;
+    QString job;
+};
+
+void tst_CliParts::init()
+{
+    root = std::make_unique<QTemporaryDir>();
+    environment = QProcessEnvironment::systemEnvironment();
+    for (const char* const name :
+         {"SLURM_ARRAY_TASK_ID", "SLURM_ARRAY_TASK_MIN", "JOB_COMPLETION_INDEX", "PARALLEL_SEQ"}) {
+        environment.remove(QString::fromLatin1(name));
+    }
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
+    environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
+    // Both folders have results of the same names in one output folder.
+    for (int i = 1; i <= 12; ++i) {
+        PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 300, 200);
+        PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 20 + i, 300, 200);
+    }
+    job = QStringLiteral("a b -s 100 --on-name-exists rename");
+}
+
+void tst_CliParts::likeOneRun_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("renamed clashes") << "a b -s 100 --on-name-exists rename";
+    QTest::newRow("skipped clashes") << "a b -s 100 --on-name-exists skip";
+    QTest::newRow("numbers") << "a b -s 100 --name number:7:3";
+    QTest::newRow("dates") << "a b -s 100 --structure date --prefix date --on-name-exists rename";
+    QTest::newRow("folders") << "a b -s 100 --structure input";
+    QTest::newRow("tokens") << "a b -s 100 --name {folder}_{number:4} --number-start 30 --effect "
+                               "watermark-text:text={number},tokens=true";
+    QTest::newRow("several results") << "a b --preset web --preset thumbnails --on-name-exists rename";
+    QTest::newRow("a broken picture") << "a b broken.jpg -s 100 --name number --on-name-exists rename";
+}
+
+/// In any order, and each part twice.
+void tst_CliParts::likeOneRun()
+{
+    QFETCH(QString, options);
+    Write(QStringLiteral("broken.jpg"), "\xff\xd8\xff and no picture");
+    job = options;
+    const CliRun whole = Run(QStringLiteral("run %1 -o one").arg(job));
+    const Files one = FilesBelow(Path(QStringLiteral("one")));
+    QVERIFY(!one.isEmpty());
+    const CliRun split = Split();
+    QVERIFY2(split.exitCode == 0, split.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
+    for (const int part : {3, 1, 3, 4, 2, 1}) {
+        const CliRun run = RunPart(part);
+        QVERIFY2(run.exitCode == 0 || run.exitCode == 1, run.err);
+    }
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, whole.exitCode);
+}
+
+/// All parts at once, each twice.
+void tst_CliParts::atOnce()
+{
+    const Files one = OneRun();
+    QCOMPARE(Split().exitCode, 0);
+    std::vector<std::unique_ptr<QProcess>> runs;
+    for (int i = 0; i < 2 * partCount; ++i) {
+        runs.push_back(Start(i % partCount + 1));
+    }
+    for (const std::unique_ptr<QProcess>& run : runs) {
+        QVERIFY(run->waitForFinished(120'000));
+        QVERIFY2(run->exitCode() == 0, run->readAllStandardError());
+    }
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    const CliRun collected = Run(QStringLiteral("collect job.plan"));
+    QVERIFY2(collected.exitCode == 0, collected.err);
+}
+
+void tst_CliParts::killedAndRunAgain_data()
+{
+    QTest::addColumn<int>("milliseconds");
+    for (const int time : {20, 80, 150, 250, 400, 700}) {
+        QTest::addRow("after %d ms", time) << time;
+    }
+}
+
+void tst_CliParts::killedAndRunAgain()
+{
+    QFETCH(int, milliseconds);
+    const Files one = OneRun();
+    QCOMPARE(Split().exitCode, 0);
+    for (int part = 1; part <= partCount; ++part) {
+        const std::unique_ptr<QProcess> run = Start(part);
+        QVERIFY(run->waitForStarted());
+        if (!run->waitForFinished(milliseconds)) {
+            run->kill();
+            QVERIFY(run->waitForFinished());
+        }
+    }
+    for (int part = partCount; part >= 1; --part) {
+        const CliRun run = RunPart(part);
+        QVERIFY2(run.exitCode == 0, run.err);
+    }
+    const CliRun collected = Run(QStringLiteral("collect job.plan"));
+    QVERIFY2(collected.exitCode == 0, collected.err + collected.out);
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    QVERIFY(NamesLike(QStringLiteral("job.plan*")).isEmpty());
+}
+
+void tst_CliParts::collectInEachState()
+{
+    Write(QStringLiteral("broken.jpg"), "\xff\xd8\xff and no picture");
+    job = QStringLiteral("a b broken.jpg -s 100 --on-name-exists rename");
+    QCOMPARE(Split().exitCode, 0);
+    const CliRun none = Run(QStringLiteral("collect job.plan"));
+    QCOMPARE(none.exitCode, 1);
+    QVERIFY2(none.Out().contains(QLatin1String("Parts to run again, as they are not done: 1,2,3,4")), none.out);
+
+    QCOMPARE(RunPart(2).exitCode, 0);
+    const CliRun one = Run(QStringLiteral("collect job.plan"));
+    QCOMPARE(one.exitCode, 1);
+    QVERIFY2(one.Out().contains(QLatin1String("as they are not done: 1,3,4")), one.out);
+
+    RunPart(1);
+    RunPart(3);
+    RunPart(4);
+    const CliRun all = Run(QStringLiteral("collect job.plan --report all.json"));
+    QCOMPARE(all.exitCode, 1);
+    QVERIFY2(all.Out().contains(QLatin1String("Parts done: 4 of 4. Written: 24, skipped: 0, failed: 1")), all.out);
+    QVERIFY2(all.Out().contains(QLatin1String("as pictures have failed: ")), all.out);
+    QCOMPARE(Content(QStringLiteral("all.json")).count("\"result\": \"written\""), 24);
+    QCOMPARE(Content(QStringLiteral("all.json")).count("\"result\": \"failed\""), 1);
+    QVERIFY(!NamesLike(QStringLiteral("job.plan")).isEmpty());
+
+    QCOMPARE(Run(QStringLiteral("collect job.plan --remove")).exitCode, 1);
+    QVERIFY(NamesLike(QStringLiteral("job.plan*")).isEmpty());
+}
+
+void tst_CliParts::numberFromTheEnvironment_data()
+{
+    QTest::addColumn<QString>("variables");
+    QTest::addColumn<QString>("part"); // its first result
+    QTest::newRow("Slurm") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=1"
+                           << "7.jpg";
+    QTest::newRow("Slurm, from 0") << "SLURM_ARRAY_TASK_ID=1 SLURM_ARRAY_TASK_MIN=0"
+                                   << "7.jpg";
+    QTest::newRow("Slurm, some again") << "SLURM_ARRAY_TASK_ID=2 SLURM_ARRAY_TASK_MIN=2"
+                                       << "7.jpg";
+    QTest::newRow("Kubernetes") << "JOB_COMPLETION_INDEX=1"
+                                << "7.jpg";
+    QTest::newRow("GNU parallel") << "PARALLEL_SEQ=2"
+                                  << "7.jpg";
+}
+
+void tst_CliParts::numberFromTheEnvironment()
+{
+    QFETCH(QString, variables);
+    QFETCH(QString, part);
+    QCOMPARE(Split().exitCode, 0);
+    const QStringList list = variables.split(QLatin1Char(' '));
+    for (const QString& variable : list) {
+        environment.insert(variable.section(QLatin1Char('='), 0, 0), variable.section(QLatin1Char('='), 1));
+    }
+    const CliRun run = Run(QStringLiteral("run --plan job.plan"));
+    QVERIFY2(run.exitCode == 0, run.err);
+    const Files files = FilesBelow(Path(QStringLiteral("out")));
+    QCOMPARE(files.size(), 6);
+    QVERIFY2(files.contains(part), qPrintable(files.keys().join(QLatin1Char(' '))));
+}
+
+void tst_CliParts::refused_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no number") << "run --plan job.plan"
+                               << "which part is not said";
+    QTest::newRow("0") << "run --plan job.plan --part 0"
+                       << "the plan has the parts 1 to 4";
+    QTest::newRow("too great") << "run --plan job.plan --part 5"
+                               << "the plan has the parts 1 to 4";
+    QTest::newRow("no number at all") << "run --plan job.plan --part two"
+                                      << "there is no part \"two\"";
+    QTest::newRow("no plan") << "run --plan none.plan --part 1"
+                             << "none.plan cannot be used";
+    QTest::newRow("another file") << "run --plan a/1.jpg --part 1"
+                                  << "it is no plan";
+    QTest::newRow("part without plan") << "run a -o out --part 1"
+                                       << "name its plan with --plan";
+    QTest::newRow("inputs of its own") << "run --plan job.plan --part 1 a"
+                                       << "leave out \"a\"";
+    QTest::newRow("a job of its own") << "run --plan job.plan --part 1 -s 50"
+                                      << "contradict each other";
+    QTest::newRow("resume") << "run --plan job.plan --part 1 --resume"
+                            << "contradict each other";
+    QTest::newRow("map") << "run --plan job.plan --part 1 --map here"
+                         << "two absolute folders";
+    QTest::newRow("no parts") << "split a b -o out --plan other.plan"
+                              << "split needs --parts";
+    QTest::newRow("no file") << "split a b -o out --parts 2"
+                             << "split needs --plan";
+    QTest::newRow("parts") << "split a b -o out --plan other.plan --parts 0"
+                           << "--parts";
+    QTest::newRow("collect nothing") << "collect"
+                                     << "collect takes one plan";
+}
+
+void tst_CliParts::refused()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, message);
+    QCOMPARE(Split().exitCode, 0);
+    const QStringList before = FilesBelow(root->path()).keys();
+    const CliRun run = Run(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(message), run.err);
+    QCOMPARE(FilesBelow(root->path()).keys(), before);
+}
+
+void tst_CliParts::changedInput()
+{
+    QCOMPARE(Split().exitCode, 0);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("a/1.jpg")), 99, 310, 200);
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(QLatin1String("a/1.jpg has changed since the job was split")), run.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
+    QCOMPARE(RunPart(4).exitCode, 0);
+}
+
+void tst_CliParts::missingInput()
+{
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QFile::remove(Path(QStringLiteral("a/1.jpg"))));
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(QLatin1String("a/1.jpg is missing here")), run.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
+}
+
+void tst_CliParts::damagedPlan_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("newer") << QByteArray("{\"plan\":1,") << QByteArray("{\"plan\":2,") << "a newer version";
+    QTest::newRow("header") << QByteArray("\"policies\"") << QByteArray("\"polecies\"") << "it is damaged";
+    QTest::newRow("name") << QByteArray("\"to\":\"1.jpg\"") << QByteArray("\"to\":\"9.jpg\"") << "it is damaged";
+}
+
+void tst_CliParts::damagedPlan()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, message);
+    QCOMPARE(Split().exitCode, 0);
+    QByteArray text = Content(QStringLiteral("job.plan"));
+    QVERIFY(text.contains(from));
+    Write(QStringLiteral("job.plan"), text.replace(from, to));
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(message), run.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
+}
+
+void tst_CliParts::clashThatAsks()
+{
+    job = QStringLiteral("a b -s 100 --on-name-exists ask");
+    const CliRun run = Split();
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(QLatin1String("decide with --on-name-exists")), run.err);
+    QVERIFY(NamesLike(QStringLiteral("job.plan*")).isEmpty());
+}
+
+void tst_CliParts::morePartsThanPictures()
+{
+    const CliRun run = Run(QStringLiteral("split a -o out --parts 13 --plan job.plan"));
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(QLatin1String("12 pictures cannot be cut into 13 parts")), run.err);
+    QVERIFY(NamesLike(QStringLiteral("job.plan*")).isEmpty());
+}
+
+/// A file that has come since the job was split is not replaced, and changes no other name.
+void tst_CliParts::foreignFileStays()
+{
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("out")));
+    Write(QStringLiteral("out/1.jpg"), "somebody else's");
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(Content(QStringLiteral("out/1.jpg")), QByteArray("somebody else's"));
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
+}
+
+void tst_CliParts::foldersElsewhere()
+{
+    const Files one = OneRun();
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("there")));
+    for (const QString& folder : {QStringLiteral("a"), QStringLiteral("b")}) {
+        QVERIFY(QDir(root->path()).rename(folder, QStringLiteral("there/") + folder));
+    }
+    const QString map = QStringLiteral(" --map %1=%2").arg(root->path(), Path(QStringLiteral("there")));
+    for (int part = 1; part <= partCount; ++part) {
+        const CliRun run = Run(QStringLiteral("run --plan job.plan --part %1").arg(part) + map);
+        QVERIFY2(run.exitCode == 0, run.err);
+    }
+    QCOMPARE(FilesBelow(Path(QStringLiteral("there/out"))), one);
+    QCOMPARE(Run(QStringLiteral("collect job.plan") + map).exitCode, 0);
+}
+
+void tst_CliParts::otherVersions()
+{
+    QCOMPARE(Split().exitCode, 0);
+    // A plan of another version, as its own program would have written it.
+    const QList<QByteArray> lines = Content(QStringLiteral("job.plan")).split('\n');
+    QByteArray header = lines.at(1);
+    const int at = header.indexOf("\"program\":\"") + int(sizeof("\"program\":\"")) - 1;
+    header.insert(at, "0.");
+    header += '\n';
+    QByteArray text = "{\"plan\":1,\"sha256\":\"" +
+                      QCryptographicHash::hash(header, QCryptographicHash::Sha256).toHex() + "\"}\n" + header +
+                      lines.mid(2).join('\n');
+    Write(QStringLiteral("job.plan"), text);
+    const CliRun refused = Run(QStringLiteral("run --plan job.plan --part 1 --same-versions"));
+    QCOMPARE(refused.exitCode, 2);
+    QVERIFY2(refused.Err().contains(QLatin1String("the plan was made by version 0.")), refused.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
+    const CliRun warned = RunPart(1);
+    QCOMPARE(warned.exitCode, 0);
+    QVERIFY2(warned.Err().contains(QLatin1String("the plan was made by version 0.")), warned.err);
+    const CliRun collected = Run(QStringLiteral("collect job.plan"));
+    QVERIFY2(collected.Err().contains(QLatin1String("part 1 was made by version ")), collected.err);
+}
+
+QTEST_GUILESS_MAIN(tst_CliParts)
+
+#include "tst_cliparts.moc"
