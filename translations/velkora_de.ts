@@ -2347,6 +2347,38 @@
         <source>Example, with what a picture might say: %1</source>
         <translation>Beispiel mit dem, was ein Bild sagen könnte: %1</translation>
     </message>
+    <message>
+        <source>Parts done: %1 of %2. Written: %3, skipped: %4, failed: %5, not processed: %6.</source>
+        <translation>Fertige Teile: %1 von %2. Geschrieben: %3, übersprungen: %4, fehlgeschlagen: %5, nicht bearbeitet: %6.</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as they are not done: %1</source>
+        <translation>Erneut zu startende Teile, da sie nicht fertig sind: %1</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as pictures have failed: %1</source>
+        <translation>Erneut zu startende Teile, da Bilder fehlgeschlagen sind: %1</translation>
+    </message>
+    <message>
+        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
+        <translation>Teil %1 stammt von Version %2, der Plan aber von Version %3; seine Bilder können abweichen.</translation>
+    </message>
+    <message>
+        <source>the plan %1 or its journals cannot be removed.</source>
+        <translation>der Plan %1 oder seine Journale können nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2 is not done; run it again to go on.</source>
+        <translation>Teil %1 von %2 ist nicht fertig; starten Sie ihn erneut, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Part %1: pictures: %2, %3</source>
+        <translation>Teil %1: Bilder: %2, %3</translation>
+    </message>
+    <message>
+        <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
+        <translation>Der Plan mit %1 Teilen ist in %2. Für jeden davon: velkora-batch run --plan %2 --part NUMBER. Am Ende: velkora-batch collect %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5737,6 +5769,138 @@
     <message>
         <source>what was watched before cannot be read and written: %1: %2</source>
         <translation>was bisher überwacht wurde, kann nicht gelesen und geschrieben werden: %1: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of the program has made it; use that version for all parts</source>
+        <translation>eine neuere Version des Programms hat ihn gemacht; verwenden Sie diese Version für alle Teile</translation>
+    </message>
+    <message>
+        <source>it is no plan; &quot;velkora-batch split&quot; makes one</source>
+        <translation>es ist kein Plan; „velkora-batch split“ macht einen</translation>
+    </message>
+    <message>
+        <source>it is damaged; split the job again</source>
+        <translation>er ist beschädigt; teilen Sie den Auftrag neu auf</translation>
+    </message>
+    <message>
+        <source>collect takes one plan, the file that split has written</source>
+        <translation>collect nimmt einen Plan, die Datei, die split geschrieben hat</translation>
+    </message>
+    <message>
+        <source>%1: there is no part &quot;%2&quot;; the plan has the parts %3 to %4</source>
+        <translation>%1: es gibt keinen Teil „%2“; der Plan hat die Teile %3 bis %4</translation>
+    </message>
+    <message>
+        <source>which part is not said; use --part with a number from 1 to %1</source>
+        <translation>welcher Teil, ist nicht gesagt; verwenden Sie --part mit einer Zahl von 1 bis %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 both say which part to make; use --part</source>
+        <translation>%1 und %2 sagen beide, welcher Teil zu machen ist; verwenden Sie --part</translation>
+    </message>
+    <message>
+        <source>split needs %1; &quot;velkora-batch help split&quot; says more</source>
+        <translation>split braucht %1; „velkora-batch help split“ sagt mehr</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nobody can be asked about it while parts are made; decide with %3</source>
+        <translation>%1: %2. Während Teile gemacht werden, kann niemand dazu gefragt werden; entscheiden Sie mit %3</translation>
+    </message>
+    <message>
+        <source>%1: %2. By %3 stop, the job would end there; it was not split</source>
+        <translation>%1: %2. Mit %3 stop würde der Auftrag dort enden; er wurde nicht aufgeteilt</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, as said above; nothing was split</source>
+        <translation>nicht alle Eingaben konnten gelesen werden, wie oben gesagt; nichts wurde aufgeteilt</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be cut into %2 parts; each needs a picture</source>
+        <translation>%1 Bilder können nicht in %2 Teile aufgeteilt werden; jeder braucht ein Bild</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be written: %2</source>
+        <translation>der Plan %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>cuts a job into parts that can be made at once, on many machines, by &quot;velkora-batch run --plan&quot;: writes a plan with every input and the name of every result, and nothing else. Clashes of names are settled by the policies. Exit status: 2 when the job cannot be split; 5 when there is no picture among the inputs</source>
+        <translation>teilt einen Auftrag in Teile auf, die „velkora-batch run --plan“ zugleich auf vielen Rechnern machen kann: schreibt einen Plan mit jeder Eingabe und dem Namen jedes Ergebnisses, sonst nichts. Die Richtlinien entscheiden über gleiche Namen. Exit-Status: 2, wenn der Auftrag nicht aufgeteilt werden kann; 5, wenn unter den Eingaben kein Bild ist</translation>
+    </message>
+    <message>
+        <source>says what the parts of a plan have done and which are to be run again. When all are done without failures, the plan and its journals are removed. Exit status: 0 when all pictures were written; 1 when some failed, were left out or are not made yet; 2 when the plan cannot be used</source>
+        <translation>sagt, was die Teile eines Plans getan haben und welche erneut zu starten sind. Sind alle ohne Fehler fertig, werden der Plan und seine Journale entfernt. Exit-Status: 0, wenn alle Bilder geschrieben wurden; 1, wenn welche fehlgeschlagen, ausgelassen oder noch nicht gemacht sind; 2, wenn der Plan nicht verwendet werden kann</translation>
+    </message>
+    <message>
+        <source>A job for eight machines</source>
+        <translation>Ein Auftrag für acht Rechner</translation>
+    </message>
+    <message>
+        <source>What the parts have done</source>
+        <translation>Was die Teile getan haben</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>the folder FROM of the plan is the folder TO on this machine; both are absolute</source>
+        <translation>der Ordner FROM des Plans ist auf diesem Rechner der Ordner TO; beide sind absolut</translation>
+    </message>
+    <message>
+        <source>makes it an error, not a warning, when parts are made by other versions than the plan</source>
+        <translation>macht es zum Fehler statt zur Warnung, wenn Teile von anderen Versionen als der Plan gemacht werden</translation>
+    </message>
+    <message>
+        <source>how many parts to cut the job into; each gets about as many bytes of pictures</source>
+        <translation>in wie viele Teile der Auftrag aufgeteilt wird; jeder bekommt etwa gleich viele Bytes an Bildern</translation>
+    </message>
+    <message>
+        <source>the file to write the plan to; it is replaced</source>
+        <translation>die Datei, in die der Plan geschrieben wird; sie wird ersetzt</translation>
+    </message>
+    <message>
+        <source>makes one part of the job that &quot;velkora-batch split&quot; has written to a file</source>
+        <translation>macht einen Teil des Auftrags, den „velkora-batch split“ in eine Datei geschrieben hat</translation>
+    </message>
+    <message>
+        <source>which part, from 1; default: what the environment says in SLURM_ARRAY_TASK_ID, JOB_COMPLETION_INDEX, which counts from 0, or PARALLEL_SEQ</source>
+        <translation>welcher Teil, ab 1; Vorgabe: was die Umgebung in SLURM_ARRAY_TASK_ID, in JOB_COMPLETION_INDEX, das ab 0 zählt, oder in PARALLEL_SEQ sagt</translation>
+    </message>
+    <message>
+        <source>removes the plan and its journals also when pictures have failed; without this option they stay until all parts are done without failures</source>
+        <translation>entfernt den Plan und seine Journale auch, wenn Bilder fehlgeschlagen sind; ohne diese Option bleiben sie, bis alle Teile ohne Fehler fertig sind</translation>
+    </message>
+    <message>
+        <source>%1 is for a part of a job; name its plan with --plan</source>
+        <translation>%1 ist für einen Teil eines Auftrags; nennen Sie dessen Plan mit --plan</translation>
+    </message>
+    <message>
+        <source>the plan has a job and pictures of its own; leave out &quot;%1&quot;</source>
+        <translation>der Plan hat seinen eigenen Auftrag und eigene Bilder; lassen Sie „%1“ weg</translation>
+    </message>
+    <message>
+        <source>%1 is missing here, but was there when the job was split; --map names folders that are elsewhere on this machine</source>
+        <translation>%1 fehlt hier, war aber da, als der Auftrag aufgeteilt wurde; --map nennt Ordner, die auf diesem Rechner anderswo sind</translation>
+    </message>
+    <message>
+        <source>%1 has changed since the job was split; split the job again</source>
+        <translation>%1 hat sich geändert, seit der Auftrag aufgeteilt wurde; teilen Sie den Auftrag neu auf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two absolute folders with &quot;=&quot; between them</source>
+        <translation>„%1“ muss aus zwei absoluten Ordnern mit „=“ dazwischen bestehen</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be used: %2</source>
+        <translation>der Plan %1 kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made by version %1, but here is version %2</source>
+        <translation>der Plan stammt von Version %1, aber hier ist Version %2</translation>
+    </message>
+    <message>
+        <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
+        <translation>das Journal des Teils, %1, kann nicht geschrieben werden: %2. Es gehört neben den Plan</translation>
     </message>
 </context>
 </TS>

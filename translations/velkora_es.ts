@@ -2347,6 +2347,38 @@
         <source>Example, with what a picture might say: %1</source>
         <translation>Ejemplo, con lo que podría decir una imagen: %1</translation>
     </message>
+    <message>
+        <source>Parts done: %1 of %2. Written: %3, skipped: %4, failed: %5, not processed: %6.</source>
+        <translation>Partes hechas: %1 de %2. Escritas: %3, omitidas: %4, fallidas: %5, sin procesar: %6.</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as they are not done: %1</source>
+        <translation>Partes que ejecutar otra vez, pues no están hechas: %1</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as pictures have failed: %1</source>
+        <translation>Partes que ejecutar otra vez, pues han fallado imágenes: %1</translation>
+    </message>
+    <message>
+        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
+        <translation>la parte %1 es de la versión %2, pero el plan es de la versión %3; sus imágenes pueden diferir.</translation>
+    </message>
+    <message>
+        <source>the plan %1 or its journals cannot be removed.</source>
+        <translation>el plan %1 o sus diarios no se pueden eliminar.</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2 is not done; run it again to go on.</source>
+        <translation>La parte %1 de %2 no está hecha; ejecútela otra vez para seguir.</translation>
+    </message>
+    <message>
+        <source>Part %1: pictures: %2, %3</source>
+        <translation>Parte %1: imágenes: %2, %3</translation>
+    </message>
+    <message>
+        <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
+        <translation>El plan de %1 partes está en %2. Para cada una: velkora-batch run --plan %2 --part NUMBER. Al final: velkora-batch collect %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5737,6 +5769,138 @@
     <message>
         <source>what was watched before cannot be read and written: %1: %2</source>
         <translation>no se puede leer y escribir lo vigilado hasta ahora: %1: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of the program has made it; use that version for all parts</source>
+        <translation>lo ha hecho una versión más nueva del programa; use esa versión para todas las partes</translation>
+    </message>
+    <message>
+        <source>it is no plan; &quot;velkora-batch split&quot; makes one</source>
+        <translation>no es un plan; «velkora-batch split» hace uno</translation>
+    </message>
+    <message>
+        <source>it is damaged; split the job again</source>
+        <translation>está dañado; divida el trabajo otra vez</translation>
+    </message>
+    <message>
+        <source>collect takes one plan, the file that split has written</source>
+        <translation>collect toma un plan, el archivo que ha escrito split</translation>
+    </message>
+    <message>
+        <source>%1: there is no part &quot;%2&quot;; the plan has the parts %3 to %4</source>
+        <translation>%1: no hay parte «%2»; el plan tiene las partes %3 a %4</translation>
+    </message>
+    <message>
+        <source>which part is not said; use --part with a number from 1 to %1</source>
+        <translation>no se dice qué parte; use --part con un número de 1 a %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 both say which part to make; use --part</source>
+        <translation>%1 y %2 dicen ambos qué parte hacer; use --part</translation>
+    </message>
+    <message>
+        <source>split needs %1; &quot;velkora-batch help split&quot; says more</source>
+        <translation>split necesita %1; «velkora-batch help split» explica más</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nobody can be asked about it while parts are made; decide with %3</source>
+        <translation>%1: %2. No se puede preguntar a nadie mientras se hacen las partes; decida con %3</translation>
+    </message>
+    <message>
+        <source>%1: %2. By %3 stop, the job would end there; it was not split</source>
+        <translation>%1: %2. Con %3 stop, el trabajo terminaría ahí; no se ha dividido</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, as said above; nothing was split</source>
+        <translation>no se pudieron leer todas las entradas, como se dice arriba; no se ha dividido nada</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be cut into %2 parts; each needs a picture</source>
+        <translation>%1 imágenes no se pueden dividir en %2 partes; cada una necesita una imagen</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be written: %2</source>
+        <translation>el plan %1 no se puede escribir: %2</translation>
+    </message>
+    <message>
+        <source>cuts a job into parts that can be made at once, on many machines, by &quot;velkora-batch run --plan&quot;: writes a plan with every input and the name of every result, and nothing else. Clashes of names are settled by the policies. Exit status: 2 when the job cannot be split; 5 when there is no picture among the inputs</source>
+        <translation>divide un trabajo en partes que «velkora-batch run --plan» puede hacer a la vez en muchos equipos: escribe un plan con cada entrada y el nombre de cada resultado, y nada más. Las políticas deciden los conflictos de nombres. Estado de salida: 2 si el trabajo no se puede dividir; 5 si no hay ninguna imagen entre las entradas</translation>
+    </message>
+    <message>
+        <source>says what the parts of a plan have done and which are to be run again. When all are done without failures, the plan and its journals are removed. Exit status: 0 when all pictures were written; 1 when some failed, were left out or are not made yet; 2 when the plan cannot be used</source>
+        <translation>dice qué han hecho las partes de un plan y cuáles hay que ejecutar otra vez. Cuando todas están hechas sin fallos, se eliminan el plan y sus diarios. Estado de salida: 0 si se escribieron todas las imágenes; 1 si algunas fallaron, se omitieron o aún no están hechas; 2 si el plan no se puede usar</translation>
+    </message>
+    <message>
+        <source>A job for eight machines</source>
+        <translation>Un trabajo para ocho equipos</translation>
+    </message>
+    <message>
+        <source>What the parts have done</source>
+        <translation>Lo que han hecho las partes</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Partes</translation>
+    </message>
+    <message>
+        <source>the folder FROM of the plan is the folder TO on this machine; both are absolute</source>
+        <translation>la carpeta FROM del plan es la carpeta TO en este equipo; ambas son absolutas</translation>
+    </message>
+    <message>
+        <source>makes it an error, not a warning, when parts are made by other versions than the plan</source>
+        <translation>hace que sea un error, no un aviso, si las partes se hacen con otras versiones que el plan</translation>
+    </message>
+    <message>
+        <source>how many parts to cut the job into; each gets about as many bytes of pictures</source>
+        <translation>en cuántas partes se divide el trabajo; cada una recibe más o menos los mismos bytes de imágenes</translation>
+    </message>
+    <message>
+        <source>the file to write the plan to; it is replaced</source>
+        <translation>el archivo en el que se escribe el plan; se reemplaza</translation>
+    </message>
+    <message>
+        <source>makes one part of the job that &quot;velkora-batch split&quot; has written to a file</source>
+        <translation>hace una parte del trabajo que «velkora-batch split» ha escrito en un archivo</translation>
+    </message>
+    <message>
+        <source>which part, from 1; default: what the environment says in SLURM_ARRAY_TASK_ID, JOB_COMPLETION_INDEX, which counts from 0, or PARALLEL_SEQ</source>
+        <translation>qué parte, desde 1; por omisión, lo que dice el entorno en SLURM_ARRAY_TASK_ID, en JOB_COMPLETION_INDEX, que cuenta desde 0, o en PARALLEL_SEQ</translation>
+    </message>
+    <message>
+        <source>removes the plan and its journals also when pictures have failed; without this option they stay until all parts are done without failures</source>
+        <translation>elimina el plan y sus diarios también si han fallado imágenes; sin esta opción se quedan hasta que todas las partes estén hechas sin fallos</translation>
+    </message>
+    <message>
+        <source>%1 is for a part of a job; name its plan with --plan</source>
+        <translation>%1 es para una parte de un trabajo; indique su plan con --plan</translation>
+    </message>
+    <message>
+        <source>the plan has a job and pictures of its own; leave out &quot;%1&quot;</source>
+        <translation>el plan tiene su propio trabajo e imágenes; omita «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is missing here, but was there when the job was split; --map names folders that are elsewhere on this machine</source>
+        <translation>%1 falta aquí, pero estaba cuando se dividió el trabajo; --map nombra carpetas que están en otro lugar en este equipo</translation>
+    </message>
+    <message>
+        <source>%1 has changed since the job was split; split the job again</source>
+        <translation>%1 ha cambiado desde que se dividió el trabajo; divida el trabajo otra vez</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two absolute folders with &quot;=&quot; between them</source>
+        <translation>«%1» debe ser dos carpetas absolutas con «=» entre ellas</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be used: %2</source>
+        <translation>el plan %1 no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made by version %1, but here is version %2</source>
+        <translation>el plan es de la versión %1, pero aquí está la versión %2</translation>
+    </message>
+    <message>
+        <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
+        <translation>el diario de la parte, %1, no se puede escribir: %2. Va junto al plan</translation>
     </message>
 </context>
 </TS>

@@ -2347,6 +2347,38 @@
         <source>Example, with what a picture might say: %1</source>
         <translation>Exemple, avec ce qu’une image pourrait dire&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Parts done: %1 of %2. Written: %3, skipped: %4, failed: %5, not processed: %6.</source>
+        <translation>Parties faites : %1 sur %2. Écrites : %3, ignorées : %4, échouées : %5, non traitées : %6.</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as they are not done: %1</source>
+        <translation>Parties à relancer, car elles ne sont pas faites : %1</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as pictures have failed: %1</source>
+        <translation>Parties à relancer, car des images ont échoué : %1</translation>
+    </message>
+    <message>
+        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
+        <translation>la partie %1 vient de la version %2, mais le plan de la version %3 ; ses images peuvent différer.</translation>
+    </message>
+    <message>
+        <source>the plan %1 or its journals cannot be removed.</source>
+        <translation>le plan %1 ou ses journaux ne peuvent pas être supprimés.</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2 is not done; run it again to go on.</source>
+        <translation>La partie %1 sur %2 n&apos;est pas faite ; relancez-la pour continuer.</translation>
+    </message>
+    <message>
+        <source>Part %1: pictures: %2, %3</source>
+        <translation>Partie %1 : images : %2, %3</translation>
+    </message>
+    <message>
+        <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
+        <translation>Le plan de %1 parties est dans %2. Pour chacune : velkora-batch run --plan %2 --part NUMBER. À la fin : velkora-batch collect %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5737,6 +5769,138 @@
     <message>
         <source>what was watched before cannot be read and written: %1: %2</source>
         <translation>impossible de lire et d’écrire ce qui a été surveillé jusqu’ici&#xa0;: %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of the program has made it; use that version for all parts</source>
+        <translation>une version plus récente du programme l&apos;a fait ; utilisez cette version pour toutes les parties</translation>
+    </message>
+    <message>
+        <source>it is no plan; &quot;velkora-batch split&quot; makes one</source>
+        <translation>ce n&apos;est pas un plan ; « velkora-batch split » en fait un</translation>
+    </message>
+    <message>
+        <source>it is damaged; split the job again</source>
+        <translation>il est endommagé ; divisez le travail à nouveau</translation>
+    </message>
+    <message>
+        <source>collect takes one plan, the file that split has written</source>
+        <translation>collect prend un plan, le fichier que split a écrit</translation>
+    </message>
+    <message>
+        <source>%1: there is no part &quot;%2&quot;; the plan has the parts %3 to %4</source>
+        <translation>%1 : il n&apos;y a pas de partie « %2 » ; le plan a les parties %3 à %4</translation>
+    </message>
+    <message>
+        <source>which part is not said; use --part with a number from 1 to %1</source>
+        <translation>la partie n&apos;est pas indiquée ; utilisez --part avec un nombre de 1 à %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 both say which part to make; use --part</source>
+        <translation>%1 et %2 disent tous deux quelle partie faire ; utilisez --part</translation>
+    </message>
+    <message>
+        <source>split needs %1; &quot;velkora-batch help split&quot; says more</source>
+        <translation>split a besoin de %1 ; « velkora-batch help split » en dit plus</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nobody can be asked about it while parts are made; decide with %3</source>
+        <translation>%1 : %2. On ne peut interroger personne pendant que les parties sont faites ; décidez avec %3</translation>
+    </message>
+    <message>
+        <source>%1: %2. By %3 stop, the job would end there; it was not split</source>
+        <translation>%1 : %2. Avec %3 stop, le travail s&apos;arrêterait là ; il n&apos;a pas été divisé</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, as said above; nothing was split</source>
+        <translation>toutes les entrées n&apos;ont pas pu être lues, comme dit ci-dessus ; rien n&apos;a été divisé</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be cut into %2 parts; each needs a picture</source>
+        <translation>%1 images ne peuvent pas être divisées en %2 parties ; chacune a besoin d&apos;une image</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be written: %2</source>
+        <translation>le plan %1 ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>cuts a job into parts that can be made at once, on many machines, by &quot;velkora-batch run --plan&quot;: writes a plan with every input and the name of every result, and nothing else. Clashes of names are settled by the policies. Exit status: 2 when the job cannot be split; 5 when there is no picture among the inputs</source>
+        <translation>divise un travail en parties que « velkora-batch run --plan » peut faire en même temps sur plusieurs machines : écrit un plan avec chaque entrée et le nom de chaque résultat, et rien d&apos;autre. Les règles décident des conflits de noms. Code de sortie : 2 quand le travail ne peut pas être divisé ; 5 quand il n&apos;y a pas d&apos;image parmi les entrées</translation>
+    </message>
+    <message>
+        <source>says what the parts of a plan have done and which are to be run again. When all are done without failures, the plan and its journals are removed. Exit status: 0 when all pictures were written; 1 when some failed, were left out or are not made yet; 2 when the plan cannot be used</source>
+        <translation>dit ce que les parties d&apos;un plan ont fait et lesquelles relancer. Quand toutes sont faites sans échec, le plan et ses journaux sont supprimés. Code de sortie : 0 quand toutes les images ont été écrites ; 1 quand certaines ont échoué, ont été laissées de côté ou ne sont pas encore faites ; 2 quand le plan ne peut pas être utilisé</translation>
+    </message>
+    <message>
+        <source>A job for eight machines</source>
+        <translation>Un travail pour huit machines</translation>
+    </message>
+    <message>
+        <source>What the parts have done</source>
+        <translation>Ce que les parties ont fait</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Parties</translation>
+    </message>
+    <message>
+        <source>the folder FROM of the plan is the folder TO on this machine; both are absolute</source>
+        <translation>le dossier FROM du plan est le dossier TO sur cette machine ; les deux sont absolus</translation>
+    </message>
+    <message>
+        <source>makes it an error, not a warning, when parts are made by other versions than the plan</source>
+        <translation>en fait une erreur, non un avertissement, quand des parties sont faites par d&apos;autres versions que le plan</translation>
+    </message>
+    <message>
+        <source>how many parts to cut the job into; each gets about as many bytes of pictures</source>
+        <translation>en combien de parties le travail est divisé ; chacune reçoit à peu près autant d&apos;octets d&apos;images</translation>
+    </message>
+    <message>
+        <source>the file to write the plan to; it is replaced</source>
+        <translation>le fichier où écrire le plan ; il est remplacé</translation>
+    </message>
+    <message>
+        <source>makes one part of the job that &quot;velkora-batch split&quot; has written to a file</source>
+        <translation>fait une partie du travail que « velkora-batch split » a écrit dans un fichier</translation>
+    </message>
+    <message>
+        <source>which part, from 1; default: what the environment says in SLURM_ARRAY_TASK_ID, JOB_COMPLETION_INDEX, which counts from 0, or PARALLEL_SEQ</source>
+        <translation>quelle partie, à partir de 1 ; par défaut, ce que dit l&apos;environnement dans SLURM_ARRAY_TASK_ID, dans JOB_COMPLETION_INDEX, qui compte à partir de 0, ou dans PARALLEL_SEQ</translation>
+    </message>
+    <message>
+        <source>removes the plan and its journals also when pictures have failed; without this option they stay until all parts are done without failures</source>
+        <translation>supprime le plan et ses journaux même si des images ont échoué ; sans cette option, ils restent jusqu&apos;à ce que toutes les parties soient faites sans échec</translation>
+    </message>
+    <message>
+        <source>%1 is for a part of a job; name its plan with --plan</source>
+        <translation>%1 concerne une partie d&apos;un travail ; nommez son plan avec --plan</translation>
+    </message>
+    <message>
+        <source>the plan has a job and pictures of its own; leave out &quot;%1&quot;</source>
+        <translation>le plan a son propre travail et ses images ; omettez « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 is missing here, but was there when the job was split; --map names folders that are elsewhere on this machine</source>
+        <translation>%1 manque ici, mais était là quand le travail a été divisé ; --map nomme les dossiers qui sont ailleurs sur cette machine</translation>
+    </message>
+    <message>
+        <source>%1 has changed since the job was split; split the job again</source>
+        <translation>%1 a changé depuis que le travail a été divisé ; divisez le travail à nouveau</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two absolute folders with &quot;=&quot; between them</source>
+        <translation>« %1 » doit être deux dossiers absolus séparés par « = »</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be used: %2</source>
+        <translation>le plan %1 ne peut pas être utilisé : %2</translation>
+    </message>
+    <message>
+        <source>the plan was made by version %1, but here is version %2</source>
+        <translation>le plan vient de la version %1, mais ici c&apos;est la version %2</translation>
+    </message>
+    <message>
+        <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
+        <translation>le journal de la partie, %1, ne peut pas être écrit : %2. Sa place est à côté du plan</translation>
     </message>
 </context>
 </TS>

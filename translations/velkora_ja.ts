@@ -2347,6 +2347,38 @@
         <source>Example, with what a picture might say: %1</source>
         <translation>例（画像の情報は仮のもの）: %1</translation>
     </message>
+    <message>
+        <source>Parts done: %1 of %2. Written: %3, skipped: %4, failed: %5, not processed: %6.</source>
+        <translation>完了したパート: %1/%2。書き込み: %3、スキップ: %4、失敗: %5、未処理: %6。</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as they are not done: %1</source>
+        <translation>未完了のため再実行するパート: %1</translation>
+    </message>
+    <message>
+        <source>Parts to run again, as pictures have failed: %1</source>
+        <translation>画像の失敗のため再実行するパート: %1</translation>
+    </message>
+    <message>
+        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
+        <translation>パート %1 はバージョン %2、プランはバージョン %3 で作られました。画像が異なる可能性があります。</translation>
+    </message>
+    <message>
+        <source>the plan %1 or its journals cannot be removed.</source>
+        <translation>プラン %1 またはそのジャーナルを削除できません。</translation>
+    </message>
+    <message>
+        <source>Part %1 of %2 is not done; run it again to go on.</source>
+        <translation>パート %1/%2 は完了していません。続けるにはもう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>Part %1: pictures: %2, %3</source>
+        <translation>パート %1: 画像: %2、%3</translation>
+    </message>
+    <message>
+        <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
+        <translation>%1 個のパートのプランは %2 にあります。各パート: velkora-batch run --plan %2 --part NUMBER。最後に: velkora-batch collect %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>
@@ -5737,6 +5769,138 @@
     <message>
         <source>what was watched before cannot be read and written: %1: %2</source>
         <translation>これまでの監視の記録を読み書きできません: %1: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of the program has made it; use that version for all parts</source>
+        <translation>プログラムの新しいバージョンで作られています。すべてのパートにそのバージョンを使ってください</translation>
+    </message>
+    <message>
+        <source>it is no plan; &quot;velkora-batch split&quot; makes one</source>
+        <translation>プランではありません。プランは「velkora-batch split」で作ります</translation>
+    </message>
+    <message>
+        <source>it is damaged; split the job again</source>
+        <translation>破損しています。ジョブをもう一度分割してください</translation>
+    </message>
+    <message>
+        <source>collect takes one plan, the file that split has written</source>
+        <translation>collect にはプランを 1 つ指定します。split が書いたファイルです</translation>
+    </message>
+    <message>
+        <source>%1: there is no part &quot;%2&quot;; the plan has the parts %3 to %4</source>
+        <translation>%1: パート「%2」はありません。プランのパートは %3 から %4 です</translation>
+    </message>
+    <message>
+        <source>which part is not said; use --part with a number from 1 to %1</source>
+        <translation>どのパートか指定されていません。--part に 1 から %1 の数を指定してください</translation>
+    </message>
+    <message>
+        <source>%1 and %2 both say which part to make; use --part</source>
+        <translation>%1 と %2 の両方がパートを指定しています。--part を使ってください</translation>
+    </message>
+    <message>
+        <source>split needs %1; &quot;velkora-batch help split&quot; says more</source>
+        <translation>split には %1 が必要です。詳しくは「velkora-batch help split」を見てください</translation>
+    </message>
+    <message>
+        <source>%1: %2. Nobody can be asked about it while parts are made; decide with %3</source>
+        <translation>%1: %2。パートの処理中は誰にも質問できません。%3 で決めてください</translation>
+    </message>
+    <message>
+        <source>%1: %2. By %3 stop, the job would end there; it was not split</source>
+        <translation>%1: %2。%3 stop ではジョブはここで終わります。分割されませんでした</translation>
+    </message>
+    <message>
+        <source>not all inputs could be read, as said above; nothing was split</source>
+        <translation>上記のとおり、読めない入力がありました。何も分割されていません</translation>
+    </message>
+    <message>
+        <source>%1 pictures cannot be cut into %2 parts; each needs a picture</source>
+        <translation>%1 枚の画像を %2 個のパートに分割できません。各パートに画像が必要です</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be written: %2</source>
+        <translation>プラン %1 を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>cuts a job into parts that can be made at once, on many machines, by &quot;velkora-batch run --plan&quot;: writes a plan with every input and the name of every result, and nothing else. Clashes of names are settled by the policies. Exit status: 2 when the job cannot be split; 5 when there is no picture among the inputs</source>
+        <translation>「velkora-batch run --plan」で多くのマシンで同時に処理できるパートにジョブを分割します。すべての入力と結果の名前を含むプランだけを書き込みます。名前の衝突はポリシーで解決されます。終了ステータス: ジョブを分割できない場合は 2、入力に画像がない場合は 5</translation>
+    </message>
+    <message>
+        <source>says what the parts of a plan have done and which are to be run again. When all are done without failures, the plan and its journals are removed. Exit status: 0 when all pictures were written; 1 when some failed, were left out or are not made yet; 2 when the plan cannot be used</source>
+        <translation>プランのパートが何をしたか、どのパートを再実行するかを表示します。すべてが失敗なく完了すると、プランとジャーナルは削除されます。終了ステータス: すべての画像が書き込まれた場合は 0、失敗、除外、または未処理の画像がある場合は 1、プランを使用できない場合は 2</translation>
+    </message>
+    <message>
+        <source>A job for eight machines</source>
+        <translation>8 台のマシンのためのジョブ</translation>
+    </message>
+    <message>
+        <source>What the parts have done</source>
+        <translation>パートが行ったこと</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>パート</translation>
+    </message>
+    <message>
+        <source>the folder FROM of the plan is the folder TO on this machine; both are absolute</source>
+        <translation>プランのフォルダー FROM は、このマシンではフォルダー TO です。どちらも絶対パスです</translation>
+    </message>
+    <message>
+        <source>makes it an error, not a warning, when parts are made by other versions than the plan</source>
+        <translation>パートがプランと異なるバージョンで作られるとき、警告ではなくエラーにします</translation>
+    </message>
+    <message>
+        <source>how many parts to cut the job into; each gets about as many bytes of pictures</source>
+        <translation>ジョブをいくつのパートに分割するか。各パートの画像のバイト数はほぼ同じです</translation>
+    </message>
+    <message>
+        <source>the file to write the plan to; it is replaced</source>
+        <translation>プランを書き込むファイル。置き換えられます</translation>
+    </message>
+    <message>
+        <source>makes one part of the job that &quot;velkora-batch split&quot; has written to a file</source>
+        <translation>「velkora-batch split」がファイルに書いたジョブの 1 つのパートを処理します</translation>
+    </message>
+    <message>
+        <source>which part, from 1; default: what the environment says in SLURM_ARRAY_TASK_ID, JOB_COMPLETION_INDEX, which counts from 0, or PARALLEL_SEQ</source>
+        <translation>どのパートか (1 から)。既定値は環境変数 SLURM_ARRAY_TASK_ID、0 から数える JOB_COMPLETION_INDEX、または PARALLEL_SEQ の値です</translation>
+    </message>
+    <message>
+        <source>removes the plan and its journals also when pictures have failed; without this option they stay until all parts are done without failures</source>
+        <translation>画像が失敗した場合でもプランとジャーナルを削除します。このオプションがなければ、すべてのパートが失敗なく完了するまで残ります</translation>
+    </message>
+    <message>
+        <source>%1 is for a part of a job; name its plan with --plan</source>
+        <translation>%1 はジョブのパート用です。--plan でプランを指定してください</translation>
+    </message>
+    <message>
+        <source>the plan has a job and pictures of its own; leave out &quot;%1&quot;</source>
+        <translation>プランには独自のジョブと画像があります。「%1」を省いてください</translation>
+    </message>
+    <message>
+        <source>%1 is missing here, but was there when the job was split; --map names folders that are elsewhere on this machine</source>
+        <translation>%1 はここにありませんが、ジョブの分割時にはありました。このマシンで別の場所にあるフォルダーは --map で指定します</translation>
+    </message>
+    <message>
+        <source>%1 has changed since the job was split; split the job again</source>
+        <translation>%1 はジョブの分割後に変更されました。ジョブをもう一度分割してください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be two absolute folders with &quot;=&quot; between them</source>
+        <translation>「%1」は「=」で区切った 2 つの絶対フォルダーでなければなりません</translation>
+    </message>
+    <message>
+        <source>the plan %1 cannot be used: %2</source>
+        <translation>プラン %1 は使用できません: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made by version %1, but here is version %2</source>
+        <translation>プランはバージョン %1 で作られましたが、ここはバージョン %2 です</translation>
+    </message>
+    <message>
+        <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
+        <translation>パートのジャーナル %1 に書き込めません: %2。プランと同じ場所に置かれます</translation>
     </message>
 </context>
 </TS>
