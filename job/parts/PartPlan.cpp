@@ -277,6 +277,9 @@ std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan
     QString folder;
     for (int begin = 0; begin < lines.size();) {
         const int end = lines.indexOf('\n', begin);
+        if (end < 0) {
+            return std::nullopt; // Whoever has made it knew the checksum.
+        }
         const QJsonObject line =
             QJsonDocument::fromJson(QByteArray::fromRawData(lines.constData() + begin, end - begin)).object();
         begin = end + 1;
