@@ -8,6 +8,7 @@
 #include "RequestError.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/record/ResultRecord.h"
 #include "job/values/Phrase.h"
 
 #include "ZTBatchDocument.h"
@@ -154,6 +155,10 @@ void JournaledJob::End(const RunEnd& end)
 /// False if the journal is still needed, because it knows results that the record does not.
 bool JournaledJob::Record(const RunEnd& end)
 {
+    const bool isAllUnchanged = end.unchanged > 0 && end.unchanged == end.files;
+    if (isAllUnchanged && RecordedCount(end.outputFolder) == end.unchanged) {
+        return true; // All of them are in the record, which has no others.
+    }
     const std::optional<JournalState> state = ReadJournal(file->Path());
     if (!state || !state->update) {
         return true;

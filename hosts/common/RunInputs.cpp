@@ -5,10 +5,9 @@
 
 #include "job/settings/JobBundle.h"
 #include "job/settings/JobFiles.h"
+#include "job/values/FileStamp.h"
 
 #include "ZTBatchDocument.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -20,8 +19,7 @@ RunInputs InputsOf(const ZTBatchDocument& job, const QVector<RunVariant>& varian
     RunInputs inputs;
     inputs.variants = variants;
     for (const BatchJob::JobFile& file : BatchJob::FilesOfJob(*job.GetInputModel())) {
-        const QFileInfo info(file.path);
-        const qint64 bytes = info.exists() ? info.size() : -1;
+        const qint64 bytes = BatchJob::StampOf(file.path).value_or(BatchJob::FileStamp()).bytes;
         for (int i = 0; i < results; ++i) {
             inputs.files.append(file.path);
             inputs.bytes.append(bytes);

@@ -3,14 +3,11 @@
 
 #include "PictureJson.h"
 
+#include "JsonKey.h"
+
 namespace BatchJob {
 
 namespace {
-
-QString Key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 constexpr double largestExact = 9007199254740992.0; // 2^53
 
@@ -32,7 +29,7 @@ QSize ReadSize(const QJsonValue& value)
     return {ReadNumber(sides.at(0)), ReadNumber(sides.at(1))};
 }
 
-void InsertSize(QJsonObject& line, const QString& key, const QSize& size)
+void InsertSize(QJsonObject& line, QLatin1String key, const QSize& size)
 {
     if (!size.isEmpty()) {
         line.insert(key, QJsonArray{size.width(), size.height()});
@@ -57,7 +54,7 @@ void Insert(QJsonObject& line, const PictureFacts& facts)
     InsertSize(line, Key("from"), facts.inputSize);
     InsertSize(line, Key("to"), facts.outputSize);
     if (facts.outputBytes >= 0) {
-        line.insert(Key("bytes"), double(facts.outputBytes));
+        line.insert(Key("bytes"), facts.outputBytes);
     }
     if (facts.quality > 0) {
         line.insert(Key("quality"), facts.quality);
@@ -94,7 +91,7 @@ FileStamp ReadStamp(const QJsonObject& object)
 
 QJsonObject JsonOf(const FileStamp& stamp)
 {
-    QJsonObject object{{Key("bytes"), double(stamp.bytes)}, {Key("modified"), QString::number(stamp.modified)}};
+    QJsonObject object{{Key("bytes"), stamp.bytes}, {Key("modified"), QString::number(stamp.modified)}};
     if (stamp.number != 0) {
         object.insert(Key("number"), QString::number(stamp.number));
     }

@@ -3,6 +3,7 @@
 
 #include "RunJournal.h"
 
+#include "JsonKey.h"
 #include "Lines.h"
 #include "OwnFile.h"
 #include "PictureJson.h"
@@ -29,11 +30,6 @@ constexpr int version = 1;
 /// changed in its place.
 constexpr char headerBegin[] = "{\"complete\":";
 constexpr qint64 markPosition = sizeof(headerBegin) - 1;
-
-QString Key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 // How a plan came to a name.
 constexpr char renamed[] = "renamed";

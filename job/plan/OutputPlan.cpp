@@ -4,12 +4,15 @@
 #include "OutputPlan.h"
 
 #include "job/formats/InputFormat.h"
+#include "job/values/Shares.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
+#include <vector>
 
 namespace BatchJob {
 
@@ -68,19 +71,30 @@ bool OutputPlan::ReadInputs(const Cancelled& isCancelled)
     if (std::none_of(jobs.begin(), jobs.end(), [](const Job& job) { return job.keepsFormats; })) {
         return true;
     }
-    for (int first = 0; first < entries.size(); first += jobs.size()) {
-        if (isCancelled && isCancelled()) {
-            return false;
-        }
-        const QString format = FormatOfFileAt(entries[first].input);
-        for (int i = first; i < first + jobs.size(); ++i) {
-            if (jobs[JobOf(i)].keepsFormats && !entries[i].hasFixedFormat) {
-                entries[i].inputFormat = format;
-                entries[i].format = FindFormat(format);
+    std::atomic<bool> isDone{true};
+    Entry* const results = entries.data(); // Threads write to them.
+    InShares(entries.size() / jobs.size(), [&](int begin, int end) {
+        for (int file = begin; file < end && isDone; ++file) {
+            if (isCancelled && isCancelled()) {
+                isDone = false;
+            } else {
+                ReadInput(results + qptrdiff(file) * jobs.size());
             }
         }
+    });
+    return isDone;
+}
+
+/// The format of the input of the results from `first` on, one for each job.
+void OutputPlan::ReadInput(Entry* first) const
+{
+    const QString format = FormatOfFileAt(first->input);
+    for (int i = 0; i < jobs.size(); ++i) {
+        if (jobs.at(i).keepsFormats && !first[i].hasFixedFormat) {
+            first[i].inputFormat = format;
+            first[i].format = FindFormat(format);
+        }
     }
-    return true;
 }
 
 QVector<int> OutputPlan::FilesToProbe() const
@@ -386,18 +400,24 @@ void OutputPlan::NoteSources()
         return;
     }
     areSourcesNoted = true;
-    const auto note = [this](const QString& path, int input) {
-        if (const std::optional<FileIdentity> identity = IdentityOf(path)) {
+    const auto note = [this](const std::optional<FileIdentity>& identity, int input) {
+        if (identity) {
             Source& source = sources[*identity];
             ++source.count;
             source.input = input;
         }
     };
-    for (int i = 0; i < entries.size(); i += jobs.size()) {
-        note(entries[i].input, i);
+    std::vector<std::optional<FileIdentity>> identities(std::size_t(entries.size() / std::max(1, jobs.size())));
+    InShares(int(identities.size()), [&](int begin, int end) {
+        for (int file = begin; file < end; ++file) {
+            identities[std::size_t(file)] = IdentityOf(qAsConst(entries)[file * jobs.size()].input);
+        }
+    });
+    for (std::size_t file = 0; file < identities.size(); ++file) {
+        note(identities[file], int(file) * jobs.size());
     }
     for (const QString& path : qAsConst(sharedSources)) {
-        note(path, -1);
+        note(IdentityOf(path), -1);
     }
 }
 

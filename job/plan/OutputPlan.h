@@ -49,7 +49,7 @@ public:
         Result  ///< the result of another file that got its name earlier
     };
 
-    /// Returns true to cancel the work. Called between files.
+    /// Returns true to cancel the work. Called between files, by ReadInputs() on several threads.
     using Cancelled = std::function<bool()>;
 
     OutputPlan() = default;
@@ -188,6 +188,7 @@ private:
         int input = -1; ///< the last of the inputs
     };
 
+    void ReadInput(Entry* first) const;
     bool NeedsProbe(int index) const;
     QString SubFolder(int index) const;
     QString StructureFolder(int index) const;

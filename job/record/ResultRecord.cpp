@@ -3,6 +3,7 @@
 
 #include "ResultRecord.h"
 
+#include "job/journal/JsonKey.h"
 #include "job/journal/Lines.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/PictureJson.h"
@@ -21,11 +22,6 @@ namespace BatchJob {
 namespace {
 
 constexpr int version = 1;
-
-QString Key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 QByteArray LineOf(const QJsonObject& object)
 {
@@ -78,11 +74,18 @@ bool IsBelow(const QString& path)
            clean != QLatin1String("..") && !clean.startsWith(QLatin1String("../"));
 }
 
+/// How many results a record with the line `header` has; -1 if it is none of this version.
+int CountIn(const QByteArray& header)
+{
+    const QJsonObject line = QJsonDocument::fromJson(header).object();
+    return line.value(Key("record")).toInt() == version ? line.value(Key("results")).toInt(-1) : -1;
+}
+
 bool ReadLines(QFile& file, ResultRecord& record)
 {
     Lines lines(file);
-    const QJsonObject header = QJsonDocument::fromJson(lines.Next()).object();
-    if (header.value(Key("record")).toInt() != version) {
+    const int count = CountIn(lines.Next());
+    if (count < 0) {
         return false;
     }
     while (!lines.IsAtEnd()) {
@@ -94,7 +97,7 @@ bool ReadLines(QFile& file, ResultRecord& record)
         }
         record.insert(path, ReadResult(line));
     }
-    return record.size() == header.value(Key("results")).toInt(-1);
+    return record.size() == count;
 }
 
 } // namespace
@@ -121,6 +124,15 @@ ResultRecord ReadRecord(const QString& folder, QString& problem)
         return {};
     }
     return record;
+}
+
+int RecordedCount(const QString& folder)
+{
+    constexpr qint64 longestHeader = 1000;
+    QFile file;
+    QString problem;
+    return OpenOwnFile(file, RecordPath(folder), OwnFileUse::Read, problem) ? CountIn(file.readLine(longestHeader))
+                                                                            : -1;
 }
 
 bool WriteRecord(const QString& folder, const ResultRecord& record, QString& problem)

@@ -36,6 +36,9 @@ QString RecordPath(const QString& folder);
 /// another user. In these cases `problem` says for users what is wrong.
 ResultRecord ReadRecord(const QString& folder, QString& problem);
 
+/// How many results the record in `folder` has by its own account, without reading them; -1 if that is not known.
+int RecordedCount(const QString& folder);
+
 /// Puts `record` in the place of the record in `folder`, whole or not at all. False when it cannot be written;
 /// `problem` then says for users why. A file that another user can have written stays as it is.
 bool WriteRecord(const QString& folder, const ResultRecord& record, QString& problem);

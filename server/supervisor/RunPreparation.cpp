@@ -9,13 +9,16 @@
 #include "job/plan/SharedNames.h"
 #include "job/values/FileIdentity.h"
 #include "job/values/Phrase.h"
+#include "job/values/Shares.h"
 #include "server/protocol/TemporaryFile.h"
 #include "server/protocol/WorkerJob.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
+#include <future>
 #include <utility>
+#include <vector>
 
 using namespace BatchJob;
 
@@ -26,6 +29,13 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
     OpenJournal(journalPath, document);
     if (refusal.code != ZTBatchMessage::NoError) {
         return;
+    }
+    std::future<void> recordReader;
+    if (earlier && earlier->update) {
+        // Beside the reading of the job and its inputs: both look at each picture.
+        recordReader = std::async(std::launch::async, [this, &isCancelled, folder = QFileInfo(journalPath).path()] {
+            ReadRecord(folder, isCancelled);
+        });
     }
     const JobReader::Job job = JobReader::Read(std::exchange(document, {}), isCancelled);
     refusal = job.refusal;
@@ -60,13 +70,14 @@ void RunPreparation::ReadJob(QString document, const QString& journalPath, const
         plan.ReplaceOriginals();
     }
     EnterEarlierResults();
-    if (earlier && earlier->update) {
+    plan.ReadInputs(isCancelled);
+    if (recordReader.valid()) {
         for (int i = 0; i < accepted.size(); ++i) {
             recipes.append(Recipe(settings.at(i), accepted.at(i)));
         }
-        ReadRecord(QFileInfo(journalPath).path());
+        recordReader.get();
+        plan.ReplaceOwnResults(ownResults);
     }
-    plan.ReadInputs(isCancelled);
 }
 
 void RunPreparation::OpenJournal(const QString& path, const QString& document)
@@ -140,9 +151,6 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
     if (earlier && !earlier->isComplete) {
         plan.ExpectResultsSince(earlier->beganAt);
     }
-    if (update) {
-        plan.ReplaceOwnResults(update->FindStanding(isCancelled));
-    }
     if (!plan.MakeNames(policies, isCancelled)) {
         return;
     }
@@ -176,27 +184,44 @@ void RunPreparation::FindUnjournaledResults()
     }
 }
 
-void RunPreparation::ReadRecord(const QString& folder)
+void RunPreparation::ReadRecord(const QString& folder, const Cancelled& isCancelled)
 {
     const ResultRecord record = BatchJob::ReadRecord(folder, recordProblem);
     update.emplace(folder, record, earlier->update->comparesContents);
+    ownResults = update->FindStanding(isCancelled);
 }
 
 void RunPreparation::FindUnchanged(const Cancelled& isCancelled)
 {
-    for (int i = 0; update && i < plan.Count() && !isCancelled(); ++i) {
-        const bool isKnown =
-            earlier->results.contains(i) || std::binary_search(unjournaled.begin(), unjournaled.end(), i);
-        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
-            continue;
+    if (!update) {
+        return;
+    }
+    std::vector<const RecordedResult*> kept(std::size_t(plan.Count()), nullptr);
+    InShares(plan.Count(), [&](int begin, int end) {
+        for (int i = begin; i < end && !isCancelled(); ++i) {
+            kept[std::size_t(i)] = UnchangedResult(i);
         }
-        const OutputPlan& names = plan.Names();
-        const QString output = names.Output(i);
-        if (const RecordedResult* const recorded = update->Unchanged(
-                output, names.Input(i), recipes.at(names.JobOf(i)).For(names.Format(i)->name, names.NumberOf(i)))) {
-            unchanged.append({i, {ResultKind::Unchanged, output, 0, {}, recorded->warnings, recorded->facts, {}, {}}});
+    });
+    for (int i = 0; i < plan.Count(); ++i) {
+        if (const RecordedResult* const recorded = kept[std::size_t(i)]) {
+            unchanged.append(
+                {i,
+                 {ResultKind::Unchanged, plan.Names().Output(i), 0, {}, recorded->warnings, recorded->facts, {}, {}}});
         }
     }
+}
+
+/// What the record says of the result `index`; nothing if it is to be made. Safe on several threads.
+const RecordedResult* RunPreparation::UnchangedResult(int index) const
+{
+    const bool isKnown =
+        earlier->results.contains(index) || std::binary_search(unjournaled.begin(), unjournaled.end(), index);
+    if (isKnown || plan.TroubleOf(index).kind != PolicyKind::None) {
+        return nullptr;
+    }
+    const OutputPlan& names = plan.Names();
+    return update->Unchanged(names.Output(index), names.Input(index),
+                             recipes.at(names.JobOf(index)).For(names.Format(index)->name, names.NumberOf(index)));
 }
 
 } // namespace BatchSupervisor

@@ -11,6 +11,7 @@
 #include "server/protocol/WorkerMessages.h"
 
 #include <QLockFile>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -45,11 +46,12 @@ struct RunPreparation
     /// result. To be called with names.
     void FindUnjournaledResults();
 
-    /// Prepares an update of the results that the record in `folder` knows.
-    void ReadRecord(const QString& folder);
+    /// Prepares an update of the results that the record in `folder` knows: finds those that are as they were written.
+    void ReadRecord(const QString& folder, const Cancelled& isCancelled);
 
     /// Finds the results that need not be made again. To be called with names.
     void FindUnchanged(const Cancelled& isCancelled);
+    const BatchJob::RecordedResult* UnchangedResult(int index) const;
 
     BatchJob::Refusal refusal; ///< when there is one, there is no plan
     QStringList settings;      ///< the job, or each of a bundle, without inputs
@@ -63,6 +65,7 @@ struct RunPreparation
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
     QVector<BatchJob::Recipe> recipes;           ///< of an update, one for each job
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
+    QSet<QString> ownResults;                    ///< paths of results of earlier runs that an update may replace
     QString recordProblem;                       ///< why the record of results does not count, for users
     QVector<QPair<int, BatchJob::JournalState::Result>> unchanged; ///< files whose results need not be made again
     QString outputRoot;                                            ///< of PictureTasks; known before the names
