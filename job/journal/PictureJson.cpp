@@ -3,7 +3,7 @@
 
 #include "PictureJson.h"
 
-#include "JsonKey.h"
+#include "job/values/JsonKey.h"
 
 namespace BatchJob {
 

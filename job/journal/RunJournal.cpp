@@ -3,12 +3,12 @@
 
 #include "RunJournal.h"
 
-#include "JsonKey.h"
 #include "Lines.h"
 #include "OwnFile.h"
 #include "PictureJson.h"
 
 #include "job/values/FileIdentity.h"
+#include "job/values/JsonKey.h"
 #include "job/values/TimeText.h"
 
 #include <QJsonArray>

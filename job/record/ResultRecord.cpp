@@ -3,10 +3,10 @@
 
 #include "ResultRecord.h"
 
-#include "job/journal/JsonKey.h"
 #include "job/journal/Lines.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/PictureJson.h"
+#include "job/values/JsonKey.h"
 #include "job/values/Phrase.h"
 
 #include <QDir>

@@ -7,6 +7,7 @@
 
 #include "hosts/common/ResultFields.h"
 #include "hosts/common/options/PolicyOptions.h"
+#include "job/values/JsonKey.h"
 #include "job/values/TimeText.h"
 
 #include <QJsonArray>
@@ -21,11 +22,6 @@ namespace BatchCli {
 namespace {
 
 constexpr int schemaVersion = 1;
-
-QString Key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 void Write(const char* event, QJsonObject object)
 {
