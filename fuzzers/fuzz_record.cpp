@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
-// Reads a file as a record of results, writes what it says, and cuts that off anywhere. What counts comes back as it was
-// and leads to places below its folder only; a record that was cut off does not count.
+// Reads a file as a record of results, writes what it says, and cuts that off anywhere. What counts comes back as it
+// was and leads to places below its folder only; a record that was cut off does not count.
 
 #include "Require.h"
 

@@ -2379,6 +2379,18 @@
         <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
         <translation>Der Plan mit %1 Teilen ist in %2. Für jeden davon: velkora-batch run --plan %2 --part NUMBER. Am Ende: velkora-batch collect %2</translation>
     </message>
+    <message>
+        <source>Several presets</source>
+        <translation>Mehrere Vorgaben</translation>
+    </message>
+    <message>
+        <source>Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.</source>
+        <translation>Jedes Bild bekommt von jeder Vorgabe ein Ergebnis. Die Ergebnisse kommen in Ordner mit den Namen der Vorgaben, in %1.</translation>
+    </message>
+    <message>
+        <source>Start with several p&amp;resets...</source>
+        <translation>&amp;Mit mehreren Vorgaben starten ...</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

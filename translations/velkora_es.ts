@@ -2379,6 +2379,18 @@
         <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
         <translation>El plan de %1 partes está en %2. Para cada una: velkora-batch run --plan %2 --part NUMBER. Al final: velkora-batch collect %2</translation>
     </message>
+    <message>
+        <source>Several presets</source>
+        <translation>Varios ajustes</translation>
+    </message>
+    <message>
+        <source>Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.</source>
+        <translation>Cada imagen recibe un resultado de cada ajuste. Van a carpetas con los nombres de los ajustes, en %1.</translation>
+    </message>
+    <message>
+        <source>Start with several p&amp;resets...</source>
+        <translation>Iniciar con &amp;varios ajustes...</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

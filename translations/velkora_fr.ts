@@ -2379,6 +2379,18 @@
         <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
         <translation>Le plan de %1 parties est dans %2. Pour chacune : velkora-batch run --plan %2 --part NUMBER. À la fin : velkora-batch collect %2</translation>
     </message>
+    <message>
+        <source>Several presets</source>
+        <translation>Plusieurs préréglages</translation>
+    </message>
+    <message>
+        <source>Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.</source>
+        <translation>Chaque image reçoit un résultat de chaque préréglage. Ils vont dans des dossiers aux noms des préréglages, dans %1.</translation>
+    </message>
+    <message>
+        <source>Start with several p&amp;resets...</source>
+        <translation>Démarrer avec p&amp;lusieurs préréglages...</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

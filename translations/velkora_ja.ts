@@ -2379,6 +2379,18 @@
         <source>The plan of %1 parts is in %2. For each of them: velkora-batch run --plan %2 --part NUMBER. At the end: velkora-batch collect %2</source>
         <translation>%1 個のパートのプランは %2 にあります。各パート: velkora-batch run --plan %2 --part NUMBER。最後に: velkora-batch collect %2</translation>
     </message>
+    <message>
+        <source>Several presets</source>
+        <translation>複数のプリセット</translation>
+    </message>
+    <message>
+        <source>Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.</source>
+        <translation>それぞれの画像から、プリセットごとに結果を作成します。結果は %1 の中の、プリセットと同じ名前のフォルダーに入ります。</translation>
+    </message>
+    <message>
+        <source>Start with several p&amp;resets...</source>
+        <translation>複数のプリセットで開始(&amp;P)...</translation>
+    </message>
 </context>
 <context>
     <name>BatchJob::Phrase</name>

@@ -53,6 +53,16 @@ QString NameOfJobFile(const QString& path)
     return isXml ? info.completeBaseName() : info.fileName();
 }
 
+int ReadFirstJob(ZTBatchDocument& job, const QString& text)
+{
+    if (!JobBundle::IsIn(text)) {
+        return job.Deserialize(text) ? 1 : 0;
+    }
+    QString problem;
+    const JobBundle bundle = JobBundle::Read(text, problem);
+    return !bundle.IsEmpty() && job.Deserialize(bundle.parts.first().document) ? bundle.parts.size() : 0;
+}
+
 JobBundle BundleOf(const QVector<NamedJob>& jobs, const QString& folder)
 {
     const QStringList folders = FolderNames(jobs);

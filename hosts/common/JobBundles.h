@@ -22,6 +22,10 @@ struct NamedJob
 /// The name of the saved job in the file `path`: that of the file, without ".xml".
 QString NameOfJobFile(const QString& path);
 
+/// Makes `job` the job in `text`, or the first one of a bundle, which has the inputs. Returns how many jobs there are;
+/// 0 if the text is neither.
+int ReadFirstJob(ZTBatchDocument& job, const QString& text);
+
 /// The bundle of `jobs`, at least two. Each gets a folder of its own in `folder` for its results, by its name; the
 /// inputs are those of the first one, and others lose theirs. Throws RequestError when two jobs would have one folder,
 /// or the settings of one cannot be used.

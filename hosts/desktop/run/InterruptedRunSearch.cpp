@@ -4,6 +4,7 @@
 #include "InterruptedRunSearch.h"
 
 #include "hosts/common/InterruptedRuns.h"
+#include "hosts/common/JobBundles.h"
 #include "hosts/common/JournalFile.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
@@ -42,7 +43,8 @@ InterruptedRunSearch::FoundRuns InterruptedRunSearch::RunsIn(const QString& fold
     for (const InterruptedRuns::Run& run : runs.All()) {
         found.isOneRunning = found.isOneRunning || run.isRunning;
         ZTBatchDocument job;
-        if (run.isRunning || !run.state || !job.Deserialize(run.state->document)) {
+        const int jobs = run.isRunning || !run.state ? 0 : ReadFirstJob(job, run.state->document);
+        if (jobs == 0) {
             continue;
         }
         const InterruptedRun interrupted{
@@ -51,7 +53,7 @@ InterruptedRunSearch::FoundRuns InterruptedRunSearch::RunsIn(const QString& fold
             run.journal,
             run.state->document,
             run.state->results.size(),
-            BatchJob::FilesOfJob(*job.GetInputModel()).size(),
+            BatchJob::FilesOfJob(*job.GetInputModel()).size() * jobs,
         };
         if (interrupted.done < interrupted.files) {
             found.interrupted.append(interrupted);

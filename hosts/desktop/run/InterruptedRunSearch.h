@@ -19,9 +19,9 @@ struct InterruptedRun
     QString folder;   ///< of its results
     QString name;     ///< see InterruptedRuns
     QString journal;  ///< path
-    QString document; ///< the text of its job
-    int done = 0;     ///< pictures
-    int files = 0;
+    QString document; ///< the text of its job, or of the bundle of its jobs
+    int done = 0;     ///< results
+    int files = 0;    ///< results that there are in the end
 };
 
 /// Remembers where runs write, beyond the end of this process, and finds the runs there that were interrupted.

@@ -3,6 +3,7 @@
 
 #include "JobRunner.h"
 
+#include "hosts/common/JobBundles.h"
 #include "hosts/common/JobRequirements.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
@@ -16,6 +17,17 @@
 using namespace BatchHost;
 
 namespace BatchDesktop {
+
+namespace {
+
+bool IsWorse(FileResult::Kind kind, FileResult::Kind other)
+{
+    using Kind = FileResult::Kind;
+    const auto rank = [](Kind of) { return HasResult(of) ? 0 : of == Kind::Skipped ? 1 : 2; };
+    return rank(kind) > rank(other);
+}
+
+} // namespace
 
 double JobRunner::Progress::Fraction() const
 {
@@ -65,9 +77,15 @@ QString JobRunner::Obstacle() const
 void JobRunner::Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policiesOfRun,
                       const std::optional<BatchJob::Update>& update)
 {
+    Start(job, BatchJob::JobBundle(), policiesOfRun, update);
+}
+
+void JobRunner::Start(const ZTBatchDocument& job, const BatchJob::JobBundle& bundle,
+                      const BatchJob::PolicyValues& policiesOfRun, const std::optional<BatchJob::Update>& update)
+{
     RequireRunnableJob(job);
     Dismiss(); // It may be a run of the same job.
-    journaled.emplace(JournaledJob::New(job));
+    journaled.emplace(JournaledJob::New(job, bundle));
     Run(job, policiesOfRun, update);
 }
 
@@ -115,9 +133,11 @@ void JobRunner::Run(const ZTBatchDocument& job, const BatchJob::PolicyValues& po
 {
     policies = policiesOfRun;
     runningJob = std::make_unique<ZTBatchDocument>();
-    runningJob->Deserialize(journaled->Document());
+    ReadFirstJob(*runningJob, journaled->Document());
     lastEnd.reset();
+    allResults.clear();
     results.clear();
+    known.clear();
     progress = {};
     secondsBefore = 0;
     clock.start();
@@ -211,7 +231,7 @@ void JobRunner::SaveReport(const QString& path) const
     }
     RunReport report(path);
     report.OnStart(inputs, outputFolder);
-    for (const FileResult& result : results) {
+    for (const FileResult& result : allResults) {
         report.OnResult(result, 0, 0);
     }
     report.OnEnd(*lastEnd);
@@ -235,7 +255,6 @@ void JobRunner::OnEarlierResult(const FileResult& result)
     Count(result);
     progress.bytesDone = 0; // The time of the earlier part is not known, so its bytes tell nothing about the rest.
     progress.bytes -= std::max<qint64>(0, result.inputBytes);
-    Q_EMIT ResultKnown(result.input);
 }
 
 void JobRunner::OnInWork(const QStringList& names, const QString& begun)
@@ -248,7 +267,6 @@ void JobRunner::OnResult(const FileResult& result, int, int)
 {
     progress.inWork.removeOne(result.input);
     Count(result);
-    Q_EMIT ResultKnown(result.input);
     Q_EMIT Progressed();
 }
 
@@ -262,11 +280,19 @@ void JobRunner::OnServerLost(const QStringList&, bool goesOn)
 void JobRunner::Count(const FileResult& result)
 {
     using Kind = FileResult::Kind;
-    results.insert(result.input, result);
+    allResults.append(result);
+    FileResult& shown = results[result.input];
+    if (shown.input.isEmpty() || IsWorse(result.kind, shown.kind)) {
+        shown = result;
+    }
     ++(HasResult(result.kind) ? progress.written : result.kind == Kind::Skipped ? progress.skipped : progress.failed);
     progress.bytesDone += std::max<qint64>(0, result.inputBytes);
     if (clock.isValid()) {
         progress.seconds = secondsBefore + double(clock.elapsed()) / 1000;
+    }
+    const int variants = inputs.variants.size();
+    if (variants < 2 || ++known[result.input] == variants) {
+        Q_EMIT ResultKnown(result.input);
     }
 }
 

@@ -84,11 +84,15 @@ public:
     /// The inputs of the current or last run.
     const QStringList& CurrentInputs() const { return inputs.files; }
 
-    /// The results of the current or last run, by input.
+    /// The results of the current or last run, by input. Of several results of one picture it is the worst.
     const QHash<QString, BatchHost::FileResult>& Results() const { return results; }
 
     /// Starts the run of `job`. Throws RequestError. Nothing may be running.
     void Start(const ZTBatchDocument& job, const BatchJob::PolicyValues& policies,
+               const std::optional<BatchJob::Update>& update = {});
+
+    /// The same of several jobs, each of which makes a result of every picture; `job` is the first one.
+    void Start(const ZTBatchDocument& job, const BatchJob::JobBundle& bundle, const BatchJob::PolicyValues& policies,
                const std::optional<BatchJob::Update>& update = {});
 
     /// Takes up the run that was interrupted in `outputFolder`: the one called `name`, see InterruptedRuns, or the only
@@ -122,7 +126,7 @@ Q_SIGNALS:
     /// A picture is in work now.
     void Begun(const QString& input);
 
-    /// Results() has the result of `input`.
+    /// Results() has the result of `input`, whose other results are known, too, if it has several.
     void ResultKnown(const QString& input);
 
     /// A question was asked, answered or has become pointless.
@@ -161,7 +165,9 @@ private:
     std::optional<BatchHost::RunEnd> lastEnd;
     BatchHost::RunInputs inputs;
     QString outputFolder;
+    QVector<BatchHost::FileResult> allResults;
     QHash<QString, BatchHost::FileResult> results;
+    QHash<QString, int> known; ///< how many results of an input there are, if it has several
 };
 
 } // namespace BatchDesktop

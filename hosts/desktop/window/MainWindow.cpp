@@ -4,11 +4,15 @@
 #include "MainWindow.h"
 
 #include "hosts/common/Language.h"
+#include "hosts/common/Presets.h"
 #include "hosts/common/RequestError.h"
+#include "hosts/desktop/jobs/PresetBundle.h"
+#include "hosts/desktop/jobs/SeveralPresetsDialog.h"
 #include "hosts/desktop/run/RunPriority.h"
 #include "hosts/desktop/settings/sections/ElidedLabel.h"
 #include "hosts/desktop/settings/sections/SettingsSection.h"
 
+#include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
 #include "ZTBatchManager.h"
 
@@ -48,7 +52,8 @@ RunStates::State StateOf(const FileResult& result)
 } // namespace
 
 MainWindow::MainWindow(const QString& settingsFolder, const QString& dataFolder)
-    : layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
+    : settingsFolder(settingsFolder)
+    , layoutFile(QDir(settingsFolder).filePath(QStringLiteral("window.ini")))
     , runner(settingsFolder)
     , presets(new PresetBox(job, settingsFolder))
     , system(runner, *this)
@@ -233,6 +238,9 @@ void MainWindow::MakeRunMenu()
     startAction = menu->addAction(Messages::tr("&Start"), this, &MainWindow::StartRun);
     startAction->setObjectName(QStringLiteral("startAction"));
     startAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Return));
+    severalAction =
+        menu->addAction(Messages::tr("Start with several p&resets..."), this, &MainWindow::AskForSeveralPresets);
+    severalAction->setObjectName(QStringLiteral("severalAction"));
     menu->addActions(bar->Actions());
     menu->addSeparator();
     updateAction = menu->addAction(Messages::tr("Make only &what has changed"));
@@ -296,6 +304,41 @@ void MainWindow::OnResult(const QString& input)
 
 void MainWindow::StartRun()
 {
+    BeginRun([this](const std::optional<BatchJob::Update>& update) {
+        runner.Start(job.Document(), job.CurrentSettings().policies, update);
+    });
+}
+
+void MainWindow::AskForSeveralPresets()
+{
+    QStringList names;
+    for (const Preset& preset : Presets(settingsFolder).All()) {
+        if (preset.problem.isEmpty()) {
+            names.append(preset.name);
+        }
+    }
+    auto* const dialog = new SeveralPresetsDialog(names, job.CurrentSettings().outputFolder, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->Choose(severalPresets);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        severalPresets = dialog->Chosen();
+        StartSeveral(severalPresets);
+    });
+    dialog->open();
+}
+
+void MainWindow::StartSeveral(const QStringList& presetNames)
+{
+    BeginRun([&](const std::optional<BatchJob::Update>& update) {
+        ZTBatchDocument first;
+        const BatchJob::JobBundle bundle = BundleOfPresets(job.Document(), Presets(settingsFolder), presetNames, first);
+        runner.Start(first, bundle, job.CurrentSettings().policies, update);
+    });
+}
+
+/// What keeps the run from beginning is said in the bar.
+void MainWindow::BeginRun(const std::function<void(const std::optional<BatchJob::Update>&)>& begin)
+{
     if (runner.CurrentState() != JobRunner::State::Idle) {
         return;
     }
@@ -305,9 +348,7 @@ void MainWindow::StartRun()
         return;
     }
     try {
-        const std::optional<BatchJob::Update> update =
-            updateAction->isChecked() ? std::optional(BatchJob::Update()) : std::nullopt;
-        runner.Start(job.Document(), job.CurrentSettings().policies, update);
+        begin(updateAction->isChecked() ? std::optional(BatchJob::Update()) : std::nullopt);
     } catch (const RequestError& error) {
         bar->Say(Messages::tr("The run cannot be started: %1.").arg(Translated(error.text)));
     }
@@ -319,6 +360,7 @@ void MainWindow::UpdateStart()
         runner.CurrentState() == JobRunner::State::Idle && job.Document().GetInputModel()->GetFileNodesCount() > 0;
     start->setEnabled(canStart);
     startAction->setEnabled(canStart);
+    severalAction->setEnabled(canStart);
 }
 
 } // namespace BatchDesktop

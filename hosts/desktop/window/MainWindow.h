@@ -22,6 +22,8 @@
 #include <QMainWindow>
 #include <QPushButton>
 
+#include <functional>
+
 namespace BatchDesktop {
 
 class ElidedLabel;
@@ -60,6 +62,9 @@ public:
     /// Starts a run of the job as it is. What keeps it from starting is said in the bar.
     void StartRun();
 
+    /// Asks for presets, and starts a run that makes a result of each of them from every picture.
+    void AskForSeveralPresets();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -77,8 +82,11 @@ private:
     void ConnectPictures();
     void ConnectSystem();
     void OnResult(const QString& input);
+    void StartSeveral(const QStringList& presetNames);
+    void BeginRun(const std::function<void(const std::optional<BatchJob::Update>&)>& begin);
     void UpdateStart();
 
+    const QString settingsFolder;
     const QString layoutFile; ///< where window and panes were
     EditedJob job;
     JobRunner runner;
@@ -94,6 +102,8 @@ private:
     ResumeBar* resume = nullptr;
     QPushButton* start = nullptr;
     QAction* startAction = nullptr;
+    QAction* severalAction = nullptr;
+    QStringList severalPresets;      ///< chosen last
     QAction* updateAction = nullptr; ///< checked: a run makes only what has changed
     std::unique_ptr<InputModule> inputs;
     SystemLink system;

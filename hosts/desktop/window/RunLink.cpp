@@ -3,10 +3,12 @@
 
 #include "RunLink.h"
 
+#include "hosts/common/JobBundles.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 
 #include "ZTBatchInputModel.h"
+#include "ZTBatchOutputSettings.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -107,7 +109,10 @@ void RunLink::TakeUp(const InterruptedRun& run)
         return;
     }
     if (job.Document().GetInputModel()->GetFileNodesCount() == 0) {
-        job.Replace([&run](ZTBatchDocument& document) { document.Deserialize(run.document); });
+        job.Replace([&run](ZTBatchDocument& document) {
+            ReadFirstJob(document, run.document);
+            document.GetOutputSettings()->SetPath(run.folder); // The first of several jobs has one of its own there.
+        });
     }
     try {
         runner.TakeUp(run.folder, run.name);

@@ -6,6 +6,7 @@
 
 #include "hosts/common/JournalFile.h"
 
+#include <QListWidget>
 #include <QProcess>
 
 #include <algorithm>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void aKilledRunIsForgotten();
     void theJobInTheWindowStays();
     void aClosedRunIsOffered();
+    void aRunOfSeveralPresetsIsOffered();
     void finishedRunsAreNotOffered();
     void vanishedFoldersAreForgotten();
     void runsThatEndLateAreOffered();
@@ -177,6 +179,33 @@ void tst_WindowResume::aClosedRunIsOffered()
     stage->Click("resumeInterrupted");
     QVERIFY(stage->WaitForEnd());
     QCOMPARE(stage->Runner().LastEnd()->written, photos);
+}
+
+void tst_WindowResume::aRunOfSeveralPresetsIsOffered()
+{
+    QVERIFY(stage->Open());
+    QVERIFY(stage->Add(photos));
+    stage->SetOutput();
+    stage->Trigger("several");
+    auto* const list = qobject_cast<QListWidget*>(stage->Part("presetList"));
+    for (const char* const preset : {"web", "thumbnails"}) {
+        list->findItems(QString::fromLatin1(preset), Qt::MatchExactly).first()->setCheckState(Qt::Checked);
+    }
+    stage->Click("startSeveral");
+    stage->Click("pause");
+    QVERIFY(stage->WaitForState(RunState::Paused));
+    const int done = stage->Runner().CurrentProgress().Done();
+    QVERIFY(done < 2 * photos);
+    stage->Close();
+    QVERIFY(stage->Open());
+    QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
+    const QString text = stage->Text("resumeText");
+    QVERIFY2(text.contains(QStringLiteral("after %1 of %2 ").arg(done).arg(2 * photos)), qPrintable(text));
+    stage->Click("resumeInterrupted");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, 2 * photos);
+    QCOMPARE(stage->Count(), photos);
+    QCOMPARE(stage->Window().Job().CurrentSettings().outputFolder, stage->Path(QStringLiteral("out")));
 }
 
 void tst_WindowResume::finishedRunsAreNotOffered()

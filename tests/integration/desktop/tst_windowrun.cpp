@@ -5,6 +5,8 @@
 #include "WindowStage.h"
 
 #include <QCheckBox>
+#include <QDirIterator>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
 
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void pausesAndGoesOnByTheMenu();
     void cancelledRunsAreResumed();
     void onlyWhatHasChangedIsMade();
+    void severalPresetsMakeSeveralResults();
     void takenNamesAreAskedWithBothPictures();
     void answersHoldForTheRest();
     void picturesAddedInARunAreForTheNext();
@@ -149,6 +152,60 @@ void tst_WindowRun::onlyWhatHasChangedIsMade()
     QCOMPARE(stage->Runner().LastEnd()->unchanged, 2);
     QVERIFY2(stage->Text().contains(QStringLiteral("1 written, 2 were up to date")), qPrintable(stage->Text()));
     QVERIFY(stage->Content(stage->Result(2)) != before);
+}
+
+void tst_WindowRun::severalPresetsMakeSeveralResults()
+{
+    PictureFiles::WriteTruncated(stage->Photo(2));
+    QVERIFY(stage->Add(3));
+    stage->SetOutput();
+    QSignalSpy results(&stage->Runner(), &JobRunner::ResultKnown);
+    stage->Trigger("several");
+    auto* const list = qobject_cast<QListWidget*>(stage->Part("presetList"));
+    const auto mark = [list](const QString& name) {
+        const QList<QListWidgetItem*> found = list->findItems(name, Qt::MatchExactly);
+        QCOMPARE(found.size(), 1);
+        found.first()->setCheckState(Qt::Checked);
+    };
+    QVERIFY(!stage->Part("startSeveral")->isEnabled());
+    mark(QStringLiteral("web"));
+    QVERIFY(!stage->Part("startSeveral")->isEnabled());
+    mark(QStringLiteral("thumbnails"));
+    stage->Click("startSeveral");
+    QVERIFY(stage->WaitForEnd());
+    QCOMPARE(stage->Runner().LastEnd()->written, 4);
+    QCOMPARE(stage->Runner().LastEnd()->failed, 2);
+    QCOMPARE(results.size(), 3);
+    for (const char* preset : {"web", "thumbnails"}) {
+        QDirIterator made(stage->Path(QStringLiteral("out/") + QLatin1String(preset)), {QStringLiteral("*.jpg")},
+                          QDir::Files, QDirIterator::Subdirectories);
+        QStringList names;
+        while (made.hasNext()) {
+            names.append(QFileInfo(made.next()).completeBaseName());
+        }
+        names.sort();
+        QCOMPARE(names, (QStringList{QStringLiteral("1"), QStringLiteral("3")}));
+    }
+    QCOMPARE(stage->StateOf(1).state, RunStates::State::Written);
+    QCOMPARE(stage->StateOf(2).state, RunStates::State::Failed);
+
+    const QString report = stage->Path(QStringLiteral("report.json"));
+    stage->Window().Runs().chooseReport = [&report](QWidget*) { return report; };
+    stage->Click("saveReport");
+    QCOMPARE(stage->Content(report).count("\"written\""), 4);
+
+    PictureFiles::WriteJpeg(stage->Photo(2), 5);
+    stage->Click("retryFailed");
+    QVERIFY(stage->WaitForState(RunState::Idle));
+    QCOMPARE(stage->Runner().LastEnd()->written, 6);
+    QCOMPARE(stage->StateOf(2).state, RunStates::State::Written);
+
+    // What was chosen is remembered; who cancels starts nothing.
+    QTRY_VERIFY(!stage->Window().findChild<QListWidget*>(QStringLiteral("presetList")));
+    stage->Trigger("several");
+    QVERIFY(stage->Part("startSeveral")->isEnabled());
+    stage->Click("cancelSeveral");
+    QCOMPARE(stage->Runner().CurrentState(), RunState::Idle);
 }
 
 void tst_WindowRun::takenNamesAreAskedWithBothPictures()
