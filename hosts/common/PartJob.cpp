@@ -145,16 +145,11 @@ PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const Fo
     , folder(names.Here(plan.folder))
     , files(FilesOfPart(path, plan, number))
     , journals(path, plan.id)
+    , known(journals.Of(number))
 {
     for (PlannedFile& file : files) {
         file.input = names.Here(file.input);
     }
-    for (int i = 0; i < ResultCount(); ++i) {
-        exists.append(QFileInfo::exists(Output(i)));
-    }
-    // Afterwards: another run of this part notes a result in its journal before it makes it.
-    journals = PartJournals(path, plan.id);
-    known = journals.Of(number);
 }
 
 void PartJob::CheckFiles() const
@@ -227,10 +222,9 @@ QVector<FixedName> PartJob::NamesOfResults() const
     return fixed;
 }
 
-/// What the plan leaves out, what other runs of the part have written, and what would replace a file of somebody else.
+/// What the plan leaves out, and what other runs of the part have written.
 QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
 {
-    const bool overwrites = Policies(plan.policies).Of(PolicyKind::Naming) == Decision::Overwrite;
     const auto leftOut = [](const QString& output, int code, const QString& reason) {
         const auto kind =
             CountsAsSkipped(BatchJob::Action::FileSkipped, code) ? ResultKind::Skipped : ResultKind::Failed;
@@ -245,9 +239,6 @@ QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
         } else if (IsWritten(i)) {
             settled.append({i, known.results.value(i)});
             settled.last().second.output = output;
-        } else if (exists.at(i) && !overwrites && !planned.name.isOverwriting && !known.begun.contains(i)) {
-            settled.append({i, leftOut(output, ZTBatchMessage::FileNameAlreadyExists,
-                                       Phrase::English("\"%1\" exists already").arg(output))});
         }
     }
     return settled;

@@ -80,9 +80,8 @@ private:
     const FolderNames names;
     const QString folder;
     QVector<BatchJob::PlannedFile> files;
-    QVector<bool> exists; ///< of results: there is a file of that name. Looked at before `known`
-    PartJournals journals;
-    PartJournals::Known known;
+    const PartJournals journals;
+    const PartJournals::Known known;
 };
 
 } // namespace BatchHost

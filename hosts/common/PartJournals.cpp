@@ -49,13 +49,7 @@ PartJournals::Known PartJournals::Of(int part) const
         if (!state->makers.isEmpty() && !known.makers.contains(state->makers)) {
             known.makers.append(state->makers);
         }
-        for (auto it = state->begun.constBegin(); it != state->begun.constEnd(); ++it) {
-            known.begun.insert(it.key());
-        }
         for (auto it = state->results.constBegin(); it != state->results.constEnd(); ++it) {
-            if (HasResult(it->kind)) {
-                known.begun.insert(it.key());
-            }
             const auto other = known.results.constFind(it.key());
             const bool isBetter = other == known.results.constEnd() ||
                                   (!HasResult(other->kind) && (HasResult(it->kind) || it->finished > other->finished));

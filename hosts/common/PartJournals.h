@@ -6,7 +6,6 @@
 #include "job/journal/RunJournal.h"
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -27,8 +26,7 @@ public:
     struct Known
     {
         QHash<int, BatchJob::JournalState::Result> results; ///< of several for a file, the best
-        QSet<int> begun;    ///< files of which a run has begun the result, or written it
-        QStringList makers; ///< what has made them, each once
+        QStringList makers;                                 ///< what has made them, each once
     };
     Known Of(int part) const;
 

@@ -51,6 +51,10 @@ public:
     /// removes the file.
     Placement Place(bool replaceExisting);
 
+    /// Whether a file with the very bytes of this one has the final name. A link there is not followed: it is another
+    /// file, wherever it leads. After Place() has found the name taken.
+    bool HasTwin() const;
+
     /// What went wrong, for users.
     QString Error() const { return error; }
 

@@ -5,9 +5,12 @@
 
 #include "TemporaryName.h"
 
+#include "job/values/Phrase.h"
+
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
@@ -16,6 +19,9 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
+
+using BatchJob::Phrase;
 
 namespace BatchProtocol {
 
@@ -59,6 +65,39 @@ void FlushFolder(int folder)
         fsync(descriptor);
         close(descriptor);
     }
+}
+
+/// Reads `size` bytes at `place`. False if there are fewer.
+bool ReadBlock(int file, char* bytes, std::size_t size, off_t place)
+{
+    while (size > 0) {
+        const ssize_t count = pread(file, bytes, size, place);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            return false;
+        }
+        bytes += count;
+        place += count;
+        size -= std::size_t(count);
+    }
+    return true;
+}
+
+bool HaveSameBytes(int one, int other, off_t size)
+{
+    constexpr off_t blockSize = 256 << 10;
+    std::vector<char> ofOne(blockSize);
+    std::vector<char> ofOther(blockSize);
+    for (off_t place = 0; place < size; place += blockSize) {
+        const auto count = std::size_t(std::min(blockSize, size - place));
+        if (!ReadBlock(one, ofOne.data(), count, place) || !ReadBlock(other, ofOther.data(), count, place) ||
+            !std::equal(ofOne.begin(), ofOne.begin() + off_t(count), ofOther.begin())) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool SweepFile(int folder, const char* name)
@@ -150,13 +189,33 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
     } else if (renameat(folder.Descriptor(), from.constData(), folder.Descriptor(), to.constData()) != 0) {
         problem = errno;
     }
+    if (problem == EEXIST) {
+        error = Phrase::English("\"%1\" exists already").arg(finalName);
+        return Placement::NameTaken;
+    }
     if (problem != 0) {
         Fail(problem);
-        return problem == EEXIST ? Placement::NameTaken : Placement::Failed;
+        return Placement::Failed;
     }
     name.clear();
     FlushFolder(folder.Descriptor());
     return Placement::Done;
+}
+
+bool TemporaryFile::HasTwin() const
+{
+    const QByteArray finalFile = QFile::encodeName(QFileInfo(finalName).fileName());
+    // Nobody may keep the worker waiting at the end of a pipe.
+    const int twin = openat(folder.Descriptor(), finalFile.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (twin < 0) {
+        return false;
+    }
+    struct stat own;
+    struct stat other;
+    const bool isEqual = fstat(descriptor, &own) == 0 && fstat(twin, &other) == 0 && S_ISREG(other.st_mode) &&
+                         own.st_size == other.st_size && HaveSameBytes(descriptor, twin, own.st_size);
+    close(twin);
+    return isEqual;
 }
 
 int TemporaryFile::Sweep(const QString& path, const QString& root)

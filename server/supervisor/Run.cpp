@@ -351,11 +351,26 @@ bool Run::GivePicture(int file)
                   recipes.at(names.JobOf(file)).For(format, names.NumberOf(file))};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
-    const bool mayReplace = plan.IsOverwriting(file) || plan.HasFixedName(file) || (update && update->IsOwn(output));
-    const PictureTask task{
-        file, input, output, outputRoot, format, mayReplace, names.NumberOf(file), SharesPixelsWithNext(file)};
+    // Another run of the same part of a job may make the same result at the same time.
+    const PictureTask task{file,
+                           input,
+                           output,
+                           outputRoot,
+                           format,
+                           MayReplace(file),
+                           names.NumberOf(file),
+                           SharesPixelsWithNext(file),
+                           plan.HasFixedName(file)};
     Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
     return true;
+}
+
+/// Whether the result may take the place of a file that has its name.
+bool Run::MayReplace(int file) const
+{
+    const bool overwritesFixedName =
+        plan.HasFixedName(file) && decisions.CurrentPolicies().Of(PolicyKind::Naming) == Decision::Overwrite;
+    return plan.IsOverwriting(file) || overwritesFixedName || (update && update->IsOwn(plan.Names().Output(file)));
 }
 
 /// Makes the folder unless it exists. Returns why results cannot go there; empty if they can.

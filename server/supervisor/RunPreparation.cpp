@@ -117,8 +117,11 @@ void RunPreparation::EnterEarlierResults()
         }
     }
     for (auto it = earlier->begun.constBegin(); it != earlier->begun.constEnd(); ++it) {
+        if (it.key() >= plan.Count() || plan.HasFixedName(it.key())) {
+            continue; // A fixed name may be that of anybody's file. The worker compares them.
+        }
         const std::optional<FileIdentity> identity = IdentityOf(it->output);
-        if (it.key() < plan.Count() && identity && identity->Text() != it->before) {
+        if (identity && identity->Text() != it->before) {
             earlier->results.insert(it.key(), {Kind::Written, it->output, 0, {}});
             unreported.append(it.key());
         }
@@ -166,7 +169,7 @@ void RunPreparation::FindUnjournaledResults()
     }
     for (int i = 0; i < plan.Count(); ++i) {
         const bool isKnown = earlier->results.contains(i) || earlier->begun.contains(i);
-        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
+        if (isKnown || plan.HasFixedName(i) || plan.TroubleOf(i).kind != PolicyKind::None) {
             continue;
         }
         const std::optional<qint64> changed = ChangeTimeOf(plan.Names().Output(i));

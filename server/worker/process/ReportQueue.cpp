@@ -32,12 +32,15 @@ void WriteAll(int output, const QByteArray& bytes)
     }
 }
 
-void Place(const MadePicture& made, bool replaceExisting, Report& report)
+void Place(const MadePicture& made, const Placing& placing, Report& report)
 {
-    switch (made.file->Place(replaceExisting)) {
+    switch (made.file->Place(placing.replacesExisting)) {
     case TemporaryFile::Placement::Done:
         return;
     case TemporaryFile::Placement::NameTaken:
+        if (placing.countsTwin && made.file->HasTwin()) {
+            return;
+        }
         report.failure = BatchJob::PolicyKind::Naming;
         report.errorCode = ZTBatchMessage::FileNameAlreadyExists;
         break;
@@ -78,12 +81,12 @@ void ReportQueue::SendNow(const FromWorker& message)
 
 void ReportQueue::Send(const Report& report)
 {
-    Append({report, std::nullopt, false});
+    Append({report, std::nullopt, {}});
 }
 
-void ReportQueue::FinishAndSend(MadePicture made, bool replaceExisting, const Report& report)
+void ReportQueue::FinishAndSend(MadePicture made, const Placing& placing, const Report& report)
 {
-    Append({report, std::move(made), replaceExisting});
+    Append({report, std::move(made), placing});
 }
 
 void ReportQueue::Append(Item item)
@@ -114,7 +117,7 @@ void ReportQueue::SendAll()
 {
     while (std::optional<Item> item = Next()) {
         if (item->made) {
-            Place(*item->made, item->replaceExisting, item->report);
+            Place(*item->made, item->placing, item->report);
             item->made.reset();
         }
         SendNow(item->report);

@@ -4,6 +4,8 @@
 #include "CliRun.h"
 #include "PictureFiles.h"
 
+#include "job/values/FileIdentity.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QProcess>
@@ -60,6 +62,11 @@ private Q_SLOTS:
     void clashThatAsks();
     void morePartsThanPictures();
     void foreignFileStays();
+    void namesThatAreTaken_data();
+    void namesThatAreTaken();
+    void foreignFileAppears_data();
+    void foreignFileAppears();
+    void journalsAreLost();
     void foldersElsewhere();
     void otherVersions();
 
@@ -80,13 +87,13 @@ private:
         return Run(
             QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
     }
-    std::unique_ptr<QProcess> Start(int part) const
+    std::unique_ptr<QProcess> Start(int part, const QString& options = {}) const
     {
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(environment);
         process->setWorkingDirectory(root->path());
         process->start(QStringLiteral(VELKORA_BATCH),
-                       Arguments(QStringLiteral("run --plan job.plan --part %1").arg(part)));
+                       Arguments(QStringLiteral("run --plan job.plan --part %1").arg(part) + options));
         return process;
     }
     Files OneRun() const
@@ -397,6 +404,103 @@ void tst_CliParts::foreignFileStays()
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(Content(QStringLiteral("out/1.jpg")), QByteArray("somebody else's"));
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
+}
+
+void tst_CliParts::namesThatAreTaken_data()
+{
+    QTest::addColumn<QString>("by");
+    QTest::addColumn<bool>("isResult");
+    QTest::newRow("the same bytes") << "same" << true;
+    QTest::newRow("as many bytes") << "other" << false;
+    QTest::newRow("a link to the same bytes") << "link" << false;
+    QTest::newRow("a link to nothing") << "dangling" << false;
+    QTest::newRow("a folder") << "folder" << false;
+}
+
+/// Another run of the part may have made the file; only its bytes can tell.
+void tst_CliParts::namesThatAreTaken()
+{
+    QFETCH(QString, by);
+    QFETCH(bool, isResult);
+    const QByteArray result = OneRun().value(QStringLiteral("1.jpg"));
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("out")));
+    QByteArray planted = result;
+    if (by == QLatin1String("other")) {
+        planted[planted.size() / 2] = char(planted.at(planted.size() / 2) ^ 1);
+    }
+    const QString place = Path(QStringLiteral("out/1.jpg"));
+    if (by == QLatin1String("folder")) {
+        QVERIFY(QDir().mkdir(place));
+    } else if (by == QLatin1String("link") || by == QLatin1String("dangling")) {
+        QVERIFY(QFile::link(by == QLatin1String("link") ? Path(QStringLiteral("one/1.jpg")) : by, place));
+    } else {
+        Write(QStringLiteral("out/1.jpg"), planted);
+    }
+    const std::optional<BatchJob::FileIdentity> before = BatchJob::IdentityOf(place);
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, isResult ? 0 : 1);
+    QCOMPARE(run.Err().contains(QLatin1String("out/1.jpg\" exists already")), !isResult);
+    QCOMPARE(BatchJob::IdentityOf(place), before);
+    QCOMPARE(QFileInfo(place).isSymLink(), by == QLatin1String("link") || by == QLatin1String("dangling"));
+    if (QFileInfo(place).isFile()) {
+        QCOMPARE(Content(QStringLiteral("out/1.jpg")), planted);
+    }
+    QCOMPARE(QDir(Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::System | QDir::Hidden).size(),
+             by == QLatin1String("folder") ? 5 : 6);
+}
+
+void tst_CliParts::foreignFileAppears_data()
+{
+    QTest::addColumn<QString>("policy");
+    QTest::addColumn<bool>("stays");
+    QTest::newRow("rename") << "rename" << true;
+    QTest::newRow("skip") << "skip" << true;
+    QTest::newRow("overwrite") << "overwrite" << false;
+}
+
+/// While the part runs.
+void tst_CliParts::foreignFileAppears()
+{
+    QFETCH(QString, policy);
+    QFETCH(bool, stays);
+    for (int i = 1; i <= 12; ++i) {
+        PictureFiles::WriteJpeg(Path(QStringLiteral("c/%1.jpg").arg(i)), i, 600, 400);
+    }
+    const QString arguments = QStringLiteral("split c -o out --effect denoise --parts 1 --plan job.plan");
+    QCOMPARE(Run(arguments + QStringLiteral(" --on-name-exists ") + policy).exitCode, 0);
+    const std::unique_ptr<QProcess> run = Start(1, QStringLiteral(" --workers 1"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(Path(QStringLiteral("out/1.jpg"))), 60'000);
+    QFile foreign(Path(QStringLiteral("out/12.jpg")));
+    QVERIFY(foreign.open(QIODevice::NewOnly | QIODevice::WriteOnly) && foreign.write("somebody else's") > 0);
+    foreign.close();
+    QVERIFY(run->waitForFinished(120'000));
+    const QByteArray said = run->readAllStandardError();
+    QVERIFY2(run->exitCode() == (stays && policy != QLatin1String("skip") ? 1 : 0), said);
+    QCOMPARE(Content(QStringLiteral("out/12.jpg")) == QByteArray("somebody else's"), stays);
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
+    const CliRun collected = Run(QStringLiteral("collect job.plan --report all.json"));
+    QVERIFY2(collected.Out().contains(stays ? QLatin1String("Written: 11, skipped: 1")
+                                            : QLatin1String("Written: 12, skipped: 0")),
+             collected.out);
+    QCOMPARE(Content(QStringLiteral("all.json")).contains("12.jpg\\\" exists already"), stays);
+}
+
+/// As when a machine dies: what was written is found by its bytes.
+void tst_CliParts::journalsAreLost()
+{
+    const Files one = OneRun();
+    QCOMPARE(Split().exitCode, 0);
+    QCOMPARE(RunPart(1).exitCode, 0);
+    const QStringList journals = NamesLike(QStringLiteral("job.plan-*.journal"));
+    QCOMPARE(journals.size(), 1);
+    QVERIFY(QFile::remove(Path(journals.first())));
+    for (int part = 1; part <= partCount; ++part) {
+        const CliRun run = RunPart(part);
+        QVERIFY2(run.exitCode == 0, run.err);
+    }
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, 0);
 }
 
 void tst_CliParts::foldersElsewhere()
