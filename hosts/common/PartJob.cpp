@@ -11,6 +11,8 @@
 #include "job/record/Recipe.h"
 #include "job/settings/JobBundle.h"
 #include "job/values/Phrase.h"
+#include "server/protocol/WorkerProgram.h"
+#include "server/protocol/WorkerVersions.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -114,16 +116,26 @@ QVector<PlannedFile> FilesOfPart(const QString& path, const PartPlan& plan, int 
     return *files;
 }
 
-PictureMakers MakersHere(const QString& version)
+Versions MakersHere(const QString& version)
 {
-    return {version, QString::fromLatin1(qVersion()), pictureVersion};
+    QString problem;
+    const std::optional<Versions> ofWorker = BatchProtocol::VersionsOfWorker(BatchProtocol::WorkerProgram(), problem);
+    if (!ofWorker) {
+        throw RequestError{Phrase::English("%1 was asked for the versions of its libraries: %2")
+                               .arg(BatchProtocol::WorkerProgram(), problem)};
+    }
+    Versions makers = *ofWorker;
+    makers.insert(QStringLiteral("velkora-batch"), version);
+    makers.insert(QStringLiteral("Qt"), QString::fromLatin1(qVersion()));
+    makers.insert(QStringLiteral("pictures"), QString::number(pictureVersion));
+    return makers;
 }
 
-QString DifferenceOfMakers(const PartPlan& plan, const PictureMakers& here)
+QString DifferenceOfMakers(const PartPlan& plan, const Versions& here)
 {
     return plan.makers == here ? QString()
-                               : Phrase::English("the plan was made by version %1, but here is version %2")
-                                     .arg(plan.makers.Text(), here.Text());
+                               : Phrase::English("the plan was made with %1, but here are %2")
+                                     .arg(DifferenceBetween(plan.makers, here), DifferenceBetween(here, plan.makers));
 }
 
 QVector<RunVariant> VariantsOf(const PartPlan& plan, const FolderNames& names)
@@ -144,7 +156,7 @@ PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const Fo
     , names(names)
     , folder(names.Here(plan.folder))
     , files(FilesOfPart(path, plan, number))
-    , journals(path, plan.id)
+    , journals(path, plan)
     , known(journals.Of(number))
 {
     for (PlannedFile& file : files) {
@@ -169,7 +181,7 @@ void PartJob::CheckFiles() const
     }
 }
 
-JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) const
+JournaledJob PartJob::Begin(ZTBatchDocument& job, const Versions& makers) const
 {
     const QString text = TextFor(job);
     const QString journalPath = journals.NewPath(number);
@@ -177,9 +189,9 @@ JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) c
     QString problem;
     journal.onFailure = [&problem](const QString& what) { problem = what; };
     if (journal.Create(journalPath, text, plan.policies)) {
-        journal.NoteMakers(makers.Text());
         journal.FixNames(NamesOfResults());
         journal.SettleAll(SettledResults());
+        journal.NoteMakers(makers); // Of what follows.
     } else {
         problem = journal.Problem();
     }

@@ -1,45 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
-#include "CliRun.h"
+#include "PartStage.h"
 #include "PictureFiles.h"
 
 #include "job/values/FileIdentity.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QProcess>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <memory>
 #include <vector>
 
-namespace {
-
-using Files = QMap<QString, QByteArray>;
-
-/// The content of every file below `folder`, including hidden files, by its relative path.
-Files FilesBelow(const QString& folder)
-{
-    Files files;
-    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (paths.hasNext()) {
-        QFile file(paths.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-        }
-    }
-    return files;
-}
-
-constexpr int partCount = 4;
-
-} // namespace
-
 /// A job that is cut into parts gives what one run gives, whatever happens to the parts.
-class tst_CliParts : public QObject
+class tst_CliParts : public QObject, private PartStage
 {
     Q_OBJECT
 
@@ -68,75 +42,11 @@ private Q_SLOTS:
     void foreignFileAppears();
     void journalsAreLost();
     void foldersElsewhere();
-    void otherVersions();
-
-private:
-    QString Path(const QString& name) const { return root->filePath(name); }
-    QStringList Arguments(const QString& text) const
-    {
-        QStringList arguments = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (arguments.first() != QLatin1String("collect")) {
-            arguments << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
-        }
-        return arguments;
-    }
-    CliRun Run(const QString& arguments) const { return CliRun::Of(Arguments(arguments), root->path(), environment); }
-    CliRun RunPart(int part) const { return Run(QStringLiteral("run --plan job.plan --part %1").arg(part)); }
-    CliRun Split(const QString& options = {}) const
-    {
-        return Run(
-            QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
-    }
-    std::unique_ptr<QProcess> Start(int part, const QString& options = {}) const
-    {
-        auto process = std::make_unique<QProcess>();
-        process->setProcessEnvironment(environment);
-        process->setWorkingDirectory(root->path());
-        process->start(QStringLiteral(VELKORA_BATCH),
-                       Arguments(QStringLiteral("run --plan job.plan --part %1").arg(part) + options));
-        return process;
-    }
-    Files OneRun() const
-    {
-        Run(QStringLiteral("run %1 -o one").arg(job));
-        return FilesBelow(Path(QStringLiteral("one")));
-    }
-    void Write(const QString& name, const QByteArray& content) const
-    {
-        QFile file(Path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    QByteArray Content(const QString& name) const
-    {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    QStringList NamesLike(const QString& wildcard) const
-    {
-        return QDir(root->path()).entryList({wildcard}, QDir::Files | QDir::Hidden);
-    }
-
-    std::unique_ptr<QTemporaryDir> root;
-    QProcessEnvironment environment;
-    QString job;
 };
 
 void tst_CliParts::init()
 {
-    root = std::make_unique<QTemporaryDir>();
-    environment = QProcessEnvironment::systemEnvironment();
-    for (const char* const name :
-         {"SLURM_ARRAY_TASK_ID", "SLURM_ARRAY_TASK_MIN", "JOB_COMPLETION_INDEX", "PARALLEL_SEQ"}) {
-        environment.remove(QString::fromLatin1(name));
-    }
-    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
-    environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
-    // Both folders have results of the same names in one output folder.
-    for (int i = 1; i <= 12; ++i) {
-        PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 300, 200);
-        PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 20 + i, 300, 200);
-    }
-    job = QStringLiteral("a b -s 100 --on-name-exists rename");
+    Reset();
 }
 
 void tst_CliParts::likeOneRun_data()
@@ -518,30 +428,6 @@ void tst_CliParts::foldersElsewhere()
     }
     QCOMPARE(FilesBelow(Path(QStringLiteral("there/out"))), one);
     QCOMPARE(Run(QStringLiteral("collect job.plan") + map).exitCode, 0);
-}
-
-void tst_CliParts::otherVersions()
-{
-    QCOMPARE(Split().exitCode, 0);
-    // A plan of another version, as its own program would have written it.
-    const QList<QByteArray> lines = Content(QStringLiteral("job.plan")).split('\n');
-    QByteArray header = lines.at(1);
-    const int at = header.indexOf("\"program\":\"") + int(sizeof("\"program\":\"")) - 1;
-    header.insert(at, "0.");
-    header += '\n';
-    QByteArray text = "{\"plan\":1,\"sha256\":\"" +
-                      QCryptographicHash::hash(header, QCryptographicHash::Sha256).toHex() + "\"}\n" + header +
-                      lines.mid(2).join('\n');
-    Write(QStringLiteral("job.plan"), text);
-    const CliRun refused = Run(QStringLiteral("run --plan job.plan --part 1 --same-versions"));
-    QCOMPARE(refused.exitCode, 2);
-    QVERIFY2(refused.Err().contains(QLatin1String("the plan was made by version 0.")), refused.err);
-    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
-    const CliRun warned = RunPart(1);
-    QCOMPARE(warned.exitCode, 0);
-    QVERIFY2(warned.Err().contains(QLatin1String("the plan was made by version 0.")), warned.err);
-    const CliRun collected = Run(QStringLiteral("collect job.plan"));
-    QVERIFY2(collected.Err().contains(QLatin1String("part 1 was made by version ")), collected.err);
 }
 
 QTEST_GUILESS_MAIN(tst_CliParts)
