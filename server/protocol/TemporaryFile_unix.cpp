@@ -27,20 +27,27 @@ namespace BatchProtocol {
 
 namespace {
 
+constexpr mode_t ownerMayWrite = 0600;
+
 bool IsStillThere(int descriptor)
 {
     struct stat status;
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink > 0;
 }
 
-// Renames without replacing. Not every file system supports this flag of renameat2(), and not every one hard links.
-int RenameToFreeName(int folder, const QByteArray& from, const QByteArray& to)
+bool IsUnknownToFileSystem(int problem)
+{
+    return problem == EINVAL || problem == ENOSYS || problem == EOPNOTSUPP || problem == EPERM;
+}
+
+// Renames without replacing, by what most file systems know.
+int RenameAtOnce(int folder, const QByteArray& from, const QByteArray& to)
 {
 #ifdef RENAME_NOREPLACE
     if (renameat2(folder, from.constData(), folder, to.constData(), RENAME_NOREPLACE) == 0) {
         return 0;
     }
-    if (errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP) {
+    if (!IsUnknownToFileSystem(errno)) {
         return errno;
     }
 #endif
@@ -49,6 +56,35 @@ int RenameToFreeName(int folder, const QByteArray& from, const QByteArray& to)
     }
     unlinkat(folder, from.constData(), 0);
     return 0;
+}
+
+// Some file systems of networks know neither that flag nor hard links. There an empty file, a placeholder, takes the
+// name, which only one process can do, and is replaced.
+int RenameToFreeName(int folder, const QByteArray& from, const QByteArray& to)
+{
+    const int problem = RenameAtOnce(folder, from, to);
+    if (!IsUnknownToFileSystem(problem)) {
+        return problem;
+    }
+    const int placeholder =
+        openat(folder, to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ownerMayWrite);
+    if (placeholder < 0) {
+        return errno;
+    }
+    close(placeholder);
+    if (renameat(folder, from.constData(), folder, to.constData()) == 0) {
+        return 0;
+    }
+    const int problemOfRename = errno;
+    unlinkat(folder, to.constData(), 0);
+    return problemOfRename;
+}
+
+bool IsEmptyFile(int folder, const QByteArray& name)
+{
+    struct stat status;
+    return fstatat(folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(status.st_mode) &&
+           status.st_size == 0;
 }
 
 /// Opens the folder anew, to read it or to flush it.
@@ -100,15 +136,18 @@ bool HaveSameBytes(int one, int other, off_t size)
     return true;
 }
 
-bool SweepFile(int folder, const char* name)
+void SweepFile(int folder, const char* name, TemporaryFile::Sweeping& sweeping)
 {
     const int file = openat(folder, name, O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {
-        return false;
+        return;
     }
-    const bool isSwept = flock(file, LOCK_EX | LOCK_NB) == 0 && IsStillThere(file) && unlinkat(folder, name, 0) == 0;
+    if (flock(file, LOCK_EX | LOCK_NB) == 0) {
+        sweeping.removed += IsStillThere(file) && unlinkat(folder, name, 0) == 0 ? 1 : 0;
+    } else if (errno != EWOULDBLOCK && IsStillThere(file)) {
+        ++sweeping.unclear;
+    }
     close(file);
-    return isSwept;
 }
 
 } // namespace
@@ -218,25 +257,44 @@ bool TemporaryFile::HasTwin() const
     return isEqual;
 }
 
-int TemporaryFile::Sweep(const QString& path, const QString& root)
+bool TemporaryFile::RemovePlaceholder() const
 {
+    const int inFolder = folder.Descriptor();
+    const QByteArray finalFile = QFile::encodeName(QFileInfo(finalName).fileName());
+    if (!IsEmptyFile(inFolder, finalFile)) {
+        return false;
+    }
+    // The system itself says of a name that is taken that it is; so a free one is tried.
+    const QByteArray own = QFile::encodeName(name);
+    const QByteArray other = QFile::encodeName(NewTemporaryName());
+    const int problem = RenameAtOnce(inFolder, own, other);
+    if (problem == 0) {
+        renameat(inFolder, other.constData(), inFolder, own.constData());
+        return false;
+    }
+    return IsUnknownToFileSystem(problem) && IsEmptyFile(inFolder, finalFile) &&
+           unlinkat(inFolder, finalFile.constData(), 0) == 0;
+}
+
+TemporaryFile::Sweeping TemporaryFile::Sweep(const QString& path, const QString& root)
+{
+    Sweeping sweeping;
     ResultFolder folder;
     if (!folder.Open(root, path, ResultFolder::Missing::Fail)) {
-        return 0;
+        return sweeping;
     }
     const int readable = OpenForReading(folder.Descriptor());
     DIR* const entries = readable < 0 ? nullptr : fdopendir(readable);
     if (!entries) {
-        return 0;
+        return sweeping;
     }
-    int count = 0;
     while (const dirent* const entry = readdir(entries)) {
-        if (IsTemporaryName(QFile::decodeName(entry->d_name)) && SweepFile(folder.Descriptor(), entry->d_name)) {
-            ++count;
+        if (IsTemporaryName(QFile::decodeName(entry->d_name))) {
+            SweepFile(folder.Descriptor(), entry->d_name, sweeping);
         }
     }
     closedir(entries);
-    return count;
+    return sweeping;
 }
 
 bool TemporaryFile::Fail(int errorNumber)

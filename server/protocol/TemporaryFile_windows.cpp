@@ -175,20 +175,25 @@ bool TemporaryFile::HasTwin() const
     return isEqual;
 }
 
-int TemporaryFile::Sweep(const QString& path, const QString& root)
+bool TemporaryFile::RemovePlaceholder() const
 {
+    return false; // Every file system renames without replacing.
+}
+
+TemporaryFile::Sweeping TemporaryFile::Sweep(const QString& path, const QString& root)
+{
+    Sweeping sweeping;
     ResultFolder folder;
     if (!folder.Open(root, path, ResultFolder::Missing::Fail)) {
-        return 0;
+        return sweeping;
     }
-    int count = 0;
     const QStringList names = QDir(path).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
         if (IsTemporaryName(name) && DeleteFileW(Native(path + QLatin1Char('/') + name).c_str())) {
-            ++count;
+            ++sweeping.removed;
         }
     }
-    return count;
+    return sweeping;
 }
 
 bool TemporaryFile::Fail(int errorNumber)

@@ -7,6 +7,7 @@
 #include "job/plan/CommandLog.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/UnclearFilesLine.h"
 #include "job/plan/WarningLine.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
@@ -15,6 +16,7 @@
 #include "server/protocol/WorkerFiles.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -215,6 +217,9 @@ void Run::BeginWork()
     phase = Phase::Working;
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
+    }
+    if (preparation->unclearFiles > 0) {
+        host.Log(UnclearFilesLine::Of(preparation->unclearFiles));
     }
     AdoptUnjournaledResults();
     AdoptUnchanged();
@@ -512,6 +517,13 @@ bool Run::FinishUnreported(const Assignment& task)
     TemporaryFile::Sweep(plan.Names().Folder(task.file), outputRoot);
     const std::optional<FileIdentity> now = IdentityOf(picture->outputFile);
     if (!now || now == task.before) {
+        return false;
+    }
+    if (!task.before && QFileInfo(picture->outputFile).size() == 0) { // No result is empty.
+        TemporaryFile beside(picture->outputFile, outputRoot);
+        if (beside.Create()) {
+            beside.RemovePlaceholder();
+        }
         return false;
     }
     FinishPicture(task.file, Report());

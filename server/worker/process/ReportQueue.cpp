@@ -32,15 +32,24 @@ void WriteAll(int output, const QByteArray& bytes)
     }
 }
 
+TemporaryFile::Placement PlaceOrFind(TemporaryFile& file, const Placing& placing)
+{
+    const TemporaryFile::Placement placement = file.Place(placing.replacesExisting);
+    if (placement != TemporaryFile::Placement::NameTaken || !placing.countsTwin) {
+        return placement;
+    }
+    if (file.RemovePlaceholder()) {
+        file.Place(false); // Else another run of the part has just placed the result.
+    }
+    return file.HasTwin() ? TemporaryFile::Placement::Done : placement;
+}
+
 void Place(const MadePicture& made, const Placing& placing, Report& report)
 {
-    switch (made.file->Place(placing.replacesExisting)) {
+    switch (PlaceOrFind(*made.file, placing)) {
     case TemporaryFile::Placement::Done:
         return;
     case TemporaryFile::Placement::NameTaken:
-        if (placing.countsTwin && made.file->HasTwin()) {
-            return;
-        }
         report.failure = BatchJob::PolicyKind::Naming;
         report.errorCode = ZTBatchMessage::FileNameAlreadyExists;
         break;

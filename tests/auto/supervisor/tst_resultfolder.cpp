@@ -216,8 +216,8 @@ void tst_ResultFolder::sweepsNothingBehindLinks()
     Write(QStringLiteral("private/.velkora-0123456789abcdef.tmp"), "precious");
     Write(QStringLiteral("out/a/.velkora-0123456789abcdef.tmp"), "left");
     const QString root = Path(QStringLiteral("out"));
-    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/link")), root), 0);
-    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/a")), root), 1);
+    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/link")), root).removed, 0);
+    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/a")), root).removed, 1);
     QCOMPARE(Content(QStringLiteral("private/.velkora-0123456789abcdef.tmp")), QByteArray("precious"));
 }
 
