@@ -10,6 +10,7 @@
 #include "job/plan/Trouble.h"
 #include "job/record/Recipe.h"
 #include "job/settings/JobBundle.h"
+#include "job/settings/JobFiles.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/WorkerProgram.h"
 #include "server/protocol/WorkerVersions.h"
@@ -167,7 +168,7 @@ PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const Fo
 void PartJob::CheckFiles() const
 {
     for (const auto& [source, stamp] : plan.sources) {
-        CheckFile(source, stamp); // The settings name it, and are the same everywhere.
+        CheckFile(names.Here(source), stamp);
     }
     const int jobs = plan.jobs.size();
     for (int i = 0; i < files.size(); ++i) {
@@ -216,6 +217,7 @@ QString PartJob::TextFor(ZTBatchDocument& job) const
         }
         const QString outputFolder = names.Here(planned.outputFolder);
         one.GetOutputSettings()->SetPath(outputFolder);
+        MoveFilesOfSettings(one, [this](const QString& file) { return names.Here(file); });
         if (bundle.parts.isEmpty()) {
             AddInputs(one, files);
         }

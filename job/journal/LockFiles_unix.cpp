@@ -50,8 +50,8 @@ bool HasLocks(const QString& path)
 bool HasHolderEnded(const QLockFile& lock)
 {
     const Holder holder = HolderOf(lock);
-    return holder.process > 0 && holder.host == QSysInfo::machineHostName() &&
-           kill(pid_t(holder.process), 0) != 0 && errno == ESRCH;
+    return holder.process > 0 && holder.host == QSysInfo::machineHostName() && kill(pid_t(holder.process), 0) != 0 &&
+           errno == ESRCH;
 }
 
 bool TakeLock(QLockFile& lock, const QString& path, int timeout)

@@ -187,8 +187,7 @@ int ReadFolder(const char* path, void* list, fuse_fill_dir_t fill, off_t, fuse_f
 
 int SetTimes(const char* path, const timespec times[2], fuse_file_info* file)
 {
-    return Result(file ? futimens(Handle(file), times)
-                       : utimensat(root, Below(path), times, AT_SYMLINK_NOFOLLOW));
+    return Result(file ? futimens(Handle(file), times) : utimensat(root, Below(path), times, AT_SYMLINK_NOFOLLOW));
 }
 
 int LockRange(const char*, fuse_file_info* file, int command, struct flock* range)

@@ -79,8 +79,9 @@ void tst_CliFileSystems::init()
     if (!QFileInfo(QStringLiteral("/dev/fuse")).isWritable()) {
         QSKIP("This machine lets nobody mount a file system: /dev/fuse cannot be written.");
     }
-    const QString refusals = QTest::currentDataTag() ? *static_cast<QString*>(QTest::qData("refusals", QMetaType::QString))
-                                                     : QStringLiteral("no-rename-flags no-links no-locks");
+    const QString refusals = QTest::currentDataTag()
+                                 ? *static_cast<QString*>(QTest::qData("refusals", QMetaType::QString))
+                                 : QStringLiteral("no-rename-flags no-links no-locks");
     if (!Mount(refusals)) {
         const QByteArray problem = fileSystem.readAllStandardError().trimmed();
         QSKIP(("This machine lets us mount no file system: " + problem).constData());
@@ -164,8 +165,7 @@ void tst_CliFileSystems::run()
     const CliRun run = Run(QStringLiteral("run a -o out -s 100"));
     QVERIFY2(run.exitCode == 0, run.err);
     QVERIFY2(!run.Err().contains(QLatin1String("setNativeLocks")), run.err);
-    const CliRun elsewhere =
-        Run(QStringLiteral("run a -s 100 -o ") + real->filePath(QStringLiteral("tmp/elsewhere")));
+    const CliRun elsewhere = Run(QStringLiteral("run a -s 100 -o ") + real->filePath(QStringLiteral("tmp/elsewhere")));
     QVERIFY2(elsewhere.exitCode == 0, elsewhere.err);
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), FilesBelow(real->filePath(QStringLiteral("tmp/elsewhere"))));
 }

@@ -41,7 +41,10 @@ private Q_SLOTS:
     void foreignFileAppears_data();
     void foreignFileAppears();
     void journalsAreLost();
+    void foldersElsewhere_data();
     void foldersElsewhere();
+    void fileOfAnEffect_data();
+    void fileOfAnEffect();
 };
 
 void tst_CliParts::init()
@@ -103,24 +106,29 @@ void tst_CliParts::atOnce()
 
 void tst_CliParts::killedAndRunAgain_data()
 {
-    QTest::addColumn<int>("milliseconds");
-    for (const int time : {20, 80, 150, 250, 400, 700}) {
-        QTest::addRow("after %d ms", time) << time;
+    QTest::addColumn<int>("results");
+    QTest::newRow("before any result") << 0;
+    for (const int results : {1, 3, 5}) {
+        QTest::addRow("after %d results", results) << results;
     }
 }
 
+/// Each part is killed when it has written so many of its six results, or a few more.
 void tst_CliParts::killedAndRunAgain()
 {
-    QFETCH(int, milliseconds);
+    QFETCH(int, results);
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
+    const auto written = [this] {
+        return QDir(Path(QStringLiteral("out"))).entryList({QStringLiteral("*.jpg")}, QDir::Files).size();
+    };
     for (int part = 1; part <= partCount; ++part) {
-        const std::unique_ptr<QProcess> run = Start(part);
-        QVERIFY(run->waitForStarted());
-        if (!run->waitForFinished(milliseconds)) {
-            run->kill();
-            QVERIFY(run->waitForFinished());
-        }
+        const int before = written();
+        const std::unique_ptr<QProcess> run = Start(part, QStringLiteral("--workers 1"));
+        const auto hasBegun = [&] { return !NamesLike(QStringLiteral("job.plan-*-%1-*.journal").arg(part)).isEmpty(); };
+        QTRY_VERIFY_WITH_TIMEOUT(hasBegun() && written() >= before + results, 60'000);
+        run->kill();
+        QVERIFY(run->waitForFinished());
     }
     for (int part = partCount; part >= 1; --part) {
         const CliRun run = RunPart(part);
@@ -414,21 +422,65 @@ void tst_CliParts::journalsAreLost()
     QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, 0);
 }
 
+void tst_CliParts::foldersElsewhere_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("pictures") << "a b -s 100 --on-name-exists rename";
+    QTest::newRow("a watermark") << "a b -s 100 --on-name-exists rename --effect watermark-image:file=marks/mark.jpg";
+    QTest::newRow("a watermark in a preset") << "a b --preset marked --preset thumbnails --on-name-exists rename";
+    QTest::newRow("a background") << "a b -s 100 --on-name-exists rename --frame 20 --background image:marks/mark.jpg";
+}
+
+/// The same bytes, although pictures, results and the files of effects are elsewhere.
 void tst_CliParts::foldersElsewhere()
 {
+    QFETCH(QString, options);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 50, 30, 20);
+    const CliRun saved = Run(QStringLiteral("presets save marked -s 90 --effect watermark-image:file=marks/mark.jpg"));
+    QVERIFY2(saved.exitCode == 0, saved.err);
+    job = options;
     const Files one = OneRun();
+    QVERIFY(one.size() >= 24);
     QCOMPARE(Split().exitCode, 0);
     QVERIFY(QDir(root->path()).mkpath(QStringLiteral("there")));
-    for (const QString& folder : {QStringLiteral("a"), QStringLiteral("b")}) {
+    for (const QString& folder : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("marks")}) {
         QVERIFY(QDir(root->path()).rename(folder, QStringLiteral("there/") + folder));
     }
+    const CliRun lost = RunPart(1);
+    QCOMPARE(lost.exitCode, 2);
+    QVERIFY2(lost.Err().contains(QLatin1String(" is missing here")), lost.err);
     const QString map = QStringLiteral(" --map %1=%2").arg(root->path(), Path(QStringLiteral("there")));
     for (int part = 1; part <= partCount; ++part) {
-        const CliRun run = Run(QStringLiteral("run --plan job.plan --part %1").arg(part) + map);
+        const CliRun run = RunPart(part, map);
         QVERIFY2(run.exitCode == 0, run.err);
     }
     QCOMPARE(FilesBelow(Path(QStringLiteral("there/out"))), one);
     QCOMPARE(Run(QStringLiteral("collect job.plan") + map).exitCode, 0);
+}
+
+void tst_CliParts::fileOfAnEffect_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing") << false << "marks/mark.jpg is missing here";
+    QTest::newRow("changed") << true << "marks/mark.jpg has changed since the job was split";
+}
+
+void tst_CliParts::fileOfAnEffect()
+{
+    QFETCH(bool, isThere);
+    QFETCH(QString, message);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 50, 30, 20);
+    job += QStringLiteral(" --effect watermark-image:file=marks/mark.jpg");
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QFile::remove(Path(QStringLiteral("marks/mark.jpg"))));
+    if (isThere) {
+        PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 51, 31, 20);
+    }
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(message), run.err);
+    QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
 }
 
 QTEST_GUILESS_MAIN(tst_CliParts)
