@@ -117,9 +117,12 @@ std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
         }
         std::unique_ptr<JournalFile> other(new JournalFile(journalPath));
         if (other->IsInUse()) {
-            const QString text = BatchJob::Phrase::English("the same job is already running into %1").arg(own.path());
-            throw RequestError{other->hint.isEmpty() ? text : text + QStringLiteral(": ") + other->hint,
-                               RequestError::Kind::AlreadyRunning};
+            throw RequestError{
+                other->hint.isEmpty()
+                    ? BatchJob::Phrase::English("the same job is already running into %1").arg(own.path())
+                    : BatchJob::Phrase::English("the same job is already running into %1: %2")
+                          .arg(own.path(), other->hint),
+                RequestError::Kind::AlreadyRunning};
         }
         if (other->problem.isEmpty() && other->Exists()) {
             others.push_back(std::move(other));

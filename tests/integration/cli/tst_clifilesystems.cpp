@@ -284,6 +284,10 @@ void tst_CliFileSystems::lockOfAnotherMachine()
     QVERIFY2(refusedRun.Err().contains(Path(lock) + QLatin1String(" says that process ")), refusedRun.err);
     QVERIFY2(refusedRun.Err().contains(QLatin1String(" of elsewhere holds it, and the file system has no locks")),
              refusedRun.err);
+    const CliRun sameCommand = Run(QStringLiteral("run %1 -o out").arg(job));
+    QCOMPARE(sameCommand.exitCode, 6);
+    QVERIFY2(sameCommand.Err().contains(QLatin1String("out: ") + Path(lock) + QLatin1String(" says that process ")),
+             sameCommand.err);
     QVERIFY(QFile::remove(Path(lock)));
     QCOMPARE(Run(QStringLiteral("run -o out --resume")).exitCode, 0);
     QCOMPARE(Results(QStringLiteral("out")).size(), 12);
