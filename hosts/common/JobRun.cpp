@@ -70,7 +70,7 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     inputs.leftOut = circumstances.leftOut;
     return std::make_unique<RunController>(RunController::Order{journaled.Document(), inputs, journaled.OutputFolder(),
                                                                 circumstances.policies, journalPath,
-                                                                circumstances.isStrict},
+                                                                circumstances.isStrict, circumstances.ofEachResult},
                                            QVector<RunObserver*>{journaled.Observer()} + observers);
 }
 

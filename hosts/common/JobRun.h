@@ -44,6 +44,7 @@ public:
         bool isStrict = false; ///< see RunController::Order
         LeftOutFiles leftOut = {};
         std::optional<BatchJob::Update> update = {}; ///< of a new run; one that is resumed has its own
+        BatchJob::Warnings ofEachResult = {};        ///< see RunController::Order
     };
 
     /// The run of `journaled`, ready to start. `job` is its job, or the first of its jobs. It must end before this

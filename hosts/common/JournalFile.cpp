@@ -7,6 +7,7 @@
 
 #include "job/journal/RunJournal.h"
 
+#include "job/journal/LockFiles.h"
 #include "job/journal/OwnFile.h"
 #include "job/values/Phrase.h"
 
@@ -15,13 +16,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QSysInfo>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-
-#include <cerrno>
-#endif
 
 namespace BatchHost {
 
@@ -63,21 +57,6 @@ QStringList MissingFolders(const QString& path)
     return missing;
 }
 
-/// Whether `lock` names a process of this machine that has ended.
-bool HasHolderEnded(const QLockFile& lock)
-{
-#ifdef Q_OS_UNIX
-    qint64 process = 0;
-    QString host;
-    QString program;
-    return lock.getLockInfo(&process, &host, &program) && host == QSysInfo::machineHostName() &&
-           kill(pid_t(process), 0) != 0 && errno == ESRCH;
-#else
-    Q_UNUSED(lock)
-    return false; // No other process can inherit a lock.
-#endif
-}
-
 } // namespace
 
 JournalFile::JournalFile(const QString& path)
@@ -93,15 +72,18 @@ JournalFile::JournalFile(const QString& path)
         }
     }
     lock.setStaleLockTime(0); // A run may take days: the lock is stale only when its holder has ended.
-    bool isHeld = lock.tryLock();
-    if (!isHeld && HasHolderEnded(lock)) {
+    const QString lockPath = path + lockEnd;
+    bool isHeld = BatchJob::TakeLock(lock, lockPath);
+    if (!isHeld && BatchJob::HasHolderEnded(lock)) {
         // A server that was just being started when its host was killed keeps the lock until it runs its own program.
         constexpr int timeout = 5'000; // ms
         isHeld = lock.tryLock(timeout);
     }
     if (!isHeld) {
-        problem = IsInUse() ? BatchJob::Phrase::English("it is still running")
-                            : BatchJob::Phrase::English("the folder cannot be written");
+        hint = BatchJob::HintAtHolder(lock, lockPath);
+        problem = !hint.isEmpty() ? hint
+                  : IsInUse()     ? BatchJob::Phrase::English("it is still running")
+                                  : BatchJob::Phrase::English("the folder cannot be written");
     }
 }
 
@@ -135,8 +117,12 @@ std::vector<std::unique_ptr<JournalFile>> JournalFile::OthersOfItsJob() const
         }
         std::unique_ptr<JournalFile> other(new JournalFile(journalPath));
         if (other->IsInUse()) {
-            throw RequestError{BatchJob::Phrase::English("the same job is already running into %1").arg(own.path()),
-                               RequestError::Kind::AlreadyRunning};
+            throw RequestError{
+                other->hint.isEmpty()
+                    ? BatchJob::Phrase::English("the same job is already running into %1").arg(own.path())
+                    : BatchJob::Phrase::English("the same job is already running into %1: %2")
+                          .arg(own.path(), other->hint),
+                RequestError::Kind::AlreadyRunning};
         }
         if (other->problem.isEmpty() && other->Exists()) {
             others.push_back(std::move(other));

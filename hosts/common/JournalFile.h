@@ -62,6 +62,7 @@ private:
     QStringList madeFolders; ///< by New(), the deepest first
     QLockFile lock;
     QString problem;
+    QString hint; ///< HintAtHolder()
 };
 
 } // namespace BatchHost

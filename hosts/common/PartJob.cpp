@@ -10,7 +10,10 @@
 #include "job/plan/Trouble.h"
 #include "job/record/Recipe.h"
 #include "job/settings/JobBundle.h"
+#include "job/settings/JobFiles.h"
 #include "job/values/Phrase.h"
+#include "server/protocol/WorkerProgram.h"
+#include "server/protocol/WorkerVersions.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchInputModel.h"
@@ -114,16 +117,26 @@ QVector<PlannedFile> FilesOfPart(const QString& path, const PartPlan& plan, int 
     return *files;
 }
 
-PictureMakers MakersHere(const QString& version)
+Versions MakersHere(const QString& version)
 {
-    return {version, QString::fromLatin1(qVersion()), pictureVersion};
+    QString problem;
+    const std::optional<Versions> ofWorker = BatchProtocol::VersionsOfWorker(BatchProtocol::WorkerProgram(), problem);
+    if (!ofWorker) {
+        throw RequestError{Phrase::English("%1 was asked for the versions of its libraries: %2")
+                               .arg(BatchProtocol::WorkerProgram(), problem)};
+    }
+    Versions makers = *ofWorker;
+    makers.insert(QStringLiteral("velkora-batch"), version);
+    makers.insert(QStringLiteral("Qt"), QString::fromLatin1(qVersion()));
+    makers.insert(QStringLiteral("pictures"), QString::number(pictureVersion));
+    return makers;
 }
 
-QString DifferenceOfMakers(const PartPlan& plan, const PictureMakers& here)
+QString DifferenceOfMakers(const PartPlan& plan, const Versions& here)
 {
     return plan.makers == here ? QString()
-                               : Phrase::English("the plan was made by version %1, but here is version %2")
-                                     .arg(plan.makers.Text(), here.Text());
+                               : Phrase::English("the plan was made with %1, but here are %2")
+                                     .arg(DifferenceBetween(plan.makers, here), DifferenceBetween(here, plan.makers));
 }
 
 QVector<RunVariant> VariantsOf(const PartPlan& plan, const FolderNames& names)
@@ -144,23 +157,18 @@ PartJob::PartJob(const QString& path, const PartPlan& plan, int number, const Fo
     , names(names)
     , folder(names.Here(plan.folder))
     , files(FilesOfPart(path, plan, number))
-    , journals(path, plan.id)
+    , journals(path, plan)
+    , known(journals.Of(number))
 {
     for (PlannedFile& file : files) {
         file.input = names.Here(file.input);
     }
-    for (int i = 0; i < ResultCount(); ++i) {
-        exists.append(QFileInfo::exists(Output(i)));
-    }
-    // Afterwards: another run of this part notes a result in its journal before it makes it.
-    journals = PartJournals(path, plan.id);
-    known = journals.Of(number);
 }
 
 void PartJob::CheckFiles() const
 {
     for (const auto& [source, stamp] : plan.sources) {
-        CheckFile(source, stamp); // The settings name it, and are the same everywhere.
+        CheckFile(names.Here(source), stamp);
     }
     const int jobs = plan.jobs.size();
     for (int i = 0; i < files.size(); ++i) {
@@ -174,7 +182,7 @@ void PartJob::CheckFiles() const
     }
 }
 
-JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) const
+JournaledJob PartJob::Begin(ZTBatchDocument& job, const Versions& makers) const
 {
     const QString text = TextFor(job);
     const QString journalPath = journals.NewPath(number);
@@ -182,9 +190,9 @@ JournaledJob PartJob::Begin(ZTBatchDocument& job, const PictureMakers& makers) c
     QString problem;
     journal.onFailure = [&problem](const QString& what) { problem = what; };
     if (journal.Create(journalPath, text, plan.policies)) {
-        journal.NoteMakers(makers.Text());
         journal.FixNames(NamesOfResults());
         journal.SettleAll(SettledResults());
+        journal.NoteMakers(makers); // Of what follows.
     } else {
         problem = journal.Problem();
     }
@@ -209,6 +217,7 @@ QString PartJob::TextFor(ZTBatchDocument& job) const
         }
         const QString outputFolder = names.Here(planned.outputFolder);
         one.GetOutputSettings()->SetPath(outputFolder);
+        MoveFilesOfSettings(one, [this](const QString& file) { return names.Here(file); });
         if (bundle.parts.isEmpty()) {
             AddInputs(one, files);
         }
@@ -227,10 +236,9 @@ QVector<FixedName> PartJob::NamesOfResults() const
     return fixed;
 }
 
-/// What the plan leaves out, what other runs of the part have written, and what would replace a file of somebody else.
+/// What the plan leaves out, and what other runs of the part have written.
 QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
 {
-    const bool overwrites = Policies(plan.policies).Of(PolicyKind::Naming) == Decision::Overwrite;
     const auto leftOut = [](const QString& output, int code, const QString& reason) {
         const auto kind =
             CountsAsSkipped(BatchJob::Action::FileSkipped, code) ? ResultKind::Skipped : ResultKind::Failed;
@@ -245,9 +253,6 @@ QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
         } else if (IsWritten(i)) {
             settled.append({i, known.results.value(i)});
             settled.last().second.output = output;
-        } else if (exists.at(i) && !overwrites && !planned.name.isOverwriting && !known.begun.contains(i)) {
-            settled.append({i, leftOut(output, ZTBatchMessage::FileNameAlreadyExists,
-                                       Phrase::English("\"%1\" exists already").arg(output))});
         }
     }
     return settled;

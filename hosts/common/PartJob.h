@@ -42,10 +42,10 @@ BatchJob::PartPlan PlanIn(const QString& path);
 QVector<BatchJob::PlannedFile> FilesOfPart(const QString& path, const BatchJob::PartPlan& plan, int number);
 
 /// What is different here from what has made `plan`, for users; empty if nothing is.
-QString DifferenceOfMakers(const BatchJob::PartPlan& plan, const BatchJob::PictureMakers& here);
+QString DifferenceOfMakers(const BatchJob::PartPlan& plan, const BatchJob::Versions& here);
 
-/// This program, of `version`.
-BatchJob::PictureMakers MakersHere(const QString& version);
+/// This program, of `version`, and the libraries of its worker. Throws RequestError if the worker does not name them.
+BatchJob::Versions MakersHere(const QString& version);
 
 /// The variants that a run of `plan` makes of each picture.
 QVector<RunVariant> VariantsOf(const BatchJob::PartPlan& plan, const FolderNames& names);
@@ -63,7 +63,7 @@ public:
 
     /// Makes `job` the part, or the first of its jobs, and begins a journal that knows all names and what other runs
     /// of the part have done. `makers` is what makes the pictures here. Throws RequestError.
-    JournaledJob Begin(ZTBatchDocument& job, const BatchJob::PictureMakers& makers) const;
+    JournaledJob Begin(ZTBatchDocument& job, const BatchJob::Versions& makers) const;
 
 private:
     QString TextFor(ZTBatchDocument& job) const;
@@ -80,9 +80,8 @@ private:
     const FolderNames names;
     const QString folder;
     QVector<BatchJob::PlannedFile> files;
-    QVector<bool> exists; ///< of results: there is a file of that name. Looked at before `known`
-    PartJournals journals;
-    PartJournals::Known known;
+    const PartJournals journals;
+    const PartJournals::Known known;
 };
 
 } // namespace BatchHost

@@ -3,6 +3,8 @@
 
 #include "PartJournals.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,9 +20,10 @@ const QString journalEnd = QStringLiteral(".journal");
 
 } // namespace
 
-PartJournals::PartJournals(const QString& plan, const QString& id)
-    : folder(QFileInfo(plan).absolutePath())
-    , nameStart(QFileInfo(plan).fileName() + QLatin1Char('-') + id + QLatin1Char('-'))
+PartJournals::PartJournals(const QString& path, const PartPlan& plan)
+    : folder(QFileInfo(path).absolutePath())
+    , nameStart(QFileInfo(path).fileName() + QLatin1Char('-') + plan.id + QLatin1Char('-'))
+    , makersOfPlan(plan.makers)
 {
     const QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QString& name : names) {
@@ -46,21 +49,20 @@ PartJournals::Known PartJournals::Of(int part) const
         if (!state) {
             continue;
         }
-        if (!state->makers.isEmpty() && !known.makers.contains(state->makers)) {
-            known.makers.append(state->makers);
-        }
-        for (auto it = state->begun.constBegin(); it != state->begun.constEnd(); ++it) {
-            known.begun.insert(it.key());
+        const bool isByOthers = !state->byMakers.isEmpty() && state->makers != makersOfPlan;
+        if (isByOthers && !known.others.contains(state->makers)) {
+            known.others.append(state->makers);
         }
         for (auto it = state->results.constBegin(); it != state->results.constEnd(); ++it) {
-            if (HasResult(it->kind)) {
-                known.begun.insert(it.key());
-            }
             const auto other = known.results.constFind(it.key());
             const bool isBetter = other == known.results.constEnd() ||
                                   (!HasResult(other->kind) && (HasResult(it->kind) || it->finished > other->finished));
-            if (isBetter) {
-                known.results.insert(it.key(), *it);
+            if (!isBetter) {
+                continue;
+            }
+            const auto result = known.results.insert(it.key(), *it);
+            if (isByOthers && HasResult(it->kind) && state->byMakers.contains(it.key())) {
+                result->warnings.append(WarningOfMakers(state->makers, makersOfPlan));
             }
         }
     }
@@ -78,6 +80,12 @@ bool PartJournals::Remove() const
         }
     }
     return isRemoved;
+}
+
+Warning WarningOfMakers(const Versions& makers, const Versions& ofPlan)
+{
+    return {WarningKind::OtherVersions, Phrase::English("made with %1, but the plan with %2")
+                                            .arg(DifferenceBetween(makers, ofPlan), DifferenceBetween(ofPlan, makers))};
 }
 
 } // namespace BatchHost

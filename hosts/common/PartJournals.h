@@ -4,11 +4,12 @@
 #pragma once
 
 #include "job/journal/RunJournal.h"
+#include "job/parts/PartPlan.h"
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace BatchHost {
 
@@ -17,8 +18,8 @@ namespace BatchHost {
 class PartJournals
 {
 public:
-    /// `id` is that of the plan `plan`.
-    PartJournals(const QString& plan, const QString& id);
+    /// `plan` is in the file `path`.
+    PartJournals(const QString& path, const BatchJob::PartPlan& plan);
 
     /// A path for one more journal of the part `part`, from 1. Nobody else gets it.
     QString NewPath(int part) const;
@@ -26,9 +27,9 @@ public:
     /// What the runs of a part have done so far.
     struct Known
     {
-        QHash<int, BatchJob::JournalState::Result> results; ///< of several for a file, the best
-        QSet<int> begun;    ///< files of which a run has begun the result, or written it
-        QStringList makers; ///< what has made them, each once
+        /// Of several for a file, the best. Those that others have made have a warning.
+        QHash<int, BatchJob::JournalState::Result> results;
+        QVector<BatchJob::Versions> others; ///< what has made some of them, other than the plan; each once
     };
     Known Of(int part) const;
 
@@ -38,7 +39,11 @@ public:
 private:
     QString folder;
     QString nameStart;
+    BatchJob::Versions makersOfPlan;
     QHash<int, QStringList> paths; ///< by their parts
 };
+
+/// Says that a picture was made with `makers`, but the plan with `ofPlan`.
+BatchJob::Warning WarningOfMakers(const BatchJob::Versions& makers, const BatchJob::Versions& ofPlan);
 
 } // namespace BatchHost

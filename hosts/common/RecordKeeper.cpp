@@ -6,6 +6,7 @@
 #include "JournalFile.h"
 #include "RequestError.h"
 
+#include "job/journal/LockFiles.h"
 #include "job/journal/OwnFile.h"
 #include "job/values/FileIdentity.h"
 #include "job/values/Phrase.h"
@@ -35,7 +36,7 @@ std::unique_ptr<QLockFile> Lock(const QString& path)
     }
     auto lock = std::make_unique<QLockFile>(path);
     lock->setStaleLockTime(0); // Only the end of its holder makes a lock stale, not its age.
-    return lock->tryLock(lockTimeout) ? std::move(lock) : nullptr;
+    return TakeLock(*lock, path, lockTimeout) ? std::move(lock) : nullptr;
 }
 
 /// The record of a result that looks like `stamp`.

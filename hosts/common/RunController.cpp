@@ -241,6 +241,7 @@ void RunController::OnFileProcessed(const QString& input, const QString& output)
             result.facts = known->facts;
         }
     }
+    result.warnings += order.ofEachResult;
     result.finished = QDateTime::currentDateTimeUtc();
     Settle(result);
 }
@@ -541,8 +542,9 @@ void RunController::SettleFromJournal()
     if (open.isEmpty()) {
         return;
     }
-    for (const auto& [index, result] : JournaledResults()) {
+    for (auto& [index, result] : JournaledResults()) {
         if (open.value(result.input).contains(index)) {
+            result.warnings += HasResult(result.kind) ? order.ofEachResult : Warnings();
             Settle(result);
         }
     }

@@ -43,6 +43,8 @@ public:
         QString journalPath;
 
         bool isStrict = false; ///< pictures with warnings count as failed
+
+        BatchJob::Warnings ofEachResult = {}; ///< warnings about every result that this run makes
     };
 
     RunController(const Order& order, const QVector<RunObserver*>& observers);

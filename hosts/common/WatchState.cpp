@@ -6,6 +6,7 @@
 #include "RequestError.h"
 
 #include "job/journal/Lines.h"
+#include "job/journal/LockFiles.h"
 #include "job/journal/OwnFile.h"
 #include "job/journal/RunJournal.h"
 #include "job/settings/NamePart.h"
@@ -80,7 +81,7 @@ WatchState::WatchState(const QString& outputFolder, const QString& folder)
     }
     constexpr int timeout = 5'000; // ms; a server that is just being started holds what its killed host has held
     lock.setStaleLockTime(0);
-    if (!lock.tryLock(timeout)) {
+    if (!TakeLock(lock, PathOfLock(outputFolder), timeout)) {
         if (lock.error() == QLockFile::LockFailedError) {
             throw RequestError{Phrase::English("another process watches a folder for %1 already").arg(outputFolder),
                                RequestError::Kind::AlreadyRunning};

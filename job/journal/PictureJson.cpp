@@ -98,4 +98,25 @@ QJsonObject JsonOf(const FileStamp& stamp)
     return object;
 }
 
+Versions ReadVersions(const QJsonObject& object)
+{
+    Versions versions;
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        const QString version = it.value().toString();
+        if (!version.isEmpty()) {
+            versions.insert(it.key(), version);
+        }
+    }
+    return versions;
+}
+
+QJsonObject JsonOf(const Versions& versions)
+{
+    QJsonObject object;
+    for (auto it = versions.begin(); it != versions.end(); ++it) {
+        object.insert(it.key(), it.value());
+    }
+    return object;
+}
+
 } // namespace BatchJob

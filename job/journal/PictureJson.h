@@ -5,6 +5,7 @@
 
 #include "job/values/FileStamp.h"
 #include "job/values/PictureFacts.h"
+#include "job/values/Versions.h"
 #include "job/values/Warning.h"
 
 #include <QJsonArray>
@@ -25,5 +26,9 @@ QJsonArray JsonOf(const Warnings& warnings);
 /// "bytes", "modified" and, unless it is 0, "number". The last two are texts: they do not fit into numbers of JSON.
 FileStamp ReadStamp(const QJsonObject& object);
 QJsonObject JsonOf(const FileStamp& stamp);
+
+/// Texts by the names of what has these versions. Empty texts are left out.
+Versions ReadVersions(const QJsonObject& object);
+QJsonObject JsonOf(const Versions& versions);
 
 } // namespace BatchJob

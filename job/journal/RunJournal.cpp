@@ -66,7 +66,6 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
 
 void ReadName(const QJsonObject& line, JournalState& state)
 {
-    state.makers = line.value(Key("makers")).toString(state.makers);
     const int index = line.value(Key("named")).toInt(-1);
     if (index < 0) {
         return;
@@ -80,6 +79,10 @@ void ReadName(const QJsonObject& line, JournalState& state)
 void ReadLine(const QJsonObject& line, JournalState& state)
 {
     ReadName(line, state);
+    const QJsonObject makers = line.value(Key("makers")).toObject();
+    if (!makers.isEmpty()) {
+        state.makers = ReadVersions(makers);
+    }
     const QString output = line.value(Key("output")).toString();
     for (const Kind kind : {Kind::Written, Kind::Unchanged, Kind::Skipped, Kind::Failed}) {
         const int index = line.value(ResultWord(kind)).toInt(-1);
@@ -89,6 +92,9 @@ void ReadLine(const QJsonObject& line, JournalState& state)
                                   ReadWarnings(line.value(Key("warnings")).toArray()), ReadFacts(line),
                                   TimeOfText(line.value(Key("finished")).toString()),
                                   ReadStamp(line.value(Key("result")).toObject())});
+            if (!state.makers.isEmpty()) {
+                state.byMakers.insert(index);
+            }
             state.begun.remove(index);
             state.losses.remove(index);
         }
@@ -294,9 +300,9 @@ void RunJournal::FixNames(const QVector<FixedName>& names)
     }
 }
 
-void RunJournal::NoteMakers(const QString& makers)
+void RunJournal::NoteMakers(const Versions& makers)
 {
-    Write(QJsonDocument(QJsonObject{{Key("makers"), makers}}).toJson(QJsonDocument::Compact));
+    Write(QJsonDocument(QJsonObject{{Key("makers"), JsonOf(makers)}}).toJson(QJsonDocument::Compact));
 }
 
 void RunJournal::Lose(const QVector<int>& indexes)

@@ -7,6 +7,7 @@
 #include "job/values/FixedName.h"
 #include "job/values/PictureFacts.h"
 #include "job/values/ResultKind.h"
+#include "job/values/Versions.h"
 #include "job/values/Warning.h"
 
 #include <QDateTime>
@@ -14,6 +15,7 @@
 #include <QHash>
 #include <QMap>
 #include <QPair>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -89,8 +91,9 @@ struct JournalState
     /// Where the run makes a part of a greater job, whose plan has made the names.
     QHash<int, FixedName> names;
 
-    /// What makes the pictures of such a part: text of its host, which alone reads it.
-    QString makers;
+    /// What makes the pictures of such a part, and the files that it has settled.
+    Versions makers;
+    QSet<int> byMakers;
 
     /// Of files that an update has begun with, also of those that have a result.
     QHash<int, ResultOrigin> origins;
@@ -138,8 +141,8 @@ public:
     /// The names of the results from the first on, which nothing may change.
     void FixNames(const QVector<FixedName>& names);
 
-    /// See JournalState::makers.
-    void NoteMakers(const QString& makers);
+    /// What makes the results that follow.
+    void NoteMakers(const Versions& makers);
 
     /// The server died while these files were in work.
     void Lose(const QVector<int>& indexes);

@@ -134,16 +134,13 @@ QJsonObject HeaderOf(const PartPlan& plan)
             {Key("parts"), parts},
             {Key("policies"), policies},
             {Key("sources"), sources},
-            {Key("program"), plan.makers.program},
-            {Key("qt"), plan.makers.qt},
-            {Key("pictures"), plan.makers.pictures}};
+            {Key("makers"), BatchJob::JsonOf(plan.makers)}};
 }
 
 bool ReadHeader(const QJsonObject& header, PartPlan& plan)
 {
     plan.folder = header.value(Key("folder")).toString();
-    plan.makers = {header.value(Key("program")).toString(), header.value(Key("qt")).toString(),
-                   header.value(Key("pictures")).toInt()};
+    plan.makers = ReadVersions(header.value(Key("makers")).toObject());
     for (const QJsonValue value : header.value(Key("jobs")).toArray()) {
         const QJsonObject job = value.toObject();
         plan.jobs.append({job.value(Key("name")).toString(), job.value(Key("document")).toString(),

@@ -6,6 +6,7 @@
 #include "job/values/FileStamp.h"
 #include "job/values/FixedName.h"
 #include "job/values/PolicyValues.h"
+#include "job/values/Versions.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -37,21 +38,6 @@ struct PlannedFile
     QVector<PlannedResult> results; ///< one for each job
 };
 
-/// What makes the pictures.
-struct PictureMakers
-{
-    QString program;  ///< version
-    QString qt;       ///< version
-    int pictures = 0; ///< pictureVersion
-
-    QString Text() const { return QStringLiteral("%1, Qt %2, pictures %3").arg(program, qt).arg(pictures); }
-
-    bool operator==(const PictureMakers& other) const
-    {
-        return program == other.program && qt == other.qt && pictures == other.pictures;
-    }
-};
-
 /// Everything but the files of the parts.
 struct PartPlan
 {
@@ -79,7 +65,7 @@ struct PartPlan
     QVector<Part> parts;
     PolicyValues policies{};     ///< none of them asks
     QMap<QString, QString> said; ///< the policies that the command which has split the job has named, by their options
-    PictureMakers makers;
+    Versions makers;             ///< what the job was split with
     QVector<QPair<QString, FileStamp>> sources; ///< files that every result needs
 
     int FileCount() const;

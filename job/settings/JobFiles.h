@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 class ZTBatchDocument;
 class ZTBatchInputModel;
 
@@ -29,6 +31,9 @@ QVector<JobFile> FilesOfJob(const ZTBatchInputModel& input);
 
 /// The files that every result needs: those of the effects and of the framing.
 QStringList FilesOfSettings(const JobSettings& settings);
+
+/// Has the settings of `job` name the files `here(path)` instead of those that they name.
+void MoveFilesOfSettings(ZTBatchDocument& job, const std::function<QString(const QString& path)>& here);
 
 /// The text of `job` without its inputs.
 QString SettingsTextOf(const ZTBatchDocument& job);

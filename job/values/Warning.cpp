@@ -51,6 +51,8 @@ QString WarningWord(WarningKind kind)
         return QStringLiteral("film-lost");
     case WarningKind::AudioLost:
         return QStringLiteral("audio-lost");
+    case WarningKind::OtherVersions:
+        return QStringLiteral("other-versions");
     case WarningKind::Framing:
         return QStringLiteral("framing");
     case WarningKind::Decoder:
@@ -89,6 +91,8 @@ QString WarningTitle(WarningKind kind)
         return Phrase::English("film lost");
     case WarningKind::AudioLost:
         return Phrase::English("audio lost");
+    case WarningKind::OtherVersions:
+        return Phrase::English("made by other versions than the plan");
     case WarningKind::Framing:
         return Phrase::English("framing without effect");
     case WarningKind::Decoder:

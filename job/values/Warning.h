@@ -21,6 +21,7 @@ enum class WarningKind {
     DepthLost,        ///< the result lacks the map that says how far away each place is
     FilmLost,         ///< the result lacks moving pictures that the file has beside its picture
     AudioLost,        ///< the result lacks sound that the file has beside its picture
+    OtherVersions,    ///< other versions have made it than those that have planned it
     Framing,          ///< a part of the framing has no effect
     Decoder           ///< what a decoder says of the file
 };

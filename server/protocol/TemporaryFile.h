@@ -51,12 +51,28 @@ public:
     /// removes the file.
     Placement Place(bool replaceExisting);
 
+    /// Whether a file with the very bytes of this one has the final name. A link there is not followed: it is another
+    /// file, wherever it leads. After Place() has found the name taken.
+    bool HasTwin() const;
+
+    /// Removes an empty file that has the final name, on file systems where Place() needs one for a moment: a process
+    /// that was killed in that moment has left it. False if there is none, or the file system needs none. After
+    /// Create().
+    bool RemovePlaceholder() const;
+
     /// What went wrong, for users.
     QString Error() const { return error; }
 
-    /// Removes the temporary files in the folder `path` that no process is writing. Returns their number. May be called
-    /// on any thread, while other processes do the same. Links are treated as in the constructor.
-    static int Sweep(const QString& path, const QString& root = {});
+    /// Temporary files in a folder.
+    struct Sweeping
+    {
+        int removed = 0;
+        int unclear = 0; ///< that stay, as the file system has no locks to tell whether they are being written
+    };
+
+    /// Removes the temporary files in the folder `path` that no process is writing. May be called on any thread, while
+    /// other processes do the same. Links are treated as in the constructor.
+    static Sweeping Sweep(const QString& path, const QString& root = {});
 
 private:
     Q_DISABLE_COPY(TemporaryFile)

@@ -5,15 +5,20 @@
 
 #include "TemporaryName.h"
 
+#include "job/values/Phrase.h"
+
 #include <QDir>
 #include <QFileInfo>
 
 #include <qt_windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <fcntl.h>
 #include <io.h>
 #include <vector>
+
+using BatchJob::Phrase;
 
 namespace BatchProtocol {
 
@@ -52,6 +57,36 @@ DWORD Rename(HANDLE file, const QString& to, bool replaceExisting)
     std::memcpy(info->FileName, name.data(), nameBytes);
     const auto size = static_cast<DWORD>(memory.size());
     return SetFileInformationByHandle(file, FileRenameInfo, info, size) ? ERROR_SUCCESS : GetLastError();
+}
+
+/// Reads `size` bytes at `place`. False if there are fewer.
+bool ReadBlock(HANDLE file, char* bytes, DWORD size, qint64 place)
+{
+    OVERLAPPED from{};
+    from.Offset = DWORD(place);
+    from.OffsetHigh = DWORD(place >> 32);
+    DWORD count = 0;
+    return ReadFile(file, bytes, size, &count, &from) && count == size;
+}
+
+bool HaveSameBytes(HANDLE one, HANDLE other)
+{
+    constexpr qint64 blockSize = 256 << 10;
+    LARGE_INTEGER size;
+    LARGE_INTEGER sizeOfOther;
+    if (!GetFileSizeEx(one, &size) || !GetFileSizeEx(other, &sizeOfOther) || size.QuadPart != sizeOfOther.QuadPart) {
+        return false;
+    }
+    std::vector<char> ofOne(blockSize);
+    std::vector<char> ofOther(blockSize);
+    for (qint64 place = 0; place < size.QuadPart; place += blockSize) {
+        const auto count = DWORD(std::min<qint64>(blockSize, size.QuadPart - place));
+        if (!ReadBlock(one, ofOne.data(), count, place) || !ReadBlock(other, ofOther.data(), count, place) ||
+            !std::equal(ofOne.begin(), ofOne.begin() + qint64(count), ofOther.begin())) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -112,29 +147,53 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
     const bool isReady =
         FlushFileBuffers(file) && SetFileAttributesW(Native(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
     const DWORD problem = isReady ? Rename(file, finalName, replaceExisting) : GetLastError();
+    if (problem == ERROR_ALREADY_EXISTS || problem == ERROR_FILE_EXISTS) {
+        error = Phrase::English("\"%1\" exists already").arg(finalName);
+        return Placement::NameTaken;
+    }
     if (problem != ERROR_SUCCESS) {
         Fail(static_cast<int>(problem));
-        const bool isTaken = problem == ERROR_ALREADY_EXISTS || problem == ERROR_FILE_EXISTS;
-        return isTaken ? Placement::NameTaken : Placement::Failed;
+        return Placement::Failed;
     }
     name.clear();
     return Placement::Done;
 }
 
-int TemporaryFile::Sweep(const QString& path, const QString& root)
+bool TemporaryFile::HasTwin() const
 {
+    const HANDLE twin = CreateFileW(Native(finalName).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (twin == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    FILE_ATTRIBUTE_TAG_INFO kind;
+    constexpr DWORD noFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    const bool isFile = GetFileInformationByHandleEx(twin, FileAttributeTagInfo, &kind, sizeof(kind)) &&
+                        (kind.FileAttributes & noFile) == 0;
+    const bool isEqual = isFile && HaveSameBytes(HandleOf(descriptor), twin);
+    CloseHandle(twin);
+    return isEqual;
+}
+
+bool TemporaryFile::RemovePlaceholder() const
+{
+    return false; // Every file system renames without replacing.
+}
+
+TemporaryFile::Sweeping TemporaryFile::Sweep(const QString& path, const QString& root)
+{
+    Sweeping sweeping;
     ResultFolder folder;
     if (!folder.Open(root, path, ResultFolder::Missing::Fail)) {
-        return 0;
+        return sweeping;
     }
-    int count = 0;
     const QStringList names = QDir(path).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
         if (IsTemporaryName(name) && DeleteFileW(Native(path + QLatin1Char('/') + name).c_str())) {
-            ++count;
+            ++sweeping.removed;
         }
     }
-    return count;
+    return sweeping;
 }
 
 bool TemporaryFile::Fail(int errorNumber)

@@ -103,7 +103,7 @@ auto Fields(Record& record)
         return std::tie(record.number, record.inputFile);
     } else if constexpr (std::is_same_v<Plain, PictureTask>) {
         return std::tie(record.number, record.inputFile, record.outputFile, record.outputRoot, record.format,
-                        record.replaceExisting, record.fileNumber, record.keepsPixels);
+                        record.replaceExisting, record.fileNumber, record.keepsPixels, record.countsTwin);
     } else if constexpr (std::is_same_v<Plain, Beginning>) {
         return std::tie(record.number);
     } else {

@@ -76,6 +76,7 @@ struct PictureTask
     bool replaceExisting = false; ///< if not, a file of the final name is never touched, whenever it appeared
     qint64 fileNumber = 1;        ///< of the file in texts of the result, see OutputNaming::NumberOf()
     bool keepsPixels = false;     ///< the next task reads the same input: what is slow to decode is kept for it
+    bool countsTwin = false;      ///< a file of the final name that has the very bytes of the result is the result
 };
 
 /// The worker begins a task.

@@ -7,6 +7,7 @@
 #include "job/plan/CommandLog.h"
 #include "job/plan/FolderCheck.h"
 #include "job/plan/TroubleLine.h"
+#include "job/plan/UnclearFilesLine.h"
 #include "job/plan/WarningLine.h"
 #include "job/values/Phrase.h"
 #include "server/protocol/SystemProtection.h"
@@ -15,6 +16,7 @@
 #include "server/protocol/WorkerFiles.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -216,6 +218,9 @@ void Run::BeginWork()
     if (preparation->removedFiles > 0) {
         host.Log(QStringLiteral("Removed %1 unfinished files of an earlier run.").arg(preparation->removedFiles));
     }
+    if (preparation->unclearFiles > 0) {
+        host.Log(UnclearFilesLine::Of(preparation->unclearFiles));
+    }
     AdoptUnjournaledResults();
     AdoptUnchanged();
     if (limits.followsLinks) {
@@ -351,11 +356,26 @@ bool Run::GivePicture(int file)
                   recipes.at(names.JobOf(file)).For(format, names.NumberOf(file))};
     }
     record.Journal().Begin(file, {output, before ? before->Text() : QString()}, origin);
-    const bool mayReplace = plan.IsOverwriting(file) || plan.HasFixedName(file) || (update && update->IsOwn(output));
-    const PictureTask task{
-        file, input, output, outputRoot, format, mayReplace, names.NumberOf(file), SharesPixelsWithNext(file)};
+    // Another run of the same part of a job may make the same result at the same time.
+    const PictureTask task{file,
+                           input,
+                           output,
+                           outputRoot,
+                           format,
+                           MayReplace(file),
+                           names.NumberOf(file),
+                           SharesPixelsWithNext(file),
+                           plan.HasFixedName(file)};
     Give({number, file, jobs.at(names.JobOf(file)), task, before, false});
     return true;
+}
+
+/// Whether the result may take the place of a file that has its name.
+bool Run::MayReplace(int file) const
+{
+    const bool overwritesFixedName =
+        plan.HasFixedName(file) && decisions.CurrentPolicies().Of(PolicyKind::Naming) == Decision::Overwrite;
+    return plan.IsOverwriting(file) || overwritesFixedName || (update && update->IsOwn(plan.Names().Output(file)));
 }
 
 /// Makes the folder unless it exists. Returns why results cannot go there; empty if they can.
@@ -497,6 +517,13 @@ bool Run::FinishUnreported(const Assignment& task)
     TemporaryFile::Sweep(plan.Names().Folder(task.file), outputRoot);
     const std::optional<FileIdentity> now = IdentityOf(picture->outputFile);
     if (!now || now == task.before) {
+        return false;
+    }
+    if (!task.before && QFileInfo(picture->outputFile).size() == 0) { // No result is empty.
+        TemporaryFile beside(picture->outputFile, outputRoot);
+        if (beside.Create()) {
+            beside.RemovePlaceholder();
+        }
         return false;
     }
     FinishPicture(task.file, Report());

@@ -83,6 +83,7 @@ private:
 
     void Give(const BatchProtocol::Assignment& task);
     bool GivePicture(int file);
+    bool MayReplace(int file) const;
     bool SharesPixelsWithNext(int file);
     bool IsSlowToDecode(int file);
     void ExamineNext();

@@ -5,6 +5,7 @@
 
 #include "JobReader.h"
 
+#include "job/journal/LockFiles.h"
 #include "job/journal/OwnFile.h"
 #include "job/plan/SharedNames.h"
 #include "job/values/FileIdentity.h"
@@ -21,6 +22,7 @@
 #include <vector>
 
 using namespace BatchJob;
+using BatchProtocol::TemporaryFile;
 
 namespace BatchSupervisor {
 
@@ -99,7 +101,7 @@ void RunPreparation::OpenJournal(const QString& path, const QString& document)
     constexpr int lockTimeout = 15'000; // ms
     journalLock = std::make_unique<QLockFile>(lockPath);
     journalLock->setStaleLockTime(0); // Only the end of its holder makes a lock stale, not its age.
-    if (!journalLock->tryLock(lockTimeout)) {
+    if (!TakeLock(*journalLock, lockPath, lockTimeout)) {
         const bool isHeld = journalLock->error() == QLockFile::LockFailedError;
         refuse(isHeld ? Phrase::English("another server holds %1").arg(lockPath)
                       : Phrase::English("%1 cannot be written; the disk may be full").arg(lockPath));
@@ -128,8 +130,13 @@ void RunPreparation::EnterEarlierResults()
         }
     }
     for (auto it = earlier->begun.constBegin(); it != earlier->begun.constEnd(); ++it) {
+        if (it.key() >= plan.Count() || plan.HasFixedName(it.key())) {
+            continue; // A fixed name may be that of anybody's file. The worker compares them.
+        }
         const std::optional<FileIdentity> identity = IdentityOf(it->output);
-        if (it.key() < plan.Count() && identity && identity->Text() != it->before) {
+        if (identity && it->before.isEmpty() && QFileInfo(it->output).size() == 0) {
+            placeholders.append(it->output); // No result is empty.
+        } else if (identity && identity->Text() != it->before) {
             earlier->results.insert(it.key(), {Kind::Written, it->output, 0, {}});
             unreported.append(it.key());
         }
@@ -151,6 +158,12 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
     if (earlier && !earlier->isComplete) {
         plan.ExpectResultsSince(earlier->beganAt);
     }
+    for (const QString& path : qAsConst(placeholders)) {
+        TemporaryFile beside(path, outputRoot);
+        if (beside.Create()) {
+            beside.RemovePlaceholder();
+        }
+    }
     if (!plan.MakeNames(policies, isCancelled)) {
         return;
     }
@@ -163,7 +176,11 @@ void RunPreparation::MakeNames(const Policies& policies, const Cancelled& isCanc
     FindUnjournaledResults();
     FindUnchanged(isCancelled);
     for (const QString& folder : plan.Folders()) {
-        removedFiles += isCancelled() ? 0 : BatchProtocol::TemporaryFile::Sweep(folder, outputRoot);
+        if (!isCancelled()) {
+            const TemporaryFile::Sweeping sweeping = TemporaryFile::Sweep(folder, outputRoot);
+            removedFiles += sweeping.removed;
+            unclearFiles += sweeping.unclear;
+        }
     }
 }
 
@@ -174,7 +191,7 @@ void RunPreparation::FindUnjournaledResults()
     }
     for (int i = 0; i < plan.Count(); ++i) {
         const bool isKnown = earlier->results.contains(i) || earlier->begun.contains(i);
-        if (isKnown || plan.TroubleOf(i).kind != PolicyKind::None) {
+        if (isKnown || plan.HasFixedName(i) || plan.TroubleOf(i).kind != PolicyKind::None) {
             continue;
         }
         const std::optional<qint64> changed = ChangeTimeOf(plan.Names().Output(i));

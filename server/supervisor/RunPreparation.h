@@ -62,6 +62,7 @@ struct RunPreparation
     BatchJob::RunJournal journal;           ///< open if there is an earlier part of the run
     std::optional<BatchJob::JournalState> earlier;
     QVector<int> unreported;  ///< files whose results were finished, but not journaled
+    QStringList placeholders; ///< empty files in the places of results that were begun
     QVector<int> unjournaled; ///< the same of files that were not even begun by the journal; known with the names
     QVector<BatchJob::Recipe> recipes;           ///< of an update, one for each job
     std::optional<BatchJob::UpdateCheck> update; ///< nothing if all results are to be made
@@ -72,6 +73,7 @@ struct RunPreparation
     bool replacesOriginals = false;
     bool refusesSharedNames = false;
     int removedFiles = 0; ///< unfinished files of earlier runs
+    int unclearFiles = 0; ///< those that may be in work, as the file system has no locks
 };
 
 /// The files of a run that are still to be probed, or whose probe is not over.

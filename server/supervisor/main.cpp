@@ -5,6 +5,7 @@
 #include "ProcessSetup.h"
 #include "Server.h"
 
+#include "job/journal/LockFiles.h"
 #include "job/values/VisibleText.h"
 #include "server/protocol/ServerLimits.h"
 #include "server/protocol/WorkerProgram.h"
@@ -21,6 +22,9 @@ namespace {
 /// Standard error is the host's terminal, and a line may quote a worker.
 void WriteLine(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
+    if (BatchJob::IsWarningOfLocks(text)) {
+        return;
+    }
     std::fprintf(stderr, "%s\n", BatchJob::VisibleText(text).toUtf8().constData());
     if (type == QtFatalMsg) {
         std::abort();

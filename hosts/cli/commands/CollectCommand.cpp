@@ -36,7 +36,7 @@ struct Collection
     QVector<QPair<int, FileResult>> results; ///< by their places in `inputs`
     QVector<int> unfinished;                 ///< parts, from 1
     QVector<int> withFailures;
-    QVector<QPair<int, QString>> byOthers; ///< parts, and the other versions that have made pictures of them
+    QVector<QPair<int, Versions>> byOthers; ///< parts, and the other versions that have made pictures of them
     int finished = 0;
     int written = 0;
     int skipped = 0;
@@ -115,14 +115,12 @@ Collection Collect(const QString& path, const PartPlan& plan, const FolderNames&
 {
     Collection all;
     all.inputs.variants = VariantsOf(plan, names);
-    const PartJournals journals(path, plan.id);
+    const PartJournals journals(path, plan);
     const QString folder = names.Here(plan.folder);
     for (int number = 1; number <= plan.parts.size(); ++number) {
         const PartJournals::Known known = journals.Of(number);
-        for (const QString& makers : known.makers) {
-            if (makers != plan.makers.Text()) {
-                all.byOthers.append({number, makers});
-            }
+        for (const Versions& makers : known.others) {
+            all.byOthers.append({number, makers});
         }
         PartCount count(all, number);
         int index = 0;
@@ -199,10 +197,10 @@ bool IsAsWanted(const Collection& all, const ParsedArguments& arguments, const P
 void TellOthers(const Collection& all, const PartPlan& plan)
 {
     for (const auto& [number, makers] : all.byOthers) {
-        WriteErrorLine(
-            QStringLiteral("velkora-batch: ") +
-            Messages::tr("part %1 was made by version %2, but the plan by version %3; its pictures may differ.")
-                .arg(QString::number(number), makers, plan.makers.Text()));
+        WriteErrorLine(QStringLiteral("velkora-batch: ") +
+                       Messages::tr("part %1 was made with %2, but the plan with %3; its pictures may differ.")
+                           .arg(QString::number(number), DifferenceBetween(makers, plan.makers),
+                                DifferenceBetween(plan.makers, makers)));
     }
 }
 
@@ -236,7 +234,7 @@ ExitCode CollectParts(const ParsedArguments& arguments)
     const bool isSame = all.byOthers.isEmpty() || !arguments.Has(QStringLiteral("--same-versions"));
     const bool isDone =
         isSame && all.unfinished.isEmpty() && (all.failed == 0 || arguments.Has(QStringLiteral("--remove")));
-    if (isDone && isReported && (!PartJournals(path, plan.id).Remove() || !QFile::remove(path))) {
+    if (isDone && isReported && (!PartJournals(path, plan).Remove() || !QFile::remove(path))) {
         WriteErrorLine(QStringLiteral("velkora-batch: ") +
                        Messages::tr("the plan %1 or its journals cannot be removed.").arg(path));
     }

@@ -29,16 +29,19 @@ namespace BatchCli {
 
 namespace {
 
-void CheckMakers(const BatchJob::PartPlan& plan, const ParsedArguments& arguments)
+/// Warns of versions that differ from those of the plan. Returns what to say of each picture that they make.
+BatchJob::Warnings CheckMakers(const BatchJob::PartPlan& plan, const BatchJob::Versions& here,
+                               const ParsedArguments& arguments)
 {
-    const QString difference = DifferenceOfMakers(plan, MakersHere(QCoreApplication::applicationVersion()));
+    const QString difference = DifferenceOfMakers(plan, here);
     if (difference.isEmpty()) {
-        return;
+        return {};
     }
     if (arguments.Has(QStringLiteral("--same-versions"))) {
         throw RequestError{difference};
     }
     WriteErrorLine(QStringLiteral("velkora-batch: ") + WithFullStop(Translated(difference)));
+    return {WarningOfMakers(here, plan.makers)};
 }
 
 } // namespace
@@ -53,7 +56,8 @@ ExitCode RunPart(const ParsedArguments& arguments)
     const FolderNames names(arguments.Values(QStringLiteral("--map")));
     const PartJob part(path, plan, number, names);
     part.CheckFiles();
-    CheckMakers(plan, arguments);
+    const BatchJob::Versions makers = MakersHere(QCoreApplication::applicationVersion());
+    const BatchJob::Warnings ofEachResult = CheckMakers(plan, makers, arguments);
     RunOutput output(arguments);
     InterruptWatcher interrupts;
     ZTBatchDocument job;
@@ -64,9 +68,10 @@ ExitCode RunPart(const ParsedArguments& arguments)
             TellObstacle(run);
             return ExitCode::ServerLost;
         }
-        JournaledJob journaled = part.Begin(job, MakersHere(QCoreApplication::applicationVersion()));
+        JournaledJob journaled = part.Begin(job, makers);
         const auto controller = run.Prepare(
-            job, journaled, {plan.policies, arguments.Has(QStringLiteral("--strict")), {}, {}}, output.Observers());
+            job, journaled, {plan.policies, arguments.Has(QStringLiteral("--strict")), {}, {}, ofEachResult},
+            output.Observers());
         end = RunInteractively(*controller, output.Display(), interrupts);
     }
     TellTroubleOfServer(end);

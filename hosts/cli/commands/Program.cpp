@@ -10,6 +10,7 @@
 #include "hosts/common/Language.h"
 #include "hosts/common/RequestError.h"
 #include "hosts/common/options/Words.h"
+#include "job/journal/LockFiles.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -39,6 +40,9 @@ bool isVerbose = false;
 /// Debug lines of the library are printed with --verbose only.
 void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
+    if (BatchJob::IsWarningOfLocks(text)) {
+        return;
+    }
     if (type != QtDebugMsg || isVerbose) {
         WriteErrorLine(type == QtDebugMsg ? text : Translated(text));
     }

@@ -6,6 +6,7 @@
 #include "Console.h"
 
 #include "hosts/common/Language.h"
+#include "job/plan/UnclearFilesLine.h"
 
 #include <algorithm>
 
@@ -102,7 +103,9 @@ void RunDisplay::OnNote(const QString& input, const QString&, const QString& wha
 
 void RunDisplay::OnLog(const QString& text)
 {
-    if (detail == Detail::Verbose) {
+    if (BatchJob::UnclearFilesLine::Is(text)) {
+        Write(QStringLiteral("velkora-batch: ") + Translated(text));
+    } else if (detail == Detail::Verbose) {
         Write(QStringLiteral("log: %1").arg(text));
     }
 }

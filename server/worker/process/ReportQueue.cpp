@@ -32,9 +32,21 @@ void WriteAll(int output, const QByteArray& bytes)
     }
 }
 
-void Place(const MadePicture& made, bool replaceExisting, Report& report)
+TemporaryFile::Placement PlaceOrFind(TemporaryFile& file, const Placing& placing)
 {
-    switch (made.file->Place(replaceExisting)) {
+    const TemporaryFile::Placement placement = file.Place(placing.replacesExisting);
+    if (placement != TemporaryFile::Placement::NameTaken || !placing.countsTwin) {
+        return placement;
+    }
+    if (file.RemovePlaceholder()) {
+        file.Place(false); // Else another run of the part has just placed the result.
+    }
+    return file.HasTwin() ? TemporaryFile::Placement::Done : placement;
+}
+
+void Place(const MadePicture& made, const Placing& placing, Report& report)
+{
+    switch (PlaceOrFind(*made.file, placing)) {
     case TemporaryFile::Placement::Done:
         return;
     case TemporaryFile::Placement::NameTaken:
@@ -78,12 +90,12 @@ void ReportQueue::SendNow(const FromWorker& message)
 
 void ReportQueue::Send(const Report& report)
 {
-    Append({report, std::nullopt, false});
+    Append({report, std::nullopt, {}});
 }
 
-void ReportQueue::FinishAndSend(MadePicture made, bool replaceExisting, const Report& report)
+void ReportQueue::FinishAndSend(MadePicture made, const Placing& placing, const Report& report)
 {
-    Append({report, std::move(made), replaceExisting});
+    Append({report, std::move(made), placing});
 }
 
 void ReportQueue::Append(Item item)
@@ -114,7 +126,7 @@ void ReportQueue::SendAll()
 {
     while (std::optional<Item> item = Next()) {
         if (item->made) {
-            Place(*item->made, item->replaceExisting, item->report);
+            Place(*item->made, item->placing, item->report);
             item->made.reset();
         }
         SendNow(item->report);

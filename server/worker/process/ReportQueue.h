@@ -15,6 +15,13 @@
 
 namespace BatchWorker {
 
+/// What a result does about a file that has its final name.
+struct Placing
+{
+    bool replacesExisting = false;
+    bool countsTwin = false; ///< a file of the same bytes is the result
+};
+
 /// Sends reports in order. The report on a result is sent once the result is complete on disk under its final name;
 /// that happens on a thread of its own, while the next picture is being made. The thread starts with the first report
 /// that is queued.
@@ -35,7 +42,7 @@ public:
     void Send(const BatchProtocol::Report& report);
 
     /// Gives `made` its final name, then sends `report`; on failure, the reason instead.
-    void FinishAndSend(MadePicture made, bool replaceExisting, const BatchProtocol::Report& report);
+    void FinishAndSend(MadePicture made, const Placing& placing, const BatchProtocol::Report& report);
 
 private:
     Q_DISABLE_COPY(ReportQueue)
@@ -44,7 +51,7 @@ private:
     {
         BatchProtocol::Report report;
         std::optional<MadePicture> made;
-        bool replaceExisting = false;
+        Placing placing;
     };
 
     void Append(Item item);

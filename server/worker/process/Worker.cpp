@@ -205,7 +205,7 @@ void Worker::Make(const PictureTask& task)
     report.number = task.number;
     report.facts.milliseconds = int(time.elapsed());
     if (made.file) {
-        reports.FinishAndSend(std::move(made), task.replaceExisting, report);
+        reports.FinishAndSend(std::move(made), {task.replaceExisting, task.countsTwin}, report);
     } else {
         reports.Send(report);
     }

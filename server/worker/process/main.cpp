@@ -4,13 +4,17 @@
 #include "Confinement.h"
 #include "EarlyLoading.h"
 #include "ImagingLibrary.h"
+#include "LibraryVersions.h"
 #include "ReportQueue.h"
 #include "Worker.h"
+
+#include "server/protocol/WorkerVersions.h"
 
 #include <vips/vips8>
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -31,9 +35,14 @@ int TakeStandardOutput()
 
 int main(int argc, char** argv)
 {
+    if (argc == 2 && std::strcmp(argv[1], versionsArgument) == 0) {
+        std::fputs(LinesOf(LibraryVersions()).constData(), stdout);
+        return EXIT_SUCCESS;
+    }
     const int output = TakeStandardOutput();
     if (argc != 1 || isatty(STDIN_FILENO) == 1) {
-        std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing and takes no arguments.\n");
+        std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing. --versions lists the "
+                             "libraries that make pictures.\n");
         return EXIT_FAILURE;
     }
     Confinement confinement;

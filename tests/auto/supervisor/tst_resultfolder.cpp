@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace BatchProtocol;
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void followsLinksWithoutRoot();
     void linkBetweenCreationAndPlacing_data();
     void linkBetweenCreationAndPlacing();
+    void twins_data();
+    void twins();
     void fileIsOpenedOnceMore();
     void sweepsNothingBehindLinks();
 
@@ -156,6 +159,42 @@ void tst_ResultFolder::linkBetweenCreationAndPlacing()
     QCOMPARE(Names(QStringLiteral("moved")), QStringList({QStringLiteral("b"), QStringLiteral("result.jpg")}));
 }
 
+void tst_ResultFolder::twins_data()
+{
+    QTest::addColumn<QByteArray>("result");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("isTwin");
+    const QByteArray large(700'000, 'x');
+    QTest::newRow("same") << QByteArray("whole") << "out/a/same" << true;
+    QTest::newRow("empty") << QByteArray() << "out/a/empty" << true;
+    QTest::newRow("large") << large << "out/a/large" << true;
+    QTest::newRow("last byte differs") << large.chopped(1) + 'y' << "out/a/large" << false;
+    QTest::newRow("first byte differs") << 'y' + large.mid(1) << "out/a/large" << false;
+    QTest::newRow("shorter") << large.chopped(1) << "out/a/large" << false;
+    QTest::newRow("longer") << large + 'x' << "out/a/large" << false;
+    QTest::newRow("link to the same") << QByteArray("whole") << "out/a/link" << false;
+    QTest::newRow("folder") << QByteArray() << "out/a/b" << false;
+    QTest::newRow("pipe") << QByteArray() << "out/a/pipe" << false;
+    QTest::newRow("nothing") << QByteArray() << "out/a/none" << false;
+}
+
+void tst_ResultFolder::twins()
+{
+    QFETCH(QByteArray, result);
+    QFETCH(QString, other);
+    QFETCH(bool, isTwin);
+    Write(QStringLiteral("out/a/same"), "whole");
+    Write(QStringLiteral("out/a/empty"), "");
+    Write(QStringLiteral("out/a/large"), QByteArray(700'000, 'x'));
+    QCOMPARE(::symlink("same", Path(QStringLiteral("out/a/link")).toUtf8().constData()), 0);
+    QCOMPARE(::mkfifo(Path(QStringLiteral("out/a/pipe")).toUtf8().constData(), 0600), 0);
+    TemporaryFile file(Path(other), Path(QStringLiteral("out")));
+    QVERIFY(file.Create());
+    QCOMPARE(::write(file.Descriptor(), result.constData(), std::size_t(result.size())), ssize_t(result.size()));
+    QCOMPARE(file.HasTwin(), isTwin);
+    QCOMPARE(::lseek(file.Descriptor(), 0, SEEK_CUR), off_t(result.size()));
+}
+
 void tst_ResultFolder::fileIsOpenedOnceMore()
 {
     TemporaryFile file(Path(QStringLiteral("out/a/result.jpg")), Path(QStringLiteral("out")));
@@ -177,8 +216,8 @@ void tst_ResultFolder::sweepsNothingBehindLinks()
     Write(QStringLiteral("private/.velkora-0123456789abcdef.tmp"), "precious");
     Write(QStringLiteral("out/a/.velkora-0123456789abcdef.tmp"), "left");
     const QString root = Path(QStringLiteral("out"));
-    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/link")), root), 0);
-    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/a")), root), 1);
+    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/link")), root).removed, 0);
+    QCOMPARE(TemporaryFile::Sweep(Path(QStringLiteral("out/a")), root).removed, 1);
     QCOMPARE(Content(QStringLiteral("private/.velkora-0123456789abcdef.tmp")), QByteArray("precious"));
 }
 

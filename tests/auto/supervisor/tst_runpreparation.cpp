@@ -30,6 +30,8 @@ private Q_SLOTS:
     void journaledResultsKeepTheirNames();
     void finishedResultsAreFound_data();
     void finishedResultsAreFound();
+    void fixedNamesMayBeOthers_data();
+    void fixedNamesMayBeOthers();
     void filesThatTheJobDoesNotHave();
     void unfinishedFilesAreRemoved();
     void cancelledNamesRemoveNothing();
@@ -241,6 +243,37 @@ void tst_RunPreparation::finishedResultsAreFound()
     QCOMPARE(preparation.plan.Names().IsKept(0), isFound);
     QCOMPARE(preparation.unreported, isFound ? QVector<int>{0} : QVector<int>());
     QCOMPARE(preparation.earlier->results.contains(0), isFound);
+}
+
+void tst_RunPreparation::fixedNamesMayBeOthers_data()
+{
+    QTest::addColumn<bool>("isComplete");
+    QTest::newRow("complete journal") << true;
+    QTest::newRow("incomplete journal") << false;
+}
+
+/// A file that has come under the name of a part's result need not be the result: the result is made, and compared.
+void tst_RunPreparation::fixedNamesMayBeOthers()
+{
+    QFETCH(bool, isComplete);
+    RunJournal journal;
+    StartJournal(journal);
+    journal.FixNames({{Path(QStringLiteral("out/x.png")), QStringLiteral("PNG")}});
+    if (isComplete) {
+        journal.Begin(0, {Path(QStringLiteral("out/x.png")), {}});
+    }
+    Write(QStringLiteral("out/x.png"), "somebody else's");
+    RunPreparation preparation;
+    preparation.OpenJournal(Path(QStringLiteral("journal")), Document());
+    preparation.earlier->isComplete = isComplete;
+    preparation.plan = Plan(1);
+    preparation.EnterEarlierResults();
+    preparation.MakeNames(Policies(), Never);
+    QVERIFY(preparation.plan.HasFixedName(0));
+    QCOMPARE(preparation.plan.TroubleOf(0).kind, PolicyKind::None);
+    QVERIFY(preparation.unreported.isEmpty());
+    QVERIFY(preparation.unjournaled.isEmpty());
+    QVERIFY(!preparation.earlier->results.contains(0));
 }
 
 void tst_RunPreparation::filesThatTheJobDoesNotHave()

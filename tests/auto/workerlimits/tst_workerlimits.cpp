@@ -380,7 +380,7 @@ void tst_WorkerLimits::marksItsTemporaryFiles()
     QVERIFY2(QRegularExpression(Text("^\\.velkora-[0-9a-f]{16}\\.tmp$")).match(name).hasMatch(), qPrintable(name));
     QCOMPARE(QFileInfo(file.FileName()).path(), folder.path());
     QCOMPARE(write(file.Descriptor(), "whole", 5), ssize_t(5));
-    QCOMPARE(TemporaryFile::Sweep(folder.path()), 0);
+    QCOMPARE(TemporaryFile::Sweep(folder.path()).removed, 0);
     QCOMPARE(file.Place(false), TemporaryFile::Placement::Done);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(Text("result.jpg")));
 }
@@ -401,13 +401,13 @@ void tst_WorkerLimits::sweepsStaleFilesOnly()
     QVERIFY(QFile::link(folder.filePath(Text("photo.jpg")), folder.filePath(Text(".velkora-00000000000000bb.tmp"))));
     TemporaryFile inWork(folder.filePath(Text("result.jpg")));
     QVERIFY(inWork.Create());
-    QCOMPARE(TemporaryFile::Sweep(folder.path()), 1);
+    QCOMPARE(TemporaryFile::Sweep(folder.path()).removed, 1);
     QVERIFY(!QFile::exists(folder.filePath(Text(".velkora-0123456789abcdef.tmp"))));
     QVERIFY(QFile::exists(inWork.FileName()));
     QVERIFY(QFile::exists(folder.filePath(Text("photo.jpg"))));
     QCOMPARE(
         QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System).size(), 7);
-    QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))), 0);
+    QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))).removed, 0);
 }
 
 void tst_WorkerLimits::tellsFailedEffectsFromDamagedFiles()

@@ -3,6 +3,7 @@
 
 #include "server/protocol/TaskFailure.h"
 #include "server/protocol/WorkerMessages.h"
+#include "server/protocol/WorkerVersions.h"
 
 #include <QTimeZone>
 #include <QtEndian>
@@ -28,6 +29,10 @@ private Q_SLOTS:
     void countOfWarningsIsNotBelieved();
     void textsAreCarriedAndCleaned();
     void numbersOfFilesAreCarried();
+    void versionsAreBounded_data();
+    void versionsAreBounded();
+    void programsWithoutVersions_data();
+    void programsWithoutVersions();
     void countOfFilesIsNotBelieved_data();
     void countOfFilesIsNotBelieved();
     void timesComeWithoutTheirZone();
@@ -149,11 +154,57 @@ void tst_WorkerMessages::numbersOfFilesAreCarried()
 {
     PictureTask task;
     task.fileNumber = qint64(1) << 40;
+    task.countsTwin = true;
     FrameReader reader;
     reader.Append(FrameToWorker(task));
     const std::optional<ToWorker> message = reader.NextToWorker();
     QVERIFY(message && std::holds_alternative<PictureTask>(*message));
     QCOMPARE(std::get<PictureTask>(*message).fileNumber, task.fileNumber);
+    QVERIFY(std::get<PictureTask>(*message).countsTwin);
+}
+
+void tst_WorkerMessages::versionsAreBounded_data()
+{
+    QTest::addColumn<QByteArray>("said");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<int>("count");
+    QTest::newRow("two") << LinesOf({{QStringLiteral("b"), QStringLiteral("2")},
+                                     {QStringLiteral("a"), QStringLiteral("1.0 x")}})
+                         << "1.0 x" << 2;
+    QTest::newRow("nothing") << QByteArray() << QString() << 0;
+    QTest::newRow("no version") << QByteArray("a\na \n 1\n\n") << QString() << 0;
+    QTest::newRow("a long line") << "a " + QByteArray(1000, '1') + "\nb 2\n" << QString() << 1;
+    QTest::newRow("controls") << QByteArray("a 1\x1b[2J\n") << "1\\x1b[2J" << 1;
+    QByteArray many;
+    for (int i = 0; i < 10'000; ++i) {
+        many += 'a' + QByteArray::number(i) + " 1\n";
+    }
+    QTest::newRow("many lines") << many << QString() << 100;
+}
+
+void tst_WorkerMessages::versionsAreBounded()
+{
+    QFETCH(QByteArray, said);
+    QFETCH(QString, first);
+    QFETCH(int, count);
+    const Versions versions = VersionsIn(said);
+    QCOMPARE(versions.size(), count);
+    QCOMPARE(versions.value(QStringLiteral("a")), first);
+}
+
+void tst_WorkerMessages::programsWithoutVersions_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("missing") << "/no/such/worker";
+    QTest::newRow("says nothing") << "true";
+}
+
+void tst_WorkerMessages::programsWithoutVersions()
+{
+    QFETCH(QString, program);
+    QString problem;
+    QVERIFY(!VersionsOfWorker(program, problem));
+    QVERIFY(!problem.isEmpty());
 }
 
 void tst_WorkerMessages::countOfFilesIsNotBelieved_data()

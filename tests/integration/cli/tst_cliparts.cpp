@@ -1,43 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
-#include "CliRun.h"
+#include "PartStage.h"
 #include "PictureFiles.h"
 
+#include "job/values/FileIdentity.h"
+
 #include <QDir>
-#include <QDirIterator>
 #include <QProcess>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <memory>
 #include <vector>
 
-namespace {
-
-using Files = QMap<QString, QByteArray>;
-
-/// The content of every file below `folder`, including hidden files, by its relative path.
-Files FilesBelow(const QString& folder)
-{
-    Files files;
-    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (paths.hasNext()) {
-        QFile file(paths.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-        }
-    }
-    return files;
-}
-
-constexpr int partCount = 4;
-
-} // namespace
-
 /// A job that is cut into parts gives what one run gives, whatever happens to the parts.
-class tst_CliParts : public QObject
+class tst_CliParts : public QObject, private PartStage
 {
     Q_OBJECT
 
@@ -60,76 +36,20 @@ private Q_SLOTS:
     void clashThatAsks();
     void morePartsThanPictures();
     void foreignFileStays();
+    void namesThatAreTaken_data();
+    void namesThatAreTaken();
+    void foreignFileAppears_data();
+    void foreignFileAppears();
+    void journalsAreLost();
+    void foldersElsewhere_data();
     void foldersElsewhere();
-    void otherVersions();
-
-private:
-    QString Path(const QString& name) const { return root->filePath(name); }
-    QStringList Arguments(const QString& text) const
-    {
-        QStringList arguments = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (arguments.first() != QLatin1String("collect")) {
-            arguments << QStringLiteral("--settings") << Path(QStringLiteral("settings"));
-        }
-        return arguments;
-    }
-    CliRun Run(const QString& arguments) const { return CliRun::Of(Arguments(arguments), root->path(), environment); }
-    CliRun RunPart(int part) const { return Run(QStringLiteral("run --plan job.plan --part %1").arg(part)); }
-    CliRun Split(const QString& options = {}) const
-    {
-        return Run(
-            QStringLiteral("split %1 -o out --parts %2 --plan job.plan %3").arg(job).arg(partCount).arg(options));
-    }
-    std::unique_ptr<QProcess> Start(int part) const
-    {
-        auto process = std::make_unique<QProcess>();
-        process->setProcessEnvironment(environment);
-        process->setWorkingDirectory(root->path());
-        process->start(QStringLiteral(VELKORA_BATCH),
-                       Arguments(QStringLiteral("run --plan job.plan --part %1").arg(part)));
-        return process;
-    }
-    Files OneRun() const
-    {
-        Run(QStringLiteral("run %1 -o one").arg(job));
-        return FilesBelow(Path(QStringLiteral("one")));
-    }
-    void Write(const QString& name, const QByteArray& content) const
-    {
-        QFile file(Path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    QByteArray Content(const QString& name) const
-    {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    QStringList NamesLike(const QString& wildcard) const
-    {
-        return QDir(root->path()).entryList({wildcard}, QDir::Files | QDir::Hidden);
-    }
-
-    std::unique_ptr<QTemporaryDir> root;
-    QProcessEnvironment environment;
-    QString job;
+    void fileOfAnEffect_data();
+    void fileOfAnEffect();
 };
 
 void tst_CliParts::init()
 {
-    root = std::make_unique<QTemporaryDir>();
-    environment = QProcessEnvironment::systemEnvironment();
-    for (const char* const name :
-         {"SLURM_ARRAY_TASK_ID", "SLURM_ARRAY_TASK_MIN", "JOB_COMPLETION_INDEX", "PARALLEL_SEQ"}) {
-        environment.remove(QString::fromLatin1(name));
-    }
-    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
-    environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
-    // Both folders have results of the same names in one output folder.
-    for (int i = 1; i <= 12; ++i) {
-        PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 300, 200);
-        PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 20 + i, 300, 200);
-    }
-    job = QStringLiteral("a b -s 100 --on-name-exists rename");
+    Reset();
 }
 
 void tst_CliParts::likeOneRun_data()
@@ -186,24 +106,29 @@ void tst_CliParts::atOnce()
 
 void tst_CliParts::killedAndRunAgain_data()
 {
-    QTest::addColumn<int>("milliseconds");
-    for (const int time : {20, 80, 150, 250, 400, 700}) {
-        QTest::addRow("after %d ms", time) << time;
+    QTest::addColumn<int>("results");
+    QTest::newRow("before any result") << 0;
+    for (const int results : {1, 3, 5}) {
+        QTest::addRow("after %d results", results) << results;
     }
 }
 
+/// Each part is killed when it has written so many of its six results, or a few more.
 void tst_CliParts::killedAndRunAgain()
 {
-    QFETCH(int, milliseconds);
+    QFETCH(int, results);
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
+    const auto written = [this] {
+        return QDir(Path(QStringLiteral("out"))).entryList({QStringLiteral("*.jpg")}, QDir::Files).size();
+    };
     for (int part = 1; part <= partCount; ++part) {
-        const std::unique_ptr<QProcess> run = Start(part);
-        QVERIFY(run->waitForStarted());
-        if (!run->waitForFinished(milliseconds)) {
-            run->kill();
-            QVERIFY(run->waitForFinished());
-        }
+        const int before = written();
+        const std::unique_ptr<QProcess> run = Start(part, QStringLiteral("--workers 1"));
+        const auto hasBegun = [&] { return !NamesLike(QStringLiteral("job.plan-*-%1-*.journal").arg(part)).isEmpty(); };
+        QTRY_VERIFY_WITH_TIMEOUT(hasBegun() && written() >= before + results, 60'000);
+        run->kill();
+        QVERIFY(run->waitForFinished());
     }
     for (int part = partCount; part >= 1; --part) {
         const CliRun run = RunPart(part);
@@ -399,45 +324,163 @@ void tst_CliParts::foreignFileStays()
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
 }
 
-void tst_CliParts::foldersElsewhere()
+void tst_CliParts::namesThatAreTaken_data()
+{
+    QTest::addColumn<QString>("by");
+    QTest::addColumn<bool>("isResult");
+    QTest::newRow("the same bytes") << "same" << true;
+    QTest::newRow("as many bytes") << "other" << false;
+    QTest::newRow("a link to the same bytes") << "link" << false;
+    QTest::newRow("a link to nothing") << "dangling" << false;
+    QTest::newRow("a folder") << "folder" << false;
+}
+
+/// Another run of the part may have made the file; only its bytes can tell.
+void tst_CliParts::namesThatAreTaken()
+{
+    QFETCH(QString, by);
+    QFETCH(bool, isResult);
+    const QByteArray result = OneRun().value(QStringLiteral("1.jpg"));
+    QCOMPARE(Split().exitCode, 0);
+    QVERIFY(QDir(root->path()).mkpath(QStringLiteral("out")));
+    QByteArray planted = result;
+    if (by == QLatin1String("other")) {
+        planted[planted.size() / 2] = char(planted.at(planted.size() / 2) ^ 1);
+    }
+    const QString place = Path(QStringLiteral("out/1.jpg"));
+    if (by == QLatin1String("folder")) {
+        QVERIFY(QDir().mkdir(place));
+    } else if (by == QLatin1String("link") || by == QLatin1String("dangling")) {
+        QVERIFY(QFile::link(by == QLatin1String("link") ? Path(QStringLiteral("one/1.jpg")) : by, place));
+    } else {
+        Write(QStringLiteral("out/1.jpg"), planted);
+    }
+    const std::optional<BatchJob::FileIdentity> before = BatchJob::IdentityOf(place);
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, isResult ? 0 : 1);
+    QCOMPARE(run.Err().contains(QLatin1String("out/1.jpg\" exists already")), !isResult);
+    QCOMPARE(BatchJob::IdentityOf(place), before);
+    QCOMPARE(QFileInfo(place).isSymLink(), by == QLatin1String("link") || by == QLatin1String("dangling"));
+    if (QFileInfo(place).isFile()) {
+        QCOMPARE(Content(QStringLiteral("out/1.jpg")), planted);
+    }
+    QCOMPARE(QDir(Path(QStringLiteral("out"))).entryList(QDir::Files | QDir::System | QDir::Hidden).size(),
+             by == QLatin1String("folder") ? 5 : 6);
+}
+
+void tst_CliParts::foreignFileAppears_data()
+{
+    QTest::addColumn<QString>("policy");
+    QTest::addColumn<bool>("stays");
+    QTest::newRow("rename") << "rename" << true;
+    QTest::newRow("skip") << "skip" << true;
+    QTest::newRow("overwrite") << "overwrite" << false;
+}
+
+/// While the part runs.
+void tst_CliParts::foreignFileAppears()
+{
+    QFETCH(QString, policy);
+    QFETCH(bool, stays);
+    for (int i = 1; i <= 12; ++i) {
+        const int side = i == 12 ? 900 : 60; // The last one takes longer than all others.
+        PictureFiles::WriteJpeg(Path(QStringLiteral("c/%1.jpg").arg(i)), i, side, side);
+    }
+    const QString arguments = QStringLiteral("split c -o out --effect denoise --parts 1 --plan job.plan");
+    QCOMPARE(Run(arguments + QStringLiteral(" --on-name-exists ") + policy).exitCode, 0);
+    const std::unique_ptr<QProcess> run = Start(1, QStringLiteral(" --workers 1"));
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(Path(QStringLiteral("out/1.jpg"))), 60'000);
+    QFile foreign(Path(QStringLiteral("out/12.jpg")));
+    QVERIFY(foreign.open(QIODevice::NewOnly | QIODevice::WriteOnly) && foreign.write("somebody else's") > 0);
+    foreign.close();
+    QVERIFY(run->waitForFinished(120'000));
+    const QByteArray said = run->readAllStandardError();
+    QVERIFY2(run->exitCode() == (stays && policy != QLatin1String("skip") ? 1 : 0), said);
+    QCOMPARE(Content(QStringLiteral("out/12.jpg")) == QByteArray("somebody else's"), stays);
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 12);
+    const CliRun collected = Run(QStringLiteral("collect job.plan --report all.json"));
+    QVERIFY2(collected.Out().contains(stays ? QLatin1String("Written: 11, skipped: 1")
+                                            : QLatin1String("Written: 12, skipped: 0")),
+             collected.out);
+    QCOMPARE(Content(QStringLiteral("all.json")).contains("12.jpg\\\" exists already"), stays);
+}
+
+/// As when a machine dies: what was written is found by its bytes.
+void tst_CliParts::journalsAreLost()
 {
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
+    QCOMPARE(RunPart(1).exitCode, 0);
+    const QStringList journals = NamesLike(QStringLiteral("job.plan-*.journal"));
+    QCOMPARE(journals.size(), 1);
+    QVERIFY(QFile::remove(Path(journals.first())));
+    for (int part = 1; part <= partCount; ++part) {
+        const CliRun run = RunPart(part);
+        QVERIFY2(run.exitCode == 0, run.err);
+    }
+    QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
+    QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, 0);
+}
+
+void tst_CliParts::foldersElsewhere_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::newRow("pictures") << "a b -s 100 --on-name-exists rename";
+    QTest::newRow("a watermark") << "a b -s 100 --on-name-exists rename --effect watermark-image:file=marks/mark.jpg";
+    QTest::newRow("a watermark in a preset") << "a b --preset marked --preset thumbnails --on-name-exists rename";
+    QTest::newRow("a background") << "a b -s 100 --on-name-exists rename --frame 20 --background image:marks/mark.jpg";
+}
+
+/// The same bytes, although pictures, results and the files of effects are elsewhere.
+void tst_CliParts::foldersElsewhere()
+{
+    QFETCH(QString, options);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 50, 30, 20);
+    const CliRun saved = Run(QStringLiteral("presets save marked -s 90 --effect watermark-image:file=marks/mark.jpg"));
+    QVERIFY2(saved.exitCode == 0, saved.err);
+    job = options;
+    const Files one = OneRun();
+    QVERIFY(one.size() >= 24);
+    QCOMPARE(Split().exitCode, 0);
     QVERIFY(QDir(root->path()).mkpath(QStringLiteral("there")));
-    for (const QString& folder : {QStringLiteral("a"), QStringLiteral("b")}) {
+    for (const QString& folder : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("marks")}) {
         QVERIFY(QDir(root->path()).rename(folder, QStringLiteral("there/") + folder));
     }
+    const CliRun lost = RunPart(1);
+    QCOMPARE(lost.exitCode, 2);
+    QVERIFY2(lost.Err().contains(QLatin1String(" is missing here")), lost.err);
     const QString map = QStringLiteral(" --map %1=%2").arg(root->path(), Path(QStringLiteral("there")));
     for (int part = 1; part <= partCount; ++part) {
-        const CliRun run = Run(QStringLiteral("run --plan job.plan --part %1").arg(part) + map);
+        const CliRun run = RunPart(part, map);
         QVERIFY2(run.exitCode == 0, run.err);
     }
     QCOMPARE(FilesBelow(Path(QStringLiteral("there/out"))), one);
     QCOMPARE(Run(QStringLiteral("collect job.plan") + map).exitCode, 0);
 }
 
-void tst_CliParts::otherVersions()
+void tst_CliParts::fileOfAnEffect_data()
 {
+    QTest::addColumn<bool>("isThere");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing") << false << "marks/mark.jpg is missing here";
+    QTest::newRow("changed") << true << "marks/mark.jpg has changed since the job was split";
+}
+
+void tst_CliParts::fileOfAnEffect()
+{
+    QFETCH(bool, isThere);
+    QFETCH(QString, message);
+    PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 50, 30, 20);
+    job += QStringLiteral(" --effect watermark-image:file=marks/mark.jpg");
     QCOMPARE(Split().exitCode, 0);
-    // A plan of another version, as its own program would have written it.
-    const QList<QByteArray> lines = Content(QStringLiteral("job.plan")).split('\n');
-    QByteArray header = lines.at(1);
-    const int at = header.indexOf("\"program\":\"") + int(sizeof("\"program\":\"")) - 1;
-    header.insert(at, "0.");
-    header += '\n';
-    QByteArray text = "{\"plan\":1,\"sha256\":\"" +
-                      QCryptographicHash::hash(header, QCryptographicHash::Sha256).toHex() + "\"}\n" + header +
-                      lines.mid(2).join('\n');
-    Write(QStringLiteral("job.plan"), text);
-    const CliRun refused = Run(QStringLiteral("run --plan job.plan --part 1 --same-versions"));
-    QCOMPARE(refused.exitCode, 2);
-    QVERIFY2(refused.Err().contains(QLatin1String("the plan was made by version 0.")), refused.err);
+    QVERIFY(QFile::remove(Path(QStringLiteral("marks/mark.jpg"))));
+    if (isThere) {
+        PictureFiles::WriteJpeg(Path(QStringLiteral("marks/mark.jpg")), 51, 31, 20);
+    }
+    const CliRun run = RunPart(1);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.Err().contains(message), run.err);
     QVERIFY(!QFileInfo::exists(Path(QStringLiteral("out"))));
-    const CliRun warned = RunPart(1);
-    QCOMPARE(warned.exitCode, 0);
-    QVERIFY2(warned.Err().contains(QLatin1String("the plan was made by version 0.")), warned.err);
-    const CliRun collected = Run(QStringLiteral("collect job.plan"));
-    QVERIFY2(collected.Err().contains(QLatin1String("part 1 was made by version ")), collected.err);
 }
 
 QTEST_GUILESS_MAIN(tst_CliParts)

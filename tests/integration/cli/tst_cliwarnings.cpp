@@ -161,8 +161,9 @@ void tst_CliWarnings::eventsAndReportsNameEach()
 void tst_CliWarnings::strictRunsFail_data()
 {
     QTest::addColumn<QString>("kind");
-    for (const char* kind : {"other-pages", "incomplete", "profile-unused", "colours-converted", "metadata-lost",
-                             "gain-map-lost", "depth-lost", "film-lost", "audio-lost", "framing", "decoder"}) {
+    for (const char* kind :
+         {"other-pages", "incomplete", "profile-unused", "colours-converted", "metadata-lost", "gain-map-lost",
+          "depth-lost", "film-lost", "audio-lost", "other-versions", "framing", "decoder"}) {
         QTest::newRow(kind) << QString::fromLatin1(kind);
     }
 }
