@@ -29,9 +29,9 @@ void AppendResult(QByteArray& line, const PlannedResult& result)
     } else {
         object.Add("format", result.name.format);
         object.Add("number", result.name.number);
-        for (const auto& [isTrue, key] : {std::pair(result.name.hasOtherFormat, "otherFormat"),
-                                          std::pair(result.name.isOverwriting, "overwriting"),
-                                          std::pair(result.name.isRenamed, "renamed")}) {
+        for (const auto& [isTrue, key] :
+             {std::pair(result.name.hasOtherFormat, "otherFormat"), std::pair(result.name.isOverwriting, "overwriting"),
+              std::pair(result.name.isRenamed, "renamed")}) {
             if (isTrue) {
                 object.Add(key, 1);
             }

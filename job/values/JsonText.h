@@ -12,8 +12,8 @@ namespace BatchJob {
 void AppendJsonString(QByteArray& json, const QString& text);
 
 /// An object of JSON that is appended to a text as its fields are added. Many lines are written with it: a QJsonObject
-/// for each of them takes ten times as long. Fields come in the order in which they are added; a QJsonObject sorts them by
-/// their keys, so that who adds them in that order gets the same text.
+/// for each of them takes ten times as long. Fields come in the order in which they are added; a QJsonObject sorts them
+/// by their keys, so that who adds them in that order gets the same text.
 class JsonObjectText
 {
 public:
