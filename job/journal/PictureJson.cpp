@@ -7,9 +7,10 @@ namespace BatchJob {
 
 namespace {
 
-QString Key(const char* name)
+/// Where an object is read, nothing is allocated for a key.
+QLatin1String Key(const char* name)
 {
-    return QString::fromLatin1(name);
+    return QLatin1String(name);
 }
 
 constexpr double largestExact = 9007199254740992.0; // 2^53

@@ -230,29 +230,25 @@ std::optional<PartPlan> ReadPlan(const QString& path, QString& problem)
     return plan;
 }
 
-std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan& plan, int index)
+bool ReadPart(const QString& path, const PartPlan& plan, int index, const std::function<void(const PlannedFile&)>& take)
 {
     const PartPlan::Part& part = plan.parts.at(index);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !file.seek(part.offset)) {
-        return std::nullopt;
+        return false;
     }
-    const QByteArray lines = file.read(part.size);
-    if (HashOf(lines) != part.checksum) {
-        return std::nullopt;
-    }
-    QVector<PlannedFile> files;
-    files.reserve(part.files);
-    QString folder;
-    for (int begin = 0; begin < lines.size();) {
-        const int end = lines.indexOf('\n', begin);
-        if (end < 0) {
-            return std::nullopt; // Whoever has made it knew the checksum.
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    PlanLineReader reader;
+    for (qint64 left = part.size; left > 0;) {
+        const QByteArray line = file.readLine(left + 1); // Qt keeps a byte of it.
+        if (!line.endsWith('\n')) {
+            return false;
         }
-        files.append(FileOfLine(QByteArray::fromRawData(lines.constData() + begin, end - begin), folder));
-        begin = end + 1;
+        hash.addData(line);
+        left -= line.size();
+        take(reader.Read(line));
     }
-    return files;
+    return hash.result().toHex() == part.checksum;
 }
 
 } // namespace BatchJob

@@ -16,6 +16,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 /// A job that is cut into parts, which never collide: every name is made beforehand, for the whole job.
@@ -120,7 +121,9 @@ private:
 /// Reads the plan `path` without its files. Nothing if it is none; `problem` then says why, for users.
 std::optional<PartPlan> ReadPlan(const QString& path, QString& problem);
 
-/// Reads the files of the part `index`, from 0. Nothing if they are damaged.
-std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan& plan, int index);
+/// Reads the files of the part `index`, from 0, and gives them to `take` one after the other. False if they are
+/// damaged: what was given then means nothing.
+bool ReadPart(const QString& path, const PartPlan& plan, int index,
+              const std::function<void(const PlannedFile&)>& take);
 
 } // namespace BatchJob

@@ -15,9 +15,10 @@ namespace BatchJob {
 
 namespace {
 
-QString Key(const char* name)
+/// A key of an object that is read: nothing is allocated for it.
+QLatin1String Key(const char* name)
 {
-    return QString::fromLatin1(name);
+    return QLatin1String(name);
 }
 
 void AppendResult(QByteArray& line, const PlannedResult& result)
@@ -38,20 +39,6 @@ void AppendResult(QByteArray& line, const PlannedResult& result)
         }
     }
     object.Add("to", result.name.output);
-}
-
-PlannedResult ResultOf(const QJsonObject& object)
-{
-    PlannedResult result;
-    result.name.output = object.value(Key("to")).toString();
-    result.name.format = object.value(Key("format")).toString();
-    result.name.number = qint64(object.value(Key("number")).toDouble(1));
-    result.name.isRenamed = object.contains(Key("renamed"));
-    result.name.isOverwriting = object.contains(Key("overwriting"));
-    result.name.hasOtherFormat = object.contains(Key("otherFormat"));
-    result.code = object.value(Key("code")).toInt();
-    result.reason = object.value(Key("reason")).toString();
-    return result;
 }
 
 } // namespace
@@ -82,7 +69,7 @@ void AppendLine(QByteArray& lines, const PlannedFile& file, std::optional<QStrin
     lines += '\n';
 }
 
-PlannedFile FileOfLine(const QByteArray& line, QString& folder)
+PlannedFile PlanLineReader::Read(const QByteArray& line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     folder = object.value(Key("in")).toString(folder);
@@ -96,6 +83,22 @@ PlannedFile FileOfLine(const QByteArray& line, QString& folder)
         planned.results.append(ResultOf(result.toObject()));
     }
     return planned;
+}
+
+PlannedResult PlanLineReader::ResultOf(const QJsonObject& object)
+{
+    const QString ownFormat = object.value(Key("format")).toString();
+    format = ownFormat == format ? format : ownFormat;
+    PlannedResult result;
+    result.name.output = object.value(Key("to")).toString();
+    result.name.format = format;
+    result.name.number = qint64(object.value(Key("number")).toDouble(1));
+    result.name.isRenamed = object.contains(Key("renamed"));
+    result.name.isOverwriting = object.contains(Key("overwriting"));
+    result.name.hasOtherFormat = object.contains(Key("otherFormat"));
+    result.code = object.value(Key("code")).toInt();
+    result.reason = object.value(Key("reason")).toString();
+    return result;
 }
 
 } // namespace BatchJob

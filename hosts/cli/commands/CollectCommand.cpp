@@ -137,7 +137,7 @@ Collection Collect(const QString& path, const PartPlan& plan, const FolderNames&
         }
         PartCount count(all, number);
         int index = 0;
-        for (const PlannedFile& file : FilesOfPart(path, plan, number)) {
+        VisitPart(path, plan, number, [&](const PlannedFile& file) {
             for (const PlannedResult& planned : file.results) {
                 const QString output = folder + QLatin1Char('/') + planned.name.output;
                 const bool isSettled = IsSettled(known, index, output);
@@ -156,7 +156,7 @@ Collection Collect(const QString& path, const PartPlan& plan, const FolderNames&
                 }
                 ++index;
             }
-        }
+        });
         count.Finish();
     }
     if (report) {
