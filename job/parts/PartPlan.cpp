@@ -170,7 +170,9 @@ void PlanWriter::Add(const PlannedFile& planned)
     constexpr int block = 1 << 16;
     if (isLast || lines.size() >= block) {
         hash.addData(lines);
-        file.write(lines);
+        if (file.isOpen()) {
+            file.write(lines);
+        }
         open.size += lines.size();
         lines.clear();
     }
