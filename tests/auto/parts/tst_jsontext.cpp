@@ -64,7 +64,8 @@ void tst_JsonText::randomStrings()
 {
     constexpr int rounds = 5000;
     constexpr quint32 seed = 1;
-    const QList<ushort> units{0, 9, 10, 0x1f, '"', '\\', '/', 'a', 'z', 0x7f, 0x80, 0x7ff, 0x800, 0xd7ff, 0xe000, 0xffff};
+    const QList<ushort> units{0,   9,    10,   0x1f,  '"',   '\\',   '/',    'a',
+                              'z', 0x7f, 0x80, 0x7ff, 0x800, 0xd7ff, 0xe000, 0xffff};
     const QString pair = QStringLiteral("\U0001F4F7");
     QRandomGenerator random(seed);
     for (int round = 0; round < rounds; ++round) {

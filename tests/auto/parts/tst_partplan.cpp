@@ -209,9 +209,10 @@ void tst_PartPlan::writtenAndRead()
         const int first = found.size();
         QVERIFY(ReadPart(Path(), read, part, [&found](const PlannedFile& file) { found.append(file); }));
         QCOMPARE(found.size() - first, counts.at(part));
-        const qint64 bytes = std::accumulate(
-            found.begin() + first, found.end(), qint64(0),
-            [](qint64 sum, const PlannedFile& file) { return sum + std::max<qint64>(0, file.stamp.bytes); });
+        const qint64 bytes =
+            std::accumulate(found.begin() + first, found.end(), qint64(0), [](qint64 sum, const PlannedFile& file) {
+                return sum + std::max<qint64>(0, file.stamp.bytes);
+            });
         QCOMPARE(read.parts.at(part).inputBytes, bytes);
     }
     QCOMPARE(TextsOf(found), TextsOf(planned));
