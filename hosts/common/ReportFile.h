@@ -23,8 +23,8 @@ public:
     /// Throws RequestError when the file cannot be written, or its name ends with neither .csv nor .json.
     explicit ReportFile(const QString& path);
 
-    /// To be called before the first entry. Each entry says its preset, if `hasPresets`.
-    void Begin(bool hasPresets);
+    /// To be called before the first entry. Each entry says its preset, if `withPresets`.
+    void Begin(bool withPresets);
 
     /// `word` says what became of the file: a ResultWord(), or another one.
     void Add(const FileResult& result, const QString& word);

@@ -101,7 +101,7 @@ public:
     PlanWriter(const QString& path, PartPlan& plan, const QVector<int>& counts);
 
     /// The next file, in the document's order.
-    void Add(const PlannedFile& file);
+    void Add(const PlannedFile& planned);
 
     /// To be called after the last file. Fills in the parts of the plan and its id. False if it could not be written;
     /// `problem` then says why, for users.
