@@ -103,18 +103,18 @@ PartPlan PlanIn(const QString& path)
 void VisitPart(const QString& path, const PartPlan& plan, int number,
                const std::function<void(const PlannedFile&)>& visit)
 {
-    const RequestError damage{Phrase::English("the plan %1 cannot be used: %2")
-                                  .arg(path, Phrase::English("it is damaged; split the job again"))};
+    const QString damage = Phrase::English("the plan %1 cannot be used: %2")
+                               .arg(path, Phrase::English("it is damaged; split the job again"));
     int files = 0;
     const bool isWhole = ReadPart(path, plan, number - 1, [&](const PlannedFile& file) {
         if (file.results.size() != plan.jobs.size()) {
-            throw damage;
+            throw RequestError{damage};
         }
         ++files;
         visit(file);
     });
     if (!isWhole || files != plan.parts.at(number - 1).files) {
-        throw damage;
+        throw RequestError{damage};
     }
 }
 
