@@ -2360,10 +2360,6 @@
         <translation>Erneut zu startende Teile, da Bilder fehlgeschlagen sind: %1</translation>
     </message>
     <message>
-        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
-        <translation>Teil %1 stammt von Version %2, der Plan aber von Version %3; seine Bilder können abweichen.</translation>
-    </message>
-    <message>
         <source>the plan %1 or its journals cannot be removed.</source>
         <translation>der Plan %1 oder seine Journale können nicht entfernt werden.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>Start with several p&amp;resets...</source>
         <translation>&amp;Mit mehreren Vorgaben starten ...</translation>
+    </message>
+    <message>
+        <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
+        <translation>Teil %1 wurde mit %2 gemacht, der Plan aber mit %3; seine Bilder können abweichen.</translation>
     </message>
 </context>
 <context>
@@ -5907,12 +5907,44 @@
         <translation>der Plan %1 kann nicht verwendet werden: %2</translation>
     </message>
     <message>
-        <source>the plan was made by version %1, but here is version %2</source>
-        <translation>der Plan stammt von Version %1, aber hier ist Version %2</translation>
-    </message>
-    <message>
         <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
         <translation>das Journal des Teils, %1, kann nicht geschrieben werden: %2. Es gehört neben den Plan</translation>
+    </message>
+    <message>
+        <source>%1 says that process %2 of %3 holds it, and the file system has no locks to tell whether that process is still there; if it is not, remove that file</source>
+        <translation>%1 besagt, dass der Prozess %2 auf %3 ihn hält, und das Dateisystem hat keine Sperren, um zu erkennen, ob es diesen Prozess noch gibt; wenn nicht, entfernen Sie diese Datei</translation>
+    </message>
+    <message>
+        <source>%1 unfinished files stay beside the results: the file system has no locks to tell whether they are in work. Remove .velkora-*.tmp there when nothing runs.</source>
+        <translation>%1 unfertige Dateien bleiben neben den Ergebnissen: Das Dateisystem hat keine Sperren, um zu erkennen, ob sie in Arbeit sind. Entfernen Sie dort .velkora-*.tmp, wenn nichts läuft.</translation>
+    </message>
+    <message>
+        <source>made by other versions than the plan</source>
+        <translation>von anderen Versionen gemacht als der Plan</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>es antwortet nicht</translation>
+    </message>
+    <message>
+        <source>it does not say them</source>
+        <translation>es nennt sie nicht</translation>
+    </message>
+    <message>
+        <source>the same job is already running into %1: %2</source>
+        <translation>derselbe Auftrag läuft bereits nach %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 was asked for the versions of its libraries: %2</source>
+        <translation>%1 wurde nach den Versionen seiner Bibliotheken gefragt: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made with %1, but here are %2</source>
+        <translation>der Plan wurde mit %1 gemacht, hier aber sind %2</translation>
+    </message>
+    <message>
+        <source>made with %1, but the plan with %2</source>
+        <translation>mit %1 gemacht, der Plan aber mit %2</translation>
     </message>
 </context>
 </TS>

@@ -2360,10 +2360,6 @@
         <translation>Partes que ejecutar otra vez, pues han fallado imágenes: %1</translation>
     </message>
     <message>
-        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
-        <translation>la parte %1 es de la versión %2, pero el plan es de la versión %3; sus imágenes pueden diferir.</translation>
-    </message>
-    <message>
         <source>the plan %1 or its journals cannot be removed.</source>
         <translation>el plan %1 o sus diarios no se pueden eliminar.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>Start with several p&amp;resets...</source>
         <translation>Iniciar con &amp;varios ajustes...</translation>
+    </message>
+    <message>
+        <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
+        <translation>la parte %1 se hizo con %2, pero el plan con %3; sus imágenes pueden ser distintas.</translation>
     </message>
 </context>
 <context>
@@ -5907,12 +5907,44 @@
         <translation>el plan %1 no se puede usar: %2</translation>
     </message>
     <message>
-        <source>the plan was made by version %1, but here is version %2</source>
-        <translation>el plan es de la versión %1, pero aquí está la versión %2</translation>
-    </message>
-    <message>
         <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
         <translation>el diario de la parte, %1, no se puede escribir: %2. Va junto al plan</translation>
+    </message>
+    <message>
+        <source>%1 says that process %2 of %3 holds it, and the file system has no locks to tell whether that process is still there; if it is not, remove that file</source>
+        <translation>%1 indica que el proceso %2 de %3 lo tiene, y el sistema de archivos no tiene bloqueos para saber si ese proceso sigue ahí; si no es así, elimine ese archivo</translation>
+    </message>
+    <message>
+        <source>%1 unfinished files stay beside the results: the file system has no locks to tell whether they are in work. Remove .velkora-*.tmp there when nothing runs.</source>
+        <translation>%1 archivos sin terminar se quedan junto a los resultados: el sistema de archivos no tiene bloqueos para saber si se está trabajando en ellos. Elimine allí .velkora-*.tmp cuando no haya nada en marcha.</translation>
+    </message>
+    <message>
+        <source>made by other versions than the plan</source>
+        <translation>hechas con otras versiones que el plan</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>no responde</translation>
+    </message>
+    <message>
+        <source>it does not say them</source>
+        <translation>no las indica</translation>
+    </message>
+    <message>
+        <source>the same job is already running into %1: %2</source>
+        <translation>el mismo trabajo ya se está ejecutando en %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 was asked for the versions of its libraries: %2</source>
+        <translation>se pidieron a %1 las versiones de sus bibliotecas: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made with %1, but here are %2</source>
+        <translation>el plan se hizo con %1, pero aquí hay %2</translation>
+    </message>
+    <message>
+        <source>made with %1, but the plan with %2</source>
+        <translation>hecha con %1, pero el plan con %2</translation>
     </message>
 </context>
 </TS>

@@ -2360,10 +2360,6 @@
         <translation>Parties à relancer, car des images ont échoué : %1</translation>
     </message>
     <message>
-        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
-        <translation>la partie %1 vient de la version %2, mais le plan de la version %3 ; ses images peuvent différer.</translation>
-    </message>
-    <message>
         <source>the plan %1 or its journals cannot be removed.</source>
         <translation>le plan %1 ou ses journaux ne peuvent pas être supprimés.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>Start with several p&amp;resets...</source>
         <translation>Démarrer avec p&amp;lusieurs préréglages...</translation>
+    </message>
+    <message>
+        <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
+        <translation>la partie %1 a été faite avec %2, mais le plan avec %3 ; ses images peuvent différer.</translation>
     </message>
 </context>
 <context>
@@ -5907,12 +5907,44 @@
         <translation>le plan %1 ne peut pas être utilisé : %2</translation>
     </message>
     <message>
-        <source>the plan was made by version %1, but here is version %2</source>
-        <translation>le plan vient de la version %1, mais ici c&apos;est la version %2</translation>
-    </message>
-    <message>
         <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
         <translation>le journal de la partie, %1, ne peut pas être écrit : %2. Sa place est à côté du plan</translation>
+    </message>
+    <message>
+        <source>%1 says that process %2 of %3 holds it, and the file system has no locks to tell whether that process is still there; if it is not, remove that file</source>
+        <translation>%1 indique que le processus %2 de %3 le détient, et le système de fichiers n’a pas de verrous pour savoir si ce processus existe encore ; sinon, supprimez ce fichier</translation>
+    </message>
+    <message>
+        <source>%1 unfinished files stay beside the results: the file system has no locks to tell whether they are in work. Remove .velkora-*.tmp there when nothing runs.</source>
+        <translation>%1 fichiers inachevés restent à côté des résultats : le système de fichiers n’a pas de verrous pour savoir s’ils sont en cours. Supprimez-y .velkora-*.tmp quand rien ne tourne.</translation>
+    </message>
+    <message>
+        <source>made by other versions than the plan</source>
+        <translation>faites par d’autres versions que le plan</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>il ne répond pas</translation>
+    </message>
+    <message>
+        <source>it does not say them</source>
+        <translation>il ne les indique pas</translation>
+    </message>
+    <message>
+        <source>the same job is already running into %1: %2</source>
+        <translation>le même travail est déjà en cours vers %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 was asked for the versions of its libraries: %2</source>
+        <translation>les versions de ses bibliothèques ont été demandées à %1 : %2</translation>
+    </message>
+    <message>
+        <source>the plan was made with %1, but here are %2</source>
+        <translation>le plan a été fait avec %1, mais ici il y a %2</translation>
+    </message>
+    <message>
+        <source>made with %1, but the plan with %2</source>
+        <translation>faite avec %1, mais le plan avec %2</translation>
     </message>
 </context>
 </TS>

@@ -2360,10 +2360,6 @@
         <translation>画像の失敗のため再実行するパート: %1</translation>
     </message>
     <message>
-        <source>part %1 was made by version %2, but the plan by version %3; its pictures may differ.</source>
-        <translation>パート %1 はバージョン %2、プランはバージョン %3 で作られました。画像が異なる可能性があります。</translation>
-    </message>
-    <message>
         <source>the plan %1 or its journals cannot be removed.</source>
         <translation>プラン %1 またはそのジャーナルを削除できません。</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>Start with several p&amp;resets...</source>
         <translation>複数のプリセットで開始(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
+        <translation>パート %1 は %2 で作られましたが、計画は %3 で作られました。画像が異なることがあります。</translation>
     </message>
 </context>
 <context>
@@ -5907,12 +5907,44 @@
         <translation>プラン %1 は使用できません: %2</translation>
     </message>
     <message>
-        <source>the plan was made by version %1, but here is version %2</source>
-        <translation>プランはバージョン %1 で作られましたが、ここはバージョン %2 です</translation>
-    </message>
-    <message>
         <source>the journal of the part, %1, cannot be written: %2. It belongs beside the plan</source>
         <translation>パートのジャーナル %1 に書き込めません: %2。プランと同じ場所に置かれます</translation>
+    </message>
+    <message>
+        <source>%1 says that process %2 of %3 holds it, and the file system has no locks to tell whether that process is still there; if it is not, remove that file</source>
+        <translation>%1 によると %3 のプロセス %2 が使用中ですが、このファイルシステムにはロックがなく、そのプロセスがまだあるかどうか分かりません。もうない場合はそのファイルを削除してください</translation>
+    </message>
+    <message>
+        <source>%1 unfinished files stay beside the results: the file system has no locks to tell whether they are in work. Remove .velkora-*.tmp there when nothing runs.</source>
+        <translation>未完成のファイル %1 個が結果の隣に残っています。このファイルシステムにはロックがなく、作業中かどうか分かりません。何も実行していないときに .velkora-*.tmp を削除してください。</translation>
+    </message>
+    <message>
+        <source>made by other versions than the plan</source>
+        <translation>計画とは別のバージョンで作成</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>応答がありません</translation>
+    </message>
+    <message>
+        <source>it does not say them</source>
+        <translation>バージョンを返しません</translation>
+    </message>
+    <message>
+        <source>the same job is already running into %1: %2</source>
+        <translation>同じジョブがすでに %1 へ実行中です: %2</translation>
+    </message>
+    <message>
+        <source>%1 was asked for the versions of its libraries: %2</source>
+        <translation>%1 にライブラリのバージョンを問い合わせました: %2</translation>
+    </message>
+    <message>
+        <source>the plan was made with %1, but here are %2</source>
+        <translation>計画は %1 で作られましたが、ここにあるのは %2 です</translation>
+    </message>
+    <message>
+        <source>made with %1, but the plan with %2</source>
+        <translation>%1 で作られましたが、計画は %2 で作られました</translation>
     </message>
 </context>
 </TS>

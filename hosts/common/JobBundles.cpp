@@ -80,7 +80,7 @@ JobBundle BundleOf(const QVector<NamedJob>& jobs, const QString& folder)
         } catch (const RequestError& error) {
             throw error.In(jobs.at(i).name);
         }
-        bundle.parts.append({jobs.at(i).name, i == 0 ? job.Serialize(nullptr) : TakeSettingsText(job), own});
+        bundle.parts.append({jobs.at(i).name, i == 0 ? QString() : TakeSettingsText(job), own});
     }
     return bundle;
 }

@@ -27,7 +27,8 @@ QString NameOfJobFile(const QString& path);
 int ReadFirstJob(ZTBatchDocument& job, const QString& text);
 
 /// The bundle of `jobs`, at least two. Each gets a folder of its own in `folder` for its results, by its name; the
-/// inputs are those of the first one, and others lose theirs. Throws RequestError when two jobs would have one folder,
+/// inputs are those of the first one, and others lose theirs. The document of the first part is left empty: with many
+/// inputs it is long, and not everybody needs it. Throws RequestError when two jobs would have one folder,
 /// or the settings of one cannot be used.
 BatchJob::JobBundle BundleOf(const QVector<NamedJob>& jobs, const QString& folder);
 

@@ -103,18 +103,29 @@ PartPlan PlanIn(const QString& path)
     return *plan;
 }
 
+void VisitPart(const QString& path, const PartPlan& plan, int number,
+               const std::function<void(const PlannedFile&)>& visit)
+{
+    const QString damage = Phrase::English("the plan %1 cannot be used: %2")
+                               .arg(path, Phrase::English("it is damaged; split the job again"));
+    int files = 0;
+    const bool isWhole = ReadPart(path, plan, number - 1, [&](const PlannedFile& file) {
+        if (file.results.size() != plan.jobs.size()) {
+            throw RequestError{damage};
+        }
+        ++files;
+        visit(file);
+    });
+    if (!isWhole || files != plan.parts.at(number - 1).files) {
+        throw RequestError{damage};
+    }
+}
+
 QVector<PlannedFile> FilesOfPart(const QString& path, const PartPlan& plan, int number)
 {
-    const std::optional<QVector<PlannedFile>> files = ReadPart(path, plan, number - 1);
-    const bool isWhole = files && files->size() == plan.parts.at(number - 1).files &&
-                         std::all_of(files->begin(), files->end(), [&plan](const PlannedFile& file) {
-                             return file.results.size() == plan.jobs.size();
-                         });
-    if (!isWhole) {
-        throw RequestError{Phrase::English("the plan %1 cannot be used: %2")
-                               .arg(path, Phrase::English("it is damaged; split the job again"))};
-    }
-    return *files;
+    QVector<PlannedFile> files;
+    VisitPart(path, plan, number, [&files](const PlannedFile& file) { files.append(file); });
+    return files;
 }
 
 Versions MakersHere(const QString& version)

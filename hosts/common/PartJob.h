@@ -13,6 +13,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 class ZTBatchDocument;
 
 namespace BatchHost {
@@ -37,6 +39,11 @@ private:
 
 /// The plan in the file `path`. Throws RequestError if it cannot be used.
 BatchJob::PartPlan PlanIn(const QString& path);
+
+/// Gives the files of the part `number`, from 1, to `visit` one after the other. Throws RequestError if they cannot be
+/// read, perhaps after the last of them: then nothing counts that was given.
+void VisitPart(const QString& path, const BatchJob::PartPlan& plan, int number,
+               const std::function<void(const BatchJob::PlannedFile&)>& visit);
 
 /// The files of the part `number`, from 1. Throws RequestError if they cannot be read.
 QVector<BatchJob::PlannedFile> FilesOfPart(const QString& path, const BatchJob::PartPlan& plan, int number);

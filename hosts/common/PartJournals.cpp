@@ -45,7 +45,7 @@ PartJournals::Known PartJournals::Of(int part) const
 {
     Known known;
     for (const QString& path : paths.value(part)) {
-        const std::optional<JournalState> state = ReadJournal(path);
+        const std::optional<JournalState> state = ReadJournal(path, JournalUse::Results);
         if (!state) {
             continue;
         }

@@ -3,11 +3,12 @@
 
 #pragma once
 
+#include "ReportFile.h"
 #include "RunObserver.h"
 
 #include <QMultiHash>
 #include <QPair>
-#include <QSaveFile>
+#include <QVector>
 
 namespace BatchHost {
 
@@ -17,7 +18,10 @@ class RunReport : public RunObserver
 {
 public:
     /// Throws RequestError when the file cannot be written, or its name ends with neither .csv nor .json.
-    explicit RunReport(const QString& path);
+    explicit RunReport(const QString& path)
+        : file(path)
+    {
+    }
 
     void OnStart(const RunInputs& inputs, const QString& outputFolder) override;
     void OnEarlierResult(const FileResult& result) override { OnResult(result, 0, 0); }
@@ -25,24 +29,19 @@ public:
     void OnEnd(const RunEnd& end) override;
 
     /// After the run: why the report could not be written; empty when it was.
-    QString Error() const { return error; }
+    QString Error() const { return file.Error(); }
 
 private:
     struct Entry
     {
         FileResult result;
-        QString word = QStringLiteral("not processed"); ///< what became of the file
+        QString word = WordOfUnprocessed(); ///< what became of the file
     };
 
-    QByteArray Csv() const;
-    QByteArray Json() const;
-
-    QSaveFile file;
-    bool isJson = false;
+    ReportFile file;
     QVector<Entry> entries;
     QMultiHash<QPair<QString, QString>, int> open; ///< the entries that are not done, by input and preset
     bool hasPresets = false;
-    QString error;
 };
 
 } // namespace BatchHost

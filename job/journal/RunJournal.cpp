@@ -47,7 +47,7 @@ std::optional<Update> ReadUpdate(const QString& word)
     return word == QLatin1String(byTimes) ? std::optional(Update{}) : std::nullopt;
 }
 
-bool ReadHeader(const QJsonObject& line, JournalState& state)
+bool ReadHeader(const QJsonObject& line, JournalUse use, JournalState& state)
 {
     const QJsonArray policies = line.value(Key("policies")).toArray();
     if (line.value(Key("journal")).toInt() != version || policies.size() != int(state.policies.size())) {
@@ -55,7 +55,9 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     }
     state.isComplete = line.value(Key("complete")).toInt(1) != 0;
     state.beganAt = line.value(Key("since")).toString().toLongLong();
-    state.document = line.value(Key("document")).toString();
+    if (use != JournalUse::Results) {
+        state.document = line.value(Key("document")).toString();
+    }
     state.isInPlace = line.value(Key("inPlace")).toInt() == 1;
     state.update = ReadUpdate(line.value(Key("update")).toString());
     for (std::size_t i = 0; i < state.policies.size(); ++i) {
@@ -64,10 +66,10 @@ bool ReadHeader(const QJsonObject& line, JournalState& state)
     return true;
 }
 
-void ReadName(const QJsonObject& line, JournalState& state)
+void ReadName(const QJsonObject& line, JournalUse use, JournalState& state)
 {
     const int index = line.value(Key("named")).toInt(-1);
-    if (index < 0) {
+    if (index < 0 || use == JournalUse::Results) {
         return;
     }
     const QStringList how = line.value(Key("how")).toString().split(QLatin1Char(' '));
@@ -76,9 +78,9 @@ void ReadName(const QJsonObject& line, JournalState& state)
                                how.contains(Key(overwriting)), how.contains(Key(otherFormat))});
 }
 
-void ReadLine(const QJsonObject& line, JournalState& state)
+void ReadLine(const QJsonObject& line, JournalUse use, JournalState& state)
 {
-    ReadName(line, state);
+    ReadName(line, use, state);
     const QJsonObject makers = line.value(Key("makers")).toObject();
     if (!makers.isEmpty()) {
         state.makers = ReadVersions(makers);
@@ -128,7 +130,7 @@ void ReadLine(const QJsonObject& line, JournalState& state)
 
 } // namespace
 
-std::optional<JournalState> ReadJournal(const QString& path)
+std::optional<JournalState> ReadJournal(const QString& path, JournalUse use)
 {
     QFile file;
     QString problem;
@@ -142,12 +144,12 @@ std::optional<JournalState> ReadJournal(const QString& path)
         const QJsonDocument document = QJsonDocument::fromJson(line);
         const bool isWhole = line.endsWith('\n') && document.isObject();
         if (!hasHeader) {
-            if (!isWhole || !ReadHeader(document.object(), state)) {
+            if (!isWhole || !ReadHeader(document.object(), use, state)) {
                 return std::nullopt;
             }
             hasHeader = true;
         } else if (isWhole) {
-            ReadLine(document.object(), state);
+            ReadLine(document.object(), use, state);
         }
     }
     return hasHeader ? std::optional(state) : std::nullopt;

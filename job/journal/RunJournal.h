@@ -102,9 +102,15 @@ struct JournalState
     QMap<int, int> answers;
 };
 
+/// What a journal is read for.
+enum class JournalUse {
+    Everything,
+    Results ///< neither the document nor the names that were made elsewhere, which may be long
+};
+
 /// Reads the journal `path`. Returns nothing if the file is missing, is not a journal, or is refused by OpenOwnFile().
 /// A truncated last line is ignored.
-std::optional<JournalState> ReadJournal(const QString& path);
+std::optional<JournalState> ReadJournal(const QString& path, JournalUse use = JournalUse::Everything);
 
 /// Whether the run of the journal `path` has started, which is when the first line, the header, is whole. False for a
 /// file that OpenOwnFile() refuses.

@@ -3,7 +3,10 @@
 
 #include "PartPlan.h"
 
+#include "PlanLines.h"
+
 #include "job/journal/PictureJson.h"
+#include "job/values/JsonKey.h"
 #include "job/values/Phrase.h"
 
 #include <QCryptographicHash>
@@ -11,7 +14,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <numeric>
@@ -24,11 +26,6 @@ constexpr int version = 1;
 constexpr qint64 longestLine = 256 << 20; // The header holds the settings of up to a hundred jobs.
 constexpr int idDigits = 16;
 
-QString Key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
 QByteArray HashOf(const QByteArray& bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
@@ -39,70 +36,7 @@ QByteArray LineOf(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
-QJsonObject JsonOf(const PlannedResult& result)
-{
-    QJsonObject object{{Key("to"), result.name.output}};
-    if (result.code != 0) {
-        object.insert(Key("code"), result.code);
-        object.insert(Key("reason"), result.reason);
-        return object;
-    }
-    object.insert(Key("format"), result.name.format);
-    object.insert(Key("number"), double(result.name.number));
-    if (result.name.isRenamed) {
-        object.insert(Key("renamed"), 1);
-    }
-    if (result.name.isOverwriting) {
-        object.insert(Key("overwriting"), 1);
-    }
-    if (result.name.hasOtherFormat) {
-        object.insert(Key("otherFormat"), 1);
-    }
-    return object;
-}
-
-PlannedResult ResultOf(const QJsonObject& object)
-{
-    PlannedResult result;
-    result.name.output = object.value(Key("to")).toString();
-    result.name.format = object.value(Key("format")).toString();
-    result.name.number = qint64(object.value(Key("number")).toDouble(1));
-    result.name.isRenamed = object.contains(Key("renamed"));
-    result.name.isOverwriting = object.contains(Key("overwriting"));
-    result.name.hasOtherFormat = object.contains(Key("otherFormat"));
-    result.code = object.value(Key("code")).toInt();
-    result.reason = object.value(Key("reason")).toString();
-    return result;
-}
-
-/// The lines of `count` files from `first` on. A folder is written with the first of its files only.
-QByteArray LinesOf(const QVector<PlannedFile>& files, int first, int count)
-{
-    QByteArray lines;
-    QString folder;
-    for (int i = first; i < first + count; ++i) {
-        const PlannedFile& file = files.at(i);
-        const int slash = file.input.lastIndexOf(QLatin1Char('/'));
-        QJsonObject object{{Key("input"), file.input.mid(slash + 1)}};
-        if (i == first || file.input.left(slash) != folder) {
-            folder = file.input.left(slash);
-            object.insert(Key("in"), folder);
-        }
-        if (file.stamp.bytes >= 0) {
-            object.insert(Key("bytes"), double(file.stamp.bytes));
-            object.insert(Key("modified"), QString::number(file.stamp.modified));
-        }
-        QJsonArray results;
-        for (const PlannedResult& result : file.results) {
-            results.append(JsonOf(result));
-        }
-        object.insert(Key("results"), results);
-        lines += LineOf(object);
-    }
-    return lines;
-}
-
-QJsonObject HeaderOf(const PartPlan& plan)
+QByteArray HeaderOf(const PartPlan& plan)
 {
     QJsonArray jobs;
     for (const PartPlan::Job& job : plan.jobs) {
@@ -128,13 +62,18 @@ QJsonObject HeaderOf(const PartPlan& plan)
     for (auto it = plan.said.begin(); it != plan.said.end(); ++it) {
         said.insert(it.key(), it.value());
     }
-    return {{Key("folder"), plan.folder},
-            {Key("said"), said},
-            {Key("jobs"), jobs},
-            {Key("parts"), parts},
-            {Key("policies"), policies},
-            {Key("sources"), sources},
-            {Key("makers"), BatchJob::JsonOf(plan.makers)}};
+    return LineOf({{Key("folder"), plan.folder},
+                   {Key("said"), said},
+                   {Key("jobs"), jobs},
+                   {Key("parts"), parts},
+                   {Key("policies"), policies},
+                   {Key("sources"), sources},
+                   {Key("makers"), BatchJob::JsonOf(plan.makers)}});
+}
+
+QByteArray StartOf(const QByteArray& checksum)
+{
+    return LineOf({{Key("plan"), version}, {Key("sha256"), QString::fromLatin1(checksum)}});
 }
 
 bool ReadHeader(const QJsonObject& header, PartPlan& plan)
@@ -176,50 +115,77 @@ int PartPlan::FileCount() const
     return std::accumulate(parts.begin(), parts.end(), 0, [](int sum, const Part& part) { return sum + part.files; });
 }
 
-QVector<int> CutIntoParts(const QVector<PlannedFile>& files, int count)
+QVector<int> CutIntoParts(const QVector<qint64>& bytes, int count)
 {
     constexpr qint64 leastWeight = 1000; // Opening a file and writing its result takes time, too.
-    const auto weight = [&](const PlannedFile& file) { return std::max(leastWeight, file.stamp.bytes); };
-    const qint64 all = std::accumulate(files.begin(), files.end(), qint64(0),
-                                       [&](qint64 sum, const PlannedFile& file) { return sum + weight(file); });
+    const auto weight = [&](qint64 size) { return std::max(leastWeight, size); };
+    const qint64 all = std::accumulate(bytes.begin(), bytes.end(), qint64(0),
+                                       [&](qint64 sum, qint64 size) { return sum + weight(size); });
     QVector<int> counts;
     qint64 taken = 0;
     int next = 0;
     for (int part = 1; part <= count; ++part) {
         const int first = next;
-        const int last = files.size() - (count - part); // Each of the later parts needs a file.
+        const int last = bytes.size() - (count - part); // Each of the later parts needs a file.
         const auto end = qint64(double(all) / count * part);
-        while (next < last && (next == first || part == count || taken + weight(files.at(next)) / 2 <= end)) {
-            taken += weight(files.at(next++));
+        while (next < last && (next == first || part == count || taken + weight(bytes.at(next)) / 2 <= end)) {
+            taken += weight(bytes.at(next++));
         }
         counts.append(next - first);
     }
     return counts;
 }
 
-bool WritePlan(const QString& path, PartPlan& plan, const QVector<PlannedFile>& files, const QVector<int>& counts,
-               QString& problem)
+PlanWriter::PlanWriter(const QString& path, PartPlan& plan, const QVector<int>& counts)
+    : file(path)
+    , plan(plan)
+    , hash(QCryptographicHash::Sha256)
 {
-    QByteArray lines;
     plan.parts.clear();
-    int first = 0;
     for (const int count : counts) {
-        const QByteArray ofPart = LinesOf(files, first, count);
-        PartPlan::Part part{count, 0, 0, ofPart.size(), HashOf(ofPart)};
-        for (int i = first; i < first + count; ++i) {
-            part.inputBytes += std::max<qint64>(0, files.at(i).stamp.bytes);
-        }
-        plan.parts.append(part);
-        lines += ofPart;
-        first += count;
+        plan.parts.append({count, 0, 0, 0, HashOf({})});
     }
-    const QByteArray header = LineOf(HeaderOf(plan));
-    const QByteArray hash = HashOf(header);
-    plan.id = QString::fromLatin1(hash.left(idDigits));
-    const QByteArray start = LineOf({{Key("plan"), version}, {Key("sha256"), QString::fromLatin1(hash)}});
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(start) == start.size() &&
-                           file.write(header) == header.size() && file.write(lines) == lines.size() && file.commit();
+    // The header says what the lines are, and comes before them.
+    constexpr int longestNumber = 20;
+    constexpr int numbers = 2;
+    headerSize = HeaderOf(plan).size() + numbers * longestNumber * counts.size();
+    if (file.open(QIODevice::WriteOnly)) {
+        file.seek(StartOf(HashOf({})).size() + headerSize);
+    }
+}
+
+void PlanWriter::Add(const PlannedFile& planned)
+{
+    PartPlan::Part& open = plan.parts[part];
+    AppendLine(lines, planned, folder);
+    open.inputBytes += std::max<qint64>(0, planned.stamp.bytes);
+    const bool isLast = ++filesOfPart == open.files;
+    constexpr int block = 1 << 16;
+    if (isLast || lines.size() >= block) {
+        hash.addData(lines);
+        if (file.isOpen()) {
+            file.write(lines);
+        }
+        open.size += lines.size();
+        lines.clear();
+    }
+    if (isLast) {
+        open.checksum = hash.result().toHex();
+        hash.reset();
+        folder.reset();
+        filesOfPart = 0;
+        ++part;
+    }
+}
+
+bool PlanWriter::Commit(QString& problem)
+{
+    QByteArray header = HeaderOf(plan);
+    header.insert(header.size() - 1, QByteArray(headerSize - header.size(), ' '));
+    const QByteArray checksum = HashOf(header);
+    plan.id = QString::fromLatin1(checksum.left(idDigits));
+    const QByteArray start = StartOf(checksum) + header;
+    const bool isWritten = file.isOpen() && file.seek(0) && file.write(start) == start.size() && file.commit();
     if (!isWritten) {
         problem = file.errorString();
     }
@@ -259,40 +225,25 @@ std::optional<PartPlan> ReadPlan(const QString& path, QString& problem)
     return plan;
 }
 
-std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan& plan, int index)
+bool ReadPart(const QString& path, const PartPlan& plan, int index, const std::function<void(const PlannedFile&)>& take)
 {
     const PartPlan::Part& part = plan.parts.at(index);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || !file.seek(part.offset)) {
-        return std::nullopt;
+        return false;
     }
-    const QByteArray lines = file.read(part.size);
-    if (HashOf(lines) != part.checksum) {
-        return std::nullopt;
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    PlanLineReader reader;
+    for (qint64 left = part.size; left > 0;) {
+        const QByteArray line = file.readLine(left + 1); // Qt keeps a byte of it.
+        if (!line.endsWith('\n')) {
+            return false;
+        }
+        hash.addData(line);
+        left -= line.size();
+        take(reader.Read(line));
     }
-    QVector<PlannedFile> files;
-    QString folder;
-    for (int begin = 0; begin < lines.size();) {
-        const int end = lines.indexOf('\n', begin);
-        if (end < 0) {
-            return std::nullopt; // Whoever has made it knew the checksum.
-        }
-        const QJsonObject line =
-            QJsonDocument::fromJson(QByteArray::fromRawData(lines.constData() + begin, end - begin)).object();
-        begin = end + 1;
-        folder = line.value(Key("in")).toString(folder);
-        PlannedFile planned;
-        planned.input = folder + QLatin1Char('/') + line.value(Key("input")).toString();
-        if (line.contains(Key("bytes"))) {
-            planned.stamp.bytes = qint64(line.value(Key("bytes")).toDouble());
-            planned.stamp.modified = line.value(Key("modified")).toString().toLongLong();
-        }
-        for (const QJsonValue result : line.value(Key("results")).toArray()) {
-            planned.results.append(ResultOf(result.toObject()));
-        }
-        files.append(planned);
-    }
-    return files;
+    return hash.result().toHex() == part.checksum;
 }
 
 } // namespace BatchJob

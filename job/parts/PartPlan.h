@@ -9,12 +9,15 @@
 #include "job/values/Versions.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QMap>
 #include <QPair>
+#include <QSaveFile>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 /// A job that is cut into parts, which never collide: every name is made beforehand, for the whole job.
@@ -71,19 +74,42 @@ struct PartPlan
     int FileCount() const;
 };
 
-/// How many of `files`, one after the other, each of `count` parts takes, so that their sizes are as equal as the order
-/// permits. Each part gets one at least. `count` is not greater than the number of files.
-QVector<int> CutIntoParts(const QVector<PlannedFile>& files, int count);
+/// How many files of the sizes `bytes`, one after the other, each of `count` parts takes, so that their sizes are as
+/// equal as the order permits. Each part gets one at least. `count` is not greater than the number of files. The size
+/// of a file that does not exist is negative.
+QVector<int> CutIntoParts(const QVector<qint64>& bytes, int count);
 
-/// Writes `plan` with `files`, of which the parts take as many as `counts` says. Fills in its parts and its id. The
-/// file is whole or absent. False if it cannot be written; `problem` then says why, for users.
-bool WritePlan(const QString& path, PartPlan& plan, const QVector<PlannedFile>& files, const QVector<int>& counts,
-               QString& problem);
+/// Writes a plan file by file. The plan is whole or absent.
+class PlanWriter
+{
+public:
+    /// Parts of `plan` take as many files as `counts` says. `plan` must outlive this object.
+    PlanWriter(const QString& path, PartPlan& plan, const QVector<int>& counts);
+
+    /// The next file, in the document's order.
+    void Add(const PlannedFile& planned);
+
+    /// To be called after the last file. Fills in the parts of the plan and its id. False if it could not be written;
+    /// `problem` then says why, for users.
+    bool Commit(QString& problem);
+
+private:
+    QSaveFile file;
+    PartPlan& plan;
+    int headerSize = 0; ///< what it may take, in bytes
+    int part = 0;       ///< of which files come now
+    int filesOfPart = 0;
+    std::optional<QString> folder; ///< of the file before
+    QByteArray lines;              ///< that are not written yet
+    QCryptographicHash hash;
+};
 
 /// Reads the plan `path` without its files. Nothing if it is none; `problem` then says why, for users.
 std::optional<PartPlan> ReadPlan(const QString& path, QString& problem);
 
-/// Reads the files of the part `index`, from 0. Nothing if they are damaged.
-std::optional<QVector<PlannedFile>> ReadPart(const QString& path, const PartPlan& plan, int index);
+/// Reads the files of the part `index`, from 0, and gives them to `take` one after the other. False if they are
+/// damaged: what was given then means nothing.
+bool ReadPart(const QString& path, const PartPlan& plan, int index,
+              const std::function<void(const PlannedFile&)>& take);
 
 } // namespace BatchJob

@@ -9,15 +9,17 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 namespace BatchJob {
 
-RunForecast::RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable)
-    : plan(plan)
+RunForecast::RunForecast(RunPlan names, const Policies& policies, const QHash<int, Trouble>& unreadable)
+    : plan(std::move(names))
     , policies(policies)
     , unreadable(unreadable)
 {
     // No policy settles a name yet: what it does about a file is to be seen file by file.
-    this->plan.MakeNames(Policies());
+    plan.MakeNames(Policies());
     prospects.reserve(plan.Count());
     for (int i = 0; i < plan.Count(); ++i) {
         prospects.append(Foresee(i));

@@ -24,9 +24,9 @@ public:
         bool isInPlace = false;           ///< without trouble: the result replaces its own original
     };
 
-    /// `plan` has read the inputs and got the probes' results, but has no names yet. `unreadable` are files whose
+    /// `names` has read the inputs and got the probes' results, but has no names yet. `unreadable` are files whose
     /// trouble is known, but that a run notices only when it processes them, so it does not change any name.
-    RunForecast(const RunPlan& plan, const Policies& policies, const QHash<int, Trouble>& unreadable = {});
+    RunForecast(RunPlan names, const Policies& policies, const QHash<int, Trouble>& unreadable = {});
 
     const RunPlan& Plan() const { return plan; }
     const OutputPlan& Names() const { return plan.Names(); }

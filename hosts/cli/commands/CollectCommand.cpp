@@ -8,8 +8,8 @@
 #include "hosts/cli/terminal/Console.h"
 #include "hosts/common/Language.h"
 #include "hosts/common/PartJob.h"
+#include "hosts/common/ReportFile.h"
 #include "hosts/common/RequestError.h"
-#include "hosts/common/RunReport.h"
 #include "hosts/common/UserPath.h"
 #include "job/plan/Trouble.h"
 #include "job/values/Phrase.h"
@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -32,17 +33,15 @@ const QString reportOption = QStringLiteral("--report");
 /// What the parts of a plan have done.
 struct Collection
 {
-    RunInputs inputs;
-    QVector<QPair<int, FileResult>> results; ///< by their places in `inputs`
-    QVector<int> unfinished;                 ///< parts, from 1
+    QVector<int> unfinished; ///< parts, from 1
     QVector<int> withFailures;
+    std::set<PolicyKind> leftOut;           ///< the policies that have left pictures out; None if nobody knows why
     QVector<QPair<int, Versions>> byOthers; ///< parts, and the other versions that have made pictures of them
     int finished = 0;
     int written = 0;
     int skipped = 0;
     int failed = 0;
-
-    int NotProcessed() const { return inputs.files.size() - results.size(); }
+    int notProcessed = 0;
 };
 
 /// Counts the results of one part.
@@ -57,7 +56,9 @@ public:
 
     void Add(const FileResult& result)
     {
-        all.results.append({all.inputs.files.size() - 1, result});
+        if (!HasResult(result.kind)) {
+            all.leftOut.insert(PolicyOfError(result.errorCode));
+        }
         switch (result.kind) {
         case ResultKind::Written:
         case ResultKind::Unchanged:
@@ -73,7 +74,11 @@ public:
         }
     }
 
-    void Miss() { isUnfinished = true; }
+    void Miss()
+    {
+        ++all.notProcessed;
+        isUnfinished = true;
+    }
 
     void Finish()
     {
@@ -92,31 +97,37 @@ private:
     bool isUnfinished = false;
 };
 
-/// The result of `planned`, or nothing if no run of its part has settled it, or what it has written is gone.
-std::optional<FileResult> ResultOf(const PlannedResult& planned, const PartJournals::Known& known, int index,
-                                   const QString& output)
+/// Whether a run of its part has settled a result, and what it has written is still there.
+bool IsSettled(const PartJournals::Known& known, int index, const QString& output)
 {
     const auto found = known.results.constFind(index);
-    if (found == known.results.constEnd() || (HasResult(found->kind) && !QFileInfo::exists(output))) {
-        return std::nullopt;
-    }
+    return found != known.results.constEnd() && (!HasResult(found->kind) || QFileInfo::exists(output));
+}
+
+FileResult ResultOf(const JournalState::Result& settled)
+{
     FileResult result;
-    result.output = planned.name.output.isEmpty() ? QString() : output;
-    result.kind = found->kind;
-    result.errorCode = found->errorCode;
-    result.reason = found->reason;
-    result.warnings = found->warnings;
-    result.facts = found->facts;
-    result.finished = found->finished;
+    result.kind = settled.kind;
+    result.errorCode = settled.errorCode;
+    result.reason = settled.reason;
+    result.warnings = settled.warnings;
+    result.facts = settled.facts;
+    result.finished = settled.finished;
     return result;
 }
 
-Collection Collect(const QString& path, const PartPlan& plan, const FolderNames& names)
+/// Looks at one part at a time, as a job may have very many pictures. Writes an entry for each result to `report`, if
+/// there is one.
+Collection Collect(const QString& path, const PartPlan& plan, const FolderNames& names, ReportFile* report)
 {
     Collection all;
-    all.inputs.variants = VariantsOf(plan, names);
+    RunInputs variants;
+    variants.variants = VariantsOf(plan, names);
     const PartJournals journals(path, plan);
     const QString folder = names.Here(plan.folder);
+    if (report) {
+        report->Begin(!variants.variants.isEmpty());
+    }
     for (int number = 1; number <= plan.parts.size(); ++number) {
         const PartJournals::Known known = journals.Of(number);
         for (const Versions& makers : known.others) {
@@ -124,39 +135,42 @@ Collection Collect(const QString& path, const PartPlan& plan, const FolderNames&
         }
         PartCount count(all, number);
         int index = 0;
-        for (const PlannedFile& file : FilesOfPart(path, plan, number)) {
+        VisitPart(path, plan, number, [&](const PlannedFile& file) {
             for (const PlannedResult& planned : file.results) {
-                all.inputs.files.append(names.Here(file.input));
-                all.inputs.bytes.append(file.stamp.bytes);
-                std::optional<FileResult> result =
-                    ResultOf(planned, known, index++, folder + QLatin1Char('/') + planned.name.output);
-                if (result) {
-                    result->input = all.inputs.files.last();
-                    result->inputBytes = file.stamp.bytes;
-                    result->preset = all.inputs.VariantAt(all.inputs.files.size() - 1);
-                    count.Add(*result);
+                const QString output = folder + QLatin1Char('/') + planned.name.output;
+                const bool isSettled = IsSettled(known, index, output);
+                FileResult result = isSettled ? ResultOf(known.results.value(index)) : FileResult();
+                result.input = names.Here(file.input);
+                result.inputBytes = file.stamp.bytes;
+                result.preset = variants.VariantAt(index);
+                if (isSettled) {
+                    result.output = planned.name.output.isEmpty() ? QString() : output;
+                    count.Add(result);
                 } else {
                     count.Miss();
                 }
+                if (report) {
+                    report->Add(result, isSettled ? ResultWord(result.kind) : WordOfUnprocessed());
+                }
+                ++index;
             }
-        }
+        });
         count.Finish();
+    }
+    if (report) {
+        report->Commit();
     }
     return all;
 }
 
-/// False if it could not be written.
-bool WriteReport(RunReport& report, const Collection& all, const QString& folder)
+/// Whether the report, if one is wanted, was written. Says why it was not.
+bool IsReported(const ReportFile* report)
 {
-    report.OnStart(all.inputs, folder);
-    for (const auto& [place, result] : all.results) {
-        report.OnResult(result, 0, 0);
+    if (report && !report->Error().isEmpty()) {
+        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(Translated(report->Error())));
+        return false;
     }
-    report.OnEnd({});
-    if (!report.Error().isEmpty()) {
-        WriteErrorLine(QStringLiteral("velkora-batch: %1").arg(Translated(report.Error())));
-    }
-    return report.Error().isEmpty();
+    return true;
 }
 
 QString ListOf(const QVector<int>& numbers)
@@ -172,7 +186,7 @@ void Tell(const Collection& all, const PartPlan& plan)
 {
     WriteOut(Messages::tr("Parts done: %1 of %2. Written: %3, skipped: %4, failed: %5, not processed: %6.")
                  .arg(QString::number(all.finished), QString::number(plan.parts.size()), QString::number(all.written),
-                      QString::number(all.skipped), QString::number(all.failed), QString::number(all.NotProcessed())) +
+                      QString::number(all.skipped), QString::number(all.failed), QString::number(all.notProcessed)) +
              QLatin1Char('\n'));
     if (!all.unfinished.isEmpty()) {
         WriteOut(Messages::tr("Parts to run again, as they are not done: %1").arg(ListOf(all.unfinished)) +
@@ -188,10 +202,8 @@ void Tell(const Collection& all, const PartPlan& plan)
 bool IsAsWanted(const Collection& all, const ParsedArguments& arguments, const PartPlan& plan)
 {
     const ParsedArguments said = WithPolicies(arguments, plan.said);
-    return all.NotProcessed() == 0 && std::all_of(all.results.begin(), all.results.end(), [&said](const auto& one) {
-               const FileResult& result = one.second;
-               return HasResult(result.kind) || AreLeftOut(said, PolicyOfError(result.errorCode));
-           });
+    return all.notProcessed == 0 && std::all_of(all.leftOut.begin(), all.leftOut.end(),
+                                                [&said](PolicyKind kind) { return AreLeftOut(said, kind); });
 }
 
 void TellOthers(const Collection& all, const PartPlan& plan)
@@ -204,13 +216,13 @@ void TellOthers(const Collection& all, const PartPlan& plan)
     }
 }
 
-std::unique_ptr<RunReport> ReportOf(const ParsedArguments& arguments)
+std::unique_ptr<ReportFile> ReportOf(const ParsedArguments& arguments)
 {
     if (!arguments.Has(reportOption)) {
         return nullptr;
     }
     try {
-        return std::make_unique<RunReport>(arguments.Value(reportOption));
+        return std::make_unique<ReportFile>(arguments.Value(reportOption));
     } catch (const RequestError& error) {
         throw error.In(reportOption);
     }
@@ -226,9 +238,9 @@ ExitCode CollectParts(const ParsedArguments& arguments)
     const QString path = AbsolutePath(arguments.inputs.first());
     const PartPlan plan = PlanIn(path);
     const FolderNames names(arguments.Values(QStringLiteral("--map")));
-    const std::unique_ptr<RunReport> report = ReportOf(arguments);
-    const Collection all = Collect(path, plan, names);
-    const bool isReported = !report || WriteReport(*report, all, names.Here(plan.folder));
+    const std::unique_ptr<ReportFile> report = ReportOf(arguments);
+    const Collection all = Collect(path, plan, names, report.get());
+    const bool isReported = IsReported(report.get());
     Tell(all, plan);
     TellOthers(all, plan);
     const bool isSame = all.byOthers.isEmpty() || !arguments.Has(QStringLiteral("--same-versions"));

@@ -126,6 +126,13 @@ QString GivenJobs::OutputFolder(const ZTBatchDocument& job) const
     return bundle.IsEmpty() ? job.GetOutputSettings()->GetPath() : bundle.folder;
 }
 
+void GivenJobs::WriteInputs(const ZTBatchDocument& job)
+{
+    if (!bundle.IsEmpty()) {
+        bundle.parts.first().document = job.Serialize(nullptr);
+    }
+}
+
 GivenJobs BuildJobs(ZTBatchDocument& job, const ParsedArguments& arguments, QStringList& inputs)
 {
     const QStringList presets = arguments.Values(presetOption);

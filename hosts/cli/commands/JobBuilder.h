@@ -22,8 +22,11 @@ InputLosses BuildJob(ZTBatchDocument& job, const ParsedArguments& arguments, con
 /// What the arguments of run and plan describe: one job, or several that make results of the same inputs.
 struct GivenJobs
 {
-    BatchJob::JobBundle bundle; ///< empty for one job
+    BatchJob::JobBundle bundle; ///< empty for one job; the document of its first part is empty until WriteInputs()
     InputLosses losses;
+
+    /// Completes the bundle, if there is one; `job` is the first one, with the inputs.
+    void WriteInputs(const ZTBatchDocument& job);
 
     /// Where all results go; `job` is the first one.
     QString OutputFolder(const ZTBatchDocument& job) const;

@@ -22,6 +22,7 @@
 #include <QJsonObject>
 
 #include <optional>
+#include <utility>
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -52,11 +53,11 @@ struct Outlook
     }
 };
 
-/// The settings of the jobs of a bundle.
-QVector<JobSettings> SettingsOf(const JobBundle& bundle)
+/// The settings of the jobs of a bundle, of which `first` is the first, or of that alone.
+QVector<JobSettings> SettingsOf(const ZTBatchDocument& first, const JobBundle& bundle)
 {
-    QVector<JobSettings> settings;
-    for (const JobBundle::Part& part : bundle.parts) {
+    QVector<JobSettings> settings{CheckSettings(first).settings};
+    for (const JobBundle::Part& part : bundle.parts.mid(1)) {
         ZTBatchDocument job;
         job.Deserialize(part.document);
         settings.append(CheckSettings(job).settings);
@@ -67,8 +68,7 @@ QVector<JobSettings> SettingsOf(const JobBundle& bundle)
 Outlook LookAhead(const ZTBatchDocument& job, const GivenJobs& given, const PolicyValues& policies,
                   const ParsedArguments& arguments)
 {
-    const QVector<JobSettings> settings =
-        given.bundle.IsEmpty() ? QVector<JobSettings>{CheckSettings(job).settings} : SettingsOf(given.bundle);
+    const QVector<JobSettings> settings = SettingsOf(job, given.bundle);
     QStringList names;
     for (const JobBundle::Part& part : given.bundle.parts) {
         names.append(part.name);
@@ -83,7 +83,7 @@ Outlook LookAhead(const ZTBatchDocument& job, const GivenJobs& given, const Poli
     plan.ReadInputs();
     const PlanProbe probe = ProbeInputs(plan, job, !arguments.Has(QStringLiteral("--no-sizes")),
                                         arguments.Has(QStringLiteral("--verbose")), line);
-    return {RunForecast(plan, Policies(policies), probe.unreadable), probe, settings, names};
+    return {RunForecast(std::move(plan), Policies(policies), probe.unreadable), probe, settings, names};
 }
 
 QString ProspectWord(const RunForecast::Prospect& prospect)

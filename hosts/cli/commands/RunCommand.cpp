@@ -131,7 +131,8 @@ ExitCode RunJob(const ParsedArguments& arguments)
 
     QStringList inputs = arguments.inputs;
     ZTBatchDocument job;
-    const GivenJobs given = BuildJobs(job, arguments, inputs);
+    GivenJobs given = BuildJobs(job, arguments, inputs);
+    given.WriteInputs(job);
     const InputLosses& losses = given.losses;
     if (!arguments.Has(QStringLiteral("--resume")) && !HasPictures(job, arguments, inputs)) {
         const RunEnd end = EmptyRun(given.OutputFolder(job), losses, output);

@@ -32,6 +32,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <utility>
 
 using namespace BatchJob;
 using namespace BatchHost;
@@ -92,18 +93,23 @@ Policies PoliciesOfPlan(const PolicyValues& policies)
     return ofPlan;
 }
 
+/// The settings of `job`, which is the first one and has no inputs any more, and of the others.
 void AddJobs(PartPlan& plan, const ZTBatchDocument& job, const GivenJobs& given)
 {
     plan.folder = QDir::cleanPath(given.OutputFolder(job));
-    if (given.bundle.IsEmpty()) {
-        plan.jobs.append({{}, SettingsTextOf(job), job.GetOutputSettings()->GetPath()});
-        return;
+    plan.jobs.append({given.bundle.parts.value(0).name, job.Serialize(nullptr), job.GetOutputSettings()->GetPath()});
+    for (const JobBundle::Part& part : given.bundle.parts.mid(1)) {
+        plan.jobs.append({part.name, part.document, part.outputFolder});
     }
-    for (const JobBundle::Part& part : given.bundle.parts) {
-        ZTBatchDocument one;
-        one.Deserialize(part.document);
-        plan.jobs.append({part.name, TakeSettingsText(one), part.outputFolder});
-    }
+}
+
+/// Removes the files of `job` from it: as nodes of a document, a million of them take most of the memory.
+QVector<JobFile> TakeFiles(ZTBatchDocument& job)
+{
+    ZTBatchInputModel& model = *job.GetInputModel();
+    const QVector<JobFile> files = FilesOfJob(model);
+    model.removeRows(0, model.rowCount());
+    return files;
 }
 
 /// The settings of the jobs. Also notes the files that they name.
@@ -161,18 +167,44 @@ PlannedResult ResultAt(const RunForecast& forecast, int index)
     return result;
 }
 
-QVector<PlannedFile> FilesOf(const RunForecast& forecast)
+/// Of each file. Taken before anything is said about its result, so that a change in between is noticed.
+QVector<FileStamp> StampsOf(const OutputPlan& names)
 {
-    const OutputPlan& names = forecast.Names();
-    QVector<PlannedFile> files;
-    for (int i = 0; i < names.Count(); ++i) {
-        if (names.JobOf(i) == 0) {
-            const QString input = names.Input(i);
-            files.append({input, StampOf(input).value_or(FileStamp()), {}});
-        }
-        files.last().results.append(ResultAt(forecast, i));
+    QVector<FileStamp> stamps;
+    stamps.reserve(names.Count() / names.JobCount());
+    for (int i = 0; i < names.Count(); i += names.JobCount()) {
+        stamps.append(StampOf(names.Input(i)).value_or(FileStamp()));
     }
-    return files;
+    return stamps;
+}
+
+QVector<qint64> SizesOf(const QVector<FileStamp>& stamps)
+{
+    QVector<qint64> sizes;
+    sizes.reserve(stamps.size());
+    for (const FileStamp& stamp : stamps) {
+        sizes.append(stamp.bytes);
+    }
+    return sizes;
+}
+
+/// Throws RequestError for what has to be decided before, and if the plan cannot be written.
+void Write(const QString& path, PartPlan& plan, int parts, const QVector<FileStamp>& stamps,
+           const RunForecast& forecast)
+{
+    PlanWriter writer(path, plan, CutIntoParts(SizesOf(stamps), parts));
+    const int jobs = forecast.Names().JobCount();
+    for (int i = 0; i < stamps.size(); ++i) {
+        PlannedFile file{forecast.Names().Input(i * jobs), stamps.at(i), {}};
+        for (int result = i * jobs; result < (i + 1) * jobs; ++result) {
+            file.results.append(ResultAt(forecast, result));
+        }
+        writer.Add(file);
+    }
+    QString problem;
+    if (!writer.Commit(problem)) {
+        throw RequestError{Phrase::English("the plan %1 cannot be written: %2").arg(path, problem)};
+    }
 }
 
 void TellParts(const PartPlan& plan, const QString& path)
@@ -206,6 +238,7 @@ ExitCode SplitJob(const ParsedArguments& arguments)
     }
     RequireRunnableJob(job);
 
+    QVector<JobFile> files = TakeFiles(job);
     PartPlan plan;
     AddJobs(plan, job, given);
     plan.policies = WithoutQuestions(policies);
@@ -216,23 +249,20 @@ ExitCode SplitJob(const ParsedArguments& arguments)
         }
     }
     plan.makers = MakersHere(QCoreApplication::applicationVersion());
-    RunPlan names(OutputPlan(FilesOfJob(*job.GetInputModel()), SettingsOf(plan), plan.folder));
-    if (count > names.Count() / plan.jobs.size()) {
+    if (count > files.size()) {
         throw RequestError{Phrase::English("%1 pictures cannot be cut into %2 parts; each needs a picture")
-                               .arg(names.Count() / plan.jobs.size())
+                               .arg(files.size())
                                .arg(count)};
     }
-    QVector<PlannedFile> files;
+    RunPlan names(OutputPlan(std::exchange(files, {}), SettingsOf(plan), plan.folder));
     {
         StatusLine line(!arguments.Has(QStringLiteral("--quiet")));
         line.ShowNow(Messages::tr("Planning %1 files").arg(names.Count()));
+        const QVector<FileStamp> stamps = StampsOf(names.Names());
         names.ReadInputs();
         const PlanProbe probe = ProbeInputs(names, job, false, arguments.Has(QStringLiteral("--verbose")), line);
-        files = FilesOf(RunForecast(names, PoliciesOfPlan(policies), probe.unreadable));
-    }
-    QString problem;
-    if (!WritePlan(path, plan, files, CutIntoParts(files, count), problem)) {
-        throw RequestError{Phrase::English("the plan %1 cannot be written: %2").arg(path, problem)};
+        const RunForecast forecast(std::move(names), PoliciesOfPlan(policies), probe.unreadable);
+        Write(path, plan, count, stamps, forecast);
     }
     if (!arguments.Has(QStringLiteral("--quiet"))) {
         TellParts(plan, path);

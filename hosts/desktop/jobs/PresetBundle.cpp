@@ -34,7 +34,9 @@ BatchJob::JobBundle BundleOfPresets(const ZTBatchDocument& edited, const Presets
         Settings::Of(preset).ApplyTo(job);
         jobs.append({name, &job});
     }
-    return BundleOf(jobs, edited.GetOutputSettings()->GetPath());
+    BatchJob::JobBundle bundle = BundleOf(jobs, edited.GetOutputSettings()->GetPath());
+    bundle.parts.first().document = first.Serialize(nullptr);
+    return bundle;
 }
 
 } // namespace BatchDesktop

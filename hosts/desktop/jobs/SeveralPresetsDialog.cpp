@@ -23,7 +23,8 @@ SeveralPresetsDialog::SeveralPresetsDialog(const QStringList& names, const QStri
     setObjectName(QStringLiteral("severalPresets"));
     setWindowTitle(Messages::tr("Several presets"));
     auto* const explanation = new QLabel(
-        Messages::tr("Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.")
+        Messages::tr(
+            "Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.")
             .arg(folder),
         this);
     explanation->setTextFormat(Qt::PlainText);

@@ -17,6 +17,9 @@ private Q_SLOTS:
     void lossesAreThoseOfFilesWithoutResult_data();
     void lossesAreThoseOfFilesWithoutResult();
     void retriedFilesHaveNoResult();
+    void linesOfAnyLength();
+    void truncatedLastLine();
+    void resultsAlone();
 };
 
 void tst_JournalReading::lossesAreThoseOfFilesWithoutResult_data()
@@ -81,6 +84,71 @@ void tst_JournalReading::retriedFilesHaveNoResult()
     state = ReadJournal(path);
     QVERIFY(state);
     QCOMPARE(state->results.value(1).kind, Kind::Written);
+}
+
+/// A journal is read in blocks, whose ends may be anywhere in a line.
+void tst_JournalReading::linesOfAnyLength()
+{
+    constexpr int block = 1 << 20;
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("journal"));
+    const QString document(3 * block, QLatin1Char('x'));
+    QStringList outputs;
+    for (const int length : {1, block - 200, 100, block, block + 1, 2 * block, 5}) {
+        outputs.append(QLatin1Char('/') + QString(length, QLatin1Char('y')));
+    }
+    {
+        RunJournal journal;
+        QVERIFY(journal.Create(path, document, {}));
+        for (int i = 0; i < outputs.size(); ++i) {
+            journal.Settle(i, {ResultKind::Written, outputs.at(i), 0, {}});
+        }
+    }
+    const std::optional<JournalState> state = ReadJournal(path);
+    QVERIFY(state);
+    QVERIFY(state->document == document);
+    QCOMPARE(state->results.size(), outputs.size());
+    for (int i = 0; i < outputs.size(); ++i) {
+        QVERIFY(state->results.value(i).output == outputs.at(i));
+    }
+}
+
+void tst_JournalReading::truncatedLastLine()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("journal"));
+    {
+        RunJournal journal;
+        QVERIFY(journal.Create(path, QStringLiteral("<root/>"), {}));
+        journal.Settle(0, {ResultKind::Written, QStringLiteral("/a"), 0, {}});
+        journal.Settle(1, {ResultKind::Written, QStringLiteral("/b"), 0, {}});
+    }
+    QFile file(path);
+    QVERIFY(file.resize(file.size() - 1));
+    const std::optional<JournalState> state = ReadJournal(path);
+    QVERIFY(state);
+    QCOMPARE(state->results.keys(), QList<int>{0});
+}
+
+void tst_JournalReading::resultsAlone()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("journal"));
+    const Versions makers{{QStringLiteral("libjxl"), QStringLiteral("0.7")}};
+    {
+        RunJournal journal;
+        QVERIFY(journal.Create(path, QStringLiteral("<root/>"), {}));
+        journal.NoteMakers(makers);
+        journal.FixNames({{QStringLiteral("/a"), QStringLiteral("JPEG"), 1}});
+        journal.Settle(0, {ResultKind::Written, QStringLiteral("/a"), 0, {}});
+    }
+    const std::optional<JournalState> state = ReadJournal(path, JournalUse::Results);
+    QVERIFY(state);
+    QCOMPARE(state->makers, makers);
+    QCOMPARE(state->byMakers, QSet<int>{0});
+    QCOMPARE(state->results.keys(), QList<int>{0});
+    QVERIFY(state->document.isEmpty());
+    QVERIFY(state->names.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_JournalReading)
