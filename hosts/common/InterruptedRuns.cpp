@@ -20,6 +20,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <map>
 
 using namespace BatchJob;
 
@@ -134,6 +135,7 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
     const auto ignore = [this](const QString& path, const QString& reason) {
         ignored.append(Phrase::English("%1 is ignored: %2").arg(path, reason));
     };
+    std::multimap<qint64, Run> byBeginning;
     for (const QString& path : JournalFile::In(folder)) {
         QFile file;
         QString problem;
@@ -153,14 +155,14 @@ InterruptedRuns::InterruptedRuns(const QString& outputFolder)
         const QString ofJob = bundle.IsEmpty() ? job.GetOutputSettings()->GetPath() : bundle.folder;
         const QString target = run.state ? ofJob : folder;
         if (IdentityOf(target) == IdentityOf(folder)) {
-            runs.push_back(run);
+            byBeginning.emplace(run.state ? run.state->beganAt : 0, run);
         } else {
             ignore(path, Phrase::English("its results go to %1").arg(target));
         }
     }
-    std::sort(runs.begin(), runs.end(), [](const Run& a, const Run& b) {
-        return (a.state ? a.state->beganAt : 0) < (b.state ? b.state->beganAt : 0);
-    });
+    for (const auto& [began, run] : byBeginning) {
+        runs.push_back(run);
+    }
 }
 
 int InterruptedRuns::Count() const

@@ -233,9 +233,13 @@ void tst_SlurmParts::lostDaemonWhoseTaskGoesOn()
                                            QStringLiteral("state=down"), QStringLiteral("reason=test")});
     QVERIFY2(given.exitCode == 0, given.err);
     const auto commands = [this, task] { return ProcessesOf(task, QStringLiteral("velkora-batch")).size(); };
+    const auto workers = [this, task] { return ProcessesOf(task, QStringLiteral("VelkoraBatchWorker")).size(); };
+    const int held = workers();
     QTRY_COMPARE_WITH_TIMEOUT(commands(), 2, patience);
-    QVERIFY2(stage->HoldOnTheWay(task, VariableOf(task)), Told());
+    // A command asks a worker for its versions before it begins; that one is not to be held.
     QTRY_COMPARE_WITH_TIMEOUT(stage->BeginningsOf(task), 2, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(workers() > held, patience);
+    QVERIFY2(stage->HoldOnTheWay(task, VariableOf(task)), Told());
     stage->Continue(VariableOf(task));
 
     QTRY_VERIFY_WITH_TIMEOUT(IsOver(), patience);
