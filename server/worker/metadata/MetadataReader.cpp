@@ -8,6 +8,7 @@
 #include "BoxFile.h"
 #include "ItemBoxes.h"
 #include "JxlBoxes.h"
+#include "MetadataFile.h"
 #include "PngMetadata.h"
 
 #include "server/worker/decode/PictureSource.h"
@@ -61,8 +62,8 @@ MetadataBlocks BlocksOf(Exiv2::Image& image)
 
 MetadataBlocks BlocksOfFile(const QString& file)
 {
-    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
-    return BlocksOf(*image);
+    MetadataFile opened(file);
+    return BlocksOf(opened.Image());
 }
 
 enum class Header { Kept, LeftOut };

@@ -5,34 +5,21 @@
 #include "EarlyLoading.h"
 #include "ImagingLibrary.h"
 #include "ReportQueue.h"
+#include "StandardStreams.h"
 #include "Worker.h"
 
 #include <vips/vips8>
 
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace BatchProtocol;
 using namespace BatchWorker;
 
-namespace {
-
-// Libraries may print to standard output at any time; the supervisor must read nothing but frames there.
-int TakeStandardOutput()
-{
-    const int own = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-    dup2(STDERR_FILENO, STDOUT_FILENO);
-    return own;
-}
-
-} // namespace
-
 int main(int argc, char** argv)
 {
     const int output = TakeStandardOutput();
-    if (argc != 1 || isatty(STDIN_FILENO) == 1) {
+    if (argc != 1 || IsInputTyped()) {
         std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing and takes no arguments.\n");
         return EXIT_FAILURE;
     }
@@ -48,7 +35,7 @@ int main(int argc, char** argv)
         Report ready;
         ready.number = workerIsReady;
         reports.SendNow(ready);
-        isUnderstood = Worker(reports, confinement).Run(STDIN_FILENO);
+        isUnderstood = Worker(reports, confinement).Run(StandardInput());
     }
     vips_shutdown();
     if (!isUnderstood) {

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "MetadataFile.h"
+
+namespace BatchWorker {
+
+MetadataFile::MetadataFile(const QString& path)
+    : image(Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString()))
+{
+}
+
+void MetadataFile::Write()
+{
+    image->writeMetadata();
+}
+
+} // namespace BatchWorker
