@@ -75,22 +75,13 @@ bool IsRaw(const FormatSchema& format)
     return !loader.operation && !loader.read;
 }
 
-// The library moves values of 10 and 12 bits to the upper end of 16 bits, which leaves white short of the largest
-// value.
-Picture WithWholeRange(const Picture& picture)
-{
-    constexpr const char* bitsOfHeif = "heif-bitdepth";
-    const bool isDeep = picture.format() == VIPS_FORMAT_USHORT && picture.get_typeof(bitsOfHeif) != 0;
-    return isDeep ? picture | (picture >> picture.get_int(bitsOfHeif)) : picture;
-}
-
 Picture Read(const QString& file, const Loader& loader, int shrink, const ServerLimits& limits, Warnings& warnings)
 {
     const FileDescriptor descriptor(file);
     if (loader.read) {
         return loader.read(descriptor.Value(), shrink, limits, warnings);
     }
-    return WithWholeRange(LoadWithLibrary(loader.operation, SourceOf(descriptor.Value()), loader.shrink, shrink));
+    return LoadWithLibrary(loader.operation, SourceOf(descriptor.Value()), loader.shrink, shrink);
 }
 
 } // namespace

@@ -16,8 +16,8 @@ namespace {
 
 } // namespace
 
-// The library knows names of 8 bit characters only, so it gets the contents of the file. They are not copied before they
-// are changed.
+// The library knows names of 8 bit characters only, so it gets the contents of the file. They are not copied before
+// they are changed.
 MetadataFile::MetadataFile(const QString& path)
     : file(path)
 {

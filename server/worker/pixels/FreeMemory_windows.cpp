@@ -3,10 +3,11 @@
 
 #include "FreeMemory.h"
 
+#include <qt_windows.h>
+
 #include <algorithm>
 #include <limits>
 #include <psapi.h>
-#include <qt_windows.h>
 
 namespace BatchWorker {
 

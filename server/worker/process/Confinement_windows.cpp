@@ -12,8 +12,8 @@ namespace BatchWorker {
 
 namespace {
 
-/// Puts this process into a job object that bounds its memory and has room for no other process. The object has no name,
-/// and its only handle is closed, so that nobody can change it afterwards.
+/// Puts this process into a job object that bounds its memory and has room for no other process. The object has no
+/// name, and its only handle is closed, so that nobody can change it afterwards.
 bool EnterJob(qint64 memory)
 {
     const HANDLE job = CreateJobObjectW(nullptr, nullptr);
@@ -21,8 +21,8 @@ bool EnterJob(qint64 memory)
         return false;
     }
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
-    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_PROCESS_MEMORY | JOB_OBJECT_LIMIT_ACTIVE_PROCESS |
-                                              JOB_OBJECT_LIMIT_DIE_ON_UNHANDLED_EXCEPTION;
+    limits.BasicLimitInformation.LimitFlags =
+        JOB_OBJECT_LIMIT_PROCESS_MEMORY | JOB_OBJECT_LIMIT_ACTIVE_PROCESS | JOB_OBJECT_LIMIT_DIE_ON_UNHANDLED_EXCEPTION;
     limits.BasicLimitInformation.ActiveProcessLimit = 1;
     limits.ProcessMemoryLimit = SIZE_T(memory);
     const bool isEntered =
