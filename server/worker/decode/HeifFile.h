@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QFile>
 #include <QString>
 
 #include <libheif/heif.h>
@@ -22,7 +21,7 @@ public:
     heif_context* Get() const { return context.get(); }
 
 private:
-    QFile file; ///< open as long as the library reads from it, where it cannot open the file itself
+    std::shared_ptr<void> contents; ///< what the library reads, where it cannot open the file itself
     std::unique_ptr<heif_context, decltype(&heif_context_free)> context{heif_context_alloc(), heif_context_free};
     bool isRead = false;
 };

@@ -3,6 +3,8 @@
 
 #include "HeifFile.h"
 
+#include <QFile>
+
 namespace BatchWorker {
 
 HeifFile::HeifFile(const QString& path)

@@ -3,18 +3,19 @@
 
 #include "HeifFile.h"
 
+#include "server/worker/pixels/MappedFile_windows.h"
+
 namespace BatchWorker {
 
-// The library knows names of 8 bit characters only.
 HeifFile::HeifFile(const QString& path)
-    : file(path)
 {
-    const uchar* const bytes = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
-    if (bytes) {
-        const heif_error problem =
-            heif_context_read_from_memory_without_copy(context.get(), bytes, std::size_t(file.size()), nullptr);
+    const auto file = std::make_shared<MappedFile>(path);
+    if (file->Bytes()) {
+        const heif_error problem = heif_context_read_from_memory_without_copy(context.get(), file->Bytes(),
+                                                                              std::size_t(file->Size()), nullptr);
         isRead = problem.code == heif_error_Ok;
     }
+    contents = file;
 }
 
 } // namespace BatchWorker

@@ -233,7 +233,7 @@ QByteArray Metadata::Xmp(bool withWrapper) const
 
 void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const
 {
-    MetadataFile opened(file);
+    MetadataFile opened(file, MetadataFile::Use::Writing);
     Exiv2::Image& image = opened.Image();
     image.readMetadata();
     for (const Exiv2::Exifdatum& entry : d->exif) {

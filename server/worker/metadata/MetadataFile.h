@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QFile>
 #include <QString>
 
 #include <exiv2/exiv2.hpp>
+#include <memory>
 
 namespace BatchWorker {
 
@@ -14,16 +14,18 @@ namespace BatchWorker {
 class MetadataFile
 {
 public:
-    explicit MetadataFile(const QString& path);
+    enum class Use { Reading, Writing };
+
+    MetadataFile(const QString& path, Use use);
 
     Exiv2::Image& Image() { return *image; }
 
-    /// Writes the metadata of Image() into the file.
+    /// Writes the metadata of Image() into the file, which was opened for writing.
     void Write();
 
 private:
-    QFile file;             ///< for the library's pixels and metadata, where it cannot open the file itself
-    uchar* bytes = nullptr; ///< of `file`, in memory
+    QString path;
+    std::shared_ptr<void> contents; ///< what the library reads, where it cannot open the file itself
     Exiv2::Image::AutoPtr image;
 };
 

@@ -3,10 +3,13 @@
 
 #include "MetadataFile.h"
 
+#include <QFile>
+
 namespace BatchWorker {
 
-MetadataFile::MetadataFile(const QString& path)
-    : image(Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString()))
+MetadataFile::MetadataFile(const QString& path, Use)
+    : path(path)
+    , image(Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString()))
 {
 }
 

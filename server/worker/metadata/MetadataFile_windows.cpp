@@ -3,35 +3,36 @@
 
 #include "MetadataFile.h"
 
+#include "server/worker/pixels/FileCalls.h"
+#include "server/worker/pixels/MappedFile_windows.h"
+
+#include <cerrno>
 #include <limits>
 
 namespace BatchWorker {
 
 namespace {
 
-[[noreturn]] void Fail(const QFile& file)
+[[noreturn]] void Fail()
 {
-    throw Exiv2::Error(Exiv2::kerErrorMessage, file.errorString().toStdString());
+    throw Exiv2::Error(Exiv2::kerErrorMessage, qt_error_string(errno).toStdString());
 }
 
 } // namespace
 
-// The library knows names of 8 bit characters only, so it gets the contents of the file. They are not copied before
-// they are changed.
-MetadataFile::MetadataFile(const QString& path)
-    : file(path)
+MetadataFile::MetadataFile(const QString& path, Use use)
+    : path(path)
 {
-    if (!file.open(QIODevice::ReadOnly)) {
-        Fail(file);
+    const auto file = std::make_shared<MappedFile>(path, use == Use::Writing);
+    if (!file->Bytes()) {
+        Fail();
     }
-    if (file.size() > std::numeric_limits<long>::max()) {
+    if (file->Size() > std::numeric_limits<long>::max()) {
         throw Exiv2::Error(Exiv2::kerErrorMessage, "the file has more than 2 GiB");
     }
-    bytes = file.map(0, file.size());
-    if (!bytes) {
-        Fail(file);
-    }
-    image = Exiv2::ImageFactory::open(bytes, long(file.size()));
+    // The library changes some kinds of files where they are in memory.
+    image = Exiv2::ImageFactory::open(file->Bytes(), long(file->Size()));
+    contents = file;
 }
 
 void MetadataFile::Write()
@@ -39,15 +40,14 @@ void MetadataFile::Write()
     image->writeMetadata();
     Exiv2::BasicIo& written = image->io();
     written.open();
-    const QByteArray contents(reinterpret_cast<const char*>(written.mmap()), int(written.size()));
+    const QByteArray bytes(reinterpret_cast<const char*>(written.mmap()), int(written.size()));
     written.munmap();
-    // A file in memory cannot become shorter.
-    file.unmap(bytes);
-    file.close();
-    const bool isDone = file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
-                        file.write(contents) == contents.size() && file.resize(contents.size()) && file.flush();
+    contents.reset(); // A file that is in memory cannot become shorter.
+    QFile file;
+    const bool isDone = OpenFile(file, path, QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
+                        file.write(bytes) == bytes.size() && file.resize(bytes.size()) && file.flush();
     if (!isDone) {
-        Fail(file);
+        Fail();
     }
 }
 

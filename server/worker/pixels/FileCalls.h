@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QFile>
 #include <QString>
 
 #include <vips/vips8>
@@ -29,6 +30,10 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place);
 
 /// Where the file stands afterwards; `whence` as for lseek(). Negative, with errno, when that fails.
 qint64 MoveTo(int descriptor, qint64 offset, int whence);
+
+/// Opens `file`, which has no name yet, at `path`: also a result that is still open for writing here, which a system
+/// may refuse otherwise. False, with file.errorString() where the system says it, when that fails.
+bool OpenFile(QFile& file, const QString& path, QIODevice::OpenMode mode);
 
 /// The file as a source of the imaging library, which may be used when `descriptor` is closed.
 vips::VSource SourceOf(int descriptor);

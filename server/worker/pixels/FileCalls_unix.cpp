@@ -3,8 +3,6 @@
 
 #include "FileCalls.h"
 
-#include <QFile>
-
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -56,6 +54,12 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
 qint64 MoveTo(int descriptor, qint64 offset, int whence)
 {
     return lseek(descriptor, off_t(offset), whence);
+}
+
+bool OpenFile(QFile& file, const QString& path, QIODevice::OpenMode mode)
+{
+    file.setFileName(path);
+    return file.open(mode);
 }
 
 vips::VSource SourceOf(int descriptor)

@@ -43,9 +43,9 @@ void NoteProblem(DWORD problem)
     }
 }
 
-int DescriptorOf(HANDLE file)
+int DescriptorOf(HANDLE file, int mode = _O_RDONLY)
 {
-    const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+    const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(file), mode | _O_BINARY | _O_NOINHERIT);
     if (descriptor < 0) {
         CloseHandle(file);
     }
@@ -170,6 +170,19 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
 qint64 MoveTo(int descriptor, qint64 offset, int whence)
 {
     return _lseeki64(descriptor, offset, whence);
+}
+
+// A result is open here with the right to rename it, so whoever opens it has to bear that.
+bool OpenFile(QFile& file, const QString& path, QIODevice::OpenMode mode)
+{
+    const bool isWritten = (mode & QIODevice::WriteOnly) != 0;
+    const HANDLE opened = Open(path, isWritten ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ);
+    if (opened == INVALID_HANDLE_VALUE) {
+        NoteProblem(GetLastError());
+        return false;
+    }
+    const int descriptor = DescriptorOf(opened, isWritten ? _O_RDWR : _O_RDONLY);
+    return descriptor >= 0 && file.open(descriptor, mode & ~QIODevice::ExistingOnly, QFile::AutoCloseHandle);
 }
 
 vips::VSource SourceOf(int descriptor)
