@@ -7,6 +7,7 @@
 
 #include "job/values/JobValues.h"
 
+#include <QFileInfo>
 #include <QTest>
 
 using namespace BatchJob;
@@ -89,6 +90,9 @@ void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding_data()
 void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding()
 {
     QFETCH(const QString, input);
+    if (const char* const missing = MissingInTests(QFileInfo(input).suffix())) {
+        QSKIP(missing);
+    }
     QVector<QByteArray> alone;
     const QVector<int> sides{96, 80, 80};
     for (const int side : sides) {
@@ -198,6 +202,9 @@ void tst_KeptPixels::damageIsReportedEachTime_data()
 void tst_KeptPixels::damageIsReportedEachTime()
 {
     QFETCH(const QString, input);
+    if (const char* const missing = MissingInTests(QFileInfo(input).suffix())) {
+        QSKIP(missing);
+    }
     WorkerBench bench;
     WriteInput(bench, input);
     QByteArray bytes = bench.Bytes(input);
