@@ -211,7 +211,12 @@ void tst_WorkerPictures::readsEveryFormat()
     const Picture expected = ReadPicture(bench->Path(NameIn(format)));
     QVERIFY(QFile::rename(bench->Path(NameIn(format)), bench->Path(Text("in.txt"))));
     QCOMPARE(bench->Make(Text("in.txt"), Text("out.png"), Text("PNG")).reason, QString());
-    QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), expected), 0.0);
+#ifdef Q_OS_WIN
+    const double most = format == Text("AVIF") ? 1.0 : 0.0; // The worker there has another decoder than this test.
+#else
+    const double most = 0.0;
+#endif
+    QVERIFY(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), expected) <= most);
     const Report probe = bench->Probe(Text("in.txt"));
     QCOMPARE(probe.inputFormat, format);
 }
@@ -470,6 +475,9 @@ void tst_WorkerPictures::tellsOfFurtherPages()
     QFETCH(const QString, extension);
     QFETCH(const QByteArray, options);
     QFETCH(const QStringList, warnings);
+    if (const char* const missing = MissingInTests(extension)) {
+        QSKIP(missing);
+    }
 
     const QString name = Text("in.") + extension;
     WritePicture(Chart(40, 90), bench->Path(name), '[' + options + ']');

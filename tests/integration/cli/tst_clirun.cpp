@@ -293,6 +293,9 @@ void tst_CliRun::eventsAreJson()
 
 void tst_CliRun::reportsListEveryInput()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Names cannot hold quotation marks there.");
+#endif
     const QString odd = QStringLiteral("photos/a \"quoted\", name.jpg");
     PictureFiles::WriteJpeg(Path(odd));
     PictureFiles::WriteTruncated(Path(QStringLiteral("photos/2.jpg")));
