@@ -26,6 +26,13 @@ const char* MissingEncoder(const QString& format);
 /// does not know JPEG XL.
 const char* MissingInTests(const QString& format);
 
+/// Skips a test or a row if `reason`, one of the above, is not null.
+#define SKIP_WHERE(reason)                                                                                             \
+    if (const char* const missing = (reason)) {                                                                        \
+        QSKIP(missing);                                                                                                \
+    }                                                                                                                  \
+    Q_UNUSED(0)
+
 /// The file's pixels as they are stored, in memory.
 BatchWorker::Picture ReadPicture(const QString& file);
 

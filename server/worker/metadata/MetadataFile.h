@@ -26,7 +26,7 @@ public:
 private:
     QString path;
     std::shared_ptr<void> contents; ///< what the library reads, where it cannot open the file itself
-    Exiv2::Image::AutoPtr image;
+    std::unique_ptr<Exiv2::Image> image;
 };
 
 } // namespace BatchWorker

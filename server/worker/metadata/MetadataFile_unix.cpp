@@ -9,7 +9,7 @@ namespace BatchWorker {
 
 MetadataFile::MetadataFile(const QString& path, Use)
     : path(path)
-    , image(Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString()))
+    , image(Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString()).release())
 {
 }
 

@@ -31,7 +31,7 @@ MetadataFile::MetadataFile(const QString& path, Use use)
         throw Exiv2::Error(Exiv2::kerErrorMessage, "the file has more than 2 GiB");
     }
     // The library changes some kinds of files where they are in memory.
-    image = Exiv2::ImageFactory::open(file->Bytes(), long(file->Size()));
+    image.reset(Exiv2::ImageFactory::open(file->Bytes(), long(file->Size())).release());
     contents = file;
 }
 

@@ -7,6 +7,8 @@
 
 #include <QtGlobal>
 
+#include <memory>
+
 namespace BatchWorker {
 
 /// An empty file in the temporary folder that is gone with this object, and with the process, however that ends: it has
@@ -27,7 +29,7 @@ private:
     Q_DISABLE_COPY(NamelessFile)
 
     int descriptor;
-    void* view = nullptr; ///< of the file in memory, where the imaging library cannot open it
+    std::shared_ptr<void> view; ///< of the file in memory, where the imaging library cannot open it
 };
 
 } // namespace BatchWorker

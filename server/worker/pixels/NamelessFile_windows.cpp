@@ -38,9 +38,7 @@ NamelessFile::NamelessFile()
 
 NamelessFile::~NamelessFile()
 {
-    if (view) {
-        UnmapViewOfFile(view);
-    }
+    view.reset();
     if (descriptor >= 0) {
         _close(descriptor);
     }
@@ -51,7 +49,7 @@ VipsImage* NamelessFile::NewImage(int width, int height, int pixelSize)
 {
     const HANDLE mapping = CreateFileMappingW(HandleOf(descriptor), nullptr, PAGE_READONLY, 0, 0, nullptr);
     if (mapping) {
-        view = MapViewOfFile(mapping, FILE_MAP_READ, 0, 0, 0);
+        view.reset(MapViewOfFile(mapping, FILE_MAP_READ, 0, 0, 0), UnmapViewOfFile);
         CloseHandle(mapping); // the view holds it
     }
     if (!view) {
@@ -59,7 +57,7 @@ VipsImage* NamelessFile::NewImage(int width, int height, int pixelSize)
         return nullptr;
     }
     const std::size_t size = std::size_t(width) * std::size_t(height) * std::size_t(pixelSize);
-    return vips_image_new_from_memory(view, size, width, height, pixelSize, VIPS_FORMAT_UCHAR);
+    return vips_image_new_from_memory(view.get(), size, width, height, pixelSize, VIPS_FORMAT_UCHAR);
 }
 
 } // namespace BatchWorker

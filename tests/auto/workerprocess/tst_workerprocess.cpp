@@ -313,6 +313,9 @@ void tst_WorkerProcess::reportsAnUnusableFolder()
 
 void tst_WorkerProcess::followsNoLinkBelowTheRoot()
 {
+#ifdef Q_OS_WIN
+    QSKIP("A link that Qt creates is an ordinary file there.");
+#endif
     WritePicture(Chart(30, 20), Path(QStringLiteral("in.png")));
     QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("private")));
     QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("out")));
