@@ -130,8 +130,14 @@ void ChildProcess::KeepInBackground()
 {
     isInBackground = true;
 #ifdef Q_OS_WIN
-    setCreateProcessArgumentsModifier(
-        [](CreateProcessArguments* arguments) { arguments->flags |= BELOW_NORMAL_PRIORITY_CLASS; });
+    // There is one modifier, and what reads the streams of a process needs it too.
+    const CreateProcessArgumentModifier others = createProcessArgumentsModifier();
+    setCreateProcessArgumentsModifier([others](CreateProcessArguments* arguments) {
+        if (others) {
+            others(arguments);
+        }
+        arguments->flags |= BELOW_NORMAL_PRIORITY_CLASS;
+    });
 #endif
 }
 

@@ -12,9 +12,9 @@ namespace BatchProtocol {
 
 /// A hidden file in the folder of a result. It gets the name of the result when it is complete.
 ///
-/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". It is locked while it is written (flock; on Windows it is
-/// open for this process only). As the system releases the lock with the process, a later run can tell it from one that
-/// a crash has left. Use it on one thread at a time.
+/// Its name is ".velkora-", 16 hexadecimal digits, ".tmp". It is locked while it is written (flock; on Windows nobody
+/// else may remove or rename it). As the system releases the lock with the process, a later run can tell it from one
+/// that a crash has left. Use it on one thread at a time.
 class TemporaryFile
 {
 public:

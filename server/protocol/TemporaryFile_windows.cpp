@@ -34,11 +34,13 @@ HANDLE HandleOf(int descriptor)
     return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
 }
 
-/// While the file is open nobody else may write or remove it: that is the lock here.
+/// While the file is open nobody else may remove or rename it: that is the lock here. What encoders leave out is
+/// written by libraries that open the file once more.
 int OpenLocked(const QString& path)
 {
-    const HANDLE file = CreateFileW(Native(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ,
-                                    nullptr, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr);
+    const HANDLE file =
+        CreateFileW(Native(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                    nullptr, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
         return -1;
     }

@@ -48,6 +48,31 @@ Picture Chart(int width, int height, int square)
         .copy_memory();
 }
 
+#ifdef Q_OS_WIN
+const char* MissingEncoder(const QString& format)
+{
+    const QStringList missing{QStringLiteral("HEIF"), QStringLiteral("JPEG 2000"), QStringLiteral("heic"),
+                              QStringLiteral("jp2")};
+    return missing.contains(format) ? "This installation has no encoder for it." : nullptr;
+}
+
+const char* MissingInTests(const QString& format)
+{
+    const QStringList missing{QStringLiteral("JPEG XL"), QStringLiteral("jxl")};
+    return missing.contains(format) ? "The imaging library of the test does not know it." : MissingEncoder(format);
+}
+#else
+const char* MissingEncoder(const QString&)
+{
+    return nullptr;
+}
+
+const char* MissingInTests(const QString&)
+{
+    return nullptr;
+}
+#endif
+
 Picture ReadPicture(const QString& file)
 {
     return Picture::new_from_file(QFile::encodeName(file).constData()).copy_memory();

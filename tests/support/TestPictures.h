@@ -18,6 +18,21 @@ void StartPictures();
 /// `square` pixels. Every place differs, so that a picture that is turned or moved shows it.
 BatchWorker::Picture Chart(int width, int height, int square = 8);
 
+/// Why there can be no file of `format`, or of the extension `format`, here; null where there can be. The libraries for
+/// Windows have no encoder of HEIF and JPEG 2000.
+const char* MissingEncoder(const QString& format);
+
+/// The same for files that tests write or read by ReadPicture() and WritePicture(): the imaging library for Windows
+/// does not know JPEG XL.
+const char* MissingInTests(const QString& format);
+
+/// Skips a test or a row if `reason`, one of the above, is not null.
+#define SKIP_WHERE(reason)                                                                                             \
+    if (const char* const missing = (reason)) {                                                                        \
+        QSKIP(missing);                                                                                                \
+    }                                                                                                                  \
+    Q_UNUSED(0)
+
 /// The file's pixels as they are stored, in memory.
 BatchWorker::Picture ReadPicture(const QString& file);
 

@@ -3,8 +3,7 @@
 
 #include "ByteScanner.h"
 
-#include <cerrno>
-#include <unistd.h>
+#include "server/worker/pixels/FileCalls.h"
 
 namespace BatchWorker {
 
@@ -46,10 +45,7 @@ void ByteScanner::Skip(qint64 count)
 
 bool ByteScanner::Fill()
 {
-    ssize_t count = 0;
-    do {
-        count = pread(descriptor, block.data(), block.size(), nextBlock);
-    } while (count < 0 && errno == EINTR);
+    const qint64 count = ReadAt(descriptor, block.data(), qint64(block.size()), nextBlock);
     filled = int(count > 0 ? count : 0);
     taken = 0;
     nextBlock += filled;

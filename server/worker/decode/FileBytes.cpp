@@ -3,23 +3,21 @@
 
 #include "FileBytes.h"
 
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace BatchWorker {
 
 FileBytes::FileBytes(int descriptor)
-    : file(fcntl(descriptor, F_DUPFD_CLOEXEC, 0))
+    : file(DuplicateOf(descriptor))
+    , size(file < 0 ? -1 : SizeOfFile(file))
 {
-    struct stat status;
-    if (file < 0 || fstat(file, &status) != 0) {
+    if (size < 0) {
         throw DamagedFile(qt_error_string(errno));
     }
-    size = status.st_size;
 }
 
 FileBytes::~FileBytes()
@@ -31,12 +29,11 @@ qint64 FileBytes::Read(qint64 offset, void* target, qint64 length) const
 {
     qint64 done = 0;
     while (done < length) {
-        const ssize_t count = pread(file, static_cast<char*>(target) + done, std::size_t(length - done), offset + done);
-        if (count > 0) {
-            done += count;
-        } else if (count == 0 || errno != EINTR) {
+        const qint64 count = ReadAt(file, static_cast<char*>(target) + done, length - done, offset + done);
+        if (count <= 0) {
             break;
         }
+        done += count;
     }
     return done;
 }

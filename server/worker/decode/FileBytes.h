@@ -27,7 +27,7 @@ private:
     Q_DISABLE_COPY(FileBytes)
 
     int file;
-    qint64 size = 0;
+    qint64 size;
 };
 
 } // namespace BatchWorker

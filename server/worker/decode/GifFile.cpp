@@ -6,6 +6,7 @@
 #include "ByteScanner.h"
 #include "LibraryLoader.h"
 
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PixelForms.h"
 
 #include <QRect>
@@ -67,7 +68,7 @@ std::optional<QRect> FirstFrame(int descriptor)
 
 Picture ReadGif(int descriptor, int, const ServerLimits&, Warnings&)
 {
-    const Picture canvas = LoadWithLibrary("gifload_source", vips::VSource::new_from_descriptor(descriptor));
+    const Picture canvas = LoadWithLibrary("gifload_source", SourceOf(descriptor));
     const QRect whole(0, 0, canvas.width(), canvas.height());
     const QRect frame = FirstFrame(descriptor).value_or(whole).intersected(whole);
     if (frame == whole || frame.isEmpty()) {

@@ -3,9 +3,7 @@
 
 #include "HeifColours.h"
 
-#include <QFile>
-
-#include <libheif/heif.h>
+#include "HeifFile.h"
 
 #include <memory>
 
@@ -13,7 +11,6 @@ namespace BatchWorker {
 
 namespace {
 
-using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
 using Handle = std::unique_ptr<const heif_image_handle, decltype(&heif_image_handle_release)>;
 using Numbers = std::unique_ptr<heif_color_profile_nclx, decltype(&heif_nclx_color_profile_free)>;
 
@@ -26,10 +23,9 @@ bool IsDone(const heif_error& error)
 
 FileColours ReadHeifColours(const QString& path)
 {
-    const Context context(heif_context_alloc(), heif_context_free);
+    const HeifFile file(path);
     heif_image_handle* main = nullptr;
-    if (!IsDone(heif_context_read_from_file(context.get(), QFile::encodeName(path).constData(), nullptr)) ||
-        !IsDone(heif_context_get_primary_image_handle(context.get(), &main))) {
+    if (!file.IsRead() || !IsDone(heif_context_get_primary_image_handle(file.Get(), &main))) {
         return {}; // the library that reads the pixels says what is wrong
     }
     const Handle handle(main, heif_image_handle_release);

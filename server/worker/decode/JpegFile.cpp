@@ -9,15 +9,13 @@
 #include "JpegTrial.h"
 #include "LibraryLoader.h"
 
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace BatchJob;
@@ -34,8 +32,7 @@ constexpr std::array<std::uint8_t, 2> endMarker{fill, endOfImage};
 
 qint64 SizeOf(int descriptor)
 {
-    struct stat status;
-    return fstat(descriptor, &status) == 0 ? qint64(status.st_size) : 0;
+    return std::max<qint64>(SizeOfFile(descriptor), 0);
 }
 
 bool IsAlone(int marker)
@@ -99,7 +96,7 @@ bool EndsWithMarker(int descriptor)
 {
     std::array<std::uint8_t, 2> last{};
     const qint64 size = SizeOf(descriptor);
-    return size >= 2 && pread(descriptor, last.data(), last.size(), size - 2) == 2 && last == endMarker;
+    return size >= 2 && ReadAt(descriptor, last.data(), qint64(last.size()), size - 2) == 2 && last == endMarker;
 }
 
 /// A file with an end marker behind it.
@@ -107,7 +104,7 @@ class CompletedFile
 {
 public:
     explicit CompletedFile(int source)
-        : descriptor(fcntl(source, F_DUPFD_CLOEXEC, 0))
+        : descriptor(DuplicateOf(source))
         , size(SizeOf(source))
     {
     }
@@ -121,11 +118,8 @@ public:
             position += left;
             return left;
         }
-        ssize_t count = 0;
-        do {
-            count = pread(descriptor, target, std::size_t(std::min<gint64>(length, size - position)), position);
-        } while (count < 0 && errno == EINTR);
-        position += count > 0 ? count : 0;
+        const qint64 count = ReadAt(descriptor, target, std::min<gint64>(length, size - position), position);
+        position += std::max<qint64>(count, 0);
         return count;
     }
 
@@ -186,8 +180,7 @@ Picture ReadJpeg(int descriptor, int shrink, const ServerLimits& limits, Warning
 {
     constexpr const char* operation = "jpegload_source";
     if (HasEnd(descriptor, EndsWithMarker(descriptor))) {
-        return LoadWithLibrary(operation, vips::VSource::new_from_descriptor(descriptor), LoaderShrink::ByFactor,
-                               shrink);
+        return LoadWithLibrary(operation, SourceOf(descriptor), LoaderShrink::ByFactor, shrink);
     }
     RequireWhole(descriptor, limits.pixels);
     const Warning warning{WarningKind::Incomplete,

@@ -3,12 +3,12 @@
 
 #include "JpegTrial.h"
 
+#include "server/worker/pixels/FileCalls.h"
+
 #include <array>
-#include <cerrno>
 #include <csetjmp>
 #include <cstdint>
 #include <cstdio>
-#include <unistd.h>
 #include <vector>
 
 #include <jerror.h>
@@ -69,10 +69,7 @@ private:
     static boolean Fill(j_decompress_ptr decoder)
     {
         JpegTrial& self = Of(decoder);
-        ssize_t count = 0;
-        do {
-            count = pread(self.descriptor, self.block.data(), self.block.size(), self.position);
-        } while (count < 0 && errno == EINTR);
+        qint64 count = ReadAt(self.descriptor, self.block.data(), qint64(self.block.size()), self.position);
         if (count <= 0) {
             self.block[0] = 0xFF;
             self.block[1] = JPEG_EOI;

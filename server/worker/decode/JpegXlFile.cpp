@@ -9,13 +9,12 @@
 #include "JpegXlDecoder.h"
 
 #include "server/worker/pixels/CarriedFailure.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/FreeMemory.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
 #include <mutex>
 #include <new>
@@ -35,7 +34,7 @@ class JpegXlFile
 {
 public:
     explicit JpegXlFile(int original)
-        : descriptor(fcntl(original, F_DUPFD_CLOEXEC, 0))
+        : descriptor(DuplicateOf(original))
         , decoder([this](qint64 offset, void* target, qint64 length) { return Read(offset, target, length); })
         , header(decoder.ReadHeader())
     {
@@ -69,12 +68,11 @@ private:
     {
         qint64 done = 0;
         while (done < length) {
-            const ssize_t count =
-                pread(descriptor, static_cast<char*>(target) + done, std::size_t(length - done), off_t(offset + done));
-            if (count == 0 || (count < 0 && errno != EINTR)) {
+            const qint64 count = ReadAt(descriptor, static_cast<char*>(target) + done, length - done, offset + done);
+            if (count <= 0) {
                 break;
             }
-            done += std::max<qint64>(0, count);
+            done += count;
         }
         return done;
     }

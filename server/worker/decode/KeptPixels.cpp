@@ -3,16 +3,9 @@
 
 #include "KeptPixels.h"
 
-#include <QFile>
-
 namespace BatchWorker {
 
 namespace {
-
-bool IsEqual(const timespec& left, const timespec& right)
-{
-    return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
-}
 
 void AppendOnce(const BatchJob::Warnings& more, BatchJob::Warnings& warnings)
 {
@@ -25,24 +18,9 @@ void AppendOnce(const BatchJob::Warnings& more, BatchJob::Warnings& warnings)
 
 } // namespace
 
-bool KeptPixels::Stamp::operator==(const Stamp& other) const
-{
-    return bytes >= 0 && device == other.device && file == other.file && bytes == other.bytes &&
-           IsEqual(modified, other.modified) && IsEqual(changed, other.changed);
-}
-
 KeptPixels::KeptPixels(WarningSource takeWarnings)
     : takeWarnings(takeWarnings)
 {
-}
-
-KeptPixels::Stamp KeptPixels::StampOf(const QString& file)
-{
-    struct stat status = {};
-    if (stat(QFile::encodeName(file).constData(), &status) != 0) {
-        return {};
-    }
-    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
 }
 
 void KeptPixels::BeginTask(const QString& file, bool keeps, qint64 mostBytes)
@@ -50,8 +28,8 @@ void KeptPixels::BeginTask(const QString& file, bool keeps, qint64 mostBytes)
     this->keeps = keeps;
     this->mostBytes = mostBytes;
     wereUsed = false;
-    stamp = keeps || kept ? StampOf(file) : Stamp();
-    if (kept && !(kept->stamp == stamp)) {
+    state = keeps || kept ? StateOf(file) : FileState();
+    if (kept && !(kept->state == state)) {
         Forget();
     }
     if (kept) {
@@ -91,7 +69,7 @@ Picture KeptPixels::Get(int shrink, Place place, BatchJob::Warnings& warnings, c
         }
     }
     AppendOnce(takeWarnings(), warnings);
-    kept = Kept{stamp, shrink, pixels, warnings};
+    kept = Kept{state, shrink, pixels, warnings};
     return pixels;
 }
 

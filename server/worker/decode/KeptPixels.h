@@ -4,14 +4,13 @@
 #pragma once
 
 #include "job/values/Warning.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/Picture.h"
 
 #include <QString>
 
 #include <functional>
 #include <optional>
-
-#include <sys/stat.h>
 
 namespace BatchWorker {
 
@@ -47,32 +46,18 @@ public:
 private:
     Q_DISABLE_COPY(KeptPixels)
 
-    /// Tells a file, as it is now, from others.
-    struct Stamp
-    {
-        dev_t device = 0;
-        ino_t file = 0;
-        off_t bytes = -1; ///< negative for a file that does not exist
-        timespec modified = {};
-        timespec changed = {};
-
-        bool operator==(const Stamp& other) const;
-    };
-
     struct Kept
     {
-        Stamp stamp;
+        FileState state;
         int shrink = 1;
         Picture pixels;
         BatchJob::Warnings warnings;
         bool isOfThisTask = true;
     };
 
-    static Stamp StampOf(const QString& file);
-
     WarningSource takeWarnings;
     std::optional<Kept> kept;
-    Stamp stamp; ///< of the task's file
+    FileState state; ///< of the task's file
     bool keeps = false;
     bool wereUsed = false;
     qint64 mostBytes = 0;

@@ -5,6 +5,7 @@
 
 #include "GifFile.h"
 #include "HeifColours.h"
+#include "HeifPicture.h"
 #include "Jpeg2000File.h"
 #include "JpegFile.h"
 #include "JpegXlFile.h"
@@ -24,8 +25,8 @@ constexpr Loader Jpeg{"jpegload_source", LoaderShrink::ByFactor, ReadJpeg};
 constexpr Loader Png{"pngload_source", LoaderShrink::None, nullptr, ReadPngColours};
 constexpr Loader Tiff{nullptr, LoaderShrink::None, ReadTiff};
 constexpr Loader Webp{"webpload_source", LoaderShrink::ByScale};
-constexpr Loader Heif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
-constexpr Loader Avif{"heifload_source", LoaderShrink::None, nullptr, ReadHeifColours};
+constexpr Loader Heif{"heifload_source", LoaderShrink::None, ReadHeif, ReadHeifColours};
+constexpr Loader Avif{"heifload_source", LoaderShrink::None, ReadHeif, ReadHeifColours};
 constexpr Loader JpegXl{nullptr, LoaderShrink::None, ReadJpegXl};
 constexpr Loader Jpeg2000{nullptr, LoaderShrink::None, ReadJpeg2000};
 constexpr Loader Gif{"gifload_source", LoaderShrink::None, ReadGif};

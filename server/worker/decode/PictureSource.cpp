@@ -16,14 +16,13 @@
 #include "server/worker/geometry/Orientation.h"
 #include "server/worker/pixels/CarriedFailure.h"
 #include "server/worker/pixels/DamageText.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/VipsText.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace BatchJob;
@@ -37,14 +36,12 @@ class FileDescriptor
 {
 public:
     explicit FileDescriptor(const QString& file)
-        : value(open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+        : value(OpenForReading(file))
     {
         if (value < 0) {
             throw DamagedFile(qt_error_string(errno));
         }
-        struct stat status;
-        const bool isFile = fstat(value, &status) == 0 && S_ISREG(status.st_mode);
-        if (!isFile) {
+        if (!IsRegularFile(value)) {
             close(value);
             throw DamagedFile(Phrase::English("it is not a regular file"));
         }
@@ -78,23 +75,13 @@ bool IsRaw(const FormatSchema& format)
     return !loader.operation && !loader.read;
 }
 
-// The library moves values of 10 and 12 bits to the upper end of 16 bits, which leaves white short of the largest
-// value.
-Picture WithWholeRange(const Picture& picture)
-{
-    constexpr const char* bitsOfHeif = "heif-bitdepth";
-    const bool isDeep = picture.format() == VIPS_FORMAT_USHORT && picture.get_typeof(bitsOfHeif) != 0;
-    return isDeep ? picture | (picture >> picture.get_int(bitsOfHeif)) : picture;
-}
-
 Picture Read(const QString& file, const Loader& loader, int shrink, const ServerLimits& limits, Warnings& warnings)
 {
     const FileDescriptor descriptor(file);
     if (loader.read) {
         return loader.read(descriptor.Value(), shrink, limits, warnings);
     }
-    return WithWholeRange(LoadWithLibrary(loader.operation, vips::VSource::new_from_descriptor(descriptor.Value()),
-                                          loader.shrink, shrink));
+    return LoadWithLibrary(loader.operation, SourceOf(descriptor.Value()), loader.shrink, shrink);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "PngChunks.h"
 
 #include "server/worker/colour/GeneratedProfile.h"
+#include "server/worker/pixels/FileCalls.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -61,8 +62,8 @@ void Keep(const QByteArray& type, const QByteArray& content, Chunks& chunks)
 Chunks ReadChunks(const QString& path)
 {
     Chunks chunks;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!OpenFile(file, path, QIODevice::ReadOnly)) {
         return chunks;
     }
     file.seek(pngSignatureSize);

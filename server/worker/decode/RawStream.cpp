@@ -3,14 +3,7 @@
 
 #include "RawStream.h"
 
-#include <QFile>
-
 namespace BatchWorker {
-
-RawStream::RawStream(const QString& file)
-    : LibRaw_bigfile_datastream(QFile::encodeName(file).constData())
-{
-}
 
 void RawStream::BeginCount()
 {

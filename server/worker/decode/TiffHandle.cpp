@@ -4,14 +4,14 @@
 #include "TiffHandle.h"
 
 #include "server/worker/pixels/DamageText.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace BatchJob;
@@ -32,7 +32,7 @@ QString Text(const char* format, va_list values)
 } // namespace
 
 TiffHandle::TiffHandle(int source, qint64 largestAllocation)
-    : descriptor(fcntl(source, F_DUPFD_CLOEXEC, 0))
+    : descriptor(DuplicateOf(source))
 {
     const std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
                                                                                    TIFFOpenOptionsFree);
@@ -55,8 +55,7 @@ TiffHandle::~TiffHandle()
 
 qint64 TiffHandle::FileSize() const
 {
-    struct stat status;
-    return fstat(descriptor, &status) == 0 ? qint64(status.st_size) : 0;
+    return std::max<qint64>(SizeOfFile(descriptor), 0);
 }
 
 tmsize_t TiffHandle::Read(thandle_t self, void* bytes, tmsize_t count)
@@ -64,14 +63,13 @@ tmsize_t TiffHandle::Read(thandle_t self, void* bytes, tmsize_t count)
     auto* const handle = static_cast<TiffHandle*>(self);
     tmsize_t done = 0;
     while (done < count) {
-        const ssize_t step =
-            pread(handle->descriptor, static_cast<char*>(bytes) + done, std::size_t(count - done), handle->position);
-        if (step == 0 || (step < 0 && errno != EINTR)) {
+        const qint64 step =
+            ReadAt(handle->descriptor, static_cast<char*>(bytes) + done, count - done, handle->position);
+        if (step <= 0) {
             break;
         }
-        const ssize_t taken = step > 0 ? step : 0;
-        done += taken;
-        handle->position += taken;
+        done += step;
+        handle->position += step;
     }
     return done;
 }

@@ -3,6 +3,8 @@
 
 #include "ResultTarget.h"
 
+#include "server/worker/pixels/FileCalls.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <unistd.h>
@@ -67,7 +69,7 @@ void ResultTarget::WriteToFile(const char* data, gint64 length)
 gint64 ResultTarget::Seek(gint64 offset, int whence)
 {
     const gint64 before = added.bytes.size();
-    const off_t place = lseek(descriptor, whence == SEEK_SET ? offset + before : offset, whence);
+    const qint64 place = MoveTo(descriptor, whence == SEEK_SET ? offset + before : offset, whence);
     return place < 0 ? place : place - before;
 }
 

@@ -5,6 +5,8 @@
 
 #include "BoxFile.h"
 
+#include "server/worker/pixels/FileCalls.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QtEndian>
@@ -110,9 +112,9 @@ void ReadBox(const QByteArray& type, const QByteArray& content, int depth, ItemB
 ItemBoxes ReadItemBoxes(const QString& path)
 {
     ItemBoxes found;
-    QFile file(path);
+    QFile file;
     constexpr int enough = 8;
-    if (!file.open(QIODevice::ReadOnly) || file.peek(enough).mid(boxTypeSize) != "ftyp") {
+    if (!OpenFile(file, path, QIODevice::ReadOnly) || file.peek(enough).mid(boxTypeSize) != "ftyp") {
         return found;
     }
     while (const std::optional<BoxHeader> box = NextBox(file)) {

@@ -5,6 +5,8 @@
 
 #include "BoxFile.h"
 
+#include "server/worker/pixels/FileCalls.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -65,9 +67,9 @@ void AddBlock(const QByteArray& type, const QByteArray& content, JxlMetadata& me
 JxlMetadata ReadJxlMetadata(const QString& path)
 {
     JxlMetadata metadata;
-    QFile file(path);
+    QFile file;
     constexpr int enough = 12;
-    if (!file.open(QIODevice::ReadOnly) || file.peek(enough).mid(boxTypeSize, boxTypeSize) != "JXL ") {
+    if (!OpenFile(file, path, QIODevice::ReadOnly) || file.peek(enough).mid(boxTypeSize, boxTypeSize) != "JXL ") {
         return metadata; // the bare pixels
     }
     while (const std::optional<BoxHeader> box = NextBox(file)) {

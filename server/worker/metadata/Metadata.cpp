@@ -8,6 +8,7 @@
 #include "CaptureTime.h"
 #include "Copyright.h"
 #include "MetadataEncoder.h"
+#include "MetadataFile.h"
 #include "MetadataTexts.h"
 #include "Places.h"
 #include "RemoveEntries.h"
@@ -16,7 +17,6 @@
 
 #include "server/worker/decode/PictureSource.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <exception>
@@ -233,18 +233,19 @@ QByteArray Metadata::Xmp(bool withWrapper) const
 
 void Metadata::WriteInto(const QString& file, bool withProfile, const QByteArray& profile) const
 {
-    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
-    image->readMetadata();
+    MetadataFile opened(file, MetadataFile::Use::Writing);
+    Exiv2::Image& image = opened.Image();
+    image.readMetadata();
     for (const Exiv2::Exifdatum& entry : d->exif) {
-        image->exifData()[entry.key()] = entry.value();
+        image.exifData()[entry.key()] = entry.value();
     }
-    image->setIptcData(d->iptc);
-    image->setXmpData(d->xmp);
+    image.setIptcData(d->iptc);
+    image.setXmpData(d->xmp);
     if (withProfile) {
         Exiv2::DataBuf bytes(Data(profile), long(profile.size()));
-        image->setIccProfile(bytes);
+        image.setIccProfile(bytes);
     }
-    image->writeMetadata();
+    opened.Write();
 }
 
 bool Metadata::IsEmpty() const

@@ -8,10 +8,12 @@
 #include "BoxFile.h"
 #include "ItemBoxes.h"
 #include "JxlBoxes.h"
+#include "MetadataFile.h"
 #include "PngMetadata.h"
 
 #include "server/worker/decode/PictureSource.h"
 #include "server/worker/pixels/EmbeddedBlock.h"
+#include "server/worker/pixels/FileCalls.h"
 
 #include <QFile>
 #include <QSet>
@@ -61,8 +63,8 @@ MetadataBlocks BlocksOf(Exiv2::Image& image)
 
 MetadataBlocks BlocksOfFile(const QString& file)
 {
-    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(file).toStdString());
-    return BlocksOf(*image);
+    MetadataFile opened(file, MetadataFile::Use::Reading);
+    return BlocksOf(opened.Image());
 }
 
 enum class Header { Kept, LeftOut };
@@ -74,8 +76,8 @@ QByteArray BoxesOf(const QString& path, Header header)
     constexpr qint64 largest = qint64(64) << 20; // far more than metadata are
     constexpr qint64 idSize = 16;
     constexpr int sizeBehindHeader = 16; // the library refuses a header that has less behind it
-    QFile file(path);
-    file.open(QIODevice::ReadOnly);
+    QFile file;
+    OpenFile(file, path, QIODevice::ReadOnly);
     QByteArray kept;
     QSet<QByteArray> ids;
     while (const std::optional<BoxHeader> box = NextBox(file)) {

@@ -4,6 +4,7 @@
 #include "PngMetadata.h"
 
 #include "server/worker/decode/PngChunks.h"
+#include "server/worker/pixels/FileCalls.h"
 
 #include <QFile>
 #include <QSet>
@@ -41,8 +42,8 @@ QByteArray KindOf(const QByteArray& type, const QByteArray& start)
 
 QByteArray PngWithoutPixels(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!OpenFile(file, path, QIODevice::ReadOnly)) {
         return {};
     }
     QByteArray kept = file.read(pngSignatureSize);
@@ -65,8 +66,8 @@ QByteArray PngWithoutPixels(const QString& path)
 
 bool RemoveRepeatedExifFromPng(const QString& fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !file.seek(pngSignatureSize)) {
+    QFile file;
+    if (!OpenFile(file, fileName, QIODevice::ReadWrite | QIODevice::ExistingOnly) || !file.seek(pngSignatureSize)) {
         return false;
     }
     int blocks = 0;

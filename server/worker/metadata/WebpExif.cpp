@@ -3,6 +3,8 @@
 
 #include "WebpExif.h"
 
+#include "server/worker/pixels/FileCalls.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -46,8 +48,8 @@ bool ClearExifFlag(QFile& file, qint64 place)
 
 bool RemoveExifFromWebp(const QString& fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+    QFile file;
+    if (!OpenFile(file, fileName, QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
         return false;
     }
     qint64 place = firstChunk;

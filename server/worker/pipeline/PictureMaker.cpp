@@ -27,17 +27,15 @@
 #include "server/worker/metadata/Metadata.h"
 #include "server/worker/metadata/MetadataCarrier.h"
 #include "server/worker/metadata/MetadataTexts.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 #include "server/worker/pixels/RandomAccess.h"
 
-#include <QFile>
 #include <QJsonArray>
 
 #include <algorithm>
 #include <cmath>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace BatchJob;
 using namespace BatchProtocol;
@@ -263,9 +261,7 @@ qint64 PictureRun::WriteAt(int quality, const Picture& picture)
 {
     options.insert(QStringLiteral("quality"), quality);
     Write(picture);
-    struct stat status = {};
-    fstat(made.file->Descriptor(), &status);
-    return status.st_size;
+    return std::max<qint64>(SizeOfFile(made.file->Descriptor()), 0);
 }
 
 /// `picture` is read once for each attempt. Two files exist meanwhile: the best one so far is not written again.
@@ -326,11 +322,8 @@ void PictureRun::WriteSmaller(const ByteLimit& limit, const Picture& picture, qi
 
 void PictureRun::KeepFileTime() const
 {
-    struct stat status;
-    if (options[QLatin1String("keepFileTime")].toBool() &&
-        stat(QFile::encodeName(task.inputFile).constData(), &status) == 0) {
-        const timespec times[2] = {status.st_atim, status.st_mtim};
-        futimens(made.file->Descriptor(), times);
+    if (options[QLatin1String("keepFileTime")].toBool()) {
+        CopyTimes(task.inputFile, made.file->Descriptor());
     }
 }
 

@@ -3,13 +3,16 @@
 
 #pragma once
 
-#include <QByteArray>
+#include <vips/vips8>
+
 #include <QtGlobal>
+
+#include <memory>
 
 namespace BatchWorker {
 
 /// An empty file in the temporary folder that is gone with this object, and with the process, however that ends: it has
-/// no name, so nothing can be left behind.
+/// no name, or the system removes it when it is closed, so nothing can be left behind.
 class NamelessFile
 {
 public:
@@ -18,13 +21,15 @@ public:
 
     int Descriptor() const { return descriptor; } ///< -1 when there is no file
 
-    /// The file's path for this process; empty when there is no file.
-    QByteArray Path() const;
+    /// The bytes of the file as an image whose pixels have `pixelSize` bands of 8 bits. This object has to live longer.
+    /// Null, with the text of the imaging library, when that fails.
+    VipsImage* NewImage(int width, int height, int pixelSize);
 
 private:
     Q_DISABLE_COPY(NamelessFile)
 
     int descriptor;
+    std::shared_ptr<void> view; ///< of the file in memory, where the imaging library cannot open it
 };
 
 } // namespace BatchWorker

@@ -53,7 +53,7 @@ Picture OnDisk(const Picture& picture)
     const int pixelSize = int(VIPS_IMAGE_SIZEOF_PEL(picture.get_image()));
     VipsImage* bytes = nullptr;
     if (vips_sink_disc(picture.get_image(), WriteLines, &descriptor) == 0) {
-        bytes = vips_image_new_from_file_raw(file->Path().constData(), picture.width(), picture.height(), pixelSize, 0);
+        bytes = file->NewImage(picture.width(), picture.height(), pixelSize);
     }
     if (!bytes) {
         throw vips::VError();

@@ -3,13 +3,14 @@
 
 #include "ImagingLibrary.h"
 
+#include "ImagingModules.h"
+
 #include "job/formats/FormatCatalog.h"
 #include "server/protocol/WorkerMessages.h"
 #include "server/worker/decode/Loader.h"
 #include "server/worker/encode/FormatEncoder.h"
 #include "server/worker/pixels/CarriedFailure.h"
 
-#include <gmodule.h>
 #include <vips/vips8>
 
 #include <QByteArray>
@@ -120,42 +121,14 @@ void AllowKnownFormatsOnly()
     }
 }
 
-/// Starts the library without its modules, which are decoders in libraries of their own. The library looks for them
-/// below its prefix, and takes that from the environment.
-bool StartWithoutModules(const char* program)
-{
-    constexpr char prefix[] = "VIPSHOME";
-    const QByteArray before = qgetenv(prefix);
-    qputenv(prefix, "/dev/null");
-    const bool isStarted = VIPS_INIT(program) == 0;
-    if (before.isNull()) {
-        qunsetenv(prefix);
-    } else {
-        qputenv(prefix, before);
-    }
-    return isStarted;
-}
-
-/// Loads the one module that known formats need. An installation may have it built in.
-void LoadHeifModule()
-{
-    const QByteArray version = QByteArray::number(vips_version(0)) + '.' + QByteArray::number(vips_version(1));
-    const QByteArray path =
-        QByteArrayLiteral(BATCHWORKER_VIPS_FOLDER "/vips-modules-") + version + "/vips-heif." G_MODULE_SUFFIX;
-    if (GModule* const module = g_module_open(path.constData(), G_MODULE_BIND_LAZY)) {
-        g_module_make_resident(module);
-    }
-}
-
 } // namespace
 
 bool StartImagingLibrary(const char* program)
 {
-    if (!StartWithoutModules(program)) {
+    if (!StartWithKnownModules(program)) {
         std::fprintf(stderr, "VelkoraBatchWorker: the imaging library does not start: %s\n", vips_error_buffer());
         return false;
     }
-    LoadHeifModule();
     g_log_set_default_handler(HandleLogMessage, nullptr);
     std::set_terminate(EndOfUncaught);
     vips_concurrency_set(1);

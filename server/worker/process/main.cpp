@@ -6,6 +6,7 @@
 #include "ImagingLibrary.h"
 #include "LibraryVersions.h"
 #include "ReportQueue.h"
+#include "StandardStreams.h"
 #include "Worker.h"
 
 #include "server/protocol/WorkerVersions.h"
@@ -15,23 +16,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace BatchProtocol;
 using namespace BatchWorker;
-
-namespace {
-
-// Libraries may print to standard output at any time; the supervisor must read nothing but frames there.
-int TakeStandardOutput()
-{
-    const int own = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-    dup2(STDERR_FILENO, STDOUT_FILENO);
-    return own;
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -40,7 +27,7 @@ int main(int argc, char** argv)
         return EXIT_SUCCESS;
     }
     const int output = TakeStandardOutput();
-    if (argc != 1 || isatty(STDIN_FILENO) == 1) {
+    if (argc != 1 || IsInputTyped()) {
         std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing. --versions lists the "
                              "libraries that make pictures.\n");
         return EXIT_FAILURE;
@@ -57,7 +44,7 @@ int main(int argc, char** argv)
         Report ready;
         ready.number = workerIsReady;
         reports.SendNow(ready);
-        isUnderstood = Worker(reports, confinement).Run(STDIN_FILENO);
+        isUnderstood = Worker(reports, confinement).Run(StandardInput());
     }
     vips_shutdown();
     if (!isUnderstood) {

@@ -252,9 +252,11 @@ void tst_WorkerColours::fallsBackFromBrokenProfiles_data()
     QTest::addColumn<bool>("isOfJob");
     QByteArray cut = BuiltIn("p3");
     cut.truncate(300);
+#ifndef Q_OS_WIN // The imaging library there writes no such profile.
     QTest::newRow("embedded nonsense") << QByteArray("no profile at all") << false;
-    QTest::newRow("embedded, cut off") << cut << false;
     QTest::newRow("embedded, of inks") << BuiltIn("cmyk") << false;
+#endif
+    QTest::newRow("embedded, cut off") << cut << false;
     QTest::newRow("of the job, nonsense") << QByteArray("no profile at all") << true;
     QTest::newRow("of the job, cut off") << cut << true;
 }

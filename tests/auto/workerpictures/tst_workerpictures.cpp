@@ -32,6 +32,17 @@ QString NameIn(const QString& format)
 }
 
 // Options that keep pixels as well as the format can.
+// How far the decoder of the worker may be from that of this test, which is another one of AVIF on Windows.
+double MostInReading(const QString& format)
+{
+#ifdef Q_OS_WIN
+    return format.toUpper() == Text("AVIF") ? 1.0 : 0.0;
+#else
+    Q_UNUSED(format)
+    return 0.0;
+#endif
+}
+
 QJsonObject Finest(const QString& format)
 {
     QJsonObject options;
@@ -146,7 +157,8 @@ void tst_WorkerPictures::init()
         bench = std::make_unique<WorkerBench>();
         // The trial of the HEIF encoders takes 20 s longer in a worker that has made another picture just before.
         WritePicture(Chart(8, 8), bench->Path(Text("in.png")));
-        QCOMPARE(bench->Make(Text("in.png"), NameIn(Text("HEIF")), Text("HEIF")).reason, QString());
+        const QString reason = bench->Make(Text("in.png"), NameIn(Text("HEIF")), Text("HEIF")).reason;
+        QCOMPARE(reason.isEmpty(), MissingEncoder(Text("HEIF")) == nullptr);
         cleanup();
     }
 }
@@ -174,12 +186,13 @@ void tst_WorkerPictures::writesEveryFormat_data()
 void tst_WorkerPictures::writesEveryFormat()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     const Picture chart = Chart(61, 47);
-    WritePicture(chart, bench->Path(Text("in.png")));
+    WritePicture(chart, bench->Path(Text("in.png")), "[strip]");
     const Report report = bench->Make(Text("in.png"), NameIn(format), format, Finest(format));
     QCOMPARE(report.reason, QString());
-    QCOMPARE(BatchJob::TextsOf(report.warnings), QStringList());
+    QCOMPARE(BatchJob::TextsOf(report.warnings).join(Text("; ")), QString());
     const Picture result = ReadPicture(bench->Path(NameIn(format)));
     const double difference = LargestDifference(Colours(result), chart);
     QVERIFY2(difference <= Tolerance(format), qPrintable(QString::number(difference)));
@@ -198,13 +211,14 @@ void tst_WorkerPictures::readsEveryFormat_data()
 void tst_WorkerPictures::readsEveryFormat()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     // Under a wrong extension: the bytes decide.
     WritePicture(Chart(61, 47), bench->Path(NameIn(format)));
     const Picture expected = ReadPicture(bench->Path(NameIn(format)));
     QVERIFY(QFile::rename(bench->Path(NameIn(format)), bench->Path(Text("in.txt"))));
     QCOMPARE(bench->Make(Text("in.txt"), Text("out.png"), Text("PNG")).reason, QString());
-    QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), expected), 0.0);
+    QVERIFY(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), expected) <= MostInReading(format));
     const Report probe = bench->Probe(Text("in.txt"));
     QCOMPARE(probe.inputFormat, format);
 }
@@ -223,6 +237,7 @@ void tst_WorkerPictures::turnsPicturesUpright_data()
 void tst_WorkerPictures::turnsPicturesUpright()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
     QFETCH(const int, orientation);
 
     // Crop and size are those of the upright picture: the reference turns first, by plain loops over the pixels.
@@ -305,6 +320,7 @@ void tst_WorkerPictures::keepsDepth_data()
 void tst_WorkerPictures::keepsDepth()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
     QFETCH(const int, wanted);
     QFETCH(const bool, isDeep);
     QFETCH(const double, tolerance);
@@ -352,6 +368,7 @@ void tst_WorkerPictures::losesNothingWithoutLoss_data()
 void tst_WorkerPictures::losesNothingWithoutLoss()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
     QFETCH(const bool, isDeep);
     QFETCH(const double, tolerance);
 
@@ -385,6 +402,7 @@ void tst_WorkerPictures::keepsGrey_data()
 void tst_WorkerPictures::keepsGrey()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     const Picture grey = Grey(Chart(64, 40));
     WritePicture(grey, bench->Path(Text("in.png")));
@@ -406,6 +424,7 @@ void tst_WorkerPictures::takesEveryKind_data()
 void tst_WorkerPictures::takesEveryKind()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     const Picture chart = Chart(64, 40);
     const Picture grey = Grey(chart);
@@ -448,6 +467,7 @@ void tst_WorkerPictures::tellsOfFurtherPages()
     QFETCH(const QString, extension);
     QFETCH(const QByteArray, options);
     QFETCH(const QStringList, warnings);
+    SKIP_WHERE(MissingInTests(extension));
 
     const QString name = Text("in.") + extension;
     WritePicture(Chart(40, 90), bench->Path(name), '[' + options + ']');
@@ -457,7 +477,7 @@ void tst_WorkerPictures::tellsOfFurtherPages()
     QCOMPARE(BatchJob::TextsOf(report.warnings).filter(Text("pages")), warnings);
     const Picture first = ReadPicture(bench->Path(name));
     QCOMPARE(first.height(), warnings.isEmpty() ? 90 : 30);
-    QCOMPARE(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), first), 0.0);
+    QVERIFY(LargestDifference(ReadPicture(bench->Path(Text("out.png"))), first) <= MostInReading(extension));
 }
 
 void tst_WorkerPictures::keepsTransparency_data()
@@ -468,6 +488,7 @@ void tst_WorkerPictures::keepsTransparency_data()
 void tst_WorkerPictures::keepsTransparency()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     WritePicture(WithAlpha(Chart(60, 40)), bench->Path(Text("in.png")));
     QCOMPARE(bench->Make(Text("in.png"), NameIn(format), format, Finest(format)).reason, QString());
@@ -539,7 +560,9 @@ void tst_WorkerPictures::obeysOptions_data()
         {{Text("chromaSubsampling"), Text("4:2:0")}});
     row("PNG level", "PNG", {{Text("compressionLevel"), 0}}, {{Text("compressionLevel"), 9}});
     row("TIFF none to LZW", "TIFF", {{compression, Text("none")}}, {{compression, Text("lzw")}});
+#ifndef Q_OS_WIN // The imaging library there has no zstd.
     row("TIFF LZW to zstd", "TIFF", {{compression, Text("lzw")}}, {{compression, Text("zstd")}});
+#endif
     row("TIFF LZW to deflate", "TIFF", {{compression, Text("lzw")}}, {{compression, Text("deflate")}});
     row("TIFF JPEG quality", "TIFF", {{compression, Text("jpeg")}, {quality, 95}},
         {{compression, Text("jpeg")}, {quality, 30}});
@@ -557,6 +580,7 @@ void tst_WorkerPictures::obeysOptions_data()
 void tst_WorkerPictures::obeysOptions()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
     QFETCH(const QJsonObject, larger);
     QFETCH(const QJsonObject, smaller);
 

@@ -247,8 +247,10 @@ void tst_WorkerProcess::reportsBadInput_data()
     QTest::newRow("half a TIFF") << encoded(".tif").left(50'000) << damaged << QString();
     QTest::newRow("half a WebP") << encoded(".webp").left(2'000) << damaged << QString();
     QTest::newRow("half a GIF") << encoded(".gif").left(2'000) << damaged << QString();
+#ifndef Q_OS_WIN // The imaging library there does not know them.
     QTest::newRow("half a JPEG XL") << encoded(".jxl").left(1'000) << damaged << QString();
     QTest::newRow("half a JPEG 2000") << encoded(".jp2").left(2'000) << damaged << QString();
+#endif
     QTest::newRow("half an AVIF") << encoded(".avif").left(2'000) << damaged << QString();
 }
 
@@ -311,6 +313,9 @@ void tst_WorkerProcess::reportsAnUnusableFolder()
 
 void tst_WorkerProcess::followsNoLinkBelowTheRoot()
 {
+#ifdef Q_OS_WIN
+    QSKIP("A link that Qt creates is an ordinary file there.");
+#endif
     WritePicture(Chart(30, 20), Path(QStringLiteral("in.png")));
     QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("private")));
     QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("out")));

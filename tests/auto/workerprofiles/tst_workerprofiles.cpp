@@ -168,6 +168,7 @@ void tst_WorkerProfiles::writesGreyWithAProfile()
 {
     QFETCH(const QString, format);
     QFETCH(const QByteArray, space);
+    SKIP_WHERE(MissingInTests(format));
 
     const QByteArray profile = GreyProfile(Power(1.6));
     WriteTiff(Greys(), profile, 8, 1);
@@ -200,6 +201,9 @@ void tst_WorkerProfiles::writesGreyInTheProfileOfTheJob()
 
 void tst_WorkerProfiles::readsRgbWithAProfileOfGrey()
 {
+#ifdef Q_OS_WIN
+    QSKIP("The result has no profile there; docs/design/windows.md, known faults.");
+#endif
     const QByteArray profile = GreyProfile(Power(1.6));
     WriteTiff(Greys(), profile);
     report = bench->Make(Text("in.tif"), Text("out.png"), Text("PNG"));
@@ -262,6 +266,7 @@ void tst_WorkerProfiles::writesTheProfileIntoEachFormat_data()
 void tst_WorkerProfiles::writesTheProfileIntoEachFormat()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(format));
 
     const QByteArray profile = RgbProfile(displayP3, SrgbLight);
     WriteTiff(Patches(), profile);

@@ -46,9 +46,10 @@ NamelessFile::~NamelessFile()
     }
 }
 
-QByteArray NamelessFile::Path() const
+VipsImage* NamelessFile::NewImage(int width, int height, int pixelSize)
 {
-    return descriptor < 0 ? QByteArray() : "/proc/self/fd/" + QByteArray::number(descriptor);
+    const QByteArray path = descriptor < 0 ? QByteArray() : "/proc/self/fd/" + QByteArray::number(descriptor);
+    return vips_image_new_from_file_raw(path.constData(), width, height, pixelSize, 0);
 }
 
 } // namespace BatchWorker

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The batchcore developers
+// SPDX-License-Identifier: MIT
+
+#include "RawStream.h"
+
+#include "server/worker/pixels/NativePath_windows.h"
+
+namespace BatchWorker {
+
+RawStream::RawStream(const QString& file)
+    : LibRaw_bigfile_datastream(NativePath(file).c_str())
+{
+}
+
+} // namespace BatchWorker
