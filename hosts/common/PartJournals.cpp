@@ -55,8 +55,9 @@ PartJournals::Known PartJournals::Of(int part) const
         }
         for (auto it = state->results.constBegin(); it != state->results.constEnd(); ++it) {
             const auto other = known.results.constFind(it.key());
-            const bool isBetter = other == known.results.constEnd() ||
-                                  (!HasResult(other->kind) && (HasResult(it->kind) || it->finished > other->finished));
+            const bool isBetter =
+                other == known.results.constEnd() ||
+                (HasResult(it->kind) == HasResult(other->kind) ? it->finished > other->finished : HasResult(it->kind));
             if (!isBetter) {
                 continue;
             }

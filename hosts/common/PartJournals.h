@@ -27,7 +27,8 @@ public:
     /// What the runs of a part have done so far.
     struct Known
     {
-        /// Of several for a file, the best. Those that others have made have a warning.
+        /// Of several for a file, the last one that was written, else the last one. Those that others have made have a
+        /// warning.
         QHash<int, BatchJob::JournalState::Result> results;
         QVector<BatchJob::Versions> others; ///< what has made some of them, other than the plan; each once
     };

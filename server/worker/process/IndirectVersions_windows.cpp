@@ -6,8 +6,6 @@
 namespace BatchWorker {
 
 // They are parts of the one DLL of libvips, whose version stands for them.
-void AddIndirectVersions(BatchJob::Versions&)
-{
-}
+void AddIndirectVersions(BatchJob::Versions&) {}
 
 } // namespace BatchWorker

@@ -360,7 +360,10 @@ void tst_CliStandIn::terminatedServersAreReplaced()
     QVERIFY(process.waitForFinished(120'000));
     const QByteArray errors = process.readAllStandardError();
     QVERIFY2(process.exitCode() == 0, errors.constData());
-    QVERIFY2(errors.contains("the server ended unexpectedly; a new one continues.\n"), errors.constData());
+    // On a busy machine the server's last message, that nothing is in work any more, may come too late.
+    const QRegularExpression loss(
+        QStringLiteral("the server ended unexpectedly( while it worked on .*/2\\.jpg)?; a new one continues\\.\n"));
+    QVERIFY2(QString::fromUtf8(errors).contains(loss), errors.constData());
     QCOMPARE(stage->Names(QStringLiteral("out")),
              QStringList({QStringLiteral("1.png"), QStringLiteral("2.png"), QStringLiteral("3.png")}));
 }
