@@ -20,7 +20,6 @@
 #include "ZTBatchOutputSettings.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <memory>
@@ -273,11 +272,7 @@ QVector<QPair<int, JournalState::Result>> PartJob::SettledResults() const
 bool PartJob::IsWritten(int result) const
 {
     const auto found = known.results.constFind(result);
-    if (found == known.results.constEnd() || !HasResult(found->kind)) {
-        return false;
-    }
-    const QFileInfo file(Output(result));
-    return file.isFile() && (found->facts.outputBytes < 0 || file.size() == found->facts.outputBytes);
+    return found != known.results.constEnd() && HasResult(found->kind) && IsStillThere(*found, Output(result));
 }
 
 const PlannedResult& PartJob::Planned(int result) const

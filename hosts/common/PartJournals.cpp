@@ -83,6 +83,12 @@ bool PartJournals::Remove() const
     return isRemoved;
 }
 
+bool IsStillThere(const JournalState::Result& result, const QString& output)
+{
+    const QFileInfo file(output);
+    return file.isFile() && (result.facts.outputBytes < 0 || file.size() == result.facts.outputBytes);
+}
+
 Warning WarningOfMakers(const Versions& makers, const Versions& ofPlan)
 {
     return {WarningKind::OtherVersions, Phrase::English("made with %1, but the plan with %2")

@@ -44,6 +44,9 @@ private:
     QHash<int, QStringList> paths; ///< by their parts
 };
 
+/// Whether the result in the file `output`, which a journal says was written, is still there as far as its size tells.
+bool IsStillThere(const BatchJob::JournalState::Result& result, const QString& output);
+
 /// Says that a picture was made with `makers`, but the plan with `ofPlan`.
 BatchJob::Warning WarningOfMakers(const BatchJob::Versions& makers, const BatchJob::Versions& ofPlan);
 

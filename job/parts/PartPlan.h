@@ -104,7 +104,8 @@ private:
     QCryptographicHash hash;
 };
 
-/// Reads the plan `path` without its files. Nothing if it is none; `problem` then says why, for users.
+/// Reads the plan `path` without its files. Returns nothing if the file is not a plan that can
+/// be used; `problem` then says why, for users.
 std::optional<PartPlan> ReadPlan(const QString& path, QString& problem);
 
 /// Reads the files of the part `index`, from 0, and gives them to `take` one after the other. False if they are

@@ -74,7 +74,8 @@ bool IsBelow(const QString& path)
            clean != QLatin1String("..") && !clean.startsWith(QLatin1String("../"));
 }
 
-/// How many results a record with the line `header` has; -1 if it is none of this version.
+/// How many results a record with the line `header` has; -1 if that line does not begin a record
+/// of this version.
 int CountIn(const QByteArray& header)
 {
     const QJsonObject line = QJsonDocument::fromJson(header).object();

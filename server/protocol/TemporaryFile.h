@@ -56,8 +56,8 @@ public:
     bool HasTwin() const;
 
     /// Removes an empty file that has the final name, on file systems where Place() needs one for a moment: a process
-    /// that was killed in that moment has left it. False if there is none, or the file system needs none. After
-    /// Create().
+    /// that was killed in that moment has left it. Returns whether it removed one; it
+    /// leaves the file alone where Place() needs no such files. To be called after Create().
     bool RemovePlaceholder() const;
 
     /// What went wrong, for users.

@@ -15,7 +15,6 @@
 #include "job/values/Phrase.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <memory>
@@ -101,7 +100,7 @@ private:
 bool IsSettled(const PartJournals::Known& known, int index, const QString& output)
 {
     const auto found = known.results.constFind(index);
-    return found != known.results.constEnd() && (!HasResult(found->kind) || QFileInfo::exists(output));
+    return found != known.results.constEnd() && (!HasResult(found->kind) || IsStillThere(*found, output));
 }
 
 FileResult ResultOf(const JournalState::Result& settled)

@@ -63,7 +63,7 @@ public:
         return profile;
     }
 
-    /// The first block of metadata of a type; empty when there is none.
+    /// The first block of metadata of a type; empty when the picture has no block of it.
     QByteArray Block(const char* type, const char* contentType) const
     {
         std::vector<heif_item_id> ids(std::size_t(heif_image_handle_get_number_of_metadata_blocks(handle.get(), type)));

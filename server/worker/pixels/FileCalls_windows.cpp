@@ -172,7 +172,7 @@ qint64 MoveTo(int descriptor, qint64 offset, int whence)
     return _lseeki64(descriptor, offset, whence);
 }
 
-// A result is open here with the right to rename it, so whoever opens it has to bear that.
+// The result is already open with the right to rename it. Another handle is refused unless it allows that, too.
 bool OpenFile(QFile& file, const QString& path, QIODevice::OpenMode mode)
 {
     const bool isWritten = (mode & QIODevice::WriteOnly) != 0;

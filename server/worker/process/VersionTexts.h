@@ -8,7 +8,7 @@
 /// How libraries say their versions.
 namespace BatchWorker {
 
-/// The first number with points in `text`; all of it if there is none.
+/// The first number with points in `text`, such as 1.15.1; the whole text if it has no such number.
 QString NumberIn(const char* text);
 
 /// The parts of the number `packed`, each but the first less than `base`: 7001 is 0.7.1 with a base of 1000.

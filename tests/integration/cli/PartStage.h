@@ -4,6 +4,7 @@
 #pragma once
 
 #include "CliRun.h"
+#include "FolderContent.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -17,12 +18,7 @@
 class PartStage
 {
 public:
-    using Files = QMap<QString, QByteArray>;
-
     static constexpr int partCount = 4;
-
-    /// The content of every file below `folder`, including hidden files, by its relative path.
-    static Files FilesBelow(const QString& folder);
 
     /// A new folder with two folders of pictures, whose results have the same names in one output folder.
     void Reset();
@@ -36,6 +32,9 @@ public:
     CliRun RunPart(int part, const QString& options = {}) const;
     CliRun Split(const QString& options = {}) const;
     std::unique_ptr<QProcess> Start(int part, const QString& options = {}) const;
+
+    /// Runs all parts at once, each twice. Returns what a run said that failed; empty if none did.
+    QByteArray RunAllTwice() const;
 
     /// What one run of the job makes, in the folder "one".
     Files OneRun() const;

@@ -119,7 +119,7 @@ void tst_CliFileSystems::cleanup()
 }
 
 /// The files in `folder` but for what velkora-batch keeps for itself.
-PartStage::Files tst_CliFileSystems::Results(const QString& folder) const
+Files tst_CliFileSystems::Results(const QString& folder) const
 {
     Files files = FilesBelow(Path(folder));
     for (const QString& name : files.keys()) {
@@ -208,14 +208,7 @@ void tst_CliFileSystems::partsTwiceAtOnce()
 {
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
-    std::vector<std::unique_ptr<QProcess>> runs;
-    for (int i = 0; i < 2 * partCount; ++i) {
-        runs.push_back(Start(i % partCount + 1));
-    }
-    for (const std::unique_ptr<QProcess>& run : runs) {
-        QVERIFY(run->waitForFinished(120'000));
-        QVERIFY2(run->exitCode() == 0, run->readAllStandardError());
-    }
+    QCOMPARE(RunAllTwice(), QByteArray());
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
     const CliRun collected = Run(QStringLiteral("collect job.plan --report all.csv"));
     QVERIFY2(collected.exitCode == 0, collected.err);

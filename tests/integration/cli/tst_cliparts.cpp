@@ -25,6 +25,7 @@ private Q_SLOTS:
     void killedAndRunAgain_data();
     void killedAndRunAgain();
     void collectInEachState();
+    void shortenedResultsAreNotDone();
     void numberFromTheEnvironment_data();
     void numberFromTheEnvironment();
     void refused_data();
@@ -91,14 +92,7 @@ void tst_CliParts::atOnce()
 {
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
-    std::vector<std::unique_ptr<QProcess>> runs;
-    for (int i = 0; i < 2 * partCount; ++i) {
-        runs.push_back(Start(i % partCount + 1));
-    }
-    for (const std::unique_ptr<QProcess>& run : runs) {
-        QVERIFY(run->waitForFinished(120'000));
-        QVERIFY2(run->exitCode() == 0, run->readAllStandardError());
-    }
+    QCOMPARE(RunAllTwice(), QByteArray());
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
     const CliRun collected = Run(QStringLiteral("collect job.plan"));
     QVERIFY2(collected.exitCode == 0, collected.err);
@@ -138,6 +132,22 @@ void tst_CliParts::killedAndRunAgain()
     QVERIFY2(collected.exitCode == 0, collected.err + collected.out);
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), one);
     QVERIFY(NamesLike(QStringLiteral("job.plan*")).isEmpty());
+}
+
+void tst_CliParts::shortenedResultsAreNotDone()
+{
+    QCOMPARE(Split().exitCode, 0);
+    QCOMPARE(RunAllTwice(), QByteArray());
+    QFile result(Path(QStringLiteral("out/1.jpg")));
+    QVERIFY(result.resize(result.size() - 1));
+    const CliRun collected = Run(QStringLiteral("collect job.plan"));
+    QCOMPARE(collected.exitCode, 1);
+    QVERIFY2(collected.Out().contains(QLatin1String("Written: 23, skipped: 0, failed: 0, not processed: 1.")),
+             collected.out);
+    QVERIFY2(collected.Out().contains(QLatin1String("as they are not done: 1\n")), collected.out);
+    QVERIFY(result.remove());
+    QCOMPARE(RunPart(1).exitCode, 0);
+    QCOMPARE(Run(QStringLiteral("collect job.plan")).exitCode, 0);
 }
 
 void tst_CliParts::collectInEachState()

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "CliRun.h"
+#include "FolderContent.h"
 #include "PictureFiles.h"
 #include "ProcessEnd.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -16,26 +16,6 @@
 #include <csignal>
 #include <sys/file.h>
 #include <sys/types.h>
-
-namespace {
-
-using Files = QMap<QString, QByteArray>;
-
-/// The content of every file below `folder`, including hidden files, by its relative path.
-Files FilesBelow(const QString& folder)
-{
-    Files files;
-    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (paths.hasNext()) {
-        QFile file(paths.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-        }
-    }
-    return files;
-}
-
-} // namespace
 
 /// Runs that are interrupted and resumed.
 // A kill costs three runs. The plain build tries many moments, builds with sanitizers a few.

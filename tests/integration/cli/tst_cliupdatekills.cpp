@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "CliRun.h"
+#include "FolderContent.h"
 #include "PictureFiles.h"
 #include "ProcessEnd.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -18,22 +18,6 @@
 #include <memory>
 
 namespace {
-
-using Files = QMap<QString, QByteArray>;
-
-/// The content of every result below `folder`, by its relative path.
-Files ResultsBelow(const QString& folder)
-{
-    Files files;
-    QDirIterator paths(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (paths.hasNext()) {
-        QFile file(paths.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-        }
-    }
-    return files;
-}
 
 constexpr int lanes = 5;
 
@@ -138,7 +122,7 @@ void tst_CliUpdateKills::killedAtAnyMoment()
     for (int lane = 0; lane < lanes; ++lane) {
         QVERIFY(runs[std::size_t(lane)].waitForFinished(120'000));
         QVERIFY2(runs[std::size_t(lane)].exitCode() == 0, runs[std::size_t(lane)].readAllStandardError().constData());
-        const Files files = ResultsBelow(Path(Folder(lane)));
+        const Files files = FilesBelow(Path(Folder(lane)), QDir::Files);
         QCOMPARE(files.size(), 12);
         QVERIFY(undisturbed.isEmpty() || files == undisturbed);
         undisturbed = files;
@@ -180,7 +164,7 @@ void tst_CliUpdateKills::killedAtAnyMoment()
             QVERIFY(run.waitForFinished(120'000));
             const QByteArray err = run.readAllStandardError();
             QVERIFY2(run.exitCode() == 0, err.constData());
-            const Files files = ResultsBelow(Path(Folder(lane)));
+            const Files files = FilesBelow(Path(Folder(lane)), QDir::Files);
             QVERIFY2(files.keys() == undisturbed.keys(), files.keys().join(QLatin1Char(' ')).toUtf8() + err);
             QVERIFY2(files == undisturbed, "A result differs from that of the undisturbed update.");
             Start(run, arguments(lane) + QStringLiteral(" --json"));

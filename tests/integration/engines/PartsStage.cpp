@@ -3,11 +3,11 @@
 
 #include "PartsStage.h"
 
+#include "FolderContent.h"
 #include "LiveProcesses.h"
 #include "PictureFiles.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -21,22 +21,6 @@
 #include <csignal>
 
 namespace {
-
-using Files = QMap<QString, QByteArray>;
-
-/// The content of every file below `folder`, including hidden files, by its relative path.
-Files FilesBelow(const QString& folder)
-{
-    Files files;
-    QDirIterator paths(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (paths.hasNext()) {
-        QFile file(paths.next());
-        if (file.open(QIODevice::ReadOnly)) {
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-        }
-    }
-    return files;
-}
 
 QJsonObject NextLine(QFile& file)
 {

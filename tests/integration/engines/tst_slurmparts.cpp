@@ -116,7 +116,7 @@ void tst_SlurmParts::Submit()
     job = submitted.Out().trimmed();
 }
 
-/// The task whose command runs there; 0 if there is none.
+/// The task whose command runs there; 0 if no command does.
 int tst_SlurmParts::TaskOn(const QString& node) const
 {
     for (int task = 1; task <= PartsStage::partCount; ++task) {
