@@ -4,6 +4,7 @@
 #include "PictureFiles.h"
 #include "PrivateTempDir.h"
 #include "ProgramFiles.h"
+#include "SystemWords.h"
 
 #include "hosts/desktop/preview/PreviewMaker.h"
 
@@ -262,10 +263,11 @@ void tst_PreviewMaker::refusedSettings()
 void tst_PreviewMaker::vanishedFiles()
 {
     QFile::remove(photo);
-    QVERIFY(ReasonFor(photo, ToJpeg()).contains(QStringLiteral("No such file")));
+    const QString words = WordsForMissing(photo);
+    QVERIFY(ReasonFor(photo, ToJpeg()).contains(words));
     Settings sameFormat = ToJpeg();
     sameFormat.format = ZTBatchOutputSettings::GetOriginalFormat();
-    QVERIFY(ReasonFor(photo, sameFormat).contains(QStringLiteral("No such file")));
+    QVERIFY(ReasonFor(photo, sameFormat).contains(words));
 }
 
 void tst_PreviewMaker::endsOfWorkers_data()
