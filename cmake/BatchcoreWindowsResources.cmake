@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 # batchcore_windows_resources(TARGET DESCRIPTION [ICON FILE]): what Windows reads from a program or a library: its version
-# and what it is, of a program also its icon and what it asks of the system. Nothing elsewhere.
+# and what it is, of a program also its icon and what it asks of the system. The file has no time of its making. Nothing elsewhere.
 #
 # The texts are those of the file's properties; the task manager shows the description as the program's name.
 function(batchcore_windows_resources target description)
@@ -35,4 +35,8 @@ function(batchcore_windows_resources target description)
     set_property(SOURCE "${resources}" PROPERTY OBJECT_DEPENDS
         "${parts}/program.manifest" ${arg_ICON})
     target_sources(${target} PRIVATE "${resources}")
+    if(NOT MSVC)
+        # The same build makes the same file.
+        target_link_options(${target} PRIVATE LINKER:--no-insert-timestamp)
+    endif()
 endfunction()
