@@ -72,7 +72,7 @@ bool tst_CliWatch::WaitForResult(HeldRun& run, const QString& name) const
 
 int tst_CliWatch::EndOf(HeldRun& run)
 {
-    return run.Signal(SIGTERM) ? run.End() : -1;
+    return run.RequestEnd() ? run.End() : -1;
 }
 
 QStringList tst_CliWatch::Results(const QString& folder) const

@@ -66,7 +66,7 @@ void tst_CliWatchRestart::init()
 QByteArray tst_CliWatchRestart::RunUntil(const QString& arguments, int count) const
 {
     HeldRun run(*stage, arguments);
-    const bool isThere = run.WaitFor("\"event\":\"written\"", count) && run.Signal(SIGTERM);
+    const bool isThere = run.WaitFor("\"event\":\"written\"", count) && run.RequestEnd();
     const int code = run.End();
     return isThere && (code == 0 || code == 4) ? run.Out() : "failed: " + run.Err();
 }
@@ -176,7 +176,7 @@ void tst_CliWatchRestart::killsAtAnyMoment()
     }
     HeldRun run(*stage, Watch());
     QTRY_COMPARE_WITH_TIMEOUT(Results().size(), pictures + rounds, 60'000);
-    QVERIFY(run.Signal(SIGTERM));
+    QVERIFY(run.RequestEnd());
     const int code = run.End();
     QVERIFY(code == 0 || code == 4);
     QSet<QByteArray> contents;
@@ -322,7 +322,7 @@ void tst_CliWatchRestart::exampleOfServiceWorks()
     words.removeFirst();
     HeldRun run(*stage, words.join(QLatin1Char(' ')));
     QVERIFY2(run.WaitFor("\"event\":\"written\""), run.Err().constData());
-    QVERIFY(run.Signal(SIGTERM));
+    QVERIFY(run.RequestEnd());
     const int code = run.End();
     QVERIFY(code == 0 || code == 4);
     QCOMPARE(stage->Names(QStringLiteral("web")).filter(QStringLiteral("a.jpg")), QStringList{QStringLiteral("a.jpg")});
