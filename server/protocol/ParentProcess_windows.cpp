@@ -45,8 +45,8 @@ HANDLE OpenParentOf(DWORD id)
     const HANDLE parent = parentId == 0 ? nullptr : OpenProcess(rights, FALSE, parentId);
     const HANDLE child = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
     // The number of a process that has ended may be that of a younger one.
-    const bool isParent = parent && child && StartOf(parent) <= StartOf(child) &&
-                          WaitForSingleObject(parent, 0) == WAIT_TIMEOUT;
+    const bool isParent =
+        parent && child && StartOf(parent) <= StartOf(child) && WaitForSingleObject(parent, 0) == WAIT_TIMEOUT;
     CloseHandle(child);
     if (parent && !isParent) {
         CloseHandle(parent);
