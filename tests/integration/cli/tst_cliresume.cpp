@@ -44,6 +44,7 @@ private Q_SLOTS:
     void killedAtAnyMoment_data();
     void killedAtAnyMoment();
     void killedServer();
+    void killedBeforeItsServerIsReached();
     void interruptKeepsTheRun();
     void nothingToResume();
     void damagedJournal();
@@ -227,6 +228,23 @@ void tst_CliResume::killedServer()
     QVERIFY2(out.contains("\"event\":\"server-lost\"") && out.contains("\"goesOn\":true"), out.constData());
     QCOMPARE(out.count("\"event\":\"written\""), 12);
     QCOMPARE(FilesBelow(Path(QStringLiteral("out"))), undisturbed);
+}
+
+// Its server waits for a host that never comes. On Windows it has the one pipe.
+void tst_CliResume::killedBeforeItsServerIsReached()
+{
+    constexpr int rounds = 3;
+    const QString arguments = QStringLiteral("run a -o out -q --workers 1 --on-name-exists overwrite");
+    for (int round = 0; round < rounds; ++round) {
+        QProcess killed;
+        Start(killed, arguments);
+        QTRY_VERIFY(!ChildrenOf(killed.processId()).isEmpty());
+        killed.kill();
+        QVERIFY(killed.waitForFinished());
+        const CliRun run = Run(arguments);
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(FilesBelow(Path(QStringLiteral("out"))).size(), 6);
+    }
 }
 
 void tst_CliResume::interruptKeepsTheRun()
