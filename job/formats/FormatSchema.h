@@ -84,7 +84,7 @@ struct MetadataSupport
     MetadataReading reading = MetadataReading::FromFile;
     MetadataWriting writing = MetadataWriting::ByEncoder;
     ExifRemoval exifRemoval = ExifRemoval::NotNeeded;
-    bool isExifRepeated = false; ///< the encoder writes the EXIF block twice; the second one is cut out
+    bool isExifRepeated = false; ///< the encoder may write more EXIF blocks than it is given; these are cut out
     int longestBlock = 0;        ///< bytes; 0: no limit
     int shortestProfile = 0;     ///< bytes; after a shorter profile the metadata library finds nothing
     bool hasXmpWrapper = true;   ///< readers expect XMP in a packet

@@ -59,6 +59,21 @@ QByteArray IptcResource(const QByteArray& records)
            BigEndian(quint32(records.size())) + records + padding;
 }
 
+/// Removes EXIF that the encoder has made up or written twice.
+void RemoveSurplusExif(const QString& fileName, const MetadataSupport& support, const Metadata& metadata,
+                       Warnings& warnings)
+{
+    const bool hasNone = metadata.GoWithoutExif();
+    const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && hasNone;
+    const bool isRemoved = (!isCutOut || RemoveExifFromWebp(fileName)) &&
+                           (!support.isExifRepeated || LimitExifOfPng(fileName, hasNone ? 0 : 1));
+    if (!isRemoved) {
+        warnings.append({WarningKind::MetadataLost, hasNone
+                                                        ? Phrase::English("EXIF cannot be removed from the result")
+                                                        : Phrase::English("the result may have its EXIF block twice")});
+    }
+}
+
 } // namespace
 
 Picture WithMetadata(const Picture& picture, const FormatSchema& format, Metadata& metadata, Warnings& warnings)
@@ -130,13 +145,7 @@ void CompleteFile(const QString& fileName, const FormatSchema& format, const Met
                   const QByteArray& profile, Warnings& warnings)
 {
     const MetadataSupport& support = format.metadata;
-    const bool isCutOut = support.exifRemoval == ExifRemoval::CutOut && metadata.GoWithoutExif();
-    if (isCutOut && !RemoveExifFromWebp(fileName)) {
-        warnings.append({WarningKind::MetadataLost, Phrase::English("EXIF cannot be removed from the result")});
-    }
-    if (support.isExifRepeated && !RemoveRepeatedExifFromPng(fileName)) {
-        warnings.append({WarningKind::MetadataLost, Phrase::English("the result may have its EXIF block twice")});
-    }
+    RemoveSurplusExif(fileName, support, metadata, warnings);
     const bool needsProfile = !support.isProfileInDecoder && !profile.isEmpty();
     const bool needsBlocks = support.writing == MetadataWriting::AfterEncoding && !metadata.IsEmpty();
     if (!needsProfile && !needsBlocks) {

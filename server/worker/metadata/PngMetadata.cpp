@@ -38,6 +38,25 @@ QByteArray KindOf(const QByteArray& type, const QByteArray& start)
     return keyword == "Raw profile type iptc" ? keyword : QByteArray();
 }
 
+/// Takes the bytes from `start` to `end` out of the file.
+bool CutOut(QFile& file, qint64 start, qint64 end)
+{
+    constexpr qint64 pieceSize = 1 << 20;
+    const qint64 size = file.size();
+    while (end < size) {
+        if (!file.seek(end)) {
+            return false;
+        }
+        const QByteArray piece = file.read(pieceSize);
+        if (piece.isEmpty() || !file.seek(start) || file.write(piece) != piece.size()) {
+            return false;
+        }
+        start += piece.size();
+        end += piece.size();
+    }
+    return file.flush() && file.resize(start);
+}
+
 } // namespace
 
 QByteArray PngWithoutPixels(const QString& path)
@@ -64,7 +83,7 @@ QByteArray PngWithoutPixels(const QString& path)
     return kept + (kinds.contains("eXIf") ? QByteArray() : exifAsText) + lastChunk;
 }
 
-bool RemoveRepeatedExifFromPng(const QString& fileName)
+bool LimitExifOfPng(const QString& fileName, int most)
 {
     QFile file;
     if (!OpenFile(file, fileName, QIODevice::ReadWrite | QIODevice::ExistingOnly) || !file.seek(pngSignatureSize)) {
@@ -72,15 +91,17 @@ bool RemoveRepeatedExifFromPng(const QString& fileName)
     }
     int blocks = 0;
     while (const std::optional<PngChunk> chunk = NextPngChunk(file)) {
-        const qint64 end = file.pos() + chunk->RestSize();
+        const qint64 start = file.pos() - chunk->header.size();
+        qint64 next = file.pos() + chunk->RestSize();
         blocks += chunk->type == "eXIf" ? 1 : 0;
-        if (blocks > 1) {
-            const qint64 start = file.pos() - chunk->header.size();
-            file.seek(end);
-            const QByteArray behind = file.readAll(); // the last chunk
-            return file.seek(start) && file.write(behind) == behind.size() && file.resize(start + behind.size());
+        if (blocks > most) {
+            if (!CutOut(file, start, next)) {
+                return false;
+            }
+            --blocks;
+            next = start;
         }
-        file.seek(end);
+        file.seek(next);
     }
     return true;
 }

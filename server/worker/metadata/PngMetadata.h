@@ -12,8 +12,8 @@ namespace BatchWorker {
 /// file it is. Empty if the file cannot be read.
 QByteArray PngWithoutPixels(const QString& path);
 
-/// Removes the second EXIF block, which some versions of the encoder write, from the PNG file `fileName`. Returns
-/// whether it has one at most now.
-bool RemoveRepeatedExifFromPng(const QString& fileName);
+/// Removes all EXIF blocks but the first `most` from the PNG file `fileName`: some versions of the encoder write a
+/// block twice, others make one up. Returns whether it has no more now.
+bool LimitExifOfPng(const QString& fileName, int most);
 
 } // namespace BatchWorker
