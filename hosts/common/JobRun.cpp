@@ -6,13 +6,13 @@
 #include "RunInputs.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/values/PathVariable.h"
 #include "server/protocol/HostPipe.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
 
-#include <QFile>
 #include <QLocalSocket>
 
 namespace BatchHost {
@@ -65,7 +65,7 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     BatchProtocol::inPlaceLimit.Set(isInPlace ? 1 : 0);
     const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace, circumstances.update);
     // The server, which inherits the environment, continues the journal.
-    qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
+    BatchJob::SetPathVariable(BatchJob::journalVariable, journalPath);
     RunInputs inputs = InputsOf(job, journaled.Variants());
     inputs.leftOut = circumstances.leftOut;
     return std::make_unique<RunController>(RunController::Order{journaled.Document(), inputs, journaled.OutputFolder(),
