@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int patience = 120'000; // ms
+constexpr int patience = 240'000; // ms
 
 void Place(const QString& built, const QString& folder, const QString& name)
 {

@@ -29,7 +29,8 @@ private:
 
     QStringList Left() const
     {
-        return QDir(Disk()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(Disk()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                      QDir::Name);
     }
 
     std::unique_ptr<AccidentStage> stage;
@@ -96,9 +97,8 @@ void tst_FullDisk::resultsAreWholeOrAbsent()
     PictureFiles::WriteJpeg(stage->Path(QStringLiteral("in/1.jpg")), 1);
     PictureFiles::WriteNoise(stage->Path(QStringLiteral("in/2.jpg")), 1200, 900);
     PictureFiles::WriteJpeg(stage->Path(QStringLiteral("in/3.jpg")), 3);
-    const int exitCode =
-        stage->Run({QStringLiteral("run"), stage->Path(QStringLiteral("in")), QStringLiteral("-o"), Disk(),
-                    QStringLiteral("--format"), format, QStringLiteral("--workers=1")});
+    const int exitCode = stage->Run({QStringLiteral("run"), stage->Path(QStringLiteral("in")), QStringLiteral("-o"),
+                                     Disk(), QStringLiteral("--format"), format, QStringLiteral("--workers=1")});
     QCOMPARE(exitCode, 1);
     const QString large = stage->Path(QStringLiteral("in/2.jpg"));
     QVERIFY2(stage->Err().contains(large.toUtf8()) && SaysThatTheDiskIsFull(stage->Err()), stage->Err().constData());

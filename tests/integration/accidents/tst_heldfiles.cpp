@@ -182,8 +182,8 @@ void tst_HeldFiles::journalsOfFinishedRuns()
         QVERIFY2(stage->End() == 0, stage->Err().constData());
     }
     // Whoever resumes it finds that everything is done.
-    const int exitCode = stage->Run({QStringLiteral("run"), QStringLiteral("--resume"), QStringLiteral("-o"),
-                                     stage->Path(QStringLiteral("out"))});
+    const int exitCode = stage->Run(
+        {QStringLiteral("run"), QStringLiteral("--resume"), QStringLiteral("-o"), stage->Path(QStringLiteral("out"))});
     QVERIFY2(exitCode == 0, stage->Err().constData());
     QCOMPARE(stage->Names(QStringLiteral("out")),
              (QStringList{QStringLiteral("1.jpg"), QStringLiteral("2.jpg"), QStringLiteral("3.jpg")}));

@@ -23,7 +23,7 @@ void tst_KilledWorkers::secondWorkerIsKilled()
     AccidentStage stage;
     constexpr int pictures = 4;
     for (int i = 0; i < pictures; ++i) {
-        PictureFiles::WriteJpeg(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), i, 4000, 3000);
+        PictureFiles::WriteJpeg(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), i, 2400, 1600);
     }
     stage.Start({QStringLiteral("run"), stage.Path(QStringLiteral("in")), QStringLiteral("-o"),
                  stage.Path(QStringLiteral("out")), QStringLiteral("--format=png"),
