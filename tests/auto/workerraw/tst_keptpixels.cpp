@@ -90,7 +90,7 @@ void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding_data()
 void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding()
 {
     QFETCH(const QString, input);
-    SKIP_WHERE(MissingInTests(QFileInfo(input).suffix()));
+    SKIP_WHERE(MissingEncoder(QFileInfo(input).suffix()));
     QVector<QByteArray> alone;
     const QVector<int> sides{96, 80, 80};
     for (const int side : sides) {
@@ -139,7 +139,7 @@ void tst_KeptPixels::otherFilesAreDecoded_data()
 void tst_KeptPixels::otherFilesAreDecoded()
 {
     QFETCH(const bool, isRenamedOver);
-    SKIP_WHERE(MissingInTests(Text("heic")));
+    SKIP_WHERE(MissingEncoder(Text("heic")));
     WorkerBench bench;
     WritePicture(Chart(96, 64, 8), bench.Path(Text("in.heic")));
     WritePicture(Chart(96, 64, 16), bench.Path(Text("other.heic")));
@@ -201,7 +201,7 @@ void tst_KeptPixels::damageIsReportedEachTime_data()
 void tst_KeptPixels::damageIsReportedEachTime()
 {
     QFETCH(const QString, input);
-    SKIP_WHERE(MissingInTests(QFileInfo(input).suffix()));
+    SKIP_WHERE(MissingEncoder(QFileInfo(input).suffix()));
     WorkerBench bench;
     WriteInput(bench, input);
     QByteArray bytes = bench.Bytes(input);
