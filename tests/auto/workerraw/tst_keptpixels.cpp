@@ -23,6 +23,7 @@ private Q_SLOTS:
     void resultsAreThoseOfTheirOwnDecoding_data();
     void resultsAreThoseOfTheirOwnDecoding();
     void warningsComeWithEachResult();
+    void theProfileComesWithEachResult();
     void otherFilesAreDecoded_data();
     void otherFilesAreDecoded();
     void otherSizesOfCameraFilesAreDecoded();
@@ -125,6 +126,20 @@ void tst_KeptPixels::warningsComeWithEachResult()
     QVERIFY(second.report.usedKeptPixels);
     QVERIFY(!first.report.warnings.isEmpty());
     QCOMPARE(TextsOf(second.report.warnings), TextsOf(first.report.warnings));
+    QVERIFY(second.bytes == first.bytes);
+}
+
+void tst_KeptPixels::theProfileComesWithEachResult()
+{
+    WorkerBench bench;
+    QFile file(QStringLiteral(COLOURS_DATA "/icc-and-nclx.avif"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    bench.WriteBytes(Text("in.avif"), file.readAll());
+    const Made first = Make(bench, Text("in.avif"), 96, true);
+    const Made second = Make(bench, Text("in.avif"), 96, false);
+    QVERIFY(second.report.usedKeptPixels);
+    QVERIFY(first.bytes.contains("iCCP"));
+    QCOMPARE(TextsOf(second.report.warnings), QStringList());
     QVERIFY(second.bytes == first.bytes);
 }
 
