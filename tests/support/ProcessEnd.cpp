@@ -124,9 +124,11 @@ QList<qint64> ChildrenOf(qint64 pid)
         return children;
     }
     ForEachProcess([&](const PROCESSENTRY32W& entry) {
-        // The system starts these processes for a console and, under Wine, for the desktop.
+        // The system starts these processes for a console and, under Wine, for the desktop. One that is just being made
+        // has no name yet.
         const QString name = QString::fromWCharArray(entry.szExeFile);
-        const bool isOfSystem = name == QLatin1String("conhost.exe") || name == QLatin1String("explorer.exe");
+        const bool isOfSystem =
+            name.isEmpty() || name == QLatin1String("conhost.exe") || name == QLatin1String("explorer.exe");
         if (qint64(entry.th32ParentProcessID) != pid || isOfSystem) {
             return;
         }

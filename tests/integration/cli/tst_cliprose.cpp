@@ -226,6 +226,11 @@ void tst_CliProse::proseIsTranslated()
     QFETCH(int, code);
 
     const QString arguments = QString::fromUtf8(QTest::currentDataTag());
+#ifdef Q_OS_WIN
+    if (arguments.contains(QLatin1String("lost"))) {
+        QSKIP("The system says why it does not find a file, in its own language.");
+    }
+#endif
     const CliRun original = Run(arguments, english);
     QVERIFY2(original.exitCode == code, original.err.constData());
     QVERIFY(!(original.out + original.err).isEmpty());

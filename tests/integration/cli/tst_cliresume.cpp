@@ -238,7 +238,7 @@ void tst_CliResume::killedBeforeItsServerIsReached()
     for (int round = 0; round < rounds; ++round) {
         QProcess killed;
         Start(killed, arguments);
-        QTRY_VERIFY(!ChildrenOf(killed.processId()).isEmpty());
+        QVERIFY(QTest::qWaitFor([&killed] { return !ChildrenOf(killed.processId()).isEmpty(); }, 60'000));
         killed.kill();
         QVERIFY(killed.waitForFinished());
         const CliRun run = Run(arguments);
