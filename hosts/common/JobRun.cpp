@@ -7,12 +7,11 @@
 #include "RunInputs.h"
 
 #include "job/journal/RunJournal.h"
+#include "job/values/PathVariable.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
-
-#include <QFile>
 
 namespace BatchHost {
 
@@ -54,7 +53,7 @@ std::unique_ptr<RunController> JobRun::Prepare(const ZTBatchDocument& job, Journ
     BatchProtocol::inPlaceLimit.Set(isInPlace ? 1 : 0);
     const QString journalPath = journaled.BeginJournal(circumstances.policies, isInPlace, circumstances.update);
     // The server, which inherits the environment, continues the journal.
-    qputenv(BatchJob::journalVariable, QFile::encodeName(journalPath));
+    BatchJob::SetPathVariable(BatchJob::journalVariable, journalPath);
     RunInputs inputs = InputsOf(job, journaled.Variants());
     inputs.leftOut = circumstances.leftOut;
     return std::make_unique<RunController>(RunController::Order{journaled.Document(), inputs, journaled.OutputFolder(),

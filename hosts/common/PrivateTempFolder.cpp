@@ -13,8 +13,6 @@ namespace {
 /// The path of a socket may have 107 bytes; this is left for its folder.
 constexpr int longestFolder = 70;
 
-constexpr char variable[] = "TMPDIR";
-
 const QString nameStart = QStringLiteral("velkora-batch-");
 
 QString ParentFolder()
@@ -32,20 +30,12 @@ QString ParentFolder()
 
 PrivateTempFolder::PrivateTempFolder()
     : folder(ParentFolder(), nameStart)
-    , before(qgetenv(variable))
 {
     if (folder.Error().isEmpty()) {
-        qputenv(variable, QFile::encodeName(folder.Path()));
+        variables.emplace(folder.Path());
     }
 }
 
-PrivateTempFolder::~PrivateTempFolder()
-{
-    if (before.isNull()) {
-        qunsetenv(variable);
-    } else {
-        qputenv(variable, before);
-    }
-}
+PrivateTempFolder::~PrivateTempFolder() = default;
 
 } // namespace BatchHost

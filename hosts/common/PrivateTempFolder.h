@@ -4,12 +4,15 @@
 #pragma once
 
 #include "HeldFolder.h"
+#include "TempVariables.h"
+
+#include <optional>
 
 namespace BatchHost {
 
-/// A temporary folder for this process and its server only, which becomes TMPDIR. The pipe between them has a fixed
-/// name in the temporary folder; in a shared folder two hosts would get in each other's way. Removed with this object,
-/// or by the next object of another process if this process is killed.
+/// A temporary folder for this process and its server only, which becomes theirs for all temporary files. On Unix the
+/// pipe between them has a fixed name in it; in a shared folder two hosts would get in each other's way. Removed with
+/// this object, or by the next object of another process if this process is killed.
 class PrivateTempFolder
 {
 public:
@@ -25,7 +28,7 @@ private:
     Q_DISABLE_COPY(PrivateTempFolder)
 
     HeldFolder folder;
-    const QByteArray before; ///< TMPDIR; null if it was not set
+    std::optional<TempVariables> variables;
 };
 
 } // namespace BatchHost

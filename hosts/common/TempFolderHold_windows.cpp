@@ -3,6 +3,8 @@
 
 #include "TempFolderHold.h"
 
+#include "job/values/NativePath_windows.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -17,12 +19,12 @@ namespace {
 /// A file in the folder that cannot be removed while its process lives.
 std::wstring HoldIn(const QString& folder)
 {
-    return QDir::toNativeSeparators(folder + QStringLiteral("/in-use")).toStdWString();
+    return BatchJob::NativePath(folder + QStringLiteral("/in-use"));
 }
 
 bool IsLink(const QString& folder)
 {
-    const DWORD attributes = GetFileAttributesW(QDir::toNativeSeparators(folder).toStdWString().c_str());
+    const DWORD attributes = GetFileAttributesW(BatchJob::NativePath(folder).c_str());
     return attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 

@@ -3,10 +3,11 @@
 
 #include "OwnFile.h"
 
+#include "job/values/FileProblem_windows.h"
+#include "job/values/NativePath_windows.h"
 #include "job/values/Phrase.h"
 
 #include <QByteArray>
-#include <QDir>
 
 #include <qt_windows.h>
 
@@ -74,8 +75,8 @@ QString ProblemWith(HANDLE file)
 HANDLE OpenHandle(const QString& path, DWORD access, DWORD disposition)
 {
     constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    return CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), access | READ_CONTROL, shared, nullptr,
-                       disposition, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    return CreateFileW(NativePath(path).c_str(), access | READ_CONTROL, shared, nullptr, disposition,
+                       FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
 }
 
 bool Open(QFile& file, const QString& path, DWORD disposition, QIODevice::OpenMode mode, QString& problem)
@@ -83,7 +84,7 @@ bool Open(QFile& file, const QString& path, DWORD disposition, QIODevice::OpenMo
     const bool isWritten = mode.testFlag(QIODevice::WriteOnly);
     const HANDLE handle = OpenHandle(path, GENERIC_READ | (isWritten ? GENERIC_WRITE : 0), disposition);
     if (handle == INVALID_HANDLE_VALUE) {
-        problem = qt_error_string(int(GetLastError()));
+        problem = FileProblem(GetLastError());
         return false;
     }
     problem = ProblemWith(handle);

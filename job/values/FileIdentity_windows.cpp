@@ -3,7 +3,7 @@
 
 #include "FileIdentity.h"
 
-#include <QDir>
+#include "NativePath_windows.h"
 
 #include <qt_windows.h>
 
@@ -13,10 +13,8 @@ namespace {
 
 HANDLE Open(const QString& path, DWORD access, DWORD flags)
 {
-    const QString native = QDir::toNativeSeparators(path);
-    return CreateFileW(reinterpret_cast<const wchar_t*>(native.utf16()), access,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                       FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr);
+    return CreateFileW(NativePath(path).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr);
 }
 
 } // namespace

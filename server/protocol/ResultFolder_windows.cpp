@@ -3,6 +3,8 @@
 
 #include "ResultFolder.h"
 
+#include "job/values/FileProblem_windows.h"
+#include "job/values/NativePath_windows.h"
 #include "job/values/Phrase.h"
 
 #include <QDir>
@@ -16,9 +18,8 @@ namespace {
 /// Opens a folder so that it can be neither renamed nor removed meanwhile.
 HANDLE OpenFolder(const QString& path, DWORD flags)
 {
-    return CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), FILE_LIST_DIRECTORY,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags,
-                       nullptr);
+    return CreateFileW(BatchJob::NativePath(path).c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr);
 }
 
 /// Whether the open folder stands for another one. Folders of clouds are reparse points too, but no links.
@@ -45,7 +46,7 @@ bool ResultFolder::OpenRoot(const QString& root, Missing missing)
     }
     const HANDLE handle = OpenFolder(root, 0);
     if (handle == INVALID_HANDLE_VALUE) {
-        error = QStringLiteral("%1: %2").arg(root, qt_error_string(int(GetLastError())));
+        error = QStringLiteral("%1: %2").arg(root, BatchJob::FileProblem(GetLastError()));
         return false;
     }
     handles.push_back(handle);
@@ -60,16 +61,15 @@ bool ResultFolder::EnterAtOnce(const QString&)
 /// Goes into the folder `folder`. Its parent is open and cannot be replaced.
 bool ResultFolder::Enter(const QString& folder, const QString&, Missing missing)
 {
-    if (missing == Missing::Make &&
-        !CreateDirectoryW(QDir::toNativeSeparators(folder).toStdWString().c_str(), nullptr) &&
+    if (missing == Missing::Make && !CreateDirectoryW(BatchJob::NativePath(folder).c_str(), nullptr) &&
         GetLastError() != ERROR_ALREADY_EXISTS) {
         error = BatchJob::Phrase::English("the folder %1 cannot be made: %2")
-                    .arg(folder, qt_error_string(int(GetLastError())));
+                    .arg(folder, BatchJob::FileProblem(GetLastError()));
         return false;
     }
     const HANDLE handle = OpenFolder(folder, FILE_FLAG_OPEN_REPARSE_POINT);
     if (handle == INVALID_HANDLE_VALUE) {
-        error = QStringLiteral("%1: %2").arg(folder, qt_error_string(int(GetLastError())));
+        error = QStringLiteral("%1: %2").arg(folder, BatchJob::FileProblem(GetLastError()));
         return false;
     }
     handles.push_back(handle);

@@ -5,10 +5,13 @@
 
 #include "TemporaryName.h"
 
+#include "job/values/FileProblem_windows.h"
+#include "job/values/NativePath_windows.h"
 #include "job/values/Phrase.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QThread>
 
 #include <qt_windows.h>
 
@@ -18,16 +21,12 @@
 #include <io.h>
 #include <vector>
 
+using BatchJob::NativePath;
 using BatchJob::Phrase;
 
 namespace BatchProtocol {
 
 namespace {
-
-std::wstring Native(const QString& path)
-{
-    return QDir::toNativeSeparators(path).toStdWString();
-}
 
 HANDLE HandleOf(int descriptor)
 {
@@ -39,7 +38,7 @@ HANDLE HandleOf(int descriptor)
 int OpenLocked(const QString& path)
 {
     const HANDLE file =
-        CreateFileW(Native(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+        CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                     nullptr, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
         return -1;
@@ -50,7 +49,7 @@ int OpenLocked(const QString& path)
 /// Renames an open file, so that its lock holds until it has its final name.
 DWORD Rename(HANDLE file, const QString& to, bool replaceExisting)
 {
-    const std::wstring name = Native(QFileInfo(to).absoluteFilePath());
+    const std::wstring name = NativePath(QFileInfo(to).absoluteFilePath());
     const std::size_t nameBytes = name.size() * sizeof(wchar_t);
     std::vector<char> memory(sizeof(FILE_RENAME_INFO) + nameBytes);
     auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(memory.data());
@@ -59,6 +58,48 @@ DWORD Rename(HANDLE file, const QString& to, bool replaceExisting)
     std::memcpy(info->FileName, name.data(), nameBytes);
     const auto size = static_cast<DWORD>(memory.size());
     return SetFileInformationByHandle(file, FileRenameInfo, info, size) ? ERROR_SUCCESS : GetLastError();
+}
+
+/// Whether a program has the file open, whatever it lets others do meanwhile.
+bool IsOpen(const QString& path)
+{
+    const HANDLE file = CreateFileW(NativePath(path).c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return BatchJob::IsOpenElsewhere(GetLastError());
+    }
+    CloseHandle(file);
+    return false;
+}
+
+/// Renames the file, which may have to wait a moment: other programs look at new files, such as those that search for
+/// viruses.
+DWORD RenamePatiently(HANDLE file, const QString& to, bool replaceExisting)
+{
+    constexpr int attempts = 11;
+    constexpr unsigned long pause = 100; // ms
+    for (int attempt = 1;; ++attempt) {
+        const DWORD problem = Rename(file, to, replaceExisting);
+        const bool isRefused = problem == ERROR_ACCESS_DENIED || BatchJob::IsOpenElsewhere(problem);
+        if (!isRefused || attempt == attempts || !IsOpen(to)) {
+            return problem;
+        }
+        QThread::msleep(pause);
+    }
+}
+
+/// Why `path` cannot be replaced, beyond what `problem` says; empty if nothing more is known.
+QString WhyNotReplaced(const QString& path, DWORD problem)
+{
+    if (problem != ERROR_ACCESS_DENIED && !BatchJob::IsOpenElsewhere(problem)) {
+        return {};
+    }
+    if (IsOpen(path)) {
+        return Phrase::English("\"%1\" cannot be replaced: it is open in another program").arg(path);
+    }
+    const DWORD attributes = GetFileAttributesW(NativePath(path).c_str());
+    const bool isReadOnly = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return isReadOnly ? Phrase::English("\"%1\" cannot be replaced: it is read-only").arg(path) : QString();
 }
 
 /// Reads `size` bytes at `place`. False if there are fewer.
@@ -104,7 +145,7 @@ TemporaryFile::~TemporaryFile()
     if (descriptor >= 0) {
         _close(descriptor);
         if (!name.isEmpty()) {
-            DeleteFileW(Native(FileName()).c_str());
+            DeleteFileW(NativePath(FileName()).c_str());
         }
     }
 }
@@ -147,14 +188,16 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
     const HANDLE file = HandleOf(descriptor);
     // Only the temporary file is hidden, not the result.
     const bool isReady =
-        FlushFileBuffers(file) && SetFileAttributesW(Native(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
-    const DWORD problem = isReady ? Rename(file, finalName, replaceExisting) : GetLastError();
+        FlushFileBuffers(file) && SetFileAttributesW(NativePath(FileName()).c_str(), FILE_ATTRIBUTE_NORMAL);
+    const DWORD problem = isReady ? RenamePatiently(file, finalName, replaceExisting) : GetLastError();
     if (problem == ERROR_ALREADY_EXISTS || problem == ERROR_FILE_EXISTS) {
         error = Phrase::English("\"%1\" exists already").arg(finalName);
         return Placement::NameTaken;
     }
     if (problem != ERROR_SUCCESS) {
         Fail(static_cast<int>(problem));
+        const QString more = isReady ? WhyNotReplaced(finalName, problem) : QString();
+        error = more.isEmpty() ? error : more;
         return Placement::Failed;
     }
     name.clear();
@@ -163,8 +206,8 @@ TemporaryFile::Placement TemporaryFile::Place(bool replaceExisting)
 
 bool TemporaryFile::HasTwin() const
 {
-    const HANDLE twin = CreateFileW(Native(finalName).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    const HANDLE twin = CreateFileW(NativePath(finalName).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (twin == INVALID_HANDLE_VALUE) {
         return false;
     }
@@ -191,7 +234,7 @@ TemporaryFile::Sweeping TemporaryFile::Sweep(const QString& path, const QString&
     }
     const QStringList names = QDir(path).entryList({QStringLiteral(".velkora-*.tmp")}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
-        if (IsTemporaryName(name) && DeleteFileW(Native(path + QLatin1Char('/') + name).c_str())) {
+        if (IsTemporaryName(name) && DeleteFileW(NativePath(path + QLatin1Char('/') + name).c_str())) {
             ++sweeping.removed;
         }
     }
@@ -200,7 +243,7 @@ TemporaryFile::Sweeping TemporaryFile::Sweep(const QString& path, const QString&
 
 bool TemporaryFile::Fail(int errorNumber)
 {
-    error = qt_error_string(errorNumber);
+    error = BatchJob::FileProblem(DWORD(errorNumber));
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "WorkerProcess.h"
 
+#include "job/values/PathVariable.h"
 #include "job/values/Phrase.h"
 
 #include <QPointer>
@@ -25,7 +26,9 @@ QProcessEnvironment EnvironmentOfWorkers(const QString& temporaryFolder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("OMP_NUM_THREADS"), QStringLiteral("1"));
-    environment.insert(QStringLiteral("TMPDIR"), temporaryFolder);
+    for (const char* const name : BatchJob::TemporaryFolderVariables()) {
+        environment.insert(QLatin1String(name), QDir::toNativeSeparators(temporaryFolder));
+    }
     return environment;
 }
 

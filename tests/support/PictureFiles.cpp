@@ -8,7 +8,16 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include <random>
+
 namespace {
+
+void Save(const QImage& image, const QString& path, const char* format)
+{
+    if (!QDir().mkpath(QFileInfo(path).path()) || !image.save(path, format, 90)) {
+        qFatal("The picture %s cannot be written.", qUtf8Printable(path));
+    }
+}
 
 void Write(const QString& path, const char* format, int seed, int width, int height)
 {
@@ -18,9 +27,7 @@ void Write(const QString& path, const char* format, int seed, int width, int hei
             image.setPixel(x, y, qRgb((x * 7 + seed * 31) % 256, (y * 5 + seed * 17) % 256, (x + y + seed) % 256));
         }
     }
-    if (!QDir().mkpath(QFileInfo(path).path()) || !image.save(path, format, 90)) {
-        qFatal("The picture %s cannot be written.", qUtf8Printable(path));
-    }
+    Save(image, path, format);
 }
 
 } // namespace
@@ -28,6 +35,18 @@ void Write(const QString& path, const char* format, int seed, int width, int hei
 void PictureFiles::WriteJpeg(const QString& path, int seed, int width, int height)
 {
     Write(path, "JPG", seed, width, height);
+}
+
+void PictureFiles::WriteNoise(const QString& path, int width, int height)
+{
+    std::mt19937 random(1);
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, random() | 0xff000000U);
+        }
+    }
+    Save(image, path, "JPG");
 }
 
 void PictureFiles::WriteTruncated(const QString& path)

@@ -8,6 +8,7 @@
 #include "hosts/common/options/PolicyOptions.h"
 #include "hosts/common/options/Words.h"
 #include "job/plan/SharedNames.h"
+#include "job/values/PathVariable.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchMessage.h"
@@ -132,8 +133,8 @@ void TellObstacle(const JobRun& run)
 {
     switch (run.WhatPrevents()) {
     case JobRun::Obstacle::NoTemporaryFolder:
-        Tell(Messages::tr("no temporary folder can be made: %1. Set TMPDIR to another folder.")
-                 .arg(Translated(run.TemporaryFolderError())));
+        Tell(Messages::tr("no temporary folder can be made: %1. Set %2 to another folder.")
+                 .arg(Translated(run.TemporaryFolderError()), QLatin1String(TemporaryFolderVariables().front())));
         break;
     case JobRun::Obstacle::PipeInUse:
         Tell(Messages::tr("another batch server is running, and this system has only one pipe for it; try again "

@@ -16,7 +16,7 @@ FileBytes::FileBytes(int descriptor)
     , size(file < 0 ? -1 : SizeOfFile(file))
 {
     if (size < 0) {
-        throw DamagedFile(qt_error_string(errno));
+        throw DamagedFile(FileProblem(errno));
     }
 }
 

@@ -39,7 +39,7 @@ public:
         : value(OpenForReading(file))
     {
         if (value < 0) {
-            throw DamagedFile(qt_error_string(errno));
+            throw DamagedFile(FileProblem(errno));
         }
         if (!IsRegularFile(value)) {
             close(value);

@@ -3,12 +3,12 @@
 
 #include "RawStream.h"
 
-#include "server/worker/pixels/NativePath_windows.h"
+#include "job/values/NativePath_windows.h"
 
 namespace BatchWorker {
 
 RawStream::RawStream(const QString& file)
-    : LibRaw_bigfile_datastream(NativePath(file).c_str())
+    : LibRaw_bigfile_datastream(BatchJob::NativePath(file).c_str())
 {
 }
 

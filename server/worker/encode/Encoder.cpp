@@ -9,6 +9,7 @@
 
 #include "job/formats/FormatOptions.h"
 #include "server/worker/pixels/EmbeddedProfile.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 #include "server/worker/pixels/PixelForms.h"
 
@@ -61,7 +62,7 @@ void Encode(const Picture& picture, const FormatSchema& format, const QJsonObjec
     const auto checkFile = [&result] {
         if (result.Problem() != 0) {
             vips_error_clear();
-            throw OutputFailed(qt_error_string(result.Problem()));
+            throw OutputFailed(FileProblem(result.Problem()));
         }
     };
     try {

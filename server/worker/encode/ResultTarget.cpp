@@ -56,7 +56,7 @@ gint64 ResultTarget::Write(const char* data, gint64 length)
 void ResultTarget::WriteToFile(const char* data, gint64 length)
 {
     for (gint64 written = 0; written < length && problem == 0;) {
-        const ssize_t now = ::write(descriptor, data + written, size_t(length - written));
+        const qint64 now = WriteSome(descriptor, data + written, length - written);
         if (now >= 0) {
             written += now;
         } else if (errno != EINTR) {

@@ -15,7 +15,7 @@ namespace {
 
 [[noreturn]] void Fail()
 {
-    throw Exiv2::Error(Exiv2::kerErrorMessage, qt_error_string(errno).toStdString());
+    throw Exiv2::Error(Exiv2::kerErrorMessage, FileProblem(errno).toStdString());
 }
 
 } // namespace

@@ -12,6 +12,9 @@
 /// Windows the imaging library has another one, to which they mean nothing.
 namespace BatchWorker {
 
+/// What the error number of one of these functions says, for users.
+QString FileProblem(int number);
+
 /// Opens `file` for reading, whatever kind of file it is, without waiting for anything. Child processes do not get it.
 /// Negative, with errno, when that fails.
 int OpenForReading(const QString& file);
@@ -27,6 +30,9 @@ qint64 SizeOfFile(int descriptor);
 /// Copies up to `length` bytes from `place` on, wherever the file stands. Fewer come at its end, or when there is a
 /// limit to one call; 0 at the end. Negative, with errno, when that fails.
 qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place);
+
+/// Writes up to `length` bytes where the file stands, and returns how many. Negative, with errno, when that fails.
+qint64 WriteSome(int descriptor, const void* bytes, qint64 length);
 
 /// Where the file stands afterwards; `whence` as for lseek(). Negative, with errno, when that fails.
 qint64 MoveTo(int descriptor, qint64 offset, int whence);

@@ -20,6 +20,11 @@ qint64 Nanoseconds(const timespec& time)
 
 } // namespace
 
+QString FileProblem(int number)
+{
+    return qt_error_string(number);
+}
+
 int OpenForReading(const QString& file)
 {
     return open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -49,6 +54,11 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
         count = pread(descriptor, target, std::size_t(length), off_t(place));
     } while (count < 0 && errno == EINTR);
     return count;
+}
+
+qint64 WriteSome(int descriptor, const void* bytes, qint64 length)
+{
+    return ::write(descriptor, bytes, std::size_t(length));
 }
 
 qint64 MoveTo(int descriptor, qint64 offset, int whence)

@@ -3,7 +3,8 @@
 
 #include "FileCalls.h"
 
-#include "NativePath_windows.h"
+#include "job/values/FileProblem_windows.h"
+#include "job/values/NativePath_windows.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -16,6 +17,8 @@
 namespace BatchWorker {
 
 namespace {
+
+constexpr qint64 mostAtOnce = 1 << 30; // bytes of one call
 
 HANDLE HandleOf(int descriptor)
 {
@@ -31,11 +34,24 @@ void NoteProblem(DWORD problem)
         errno = ENOENT;
         break;
     case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
         errno = EACCES;
+        break;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+        errno = EBUSY;
         break;
     case ERROR_TOO_MANY_OPEN_FILES:
         errno = EMFILE;
+        break;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        errno = ENOSPC;
+        break;
+    case ERROR_FILE_TOO_LARGE:
+        errno = EFBIG;
+        break;
+    case ERROR_WRITE_PROTECT:
+        errno = EROFS;
         break;
     default:
         errno = EIO;
@@ -55,8 +71,9 @@ int DescriptorOf(HANDLE file, int mode = _O_RDONLY)
 // Folders can be opened too: what is no file is refused later, by its kind.
 HANDLE Open(const QString& path, DWORD access)
 {
-    return CreateFileW(NativePath(path).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    return CreateFileW(BatchJob::NativePath(path).c_str(), access,
+                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                       FILE_FLAG_BACKUP_SEMANTICS, nullptr);
 }
 
 qint64 Number(const FILETIME& time)
@@ -110,6 +127,29 @@ gint64 SeekShared(VipsSourceCustom*, gint64 offset, int whence, void* file)
 
 } // namespace
 
+// The system has other numbers.
+QString FileProblem(int number)
+{
+    switch (number) {
+    case EBUSY:
+        return BatchJob::FileProblem(ERROR_SHARING_VIOLATION);
+    case EACCES:
+        return BatchJob::FileProblem(ERROR_ACCESS_DENIED);
+    case ENOSPC:
+        return BatchJob::FileProblem(ERROR_DISK_FULL);
+    case EFBIG:
+        return BatchJob::FileProblem(ERROR_FILE_TOO_LARGE);
+    case EROFS:
+        return BatchJob::FileProblem(ERROR_WRITE_PROTECT);
+    case EMFILE:
+        return BatchJob::FileProblem(ERROR_TOO_MANY_OPEN_FILES);
+    case ENOENT:
+        return BatchJob::FileProblem(ERROR_FILE_NOT_FOUND);
+    default:
+        return BatchJob::FileProblem(ERROR_IO_DEVICE);
+    }
+}
+
 int OpenForReading(const QString& file)
 {
     const HANDLE opened = Open(file, GENERIC_READ);
@@ -151,12 +191,11 @@ qint64 SizeOfFile(int descriptor)
 
 qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
 {
-    constexpr qint64 most = 1 << 30; // of one call
     OVERLAPPED from = {};
     from.Offset = DWORD(quint64(place));
     from.OffsetHigh = DWORD(quint64(place) >> 32U);
     DWORD count = 0;
-    if (ReadFile(HandleOf(descriptor), target, DWORD(std::clamp<qint64>(length, 0, most)), &count, &from)) {
+    if (ReadFile(HandleOf(descriptor), target, DWORD(std::clamp<qint64>(length, 0, mostAtOnce)), &count, &from)) {
         return count;
     }
     const DWORD problem = GetLastError();
@@ -165,6 +204,21 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
     }
     NoteProblem(problem);
     return -1;
+}
+
+qint64 WriteSome(int descriptor, const void* bytes, qint64 length)
+{
+    DWORD count = 0;
+    const auto size = DWORD(std::clamp<qint64>(length, 0, mostAtOnce));
+    if (!WriteFile(HandleOf(descriptor), bytes, size, &count, nullptr)) {
+        NoteProblem(GetLastError());
+        return -1;
+    }
+    if (count == 0 && size > 0) {
+        NoteProblem(ERROR_DISK_FULL);
+        return -1;
+    }
+    return count;
 }
 
 qint64 MoveTo(int descriptor, qint64 offset, int whence)

@@ -3,8 +3,9 @@
 
 #include "NamelessFile.h"
 
-#include "NativePath_windows.h"
+#include "job/values/NativePath_windows.h"
 
+#include <QDir>
 #include <QUuid>
 
 #include <cstdint>
@@ -24,8 +25,8 @@ HANDLE HandleOf(int descriptor)
 int Open()
 {
     const QString path = QDir::tempPath() + QStringLiteral("/velkora-") + QUuid::createUuid().toString(QUuid::Id128);
-    const HANDLE file = CreateFileW(NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr,
-                                    CREATE_NEW, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    const HANDLE file = CreateFileW(BatchJob::NativePath(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0,
+                                    nullptr, CREATE_NEW, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     return file == INVALID_HANDLE_VALUE ? -1 : _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_RDWR | _O_BINARY);
 }
 

@@ -6,7 +6,6 @@
 #include "WorkerBench.h"
 
 #include "job/values/JobValues.h"
-#include "server/protocol/TemporaryFile.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTStyle.h"
@@ -84,9 +83,6 @@ private Q_SLOTS:
     void keepsNoNamedFilesForItself();
     void givesUpRights();
     void endsWithItsSupervisor();
-    void marksItsTemporaryFiles();
-    void sweepsStaleFilesOnly();
-    void tellsFailedEffectsFromDamagedFiles();
 };
 
 void tst_WorkerLimits::initTestCase()
@@ -369,73 +365,6 @@ void tst_WorkerLimits::endsWithItsSupervisor()
     shell.kill();
     QVERIFY(shell.waitForFinished(30'000));
     QTRY_VERIFY_WITH_TIMEOUT(StatusOf(worker, "Name").isEmpty() || StatusOf(worker, "State").startsWith('Z'), 30'000);
-}
-
-void tst_WorkerLimits::marksItsTemporaryFiles()
-{
-    QTemporaryDir folder;
-    TemporaryFile file(folder.filePath(Text("result.jpg")));
-    QVERIFY(file.Create());
-    const QString name = QFileInfo(file.FileName()).fileName();
-    QVERIFY2(QRegularExpression(Text("^\\.velkora-[0-9a-f]{16}\\.tmp$")).match(name).hasMatch(), qPrintable(name));
-    QCOMPARE(QFileInfo(file.FileName()).path(), folder.path());
-    QCOMPARE(write(file.Descriptor(), "whole", 5), ssize_t(5));
-    QCOMPARE(TemporaryFile::Sweep(folder.path()).removed, 0);
-    QCOMPARE(file.Place(false), TemporaryFile::Placement::Done);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(Text("result.jpg")));
-}
-
-void tst_WorkerLimits::sweepsStaleFilesOnly()
-{
-    QTemporaryDir folder;
-    const auto make = [&folder](const char* name) {
-        QFile file(folder.filePath(Text(name)));
-        return file.open(QIODevice::WriteOnly);
-    };
-    QVERIFY(make(".velkora-0123456789abcdef.tmp"));
-    QVERIFY(make(".velkora-0123456789abcde.tmp"));
-    QVERIFY(make(".velkora-0123456789abcdef.tmp.jpg"));
-    QVERIFY(make("velkora-0123456789abcdef.tmp"));
-    QVERIFY(make("photo.jpg"));
-    QVERIFY(QDir(folder.path()).mkdir(Text(".velkora-00000000000000aa.tmp")));
-    QVERIFY(QFile::link(folder.filePath(Text("photo.jpg")), folder.filePath(Text(".velkora-00000000000000bb.tmp"))));
-    TemporaryFile inWork(folder.filePath(Text("result.jpg")));
-    QVERIFY(inWork.Create());
-    QCOMPARE(TemporaryFile::Sweep(folder.path()).removed, 1);
-    QVERIFY(!QFile::exists(folder.filePath(Text(".velkora-0123456789abcdef.tmp"))));
-    QVERIFY(QFile::exists(inWork.FileName()));
-    QVERIFY(QFile::exists(folder.filePath(Text("photo.jpg"))));
-    QCOMPARE(
-        QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System).size(), 7);
-    QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))).removed, 0);
-}
-
-void tst_WorkerLimits::tellsFailedEffectsFromDamagedFiles()
-{
-    WorkerBench bench;
-    const auto jobWith = [](const QByteArray& effect, const QByteArray& parameters) {
-        return JobOf([&](ZTBatchDocument& document) {
-            document.GetOutputSettings()->SetFormat(Text("PNG"), {});
-            document.GetStyle()->AppendEffect(QString::fromUtf8(effect), parameters, true);
-        });
-    };
-    WritePicture(Noise(300, 200), bench.Path(Text("in.jpg")));
-    // A watermark whose file is no picture.
-    bench.WriteBytes(Text("mark.png"), "no picture");
-    const QByteArray mark = "{\"file\":\"" + bench.Path(Text("mark.png")).toUtf8() + "\"}";
-    const Report effect = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith("watermark-image", mark));
-    QVERIFY2(effect.failure == PolicyKind::Processing, qPrintable(effect.reason));
-    QCOMPARE(effect.errorCode, qint32(ZTBatchMessage::ApplyAdjustmentError));
-
-    // A damaged file stays a damaged file, with an effect that streams and with one that holds the picture.
-    bench.WriteBytes(Text("in.jpg"), bench.Bytes(Text("in.jpg")).left(9'000));
-    for (const char* id : {"exposure", "auto-levels", "rotate"}) {
-        const QByteArray parameters = qstrcmp(id, "rotate") == 0 ? "{\"angle\":30}" : "{}";
-        const Report damaged = bench.Make(Text("in.jpg"), Text("out.png"), Text("PNG"), jobWith(id, parameters));
-        QVERIFY2(damaged.failure == PolicyKind::Input, qPrintable(damaged.reason));
-        QCOMPARE(damaged.errorCode, qint32(ZTBatchMessage::ReadFileError));
-    }
-    QVERIFY(!QFile::exists(bench.Path(Text("out.png"))));
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerLimits)

@@ -58,7 +58,8 @@ void tst_PngExif::initTestCase()
     StartPictures();
     PlantedMetadata::Start();
     bench = std::make_unique<WorkerBench>();
-    WritePicture(Chart(60, 40), bench->Path(Text("plain.png")));
+    // Some versions of the library would write EXIF of their own.
+    WritePicture(Chart(60, 40), bench->Path(Text("plain.png")), "[strip]");
     png = bench->Bytes(Text("plain.png"));
 }
 

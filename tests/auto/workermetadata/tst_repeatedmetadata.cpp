@@ -123,6 +123,8 @@ void tst_RepeatedMetadata::firstBlockCounts()
     QFETCH(const QString, extension);
     QFETCH(const Joined, join);
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingInTests(extension));
+    SKIP_WHERE(MissingEncoder(format));
 
     const QString name = Text("in.") + extension;
     bench->WriteBytes(name, join(With("First", extension), With("Second", extension)));

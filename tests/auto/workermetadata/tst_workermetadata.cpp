@@ -15,6 +15,7 @@
 
 #include <brotli/encode.h>
 #include <exiv2/exiv2.hpp>
+#include <optional>
 
 using namespace BatchJob;
 using namespace BatchProtocol;
@@ -42,7 +43,7 @@ struct Found
     Exiv2::ExifData exif;
     Exiv2::IptcData iptc;
     Exiv2::XmpData xmp;
-    bool hasProfile = false;
+    std::optional<bool> hasProfile; ///< nothing where the test cannot read the file
 
     QString Exif(const char* key) const
     {
@@ -76,15 +77,18 @@ Found Read(const WorkerBench& bench, const QString& format)
 {
     const QString file = bench.Path(NameIn(format));
     // Not a copy: blocks of HEIF files live no longer than the picture that was read.
-    const Picture picture = Picture::new_from_file(file.toUtf8().constData());
+    Picture picture;
     Found found;
-    // The decoder of JPEG XL makes a profile up for files that are sRGB.
-    const QByteArray profile = Block(picture, VIPS_META_ICC_NAME);
-    QByteArray madeUp;
-    for (const char letter : QByteArray("RGB_D65_SRG")) {
-        madeUp.append('\0').append(letter);
+    if (!MissingInTests(format)) {
+        picture = Picture::new_from_file(file.toUtf8().constData());
+        // The decoder of JPEG XL makes a profile up for files that are sRGB.
+        const QByteArray profile = Block(picture, VIPS_META_ICC_NAME);
+        QByteArray madeUp;
+        for (const char letter : QByteArray("RGB_D65_SRG")) {
+            madeUp.append('\0').append(letter);
+        }
+        found.hasProfile = !profile.isEmpty() && !profile.contains(madeUp);
     }
-    found.hasProfile = !profile.isEmpty() && !profile.contains(madeUp);
     const bool isRead = format != QLatin1String("HEIF") && format != QLatin1String("AVIF") &&
                         format != QLatin1String("JPEG XL") && format != QLatin1String("GIF");
     if (isRead) {
@@ -93,15 +97,12 @@ Found Read(const WorkerBench& bench, const QString& format)
         found.exif = image->exifData();
         found.iptc = image->iptcData();
         found.xmp = image->xmpData();
-        found.hasProfile = found.hasProfile || image->iccProfileDefined();
+        found.hasProfile = found.hasProfile.value_or(false) || image->iccProfileDefined();
         return found;
     }
-    QByteArray exif = Block(picture, VIPS_META_EXIF_NAME);
-    QByteArray xmp = Block(picture, VIPS_META_XMP_NAME);
-    if (format == QLatin1String("JPEG XL")) {
-        exif = BoxOf(bench.Bytes(NameIn(format)), "Exif").mid(4);
-        xmp = BoxOf(bench.Bytes(NameIn(format)), "xml ");
-    }
+    const bool isJxl = format == QLatin1String("JPEG XL");
+    QByteArray exif = isJxl ? BoxOf(bench.Bytes(NameIn(format)), "Exif").mid(4) : Block(picture, VIPS_META_EXIF_NAME);
+    const QByteArray xmp = isJxl ? BoxOf(bench.Bytes(NameIn(format)), "xml ") : Block(picture, VIPS_META_XMP_NAME);
     exif = exif.startsWith("Exif") ? exif.mid(6) : exif;
     if (!exif.isEmpty()) {
         Exiv2::ExifParser::decode(found.exif, reinterpret_cast<const Exiv2::byte*>(exif.constData()),
@@ -183,7 +184,9 @@ void tst_WorkerMetadata::initTestCase()
     bench = std::make_unique<WorkerBench>();
     // The trial of the HEIF encoders takes 20 s longer in a worker that has made another picture just before.
     WriteSource(Text("in.jpg"));
-    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(Text("HEIF")), Text("HEIF")).reason, QString());
+    if (!MissingEncoder(Text("HEIF"))) {
+        QCOMPARE(bench->Make(Text("in.jpg"), NameIn(Text("HEIF")), Text("HEIF")).reason, QString());
+    }
 }
 
 // A picture with metadata of every kind, turned by 90 degrees, with a profile that is not sRGB.
@@ -232,6 +235,7 @@ void tst_WorkerMetadata::keepsEachKind()
 {
     QFETCH(const QString, format);
     QFETCH(const QStringList, keep);
+    SKIP_WHERE(MissingEncoder(format));
 
     WriteSource(Text("in.jpg"));
     const Report report =
@@ -249,7 +253,7 @@ void tst_WorkerMetadata::keepsEachKind()
              keeps("iptc") && HoldsIptc(format) ? Text("A caption") : QString());
     const QString inXmp = found.Xmp("Xmp.dc.description");
     QCOMPARE(inXmp, keeps("iptc") && !HoldsIptc(format) ? Text("lang=\"x-default\" A caption") : QString());
-    QCOMPARE(found.hasProfile, keeps("icc"));
+    QCOMPARE(found.hasProfile.value_or(keeps("icc")), keeps("icc"));
     const bool losesSomething = !holdsAny && keep != QStringList() && keep != QStringList(Text("icc"));
     QCOMPARE(report.warnings.isEmpty(), !losesSomething);
 }
@@ -277,6 +281,7 @@ void tst_WorkerMetadata::leavesTheWholeBlockOut()
 {
     QFETCH(const QString, format);
     QFETCH(const QStringList, keep);
+    SKIP_WHERE(MissingEncoder(format));
 
     WriteSource(Text("in.jpg"));
     const auto make = [&](const QStringList& kinds) {
@@ -284,10 +289,10 @@ void tst_WorkerMetadata::leavesTheWholeBlockOut()
     };
     const auto isBlockThere = [&] {
         const QString file = bench->Path(NameIn(format));
-        const Picture picture = Picture::new_from_file(file.toUtf8().constData());
         const bool isJxl = format == QLatin1String("JPEG XL");
-        return !Block(picture, VIPS_META_EXIF_NAME).isEmpty() ||
-               (isJxl && !BoxOf(bench->Bytes(NameIn(format)), "Exif").isEmpty());
+        return (isJxl && !BoxOf(bench->Bytes(NameIn(format)), "Exif").isEmpty()) ||
+               (!MissingInTests(format) &&
+                !Block(Picture::new_from_file(file.toUtf8().constData()), VIPS_META_EXIF_NAME).isEmpty());
     };
     QCOMPARE(make(keep + QStringList(Text("exif"))).reason, QString());
     QVERIFY(isBlockThere());
@@ -297,9 +302,12 @@ void tst_WorkerMetadata::leavesTheWholeBlockOut()
     QVERIFY(!isBlockThere());
     const Found found = Read(*bench, format);
     QCOMPARE(found.Xmp("Xmp.dc.creator"), keep.contains(Text("xmp")) ? Text("A. Photographer") : QString());
-    QCOMPARE(found.hasProfile, keep.contains(Text("icc")));
-    const Picture result = ReadPicture(bench->Path(NameIn(format)));
-    QCOMPARE(QSize(result.width(), result.height()), QSize(60, 90));
+    QCOMPARE(found.hasProfile.value_or(keep.contains(Text("icc"))), keep.contains(Text("icc")));
+    QCOMPARE(report.facts.outputSize, QSize(60, 90));
+    if (!MissingInTests(format)) {
+        const Picture result = ReadPicture(bench->Path(NameIn(format)));
+        QCOMPARE(QSize(result.width(), result.height()), QSize(60, 90));
+    }
 }
 
 void tst_WorkerMetadata::describesTheResult_data()
@@ -315,6 +323,7 @@ void tst_WorkerMetadata::describesTheResult_data()
 void tst_WorkerMetadata::describesTheResult()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingEncoder(format));
 
     WriteSource(Text("in.jpg"));
     const auto edit = [](ZTBatchOutputSettings& output) {
@@ -325,10 +334,13 @@ void tst_WorkerMetadata::describesTheResult()
         size.resolution = 144;
         output.SetImageSizeSettings(size);
     };
-    QCOMPARE(bench->Make(Text("in.jpg"), NameIn(format), format, {}, edit).reason, QString());
-    const Picture result = ReadPicture(bench->Path(NameIn(format)));
-    QCOMPARE(result.width(), 40);
-    QCOMPARE(result.height(), 60);
+    const Report report = bench->Make(Text("in.jpg"), NameIn(format), format, {}, edit);
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.facts.outputSize, QSize(40, 60));
+    if (!MissingInTests(format)) {
+        const Picture result = ReadPicture(bench->Path(NameIn(format)));
+        QCOMPARE(QSize(result.width(), result.height()), QSize(40, 60));
+    }
     const Found found = Read(*bench, format);
     QCOMPARE(found.Exif("Exif.Image.Orientation"), Text("1"));
     QCOMPARE(found.Exif("Exif.Photo.PixelXDimension"), Text("40"));
@@ -349,6 +361,7 @@ void tst_WorkerMetadata::takesMetadataOutOfOtherFormats_data()
 void tst_WorkerMetadata::takesMetadataOutOfOtherFormats()
 {
     QFETCH(const QString, format);
+    SKIP_WHERE(MissingEncoder(format));
 
     // Into the format, and out of it again.
     WriteSource(Text("in.jpg"));
@@ -361,7 +374,7 @@ void tst_WorkerMetadata::takesMetadataOutOfOtherFormats()
     QCOMPARE(found.Exif("Exif.Image.Artist"), Text("A. Photographer"));
     QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
-    QVERIFY(found.hasProfile);
+    QVERIFY(found.hasProfile.value());
     const Report probe = bench->Probe(middle);
     QCOMPARE(probe.captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
@@ -456,6 +469,7 @@ void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles()
 {
     QFETCH(const QString, format);
     QFETCH(const QByteArray, profile);
+    SKIP_WHERE(MissingEncoder(format));
 
     const QString name = Text("broken.") + FindFormat(format)->extensions.first();
     WriteSource(Text("in.jpg"));
@@ -477,7 +491,7 @@ void tst_WorkerMetadata::readsMetadataBesideBrokenProfiles()
     QCOMPARE(found.Exif("Exif.GPSInfo.GPSLatitude"), Text("48/1 30/1 0/1"));
     QCOMPARE(found.Xmp("Xmp.dc.creator"), Text("A. Photographer"));
     QCOMPARE(found.Iptc("Iptc.Application2.Caption"), HoldsIptc(format) ? Text("A caption") : QString());
-    QVERIFY(!found.hasProfile);
+    QVERIFY(!found.hasProfile.value());
     QCOMPARE(bench->Probe(name).captured, QDateTime(QDate(2019, 7, 6), QTime(5, 4, 3)));
 }
 

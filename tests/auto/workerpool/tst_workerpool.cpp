@@ -286,9 +286,6 @@ void tst_WorkerPool::replacesWorkersOfAFinishedJob()
 
 void tst_WorkerPool::givesEachWorkerATemporaryFolder()
 {
-#ifdef Q_OS_WIN
-    QSKIP("Windows knows the temporary folder by another variable");
-#endif
     MakePool(2);
     const QByteArray job = FramedJob("a");
     pool->Serve({job});
@@ -306,8 +303,10 @@ void tst_WorkerPool::givesEachWorkerATemporaryFolder()
         const QFileInfo info(one);
         QVERIFY(info.isDir());
         QVERIFY(one != QDir::tempPath());
+#ifdef Q_OS_UNIX // Elsewhere it lies in a folder of the user.
         QCOMPARE(
             int(info.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)), 0);
+#endif
     }
     pool.reset();
     for (const QString& one : qAsConst(folders)) {

@@ -11,7 +11,7 @@ set(ENV{XDG_CONFIG_HOME} "${WORK_DIR}/config")
 function(run expected_code answers expected_files)
     file(WRITE "${WORK_DIR}/answers" "${answers}")
     execute_process(
-        COMMAND "${PROGRAM}" "${WORK_DIR}/out" ${ARGN}
+        COMMAND ${EMULATOR} "${PROGRAM}" "${DRIVE}${WORK_DIR}/out" ${ARGN}
         INPUT_FILE "${WORK_DIR}/answers"
         RESULT_VARIABLE code
         OUTPUT_VARIABLE output
@@ -34,12 +34,12 @@ function(expect text)
     endif()
 endfunction()
 
-set(blur "${PICTURES}/blur.jpg")
-set(sepia "${PICTURES}/sepia.jpg")
+set(blur "${DRIVE}${PICTURES}/blur.jpg")
+set(sepia "${DRIVE}${PICTURES}/sepia.jpg")
 
 run(0 "" "blur.jpg;sepia.jpg" "${blur}" "${sepia}")
 expect("2 of 2")
-expect("${blur} -> ${WORK_DIR}/out/blur.jpg")
+expect("${blur} -> ${DRIVE}${WORK_DIR}/out/blur.jpg")
 
 run(0 "rename\n" "blur (2).jpg;blur.jpg;sepia (2).jpg;sepia.jpg" "${blur}" "${sepia}")
 expect("File name already exists.")
@@ -51,5 +51,5 @@ run(0 "overwrite\n" "blur (2).jpg;blur.jpg;sepia (2).jpg;sepia.jpg" "${blur}")
 
 run(4 "" "blur (2).jpg;blur.jpg;sepia (2).jpg;sepia.jpg" "${blur}")
 
-run(1 "" "blur (2).jpg;blur.jpg;sepia (2).jpg;sepia.jpg" "${PICTURES}/missing.jpg")
+run(1 "" "blur (2).jpg;blur.jpg;sepia (2).jpg;sepia.jpg" "${DRIVE}${PICTURES}/missing.jpg")
 expect("Error reading file.")

@@ -9,9 +9,9 @@
 
 #include <string>
 
-namespace BatchWorker {
+namespace BatchJob {
 
-/// `path` as Windows' own functions take it, however long it is.
+/// `path` as Windows' own functions take it, however long it is. They refuse longer ones without the prefix.
 inline std::wstring NativePath(const QString& path)
 {
     constexpr int longestPlain = 247; // what a folder may have; files may have 12 more
@@ -25,4 +25,4 @@ inline std::wstring NativePath(const QString& path)
     return (QStringLiteral("\\\\?\\") + native).toStdWString();
 }
 
-} // namespace BatchWorker
+} // namespace BatchJob
