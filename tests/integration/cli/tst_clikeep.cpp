@@ -56,9 +56,9 @@ struct Format
 };
 
 constexpr Format formats[] = {
-    {"jpg", true},   {"png", false}, {"tif", true}, {"webp", false}, {"avif", false}, {"jxl", false},
-#ifdef Q_OS_UNIX // On Windows they have no encoder.
-    {"heic", false}, {"jp2", true},
+    {"jpg", true},   {"png", false}, {"tif", true}, {"webp", false}, {"avif", false}, {"jxl", false}, {"jp2", true},
+#ifdef Q_OS_UNIX // On Windows it has no encoder.
+    {"heic", false},
 #endif
 };
 
