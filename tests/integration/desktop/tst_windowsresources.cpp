@@ -124,7 +124,8 @@ void tst_WindowsResources::consoles()
     QVERIFY(dos->e_lfanew + int(sizeof(IMAGE_NT_HEADERS64)) <= head.size());
     const auto* const header = reinterpret_cast<const IMAGE_NT_HEADERS64*>(head.constData() + dos->e_lfanew);
     const bool isWindow = file.contains(QStringLiteral("desktop"));
-    QCOMPARE(int(header->OptionalHeader.Subsystem), isWindow ? IMAGE_SUBSYSTEM_WINDOWS_GUI : IMAGE_SUBSYSTEM_WINDOWS_CUI);
+    QCOMPARE(int(header->OptionalHeader.Subsystem),
+             isWindow ? IMAGE_SUBSYSTEM_WINDOWS_GUI : IMAGE_SUBSYSTEM_WINDOWS_CUI);
 }
 
 QTEST_GUILESS_MAIN(tst_WindowsResources)
