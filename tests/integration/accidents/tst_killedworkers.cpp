@@ -23,7 +23,7 @@ void tst_KilledWorkers::secondWorkerIsKilled()
     AccidentStage stage;
     constexpr int pictures = 4;
     for (int i = 0; i < pictures; ++i) {
-        PictureFiles::WriteNoise(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), 3000, 2000);
+        PictureFiles::WriteNoise(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), 1600, 1200);
     }
     stage.Start({QStringLiteral("run"), stage.Path(QStringLiteral("in")), QStringLiteral("-o"),
                  stage.Path(QStringLiteral("out")), QStringLiteral("--format=png"),
