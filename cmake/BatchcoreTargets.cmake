@@ -53,13 +53,15 @@ function(batchcore_relative_rpath program folder)
     endif()
 endfunction()
 
+# The component "product" is what a user needs to run it. scripts/package-windows installs that alone.
+
 # A program of the product: installed, and linked with the libraries beside it.
 function(batchcore_program target)
     batchcore_target_defaults(${target})
     if(BATCHCORE_RELOCATABLE)
         batchcore_relative_rpath(${target} "${CMAKE_INSTALL_LIBDIR}")
     endif()
-    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT product)
     if(UNIX AND EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${target}.1")
         install(FILES "${target}.1" DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
     endif()
@@ -73,7 +75,7 @@ function(batchcore_shared_library target)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
     install(TARGETS ${target} EXPORT batchcoreTargets
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT product
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/batchcore)

@@ -260,10 +260,6 @@
         <translation>nach einer Unterbrechung kann der Lauf nicht fortgesetzt werden: %1.</translation>
     </message>
     <message>
-        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
-        <translation>ein temporärer Ordner kann nicht angelegt werden: %1. TMPDIR auf einen anderen Ordner setzen.</translation>
-    </message>
-    <message>
         <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
         <translation>ein anderer Batch-Server läuft, und dieses System hat nur eine Pipe dafür; nach dem Ende jenes Laufs erneut versuchen.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
         <translation>Teil %1 wurde mit %2 gemacht, der Plan aber mit %3; seine Bilder können abweichen.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set %2 to another folder.</source>
+        <translation>ein temporärer Ordner kann nicht angelegt werden: %1. %2 auf einen anderen Ordner setzen.</translation>
     </message>
 </context>
 <context>
@@ -5945,6 +5945,18 @@
     <message>
         <source>made with %1, but the plan with %2</source>
         <translation>mit %1 gemacht, der Plan aber mit %2</translation>
+    </message>
+    <message>
+        <source>it is open in another program</source>
+        <translation>sie ist in einem anderen Programm geöffnet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is open in another program</source>
+        <translation>„%1“ kann nicht ersetzt werden: Die Datei ist in einem anderen Programm geöffnet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
+        <translation>„%1“ kann nicht ersetzt werden: Die Datei ist schreibgeschützt</translation>
     </message>
 </context>
 </TS>

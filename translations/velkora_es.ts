@@ -260,10 +260,6 @@
         <translation>si se interrumpe, la ejecución no se podrá reanudar: %1.</translation>
     </message>
     <message>
-        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
-        <translation>no se puede crear una carpeta temporal: %1. Asigne a TMPDIR otra carpeta.</translation>
-    </message>
-    <message>
         <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
         <translation>hay otro servidor de lotes en marcha, y este sistema solo tiene un canal para él; inténtelo de nuevo cuando termine esa ejecución.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
         <translation>la parte %1 se hizo con %2, pero el plan con %3; sus imágenes pueden ser distintas.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set %2 to another folder.</source>
+        <translation>no se puede crear una carpeta temporal: %1. Asigne a %2 otra carpeta.</translation>
     </message>
 </context>
 <context>
@@ -5945,6 +5945,18 @@
     <message>
         <source>made with %1, but the plan with %2</source>
         <translation>hecha con %1, pero el plan con %2</translation>
+    </message>
+    <message>
+        <source>it is open in another program</source>
+        <translation>está abierto en otro programa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is open in another program</source>
+        <translation>no se puede reemplazar «%1»: está abierto en otro programa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
+        <translation>no se puede reemplazar «%1»: es de solo lectura</translation>
     </message>
 </context>
 </TS>

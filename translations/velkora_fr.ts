@@ -260,10 +260,6 @@
         <translation>en cas d’interruption, l’exécution ne pourra pas être reprise&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
-        <translation>impossible de créer un dossier temporaire&#xa0;: %1. Donnez un autre dossier à TMPDIR.</translation>
-    </message>
-    <message>
         <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
         <translation>un autre serveur de traitement est actif, et ce système n’a qu’un tube pour lui&#x202f;; réessayez quand cette exécution sera finie.</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
         <translation>la partie %1 a été faite avec %2, mais le plan avec %3 ; ses images peuvent différer.</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set %2 to another folder.</source>
+        <translation>impossible de créer un dossier temporaire&#xa0;: %1. Donnez un autre dossier à %2.</translation>
     </message>
 </context>
 <context>
@@ -5945,6 +5945,18 @@
     <message>
         <source>made with %1, but the plan with %2</source>
         <translation>faite avec %1, mais le plan avec %2</translation>
+    </message>
+    <message>
+        <source>it is open in another program</source>
+        <translation>il est ouvert dans un autre programme</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is open in another program</source>
+        <translation>impossible de remplacer «&#xa0;%1&#xa0;»&#xa0;: il est ouvert dans un autre programme</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
+        <translation>impossible de remplacer «&#xa0;%1&#xa0;»&#xa0;: il est en lecture seule</translation>
     </message>
 </context>
 </TS>

@@ -260,10 +260,6 @@
         <translation>中断した場合、この実行は再開できません: %1。</translation>
     </message>
     <message>
-        <source>no temporary folder can be made: %1. Set TMPDIR to another folder.</source>
-        <translation>一時フォルダーを作成できません: %1。TMPDIR に別のフォルダーを設定してください。</translation>
-    </message>
-    <message>
         <source>another batch server is running, and this system has only one pipe for it; try again when that run is over.</source>
         <translation>別のバッチサーバーが動作中で、このシステムにはそのためのパイプが 1 つしかありません。その実行が終わってから再試行してください。</translation>
     </message>
@@ -2390,6 +2386,10 @@
     <message>
         <source>part %1 was made with %2, but the plan with %3; its pictures may differ.</source>
         <translation>パート %1 は %2 で作られましたが、計画は %3 で作られました。画像が異なることがあります。</translation>
+    </message>
+    <message>
+        <source>no temporary folder can be made: %1. Set %2 to another folder.</source>
+        <translation>一時フォルダーを作成できません: %1。%2 に別のフォルダーを設定してください。</translation>
     </message>
 </context>
 <context>
@@ -5945,6 +5945,18 @@
     <message>
         <source>made with %1, but the plan with %2</source>
         <translation>%1 で作られましたが、計画は %2 で作られました</translation>
+    </message>
+    <message>
+        <source>it is open in another program</source>
+        <translation>別のプログラムで開かれています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is open in another program</source>
+        <translation>「%1」を置き換えられません: 別のプログラムで開かれています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
+        <translation>「%1」を置き換えられません: 読み取り専用です</translation>
     </message>
 </context>
 </TS>

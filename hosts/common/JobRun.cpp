@@ -3,31 +3,19 @@
 
 #include "JobRun.h"
 
+#include "PipeUse.h"
 #include "RunInputs.h"
 
 #include "job/journal/RunJournal.h"
 #include "job/values/PathVariable.h"
-#include "server/protocol/HostPipe.h"
 #include "server/protocol/ServerLimits.h"
 
 #include "ZTBatchDocument.h"
 #include "ZTBatchManager.h"
 
-#include <QLocalSocket>
-
 namespace BatchHost {
 
 namespace {
-
-/// On Unix the pipe lies in the run's own temporary folder, but Windows has one pipe of this name for the whole
-/// machine: a second server could not open it, and its host would talk to the first one's server.
-bool IsPipeInUse()
-{
-    constexpr int answerTime = 1000;
-    QLocalSocket socket;
-    socket.connectToServer(BatchProtocol::HostPipe::Name());
-    return socket.waitForConnected(answerTime);
-}
 
 JobRun::Obstacle FindObstacle(const PrivateTempFolder& temporary)
 {

@@ -116,8 +116,10 @@ void UseLanguageOfUser()
     const QByteArray languages = qgetenv("LANGUAGE");
     QStringList wanted = WantedLanguages(locale, languages);
     if (locale.isEmpty() && languages.isEmpty()) {
-        // Systems that keep the language elsewhere.
-        wanted.append(LanguageOf(QLocale::system().name().toLatin1()));
+        // Systems that keep the language elsewhere. Not that of numbers and dates, which may be another.
+        for (const QString& language : QLocale::system().uiLanguages()) {
+            wanted.append(LanguageOf(language.toLatin1()));
+        }
     }
     for (const QString& language : wanted) {
         if (language == sourceLanguage || HasCatalogue(language)) {

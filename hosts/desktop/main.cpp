@@ -4,6 +4,7 @@
 #include "hosts/common/Language.h"
 #include "hosts/common/UserPath.h"
 #include "hosts/desktop/system/ApplicationColours.h"
+#include "hosts/desktop/system/ApplicationFont.h"
 #include "hosts/desktop/system/DesktopNames.h"
 #include "hosts/desktop/system/SingleInstance.h"
 #include "hosts/desktop/window/MainWindow.h"
@@ -76,6 +77,7 @@ int main(int argc, char** argv)
     if (instance.Begin(arguments) == SingleInstance::Place::Second) {
         return 0;
     }
+    UseFontOfSystem();
     const ApplicationColours colours;
     MainWindow window(settingsFolder, BatchHost::UserDataFolder());
     QObject::connect(&instance, &SingleInstance::Started, &window, [&window](const QStringList& further) {

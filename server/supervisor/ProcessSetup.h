@@ -19,6 +19,10 @@ void Prepare(bool isInBackground);
 /// Calls `end` on this thread, from its event loop, when the system asks the process to end.
 void OnEndRequest(const std::function<void()>& end);
 
+/// Calls `gone` on this thread, from its event loop, when the process that has started this one has ended, where that
+/// matters: on Windows, where this server keeps the machine's pipe from the next one.
+void OnStarterGone(const std::function<void()>& gone);
+
 } // namespace ProcessSetup
 
 } // namespace BatchSupervisor

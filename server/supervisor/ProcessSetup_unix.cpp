@@ -82,4 +82,6 @@ void ProcessSetup::OnEndRequest(const std::function<void()>& end)
     ::sigaction(SIGINT, &action, nullptr);
 }
 
+void ProcessSetup::OnStarterGone(const std::function<void()>&) {}
+
 } // namespace BatchSupervisor

@@ -3,6 +3,8 @@
 
 #include "ProcessSetup.h"
 
+#include "server/protocol/ParentProcess.h"
+
 #include <QCoreApplication>
 
 #include <cstdio>
@@ -15,6 +17,7 @@ namespace BatchSupervisor {
 namespace {
 
 std::function<void()> endRequested;
+std::function<void()> starterGone;
 
 /// Called by the system on a thread of its own.
 BOOL WINAPI Handle(DWORD event)
@@ -29,6 +32,12 @@ BOOL WINAPI Handle(DWORD event)
     // The console closes or the user logs off. The process lives until this returns, a few seconds at most.
     Sleep(INFINITE);
     return TRUE;
+}
+
+/// Called by the system on a thread of its own.
+void CALLBACK OnParentEnd(void*, BOOLEAN)
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), starterGone, Qt::QueuedConnection);
 }
 
 } // namespace
@@ -47,6 +56,18 @@ void ProcessSetup::Prepare(bool)
 void ProcessSetup::OnEndRequest(const std::function<void()>& end)
 {
     endRequested = end;
+}
+
+void ProcessSetup::OnStarterGone(const std::function<void()>& gone)
+{
+    starterGone = gone;
+    const HANDLE parent = BatchProtocol::OpenParentOf(GetCurrentProcessId());
+    if (!parent) {
+        OnParentEnd(nullptr, FALSE);
+        return;
+    }
+    HANDLE wait = nullptr;
+    RegisterWaitForSingleObject(&wait, parent, OnParentEnd, nullptr, INFINITE, WT_EXECUTEONLYONCE);
 }
 
 } // namespace BatchSupervisor

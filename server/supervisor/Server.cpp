@@ -85,6 +85,14 @@ void Server::End()
     }
 }
 
+void Server::EndWithoutHost()
+{
+    waitsForHosts = false;
+    if (pipes.isEmpty()) {
+        End();
+    }
+}
+
 void Server::Accept(QLocalSocket* socket)
 {
     if (pipes.size() >= mostPipes && !MakeRoom()) {
@@ -300,7 +308,7 @@ void Server::LosePipe(ZTPipeSession* pipe)
     if (!pipes.isEmpty() || isEnding) {
         return;
     }
-    if (hadSession) {
+    if (hadSession || !waitsForHosts) {
         End();
     } else {
         // A host may drop an early connection and connect again at once.

@@ -41,6 +41,9 @@ public:
     /// Cancels the runs, then ends the application's event loop.
     void End();
 
+    /// Ends as soon as no host is connected. From now on none is waited for.
+    void EndWithoutHost();
+
 private:
     struct Session
     {
@@ -76,6 +79,7 @@ private:
     quint64 lastRun = 0;
     bool isHandOutScheduled = false;
     bool isEnding = false;
+    bool waitsForHosts = true;
     QTimer hostTimeout; ///< runs while no host is connected
     QTimer endDeadline;
 };

@@ -51,6 +51,7 @@ int main(int argc, char** argv)
     Server server(BatchProtocol::WorkerProgram(), limits);
     // Before any host can connect: it may ask for the end at once.
     ProcessSetup::OnEndRequest([&server] { server.End(); });
+    ProcessSetup::OnStarterGone([&server] { server.EndWithoutHost(); });
     if (!server.Start(arguments[0])) {
         std::fprintf(stderr, "VelkoraBatchProcessing: the pipe \"%s\" cannot be opened: %s\n",
                      qUtf8Printable(arguments[0]), qUtf8Printable(server.Error()));

@@ -120,10 +120,16 @@ QList<qint64> ChildrenOf(qint64 pid)
 {
     QList<qint64> children;
     const quint64 start = StartTime(static_cast<DWORD>(pid));
+    if (start == 0) {
+        return children;
+    }
     ForEachProcess([&](const PROCESSENTRY32W& entry) {
-        // The system starts this process for a console; it is not a child that `pid` has started.
-        const bool isConsole = QString::fromWCharArray(entry.szExeFile) == QLatin1String("conhost.exe");
-        if (qint64(entry.th32ParentProcessID) != pid || isConsole) {
+        // The system starts these processes for a console and, under Wine, for the desktop. One that is just being made
+        // has no name yet.
+        const QString name = QString::fromWCharArray(entry.szExeFile);
+        const bool isOfSystem =
+            name.isEmpty() || name == QLatin1String("conhost.exe") || name == QLatin1String("explorer.exe");
+        if (qint64(entry.th32ParentProcessID) != pid || isOfSystem) {
             return;
         }
         // An older process is the child of an earlier process that had the same number.

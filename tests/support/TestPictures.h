@@ -19,11 +19,11 @@ void StartPictures();
 BatchWorker::Picture Chart(int width, int height, int square = 8);
 
 /// Why there can be no file of `format`, or of the extension `format`, here; null where there can be. The libraries for
-/// Windows have no encoder of HEIF and JPEG 2000.
+/// Windows have no encoder of HEIF.
 const char* MissingEncoder(const QString& format);
 
-/// The same for files that tests write or read by ReadPicture() and WritePicture(): the imaging library for Windows
-/// does not know JPEG XL.
+/// The same for files that tests write or read by the imaging library itself, with options and metadata: that for
+/// Windows knows neither JPEG XL nor JPEG 2000.
 const char* MissingInTests(const QString& format);
 
 /// Skips a test or a row if `reason`, one of the above, is not null.
@@ -33,11 +33,16 @@ const char* MissingInTests(const QString& format);
     }                                                                                                                  \
     Q_UNUSED(0)
 
-/// The file's pixels as they are stored, in memory.
+/// The file's pixels as they are stored, in memory. What the imaging library does not know is read as the worker does.
 BatchWorker::Picture ReadPicture(const QString& file);
 
-/// Writes `picture`, in the format of the file's extension. `options` are the library's, such as "[Q=90]".
+/// Writes `picture`, in the format of the file's extension. `options` are the library's, such as "[Q=90]". What it does
+/// not know is written as the worker does, with the options that a job has by default.
 void WritePicture(const BatchWorker::Picture& picture, const QString& file, const char* options = "");
+
+/// Writes `picture`, grey or RGB of 8 or 16 bits, as a TIFF file with any profile; later versions of the imaging
+/// library leave out one that does not fit.
+void WriteTiff(const BatchWorker::Picture& picture, const QByteArray& profile, const QString& file);
 
 /// The largest difference of any two values at the same place; infinite for pictures of different size or bands.
 double LargestDifference(const BatchWorker::Picture& left, const BatchWorker::Picture& right);

@@ -150,6 +150,9 @@ void SetFields(TIFF* tiff, const TiffPicture& picture)
         const int entries = picture.palette.size() / 3;
         TIFFSetField(tiff, TIFFTAG_COLORMAP, red, red + entries, red + 2 * entries);
     }
+    if (!picture.profile.isEmpty()) {
+        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, quint32(picture.profile.size()), picture.profile.constData());
+    }
     if (picture.photometric == PHOTOMETRIC_YCBCR) {
         TIFFSetField(tiff, TIFFTAG_YCBCRSUBSAMPLING, picture.across, picture.down);
         float reference[] = {0, 255, 128, 255, 128, 255};

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QVector>
 
@@ -31,6 +32,7 @@ struct TiffPicture
     bool isBigEndian = false;
     QVector<quint16> extraSamples;
     QVector<quint16> palette; ///< all red, all green, all blue
+    QByteArray profile;
 
     /// Writes the file. `value` gives the sample `s` of a pixel: 0 to 1 is the whole range.
     void Write(const QString& file, const std::function<double(int x, int y, int s)>& value) const;

@@ -39,7 +39,8 @@ QString FileWith(const QByteArray& content, const QString& folder, const QString
     QSaveFile file(path);
     if (!QDir().mkpath(folder) || !file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.commit()) {
-        throw RequestError{BatchJob::Phrase::English("%1 cannot be written: %2").arg(path, file.errorString())};
+        throw RequestError{BatchJob::Phrase::English("%1 cannot be written: %2")
+                               .arg(QDir::toNativeSeparators(path), file.errorString())};
     }
     return path;
 }

@@ -6,6 +6,7 @@
 #include "hosts/common/Language.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -25,7 +26,7 @@ SeveralPresetsDialog::SeveralPresetsDialog(const QStringList& names, const QStri
     auto* const explanation = new QLabel(
         Messages::tr(
             "Each picture gets a result of each preset. They go to folders with the names of the presets, in %1.")
-            .arg(folder),
+            .arg(QDir::toNativeSeparators(folder)),
         this);
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);

@@ -10,6 +10,7 @@
 
 #include "ZTBatchDocument.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <utility>
@@ -166,7 +167,7 @@ void InputScan::NoteProblems(const InputCollector& collector)
     for (const LeftOutFile& file : collector.LeftOut()) {
         problems.append(
             BatchJob::Phrase::English("%1 is a picture (%2) with another extension; it is added only if it is named.")
-                .arg(file.path, file.format));
+                .arg(QDir::toNativeSeparators(file.path), file.format));
     }
 }
 

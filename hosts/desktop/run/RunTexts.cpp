@@ -6,6 +6,7 @@
 #include "hosts/common/DurationText.h"
 #include "hosts/common/Language.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace BatchHost;
@@ -94,7 +95,7 @@ QString InterruptedText(const InterruptedRun& run)
     return Messages::tr("A run was interrupted after %1 of %2 pictures. Its results go to %3.")
         .arg(run.done)
         .arg(run.files)
-        .arg(run.folder);
+        .arg(QDir::toNativeSeparators(run.folder));
 }
 
 QString QuestionText(const JobRunner::Question& question)

@@ -4,12 +4,12 @@
 #include "SingleInstance.h"
 
 #include "DesktopNames.h"
+#include "InstancePlace.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLocalSocket>
-#include <QStandardPaths>
 #include <QThread>
 
 namespace BatchDesktop {
@@ -20,16 +20,6 @@ constexpr int patience = 5'000;             // ms, for an answer of the first on
 constexpr int mostBytes = 16 * 1024 * 1024; // of arguments
 constexpr char answer = '1';
 
-/// Only the user has access to this folder.
-QString FolderOfUser()
-{
-#ifdef Q_OS_WIN
-    return QDir::tempPath();
-#else
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-#endif
-}
-
 /// It tells users and folders apart: on Windows pipes belong to the whole machine.
 QString NameFor(const QString& settingsFolder)
 {
@@ -37,15 +27,6 @@ QString NameFor(const QString& settingsFolder)
     constexpr int digits = 16; // The path of a socket has little room.
     const QByteArray hash = QCryptographicHash::hash(whose.toUtf8(), QCryptographicHash::Sha256).toHex().left(digits);
     return desktopId + QLatin1Char('-') + QString::fromLatin1(hash);
-}
-
-QString SocketName(const QString& name)
-{
-#ifdef Q_OS_WIN
-    return name;
-#else
-    return QDir(FolderOfUser()).filePath(name);
-#endif
 }
 
 /// Each argument ends with a zero byte, which no argument has, and one more ends the message.
@@ -79,7 +60,7 @@ QStringList PathsOf(const QByteArray& message)
 SingleInstance::SingleInstance(const QString& settingsFolder, QObject* parent)
     : QObject(parent)
     , name(NameFor(settingsFolder))
-    , lock(QDir(FolderOfUser()).filePath(name + QStringLiteral(".lock")))
+    , lock(QDir(InstancePlace::Folder()).filePath(name + QStringLiteral(".lock")))
 {
     lock.setStaleLockTime(0); // A lock is stale when its process is gone, however old it is.
     server.setSocketOptions(QLocalServer::UserAccessOption);
@@ -92,8 +73,8 @@ SingleInstance::Place SingleInstance::Begin(const QStringList& arguments)
     clock.start();
     do {
         if (lock.tryLock(0)) {
-            QLocalServer::removeServer(SocketName(name)); // It may be left by one that was killed.
-            return server.listen(SocketName(name)) ? Place::First : Place::Alone;
+            QLocalServer::removeServer(InstancePlace::Socket(name)); // It may be left by one that was killed.
+            return server.listen(InstancePlace::Socket(name)) ? Place::First : Place::Alone;
         }
         if (lock.error() != QLockFile::LockFailedError) {
             return Place::Alone;
@@ -110,7 +91,7 @@ SingleInstance::Place SingleInstance::Begin(const QStringList& arguments)
 bool SingleInstance::HandOver(const QStringList& arguments) const
 {
     QLocalSocket socket;
-    socket.connectToServer(SocketName(name));
+    socket.connectToServer(InstancePlace::Socket(name));
     if (!socket.waitForConnected(patience)) {
         return false;
     }
@@ -118,6 +99,7 @@ bool SingleInstance::HandOver(const QStringList& arguments) const
     if (message.size() > mostBytes) {
         return false;
     }
+    InstancePlace::LetOthersComeToFront();
     socket.write(message);
     while (socket.bytesToWrite() > 0) {
         if (!socket.waitForBytesWritten(patience)) {

@@ -78,7 +78,7 @@ void RunLink::SaveReport()
     }
     try {
         runner.SaveReport(path);
-        bars.run.Say(Messages::tr("The report was saved as %1.").arg(path));
+        bars.run.Say(Messages::tr("The report was saved as %1.").arg(QDir::toNativeSeparators(path)));
     } catch (const RequestError& error) {
         bars.run.Say(Messages::tr("The report was not saved: %1.").arg(Translated(error.text)));
     }

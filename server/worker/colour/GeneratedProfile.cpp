@@ -42,11 +42,14 @@ QByteArray Saved(const IccProfile& profile, const char* name)
     if (!cmsSaveProfileToMem(profile.get(), bytes.data(), &size)) {
         return {};
     }
-    constexpr int place = 24; // of the date in the header; source: ICC.1, table 17
+    // The same whenever and wherever it is made. Source of the places in the header: ICC.1, table 17.
+    constexpr int placeOfDate = 24;
     const std::array<quint16, 6> date{2000, 1, 1, 0, 0, 0};
     for (std::size_t i = 0; i < date.size(); ++i) {
-        qToBigEndian(date[i], bytes.data() + place + 2 * i);
+        qToBigEndian(date[i], bytes.data() + placeOfDate + 2 * i);
     }
+    constexpr int placeOfPlatform = 40;
+    bytes.replace(placeOfPlatform, 4, "APPL");
     return bytes;
 }
 

@@ -3,30 +3,35 @@
 
 #include "EncoderOptions.h"
 #include "FormatEncoder.h"
+#include "Jpeg2000Writer.h"
 
+/// The library's own operation is not there on Windows, and says of differences of colour that they are RGB.
 namespace BatchWorker {
 
 namespace {
 
-// The library ends the process over anything but three bands, and writes noise into the last column or line of colours
-// where a side is odd.
+// Pictures with alpha or an odd side keep all their colours.
 bool CanSubsample(const Picture& picture)
 {
     return picture.bands() == 3 && picture.width() % 2 == 0 && picture.height() % 2 == 0;
 }
 
-void SetArguments(vips::VOption* arguments, const QJsonObject& options, const Picture& picture)
+void Write(const Picture& picture, const QJsonObject& options, const QByteArray&, const vips::VTarget& target)
 {
-    arguments->set("Q", IntegerOption(options, "quality"))
-        ->set("lossless", TruthOption(options, "lossless"))
-        ->set("subsample_mode", CanSubsample(picture) ? Subsampling(options) : VIPS_FOREIGN_SUBSAMPLE_OFF);
+    Jpeg2000Settings settings;
+    settings.quality = IntegerOption(options, "quality");
+    settings.isLossless = TruthOption(options, "lossless");
+    settings.isSubsampled = CanSubsample(picture) && Subsampling(options) == VIPS_FOREIGN_SUBSAMPLE_ON;
+    WriteJpeg2000(picture, settings, target);
 }
 
 } // namespace
 
 FormatEncoder Jpeg2000Encoder()
 {
-    return {"jp2ksave_target", SetArguments};
+    FormatEncoder encoder;
+    encoder.write = Write;
+    return encoder;
 }
 
 } // namespace BatchWorker

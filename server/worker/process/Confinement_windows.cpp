@@ -3,6 +3,8 @@
 
 #include "Confinement.h"
 
+#include "GivenUpRights_windows.h"
+
 #include <cstdio>
 #include <qt_windows.h>
 
@@ -43,10 +45,11 @@ Confinement::Confinement()
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
 }
 
-// Files and calls of the system are not restricted here.
+// Which files are read and written, and calls of the system, are not restricted here.
 bool Confinement::Confine(const WorkerRights&, const ServerLimits& limits)
 {
     if (EnterJob(limits.workerMemory)) {
+        GiveUpRights();
         return true;
     }
     std::fprintf(stderr, "VelkoraBatchWorker: the process cannot be confined: error %lu\n", GetLastError());

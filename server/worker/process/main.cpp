@@ -11,6 +11,8 @@
 
 #include "server/protocol/WorkerVersions.h"
 
+#include <QFile>
+
 #include <vips/vips8>
 
 #include <cstdio>
@@ -20,13 +22,24 @@
 using namespace BatchProtocol;
 using namespace BatchWorker;
 
+namespace {
+
+/// As bytes: other line ends would become a part of the versions.
+bool WriteVersions(int output)
+{
+    const QByteArray lines = LinesOf(LibraryVersions());
+    QFile file;
+    return file.open(output, QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(lines) == lines.size();
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
-    if (argc == 2 && std::strcmp(argv[1], versionsArgument) == 0) {
-        std::fputs(LinesOf(LibraryVersions()).constData(), stdout);
-        return EXIT_SUCCESS;
-    }
     const int output = TakeStandardOutput();
+    if (argc == 2 && std::strcmp(argv[1], versionsArgument) == 0) {
+        return WriteVersions(output) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
     if (argc != 1 || IsInputTyped()) {
         std::fprintf(stderr, "VelkoraBatchWorker is started by VelkoraBatchProcessing. --versions lists the "
                              "libraries that make pictures.\n");

@@ -27,6 +27,12 @@ using namespace BatchDesktop;
 
 namespace {
 
+#ifdef Q_OS_WIN
+constexpr int linkedFolders = 0; // A link that Qt makes there is an ordinary file.
+#else
+constexpr int linkedFolders = 1;
+#endif
+
 /// What another module may register in place of the window's handler.
 class OtherHandler : public ZTBatchManager::ZTInputDnDHandler
 {
@@ -204,7 +210,7 @@ void tst_PicturesPane::problemsAreSaidAndNothingElseIsLost()
     QCOMPARE(Count(), 2);
     const auto* const line = pane->findChild<AddingLine*>();
     QVERIFY(line->isVisible());
-    QCOMPARE(line->Problems().size(), 3);
+    QCOMPARE(line->Problems().size(), linkedFolders + 2);
     QCOMPARE(line->Problems().first(), Path(QStringLiteral("none")) + QStringLiteral(" does not exist"));
     QTest::mouseClick(line->findChild<QToolButton*>(QStringLiteral("closeProblems")), Qt::LeftButton);
     QVERIFY(!line->isVisible());

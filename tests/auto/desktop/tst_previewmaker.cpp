@@ -4,6 +4,7 @@
 #include "PictureFiles.h"
 #include "PrivateTempDir.h"
 #include "ProgramFiles.h"
+#include "SystemWords.h"
 
 #include "hosts/desktop/preview/PreviewMaker.h"
 
@@ -18,6 +19,8 @@
 #include <csignal>
 #include <sched.h>
 #include <sys/types.h>
+#elif defined(Q_OS_WIN)
+#include <qt_windows.h>
 #endif
 
 using namespace BatchDesktop;
@@ -90,6 +93,29 @@ Settings WithEffect(const char* name)
     settings.effects.append({QString::fromLatin1(name), "{}", true});
     return settings;
 }
+
+/// Windows cannot tell a folder that was left from one that is just being made, unless it is of some age.
+#ifdef Q_OS_WIN
+bool MakeOld(const QString& path)
+{
+    constexpr quint64 age = 120ULL * 10'000'000; // two minutes in units of FILETIME
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    const quint64 then = (quint64(now.dwHighDateTime) << 32 | now.dwLowDateTime) - age;
+    const FILETIME changed{DWORD(then), DWORD(then >> 32)};
+    const HANDLE opened =
+        CreateFileW(QDir::toNativeSeparators(path).toStdWString().c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr); // The flag opens folders.
+    const bool isSet = SetFileTime(opened, nullptr, nullptr, &changed) != FALSE;
+    CloseHandle(opened);
+    return isSet;
+}
+#else
+bool MakeOld(const QString&)
+{
+    return true;
+}
+#endif
 
 int BrightnessOf(const QImage& picture)
 {
@@ -262,10 +288,11 @@ void tst_PreviewMaker::refusedSettings()
 void tst_PreviewMaker::vanishedFiles()
 {
     QFile::remove(photo);
-    QVERIFY(ReasonFor(photo, ToJpeg()).contains(QStringLiteral("No such file")));
+    const QString words = WordsForMissing(photo);
+    QVERIFY(ReasonFor(photo, ToJpeg()).contains(words));
     Settings sameFormat = ToJpeg();
     sameFormat.format = ZTBatchOutputSettings::GetOriginalFormat();
-    QVERIFY(ReasonFor(photo, sameFormat).contains(QStringLiteral("No such file")));
+    QVERIFY(ReasonFor(photo, sameFormat).contains(words));
 }
 
 void tst_PreviewMaker::endsOfWorkers_data()
@@ -329,6 +356,7 @@ void tst_PreviewMaker::foldersOfKilledProcessesAreRemoved()
 {
     const QString left = folder->FilePath(QStringLiteral("velkora-preview-aB3xYz"));
     QVERIFY(QDir().mkpath(left));
+    QVERIFY(MakeOld(left));
     maker = std::make_unique<PreviewMaker>();
     QVERIFY(!QFileInfo::exists(left));
     QVERIFY(QFileInfo(maker->Folder()).isDir());

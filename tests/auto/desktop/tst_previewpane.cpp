@@ -3,6 +3,7 @@
 
 #include "PictureFiles.h"
 #include "PrivateTempDir.h"
+#include "SystemWords.h"
 
 #include "hosts/common/ByteText.h"
 #include "hosts/desktop/job/EditedJob.h"
@@ -372,9 +373,10 @@ void tst_PreviewPane::failuresAreSaid()
     job.Change(ToJpeg(job), QString());
     PreviewPane pane(job);
     pane.show();
-    pane.SetFile(folder.FilePath(QStringLiteral("missing.jpg")));
+    const QString missing = folder.FilePath(QStringLiteral("missing.jpg"));
+    pane.SetFile(missing);
     auto* const more = pane.findChild<QLabel*>(QStringLiteral("previewMore"));
-    QTRY_VERIFY_WITH_TIMEOUT(more->text().contains(QStringLiteral("No such file")), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(more->text().contains(WordsForMissing(missing)), patience);
     pane.SetFile(QString());
     QCOMPARE(more->text(), QString());
 }

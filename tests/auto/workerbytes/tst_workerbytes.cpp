@@ -68,7 +68,7 @@ void tst_WorkerBytes::bestQualityThatFits_data()
 void tst_WorkerBytes::bestQualityThatFits()
 {
     QFETCH(QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     const QString quality = Text("quality");
     constexpr int wanted = 60;
     QCOMPARE(Make(format, {{quality, wanted}}).reason, QString());
@@ -121,7 +121,7 @@ void tst_WorkerBytes::shrinksWhereAllowed_data()
 void tst_WorkerBytes::shrinksWhereAllowed()
 {
     QFETCH(QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     QCOMPARE(Make(format, {{Text("quality"), 50}}).reason, QString());
     const qint64 limit = Size(format) / 3;
     const Report made =

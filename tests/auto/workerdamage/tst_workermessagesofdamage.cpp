@@ -148,7 +148,7 @@ void tst_WorkerMessagesOfDamage::saysWhatIsWrong()
     QFETCH(const double, at);
     QFETCH(const bool, isCut);
     QFETCH(const QString, reason);
-    SKIP_WHERE(MissingInTests(extension));
+    SKIP_WHERE(MissingEncoder(extension));
     if (at == 0.0) {
         bench->WriteBytes(NameIn(extension), QByteArray("\x89PNG\r\n\x1A\n") + QByteArray(100, '\0'));
     } else if (at == 0.0001) {

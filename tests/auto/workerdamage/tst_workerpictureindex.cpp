@@ -163,7 +163,6 @@ void tst_WorkerPictureIndex::damagedIndexesAreIgnored()
 
 void tst_WorkerPictureIndex::sizesOfJpeg2000AreNoPages()
 {
-    SKIP_WHERE(MissingInTests(Text("jp2")));
     WorkerBench bench;
     WritePicture(Chart(640, 480), bench.Path(Text("in.jp2")), "[tile-width=256,tile-height=256]");
     const Report report = bench.Make(Text("in.jp2"), Text("out.png"), Text("PNG"));

@@ -426,7 +426,6 @@ void tst_WorkerJpegXl::writesAtEveryEffort()
 {
     QFETCH(const int, effort);
     QFETCH(const bool, isLossless);
-    SKIP_WHERE(MissingInTests(Text("JPEG XL")));
 
     bench = std::make_unique<WorkerBench>();
     const Picture photo = Photo(301, 203);
@@ -496,7 +495,6 @@ void tst_WorkerJpegXl::dividesWhatDoesNotFit()
 {
     QFETCH(const int, bits);
     QFETCH(const bool, hasAlpha);
-    SKIP_WHERE(MissingInTests(Text("JPEG XL")));
     if (isSanitized) {
         QSKIP("memory has no limit under sanitizers");
     }
@@ -531,7 +529,6 @@ void tst_WorkerJpegXl::hidesTheSeams_data()
 // more than at the blocks of the encoder.
 void tst_WorkerJpegXl::hidesTheSeams()
 {
-    SKIP_WHERE(MissingInTests(Text("JPEG XL")));
     QFETCH(const bool, isSmooth);
     if (isSanitized) {
         QSKIP("memory has no limit under sanitizers");
@@ -585,7 +582,6 @@ void tst_WorkerJpegXl::refusesWhatFitsInNoWay()
 // A decoder has to be told that it needs more than usual for 16 bits without loss.
 void tst_WorkerJpegXl::keepsMetadataInContainersOfItsOwn()
 {
-    SKIP_WHERE(MissingInTests(Text("JPEG XL")));
     bench = std::make_unique<WorkerBench>();
     const Picture photo = Noise(PictureForm{3, 16, false}, 60, 40);
     WritePicture(photo, bench->Path(Text("in.tif")));

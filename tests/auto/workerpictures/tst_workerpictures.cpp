@@ -186,7 +186,7 @@ void tst_WorkerPictures::writesEveryFormat_data()
 void tst_WorkerPictures::writesEveryFormat()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
 
     const Picture chart = Chart(61, 47);
     WritePicture(chart, bench->Path(Text("in.png")), "[strip]");
@@ -211,7 +211,7 @@ void tst_WorkerPictures::readsEveryFormat_data()
 void tst_WorkerPictures::readsEveryFormat()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
 
     // Under a wrong extension: the bytes decide.
     WritePicture(Chart(61, 47), bench->Path(NameIn(format)));
@@ -237,7 +237,7 @@ void tst_WorkerPictures::turnsPicturesUpright_data()
 void tst_WorkerPictures::turnsPicturesUpright()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     QFETCH(const int, orientation);
 
     // Crop and size are those of the upright picture: the reference turns first, by plain loops over the pixels.
@@ -320,7 +320,7 @@ void tst_WorkerPictures::keepsDepth_data()
 void tst_WorkerPictures::keepsDepth()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     QFETCH(const int, wanted);
     QFETCH(const bool, isDeep);
     QFETCH(const double, tolerance);
@@ -368,7 +368,7 @@ void tst_WorkerPictures::losesNothingWithoutLoss_data()
 void tst_WorkerPictures::losesNothingWithoutLoss()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     QFETCH(const bool, isDeep);
     QFETCH(const double, tolerance);
 
@@ -402,7 +402,7 @@ void tst_WorkerPictures::keepsGrey_data()
 void tst_WorkerPictures::keepsGrey()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
 
     const Picture grey = Grey(Chart(64, 40));
     WritePicture(grey, bench->Path(Text("in.png")));
@@ -424,7 +424,7 @@ void tst_WorkerPictures::takesEveryKind_data()
 void tst_WorkerPictures::takesEveryKind()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
 
     const Picture chart = Chart(64, 40);
     const Picture grey = Grey(chart);
@@ -467,7 +467,7 @@ void tst_WorkerPictures::tellsOfFurtherPages()
     QFETCH(const QString, extension);
     QFETCH(const QByteArray, options);
     QFETCH(const QStringList, warnings);
-    SKIP_WHERE(MissingInTests(extension));
+    SKIP_WHERE(MissingEncoder(extension));
 
     const QString name = Text("in.") + extension;
     WritePicture(Chart(40, 90), bench->Path(name), '[' + options + ']');
@@ -488,7 +488,7 @@ void tst_WorkerPictures::keepsTransparency_data()
 void tst_WorkerPictures::keepsTransparency()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
 
     WritePicture(WithAlpha(Chart(60, 40)), bench->Path(Text("in.png")));
     QCOMPARE(bench->Make(Text("in.png"), NameIn(format), format, Finest(format)).reason, QString());
@@ -580,7 +580,7 @@ void tst_WorkerPictures::obeysOptions_data()
 void tst_WorkerPictures::obeysOptions()
 {
     QFETCH(const QString, format);
-    SKIP_WHERE(MissingInTests(format));
+    SKIP_WHERE(MissingEncoder(format));
     QFETCH(const QJsonObject, larger);
     QFETCH(const QJsonObject, smaller);
 

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void resultsAreThoseOfTheirOwnDecoding_data();
     void resultsAreThoseOfTheirOwnDecoding();
     void warningsComeWithEachResult();
+    void theProfileComesWithEachResult();
     void otherFilesAreDecoded_data();
     void otherFilesAreDecoded();
     void otherSizesOfCameraFilesAreDecoded();
@@ -90,7 +91,7 @@ void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding_data()
 void tst_KeptPixels::resultsAreThoseOfTheirOwnDecoding()
 {
     QFETCH(const QString, input);
-    SKIP_WHERE(MissingInTests(QFileInfo(input).suffix()));
+    SKIP_WHERE(MissingEncoder(QFileInfo(input).suffix()));
     QVector<QByteArray> alone;
     const QVector<int> sides{96, 80, 80};
     for (const int side : sides) {
@@ -128,6 +129,20 @@ void tst_KeptPixels::warningsComeWithEachResult()
     QVERIFY(second.bytes == first.bytes);
 }
 
+void tst_KeptPixels::theProfileComesWithEachResult()
+{
+    WorkerBench bench;
+    QFile file(QStringLiteral(COLOURS_DATA "/icc-and-nclx.avif"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    bench.WriteBytes(Text("in.avif"), file.readAll());
+    const Made first = Make(bench, Text("in.avif"), 96, true);
+    const Made second = Make(bench, Text("in.avif"), 96, false);
+    QVERIFY(second.report.usedKeptPixels);
+    QVERIFY(first.bytes.contains("iCCP"));
+    QCOMPARE(TextsOf(second.report.warnings), QStringList());
+    QVERIFY(second.bytes == first.bytes);
+}
+
 void tst_KeptPixels::otherFilesAreDecoded_data()
 {
     QTest::addColumn<bool>("isRenamedOver");
@@ -139,7 +154,7 @@ void tst_KeptPixels::otherFilesAreDecoded_data()
 void tst_KeptPixels::otherFilesAreDecoded()
 {
     QFETCH(const bool, isRenamedOver);
-    SKIP_WHERE(MissingInTests(Text("heic")));
+    SKIP_WHERE(MissingEncoder(Text("heic")));
     WorkerBench bench;
     WritePicture(Chart(96, 64, 8), bench.Path(Text("in.heic")));
     WritePicture(Chart(96, 64, 16), bench.Path(Text("other.heic")));
@@ -201,7 +216,7 @@ void tst_KeptPixels::damageIsReportedEachTime_data()
 void tst_KeptPixels::damageIsReportedEachTime()
 {
     QFETCH(const QString, input);
-    SKIP_WHERE(MissingInTests(QFileInfo(input).suffix()));
+    SKIP_WHERE(MissingEncoder(QFileInfo(input).suffix()));
     WorkerBench bench;
     WriteInput(bench, input);
     QByteArray bytes = bench.Bytes(input);

@@ -32,6 +32,7 @@ CliStage::CliStage(Server server)
     environment.insert(QStringLiteral("TMPDIR"), programs.path());
     environment.insert(QStringLiteral("VELKORA_BATCH_WORKERS"), QStringLiteral("2"));
 #ifdef Q_OS_WIN
+    environment.insert(QStringLiteral("TMP"), QDir::toNativeSeparators(programs.path()));
     // Windows finds libraries beside the executable or on this path.
     environment.insert(QStringLiteral("PATH"), QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) +
                                                    QLatin1Char(';') + environment.value(QStringLiteral("PATH")));

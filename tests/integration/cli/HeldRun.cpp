@@ -3,11 +3,15 @@
 
 #include "HeldRun.h"
 
+#include "EndRequest.h"
 #include "ProcessEnd.h"
 
 #include <QTest>
 
 #include <csignal>
+#ifdef Q_OS_UNIX
+#include <sys/types.h>
+#endif
 
 namespace {
 
@@ -17,13 +21,16 @@ constexpr int patience = 60'000; // ms
 
 void HeldRun::Process::setupChildProcess()
 {
+#ifdef Q_OS_UNIX
     std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 HeldRun::HeldRun(const CliStage& stage, const QString& arguments)
 {
     process.setProcessEnvironment(stage.Environment());
     process.setWorkingDirectory(stage.Folder());
+    AllowEndRequests(process);
     process.start(stage.Program(), stage.Arguments(arguments + QStringLiteral(" --workers 1 --json")));
 }
 
@@ -43,9 +50,16 @@ qint64 HeldRun::Server() const
     return ChildrenOf(process.processId()).value(0);
 }
 
+#ifdef Q_OS_UNIX
 bool HeldRun::Signal(int number) const
 {
     return ::kill(pid_t(process.processId()), number) == 0;
+}
+#endif
+
+bool HeldRun::RequestEnd() const
+{
+    return ::RequestEnd(process);
 }
 
 bool HeldRun::Kill()

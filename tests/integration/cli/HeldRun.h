@@ -22,8 +22,13 @@ public:
 
     qint64 Id() const { return process.processId(); }
 
+#ifdef Q_OS_UNIX
     /// Sends the signal `number` to the command.
     bool Signal(int number) const;
+#endif
+
+    /// Asks the command to end.
+    bool RequestEnd() const;
 
     /// Kills the command, and returns when its server has followed it.
     bool Kill();
@@ -31,7 +36,10 @@ public:
     /// Waits for the end of the run; its exit code, or -1.
     int End();
 
-    QByteArray Out() const { return out; }
+    QByteArray Out() const
+    {
+        return out;
+    }
     QByteArray Err();
 
 private:

@@ -3,6 +3,8 @@
 
 #include "PhotoStage.h"
 
+#include "ExifTool.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -10,31 +12,10 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
-#include <QStandardPaths>
-
-#include <optional>
 
 namespace {
 
 const QString photo = QStringLiteral("/usr/share/backgrounds/mate/nature/Dune.jpg");
-
-QString ExifTool()
-{
-    return QStandardPaths::findExecutable(QStringLiteral("exiftool"));
-}
-
-/// Standard output; nothing when it fails.
-std::optional<QByteArray> OutputOf(const QStringList& arguments)
-{
-    constexpr int longest = 60'000; // ms
-    QProcess process;
-    process.start(ExifTool(), arguments);
-    process.closeWriteChannel();
-    process.waitForFinished(longest);
-    const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    return isDone ? std::optional(process.readAllStandardOutput()) : std::nullopt;
-}
 
 bool PlantInto(const QString& path, const QStringList& assignments)
 {
@@ -43,7 +24,7 @@ bool PlantInto(const QString& path, const QStringList& assignments)
     for (const QString& assignment : assignments) {
         arguments.append(QLatin1Char('-') + assignment);
     }
-    return OutputOf(arguments + QStringList{path}).has_value();
+    return ExifTool::Run(arguments, path).has_value();
 }
 
 void MakeFolder(const QString& path)
@@ -58,7 +39,7 @@ PhotoStage::PhotoStage() = default;
 
 bool PhotoStage::HasExifTool()
 {
-    return !ExifTool().isEmpty();
+    return ExifTool::IsThere();
 }
 
 bool PhotoStage::Plant(const QString& name, const QStringList& assignments) const
@@ -84,8 +65,9 @@ CliRun PhotoStage::Run(const QStringList& arguments) const
 
 QJsonObject PhotoStage::Found(const QString& name) const
 {
-    const QByteArray json = OutputOf({QStringLiteral("-j"), QStringLiteral("-G1"), QStringLiteral("-a"), Path(name)})
-                                .value_or(QByteArray());
+    const QByteArray json =
+        ExifTool::Run({QStringLiteral("-j"), QStringLiteral("-G1"), QStringLiteral("-a")}, Path(name))
+            .value_or(QByteArray());
     return QJsonDocument::fromJson(json).array().at(0).toObject();
 }
 

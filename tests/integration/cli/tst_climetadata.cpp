@@ -39,8 +39,12 @@ struct Format
     bool holdsIptc;
 };
 
-constexpr Format formats[] = {{"jpg", true},   {"png", false},  {"tif", true},  {"webp", false},
-                              {"heic", false}, {"avif", false}, {"jxl", false}, {"jp2", true}};
+constexpr Format formats[] = {
+    {"jpg", true},   {"png", false}, {"tif", true}, {"webp", false}, {"avif", false}, {"jxl", false},
+#ifdef Q_OS_UNIX // On Windows they have no encoder.
+    {"heic", false}, {"jp2", true},
+#endif
+};
 
 const QString effect = QStringLiteral("--effect");
 

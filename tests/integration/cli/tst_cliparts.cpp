@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The batchcore developers
 // SPDX-License-Identifier: MIT
 
+#include "Links.h"
 #include "PartStage.h"
 #include "PictureFiles.h"
 
@@ -90,6 +91,9 @@ void tst_CliParts::likeOneRun()
 /// All parts at once, each twice.
 void tst_CliParts::atOnce()
 {
+#ifdef Q_OS_WIN
+    QSKIP("There is one pipe, so one run at a time.");
+#endif
     const Files one = OneRun();
     QCOMPARE(Split().exitCode, 0);
     QCOMPARE(RunAllTwice(), QByteArray());
@@ -361,7 +365,9 @@ void tst_CliParts::namesThatAreTaken()
     if (by == QLatin1String("folder")) {
         QVERIFY(QDir().mkdir(place));
     } else if (by == QLatin1String("link") || by == QLatin1String("dangling")) {
-        QVERIFY(QFile::link(by == QLatin1String("link") ? Path(QStringLiteral("one/1.jpg")) : by, place));
+        if (!MakeLink(by == QLatin1String("link") ? Path(QStringLiteral("one/1.jpg")) : by, place)) {
+            QSKIP("This system makes no links.");
+        }
     } else {
         Write(QStringLiteral("out/1.jpg"), planted);
     }

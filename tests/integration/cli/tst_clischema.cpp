@@ -225,7 +225,7 @@ void tst_CliSchema::watchedFoldersFit()
 {
     HeldRun run(*stage, QStringLiteral("watch photos -o watched --format png --settle 0"));
     QVERIFY(run.WaitFor("\"event\":\"end\""));
-    QVERIFY(run.Signal(SIGTERM));
+    QVERIFY(run.RequestEnd());
     QCOMPARE(run.End(), 0);
     Check(run.Out());
 }

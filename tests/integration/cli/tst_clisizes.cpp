@@ -95,6 +95,7 @@ void tst_CliSizes::plannedSizesAreThoseOfResults_data()
 void tst_CliSizes::plannedSizesAreThoseOfResults()
 {
     QFETCH(QString, options);
+    SKIP_WHERE(MissingEncoder(options.section(QLatin1Char(' '), 1, 1)));
     const QTemporaryDir out;
     const QString arguments = QStringLiteral(" photos --json -q -o %1 ").arg(out.path()) + options;
     const CliRun plan = stage->Run(QStringLiteral("plan") + arguments);

@@ -33,7 +33,7 @@ function(check_presets prefix)
     get_filename_component(libraries "${library}" DIRECTORY)
     execute_process(
         COMMAND ${CMAKE_COMMAND} -E env "LD_LIBRARY_PATH=${libraries}"
-            "${prefix}/bin/velkora-batch" presets --settings "${prefix}/none" --json
+            "${prefix}/${PROGRAM_FOLDER}/velkora-batch" presets --settings "${prefix}/none" --json
         OUTPUT_VARIABLE presets COMMAND_ERROR_IS_FATAL ANY)
     if(NOT presets MATCHES "\"${prefix}/share/velkora-batch/presets/web.xml\"")
         message(FATAL_ERROR "The presets are: ${presets}")
@@ -63,7 +63,7 @@ set(options
 if(TOOLCHAIN_FILE)
     list(APPEND options -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN_FILE} -D BATCHCORE_QT_MINGW=${QT_MINGW})
     # The folder of its libraries, as a native path.
-    string(REPLACE "/" "\\" libraries "Z:${WORK_DIR}/installed/bin;Z:${WORK_DIR}/build/batchcore/bin")
+    string(REPLACE "/" "\\" libraries "Z:${WORK_DIR}/installed/${PROGRAM_FOLDER};Z:${WORK_DIR}/build/batchcore/bin")
     set(ENV{WINEPATH} "${libraries}")
 else()
     list(APPEND options -D CMAKE_CXX_COMPILER=${CXX_COMPILER})
@@ -73,10 +73,10 @@ if(WAY STREQUAL "package")
     list(APPEND options -D CMAKE_PREFIX_PATH=${WORK_DIR}/installed)
     if(TOOLCHAIN_FILE)
         list(APPEND options -D batchcore_DIR=${WORK_DIR}/installed/lib/cmake/batchcore)
-        check_dll_exports("${WORK_DIR}/installed/bin/batchcore.dll" "13ZTPipeSession4Send")
-        check_dll_exports("${WORK_DIR}/installed/bin/velkoracore.dll" "14ZVFileBookmark")
-        check_dll_exports("${WORK_DIR}/installed/bin/velkorastylecore.dll" "7ZTStyle12AppendEffect")
-        check_dll_exports("${WORK_DIR}/installed/bin/velkorautils.dll" "13ZTIDContainer12UnregisterID")
+        check_dll_exports("${WORK_DIR}/installed/${PROGRAM_FOLDER}/batchcore.dll" "13ZTPipeSession4Send")
+        check_dll_exports("${WORK_DIR}/installed/${PROGRAM_FOLDER}/velkoracore.dll" "14ZVFileBookmark")
+        check_dll_exports("${WORK_DIR}/installed/${PROGRAM_FOLDER}/velkorastylecore.dll" "7ZTStyle12AppendEffect")
+        check_dll_exports("${WORK_DIR}/installed/${PROGRAM_FOLDER}/velkorautils.dll" "13ZTIDContainer12UnregisterID")
     else()
         check_exports("${WORK_DIR}/installed")
         check_presets("${WORK_DIR}/installed")

@@ -126,7 +126,7 @@ void tst_WindowResume::aKilledRunIsResumed()
     QTRY_VERIFY_WITH_TIMEOUT(stage->IsVisible("resumeBar"), WindowStage::patience);
     const QString text = stage->Text("resumeText");
     QVERIFY2(text.contains(QStringLiteral("of %1 pictures").arg(photos)), qPrintable(text));
-    QVERIFY2(text.contains(stage->Path(QStringLiteral("out"))), qPrintable(text));
+    QVERIFY2(text.contains(QDir::toNativeSeparators(stage->Path(QStringLiteral("out")))), qPrintable(text));
     stage->Click("resumeInterrupted");
     QVERIFY(stage->WaitForEnd());
     QVERIFY(!stage->IsVisible("resumeBar"));

@@ -58,6 +58,9 @@ void tst_WindowTrouble::unreadableFoldersAreNamed()
 // Another file in the place of the folder: it cannot be made again.
 void tst_WindowTrouble::aVanishedDiskIsAskedAbout()
 {
+#ifdef Q_OS_WIN
+    QSKIP("A folder with an open file, such as the journal, cannot be removed there.");
+#endif
     stage->MakePhotos(30);
     QVERIFY(stage->Add(30));
     stage->SetOutput(true);
