@@ -75,7 +75,8 @@ void tst_UnfinishedResults::sweepsStaleFilesOnly()
     QVERIFY(QFile::exists(inWork.FileName()));
     QVERIFY(QFile::exists(folder.filePath(Text("photo.jpg"))));
     QCOMPARE(
-        QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System).size(), left);
+        QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System).size(),
+        left);
     QCOMPARE(TemporaryFile::Sweep(folder.filePath(Text("no such folder"))).removed, 0);
 }
 

@@ -23,14 +23,15 @@ void tst_KilledWorkers::secondWorkerIsKilled()
     AccidentStage stage;
     constexpr int pictures = 4;
     for (int i = 0; i < pictures; ++i) {
-        PictureFiles::WriteJpeg(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), i, 2400, 1600);
+        PictureFiles::WriteNoise(stage.Path(QStringLiteral("in/%1.jpg").arg(i)), 1600, 1200);
     }
     stage.Start({QStringLiteral("run"), stage.Path(QStringLiteral("in")), QStringLiteral("-o"),
                  stage.Path(QStringLiteral("out")), QStringLiteral("--format=png"),
-                 QStringLiteral("--format-option=compressionLevel=9"), QStringLiteral("--effect=blur:sigma=3"),
-                 QStringLiteral("--workers=2"), QStringLiteral("--on-processing-error=skip")});
+                 QStringLiteral("--effect=blur:sigma=3"), QStringLiteral("--workers=2"),
+                 QStringLiteral("--on-processing-error=skip")});
     const auto unfinished = [&] { return stage.Names(QStringLiteral("out")).filter(QStringLiteral(".tmp")).size(); };
-    QVERIFY(QTest::qWaitFor([&] { return unfinished() == 2; }, 60'000));
+    QVERIFY2(QTest::qWaitFor([&] { return unfinished() == 2; }, 60'000),
+             qPrintable(stage.Names(QStringLiteral("out")).join(QLatin1Char(' '))));
     const QList<qint64> workers = stage.Workers();
     QCOMPARE(workers.size(), 2);
     KillProcess(workers.at(1));
