@@ -16,8 +16,8 @@ struct MitigationPolicy
 };
 
 /// What making pictures does not need once all libraries are loaded: no machine code but that of the libraries, no
-/// further library but the system's own, none from another machine, no process, no hooks of other programs, no fonts for
-/// the system to draw with.
+/// further library but the system's own, none from another machine, no process, no hooks of other programs, no fonts
+/// for the system to draw with.
 constexpr std::array<MitigationPolicy, 6> givenUpPolicies{{
     {ProcessDynamicCodePolicy, 1},           // ProhibitDynamicCode
     {ProcessSignaturePolicy, 1},             // MicrosoftSignedOnly
