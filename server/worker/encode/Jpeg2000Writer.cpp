@@ -56,7 +56,7 @@ void CheckMemory(const Picture& picture)
     constexpr qint64 ofPipeline = qint64(64) << 20;
     const qint64 bands = picture.bands();
     const qint64 tiles = qint64(TilesAlong(picture.width())) * TilesAlong(picture.height());
-    const qint64 strip = qint64(VIPS_IMAGE_SIZEOF_LINE(picture.get_image())) * tileSide;
+    const qint64 strip = qint64(VIPS_IMAGE_SIZEOF_LINE(picture.get_image())) * std::min(tileSide, picture.height());
     const qint64 needed = strip + qint64(tileSide) * tileSide * bands * bytesOfSample +
                           tiles * (bytesOfTile + bytesOfTileChannel * bands);
     if (needed > FreeMemory() - ofPipeline) {

@@ -3,6 +3,7 @@
 
 #include "Jpeg2000Maker.h"
 #include "Jpeg2000Patterns.h"
+#include "Sanitizers.h"
 #include "Text.h"
 #include "WorkerBench.h"
 
@@ -108,6 +109,7 @@ private Q_SLOTS:
     void survivesDamage();
     void writesSubsampledColoursOfEverySize_data();
     void writesSubsampledColoursOfEverySize();
+    void refusesToWriteWithoutMemory();
 
 private:
     std::unique_ptr<WorkerBench> bench;
@@ -648,6 +650,32 @@ void tst_WorkerJpeg2000::writesSubsampledColoursOfEverySize()
     QCOMPARE(QProcess::execute(program, {bench->Path(Text("out.jp2")), bench->Path(Text("other.png"))}), 0);
     const double other = Difference(ReadPicture(bench->Path(Text("other.png"))), size, 3, pixel);
     QVERIFY2(other <= 16.0, qPrintable(QString::number(other)));
+}
+
+/// 512 lines take 300 MB.
+void tst_WorkerJpeg2000::refusesToWriteWithoutMemory()
+{
+    if (isSanitized) {
+        QSKIP("memory has no limit under sanitizers");
+    }
+#ifdef Q_OS_WIN
+    QSKIP("Wine does not enforce the limit.");
+#endif
+    const Picture wide = Picture::black(200'000, 512, Picture::option()->set("bands", 3))
+                             .copy(Picture::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+    const auto madeWithin = [this, &wide](qint64 mebibytes) {
+        Job job = JobOf(Text("JPEG 2000"));
+        job.limits.workerMemory = mebibytes << 20;
+        bench = std::make_unique<WorkerBench>();
+        WritePicture(wide, bench->Path(Text("in.png")));
+        return bench->Make(Text("in.png"), Text("out.jp2"), Text("JPEG 2000"), job);
+    };
+    const Report refused = madeWithin(256);
+    QCOMPARE(refused.failure, PolicyKind::Input);
+    QCOMPARE(refused.errorCode, qint32(ZTBatchMessage::ImageTooLarge));
+    QCOMPARE(refused.reason, Text("writing 200000 x 512 pixels as JPEG 2000 needs more memory than a worker may use"));
+    QCOMPARE(bench->Names(), QStringList(Text("in.png")));
+    QCOMPARE(madeWithin(512).reason, QString());
 }
 
 QTEST_GUILESS_MAIN(tst_WorkerJpeg2000)
