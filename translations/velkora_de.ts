@@ -5958,5 +5958,9 @@
         <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
         <translation>„%1“ kann nicht ersetzt werden: Die Datei ist schreibgeschützt</translation>
     </message>
+    <message>
+        <source>this installation has no encoder for %1 with the compression %2</source>
+        <translation>diese Installation hat keinen Encoder für %1 mit der Komprimierung %2</translation>
+    </message>
 </context>
 </TS>

@@ -5958,5 +5958,9 @@
         <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
         <translation>no se puede reemplazar «%1»: es de solo lectura</translation>
     </message>
+    <message>
+        <source>this installation has no encoder for %1 with the compression %2</source>
+        <translation>esta instalación no tiene codificador de %1 con la compresión %2</translation>
+    </message>
 </context>
 </TS>

@@ -5958,5 +5958,9 @@
         <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
         <translation>impossible de remplacer «&#xa0;%1&#xa0;»&#xa0;: il est en lecture seule</translation>
     </message>
+    <message>
+        <source>this installation has no encoder for %1 with the compression %2</source>
+        <translation>cette installation n’a pas d’encodeur %1 avec la compression %2</translation>
+    </message>
 </context>
 </TS>

@@ -5958,5 +5958,9 @@
         <source>&quot;%1&quot; cannot be replaced: it is read-only</source>
         <translation>「%1」を置き換えられません: 読み取り専用です</translation>
     </message>
+    <message>
+        <source>this installation has no encoder for %1 with the compression %2</source>
+        <translation>この環境には、圧縮方式 %2 の %1 のエンコーダーがありません</translation>
+    </message>
 </context>
 </TS>

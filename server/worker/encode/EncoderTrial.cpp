@@ -11,7 +11,6 @@
 #include "server/worker/pixels/PixelForms.h"
 
 #include <QHash>
-#include <QPair>
 
 using namespace BatchJob;
 
@@ -42,11 +41,32 @@ bool TryToWrite(const FormatSchema& format, const QJsonObject& options, bool isD
     }
 }
 
-bool CanWriteDepth(const FormatSchema& format, int bits)
+/// What an installation may lack an encoder for; other options it takes or refuses by their values.
+struct Demand
+{
+    QString format;
+    int bits = 0;
+    QString compression; ///< empty where the format has no choice
+
+    bool operator==(const Demand& other) const
+    {
+        return format == other.format && bits == other.bits && compression == other.compression;
+    }
+};
+
+uint qHash(const Demand& demand, uint seed)
+{
+    return qHash(demand.format, seed) ^ qHash(demand.compression, ~seed) ^ uint(demand.bits);
+}
+
+bool CanMeet(const Demand& demand, const FormatSchema& format)
 {
     const auto allows = EncoderOf(format).canWriteDepth;
-    return (!allows || allows(bits)) &&
-           TryToWrite(format, OptionsFor(format, {{QStringLiteral("bitDepth"), bits}}), bits > 8);
+    QJsonObject options{{QStringLiteral("bitDepth"), demand.bits}};
+    if (!demand.compression.isEmpty()) {
+        options.insert(QStringLiteral("compression"), demand.compression);
+    }
+    return (!allows || allows(demand.bits)) && TryToWrite(format, OptionsFor(format, options), demand.bits > 8);
 }
 
 } // namespace
@@ -55,14 +75,10 @@ bool CanWrite(const FormatSchema& format, const QJsonObject& options, bool isDee
 {
     const bool isPlain = ResultDepth(format, options, isDeep) == 8;
     const int bits = isPlain ? 8 : options[QLatin1String("bitDepth")].toInt(format.bitDepths.last());
-    static QHash<QPair<QString, int>, bool> answers;
-    const auto known = answers.constFind({format.name, bits});
-    if (known != answers.constEnd()) {
-        return *known;
-    }
-    const bool answer = CanWriteDepth(format, bits);
-    answers.insert({format.name, bits}, answer);
-    return answer;
+    const Demand demand{format.name, bits, options[QLatin1String("compression")].toString()};
+    static QHash<Demand, bool> answers;
+    const auto known = answers.constFind(demand);
+    return known != answers.constEnd() ? *known : *answers.insert(demand, CanMeet(demand, format));
 }
 
 } // namespace BatchWorker

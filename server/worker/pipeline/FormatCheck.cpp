@@ -14,6 +14,21 @@
 
 namespace BatchWorker {
 
+namespace {
+
+QString NoEncoder(const BatchJob::FormatSchema& format, const QJsonObject& options)
+{
+    const QString compression = options[QLatin1String("compression")].toString();
+    if (compression.isEmpty()) {
+        return BatchJob::Phrase::English("this installation has no encoder for %1, or not for this depth")
+            .arg(format.name);
+    }
+    return BatchJob::Phrase::English("this installation has no encoder for %1 with the compression %2")
+        .arg(format.name, compression);
+}
+
+} // namespace
+
 void RequireFormatHolds(const BatchJob::FormatSchema& format, const QJsonObject& options, const Picture& picture,
                         const QString& inputFormat)
 {
@@ -22,10 +37,7 @@ void RequireFormatHolds(const BatchJob::FormatSchema& format, const QJsonObject&
     const QString nearest =
         BatchJob::NearestFormat(inputFormat, {isDeep, picture.has_alpha(), IsCmyk(picture), size}).name;
     if (!CanWrite(format, options, isDeep)) {
-        throw FormatCannotHold(
-            BatchJob::Phrase::English("this installation has no encoder for %1, or not for this depth")
-                .arg(format.name),
-            nearest);
+        throw FormatCannotHold(NoEncoder(format, options), nearest);
     }
     if (IsCmyk(picture) && !format.holdsCmyk) {
         throw FormatCannotHold(

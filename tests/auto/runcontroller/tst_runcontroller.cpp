@@ -110,6 +110,9 @@ bool tst_RunController::WaitForEvents(const QString& event, int count)
 // Nobody waits for a second attempt: a host that starts its own server is connected from the start.
 void tst_RunController::connectsBeforeTheServerListens()
 {
+#ifdef Q_OS_WIN
+    QSKIP("A named pipe cannot be handed over: the server makes it.");
+#endif
     QSignalSpy connected(ZTBatchManager::Instance(), &ZTBatchManager::ConnectionEstablished);
     Begin({QStringLiteral("start: hang")});
     QTRY_COMPARE(connected.size(), 1);
