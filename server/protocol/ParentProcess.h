@@ -3,11 +3,17 @@
 
 #pragma once
 
+#include <QString>
+
 #include <qt_windows.h>
 
 namespace BatchProtocol {
 
 /// The process that started the process `id`, opened so that its end can be waited for; null when it has ended.
 HANDLE OpenParentOf(DWORD id);
+
+/// A process of this user's that runs a program with the file name `program` and whose parent has ended, opened so that
+/// its end can be waited for; null if there is none.
+HANDLE OpenOrphan(const QString& program);
 
 } // namespace BatchProtocol

@@ -5,24 +5,34 @@
 
 #include <tlhelp32.h>
 
+#include <vector>
+
 namespace BatchProtocol {
 
 namespace {
 
-DWORD ParentIdOf(DWORD id)
+/// All processes of the system.
+std::vector<PROCESSENTRY32W> Processes()
 {
-    const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
     PROCESSENTRY32W entry{};
     entry.dwSize = sizeof(entry);
-    DWORD parent = 0;
-    for (BOOL found = Process32FirstW(processes, &entry); found; found = Process32NextW(processes, &entry)) {
-        if (entry.th32ProcessID == id) {
-            parent = entry.th32ParentProcessID;
-            break;
+    std::vector<PROCESSENTRY32W> processes;
+    for (BOOL found = Process32FirstW(snapshot, &entry); found; found = Process32NextW(snapshot, &entry)) {
+        processes.push_back(entry);
+    }
+    CloseHandle(snapshot);
+    return processes;
+}
+
+DWORD ParentIdOf(DWORD id)
+{
+    for (const PROCESSENTRY32W& process : Processes()) {
+        if (process.th32ProcessID == id) {
+            return process.th32ParentProcessID;
         }
     }
-    CloseHandle(processes);
-    return parent;
+    return 0;
 }
 
 /// In units of 100 ns; 0 when it cannot be determined.
@@ -36,22 +46,44 @@ ULONGLONG StartOf(HANDLE process)
     return ULONGLONG(start.dwHighDateTime) << 32 | start.dwLowDateTime;
 }
 
-} // namespace
-
-HANDLE OpenParentOf(DWORD id)
+/// The process `parentId` if it has started the process `id` and lives, opened so that its end can be waited for.
+HANDLE OpenParent(DWORD id, DWORD parentId)
 {
     constexpr DWORD rights = SYNCHRONIZE | PROCESS_QUERY_LIMITED_INFORMATION;
-    const DWORD parentId = ParentIdOf(id);
     const HANDLE parent = parentId == 0 ? nullptr : OpenProcess(rights, FALSE, parentId);
     const HANDLE child = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
     // The number of a process that has ended may be that of a younger one.
     const bool isParent =
         parent && child && StartOf(parent) <= StartOf(child) && WaitForSingleObject(parent, 0) == WAIT_TIMEOUT;
-    CloseHandle(child);
+    if (child) {
+        CloseHandle(child);
+    }
     if (parent && !isParent) {
         CloseHandle(parent);
     }
     return isParent ? parent : nullptr;
+}
+
+} // namespace
+
+HANDLE OpenParentOf(DWORD id)
+{
+    return OpenParent(id, ParentIdOf(id));
+}
+
+HANDLE OpenOrphan(const QString& program)
+{
+    for (const PROCESSENTRY32W& process : Processes()) {
+        if (program.compare(QString::fromWCharArray(process.szExeFile), Qt::CaseInsensitive) != 0) {
+            continue;
+        }
+        if (const HANDLE parent = OpenParent(process.th32ProcessID, process.th32ParentProcessID)) {
+            CloseHandle(parent);
+        } else if (const HANDLE orphan = OpenProcess(SYNCHRONIZE, FALSE, process.th32ProcessID)) {
+            return orphan;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace BatchProtocol

@@ -42,6 +42,14 @@ struct ServerLimits
                                      ///< only for the supervisor
 
     static ServerLimits FromEnvironment();
+
+    /// The largest file that a worker may write, in bytes: four channels in floating point, in a temporary file.
+    qint64 LargestFile() const
+    {
+        constexpr qint64 bytesOfPixel = 16;
+        constexpr qint64 metadata = qint64(64) << 20;
+        return pixels * bytesOfPixel + metadata;
+    }
 };
 
 } // namespace BatchProtocol

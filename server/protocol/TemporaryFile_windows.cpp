@@ -76,7 +76,7 @@ bool IsOpen(const QString& path)
 /// viruses.
 DWORD RenamePatiently(HANDLE file, const QString& to, bool replaceExisting)
 {
-    constexpr int attempts = 11;
+    constexpr int attempts = 31;
     constexpr unsigned long pause = 100; // ms
     for (int attempt = 1;; ++attempt) {
         const DWORD problem = Rename(file, to, replaceExisting);

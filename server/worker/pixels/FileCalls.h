@@ -31,6 +31,10 @@ qint64 SizeOfFile(int descriptor);
 /// limit to one call; 0 at the end. Negative, with errno, when that fails.
 qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place);
 
+/// From now on WriteSome() fails with EFBIG before a file would be larger than `bytes`. On Unix the system sees to
+/// that, however a file is written.
+void LimitFileSize(qint64 bytes);
+
 /// Writes up to `length` bytes where the file stands, and returns how many. Negative, with errno, when that fails.
 qint64 WriteSome(int descriptor, const void* bytes, qint64 length);
 

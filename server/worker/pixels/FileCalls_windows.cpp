@@ -7,10 +7,12 @@
 #include "job/values/NativePath_windows.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <io.h>
+#include <limits>
 #include <memory>
 #include <qt_windows.h>
 
@@ -19,6 +21,8 @@ namespace BatchWorker {
 namespace {
 
 constexpr qint64 mostAtOnce = 1 << 30; // bytes of one call
+
+std::atomic<qint64> largestFile{std::numeric_limits<qint64>::max()};
 
 HANDLE HandleOf(int descriptor)
 {
@@ -206,8 +210,17 @@ qint64 ReadAt(int descriptor, void* target, qint64 length, qint64 place)
     return -1;
 }
 
+void LimitFileSize(qint64 bytes)
+{
+    largestFile = bytes;
+}
+
 qint64 WriteSome(int descriptor, const void* bytes, qint64 length)
 {
+    if (MoveTo(descriptor, 0, SEEK_CUR) > largestFile - length) {
+        errno = EFBIG;
+        return -1;
+    }
     DWORD count = 0;
     const auto size = DWORD(std::clamp<qint64>(length, 0, mostAtOnce));
     if (!WriteFile(HandleOf(descriptor), bytes, size, &count, nullptr)) {

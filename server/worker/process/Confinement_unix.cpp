@@ -50,10 +50,7 @@ void Bound(__rlimit_resource resource, qint64 value)
 
 void BoundResources(const ServerLimits& limits)
 {
-    // The largest file: four channels in floating point, in a temporary file.
-    constexpr qint64 bytesOfPixel = 16;
-    constexpr qint64 metadata = qint64(64) << 20;
-    Bound(RLIMIT_FSIZE, limits.pixels * bytesOfPixel + metadata);
+    Bound(RLIMIT_FSIZE, limits.LargestFile());
     // Sanitizers reserve more address space than any limit.
     if (!isSanitized) {
         Bound(RLIMIT_DATA, limits.workerMemory);

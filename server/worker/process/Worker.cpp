@@ -9,6 +9,7 @@
 #include "ImagingLibrary.h"
 
 #include "server/worker/pipeline/PictureMaker.h"
+#include "server/worker/pixels/FileCalls.h"
 #include "server/worker/pixels/PictureFailure.h"
 
 #include "ZTBatchDocument.h"
@@ -155,6 +156,7 @@ bool Worker::Accept(const Job& job)
     settings.reset();
     isConfined = isConfined || confinement.Confine(job.rights, limits);
     if (isConfined) {
+        LimitFileSize(limits.LargestFile());
         jobProblem = Guarded([this, &job] { return Read(job); });
     }
     return isConfined;

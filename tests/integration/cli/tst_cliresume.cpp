@@ -131,6 +131,20 @@ void tst_CliResume::killedAtAnyMoment_data()
                                      << 5U;
 }
 
+namespace {
+
+/// There is the file that was there before, and maybe the lock of a journal that was not written any more.
+bool HasNotBegun(const Files& files)
+{
+    QStringList names = files.keys();
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [](const QString& name) { return name.endsWith(QStringLiteral(".journal.lock")); }),
+                names.end());
+    return names == QStringList(QStringLiteral("2.jpg"));
+}
+
+} // namespace
+
 // The two parts of a run together write what an undisturbed run writes, byte for byte. Runs spend most of their time
 // waiting, so several run at a time, each in a folder of its own.
 void tst_CliResume::killedAtAnyMoment()
@@ -189,8 +203,7 @@ void tst_CliResume::killedAtAnyMoment()
             const QByteArray err = run.readAllStandardError();
             const bool hadNothingToDo = run.exitCode() == 7;
             QVERIFY2(!hadNothingToDo || err.contains("there is no interrupted run"), err.constData());
-            if (hadNothingToDo && wasKilled[std::size_t(lane)] && files.size() == 1) {
-                QCOMPARE(files.firstKey(), QStringLiteral("2.jpg")); // The run had not begun.
+            if (hadNothingToDo && wasKilled[std::size_t(lane)] && HasNotBegun(files)) {
                 continue;
             }
             resumed += hadNothingToDo ? 0 : 1;
