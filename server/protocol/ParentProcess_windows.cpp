@@ -35,7 +35,13 @@ DWORD ParentIdOf(DWORD id)
     return 0;
 }
 
-/// In units of 100 ns; 0 when it cannot be determined.
+/// In units of 100 ns.
+ULONGLONG Number(const FILETIME& time)
+{
+    return ULONGLONG(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+}
+
+/// 0 when it cannot be determined.
 ULONGLONG StartOf(HANDLE process)
 {
     FILETIME start{};
@@ -43,7 +49,7 @@ ULONGLONG StartOf(HANDLE process)
     if (!GetProcessTimes(process, &start, &unused, &unused, &unused)) {
         return 0;
     }
-    return ULONGLONG(start.dwHighDateTime) << 32 | start.dwLowDateTime;
+    return Number(start);
 }
 
 /// The process `parentId` if it has started the process `id` and lives, opened so that its end can be waited for.
@@ -71,16 +77,27 @@ HANDLE OpenParentOf(DWORD id)
     return OpenParent(id, ParentIdOf(id));
 }
 
-HANDLE OpenOrphan(const QString& program)
+HANDLE OpenYoungOrphan(const QString& program, int age)
 {
+    constexpr ULONGLONG unitsOfMillisecond = 10'000;
+    FILETIME now{};
+    GetSystemTimeAsFileTime(&now);
+    const ULONGLONG earliest = Number(now) - ULONGLONG(age) * unitsOfMillisecond;
     for (const PROCESSENTRY32W& process : Processes()) {
         if (program.compare(QString::fromWCharArray(process.szExeFile), Qt::CaseInsensitive) != 0) {
             continue;
         }
         if (const HANDLE parent = OpenParent(process.th32ProcessID, process.th32ParentProcessID)) {
             CloseHandle(parent);
-        } else if (const HANDLE orphan = OpenProcess(SYNCHRONIZE, FALSE, process.th32ProcessID)) {
+            continue;
+        }
+        constexpr DWORD rights = SYNCHRONIZE | PROCESS_QUERY_LIMITED_INFORMATION;
+        const HANDLE orphan = OpenProcess(rights, FALSE, process.th32ProcessID);
+        if (orphan && StartOf(orphan) > earliest) {
             return orphan;
+        }
+        if (orphan) {
+            CloseHandle(orphan);
         }
     }
     return nullptr;
