@@ -99,6 +99,21 @@ private:
         PictureFiles::WriteJpeg(Path(folder + QStringLiteral("/2.jpg")), 99);
     }
 
+    /// Both folders have results of the same names in one output folder.
+    void MakePictures(int width, int height) const
+    {
+        for (int i = 1; i <= 6; ++i) {
+            PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, width, height);
+            PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, width, height);
+        }
+    }
+
+    /// For runs that have to be there still when something happens to them.
+    void MakeLargePictures() const
+    {
+        MakePictures(2500, 2000);
+    }
+
     std::unique_ptr<QTemporaryDir> root;
     QProcessEnvironment environment;
 };
@@ -109,11 +124,7 @@ void tst_CliResume::init()
     environment = QProcessEnvironment::systemEnvironment();
     QVERIFY(QDir(root->path()).mkpath(QStringLiteral("tmp")));
     environment.insert(QStringLiteral("TMPDIR"), Path(QStringLiteral("tmp")));
-    // Both folders have results of the same names in one output folder.
-    for (int i = 1; i <= 6; ++i) {
-        PictureFiles::WriteJpeg(Path(QStringLiteral("a/%1.jpg").arg(i)), i, 500, 400);
-        PictureFiles::WriteJpeg(Path(QStringLiteral("b/%1.jpg").arg(i)), 10 + i, 500, 400);
-    }
+    MakePictures(500, 400);
 }
 
 void tst_CliResume::killedAtAnyMoment_data()
@@ -220,6 +231,7 @@ void tst_CliResume::killedAtAnyMoment()
 
 void tst_CliResume::killedServer()
 {
+    MakeLargePictures();
     const QString arguments =
         QStringLiteral("run a b -o out --effect blur:sigma=4 --on-name-exists rename --workers 1");
     MakeOutput();
@@ -265,6 +277,7 @@ void tst_CliResume::killedBeforeItsServerIsReached()
 
 void tst_CliResume::interruptKeepsTheRun()
 {
+    MakeLargePictures();
     QProcess process;
     Start(process, QStringLiteral("run a b -o out --structure input --effect blur:sigma=4 --workers 1 --json"));
     QByteArray out;
