@@ -111,7 +111,7 @@ private:
     /// For runs that have to be there still when something happens to them.
     void MakeLargePictures() const
     {
-        MakePictures(2500, 2000);
+        MakePictures(1200, 1000);
     }
 
     std::unique_ptr<QTemporaryDir> root;
